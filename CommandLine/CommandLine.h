@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QStringList>
+
+#include <functional>
+#include <map>
+
+/// The subcommands of the program. Each lives in a file of its own and registers itself here by name.
+namespace CommandLine {
+
+/// Exit statuses of every subcommand.
+enum Status { Done = 0, Failed = 1, WrongUsage = 2 };
+
+/// Runs one subcommand under a QCoreApplication; @p arguments come without the program's and the command's name.
+using Run = int (*)(const QStringList& arguments);
+
+struct Command {
+    Run run;
+    const char* usage;   ///< one or more lines, without "usage:"
+    const char* summary; ///< one line
+};
+
+/// All subcommands by name.
+[[nodiscard]] const std::map<QString, Command>& commands();
+
+/// "sonaphex: what went wrong: why" on standard error. @return Failed
+int fail(const QString& what);
+/// The same, with the command's usage. @return WrongUsage
+int wrongUsage(const QString& command, const QString& what);
+/// One line (or a JSON document) on standard output, flushed.
+void print(const QString& line);
+
+} // namespace CommandLine

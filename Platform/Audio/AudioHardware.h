@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Audio/AudioTypes.h"
+#include "Platform/Audio/InputUnit.h"
+
+#include <memory>
+#include <vector>
+
+#include <QObject>
+#include <QString>
+
+namespace Platform {
+
+/// The audio devices of the machine as an object model: numbered devices with properties. Main thread; the answers come
+/// from a picture that the sound server keeps up to date, so no call waits long.
+class AudioHardware : public QObject {
+    Q_OBJECT
+public:
+    enum class Scope { Global, Input, Output };
+
+    ~AudioHardware() override = default;
+
+    /// All devices in the system's order (the order of their first appearance).
+    [[nodiscard]] virtual std::vector<AudioObjectID> devices() = 0;
+    virtual OSStatus getDeviceName(AudioObjectID device, QString& name) = 0;
+    /// "<node name>:<8 hex digits>"
+    virtual OSStatus getDeviceUID(AudioObjectID device, QString& uid) = 0;
+    /// Byte size of the device's list of streams on one side: 4 for each capture port that is no monitor (input) or
+    /// each playback port (output). On failure @p size stays as it was.
+    virtual OSStatus getStreamsDataSize(AudioObjectID device, Scope scope, std::uint32_t& size) = 0;
+    /// Input volume of one channel (elements count from 1) on a linear scale, 1 is unchanged.
+    virtual OSStatus setVolumeScalar(AudioObjectID device, std::uint32_t element, float volume) = 0;
+    virtual OSStatus getVolumeScalar(AudioObjectID device, std::uint32_t element, float& volume) = 0;
+    virtual OSStatus setMute(AudioObjectID device, std::uint32_t element, bool mute) = 0;
+    virtual OSStatus getMute(AudioObjectID device, std::uint32_t element, bool& mute) = 0;
+    virtual OSStatus getDefaultOutputDevice(AudioObjectID& device) = 0;
+    /// Rate in Hz and channels of the input side.
+    virtual OSStatus getInputFormat(AudioObjectID device, double& sampleRate, std::uint32_t& channels) = 0;
+
+    /// Finds and opens the hardware output unit: null when there is none (@p found false) or it does not open.
+    [[nodiscard]] virtual std::unique_ptr<InputUnit> openOutputUnit(bool& found) = 0;
+
+    /// Whether a sound server answers, and why not.
+    [[nodiscard]] virtual bool connected() const = 0;
+    [[nodiscard]] virtual QString lastError() const = 0;
+
+Q_SIGNALS:
+    /// A device came or went. Delivered on the main thread.
+    void devicesChanged();
+    void defaultOutputDeviceChanged();
+    void connectedChanged(bool connected);
+};
+
+} // namespace Platform

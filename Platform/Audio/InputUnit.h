@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Audio/AudioTypes.h"
+
+#include <functional>
+
+#include <QString>
+
+namespace Platform {
+
+/// A hardware output unit that is used for input only: it captures one device and calls back once a cycle.
+///
+/// Each step that can fail is a method of its own. The steps before start() may come in any sensible order and run on
+/// the main thread. The callback runs on the unit's own I/O thread (not the sound server's data thread), so it may take
+/// a lock or wait for a writer; what arrives meanwhile waits in the unit's ring. The unit keeps the rate, channel count
+/// and buffer size that were read at configuration: a device that comes back with others is converted on the way in.
+class InputUnit {
+public:
+    /// Told once a cycle. @p refCon is what was set with it. The data is fetched with render().
+    using RenderCallback = OSStatus (*)(void* refCon, std::uint32_t* actionFlags, const AudioTimeStamp* timeStamp,
+                                        std::uint32_t busNumber, std::uint32_t frames, AudioBufferList* data);
+
+    /// What happens to the device while the unit runs; delivered on the main thread.
+    enum class Event { DeviceLost, DeviceReturned, ServerLost, ServerReturned, FramesLost };
+    using EventHandler = std::function<void(Event)>;
+
+    /// Stops and closes: when the destructor returns, no callback runs or will run.
+    virtual ~InputUnit() = default;
+
+    virtual OSStatus setEnableInput(bool on) = 0;
+    virtual OSStatus setEnableOutput(bool on) = 0;
+    virtual OSStatus setCurrentDevice(AudioObjectID device) = 0;
+    virtual OSStatus setInputCallback(RenderCallback callback, void* refCon) = 0;
+    /// The device's own format: its rate and channel count, 32-bit float.
+    virtual OSStatus getDeviceFormat(AudioStreamBasicDescription& format) = 0;
+    /// The format in which render() delivers: the device's rate; 32-bit float, one buffer a channel.
+    virtual OSStatus setClientFormat(const AudioStreamBasicDescription& format) = 0;
+    /// Frames in one cycle.
+    virtual OSStatus getBufferFrameSize(std::uint32_t& frames) = 0;
+    virtual OSStatus initialize() = 0;
+    virtual OSStatus start() = 0;
+    /// After it returns no callback runs. May be started again.
+    virtual OSStatus stop() = 0;
+
+    /// Fetches the frames of the cycle at hand into @p data; only inside the callback. Sets each buffer's byte size.
+    virtual OSStatus render(std::uint32_t* actionFlags, const AudioTimeStamp* timeStamp, std::uint32_t busNumber,
+                            std::uint32_t frames, AudioBufferList* data) = 0;
+
+    /// While held, the I/O thread begins no new cycle (what arrives waits in the ring). Nestable, from any thread,
+    /// the unit's own callback included; returns once no cycle of *another* thread is under way.
+    virtual void holdCycles() = 0;
+    virtual void releaseCycles() = 0;
+
+    /// Frames that were lost before the ring since start(): the only place where audio may be lost. Any thread.
+    [[nodiscard]] virtual std::uint64_t lostFrames() const = 0;
+    /// Main thread; before start().
+    virtual void setEventHandler(EventHandler handler) = 0;
+    /// Why the last step failed, for people and the log. Empty when nothing did.
+    [[nodiscard]] virtual QString lastError() const = 0;
+};
+
+} // namespace Platform

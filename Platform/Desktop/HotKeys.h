@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+#include <QString>
+
+namespace Platform {
+
+/// System-wide key combinations. Main thread only.
+class HotKeys {
+public:
+    using Handle = std::uint64_t; ///< 0 is none
+    struct Id {
+        std::uint32_t signature = 0;
+        std::uint32_t id = 0;
+    };
+    /// Called on the main thread for each press of a registered combination; a held key calls it once.
+    using Handler = std::function<void(Id)>;
+
+    /// How combinations are taken on this desktop.
+    enum class Way { None, X11Grab, Portal };
+
+    virtual ~HotKeys() = default;
+    [[nodiscard]] virtual Way way() const = 0;
+    virtual void setHandler(Handler handler) = 0;
+    /// Takes a combination for the program.
+    /// @param keyCode ANSI virtual key code of the physical key
+    /// @param carbonModifiers 256 Command, 512 Shift, 2048 Option, 4096 Control
+    /// @return 0 when the system, another client or another of our own registrations holds it, or no way exists.
+    [[nodiscard]] virtual Handle registerHotKey(std::uint16_t keyCode, std::uint32_t carbonModifiers, Id id) = 0;
+    virtual void unregisterHotKey(Handle handle) = 0;
+};
+
+} // namespace Platform

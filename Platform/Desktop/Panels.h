@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+class QObject;
+
+namespace Platform {
+
+/// Open and save panels. Main thread only.
+class Panels {
+public:
+    using Chosen = std::function<void(std::optional<QString> path)>;
+    virtual ~Panels() = default;
+    /// A sheet that picks one existing folder (new ones may be made in it, links are resolved). @p window is the window
+    /// it belongs to; @p done is called once, with nothing on Cancel.
+    virtual void chooseFolder(QObject* window, const QString& prompt, const QString& startFolder, Chosen done) = 0;
+    /// A modal panel that picks one existing file; the filter reads "Images (*.png *.jpg)".
+    virtual std::optional<QString> chooseFile(QObject* window, const QString& title, const QString& startFolder,
+                                              const QString& filter) = 0;
+    /// A modal panel that names a file to write; it asks before an existing one is taken.
+    virtual std::optional<QString> saveFile(QObject* window, const QString& title, const QString& startPath) = 0;
+};
+
+} // namespace Platform

@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace Platform {
+
+/// Where the program's own files are. Thread-safe: nothing changes after construction.
+class Bundle {
+public:
+    virtual ~Bundle() = default;
+    /// "com.korvane.Sonaphex": names the defaults file, the temporary folder and the Music folder.
+    [[nodiscard]] virtual QString bundleIdentifier() const = 0;
+    /// The folder of the resources, absolute, without a slash at its end: beside the program in a build tree,
+    /// under share/ when installed.
+    [[nodiscard]] virtual QString resourcePath() const = 0;
+    /// A resource by its name; the answer does not say that it exists.
+    [[nodiscard]] QString pathForResource(const QString& name) const { return resourcePath() + u'/' + name; }
+};
+
+} // namespace Platform

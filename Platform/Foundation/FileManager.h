@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <functional>
+
+namespace Platform {
+
+/// File operations that lose nothing. Thread-safe, blocking; paths are absolute and never interpreted.
+namespace FileManager {
+
+/// What went wrong, in words for a person ("No space left on device"); empty when nothing did.
+using Problem = QString;
+
+/// Moves a file and never overwrites: fails when something stands at @p to. Across file systems a hidden copy is made
+/// beside the target, synced, and renamed; the source goes last.
+[[nodiscard]] Problem move(const QString& from, const QString& to);
+
+/// move() that asks @p nextName for another target as long as one stands in the way. @p landed receives the path used.
+[[nodiscard]] Problem moveToFreeName(const QString& from, const QString& to,
+                                     const std::function<QString(const QString& taken)>& nextName, QString& landed);
+
+/// Copies beside the target, syncs, renames; an existing target stays and fails the call unless @p replace.
+[[nodiscard]] Problem copy(const QString& from, const QString& to, bool replace = false);
+
+/// Unlinks a regular file or a link, never a folder. A missing file is no problem.
+[[nodiscard]] Problem removeFile(const QString& path);
+
+/// Writes the whole content beside the target, syncs it and the folder, and renames it over the target.
+[[nodiscard]] Problem writeAtomically(const QString& path, const QByteArray& content, int mode = 0644);
+
+/// Bytes that a program without special rights may still write to the file system of @p path (or of its nearest
+/// existing parent); -1 when it cannot be told.
+[[nodiscard]] qint64 availableBytes(const QString& path);
+
+/// The place for what could not be finished: $XDG_DATA_HOME/<bundle id>/Unfinished, made when missing.
+[[nodiscard]] QString unfinishedFolder();
+
+/// Moves @p path into unfinishedFolder() under a free name made from @p wishedName, and answers where it is; the old
+/// path when it could not be moved.
+[[nodiscard]] QString setAside(const QString& path, const QString& wishedName);
+
+} // namespace FileManager
+} // namespace Platform

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace Platform::Folders {
+
+/// $HOME, else the user database's entry. Without a slash at its end.
+[[nodiscard]] QString home();
+
+/// The system's temporary folder of this user: $TMPDIR when it is set and private to the user, else
+/// $XDG_CACHE_HOME/tmp, made with mode 0700 and refused (empty answer, @p why filled) when it is a link or another's.
+[[nodiscard]] QString temporary(QString* why = nullptr);
+
+/// $XDG_CONFIG_HOME, $XDG_CACHE_HOME, $XDG_DATA_HOME, $XDG_RUNTIME_DIR or their defaults below home().
+[[nodiscard]] QString config();
+[[nodiscard]] QString cache();
+[[nodiscard]] QString data();
+/// Falls back to a private folder below cache() when the variable is unset.
+[[nodiscard]] QString runtime();
+
+} // namespace Platform::Folders

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Foundation/Dictionary.h"
+
+#include <functional>
+#include <memory>
+
+namespace Platform {
+
+/// Named notifications with a dictionary each, delivered at once on the poster's thread to every observer in the order
+/// in which they came. Main thread only.
+class NotificationCenter {
+public:
+    using Handler = std::function<void(const QString& name, const Dictionary& userInfo)>;
+
+    /// Ends an observation when it goes. May outlive the centre.
+    class Observation {
+    public:
+        virtual ~Observation() = default;
+    };
+
+    /// The centre of the process.
+    static NotificationCenter& defaultCenter();
+
+    NotificationCenter();
+    ~NotificationCenter();
+    [[nodiscard]] std::unique_ptr<Observation> addObserver(const QString& name, Handler handler);
+    /// Observers that are added or removed during a post neither break it nor are called by it.
+    void post(const QString& name, const Dictionary& userInfo = {});
+
+private:
+    struct State;
+    std::shared_ptr<State> state_;
+};
+
+} // namespace Platform

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Foundation/Dictionary.h"
+
+namespace Platform {
+
+/// The user's settings: one property list, read once, changed in memory, written behind by a worker. Callable from any
+/// thread. Another process may change the file; only the keys that this process set are written over its values.
+class UserDefaults {
+public:
+    virtual ~UserDefaults() = default;
+    /// The stored object, or an invalid QVariant when there is none. Texts come back as QString, numbers as qlonglong,
+    /// double or bool, data as QByteArray, arrays as QVariantList, dictionaries as QVariantMap.
+    [[nodiscard]] virtual QVariant objectForKey(const QString& key) const = 0;
+    /// Stores a property-list object (texts, numbers, booleans, data, dates, arrays and dictionaries of them). The file
+    /// follows soon after; flush() waits for it.
+    virtual void setObject(const QString& key, const QVariant& object) = 0;
+    virtual void removeObject(const QString& key) = 0;
+    /// Returns when everything set so far is on the disk (true) or could not be written (false).
+    virtual bool flush() = 0;
+};
+
+} // namespace Platform

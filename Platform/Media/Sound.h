@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <memory>
+
+#include <QObject>
+#include <QString>
+
+namespace Platform {
+
+/// Plays one audio file through the sound server. Main thread. A paused sound still counts as playing.
+class Sound : public QObject {
+    Q_OBJECT
+public:
+    ~Sound() override = default;
+    /// Exact length in seconds; 0 for a file that cannot be played.
+    [[nodiscard]] virtual double duration() const = 0;
+    [[nodiscard]] virtual double currentTime() const = 0;
+    virtual void setCurrentTime(double seconds) = 0;
+    [[nodiscard]] virtual float volume() const = 0;
+    virtual void setVolume(float volume) = 0;
+    [[nodiscard]] virtual bool isPlaying() const = 0;
+    virtual bool play() = 0;
+    virtual bool pause() = 0;
+    virtual bool resume() = 0;
+    virtual bool stop() = 0;
+    [[nodiscard]] virtual QString path() const = 0;
+    [[nodiscard]] virtual QString lastError() const = 0;
+
+Q_SIGNALS:
+    /// It ended: by itself, by stop(), or because the sound server went away.
+    void finished();
+};
+
+/// Makes sounds.
+class Sounds {
+public:
+    virtual ~Sounds() = default;
+    /// Never null; a file that cannot be read gives a sound of length 0 that does not play.
+    [[nodiscard]] virtual std::unique_ptr<Sound> open(const QString& path) = 0;
+};
+
+} // namespace Platform

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Media/ExtAudioFile.h"
+
+#include <functional>
+
+/// Told when a plain copy has ended, on the thread that ran it.
+class ConverterAudioControlDelegate {
+public:
+    virtual ~ConverterAudioControlDelegate() = default;
+    virtual void converterFinish() {}
+};
+
+/// Copies a stretch of an audio file into a new file, decoding and encoding on the way. One output at a time; a copy
+/// blocks the calling thread.
+class ConverterAudioControl {
+public:
+    ConverterAudioControl();
+    ~ConverterAudioControl();
+
+    [[nodiscard]] ConverterAudioControlDelegate* delegate() const { return delegate_; }
+    void setDelegate(ConverterAudioControlDelegate* delegate) { delegate_ = delegate; }
+
+    /// Output types: 0 WAVE, 1 (and 3) MPEG-4 AAC, 2 CAF with AAC.
+    [[nodiscard]] static AudioStreamBasicDescription exportDescription(int type);
+    bool createOutPutFile(const QString& path, int type);
+    /// Plain copy of [trimFrom, trimTo) seconds; a trimTo below 0.1 means to the end.
+    bool startConverterSource(const QString& source, float trimFrom, float trimTo);
+    /// Copy with linear fades that plays the range again when it runs out before converterLength seconds.
+    bool startFadeInFadeOutConverterSource(const QString& source, float trimFrom, float trimTo, float fadeInTime,
+                                           float fadeOutTime, float converterLength);
+    void closeExportFile();
+    void converterFinish();
+
+    /// The first error of the output that was written last: the copy itself ignores it, its caller must not.
+    [[nodiscard]] Platform::MediaError exportError() const { return exportError_; }
+    /// Told the share done (0 to 1) now and then, on the copying thread; answers false to stop the copy early.
+    void setProgress(std::function<bool(double)> progress) { progress_ = std::move(progress); }
+
+private:
+    std::unique_ptr<Platform::ExtAudioFileWriter> outputAudioFile_;
+    QString outputAudioFilePath_;
+    AudioStreamBasicDescription actualOutputFormat_;
+    ConverterAudioControlDelegate* delegate_ = nullptr;
+    Platform::MediaError exportError_;
+    std::function<bool(double)> progress_;
+};

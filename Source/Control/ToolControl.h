@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QImage>
+#include <QString>
+#include <QStringList>
+
+#include <cstdint>
+
+class QObject;
+
+/// Small operations on files, times and windows that the whole program shares.
+namespace ToolControl {
+
+/// Shows a window, raises it and centres it on its screen. The controller answers showWindow() (see WindowShower).
+class WindowShower {
+public:
+    virtual ~WindowShower() = default;
+    [[nodiscard]] virtual bool isWindowVisible() const = 0;
+    virtual void showWindow() = 0;           ///< for a window that is visible
+    virtual void makeKeyAndOrderFront() = 0; ///< for one that is not
+    virtual void center() = 0;
+};
+void showWindowNib(WindowShower& controller);
+
+/// "hh:mm:ss", the hours without limit.
+[[nodiscard]] QString getTimeString(std::int64_t seconds);
+/// Seconds of an audio file, from the file itself without decoding it; 0 when it cannot be read.
+[[nodiscard]] float getAudioLength(const QString& path);
+/// Decimal megabytes; anything from 11 bytes to a megabyte counts as one.
+[[nodiscard]] std::int32_t getDirectorySize(const QString& path);
+/// Free megabytes (binary) on the volume of the path; 0 when they cannot be told.
+[[nodiscard]] std::int64_t getLocalSize(const QString& path);
+[[nodiscard]] bool isAvailable(const QString& fileName);
+[[nodiscard]] bool findDRMForExtension(const QString& folder, const QString& extension);
+[[nodiscard]] bool hasDRMFile(const QString& path);
+[[nodiscard]] QString getFileInfoForFileCMD(const QString& path);
+/// Null when there is none.
+[[nodiscard]] QString isVIDEO_TS(const QString& path);
+[[nodiscard]] QString isISO(const QString& path);
+[[nodiscard]] QString isDMG(const QString& path);
+[[nodiscard]] bool isDVDpath(const QString& path);
+[[nodiscard]] QString getFirstImageFile(const QStringList& paths);
+/// Shows the file in the file manager.
+void openFile(const QString& path);
+
+} // namespace ToolControl

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Desktop/HotKeys.h"
+#include "Platform/Foundation/NotificationCenter.h"
+
+#include <functional>
+#include <memory>
+
+/// Owns one system-wide key combination and the operation that it starts. Main thread.
+class HotKeyRegister {
+public:
+    /// Notification that every press posts, and the key of the signature in its dictionary.
+    static inline const QString HotKeyRegisterNotification = QStringLiteral("HotKeyRegisterNotification");
+    static inline const QString HotKeyRegisterSignatureKey = QStringLiteral("HotKeyRegisterSignatureKey");
+
+    HotKeyRegister();
+    ~HotKeyRegister();
+    HotKeyRegister(const HotKeyRegister&) = delete;
+    HotKeyRegister& operator=(const HotKeyRegister&) = delete;
+
+    void registerHotKey(std::uint16_t keyCode, std::uint32_t modifier);
+    void unregisterHotKey();
+    [[nodiscard]] bool hasRegisterHotKey() const { return hotKeyHandle_ != 0; }
+    [[nodiscard]] static std::uint32_t carbonKeyModifiers(std::uint32_t flags);
+    [[nodiscard]] bool isEditKeybordShortcutControl() const;
+    void hotKeyRegisterNotification(const Dictionary& userInfo);
+
+    [[nodiscard]] std::uint32_t signature() const { return signature_; }
+    void setSignature(std::uint32_t signature) { signature_ = signature; }
+    [[nodiscard]] const std::function<void()>& operation() const { return operation_; }
+    void setOperation(std::function<void()> operation) { operation_ = std::move(operation); }
+
+private:
+    Platform::HotKeys::Handle hotKeyHandle_ = 0;
+    std::uint32_t signature_ = 0;
+    std::function<void()> operation_;
+    std::unique_ptr<Platform::NotificationCenter::Observation> observation_;
+};

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Foundation/Dictionary.h"
+
+/// The dictionary that describes one audio file of the library, and its keys.
+namespace AudioRecordEntry {
+inline const QString NodeDataKey =
+    QStringLiteral("MediaLibraryNodeDataKey");                   ///< identity, made once, kept through edits
+inline const QString SavePath = QStringLiteral("AudioSavePath"); ///< full path
+inline const QString Title = QStringLiteral("ID3TitleKey");
+inline const QString Artist = QStringLiteral("ID3ArtistKey");
+inline const QString Album = QStringLiteral("ID3AlbumKey");
+inline const QString Year = QStringLiteral("ID3YearKey");
+inline const QString Genre = QStringLiteral("ID3GenreKey");
+inline const QString Artwork = QStringLiteral("ID3ArtworkKey");   ///< image data; tag dictionaries only
+inline const QString AddDate = QStringLiteral("AddAudioDate");    ///< "%Y/%m/%d"
+inline const QString Length = QStringLiteral("AddAudioLength");   ///< float seconds
+inline const QString IsNew = QStringLiteral("ISNewAudioFileKey"); ///< transient, never stored
+} // namespace AudioRecordEntry

@@ -1,0 +1,67 @@
+# SPDX-FileCopyrightText: 2026 The Sonaphex authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+# What all targets share: language, warnings, sanitizers, precompiled headers, the compiler cache.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+
+option(SONAPHEX_WERROR "Treat warnings as errors" OFF)
+option(SONAPHEX_PCH "Use precompiled headers" ON)
+set(SONAPHEX_SANITIZE "" CACHE STRING "Sanitizers, as for -fsanitize= (address,undefined or thread)")
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    # Base folder and no hashed folder: another checkout or build folder hits the same cache. The sloppiness is what
+    # ccache asks for with precompiled headers.
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+        ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1
+        CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${CCACHE_PROGRAM})
+endif()
+
+add_library(sonaphex_flags INTERFACE)
+target_compile_options(sonaphex_flags INTERFACE -Wall -Wextra -Wpedantic $<$<BOOL:${SONAPHEX_WERROR}>:-Werror>)
+target_compile_definitions(sonaphex_flags INTERFACE
+    QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400
+    _FILE_OFFSET_BITS=64 SONAPHEX_VERSION="${PROJECT_VERSION}")
+target_include_directories(sonaphex_flags INTERFACE ${CMAKE_SOURCE_DIR})
+if(SONAPHEX_SANITIZE)
+    target_compile_options(sonaphex_flags INTERFACE -fsanitize=${SONAPHEX_SANITIZE} -fno-omit-frame-pointer)
+    target_link_options(sonaphex_flags INTERFACE -fsanitize=${SONAPHEX_SANITIZE})
+endif()
+
+# All sources and headers below the given folders. Headers are listed for moc: it looks into listed ones only.
+function(sonaphex_sources out)
+    set(found)
+    foreach(folder IN LISTS ARGN)
+        file(GLOB_RECURSE files CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${folder}/*.cpp ${CMAKE_SOURCE_DIR}/${folder}/*.h)
+        list(APPEND found ${files})
+    endforeach()
+    set(${out} ${found} PARENT_SCOPE)
+endfunction()
+
+function(sonaphex_floor name)
+    add_library(${name} STATIC ${ARGN})
+    target_link_libraries(${name} PUBLIC sonaphex_flags)
+    if(SONAPHEX_PCH)
+        target_precompile_headers(${name} PRIVATE
+            <algorithm> <array> <atomic> <chrono> <cmath> <cstdint> <functional> <map> <memory> <mutex> <optional> <span>
+            <string> <thread> <vector> <QByteArray> <QDateTime> <QDebug> <QDir> <QFile> <QFileInfo> <QHash> <QList>
+            <QObject> <QString> <QStringList> <QVariant>)
+        if(name STREQUAL "sonaphex_ui" OR name STREQUAL "sonaphex_program")
+            target_precompile_headers(${name} PRIVATE <QAction> <QApplication> <QBoxLayout> <QPainter> <QWidget>)
+        endif()
+    endif()
+endfunction()
+
+# The program finds its resources beside itself: bin/Resources in the build tree, share/sonaphex when installed.
+function(sonaphex_resources)
+    add_custom_target(sonaphex_resource_files ALL
+        COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Resources
+        COMMAND ${CMAKE_COMMAND} -E copy_directory ${CMAKE_SOURCE_DIR}/Resources
+                ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Resources
+        COMMENT "Laying the resources beside the program" VERBATIM)
+    add_dependencies(sonaphex sonaphex_resource_files)
+endfunction()
