@@ -1,0 +1,85 @@
+# SPDX-FileCopyrightText: 2026 The Sonaphex authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+# What the scripts share: finding and installing packages, configuring and building. To be sourced.
+
+say() { printf '\033[1m==>\033[0m %s\n' "$*" >&2; }
+die() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; exit 1; }
+
+# Package lists: what it takes to build, to run, to test, to measure.
+apt_build="cmake ninja-build g++ ccache pkg-config qt6-base-dev qt6-svg-dev libpipewire-0.3-dev libavcodec-dev libavformat-dev
+  libavutil-dev libswresample-dev libtag1-dev libplist-dev libburn-dev libudev-dev libxcb1-dev libxcb-keysyms1-dev"
+apt_run="pipewire pipewire-bin wireplumber libspa-0.2-modules libqt6svg6 qt6-image-formats-plugins fonts-inter
+  fonts-droid-fallback file findutils xdg-utils"
+apt_test="libgtest-dev libgmock-dev xvfb xauth x11-utils x11-xkb-utils dbus dbus-daemon xdotool openbox trayer ffmpeg faad
+  mediainfo atomicparsley sox libsox-fmt-all gstreamer1.0-tools gstreamer1.0-plugins-base gstreamer1.0-plugins-good
+  gstreamer1.0-plugins-bad gstreamer1.0-libav pipewire-pulse procps"
+apt_check="clang-format clang-tidy git"
+apt_bench="$apt_test time qmmp"
+
+dnf_build="cmake ninja-build gcc-c++ ccache pkgconf qt6-qtbase-devel qt6-qtsvg-devel pipewire-devel ffmpeg-free-devel
+  taglib-devel libplist-devel libburn-devel systemd-devel libxcb-devel xcb-util-keysyms-devel"
+dnf_run="pipewire pipewire-utils wireplumber qt6-qtsvg qt6-qtimageformats rsms-inter-fonts file findutils xdg-utils"
+pacman_build="cmake ninja gcc ccache pkgconf qt6-base qt6-svg libpipewire ffmpeg taglib libplist libburn systemd-libs libxcb
+  xcb-util-keysyms"
+pacman_run="pipewire wireplumber qt6-svg qt6-imageformats inter-font file findutils xdg-utils"
+
+as_root() {
+    if [ "$(id -u)" = 0 ]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        die "cannot install packages: neither root nor sudo. Please install: ${*: -1}"
+    fi
+}
+
+# need_packages build run ...: installs what is missing from the named lists.
+need_packages() {
+    local kind names="" missing="" name
+    if command -v apt-get >/dev/null; then
+        for kind in "$@"; do local list="apt_$kind"; names+=" ${!list}"; done
+        local have
+        have=" $(dpkg-query -W -f='${db:Status-Status} ${Package}\n' 2>/dev/null | sed -n 's/^installed //p' | tr '\n' ' ') "
+        for name in $names; do [[ "$have" == *" $name "* ]] || missing+=" $name"; done
+        [ -n "$missing" ] || return 0
+        say "installing with apt:$missing"
+        as_root apt-get update -q >&2 || say "apt-get update failed; trying with the lists at hand"
+        # shellcheck disable=SC2086
+        as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends $missing >&2 ||
+            die "apt could not install:$missing"
+    elif command -v dnf >/dev/null; then
+        for kind in build run; do local list="dnf_$kind"; names+=" ${!list}"; done
+        for name in $names; do rpm -q --whatprovides "$name" >/dev/null 2>&1 || missing+=" $name"; done
+        [ -n "$missing" ] || return 0
+        say "installing with dnf:$missing"
+        # shellcheck disable=SC2086
+        as_root dnf install -y $missing >&2 || die "dnf could not install:$missing"
+    elif command -v pacman >/dev/null; then
+        for kind in build run; do local list="pacman_$kind"; names+=" ${!list}"; done
+        # shellcheck disable=SC2086
+        missing=$(pacman -T $names || true)
+        [ -n "$missing" ] || return 0
+        say "installing with pacman: $missing"
+        # shellcheck disable=SC2086
+        as_root pacman -S --needed --noconfirm $missing >&2 || die "pacman could not install: $missing"
+    else
+        say "no known package manager; building with what is there"
+    fi
+}
+
+# build PRESET [targets]: configures when that was not done, builds what changed.
+build() {
+    local preset=$1
+    shift
+    if [ ! -f "build/$preset/build.ninja" ]; then
+        say "configuring ($preset)"
+        cmake --preset "$preset" >"build-$preset.log" 2>&1 || { cat "build-$preset.log" >&2; rm -f "build-$preset.log"; die "configuring failed"; }
+        rm -f "build-$preset.log"
+    fi
+    # Silent when nothing is to be done.
+    local plan
+    plan=$(ninja -C "build/$preset" -n "$@" 2>/dev/null | tail -n 1) || true
+    case "$plan" in *"no work to do"*) return 0 ;; esac
+    say "building ($preset)"
+    cmake --build --preset "$preset" ${1:+--target "$@"} >&2 || die "the build failed"
+}
