@@ -58,10 +58,14 @@ endfunction()
 
 # The program finds its resources beside itself: bin/Resources in the build tree, share/sonaphex when installed.
 function(sonaphex_resources)
-    add_custom_target(sonaphex_resource_files ALL
-        COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Resources
+    file(GLOB_RECURSE files CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/Resources/*)
+    set(stamp ${CMAKE_BINARY_DIR}/resources.stamp)
+    add_custom_command(OUTPUT ${stamp}
         COMMAND ${CMAKE_COMMAND} -E copy_directory ${CMAKE_SOURCE_DIR}/Resources
                 ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Resources
+        COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
+        DEPENDS ${files}
         COMMENT "Laying the resources beside the program" VERBATIM)
+    add_custom_target(sonaphex_resource_files ALL DEPENDS ${stamp})
     add_dependencies(sonaphex sonaphex_resource_files)
 endfunction()
