@@ -76,10 +76,9 @@ build() {
         cmake --preset "$preset" >"build-$preset.log" 2>&1 || { cat "build-$preset.log" >&2; rm -f "build-$preset.log"; die "configuring failed"; }
         rm -f "build-$preset.log"
     fi
-    # Silent when nothing is to be done. The plan's first lines look for new files; the last one says what is left.
-    case "$(ninja -C "build/$preset" -n "$@" 2>/dev/null)" in *"no work to do"*)
-        if ninja -C "build/$preset" "$@" 2>/dev/null | grep -q "no work to do"; then return 0; fi ;;
-    esac
-    say "building ($preset)"
-    cmake --build --preset "$preset" ${1:+--target "$@"} >&2 || die "the build failed"
+    # Silent when nothing is to be done: looking for new files is not worth a line.
+    cmake --build --preset "$preset" ${1:+--target "$@"} 2>&1 | awk -v preset="$preset" '
+        /no work to do|Re-checking globbed directories/ { next }
+        !said { print "==> building (" preset ")"; said = 1 }
+        { print; fflush() }' >&2 || die "the build failed"
 }
