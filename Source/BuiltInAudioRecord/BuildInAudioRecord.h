@@ -91,6 +91,24 @@ public:
     /// with the old path and its status. Allowed on the engine's I/O thread; cycles of other engines must be held by
     /// the caller. False when the new file could not be made: then recording goes on into the old one.
     virtual bool exchangeM4aFile(const QString& path, std::function<void(QString oldPath, OSStatus)> closed);
+    /// stopRecordAudio() that does not wait for the M4A file: its own thread closes it, then calls @p closed there with
+    /// the path and the first error of the file's life. When there was nothing to close, @p closed is not called and
+    /// the answer is false.
+    virtual bool stopRecordAudioLater(std::function<void(QString path, OSStatus)> closed) {
+        const bool wasRecording = recordStatus() != 0;
+        const QString path = outPutFilePath();
+        stopRecordAudio();
+        if (wasRecording && closed)
+            closed(path, noErr);
+        return wasRecording;
+    }
+    /// Where the M4A file at hand stands in time; from it two recordings are laid over each other.
+    struct CaptureSpan {
+        std::uint64_t firstHostTime = 0; ///< capture time of its first frame, 0 before that
+        double measuredRate = 0; ///< frames that the device gave in a second of the steady clock; 0 when not yet known
+    };
+    /// Any thread; best asked while cycles are held, or before the file is exchanged or closed.
+    [[nodiscard]] virtual CaptureSpan captureSpan() const { return {}; }
     /// See InputUnit::holdCycles().
     virtual void holdCycles();
     virtual void releaseCycles();
