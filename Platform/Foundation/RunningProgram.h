@@ -17,8 +17,10 @@ public:
     using Handler = std::function<QByteArray(const QByteArray& request)>;
 
     virtual ~RunningProgram() = default;
-    /// Takes the lock. False when another process holds it.
+    /// Takes the lock. False when another process holds it, or when there is no place for it: see lastError().
     [[nodiscard]] virtual bool acquire() = 0;
+    /// Why acquire() or listen() failed, for people; empty when another program of ours holds the lock.
+    [[nodiscard]] virtual QString lastError() const = 0;
     /// Begins to answer on the local socket in $XDG_RUNTIME_DIR. Needs the lock.
     virtual bool listen(Handler handler) = 0;
     /// Sends one line to the running program and waits for its answer at most @p timeoutMs. False when nobody answers.

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/LinuxServices.h"
+
+#include "Platform/Audio/PrivateSession.h"
+#include "Platform/Desktop/linux/LinuxDesktop.h"
+#include "Platform/Foundation/Services.h"
+#include "Platform/Foundation/linux/LinuxFoundation.h"
+
+namespace Platform {
+
+struct LinuxServices::Private {
+    ServicesScope before; // destroyed last: until then everyone finds the services
+    std::unique_ptr<Bundle> bundle;
+    std::unique_ptr<Clock> clock;
+    std::unique_ptr<Workspace> workspace;
+    std::unique_ptr<Alerts> alerts;
+};
+
+LinuxServices::LinuxServices() : d(std::make_unique<Private>()) {
+}
+
+LinuxServices::~LinuxServices() = default;
+
+void LinuxServices::install(Mode) {
+    Services& set = services();
+    set.bundle = (d->bundle = createBundle()).get();
+    set.clock = (d->clock = createClock()).get();
+    set.workspace = (d->workspace = createWorkspace()).get();
+    set.alerts = (d->alerts = createCommandLineAlerts()).get();
+}
+
+bool LinuxServices::startAudio(QString& why) {
+    why = QStringLiteral("no sound server");
+    return false;
+}
+
+} // namespace Platform

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <memory>
+
+#include <QString>
+
+namespace Platform {
+
+/// Makes the Linux side of the platform's services and puts it behind Platform::services() for as long as it lives.
+/// Main thread; one at a time. Needs a QCoreApplication.
+class LinuxServices {
+public:
+    /// Which program asks: subcommands speak through standard error and take no hot keys.
+    enum class Mode { CommandLine, Window };
+
+    LinuxServices();
+    /// Ends the services, those that use others first, and with them a private session.
+    ~LinuxServices();
+    LinuxServices(const LinuxServices&) = delete;
+    LinuxServices& operator=(const LinuxServices&) = delete;
+
+    /// All services that need no sound server. Cheap: a subcommand that only reads a file pays for nothing else.
+    void install(Mode mode);
+    /// Connects to the sound server and adds the services that speak with it. When none answers, a private session is
+    /// started first, and one line on standard error says so. A second call does nothing.
+    /// @return false when there is no sound server and none can be started; @p why then says what is missing.
+    [[nodiscard]] bool startAudio(QString& why);
+
+private:
+    struct Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace Platform
