@@ -1,0 +1,333 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Foundation/linux/PropertyListDefaults.h"
+
+#include "Platform/Foundation/linux/PropertyList.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <cerrno>
+#include <chrono>
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Platform {
+namespace {
+
+Q_LOGGING_CATEGORY(log, "sonaphex.foundation")
+
+constexpr auto retryAfter = std::chrono::seconds(5);
+constexpr auto lockPatience = std::chrono::seconds(10);
+
+class Descriptor {
+public:
+    explicit Descriptor(int fd) : fd_(fd) {}
+    ~Descriptor() {
+        if (fd_ >= 0)
+            ::close(fd_);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    [[nodiscard]] int get() const { return fd_; }
+    explicit operator bool() const { return fd_ >= 0; }
+
+private:
+    int fd_;
+};
+
+/// A hidden neighbour of the file: "/a/.b.plist.lock" for "/a/b.plist" and "lock".
+QByteArray neighbour(const QString& path, const char* ending) {
+    const QFileInfo info(path);
+    return QFile::encodeName(info.path() + "/."_L1 + info.fileName() + u'.' + QLatin1StringView(ending));
+}
+
+int openLock(const QString& path) {
+    return ::open(neighbour(path, "lock").constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+}
+
+/// Takes the kernel's lock on @p fd. A process that was stopped while it held the lock must not hang this one.
+bool lockWithin(int fd, std::chrono::milliseconds patience) {
+    const auto deadline = std::chrono::steady_clock::now() + patience;
+    while (::flock(fd, LOCK_EX | LOCK_NB) != 0) {
+        if ((errno != EWOULDBLOCK && errno != EINTR) || std::chrono::steady_clock::now() > deadline)
+            return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    return true;
+}
+
+bool writeAll(int fd, const QByteArray& content) {
+    qsizetype at = 0;
+    while (at < content.size()) {
+        const ssize_t count = ::write(fd, content.constData() + at, static_cast<std::size_t>(content.size() - at));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return false;
+        at += count;
+    }
+    return true;
+}
+
+QString configFolder() {
+    const QString folder = qEnvironmentVariable("XDG_CONFIG_HOME");
+    return folder.startsWith(u'/') ? folder : QDir::homePath() + "/.config"_L1;
+}
+
+/// The file itself where the settings are kept behind a symbolic link: replacing the link would cut it.
+QString behindLinks(const QString& path) {
+    const QString real = QFileInfo(path).canonicalFilePath();
+    return real.isEmpty() ? path : real;
+}
+
+} // namespace
+
+std::unique_ptr<UserDefaults> createUserDefaults(const QString& bundleIdentifier) {
+    return std::make_unique<PropertyListDefaults>(configFolder() + u'/' + bundleIdentifier + ".plist"_L1);
+}
+
+PropertyListDefaults::PropertyListDefaults(const QString& path) : path_(behindLinks(path)) {
+    if (!readAgain(Damage::Leave)) {
+        // Moving a damaged file away needs the lock: another process may just have put a good one in its place.
+        const Descriptor lock(openLock(path_));
+        if (lock && lockWithin(lock.get(), lockPatience))
+            readAgain(Damage::SetAside);
+    }
+    values_ = onDisk_;
+    ours_ = onDisk_;
+    worker_ = std::thread([this] { run(); });
+}
+
+PropertyListDefaults::~PropertyListDefaults() {
+    {
+        const std::lock_guard guard(mutex_);
+        stopping_ = true;
+    }
+    work_.notify_one();
+    worker_.join();
+}
+
+QVariant PropertyListDefaults::objectForKey(const QString& key) const {
+    const std::lock_guard guard(mutex_);
+    return values_.value(key);
+}
+
+void PropertyListDefaults::setObject(const QString& key, const QVariant& object) {
+    change(key, object);
+}
+
+void PropertyListDefaults::removeObject(const QString& key) {
+    change(key, {});
+}
+
+void PropertyListDefaults::setMergeForKey(const QString& key, Merge merge) {
+    const std::lock_guard guard(mutex_);
+    merges_.insert(key, merge);
+}
+
+void PropertyListDefaults::change(const QString& key, const QVariant& object) {
+    {
+        const std::lock_guard guard(mutex_);
+        if (object.isValid())
+            values_.insert(key, object);
+        else
+            values_.remove(key);
+        pending_.insert(key, object);
+        ++lastChange_;
+    }
+    work_.notify_one();
+}
+
+bool PropertyListDefaults::flush() {
+    std::unique_lock lock(mutex_);
+    const quint64 wanted = lastChange_;
+    failedChange_ = 0; // what failed before is tried again now
+    work_.notify_one();
+    done_.wait(lock, [&] { return savedChange_ >= wanted || failedChange_ >= wanted; });
+    return savedChange_ >= wanted;
+}
+
+void PropertyListDefaults::run() {
+    std::unique_lock lock(mutex_);
+    for (;;) {
+        const auto hasWork = [this] { return stopping_ || (!pending_.isEmpty() && failedChange_ < lastChange_); };
+        if (pending_.isEmpty() || failedChange_ < lastChange_)
+            work_.wait(lock, hasWork);
+        else
+            work_.wait_for(lock, retryAfter, hasWork);
+        if (pending_.isEmpty()) {
+            if (stopping_)
+                return;
+            continue;
+        }
+
+        const Changes changes = std::exchange(pending_, {});
+        const auto merges = merges_;
+        const quint64 newest = lastChange_;
+        lock.unlock();
+        const bool saved = save(changes, merges);
+        lock.lock();
+
+        if (saved) {
+            savedChange_ = newest;
+            // What others stored is seen from here on, but for what was set here since, and for joined values: their
+            // owner keeps its own view, or it could not take away what it sees as new.
+            Dictionary seen = onDisk_;
+            for (auto it = merges.cbegin(); it != merges.cend(); ++it) {
+                const QVariant own = values_.value(it.key());
+                if (own.isValid())
+                    seen.insert(it.key(), own);
+                else
+                    seen.remove(it.key());
+            }
+            for (auto it = pending_.cbegin(); it != pending_.cend(); ++it) {
+                if (it->isValid())
+                    seen.insert(it.key(), *it);
+                else
+                    seen.remove(it.key());
+            }
+            values_ = seen;
+        } else {
+            failedChange_ = newest;
+            for (auto it = changes.cbegin(); it != changes.cend(); ++it)
+                if (!pending_.contains(it.key()))
+                    pending_.insert(it.key(), *it);
+        }
+        done_.notify_all();
+        if (stopping_ && !saved)
+            return;
+    }
+}
+
+PropertyListDefaults::Version PropertyListDefaults::versionOf(const struct stat& status) {
+    const auto nanoseconds = [](const timespec& time) { return qint64(time.tv_sec) * 1'000'000'000 + time.tv_nsec; };
+    return {status.st_dev, status.st_ino, status.st_size, nanoseconds(status.st_mtim), nanoseconds(status.st_ctim)};
+}
+
+bool PropertyListDefaults::readAgain(Damage damage) {
+    const Descriptor file(::open(QFile::encodeName(path_).constData(), O_RDONLY | O_CLOEXEC));
+    if (!file) {
+        if (errno == ENOENT || errno == ENOTDIR)
+            return true; // a file that was taken away comes back whole with the next save
+        qCWarning(log, "cannot read %s: %s", qUtf8Printable(path_), qUtf8Printable(qt_error_string(errno)));
+        return false;
+    }
+    struct stat status {};
+    if (::fstat(file.get(), &status) != 0)
+        return false;
+    if (!S_ISREG(status.st_mode)) {
+        errno = EISDIR;
+        return false;
+    }
+    const Version version = versionOf(status);
+    if (version == version_)
+        return true;
+
+    QFile reader;
+    if (!reader.open(file.get(), QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return false;
+    const QByteArray content = reader.readAll();
+    if (reader.error() != QFileDevice::NoError || content.size() < status.st_size) {
+        qCWarning(log, "cannot read %s: %s", qUtf8Printable(path_), qUtf8Printable(reader.errorString()));
+        return false;
+    }
+    if (auto dictionary = PropertyList::fromXml(content)) {
+        onDisk_ = std::move(*dictionary);
+        version_ = version;
+        return true;
+    }
+    if (damage == Damage::Leave)
+        return false;
+    setAsideDamaged();
+    return true;
+}
+
+void PropertyListDefaults::setAsideDamaged() {
+    const QString name = path_ + ".damaged-"_L1 + QDateTime::currentDateTime().toString(u"yyyyMMdd-HHmmss"_s);
+    QString target = name;
+    for (int number = 2; ::renameat2(AT_FDCWD, QFile::encodeName(path_).constData(), AT_FDCWD,
+                                     QFile::encodeName(target).constData(), RENAME_NOREPLACE) != 0;
+         ++number) {
+        if (errno != EEXIST || number > 1000)
+            return; // gone already (another process did the same), or the folder is not ours to change
+        target = name + u'-' + QString::number(number);
+    }
+    qCWarning(log, "%s is damaged; it was kept as %s", qUtf8Printable(path_), qUtf8Printable(target));
+}
+
+bool PropertyListDefaults::save(const Changes& changes, const QHash<QString, Merge>& merges) {
+    const auto problem = [this](const char* what) {
+        if (!std::exchange(problemTold_, true))
+            qCWarning(log, "cannot save %s: %s: %s", qUtf8Printable(path_), what,
+                      qUtf8Printable(qt_error_string(errno)));
+        return false;
+    };
+    if (!QDir().mkpath(QFileInfo(path_).path()))
+        return problem("its folder");
+    const Descriptor lock(openLock(path_));
+    if (!lock || !lockWithin(lock.get(), lockPatience))
+        return problem("its lock");
+    if (!readAgain(Damage::SetAside))
+        return problem("what it holds now");
+
+    Dictionary merged = onDisk_;
+    for (auto it = changes.cbegin(); it != changes.cend(); ++it) {
+        QVariant value = *it;
+        if (const Merge merge = merges.value(it.key()))
+            value = merge(ours_.value(it.key()), onDisk_.value(it.key()), value);
+        if (value.isValid())
+            merged.insert(it.key(), value);
+        else
+            merged.remove(it.key());
+    }
+    if (!replaceFile(PropertyList::toXml(merged)))
+        return problem("writing");
+
+    onDisk_ = merged;
+    for (auto it = changes.cbegin(); it != changes.cend(); ++it)
+        ours_.insert(it.key(), *it);
+    problemTold_ = false;
+    return true;
+}
+
+bool PropertyListDefaults::replaceFile(const QByteArray& content) {
+    const QByteArray path = QFile::encodeName(path_);
+    // One name is enough under the lock, and a crash leaves one file at most.
+    const QByteArray newPath = neighbour(path_, "new");
+    struct stat status {};
+    // Damage that could not be moved away is not overwritten either.
+    const bool exists = ::stat(path.constData(), &status) == 0;
+    if (exists && static_cast<quint64>(status.st_ino) != version_.inode) {
+        errno = EEXIST;
+        return false;
+    }
+    {
+        const Descriptor file(::open(newPath.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0600));
+        if (!file || ::fchmod(file.get(), exists ? status.st_mode & 0777 : 0600) != 0 ||
+            !writeAll(file.get(), content) || ::fsync(file.get()) != 0) {
+            const int why = errno;
+            ::unlink(newPath.constData());
+            errno = why;
+            return false;
+        }
+    }
+    if (std::rename(newPath.constData(), path.constData()) != 0)
+        return false;
+    const Descriptor folder(
+        ::open(QFile::encodeName(QFileInfo(path_).path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (folder)
+        ::fsync(folder.get());
+    if (::stat(path.constData(), &status) == 0)
+        version_ = versionOf(status);
+    return true;
+}
+
+} // namespace Platform

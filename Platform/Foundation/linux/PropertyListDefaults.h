@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Foundation/UserDefaults.h"
+
+#include <QHash>
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+#include <thread>
+
+struct stat;
+
+namespace Platform {
+
+/// The defaults in $XDG_CONFIG_HOME/<bundle identifier>.plist (below ~/.config when the variable is unset).
+[[nodiscard]] std::unique_ptr<UserDefaults> createUserDefaults(const QString& bundleIdentifier);
+
+/// User defaults in one XML property list.
+///
+/// The file is replaced as a whole (new file, sync, rename), so it is complete at every moment. A lock file beside it
+/// keeps other processes out from reading it until replacing it; it is only ever held for one save. A damaged file is
+/// moved to "<file>.damaged-<date>"; one that cannot be read (permissions, a bad disk) is never replaced.
+class PropertyListDefaults final : public UserDefaults {
+public:
+    /// Reads the file on the calling thread.
+    explicit PropertyListDefaults(const QString& path);
+    /// Writes what is pending; a file that cannot be written is tried once more and then given up with a log line.
+    ~PropertyListDefaults() override;
+    PropertyListDefaults(const PropertyListDefaults&) = delete;
+    PropertyListDefaults& operator=(const PropertyListDefaults&) = delete;
+
+    [[nodiscard]] QVariant objectForKey(const QString& key) const override;
+    void setObject(const QString& key, const QVariant& object) override;
+    void removeObject(const QString& key) override;
+    bool flush() override;
+    void setMergeForKey(const QString& key, Merge merge) override;
+
+private:
+    using Changes = QHash<QString, QVariant>; // an invalid value removes the key
+
+    /// Tells one version of the file from another.
+    struct Version {
+        quint64 device = 0, inode = 0;
+        qint64 size = -1, modified = 0, changed = 0;
+        friend bool operator==(const Version&, const Version&) = default;
+    };
+
+    void change(const QString& key, const QVariant& object);
+    void run();
+    enum class Damage { Leave, SetAside };
+
+    [[nodiscard]] static Version versionOf(const struct stat& status);
+    /// Reads the file if it is another version than the one known. False when it exists and cannot be read; a damaged
+    /// one counts as unreadable until it may be set aside (which needs the lock).
+    bool readAgain(Damage damage);
+    bool save(const Changes& changes, const QHash<QString, Merge>& merges);
+    bool replaceFile(const QByteArray& content);
+    void setAsideDamaged();
+
+    const QString path_;
+
+    mutable std::mutex mutex_;
+    std::condition_variable work_;
+    std::condition_variable done_;
+    Dictionary values_;
+    Changes pending_;
+    QHash<QString, Merge> merges_;
+    quint64 lastChange_ = 0;   // number of the newest change
+    quint64 savedChange_ = 0;  // the newest one that is on the disk
+    quint64 failedChange_ = 0; // the newest one that a failed save contained
+    bool stopping_ = false;
+
+    // The worker's own, after the constructor.
+    Version version_;
+    Dictionary onDisk_; // the file's content as of version_
+    Dictionary ours_;   // what this process read or set itself, the base of a merge
+    bool problemTold_ = false;
+
+    std::thread worker_; // last: it uses everything above
+};
+
+} // namespace Platform

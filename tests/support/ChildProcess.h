@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <csignal>
+#include <functional>
+#include <sys/wait.h>
+#include <unistd.h>
+
+/// Runs a function in a forked process, for tests about processes that die or that write at once. Start it while this
+/// process has one thread.
+class ChildProcess {
+public:
+    explicit ChildProcess(const std::function<int()>& work) : pid_(::fork()) {
+        if (pid_ == 0)
+            ::_exit(work());
+    }
+    ~ChildProcess() {
+        if (pid_ > 0)
+            kill();
+    }
+    ChildProcess(const ChildProcess&) = delete;
+    ChildProcess& operator=(const ChildProcess&) = delete;
+
+    [[nodiscard]] bool started() const { return pid_ > 0; }
+    /// Ends it without a chance to tidy up.
+    void kill() {
+        ::kill(pid_, SIGKILL);
+        (void)wait();
+    }
+    /// The exit status, -1 when a signal ended it.
+    [[nodiscard]] int wait() {
+        int status = 0;
+        if (pid_ <= 0 || ::waitpid(pid_, &status, 0) != pid_)
+            return -1;
+        pid_ = 0;
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+
+private:
+    pid_t pid_;
+};
