@@ -18,6 +18,8 @@ class Clock;
 class HotKeys;
 class AdminShell;
 class Bundle;
+class ColorScheme;
+class FocusProbe;
 
 /// The process's set of system services: the one global. main() installs the Linux set, a test puts its doubles in
 /// front with a ServicesScope. The members are not owned. Set up before any thread that uses it starts.
@@ -34,6 +36,8 @@ struct Services {
     HotKeys* hotKeys = nullptr;
     AdminShell* adminShell = nullptr;
     Bundle* bundle = nullptr;
+    ColorScheme* colorScheme = nullptr;
+    FocusProbe* focusProbe = nullptr;
 };
 
 [[nodiscard]] Services& services();

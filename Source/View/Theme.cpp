@@ -1,0 +1,192 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/View/Theme.h"
+
+#include "Platform/Desktop/ColorScheme.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QPainter>
+#include <QProxyStyle>
+#include <QStyleFactory>
+#include <QStyleOption>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Theme::Shade currentShade = Theme::Shade::Light;
+
+// Fusion draws the outline of an empty check box as a darker shade of the window, which all but vanishes on a dark one.
+class HouseStyle : public QProxyStyle {
+public:
+    HouseStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        const bool box = element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck;
+        if (!box && element != PE_IndicatorRadioButton) {
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+            return;
+        }
+        const QPalette& colors = option->palette;
+        const bool enabled = option->state & State_Enabled;
+        const auto group = enabled ? QPalette::Active : QPalette::Disabled;
+        const bool on = option->state & (State_On | State_NoChange);
+        const QColor accent = colors.color(group, QPalette::Highlight);
+        QColor outline = colors.color(group, QPalette::WindowText);
+        outline.setAlphaF(enabled ? 0.55F : 0.3F);
+        if (option->state & State_MouseOver && enabled)
+            outline = accent;
+        QColor fill = on ? accent : colors.color(group, QPalette::Base);
+        if (option->state & State_Sunken)
+            fill = fill.darker(112);
+
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(on ? QPen(accent.darker(115), 1) : QPen(outline, 1));
+        painter->setBrush(fill);
+        const int side = qMin(option->rect.width(), option->rect.height());
+        QRectF square(0, 0, side, side);
+        square.moveCenter(QRectF(option->rect).center());
+        square.adjust(1, 1, -1, -1);
+        if (box)
+            painter->drawRoundedRect(square, 3, 3);
+        else
+            painter->drawEllipse(square);
+        if (on) {
+            const QColor mark = colors.color(group, QPalette::HighlightedText);
+            const auto at = [&](qreal x, qreal y) {
+                return QPointF(square.left() + x * square.width(), square.top() + y * square.height());
+            };
+            painter->setPen(QPen(mark, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+            painter->setBrush(Qt::NoBrush);
+            if (!box) {
+                painter->setPen(Qt::NoPen);
+                painter->setBrush(mark);
+                painter->drawEllipse(square.center(), square.width() / 5, square.width() / 5);
+            } else if (option->state & State_NoChange) {
+                painter->drawLine(at(0.25, 0.5), at(0.75, 0.5));
+            } else {
+                painter->drawPolyline(QPolygonF{at(0.24, 0.52), at(0.43, 0.71), at(0.77, 0.31)});
+            }
+        }
+        painter->restore();
+    }
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        switch (metric) {
+        case PM_LayoutLeftMargin:
+        case PM_LayoutRightMargin:
+        case PM_LayoutTopMargin:
+        case PM_LayoutBottomMargin:
+            return 16;
+        case PM_LayoutHorizontalSpacing:
+        case PM_LayoutVerticalSpacing:
+            return 8;
+        case PM_IndicatorWidth:
+        case PM_IndicatorHeight:
+            return 16;
+        default:
+            return QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    }
+};
+
+struct Colors {
+    QColor window, base, alternate, text, button, highlight, onHighlight, link, dim, tip, tipText;
+};
+
+Colors colors(Theme::Shade shade) {
+    if (shade == Theme::Shade::Dark)
+        return {QColor(0x24272b), QColor(0x1b1e21), QColor(0x202327), QColor(0xe8eaed),
+                QColor(0x34383d), QColor(0x2f7dd1), QColor(0xffffff), QColor(0x6cb4ff),
+                QColor(0x858b92), QColor(0x3a3f45), QColor(0xf2f3f5)};
+    return {QColor(0xf2f3f5), QColor(0xffffff), QColor(0xf7f8fa), QColor(0x1d2125), QColor(0xfbfbfc), QColor(0x2f7dd1),
+            QColor(0xffffff), QColor(0x1a63ad), QColor(0x9aa0a6), QColor(0x2b3035), QColor(0xf2f3f5)};
+}
+
+} // namespace
+
+namespace Theme {
+
+QPalette palette(Shade shade) {
+    const Colors c = colors(shade);
+    QPalette p(c.button, c.window);
+    const auto everywhere = [&p](QPalette::ColorRole role, const QColor& color) { p.setColor(role, color); };
+    everywhere(QPalette::Window, c.window);
+    everywhere(QPalette::WindowText, c.text);
+    everywhere(QPalette::Base, c.base);
+    everywhere(QPalette::AlternateBase, c.alternate);
+    everywhere(QPalette::Text, c.text);
+    everywhere(QPalette::Button, c.button);
+    everywhere(QPalette::ButtonText, c.text);
+    everywhere(QPalette::BrightText, Qt::white);
+    everywhere(QPalette::Highlight, c.highlight);
+    everywhere(QPalette::HighlightedText, c.onHighlight);
+    everywhere(QPalette::Link, c.link);
+    everywhere(QPalette::LinkVisited, c.link);
+    everywhere(QPalette::ToolTipBase, c.tip);
+    everywhere(QPalette::ToolTipText, c.tipText);
+    everywhere(QPalette::PlaceholderText, c.dim);
+    everywhere(QPalette::Light, c.button.lighter(shade == Shade::Dark ? 140 : 105));
+    everywhere(QPalette::Midlight, c.button.lighter(shade == Shade::Dark ? 115 : 102));
+    everywhere(QPalette::Mid, c.button.darker(130));
+    everywhere(QPalette::Dark, c.button.darker(160));
+    everywhere(QPalette::Shadow, shade == Shade::Dark ? QColor(0x0c0d0e) : QColor(0x9aa0a6));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText})
+        p.setColor(QPalette::Disabled, role, c.dim);
+    p.setColor(QPalette::Disabled, QPalette::Base, c.window);
+    p.setColor(QPalette::Disabled, QPalette::Highlight, c.dim);
+    p.setColor(QPalette::Disabled, QPalette::HighlightedText, c.window);
+    // A selection of a window in the background stays visible without shouting.
+    p.setColor(QPalette::Inactive, QPalette::Highlight, shade == Shade::Dark ? QColor(0x3d4a58) : QColor(0xcfdbe8));
+    p.setColor(QPalette::Inactive, QPalette::HighlightedText, c.text);
+    return p;
+}
+
+Shade shade() {
+    return currentShade;
+}
+
+void apply(Shade shade) {
+    currentShade = shade;
+    QApplication::setPalette(palette(shade));
+    for (QWidget* window : QApplication::topLevelWidgets())
+        window->update();
+}
+
+void install(QApplication& application, Platform::ColorScheme* scheme) {
+    QApplication::setStyle(new HouseStyle);
+    QFont font = QApplication::font();
+    if (QFontDatabase::hasFamily(u"Inter"_s))
+        font.setFamily(u"Inter"_s);
+    if (font.pointSizeF() < 10)
+        font.setPointSizeF(10);
+    QApplication::setFont(font);
+
+    const auto follow = [scheme] {
+        const bool dark = scheme && scheme->preference() == Platform::ColorScheme::Preference::Dark;
+        apply(dark ? Shade::Dark : Shade::Light);
+    };
+    follow();
+    if (scheme)
+        QObject::connect(scheme, &Platform::ColorScheme::changed, &application, follow);
+}
+
+namespace Glass {
+QColor text() {
+    return QColor(0xf0f6fa);
+}
+QColor dimText() {
+    return QColor(0x93a6b4);
+}
+QColor alarm() {
+    return QColor(0xff6b63);
+}
+QColor level() {
+    return QColor::fromRgbF(78.0F / 255, 242.0F / 255, 1.0F);
+}
+} // namespace Glass
+
+} // namespace Theme

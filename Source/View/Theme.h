@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QPalette>
+
+class QApplication;
+namespace Platform {
+class ColorScheme;
+}
+
+/// The look of all windows: one style, a light and a dark palette, one typeface. Main thread.
+namespace Theme {
+
+enum class Shade { Light, Dark };
+
+/// Dresses the program and follows @p scheme (may be null: light). The application takes nothing over; @p scheme must
+/// outlive its windows.
+void install(QApplication& application, Platform::ColorScheme* scheme);
+
+/// Changes the palette of the whole program.
+void apply(Shade shade);
+[[nodiscard]] Shade shade();
+
+[[nodiscard]] QPalette palette(Shade shade);
+
+/// Colours of the display's dark glass, which is the same in both shades.
+namespace Glass {
+[[nodiscard]] QColor text();
+[[nodiscard]] QColor dimText();
+[[nodiscard]] QColor alarm();
+[[nodiscard]] QColor level();
+} // namespace Glass
+
+} // namespace Theme

@@ -1,0 +1,203 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/XvfbSession.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include <poll.h>
+#include <signal.h>
+#include <sys/prctl.h>
+#include <unistd.h>
+
+#include <vector>
+#include <xcb/xcb.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+XvfbSession* session = nullptr;
+
+// Answers once the file descriptor brought a whole line, or with nothing after the deadline.
+QByteArray readLine(int descriptor, int deadlineMs) {
+    QByteArray line;
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < deadlineMs) {
+        pollfd waiting{descriptor, POLLIN, 0};
+        if (poll(&waiting, 1, 100) <= 0)
+            continue;
+        char letter = 0;
+        if (read(descriptor, &letter, 1) != 1)
+            break;
+        if (letter == '\n')
+            return line;
+        line += letter;
+    }
+    return {};
+}
+
+// Whether the X server has this property on its root window or an owner of the selection of that name.
+bool rootHas(const QByteArray& display, const char* name, bool selection) {
+    xcb_connection_t* connection = xcb_connect(display.constData(), nullptr);
+    bool found = false;
+    if (!xcb_connection_has_error(connection)) {
+        const auto root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+        auto* atom = xcb_intern_atom_reply(connection, xcb_intern_atom(connection, 0, qstrlen(name), name), nullptr);
+        if (atom && selection) {
+            auto* owner =
+                xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, atom->atom), nullptr);
+            found = owner && owner->owner != XCB_NONE;
+            free(owner);
+        } else if (atom) {
+            auto* property = xcb_get_property_reply(
+                connection, xcb_get_property(connection, 0, root, atom->atom, XCB_ATOM_WINDOW, 0, 1), nullptr);
+            found = property && xcb_get_property_value_length(property) > 0;
+            free(property);
+        }
+        free(atom);
+    }
+    xcb_disconnect(connection);
+    return found;
+}
+
+bool eventually(const std::function<bool()>& condition, int deadlineMs = 20000) {
+    QElapsedTimer timer;
+    timer.start();
+    while (!condition()) {
+        if (timer.elapsed() > deadlineMs)
+            return false;
+        QThread::msleep(10);
+    }
+    return true;
+}
+
+} // namespace
+
+struct XvfbSession::Private {
+    QTemporaryDir folder;
+    QByteArray display;
+    QString problem;
+    std::vector<std::unique_ptr<QProcess>> processes; // in the order of their start
+
+    QProcess* start(const QString& program, const QStringList& arguments) {
+        auto process = std::make_unique<QProcess>();
+        process->setStandardErrorFile(folder.filePath(program + u".log"_s));
+        // A test that crashes leaves nothing running behind it.
+        process->setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
+        process->start(program, arguments);
+        if (!process->waitForStarted(10000)) {
+            problem = program + u" does not start: "_s + process->errorString();
+            return nullptr;
+        }
+        processes.push_back(std::move(process));
+        return processes.back().get();
+    }
+
+    bool startServer() {
+        int ends[2] = {-1, -1};
+        if (pipe(ends) != 0)
+            return false;
+        auto* server = start(u"Xvfb"_s, {u"-displayfd"_s, QString::number(ends[1]), u"-screen"_s, u"0"_s,
+                                         u"1280x1000x24"_s, u"-nolisten"_s, u"tcp"_s, u"-noreset"_s});
+        close(ends[1]);
+        if (server)
+            display = ":" + readLine(ends[0], 30000);
+        close(ends[0]);
+        if (server && display == ":")
+            problem = u"Xvfb names no display"_s;
+        return problem.isEmpty();
+    }
+
+    bool startBus() {
+        const QString config = folder.filePath(u"bus.conf"_s);
+        QFile file(config);
+        if (!file.open(QIODevice::WriteOnly))
+            return false;
+        // No folders of services: nothing of the machine's own desktop is started into the tests.
+        file.write("<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\" "
+                   "\"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\"><busconfig><type>session</type>"
+                   "<listen>unix:dir=" +
+                   QFile::encodeName(folder.path()) +
+                   "</listen><policy context=\"default\"><allow send_destination=\"*\" eavesdrop=\"true\"/>"
+                   "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>");
+        file.close();
+        auto* bus = start(u"dbus-daemon"_s, {u"--config-file="_s + config, u"--nofork"_s, u"--print-address"_s});
+        if (!bus)
+            return false;
+        QElapsedTimer timer;
+        timer.start();
+        while (!bus->canReadLine() && timer.elapsed() < 20000)
+            bus->waitForReadyRead(200);
+        const QByteArray address = bus->readLine().trimmed();
+        if (address.isEmpty())
+            problem = u"dbus-daemon names no address"_s;
+        qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+        return problem.isEmpty();
+    }
+
+    bool startWindowManager() {
+        if (!start(u"openbox"_s, {u"--sm-disable"_s}))
+            return false;
+        if (!eventually([this] { return rootHas(display, "_NET_SUPPORTING_WM_CHECK", false); }))
+            problem = u"openbox does not take the screen"_s;
+        return problem.isEmpty();
+    }
+};
+
+XvfbSession::XvfbSession() : d(std::make_unique<Private>()) {
+    session = this;
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(d->folder.path()));
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    qunsetenv("WAYLAND_DISPLAY");
+    if (!d->startServer())
+        return;
+    qputenv("DISPLAY", d->display);
+    if (d->startBus())
+        d->startWindowManager();
+}
+
+XvfbSession::~XvfbSession() {
+    for (auto process = d->processes.rbegin(); process != d->processes.rend(); ++process) {
+        (*process)->terminate();
+        if (!(*process)->waitForFinished(3000)) {
+            (*process)->kill();
+            (*process)->waitForFinished(3000);
+        }
+    }
+    session = nullptr;
+}
+
+XvfbSession* XvfbSession::current() {
+    return session;
+}
+
+QString XvfbSession::problem() const {
+    return d->problem;
+}
+
+QString XvfbSession::display() const {
+    return QString::fromLatin1(d->display);
+}
+
+bool XvfbSession::startTray() {
+    return d->start(u"trayer"_s, {u"--edge"_s, u"bottom"_s, u"--widthtype"_s, u"request"_s}) &&
+           eventually([this] { return rootHas(d->display, "_NET_SYSTEM_TRAY_S0", true); });
+}
+
+bool XvfbSession::xdotool(const QStringList& arguments) const {
+    QProcess process;
+    process.start(u"xdotool"_s, arguments);
+    return process.waitForFinished(20000) && process.exitCode() == 0;
+}
+
+QString XvfbSession::xdotoolOutput(const QStringList& arguments) const {
+    QProcess process;
+    process.start(u"xdotool"_s, arguments);
+    process.waitForFinished(20000);
+    return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+}

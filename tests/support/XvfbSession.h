@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+/// A desktop of its own for tests with real keys and real windows: an X server without a screen, a session bus and a
+/// window manager, each in a private folder, and each ended by its process id when the object goes (or when the test
+/// dies, however it dies). The constructor sets DISPLAY, QT_QPA_PLATFORM and DBUS_SESSION_BUS_ADDRESS, so it stands
+/// before the QApplication.
+class XvfbSession {
+public:
+    XvfbSession();
+    ~XvfbSession();
+    XvfbSession(const XvfbSession&) = delete;
+    XvfbSession& operator=(const XvfbSession&) = delete;
+
+    /// The session that runs now; null outside of tests with a display.
+    static XvfbSession* current();
+
+    /// Why there is no session; empty when there is one.
+    [[nodiscard]] QString problem() const;
+    [[nodiscard]] QString display() const; ///< ":7"
+    /// A system tray; returns when it owns the tray selection.
+    [[nodiscard]] bool startTray();
+    /// Runs xdotool with @p arguments and waits for it.
+    bool xdotool(const QStringList& arguments) const;
+    /// What it prints, trimmed.
+    [[nodiscard]] QString xdotoolOutput(const QStringList& arguments) const;
+
+private:
+    struct Private;
+    std::unique_ptr<Private> d;
+};
