@@ -4,6 +4,7 @@
 
 #include "Platform/Audio/PrivateSession.h"
 #include "Platform/Desktop/linux/LinuxDesktop.h"
+#include "Platform/Desktop/linux/PortalColorScheme.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/linux/LinuxFoundation.h"
 
@@ -15,6 +16,7 @@ struct LinuxServices::Private {
     std::unique_ptr<Clock> clock;
     std::unique_ptr<Workspace> workspace;
     std::unique_ptr<Alerts> alerts;
+    std::unique_ptr<ColorScheme> colorScheme;
 };
 
 LinuxServices::LinuxServices() : d(std::make_unique<Private>()) {
@@ -22,12 +24,15 @@ LinuxServices::LinuxServices() : d(std::make_unique<Private>()) {
 
 LinuxServices::~LinuxServices() = default;
 
-void LinuxServices::install(Mode) {
+void LinuxServices::install(Mode mode) {
     Services& set = services();
     set.bundle = (d->bundle = createBundle()).get();
     set.clock = (d->clock = createClock()).get();
     set.workspace = (d->workspace = createWorkspace()).get();
     set.alerts = (d->alerts = createCommandLineAlerts()).get();
+    if (mode == Mode::CommandLine)
+        return;
+    set.colorScheme = (d->colorScheme = createColorScheme()).get();
 }
 
 bool LinuxServices::startAudio(QString& why) {
