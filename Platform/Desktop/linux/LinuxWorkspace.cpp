@@ -37,9 +37,8 @@ public:
         const QString folder = file.absolutePath();
         if (!file.exists())
             return QFileInfo(folder).isDir() && openWithDefault(folder);
-        const QDBusConnection bus = busAddress_.isEmpty()
-                                        ? QDBusConnection::sessionBus()
-                                        : QDBusConnection::connectToBus(busAddress_, QStringLiteral("sonaphex"));
+        const QDBusConnection bus = busAddress_.isEmpty() ? QDBusConnection::sessionBus()
+                                                          : QDBusConnection::connectToBus(busAddress_, busAddress_);
         if (!bus.isConnected())
             return openWithDefault(folder);
         // A call by hand, not through an interface object: that one asks the other side first, and waits.

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Foundation/linux/LinuxFoundation.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <chrono>
+
+TEST(Bundle, FindsItsResourcesBesideTheProgramFirst) {
+    QTemporaryDir dir;
+    QDir(dir.path()).mkpath(QStringLiteral("bin"));
+    const QString bin = dir.filePath(QStringLiteral("bin"));
+    EXPECT_EQ(Platform::createBundle(bin)->resourcePath(), dir.filePath(QStringLiteral("share/sonaphex")));
+    QDir(bin).mkpath(QStringLiteral("Resources"));
+    const auto bundle = Platform::createBundle(bin);
+    EXPECT_EQ(bundle->resourcePath(), bin + QStringLiteral("/Resources"));
+    EXPECT_EQ(bundle->pathForResource(QStringLiteral("SetArtWork")), bin + QStringLiteral("/Resources/SetArtWork"));
+    EXPECT_EQ(bundle->bundleIdentifier(), QStringLiteral("com.korvane.Sonaphex"));
+}
+
+TEST(Bundle, KnowsTheFolderOfTheRunningProgram) {
+    EXPECT_TRUE(Platform::createBundle()->resourcePath().startsWith(QStringLiteral(SONAPHEX_BIN_DIR)));
+}
+
+TEST(Clock, CountsFromTheFirstDayOfTwoThousandAndOne) {
+    const auto clock = Platform::createClock();
+    const QDateTime reference(QDate(2001, 1, 1), QTime(0, 0), Qt::UTC);
+    const double expected = double(reference.msecsTo(QDateTime::currentDateTimeUtc())) / 1000.0;
+    EXPECT_NEAR(clock->timeIntervalSinceReferenceDate(), expected, 5.0);
+    EXPECT_NEAR(double(clock->now().secsTo(QDateTime::currentDateTime())), 0.0, 5.0);
+}
+
+TEST(Clock, AnswersTheCaptureTimeInsideACycle) {
+    const auto clock = Platform::createClock();
+    const auto before = clock->hostTime();
+    {
+        const Platform::HostTimeScope cycle(42);
+        EXPECT_EQ(clock->hostTime(), 42U);
+        {
+            const Platform::HostTimeScope inner(43);
+            EXPECT_EQ(clock->hostTime(), 43U);
+        }
+        EXPECT_EQ(clock->hostTime(), 42U);
+    }
+    EXPECT_GE(clock->hostTime(), before);
+}

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+
+#include <optional>
+#include <string>
+
+/// Sets an environment variable and puts its old value back at the end of the scope.
+class EnvironmentScope {
+public:
+    EnvironmentScope(const char* name, const QByteArray& value) : name_(name) {
+        if (qEnvironmentVariableIsSet(name))
+            before_ = qgetenv(name);
+        qputenv(name, value);
+    }
+    /// Takes the variable away.
+    explicit EnvironmentScope(const char* name) : EnvironmentScope(name, QByteArray()) { qunsetenv(name); }
+    ~EnvironmentScope() {
+        if (before_)
+            qputenv(name_.c_str(), *before_);
+        else
+            qunsetenv(name_.c_str());
+    }
+    EnvironmentScope(const EnvironmentScope&) = delete;
+    EnvironmentScope& operator=(const EnvironmentScope&) = delete;
+
+private:
+    std::string name_;
+    std::optional<QByteArray> before_;
+};
