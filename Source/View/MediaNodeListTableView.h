@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QTableView>
+
+class QMenu;
+
+/// Gives a table's context menu. Not owned by the table.
+class MediaNodeListTableViewDelegate {
+public:
+    virtual ~MediaNodeListTableViewDelegate() = default;
+    /// Null for no menu.
+    virtual QMenu* menuForEvent(QContextMenuEvent& /*event*/) { return nullptr; }
+};
+
+/// The table of the library: a context click outside the selection selects the row under the pointer alone before the
+/// menu is asked of the delegate.
+class MediaNodeListTableView : public QTableView {
+    Q_OBJECT
+public:
+    explicit MediaNodeListTableView(QWidget* parent = nullptr);
+
+    void setMenuDelegate(MediaNodeListTableViewDelegate* delegate) { delegate_ = delegate; }
+    /// Sentence that is shown while the table has no rows; empty for none.
+    void setEmptyText(const QString& text);
+
+    /// Settles the selection for a context click and answers the menu to show.
+    QMenu* menuForEvent(QContextMenuEvent& event);
+
+protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    MediaNodeListTableViewDelegate* delegate_ = nullptr;
+    QString emptyText_;
+};

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QAbstractButton>
+
+/// A button that is a named image and nothing else, with another image while it is pressed.
+class TransportButton : public QAbstractButton {
+    Q_OBJECT
+public:
+    explicit TransportButton(QWidget* parent = nullptr);
+
+    [[nodiscard]] QString image() const { return image_; }
+    void setImage(const QString& name);
+    [[nodiscard]] QString pressedImage() const { return pressedImage_; }
+    /// Empty: the image itself, a little smaller.
+    void setPressedImage(const QString& name);
+    /// Side of the image in points.
+    void setImageSize(int points);
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+private:
+    QString image_;
+    QString pressedImage_;
+    int imageSize_ = 36;
+};

@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/WndController/LibraryOutlineModel.h"
+
+#include "Source/Model/MediaLibrary.h"
+#include "Source/View/NamedImages.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+
+namespace {
+
+QFont systemFont(int size) {
+    QFont font = QGuiApplication::font();
+    font.setPixelSize(size);
+    return font;
+}
+
+} // namespace
+
+LibraryOutlineModel::LibraryOutlineModel(MediaLibrary& library, QObject* parent)
+    : QAbstractItemModel(parent), library_(library) {
+    learnParents(library_.rootNode());
+    connect(&library_, &MediaLibrary::entryInserted, this, &LibraryOutlineModel::announceCount);
+    connect(&library_, &MediaLibrary::entryRemoved, this, &LibraryOutlineModel::announceCount);
+    connect(&library_, &MediaLibrary::leafReset, this, &LibraryOutlineModel::announceCount);
+}
+
+void LibraryOutlineModel::reset() {
+    beginResetModel();
+    parents_.clear();
+    learnParents(library_.rootNode());
+    endResetModel();
+}
+
+void LibraryOutlineModel::learnParents(const MediaLibraryNode& node) {
+    for (const auto& child : node.nonLeafNode()) {
+        parents_.insert(child.get(), &node);
+        learnParents(*child);
+    }
+}
+
+const MediaLibraryNode* LibraryOutlineModel::node(const QModelIndex& index) const {
+    return index.isValid() ? static_cast<const MediaLibraryNode*>(index.constInternalPointer()) : &library_.rootNode();
+}
+
+QModelIndex LibraryOutlineModel::indexOf(const MediaLibraryNode* node, int column) const {
+    const MediaLibraryNode* above = parents_.value(node);
+    if (!above)
+        return {};
+    const auto& rows = above->nonLeafNode();
+    const auto found = std::find_if(rows.begin(), rows.end(), [&](const auto& each) { return each.get() == node; });
+    return createIndex(static_cast<int>(found - rows.begin()), column, node);
+}
+
+QModelIndex LibraryOutlineModel::indexOfKey(const QString& key) const {
+    for (auto it = parents_.cbegin(); it != parents_.cend(); ++it)
+        if (it.key()->isLeaf() && it.key()->key() == key)
+            return indexOf(it.key());
+    return {};
+}
+
+bool LibraryOutlineModel::isGroup(const MediaLibraryNode* node) const {
+    return node && parents_.value(node) == &library_.rootNode();
+}
+
+LibraryOutlineModel::AttributedString
+LibraryOutlineModel::mediaLibraryNodeGroupTitleString(const MediaLibraryNode& node) {
+    return {node.name().isNull() ? QStringLiteral("") : node.name(), systemFont(14), {}, true};
+}
+
+LibraryOutlineModel::AttributedString LibraryOutlineModel::mediaLibraryNodeTitleString(const MediaLibraryNode& node) {
+    return {QStringLiteral(" ") + QStringLiteral(" %1").arg(node.name()), systemFont(12), node.icon(), false};
+}
+
+QModelIndex LibraryOutlineModel::index(int row, int column, const QModelIndex& parent) const {
+    const auto& rows = node(parent)->nonLeafNode();
+    if (row < 0 || row >= static_cast<int>(rows.size()) || column < 0 || column >= ColumnCount)
+        return {};
+    return createIndex(row, column, rows[static_cast<std::size_t>(row)].get());
+}
+
+QModelIndex LibraryOutlineModel::parent(const QModelIndex& index) const {
+    if (!index.isValid())
+        return {};
+    const MediaLibraryNode* above = parents_.value(node(index));
+    return above && above != &library_.rootNode() ? indexOf(above) : QModelIndex();
+}
+
+int LibraryOutlineModel::rowCount(const QModelIndex& parent) const {
+    return parent.column() > 0 ? 0 : static_cast<int>(node(parent)->nonLeafNode().size());
+}
+
+int LibraryOutlineModel::columnCount(const QModelIndex&) const {
+    return ColumnCount;
+}
+
+Qt::ItemFlags LibraryOutlineModel::flags(const QModelIndex& index) const {
+    if (!index.isValid())
+        return Qt::NoItemFlags;
+    return isGroup(node(index)) ? Qt::ItemIsEnabled : Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+}
+
+QVariant LibraryOutlineModel::data(const QModelIndex& index, int role) const {
+    if (!index.isValid())
+        return {};
+    const MediaLibraryNode& here = *node(index);
+    const bool group = isGroup(&here);
+    if (role == GroupRole)
+        return group;
+    if (role == NodeKeyRole)
+        return here.key();
+    if (role == Qt::ToolTipRole || role == Qt::AccessibleTextRole)
+        return index.column() == Name
+                   ? here.name()
+                   : (here.isLeaf() ? tr("%n recording(s)", nullptr, static_cast<int>(here.leafNode().size()))
+                                    : QString());
+    if (index.column() == Count)
+        return role == Qt::DisplayRole && here.isLeaf() ? QVariant(QString::number(here.leafNode().size()))
+                                                        : QVariant();
+    const AttributedString title = group ? mediaLibraryNodeGroupTitleString(here) : mediaLibraryNodeTitleString(here);
+    switch (role) {
+    case Qt::DisplayRole:
+        return title.text;
+    case Qt::FontRole:
+        return title.font;
+    case Qt::ForegroundRole:
+        return title.grey ? QVariant(QGuiApplication::palette().brush(QPalette::Disabled, QPalette::WindowText))
+                          : QVariant();
+    case Qt::DecorationRole:
+        return title.icon.isEmpty() ? QVariant() : QVariant(NamedImages::icon(title.icon));
+    default:
+        return {};
+    }
+}
+
+QVariant LibraryOutlineModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return {};
+    return section == Name ? tr("Library") : tr("Files");
+}
+
+void LibraryOutlineModel::announceCount(const QString& leafKey) {
+    const QModelIndex name = indexOfKey(leafKey);
+    if (name.isValid())
+        Q_EMIT dataChanged(name.siblingAtColumn(Count), name.siblingAtColumn(Count));
+}
