@@ -1,0 +1,212 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Audio/linux/LinuxPrivateSession.h"
+
+#include "Platform/Audio/linux/ServerProbe.h"
+#include "Platform/Foundation/Bundle.h"
+#include "Platform/Foundation/Services.h"
+
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <vector>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <fcntl.h>
+#include <poll.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace Platform {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString resourceFolder() {
+    if (const auto* bundle = services().bundle)
+        return bundle->resourcePath();
+    const QString beside = QCoreApplication::applicationDirPath() + u"/Resources"_s;
+    return QFileInfo::exists(beside) ? beside : QCoreApplication::applicationDirPath() + u"/../share/sonaphex"_s;
+}
+
+/// The address of a socket holds 107 characters: a long folder is of no use.
+QString baseFolder() {
+    for (const QString& each : {qEnvironmentVariable("XDG_RUNTIME_DIR"), qEnvironmentVariable("TMPDIR"), u"/tmp"_s}) {
+        const QFileInfo info(each);
+        if (!each.isEmpty() && each.toLocal8Bit().size() < 70 && info.isAbsolute() && info.isDir() && info.isWritable())
+            return each;
+    }
+    return u"/tmp"_s;
+}
+
+void closeFd(int& fd) {
+    if (fd >= 0)
+        close(fd);
+    fd = -1;
+}
+
+} // namespace
+
+bool PrivateSession::serverAnswers() {
+    return PipeWire::serverIsThere(1000);
+}
+
+std::unique_ptr<PrivateSession> PrivateSession::start(QString& why) {
+    const QString resources = resourceFolder();
+    LinuxPrivateSession::Options options;
+    options.programs = {resources + u"/ToneSource"_s, resources + u"/CaptureDriver"_s};
+    options.expectedSource = "sonaphex.tone";
+    return LinuxPrivateSession::start(options, why);
+}
+
+std::unique_ptr<LinuxPrivateSession> LinuxPrivateSession::start(const Options& options, QString& why) {
+    const QString resources = resourceFolder();
+    const QString keeper = resources + u"/AudioSessionKeeper"_s;
+    QStringList arguments = {keeper, QString::number(getpid()), baseFolder(), resources + u"/AudioSession"_s};
+    for (const QString& name : {u"pipewire"_s, u"wireplumber"_s}) {
+        const QString path = QStandardPaths::findExecutable(name);
+        if (path.isEmpty()) {
+            why = u"%1 is not installed: no sound server answers and none can be started"_s.arg(name);
+            return nullptr;
+        }
+        arguments << path;
+    }
+    for (const QString& each : options.programs) {
+        if (QFileInfo(each).isExecutable())
+            arguments << each;
+    }
+
+    std::unique_ptr<LinuxPrivateSession> session(new LinuxPrivateSession);
+    session->expectedSource_ = options.expectedSource;
+    if (!session->spawnKeeper(arguments, why))
+        return nullptr;
+    const QByteArray line = session->readLine(8000);
+    if (!line.startsWith("ready ")) {
+        why = line.startsWith("failed ") ? QString::fromLocal8Bit(line.mid(7))
+                                         : u"the private sound server did not start"_s;
+        return nullptr;
+    }
+    session->runtimeFolder_ = QString::fromLocal8Bit(line.mid(6));
+    session->hadRuntimeFolder_ = qEnvironmentVariableIsSet("PIPEWIRE_RUNTIME_DIR");
+    session->previousRuntimeFolder_ = qgetenv("PIPEWIRE_RUNTIME_DIR");
+    qputenv("PIPEWIRE_RUNTIME_DIR", line.mid(6));
+    // A remote named by the user would be looked for in our folder.
+    qunsetenv("PIPEWIRE_REMOTE");
+    if (!PipeWire::serverIsThere(8000, true, options.expectedSource)) {
+        why = u"the private sound server came up without its devices"_s;
+        return nullptr;
+    }
+    return session;
+}
+
+bool LinuxPrivateSession::spawnKeeper(const QStringList& arguments, QString& why) {
+    int input[2] = {-1, -1};
+    int output[2] = {-1, -1};
+    if (pipe2(input, O_CLOEXEC) != 0 || pipe2(output, O_CLOEXEC) != 0) {
+        why = QString::fromLocal8Bit(strerror(errno));
+        closeFd(input[0]);
+        closeFd(input[1]);
+        return false;
+    }
+    toKeeper_ = input[1];
+    fromKeeper_ = output[0];
+
+    std::vector<QByteArray> bytes;
+    for (const QString& each : arguments)
+        bytes.push_back(each.toLocal8Bit());
+    std::vector<char*> argv;
+    for (auto& each : bytes)
+        argv.push_back(each.data());
+    argv.push_back(nullptr);
+
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, input[0], STDIN_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, output[1], STDOUT_FILENO);
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    sigset_t none;
+    sigemptyset(&none);
+    posix_spawnattr_setsigmask(&attributes, &none);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
+    const int result = posix_spawn(&keeper_, argv[0], &actions, &attributes, argv.data(), environ);
+    posix_spawnattr_destroy(&attributes);
+    posix_spawn_file_actions_destroy(&actions);
+    closeFd(input[0]);
+    closeFd(output[1]);
+    if (result != 0) {
+        keeper_ = -1;
+        why = u"%1: %2"_s.arg(arguments.first(), QString::fromLocal8Bit(strerror(result)));
+    }
+    return result == 0;
+}
+
+QByteArray LinuxPrivateSession::readLine(int deadlineMs) {
+    QElapsedTimer timer;
+    timer.start();
+    for (;;) {
+        if (const auto end = unread_.indexOf('\n'); end >= 0) {
+            const QByteArray line = unread_.left(end);
+            unread_.remove(0, end + 1);
+            return line;
+        }
+        const int left = deadlineMs - int(timer.elapsed());
+        pollfd watch = {fromKeeper_, POLLIN, 0};
+        if (left <= 0 || (poll(&watch, 1, left) < 0 && errno != EINTR))
+            return {};
+        if (!watch.revents)
+            continue;
+        char block[512];
+        const auto count = read(fromKeeper_, block, sizeof block);
+        if (count <= 0)
+            return {};
+        unread_.append(block, count);
+    }
+}
+
+bool LinuxPrivateSession::stopServer() {
+    if (write(toKeeper_, "s", 1) != 1)
+        return false;
+    for (QByteArray line; !(line = readLine(5000)).isEmpty();) {
+        if (line == "stopped")
+            return true;
+    }
+    return false;
+}
+
+bool LinuxPrivateSession::startServer() {
+    return write(toKeeper_, "r", 1) == 1 && readLine(8000).startsWith("ready ") &&
+           PipeWire::serverIsThere(8000, true, expectedSource_);
+}
+
+LinuxPrivateSession::~LinuxPrivateSession() {
+    closeFd(toKeeper_);
+    if (keeper_ > 0) {
+        QElapsedTimer timer;
+        timer.start();
+        while (waitpid(keeper_, nullptr, WNOHANG) == 0) {
+            if (timer.elapsed() > 3000) {
+                kill(keeper_, SIGKILL); // its children die with it
+                waitpid(keeper_, nullptr, 0);
+                break;
+            }
+            usleep(1000);
+        }
+    }
+    closeFd(fromKeeper_);
+    if (!runtimeFolder_.isEmpty()) {
+        QDir(runtimeFolder_).removeRecursively();
+        if (hadRuntimeFolder_)
+            qputenv("PIPEWIRE_RUNTIME_DIR", previousRuntimeFolder_);
+        else
+            qunsetenv("PIPEWIRE_RUNTIME_DIR");
+    }
+}
+
+} // namespace Platform

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Audio/PrivateSession.h"
+
+#include <QByteArray>
+#include <QStringList>
+#include <sys/types.h>
+
+namespace Platform {
+
+/// The owner's end of the session keeper, a helper process that runs the server and ends with us. Main thread.
+class LinuxPrivateSession final : public PrivateSession {
+public:
+    struct Options {
+        /// Programs beside the server and its manager, each with the path of its file; a missing file is left out.
+        QStringList programs;
+        /// The input device to wait for, by node.name; empty waits for the output alone.
+        QByteArray expectedSource;
+    };
+
+    ~LinuxPrivateSession() override;
+    LinuxPrivateSession(const LinuxPrivateSession&) = delete;
+    LinuxPrivateSession& operator=(const LinuxPrivateSession&) = delete;
+
+    /// See PrivateSession::start().
+    [[nodiscard]] static std::unique_ptr<LinuxPrivateSession> start(const Options& options, QString& why);
+
+    [[nodiscard]] QString runtimeFolder() const override { return runtimeFolder_; }
+    /// Takes the server down, and up again in the same folder: what a crash or an upgrade of it looks like.
+    bool stopServer();
+    bool startServer();
+    [[nodiscard]] pid_t keeper() const { return keeper_; }
+
+private:
+    LinuxPrivateSession() = default;
+    bool spawnKeeper(const QStringList& arguments, QString& why);
+    /// The keeper's next line; empty when none came in time.
+    [[nodiscard]] QByteArray readLine(int deadlineMs);
+
+    pid_t keeper_ = -1;
+    int toKeeper_ = -1;
+    int fromKeeper_ = -1;
+    QByteArray unread_;
+    QString runtimeFolder_;
+    QByteArray expectedSource_;
+    bool hadRuntimeFolder_ = false;
+    QByteArray previousRuntimeFolder_;
+};
+
+} // namespace Platform

@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+
+namespace Platform::PipeWire {
+
+/// Connects with a connection of its own and waits until the server answered; with @p sink also until there is a
+/// default output, with a @p source named also until that node has a port. False when @p deadlineMs went by first.
+[[nodiscard]] bool serverIsThere(int deadlineMs, bool sink = false, const QByteArray& source = {});
+
+} // namespace Platform::PipeWire

@@ -1,0 +1,171 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Audio/PrivateSession.h"
+
+#include "tests/support/PrivateAudioSession.h"
+#include "tests/support/TestCapture.h"
+#include "tests/support/TestSource.h"
+#include "tests/support/WaitFor.h"
+
+#include <csignal>
+#include <cstdlib>
+
+#include <QDir>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Platform;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Processes whose command line names the folder of a session or that have it in their environment.
+QStringList processesOf(const QString& runtimeFolder) {
+    QStringList found;
+    const QByteArray needle = "PIPEWIRE_RUNTIME_DIR=" + runtimeFolder.toLocal8Bit();
+    for (const QString& pid : QDir(u"/proc"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QFile environment(u"/proc/"_s + pid + u"/environ"_s);
+        if (pid.toInt() != getpid() && environment.open(QIODevice::ReadOnly) &&
+            environment.readAll().split('\0').contains(needle))
+            found << pid;
+    }
+    return found;
+}
+
+/// Whether a sample of a ramp follows the one before it all the way.
+testing::AssertionResult isUnbrokenRamp(const std::vector<float>& interleaved, std::uint32_t channels) {
+    for (std::size_t i = channels; i + channels <= interleaved.size(); i += channels) {
+        const auto expected = (Signal::rampFrame(interleaved[i - channels], 0) + 1) & Signal::rampMask;
+        for (std::uint32_t c = 0; c < channels; ++c)
+            if (Signal::rampFrame(interleaved[i + c], c) != expected)
+                return testing::AssertionFailure() << "at frame " << i / channels << " channel " << c;
+    }
+    return testing::AssertionSuccess();
+}
+
+} // namespace
+
+TEST(PrivateSession, HasAnOutputAndAToneThatCanBeHeard) {
+    PrivateAudioSession::end();
+    QString why;
+    const auto session = PrivateSession::start(why);
+    ASSERT_TRUE(session) << why.toStdString();
+    EXPECT_TRUE(PrivateSession::serverAnswers());
+    TestCapture capture({.target = "sonaphex.tone", .monitor = false});
+    ASSERT_TRUE(capture.start());
+    EXPECT_TRUE(waitFor([&] { return std::abs(capture.recentPeak() - 0.2512f) < 0.001f; }));
+}
+
+TEST(PrivateSession, LeavesNothingWhenItIsClosed) {
+    PrivateAudioSession::end();
+    QString why;
+    auto session = PrivateSession::start(why);
+    ASSERT_TRUE(session) << why.toStdString();
+    const QString folder = session->runtimeFolder();
+    EXPECT_TRUE(QFileInfo::exists(folder));
+    EXPECT_GE(processesOf(folder).size(), 3);
+    session.reset();
+    EXPECT_FALSE(QFileInfo::exists(folder));
+    EXPECT_TRUE(processesOf(folder).isEmpty());
+}
+
+TEST(PrivateSession, EndsWithItsOwnerThatIsKilled) {
+    PrivateAudioSession::end();
+    QProcess owner;
+    owner.start(QCoreApplication::applicationFilePath(),
+                {u"--gtest_also_run_disabled_tests"_s, u"--gtest_filter=PrivateSession.DISABLED_OwnerThatWaits"_s});
+    QByteArray said;
+    ASSERT_TRUE(waitFor([&] {
+        owner.waitForReadyRead(10);
+        said += owner.readAllStandardOutput();
+        return said.contains("folder ") && said.mid(said.indexOf("folder ")).contains('\n');
+    }));
+    const QByteArray rest = said.mid(said.indexOf("folder ") + 7);
+    const QString folder = QString::fromLocal8Bit(rest.left(rest.indexOf('\n')));
+    ASSERT_TRUE(QFileInfo::exists(folder));
+    ASSERT_GE(processesOf(folder).size(), 3);
+    owner.kill();
+    ASSERT_TRUE(owner.waitForFinished());
+    EXPECT_TRUE(waitFor([&] { return processesOf(folder).isEmpty(); }));
+    EXPECT_TRUE(waitFor([&] { return !QFileInfo::exists(folder); }));
+}
+
+// Not a test by itself: the program that the test above kills.
+TEST(PrivateSession, DISABLED_OwnerThatWaits) {
+    QString why;
+    const auto session = PrivateSession::start(why);
+    ASSERT_TRUE(session) << why.toStdString();
+    printf("folder %s\n", qPrintable(session->runtimeFolder()));
+    fflush(stdout);
+    (void)waitFor([] { return false; }, 60000);
+}
+
+TEST(PrivateSession, ServerDiesWithAKeeperThatIsKilled) {
+    PrivateAudioSession::end();
+    QString why;
+    auto session = LinuxPrivateSession::start({}, why);
+    ASSERT_TRUE(session) << why.toStdString();
+    const QString folder = session->runtimeFolder();
+    kill(session->keeper(), SIGKILL);
+    EXPECT_TRUE(waitFor([&] { return processesOf(folder).isEmpty(); }));
+    session.reset();
+    EXPECT_FALSE(QFileInfo::exists(folder));
+}
+
+TEST(PrivateSession, NamesThePackageThatIsMissing) {
+    PrivateAudioSession::end();
+    const QByteArray path = qgetenv("PATH");
+    const QTemporaryDir bare;
+    qputenv("PATH", bare.path().toLocal8Bit());
+    QString why;
+    EXPECT_FALSE(PrivateSession::start(why));
+    EXPECT_TRUE(why.startsWith(u"pipewire is not installed"_s)) << why.toStdString();
+    ASSERT_TRUE(QFile::link(u"/usr/bin/pipewire"_s, bare.filePath(u"pipewire"_s)));
+    EXPECT_FALSE(PrivateSession::start(why));
+    EXPECT_TRUE(why.startsWith(u"wireplumber is not installed"_s)) << why.toStdString();
+    qputenv("PATH", path);
+}
+
+TEST(PrivateSession, HearsNoServerWhereThereIsNone) {
+    PrivateAudioSession::end();
+    const QTemporaryDir bare;
+    qputenv("PIPEWIRE_RUNTIME_DIR", bare.path().toLocal8Bit());
+    EXPECT_FALSE(PrivateSession::serverAnswers());
+    qunsetenv("PIPEWIRE_RUNTIME_DIR");
+}
+
+TEST(PrivateSession, PlaysTheRampOfATestSourceUnbroken) {
+    PrivateAudioSession::shared();
+    TestSource source({.name = "test.ramp", .rate = 44100});
+    ASSERT_TRUE(source.start());
+    TestCapture capture({.target = "test.ramp", .monitor = false, .rate = 44100});
+    ASSERT_TRUE(capture.start());
+    ASSERT_TRUE(waitFor([&] { return capture.frames() > 44100; }));
+    capture.stop();
+    auto samples = capture.interleaved();
+    // What came before the source's first frame is silence.
+    const auto first = std::ranges::find_if(samples, [](float value) { return value != 0; });
+    samples.erase(samples.begin(), samples.begin() + (first - samples.begin()) / 2 * 2);
+    EXPECT_TRUE(isUnbrokenRamp(samples, 2));
+}
+
+TEST(PrivateSession, CarriesAPlayerToTheMonitorOfItsOutput) {
+    PrivateAudioSession::shared();
+    TestCapture capture({});
+    ASSERT_TRUE(capture.start());
+    TestPlayer player({.content = TestSource::Content::Tone, .amplitude = 0.5});
+    ASSERT_TRUE(player.start());
+    EXPECT_TRUE(waitFor([&] { return std::abs(capture.recentPeak() - 0.5f) < 0.001f; }));
+    player.setContent(TestSource::Content::Silence);
+    EXPECT_TRUE(waitFor([&] { return capture.recentPeak() == 0; }));
+}
+
+TEST(PrivateSession, ComesBackInTheSameFolder) {
+    auto& session = PrivateAudioSession::shared();
+    ASSERT_TRUE(session.stopServer());
+    EXPECT_FALSE(PrivateSession::serverAnswers());
+    ASSERT_TRUE(session.startServer());
+    EXPECT_TRUE(PrivateSession::serverAnswers());
+}

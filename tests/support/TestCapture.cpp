@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/TestCapture.h"
+
+#include "Platform/Audio/linux/PipeWireHandles.h"
+
+#include <algorithm>
+#include <cmath>
+#include <mutex>
+
+#include <QElapsedTimer>
+#include <QThread>
+
+using namespace Platform::PipeWire;
+
+struct TestCapture::Connection {
+    explicit Connection(const Options& o) : options(o) {}
+    ~Connection() {
+        if (!loop)
+            return;
+        {
+            LoopLock lock(loop.get());
+            listener.remove();
+            stream.reset();
+            core.reset();
+        }
+        pw_thread_loop_stop(loop.get());
+    }
+
+    bool start() {
+        initialiseLibrary();
+        loop.reset(pw_thread_loop_new("test-capture", nullptr));
+        context.reset(pw_context_new(pw_thread_loop_get_loop(loop.get()), nullptr, 0));
+        if (!context || pw_thread_loop_start(loop.get()) < 0)
+            return false;
+        LoopLock lock(loop.get());
+        core.reset(pw_context_connect(context.get(), nullptr, 0));
+        if (!core)
+            return false;
+        auto* properties = pw_properties_new(PW_KEY_MEDIA_TYPE, "Audio", PW_KEY_MEDIA_CATEGORY, "Capture",
+                                             PW_KEY_TARGET_OBJECT, options.target.c_str(), PW_KEY_APP_ID,
+                                             "test.capture", "node.dont-reconnect", "true", nullptr);
+        pw_properties_setf(properties, PW_KEY_NODE_RATE, "1/%u", options.rate);
+        if (options.monitor)
+            pw_properties_set(properties, PW_KEY_STREAM_CAPTURE_SINK, "true");
+        stream.reset(pw_stream_new(core.get(), "test capture", properties));
+        // Not in real time, so it may lock: the process callback comes on the loop's thread.
+        static constexpr pw_stream_events events = {
+            .version = PW_VERSION_STREAM_EVENTS,
+            .process = [](void* data) { static_cast<Connection*>(data)->process(); },
+        };
+        pw_stream_add_listener(stream.get(), listener.get(), &events, this);
+        std::uint8_t memory[1024];
+        spa_pod_builder builder = SPA_POD_BUILDER_INIT(memory, sizeof memory);
+        spa_audio_info_raw format = {};
+        format.format = SPA_AUDIO_FORMAT_F32;
+        format.rate = options.rate;
+        format.channels = options.channels;
+        for (std::uint32_t i = 0; i < options.channels; ++i)
+            format.position[i] = options.channels == 1   ? std::uint32_t(SPA_AUDIO_CHANNEL_MONO)
+                                 : options.channels == 2 ? SPA_AUDIO_CHANNEL_FL + i
+                                                         : SPA_AUDIO_CHANNEL_AUX0 + i;
+        const spa_pod* params[] = {spa_format_audio_raw_build(&builder, SPA_PARAM_EnumFormat, &format)};
+        return pw_stream_connect(stream.get(), PW_DIRECTION_INPUT, PW_ID_ANY,
+                                 pw_stream_flags(PW_STREAM_FLAG_AUTOCONNECT | PW_STREAM_FLAG_MAP_BUFFERS), params,
+                                 1) >= 0;
+    }
+
+    void process() {
+        while (pw_buffer* buffer = pw_stream_dequeue_buffer(stream.get())) {
+            const spa_data& data = buffer->buffer->datas[0];
+            const auto* first =
+                reinterpret_cast<const float*>(static_cast<const char*>(data.data) + data.chunk->offset);
+            {
+                std::lock_guard guard(mutex);
+                samples.insert(samples.end(), first, first + data.chunk->size / sizeof(float));
+            }
+            pw_stream_queue_buffer(stream.get(), buffer);
+        }
+    }
+
+    const Options& options;
+    mutable std::mutex mutex;
+    std::vector<float> samples;
+    ThreadLoopPtr loop;
+    ContextPtr context;
+    CorePtr core;
+    StreamPtr stream;
+    Hook listener;
+};
+
+TestCapture::TestCapture(Options options) : options_(std::move(options)) {
+}
+TestCapture::~TestCapture() = default;
+
+testing::AssertionResult TestCapture::start() {
+    connection_ = std::make_unique<Connection>(options_);
+    if (!connection_->start())
+        return testing::AssertionFailure() << "cannot capture " << options_.target;
+    QElapsedTimer timer;
+    timer.start();
+    while (frames() == 0) {
+        if (timer.elapsed() > 10000)
+            return testing::AssertionFailure() << options_.target << " delivers nothing";
+        QThread::msleep(1);
+    }
+    return testing::AssertionSuccess();
+}
+
+void TestCapture::stop() {
+    if (!connection_)
+        return;
+    LoopLock lock(connection_->loop.get());
+    connection_->listener.remove();
+    connection_->stream.reset();
+}
+
+std::uint64_t TestCapture::frames() const {
+    std::lock_guard guard(connection_->mutex);
+    return connection_->samples.size() / options_.channels;
+}
+
+std::vector<float> TestCapture::interleaved() const {
+    std::lock_guard guard(connection_->mutex);
+    return connection_->samples;
+}
+
+float TestCapture::recentPeak(std::size_t frames) const {
+    std::lock_guard guard(connection_->mutex);
+    const auto& samples = connection_->samples;
+    const auto count = std::min(samples.size(), frames * options_.channels);
+    float peak = 0;
+    for (auto each = samples.end() - std::ptrdiff_t(count); each != samples.end(); ++each)
+        peak = std::max(peak, std::abs(*each));
+    return peak;
+}

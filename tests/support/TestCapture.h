@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+/// Captures what an output plays (its monitor) or what a device delivers, independently of the program under test.
+///
+///     TestCapture capture({.target = "sonaphex.output", .monitor = true});
+///     ASSERT_TRUE(capture.start());
+///     ... let something play ...
+///     const std::vector<float> samples = capture.interleaved();
+///
+/// An output that nobody plays into delivers silence all the same.
+class TestCapture {
+public:
+    struct Options {
+        std::string target = "sonaphex.output"; ///< node.name
+        bool monitor = true;                    ///< false for an input device
+        std::uint32_t rate = 48000;
+        std::uint32_t channels = 2;
+    };
+
+    explicit TestCapture(Options options);
+    ~TestCapture();
+    TestCapture(const TestCapture&) = delete;
+    TestCapture& operator=(const TestCapture&) = delete;
+
+    /// Waits until data flows.
+    [[nodiscard]] testing::AssertionResult start();
+    void stop();
+    [[nodiscard]] std::uint64_t frames() const;
+    /// All that was captured since start(). Any time.
+    [[nodiscard]] std::vector<float> interleaved() const;
+    /// The largest absolute value among the last @p frames frames.
+    [[nodiscard]] float recentPeak(std::size_t frames = 4800) const;
+
+private:
+    struct Connection;
+    Options options_;
+    std::unique_ptr<Connection> connection_;
+};
