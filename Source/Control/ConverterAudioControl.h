@@ -36,14 +36,24 @@ public:
 
     /// The first error of the output that was written last: the copy itself ignores it, its caller must not.
     [[nodiscard]] Platform::MediaError exportError() const { return exportError_; }
-    /// Told the share done (0 to 1) now and then, on the copying thread; answers false to stop the copy early.
+    /// Why the source of the last copy could not be opened, or the first thing that was damaged in it.
+    [[nodiscard]] Platform::MediaError sourceError() const { return sourceError_; }
+    /// Told the share done (0 to 1) now and then, on the copying thread. When it answers false the copy ends there: the
+    /// output is closed, converterFinish() is not sent, and the copy answers false.
     void setProgress(std::function<bool(double)> progress) { progress_ = std::move(progress); }
 
 private:
+    struct Source;
+    [[nodiscard]] bool openSource(const QString& path, Source& source);
+    void writeBlock(Source& source, std::uint32_t frames);
+    [[nodiscard]] bool goesOn(double share);
+    void finishSource(const Source& source);
+
     std::unique_ptr<Platform::ExtAudioFileWriter> outputAudioFile_;
     QString outputAudioFilePath_;
     AudioStreamBasicDescription actualOutputFormat_;
     ConverterAudioControlDelegate* delegate_ = nullptr;
     Platform::MediaError exportError_;
+    Platform::MediaError sourceError_;
     std::function<bool(double)> progress_;
 };

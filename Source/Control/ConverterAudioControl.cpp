@@ -1,0 +1,262 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/Control/ConverterAudioControl.h"
+
+#include "Platform/Desktop/Workspace.h"
+#include "Platform/Foundation/Services.h"
+#include "Source/Control/ClientFormat.h"
+
+#include <QFileInfo>
+#include <QLoggingCategory>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Q_LOGGING_CATEGORY(converterLog, "sonaphex.converter")
+
+/// Blocks between two reports of progress: about three quarters of a second of sound.
+constexpr int kBlocksPerReport = 64;
+
+void noteFileSystemChanged(const QString& path) {
+    if (auto* workspace = Platform::services().workspace)
+        workspace->noteFileSystemChanged(path);
+}
+
+std::uint32_t containerOf(int type) {
+    switch (type) {
+    case 0:
+        return kAudioFileWAVEType;
+    case 1:
+    case 3:
+        return kAudioFileM4AType;
+    case 2:
+        return kAudioFileCAFType;
+    default:
+        return 0;
+    }
+}
+
+} // namespace
+
+/// A source that is being copied, and the block that travels from it to the output.
+struct ConverterAudioControl::Source {
+    std::unique_ptr<Platform::ExtAudioFileReader> file;
+    double rate = 0;
+    ClientBlock block;
+    int blocks = 0;
+
+    /// Whole frames up to a time; what is left of a frame is cut off.
+    [[nodiscard]] std::int64_t frameAt(double seconds) const { return static_cast<std::int64_t>(rate * seconds); }
+    [[nodiscard]] bool timeToReport() { return ++blocks % kBlocksPerReport == 0; }
+};
+
+ConverterAudioControl::ConverterAudioControl() : actualOutputFormat_(clientFormat()) {
+}
+
+ConverterAudioControl::~ConverterAudioControl() = default;
+
+AudioStreamBasicDescription ConverterAudioControl::exportDescription(int type) {
+    AudioStreamBasicDescription format;
+    switch (type) {
+    case 0:
+        format.mSampleRate = 44100;
+        format.mFormatID = kAudioFormatLinearPCM;
+        format.mFormatFlags = kAudioFormatFlagIsSignedInteger | kAudioFormatFlagIsPacked;
+        format.mBytesPerPacket = 8;
+        // One packet of linear PCM holds one frame; who completes the description knows, and this value is kept.
+        format.mFramesPerPacket = 1024;
+        format.mBytesPerFrame = 8;
+        format.mChannelsPerFrame = 2;
+        format.mBitsPerChannel = 32;
+        if (auto* files = Platform::services().mediaFiles)
+            files->completeFormat(format);
+        break;
+    case 1:
+    case 2:
+    case 3:
+        format.mSampleRate = 44100;
+        format.mFormatID = kAudioFormatMPEG4AAC;
+        format.mFramesPerPacket = 1024;
+        format.mChannelsPerFrame = 2;
+        break;
+    default:
+        break;
+    }
+    return format;
+}
+
+bool ConverterAudioControl::createOutPutFile(const QString& path, int type) {
+    if (type == 3)
+        type = 1;
+    if (outputAudioFile_)
+        closeExportFile();
+    exportError_ = {};
+    outputAudioFilePath_ = path;
+
+    auto* files = Platform::services().mediaFiles;
+    const auto folder = QFileInfo(path).path();
+    if (!files || !QFileInfo(folder).isDir()) {
+        exportError_ = {Platform::MediaError::Kind::NotFound, u"%1: no such folder"_s.arg(folder)};
+        return false;
+    }
+
+    auto file =
+        files->createWriter(path, containerOf(type), exportDescription(type), kAudioFileFlags_EraseFile, exportError_);
+    if (!file) {
+        if (!exportError_)
+            exportError_ = {Platform::MediaError::Kind::Other, u"%1 cannot be written"_s.arg(path)};
+        return false;
+    }
+    // Kept from here on, also when the next step fails: the owner closes it or begins another.
+    outputAudioFile_ = std::move(file);
+    if (outputAudioFile_->setClientDataFormat(actualOutputFormat_) != noErr) {
+        exportError_ = outputAudioFile_->firstError();
+        return false;
+    }
+    if (actualOutputFormat_.mChannelsPerFrame == 2 && outputAudioFile_->hasAudioConverter()) {
+        // Both channels of the file carry the first one of the source, on purpose.
+        constexpr std::array<std::int32_t, 2> firstChannelTwice{0, 0};
+        outputAudioFile_->setConverterChannelMap(firstChannelTwice);
+    }
+    return true;
+}
+
+bool ConverterAudioControl::openSource(const QString& path, Source& source) {
+    sourceError_ = {};
+    auto* files = Platform::services().mediaFiles;
+    if (!files || !QFileInfo::exists(path)) {
+        sourceError_ = {Platform::MediaError::Kind::NotFound, u"%1: no such file"_s.arg(path)};
+        return false;
+    }
+    source.file = files->openReader(path, sourceError_);
+    if (!source.file) {
+        if (!sourceError_)
+            sourceError_ = {Platform::MediaError::Kind::Other, u"%1 cannot be read"_s.arg(path)};
+        return false;
+    }
+    source.rate = actualOutputFormat_.mSampleRate;
+    if (source.file->setClientDataFormat(actualOutputFormat_) != noErr) {
+        sourceError_ = source.file->firstError();
+        return false;
+    }
+    return true;
+}
+
+void ConverterAudioControl::writeBlock(Source& source, std::uint32_t frames) {
+    if (outputAudioFile_)
+        outputAudioFile_->write(frames, source.block.list());
+}
+
+bool ConverterAudioControl::goesOn(double share) {
+    return !progress_ || progress_(std::clamp(share, 0.0, 1.0));
+}
+
+void ConverterAudioControl::finishSource(const Source& source) {
+    sourceError_ = source.file->firstError();
+}
+
+bool ConverterAudioControl::startConverterSource(const QString& path, float trimFrom, float trimTo) {
+    Source source;
+    if (!openSource(path, source))
+        return false;
+
+    const bool toTheEnd = trimTo < 0.1F;
+    const double end = double(trimTo) * source.rate;
+    const auto first = source.frameAt(trimFrom);
+    const auto fileRate = source.file->fileDataFormat().mSampleRate;
+    double total = fileRate > 0 ? double(source.file->fileLengthFrames()) * source.rate / fileRate : 0;
+    if (!toTheEnd)
+        total = std::min(total, end);
+    total = std::max(total - double(first), 1.0);
+
+    source.file->seek(first);
+    auto position = first;
+    bool stopped = !goesOn(0);
+    while (!stopped) {
+        auto frames = source.block.prepare(actualOutputFormat_);
+        source.file->read(frames, source.block.list());
+        if (frames == 0)
+            break;
+        position += frames;
+        writeBlock(source, frames);
+        if (!toTheEnd && double(position) >= end)
+            break;
+        if (source.timeToReport())
+            stopped = !goesOn(double(position - first) / total);
+    }
+    finishSource(source);
+    source.file.reset();
+    noteFileSystemChanged(path);
+    closeExportFile();
+    if (stopped)
+        return false;
+    if (progress_)
+        progress_(1);
+    converterFinish();
+    return true;
+}
+
+bool ConverterAudioControl::startFadeInFadeOutConverterSource(const QString& path, float trimFrom, float trimTo,
+                                                              float fadeInTime, float fadeOutTime,
+                                                              float converterLength) {
+    Source source;
+    if (!openSource(path, source))
+        return false;
+
+    const Fades fades{trimFrom, double(trimTo) - 0.1, fadeInTime, fadeOutTime, converterLength};
+    const auto first = source.frameAt(trimFrom);
+    source.file->seek(first);
+    auto position = first;
+    std::int64_t written = 0;
+    bool stopped = !goesOn(0);
+    while (!stopped) {
+        auto frames = source.block.prepare(actualOutputFormat_);
+        if (source.file->read(frames, source.block.list()) != noErr)
+            qCWarning(converterLog, "read Audio Data Error");
+        const auto gain = fades.gainAt(double(position) / source.rate, double(written) / source.rate);
+        if (gain <= 0.999)
+            source.block.scale(static_cast<float>(gain));
+        if (frames == 0) {
+            qCWarning(converterLog, "numFrames  =  0");
+            break;
+        }
+        position += frames;
+        written += frames;
+        writeBlock(source, frames);
+        if (double(written) >= fades.length * source.rate)
+            break;
+        if (double(position) >= fades.rangeEnd * source.rate) {
+            source.file->seek(first);
+            position = first;
+        }
+        if (source.timeToReport())
+            stopped = !goesOn(double(written) / std::max(fades.length * source.rate, 1.0));
+    }
+    finishSource(source);
+    source.file.reset();
+    noteFileSystemChanged(path);
+    closeExportFile();
+    if (stopped)
+        return false;
+    if (progress_)
+        progress_(1);
+    return true;
+}
+
+void ConverterAudioControl::closeExportFile() {
+    if (!outputAudioFile_)
+        return;
+    outputAudioFile_->dispose();
+    exportError_ = outputAudioFile_->firstError();
+    outputAudioFile_.reset();
+    noteFileSystemChanged(outputAudioFilePath_);
+}
+
+void ConverterAudioControl::converterFinish() {
+    if (delegate_)
+        delegate_->converterFinish();
+}
