@@ -5,8 +5,10 @@
 #include "Platform/Audio/PrivateSession.h"
 #include "Platform/Desktop/linux/LinuxDesktop.h"
 #include "Platform/Desktop/linux/PortalColorScheme.h"
+#include "Platform/Foundation/Bundle.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/linux/LinuxFoundation.h"
+#include "Platform/Foundation/linux/PropertyListDefaults.h"
 
 namespace Platform {
 
@@ -14,6 +16,7 @@ struct LinuxServices::Private {
     ServicesScope before; // destroyed last: until then everyone finds the services
     std::unique_ptr<Bundle> bundle;
     std::unique_ptr<Clock> clock;
+    std::unique_ptr<UserDefaults> userDefaults;
     std::unique_ptr<Workspace> workspace;
     std::unique_ptr<Alerts> alerts;
     std::unique_ptr<ColorScheme> colorScheme;
@@ -28,6 +31,7 @@ void LinuxServices::install(Mode mode) {
     Services& set = services();
     set.bundle = (d->bundle = createBundle()).get();
     set.clock = (d->clock = createClock()).get();
+    set.userDefaults = (d->userDefaults = createUserDefaults(set.bundle->bundleIdentifier())).get();
     set.workspace = (d->workspace = createWorkspace()).get();
     set.alerts = (d->alerts = createCommandLineAlerts()).get();
     if (mode == Mode::CommandLine)

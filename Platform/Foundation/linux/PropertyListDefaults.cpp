@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Foundation/linux/PropertyListDefaults.h"
 
+#include "Platform/Foundation/Folders.h"
 #include "Platform/Foundation/linux/PropertyList.h"
 
 #include <QDateTime>
@@ -77,11 +78,6 @@ bool writeAll(int fd, const QByteArray& content) {
     return true;
 }
 
-QString configFolder() {
-    const QString folder = qEnvironmentVariable("XDG_CONFIG_HOME");
-    return folder.startsWith(u'/') ? folder : QDir::homePath() + "/.config"_L1;
-}
-
 /// The file itself where the settings are kept behind a symbolic link: replacing the link would cut it.
 QString behindLinks(const QString& path) {
     const QString real = QFileInfo(path).canonicalFilePath();
@@ -91,19 +87,10 @@ QString behindLinks(const QString& path) {
 } // namespace
 
 std::unique_ptr<UserDefaults> createUserDefaults(const QString& bundleIdentifier) {
-    return std::make_unique<PropertyListDefaults>(configFolder() + u'/' + bundleIdentifier + ".plist"_L1);
+    return std::make_unique<PropertyListDefaults>(Folders::config() + u'/' + bundleIdentifier + ".plist"_L1);
 }
 
-PropertyListDefaults::PropertyListDefaults(const QString& path) : path_(behindLinks(path)) {
-    if (!readAgain(Damage::Leave)) {
-        // Moving a damaged file away needs the lock: another process may just have put a good one in its place.
-        const Descriptor lock(openLock(path_));
-        if (lock && lockWithin(lock.get(), lockPatience))
-            readAgain(Damage::SetAside);
-    }
-    values_ = onDisk_;
-    ours_ = onDisk_;
-    worker_ = std::thread([this] { run(); });
+PropertyListDefaults::PropertyListDefaults(const QString& path) : path_(behindLinks(path)), worker_([this] { run(); }) {
 }
 
 PropertyListDefaults::~PropertyListDefaults() {
@@ -116,7 +103,8 @@ PropertyListDefaults::~PropertyListDefaults() {
 }
 
 QVariant PropertyListDefaults::objectForKey(const QString& key) const {
-    const std::lock_guard guard(mutex_);
+    std::unique_lock lock(mutex_);
+    done_.wait(lock, [this] { return loaded_; });
     return values_.value(key);
 }
 
@@ -155,7 +143,32 @@ bool PropertyListDefaults::flush() {
     return savedChange_ >= wanted;
 }
 
+void PropertyListDefaults::load() {
+    if (!readAgain(Damage::Leave)) {
+        // Moving a damaged file away needs the lock: another process may just have put a good one in its place.
+        const Descriptor lock(openLock(path_));
+        if (lock && lockWithin(lock.get(), lockPatience))
+            readAgain(Damage::SetAside);
+    }
+    ours_ = onDisk_;
+    const std::lock_guard guard(mutex_);
+    values_ = onDisk_;
+    overlay(pending_, values_); // set while the file was read
+    loaded_ = true;
+    done_.notify_all();
+}
+
+void PropertyListDefaults::overlay(const Changes& changes, Dictionary& values) {
+    for (auto it = changes.cbegin(); it != changes.cend(); ++it) {
+        if (it->isValid())
+            values.insert(it.key(), *it);
+        else
+            values.remove(it.key());
+    }
+}
+
 void PropertyListDefaults::run() {
+    load();
     std::unique_lock lock(mutex_);
     for (;;) {
         const auto hasWork = [this] { return stopping_ || (!pending_.isEmpty() && failedChange_ < lastChange_); };
@@ -181,19 +194,11 @@ void PropertyListDefaults::run() {
             // What others stored is seen from here on, but for what was set here since, and for joined values: their
             // owner keeps its own view, or it could not take away what it sees as new.
             Dictionary seen = onDisk_;
-            for (auto it = merges.cbegin(); it != merges.cend(); ++it) {
-                const QVariant own = values_.value(it.key());
-                if (own.isValid())
-                    seen.insert(it.key(), own);
-                else
-                    seen.remove(it.key());
-            }
-            for (auto it = pending_.cbegin(); it != pending_.cend(); ++it) {
-                if (it->isValid())
-                    seen.insert(it.key(), *it);
-                else
-                    seen.remove(it.key());
-            }
+            Changes joined;
+            for (auto it = merges.cbegin(); it != merges.cend(); ++it)
+                joined.insert(it.key(), values_.value(it.key()));
+            overlay(joined, seen);
+            overlay(pending_, seen);
             values_ = seen;
         } else {
             failedChange_ = newest;

@@ -24,7 +24,7 @@ namespace Platform {
 /// moved to "<file>.damaged-<date>"; one that cannot be read (permissions, a bad disk) is never replaced.
 class PropertyListDefaults final : public UserDefaults {
 public:
-    /// Reads the file on the calling thread.
+    /// The worker reads the file; the first objectForKey() waits for it.
     explicit PropertyListDefaults(const QString& path);
     /// Writes what is pending; a file that cannot be written is tried once more and then given up with a log line.
     ~PropertyListDefaults() override;
@@ -49,6 +49,8 @@ private:
 
     void change(const QString& key, const QVariant& object);
     void run();
+    void load();
+    static void overlay(const Changes& changes, Dictionary& values);
     enum class Damage { Leave, SetAside };
 
     [[nodiscard]] static Version versionOf(const struct stat& status);
@@ -63,16 +65,17 @@ private:
 
     mutable std::mutex mutex_;
     std::condition_variable work_;
-    std::condition_variable done_;
+    mutable std::condition_variable done_;
     Dictionary values_;
     Changes pending_;
     QHash<QString, Merge> merges_;
     quint64 lastChange_ = 0;   // number of the newest change
     quint64 savedChange_ = 0;  // the newest one that is on the disk
     quint64 failedChange_ = 0; // the newest one that a failed save contained
+    bool loaded_ = false;
     bool stopping_ = false;
 
-    // The worker's own, after the constructor.
+    // The worker's own.
     Version version_;
     Dictionary onDisk_; // the file's content as of version_
     Dictionary ours_;   // what this process read or set itself, the base of a merge

@@ -1,0 +1,276 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/Model/MediaLibrary.h"
+
+#include "Platform/Foundation/FileManager.h"
+#include "Platform/Foundation/Services.h"
+#include "Platform/Foundation/UserDefaults.h"
+#include "Source/Control/PreferenceStore.h"
+#include "Source/Model/AudioRecordEntry.h"
+#include "Source/Model/MediaLibraryStore.h"
+
+#include <QLoggingCategory>
+#include <QSet>
+
+using namespace Qt::StringLiterals;
+using Platform::stringForm;
+using PreferenceStore::kMediaLibrarySavedKey;
+
+namespace {
+
+Q_LOGGING_CATEGORY(log, "sonaphex.model")
+
+const QString newRecord = u"new-record"_s;
+const QString allRecord = u"all-record"_s;
+const QString newRingtone = u"new-ringtone"_s;
+const QString allRingtone = u"all-ringtone"_s;
+
+// Beyond this a view is faster with a fresh list than with a row at a time.
+constexpr qsizetype mostRemovalsTold = 64;
+
+QVariant keyOf(const QVariant& entry) {
+    // The map itself, without a copy: an entry is looked at for each of ten thousand rows.
+    if (entry.typeId() != QMetaType::QVariantMap)
+        return {};
+    return static_cast<const QVariantMap*>(entry.constData())->value(AudioRecordEntry::NodeDataKey);
+}
+
+qsizetype lastIndexOfKey(const QString& key, const QVariantList& entries) {
+    for (qsizetype i = entries.size() - 1; i >= 0; --i)
+        if (const QVariant found = keyOf(entries[i]); found.isValid() && stringForm(found) == key)
+            return i;
+    return -1;
+}
+
+std::shared_ptr<MediaLibraryNode> makeNode(const QString& name, const QString& icon = {}, const QString& key = {}) {
+    auto node = std::make_shared<MediaLibraryNode>();
+    node->setName(name);
+    node->setIcon(icon);
+    node->setKey(key);
+    return node;
+}
+
+} // namespace
+
+MediaLibrary& MediaLibrary::shareLibrary() {
+    static auto* const library = new MediaLibrary;
+    return *library;
+}
+
+MediaLibrary::MediaLibrary() {
+    loadMediaLibraryList();
+    loadDefaultMediaLibrary();
+    currentNewArray_.clear();
+}
+
+void MediaLibrary::loadMediaLibraryList() {
+    records_.clear();
+    ringtones_.clear();
+    Platform::UserDefaults* const defaults = Platform::services().userDefaults;
+    if (!defaults)
+        return;
+    defaults->setMergeForKey(kMediaLibrarySavedKey, MediaLibraryStore::merge);
+    const QVariant stored = defaults->objectForKey(kMediaLibrarySavedKey);
+    bool damaged = false;
+    ringtones_ = MediaLibraryStore::entries(stored, u"ringtones"_s, damaged);
+    records_ = MediaLibraryStore::entries(stored, u"records"_s, damaged);
+    if (damaged) {
+        qCWarning(log, "the stored library is damaged; it was kept under %s.damaged",
+                  qUtf8Printable(kMediaLibrarySavedKey));
+        defaults->setObject(kMediaLibrarySavedKey + u".damaged"_s, stored);
+    }
+}
+
+void MediaLibrary::store() const {
+    if (Platform::UserDefaults* const defaults = Platform::services().userDefaults)
+        defaults->setObject(kMediaLibrarySavedKey, MediaLibraryStore::value(records_, ringtones_));
+}
+
+void MediaLibrary::saveMediaLibraryList() {
+    store();
+    loadMediaLibraryNode(*rootNode_);
+}
+
+void MediaLibrary::loadDefaultMediaLibrary() {
+    const QString recordIcon = u"all-record-node-icon"_s;
+    const QString ringtoneIcon = u"all-ringtone-node-icon"_s;
+    const auto records = makeNode(u"Record Library"_s);
+    records->setNonLeafNode(
+        {makeNode(u"Newly Recorded"_s, recordIcon, newRecord), makeNode(u"All Recorded"_s, recordIcon, allRecord)});
+    const auto ringtones = makeNode(u"Ringtone Library"_s);
+    ringtones->setNonLeafNode({makeNode(u"Newly Ringtone"_s, ringtoneIcon, newRingtone),
+                               makeNode(u"All Ringtone"_s, ringtoneIcon, allRingtone)});
+    rootNode_ = std::make_shared<MediaLibraryNode>();
+    rootNode_->setNonLeafNode({records, ringtones});
+    loadMediaLibraryNode(*rootNode_);
+}
+
+void MediaLibrary::loadMediaLibraryNode(MediaLibraryNode& node) {
+    if (node.isLeaf()) {
+        loadMediaLibraryNodeLeaf(node);
+        return;
+    }
+    for (const auto& child : node.nonLeafNode())
+        loadMediaLibraryNode(*child);
+}
+
+void MediaLibrary::loadMediaLibraryNodeLeaf(MediaLibraryNode& leaf) {
+    leaf.setLeafNode(contentOf(leaf.key()));
+    if (!leaf.key().isEmpty())
+        Q_EMIT leafReset(leaf.key());
+}
+
+QVariantList MediaLibrary::contentOf(const QString& leafKey) const {
+    if (leafKey == newRecord)
+        return mediaNodes(records_, true);
+    if (leafKey == allRecord)
+        return mediaNodes(records_, false);
+    if (leafKey == newRingtone)
+        return mediaNodes(ringtones_, true);
+    if (leafKey == allRingtone)
+        return mediaNodes(ringtones_, false);
+    return {};
+}
+
+QVariantList MediaLibrary::mediaNodes(const QVariantList& entries, bool isNew) const {
+    if (!isNew)
+        return entries;
+    QVariantList result;
+    if (currentNewArray_.isEmpty())
+        return result;
+    const QSet<QString> newKeys(currentNewArray_.cbegin(), currentNewArray_.cend());
+    for (const QVariant& entry : entries)
+        if (newKeys.contains(stringForm(keyOf(entry))))
+            result.append(entry);
+    return result;
+}
+
+void MediaLibrary::addRecordFile(const Dictionary& entry) {
+    add(entry, Collection::Records);
+}
+
+void MediaLibrary::addRingtoneFile(const Dictionary& entry) {
+    add(entry, Collection::Ringtones);
+}
+
+void MediaLibrary::add(const Dictionary& entry, Collection collection) {
+    addAudio(entry, collection == Collection::Records ? records_ : ringtones_);
+    store();
+    for (const auto& group : rootNode_->nonLeafNode())
+        for (const auto& leaf : group->nonLeafNode())
+            updateLeaf(*leaf);
+}
+
+void MediaLibrary::addAudio(const Dictionary& entry, QVariantList& toArray) {
+    Dictionary stored = entry;
+    const QString key = stringForm(stored.value(AudioRecordEntry::NodeDataKey));
+    const bool isNew = Platform::boolValue(stored.take(AudioRecordEntry::IsNew));
+
+    if (const qsizetype index = lastIndexOfKey(key, toArray); index >= 0)
+        toArray[index] = stored;
+    else
+        toArray.prepend(stored);
+    if (isNew && !currentNewArray_.contains(key))
+        currentNewArray_.append(key);
+}
+
+Dictionary MediaLibrary::findAudioByKey(const QString& key, const QVariantList& inArray) {
+    const qsizetype index = lastIndexOfKey(key, inArray);
+    return index < 0 ? Dictionary() : inArray[index].toMap();
+}
+
+QStringList MediaLibrary::keyArrayFromAudioArray(const QVariantList& entries) {
+    QStringList keys;
+    QSet<QString> seen;
+    for (const QVariant& entry : entries) {
+        const QString key = stringForm(keyOf(entry));
+        if (!seen.contains(key)) {
+            seen.insert(key);
+            keys.append(key);
+        }
+    }
+    return keys;
+}
+
+QVariantList MediaLibrary::findAudioArrayByKeyArray(const QStringList& keys, const QVariantList& inArray) {
+    const QSet<QString> wanted(keys.cbegin(), keys.cend());
+    QVariantList result;
+    for (const QVariant& entry : inArray)
+        if (const QVariant key = keyOf(entry); key.isValid() && wanted.contains(stringForm(key)))
+            result.append(entry);
+    return result;
+}
+
+void MediaLibrary::removeAudio(const QVariantList& entries, QVariantList& inArray) {
+    QSet<QString> keys;
+    QVariantList keyless;
+    for (const QVariant& entry : entries) {
+        if (const QVariant key = keyOf(entry); key.isValid())
+            keys.insert(stringForm(key));
+        else
+            keyless.append(entry);
+    }
+    inArray.removeIf([&](const QVariant& entry) {
+        const QVariant key = keyOf(entry);
+        return key.isValid() ? keys.contains(stringForm(key)) : keyless.contains(entry);
+    });
+}
+
+void MediaLibrary::removeMediaLibraryArray(const QVariantList& entries) {
+    removeAudio(entries, records_);
+    removeAudio(entries, ringtones_);
+    for (const QVariant& entry : entries) {
+        const QString path = entry.toMap().value(AudioRecordEntry::SavePath).toString();
+        if (path.startsWith(u'/'))
+            (void)Platform::FileManager::removeFile(path);
+    }
+    store();
+    for (const auto& group : rootNode_->nonLeafNode())
+        for (const auto& leaf : group->nonLeafNode())
+            updateLeaf(*leaf);
+}
+
+void MediaLibrary::updateLeaf(MediaLibraryNode& leaf) {
+    const QVariantList before = leaf.leafNode();
+    const QVariantList after = contentOf(leaf.key());
+    const auto reset = [&] {
+        leaf.setLeafNode(after);
+        Q_EMIT leafReset(leaf.key());
+    };
+
+    if (after.size() > before.size()) {
+        const auto [old, added] = std::mismatch(before.cbegin(), before.cend(), after.cbegin());
+        const bool isOneRow = after.size() == before.size() + 1 && std::equal(old, before.cend(), added + 1);
+        if (!isOneRow)
+            return reset();
+        leaf.setLeafNode(after);
+        Q_EMIT entryInserted(leaf.key(), static_cast<int>(added - after.cbegin()));
+        return;
+    }
+    if (after.size() == before.size()) {
+        leaf.setLeafNode(after);
+        for (qsizetype i = 0; i < after.size(); ++i)
+            if (after[i] != before[i])
+                Q_EMIT entryReplaced(leaf.key(), static_cast<int>(i));
+        return;
+    }
+
+    QList<int> gone; // the last first
+    qsizetype kept = after.size() - 1;
+    for (qsizetype i = before.size() - 1; i >= 0; --i) {
+        if (kept >= 0 && before[i] == after[kept])
+            --kept;
+        else
+            gone.append(static_cast<int>(i));
+    }
+    if (kept >= 0 || gone.size() > mostRemovalsTold)
+        return reset();
+    QVariantList left = before;
+    for (const int index : gone) {
+        left.removeAt(index);
+        leaf.setLeafNode(left);
+        Q_EMIT entryRemoved(leaf.key(), index);
+    }
+}
+
+#include "moc_MediaLibrary.cpp"

@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/Model/MediaLibraryStore.h"
+
+#include "Source/Model/AudioRecordEntry.h"
+
+#include <QHash>
+
+using namespace Qt::StringLiterals;
+
+namespace MediaLibraryStore {
+namespace {
+
+const QString ringtonesName = u"ringtones"_s;
+const QString recordsName = u"records"_s;
+
+QString keyOf(const QVariant& entry) {
+    return entry.toMap().value(AudioRecordEntry::NodeDataKey).toString();
+}
+
+QHash<QString, QVariant> byKey(const QVariantList& entries) {
+    QHash<QString, QVariant> result;
+    result.reserve(entries.size());
+    for (const QVariant& entry : entries)
+        result.insert(keyOf(entry), entry);
+    return result;
+}
+
+QVariantList mergeEntries(const QVariantList& base, const QVariantList& theirs, const QVariantList& ours) {
+    if (theirs == base)
+        return ours;
+    const auto inBase = byKey(base);
+    const auto inTheirs = byKey(theirs);
+    const auto inOurs = byKey(ours);
+
+    QVariantList added; // by them
+    for (const QVariant& entry : theirs) {
+        const QString key = keyOf(entry);
+        const bool known =
+            key.isEmpty() ? base.contains(entry) || ours.contains(entry) : inBase.contains(key) || inOurs.contains(key);
+        if (!known)
+            added.append(entry);
+    }
+
+    QVariantList result;
+    result.reserve(ours.size() + added.size());
+    bool atTop = true; // the newest stand first: ours, then theirs, then what both knew
+    for (const QVariant& entry : ours) {
+        const QString key = keyOf(entry);
+        const auto before = inBase.constFind(key);
+        if (atTop && before != inBase.cend()) {
+            result.append(added);
+            atTop = false;
+        }
+        const bool untouched = !key.isEmpty() && before != inBase.cend() && *before == entry;
+        if (!untouched)
+            result.append(entry);
+        else if (const auto now = inTheirs.constFind(key); now != inTheirs.cend())
+            result.append(*now);
+    }
+    if (atTop)
+        result.append(added);
+    return result;
+}
+
+} // namespace
+
+QVariantList entries(const QVariant& stored, const QString& name, bool& damaged) {
+    if (!stored.isValid())
+        return {};
+    if (stored.typeId() != QMetaType::QVariantMap) {
+        damaged = true;
+        return {};
+    }
+    const QVariant array = stored.toMap().value(name);
+    if (!array.isValid())
+        return {};
+    if (array.typeId() != QMetaType::QVariantList) {
+        damaged = true;
+        return {};
+    }
+    QVariantList list = array.toList();
+    const auto isNoEntry = [](const QVariant& entry) { return entry.typeId() != QMetaType::QVariantMap; };
+    if (std::any_of(list.cbegin(), list.cend(), isNoEntry)) {
+        damaged = true;
+        list.removeIf(isNoEntry);
+    }
+    return list;
+}
+
+QVariant value(const QVariantList& records, const QVariantList& ringtones) {
+    return Dictionary{{ringtonesName, ringtones}, {recordsName, records}};
+}
+
+QVariant merge(const QVariant& base, const QVariant& theirs, const QVariant& ours) {
+    if (!ours.isValid() || !theirs.isValid())
+        return ours;
+    bool damaged = false;
+    const auto joined = [&](const QString& name) {
+        return mergeEntries(entries(base, name, damaged), entries(theirs, name, damaged), entries(ours, name, damaged));
+    };
+    return value(joined(recordsName), joined(ringtonesName));
+}
+
+} // namespace MediaLibraryStore

@@ -1,0 +1,393 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/Model/MediaLibrary.h"
+
+#include "Platform/Foundation/Services.h"
+#include "Platform/Foundation/linux/PropertyListDefaults.h"
+#include "Source/Control/PreferenceStore.h"
+#include "Source/Model/AudioRecordEntry.h"
+#include "Source/Model/MediaLibraryStore.h"
+#include "tests/fakes/FakeUserDefaults.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using PreferenceStore::kMediaLibrarySavedKey;
+
+namespace {
+
+Dictionary entry(const QString& key, const QString& title = u"NO Title"_s, const QString& path = {}) {
+    return {{AudioRecordEntry::NodeDataKey, key}, {AudioRecordEntry::Title, title}, {AudioRecordEntry::SavePath, path}};
+}
+
+Dictionary newEntry(const QString& key) {
+    Dictionary result = entry(key);
+    result.insert(AudioRecordEntry::IsNew, true);
+    return result;
+}
+
+QStringList keys(const QVariantList& entries) {
+    QStringList result;
+    for (const QVariant& one : entries)
+        result.append(one.toMap().value(AudioRecordEntry::NodeDataKey).toString());
+    return result;
+}
+
+class Library : public testing::Test {
+protected:
+    Library() { Platform::services().userDefaults = &defaults_; }
+
+    static QVariantList leaf(const MediaLibrary& library, const QString& key) {
+        for (const auto& group : library.rootNode().nonLeafNode())
+            for (const auto& node : group->nonLeafNode())
+                if (node->key() == key)
+                    return node->leafNode();
+        ADD_FAILURE() << "no leaf " << qPrintable(key);
+        return {};
+    }
+    [[nodiscard]] Dictionary stored() const { return defaults_.objectForKey(kMediaLibrarySavedKey).toMap(); }
+
+    Platform::ServicesScope scope_;
+    FakeUserDefaults defaults_;
+};
+
+/// Notes every signal as a line.
+class Notes {
+public:
+    explicit Notes(MediaLibrary& library) {
+        QObject::connect(&library, &MediaLibrary::entryInserted, &context_,
+                         [this](const QString& key, int at) { lines += u"+%1 %2"_s.arg(key).arg(at); });
+        QObject::connect(&library, &MediaLibrary::entryReplaced, &context_,
+                         [this](const QString& key, int at) { lines += u"=%1 %2"_s.arg(key).arg(at); });
+        QObject::connect(&library, &MediaLibrary::entryRemoved, &context_,
+                         [this](const QString& key, int at) { lines += u"-%1 %2"_s.arg(key).arg(at); });
+        QObject::connect(&library, &MediaLibrary::leafReset, &context_,
+                         [this](const QString& key) { lines += u"*"_s + key; });
+    }
+    QStringList lines;
+
+private:
+    QObject context_;
+};
+
+QVariantList manyEntries(int count) {
+    QVariantList list;
+    for (int i = 0; i < count; ++i)
+        list.append(Dictionary{{AudioRecordEntry::NodeDataKey, u"/home/a/Music/Recording %1.m4a_817430400.5"_s.arg(i)},
+                               {AudioRecordEntry::SavePath, u"/home/a/Music/Recording %1.m4a"_s.arg(i)},
+                               {AudioRecordEntry::Title, u"Recording %1"_s.arg(i)},
+                               {AudioRecordEntry::Artist, u"NO Artist"_s},
+                               {AudioRecordEntry::Album, u"NO Album"_s},
+                               {AudioRecordEntry::Year, 2012},
+                               {AudioRecordEntry::Genre, u"NO General"_s},
+                               {AudioRecordEntry::AddDate, u"2026/11/21"_s},
+                               {AudioRecordEntry::Length, 12.5}});
+    return list;
+}
+
+} // namespace
+
+TEST(MediaLibraryNode, IsALeafUntilItHasChildren) {
+    MediaLibraryNode node;
+    EXPECT_TRUE(node.isLeaf());
+    EXPECT_TRUE(node.leafNode().isEmpty());
+    EXPECT_TRUE(node.nonLeafNode().empty());
+    EXPECT_TRUE(node.key().isNull());
+    node.setNonLeafNode({std::make_shared<MediaLibraryNode>()});
+    EXPECT_FALSE(node.isLeaf());
+}
+
+TEST_F(Library, HasTheFixedTree) {
+    const MediaLibrary library;
+    const auto& root = library.rootNode();
+    EXPECT_TRUE(root.name().isNull());
+    EXPECT_TRUE(root.icon().isNull());
+    EXPECT_TRUE(root.key().isNull());
+    QStringList lines;
+    for (const auto& group : root.nonLeafNode()) {
+        lines += group->name() + u'|' + group->icon() + u'|' + group->key();
+        for (const auto& leaf : group->nonLeafNode())
+            lines += leaf->name() + u'|' + leaf->icon() + u'|' + leaf->key();
+    }
+    EXPECT_EQ(lines, (QStringList{u"Record Library||"_s, u"Newly Recorded|all-record-node-icon|new-record"_s,
+                                  u"All Recorded|all-record-node-icon|all-record"_s, u"Ringtone Library||"_s,
+                                  u"Newly Ringtone|all-ringtone-node-icon|new-ringtone"_s,
+                                  u"All Ringtone|all-ringtone-node-icon|all-ringtone"_s}));
+}
+
+TEST_F(Library, PutsTheNewestOnTop) {
+    MediaLibrary library;
+    library.addRecordFile(entry(u"a"_s));
+    library.addRecordFile(entry(u"b"_s));
+    library.addRingtoneFile(entry(u"c"_s));
+    EXPECT_EQ(keys(library.records()), (QStringList{u"b"_s, u"a"_s}));
+    EXPECT_EQ(keys(leaf(library, u"all-record"_s)), (QStringList{u"b"_s, u"a"_s}));
+    EXPECT_EQ(keys(leaf(library, u"all-ringtone"_s)), (QStringList{u"c"_s}));
+}
+
+TEST_F(Library, ReplacesAnEntryWhereItStands) {
+    MediaLibrary library;
+    for (const char16_t* key : {u"a", u"b", u"c"})
+        library.addRecordFile(entry(QString::fromUtf16(key)));
+    library.addRecordFile(entry(u"b"_s, u"Other title"_s));
+    EXPECT_EQ(keys(library.records()), (QStringList{u"c"_s, u"b"_s, u"a"_s}));
+    EXPECT_EQ(MediaLibrary::findAudioByKey(u"b"_s, library.records()).value(AudioRecordEntry::Title), u"Other title"_s);
+}
+
+TEST_F(Library, KeepsTheKeyOfANewEntryOnce) {
+    MediaLibrary library;
+    library.addRecordFile(newEntry(u"a"_s));
+    library.addRecordFile(newEntry(u"a"_s));
+    EXPECT_EQ(library.currentNewArray(), QStringList{u"a"_s});
+    EXPECT_EQ(keys(leaf(library, u"new-record"_s)), QStringList{u"a"_s});
+}
+
+TEST_F(Library, ListsAnEntryWithoutTheFlagUnderAllOnly) {
+    MediaLibrary library;
+    library.addRecordFile(entry(u"a"_s));
+    EXPECT_TRUE(leaf(library, u"new-record"_s).isEmpty());
+    EXPECT_EQ(leaf(library, u"all-record"_s).size(), 1);
+}
+
+TEST_F(Library, NeverStoresTheFlag) {
+    MediaLibrary library;
+    library.addRecordFile(newEntry(u"a"_s));
+    const QVariantList records = stored().value(u"records"_s).toList();
+    ASSERT_EQ(records.size(), 1);
+    EXPECT_EQ(records.first().toMap(), entry(u"a"_s));
+    EXPECT_EQ(stored().keys(), (QStringList{u"records"_s, u"ringtones"_s}));
+}
+
+TEST_F(Library, TakesItsFlagInAnyForm) {
+    MediaLibrary library;
+    for (const QVariant& flag : {QVariant(1), QVariant(u"YES"_s), QVariant(0), QVariant(QVariantList{})}) {
+        Dictionary one = entry(u"key %1"_s.arg(library.records().size()));
+        one.insert(AudioRecordEntry::IsNew, flag);
+        library.addRecordFile(one);
+    }
+    EXPECT_EQ(library.currentNewArray(), (QStringList{u"key 0"_s, u"key 1"_s}));
+}
+
+TEST_F(Library, KeepsKeysThatItDoesNotKnow) {
+    Dictionary odd = entry(u"a"_s);
+    odd.insert(u"SomeoneElsesKey"_s, u"kept"_s);
+    MediaLibrary().addRecordFile(odd);
+    EXPECT_EQ(MediaLibrary().records().first().toMap().value(u"SomeoneElsesKey"_s), u"kept"_s);
+}
+
+TEST_F(Library, StartsWithEmptyNewLeavesAfterARestart) {
+    {
+        MediaLibrary library;
+        library.addRecordFile(newEntry(u"a"_s));
+        library.addRingtoneFile(newEntry(u"b"_s));
+    }
+    const MediaLibrary library;
+    EXPECT_TRUE(leaf(library, u"new-record"_s).isEmpty());
+    EXPECT_TRUE(leaf(library, u"new-ringtone"_s).isEmpty());
+    EXPECT_EQ(keys(leaf(library, u"all-record"_s)), QStringList{u"a"_s});
+    EXPECT_EQ(keys(leaf(library, u"all-ringtone"_s)), QStringList{u"b"_s});
+}
+
+TEST_F(Library, RemovesEveryEntryWithTheKeyFromBothCollectionsAndTheFile) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a \"b\" $(c).m4a"_s);
+    ASSERT_TRUE(QFile(path).open(QIODevice::WriteOnly));
+    const Dictionary one = entry(u"a"_s, u"x"_s, path);
+    defaults_.setObject(kMediaLibrarySavedKey,
+                        MediaLibraryStore::value({one, entry(u"b"_s), entry(u"a"_s, u"twin"_s)}, {one}));
+    MediaLibrary library;
+    library.removeMediaLibraryArray({one});
+    EXPECT_EQ(keys(library.records()), QStringList{u"b"_s});
+    EXPECT_TRUE(library.ringtones().isEmpty());
+    EXPECT_FALSE(QFile::exists(path));
+    EXPECT_EQ(stored().value(u"records"_s).toList().size(), 1);
+}
+
+TEST_F(Library, DeletesTheFileOfEachGivenEntryEvenOfOnesItDoesNotHold) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"stranger.m4a"_s);
+    ASSERT_TRUE(QFile(path).open(QIODevice::WriteOnly));
+    MediaLibrary library;
+    library.removeMediaLibraryArray({entry(u"unknown"_s, {}, path), entry(u"unknown"_s, {}, path)});
+    EXPECT_FALSE(QFile::exists(path));
+}
+
+TEST_F(Library, RemovesTheEntryWhenTheFileCannotBeDeleted) {
+    const QTemporaryDir folder; // a folder in the place of the file
+    MediaLibrary library;
+    const Dictionary one = entry(u"a"_s, {}, folder.path());
+    library.addRecordFile(one);
+    library.removeMediaLibraryArray({one});
+    EXPECT_TRUE(library.records().isEmpty());
+    EXPECT_TRUE(QDir(folder.path()).exists());
+}
+
+TEST_F(Library, LeavesTheNewKeysOfRemovedEntries) {
+    MediaLibrary library;
+    library.addRecordFile(newEntry(u"a"_s));
+    library.removeMediaLibraryArray({entry(u"a"_s)});
+    EXPECT_EQ(library.currentNewArray(), QStringList{u"a"_s});
+    EXPECT_TRUE(leaf(library, u"new-record"_s).isEmpty());
+}
+
+TEST_F(Library, FindsTheLastEntryWithAKey) {
+    const QVariantList list{entry(u"a"_s, u"first"_s), entry(u"b"_s), entry(u"a"_s, u"last"_s)};
+    EXPECT_EQ(MediaLibrary::findAudioByKey(u"a"_s, list).value(AudioRecordEntry::Title), u"last"_s);
+    EXPECT_TRUE(MediaLibrary::findAudioByKey(u"c"_s, list).isEmpty());
+    EXPECT_EQ(MediaLibrary::keyArrayFromAudioArray(list), (QStringList{u"a"_s, u"b"_s}));
+    EXPECT_EQ(keys(MediaLibrary::findAudioArrayByKeyArray({u"b"_s, u"a"_s}, list)),
+              (QStringList{u"a"_s, u"b"_s, u"a"_s}));
+}
+
+TEST_F(Library, TakesAStoredValueOfTheWrongShapeAsEmptyAndKeepsItAside) {
+    const QVariantList shapes{u"a text"_s, 5, QVariantList{1, 2}, QVariantMap{{u"records"_s, u"no array"_s}},
+                              QVariantMap{{u"ringtones"_s, 7.5}}};
+    for (const QVariant& shape : shapes) {
+        defaults_.setObject(kMediaLibrarySavedKey, shape);
+        MediaLibrary library;
+        EXPECT_TRUE(library.records().isEmpty());
+        EXPECT_TRUE(library.ringtones().isEmpty());
+        library.addRecordFile(entry(u"a"_s));
+        EXPECT_EQ(defaults_.objectForKey(kMediaLibrarySavedKey + u".damaged"_s), shape);
+    }
+}
+
+TEST_F(Library, LoadsTheGoodEntriesOfADamagedArray) {
+    defaults_.setObject(kMediaLibrarySavedKey,
+                        QVariantMap{{u"records"_s, QVariantList{u"stray"_s, entry(u"a"_s), 5, Dictionary{}}}});
+    const MediaLibrary library;
+    EXPECT_EQ(library.records(), (QVariantList{entry(u"a"_s), Dictionary{}}));
+}
+
+TEST_F(Library, LivesWithEntriesThatHaveNoKeyOrPath) {
+    const Dictionary first{{AudioRecordEntry::Title, u"first"_s}};
+    const Dictionary second{{AudioRecordEntry::Title, u"second"_s}, {AudioRecordEntry::SavePath, QVariantList{1}}};
+    defaults_.setObject(kMediaLibrarySavedKey, MediaLibraryStore::value({first, second}, {}));
+    MediaLibrary library;
+    library.addRecordFile(entry(u"a"_s));
+    library.removeMediaLibraryArray({second});
+    EXPECT_EQ(library.records(), (QVariantList{entry(u"a"_s), first}));
+    EXPECT_TRUE(MediaLibrary::findAudioByKey(u"(null)"_s, library.records()).isEmpty());
+}
+
+TEST_F(Library, TellsViewsExactlyWhichRowsChanged) {
+    MediaLibrary library;
+    library.addRecordFile(newEntry(u"a"_s));
+    library.addRecordFile(entry(u"b"_s));
+    library.addRecordFile(newEntry(u"c"_s));
+    Notes notes(library);
+    library.addRecordFile(newEntry(u"d"_s));
+    EXPECT_EQ(notes.lines, (QStringList{u"+new-record 0"_s, u"+all-record 0"_s}));
+    notes.lines.clear();
+    library.addRecordFile(newEntry(u"b"_s)); // now new: a row between d, c and a
+    EXPECT_EQ(notes.lines, (QStringList{u"+new-record 2"_s}));
+    notes.lines.clear();
+    library.addRecordFile(entry(u"c"_s, u"Title"_s));
+    EXPECT_EQ(notes.lines, (QStringList{u"=new-record 1"_s, u"=all-record 1"_s}));
+    notes.lines.clear();
+    library.addRingtoneFile(entry(u"r"_s));
+    EXPECT_EQ(notes.lines, (QStringList{u"+all-ringtone 0"_s}));
+    notes.lines.clear();
+    library.removeMediaLibraryArray({entry(u"c"_s), entry(u"a"_s), entry(u"r"_s)});
+    EXPECT_EQ(notes.lines, (QStringList{u"-new-record 3"_s, u"-new-record 1"_s, u"-all-record 3"_s, u"-all-record 1"_s,
+                                        u"-all-ringtone 0"_s}));
+}
+
+TEST_F(Library, ShowsEachRemovalInTheLeafWhenItTells) {
+    MediaLibrary library;
+    for (int i = 0; i < 4; ++i)
+        library.addRecordFile(entry(QString::number(i)));
+    QList<qsizetype> sizes;
+    QObject::connect(&library, &MediaLibrary::entryRemoved, &library,
+                     [&](const QString& key, int) { sizes += leaf(library, key).size(); });
+    library.removeMediaLibraryArray({entry(u"0"_s), entry(u"2"_s)});
+    EXPECT_EQ(sizes, (QList<qsizetype>{3, 2}));
+}
+
+TEST_F(Library, TellsAResetWhenManyRowsGoAtOnce) {
+    const QVariantList many = manyEntries(500);
+    defaults_.setObject(kMediaLibrarySavedKey, MediaLibraryStore::value(many, {}));
+    MediaLibrary library;
+    Notes notes(library);
+    library.removeMediaLibraryArray(many.mid(100, 300));
+    EXPECT_EQ(notes.lines, QStringList{u"*all-record"_s});
+    EXPECT_EQ(leaf(library, u"all-record"_s).size(), 200);
+}
+
+TEST_F(Library, SavingByHandLoadsEveryLeaf) {
+    MediaLibrary library;
+    Notes notes(library);
+    library.setRecords({entry(u"a"_s)});
+    library.setCurrentNewArray({u"a"_s});
+    library.saveMediaLibraryList();
+    EXPECT_EQ(notes.lines, (QStringList{u"*new-record"_s, u"*all-record"_s, u"*new-ringtone"_s, u"*all-ringtone"_s}));
+    EXPECT_EQ(leaf(library, u"new-record"_s).size(), 1);
+    EXPECT_EQ(stored().value(u"records"_s).toList(), library.records());
+}
+
+TEST_F(Library, TakesOneMoreEntryIntoTenThousandAtOnce) {
+    defaults_.setObject(kMediaLibrarySavedKey, MediaLibraryStore::value(manyEntries(10000), {}));
+    MediaLibrary library;
+    qint64 best = std::numeric_limits<qint64>::max();
+    for (int i = 0; i < 5; ++i) {
+        QElapsedTimer timer;
+        timer.start();
+        library.addRecordFile(newEntry(QString::number(i)));
+        best = std::min(best, timer.elapsed());
+    }
+    EXPECT_LT(best, 20);
+    EXPECT_EQ(library.records().size(), 10005);
+}
+
+TEST(MediaLibraryStore, KeepsWhatTwoProcessesAddedAndRemoved) {
+    const QVariantList base{entry(u"a"_s), entry(u"b"_s), entry(u"c"_s), entry(u"d"_s)};
+    const QVariantList theirs{entry(u"theirs"_s), entry(u"b"_s, u"their title"_s), entry(u"c"_s), entry(u"d"_s)};
+    const QVariantList ours{entry(u"ours"_s), entry(u"a"_s), entry(u"b"_s), entry(u"d"_s, u"our title"_s)};
+    const QVariant joined =
+        MediaLibraryStore::merge(MediaLibraryStore::value(base, {}), MediaLibraryStore::value(theirs, {entry(u"r"_s)}),
+                                 MediaLibraryStore::value(ours, {}));
+    EXPECT_EQ(joined, MediaLibraryStore::value({entry(u"ours"_s), entry(u"theirs"_s), entry(u"b"_s, u"their title"_s),
+                                                entry(u"d"_s, u"our title"_s)},
+                                               {entry(u"r"_s)}));
+}
+
+TEST(MediaLibraryStore, KeepsOursWhenTheirsIsNoLibrary) {
+    const QVariant ours = MediaLibraryStore::value({entry(u"a"_s)}, {});
+    EXPECT_EQ(MediaLibraryStore::merge({}, {}, ours), ours);
+    EXPECT_EQ(MediaLibraryStore::merge({}, u"odd"_s, ours), ours);
+}
+
+TEST(MediaLibraryStore, LosesNoEntryOfTwoLibrariesOnOneFile) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.plist"_s);
+    const Platform::ServicesScope scope;
+    {
+        Platform::PropertyListDefaults one(path);
+        Platform::PropertyListDefaults other(path);
+        Platform::services().userDefaults = &one;
+        MediaLibrary window;
+        Platform::services().userDefaults = &other;
+        MediaLibrary commandLine;
+        const auto add = [](Platform::PropertyListDefaults& defaults, MediaLibrary& library, const QString& key) {
+            Platform::services().userDefaults = &defaults;
+            library.addRecordFile(entry(key));
+            ASSERT_TRUE(defaults.flush());
+        };
+        add(one, window, u"window 1"_s);
+        add(other, commandLine, u"command 1"_s);
+        add(one, window, u"window 2"_s);
+        add(other, commandLine, u"command 2"_s);
+        Platform::services().userDefaults = &one;
+        window.removeMediaLibraryArray({entry(u"window 1"_s)});
+        ASSERT_TRUE(one.flush());
+    }
+    Platform::PropertyListDefaults defaults(path);
+    Platform::services().userDefaults = &defaults;
+    QStringList all = keys(MediaLibrary().records());
+    all.sort();
+    EXPECT_EQ(all, (QStringList{u"command 1"_s, u"command 2"_s, u"window 2"_s}));
+}
