@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Source/BuiltInAudioRecord/BuildInAudioRecord.h"
+#include "Source/Control/RecordPreferences.h"
 
 #include <QColor>
 #include <QObject>
@@ -19,7 +20,7 @@ public:
     virtual void stopSoundPlaying() {}
     virtual void setTabViewShowWave(bool /*show*/) {}
     virtual void updateRecordStateAction() {}
-    /// The default puts the entry into the shared library.
+    /// The default makes the entry (identity, path) and puts it into the shared library.
     virtual void addRecordFile(const QString& path, const Dictionary& tags);
     /// The user accepted the add-on prompt.
     virtual void insertTheSystemAudioRecordDevice() {}
@@ -62,20 +63,30 @@ public:
 
     /// Set-up in its fixed order: engines, devices, computer audio, clock.
     void awakeFromNib();
+    /// Not owned; null for the defaults.
     void setDelegate(RecordStateControllerDelegate* delegate);
+    /// Settings to use instead of the stored ones; not owned, before awakeFromNib().
+    void setPreferences(RecordPreferences* preferences);
 
-    // ---- commands ---------------------------------------------------------------------------------------------------
+    // The commands.
     void startAndStopRecord();
     void pauseAndResumeRecord();
-    /// Also on the computer engine's I/O thread (automatic split).
+    /// Closes and queues the file in progress and goes on in a new one without a gap. Nothing happens while nothing
+    /// records. Also on the computer engine's I/O thread (automatic split).
     void splitTheRecord();
     void chooseRecordBuiltIn(bool on);
     void chooseRecordComputerAudio(bool on);
     void chooseBuiltInDevice(int index);
+    /// Shows the stored choices again, as far as their devices are there.
+    void refreshTheFace();
     /// Whether the window may close: never; while nothing records the program ends, else an alert is shown.
     bool windowShouldClose();
 
-    // ---- state queries --------------------------------------------------------------------------------------------
+    /// One tick of the display's clock: 0.5 s. The clock runs from awakeFromNib() on; tests stop it and tick.
+    void recordFlushTime();
+    void setDisplayClockRunning(bool running);
+
+    // The state.
     [[nodiscard]] int recordState_();
     [[nodiscard]] bool isStateAudioCanStartRecord() const;
     [[nodiscard]] bool isStateAudioRecord() const;
@@ -98,13 +109,23 @@ public:
     [[nodiscard]] QString stateString() const;
     [[nodiscard]] QString timeString() const;
     [[nodiscard]] QColor stateColor() const;
+    /// Text of the converting notice in its blink phase; empty until the first tick.
+    [[nodiscard]] QString fileConvertTip() const;
+    /// Seconds of the current file as the clock counts them.
+    [[nodiscard]] float fRecordTime() const;
+    /// Whether a computer-audio recording waits for its first sound.
+    [[nodiscard]] bool isWaittingForSound() const;
     [[nodiscard]] QStringList deviceNames() const;
     [[nodiscard]] int selectedDevice() const;
     /// Jobs that wait or are being worked on; the converting notice shows while it is not 0.
     [[nodiscard]] int jobsInQueue() const;
     /// Share of the job at hand, 0 to 1; below 0 when there is none.
     [[nodiscard]] double jobProgress() const;
-    /// Frames lost in the recording at hand (or the last one), both sources.
+    /// Seconds of frames written since the start, over all files of splits; with two sources, of the shorter one.
+    [[nodiscard]] double recordedSeconds() const;
+    /// Recordings that the filter has thrown away in this process.
+    [[nodiscard]] int droppedRecordings() const;
+    /// Frames lost in the recording at hand (or the last one), both sources, over all files of splits.
     [[nodiscard]] std::uint64_t lostFrames() const;
     /// What the user should know, in plain words, newest last: lost frames, a device that went away, a source that is
     /// off, a disk that fills up, where an unfinished recording was kept.
@@ -113,8 +134,14 @@ public:
     /// Ends a running recording and waits until all queued jobs are done or set aside (quitting, signals).
     void finishAll();
 
-    // ---- engine callbacks (I/O threads)
-    // -------------------------------------------------------------------------------
+    /// The next free name for a recording in the stored folder, reserved until its job is done. Any thread.
+    [[nodiscard]] QString getAudioRecordPath();
+    /// The first free name for a ringtone in the stored folder; not reserved.
+    [[nodiscard]] QString nextRingtoneMakerFilePath();
+    /// The tags that a new recording begins with.
+    [[nodiscard]] static Dictionary initID3BasicInfoDic();
+
+    // Engine callbacks (I/O threads).
     void clientRecievedBuiltInAudioData(float level) override;
     void clientRecievedComputerAudioData(float level) override;
 
@@ -126,6 +153,8 @@ Q_SIGNALS:
     void noticesChanged();
     /// A finished recording reached the library (or was kept out by the filter: then @p entry is empty).
     void recordingFinished(const QString& path, const Dictionary& entry);
+    /// A recording could not be finished and was kept elsewhere.
+    void recordingSetAside(const QString& path, const QStringList& kept);
 
 private:
     struct Private;

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QColor>
+#include <QString>
+
+/// What the live display says about a recording.
+struct RecordDisplay {
+    QString stateString;
+    QString timeString;
+    QColor stateColor;
+
+    /// @p recordState 0 stopped, 1 recording, 2 paused; @p seconds of the file at hand.
+    [[nodiscard]] static RecordDisplay of(int recordState, float seconds, bool blinkOn);
+    /// The phase of everything that blinks: changes every half second.
+    [[nodiscard]] static bool blinkOn(double timeIntervalSinceReferenceDate);
+    /// The notice that slides in while recordings are being finished.
+    [[nodiscard]] static QString convertingTip(bool blinkOn);
+    friend bool operator==(const RecordDisplay&, const RecordDisplay&) = default;
+};

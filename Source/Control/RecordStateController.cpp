@@ -1,0 +1,392 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/Control/RecordStateController.h"
+
+#include "Platform/Desktop/Alerts.h"
+#include "Platform/Foundation/Clock.h"
+#include "Platform/Foundation/MainQueue.h"
+#include "Platform/Foundation/Services.h"
+#include "Source/Control/RecordStateControllerPrivate.h"
+#include "Source/Model/AudioRecordEntry.h"
+#include "Source/Model/MediaLibrary.h"
+
+#include <QThread>
+
+using namespace Qt::StringLiterals;
+using namespace PreferenceStore;
+
+namespace {
+
+/// More would only push the newest out of sight.
+constexpr qsizetype MostNotices = 20;
+
+} // namespace
+
+void RecordStateControllerDelegate::addRecordFile(const QString& path, const Dictionary& tags) {
+    Dictionary entry = tags;
+    if (!entry.contains(AudioRecordEntry::NodeDataKey)) {
+        const double now = Platform::services().clock->timeIntervalSinceReferenceDate();
+        entry.insert(AudioRecordEntry::NodeDataKey, path + u'_' + QString::number(now, 'f', 6));
+    }
+    entry.insert(AudioRecordEntry::SavePath, path);
+    MediaLibrary::shareLibrary().addRecordFile(entry);
+}
+
+RecordStateController::RecordStateController(EngineFactory factory, QObject* parent)
+    : QObject(parent), d(std::make_unique<Private>(this)) {
+    const auto make = [&factory] { return factory ? factory() : std::make_unique<BuildInAudioRecord>(); };
+    d->builtIn.engine = make();
+    d->builtIn.label = u"The input device"_s;
+    d->builtIn.rawName = u"/BuiltInA"_s;
+    d->builtIn.jobKey = ExportJob::BuiltInAudioTempPath;
+    d->computer.engine = make();
+    d->computer.label = u"Computer audio"_s;
+    d->computer.rawName = u"/ComputerA"_s;
+    d->computer.jobKey = ExportJob::ComputerAudioTempPath;
+
+    RecordQueue::Owner owner;
+    owner.nextFreeName = [this] { return getAudioRecordPath(); };
+    owner.releaseName = [this](const QString& path) {
+        const std::scoped_lock lock(d->mutex);
+        d->names.release(path);
+    };
+    owner.addRecordFile = [this](const QString& path, const Dictionary& tags) {
+        d->delegate->addRecordFile(path, tags);
+    };
+    owner.filter = [this] { return RecordFilter::read(*d->preferences); };
+    d->queue = std::make_unique<RecordQueue>(std::move(owner));
+    connect(d->queue.get(), &RecordQueue::queueChanged, this, &RecordStateController::queueChanged);
+    connect(d->queue.get(), &RecordQueue::recordingFinished, this, &RecordStateController::recordingFinished);
+    connect(d->queue.get(), &RecordQueue::recordingSetAside, this, &RecordStateController::recordingSetAside);
+    connect(d->queue.get(), &RecordQueue::noticed, this, [this](const QString& text) { d->notice(text); });
+
+    connect(&d->recordTimerForTime_, &QTimer::timeout, this, &RecordStateController::recordFlushTime);
+    d->recordTimerForTime_.setInterval(500);
+}
+
+RecordStateController::~RecordStateController() {
+    d->alive.reset();
+    // No cycle runs from here on; then what still waits in the queue is set aside.
+    d->devices.reset();
+    d->builtIn.engine.reset();
+    d->computer.engine.reset();
+    d->queue.reset();
+}
+
+void RecordStateController::setDelegate(RecordStateControllerDelegate* delegate) {
+    d->delegate = delegate ? delegate : &d->defaultDelegate;
+}
+
+void RecordStateController::setPreferences(RecordPreferences* preferences) {
+    d->preferences = preferences ? preferences : &d->storedPreferences;
+}
+
+void RecordStateController::awakeFromNib() {
+    setIsRecordPause_(false);
+    for (RecordSource* source : {&d->builtIn, &d->computer}) {
+        source->engine->setDelegate(this);
+        source->engine->setIsecordComputerAudio_(source == &d->computer);
+        source->engine->setEventHandler(
+            [this, source](Platform::InputUnit::Event event) { d->deviceEvent(event, *source); });
+    }
+    d->devices = std::make_unique<RecordSources>(*d->builtIn.engine, *d->computer.engine);
+    connect(d->devices.get(), &RecordSources::devicesChanged, this, &RecordStateController::devicesChanged);
+    connect(d->devices.get(), &RecordSources::computerAudioDeviceChanged, this, &RecordStateController::refreshTheFace);
+    connect(d->devices.get(), &RecordSources::noticed, this, [this](const QString& text) { d->notice(text); });
+    d->devices->awakeFromNib();
+
+    d->isRecordingFlushTheFace(false);
+    refreshTheFace();
+    d->display_ = RecordDisplay::of(0, 0, isShowWaveRecordFullTime());
+    d->recordTimerForTime_.start();
+}
+
+void RecordStateController::setDisplayClockRunning(bool running) {
+    if (running)
+        d->recordTimerForTime_.start();
+    else
+        d->recordTimerForTime_.stop();
+}
+
+void RecordStateController::refreshTheFace() {
+    d->builtIn.checked = Platform::boolValue(d->preferences->value(ChooseRecordBuiltIn, true));
+    d->popUpEnabled_ = d->builtIn.checked;
+    d->computer.checked = d->devices->computerAudioDeviceID() != 0 &&
+                          Platform::boolValue(d->preferences->value(ChooseRecordComputerAudio, false));
+    d->startEnabled_ = canRecord();
+    d->changed();
+}
+
+void RecordStateController::chooseRecordBuiltIn(bool on) {
+    d->builtIn.checked = on;
+    d->builtIn.off = false;
+    d->popUpEnabled_ = on;
+    d->preferences->setValue(on, ChooseRecordBuiltIn);
+    d->startEnabled_ = canRecord();
+    d->changed();
+}
+
+void RecordStateController::chooseRecordComputerAudio(bool on) {
+    if (d->devices->computerAudioDeviceID() == 0)
+        d->devices->findComputerAudioDevice();
+    const bool present = d->devices->computerAudioDeviceID() != 0;
+    if (!present) {
+        const int button = Platform::services().alerts->runModal(
+            u"Add-on required to record the system audio."_s,
+            u"KorvanAudioDevice is easy to use, it simply accept system audio data, allowing any audio application to "
+            u"send and receive audio with no other support needed. KorvanAudioDevice is free, and runs on Mac Intel "
+            u"computers. This driver will only be used by Sonaphex."_s,
+            {u"Install"_s, u"Cancel"_s});
+        if (button == 0)
+            d->delegate->insertTheSystemAudioRecordDevice();
+    }
+    d->computer.checked = on && present;
+    d->computer.off = false;
+    d->preferences->setValue(bool(d->computer.checked), ChooseRecordComputerAudio);
+    d->startEnabled_ = canRecord();
+    d->changed();
+}
+
+void RecordStateController::chooseBuiltInDevice(int index) {
+    d->devices->chooseBuiltInDevice(index);
+}
+
+bool RecordStateController::windowShouldClose() {
+    // An engine may write although the choices say otherwise: a wait for sound that was left by a stop.
+    if (recordState_() == 0 && !d->anyEngineRecords())
+        d->delegate->terminate();
+    else
+        Platform::services().alerts->runModal(u"Waring:"_s, u"Please stop your recording."_s, {u"OK"_s});
+    return false;
+}
+
+int RecordStateController::recordState_() {
+    int state = 0;
+    if (d->builtIn.takesPart())
+        state = d->builtIn.engine->recordStatus();
+    else if (d->computer.takesPart())
+        state = d->computer.engine->recordStatus();
+    d->recordState_ = state;
+    return state;
+}
+
+bool RecordStateController::isStateAudioCanStartRecord() const {
+    return d->startEnabled_;
+}
+
+bool RecordStateController::isStateAudioRecord() const {
+    return d->active_;
+}
+
+bool RecordStateController::isStateAudioRecordPause() const {
+    return d->active_;
+}
+
+bool RecordStateController::isRecordPause_() const {
+    return d->isRecordPause_;
+}
+
+void RecordStateController::setIsRecordPause_(bool paused) {
+    d->isRecordPause_ = paused;
+    d->changed();
+}
+
+bool RecordStateController::canRecord() const {
+    return d->builtIn.checked || d->computer.checked;
+}
+
+float RecordStateController::getAudioWaveLevelValue() const {
+    float level = 0;
+    if (d->builtIn.checked)
+        level = d->builtInLevelValue_;
+    if (d->computer.checked)
+        level = d->computerLevelValue_;
+    if (d->builtIn.checked && d->computer.checked) {
+        const double t = Platform::services().clock->timeIntervalSinceReferenceDate();
+        level = static_cast<std::uint64_t>(t * 10) % 2 == 0 ? d->builtInLevelValue_ : d->computerLevelValue_;
+    }
+    return level;
+}
+
+bool RecordStateController::isShowWaveRecordFullTime() const {
+    return RecordDisplay::blinkOn(Platform::services().clock->timeIntervalSinceReferenceDate());
+}
+
+bool RecordStateController::splitEnabled() const {
+    return d->active_;
+}
+
+bool RecordStateController::sourcesEnabled() const {
+    return !d->active_;
+}
+
+bool RecordStateController::popUpEnabled() const {
+    return d->popUpEnabled_;
+}
+
+bool RecordStateController::builtInChecked() const {
+    return d->builtIn.checked;
+}
+
+bool RecordStateController::computerAudioChecked() const {
+    return d->computer.checked;
+}
+
+QString RecordStateController::startToolTip() const {
+    return d->stopShown_ ? u"Stop Record"_s : u"Start Record"_s;
+}
+
+QString RecordStateController::startImage() const {
+    return d->stopShown_ ? u"RecorderStop.png"_s : u"RecorderStart.png"_s;
+}
+
+QString RecordStateController::startPressedImage() const {
+    return d->stopShown_ ? u"RecorderStopDown.png"_s : u"RecorderStartDown.png"_s;
+}
+
+QString RecordStateController::pauseToolTip() const {
+    return d->resumeTip_ ? u"Resume Record"_s : u"Pause Record"_s;
+}
+
+QString RecordStateController::pauseImage() const {
+    return d->isRecordPause_ ? u"RecorderResume.png"_s : u"RecorderPause.png"_s;
+}
+
+QString RecordStateController::stateString() const {
+    return d->display_.stateString;
+}
+
+QString RecordStateController::timeString() const {
+    return d->display_.timeString;
+}
+
+QColor RecordStateController::stateColor() const {
+    return d->display_.stateColor;
+}
+
+QString RecordStateController::fileConvertTip() const {
+    return d->convertTip_;
+}
+
+float RecordStateController::fRecordTime() const {
+    return d->fRecordTime_;
+}
+
+QStringList RecordStateController::deviceNames() const {
+    return d->devices ? d->devices->deviceNames() : QStringList();
+}
+
+int RecordStateController::selectedDevice() const {
+    return d->devices ? d->devices->selectedDevice() : -1;
+}
+
+bool RecordStateController::isWaittingForSound() const {
+    const std::scoped_lock lock(d->mutex);
+    return d->splitter.isWaitting() && d->computer.engine->recordStatus() == 0;
+}
+
+int RecordStateController::jobsInQueue() const {
+    return d->queue->count();
+}
+
+double RecordStateController::jobProgress() const {
+    return d->queue->progress();
+}
+
+int RecordStateController::droppedRecordings() const {
+    return d->dropped_;
+}
+
+QStringList RecordStateController::notices() const {
+    return d->notices_;
+}
+
+void RecordStateController::dismissNotices() {
+    if (d->notices_.isEmpty())
+        return;
+    d->notices_.clear();
+    Q_EMIT noticesChanged();
+}
+
+Dictionary RecordStateController::initID3BasicInfoDic() {
+    return RecordQueue::initID3BasicInfoDic();
+}
+
+void RecordStateController::recordFlushTime() {
+    const int state = recordState_();
+    if (state == 1)
+        d->fRecordTime_.fetch_add(0.5F);
+    if (state == 2)
+        qInfo("Pause Rcd   %f", double(d->fRecordTime_));
+    const bool blinkOn = isShowWaveRecordFullTime();
+    const RecordDisplay display = RecordDisplay::of(state, d->fRecordTime_, blinkOn);
+    const QString tip = RecordDisplay::convertingTip(blinkOn);
+    if (display != d->display_ || tip != d->convertTip_) {
+        d->display_ = display;
+        d->convertTip_ = tip;
+        Q_EMIT displayChanged();
+    }
+    d->showLosses();
+    if (jobsInQueue() > 0)
+        Q_EMIT queueChanged();
+}
+
+void RecordStateController::Private::onMain(std::function<void()> work) {
+    if (QThread::currentThread() == q->thread()) {
+        work();
+        return;
+    }
+    Platform::MainQueue::post([guard = std::weak_ptr<int>(alive), work = std::move(work)] {
+        if (!guard.expired())
+            work();
+    });
+}
+
+void RecordStateController::Private::changed() {
+    onMain([this] { Q_EMIT q->stateChanged(); });
+}
+
+/// Always later: it is also said with the mutex locked, and who hears of it asks for the state.
+void RecordStateController::Private::notice(const QString& text) {
+    Platform::MainQueue::post([this, guard = std::weak_ptr<int>(alive), text] {
+        if (guard.expired())
+            return;
+        qWarning("%s", qUtf8Printable(text));
+        if (!notices_.isEmpty() && notices_.last() == text)
+            return;
+        notices_.append(text);
+        if (notices_.size() > MostNotices)
+            notices_.removeFirst();
+        Q_EMIT q->noticesChanged();
+    });
+}
+
+void RecordStateController::Private::deviceEvent(Platform::InputUnit::Event event, const RecordSource& source) {
+    using Event = Platform::InputUnit::Event;
+    const bool records = source.engine->recordStatus() != 0;
+    if (event == Event::DeviceLost || event == Event::ServerLost) {
+        if (!records)
+            return;
+        notice(event == Event::DeviceLost
+                   ? u"%1 went away. What was recorded so far is kept; the recording goes on when it is back."_s.arg(
+                         source.label)
+                   : u"The sound server went away. What was recorded so far is kept; the recording goes on when it "
+                     u"is back."_s);
+    } else if (event == Event::DeviceReturned || event == Event::ServerReturned) {
+        {
+            const std::scoped_lock lock(mutex);
+            splitter.restartClock();
+        }
+        if (records)
+            notice(u"%1 is back."_s.arg(source.label));
+    }
+}
+
+void RecordStateController::Private::showLosses() {
+    const std::uint64_t lost = q->lostFrames();
+    if (lost == lostShown_)
+        return;
+    lostShown_ = lost;
+    if (lost > 0)
+        notice(u"%1 frames were lost in this recording: the machine did not keep up."_s.arg(lost));
+}

@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Source/Control/RecordDisplay.h"
+#include "Source/Control/RecordQueue.h"
+#include "Source/Control/RecordSources.h"
+#include "Source/Control/RecordStateController.h"
+#include "Source/Control/RecordingNames.h"
+#include "Source/Control/SilenceSplitter.h"
+
+#include <QTimer>
+
+#include <mutex>
+
+/// One of the two things that can be recorded, with its engine.
+struct RecordSource {
+    std::unique_ptr<BuildInAudioRecord> engine;
+    QString label;                    ///< for people
+    QString rawName;                  ///< of the raw files; the number and the ending follow
+    QString jobKey;                   ///< under which a job carries the raw file
+    std::atomic<bool> checked{false}; ///< the check box
+    std::atomic<bool> off{false};     ///< its engine did not start: this recording goes without it
+    std::atomic<bool> hasFile{false}; ///< the engine writes to a raw file
+
+    [[nodiscard]] bool takesPart() const { return checked && !off; }
+};
+
+/// Keeps both engines from beginning a cycle. Taken before the mutex, never while it is held: an I/O thread that is
+/// waited for may want the mutex.
+class CycleHold {
+public:
+    CycleHold(BuildInAudioRecord& one, BuildInAudioRecord& other) : one_(one), other_(other) {
+        one_.holdCycles();
+        other_.holdCycles();
+    }
+    ~CycleHold() {
+        other_.releaseCycles();
+        one_.releaseCycles();
+    }
+    CycleHold(const CycleHold&) = delete;
+    CycleHold& operator=(const CycleHold&) = delete;
+
+private:
+    BuildInAudioRecord& one_;
+    BuildInAudioRecord& other_;
+};
+
+struct RecordStateController::Private {
+    explicit Private(RecordStateController* controller) : q(controller) {}
+
+    RecordStateController* q;
+    RecordStateControllerDelegate defaultDelegate;
+    RecordStateControllerDelegate* delegate = &defaultDelegate;
+    RecordPreferences storedPreferences;
+    RecordPreferences* preferences = &storedPreferences;
+
+    std::unique_ptr<RecordQueue> queue; ///< outlives the engines: their files report to it
+    RecordSource builtIn;
+    RecordSource computer;
+    std::unique_ptr<RecordSources> devices;
+    QTimer recordTimerForTime_;
+    std::shared_ptr<int> alive = std::make_shared<int>(0);
+
+    std::atomic<float> builtInLevelValue_{0};
+    std::atomic<float> computerLevelValue_{0};
+    std::atomic<float> fRecordTime_{0};
+    std::atomic<int> recordState_{0};
+    std::atomic<bool> isRecordPause_{false};
+    std::atomic<bool> resumeTip_{false}; ///< the pause button's tool tip offers to resume
+    std::atomic<bool> active_{false};    ///< the pause button's enabled state
+    std::atomic<int> dropped_{0};
+
+    std::mutex mutex; ///< guards the next four; never held while an I/O thread is waited for
+    SilenceSplitter splitter;
+    QString audioRecordPath_;
+    RecordingNames names;
+    double closedSeconds_ = 0; ///< of the files that splits have closed
+
+    // Main thread only.
+    bool startEnabled_ = false;
+    bool popUpEnabled_ = true;
+    bool stopShown_ = false; ///< the start button shows "Stop Record"
+    RecordDisplay display_;
+    QString convertTip_;
+    QStringList notices_;
+    std::uint64_t lostShown_ = 0;
+    std::uint64_t lostBefore_ = 0; ///< of the recording that ended last
+
+    void onMain(std::function<void()> work);
+    void changed();
+    void notice(const QString& text);
+    void deviceEvent(Platform::InputUnit::Event event, const RecordSource& source);
+    void showLosses();
+
+    void isRecordingFlushTheFace(bool recording);
+    void startRecord();
+    void stopRecord();
+    void leaveUnheardRecording();
+    void pauseRecord();
+    void resumeRecord();
+    void setPaused(bool paused);
+    void cut(bool automatic);
+    [[nodiscard]] bool anyEngineRecords() const;
+    [[nodiscard]] std::uint64_t engineLosses() const;
+
+    /// What a stop or a cut leaves behind.
+    struct Ending {
+        std::shared_ptr<ExportJob> job;
+        bool builtInTooShort = false;
+        bool computerTooShort = false;
+        [[nodiscard]] bool drops() const { return builtInTooShort || computerTooShort; }
+    };
+
+    // With cycles held and the mutex locked.
+    [[nodiscard]] QString reserveName();
+    [[nodiscard]] static QString rawPath(const RecordSource& source);
+    void beginFile(RecordSource& source, bool record);
+    [[nodiscard]] Ending describeEnding();
+    [[nodiscard]] std::function<void(QString, OSStatus)> whenClosed(const std::shared_ptr<ExportJob>& job, bool remove);
+    bool exchangeFiles(Ending& ending);
+    void armAnew();
+    void endFiles(const Ending& ending, std::unique_lock<std::mutex>& lock);
+};
