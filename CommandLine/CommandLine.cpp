@@ -2,13 +2,51 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandLine/CommandLine.h"
 
+#include "CommandLine/ConvertCommand.h"
+#include "CommandLine/WaveformCommand.h"
+#include "Platform/LinuxServices.h"
+
+#include <QCoreApplication>
+
 #include <cstdio>
+
+using namespace Qt::StringLiterals;
 
 namespace CommandLine {
 
 const std::map<QString, Command>& commands() {
-    static const std::map<QString, Command> all{};
+    static const std::map<QString, Command> all{
+        {u"convert"_s, convertCommand},
+        {u"waveform"_s, waveformCommand},
+    };
     return all;
+}
+
+std::optional<int> runCommand(int argc, char** argv) {
+    if (argc < 2)
+        return {};
+    const auto name = QString::fromLocal8Bit(argv[1]);
+    if (name == u"help"_s || name == u"--help"_s || name == u"-h"_s) {
+        std::printf("usage: sonaphex                    opens the window\n");
+        for (const auto& [word, command] : commands())
+            std::printf("       sonaphex %s\n           %s\n", command.usage, command.summary);
+        return Done;
+    }
+    if (name == u"--version"_s) {
+        std::printf("sonaphex %s\n", SONAPHEX_VERSION);
+        return Done;
+    }
+    const auto found = commands().find(name);
+    if (found == commands().end()) {
+        if (name.startsWith(u'-'))
+            return {};
+        std::fprintf(stderr, "sonaphex: %s: no such command (see sonaphex help)\n", argv[1]);
+        return WrongUsage;
+    }
+    QCoreApplication application(argc, argv);
+    Platform::LinuxServices services;
+    services.install(Platform::LinuxServices::Mode::CommandLine);
+    return found->second.run(QCoreApplication::arguments().mid(2));
 }
 
 int fail(const QString& what) {

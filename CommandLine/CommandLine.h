@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 
 /// The subcommands of the program. Each lives in a file of its own and registers itself here by name.
 namespace CommandLine {
@@ -24,6 +25,10 @@ struct Command {
 
 /// All subcommands by name.
 [[nodiscard]] const std::map<QString, Command>& commands();
+
+/// Runs the subcommand that the program's arguments name, under a QCoreApplication and with the services of the command
+/// line. @return its exit status; nothing when none is named and the window is wanted.
+[[nodiscard]] std::optional<int> runCommand(int argc, char** argv);
 
 /// "sonaphex: what went wrong: why" on standard error. @return Failed
 int fail(const QString& what);

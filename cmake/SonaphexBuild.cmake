@@ -45,6 +45,8 @@ endfunction()
 function(sonaphex_floor name)
     add_library(${name} STATIC ${ARGN})
     target_link_libraries(${name} PUBLIC sonaphex_flags)
+    # A file that is new since the last configuration is not among the dependencies that moc and uic found then.
+    set_target_properties(${name} PROPERTIES AUTOGEN_TARGET_DEPENDS "${ARGN}")
     if(SONAPHEX_PCH)
         target_precompile_headers(${name} PRIVATE
             <algorithm> <array> <atomic> <chrono> <cmath> <cstdint> <functional> <map> <memory> <mutex> <optional> <span>

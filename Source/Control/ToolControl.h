@@ -8,7 +8,9 @@
 
 #include <cstdint>
 
-class QObject;
+class QPainter;
+class QRectF;
+class QSizeF;
 
 /// Small operations on files, times and windows that the whole program shares.
 namespace ToolControl {
@@ -32,16 +34,37 @@ void showWindowNib(WindowShower& controller);
 [[nodiscard]] std::int32_t getDirectorySize(const QString& path);
 /// Free megabytes (binary) on the volume of the path; 0 when they cannot be told.
 [[nodiscard]] std::int64_t getLocalSize(const QString& path);
+/// Whether a name may be given to a file on any system: without ":", "\\" and "/".
 [[nodiscard]] bool isAvailable(const QString& fileName);
+
+// The next three run /usr/bin/find and /usr/bin/file and wait for them without limit. A tool that cannot be started
+// throws std::runtime_error.
+
+/// Whether a protected file is among those whose name matches the pattern, the folder's subfolders included.
 [[nodiscard]] bool findDRMForExtension(const QString& folder, const QString& extension);
 [[nodiscard]] bool hasDRMFile(const QString& path);
+/// What file(1) says of the file, with its leading blank and trailing new-line.
 [[nodiscard]] QString getFileInfoForFileCMD(const QString& path);
-/// Null when there is none.
+
+/// The folder of a DVD's films: the path itself, or the one in it. Null when there is none.
 [[nodiscard]] QString isVIDEO_TS(const QString& path);
+/// The path when it names a disc image of that kind, else null.
 [[nodiscard]] QString isISO(const QString& path);
 [[nodiscard]] QString isDMG(const QString& path);
 [[nodiscard]] bool isDVDpath(const QString& path);
+/// The first disc image of either kind; null when there is none.
 [[nodiscard]] QString getFirstImageFile(const QStringList& paths);
+
+/// Something that has a size and can paint itself, a text with its looks for instance.
+class Drawable {
+public:
+    virtual ~Drawable() = default;
+    [[nodiscard]] virtual QSizeF size() const = 0;
+    virtual void drawInRect(QPainter& painter, const QRectF& rect) const = 0;
+};
+/// A picture of the drawable's size with transparent ground; null when it has no size.
+[[nodiscard]] QImage creatorImageFromStr(const Drawable& string);
+
 /// Shows the file in the file manager.
 void openFile(const QString& path);
 

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CommandLine/Arguments.h"
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace CommandLine {
+
+Arguments::Arguments(const QStringList& arguments, const QStringList& options) {
+    parser_.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    for (const auto& option : options) {
+        const auto name = option.section(u'=', 0, 0);
+        parser_.addOption({{name}, QString(), option.section(u'=', 1)});
+    }
+    if (!parser_.parse(QStringList{u"sonaphex"_s} + arguments))
+        problem_ = parser_.errorText();
+}
+
+double Arguments::seconds(const QString& option, double otherwise) {
+    if (!parser_.isSet(option))
+        return otherwise;
+    bool isNumber = false;
+    const auto seconds = parser_.value(option).toDouble(&isNumber);
+    if (!isNumber || !std::isfinite(seconds) || seconds < 0) {
+        problem_ = u"--%1: %2 is no time in seconds"_s.arg(option, parser_.value(option));
+        return otherwise;
+    }
+    return seconds;
+}
+
+} // namespace CommandLine

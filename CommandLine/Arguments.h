@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QCommandLineParser>
+#include <QStringList>
+
+namespace CommandLine {
+
+/// The arguments of one subcommand.
+class Arguments {
+public:
+    /// Options as "from=S" (takes a value) or "json" (takes none).
+    Arguments(const QStringList& arguments, const QStringList& options);
+
+    /// Why the arguments make no sense; empty when they do. Every method may set it.
+    [[nodiscard]] QString problem() const { return problem_; }
+    [[nodiscard]] QStringList positional() const { return parser_.positionalArguments(); }
+    [[nodiscard]] bool isSet(const QString& option) const { return parser_.isSet(option); }
+    [[nodiscard]] QString value(const QString& option) const { return parser_.value(option); }
+    /// A time in seconds, 0 or more; @p otherwise when the option is not set.
+    [[nodiscard]] double seconds(const QString& option, double otherwise);
+
+private:
+    QCommandLineParser parser_;
+    QString problem_;
+};
+
+} // namespace CommandLine

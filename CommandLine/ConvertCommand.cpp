@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CommandLine/ConvertCommand.h"
+
+#include "CommandLine/Arguments.h"
+#include "CommandLine/Interrupt.h"
+#include "CommandLine/PartFile.h"
+#include "CommandLine/ProgressBar.h"
+#include "Platform/Foundation/Services.h"
+#include "Source/Control/ConverterAudioControl.h"
+
+#include <QFileInfo>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace CommandLine {
+
+namespace {
+
+std::optional<int> outputType(const QString& name) {
+    if (name == u"wav")
+        return 0;
+    if (name == u"m4a" || name == u"m4r")
+        return 1;
+    if (name == u"caf")
+        return 2;
+    return {};
+}
+
+struct Task {
+    QString source;
+    QString target;
+    int type = 1;
+    bool overwrite = false;
+    bool fading = false;
+    double from = 0;
+    double to = 0; ///< 0 is the end
+    double fadeIn = 0;
+    double fadeOut = 0;
+    double length = 0; ///< 0 is the length of the range
+};
+
+/// What to say when a copy answered no.
+QString failure(const ConverterAudioControl& converter, const QString& source) {
+    if (Interrupt::requested())
+        return u"stopped before the end: nothing was written"_s;
+    const auto error = converter.sourceError();
+    return error ? error.text : u"%1 cannot be converted"_s.arg(source);
+}
+
+int convert(const Task& task) {
+    PartFile part(task.target, task.overwrite);
+    if (const auto problem = part.problem(); !problem.isEmpty())
+        return fail(problem);
+
+    auto to = task.to;
+    auto length = task.length;
+    if (task.fading) {
+        if (to <= 0) {
+            Platform::AudioFileInfo info;
+            Platform::MediaError error;
+            if (!Platform::services().mediaFiles->info(task.source, info, error))
+                return fail(error.text);
+            to = info.seconds;
+        }
+        if (length <= 0)
+            length = to - task.from;
+        if (to <= task.from)
+            return fail(u"nothing between second %1 and second %2 of %3"_s.arg(task.from).arg(to).arg(task.source));
+    }
+
+    const Interrupt interrupt;
+    ConverterAudioControl converter;
+    if (!converter.createOutPutFile(part.path(), task.type))
+        return fail(converter.exportError().text);
+    bool copied = false;
+    {
+        ProgressBar bar(QFileInfo(task.target).fileName());
+        converter.setProgress([&bar](double share) {
+            bar.show(share);
+            return !Interrupt::requested();
+        });
+        copied = task.fading ? converter.startFadeInFadeOutConverterSource(task.source, float(task.from), float(to),
+                                                                           float(task.fadeIn), float(task.fadeOut),
+                                                                           float(length))
+                             : converter.startConverterSource(task.source, float(task.from), float(to));
+    }
+    converter.closeExportFile();
+    if (!copied)
+        return fail(failure(converter, task.source));
+    if (const auto error = converter.exportError())
+        return fail(error.text);
+    if (const auto problem = part.commit(); !problem.isEmpty())
+        return fail(problem);
+    if (const auto damage = converter.sourceError())
+        fail(u"the source is damaged, what could be read was converted: %1"_s.arg(damage.text));
+    return Done;
+}
+
+int run(const QStringList& given) {
+    const auto name = u"convert"_s;
+    Arguments arguments(given, {u"type=TYPE"_s, u"from=S"_s, u"to=S"_s, u"fade-in=S"_s, u"fade-out=S"_s, u"length=S"_s,
+                                u"overwrite"_s});
+    Task task;
+    task.from = arguments.seconds(u"from"_s, 0);
+    task.to = arguments.seconds(u"to"_s, 0);
+    task.fadeIn = arguments.seconds(u"fade-in"_s, 0);
+    task.fadeOut = arguments.seconds(u"fade-out"_s, 0);
+    task.length = arguments.seconds(u"length"_s, 0);
+    task.overwrite = arguments.isSet(u"overwrite"_s);
+    for (const auto& option : {u"fade-in"_s, u"fade-out"_s, u"length"_s})
+        task.fading |= arguments.isSet(option);
+    if (!arguments.problem().isEmpty())
+        return wrongUsage(name, arguments.problem());
+    if (arguments.positional().size() != 2)
+        return wrongUsage(name, u"convert takes a source and a target"_s);
+    task.source = arguments.positional().at(0);
+    task.target = arguments.positional().at(1);
+    const auto typeName =
+        arguments.isSet(u"type"_s) ? arguments.value(u"type"_s) : QFileInfo(task.target).suffix().toLower();
+    const auto type = outputType(typeName);
+    if (!type)
+        return wrongUsage(name, u"--type is wav, m4a or caf"_s);
+    task.type = *type;
+    if (arguments.isSet(u"to"_s) && task.to <= task.from)
+        return wrongUsage(name, u"--to lies before --from"_s);
+    return convert(task);
+}
+
+} // namespace
+
+const Command convertCommand{run,
+                             "convert SRC DST [--type wav|m4a|caf] [--from S] [--to S] [--fade-in S] [--fade-out S]\n"
+                             "        [--length S] [--overwrite]",
+                             "copy a stretch of an audio file into a new file"};
+
+} // namespace CommandLine

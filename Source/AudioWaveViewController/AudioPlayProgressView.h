@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+/// What the progress bar asks of its owner.
+class AudioPlayProgressViewDelegate {
+public:
+    virtual ~AudioPlayProgressViewDelegate() = default;
+    /// The user wants to hear this second; it may lie slightly beyond the end.
+    virtual void setAudioPosition(float /*seconds*/) {}
+};
+
+/// The bar of a playing file; a click or a drag on it seeks. Main thread.
+class AudioPlayProgressView : public QWidget {
+    Q_OBJECT
+public:
+    explicit AudioPlayProgressView(QWidget* parent = nullptr);
+
+    [[nodiscard]] AudioPlayProgressViewDelegate* delegate() const { return delegate_; }
+    void setDelegate(AudioPlayProgressViewDelegate* delegate) { delegate_ = delegate; }
+    [[nodiscard]] double duration() const { return duration_; }
+    void setDuration(double seconds) { duration_ = seconds; }
+    [[nodiscard]] double currentTime() const { return currentTime_; }
+    void setCurrentTime(double seconds) { currentTime_ = seconds; }
+
+    /// The view without 5 points at its left and right.
+    [[nodiscard]] QRectF validProgressRect() const;
+    /// How much of it is filled, in points. Without a sound, or with a very short one, the bar shows as complete.
+    [[nodiscard]] double progressWidth() const;
+    /// @p x in points from the view's left edge, not from the bar's.
+    void setAudioPosition(double x);
+
+    [[nodiscard]] QSize sizeHint() const override { return {240, 20}; }
+    [[nodiscard]] QSize minimumSizeHint() const override { return {80, 20}; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void askFor(double seconds);
+
+    double duration_ = 0;
+    double currentTime_ = 0;
+    AudioPlayProgressViewDelegate* delegate_ = nullptr;
+    bool dragging_ = false;
+};

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/AudioWaveViewController/AudioRecordWaveView.h"
+
+#include "Source/View/Theme.h"
+
+#include <QEvent>
+#include <QPainter>
+
+#include <cmath>
+
+AudioRecordWaveView::AudioRecordWaveView(QWidget* parent) : QWidget(parent) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setAccessibleName(tr("Level history"));
+}
+
+void AudioRecordWaveView::addCurrentLevel(float level) {
+    if (isLeftToRight())
+        audioLevelArray_.prepend(level);
+    else
+        audioLevelArray_.append(level);
+    while (audioLevelArray_.size() > width())
+        isLeftToRight() ? audioLevelArray_.removeLast() : audioLevelArray_.removeFirst();
+    if (!scrollPicture())
+        pictureIsOld_ = true;
+    update();
+}
+
+void AudioRecordWaveView::drawColumn(QPainter& painter, int index) const {
+    const float level = audioLevelArray_.at(index);
+    // A damaged sample must not stop the drawing of all others.
+    const double v = std::isfinite(level) ? std::max(double(level), 0.02) : 0.02;
+    const double middle = height() / 2.0;
+    painter.fillRect(QRectF(index, (1 - v) * middle, 1, 2 * v * middle), Theme::Glass::level());
+}
+
+void AudioRecordWaveView::redrawAll() {
+    const qreal ratio = devicePixelRatioF();
+    picture_ = QPixmap((QSizeF(size()) * ratio).toSize());
+    picture_.setDevicePixelRatio(ratio);
+    picture_.fill(Qt::transparent);
+    QPainter painter(&picture_);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (int i = 0; i < audioLevelArray_.size(); ++i)
+        drawColumn(painter, i);
+    pictureIsOld_ = false;
+}
+
+bool AudioRecordWaveView::scrollPicture() {
+    const qreal ratio = devicePixelRatioF();
+    const int step = int(ratio);
+    // With 1.25 pixels a point, columns fall between pixels and cannot be moved.
+    if (pictureIsOld_ || step != ratio || picture_.devicePixelRatio() != ratio || audioLevelArray_.isEmpty())
+        return false;
+    picture_.scroll(step, 0, picture_.rect());
+    QPainter painter(&picture_);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setCompositionMode(QPainter::CompositionMode_Clear);
+    painter.fillRect(QRectF(0, 0, 1, height()), Qt::transparent);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    drawColumn(painter, 0);
+    return true;
+}
+
+void AudioRecordWaveView::paintEvent(QPaintEvent*) {
+    if (pictureIsOld_ || picture_.devicePixelRatio() != devicePixelRatioF())
+        redrawAll();
+    QPainter(this).drawPixmap(0, 0, picture_);
+}
+
+void AudioRecordWaveView::resizeEvent(QResizeEvent*) {
+    pictureIsOld_ = true;
+}
+
+void AudioRecordWaveView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange)
+        pictureIsOld_ = true;
+    QWidget::changeEvent(event);
+}

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QList>
+#include <QPixmap>
+#include <QWidget>
+
+/// The level history: one column of one point for each level, the newest at the left, moving right. Main thread.
+///
+/// Between two levels only one column changes; the rest is a picture that moves by one point. A full redraw ten times
+/// a second costs three times as much.
+class AudioRecordWaveView : public QWidget {
+    Q_OBJECT
+public:
+    explicit AudioRecordWaveView(QWidget* parent = nullptr);
+
+    [[nodiscard]] bool isLeftToRight() const { return true; }
+    /// Newest first; never more than the view is wide in points.
+    [[nodiscard]] const QList<float>& audioLevelArray() const { return audioLevelArray_; }
+    /// Levels run from 0 to 1; greater ones reach beyond the view and are cut there.
+    void addCurrentLevel(float level);
+
+    [[nodiscard]] QSize sizeHint() const override { return {240, 64}; }
+    [[nodiscard]] QSize minimumSizeHint() const override { return {80, 32}; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void drawColumn(QPainter& painter, int index) const;
+    void redrawAll();
+    /// Moves the picture and draws the newest column; false when the picture has to be drawn anew.
+    bool scrollPicture();
+
+    QList<float> audioLevelArray_;
+    QPixmap picture_;
+    bool pictureIsOld_ = true;
+};

@@ -1,0 +1,311 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/AudioWaveViewController/AudioWaveViewController.h"
+
+#include "Platform/Foundation/MainQueue.h"
+#include "RingtoneMaker/CustomSound.h"
+#include "Source/AudioWaveViewController/AudioRecordWaveView.h"
+#include "Source/View/NamedImages.h"
+#include "Source/View/Theme.h"
+#include "ui_AudioWaveViewController.h"
+
+#include <QEvent>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int tickMilliseconds = 100;
+constexpr qreal timePointSize = 28;
+
+// "3:07", "1:02:03"; the sign stands for time that is left.
+QString clockText(double seconds, bool left) {
+    const auto whole = std::llround(std::floor(std::max(0.0, seconds)));
+    const auto hours = whole / 3600;
+    const auto minutes = whole / 60 % 60;
+    const QString sign = left ? u"\u2212"_s : QString();
+    const QChar zero = u'0';
+    if (hours > 0)
+        return sign + u"%1:%2:%3"_s.arg(hours).arg(minutes, 2, 10, zero).arg(whole % 60, 2, 10, zero);
+    return sign + u"%1:%2"_s.arg(minutes).arg(whole % 60, 2, 10, zero);
+}
+
+QFont scaled(QFont font, qreal points, QFont::Weight weight = QFont::Normal) {
+    font.setPointSizeF(points);
+    font.setWeight(weight);
+    return font;
+}
+
+void setElided(QLabel* label, const QString& text) {
+    const int room = std::max(label->width() - 2, 16);
+    const QString shown = label->fontMetrics().elidedText(text, Qt::ElideMiddle, room);
+    label->setText(shown);
+    label->setToolTip(shown == text ? QString() : text);
+}
+
+void setGlassIcon(QToolButton* button, const QString& name) {
+    const qreal ratio = button->devicePixelRatioF();
+    QIcon icon(NamedImages::pixmap(name, {20, 20}, std::max(ratio, 2.0), Theme::Glass::dimText()));
+    icon.addPixmap(NamedImages::pixmap(name, {20, 20}, std::max(ratio, 2.0), Theme::Glass::text()), QIcon::Active);
+    button->setIcon(icon);
+    button->setIconSize({20, 20});
+}
+
+} // namespace
+
+AudioWaveViewController::AudioWaveViewController(QWidget* parent)
+    : QObject(parent), ui_(std::make_unique<Ui::AudioWaveViewController>()) {
+    auto* panel = new AudioWaveformBackView(parent);
+    view_ = panel;
+    ui_->setupUi(panel);
+    // Whoever goes first: the window takes its panel along, a panel without a window belongs to the controller.
+    connect(panel, &QObject::destroyed, this, [this] {
+        view_ = nullptr;
+        destroyDudioPlayUpdateTimer();
+    });
+    awakeFromNib();
+}
+
+AudioWaveViewController::~AudioWaveViewController() {
+    destroyDudioPlayUpdateTimer();
+    if (view_) {
+        disconnect(view_, nullptr, this, nullptr);
+        if (view_->parent())
+            audioPlayProgressView()->setDelegate(nullptr);
+        else
+            delete view_;
+    }
+}
+
+void AudioWaveViewController::awakeFromNib() {
+    const QFont font = view_->font();
+    ui_->stateField->setFont(scaled(font, font.pointSizeF() + 2, QFont::DemiBold));
+    ui_->timeField->setFont(scaled(font, timePointSize, QFont::Medium));
+    ui_->titleField->setFont(scaled(font, font.pointSizeF() + 3, QFont::DemiBold));
+    QPalette dim = view_->palette();
+    dim.setColor(QPalette::WindowText, Theme::Glass::dimText());
+    for (QWidget* field : {static_cast<QWidget*>(ui_->artistField), static_cast<QWidget*>(ui_->currentTimeField),
+                           static_cast<QWidget*>(ui_->playLeftTimeField)})
+        field->setPalette(dim);
+    ui_->playLeftTimeField->setAlignment(Qt::AlignRight);
+    ui_->noticeMark->setPixmap(NamedImages::pixmap(u"warning"_s, {16, 16}, 2, QColor(0xffc857)));
+    setGlassIcon(ui_->changeTabViewButton, u"switch-display"_s);
+    setGlassIcon(ui_->dismissNoticeButton, u"close"_s);
+    for (QWidget* elided : {ui_->titleField, ui_->artistField, ui_->noticeField})
+        elided->installEventFilter(this);
+
+    ui_->audioPlayProgressView->setDelegate(this);
+    connect(ui_->changeTabViewButton, &QToolButton::clicked, this, &AudioWaveViewController::changeTabView);
+    connect(ui_->dismissNoticeButton, &QToolButton::clicked, this, [this] {
+        setNotices({});
+        Q_EMIT noticesDismissed();
+    });
+    showNotices();
+
+    setTabViewShowWave(true);
+    createDudioPlayUpdateTimer();
+    setStateColor(Qt::black);
+    updatePlaySoundProgress();
+}
+
+QWidget* AudioWaveViewController::view() const {
+    return view_;
+}
+
+AudioPlayProgressView* AudioWaveViewController::audioPlayProgressView() const {
+    return ui_->audioPlayProgressView;
+}
+
+AudioRecordWaveView* AudioWaveViewController::audioRecordWaveView() const {
+    return ui_->audioRecordWaveView;
+}
+
+void AudioWaveViewController::setTabViewShowWave(bool show) {
+    tabViewShowWave_ = show;
+    showTab();
+    Q_EMIT tabViewShowWaveChanged();
+}
+
+void AudioWaveViewController::showTab() {
+    if (view_)
+        ui_->tabView->setCurrentWidget(tabViewShowWave_ ? ui_->recordPage : ui_->playPage);
+}
+
+void AudioWaveViewController::changeTabView() {
+    setTabViewShowWave(!tabViewShowWave());
+}
+
+void AudioWaveViewController::setIsRecording(bool recording) {
+    isRecording_ = recording;
+    Q_EMIT isRecordingChanged();
+}
+
+void AudioWaveViewController::setPlaySound(std::shared_ptr<CustomSound> sound) {
+    playSound_ = std::move(sound);
+    Q_EMIT playSoundChanged();
+    updatePlaySoundProgress();
+}
+
+void AudioWaveViewController::setTitle(const QString& title) {
+    title_ = title;
+    showTitles();
+    Q_EMIT titleChanged();
+}
+
+void AudioWaveViewController::setArtist(const QString& artist) {
+    artist_ = artist;
+    showTitles();
+    Q_EMIT artistChanged();
+}
+
+void AudioWaveViewController::showTitles() {
+    if (!view_)
+        return;
+    setElided(ui_->titleField, title_);
+    setElided(ui_->artistField, artist_);
+}
+
+void AudioWaveViewController::setStateString(const QString& state) {
+    if (state == stateString_)
+        return;
+    stateString_ = state;
+    if (view_)
+        ui_->stateField->setText(state);
+    Q_EMIT stateStringChanged();
+}
+
+void AudioWaveViewController::setTimeString(const QString& time) {
+    if (time == timeString_)
+        return;
+    timeString_ = time;
+    if (view_)
+        ui_->timeField->setText(time);
+    Q_EMIT timeStringChanged();
+}
+
+void AudioWaveViewController::setStateColor(const QColor& color) {
+    if (color == stateColor_)
+        return;
+    stateColor_ = color;
+    if (view_) {
+        QPalette colors = ui_->stateField->palette();
+        colors.setColor(QPalette::WindowText, color == QColor(Qt::black) ? Theme::Glass::text() : color);
+        ui_->stateField->setPalette(colors);
+    }
+    Q_EMIT stateColorChanged();
+}
+
+void AudioWaveViewController::updateChangeTabViewButtonState() {
+    if (view_)
+        ui_->changeTabViewButton->setEnabled(changeTabViewButtonState());
+    Q_EMIT changeTabViewButtonStateChanged();
+}
+
+void AudioWaveViewController::setChangeTabViewButtonState(bool) {
+    Platform::MainQueue::post(this, [this] { updateChangeTabViewButtonState(); });
+}
+
+double AudioWaveViewController::currentTime() const {
+    return playSound_ ? playSound_->currentTime() : 0;
+}
+
+double AudioWaveViewController::duration() const {
+    return playSound_ ? playSound_->duration() : 0;
+}
+
+float AudioWaveViewController::playLeftTime() const {
+    return static_cast<float>(duration() - currentTime());
+}
+
+void AudioWaveViewController::setAudioPosition(float seconds) {
+    const float position = std::fmin(std::fmax(seconds, 0.0F), static_cast<float>(duration()));
+    if (playSound_)
+        playSound_->setCurrentTime(position);
+    updatePlaySoundProgress();
+}
+
+void AudioWaveViewController::setNotices(const QStringList& notices) {
+    if (notices == notices_)
+        return;
+    notices_ = notices;
+    showNotices();
+}
+
+void AudioWaveViewController::showNotices() {
+    if (!view_)
+        return;
+    ui_->noticeLine->setVisible(!notices_.isEmpty());
+    if (notices_.isEmpty())
+        return;
+    // The newest one in the line, all of them in its tool tip.
+    const QString newest = notices_.size() > 1
+                               ? tr("%1 (and %n more)", nullptr, int(notices_.size()) - 1).arg(notices_.last())
+                               : notices_.last();
+    setElided(ui_->noticeField, newest);
+    ui_->noticeField->setToolTip(notices_.join(u'\n'));
+    ui_->noticeField->setAccessibleDescription(notices_.join(u'\n'));
+}
+
+bool AudioWaveViewController::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize && view_) {
+        showTitles();
+        if (watched == ui_->noticeField)
+            showNotices();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void AudioWaveViewController::createDudioPlayUpdateTimer() {
+    destroyDudioPlayUpdateTimer();
+    audioPlayUpdateTimer_ = std::make_unique<QTimer>();
+    audioPlayUpdateTimer_->setTimerType(Qt::PreciseTimer);
+    connect(audioPlayUpdateTimer_.get(), &QTimer::timeout, this,
+            &AudioWaveViewController::audioPlayUpdateTimerFireMethod);
+    audioPlayUpdateTimer_->start(tickMilliseconds);
+}
+
+void AudioWaveViewController::destroyDudioPlayUpdateTimer() {
+    audioPlayUpdateTimer_.reset();
+}
+
+void AudioWaveViewController::audioPlayUpdateTimerFireMethod() {
+    Platform::MainQueue::post(this, [this] {
+        updatePlaySoundProgress();
+        updatePlaySoundButton();
+    });
+    updateAudioWaveRecordState();
+    updateAudioWaveView();
+}
+
+void AudioWaveViewController::updatePlaySoundProgress() {
+    Q_EMIT playSoundProgressChanged();
+    if (!view_)
+        return;
+    auto* bar = ui_->audioPlayProgressView;
+    bar->setCurrentTime(currentTime());
+    bar->setDuration(duration());
+    ui_->currentTimeField->setText(clockText(currentTime(), false));
+    ui_->playLeftTimeField->setText(clockText(playLeftTime(), true));
+    bar->update();
+}
+
+void AudioWaveViewController::updatePlaySoundButton() {
+    if (delegate_)
+        delegate_->updatePlaySoundButton();
+}
+
+void AudioWaveViewController::updateAudioWaveRecordState() {
+    if (delegate_)
+        delegate_->updateAudioWaveRecordState();
+}
+
+void AudioWaveViewController::updateAudioWaveView() {
+    if (view_)
+        ui_->audioRecordWaveView->addCurrentLevel(getAudioWaveLevelValue());
+}
+
+float AudioWaveViewController::getAudioWaveLevelValue() const {
+    return delegate_ ? delegate_->getAudioWaveLevelValue() : 0;
+}

@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Source/AudioWaveViewController/AudioPlayProgressView.h"
+
+#include <QColor>
+#include <QObject>
+#include <QStringList>
+#include <QTimer>
+
+#include <memory>
+
+class AudioRecordWaveView;
+class CustomSound;
+namespace Ui {
+class AudioWaveViewController;
+}
+
+/// What the display asks of the main window. Main thread.
+class AudioWaveViewControllerDelegate {
+public:
+    virtual ~AudioWaveViewControllerDelegate() = default;
+    /// The level of the moment, 0 to 1.
+    virtual float getAudioWaveLevelValue() { return 0; }
+    /// Time to compare the recording state with isRecording().
+    virtual void updateAudioWaveRecordState() {}
+    /// Time to look at the state of the sound again.
+    virtual void updatePlaySoundButton() {}
+};
+
+/// The display in the upper part of the main window: the level history with state and time of the recording, or title,
+/// artist and a seekable bar of the file that plays. Ten times a second it fetches the level and the position. Main
+/// thread.
+class AudioWaveViewController : public QObject, public AudioPlayProgressViewDelegate {
+    Q_OBJECT
+    Q_PROPERTY(bool tabViewShowWave READ tabViewShowWave WRITE setTabViewShowWave NOTIFY tabViewShowWaveChanged)
+    Q_PROPERTY(bool isRecording READ isRecording WRITE setIsRecording NOTIFY isRecordingChanged)
+    Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged)
+    Q_PROPERTY(QString artist READ artist WRITE setArtist NOTIFY artistChanged)
+    Q_PROPERTY(QString stateString READ stateString WRITE setStateString NOTIFY stateStringChanged)
+    Q_PROPERTY(QString timeString READ timeString WRITE setTimeString NOTIFY timeStringChanged)
+    Q_PROPERTY(QColor stateColor READ stateColor WRITE setStateColor NOTIFY stateColorChanged)
+    Q_PROPERTY(bool changeTabViewButtonState READ changeTabViewButtonState WRITE setChangeTabViewButtonState NOTIFY
+                   changeTabViewButtonStateChanged)
+    Q_PROPERTY(double currentTime READ currentTime NOTIFY playSoundProgressChanged)
+    Q_PROPERTY(double duration READ duration NOTIFY playSoundProgressChanged)
+    Q_PROPERTY(float playLeftTime READ playLeftTime NOTIFY playSoundProgressChanged)
+
+public:
+    /// Builds the view below @p parent and wakes up.
+    explicit AudioWaveViewController(QWidget* parent = nullptr);
+    ~AudioWaveViewController() override;
+
+    /// The panel to put into a window. Owned by its parent widget, else by this controller.
+    [[nodiscard]] QWidget* view() const;
+    void setDelegate(AudioWaveViewControllerDelegate* delegate) { delegate_ = delegate; }
+    [[nodiscard]] AudioWaveViewControllerDelegate* delegate() const { return delegate_; }
+    [[nodiscard]] AudioPlayProgressView* audioPlayProgressView() const;
+    [[nodiscard]] AudioRecordWaveView* audioRecordWaveView() const;
+
+    /// True: the recording side; false: the playback side.
+    [[nodiscard]] bool tabViewShowWave() const { return tabViewShowWave_; }
+    void setTabViewShowWave(bool show);
+    [[nodiscard]] bool isRecording() const { return isRecording_; }
+    void setIsRecording(bool recording);
+    /// The current sound; null when there is none.
+    [[nodiscard]] const std::shared_ptr<CustomSound>& playSound() const { return playSound_; }
+    void setPlaySound(std::shared_ptr<CustomSound> sound);
+    [[nodiscard]] QString title() const { return title_; }
+    void setTitle(const QString& title);
+    [[nodiscard]] QString artist() const { return artist_; }
+    void setArtist(const QString& artist);
+    [[nodiscard]] QString stateString() const { return stateString_; }
+    void setStateString(const QString& state);
+    [[nodiscard]] QString timeString() const { return timeString_; }
+    void setTimeString(const QString& time);
+    /// Black or red; black is painted in the panel's own text colour.
+    [[nodiscard]] QColor stateColor() const { return stateColor_; }
+    void setStateColor(const QColor& color);
+
+    [[nodiscard]] bool changeTabViewButtonState() const { return true; }
+    void updateChangeTabViewButtonState();
+    void setChangeTabViewButtonState(bool state);
+
+    /// Seconds; all of them are 0 without a sound.
+    [[nodiscard]] double currentTime() const;
+    [[nodiscard]] double duration() const;
+    [[nodiscard]] float playLeftTime() const;
+    void setAudioPosition(float seconds) override;
+
+    /// What the user should know, in plain words, newest last; stays until dismissed. An empty list hides the line.
+    void setNotices(const QStringList& notices);
+    [[nodiscard]] QStringList notices() const { return notices_; }
+
+    void createDudioPlayUpdateTimer();
+    void destroyDudioPlayUpdateTimer();
+    [[nodiscard]] bool hasDudioPlayUpdateTimer() const { return audioPlayUpdateTimer_ != nullptr; }
+    void audioPlayUpdateTimerFireMethod();
+    void updatePlaySoundProgress();
+    void updatePlaySoundButton();
+    void updateAudioWaveRecordState();
+    void updateAudioWaveView();
+    [[nodiscard]] float getAudioWaveLevelValue() const;
+
+public Q_SLOTS:
+    void changeTabView();
+
+Q_SIGNALS:
+    void tabViewShowWaveChanged();
+    void isRecordingChanged();
+    void playSoundChanged();
+    void titleChanged();
+    void artistChanged();
+    void stateStringChanged();
+    void timeStringChanged();
+    void stateColorChanged();
+    void changeTabViewButtonStateChanged();
+    void playSoundProgressChanged();
+    /// The user has seen the notices.
+    void noticesDismissed();
+
+private:
+    void awakeFromNib();
+    void showTitles();
+    void showNotices();
+    void showTab();
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+    std::unique_ptr<Ui::AudioWaveViewController> ui_;
+    QWidget* view_ = nullptr;
+    bool tabViewShowWave_ = false;
+    bool isRecording_ = false;
+    std::shared_ptr<CustomSound> playSound_;
+    QString title_;
+    QString artist_;
+    std::unique_ptr<QTimer> audioPlayUpdateTimer_;
+    AudioWaveViewControllerDelegate* delegate_ = nullptr;
+    QString stateString_;
+    QString timeString_;
+    QColor stateColor_;
+    QStringList notices_;
+};

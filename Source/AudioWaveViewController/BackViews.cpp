@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/AudioWaveViewController/BackViews.h"
+
+#include "Source/View/NamedImages.h"
+#include "Source/View/Theme.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+using namespace Qt::StringLiterals;
+
+AudioWaveformBackView::AudioWaveformBackView(QWidget* parent) : QWidget(parent) {
+    // Everything on the glass is light on dark, whatever the windows around it look like.
+    QPalette glass = palette();
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        glass.setColor(role, Theme::Glass::text());
+    setPalette(glass);
+}
+
+void AudioWaveformBackView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QPainterPath outline;
+    outline.addRoundedRect(QRectF(rect()), 8, 8);
+    painter.setClipPath(outline);
+    NamedImages::draw(painter, rect(), u"AudioWaveformBack.png"_s);
+    painter.setClipping(false);
+    painter.setPen(QPen(QColor(255, 255, 255, 30), 1));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 7.5, 7.5);
+}
+
+void LibaryBackView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    NamedImages::draw(painter, rect(), u"LibaryBackImage.png"_s, palette().color(QPalette::WindowText));
+}
+
+void AdditionalControlBackView::paintEvent(QPaintEvent*) {
+    QPainter(this).fillRect(rect(), QColor::fromRgbF(0.78F, 0.78F, 0.78F));
+}

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/View/TabularLabel.h"
+
+#include <QEvent>
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include <cmath>
+
+TabularLabel::TabularLabel(QWidget* parent) : QWidget(parent) {
+    setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+}
+
+void TabularLabel::setText(const QString& text) {
+    if (text == text_)
+        return;
+    const bool sameRoom = text.size() == text_.size();
+    text_ = text;
+    setAccessibleName(text);
+    if (!sameRoom)
+        updateGeometry();
+    update();
+}
+
+void TabularLabel::setColor(const QColor& color) {
+    color_ = color;
+    update();
+}
+
+void TabularLabel::setAlignment(Qt::Alignment alignment) {
+    alignment_ = alignment;
+    update();
+}
+
+qreal TabularLabel::advance(QChar letter) const {
+    const QFontMetricsF metrics(font());
+    if (!letter.isDigit())
+        return metrics.horizontalAdvance(letter);
+    // "0" is not the widest digit of every typeface.
+    qreal widest = 0;
+    for (char16_t digit = u'0'; digit <= u'9'; ++digit)
+        widest = std::max(widest, metrics.horizontalAdvance(QChar(digit)));
+    return widest;
+}
+
+qreal TabularLabel::textWidth() const {
+    qreal width = 0;
+    for (const QChar letter : text_)
+        width += advance(letter);
+    return width;
+}
+
+QSize TabularLabel::sizeHint() const {
+    return {int(std::ceil(textWidth())), int(std::ceil(QFontMetricsF(font()).height()))};
+}
+
+void TabularLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(color_.isValid() ? color_ : palette().color(QPalette::WindowText));
+    const QFontMetricsF metrics(font());
+    qreal x = 0;
+    if (alignment_ & Qt::AlignRight)
+        x = width() - textWidth();
+    else if (alignment_ & Qt::AlignHCenter)
+        x = (width() - textWidth()) / 2;
+    const qreal baseline = (height() - metrics.height()) / 2 + metrics.ascent();
+    for (const QChar letter : text_) {
+        const qreal room = advance(letter);
+        painter.drawText(QPointF(x + (room - metrics.horizontalAdvance(letter)) / 2, baseline), letter);
+        x += room;
+    }
+}
+
+void TabularLabel::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange)
+        updateGeometry();
+    QWidget::changeEvent(event);
+}

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+/// One line of digits that all take the same room, so that a running time does not tremble. Accessible as its text.
+class TabularLabel : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE setText)
+    Q_PROPERTY(QColor color READ color WRITE setColor)
+    Q_PROPERTY(Qt::Alignment alignment READ alignment WRITE setAlignment)
+public:
+    explicit TabularLabel(QWidget* parent = nullptr);
+    [[nodiscard]] QString text() const { return text_; }
+    void setText(const QString& text);
+    [[nodiscard]] QColor color() const { return color_; }
+    /// An invalid colour stands for the palette's text.
+    void setColor(const QColor& color);
+    [[nodiscard]] Qt::Alignment alignment() const { return alignment_; }
+    void setAlignment(Qt::Alignment alignment);
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    [[nodiscard]] qreal advance(QChar letter) const;
+    [[nodiscard]] qreal textWidth() const;
+
+    QString text_;
+    QColor color_;
+    Qt::Alignment alignment_ = Qt::AlignLeft;
+};
