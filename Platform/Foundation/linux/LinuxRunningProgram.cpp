@@ -1,17 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Foundation/FileLock.h"
 #include "Platform/Foundation/Folders.h"
 #include "Platform/Foundation/RunningProgram.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 #include <QLocalServer>
 #include <QLocalSocket>
-
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace Platform {
 namespace {
@@ -22,13 +17,11 @@ class LinuxRunningProgram final : public RunningProgram {
 public:
     explicit LinuxRunningProgram(const QString& identifier) : identifier_(identifier) {}
     ~LinuxRunningProgram() override {
-        server_.reset();
-        if (lock_ >= 0)
-            close(lock_); // the file stays: to remove it would let two programs lock two files of one name
+        server_.reset(); // before the lock: who takes that listens in the same place
     }
 
     bool acquire() override {
-        if (lock_ >= 0)
+        if (lock_.isHeld())
             return true;
         lastError_.clear();
         // Beside the folder that a launch wipes: whoever would wipe the same folder meets the same lock, whatever else
@@ -40,36 +33,13 @@ public:
             return false;
         }
         const QString path = folder + u'/' + identifier_ + QStringLiteral(".lock");
-        const QByteArray name = QFile::encodeName(path);
-        for (int attempt = 0; attempt < 10; ++attempt) {
-            const int file = open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
-            if (file < 0) {
-                lastError_ = QStringLiteral("%1: %2").arg(path, qt_error_string(errno));
-                return false;
-            }
-            if (flock(file, LOCK_EX | LOCK_NB) != 0) {
-                if (errno != EWOULDBLOCK)
-                    lastError_ = QStringLiteral("%1: %2").arg(path, qt_error_string(errno));
-                close(file);
-                return false;
-            }
-            // Somebody may have removed the file between the two calls: a lock on a file without a name protects
-            // nothing.
-            struct stat mine {
-            }, there{};
-            if (fstat(file, &mine) == 0 && lstat(name.constData(), &there) == 0 && mine.st_ino == there.st_ino &&
-                mine.st_dev == there.st_dev) {
-                lock_ = file;
-                return true;
-            }
-            close(file);
-        }
-        lastError_ = QStringLiteral("%1: the file keeps vanishing").arg(path);
-        return false;
+        const auto result = lock_.take(path);
+        lastError_ = lock_.problem();
+        return result == FileLock::Result::Held;
     }
 
     bool listen(Handler handler) override {
-        if (lock_ < 0)
+        if (!lock_.isHeld())
             return false;
         const QString path = socketPath();
         QLocalSocket probe;
@@ -136,7 +106,7 @@ private:
 
     QString identifier_;
     QString lastError_;
-    int lock_ = -1;
+    FileLock lock_;
     Handler handler_;
     std::unique_ptr<QLocalServer> server_;
 };

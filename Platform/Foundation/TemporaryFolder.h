@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Foundation/FileLock.h"
+
+#include <optional>
+
+namespace Platform {
+
+/// A folder below the user's temporary folder that belongs to one process and goes with this object. What processes
+/// that were killed left behind is removed by the next one that makes such a folder.
+class TemporaryFolder {
+public:
+    /// @param kind tells the folders of different purposes apart; part of the folder's name.
+    /// @return nothing when there is no place for it; @p why then says so.
+    [[nodiscard]] static std::optional<TemporaryFolder> create(const QString& kind, QString& why);
+    /// Removes a folder whole, and a link as a link; never what a link points to. Errors are ignored.
+    static void removeWhole(const QString& path);
+
+    ~TemporaryFolder();
+    TemporaryFolder(TemporaryFolder&& other) noexcept = default;
+    TemporaryFolder& operator=(TemporaryFolder&& other) = delete;
+    [[nodiscard]] QString path() const { return path_; }
+
+private:
+    TemporaryFolder(FileLock lock, const QString& path) : lock_(std::move(lock)), path_(path) {}
+    FileLock lock_; // beside the folder, held as long as the folder is in use
+    QString path_;
+};
+
+} // namespace Platform

@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Foundation/TemporaryFolder.h"
+#include "Platform/Foundation/TerminationSignals.h"
+
+#include "tests/support/ChildProcess.h"
+#include "tests/support/Environment.h"
+#include "tests/support/WaitFor.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <unistd.h>
+#include <vector>
+
+using Platform::TemporaryFolder;
+
+namespace {
+
+struct TemporaryFolderTest : testing::Test {
+    QTemporaryDir dir;
+    EnvironmentScope temporary{"TMPDIR", dir.path().toUtf8()};
+    QString why;
+    [[nodiscard]] QStringList all() const {
+        return QDir(dir.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    }
+    static void make(const QString& path) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+};
+
+} // namespace
+
+TEST_F(TemporaryFolderTest, GoesWithItsObject) {
+    {
+        const auto folder = TemporaryFolder::create(QStringLiteral("test"), why);
+        ASSERT_TRUE(folder) << qPrintable(why);
+        EXPECT_TRUE(folder->path().startsWith(dir.path()));
+        make(folder->path() + QStringLiteral("/raw"));
+        const auto second = TemporaryFolder::create(QStringLiteral("test"), why);
+        ASSERT_TRUE(second);
+        EXPECT_NE(second->path(), folder->path());
+        EXPECT_TRUE(QFile::exists(folder->path() + QStringLiteral("/raw"))) << "that of a living owner stays";
+    }
+    EXPECT_EQ(all(), QStringList());
+}
+
+TEST_F(TemporaryFolderTest, OfADeadOwnerIsRemovedByTheNext) {
+    int ready[2];
+    ASSERT_EQ(pipe(ready), 0);
+    ChildProcess other([&] {
+        QString problem;
+        const auto folder = TemporaryFolder::create(QStringLiteral("test"), problem);
+        make(folder->path() + QStringLiteral("/raw"));
+        (void)!write(ready[1], "x", 1);
+        for (;;)
+            pause();
+        return 0;
+    });
+    char x = 0;
+    ASSERT_EQ(read(ready[0], &x, 1), 1);
+    { const auto mine = TemporaryFolder::create(QStringLiteral("test"), why); }
+    EXPECT_EQ(all().size(), 2) << "folder and lock of the living owner";
+    other.kill();
+    EXPECT_EQ(all().size(), 2);
+    { const auto mine = TemporaryFolder::create(QStringLiteral("test"), why); }
+    EXPECT_EQ(all(), QStringList());
+}
+
+TEST_F(TemporaryFolderTest, RemovesALinkButNotWhatItLeadsTo) {
+    QDir(dir.path()).mkpath(QStringLiteral("precious"));
+    make(dir.filePath(QStringLiteral("precious/file")));
+    ASSERT_EQ(symlink("precious", qPrintable(dir.filePath(QStringLiteral("link")))), 0);
+    TemporaryFolder::removeWhole(dir.filePath(QStringLiteral("link")));
+    EXPECT_EQ(all(), QStringList{QStringLiteral("precious")});
+    QDir(dir.path()).mkpath(QStringLiteral("wiped"));
+    ASSERT_EQ(symlink("../precious", qPrintable(dir.filePath(QStringLiteral("wiped/link")))), 0);
+    TemporaryFolder::removeWhole(dir.filePath(QStringLiteral("wiped")));
+    EXPECT_EQ(all(), QStringList{QStringLiteral("precious")});
+    EXPECT_TRUE(QFile::exists(dir.filePath(QStringLiteral("precious/file"))));
+}
+
+TEST(TerminationSignals, ArriveOnTheMainThreadAndEndNothing) {
+    std::vector<int> arrived;
+    {
+        const Platform::TerminationSignals signals([&](int number) { arrived.push_back(number); });
+        std::raise(SIGTERM);
+        EXPECT_TRUE(arrived.empty());
+        EXPECT_TRUE(waitFor([&] { return arrived.size() == 1; }));
+        std::raise(SIGINT);
+        std::raise(SIGHUP);
+        EXPECT_TRUE(waitFor([&] { return arrived.size() == 3; }));
+    }
+    EXPECT_EQ(arrived, (std::vector<int>{SIGTERM, SIGINT, SIGHUP}));
+    struct sigaction now {};
+    sigaction(SIGTERM, nullptr, &now);
+    EXPECT_EQ(now.sa_handler, SIG_DFL);
+}
