@@ -68,7 +68,7 @@ int convert(const Task& task) {
         if (length <= 0)
             length = to - task.from;
         if (to <= task.from)
-            return fail(u"nothing between second %1 and second %2 of %3"_s.arg(task.from).arg(to).arg(task.source));
+            return fail(task.source + u": nothing between second %1 and second %2"_s.arg(task.from).arg(to));
     }
 
     const Interrupt interrupt;

@@ -19,7 +19,7 @@ PartFile::PartFile(const QString& target, bool overwrite)
     const QFileInfo info(target_);
     const auto suffix = info.suffix().isEmpty() ? QString() : u'.' + info.suffix();
     // A name of its own, not one made from the target's: that one may already be as long as names get.
-    path_ = u"%1/.sonaphex-%2.part"_s.arg(info.path()).arg(QCoreApplication::applicationPid()) + suffix;
+    path_ = info.path() + u"/.sonaphex-%1.part"_s.arg(QCoreApplication::applicationPid()) + suffix;
 }
 
 PartFile::~PartFile() {

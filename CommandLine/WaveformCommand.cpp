@@ -32,7 +32,7 @@ QString drawTo(const QString& target, bool overwrite, const QList<float>& values
         return problem;
     const auto picture = WaveImage::drawOnStrip(values);
     if (picture.isNull())
-        return u"%1: %2 values are too few for a picture"_s.arg(target).arg(values.size());
+        return target + u": %1 values are too few for a picture"_s.arg(values.size());
     QImageWriter writer(part.path(), "png");
     if (!writer.write(picture))
         return u"%1: %2"_s.arg(target, writer.errorString());

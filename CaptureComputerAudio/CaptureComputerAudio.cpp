@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CaptureComputerAudio/CaptureComputerAudio.h"
+
+#include "Source/AudioDevice/AudioDevice.h"
+#include "Source/AudioDevice/IOService.h"
+
+using namespace Qt::StringLiterals;
+
+namespace CaptureComputerAudio {
+
+namespace {
+
+void steer(const QString& value) {
+    auto engines = IOService::getServicesByClassName(kEngineClass);
+    if (!engines.empty())
+        engines.back().setProperty(value, kCaptureDriverPathKey);
+}
+
+QString defaultOutputPath() {
+    const auto device = AudioDevice::defaultAudioOutputDevice();
+    return device ? device->path() : QString();
+}
+
+} // namespace
+
+void startCaptureComputerAudio() {
+    if (const auto path = defaultOutputPath(); !path.isEmpty())
+        steer(path);
+}
+
+void stopCaptureComputerAudio() {
+    steer(kCaptureDriverPathKey);
+}
+
+bool captureComputerAudioIsUSBDevice() {
+    return defaultOutputPath().contains(u"USB"_s);
+}
+
+} // namespace CaptureComputerAudio

@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CaptureComputerAudio/CaptureDriver.h"
+
+#include "CaptureComputerAudio/CaptureComputerAudio.h"
+#include "Source/AudioDevice/IOService.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QProcess>
+#include <QThread>
+
+using namespace Qt::StringLiterals;
+
+namespace CaptureDriver {
+
+namespace {
+
+/// The engine's property that ends the driver: asked for by name, no process can be hit by mistake.
+const auto kQuitKey = u"korvane.driver.quit"_s;
+
+template <typename Condition>
+bool becomesTrue(Condition condition, int patienceMs) {
+    const QDeadlineTimer deadline(patienceMs);
+    while (!condition()) {
+        if (deadline.hasExpired())
+            return false;
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 5);
+        QThread::msleep(2);
+    }
+    return true;
+}
+
+} // namespace
+
+QString programIn(const QString& bundlePath) {
+    return bundlePath + u"/CaptureDriver"_s;
+}
+
+bool isLoaded() {
+    return !IOService::getServicesByClassName(CaptureComputerAudio::kEngineClass).empty();
+}
+
+bool load(const QString& bundlePath, QString& why, int patienceMs) {
+    if (isLoaded())
+        return true;
+    const auto program = programIn(bundlePath);
+    if (!QFileInfo(program).isExecutable()) {
+        why = u"%1: no such program"_s.arg(program);
+        return false;
+    }
+    QProcess process;
+    process.setProgram(program);
+    process.setWorkingDirectory(u"/"_s);
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    if (!process.startDetached()) {
+        why = u"%1: %2"_s.arg(program, process.errorString());
+        return false;
+    }
+    if (!becomesTrue(isLoaded, patienceMs)) {
+        why = u"the driver was started, but its device did not appear"_s;
+        return false;
+    }
+    return true;
+}
+
+bool unload(int patienceMs) {
+    for (auto& engine : IOService::getServicesByClassName(CaptureComputerAudio::kEngineClass))
+        engine.setProperty(true, kQuitKey);
+    return becomesTrue([] { return !isLoaded(); }, patienceMs);
+}
+
+} // namespace CaptureDriver

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+/// The running driver: a process that makes the device "Korvane System Audio". It outlives this program and ends with
+/// the sound server. Main thread.
+namespace CaptureDriver {
+
+inline constexpr int kPatienceMs = 1000;
+
+/// The driver's program inside a bundle.
+[[nodiscard]] QString programIn(const QString& bundlePath);
+/// Whether the sound server has its engine.
+[[nodiscard]] bool isLoaded();
+/// Starts the driver of a bundle and waits until its engine is there, at most @p patienceMs, turning the event loop.
+/// True when it is there, also when it was before. @p why says what is wrong otherwise.
+bool load(const QString& bundlePath, QString& why, int patienceMs = kPatienceMs);
+/// Ends every running driver of this sound server and waits until they are gone. True when none is left.
+bool unload(int patienceMs = kPatienceMs);
+
+} // namespace CaptureDriver

@@ -1,0 +1,145 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CaptureComputerAudio/KextInstallControl.h"
+
+#include "CaptureComputerAudio/CaptureDriver.h"
+#include "Platform/Desktop/AdminShell.h"
+#include "Platform/Foundation/Bundle.h"
+#include "Platform/Foundation/Services.h"
+
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QThread>
+
+#include <memory>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace KextInstallControl {
+
+namespace {
+
+const auto kBundleName = u"ComputerAudioCapture.kext"_s;
+QString extensionsFolder = u"/usr/local/lib/com.korvane.Sonaphex/Extensions"_s;
+QString whyFailed;
+bool busy = false;
+
+/// Busy for as long as it lives.
+class Turn {
+public:
+    Turn() { busy = true; }
+    ~Turn() { busy = false; }
+    Turn(const Turn&) = delete;
+    Turn& operator=(const Turn&) = delete;
+};
+
+/// One word of a shell's command line, whatever its characters.
+QString quoted(QString word) {
+    return u'\'' + word.replace(u'\'', u"'\\''"_s) + u'\'';
+}
+
+bool refused() {
+    if (busy)
+        whyFailed = u"the system audio device is being installed or removed already"_s;
+    return busy;
+}
+
+/// Runs the command on a worker, because a password prompt may stand for minutes, and turns the event loop meanwhile.
+bool runWithAdmin(const QString& command) {
+    auto* shell = Platform::services().adminShell;
+    if (!shell) {
+        whyFailed = u"there is no way to get administrator rights"_s;
+        return false;
+    }
+    std::optional<QString> problem;
+    const std::unique_ptr<QThread> worker(
+        QThread::create([&] { problem = shell->executeShellStringWithAdmin(command); }));
+    QEventLoop loop;
+    QObject::connect(worker.get(), &QThread::finished, &loop, &QEventLoop::quit);
+    worker->start();
+    loop.exec();
+    worker->wait();
+    whyFailed = problem.value_or(QString());
+    return !problem;
+}
+
+/// The removal without the question whether anything is there to be removed.
+bool removeBundle() {
+    const auto bundle = installedBundlePath();
+    CaptureDriver::unload();
+    return runWithAdmin(u"rm -rf %1"_s.arg(quoted(bundle)));
+}
+
+} // namespace
+
+QString installedBundlePath() {
+    return extensionsFolder + u'/' + kBundleName;
+}
+
+QString resourceBundlePath() {
+    const auto* bundle = Platform::services().bundle;
+    return bundle ? bundle->pathForResource(kBundleName) : kBundleName;
+}
+
+bool isExist() {
+    return QFileInfo::exists(installedBundlePath());
+}
+
+bool uninstall() {
+    if (refused())
+        return false;
+    whyFailed.clear();
+    if (!isExist())
+        return true;
+    const Turn turn;
+    return removeBundle();
+}
+
+bool install() {
+    if (refused())
+        return false;
+    whyFailed.clear();
+    const Turn turn;
+    if (isExist())
+        (void)removeBundle();
+
+    const auto source = resourceBundlePath();
+    const auto bundle = installedBundlePath();
+    if (!QFileInfo(CaptureDriver::programIn(source)).isExecutable()) {
+        whyFailed = u"%1: the driver is missing from the program's resources"_s.arg(source);
+        return false;
+    }
+    CaptureDriver::unload();
+    // Copied beside its place and moved there whole: a full disk leaves no half driver that the next launch would load.
+    const auto command = u"rm -rf %1 %2; mkdir -p %3 && cp -R %4 %2 && chmod -R go-w %2 && mv %2 %1"_s.arg(
+        quoted(bundle), quoted(bundle + u".part"_s), quoted(extensionsFolder), quoted(source));
+    if (!runWithAdmin(command))
+        return false;
+    return CaptureDriver::load(bundle, whyFailed);
+}
+
+QString lastError() {
+    return whyFailed;
+}
+
+bool isBusy() {
+    return busy;
+}
+
+bool loadIfInstalled() {
+    if (CaptureDriver::isLoaded())
+        return true;
+    QString why;
+    return isExist() && CaptureDriver::load(installedBundlePath(), why);
+}
+
+ExtensionsFolderScope::ExtensionsFolderScope(const QString& folder) : before_(extensionsFolder) {
+    extensionsFolder = folder;
+}
+
+ExtensionsFolderScope::~ExtensionsFolderScope() {
+    extensionsFolder = before_;
+}
+
+} // namespace KextInstallControl

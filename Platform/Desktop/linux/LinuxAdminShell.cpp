@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Desktop/linux/LinuxAdminShell.h"
+
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Platform {
+
+namespace {
+
+class LinuxAdminShell final : public AdminShell {
+public:
+    explicit LinuxAdminShell(bool haveRights) : haveRights_(haveRights) {}
+
+    std::optional<QString> executeShellStringWithAdmin(const QString& command) override {
+        QStringList words{u"/bin/sh"_s, u"-c"_s, command};
+        if (!haveRights_) {
+            const auto helper = QStandardPaths::findExecutable(u"pkexec"_s);
+            if (helper.isEmpty())
+                return u"pkexec is not installed: nobody can be asked for administrator rights"_s;
+            words.prepend(helper);
+        }
+        QProcess process;
+        process.setProgram(words.takeFirst());
+        process.setArguments(words);
+        process.setStandardInputFile(QProcess::nullDevice());
+        process.setStandardOutputFile(QProcess::nullDevice());
+        process.start();
+        // No limit: a password prompt may stand for as long as the user likes.
+        if (!process.waitForStarted(-1) || (process.state() != QProcess::NotRunning && !process.waitForFinished(-1)))
+            return process.errorString();
+        return problemOf(process);
+    }
+
+private:
+    [[nodiscard]] std::optional<QString> problemOf(QProcess& process) const {
+        if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
+            return {};
+        // What pkexec says of itself; a command may end with the same numbers only through it.
+        if (!haveRights_ && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 126)
+            return u"the password prompt was cancelled"_s;
+        if (!haveRights_ && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 127)
+            return u"administrator rights were not given"_s;
+        const auto said = QString::fromLocal8Bit(process.readAllStandardError()).trimmed().section(u'\n', 0, 0);
+        return said.isEmpty() ? u"the command ended with status %1"_s.arg(process.exitCode()) : said;
+    }
+
+    bool haveRights_;
+};
+
+} // namespace
+
+std::unique_ptr<AdminShell> createAdminShell() {
+    return createAdminShell(geteuid() == 0);
+}
+
+std::unique_ptr<AdminShell> createAdminShell(bool haveRights) {
+    return std::make_unique<LinuxAdminShell>(haveRights);
+}
+
+} // namespace Platform

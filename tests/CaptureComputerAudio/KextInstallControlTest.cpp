@@ -1,0 +1,238 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CaptureComputerAudio/KextInstallControl.h"
+
+#include "CaptureComputerAudio/CaptureComputerAudio.h"
+#include "CaptureComputerAudio/CaptureDriver.h"
+#include "Platform/Desktop/linux/LinuxAdminShell.h"
+#include "Platform/Foundation/Services.h"
+#include "tests/fakes/FakeAdminShell.h"
+#include "tests/fakes/FakeBundle.h"
+#include "tests/fakes/FakeIORegistry.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QThread>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A registry in which the driver appears once its program has run, and goes when it is asked to.
+class DriverRegistry : public FakeIORegistry {
+public:
+    explicit DriverRegistry(QString marker) : marker_(std::move(marker)) {
+        onSet = [this](Object, const QString& key, const QVariant&) {
+            if (key == u"korvane.driver.quit"_s) {
+                ++unloads;
+                QFile::remove(marker_);
+            }
+        };
+    }
+    std::vector<Object> servicesOfClass(const QString& className) override {
+        std::erase_if(entries,
+                      [](const auto& each) { return each.second.className == CaptureComputerAudio::kEngineClass; });
+        if (QFile::exists(marker_))
+            add(CaptureComputerAudio::kEngineClass, u"IOService:/VIRTUAL/driver/system-audio@1"_s);
+        return FakeIORegistry::servicesOfClass(className);
+    }
+    int unloads = 0;
+
+private:
+    QString marker_;
+};
+
+class KextInstallControlTest : public testing::Test {
+protected:
+    KextInstallControlTest() {
+        Platform::services().adminShell = &shell;
+        Platform::services().ioRegistry = &registry;
+        Platform::services().bundle = &bundle;
+        bundle.resources = folder.filePath(u"it's $(touch pwned) a folder"_s);
+        makeBundle(bundle.resources, "new");
+    }
+
+    /// A bundle whose driver only leaves a mark.
+    void makeBundle(const QString& parent, const QByteArray& version) {
+        const auto path = parent + u"/ComputerAudioCapture.kext"_s;
+        ASSERT_TRUE(QDir().mkpath(path));
+        write(path + u"/version"_s, version);
+        write(path + u"/CaptureDriver"_s, "#!/bin/sh\ntouch '" + marker.toLocal8Bit() + "'\n");
+        QFile(path + u"/CaptureDriver"_s).setPermissions(QFile::Permissions(0x7755));
+    }
+    static void write(const QString& path, const QByteArray& content) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+    [[nodiscard]] QByteArray installedVersion() const {
+        QFile file(KextInstallControl::installedBundlePath() + u"/version"_s);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    Platform::ServicesScope scope;
+    QTemporaryDir folder;
+    QString extensions = folder.filePath(u"o'system/Extensions"_s);
+    QString marker = folder.filePath(u"running"_s);
+    KextInstallControl::ExtensionsFolderScope extensionsScope{extensions};
+    FakeAdminShell shell;
+    FakeBundle bundle;
+    DriverRegistry registry{marker};
+};
+
+TEST_F(KextInstallControlTest, RemovesNothingWithoutAskingForAPassword) {
+    EXPECT_FALSE(KextInstallControl::isExist());
+    EXPECT_TRUE(KextInstallControl::uninstall());
+    EXPECT_TRUE(shell.commands.isEmpty());
+}
+
+TEST_F(KextInstallControlTest, InstallsTheBundleAndLoadsTheDriver) {
+    EXPECT_TRUE(KextInstallControl::install()) << qPrintable(KextInstallControl::lastError());
+    EXPECT_TRUE(KextInstallControl::isExist());
+    EXPECT_EQ(installedVersion(), "new");
+    EXPECT_TRUE(CaptureDriver::isLoaded());
+    EXPECT_EQ(shell.commands.size(), 1);
+    EXPECT_EQ(QDir(extensions).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              QStringList{u"ComputerAudioCapture.kext"_s});
+    EXPECT_FALSE(QFile::exists(u"pwned"_s));
+}
+
+TEST_F(KextInstallControlTest, UnloadsAndRemovesAnOlderBundleBeforeItCopies) {
+    makeBundle(extensions, "old");
+    write(extensions + u"/ComputerAudioCapture.kext/left over"_s, "x");
+    write(marker, "");
+    QByteArray seenByTheCopy = "nothing";
+    bool runningAtTheRemoval = true;
+    shell.before = [&] {
+        if (shell.commands.size() == 1)
+            runningAtTheRemoval = QFile::exists(marker);
+        else
+            seenByTheCopy = installedVersion();
+    };
+    EXPECT_TRUE(KextInstallControl::install());
+    ASSERT_EQ(shell.commands.size(), 2);
+    EXPECT_TRUE(shell.commands[0].startsWith(u"rm -rf '"_s));
+    EXPECT_TRUE(shell.commands[1].contains(u"cp -R"_s));
+    EXPECT_FALSE(runningAtTheRemoval);
+    EXPECT_EQ(seenByTheCopy, "");
+    EXPECT_EQ(registry.unloads, 1);
+    EXPECT_EQ(installedVersion(), "new");
+    EXPECT_FALSE(QFile::exists(extensions + u"/ComputerAudioCapture.kext/left over"_s));
+}
+
+TEST_F(KextInstallControlTest, RemovesTheBundleAndUnloadsTheDriver) {
+    ASSERT_TRUE(KextInstallControl::install());
+    EXPECT_TRUE(KextInstallControl::uninstall());
+    EXPECT_FALSE(KextInstallControl::isExist());
+    EXPECT_FALSE(CaptureDriver::isLoaded());
+}
+
+TEST_F(KextInstallControlTest, AnswersNoWhenThePromptIsCancelled) {
+    shell.refusal = u"the password prompt was cancelled"_s;
+    EXPECT_FALSE(KextInstallControl::install());
+    EXPECT_EQ(KextInstallControl::lastError(), u"the password prompt was cancelled"_s);
+    EXPECT_FALSE(KextInstallControl::isExist());
+    EXPECT_FALSE(CaptureDriver::isLoaded());
+    makeBundle(extensions, "old");
+    EXPECT_FALSE(KextInstallControl::uninstall());
+    EXPECT_EQ(installedVersion(), "old");
+}
+
+TEST_F(KextInstallControlTest, AnswersNoWhenTheDriverDoesNotComeUp) {
+    write(bundle.resources + u"/ComputerAudioCapture.kext/CaptureDriver"_s, "#!/bin/sh\nexit 1\n");
+    EXPECT_FALSE(KextInstallControl::install());
+    EXPECT_FALSE(KextInstallControl::lastError().isEmpty());
+}
+
+TEST_F(KextInstallControlTest, AnswersNoWhenTheResourcesHaveNoDriver) {
+    QDir(bundle.resources).removeRecursively();
+    EXPECT_FALSE(KextInstallControl::install());
+    EXPECT_TRUE(shell.commands.isEmpty());
+    EXPECT_FALSE(KextInstallControl::lastError().isEmpty());
+}
+
+TEST_F(KextInstallControlTest, TurnsTheEventLoopWhileItWaitsAndRefusesASecondCall) {
+    std::atomic<bool> promptOpen{true};
+    shell.before = [&] {
+        while (promptOpen)
+            QThread::msleep(1);
+    };
+    bool refused = false;
+    QTimer::singleShot(0, [&] {
+        EXPECT_TRUE(KextInstallControl::isBusy());
+        refused = !KextInstallControl::install() && !KextInstallControl::uninstall();
+        promptOpen = false;
+    });
+    EXPECT_TRUE(KextInstallControl::install());
+    EXPECT_TRUE(refused);
+    EXPECT_FALSE(KextInstallControl::isBusy());
+    EXPECT_EQ(shell.commands.size(), 1);
+}
+
+TEST_F(KextInstallControlTest, LoadsAnInstalledDriverAtLaunchWhenItIsMissing) {
+    EXPECT_FALSE(KextInstallControl::loadIfInstalled());
+    EXPECT_FALSE(QFile::exists(marker));
+    makeBundle(extensions, "new");
+    EXPECT_TRUE(KextInstallControl::loadIfInstalled());
+    EXPECT_TRUE(QFile::exists(marker));
+}
+
+TEST_F(KextInstallControlTest, WaitsNoLongerThanItsPatienceForADriverThatDoesNotCome) {
+    makeBundle(extensions, "new");
+    write(extensions + u"/ComputerAudioCapture.kext/CaptureDriver"_s, "#!/bin/sh\nexit 0\n");
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_FALSE(KextInstallControl::loadIfInstalled());
+    EXPECT_GE(timer.elapsed(), 1000);
+    EXPECT_LT(timer.elapsed(), 5000);
+}
+
+/// The shell behind pkexec, with a pkexec of the test in PATH.
+class AdminShellTest : public testing::Test {
+protected:
+    AdminShellTest() { qputenv("PATH", folder.path().toLocal8Bit()); }
+    ~AdminShellTest() override { qputenv("PATH", before); }
+    void makeHelper(const QByteArray& script) {
+        QFile file(folder.filePath(u"pkexec"_s));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write("#!/bin/sh\n" + script);
+        file.setPermissions(QFile::Permissions(0x7755));
+    }
+    QTemporaryDir folder;
+    QByteArray before = qgetenv("PATH");
+};
+
+TEST_F(AdminShellTest, RunsTheCommandThroughTheHelper) {
+    makeHelper("echo \"$1 $2 $3\" > \"${0%/*}/given\"; exec \"$@\"\n");
+    const auto result = Platform::createAdminShell(false)->executeShellStringWithAdmin(u"exit 0; %s %1"_s);
+    EXPECT_FALSE(result) << qPrintable(*result);
+    QFile given(folder.filePath(u"given"_s));
+    ASSERT_TRUE(given.open(QIODevice::ReadOnly));
+    EXPECT_EQ(given.readAll(), "/bin/sh -c exit 0; %s %1\n");
+}
+
+TEST_F(AdminShellTest, SaysThatThePromptWasCancelledOrTheRightsNotGiven) {
+    makeHelper("exit 126\n");
+    EXPECT_EQ(Platform::createAdminShell(false)->executeShellStringWithAdmin(u"true"_s),
+              u"the password prompt was cancelled"_s);
+    makeHelper("exit 127\n");
+    EXPECT_EQ(Platform::createAdminShell(false)->executeShellStringWithAdmin(u"true"_s),
+              u"administrator rights were not given"_s);
+}
+
+TEST_F(AdminShellTest, SaysThatThereIsNoHelper) {
+    const auto result = Platform::createAdminShell(false)->executeShellStringWithAdmin(u"true"_s);
+    ASSERT_TRUE(result);
+    EXPECT_TRUE(result->contains(u"pkexec is not installed"_s));
+}
+
+TEST_F(AdminShellTest, RunsDirectlyWithRightsAndReportsWhatTheCommandSays) {
+    const auto shell = Platform::createAdminShell(true);
+    EXPECT_FALSE(shell->executeShellStringWithAdmin(u"exit 0"_s));
+    EXPECT_EQ(shell->executeShellStringWithAdmin(u"echo 'no room' >&2; exit 3"_s), u"no room"_s);
+    EXPECT_EQ(shell->executeShellStringWithAdmin(u"exit 3"_s), u"the command ended with status 3"_s);
+}
+
+} // namespace

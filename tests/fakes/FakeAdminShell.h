@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Desktop/AdminShell.h"
+
+#include <QProcess>
+#include <QStringList>
+
+#include <functional>
+
+/// Notes the commands it is given and runs them with the rights of the test, unless it is told to refuse.
+class FakeAdminShell : public Platform::AdminShell {
+public:
+    QStringList commands;
+    std::optional<QString> refusal;
+    /// Called on the worker before a command runs.
+    std::function<void()> before;
+
+    std::optional<QString> executeShellStringWithAdmin(const QString& command) override {
+        commands.append(command);
+        if (before)
+            before();
+        if (refusal)
+            return refusal;
+        const int status = QProcess::execute(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), command});
+        return status == 0 ? std::nullopt : std::optional(QStringLiteral("status %1").arg(status));
+    }
+};
