@@ -3,6 +3,7 @@
 #include "Platform/LinuxServices.h"
 
 #include "Platform/Audio/PrivateSession.h"
+#include "Platform/Desktop/linux/LinuxAdminShell.h"
 #include "Platform/Desktop/linux/LinuxDesktop.h"
 #include "Platform/Desktop/linux/PortalColorScheme.h"
 #include "Platform/Foundation/Bundle.h"
@@ -19,6 +20,7 @@ struct LinuxServices::Private {
     std::unique_ptr<UserDefaults> userDefaults;
     std::unique_ptr<Workspace> workspace;
     std::unique_ptr<Alerts> alerts;
+    std::unique_ptr<AdminShell> adminShell;
     std::unique_ptr<ColorScheme> colorScheme;
 };
 
@@ -34,6 +36,7 @@ void LinuxServices::install(Mode mode) {
     set.userDefaults = (d->userDefaults = createUserDefaults(set.bundle->bundleIdentifier())).get();
     set.workspace = (d->workspace = createWorkspace()).get();
     set.alerts = (d->alerts = createCommandLineAlerts()).get();
+    set.adminShell = (d->adminShell = createAdminShell()).get();
     if (mode == Mode::CommandLine)
         return;
     set.colorScheme = (d->colorScheme = createColorScheme()).get();
