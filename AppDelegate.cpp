@@ -2,6 +2,104 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AppDelegate.h"
 
-AppDelegate::AppDelegate(QObject* parent) : QObject(parent) {
+#include "Platform/Desktop/Workspace.h"
+#include "Platform/Foundation/Bundle.h"
+#include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/Services.h"
+#include "Platform/Foundation/TemporaryFolder.h"
+#include "Platform/Foundation/UserDefaults.h"
+#include "Source/Control/PreferenceStore.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <sys/stat.h>
+
+namespace {
+
+void openPage(const QString& name) {
+    const auto& services = Platform::services();
+    (void)services.workspace->openUrl(QUrl::fromLocalFile(services.bundle->pathForResource(name)));
 }
+
+} // namespace
+
+AppDelegate::AppDelegate(Windows& windows, Platform::RunningProgram& running, QObject* parent)
+    : QObject(parent), windows_(windows), running_(running) {
+}
+
 AppDelegate::~AppDelegate() = default;
+
+bool AppDelegate::applicationDidFinishLaunching() {
+    g_SplitTimeMS = PreferenceStore::storedSplitTimeMS();
+
+    if (!recreateTemporaryFolder())
+        return false;
+
+    preferenceWndController_ = windows_.makePreferenceWndController(QStringLiteral("PreferenceWnd"));
+
+    // Made even when the user has chosen other folders.
+    const QString music = PreferenceStore::defaultMusicFolder();
+    if (!QFileInfo::exists(music))
+        (void)QDir().mkpath(music);
+
+    const QString key = QStringLiteral("mainWndController_");
+    Q_EMIT willChangeValueForKey(key);
+    mainWndController_ = windows_.makeMainWndController(QStringLiteral("MainWnd"), *this);
+    Q_EMIT didChangeValueForKey(key);
+
+    ToolControl::showWindowNib(*mainWndController_);
+    setupSystemStatusBar();
+    (void)running_.listen([this](const QByteArray& request) { return answer(request); });
+    return true;
+}
+
+bool AppDelegate::recreateTemporaryFolder() {
+    // Raw recordings of an earlier run are deleted on purpose, those of a program that still runs never.
+    if (!running_.acquire()) {
+        lastError_ = running_.lastError().isEmpty() ? QStringLiteral("it is already running") : running_.lastError();
+        return false;
+    }
+    const QString temporary = Platform::Folders::temporary(&lastError_);
+    if (temporary.isEmpty())
+        return false;
+    g_strTmpPath = temporary + u'/' + Platform::services().bundle->bundleIdentifier();
+    Platform::TemporaryFolder::removeWhole(g_strTmpPath);
+    // What could not be removed, and is in the way, shows as a failure to write there.
+    (void)::mkdir(QFile::encodeName(g_strTmpPath).constData(), 0700);
+    return true;
+}
+
+void AppDelegate::applicationWillTerminate() {
+    if (mainWndController_)
+        windows_.finishRecording(*mainWndController_);
+    (void)Platform::services().userDefaults->flush();
+}
+
+QByteArray AppDelegate::answer(const QByteArray& request) {
+    if (request != "show")
+        return windows_.answer(*mainWndController_, request);
+    ToolControl::showWindowNib(*mainWndController_);
+    return "ok";
+}
+
+void AppDelegate::perference(QObject*) {
+    ToolControl::showWindowNib(*preferenceWndController_);
+}
+
+void AppDelegate::support(QObject*) {
+    openPage(QStringLiteral("support.html"));
+}
+
+void AppDelegate::audioDevice(QObject*) {
+    openPage(QStringLiteral("computer-audio.html"));
+}
+
+void AppDelegate::insertTheSystemAudioRecordDevice(QObject* sender) {
+    windows_.insertTheSystemAudioRecordDevice(*preferenceWndController_, sender);
+}
+
+void AppDelegate::setupSystemStatusBar() {
+    windows_.setupSystemStatusBar(*this);
+}

@@ -2,12 +2,72 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Foundation/RunningProgram.h"
+#include "Source/Control/ToolControl.h"
+
 #include <QObject>
+
+#include <memory>
 
 /// Brings the program up and carries the commands of its main menu. Main thread.
 class AppDelegate : public QObject {
     Q_OBJECT
 public:
-    explicit AppDelegate(QObject* parent = nullptr);
+    using WindowController = ToolControl::WindowShower;
+
+    /// Makes what the program shows. Outlives the delegate.
+    class Windows {
+    public:
+        virtual ~Windows() = default;
+        [[nodiscard]] virtual std::unique_ptr<WindowController> makePreferenceWndController(const QString& file) = 0;
+        /// The window is loaded and set up when this returns, but not shown.
+        [[nodiscard]] virtual std::unique_ptr<WindowController> makeMainWndController(const QString& file,
+                                                                                      AppDelegate& application) = 0;
+        virtual void setupSystemStatusBar(AppDelegate& application) = 0;
+        virtual void insertTheSystemAudioRecordDevice(WindowController& preferences, QObject* sender) = 0;
+        /// Answers a request of another process, but for "show", which the delegate answers.
+        [[nodiscard]] virtual QByteArray answer(WindowController& mainWindow, const QByteArray& request) = 0;
+        /// Ends a running recording and waits for its files: the program is about to quit.
+        virtual void finishRecording(WindowController& mainWindow) = 0;
+    };
+
+    AppDelegate(Windows& windows, Platform::RunningProgram& running, QObject* parent = nullptr);
     ~AppDelegate() override;
+
+    /// The launch, in its fixed order. Needs the lock of the running program, for it wipes the temporary folder.
+    /// @return false when there is no temporary folder of this user's own, or another program uses it; nothing has been
+    /// wiped or shown then, and lastError() says why.
+    [[nodiscard]] bool applicationDidFinishLaunching();
+    /// Ends what must not be cut off: a recording under way, settings not yet written.
+    void applicationWillTerminate();
+
+    [[nodiscard]] WindowController* mainWndController() const { return mainWndController_.get(); }
+    [[nodiscard]] WindowController* preferenceWndController() const { return preferenceWndController_.get(); }
+    [[nodiscard]] QString lastError() const { return lastError_; }
+
+public Q_SLOTS:
+    /// Shows the preferences window.
+    void perference(QObject* sender = nullptr);
+    /// Opens the support page in the browser.
+    void support(QObject* sender = nullptr);
+    /// Opens the page about the computer-audio add-on in the browser.
+    void audioDevice(QObject* sender = nullptr);
+    /// Has the preferences controller install the computer-audio device.
+    void insertTheSystemAudioRecordDevice(QObject* sender = nullptr);
+    void setupSystemStatusBar();
+
+Q_SIGNALS:
+    /// Around a change of the property @p key: "mainWndController_".
+    void willChangeValueForKey(const QString& key);
+    void didChangeValueForKey(const QString& key);
+
+private:
+    [[nodiscard]] bool recreateTemporaryFolder();
+    [[nodiscard]] QByteArray answer(const QByteArray& request);
+
+    Windows& windows_;
+    Platform::RunningProgram& running_;
+    QString lastError_;
+    std::unique_ptr<WindowController> preferenceWndController_;
+    std::unique_ptr<WindowController> mainWndController_;
 };

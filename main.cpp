@@ -1,14 +1,60 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AppDelegate.h"
+#include "AppWindows.h"
 #include "CommandLine/CommandLine.h"
+#include "Platform/Desktop/Alerts.h"
+#include "Platform/Foundation/Bundle.h"
+#include "Platform/Foundation/Services.h"
+#include "Platform/Foundation/TerminationSignals.h"
+#include "Platform/LinuxServices.h"
 
 #include <QApplication>
+#include <QSessionManager>
+
+namespace {
+
+int runWindows(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Sonaphex"));
+    Platform::LinuxServices services;
+    services.install(Platform::LinuxServices::Mode::Window);
+    const auto tell = [](const QString& what, const QString& why) {
+        (void)Platform::services().alerts->runModal(what, why, {QStringLiteral("OK")});
+    };
+
+    const auto running = Platform::RunningProgram::create(Platform::services().bundle->bundleIdentifier());
+    if (!running->acquire() && running->lastError().isEmpty()) {
+        QByteArray answer;
+        if (running->ask("show", answer))
+            return 0;
+        return CommandLine::fail(QStringLiteral("it is already running, but does not answer"));
+    }
+
+    const auto windows = createAppWindows();
+    if (!windows)
+        return CommandLine::fail(QStringLiteral("this build has no windows; see sonaphex --help"));
+    QString why;
+    if (!services.startAudio(why))
+        tell(QStringLiteral("Nothing can be recorded or played."), why);
+
+    AppDelegate delegate(*windows, *running);
+    if (!delegate.applicationDidFinishLaunching()) {
+        tell(QStringLiteral("Sonaphex cannot start."), delegate.lastError());
+        return CommandLine::Failed;
+    }
+    // However the program is ended in good order, the recording under way becomes a whole file first.
+    const Platform::TerminationSignals ending([](int) { QCoreApplication::quit(); });
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &delegate, &AppDelegate::applicationWillTerminate);
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &delegate,
+                     &AppDelegate::applicationWillTerminate, Qt::DirectConnection);
+    return QApplication::exec();
+}
+
+} // namespace
 
 int main(int argc, char** argv) {
     if (const auto status = CommandLine::runCommand(argc, argv))
         return *status;
-    QApplication application(argc, argv);
-    AppDelegate delegate;
-    return 0;
+    return runWindows(argc, argv);
 }

@@ -1,0 +1,279 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "AppDelegate.h"
+
+#include "Platform/Foundation/Services.h"
+#include "Source/Control/PreferenceStore.h"
+#include "tests/fakes/FakeBundle.h"
+#include "tests/fakes/FakeUserDefaults.h"
+#include "tests/fakes/FakeWorkspace.h"
+#include "tests/support/Environment.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct FakeRunning : Platform::RunningProgram {
+    bool free = true;
+    int acquired = 0;
+    QString problem;
+    Handler handler;
+    bool acquire() override {
+        ++acquired;
+        return free;
+    }
+    QString lastError() const override { return problem; }
+    bool listen(Handler answer) override {
+        handler = std::move(answer);
+        return true;
+    }
+    bool ask(const QByteArray&, QByteArray&, int) override { return false; }
+};
+
+/// Windows that write down what happens to them, and in which order.
+struct FakeWindows : AppDelegate::Windows {
+    struct Window : AppDelegate::WindowController {
+        Window(QStringList& log, const QString& name) : log(log), name(name) {}
+        QStringList& log;
+        QString name;
+        bool visible = false;
+        bool isWindowVisible() const override { return visible; }
+        void showWindow() override { log << name + u": showWindow"_s; }
+        void makeKeyAndOrderFront() override {
+            visible = true;
+            log << name + u": makeKeyAndOrderFront"_s;
+        }
+        void center() override { log << name + u": center"_s; }
+    };
+
+    QStringList log;
+    std::function<void()> whenPreferencesAreMade = [] {};
+    std::function<void()> whenMainIsMade = [] {};
+
+    std::unique_ptr<AppDelegate::WindowController> makePreferenceWndController(const QString& file) override {
+        log << u"make "_s + file;
+        whenPreferencesAreMade();
+        return std::make_unique<Window>(log, file);
+    }
+    std::unique_ptr<AppDelegate::WindowController> makeMainWndController(const QString& file, AppDelegate&) override {
+        log << u"make "_s + file;
+        whenMainIsMade();
+        return std::make_unique<Window>(log, file);
+    }
+    void setupSystemStatusBar(AppDelegate&) override { log << u"status bar"_s; }
+    void insertTheSystemAudioRecordDevice(AppDelegate::WindowController& preferences, QObject* sender) override {
+        log << u"install for %1 by %2"_s.arg(static_cast<Window&>(preferences).name,
+                                             sender ? sender->objectName() : u"nobody"_s);
+    }
+    QByteArray answer(AppDelegate::WindowController&, const QByteArray& request) override {
+        return "window heard " + request;
+    }
+    void finishRecording(AppDelegate::WindowController&) override { log << u"finish"_s; }
+};
+
+struct AppDelegateTest : testing::Test {
+    QTemporaryDir dir;
+    EnvironmentScope home{"HOME", dir.path().toUtf8()};
+    EnvironmentScope temporary{"TMPDIR", dir.path().toUtf8()};
+    Platform::ServicesScope scope;
+    FakeBundle bundle;
+    FakeUserDefaults defaults;
+    FakeWorkspace workspace;
+    FakeRunning running;
+    FakeWindows windows;
+    AppDelegate delegate{windows, running};
+
+    AppDelegateTest() {
+        Platform::services().bundle = &bundle;
+        Platform::services().userDefaults = &defaults;
+        Platform::services().workspace = &workspace;
+        g_SplitTimeMS = 77;
+        g_strTmpPath = QString();
+    }
+    [[nodiscard]] QString path(const QString& name) const { return dir.filePath(name); }
+    [[nodiscard]] QString tmp() const { return path(u"com.korvane.Sonaphex"_s); }
+    [[nodiscard]] QString music() const { return path(u"Music/com.korvane.Sonaphex"_s); }
+    static void make(const QString& path) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+    static QStringList in(const QString& folder) {
+        return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    }
+};
+
+} // namespace
+
+TEST_F(AppDelegateTest, LaunchesInItsOrder) {
+    QObject::connect(&delegate, &AppDelegate::willChangeValueForKey, &delegate, [&](const QString& key) {
+        EXPECT_EQ(delegate.mainWndController(), nullptr);
+        windows.log << u"will change "_s + key;
+    });
+    QObject::connect(&delegate, &AppDelegate::didChangeValueForKey, &delegate, [&](const QString& key) {
+        EXPECT_NE(delegate.mainWndController(), nullptr);
+        windows.log << u"did change "_s + key;
+    });
+    windows.whenPreferencesAreMade = [&] {
+        EXPECT_EQ(g_SplitTimeMS, -1) << "the split time comes first";
+        EXPECT_TRUE(QDir(tmp()).exists()) << "then the temporary folder";
+        EXPECT_FALSE(QDir(music()).exists()) << "the Music folder comes after the preferences";
+    };
+    windows.whenMainIsMade = [&] { EXPECT_TRUE(QDir(music()).exists()); };
+    ASSERT_TRUE(delegate.applicationDidFinishLaunching());
+    EXPECT_EQ(windows.log, (QStringList{u"make PreferenceWnd"_s, u"will change mainWndController_"_s, u"make MainWnd"_s,
+                                        u"did change mainWndController_"_s, u"MainWnd: makeKeyAndOrderFront"_s,
+                                        u"MainWnd: center"_s, u"status bar"_s}));
+}
+
+TEST_F(AppDelegateTest, BeginsWithTheDefaultsOfAFirstLaunch) {
+    using namespace PreferenceStore;
+    ASSERT_TRUE(delegate.applicationDidFinishLaunching());
+    EXPECT_EQ(g_SplitTimeMS, -1);
+    EXPECT_EQ(g_strTmpPath, tmp());
+    EXPECT_TRUE(Platform::boolValue(preferenceValueForKey(PreferenceFilterKey, 1)));
+    EXPECT_EQ(Platform::intValue(preferenceValueForKey(PreferenceFilterTimeKey, u"5"_s)), 5);
+    EXPECT_EQ(preferenceValueForKey(PreferenceSavePathKey, defaultMusicFolder()).toString(), music());
+    EXPECT_EQ(preferenceValueForKey(PreferenceRingtoneSavePathKey, defaultMusicFolder()).toString(), music());
+    EXPECT_TRUE(Platform::boolValue(preferenceValueForKey(ChooseRecordBuiltIn, true)));
+    EXPECT_FALSE(Platform::boolValue(preferenceValueForKey(ChooseRecordComputerAudio, false)));
+    EXPECT_EQ(defaults.changes(), 0) << "a default is never written back";
+}
+
+TEST_F(AppDelegateTest, SplitsAfter300MillisecondsWhenOnlyTheSwitchIsStored) {
+    defaults.setObject(PreferenceStore::PreferenceSplitKey, 1);
+    ASSERT_TRUE(delegate.applicationDidFinishLaunching());
+    EXPECT_EQ(g_SplitTimeMS, 300);
+}
+
+TEST_F(AppDelegateTest, TakesTheSplitTimeFromItsText) {
+    defaults.setObject(PreferenceStore::PreferenceSplitKey, 1);
+    const std::pair<QVariant, int> cases[] = {{u"500"_s, 500},      {u"2000ms"_s, 2000}, {u"soon"_s, 0},
+                                              {QVariantList{1}, 0}, {750, 750},          {u"-5"_s, -5}};
+    for (const auto& [stored, expected] : cases) {
+        defaults.setObject(PreferenceStore::PreferenceSplitTimeMSKey, stored);
+        EXPECT_EQ(PreferenceStore::storedSplitTimeMS(), expected);
+    }
+    defaults.setObject(PreferenceStore::PreferenceSplitKey, 0);
+    EXPECT_EQ(PreferenceStore::storedSplitTimeMS(), -1);
+}
+
+TEST_F(AppDelegateTest, EmptiesTheTemporaryFolderOfACrashedRun) {
+    QDir().mkpath(tmp() + u"/deep/er"_s);
+    make(tmp() + u"/BuiltInA0.m4a"_s);
+    make(tmp() + u"/deep/er/.hidden"_s);
+    ASSERT_TRUE(delegate.applicationDidFinishLaunching());
+    EXPECT_TRUE(QDir(tmp()).exists());
+    EXPECT_EQ(in(tmp()), QStringList());
+    struct stat is {};
+    ASSERT_EQ(stat(qPrintable(tmp()), &is), 0);
+    EXPECT_EQ(is.st_mode & 0777, 0700U);
+}
+
+TEST_F(AppDelegateTest, ReplacesAFileInThePlaceOfTheTemporaryFolder) {
+    make(tmp());
+    ASSERT_TRUE(delegate.applicationDidFinishLaunching());
+    EXPECT_TRUE(QDir(tmp()).exists());
+}
+
+TEST_F(AppDelegateTest, NeverFollowsALinkWhenItWipes) {
+    QDir().mkpath(path(u"precious"_s));
+    make(path(u"precious/file"_s));
+    ASSERT_EQ(symlink("precious", qPrintable(tmp())), 0);
+    ASSERT_TRUE(delegate.applicationDidFinishLaunching());
+    EXPECT_EQ(in(path(u"precious"_s)), QStringList{u"file"_s});
+    EXPECT_FALSE(QFileInfo(tmp()).isSymLink());
+    ASSERT_EQ(symlink("../precious", qPrintable(tmp() + u"/inside"_s)), 0);
+    AppDelegate again(windows, running);
+    ASSERT_TRUE(again.applicationDidFinishLaunching());
+    EXPECT_EQ(in(path(u"precious"_s)), QStringList{u"file"_s});
+    EXPECT_EQ(in(tmp()), QStringList());
+}
+
+TEST_F(AppDelegateTest, WipesNothingWhileAnotherProgramRuns) {
+    QDir().mkpath(tmp());
+    make(tmp() + u"/BuiltInA0.m4a"_s);
+    running.free = false;
+    EXPECT_FALSE(delegate.applicationDidFinishLaunching());
+    EXPECT_FALSE(delegate.lastError().isEmpty());
+    EXPECT_EQ(in(tmp()), QStringList{u"BuiltInA0.m4a"_s});
+    EXPECT_TRUE(windows.log.isEmpty());
+}
+
+TEST_F(AppDelegateTest, RefusesATemporaryFolderThatIsNotTheUsersOwn) {
+    const EnvironmentScope none("TMPDIR");
+    const EnvironmentScope cache("XDG_CACHE_HOME", path(u"cache"_s).toUtf8());
+    QDir().mkpath(path(u"cache"_s));
+    ASSERT_EQ(symlink("/tmp", qPrintable(path(u"cache/tmp"_s))), 0);
+    EXPECT_FALSE(delegate.applicationDidFinishLaunching());
+    EXPECT_TRUE(delegate.lastError().contains(u"is a link"_s));
+    EXPECT_TRUE(windows.log.isEmpty());
+}
+
+TEST_F(AppDelegateTest, LeavesAnExistingMusicFolderAlone) {
+    QDir().mkpath(music());
+    make(music() + u"/Track0.m4a"_s);
+    defaults.setObject(PreferenceStore::PreferenceSavePathKey, path(u"elsewhere"_s));
+    ASSERT_TRUE(delegate.applicationDidFinishLaunching());
+    EXPECT_EQ(in(music()), QStringList{u"Track0.m4a"_s});
+}
+
+TEST_F(AppDelegateTest, MakesTheDefaultMusicFolderEvenWhenAnotherIsChosen) {
+    defaults.setObject(PreferenceStore::PreferenceSavePathKey, path(u"elsewhere"_s));
+    ASSERT_TRUE(delegate.applicationDidFinishLaunching());
+    EXPECT_TRUE(QDir(music()).exists());
+    EXPECT_FALSE(QDir(path(u"elsewhere"_s)).exists());
+}
+
+TEST_F(AppDelegateTest, LaunchesWhenTheMusicFolderCannotBeMade) {
+    make(path(u"Music"_s));
+    EXPECT_TRUE(delegate.applicationDidFinishLaunching());
+}
+
+TEST_F(AppDelegateTest, ForwardsItsMenuActions) {
+    ASSERT_TRUE(delegate.applicationDidFinishLaunching());
+    windows.log.clear();
+    delegate.perference();
+    EXPECT_EQ(windows.log, (QStringList{u"PreferenceWnd: makeKeyAndOrderFront"_s, u"PreferenceWnd: center"_s}));
+    windows.log.clear();
+    QObject item;
+    item.setObjectName(u"item"_s);
+    delegate.insertTheSystemAudioRecordDevice(&item);
+    delegate.insertTheSystemAudioRecordDevice();
+    EXPECT_EQ(windows.log,
+              (QStringList{u"install for PreferenceWnd by item"_s, u"install for PreferenceWnd by nobody"_s}));
+}
+
+TEST_F(AppDelegateTest, OpensItsPagesInTheBrowser) {
+    delegate.support();
+    delegate.audioDevice();
+    ASSERT_EQ(workspace.urls.size(), 2);
+    EXPECT_EQ(workspace.urls[0].fileName(), u"support.html"_s);
+    EXPECT_EQ(workspace.urls[1].fileName(), u"computer-audio.html"_s);
+    for (const QUrl& url : workspace.urls)
+        EXPECT_TRUE(QFile::exists(QStringLiteral(SONAPHEX_SOURCE_DIR "/Resources/") + url.fileName()));
+}
+
+TEST_F(AppDelegateTest, RaisesItsWindowWhenASecondLaunchAsks) {
+    ASSERT_TRUE(delegate.applicationDidFinishLaunching());
+    windows.log.clear();
+    EXPECT_EQ(running.handler("show"), "ok");
+    EXPECT_EQ(windows.log, (QStringList{u"MainWnd: showWindow"_s, u"MainWnd: center"_s}));
+    EXPECT_EQ(running.handler("split"), "window heard split");
+}
+
+TEST_F(AppDelegateTest, FinishesARecordingBeforeItEnds) {
+    delegate.applicationWillTerminate();
+    EXPECT_TRUE(windows.log.isEmpty()) << "nothing to finish before the launch";
+    ASSERT_TRUE(delegate.applicationDidFinishLaunching());
+    delegate.applicationWillTerminate();
+    EXPECT_EQ(windows.log.last(), u"finish"_s);
+}
