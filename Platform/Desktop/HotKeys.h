@@ -26,6 +26,10 @@ public:
 
     virtual ~HotKeys() = default;
     [[nodiscard]] virtual Way way() const = 0;
+    /// Called when way() changed: a desktop portal answers some time after the start.
+    virtual void setWayChangedHandler(std::function<void()> /*handler*/) {}
+    /// What a combination does, in words that a desktop may show when it asks the user for consent.
+    virtual void describe(Id /*id*/, const QString& /*text*/) {}
     virtual void setHandler(Handler handler) = 0;
     /// Takes a combination for the program.
     /// @param keyCode ANSI virtual key code of the physical key

@@ -2,6 +2,69 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/HotKey/HotKeyRegister.h"
 
+#include "Platform/Desktop/FocusProbe.h"
+#include "Platform/Foundation/MainQueue.h"
+#include "Platform/Foundation/Services.h"
+
+using Platform::NotificationCenter;
+
+namespace {
+
+// Every press of every combination of this process comes through here; the registers tell by its signature whose it is.
+void HotKeyRegisterHandler(Platform::HotKeys::Id id) {
+    NotificationCenter::defaultCenter().post(
+        HotKeyRegister::HotKeyRegisterNotification,
+        {{HotKeyRegister::HotKeyRegisterSignatureKey, static_cast<int>(id.signature)}});
+}
+
+Platform::HotKeys* hotKeys() {
+    return Platform::services().hotKeys;
+}
+
+} // namespace
+
+HotKeyRegister::HotKeyRegister()
+    : observation_(NotificationCenter::defaultCenter().addObserver(
+          HotKeyRegisterNotification,
+          [this](const QString&, const Dictionary& userInfo) { hotKeyRegisterNotification(userInfo); })) {
+}
+
+HotKeyRegister::~HotKeyRegister() {
+    observation_.reset();
+    unregisterHotKey();
+}
+
+void HotKeyRegister::registerHotKey(std::uint16_t keyCode, std::uint32_t modifier) {
+    unregisterHotKey();
+    if (!hotKeys())
+        return;
+    hotKeys()->setHandler(HotKeyRegisterHandler);
+    hotKeyHandle_ = hotKeys()->registerHotKey(keyCode, carbonKeyModifiers(modifier), {signature_, 1});
+}
+
+void HotKeyRegister::unregisterHotKey() {
+    if (hotKeyHandle_ == 0)
+        return;
+    if (hotKeys())
+        hotKeys()->unregisterHotKey(hotKeyHandle_);
+    hotKeyHandle_ = 0;
+}
+
+bool HotKeyRegister::isEditKeybordShortcutControl() const {
+    const auto* probe = Platform::services().focusProbe;
+    return probe && probe->isEditKeybordShortcutControl();
+}
+
+void HotKeyRegister::hotKeyRegisterNotification(const Dictionary& userInfo) {
+    const int pressed = Platform::intValue(userInfo.value(HotKeyRegisterSignatureKey));
+    if (static_cast<std::uint32_t>(pressed) != signature_)
+        return;
+    if (isEditKeybordShortcutControl() || !operation_)
+        return;
+    // Never inside the event handler: the operation may open a modal window.
+    Platform::MainQueue::post(operation_);
+}
+
 std::uint32_t HotKeyRegister::carbonKeyModifiers(std::uint32_t flags) {
     std::uint32_t carbon = 0;
     carbon |= (flags & 0x20000U) ? 512U : 0U;  // Shift

@@ -1,0 +1,254 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Desktop/KeyCodes.h"
+#include "Platform/Desktop/linux/LinuxHotKeys.h"
+
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusMetaType>
+#include <QDBusObjectPath>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
+#include <QTimer>
+
+#include <map>
+
+using namespace Qt::StringLiterals;
+
+namespace Platform::PortalTypes {
+
+struct Shortcut {
+    QString id;
+    QVariantMap properties;
+};
+
+} // namespace Platform::PortalTypes
+Q_DECLARE_METATYPE(Platform::PortalTypes::Shortcut)
+
+namespace Platform::PortalTypes {
+
+QDBusArgument& operator<<(QDBusArgument& argument, const Shortcut& shortcut) {
+    argument.beginStructure();
+    argument << shortcut.id << shortcut.properties;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, Shortcut& shortcut) {
+    argument.beginStructure();
+    argument >> shortcut.id >> shortcut.properties;
+    argument.endStructure();
+    return argument;
+}
+
+} // namespace Platform::PortalTypes
+
+namespace Platform {
+namespace {
+
+using PortalTypes::Shortcut;
+
+const auto service = u"org.freedesktop.portal.Desktop"_s;
+const auto desktopPath = u"/org/freedesktop/portal/desktop"_s;
+const auto shortcutsInterface = u"org.freedesktop.portal.GlobalShortcuts"_s;
+
+// The four letters of a signature; the desktop remembers its keys under them.
+QString nameOf(HotKeys::Id id) {
+    QString name;
+    for (int shift = 24; shift >= 0; shift -= 8) {
+        const auto letter = static_cast<char16_t>((id.signature >> shift) & 0xFF);
+        name += letter > 0x20 && letter < 0x7F ? QChar(letter) : u'_';
+    }
+    return name;
+}
+
+QString trigger(std::uint16_t keyCode, std::uint32_t carbonModifiers) {
+    QString text;
+    if (carbonModifiers & 4096)
+        text += u"CTRL+"_s;
+    if (carbonModifiers & 2048)
+        text += u"ALT+"_s;
+    if (carbonModifiers & 512)
+        text += u"SHIFT+"_s;
+    if (carbonModifiers & 256)
+        text += u"LOGO+"_s;
+    return text + KeyCodes::keysymName(keyCode);
+}
+
+// A session binds its shortcuts once and for all; a change needs a new session. Everything is asked without waiting: a
+// portal that hangs must not hang the program.
+class PortalHotKeys : public QObject, public HotKeys {
+    Q_OBJECT
+public:
+    PortalHotKeys() : bus_(QDBusConnection::sessionBus()) {
+        qDBusRegisterMetaType<Shortcut>();
+        qDBusRegisterMetaType<QList<Shortcut>>();
+        rebind_.setSingleShot(true);
+        rebind_.setInterval(100); // three fields register one after the other
+        connect(&rebind_, &QTimer::timeout, this, [this] { openSession(); });
+        if (!bus_.isConnected()) {
+            answered_ = true;
+            return;
+        }
+        bus_.connect(service, desktopPath, shortcutsInterface, u"Activated"_s, this,
+                     SLOT(activated(QDBusObjectPath, QString, qulonglong, QVariantMap)));
+        auto question =
+            QDBusMessage::createMethodCall(service, desktopPath, u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
+        question << shortcutsInterface << u"version"_s;
+        call(question, [this](const QDBusMessage& reply) {
+            answered_ = true;
+            available_ = reply.type() == QDBusMessage::ReplyMessage;
+            if (wayChanged_)
+                wayChanged_();
+            if (available_ && !registrations_.empty())
+                rebind_.start();
+        });
+    }
+    ~PortalHotKeys() override { closeSession(); }
+
+    Way way() const override { return available_ ? Way::Portal : Way::None; }
+    void setHandler(Handler handler) override { handler_ = std::move(handler); }
+    void setWayChangedHandler(std::function<void()> handler) override { wayChanged_ = std::move(handler); }
+    void describe(Id id, const QString& text) override { descriptions_[id.signature] = text; }
+
+    Handle registerHotKey(std::uint16_t keyCode, std::uint32_t carbonModifiers, Id id) override {
+        if ((answered_ && !available_) || KeyCodes::keysymName(keyCode).isEmpty())
+            return 0;
+        for (const auto& [handle, taken] : registrations_)
+            if (taken.keyCode == keyCode && taken.carbonModifiers == carbonModifiers)
+                return 0;
+        registrations_.emplace(++lastHandle_, Registration{keyCode, carbonModifiers, id});
+        if (available_)
+            rebind_.start();
+        return lastHandle_;
+    }
+
+    void unregisterHotKey(Handle handle) override {
+        if (registrations_.erase(handle) > 0 && available_)
+            rebind_.start();
+    }
+
+private Q_SLOTS:
+    void activated(const QDBusObjectPath& session, const QString& name, qulonglong, const QVariantMap&) {
+        if (session.path() != session_)
+            return;
+        for (const auto& [handle, registration] : registrations_) {
+            if (nameOf(registration.id) != name)
+                continue;
+            if (const auto handler = handler_)
+                handler(registration.id);
+            return;
+        }
+    }
+    void sessionResponse(uint response, const QVariantMap& results) {
+        forgetRequest(SLOT(sessionResponse(uint, QVariantMap)));
+        const QString session = results.value(u"session_handle"_s).toString();
+        if (response != 0 || session.isEmpty()) {
+            qWarning("the desktop portal opens no session for hot keys (answer %u)", response);
+            return;
+        }
+        session_ = session;
+        bindShortcuts();
+    }
+    void bindResponse(uint response, const QVariantMap&) {
+        forgetRequest(SLOT(bindResponse(uint, QVariantMap)));
+        if (response != 0)
+            qWarning("the desktop portal binds no hot keys (answer %u)", response);
+    }
+
+private:
+    struct Registration {
+        std::uint16_t keyCode;
+        std::uint32_t carbonModifiers;
+        Id id;
+    };
+
+    template <typename Then>
+    void call(const QDBusMessage& message, Then then) {
+        auto* watcher = new QDBusPendingCallWatcher(bus_.asyncCall(message), this);
+        connect(watcher, &QDBusPendingCallWatcher::finished, this, [then](QDBusPendingCallWatcher* done) {
+            then(done->reply());
+            done->deleteLater();
+        });
+    }
+
+    // The answer of a request may come before the call returns, so its path is known and listened to beforehand.
+    QString expectRequest(const char* slot) {
+        for (const char* waiting : {SLOT(sessionResponse(uint, QVariantMap)), SLOT(bindResponse(uint, QVariantMap))})
+            forgetRequest(waiting);
+        const QString token = u"sonaphex%1"_s.arg(++lastToken_);
+        QString sender = bus_.baseService().mid(1);
+        sender.replace(u'.', u'_');
+        request_ = desktopPath + u"/request/"_s + sender + u'/' + token;
+        bus_.connect(service, request_, u"org.freedesktop.portal.Request"_s, u"Response"_s, this, slot);
+        return token;
+    }
+    void forgetRequest(const char* slot) {
+        if (!request_.isEmpty())
+            bus_.disconnect(service, request_, u"org.freedesktop.portal.Request"_s, u"Response"_s, this, slot);
+    }
+
+    void openSession() {
+        closeSession();
+        if (registrations_.empty())
+            return;
+        const QString token = expectRequest(SLOT(sessionResponse(uint, QVariantMap)));
+        auto message = QDBusMessage::createMethodCall(service, desktopPath, shortcutsInterface, u"CreateSession"_s);
+        message << QVariantMap{{u"handle_token"_s, token}, {u"session_handle_token"_s, token}};
+        call(message, [](const QDBusMessage& reply) {
+            if (reply.type() == QDBusMessage::ErrorMessage)
+                qWarning("hot keys: %s", qPrintable(reply.errorMessage()));
+        });
+    }
+
+    void bindShortcuts() {
+        QList<Shortcut> shortcuts;
+        for (const auto& [handle, registration] : registrations_) {
+            const auto described = descriptions_.find(registration.id.signature);
+            const QString name = nameOf(registration.id);
+            shortcuts.append({name,
+                              {{u"description"_s, described == descriptions_.end() ? name : described->second},
+                               {u"preferred_trigger"_s, trigger(registration.keyCode, registration.carbonModifiers)}}});
+        }
+        const QString token = expectRequest(SLOT(bindResponse(uint, QVariantMap)));
+        auto message = QDBusMessage::createMethodCall(service, desktopPath, shortcutsInterface, u"BindShortcuts"_s);
+        message << QDBusObjectPath(session_) << QVariant::fromValue(shortcuts) << QString()
+                << QVariantMap{{u"handle_token"_s, token}};
+        call(message, [](const QDBusMessage& reply) {
+            if (reply.type() == QDBusMessage::ErrorMessage)
+                qWarning("hot keys: %s", qPrintable(reply.errorMessage()));
+        });
+    }
+
+    void closeSession() {
+        if (session_.isEmpty())
+            return;
+        bus_.send(QDBusMessage::createMethodCall(service, session_, u"org.freedesktop.portal.Session"_s, u"Close"_s));
+        session_.clear();
+    }
+
+    QDBusConnection bus_;
+    QTimer rebind_;
+    std::map<Handle, Registration> registrations_;
+    std::map<std::uint32_t, QString> descriptions_;
+    Handle lastHandle_ = 0;
+    QString session_;
+    QString request_;
+    int lastToken_ = 0;
+    bool answered_ = false;
+    bool available_ = false;
+    Handler handler_;
+    std::function<void()> wayChanged_;
+};
+
+} // namespace
+
+std::unique_ptr<HotKeys> createPortalHotKeys() {
+    return std::make_unique<PortalHotKeys>();
+}
+
+} // namespace Platform
+
+#include "PortalHotKeys.moc"

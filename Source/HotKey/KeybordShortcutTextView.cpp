@@ -1,0 +1,321 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/HotKey/KeybordShortcutTextView.h"
+
+#include "Platform/Desktop/KeyCodes.h"
+#include "Platform/Foundation/Services.h"
+#include "Platform/Foundation/UserDefaults.h"
+
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QKeySequence>
+#include <QPainter>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// No key of the table has it, so no register accepts it.
+constexpr std::uint16_t noKeyCode = 0xFFFF;
+
+std::uint32_t flagOfModifierKey(int key) {
+    switch (key) {
+    case Qt::Key_Shift:
+        return KeybordShortcutTextView::ShiftFlag;
+    case Qt::Key_Control:
+        return KeybordShortcutTextView::ControlFlag;
+    case Qt::Key_Alt:
+        return KeybordShortcutTextView::OptionFlag;
+    case Qt::Key_Meta:
+    case Qt::Key_Super_L:
+    case Qt::Key_Super_R:
+        return KeybordShortcutTextView::CommandFlag;
+    default:
+        return 0;
+    }
+}
+
+bool isModifierKey(int key) {
+    return flagOfModifierKey(key) != 0 || key == Qt::Key_AltGr || key == Qt::Key_CapsLock || key == Qt::Key_NumLock ||
+           key == Qt::Key_ScrollLock || key == Qt::Key_Hyper_L || key == Qt::Key_Hyper_R;
+}
+
+std::uint32_t flagsOf(Qt::KeyboardModifiers modifiers) {
+    std::uint32_t flags = 0;
+    flags |= modifiers & Qt::ShiftModifier ? KeybordShortcutTextView::ShiftFlag : 0;
+    flags |= modifiers & Qt::ControlModifier ? KeybordShortcutTextView::ControlFlag : 0;
+    flags |= modifiers & Qt::AltModifier ? KeybordShortcutTextView::OptionFlag : 0;
+    flags |= modifiers & Qt::MetaModifier ? KeybordShortcutTextView::CommandFlag : 0;
+    return flags;
+}
+
+// An event of a modifier key tells the state before itself.
+std::uint32_t flagsAfter(const QKeyEvent& event) {
+    const std::uint32_t before = flagsOf(event.QInputEvent::modifiers());
+    const std::uint32_t own = flagOfModifierKey(event.key());
+    return event.type() == QEvent::KeyPress ? before | own : before & ~own;
+}
+
+// What the key would type without modifiers but Shift; keys that type nothing go by their names.
+QString charactersIgnoringModifiers(const QKeyEvent& event) {
+    const int key = event.key();
+    if (key > Qt::Key_Space && key < Qt::Key_Escape) {
+        const auto letter = static_cast<char32_t>(key);
+        const QString sign = QString::fromUcs4(&letter, 1);
+        return event.modifiers() & Qt::ShiftModifier ? sign : sign.toLower();
+    }
+    if (key == 0 || key == Qt::Key_unknown)
+        return u""_s;
+    return QKeySequence(key).toString(QKeySequence::PortableText);
+}
+
+std::uint16_t keyCodeOf(const QKeyEvent& event) {
+    if (const auto code = Platform::KeyCodes::virtualKeyCodeOfScanCode(event.nativeScanCode()))
+        return *code;
+    if (event.nativeScanCode() != 0)
+        return noKeyCode;
+    return Platform::KeyCodes::virtualKeyCodeOfSign(Qt::Key(event.key())).value_or(noKeyCode);
+}
+
+bool isNumber(const QVariant& object) {
+    switch (object.typeId()) {
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Double:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// A cleared shortcut is an empty dictionary. Anything else has all three values, or somebody else wrote it.
+bool isShortcut(const Dictionary& stored) {
+    using View = KeybordShortcutTextView;
+    return stored.isEmpty() ||
+           (stored.value(View::CharactersKey).typeId() == QMetaType::QString &&
+            isNumber(stored.value(View::ModifierFlagsKey)) && isNumber(stored.value(View::KeyCodeKey)));
+}
+
+} // namespace
+
+KeybordShortcutTextView::KeybordShortcutTextView(QWidget* parent) : QLineEdit(parent) {
+    setReadOnly(true);
+    setAlignment(Qt::AlignCenter);
+    setFocusPolicy(Qt::ClickFocus);
+    setAttribute(Qt::WA_InputMethodEnabled, false);
+    setPlaceholderText(tr("Click, then press the keys"));
+}
+
+KeybordShortcutTextView::~KeybordShortcutTextView() {
+    letKeyboardGo();
+}
+
+void KeybordShortcutTextView::setHotKeyRegister(std::unique_ptr<HotKeyRegister> hotKeyRegister) {
+    hotKeyRegister_ = std::move(hotKeyRegister);
+}
+
+Dictionary KeybordShortcutTextView::data() const {
+    if (characters_.isNull())
+        return {};
+    return {{CharactersKey, characters_}, {ModifierFlagsKey, uint(modifierFlags_)}, {KeyCodeKey, uint(keyCode_)}};
+}
+
+void KeybordShortcutTextView::setData(const Dictionary& data) {
+    const QVariant characters = data.value(CharactersKey);
+    characters_ = characters.isValid() ? characters.toString() : QString();
+    modifierFlags_ = static_cast<std::uint32_t>(Platform::longLongValue(data.value(ModifierFlagsKey)));
+    keyCode_ = static_cast<std::uint16_t>(Platform::longLongValue(data.value(KeyCodeKey)));
+}
+
+void KeybordShortcutTextView::loadUserDefault() {
+    const QVariant stored = Platform::services().userDefaults->objectForKey(saveKey_);
+    if (stored.typeId() == QMetaType::QVariantMap && isShortcut(stored.toMap()))
+        setData(stored.toMap());
+    else if (stored.isValid())
+        qWarning("%s holds no shortcut; the default is used", qPrintable(saveKey_));
+    updateShortcutValue();
+}
+
+void KeybordShortcutTextView::saveUserDefault() {
+    Platform::services().userDefaults->setObject(saveKey_, data());
+}
+
+void KeybordShortcutTextView::updateShortcutValue() {
+    QString text = characters_.toUpper();
+    std::uint32_t mask = 0;
+    const auto prepend = [&](std::uint32_t flag, const QString& prefix) {
+        if (!(modifierFlags_ & flag))
+            return;
+        text.prepend(prefix);
+        mask |= flag;
+    };
+    prepend(ShiftFlag, u"Shift + "_s);
+    prepend(CommandFlag, u"Command + "_s);
+    prepend(OptionFlag, u"Option + "_s);
+    prepend(ControlFlag, u"Control + "_s);
+    modifierFlags_ = mask;
+    setText(mask == 0 ? QString() : text);
+}
+
+bool KeybordShortcutTextView::updateHotKeyRegister() {
+    if (!hotKeyRegister_)
+        return false;
+    if (modifierFlags_ != 0)
+        hotKeyRegister_->registerHotKey(keyCode_, modifierFlags_);
+    else
+        hotKeyRegister_->unregisterHotKey();
+    return hotKeyRegister_->hasRegisterHotKey();
+}
+
+void KeybordShortcutTextView::setMenuItem(QAction* item) {
+    menuItem_ = item;
+    if (!item)
+        return;
+    QString keys;
+    if (modifierFlags_ & ControlFlag)
+        keys += u"Ctrl+"_s;
+    if (modifierFlags_ & OptionFlag)
+        keys += u"Alt+"_s;
+    if (modifierFlags_ & ShiftFlag)
+        keys += u"Shift+"_s;
+    if (modifierFlags_ & CommandFlag)
+        keys += u"Meta+"_s;
+    const bool complete = modifierFlags_ != 0 && !characters_.isEmpty();
+    item->setShortcut(complete ? QKeySequence::fromString(keys + characters_.toUpper(), QKeySequence::PortableText)
+                               : QKeySequence());
+    item->setShortcutVisibleInContextMenu(true);
+    // It is shown there and acts through the hot key; as a shortcut of a window it would act twice.
+    item->setShortcutContext(Qt::WidgetShortcut);
+    item->setData(QVariant::fromValue(static_cast<QObject*>(this)));
+}
+
+bool KeybordShortcutTextView::event(QEvent* event) {
+    switch (event->type()) {
+    case QEvent::ShortcutOverride:
+        // Escape, the menus' shortcuts and the mnemonics come here as plain keys first.
+        event->accept();
+        return true;
+    case QEvent::KeyPress:
+        // Tab would move on before keyPressEvent().
+        keyPressEvent(static_cast<QKeyEvent*>(event));
+        return true;
+    case QEvent::KeyRelease:
+        keyReleaseEvent(static_cast<QKeyEvent*>(event));
+        return true;
+    default:
+        return QLineEdit::event(event);
+    }
+}
+
+void KeybordShortcutTextView::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    // The keys of the mnemonic that led here are still held; letting go of them is no input.
+    ignoresHeldModifiers_ = flagsOf(QGuiApplication::queryKeyboardModifiers()) != 0;
+    grabKeyboard();
+    holdsKeyboard_ = true;
+    update();
+}
+
+void KeybordShortcutTextView::focusOutEvent(QFocusEvent* event) {
+    letKeyboardGo();
+    if (awaitsRelease_)
+        finishCapture();
+    QLineEdit::focusOutEvent(event);
+    update();
+}
+
+void KeybordShortcutTextView::hideEvent(QHideEvent* event) {
+    letKeyboardGo();
+    QLineEdit::hideEvent(event);
+}
+
+void KeybordShortcutTextView::letKeyboardGo() {
+    if (!holdsKeyboard_)
+        return;
+    holdsKeyboard_ = false;
+    releaseKeyboard();
+}
+
+void KeybordShortcutTextView::mousePressEvent(QMouseEvent* event) {
+    setFocus(Qt::MouseFocusReason);
+    QLineEdit::mousePressEvent(event);
+    update();
+}
+
+void KeybordShortcutTextView::contextMenuEvent(QContextMenuEvent* event) {
+    event->accept();
+}
+
+void KeybordShortcutTextView::paintEvent(QPaintEvent* event) {
+    QLineEdit::paintEvent(event);
+    if (!hasFocus())
+        return;
+    QPainter painter(this);
+    painter.setPen(QPen(palette().color(QPalette::Active, QPalette::Highlight), 4));
+    painter.drawRect(rect());
+}
+
+void KeybordShortcutTextView::keyPressEvent(QKeyEvent* event) {
+    event->accept();
+    if (awaitsRelease_ || event->isAutoRepeat())
+        return;
+    if (isModifierKey(event->key()))
+        flagsChanged(flagsAfter(*event));
+    else
+        keyDown(*event);
+}
+
+void KeybordShortcutTextView::keyReleaseEvent(QKeyEvent* event) {
+    event->accept();
+    if (event->isAutoRepeat())
+        return;
+    if (awaitsRelease_) {
+        if (!isModifierKey(event->key()))
+            finishCapture();
+    } else if (isModifierKey(event->key())) {
+        flagsChanged(flagsAfter(*event));
+    }
+}
+
+void KeybordShortcutTextView::flagsChanged(std::uint32_t flags) {
+    if (!hasFocus())
+        return;
+    if (ignoresHeldModifiers_) {
+        ignoresHeldModifiers_ = flags != 0;
+        return;
+    }
+    if (hotKeyRegister_)
+        hotKeyRegister_->unregisterHotKey();
+    characters_ = u""_s;
+    modifierFlags_ = flags;
+    keyCode_ = 0;
+    updateShortcutValue();
+}
+
+// The rest follows when the key is up again: taken at once, the combination would fire while the finger is still on it.
+void KeybordShortcutTextView::keyDown(const QKeyEvent& event) {
+    characters_ = charactersIgnoringModifiers(event);
+    modifierFlags_ = flagsOf(event.modifiers());
+    keyCode_ = keyCodeOf(event);
+    updateShortcutValue();
+    awaitsRelease_ = true;
+}
+
+void KeybordShortcutTextView::finishCapture() {
+    awaitsRelease_ = false;
+    ignoresHeldModifiers_ = false;
+    clearFocus();
+    if (!updateHotKeyRegister()) {
+        modifierFlags_ = 0;
+        characters_ = QString();
+        keyCode_ = 0;
+        updateShortcutValue();
+    }
+    saveUserDefault();
+    if (menuItem_ && menuItem_->data().value<QObject*>() == this)
+        setMenuItem(menuItem_);
+}

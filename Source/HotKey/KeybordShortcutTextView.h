@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Foundation/Dictionary.h"
+#include "Source/HotKey/HotKeyRegister.h"
+
+#include <QLineEdit>
+#include <QPointer>
+
+#include <memory>
+
+class QAction;
+
+/// The field in which the user types a key combination. It shows it, stores it, takes it for the whole system through
+/// its register, and copies it to a menu item. Main thread.
+///
+/// With the focus it holds the keyboard: a combination that someone else took would never arrive here otherwise. It is
+/// left out of the Tab order, since Tab is a key like any other in it; a label's mnemonic or a click leads to it.
+class KeybordShortcutTextView : public QLineEdit {
+    Q_OBJECT
+public:
+    static inline const QString CharactersKey = QStringLiteral("KeybordShortcutCharactersKey");
+    static inline const QString ModifierFlagsKey = QStringLiteral("KeybordShortcutModifierFlagsKey");
+    static inline const QString KeyCodeKey = QStringLiteral("KeybordShortcutKeyCodeKey");
+
+    static constexpr std::uint32_t ShiftFlag = 0x20000;
+    static constexpr std::uint32_t ControlFlag = 0x40000;
+    static constexpr std::uint32_t OptionFlag = 0x80000;
+    static constexpr std::uint32_t CommandFlag = 0x100000;
+
+    explicit KeybordShortcutTextView(QWidget* parent = nullptr);
+    ~KeybordShortcutTextView() override;
+
+    [[nodiscard]] QString saveKey() const { return saveKey_; }
+    void setSaveKey(const QString& key) { saveKey_ = key; }
+    /// Null when there is no shortcut, empty while only modifiers are held.
+    [[nodiscard]] QString characters() const { return characters_; }
+    void setCharacters(const QString& characters) { characters_ = characters; }
+    [[nodiscard]] std::uint32_t modifierFlags() const { return modifierFlags_; }
+    void setModifierFlags(std::uint32_t flags) { modifierFlags_ = flags; }
+    /// ANSI virtual key code.
+    [[nodiscard]] std::uint16_t keyCode() const { return keyCode_; }
+    void setKeyCode(std::uint16_t code) { keyCode_ = code; }
+    [[nodiscard]] HotKeyRegister* hotKeyRegister() const { return hotKeyRegister_.get(); }
+    void setHotKeyRegister(std::unique_ptr<HotKeyRegister> hotKeyRegister);
+
+    /// The three values; an empty dictionary when there are no characters.
+    [[nodiscard]] Dictionary data() const;
+    void setData(const Dictionary& data);
+    /// Takes the stored shortcut, if there is one of the right shape, and shows what there is.
+    void loadUserDefault();
+    void saveUserDefault();
+    /// Reduces the flags to the four modifiers and shows the combination.
+    void updateShortcutValue();
+    /// @return whether the combination is taken for the program now.
+    bool updateHotKeyRegister();
+
+    [[nodiscard]] QAction* menuItem() const { return menuItem_; }
+    /// Shows the combination at @p item, which is not owned, and makes this field its represented object.
+    void setMenuItem(QAction* item);
+
+    /// What marks a field as one that captures combinations.
+    Q_INVOKABLE [[nodiscard]] bool isEditKeybordShortcutControl() const { return true; }
+    [[nodiscard]] bool acceptsFirstResponder() const { return true; }
+
+protected:
+    bool event(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+
+private:
+    void flagsChanged(std::uint32_t flags);
+    void keyDown(const QKeyEvent& event);
+    void finishCapture();
+    void letKeyboardGo();
+
+    QString saveKey_;
+    QString characters_;
+    std::uint32_t modifierFlags_ = 0;
+    std::uint16_t keyCode_ = 0;
+    std::unique_ptr<HotKeyRegister> hotKeyRegister_;
+    QPointer<QAction> menuItem_;
+    bool awaitsRelease_ = false;
+    bool ignoresHeldModifiers_ = false;
+    bool holdsKeyboard_ = false;
+};

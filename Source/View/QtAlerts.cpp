@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/View/QtAlerts.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+int QtAlerts::runModal(const QString& title, const QString& text, const QStringList& buttons) {
+    QMessageBox box(QApplication::activeWindow());
+    box.setIcon(QMessageBox::Warning);
+    box.setWindowTitle(QGuiApplication::applicationDisplayName());
+    // Names of files are part of what is said; none of them is markup.
+    box.setTextFormat(Qt::PlainText);
+    box.setText(title);
+    box.setInformativeText(text);
+    QList<QPushButton*> made;
+    const QStringList labels = buttons.isEmpty() ? QStringList{QObject::tr("OK")} : buttons;
+    for (qsizetype i = 0; i < labels.size(); ++i)
+        made.append(box.addButton(labels.at(i), i == 0 ? QMessageBox::AcceptRole : QMessageBox::RejectRole));
+    box.setDefaultButton(made.first());
+    box.setEscapeButton(made.last());
+    box.exec();
+    for (qsizetype i = 0; i < made.size(); ++i)
+        if (box.clickedButton() == made.at(i))
+            return int(i);
+    return int(made.size()) - 1;
+}

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/View/QtPanels.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+
+namespace {
+
+QWidget* parentFor(QObject* window) {
+    auto* widget = qobject_cast<QWidget*>(window);
+    return widget ? widget->window() : QApplication::activeWindow();
+}
+
+QString resolved(const QString& path) {
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    return canonical.isEmpty() ? path : canonical;
+}
+
+std::optional<QString> runModal(QFileDialog& dialog) {
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return dialog.selectedFiles().first();
+}
+
+} // namespace
+
+void QtPanels::chooseFolder(QObject* window, const QString& prompt, const QString& startFolder, Chosen done) {
+    auto* dialog = new QFileDialog(parentFor(window), Qt::Sheet);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+    dialog->setLabelText(QFileDialog::Accept, prompt);
+    dialog->setWindowTitle(prompt);
+    dialog->setDirectory(startFolder);
+    QObject::connect(dialog, &QDialog::finished, dialog, [dialog, done = std::move(done)](int result) {
+        const QStringList chosen = dialog->selectedFiles();
+        if (result == QDialog::Accepted && !chosen.isEmpty())
+            done(resolved(chosen.last()));
+        else
+            done(std::nullopt);
+    });
+    dialog->open();
+}
+
+std::optional<QString> QtPanels::chooseFile(QObject* window, const QString& title, const QString& startFolder,
+                                            const QString& filter) {
+    QFileDialog dialog(parentFor(window), title, startFolder, filter);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    const auto path = runModal(dialog);
+    return path ? std::optional(resolved(*path)) : std::nullopt;
+}
+
+std::optional<QString> QtPanels::saveFile(QObject* window, const QString& title, const QString& startPath) {
+    const QFileInfo start(startPath);
+    QFileDialog dialog(parentFor(window), title, start.absolutePath());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setDefaultSuffix(start.suffix());
+    dialog.selectFile(start.fileName());
+    return runModal(dialog);
+}

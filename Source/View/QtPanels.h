@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Desktop/Panels.h"
+
+/// Panels as file dialogs; those of the desktop where it has its own.
+class QtPanels : public Platform::Panels {
+public:
+    void chooseFolder(QObject* window, const QString& prompt, const QString& startFolder, Chosen done) override;
+    std::optional<QString> chooseFile(QObject* window, const QString& title, const QString& startFolder,
+                                      const QString& filter) override;
+    std::optional<QString> saveFile(QObject* window, const QString& title, const QString& startPath) override;
+};

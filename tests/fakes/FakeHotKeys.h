@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Desktop/HotKeys.h"
+
+#include <map>
+#include <set>
+#include <utility>
+
+/// Hot keys without a keyboard: refuses what the test says others hold, and presses what it is told to.
+class FakeHotKeys : public Platform::HotKeys {
+public:
+    struct Registration {
+        std::uint16_t keyCode;
+        std::uint32_t carbonModifiers;
+        Id id;
+    };
+
+    Way way() const override { return currentWay; }
+    void setHandler(Handler handler) override { handler_ = std::move(handler); }
+    void setWayChangedHandler(std::function<void()> handler) override { wayChanged_ = std::move(handler); }
+    Handle registerHotKey(std::uint16_t keyCode, std::uint32_t carbonModifiers, Id id) override {
+        if (currentWay == Way::None || heldByOthers.contains({keyCode, carbonModifiers}))
+            return 0;
+        for (const auto& [handle, taken] : registrations)
+            if (taken.keyCode == keyCode && taken.carbonModifiers == carbonModifiers)
+                return 0;
+        registrations[++last_] = {keyCode, carbonModifiers, id};
+        return last_;
+    }
+    void unregisterHotKey(Handle handle) override { registrations.erase(handle); }
+
+    /// The user presses the combination; false when nobody registered it.
+    bool press(std::uint16_t keyCode, std::uint32_t carbonModifiers) {
+        for (const auto& [handle, taken] : registrations) {
+            if (taken.keyCode == keyCode && taken.carbonModifiers == carbonModifiers) {
+                handler_(taken.id);
+                return true;
+            }
+        }
+        return false;
+    }
+    void changeWay(Way way) {
+        currentWay = way;
+        if (wayChanged_)
+            wayChanged_();
+    }
+
+    Way currentWay = Way::X11Grab;
+    std::set<std::pair<std::uint16_t, std::uint32_t>> heldByOthers;
+    std::map<Handle, Registration> registrations;
+
+private:
+    Handler handler_;
+    std::function<void()> wayChanged_;
+    Handle last_ = 0;
+};

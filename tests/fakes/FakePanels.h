@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Desktop/Panels.h"
+
+#include <QStringList>
+
+/// Answers panels from a script and keeps what they asked.
+class FakePanels : public Platform::Panels {
+public:
+    void chooseFolder(QObject*, const QString& prompt, const QString& startFolder, Chosen done) override {
+        prompts.append(prompt);
+        startFolders.append(startFolder);
+        done(answer);
+    }
+    std::optional<QString> chooseFile(QObject*, const QString& title, const QString& startFolder,
+                                      const QString&) override {
+        prompts.append(title);
+        startFolders.append(startFolder);
+        return answer;
+    }
+    std::optional<QString> saveFile(QObject*, const QString& title, const QString& startPath) override {
+        prompts.append(title);
+        startFolders.append(startPath);
+        return answer;
+    }
+
+    std::optional<QString> answer; ///< nothing is Cancel
+    QStringList prompts;
+    QStringList startFolders;
+};
