@@ -5,6 +5,7 @@
 #include "Platform/Audio/PrivateSession.h"
 #include "Platform/Desktop/linux/LinuxAdminShell.h"
 #include "Platform/Desktop/linux/LinuxDesktop.h"
+#include "Platform/Desktop/linux/LinuxHotKeys.h"
 #include "Platform/Desktop/linux/PortalColorScheme.h"
 #include "Platform/Foundation/Bundle.h"
 #include "Platform/Foundation/Services.h"
@@ -22,6 +23,7 @@ struct LinuxServices::Private {
     std::unique_ptr<Alerts> alerts;
     std::unique_ptr<AdminShell> adminShell;
     std::unique_ptr<ColorScheme> colorScheme;
+    std::unique_ptr<HotKeys> hotKeys;
 };
 
 LinuxServices::LinuxServices() : d(std::make_unique<Private>()) {
@@ -40,6 +42,7 @@ void LinuxServices::install(Mode mode) {
     if (mode == Mode::CommandLine)
         return;
     set.colorScheme = (d->colorScheme = createColorScheme()).get();
+    set.hotKeys = (d->hotKeys = createHotKeys()).get();
 }
 
 bool LinuxServices::startAudio(QString& why) {
