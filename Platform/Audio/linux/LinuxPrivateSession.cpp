@@ -60,7 +60,7 @@ bool PrivateSession::serverAnswers() {
 std::unique_ptr<PrivateSession> PrivateSession::start(QString& why) {
     const QString resources = resourceFolder();
     LinuxPrivateSession::Options options;
-    options.programs = {resources + u"/ToneSource"_s, resources + u"/CaptureDriver"_s};
+    options.programs = {resources + u"/ToneSource"_s, resources + u"/ComputerAudioCapture.kext/CaptureDriver"_s};
     options.expectedSource = "sonaphex.tone";
     return LinuxPrivateSession::start(options, why);
 }

@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Audio/linux/ServerProbe.h"
+#include "tests/support/PrivateAudioSession.h"
+#include "tests/support/TestCapture.h"
+#include "tests/support/TestSource.h"
+#include "tests/support/WaitFor.h"
+
+#include <QProcess>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kDriver = QStringLiteral(SONAPHEX_BIN_DIR "/Resources/ComputerAudioCapture.kext/CaptureDriver");
+
+/// The driver's process by itself, in a session that has nothing but an output.
+class DriverProcess : public testing::Test {
+protected:
+    void SetUp() override {
+        driver_.start(kDriver, QStringList());
+        ASSERT_TRUE(driver_.waitForStarted());
+        ASSERT_TRUE(Platform::PipeWire::serverIsThere(10000, true, "korvane.system-audio"));
+    }
+    ~DriverProcess() override {
+        driver_.terminate();
+        driver_.waitForFinished();
+    }
+
+    PrivateAudioSession& session_ = PrivateAudioSession::shared();
+    QProcess driver_;
+};
+
+TEST_F(DriverProcess, CarriesWhatTheDefaultOutputPlaysSampleForSample) {
+    TestCapture capture({.target = "korvane.system-audio", .monitor = false});
+    ASSERT_TRUE(capture.start());
+    TestPlayer player;
+    ASSERT_TRUE(player.start());
+    ASSERT_TRUE(waitFor([&] { return player.position() > 96000; }));
+    const auto samples = capture.interleaved();
+    std::size_t first = 0;
+    while (first + 1 < samples.size() && samples[first] == 0)
+        first += 2;
+    ASSERT_GT(samples.size(), first + 2 * 48000);
+    for (std::size_t i = first; i + 3 < samples.size(); i += 2) {
+        ASSERT_EQ(Signal::rampFrame(samples[i + 2], 0), Signal::rampFrame(samples[i], 0) + 1) << (i - first) / 2;
+        ASSERT_EQ(Signal::rampFrame(samples[i + 1], 1), Signal::rampFrame(samples[i], 0)) << (i - first) / 2;
+    }
+}
+
+TEST_F(DriverProcess, CarriesAllProgramsThatPlay) {
+    TestCapture capture({.target = "korvane.system-audio", .monitor = false});
+    ASSERT_TRUE(capture.start());
+    const auto constant = [](float value) {
+        TestSource::Options options;
+        options.sample = [value](std::uint64_t, std::uint32_t channel) { return channel ? 2 * value : value; };
+        return options;
+    };
+    auto one = constant(0.125F);
+    one.name = "test.player.one";
+    auto two = constant(0.0625F);
+    two.name = "test.player.two";
+    TestPlayer first(one);
+    TestPlayer second(two);
+    ASSERT_TRUE(first.start());
+    ASSERT_TRUE(second.start());
+    EXPECT_TRUE(waitFor([&] {
+        const auto samples = capture.interleaved();
+        return samples.size() > 1 && samples[samples.size() - 2] == 0.1875F && samples.back() == 0.375F;
+    }));
+}
+
+TEST_F(DriverProcess, ComesUpOnlyOnceInASession) {
+    TestCapture capture({.target = "korvane.system-audio", .monitor = false});
+    ASSERT_TRUE(capture.start());
+    QProcess second;
+    second.start(kDriver, QStringList());
+    EXPECT_TRUE(second.waitForFinished(5000));
+    EXPECT_EQ(second.exitCode(), 0);
+    EXPECT_EQ(driver_.state(), QProcess::Running);
+}
+
+TEST_F(DriverProcess, EndsWithTheSoundServer) {
+    TestCapture capture({.target = "korvane.system-audio", .monitor = false});
+    ASSERT_TRUE(capture.start());
+    ASSERT_TRUE(session_.stopServer());
+    EXPECT_TRUE(waitFor([&] { return driver_.state() == QProcess::NotRunning; }));
+    EXPECT_EQ(driver_.exitCode(), 0);
+    ASSERT_TRUE(session_.startServer());
+}
+
+TEST_F(DriverProcess, EndsWhenThereIsNoSoundServer) {
+    QProcess alone;
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"PIPEWIRE_RUNTIME_DIR"_s, u"/nonexistent"_s);
+    alone.setProcessEnvironment(environment);
+    alone.start(kDriver, QStringList());
+    EXPECT_TRUE(alone.waitForFinished(5000));
+    EXPECT_EQ(alone.exitCode(), 1);
+    EXPECT_TRUE(alone.readAllStandardError().contains("no sound server"));
+}
+
+TEST_F(DriverProcess, FlowsAgainAfterALongRest) {
+    {
+        TestCapture capture({.target = "korvane.system-audio", .monitor = false});
+        ASSERT_TRUE(capture.start());
+    }
+    // The session manager puts what is idle to sleep after five seconds.
+    QElapsedTimer rest;
+    rest.start();
+    (void)waitFor([&] { return rest.elapsed() > 7000; }, 8000);
+    TestCapture capture({.target = "korvane.system-audio", .monitor = false});
+    ASSERT_TRUE(capture.start());
+    TestPlayer player({.content = TestSource::Content::Tone});
+    ASSERT_TRUE(player.start());
+    EXPECT_TRUE(waitFor([&] { return capture.recentPeak() > 0.2F; }));
+}
+
+} // namespace
