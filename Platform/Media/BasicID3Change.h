@@ -2,18 +2,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <optional>
 
-#include <QByteArray>
-
 namespace Platform {
 
-/// Text tags of MPEG-4 audio files, written in place: the audio and the artwork are not touched.
+/// Text tags and artwork of MPEG-4 audio files. What is not to be changed stays as it is: the audio, the artwork, tags
+/// of other kinds. A save that a crash interrupts is undone when the file is next opened here.
 class BasicID3Change {
 public:
-    /// Null texts and a year of 0 mean that the tag has no value. Blocks; any thread, one file by one thread at a time.
+    /// Writes the five text tags in place. Null and empty texts and a year of 0 mean that the tag has no value. Blocks;
+    /// any thread. @return false when the file is no sound MPEG-4 file or cannot be written; it is then as it was.
     [[nodiscard]] static bool setMpeg4ID3Information(const QString& path, const QString& name, const QString& artist,
                                                      const QString& album, int year, const QString& genre);
 
@@ -24,6 +25,15 @@ public:
     };
     /// What the file says of itself; nothing when it is no readable MPEG-4 file.
     [[nodiscard]] static std::optional<Tags> read(const QString& path);
+
+    /// Writes a copy of @p source with @p image, a JPEG or PNG file, as its only artwork. The destination appears whole
+    /// or not at all. @return what went wrong, for a person; empty when nothing did.
+    [[nodiscard]] static QString copyWithArtwork(const QString& source, const QString& image,
+                                                 const QString& destination);
+
+    /// Undoes a save that a crash interrupted. For everyone who opens a file of ours in another way; costs one look at
+    /// a name when there is nothing to do. @return whether the file was changed.
+    static bool restoreInterruptedSave(const QString& path);
 };
 
 } // namespace Platform

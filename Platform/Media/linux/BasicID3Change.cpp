@@ -1,0 +1,275 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Media/BasicID3Change.h"
+
+#include "Platform/Foundation/Dictionary.h"
+#include "Platform/Media/linux/InPlaceSave.h"
+#include "Platform/Media/linux/Mpeg4Atoms.h"
+
+#include <algorithm>
+#include <functional>
+
+#include <QBuffer>
+#include <QFile>
+#include <QImageReader>
+#include <QLoggingCategory>
+#include <QtEndian>
+
+#include <taglib/mp4coverart.h>
+#include <taglib/mp4file.h>
+#include <taglib/mp4tag.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Platform {
+namespace {
+
+using Media::Mpeg4Atom;
+using Media::Mpeg4Atoms;
+using Media::PatchedFile;
+
+Q_LOGGING_CATEGORY(log, "sonaphex.media")
+
+constexpr const char* titleItem = "\251nam";
+constexpr const char* artistItem = "\251ART";
+constexpr const char* albumItem = "\251alb";
+constexpr const char* yearItem = "\251day";
+constexpr const char* genreItem = "\251gen";
+constexpr const char* artworkItem = "covr";
+
+// Covers are shown on screens; a larger file is no cover.
+constexpr qint64 largestImage = qint64(64) << 20;
+
+// Where the pieces of a day of audio are.
+constexpr qint64 largestTable = qint64(64) << 20;
+
+QByteArray bigEndian(quint32 number) {
+    QByteArray bytes(4, '\0');
+    qToBigEndian(number, bytes.data());
+    return bytes;
+}
+
+/// The items of the tag list by name, as they stand in the file.
+QList<QPair<QByteArray, QByteArray>> rawItems(const PatchedFile& content, const Mpeg4Atoms& atoms) {
+    QList<QPair<QByteArray, QByteArray>> items;
+    if (const Mpeg4Atom* list = atoms.tagList())
+        for (const Mpeg4Atom& item : list->children)
+            items.append({item.name, content.read(item.offset, item.length)});
+    return items;
+}
+
+/// Corrects where the index says that the audio is, after @p delta bytes came in at @p from.
+void moveOffsets(PatchedFile& content, const std::vector<Mpeg4Atom>& atoms, qint64 from, qint64 delta) {
+    for (const Mpeg4Atom& atom : atoms) {
+        moveOffsets(content, atom.children, from, delta);
+        QByteArray body = content.read(atom.offset, atom.length > largestTable ? 0 : atom.length);
+        bool changed = false;
+        const auto move = [&]<typename Number>(qsizetype at, Number) {
+            const auto offset = qFromBigEndian<Number>(body.constData() + at);
+            if (static_cast<qint64>(offset) >= from) {
+                qToBigEndian(static_cast<Number>(offset + static_cast<Number>(delta)), body.data() + at);
+                changed = true;
+            }
+        };
+        if (atom.name == "stco")
+            for (qsizetype at = 16; at + 4 <= body.size(); at += 4)
+                move(at, quint32());
+        else if (atom.name == "co64")
+            for (qsizetype at = 16; at + 8 <= body.size(); at += 8)
+                move(at, quint64());
+        else if (atom.name == "tfhd" && body.size() >= 24 && (body[11] & 1)) // it names its base
+            move(16, quint64());
+        if (changed)
+            content.overwrite(atom.offset, body);
+    }
+}
+
+/// Puts whole items at the end of the tag list.
+bool appendItems(PatchedFile& content, const QByteArray& items, QString& why) {
+    const auto atoms = Media::readMpeg4Atoms(content, why);
+    const Mpeg4Atom* const list = atoms ? atoms->tagList() : nullptr;
+    if (!list)
+        return false;
+    const auto grow = [&](const Mpeg4Atom& atom) {
+        content.overwrite(atom.offset, bigEndian(static_cast<quint32>(atom.length + items.size())));
+    };
+    const Mpeg4Atom& moov = *atoms->find("moov");
+    const Mpeg4Atom& udta = *moov.child("udta");
+    const Mpeg4Atom& meta = *udta.child("meta");
+
+    // The padding behind the list gives way where it is large enough.
+    const qint64 listEnd = list->offset + list->length;
+    for (const Mpeg4Atom& free : meta.children)
+        if (free.name == "free" && free.offset == listEnd && free.length >= items.size() + 8) {
+            content.overwrite(listEnd, items + bigEndian(static_cast<quint32>(free.length - items.size())) + "free");
+            grow(*list);
+            return true;
+        }
+    moveOffsets(content, atoms->top, listEnd, items.size());
+    for (const Mpeg4Atom* atom : {list, &meta, &udta, &moov})
+        grow(*atom);
+    content.replace(listEnd, 0, items);
+    return true;
+}
+
+/// Edits the tags and keeps every item but those named in @p changed. TagLib drops items whose type it does not know.
+bool editTags(PatchedFile& content, const std::vector<const char*>& changed,
+              const std::function<void(TagLib::MP4::Tag&)>& edit, QString& why) {
+    const auto before = Media::readMpeg4Atoms(content, why);
+    if (!before)
+        return false;
+    if (!before->complete) {
+        why = u"the file is cut off"_s;
+        return false;
+    }
+    const auto itemsBefore = rawItems(content, *before);
+    const qint64 sizeBefore = content.size();
+    {
+        TagLib::MP4::File file(&content, false);
+        if (!file.isValid() || !file.tag()) {
+            why = u"not an MPEG-4 file"_s;
+            return false;
+        }
+        edit(*file.tag());
+        if (!file.save()) {
+            why = u"its tags cannot be written"_s;
+            return false;
+        }
+    }
+
+    const auto isChanged = [&](const QByteArray& name) {
+        return std::any_of(changed.begin(), changed.end(), [&](const char* one) { return name == one; });
+    };
+    auto after = Media::readMpeg4Atoms(content, why);
+    if (!after)
+        return false;
+    const auto itemsAfter = rawItems(content, *after);
+    QByteArray lost;
+    for (const auto& [name, bytes] : itemsBefore) {
+        const auto hasName = [&name = name](const auto& item) { return item.first == name; };
+        if (!isChanged(name) && std::none_of(itemsAfter.begin(), itemsAfter.end(), hasName))
+            lost += bytes;
+    }
+    if (!lost.isEmpty()) {
+        if (!appendItems(content, lost, why))
+            return false;
+        after = Media::readMpeg4Atoms(content, why);
+        if (!after)
+            return false;
+    }
+
+    // The audio moved, and this table of where fragments begin is a mere help for seeking: players do without.
+    if (content.size() != sizeBefore)
+        if (const Mpeg4Atom* table = after->find("mfra"); table && table->offset > after->find("moov")->offset)
+            content.overwrite(table->offset + 4, "free");
+    return true;
+}
+
+void setText(TagLib::MP4::Tag& tag, const char* item, QString text) {
+    text.remove(QChar(u'\0'));
+    if (text.isEmpty())
+        tag.removeItem(item);
+    else
+        tag.setItem(item, TagLib::StringList(TagLib::String(text.toUtf8().constData(), TagLib::String::UTF8)));
+}
+
+QString text(const TagLib::String& string) {
+    return QString::fromStdString(string.to8Bit(true));
+}
+
+/// The kind of picture by its content, nothing when it is no whole JPEG or PNG file.
+std::optional<TagLib::MP4::CoverArt::Format> formatOf(QByteArray& image) {
+    const bool isJpeg = image.startsWith("\xff\xd8\xff") && image.contains("\xff\xd9");
+    const bool isPng = image.startsWith("\x89PNG\r\n\x1a\n") && image.contains("IEND");
+    if (!isJpeg && !isPng)
+        return std::nullopt;
+    QBuffer buffer(&image);
+    buffer.open(QIODevice::ReadOnly);
+    if (!QImageReader(&buffer, isJpeg ? "jpeg" : "png").size().isValid())
+        return std::nullopt;
+    return isJpeg ? TagLib::MP4::CoverArt::JPEG : TagLib::MP4::CoverArt::PNG;
+}
+
+} // namespace
+
+bool BasicID3Change::setMpeg4ID3Information(const QString& path, const QString& name, const QString& artist,
+                                            const QString& album, int year, const QString& genre) {
+    QString why;
+    const auto edit = [&](PatchedFile& content, QString& reason) {
+        return editTags(
+            content, {titleItem, artistItem, albumItem, yearItem, genreItem, "gnre"},
+            [&](TagLib::MP4::Tag& tag) {
+                setText(tag, titleItem, name);
+                setText(tag, artistItem, artist);
+                setText(tag, albumItem, album);
+                setText(tag, yearItem, year == 0 ? QString() : QString::number(year));
+                setText(tag, genreItem, genre);
+            },
+            reason);
+    };
+    if (Media::saveInPlace(path, edit, why))
+        return true;
+    qCWarning(log, "cannot write the tags of %s: %s", qUtf8Printable(path), qUtf8Printable(why));
+    return false;
+}
+
+std::optional<BasicID3Change::Tags> BasicID3Change::read(const QString& path) {
+    restoreInterruptedSave(path);
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return std::nullopt;
+    PatchedFile content(file.handle(), file.size());
+    QString why;
+    if (!Media::readMpeg4Atoms(content, why))
+        return std::nullopt;
+    const TagLib::MP4::File mpeg4(&content, false);
+    const TagLib::MP4::Tag* const tag = mpeg4.tag();
+    if (!mpeg4.isValid() || !tag)
+        return std::nullopt;
+
+    Tags tags{text(tag->title()), text(tag->artist()), text(tag->album()), text(tag->genre()), 0, {}};
+    if (const TagLib::MP4::Item year = tag->item(yearItem); year.isValid())
+        tags.year = intValue(text(year.toStringList().toString()));
+    if (const TagLib::MP4::Item artwork = tag->item(artworkItem); artwork.isValid()) {
+        const TagLib::MP4::CoverArtList covers = artwork.toCoverArtList();
+        if (!covers.isEmpty())
+            tags.artwork =
+                QByteArray(covers.front().data().data(), static_cast<qsizetype>(covers.front().data().size()));
+    }
+    return tags;
+}
+
+QString BasicID3Change::copyWithArtwork(const QString& source, const QString& image, const QString& destination) {
+    QFile file(image);
+    if (!QFileInfo(image).isFile() || !file.open(QIODevice::ReadOnly))
+        return u"cannot read the image %1: %2"_s.arg(
+            image, QFileInfo::exists(image) ? u"it is no file, or not for you"_s : u"there is no such file"_s);
+    if (file.size() > largestImage)
+        return u"the image %1 is too large"_s.arg(image);
+    QByteArray bytes = file.readAll();
+    const auto format = formatOf(bytes);
+    if (!format)
+        return u"%1 is neither a JPEG nor a PNG image"_s.arg(image);
+
+    QString why;
+    const auto edit = [&](PatchedFile& content, QString& reason) {
+        return editTags(
+            content, {artworkItem},
+            [&](TagLib::MP4::Tag& tag) {
+                TagLib::MP4::CoverArtList covers;
+                covers.append(
+                    {*format, TagLib::ByteVector(bytes.constData(), static_cast<unsigned int>(bytes.size()))});
+                tag.setItem(artworkItem, covers);
+            },
+            reason);
+    };
+    if (Media::saveCopy(source, destination, edit, why))
+        return {};
+    return u"cannot write the artwork of %1 to %2: %3"_s.arg(source, destination, why);
+}
+
+bool BasicID3Change::restoreInterruptedSave(const QString& path) {
+    return Media::restoreInterruptedSave(path);
+}
+
+} // namespace Platform

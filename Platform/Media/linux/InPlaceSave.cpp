@@ -1,0 +1,355 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Media/linux/InPlaceSave.h"
+
+#include <cerrno>
+#include <chrono>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+#include <QCryptographicHash>
+#include <QDataStream>
+#include <QFile>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QRandomGenerator>
+
+using namespace Qt::StringLiterals;
+
+namespace Platform::Media {
+namespace {
+
+Q_LOGGING_CATEGORY(log, "sonaphex.media")
+
+// What is copied aside and rewritten on the spot; above it a whole new file is as fast and simpler.
+constexpr qint64 mostInPlace = qint64(32) << 20;
+constexpr auto lockPatience = std::chrono::seconds(10);
+constexpr quint64 undoMagic = 0x534e5058554e4431; // "SNPXUND1"
+
+class Descriptor {
+public:
+    Descriptor() = default;
+    explicit Descriptor(int fd) : fd_(fd) {}
+    ~Descriptor() { reset(); }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    void reset(int fd = -1) {
+        if (fd_ >= 0)
+            ::close(fd_);
+        fd_ = fd;
+    }
+    [[nodiscard]] int get() const { return fd_; }
+    explicit operator bool() const { return fd_ >= 0; }
+
+private:
+    int fd_ = -1;
+};
+
+/// Tells a file from every other, also from a later one that got its inode number.
+struct Identity {
+    quint64 device = 0, inode = 0;
+    qint64 born = 0;
+    friend bool operator==(const Identity&, const Identity&) = default;
+};
+
+Identity identityOf(int fd) {
+    struct statx status {};
+    if (::statx(fd, "", AT_EMPTY_PATH, STATX_INO | STATX_BTIME, &status) != 0)
+        return {};
+    const qint64 born = (status.stx_mask & STATX_BTIME)
+                            ? qint64(status.stx_btime.tv_sec) * 1'000'000'000 + status.stx_btime.tv_nsec
+                            : 0;
+    return {(quint64(status.stx_dev_major) << 32) | status.stx_dev_minor, status.stx_ino, born};
+}
+
+bool writeAll(int fd, const QByteArray& bytes, qint64 at) {
+    for (qsizetype done = 0; done < bytes.size();) {
+        const ssize_t count =
+            ::pwrite(fd, bytes.constData() + done, static_cast<std::size_t>(bytes.size() - done), at + done);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return false;
+        done += count;
+    }
+    return true;
+}
+
+void syncFolder(const QString& folder) {
+    if (const Descriptor fd{::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)})
+        ::fsync(fd.get());
+}
+
+/// The copy goes by the file's number, so that it is found again when the file was renamed in its folder.
+QString undoPath(const QString& folder, quint64 inode) {
+    return folder + "/.sonaphex-"_L1 + QString::number(inode, 16) + ".undo"_L1;
+}
+
+/// Opens for writing and takes the lock; the file that is locked is the one that has the name.
+bool openLocked(const QString& path, Descriptor& file, QString& why) {
+    const auto deadline = std::chrono::steady_clock::now() + lockPatience;
+    const QByteArray name = QFile::encodeName(path);
+    for (;;) {
+        file.reset(::open(name.constData(), O_RDWR | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+        struct stat opened {};
+        struct stat named {};
+        if (!file || ::fstat(file.get(), &opened) != 0) {
+            why = qt_error_string(errno);
+            return false;
+        }
+        if (!S_ISREG(opened.st_mode)) {
+            why = u"not a file"_s;
+            return false;
+        }
+        if (::flock(file.get(), LOCK_EX | LOCK_NB) == 0) {
+            if (::stat(name.constData(), &named) == 0 && named.st_ino == opened.st_ino && named.st_dev == opened.st_dev)
+                return true;
+        } else if (errno != EWOULDBLOCK && errno != EINTR) {
+            return true; // a file system without locks
+        }
+        if (std::chrono::steady_clock::now() > deadline) {
+            why = u"another program is changing it"_s;
+            return false;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+}
+
+struct Undo {
+    Identity identity;
+    qint64 size = 0;  // of the whole file before
+    qint64 begin = 0; // where the bytes belong
+    QByteArray bytes;
+};
+
+QByteArray packed(const Undo& undo) {
+    QByteArray content;
+    QDataStream stream(&content, QIODevice::WriteOnly);
+    stream << undoMagic << undo.identity.device << undo.identity.inode << undo.identity.born << undo.size << undo.begin
+           << undo.bytes;
+    return content + QCryptographicHash::hash(content, QCryptographicHash::Sha1);
+}
+
+bool unpack(const QByteArray& content, Undo& undo) {
+    constexpr qsizetype hashSize = 20;
+    const QByteArray body = content.chopped(std::min(hashSize, content.size()));
+    if (body.isEmpty() || QCryptographicHash::hash(body, QCryptographicHash::Sha1) != content.right(hashSize))
+        return false;
+    QDataStream stream(body);
+    quint64 magic = 0;
+    stream >> magic >> undo.identity.device >> undo.identity.inode >> undo.identity.born >> undo.size >> undo.begin >>
+        undo.bytes;
+    return stream.status() == QDataStream::Ok && magic == undoMagic && undo.begin >= 0 && undo.size >= undo.begin;
+}
+
+/// Writes a new file beside, synced, and gives it its name.
+bool writeBeside(const QString& path, const QByteArray& content) {
+    const QByteArray part = QFile::encodeName(path + ".part"_L1);
+    {
+        const Descriptor file(::open(part.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0600));
+        if (!file || !writeAll(file.get(), content, 0) || ::fsync(file.get()) != 0) {
+            const int error = errno;
+            ::unlink(part.constData());
+            errno = error;
+            return false;
+        }
+    }
+    if (std::rename(part.constData(), QFile::encodeName(path).constData()) != 0)
+        return false;
+    syncFolder(QFileInfo(path).path());
+    return true;
+}
+
+bool putBack(int fd, const Undo& undo) {
+    return writeAll(fd, undo.bytes, undo.begin) && ::ftruncate(fd, undo.size) == 0 && ::fsync(fd) == 0;
+}
+
+/// The file is open and locked.
+bool restoreLocked(int fd, const QString& folder) {
+    const Identity identity = identityOf(fd);
+    const QString path = undoPath(folder, identity.inode);
+    QFile copy(path);
+    if (!copy.open(QIODevice::ReadOnly))
+        return false;
+    Undo undo;
+    if (!unpack(copy.readAll(), undo)) {
+        qCWarning(log, "%s is damaged: the save that it would undo stays as it is", qUtf8Printable(path));
+        return false;
+    }
+    if (undo.identity != identity) {
+        copy.remove(); // of a file that was deleted; this one only got its number
+        return false;
+    }
+    if (!putBack(fd, undo)) {
+        qCWarning(log, "cannot undo an interrupted save: %s", qUtf8Printable(qt_error_string(errno)));
+        return false; // the copy stays for the next time
+    }
+    qCInfo(log, "undid an interrupted save with %s", qUtf8Printable(path));
+    copy.remove();
+    return true;
+}
+
+bool writePiece(int out, qint64 at, int in, const PatchedFile::Piece& piece) {
+    if (piece.fileOffset < 0)
+        return writeAll(out, piece.bytes, at);
+    loff_t from = piece.fileOffset;
+    loff_t to = at;
+    for (qint64 left = piece.length; left > 0;) {
+        const ssize_t count = ::copy_file_range(in, &from, out, &to, static_cast<std::size_t>(left), 0);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            break;
+        left -= count;
+    }
+    // Where the kernel does not copy by itself (between file systems, on old ones), through memory.
+    std::vector<char> buffer(std::size_t(1) << 20);
+    while (to < at + piece.length) {
+        const auto wanted = std::min<std::size_t>(buffer.size(), static_cast<std::size_t>(at + piece.length - to));
+        const ssize_t count = ::pread(in, buffer.data(), wanted, from);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count == 0)
+            errno = EIO;
+        if (count <= 0 || !writeAll(out, QByteArray::fromRawData(buffer.data(), count), to))
+            return false;
+        from += count;
+        to += count;
+    }
+    return true;
+}
+
+/// Makes a file of the edited content beside @p path and gives it that name when it is whole. The owner and the mode
+/// are those of the file that the content comes from.
+bool writeWhole(const QString& path, int source, const PatchedFile& content, QString& why) {
+    const QString folder = QFileInfo(path).path();
+    const QByteArray part = QFile::encodeName(
+        folder + "/.sonaphex-"_L1 + QString::number(QRandomGenerator::system()->generate64(), 16) + ".part"_L1);
+    const Descriptor out(::open(part.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0600));
+    if (!out) {
+        why = qt_error_string(errno);
+        return false;
+    }
+    const auto write = [&] {
+        struct stat status {};
+        if (::fstat(source, &status) != 0)
+            return false;
+        // Only root may give files away; for others the file is theirs anyway.
+        if (::fchown(out.get(), status.st_uid, status.st_gid) != 0 && errno != EPERM)
+            return false;
+        if (::fchmod(out.get(), status.st_mode & 07777) != 0)
+            return false;
+        qint64 at = 0;
+        for (const PatchedFile::Piece& piece : content.pieces()) {
+            if (!writePiece(out.get(), at, source, piece))
+                return false;
+            at += piece.length;
+        }
+        return ::fsync(out.get()) == 0 && std::rename(part.constData(), QFile::encodeName(path).constData()) == 0;
+    };
+    if (!write()) {
+        why = qt_error_string(errno);
+        ::unlink(part.constData());
+        return false;
+    }
+    syncFolder(folder);
+    return true;
+}
+
+} // namespace
+
+bool saveInPlace(const QString& givenPath, const std::function<bool(PatchedFile&, QString&)>& edit, QString& why) {
+    // Behind a link the file itself is changed, and the copy stands beside it.
+    const QString real = QFileInfo(givenPath).canonicalFilePath();
+    const QString path = real.isEmpty() ? givenPath : real;
+    const QString folder = QFileInfo(path).path();
+    Descriptor file;
+    if (!openLocked(path, file, why))
+        return false;
+    restoreLocked(file.get(), folder);
+
+    struct stat status {};
+    if (::fstat(file.get(), &status) != 0) {
+        why = qt_error_string(errno);
+        return false;
+    }
+    PatchedFile content(file.get(), status.st_size);
+    if (!edit(content, why))
+        return false;
+    const PatchedFile::Change change = content.change();
+    const QByteArray bytes = change.newEnd - change.begin <= mostInPlace
+                                 ? content.read(change.begin, change.newEnd - change.begin)
+                                 : QByteArray();
+    if (content.failed()) {
+        why = u"it cannot be read"_s;
+        return false;
+    }
+    if (change.newEnd == change.begin && change.oldEnd == change.begin)
+        return true;
+    if (std::max(change.newEnd, change.oldEnd) - change.begin > mostInPlace)
+        return writeWhole(path, file.get(), content, why);
+
+    Undo undo{identityOf(file.get()), status.st_size, change.begin, {}};
+    PatchedFile before(file.get(), status.st_size);
+    undo.bytes = before.read(change.begin, change.oldEnd - change.begin);
+    const QString undoFile = undoPath(folder, undo.identity.inode);
+    if (before.failed() || !writeBeside(undoFile, packed(undo))) {
+        why = qt_error_string(errno);
+        return false;
+    }
+    const qint64 newSize = status.st_size + (change.newEnd - change.oldEnd);
+    const bool written = writeAll(file.get(), bytes, change.begin) &&
+                         (newSize >= status.st_size || ::ftruncate(file.get(), newSize) == 0) &&
+                         ::fsync(file.get()) == 0;
+    if (!written) {
+        why = qt_error_string(errno);
+        if (!putBack(file.get(), undo))
+            return false; // the copy stays: the next one who opens the file puts it back
+    }
+    ::unlink(QFile::encodeName(undoFile).constData());
+    syncFolder(folder);
+    return written;
+}
+
+bool saveCopy(const QString& source, const QString& destination,
+              const std::function<bool(PatchedFile&, QString&)>& edit, QString& why) {
+    restoreInterruptedSave(source);
+    const Descriptor file(::open(QFile::encodeName(source).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    struct stat status {};
+    if (!file || ::fstat(file.get(), &status) != 0) {
+        why = qt_error_string(errno);
+        return false;
+    }
+    if (!S_ISREG(status.st_mode)) {
+        why = u"not a file"_s;
+        return false;
+    }
+    PatchedFile content(file.get(), status.st_size);
+    if (!edit(content, why))
+        return false;
+    if (content.failed()) {
+        why = u"it cannot be read"_s;
+        return false;
+    }
+    return writeWhole(destination, file.get(), content, why);
+}
+
+bool restoreInterruptedSave(const QString& givenPath) {
+    const QString path = QFileInfo(givenPath).canonicalFilePath();
+    struct stat status {};
+    if (path.isEmpty() || ::stat(QFile::encodeName(path).constData(), &status) != 0 || !S_ISREG(status.st_mode))
+        return false;
+    const QString folder = QFileInfo(path).path();
+    if (!QFileInfo::exists(undoPath(folder, status.st_ino)))
+        return false;
+    Descriptor file;
+    QString why;
+    return openLocked(path, file, why) && restoreLocked(file.get(), folder);
+}
+
+} // namespace Platform::Media

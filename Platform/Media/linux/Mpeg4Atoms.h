@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace Platform::Media {
+
+class PatchedFile;
+
+/// One box of an MPEG-4 file, with the boxes in it where it is a container that TagLib opens too.
+struct Mpeg4Atom {
+    QByteArray name;
+    qint64 offset = 0;
+    qint64 length = 0; ///< header included
+    std::vector<Mpeg4Atom> children;
+
+    [[nodiscard]] const Mpeg4Atom* child(const char* wanted) const;
+};
+
+/// The boxes of a file whose sizes all fit into one another.
+struct Mpeg4Atoms {
+    std::vector<Mpeg4Atom> top;
+    bool complete = true; ///< false: the file ends within its last box
+
+    [[nodiscard]] const Mpeg4Atom* find(const char* name) const;
+    /// moov/udta/meta/ilst; null when the file has no tags.
+    [[nodiscard]] const Mpeg4Atom* tagList() const;
+};
+
+/// Walks the boxes before a library that trusts them does. Nothing when the file is no MPEG-4 file with an index, or
+/// when a size or a table in it claims more than there is; @p why then says which.
+[[nodiscard]] std::optional<Mpeg4Atoms> readMpeg4Atoms(const PatchedFile& file, QString& why);
+
+} // namespace Platform::Media
