@@ -3,7 +3,10 @@
 #include "CommandLine/CommandLine.h"
 
 #include "CommandLine/ConvertCommand.h"
+#include "CommandLine/DevicesCommand.h"
+#include "CommandLine/RecordCommand.h"
 #include "CommandLine/WaveformCommand.h"
+#include "Platform/Foundation/Services.h"
 #include "Platform/LinuxServices.h"
 
 #include <QCoreApplication>
@@ -14,9 +17,15 @@ using namespace Qt::StringLiterals;
 
 namespace CommandLine {
 
+namespace {
+Platform::LinuxServices* installed = nullptr; // while runCommand() runs one; tests bring services of their own
+}
+
 const std::map<QString, Command>& commands() {
     static const std::map<QString, Command> all{
         {u"convert"_s, convertCommand},
+        {u"devices"_s, devicesCommand},
+        {u"record"_s, recordCommand},
         {u"waveform"_s, waveformCommand},
     };
     return all;
@@ -46,7 +55,14 @@ std::optional<int> runCommand(int argc, char** argv) {
     QCoreApplication application(argc, argv);
     Platform::LinuxServices services;
     services.install(Platform::LinuxServices::Mode::CommandLine);
-    return found->second.run(QCoreApplication::arguments().mid(2));
+    installed = &services;
+    const int status = found->second.run(QCoreApplication::arguments().mid(2));
+    installed = nullptr;
+    return status;
+}
+
+bool startAudio(QString& why) {
+    return installed ? installed->startAudio(why) : Platform::services().audioHardware != nullptr;
 }
 
 int fail(const QString& what) {

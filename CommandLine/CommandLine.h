@@ -30,6 +30,10 @@ struct Command {
 /// line. @return its exit status; nothing when none is named and the window is wanted.
 [[nodiscard]] std::optional<int> runCommand(int argc, char** argv);
 
+/// Connects this process to the sound server, or to a private one when none answers. For subcommands that record or
+/// play. @return false, with the reason in @p why, when there is no sound server at all.
+[[nodiscard]] bool startAudio(QString& why);
+
 /// "sonaphex: what went wrong: why" on standard error. @return Failed
 int fail(const QString& what);
 /// The same, with the command's usage. @return WrongUsage

@@ -96,6 +96,14 @@ std::unique_ptr<Platform::ExtAudioFileReader> FakeMediaFiles::openReader(const Q
 }
 
 bool FakeMediaFiles::info(const QString& path, Platform::AudioFileInfo& info, Platform::MediaError& error) {
+    if (knowsItsFiles)
+        for (const auto& file : files)
+            if (file->path == path) {
+                info.dataFormat = file->format;
+                info.frameCount = file->framesAccepted;
+                info.seconds = double(file->framesAccepted) / file->clientFormat.mSampleRate;
+                return true;
+            }
     const auto known = infos.constFind(path);
     if (known == infos.constEnd()) {
         error = {Platform::MediaError::Kind::NotFound, path};

@@ -44,6 +44,8 @@ public:
     bool hasConverter = true;
     /// Oldest first.
     std::vector<std::shared_ptr<File>> files;
+    /// Whether info() also knows the files that were created, by their frames.
+    bool knowsItsFiles = false;
     /// What info() answers of a path; other paths are unknown.
     QMap<QString, Platform::AudioFileInfo> infos;
 

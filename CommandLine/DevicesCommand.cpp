@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CommandLine/DevicesCommand.h"
+
+#include "CommandLine/Arguments.h"
+#include "CommandLine/InputDevice.h"
+#include "Platform/Audio/AudioHardware.h"
+#include "Platform/Foundation/Services.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using namespace Qt::StringLiterals;
+
+namespace CommandLine {
+namespace {
+
+struct Output {
+    AudioObjectID id = 0;
+    QString name;
+    QString uid;
+};
+
+Output defaultOutput() {
+    auto& hardware = *Platform::services().audioHardware;
+    Output output;
+    if (hardware.getDefaultOutputDevice(output.id) == noErr) {
+        (void)hardware.getDeviceName(output.id, output.name);
+        (void)hardware.getDeviceUID(output.id, output.uid);
+    }
+    return output;
+}
+
+void printJson(const std::vector<InputDevice>& devices, const Output& output) {
+    QJsonArray list;
+    for (const InputDevice& device : devices)
+        list.append(QJsonObject{{u"id"_s, qint64(device.id)},
+                                {u"name"_s, device.name.isNull() ? QJsonValue() : QJsonValue(device.name)},
+                                {u"uid"_s, device.uid},
+                                {u"channels"_s, qint64(device.channels)},
+                                {u"sampleRate"_s, device.sampleRate},
+                                {u"isComputerAudio"_s, device.isComputerAudio()}});
+    QJsonValue played; // null: the machine has no output
+    if (output.id != 0)
+        played = QJsonObject{{u"id"_s, qint64(output.id)}, {u"name"_s, output.name}, {u"uid"_s, output.uid}};
+    const QJsonObject all{{u"devices"_s, list}, {u"defaultOutput"_s, played}};
+    print(QString::fromUtf8(QJsonDocument(all).toJson(QJsonDocument::Indented).trimmed()));
+}
+
+int run(const QStringList& given) {
+    Arguments arguments(given, {u"json"_s});
+    if (!arguments.problem().isEmpty())
+        return wrongUsage(u"devices"_s, arguments.problem());
+    if (!arguments.positional().isEmpty())
+        return wrongUsage(u"devices"_s, u"devices takes no names"_s);
+    QString why;
+    if (!startAudio(why))
+        return fail(why);
+    const auto devices = inputDevices();
+    const Output output = defaultOutput();
+    if (arguments.isSet(u"json"_s)) {
+        printJson(devices, output);
+        return Done;
+    }
+    for (const InputDevice& device : devices)
+        print(u"%1\t%2 channel%3, %4 Hz%5"_s.arg(
+            device.name.isEmpty() ? device.uid : device.name, QString::number(device.channels),
+            device.channels == 1 ? u""_s : u"s"_s, QString::number(device.sampleRate, 'f', 0),
+            device.isComputerAudio() ? u", what the computer plays"_s : u""_s));
+    if (devices.empty())
+        print(u"no input devices"_s);
+    print(u"default output: "_s + (output.id == 0 ? u"none"_s : output.name));
+    return Done;
+}
+
+} // namespace
+
+const Command devicesCommand{run, "devices [--json]", "list what can be recorded from"};
+
+} // namespace CommandLine

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CommandLine/InputDevice.h"
+
+#include "Platform/Audio/AudioHardware.h"
+#include "Platform/Foundation/Services.h"
+#include "Source/BuiltInAudioRecord/BuildInAudioRecord.h"
+
+#include <QStringList>
+
+namespace CommandLine {
+
+std::vector<InputDevice> inputDevices() {
+    std::vector<InputDevice> devices;
+    auto& hardware = *Platform::services().audioHardware;
+    for (const QVariant& entry : BuildInAudioRecord::getAudioInPutDeviceIDs()) {
+        const Dictionary descriptor = entry.toMap();
+        InputDevice device;
+        device.id = descriptor.value(BuildInAudioRecord::DeviceIDKey).toUInt();
+        device.name = descriptor.value(BuildInAudioRecord::DeviceNameKey).toString();
+        (void)hardware.getDeviceUID(device.id, device.uid);
+        (void)hardware.getInputFormat(device.id, device.sampleRate, device.channels);
+        devices.push_back(device);
+    }
+    return devices;
+}
+
+bool findInputDevice(const QString& wanted, InputDevice& device, QString& why) {
+    const auto devices = inputDevices();
+    for (const auto matches :
+         {+[](const InputDevice&one, const QString&name) { return one.name == name; },
+          +[](const InputDevice&one, const QString&name) { return one.uid == name; },
+          +[](const InputDevice&one, const QString&name) { return QString::number(one.id) == name; }})
+        for (const InputDevice& one : devices)
+            if (matches(one, wanted)) {
+                device = one;
+                return true;
+            }
+    QStringList names;
+    for (const InputDevice& one : devices)
+        names << (one.name.isEmpty() ? one.uid : one.name);
+    why = QStringLiteral("there is no input device \"%1\"").arg(wanted) +
+          (names.isEmpty() ? QStringLiteral(": there is none at all")
+                           : QStringLiteral(": there are %1").arg(names.join(QStringLiteral(", "))));
+    return false;
+}
+
+} // namespace CommandLine
