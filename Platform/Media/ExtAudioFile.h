@@ -82,8 +82,15 @@ public:
     /// The next read() begins at this frame of the client format.
     virtual OSStatus seek(std::int64_t clientFrame) = 0;
     /// Fills at most @p frames frames (and at most what each buffer holds); @p frames becomes the count read, 0 at the
-    /// end. An error in the middle of a damaged file is returned once; the next call goes on behind it.
+    /// end, and each buffer's size what was read. A damaged place is read as silence of its length: the call that meets
+    /// it returns the error, once, together with its frames; the next goes on behind it.
     virtual OSStatus read(std::uint32_t& frames, AudioBufferList* data) = 0;
+    /// The first channel's value at each of these client frames (ascending), without reading what lies between. True
+    /// only where that gives exactly the values of a read from the beginning, the frames lie within the file, and
+    /// nothing failed; else the caller reads. Where the next read() begins stays as it is.
+    [[nodiscard]] virtual bool sparseSamples(std::span<const std::int64_t> /*frames*/, std::span<float> /*out*/) {
+        return false;
+    }
     [[nodiscard]] virtual MediaError firstError() const = 0;
 };
 

@@ -1,0 +1,614 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Media/linux/InputFile.h"
+
+#include <cstring>
+#include <thread>
+
+namespace Platform {
+
+namespace {
+
+constexpr int ioBufferBytes = 1 << 16;
+constexpr std::int64_t prerollFrames = 16384; // decoded before a seek's target, for decoders that remember
+constexpr int mostFailuresInARow = 10000;
+constexpr int mostRate = 3'000'000;
+
+/// libavformat's view of a SourceFile. It sees no path and can open no other file.
+struct Reading {
+    const SourceFile* file;
+    std::int64_t at = 0;
+};
+
+int readSome(void* opaque, std::uint8_t* out, int size) {
+    auto* reading = static_cast<Reading*>(opaque);
+    const std::int64_t got = reading->file->read(reading->at, std::span(out, std::size_t(size)));
+    if (got <= 0)
+        return got == 0 ? AVERROR_EOF : int(got);
+    reading->at += got;
+    return int(got);
+}
+
+std::int64_t seekTo(void* opaque, std::int64_t offset, int whence) {
+    auto* reading = static_cast<Reading*>(opaque);
+    if (whence & AVSEEK_SIZE)
+        return reading->file->size();
+    switch (whence & ~AVSEEK_FORCE) {
+    case SEEK_CUR:
+        offset += reading->at;
+        break;
+    case SEEK_END:
+        offset += reading->file->size();
+        break;
+    default:
+        break;
+    }
+    if (offset < 0)
+        return AVERROR(EINVAL);
+    return reading->at = offset;
+}
+
+int openNothing(AVFormatContext*, AVIOContext**, const char*, int, AVDictionary**) {
+    return AVERROR(EPERM);
+}
+
+bool isPcm(AVCodecID id) {
+    return id >= AV_CODEC_ID_FIRST_AUDIO && id < AV_CODEC_ID_ADPCM_IMA_QT;
+}
+
+bool formatIs(const AVFormatContext& format, const char* name) {
+    const std::string names = std::string(",") + format.iformat->name + ",";
+    return names.find(std::string(",") + name + ",") != std::string::npos;
+}
+
+/// Frames that libavcodec takes off the beginning and the end of what this packet gives.
+std::int64_t framesTakenOff(const AVPacket& packet) {
+    std::size_t size = 0;
+    const std::uint8_t* data = av_packet_get_side_data(&packet, AV_PKT_DATA_SKIP_SAMPLES, &size);
+    if (!data || size < 10)
+        return 0;
+    const auto number = [](const std::uint8_t* p) {
+        return std::int64_t(p[0]) | std::int64_t(p[1]) << 8 | std::int64_t(p[2]) << 16 | std::int64_t(p[3]) << 24;
+    };
+    return number(data) + number(data + 4);
+}
+
+Av::CodecPtr createDecoder(const AVStream& stream) {
+    const AVCodec* codec = avcodec_find_decoder(stream.codecpar->codec_id);
+    Av::CodecPtr context(codec ? avcodec_alloc_context3(codec) : nullptr);
+    if (!context || avcodec_parameters_to_context(context.get(), stream.codecpar) < 0)
+        return nullptr;
+    context->thread_count = 1;
+    context->pkt_timebase = stream.time_base;
+    return context;
+}
+
+} // namespace
+
+std::unique_ptr<InputFile> InputFile::open(const QString& path, bool decode, MediaError& error) {
+    std::unique_ptr<InputFile> input(new InputFile(path));
+    error = input->file_.open(path);
+    input->frame_.reset(av_frame_alloc());
+    input->packet_.reset(av_packet_alloc());
+    if (error || !input->openContainer(error) || (decode && !input->openDecoder(error)))
+        return nullptr;
+    return input;
+}
+
+InputFile::~InputFile() {
+    format_.reset();
+    if (io_)
+        delete static_cast<Reading*>(io_->opaque);
+}
+
+bool InputFile::openContainer(MediaError& error) {
+    codec_.reset();
+    format_.reset();
+    stream_ = nullptr;
+    if (!io_) {
+        auto* buffer = static_cast<std::uint8_t*>(av_malloc(ioBufferBytes));
+        auto reading = std::make_unique<Reading>(Reading{&file_});
+        io_.reset(avio_alloc_context(buffer, ioBufferBytes, 0, reading.get(), readSome, nullptr, seekTo));
+        if (!io_) {
+            av_free(buffer);
+            error = makeError(MediaError::Kind::Other, path_, QStringLiteral("out of memory"));
+            return false;
+        }
+        reading.release(); // freed with the file
+    }
+    if (avio_seek(io_.get(), 0, SEEK_SET) < 0) {
+        error = makeError(MediaError::Kind::Damaged, path_, QStringLiteral("cannot be read"));
+        return false;
+    }
+    AVFormatContext* context = avformat_alloc_context();
+    if (!context) {
+        error = makeError(MediaError::Kind::Other, path_, QStringLiteral("out of memory"));
+        return false;
+    }
+    context->pb = io_.get();
+    context->io_open = openNothing;
+    // On failure the context is freed.
+    int code = avformat_open_input(&context, "", nullptr, nullptr);
+    if (code < 0) {
+        const bool unknown = code == AVERROR_INVALIDDATA || code == AVERROR_EOF;
+        error = makeError(MediaError::Kind::UnknownFormat, path_,
+                          unknown ? QStringLiteral("not a sound file, or damaged beyond reading")
+                                  : QString::fromStdString(Av::text(code)));
+        return false;
+    }
+    format_.reset(context);
+    code = avformat_find_stream_info(context, nullptr);
+    const int best = av_find_best_stream(context, AVMEDIA_TYPE_AUDIO, -1, -1, nullptr, 0);
+    if (best < 0) {
+        error = makeError(MediaError::Kind::NoAudio, path_, QStringLiteral("the file holds no sound"));
+        return false;
+    }
+    stream_ = context->streams[best];
+    for (unsigned i = 0; i < context->nb_streams; ++i) {
+        if (int(i) != best)
+            context->streams[i]->discard = AVDISCARD_ALL;
+    }
+    rate_ = stream_->codecpar->sample_rate;
+    channels_ = stream_->codecpar->ch_layout.nb_channels;
+    if (code < 0 || rate_ <= 0 || rate_ > mostRate || channels_ <= 0 || channels_ > 64 || stream_->time_base.num <= 0 ||
+        stream_->time_base.den <= 0) {
+        error = makeError(MediaError::Kind::Damaged, path_, QStringLiteral("the sound in it cannot be understood"));
+        return false;
+    }
+    if (formatIs(*format_, "mp4"))
+        facts_ = readMpeg4Facts(file_, rate_);
+    else if (formatIs(*format_, "caf") && !isPcm(stream_->codecpar->codec_id))
+        facts_ = readCafFacts(file_);
+    return true;
+}
+
+bool InputFile::openDecoder(MediaError& error) {
+    codec_ = createDecoder(*stream_);
+    if (!codec_ || avcodec_open2(codec_.get(), nullptr, nullptr) < 0) {
+        codec_.reset();
+        error = makeError(MediaError::Kind::UnknownFormat, path_, QStringLiteral("no decoder for this kind of sound"));
+        return false;
+    }
+    if (outputChannels_ == 0)
+        outputChannels_ = channels_;
+    position_ = -facts_.primingFrames;
+    target_ = 0;
+    draining_ = timeFromFrames_ = countsPackets_ = frameIsWaiting_ = false;
+    silence_ = packetPosition_ = 0;
+    // Only a decoded frame tells the rate and channels for sure: some headers know but half of it.
+    std::optional<MediaError> ignored;
+    Got got = Got::Silence;
+    for (int i = 0; i < 64 && got == Got::Silence; ++i)
+        got = decodeOne(ignored);
+    if (got == Got::Frame) {
+        const bool believable = frame_->sample_rate > 0 && frame_->sample_rate <= mostRate;
+        if (believable && frame_->sample_rate != rate_) {
+            rate_ = frame_->sample_rate;
+            facts_.validFrames.reset();
+        }
+        channels_ = std::max(1, frame_->ch_layout.nb_channels);
+        frameIsWaiting_ = true;
+        return true;
+    }
+    if (got == Got::Silence) {
+        error = makeError(MediaError::Kind::Damaged, path_, QStringLiteral("the sound in it cannot be decoded"));
+        return false;
+    }
+    if (ignored) {
+        error = *ignored;
+        return false;
+    }
+    return true; // no frames at all: an empty recording
+}
+
+bool InputFile::timestampsAreExact() const {
+    const AVCodecID id = stream_->codecpar->codec_id;
+    return isPcm(id) || id == AV_CODEC_ID_FLAC || (formatIs(*format_, "mp4") && !facts_.fragmented);
+}
+
+std::int64_t InputFile::inFrames(std::int64_t timestamp) const {
+    return av_rescale_q(timestamp, stream_->time_base, AVRational{1, rate_});
+}
+
+/// In the stream's time; 0 when it is not known.
+std::int64_t InputFile::durationOf(const AVPacket& packet) const {
+    if (packet.duration > 0)
+        return packet.duration;
+    const AVCodecParameters& parameters = *stream_->codecpar;
+    // libavformat does not know how long the first packet of a CAF file is.
+    if (parameters.codec_id != AV_CODEC_ID_AAC || parameters.frame_size <= 0 || parameters.sample_rate <= 0)
+        return 0;
+    return av_rescale_q(parameters.frame_size, AVRational{1, parameters.sample_rate}, stream_->time_base);
+}
+
+std::int64_t InputFile::lengthFrames() {
+    if (!length_)
+        findLength();
+    return *length_;
+}
+
+void InputFile::findLength() {
+    const bool told = stream_->duration != AV_NOPTS_VALUE && stream_->duration > 0 &&
+                      format_->duration_estimation_method != AVFMT_DURATION_FROM_BITRATE;
+    if (facts_.validFrames)
+        length_ = *facts_.validFrames;
+    else if (told && timestampsAreExact())
+        length_ = inFrames(stream_->duration);
+    else
+        countPackets();
+}
+
+/// Counts what the packets of the file will give, without decoding them.
+void InputFile::countPackets() {
+    length_ = 0;
+    MediaError error;
+    const auto counter = open(path_, false, error);
+    if (!counter)
+        return;
+    std::int64_t time = 0;
+    std::int64_t off = 0;
+    std::int64_t packets = 0;
+    while (av_read_frame(counter->format_.get(), packet_.get()) >= 0) {
+        if (packet_->stream_index == counter->stream_->index) {
+            time += durationOf(*packet_);
+            off += framesTakenOff(*packet_);
+            ++packets;
+        }
+        av_packet_unref(packet_.get());
+    }
+    packets_ = packets;
+    // What is taken off is counted at the rate that the container names.
+    length_ = std::max<std::int64_t>(0, inFrames(time) - av_rescale(off, rate_, counter->rate_) - facts_.primingFrames);
+}
+
+AudioStreamBasicDescription InputFile::dataFormat() const {
+    const AVCodecParameters& parameters = *stream_->codecpar;
+    AudioStreamBasicDescription format;
+    format.mSampleRate = rate_;
+    format.mChannelsPerFrame = std::uint32_t(channels_);
+    if (isPcm(parameters.codec_id)) {
+        const AVCodecID id = parameters.codec_id;
+        const auto bits = std::uint32_t(std::max(0, av_get_bits_per_sample(id)));
+        const bool isFloat = id == AV_CODEC_ID_PCM_F32LE || id == AV_CODEC_ID_PCM_F32BE ||
+                             id == AV_CODEC_ID_PCM_F64LE || id == AV_CODEC_ID_PCM_F64BE;
+        const bool isUnsigned = id == AV_CODEC_ID_PCM_U8 || id == AV_CODEC_ID_PCM_U16LE || id == AV_CODEC_ID_PCM_U16BE;
+        format.mFormatID = kAudioFormatLinearPCM;
+        format.mFormatFlags = kAudioFormatFlagIsPacked | (isFloat      ? kAudioFormatFlagIsFloat
+                                                          : isUnsigned ? 0
+                                                                       : kAudioFormatFlagIsSignedInteger);
+        format.mBitsPerChannel = bits;
+        format.mBytesPerFrame = format.mBytesPerPacket = bits / 8 * format.mChannelsPerFrame;
+        format.mFramesPerPacket = 1;
+    } else if (parameters.codec_id == AV_CODEC_ID_AAC) {
+        format.mFormatID = kAudioFormatMPEG4AAC;
+        format.mFramesPerPacket = std::uint32_t(parameters.frame_size > 0 ? parameters.frame_size : 1024);
+    } else {
+        // Four letters of the codec's name.
+        const char* name = avcodec_get_name(parameters.codec_id);
+        for (int i = 0; i < 4; ++i) {
+            const char letter = *name ? *name++ : ' ';
+            format.mFormatID = (format.mFormatID << 8) | std::uint8_t(letter);
+        }
+        format.mFramesPerPacket = std::uint32_t(std::max(0, parameters.frame_size));
+    }
+    return format;
+}
+
+std::int64_t InputFile::packetCount() {
+    if (packets_ < 0) {
+        if (isPcm(stream_->codecpar->codec_id))
+            packets_ = lengthFrames();
+        else if (formatIs(*format_, "mp4") && !facts_.fragmented)
+            packets_ = avformat_index_get_entries_count(stream_);
+        else {
+            const auto length = length_;
+            countPackets();
+            if (length)
+                length_ = length;
+        }
+    }
+    return std::max<std::int64_t>(0, packets_);
+}
+
+void InputFile::setOutputChannels(int channels) {
+    outputChannels_ = channels;
+    mixer_.reset();
+}
+
+/// Brings the next frame, or the length of the silence that stands for a damaged one.
+InputFile::Got InputFile::decodeOne(std::optional<MediaError>& error) {
+    const auto damaged = [&](int code) {
+        error = makeError(
+            MediaError::Kind::Damaged, path_,
+            QStringLiteral("damaged at frame %1 (%2)").arg(position_).arg(QString::fromStdString(Av::text(code))));
+    };
+    for (;;) {
+        av_frame_unref(frame_.get());
+        const int received = avcodec_receive_frame(codec_.get(), frame_.get());
+        if (received >= 0) {
+            failuresInARow_ = 0;
+            if (frame_->nb_samples > 0 && frame_->ch_layout.nb_channels > 0)
+                return Got::Frame;
+            continue;
+        }
+        if (received == AVERROR_EOF)
+            return Got::End;
+        if (received != AVERROR(EAGAIN)) {
+            damaged(received);
+            if (++failuresInARow_ > mostFailuresInARow || draining_)
+                return Got::End;
+            silence_ = 0;
+            return Got::Silence;
+        }
+        if (draining_)
+            return Got::End;
+        const int read = av_read_frame(format_.get(), packet_.get());
+        if (read < 0) {
+            if (read != AVERROR_EOF && read != AVERROR(EAGAIN))
+                damaged(read);
+            draining_ = true;
+            if (avcodec_send_packet(codec_.get(), nullptr) < 0)
+                return Got::End;
+            continue;
+        }
+        if (packet_->stream_index != stream_->index) {
+            av_packet_unref(packet_.get());
+            continue;
+        }
+        const std::int64_t duration = durationOf(*packet_);
+        if (countsPackets_) {
+            packet_->pts = packet_->dts = packetPosition_;
+            packetPosition_ += duration;
+        }
+        const int sent = avcodec_send_packet(codec_.get(), packet_.get());
+        av_packet_unref(packet_.get());
+        if (sent < 0 && sent != AVERROR(EAGAIN)) {
+            damaged(sent);
+            if (sent == AVERROR(ENOMEM) || ++failuresInARow_ > mostFailuresInARow)
+                return Got::End;
+            silence_ = std::min<std::int64_t>(inFrames(duration), rate_);
+            return Got::Silence;
+        }
+    }
+}
+
+InputFile::Block InputFile::next() {
+    Block block;
+    // A header that lies about the length cuts nothing off but the padding of codecs that pad.
+    const bool cut = facts_.validFrames.has_value();
+    for (;;) {
+        if (cut && position_ >= *facts_.validFrames)
+            return block;
+        std::optional<MediaError> error;
+        const Got got = std::exchange(frameIsWaiting_, false) ? Got::Frame : decodeOne(error);
+        if (error && !block.error)
+            block.error = error;
+        if (got == Got::End)
+            return block;
+        std::int64_t frames = got == Got::Frame ? frame_->nb_samples : silence_;
+        if (got == Got::Frame && timeFromFrames_) {
+            const std::int64_t time = frame_->pts != AV_NOPTS_VALUE ? frame_->pts : frame_->best_effort_timestamp;
+            if (time != AV_NOPTS_VALUE) {
+                position_ = inFrames(time) - facts_.primingFrames;
+                if (!countsPackets_ && stream_->start_time != AV_NOPTS_VALUE && !formatIs(*format_, "mp4"))
+                    position_ -= inFrames(stream_->start_time);
+            }
+            timeFromFrames_ = false;
+        }
+        const std::int64_t from = position_;
+        position_ += frames;
+        if (cut)
+            frames = std::min(frames, *facts_.validFrames - from);
+        const std::int64_t skip = std::max<std::int64_t>(0, target_ - from);
+        if (skip >= frames)
+            continue;
+        if (got == Got::Silence) {
+            mixed_.assign(std::size_t(outputChannels_), std::vector<float>(std::size_t(frames - skip)));
+            rows_.clear();
+            for (const auto& row : mixed_)
+                rows_.push_back(row.data());
+            block.rows = rows_.data();
+            block.frames = std::size_t(frames - skip);
+            return block;
+        }
+        Block converted = convert(skip, frames - skip);
+        if (block.error && !converted.error)
+            converted.error = block.error;
+        if (converted.frames > 0)
+            return converted;
+        block.error = converted.error;
+    }
+}
+
+/// The samples of frame_ in the output's shape.
+InputFile::Block InputFile::convert(std::int64_t skip, std::int64_t most) {
+    Block block;
+    const int have = frame_->ch_layout.nb_channels;
+    const auto width = std::size_t(outputChannels_);
+    rows_.resize(width);
+    block.frames = std::size_t(most);
+    if (frame_->format == AV_SAMPLE_FMT_FLTP && (have == outputChannels_ || have == 1)) {
+        for (std::size_t c = 0; c < width; ++c)
+            rows_[c] = reinterpret_cast<const float*>(frame_->extended_data[have == 1 ? 0 : c]) + skip;
+        block.rows = rows_.data();
+        return block;
+    }
+    // One channel fills all; where a layout is unknown, or has fewer channels, the first ones are taken.
+    const auto frames = std::size_t(frame_->nb_samples);
+    const std::size_t made = have == 1 ? 1 : width;
+    if (!mixer_ || swr_is_initialized(mixer_.get()) == 0 || mixerFormat_ != frame_->format || mixerChannels_ != have) {
+        mixer_.reset();
+        AVChannelLayout in = {};
+        AVChannelLayout out = {};
+        if (frame_->ch_layout.order == AV_CHANNEL_ORDER_UNSPEC)
+            av_channel_layout_default(&in, have);
+        else
+            av_channel_layout_copy(&in, &frame_->ch_layout);
+        if (int(made) == have)
+            av_channel_layout_copy(&out, &in);
+        else
+            av_channel_layout_default(&out, int(made));
+        SwrContext* context = nullptr;
+        swr_alloc_set_opts2(&context, &out, AV_SAMPLE_FMT_FLTP, rate_, &in, AVSampleFormat(frame_->format), rate_, 0,
+                            nullptr);
+        av_channel_layout_uninit(&in);
+        av_channel_layout_uninit(&out);
+        mixer_.reset(context);
+        if (mixer_)
+            av_opt_set_double(mixer_.get(), "rematrix_maxval", 1.0,
+                              0); // a downmix of full-scale channels must not clip
+        if (!mixer_ || swr_init(mixer_.get()) < 0) {
+            mixer_.reset();
+            block.frames = 0;
+            block.error = makeError(MediaError::Kind::Damaged, path_, QStringLiteral("channels that cannot be mixed"));
+            return block;
+        }
+        mixerFormat_ = frame_->format;
+        mixerChannels_ = have;
+    }
+    mixed_.resize(made);
+    std::vector<std::uint8_t*> out(made);
+    for (std::size_t c = 0; c < made; ++c) {
+        mixed_[c].resize(frames);
+        out[c] = reinterpret_cast<std::uint8_t*>(mixed_[c].data());
+    }
+    const int got = swr_convert(mixer_.get(), out.data(), int(frames),
+                                const_cast<const std::uint8_t**>(frame_->extended_data), int(frames));
+    if (got < int(frames)) {
+        block.frames = 0;
+        return block;
+    }
+    for (std::size_t c = 0; c < width; ++c)
+        rows_[c] = mixed_[made == 1 ? 0 : c].data() + skip;
+    block.rows = rows_.data();
+    return block;
+}
+
+bool InputFile::seek(std::int64_t frame) {
+    frame = std::max<std::int64_t>(0, frame);
+    failuresInARow_ = 0;
+    MediaError error;
+    if (timestampsAreExact() && frame > 0) {
+        const std::int64_t start =
+            formatIs(*format_, "mp4") || stream_->start_time == AV_NOPTS_VALUE ? 0 : stream_->start_time;
+        const std::int64_t time = av_rescale_q(frame - prerollFrames, AVRational{1, rate_}, stream_->time_base) + start;
+        if (av_seek_frame(format_.get(), stream_->index, time, AVSEEK_FLAG_BACKWARD) >= 0) {
+            avcodec_flush_buffers(codec_.get());
+            draining_ = frameIsWaiting_ = countsPackets_ = false;
+            timeFromFrames_ = true;
+            target_ = frame;
+            return true;
+        }
+    }
+    // From the beginning, as if it had just been opened; far ahead the packets are only counted, not decoded.
+    if (!openContainer(error) || !openDecoder(error))
+        return false;
+    target_ = frame;
+    if (frame <= 2 * prerollFrames)
+        return true;
+    std::int64_t durationOfFirst = -1;
+    std::int64_t time = 0;
+    std::int64_t off = 0;
+    if (!openContainer(error))
+        return false;
+    codec_ = createDecoder(*stream_);
+    if (!codec_ || avcodec_open2(codec_.get(), nullptr, nullptr) < 0)
+        return false;
+    codec_->pkt_timebase = stream_->time_base;
+    const std::int64_t decodeFrom = frame - prerollFrames;
+    int withoutDuration = 0;
+    frameIsWaiting_ = draining_ = false;
+    // The packet at which decoding begins has been read already when it is known to be the one, so the place is one
+    // packet early: the durations differ little from one packet to the next.
+    for (;;) {
+        if (inFrames(time) - off + 2 * inFrames(std::max<std::int64_t>(0, durationOfFirst)) >= decodeFrom)
+            break;
+        if (av_read_frame(format_.get(), packet_.get()) < 0)
+            break;
+        if (packet_->stream_index == stream_->index) {
+            withoutDuration += durationOf(*packet_) == 0;
+            time += durationOf(*packet_);
+            durationOfFirst = std::max(durationOfFirst, durationOf(*packet_));
+            off += framesTakenOff(*packet_);
+        }
+        av_packet_unref(packet_.get());
+    }
+    if (withoutDuration > 2) {
+        if (!openContainer(error) || !openDecoder(error))
+            return false;
+        target_ = frame;
+        return true;
+    }
+    countsPackets_ = timeFromFrames_ = true;
+    packetPosition_ = time - av_rescale_q(off, AVRational{1, rate_}, stream_->time_base);
+    return true;
+}
+
+bool InputFile::sparseSamples(std::span<const std::int64_t> frames, std::span<float> out) {
+    const AVCodecParameters& parameters = *stream_->codecpar;
+    constexpr std::int64_t packetFrames = 1024;
+    if (!facts_.ownEncoder || facts_.fragmented || !facts_.validFrames || parameters.codec_id != AV_CODEC_ID_AAC ||
+        out.size() < frames.size())
+        return false;
+    const std::int64_t entries = avformat_index_get_entries_count(stream_);
+    const AVIndexEntry* first = entries > 0 ? avformat_index_get_entry(stream_, 0) : nullptr;
+    if (!first || inFrames(first->timestamp) != -packetFrames)
+        return false;
+    for (std::size_t i = 0; i < frames.size(); ++i) {
+        if (frames[i] < 0 || frames[i] >= *facts_.validFrames || (i > 0 && frames[i] < frames[i - 1]) ||
+            frames[i] / packetFrames + 1 >= entries)
+            return false;
+    }
+    struct Place {
+        std::int64_t offset;
+        int size;
+    };
+    std::vector<Place> places(static_cast<std::size_t>(entries));
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        const AVIndexEntry* entry = avformat_index_get_entry(stream_, int(i));
+        places[i] = {entry->pos, entry->size};
+    }
+    // A packet's frame hangs together with the packet before it and with no other.
+    const auto part = [&](std::size_t from, std::size_t to) {
+        Av::CodecPtr codec = createDecoder(*stream_);
+        const Av::FramePtr frame(av_frame_alloc());
+        const Av::PacketPtr packet(av_packet_alloc());
+        if (!codec || !frame || !packet)
+            return false;
+        codec->flags2 |= AV_CODEC_FLAG2_SKIP_MANUAL;
+        if (avcodec_open2(codec.get(), nullptr, nullptr) < 0)
+            return false;
+        std::int64_t decoded = -2;
+        for (std::size_t i = from; i < to; ++i) {
+            const std::int64_t wanted = frames[i] / packetFrames + 1;
+            for (std::int64_t p = decoded == wanted       ? wanted + 1
+                                  : decoded == wanted - 1 ? wanted
+                                                          : wanted - 1;
+                 p <= wanted; ++p) {
+                const Place& place = places[std::size_t(p)];
+                if (place.size <= 0 || av_new_packet(packet.get(), place.size) < 0)
+                    return false;
+                const bool read = file_.readAll(place.offset, std::span(packet->data, std::size_t(place.size)));
+                const int sent = read ? avcodec_send_packet(codec.get(), packet.get()) : -1;
+                av_packet_unref(packet.get());
+                if (sent < 0 || avcodec_receive_frame(codec.get(), frame.get()) < 0 ||
+                    frame->format != AV_SAMPLE_FMT_FLTP || frame->nb_samples != packetFrames)
+                    return false;
+                decoded = p;
+            }
+            out[i] = reinterpret_cast<const float*>(frame->extended_data[0])[frames[i] % packetFrames];
+        }
+        return true;
+    };
+    const std::size_t count = frames.size();
+    const auto threads = std::size_t(std::max(1u, std::min(4u, std::thread::hardware_concurrency())));
+    std::vector<char> good(threads, 0);
+    std::vector<std::jthread> workers;
+    for (std::size_t t = 1; t < threads; ++t)
+        workers.emplace_back([&, t] { good[t] = part(count * t / threads, count * (t + 1) / threads); });
+    good[0] = part(0, count / threads);
+    workers.clear();
+    return std::ranges::all_of(good, [](char done) { return done != 0; });
+}
+
+} // namespace Platform

@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Media/linux/MediaFilesLinux.h"
+#include "Platform/Media/linux/FileReader.h"
+#include "Platform/Media/linux/FileWriter.h"
+#include "Platform/Media/linux/MixMovie.h"
+
+namespace Platform {
+
+namespace {
+
+/// Whether a file of this type can hold sound of this format.
+bool canBeWritten(std::uint32_t type, const AudioStreamBasicDescription& format) {
+    const double rate = format.mSampleRate;
+    if (!(rate >= 1000 && rate <= 1'000'000) || format.mChannelsPerFrame < 1 || format.mChannelsPerFrame > 8)
+        return false;
+    if (type == kAudioFileM4AType || type == kAudioFileCAFType)
+        return format.mFormatID == kAudioFormatMPEG4AAC;
+    if (type != kAudioFileWAVEType || format.mFormatID != kAudioFormatLinearPCM)
+        return false;
+    const std::uint32_t bits = format.mBitsPerChannel;
+    if (format.mFormatFlags & kAudioFormatFlagIsFloat)
+        return bits == 32;
+    return (format.mFormatFlags & kAudioFormatFlagIsSignedInteger) && (bits == 16 || bits == 24 || bits == 32);
+}
+
+class MediaFilesLinux final : public MediaFiles {
+public:
+    // What libav would print of damaged files is told by our errors.
+    MediaFilesLinux() { av_log_set_level(AV_LOG_QUIET); }
+
+    std::unique_ptr<ExtAudioFileWriter> createWriter(const QString& path, std::uint32_t fileType,
+                                                     const AudioStreamBasicDescription& format, std::uint32_t flags,
+                                                     MediaError& error) override {
+        error = {};
+        if (!canBeWritten(fileType, format)) {
+            error = makeError(MediaError::Kind::UnknownFormat, path, QStringLiteral("this format cannot be written"));
+            return nullptr;
+        }
+        auto writer = std::make_unique<FileWriter>(path, fileType, format);
+        error = writer->open(flags & kAudioFileFlags_EraseFile);
+        if (error)
+            return nullptr;
+        return writer;
+    }
+
+    std::unique_ptr<ExtAudioFileReader> openReader(const QString& path, MediaError& error) override {
+        auto input = InputFile::open(path, true, error);
+        return input ? std::make_unique<FileReader>(std::move(input)) : nullptr;
+    }
+
+    bool info(const QString& path, AudioFileInfo& info, MediaError& error) override {
+        const auto input = InputFile::open(path, false, error);
+        if (!input)
+            return false;
+        info.dataFormat = input->dataFormat();
+        info.frameCount = input->lengthFrames();
+        info.packetCount = input->packetCount();
+        info.seconds = double(info.frameCount) / input->rate();
+        return true;
+    }
+
+    std::unique_ptr<Movie> openMovie(const QString& path, MediaError& error) override {
+        return createMixMovie(path, error);
+    }
+
+    OSStatus completeFormat(AudioStreamBasicDescription& format) override {
+        if (format.mFormatID != kAudioFormatLinearPCM || format.mChannelsPerFrame == 0 || format.mBitsPerChannel == 0)
+            return kMediaInvalidPropertyError;
+        const bool apart = format.mFormatFlags & kAudioFormatFlagIsNonInterleaved;
+        if (format.mBytesPerFrame == 0)
+            format.mBytesPerFrame = (format.mBitsPerChannel + 7) / 8 * (apart ? 1 : format.mChannelsPerFrame);
+        if (format.mFramesPerPacket == 0)
+            format.mFramesPerPacket = 1;
+        if (format.mBytesPerPacket == 0)
+            format.mBytesPerPacket = format.mBytesPerFrame * format.mFramesPerPacket;
+        return noErr;
+    }
+};
+
+} // namespace
+
+std::unique_ptr<MediaFiles> createMediaFiles() {
+    return std::make_unique<MediaFilesLinux>();
+}
+
+} // namespace Platform

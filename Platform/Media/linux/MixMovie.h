@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Media/ExtAudioFile.h"
+
+namespace Platform {
+
+/// A movie with the sound of the file at @p path. The file is opened anew when the movie is written.
+[[nodiscard]] std::unique_ptr<Movie> createMixMovie(const QString& path, MediaError& error);
+
+} // namespace Platform

@@ -1,0 +1,134 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Media/linux/OutputFile.h"
+
+#include <QFile>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace Platform {
+
+OutputFile::~OutputFile() {
+    close();
+}
+
+MediaError OutputFile::create(const QString& path, bool overwrite) {
+    path_ = path;
+    const QByteArray name = QFile::encodeName(path);
+    // Truncated only after it is known to be a regular file.
+    const int flags = O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK | (overwrite ? 0 : O_EXCL);
+    fd_ = ::open(name.constData(), flags, 0666);
+    if (fd_ < 0)
+        return errnoError(errno, path);
+    struct stat info = {};
+    if (::fstat(fd_, &info) == 0 && !S_ISREG(info.st_mode)) {
+        close();
+        return makeError(MediaError::Kind::NotAFile, path, QStringLiteral("not a regular file"));
+    }
+    if (::ftruncate(fd_, 0) < 0) {
+        const MediaError error = errnoError(errno, path);
+        close();
+        return error;
+    }
+    return {};
+}
+
+bool OutputFile::append(std::span<const std::uint8_t> bytes) {
+    if (fd_ < 0 || failed())
+        return false;
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+        const ssize_t written = ::pwrite(fd_, bytes.data() + done, bytes.size() - done, size_ + std::int64_t(done));
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0) {
+            fail(errnoError(written < 0 ? errno : ENOSPC, path_));
+            if (done > 0 && ::ftruncate(fd_, size_) < 0)
+                qWarning("%s: the unfinished end could not be cut off", qUtf8Printable(path_));
+            return false;
+        }
+        done += std::size_t(written);
+    }
+    size_ += std::int64_t(bytes.size());
+    return true;
+}
+
+bool OutputFile::patch(std::int64_t offset, std::span<const std::uint8_t> bytes) {
+    if (fd_ < 0)
+        return false;
+    const ssize_t written = ::pwrite(fd_, bytes.data(), bytes.size(), offset);
+    if (written == ssize_t(bytes.size()))
+        return true;
+    fail(errnoError(written < 0 ? errno : ENOSPC, path_));
+    return false;
+}
+
+bool OutputFile::readBack(std::int64_t offset, std::span<std::uint8_t> bytes) const {
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+        const ssize_t got = ::pread(fd_, bytes.data() + done, bytes.size() - done, offset + std::int64_t(done));
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got <= 0)
+            return false;
+        done += std::size_t(got);
+    }
+    return true;
+}
+
+bool OutputFile::beginReplacement(OutputFile& replacement) const {
+    struct stat open = {};
+    struct stat lying = {};
+    const QByteArray name = QFile::encodeName(path_);
+    if (::fstat(fd_, &open) < 0 || ::stat(name.constData(), &lying) < 0 || open.st_dev != lying.st_dev ||
+        open.st_ino != lying.st_ino)
+        return false;
+    QByteArray hidden = name.left(name.lastIndexOf('/') + 1) + ".sonaphex-XXXXXX";
+    replacement.fd_ = ::mkostemp(hidden.data(), O_CLOEXEC);
+    if (replacement.fd_ < 0)
+        return false;
+    replacement.path_ = QFile::decodeName(hidden);
+    return ::fchmod(replacement.fd_, open.st_mode & 0777) == 0;
+}
+
+bool OutputFile::replaceWith(OutputFile& replacement) {
+    const QByteArray hidden = QFile::encodeName(replacement.path_);
+    if (replacement.failed() || ::rename(hidden.constData(), QFile::encodeName(path_).constData()) < 0) {
+        if (replacement.fd_ >= 0)
+            ::unlink(hidden.constData());
+        return false;
+    }
+    std::swap(fd_, replacement.fd_);
+    std::swap(size_, replacement.size_);
+    return true;
+}
+
+void OutputFile::close() {
+    if (fd_ < 0)
+        return;
+    // Some file systems tell only now that the data found no room.
+    if (::close(fd_) < 0 && errno != EINTR)
+        fail(errnoError(errno, path_));
+    fd_ = -1;
+}
+
+void OutputFile::fail(const MediaError& error) {
+    const std::lock_guard lock(mutex_);
+    if (!error_)
+        error_ = error;
+}
+
+bool OutputFile::failed() const {
+    const std::lock_guard lock(mutex_);
+    return bool(error_);
+}
+
+MediaError OutputFile::firstError() const {
+    const std::lock_guard lock(mutex_);
+    return error_;
+}
+
+} // namespace Platform

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <algorithm>
+#include <atomic>
+#include <bit>
+#include <cstdint>
+#include <cstring>
+#include <vector>
+
+namespace Platform {
+
+/// Carries frames from the thread that captures to the thread that encodes: one row a channel, one producer, one
+/// consumer, no lock. A side that has nothing to do sleeps on a counter that the other one raises.
+class PlaneRing {
+public:
+    PlaneRing(std::size_t channels, std::size_t frames)
+        : capacity_(std::bit_ceil(frames)), rows_(channels, std::vector<float>(capacity_)) {}
+
+    /// Producer: copies as many of @p frames as there is room for, from rows whose samples are @p stride apart; a null
+    /// row is silence. @return how many went in.
+    std::size_t push(const float* const* rows, std::size_t stride, std::size_t frames) {
+        const auto written = written_.load(std::memory_order_relaxed);
+        const auto room = capacity_ - std::size_t(written - read_.load(std::memory_order_acquire));
+        const std::size_t count = std::min(frames, room);
+        for (std::size_t c = 0; c < rows_.size(); ++c) {
+            float* const row = rows_[c].data();
+            const std::size_t at = std::size_t(written) & (capacity_ - 1);
+            const std::size_t first = std::min(count, capacity_ - at);
+            copy(row + at, rows[c], stride, first);
+            copy(row, rows[c] ? rows[c] + first * stride : nullptr, stride, count - first);
+        }
+        written_.store(written + count, std::memory_order_release);
+        return count;
+    }
+
+    /// Consumer: up to @p most frames that lie in one piece. They stay until release().
+    std::size_t peek(std::vector<const float*>& rows, std::size_t most) const {
+        const auto read = read_.load(std::memory_order_relaxed);
+        const auto filled = std::size_t(written_.load(std::memory_order_acquire) - read);
+        const std::size_t at = std::size_t(read) & (capacity_ - 1);
+        rows.resize(rows_.size());
+        for (std::size_t c = 0; c < rows_.size(); ++c)
+            rows[c] = rows_[c].data() + at;
+        return std::min({filled, most, capacity_ - at});
+    }
+    void release(std::size_t frames) {
+        read_.store(read_.load(std::memory_order_relaxed) + frames, std::memory_order_release);
+    }
+
+private:
+    static void copy(float* out, const float* in, std::size_t stride, std::size_t count) {
+        if (count == 0)
+            return;
+        if (!in)
+            std::fill_n(out, count, 0.0f);
+        else if (stride == 1)
+            std::memcpy(out, in, count * sizeof(float));
+        else
+            for (std::size_t i = 0; i < count; ++i)
+                out[i] = in[i * stride];
+    }
+
+    std::size_t capacity_;
+    std::vector<std::vector<float>> rows_;
+    alignas(64) std::atomic<std::uint64_t> written_{0}; // changed by the producer only
+    alignas(64) std::atomic<std::uint64_t> read_{0};    // changed by the consumer only
+};
+
+} // namespace Platform

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Media/linux/MediaErrors.h"
+
+#include <optional>
+#include <span>
+
+namespace Platform {
+
+/// A regular file that is read. Opening never waits, whatever lies at the path. Reads are from any thread.
+class SourceFile {
+public:
+    SourceFile() = default;
+    ~SourceFile();
+    SourceFile(const SourceFile&) = delete;
+    SourceFile& operator=(const SourceFile&) = delete;
+
+    [[nodiscard]] MediaError open(const QString& path);
+    [[nodiscard]] std::int64_t size() const;
+    /// @return bytes read, 0 at the end, negative errno on failure.
+    std::int64_t read(std::int64_t offset, std::span<std::uint8_t> out) const;
+    [[nodiscard]] bool readAll(std::int64_t offset, std::span<std::uint8_t> out) const {
+        return read(offset, out) == std::int64_t(out.size());
+    }
+
+private:
+    int fd_ = -1;
+};
+
+/// What a container says that libavformat does not hand on exactly.
+struct ContainerFacts {
+    std::optional<std::int64_t> validFrames; ///< length, priming and padding taken off
+    std::int64_t primingFrames = 0;          ///< to skip where libavformat does not (CAF)
+    bool ownEncoder = false;                 ///< one of our MPEG-4 files
+    bool fragmented = false;
+};
+
+/// Of an MPEG-4 file's first sound track; @p rate: its sample rate.
+[[nodiscard]] ContainerFacts readMpeg4Facts(const SourceFile& file, int rate);
+[[nodiscard]] ContainerFacts readCafFacts(const SourceFile& file);
+
+} // namespace Platform
