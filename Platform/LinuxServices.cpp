@@ -11,6 +11,7 @@
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/linux/LinuxFoundation.h"
 #include "Platform/Foundation/linux/PropertyListDefaults.h"
+#include "Platform/Media/linux/MediaFilesLinux.h"
 
 #include <cstdio>
 
@@ -24,6 +25,7 @@ struct LinuxServices::Private {
     std::unique_ptr<Bundle> bundle;
     std::unique_ptr<Clock> clock;
     std::unique_ptr<UserDefaults> userDefaults;
+    std::unique_ptr<MediaFiles> mediaFiles;
     std::unique_ptr<Workspace> workspace;
     std::unique_ptr<Alerts> alerts;
     std::unique_ptr<AdminShell> adminShell;
@@ -41,6 +43,7 @@ void LinuxServices::install(Mode mode) {
     set.bundle = (d->bundle = createBundle()).get();
     set.clock = (d->clock = createClock()).get();
     set.userDefaults = (d->userDefaults = createUserDefaults(set.bundle->bundleIdentifier())).get();
+    set.mediaFiles = (d->mediaFiles = createMediaFiles()).get();
     set.workspace = (d->workspace = createWorkspace()).get();
     set.alerts = (d->alerts = createCommandLineAlerts()).get();
     set.adminShell = (d->adminShell = createAdminShell()).get();
