@@ -53,4 +53,7 @@ Q_SIGNALS:
     void connectedChanged(bool connected);
 };
 
+/// The Linux side. Begins to connect at once; goes on trying while there is no server. Main thread.
+[[nodiscard]] std::unique_ptr<AudioHardware> createAudioHardware();
+
 } // namespace Platform

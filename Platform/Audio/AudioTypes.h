@@ -13,6 +13,14 @@ constexpr std::uint32_t fourCharCode(const char (&text)[5]) {
 /// Result code of the audio services: 0 is success, anything else says what failed.
 using OSStatus = std::int32_t;
 inline constexpr OSStatus noErr = 0;
+inline constexpr OSStatus kAudioHardwareNotRunningError = OSStatus(fourCharCode("stop"));      ///< no sound server
+inline constexpr OSStatus kAudioHardwareUnknownPropertyError = OSStatus(fourCharCode("who?")); ///< not on this device
+inline constexpr OSStatus kAudioHardwareBadDeviceError = OSStatus(fourCharCode("!dev"));       ///< no such device
+inline constexpr OSStatus kAudioHardwareIllegalOperationError = OSStatus(fourCharCode("nope"));
+inline constexpr OSStatus kAudioUnitErr_InvalidPropertyValue = -10851;
+inline constexpr OSStatus kAudioUnitErr_Uninitialized = -10867;
+inline constexpr OSStatus kAudioUnitErr_CannotDoInCurrentContext = -10863;
+inline constexpr OSStatus kAudioUnitErr_FormatNotSupported = -10868;
 
 /// Names one audio device in this process. Never reused; 0 is no device.
 using AudioObjectID = std::uint32_t;
@@ -60,5 +68,5 @@ struct AudioBufferList {
 /// When a cycle was captured.
 struct AudioTimeStamp {
     std::uint64_t mHostTime = 0; ///< nanoseconds of the steady clock, of the first frame
-    double mSampleTime = 0;      ///< frames since the unit started
+    double mSampleTime = 0;      ///< frames since the unit started, lost ones included
 };

@@ -37,7 +37,7 @@ public:
     virtual OSStatus getDeviceFormat(AudioStreamBasicDescription& format) = 0;
     /// The format in which render() delivers: the device's rate; 32-bit float, one buffer a channel.
     virtual OSStatus setClientFormat(const AudioStreamBasicDescription& format) = 0;
-    /// Frames in one cycle.
+    /// Frames in one cycle. A cycle may be shorter where frames were lost, never longer.
     virtual OSStatus getBufferFrameSize(std::uint32_t& frames) = 0;
     virtual OSStatus initialize() = 0;
     virtual OSStatus start() = 0;
@@ -53,8 +53,13 @@ public:
     virtual void holdCycles() = 0;
     virtual void releaseCycles() = 0;
 
-    /// Frames that were lost before the ring since start(): the only place where audio may be lost. Any thread.
+    /// Frames that were lost before the ring since start(): the only place where audio may be lost. Also what the
+    /// device would have delivered while it or the server was away, once it is back. Any thread.
     [[nodiscard]] virtual std::uint64_t lostFrames() const = 0;
+    /// Whether a lost stretch becomes silence of equal length (needed where two sources must stay together) instead of
+    /// being left out. Any thread, at any time; holds for the holes that are met from then on. The time without a
+    /// device or server counts as lost too.
+    virtual void setFillLostFrames(bool /*on*/) {}
     /// Main thread; before start().
     virtual void setEventHandler(EventHandler handler) = 0;
     /// Why the last step failed, for people and the log. Empty when nothing did.

@@ -48,6 +48,9 @@ struct SignalSource::Connection {
     void advanceClockRt() noexcept;
     void onTimer();
     void armTimer();
+    std::uint64_t asNanoseconds(double seconds) const {
+        return std::uint64_t(seconds * SPA_NSEC_PER_SEC / (1 + options.clockErrorPpm * 1e-6));
+    }
 
     const Options& options;
     const GeneratorRt& generator;
@@ -64,8 +67,10 @@ struct SignalSource::Connection {
     std::string error;
     std::atomic<spa_io_position*> area{nullptr};
     std::atomic<std::uint64_t> frames{0};
+    std::uint64_t nextNsec = 0;             ///< when the own clock ticks next; loop's thread
+    std::atomic<std::uint64_t> tickNsec{0}; ///< the tick at hand, as the timer saw it
+    std::uint64_t clockNsec = 0;            ///< what the clock says; data thread
     std::uint64_t lastDuration = 0;         ///< data thread
-    std::atomic<std::uint64_t> nextNsec{0}; ///< when the own clock ticks next
 };
 
 bool SignalSource::Connection::start(std::string& why) {
@@ -187,10 +192,9 @@ void SignalSource::Connection::onStateChanged(pw_stream_state state, const char*
 }
 
 void SignalSource::Connection::armTimer() {
-    const std::uint64_t at = nextNsec;
     timespec when = {};
-    when.tv_sec = time_t(at / SPA_NSEC_PER_SEC);
-    when.tv_nsec = long(at % SPA_NSEC_PER_SEC);
+    when.tv_sec = time_t(nextNsec / SPA_NSEC_PER_SEC);
+    when.tv_nsec = long(nextNsec % SPA_NSEC_PER_SEC);
     pw_loop_update_timer(pw_thread_loop_get_loop(loop.get()), timer.get(), &when, nullptr, true);
 }
 
@@ -200,9 +204,10 @@ void SignalSource::Connection::onTimer() {
     if (position && pw_stream_is_driving(stream.get())) {
         if (position->clock.rate.denom > 0 && position->clock.duration > 0)
             seconds = double(position->clock.duration) / position->clock.rate.denom;
+        tickNsec = nextNsec;
         pw_stream_trigger_process(stream.get());
     }
-    nextNsec += std::uint64_t(seconds * SPA_NSEC_PER_SEC / (1 + options.clockErrorPpm * 1e-6));
+    nextNsec += asNanoseconds(seconds);
     armTimer();
 }
 
@@ -211,7 +216,13 @@ void SignalSource::Connection::advanceClockRt() noexcept {
     if (!position || !options.ownClock || !pw_stream_is_driving(stream.get()))
         return;
     auto& clock = position->clock;
-    clock.nsec = nextNsec.load(std::memory_order_relaxed);
+    // The timer may be a tick ahead of this thread, so the time is counted here; after a pause it is taken anew.
+    const std::uint64_t tick = tickNsec.load(std::memory_order_relaxed);
+    if (clock.rate.denom > 0)
+        clockNsec += asNanoseconds(double(lastDuration) / clock.rate.denom);
+    if (tick > clockNsec + SPA_NSEC_PER_SEC / 4 || clockNsec > tick + SPA_NSEC_PER_SEC / 4)
+        clockNsec = tick;
+    clock.nsec = clockNsec;
     clock.position += lastDuration;
     clock.rate_diff = 1 + options.clockErrorPpm * 1e-6;
     lastDuration = clock.duration;

@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Audio/RealTime.h"
+
+#include <atomic>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace Platform {
+
+/// What the ring knows of a run of frames besides their samples.
+struct CaptureBlock {
+    std::uint64_t hostTime = 0;   ///< steady nanoseconds at which its first frame was captured
+    std::uint64_t lostBefore = 0; ///< frames that are missing between the block before and this one
+    std::uint32_t frames = 0;
+    bool startsAnew = false; ///< the first of a new connection to the device: its times do not follow the ones before
+};
+
+/// Carries blocks of captured audio from the sound server's data thread to one I/O thread. `...Rt` belongs to the data
+/// thread, the rest to the I/O thread, but for lostFrames(). Memory is taken once, when it is built.
+class CaptureRing {
+public:
+    /// Room for at least @p frames frames, in blocks of 64 frames or more.
+    CaptureRing(std::uint32_t channels, std::size_t frames);
+
+    /// Stores the block or, when there is no room, counts it as lost. The next block that finds room says how many
+    /// frames are missing before it. @p samples holds one pointer a channel; a null pointer is a silent channel.
+    bool pushRt(std::span<const float* const> samples, const CaptureBlock& block) noexcept REC_NONBLOCKING;
+    /// Counts @p frames as lost at this place without a block at hand.
+    void loseRt(std::uint64_t frames) noexcept REC_NONBLOCKING;
+
+    /// The oldest block, what is left of it: frames taken from it are gone from its count, its time and lostBefore stay
+    /// as they were when it was new. False when the ring is empty.
+    [[nodiscard]] bool front(CaptureBlock& block, std::uint32_t& taken) const noexcept;
+    /// Takes up to @p frames frames of the oldest block into @p out (one pointer a channel). Returns how many.
+    std::uint32_t take(std::span<float* const> out, std::uint32_t frames) noexcept;
+
+    [[nodiscard]] std::uint32_t channels() const noexcept { return channels_; }
+    [[nodiscard]] std::size_t capacity() const noexcept { return capacity_; }
+    /// All frames counted as lost: by the ring being full, and by lostBefore and loseRt(). Any thread.
+    [[nodiscard]] std::uint64_t lostFrames() const noexcept { return lost_.load(std::memory_order_relaxed); }
+
+private:
+    const std::uint32_t channels_;
+    const std::size_t capacity_;       ///< frames, a power of two
+    std::vector<float> samples_;       ///< one stretch of capacity_ samples a channel
+    std::vector<CaptureBlock> blocks_; ///< a power of two
+
+    // Changed by the data thread only.
+    std::uint64_t pendingLost_ = 0;
+    bool pendingStart_ = false;
+    std::uint64_t framesWritten_ = 0;
+    alignas(64) std::atomic<std::uint64_t> blocksWritten_{0};
+    alignas(64) std::atomic<std::uint64_t> lost_{0};
+    // Changed by the I/O thread only.
+    alignas(64) std::atomic<std::uint64_t> blocksRead_{0};
+    alignas(64) std::atomic<std::uint64_t> framesRead_{0};
+    std::uint32_t takenOfFront_ = 0;
+};
+
+} // namespace Platform

@@ -1,0 +1,287 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Audio/linux/CaptureStream.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+
+#include <QCoreApplication>
+
+namespace Platform {
+
+using namespace PipeWire;
+using namespace Qt::StringLiterals;
+
+CaptureStream::CaptureStream(std::shared_ptr<DeviceRegistry> registry, Target target, CaptureRing& ring,
+                             Observer observer)
+    : registry_(std::move(registry)), target_(std::move(target)), ring_(ring), observer_(std::move(observer)),
+      pointers_(target_.channels) {
+    LoopLock lock(registry_->connection()->threadLoop());
+    auto* loop = registry_->connection()->loop();
+    work_ = LoopSource(loop,
+                       pw_loop_add_event(
+                           loop, [](void* data, std::uint64_t) { static_cast<CaptureStream*>(data)->onWork(); }, this));
+    registry_->add(*this);
+}
+
+CaptureStream::~CaptureStream() {
+    LoopLock lock(registry_->connection()->threadLoop());
+    registry_->remove(*this);
+    closeStream();
+    work_.reset();
+}
+
+bool CaptureStream::open(int milliseconds, QString& why) {
+    {
+        LoopLock lock(registry_->connection()->threadLoop());
+        const auto device = registry_->device(target_.device);
+        if (!device) {
+            missing_ = registry_->connection()->connected() ? Missing::Device : Missing::Server;
+            why = missing_ == Missing::Device ? u"the device is not there"_s : registry_->connection()->lastError();
+            return false;
+        }
+        if (!connectStream(*device)) {
+            why = u"the sound server refused to capture the device"_s;
+            return false;
+        }
+    }
+    std::unique_lock lock(stateMutex_);
+    stateChanged_.wait_for(lock, std::chrono::milliseconds(milliseconds),
+                           [this] { return state_ != State::Connecting; });
+    if (state_ == State::Failed || state_ == State::Closed) {
+        why = QString::fromStdString(error_);
+        return false;
+    }
+    return true; // still connecting on a very busy machine: it will come
+}
+
+bool CaptureStream::connectStream(const AudioDeviceInfo& device) {
+    closeStream();
+    auto* core = registry_->connection()->core();
+    if (!core)
+        return false;
+    static std::atomic<int> units{0};
+    // The session manager restores volumes by role, then by application id: a role of ours or an id that was used
+    // before could bring back a gain that somebody once gave another stream.
+    const std::string applicationId =
+        "com.korvane.Sonaphex." + std::to_string(QCoreApplication::applicationPid()) + '.' + std::to_string(++units);
+    auto* properties = pw_properties_new(PW_KEY_MEDIA_TYPE, "Audio", PW_KEY_MEDIA_CATEGORY, "Capture", PW_KEY_APP_ID,
+                                         applicationId.c_str(), PW_KEY_APP_NAME, "Sonaphex", PW_KEY_NODE_NAME,
+                                         "sonaphex.capture", "node.dont-reconnect", "true", "state.restore-props",
+                                         "false", "state.restore-target", "false", nullptr);
+    pw_properties_setf(properties, PW_KEY_TARGET_OBJECT, "%llu", static_cast<unsigned long long>(device.serial));
+    pw_properties_setf(properties, PW_KEY_NODE_RATE, "1/%u", target_.sampleRate);
+    pw_properties_setf(properties, PW_KEY_NODE_LATENCY, "%u/%u", target_.cycleFrames, target_.sampleRate);
+    stream_.reset(pw_stream_new(core, "Sonaphex", properties));
+    if (!stream_)
+        return false;
+    static constexpr pw_stream_events events = {
+        .version = PW_VERSION_STREAM_EVENTS,
+        .state_changed = [](void* data, pw_stream_state, pw_stream_state state,
+                            const char* error) { static_cast<CaptureStream*>(data)->onStateChanged(state, error); },
+        .io_changed =
+            [](void* data, std::uint32_t id, void* area, std::uint32_t) {
+                if (id == SPA_IO_Position)
+                    static_cast<CaptureStream*>(data)->position_ = static_cast<const spa_io_position*>(area);
+            },
+        .process = [](void* data) { static_cast<CaptureStream*>(data)->processRt(); },
+    };
+    begins_ = true;
+    mayBeSilentStart_ = true;
+    pw_stream_add_listener(stream_.get(), listener_.get(), &events, this);
+
+    std::uint8_t memory[1024];
+    spa_pod_builder builder = SPA_POD_BUILDER_INIT(memory, sizeof memory);
+    spa_audio_info_raw format = {};
+    format.format = SPA_AUDIO_FORMAT_F32P;
+    format.rate = target_.sampleRate;
+    format.channels = target_.channels;
+    for (std::size_t i = 0; i < target_.positions.size() && i < SPA_AUDIO_MAX_CHANNELS; ++i)
+        format.position[i] = target_.positions[i];
+    const spa_pod* params[] = {spa_format_audio_raw_build(&builder, SPA_PARAM_EnumFormat, &format)};
+    constexpr int flags = PW_STREAM_FLAG_AUTOCONNECT | PW_STREAM_FLAG_MAP_BUFFERS | PW_STREAM_FLAG_RT_PROCESS |
+                          PW_STREAM_FLAG_DONT_RECONNECT;
+    gone_ = false;
+    setVolume_ = true;
+    setState(State::Connecting);
+    if (pw_stream_connect(stream_.get(), PW_DIRECTION_INPUT, PW_ID_ANY, pw_stream_flags(flags), params, 1) < 0) {
+        closeStream();
+        return false;
+    }
+    return true;
+}
+
+void CaptureStream::closeStream() {
+    // Unhooking waits for the data thread: afterwards nothing touches what it used.
+    listener_.remove();
+    stream_.reset();
+    position_ = nullptr;
+    if (state_ != State::Failed)
+        setState(State::Closed);
+}
+
+void CaptureStream::setState(State state, const char* error) {
+    {
+        std::lock_guard guard(stateMutex_);
+        state_ = state;
+        if (error)
+            error_ = error;
+    }
+    stateChanged_.notify_all();
+}
+
+void CaptureStream::onStateChanged(pw_stream_state state, const char* error) {
+    switch (state) {
+    case PW_STREAM_STATE_STREAMING:
+        setState(State::Streaming);
+        if (missing_ != Missing::Nothing) {
+            observer_(missing_ == Missing::Server ? Change::ServerReturned : Change::DeviceReturned);
+            missing_ = Missing::Nothing;
+        }
+        break;
+    case PW_STREAM_STATE_ERROR:
+        setState(State::Failed, error ? error : "the stream failed");
+        gone_ = true;
+        break;
+    case PW_STREAM_STATE_UNCONNECTED:
+        setState(State::Failed, "the device went away");
+        gone_ = true;
+        break;
+    case PW_STREAM_STATE_PAUSED:
+    case PW_STREAM_STATE_CONNECTING:
+        break;
+    }
+    // Controls and the end of a stream are no matter for its own callback (the library crashes).
+    pw_loop_signal_event(registry_->connection()->loop(), work_.get());
+}
+
+void CaptureStream::onWork() {
+    if (gone_) {
+        gone_ = false;
+        closeStream();
+        lose(Change::DeviceLost);
+        // The device may be there still, or again: then the news of its appearance has come already.
+        if (const auto device = registry_->device(target_.device); device && revive_.exchange(false))
+            connectStream(*device);
+        return;
+    }
+    if (revive_.exchange(false)) {
+        if (const auto device = registry_->device(target_.device)) {
+            lose(Change::DeviceLost);
+            connectStream(*device);
+        }
+        return;
+    }
+    const auto state = stream_ ? pw_stream_get_state(stream_.get(), nullptr) : PW_STREAM_STATE_UNCONNECTED;
+    if (setVolume_ && (state == PW_STREAM_STATE_PAUSED || state == PW_STREAM_STATE_STREAMING)) {
+        setVolume_ = false;
+        std::vector<float> unity(target_.channels, 1.0f);
+        float unmuted = 0;
+        pw_stream_set_control(stream_.get(), SPA_PROP_channelVolumes, std::uint32_t(unity.size()), unity.data(),
+                              SPA_PROP_mute, 1, &unmuted, 0);
+    }
+}
+
+void CaptureStream::revive() {
+    revive_ = true;
+    pw_loop_signal_event(registry_->connection()->loop(), work_.get());
+}
+
+void CaptureStream::lose(Change reason) {
+    if (missing_ != Missing::Nothing)
+        return;
+    missing_ = reason == Change::ServerLost ? Missing::Server : Missing::Device;
+    observer_(reason);
+}
+
+void CaptureStream::deviceAppeared(const AudioDeviceInfo& device) {
+    if (device.id == target_.device && state_ != State::Streaming)
+        connectStream(device);
+}
+
+void CaptureStream::deviceGone(AudioObjectID device) {
+    if (device != target_.device)
+        return;
+    closeStream();
+    lose(Change::DeviceLost);
+}
+
+void CaptureStream::serverGone() {
+    gone_ = false;
+    closeStream();
+    lose(Change::ServerLost);
+}
+
+void CaptureStream::devicesKnown() {
+    if (missing_ == Missing::Server && !registry_->device(target_.device)) {
+        observer_(Change::ServerReturned);
+        missing_ = Missing::Nothing;
+        lose(Change::DeviceLost);
+    }
+}
+
+std::uint64_t CaptureStream::lostBeforeRt(const spa_io_clock& clock, std::uint64_t start) noexcept {
+    const double clockRate = clock.rate.denom > 0 ? double(clock.rate.denom) / std::max(clock.rate.num, 1u) : 0;
+    std::uint64_t lost = 0;
+    const bool first = begins_.exchange(false, std::memory_order_relaxed);
+    if (first) {
+        if (endOfLast_ > 0 && start > endOfLast_)
+            lost = std::uint64_t(std::llround(double(start - endOfLast_) * 1e-9 * target_.sampleRate));
+    } else if (clockKnown_ && clockId_ == clock.id && clockRate > 0) {
+        if (clock.position > expectedPosition_) {
+            lost = std::uint64_t(
+                std::llround(double(clock.position - expectedPosition_) / clockRate * target_.sampleRate));
+        } else if (target_.hardware && clock.position == expectedPosition_ && clock.nsec > expectedNsec_) {
+            // After an overrun a sound card's driver counts on as if nothing had happened, but the time has moved.
+            const double late = double(clock.nsec - expectedNsec_) * 1e-9;
+            if (late > std::max(0.05, 2 * double(clock.duration) / clockRate))
+                lost = std::uint64_t(std::llround(late * target_.sampleRate));
+        }
+    }
+    clockKnown_ = true;
+    clockId_ = clock.id;
+    expectedPosition_ = clock.position + clock.duration;
+    expectedNsec_ = clock.nsec + (clockRate > 0 ? std::uint64_t(double(clock.duration) / clockRate * 1e9) : 0);
+    return lost;
+}
+
+void CaptureStream::processRt() noexcept {
+    while (pw_buffer* buffer = pw_stream_dequeue_buffer(stream_.get())) {
+        const spa_buffer& content = *buffer->buffer;
+        const std::uint32_t frames = content.datas[0].chunk->size / std::uint32_t(sizeof(float));
+        bool silent = true;
+        for (std::uint32_t i = 0; i < target_.channels; ++i) {
+            const spa_data* data = i < content.n_datas ? &content.datas[i] : nullptr;
+            const bool usable = data && data->data && data->chunk->size >= frames * sizeof(float);
+            pointers_[i] =
+                usable ? reinterpret_cast<const float*>(static_cast<const char*>(data->data) + data->chunk->offset)
+                       : nullptr;
+        }
+        const spa_io_position* position = position_.load(std::memory_order_relaxed);
+        const bool begins = begins_.load(std::memory_order_relaxed);
+        if (begins) {
+            for (const float* each : pointers_)
+                silent = silent && (!each || std::all_of(each, each + frames, [](float value) { return value == 0; }));
+        }
+        // The first quantum of a stream is often the silence from before the link; it is not the device's.
+        if (frames > 0 && position && !(begins && mayBeSilentStart_ && silent)) {
+            const auto duration = std::uint64_t(double(frames) * 1e9 / target_.sampleRate);
+            CaptureBlock block;
+            block.frames = frames;
+            block.hostTime = position->clock.nsec - duration;
+            block.startsAnew = begins;
+            block.lostBefore = lostBeforeRt(position->clock, block.hostTime);
+            endOfLast_ = position->clock.nsec;
+            if (content.datas[0].chunk->flags & SPA_CHUNK_FLAG_CORRUPTED)
+                ring_.loseRt(frames);
+            else
+                ring_.pushRt(pointers_, block);
+            blocks_.fetch_add(1, std::memory_order_relaxed);
+        }
+        mayBeSilentStart_ = false;
+        pw_stream_queue_buffer(stream_.get(), buffer);
+    }
+}
+
+} // namespace Platform

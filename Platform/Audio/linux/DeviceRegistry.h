@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Audio/AudioTypes.h"
+#include "Platform/Audio/linux/PipeWireConnection.h"
+
+#include <condition_variable>
+#include <map>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace Platform {
+
+/// A node of the sound server that is a device, as it is known at one moment.
+struct AudioDeviceInfo {
+    AudioObjectID id = 0;
+    std::uint32_t nodeId = 0; ///< recycled by the server: good for one call only
+    std::uint64_t serial = 0; ///< never recycled by one server
+    std::string nodeName;
+    std::string description;
+    std::string mediaClass;
+    std::map<std::string, std::string> properties; ///< all of the node's
+    std::uint32_t captureStreams = 0;              ///< ports that deliver and are no monitor
+    std::uint32_t playbackStreams = 0;             ///< ports that take
+    double sampleRate = 0;
+    std::uint32_t channels = 0;
+    std::vector<std::uint32_t> channelPositions; ///< SPA_AUDIO_CHANNEL_...; as many as channels
+    bool hasVolume = false;                      ///< has a volume control
+    std::vector<float> volumes;                  ///< linear, one a channel while it has one
+    bool muted = false;
+
+    /// "<node name>:<8 hex digits of its hash>": a name that is the beginning of another stays distinct.
+    [[nodiscard]] QString uid() const;
+};
+
+/// The picture of the server's devices that its own thread keeps up to date. Shared by the hardware's object model, the
+/// input units and the I/O registry. Queries may come from any thread and take no lock of the server's loop.
+class DeviceRegistry final : public PipeWireConnection::Client {
+public:
+    /// All on the loop's thread.
+    class Listener {
+    public:
+        virtual ~Listener() = default;
+        virtual void deviceAppeared(const AudioDeviceInfo& /*device*/) {}
+        virtual void deviceGone(AudioObjectID /*device*/) {}
+        virtual void defaultSinkChanged() {}
+        /// The server is gone and with it every device; deviceGone() is not called for each.
+        virtual void serverGone() {}
+        /// All devices of a server that has (re)appeared are known.
+        virtual void devicesKnown() {}
+    };
+
+    static std::shared_ptr<DeviceRegistry> shared();
+    ~DeviceRegistry() override;
+    DeviceRegistry(const DeviceRegistry&) = delete;
+    DeviceRegistry& operator=(const DeviceRegistry&) = delete;
+
+    [[nodiscard]] const std::shared_ptr<PipeWireConnection>& connection() const { return connection_; }
+    /// Takes the loop's lock.
+    void add(Listener& listener);
+    void remove(Listener& listener);
+
+    /// Waits until all devices are known or there is no server to know them; at most @p milliseconds.
+    bool waitUntilKnown(int milliseconds) const;
+    /// In the order of their first appearance.
+    [[nodiscard]] std::vector<AudioDeviceInfo> devices() const;
+    [[nodiscard]] std::optional<AudioDeviceInfo> device(AudioObjectID id) const;
+    /// 0 when there is none.
+    [[nodiscard]] AudioObjectID defaultOutput() const;
+    /// Frames in one cycle of a device that runs at @p sampleRate.
+    [[nodiscard]] std::uint32_t cycleFrames(double sampleRate) const;
+
+    /// Volume of one channel, or mute, of a device. Takes the loop's lock.
+    OSStatus setVolume(AudioObjectID device, std::uint32_t element, float volume);
+    OSStatus setMute(AudioObjectID device, bool mute);
+    /// Sets or (empty @p value) removes a key of the server's metadata "default" for an object. Takes the loop's lock.
+    OSStatus setMetadata(std::uint32_t subject, const std::string& key, const std::string& type,
+                         const std::string& value);
+
+    void serverConnected() override;
+    void serverLost() override;
+
+private:
+    struct Node;
+    struct Port {
+        std::uint32_t node = 0;
+        bool delivers = false;
+        bool monitor = false;
+    };
+    struct Metadata;
+
+    DeviceRegistry();
+    void onGlobal(std::uint32_t id, const char* type, const spa_dict* properties);
+    void onGlobalRemove(std::uint32_t id);
+    void onDone(int sequence);
+    void onMetadata(Metadata& metadata, std::uint32_t subject, const char* key, const char* value);
+    void bindMetadata(std::uint32_t id, const std::string& name);
+    void announce(Node& node);
+    void publish(const Node& node);
+    [[nodiscard]] AudioObjectID numberFor(const std::string& nodeName);
+    [[nodiscard]] Node* find(AudioObjectID device);
+
+    std::shared_ptr<PipeWireConnection> connection_;
+    std::vector<Listener*> listeners_;
+    PipeWire::RegistryPtr registry_;
+    PipeWire::Hook registryListener_;
+    PipeWire::Hook coreListener_;
+    std::map<std::uint32_t, std::unique_ptr<Node>> nodes_; ///< by the server's id
+    std::map<std::uint32_t, Port> ports_;
+    std::map<std::uint32_t, std::unique_ptr<Metadata>> metadata_;
+    int globalsSequence_ = -1; ///< answered when all that existed at connecting was named
+    int knownSequence_ = -1;   ///< answered when all of that told about itself
+
+    /// Numbers ever given under a name, oldest first. Kept for the life of the process, beyond that of any registry.
+    static std::unordered_map<std::string, std::vector<AudioObjectID>>& numbers();
+
+    mutable std::mutex mutex_; ///< guards the picture below; never held while anyone is called
+    mutable std::condition_variable changed_;
+    bool known_ = false;
+    std::map<AudioObjectID, AudioDeviceInfo> picture_;
+    std::string defaultSink_;
+    std::uint32_t clockRate_ = 48000;
+    std::uint32_t quantum_ = 1024;
+    std::uint32_t forcedQuantum_ = 0;
+};
+
+} // namespace Platform

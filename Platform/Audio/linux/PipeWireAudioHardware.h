@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Audio/AudioHardware.h"
+#include "Platform/Audio/linux/DeviceRegistry.h"
+
+#include <atomic>
+
+namespace Platform {
+
+/// The device registry as an object model for the main thread.
+class PipeWireAudioHardware final : public AudioHardware, private DeviceRegistry::Listener {
+    Q_OBJECT
+public:
+    PipeWireAudioHardware();
+    ~PipeWireAudioHardware() override;
+
+    std::vector<AudioObjectID> devices() override;
+    OSStatus getDeviceName(AudioObjectID device, QString& name) override;
+    OSStatus getDeviceUID(AudioObjectID device, QString& uid) override;
+    OSStatus getStreamsDataSize(AudioObjectID device, Scope scope, std::uint32_t& size) override;
+    OSStatus setVolumeScalar(AudioObjectID device, std::uint32_t element, float volume) override;
+    OSStatus getVolumeScalar(AudioObjectID device, std::uint32_t element, float& volume) override;
+    OSStatus setMute(AudioObjectID device, std::uint32_t element, bool mute) override;
+    OSStatus getMute(AudioObjectID device, std::uint32_t element, bool& mute) override;
+    OSStatus getDefaultOutputDevice(AudioObjectID& device) override;
+    OSStatus getInputFormat(AudioObjectID device, double& sampleRate, std::uint32_t& channels) override;
+    std::unique_ptr<InputUnit> openOutputUnit(bool& found) override;
+    bool connected() const override;
+    QString lastError() const override;
+
+private:
+    // On the server's loop thread.
+    void deviceAppeared(const AudioDeviceInfo& device) override;
+    void deviceGone(AudioObjectID device) override;
+    void serverGone() override;
+    void devicesKnown() override;
+    void defaultSinkChanged() override;
+
+    void postDevicesChanged();
+    void postDefaultOutputChanged();
+    void postConnected();
+    /// Gives a server that is just being asked a moment to answer.
+    void settle() const;
+    OSStatus find(AudioObjectID device, AudioDeviceInfo& info) const;
+    OSStatus findInputElement(AudioObjectID device, std::uint32_t element, AudioDeviceInfo& info) const;
+
+    std::shared_ptr<DeviceRegistry> registry_;
+    std::atomic<bool> devicesPosted_{false};
+    std::atomic<bool> defaultPosted_{false};
+    bool toldConnected_ = false; ///< main thread
+};
+
+} // namespace Platform

@@ -1,0 +1,279 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Audio/linux/PipeWireInputUnit.h"
+
+#include "Platform/Audio/CycleAssembler.h"
+#include "Platform/Foundation/Clock.h"
+#include "Platform/Foundation/MainQueue.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+namespace Platform {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr double ringSeconds = 10;
+/// Linking takes some 10 ms; on a machine that is too busy for a second it may finish later.
+constexpr int openMs = 1000;
+/// A stream that is linked and delivers nothing for so long is dead, though nobody said so: that happens when the
+/// session manager alone ends.
+constexpr auto dryAfter = 2s;
+
+} // namespace
+
+PipeWireInputUnit::PipeWireInputUnit(std::shared_ptr<DeviceRegistry> registry) : registry_(std::move(registry)) {
+}
+
+PipeWireInputUnit::~PipeWireInputUnit() {
+    stop();
+}
+
+OSStatus PipeWireInputUnit::fail(OSStatus status, const QString& reason) {
+    lastError_ = reason;
+    return status;
+}
+
+OSStatus PipeWireInputUnit::setEnableInput(bool on) {
+    inputEnabled_ = on;
+    return noErr;
+}
+
+OSStatus PipeWireInputUnit::setEnableOutput(bool on) {
+    return on ? fail(kAudioUnitErr_InvalidPropertyValue, u"this unit captures only"_s) : noErr;
+}
+
+OSStatus PipeWireInputUnit::setCurrentDevice(AudioObjectID device) {
+    if (stream_)
+        return fail(kAudioUnitErr_CannotDoInCurrentContext, u"the unit is running"_s);
+    const auto info = registry_->device(device);
+    if (!info)
+        return fail(kAudioHardwareBadDeviceError, u"there is no device number %1"_s.arg(device));
+    if (info->captureStreams == 0)
+        return fail(kAudioUnitErr_InvalidPropertyValue,
+                    u"%1 has no input"_s.arg(QString::fromStdString(info->description)));
+    target_.device = device;
+    target_.sampleRate = std::uint32_t(std::lround(info->sampleRate));
+    target_.channels = info->channels;
+    target_.positions = info->channelPositions;
+    target_.cycleFrames = registry_->cycleFrames(info->sampleRate);
+    target_.hardware = info->properties.contains("device.api");
+    initialized_ = false;
+    return noErr;
+}
+
+OSStatus PipeWireInputUnit::setInputCallback(RenderCallback callback, void* refCon) {
+    if (stream_)
+        return fail(kAudioUnitErr_CannotDoInCurrentContext, u"the unit is running"_s);
+    callback_ = callback;
+    refCon_ = refCon;
+    return noErr;
+}
+
+OSStatus PipeWireInputUnit::getDeviceFormat(AudioStreamBasicDescription& format) {
+    if (target_.device == 0)
+        return fail(kAudioUnitErr_Uninitialized, u"no device is set"_s);
+    format = {.mSampleRate = double(target_.sampleRate),
+              .mFormatID = kAudioFormatLinearPCM,
+              .mFormatFlags = kAudioFormatFlagIsFloat | kAudioFormatFlagIsPacked | kAudioFormatFlagIsNonInterleaved,
+              .mBytesPerPacket = 4,
+              .mFramesPerPacket = 1,
+              .mBytesPerFrame = 4,
+              .mChannelsPerFrame = target_.channels,
+              .mBitsPerChannel = 32};
+    return noErr;
+}
+
+OSStatus PipeWireInputUnit::setClientFormat(const AudioStreamBasicDescription& format) {
+    if (target_.device == 0)
+        return fail(kAudioUnitErr_Uninitialized, u"no device is set"_s);
+    constexpr auto flags = kAudioFormatFlagIsFloat | kAudioFormatFlagIsPacked | kAudioFormatFlagIsNonInterleaved;
+    const bool supported = format.mFormatID == kAudioFormatLinearPCM && format.mFormatFlags == flags &&
+                           format.mBitsPerChannel == 32 && format.mChannelsPerFrame >= 1 &&
+                           format.mSampleRate == double(target_.sampleRate);
+    if (!supported)
+        return fail(kAudioUnitErr_FormatNotSupported,
+                    u"the unit delivers 32-bit float, one buffer a channel, at the device's rate only"_s);
+    clientFormat_ = format;
+    return noErr;
+}
+
+OSStatus PipeWireInputUnit::getBufferFrameSize(std::uint32_t& frames) {
+    if (target_.device == 0)
+        return fail(kAudioUnitErr_Uninitialized, u"no device is set"_s);
+    frames = target_.cycleFrames;
+    return noErr;
+}
+
+OSStatus PipeWireInputUnit::initialize() {
+    if (target_.device == 0 || !callback_)
+        return fail(kAudioUnitErr_Uninitialized, u"no device or no callback is set"_s);
+    if (!inputEnabled_)
+        return fail(kAudioUnitErr_Uninitialized, u"the input is not enabled"_s);
+    if (stream_)
+        return fail(kAudioUnitErr_CannotDoInCurrentContext, u"the unit is running"_s);
+    initialized_ = true;
+    return noErr;
+}
+
+OSStatus PipeWireInputUnit::start() {
+    if (!initialized_)
+        return fail(kAudioUnitErr_Uninitialized, u"the unit is not initialised"_s);
+    if (stream_)
+        return noErr;
+    ring_ = std::make_unique<CaptureRing>(target_.channels, std::size_t(ringSeconds * target_.sampleRate));
+    stream_ = std::make_unique<CaptureStream>(registry_, target_, *ring_, [this](CaptureStream::Change change) {
+        switch (change) {
+        case CaptureStream::Change::DeviceLost:
+            return tell(Event::DeviceLost);
+        case CaptureStream::Change::DeviceReturned:
+            return tell(Event::DeviceReturned);
+        case CaptureStream::Change::ServerLost:
+            return tell(Event::ServerLost);
+        case CaptureStream::Change::ServerReturned:
+            return tell(Event::ServerReturned);
+        }
+    });
+    QString why;
+    if (!stream_->open(openMs, why)) {
+        stream_.reset();
+        return fail(kAudioHardwareNotRunningError, why);
+    }
+    stopping_ = false;
+    ioThread_ = std::thread([this] { runCycles(); });
+    return noErr;
+}
+
+OSStatus PipeWireInputUnit::stop() {
+    if (ioThread_.joinable()) {
+        {
+            std::lock_guard guard(cycleMutex_);
+            stopping_ = true;
+        }
+        cycleChanged_.notify_all();
+        ioThread_.join();
+    }
+    stream_.reset();
+    return noErr;
+}
+
+void PipeWireInputUnit::tell(Event event) {
+    MainQueue::post(mailbox_.get(), [this, event] {
+        if (handler_)
+            handler_(event);
+    });
+}
+
+void PipeWireInputUnit::setEventHandler(EventHandler handler) {
+    handler_ = std::move(handler);
+}
+
+std::uint64_t PipeWireInputUnit::lostFrames() const {
+    return ring_ ? ring_->lostFrames() : 0;
+}
+
+void PipeWireInputUnit::runCycles() {
+    CycleAssembler assembler(*ring_, target_.sampleRate, target_.cycleFrames);
+    // Nobody wakes this thread: waking is a system call, and the data thread makes none.
+    const auto look =
+        std::chrono::milliseconds(std::clamp(int(500.0 * target_.cycleFrames / target_.sampleRate), 2, 10));
+    std::uint64_t seenBlocks = 0;
+    std::uint64_t toldLost = 0;
+    lastBlockAt_ = std::chrono::steady_clock::now();
+    for (;;) {
+        CaptureCycle cycle;
+        // What was begun when the device left is delivered as it is: the rest will not come.
+        const bool ended = !stream_->streaming();
+        while (assembler.next(cycle, fillLost_, ended)) {
+            if (!runCycle(assembler, cycle.frames, cycle.hostTime, cycle.sampleTime))
+                return;
+        }
+        watch(seenBlocks, toldLost);
+        std::unique_lock lock(cycleMutex_);
+        if (cycleChanged_.wait_for(lock, look, [this] { return stopping_; }))
+            return;
+    }
+}
+
+bool PipeWireInputUnit::runCycle(const CycleAssembler& assembler, std::uint32_t frames, std::uint64_t hostTime,
+                                 std::uint64_t sampleTime) {
+    {
+        std::unique_lock lock(cycleMutex_);
+        cycleChanged_.wait(lock, [this] { return stopping_ || holds_ == 0; });
+        if (stopping_)
+            return false;
+        inCycle_ = true;
+        ioThreadId_ = std::this_thread::get_id();
+    }
+    current_ = &assembler;
+    currentFrames_ = frames;
+    {
+        const HostTimeScope scope(hostTime);
+        const AudioTimeStamp timeStamp = {.mHostTime = hostTime, .mSampleTime = double(sampleTime)};
+        std::uint32_t actionFlags = 0;
+        callback_(refCon_, &actionFlags, &timeStamp, 1, frames, nullptr);
+    }
+    current_ = nullptr;
+    {
+        std::lock_guard guard(cycleMutex_);
+        inCycle_ = false;
+    }
+    cycleChanged_.notify_all();
+    return true;
+}
+
+void PipeWireInputUnit::watch(std::uint64_t& seenBlocks, std::uint64_t& toldLost) {
+    if (const auto lost = ring_->lostFrames(); lost != toldLost) {
+        toldLost = lost;
+        tell(Event::FramesLost);
+    }
+    const auto now = std::chrono::steady_clock::now();
+    if (const auto blocks = stream_->blocks(); blocks != seenBlocks) {
+        seenBlocks = blocks;
+        lastBlockAt_ = now;
+    } else if (now - lastBlockAt_ > dryAfter) {
+        lastBlockAt_ = now;
+        stream_->revive();
+    }
+}
+
+OSStatus PipeWireInputUnit::render(std::uint32_t*, const AudioTimeStamp*, std::uint32_t, std::uint32_t frames,
+                                   AudioBufferList* data) {
+    if (!current_ || !data)
+        return kAudioUnitErr_CannotDoInCurrentContext;
+    frames = std::min(frames, currentFrames_);
+    for (std::uint32_t i = 0; i < data->mNumberBuffers; ++i) {
+        AudioBuffer& buffer = (&data->mBuffers[0])[i];
+        buffer.mDataByteSize = frames * std::uint32_t(sizeof(float));
+        if (!buffer.mData)
+            continue;
+        // A mono device is heard on every channel asked for; others are silent where they have none.
+        const std::uint32_t source = target_.channels == 1 ? 0 : i;
+        if (source < target_.channels)
+            std::memcpy(buffer.mData, current_->channel(source), buffer.mDataByteSize);
+        else
+            std::memset(buffer.mData, 0, buffer.mDataByteSize);
+    }
+    return noErr;
+}
+
+void PipeWireInputUnit::holdCycles() {
+    std::unique_lock lock(cycleMutex_);
+    ++holds_;
+    if (!inCycle_ || ioThreadId_ != std::this_thread::get_id())
+        cycleChanged_.wait(lock, [this] { return !inCycle_; });
+}
+
+void PipeWireInputUnit::releaseCycles() {
+    {
+        std::lock_guard guard(cycleMutex_);
+        --holds_;
+    }
+    cycleChanged_.notify_all();
+}
+
+} // namespace Platform

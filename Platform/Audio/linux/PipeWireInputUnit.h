@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Audio/InputUnit.h"
+#include "Platform/Audio/linux/CaptureStream.h"
+
+#include <QObject>
+#include <chrono>
+#include <memory>
+#include <thread>
+
+namespace Platform {
+
+class CycleAssembler;
+
+/// An input unit on the sound server: a stream fills a ring, a thread of the unit's own empties it cycle by cycle.
+class PipeWireInputUnit final : public InputUnit {
+public:
+    explicit PipeWireInputUnit(std::shared_ptr<DeviceRegistry> registry);
+    ~PipeWireInputUnit() override;
+
+    OSStatus setEnableInput(bool on) override;
+    OSStatus setEnableOutput(bool on) override;
+    OSStatus setCurrentDevice(AudioObjectID device) override;
+    OSStatus setInputCallback(RenderCallback callback, void* refCon) override;
+    OSStatus getDeviceFormat(AudioStreamBasicDescription& format) override;
+    OSStatus setClientFormat(const AudioStreamBasicDescription& format) override;
+    OSStatus getBufferFrameSize(std::uint32_t& frames) override;
+    OSStatus initialize() override;
+    OSStatus start() override;
+    OSStatus stop() override;
+    OSStatus render(std::uint32_t* actionFlags, const AudioTimeStamp* timeStamp, std::uint32_t busNumber,
+                    std::uint32_t frames, AudioBufferList* data) override;
+    void holdCycles() override;
+    void releaseCycles() override;
+    std::uint64_t lostFrames() const override;
+    void setFillLostFrames(bool on) override { fillLost_ = on; }
+    void setEventHandler(EventHandler handler) override;
+    QString lastError() const override { return lastError_; }
+
+private:
+    OSStatus fail(OSStatus status, const QString& reason);
+    void tell(Event event);
+    void runCycles();
+    /// Waits for the end of a hold, then runs the callback. False when the unit stops.
+    bool runCycle(const CycleAssembler& assembler, std::uint32_t frames, std::uint64_t hostTime,
+                  std::uint64_t sampleTime);
+    void watch(std::uint64_t& seenBlocks, std::uint64_t& toldLost);
+
+    const std::shared_ptr<DeviceRegistry> registry_;
+    QString lastError_;
+    bool inputEnabled_ = false;
+    RenderCallback callback_ = nullptr;
+    void* refCon_ = nullptr;
+    CaptureStream::Target target_;
+    AudioStreamBasicDescription clientFormat_;
+    bool initialized_ = false;
+    EventHandler handler_;
+    std::atomic<bool> fillLost_{false};
+
+    std::mutex cycleMutex_;
+    std::condition_variable cycleChanged_;
+    int holds_ = 0;
+    bool inCycle_ = false;
+    bool stopping_ = false;
+    std::thread::id ioThreadId_;
+
+    // The cycle at hand; I/O thread.
+    const CycleAssembler* current_ = nullptr;
+    std::uint32_t currentFrames_ = 0;
+    std::chrono::steady_clock::time_point lastBlockAt_;
+
+    // Shut down in this order: the thread, the stream, the ring.
+    std::unique_ptr<CaptureRing> ring_;
+    std::unique_ptr<CaptureStream> stream_;
+    std::thread ioThread_;
+    /// What events are posted to; they are forgotten with it. Main thread.
+    std::unique_ptr<QObject> mailbox_ = std::make_unique<QObject>();
+};
+
+} // namespace Platform

@@ -1,0 +1,238 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Audio/AudioHardware.h"
+
+#include "tests/support/PrivateAudioSession.h"
+#include "tests/support/TestSource.h"
+#include "tests/support/UnitCapture.h"
+#include "tests/support/WaitFor.h"
+
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSignalSpy>
+
+using namespace Platform;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class AudioHardwareTest : public testing::Test {
+protected:
+    PrivateAudioSession& session_ = PrivateAudioSession::shared();
+    std::unique_ptr<AudioHardware> hardware_ = createAudioHardware();
+};
+
+QString uidOf(AudioHardware& hardware, AudioObjectID device) {
+    QString uid;
+    EXPECT_EQ(hardware.getDeviceUID(device, uid), noErr);
+    return uid;
+}
+
+/// What the server itself says, asked with a tool of its own.
+QByteArray asked(const QString& program, const QStringList& arguments) {
+    QProcess process;
+    process.start(program, arguments);
+    process.waitForFinished(10000);
+    return process.readAllStandardOutput();
+}
+
+} // namespace
+
+TEST_F(AudioHardwareTest, KnowsTheDevicesWhenItIsFirstAsked) {
+    EXPECT_TRUE(hardware_->connected());
+    EXPECT_NE(deviceNamed(*hardware_, u"Silent Output"_s), 0u);
+}
+
+TEST_F(AudioHardwareTest, ListsADeviceThatComesAndForgetsOneThatGoes) {
+    QSignalSpy changed(hardware_.get(), &AudioHardware::devicesChanged);
+    TestSource source({.name = "test.mic", .description = "Test Microphone"});
+    ASSERT_TRUE(source.start());
+    const auto device = waitForDevice(*hardware_, u"Test Microphone"_s);
+    ASSERT_NE(device, 0u);
+    EXPECT_TRUE(waitFor([&] { return changed.count() > 0; }));
+    changed.clear();
+    source.remove();
+    EXPECT_TRUE(waitFor([&] { return deviceNamed(*hardware_, u"Test Microphone"_s) == 0; }));
+    EXPECT_TRUE(waitFor([&] { return changed.count() > 0; }));
+    QString name = u"untouched"_s;
+    EXPECT_NE(hardware_->getDeviceName(device, name), noErr);
+    EXPECT_EQ(name, u"untouched"_s);
+}
+
+TEST_F(AudioHardwareTest, ListsDevicesInTheOrderOfTheirFirstAppearance) {
+    TestSource first({.name = "test.order.z", .description = "Order Z"});
+    TestSource second({.name = "test.order.a", .description = "Order A"});
+    ASSERT_TRUE(first.start());
+    const auto one = waitForDevice(*hardware_, u"Order Z"_s);
+    ASSERT_TRUE(second.start());
+    const auto two = waitForDevice(*hardware_, u"Order A"_s);
+    first.remove();
+    ASSERT_TRUE(waitFor([&] { return deviceNamed(*hardware_, u"Order Z"_s) == 0; }));
+    ASSERT_TRUE(first.start());
+    EXPECT_EQ(waitForDevice(*hardware_, u"Order Z"_s), one);
+    const auto devices = hardware_->devices();
+    EXPECT_LT(std::ranges::find(devices, one), std::ranges::find(devices, two));
+}
+
+TEST_F(AudioHardwareTest, GivesAReturningNameItsNumberBackAndNobodyElses) {
+    TestSource first({.name = "test.return.one", .description = "Return One"});
+    ASSERT_TRUE(first.start());
+    const auto one = waitForDevice(*hardware_, u"Return One"_s);
+    first.remove();
+    ASSERT_TRUE(waitFor([&] { return deviceNamed(*hardware_, u"Return One"_s) == 0; }));
+    // The server gives the next node the number of the one that left.
+    TestSource second({.name = "test.return.two", .description = "Return Two"});
+    ASSERT_TRUE(second.start());
+    const auto two = waitForDevice(*hardware_, u"Return Two"_s);
+    EXPECT_NE(two, one);
+    ASSERT_TRUE(first.start());
+    EXPECT_EQ(waitForDevice(*hardware_, u"Return One"_s), one);
+    EXPECT_EQ(deviceNamed(*hardware_, u"Return Two"_s), two);
+}
+
+TEST_F(AudioHardwareTest, TellsTwoDevicesOfOneNameApart) {
+    TestSource first({.name = "test.twin", .description = "Twin"});
+    TestSource second({.name = "test.twin", .description = "Other Twin"});
+    ASSERT_TRUE(first.start());
+    ASSERT_TRUE(second.start());
+    const auto one = waitForDevice(*hardware_, u"Twin"_s);
+    const auto two = waitForDevice(*hardware_, u"Other Twin"_s);
+    EXPECT_NE(one, two);
+}
+
+TEST_F(AudioHardwareTest, MakesUidsOfTheNameAndItsHash) {
+    TestSource first({.name = "test.uid", .description = "Uid Short"});
+    TestSource second({.name = "test.uid.longer", .description = "Uid Long"});
+    ASSERT_TRUE(first.start());
+    ASSERT_TRUE(second.start());
+    const QString shortUid = uidOf(*hardware_, waitForDevice(*hardware_, u"Uid Short"_s));
+    const QString longUid = uidOf(*hardware_, waitForDevice(*hardware_, u"Uid Long"_s));
+    static const QRegularExpression pattern(u"^test\\.uid:[0-9a-f]{8}$"_s);
+    EXPECT_TRUE(pattern.match(shortUid).hasMatch()) << shortUid.toStdString();
+    EXPECT_TRUE(longUid.startsWith(u"test.uid.longer:"_s));
+    EXPECT_NE(shortUid.section(u':', 1), longUid.section(u':', 1));
+}
+
+TEST_F(AudioHardwareTest, CountsCapturePortsButNoMonitors) {
+    TestSource source({.name = "test.four", .description = "Four Channels", .channels = 4});
+    ASSERT_TRUE(source.start());
+    const auto input = waitForDevice(*hardware_, u"Four Channels"_s);
+    const auto output = waitForDevice(*hardware_, u"Silent Output"_s);
+    std::uint32_t size = 256;
+    ASSERT_EQ(hardware_->getStreamsDataSize(input, AudioHardware::Scope::Input, size), noErr);
+    EXPECT_EQ(size, 16u);
+    ASSERT_EQ(hardware_->getStreamsDataSize(input, AudioHardware::Scope::Output, size), noErr);
+    EXPECT_EQ(size, 0u);
+    ASSERT_EQ(hardware_->getStreamsDataSize(output, AudioHardware::Scope::Input, size), noErr);
+    EXPECT_EQ(size, 0u);
+    ASSERT_EQ(hardware_->getStreamsDataSize(output, AudioHardware::Scope::Output, size), noErr);
+    EXPECT_EQ(size, 8u);
+    size = 256;
+    EXPECT_NE(hardware_->getStreamsDataSize(0xFFFFFF, AudioHardware::Scope::Input, size), noErr);
+    EXPECT_EQ(size, 256u);
+}
+
+TEST_F(AudioHardwareTest, KnowsRateAndChannelsBeforeADeviceWasEverOpened) {
+    TestSource mono({.name = "test.mono", .description = "Mono 44", .rate = 44100, .channels = 1});
+    TestSource six({.name = "test.six", .description = "Six 96", .rate = 96000, .channels = 6});
+    ASSERT_TRUE(mono.start());
+    ASSERT_TRUE(six.start());
+    double rate = 0;
+    std::uint32_t channels = 0;
+    ASSERT_EQ(hardware_->getInputFormat(waitForDevice(*hardware_, u"Mono 44"_s), rate, channels), noErr);
+    EXPECT_EQ(rate, 44100);
+    EXPECT_EQ(channels, 1u);
+    ASSERT_EQ(hardware_->getInputFormat(waitForDevice(*hardware_, u"Six 96"_s), rate, channels), noErr);
+    EXPECT_EQ(rate, 96000);
+    EXPECT_EQ(channels, 6u);
+    EXPECT_NE(hardware_->getInputFormat(waitForDevice(*hardware_, u"Silent Output"_s), rate, channels), noErr);
+}
+
+TEST_F(AudioHardwareTest, SetsVolumeAndMuteOfTheDeviceItself) {
+    TestSource source({.name = "test.volume", .description = "Volume Test"});
+    ASSERT_TRUE(source.start());
+    const auto device = waitForDevice(*hardware_, u"Volume Test"_s);
+    float volume = 0;
+    ASSERT_TRUE(waitFor([&] { return hardware_->getVolumeScalar(device, 1, volume) == noErr; }));
+    ASSERT_EQ(hardware_->setVolumeScalar(device, 1, 0.25f), noErr);
+    ASSERT_EQ(hardware_->setVolumeScalar(device, 2, 0.5f), noErr);
+    ASSERT_EQ(hardware_->setMute(device, 2, true), noErr);
+    EXPECT_NE(hardware_->setVolumeScalar(device, 3, 1.0f), noErr);
+    EXPECT_NE(hardware_->setVolumeScalar(device, 0, 1.0f), noErr);
+    // Another look at the server must find them there.
+    EXPECT_TRUE(waitFor([&] {
+        const QByteArray props = asked(u"pw-dump"_s, {u"test.volume"_s}).simplified();
+        return props.contains("\"channelVolumes\": [ 0.250000, 0.500000 ]") && props.contains("\"mute\": true");
+    })) << asked(u"pw-dump"_s, {u"test.volume"_s}).toStdString();
+    bool mute = false;
+    EXPECT_EQ(hardware_->getMute(device, 1, mute), noErr);
+    EXPECT_TRUE(mute);
+    ASSERT_EQ(hardware_->getVolumeScalar(device, 2, volume), noErr);
+    EXPECT_FLOAT_EQ(volume, 0.5f);
+}
+
+TEST_F(AudioHardwareTest, SeesAVolumeThatSomebodyElseSet) {
+    TestSource source({.name = "test.other", .description = "Others Volume"});
+    ASSERT_TRUE(source.start());
+    const auto device = waitForDevice(*hardware_, u"Others Volume"_s);
+    float volume = 0;
+    ASSERT_TRUE(waitFor([&] { return hardware_->getVolumeScalar(device, 1, volume) == noErr; }));
+    asked(u"pw-cli"_s, {u"set-param"_s, u"test.other"_s, u"Props"_s, u"{ channelVolumes: [ 0.125, 0.75 ] }"_s});
+    EXPECT_TRUE(waitFor([&] { return hardware_->getVolumeScalar(device, 2, volume) == noErr && volume == 0.75f; }));
+}
+
+TEST_F(AudioHardwareTest, FollowsTheDefaultOutput) {
+    AudioObjectID device = 0;
+    ASSERT_TRUE(waitFor([&] { return hardware_->getDefaultOutputDevice(device) == noErr; }));
+    EXPECT_EQ(device, deviceNamed(*hardware_, u"Silent Output"_s));
+    QSignalSpy changed(hardware_.get(), &AudioHardware::defaultOutputDeviceChanged);
+    QProcess second;
+    second.start(u"pw-cli"_s, QStringList());
+    second.write("create-node adapter { factory.name=support.null-audio-sink node.name=test.sink "
+                 "node.description=\"Second Output\" media.class=Audio/Sink audio.position=[FL FR] "
+                 "priority.session=5000 }\n");
+    EXPECT_TRUE(waitFor([&] {
+        return hardware_->getDefaultOutputDevice(device) == noErr &&
+               device == deviceNamed(*hardware_, u"Second Output"_s);
+    }));
+    EXPECT_TRUE(waitFor([&] { return changed.count() > 0; }));
+    second.closeWriteChannel();
+    second.terminate();
+    second.waitForFinished();
+    EXPECT_TRUE(waitFor([&] {
+        return hardware_->getDefaultOutputDevice(device) == noErr &&
+               device == deviceNamed(*hardware_, u"Silent Output"_s);
+    }));
+}
+
+TEST_F(AudioHardwareTest, LosesTheServerAndFindsItAgain) {
+    const auto before = deviceNamed(*hardware_, u"Silent Output"_s);
+    QSignalSpy connected(hardware_.get(), &AudioHardware::connectedChanged);
+    ASSERT_TRUE(session_.stopServer());
+    EXPECT_TRUE(waitFor([&] { return !hardware_->connected(); }));
+    EXPECT_TRUE(waitFor([&] { return connected.count() == 1; }));
+    EXPECT_TRUE(hardware_->devices().empty());
+    EXPECT_FALSE(hardware_->lastError().isEmpty());
+    AudioObjectID device = 0;
+    EXPECT_NE(hardware_->getDefaultOutputDevice(device), noErr);
+    ASSERT_TRUE(session_.startServer());
+    EXPECT_TRUE(waitFor([&] { return deviceNamed(*hardware_, u"Silent Output"_s) == before; }));
+    EXPECT_TRUE(waitFor([&] { return connected.count() == 2; }));
+    EXPECT_TRUE(hardware_->lastError().isEmpty());
+}
+
+TEST(AudioHardwareWithoutServer, HasNoDevicesAndSaysWhy) {
+    PrivateAudioSession::end();
+    const QTemporaryDir bare;
+    qputenv("PIPEWIRE_RUNTIME_DIR", bare.path().toLocal8Bit());
+    {
+        const auto hardware = createAudioHardware();
+        QElapsedTimer timer;
+        timer.start();
+        EXPECT_TRUE(hardware->devices().empty());
+        EXPECT_LT(timer.elapsed(), 500);
+        EXPECT_FALSE(hardware->connected());
+        EXPECT_TRUE(hardware->lastError().startsWith(u"no sound server answers"_s));
+    }
+    qunsetenv("PIPEWIRE_RUNTIME_DIR");
+}

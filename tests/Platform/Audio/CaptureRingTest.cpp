@@ -1,0 +1,281 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Audio/CaptureRing.h"
+
+#include "Platform/Audio/CycleAssembler.h"
+#include "tests/support/TestSource.h"
+#include "tests/support/UnitCapture.h"
+
+#include <array>
+#include <atomic>
+#include <thread>
+#include <vector>
+
+using namespace Platform;
+
+namespace {
+
+/// Plays a ramp into a ring, block by block; the test is its audio thread.
+class Producer {
+public:
+    explicit Producer(CaptureRing& ring) : ring_(ring), samples_(ring.channels()), pointers_(ring.channels()) {}
+
+    bool push(std::uint32_t frames, std::uint64_t lostBefore = 0, bool startsAnew = false) {
+        position_ += lostBefore;
+        for (std::uint32_t c = 0; c < ring_.channels(); ++c) {
+            samples_[c].resize(frames);
+            for (std::uint32_t i = 0; i < frames; ++i)
+                samples_[c][i] = Signal::ramp(position_ + i, c);
+            pointers_[c] = samples_[c].data();
+        }
+        const bool stored = ring_.pushRt(
+            pointers_,
+            {.hostTime = position_ * 1000, .lostBefore = lostBefore, .frames = frames, .startsAnew = startsAnew});
+        position_ += frames;
+        return stored;
+    }
+
+private:
+    CaptureRing& ring_;
+    std::vector<std::vector<float>> samples_;
+    std::vector<const float*> pointers_;
+    std::uint64_t position_ = 1000; // so that the first values are not taken for silence
+};
+
+/// At a million frames a second a frame lasts a microsecond: host times read as frame numbers.
+constexpr double rate = 1e6;
+
+std::vector<float> copyOf(const CycleAssembler& assembler, const CaptureCycle& cycle, std::uint32_t channel = 0) {
+    return {assembler.channel(channel), assembler.channel(channel) + cycle.frames};
+}
+
+} // namespace
+
+TEST(CaptureRing, GivesBackWhatItTookAcrossItsEnd) {
+    CaptureRing ring(2, 256);
+    Producer producer(ring);
+    std::vector<float> left;
+    std::vector<float> right;
+    for (int i = 0; i < 40; ++i) {
+        ASSERT_TRUE(producer.push(100));
+        std::array<float, 100> a{};
+        std::array<float, 100> b{};
+        const std::array<float*, 2> out = {a.data(), b.data()};
+        ASSERT_EQ(ring.take(out, 100), 100u);
+        left.insert(left.end(), a.begin(), a.end());
+        right.insert(right.end(), b.begin(), b.end());
+    }
+    EXPECT_TRUE(isUnbrokenRamp(left, 0));
+    EXPECT_TRUE(isUnbrokenRamp(right, 1));
+    EXPECT_EQ(ring.lostFrames(), 0u);
+}
+
+TEST(CaptureRing, TakesNothingOfABlockThatDoesNotFitAndCountsIt) {
+    CaptureRing ring(1, 256);
+    Producer producer(ring);
+    EXPECT_TRUE(producer.push(200));
+    EXPECT_FALSE(producer.push(100));
+    EXPECT_EQ(ring.lostFrames(), 100u);
+    EXPECT_TRUE(producer.push(56));
+    EXPECT_EQ(ring.lostFrames(), 100u);
+}
+
+TEST(CaptureRing, TellsWithTheNextBlockHowMuchIsMissingBeforeIt) {
+    CaptureRing ring(1, 256);
+    Producer producer(ring);
+    ASSERT_TRUE(producer.push(256));
+    ASSERT_FALSE(producer.push(60));
+    ASSERT_FALSE(producer.push(40));
+    std::array<float, 256> samples{};
+    const std::array<float*, 1> out = {samples.data()};
+    ASSERT_EQ(ring.take(out, 256), 256u);
+    ASSERT_TRUE(producer.push(10, 7));
+    CaptureBlock block;
+    std::uint32_t taken = 0;
+    ASSERT_TRUE(ring.front(block, taken));
+    EXPECT_EQ(block.lostBefore, 107u);
+    EXPECT_EQ(ring.lostFrames(), 107u);
+}
+
+TEST(CaptureRing, FullOfManySmallBlocksLosesCountedFrames) {
+    CaptureRing ring(1, 1024);
+    Producer producer(ring);
+    std::uint64_t stored = 0;
+    for (int i = 0; i < 1000; ++i)
+        stored += producer.push(1) ? 1 : 0;
+    EXPECT_EQ(stored + ring.lostFrames(), 1000u);
+    EXPECT_GT(ring.lostFrames(), 0u);
+}
+
+TEST(CaptureRing, AMissingChannelIsSilent) {
+    CaptureRing ring(2, 64);
+    const std::array<float, 4> samples = {1, 1, 1, 1};
+    const std::array<const float*, 2> pointers = {samples.data(), nullptr};
+    ASSERT_TRUE(ring.pushRt(pointers, {.frames = 4}));
+    std::array<float, 4> a{};
+    std::array<float, 4> b = {9, 9, 9, 9};
+    const std::array<float*, 2> out = {a.data(), b.data()};
+    ASSERT_EQ(ring.take(out, 4), 4u);
+    EXPECT_EQ(a[3], 1.0f);
+    EXPECT_EQ(b[3], 0.0f);
+}
+
+TEST(CaptureRing, LosesAndRepeatsNothingBetweenTwoThreads) {
+    CaptureRing ring(2, 4096);
+    constexpr std::uint64_t total = 400'000;
+    std::atomic<std::uint64_t> consumed{0};
+    std::thread audio([&] {
+        Producer producer(ring);
+        std::uint64_t pushed = 0;
+        for (std::uint32_t size = 1; pushed < total; size = size % 700 + 13) {
+            // A real source keeps its pace; here the reader sets it, so that nothing may be lost.
+            while (pushed + size > consumed.load(std::memory_order_acquire) + 4096)
+                std::this_thread::yield();
+            ASSERT_TRUE(producer.push(size));
+            pushed += size;
+        }
+    });
+    CycleAssembler assembler(ring, rate, 512);
+    std::vector<float> left;
+    std::vector<float> right;
+    while (left.size() + 512 <= total) {
+        CaptureCycle cycle;
+        if (!assembler.next(cycle, false)) {
+            consumed.store(left.size(), std::memory_order_release);
+            std::this_thread::yield();
+            continue;
+        }
+        const auto a = copyOf(assembler, cycle, 0);
+        const auto b = copyOf(assembler, cycle, 1);
+        left.insert(left.end(), a.begin(), a.end());
+        right.insert(right.end(), b.begin(), b.end());
+        consumed.store(left.size(), std::memory_order_release);
+    }
+    audio.join();
+    EXPECT_TRUE(isUnbrokenRamp(left, 0));
+    EXPECT_TRUE(isUnbrokenRamp(right, 1));
+    EXPECT_EQ(ring.lostFrames(), 0u);
+}
+
+TEST(CaptureRing, CountsEveryFrameThatASlowReaderMisses) {
+    CaptureRing ring(1, 2048);
+    constexpr std::uint64_t total = 300'000;
+    std::atomic<bool> done{false};
+    std::thread audio([&] {
+        Producer producer(ring);
+        for (std::uint64_t pushed = 0; pushed < total; pushed += 100)
+            (void)producer.push(100);
+        done = true;
+    });
+    CycleAssembler assembler(ring, rate, 256);
+    std::uint64_t received = 0;
+    for (bool last = false; !last;) {
+        last = done;
+        CaptureCycle cycle;
+        while (assembler.next(cycle, false, last))
+            received += cycle.frames;
+        std::this_thread::yield();
+    }
+    audio.join();
+    EXPECT_EQ(received + ring.lostFrames(), total);
+}
+
+TEST(CycleAssembler, MakesCyclesOfOneSizeFromBlocksOfAny) {
+    CaptureRing ring(1, 4096);
+    Producer producer(ring);
+    CycleAssembler assembler(ring, rate, 256);
+    std::vector<float> samples;
+    std::uint64_t sampleTime = 0;
+    for (const std::uint32_t size : {100u, 100u, 100u, 941u, 1u, 7u, 512u, 912u}) {
+        ASSERT_TRUE(producer.push(size));
+        CaptureCycle cycle;
+        while (assembler.next(cycle, false)) {
+            EXPECT_EQ(cycle.frames, 256u);
+            EXPECT_EQ(cycle.sampleTime, sampleTime);
+            EXPECT_EQ(cycle.hostTime, (1000 + sampleTime) * 1000);
+            sampleTime += cycle.frames;
+            const auto part = copyOf(assembler, cycle);
+            samples.insert(samples.end(), part.begin(), part.end());
+        }
+    }
+    EXPECT_EQ(samples.size(), 2673u / 256 * 256);
+    EXPECT_TRUE(isUnbrokenRamp(samples, 0));
+}
+
+TEST(CycleAssembler, EndsACycleEarlyWhereFramesWereLost) {
+    CaptureRing ring(1, 4096);
+    Producer producer(ring);
+    CycleAssembler assembler(ring, rate, 256);
+    ASSERT_TRUE(producer.push(300));
+    ASSERT_TRUE(producer.push(300, 50));
+    CaptureCycle cycle;
+    ASSERT_TRUE(assembler.next(cycle, false));
+    EXPECT_EQ(cycle.frames, 256u);
+    ASSERT_TRUE(assembler.next(cycle, false));
+    EXPECT_EQ(cycle.frames, 44u);
+    ASSERT_TRUE(assembler.next(cycle, false));
+    EXPECT_EQ(cycle.frames, 256u);
+    EXPECT_EQ(cycle.sampleTime, 350u);
+    EXPECT_EQ(cycle.hostTime, 1'350'000u);
+    EXPECT_FALSE(assembler.next(cycle, false));
+}
+
+TEST(CycleAssembler, TurnsALostStretchIntoSilenceOfEqualLength) {
+    CaptureRing ring(1, 4096);
+    Producer producer(ring);
+    CycleAssembler assembler(ring, rate, 256);
+    ASSERT_TRUE(producer.push(300));
+    ASSERT_TRUE(producer.push(300, 1000));
+    std::vector<float> samples;
+    CaptureCycle cycle;
+    while (assembler.next(cycle, true)) {
+        EXPECT_EQ(cycle.frames, 256u);
+        EXPECT_EQ(cycle.hostTime, (1000 + samples.size()) * 1000);
+        EXPECT_EQ(cycle.sampleTime, samples.size());
+        const auto part = copyOf(assembler, cycle);
+        samples.insert(samples.end(), part.begin(), part.end());
+    }
+    ASSERT_EQ(samples.size(), 1536u);
+    for (std::uint64_t i = 0; i < samples.size(); ++i)
+        ASSERT_EQ(samples[i], i >= 300 && i < 1300 ? 0.0f : Signal::ramp(1000 + i, 0)) << i;
+}
+
+TEST(CycleAssembler, StartsTimeAnewWithANewConnection) {
+    CaptureRing ring(1, 4096);
+    Producer producer(ring);
+    CycleAssembler assembler(ring, rate, 256);
+    ASSERT_TRUE(producer.push(100));
+    ASSERT_TRUE(producer.push(256, 500, true));
+    CaptureCycle cycle;
+    ASSERT_TRUE(assembler.next(cycle, false));
+    EXPECT_EQ(cycle.frames, 100u);
+    ASSERT_TRUE(assembler.next(cycle, false));
+    EXPECT_EQ(cycle.frames, 256u);
+    EXPECT_EQ(cycle.hostTime, 1'600'000u);
+}
+
+TEST(CycleAssembler, DeliversAPartWhenTheRestWillNotCome) {
+    CaptureRing ring(1, 4096);
+    Producer producer(ring);
+    CycleAssembler assembler(ring, rate, 256);
+    ASSERT_TRUE(producer.push(100));
+    CaptureCycle cycle;
+    EXPECT_FALSE(assembler.next(cycle, false));
+    ASSERT_TRUE(assembler.next(cycle, false, true));
+    EXPECT_EQ(cycle.frames, 100u);
+    EXPECT_FALSE(assembler.next(cycle, false, true));
+}
+
+TEST(CycleAssembler, FillsAHoleThatIsLongerThanTheRing) {
+    CaptureRing ring(2, 256);
+    Producer producer(ring);
+    CycleAssembler assembler(ring, rate, 64);
+    ASSERT_TRUE(producer.push(10));
+    ASSERT_TRUE(producer.push(10, 100'000, true));
+    std::uint64_t frames = 0;
+    CaptureCycle cycle;
+    while (assembler.next(cycle, true, true))
+        frames += cycle.frames;
+    EXPECT_EQ(frames, 100'020u);
+    EXPECT_EQ(ring.lostFrames(), 100'000u);
+}

@@ -1,0 +1,425 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Audio/InputUnit.h"
+
+#include "tests/support/PrivateAudioSession.h"
+#include "tests/support/TestSource.h"
+#include "tests/support/UnitCapture.h"
+#include "tests/support/WaitFor.h"
+
+#include <QElapsedTimer>
+#include <atomic>
+#include <chrono>
+#include <cmath>
+#include <thread>
+
+using namespace Platform;
+using namespace Qt::StringLiterals;
+using Event = InputUnit::Event;
+
+namespace {
+
+class InputUnitTest : public testing::Test {
+protected:
+    AudioObjectID add(TestSource& source) {
+        EXPECT_TRUE(source.start());
+        return waitForDevice(*hardware_, QString::fromStdString(source.options().description));
+    }
+    [[nodiscard]] static bool captured(const UnitCapture& capture, double seconds) {
+        return waitFor([&] { return double(capture.frames()) >= seconds * capture.sampleRate(); },
+                       int(seconds * 1000) + 20000);
+    }
+
+    PrivateAudioSession& session_ = PrivateAudioSession::shared();
+    std::unique_ptr<AudioHardware> hardware_ = createAudioHardware();
+};
+
+/// Keeps processors busy beside a capture.
+class BusyLoops {
+public:
+    explicit BusyLoops(int count) {
+        for (int i = 0; i < count; ++i)
+            threads_.emplace_back([this] {
+                while (!end_)
+                    spin_.fetch_add(1, std::memory_order_relaxed);
+            });
+    }
+    ~BusyLoops() {
+        end_ = true;
+        for (auto& each : threads_)
+            each.join();
+    }
+
+private:
+    std::atomic<bool> end_{false};
+    std::atomic<unsigned> spin_{0};
+    std::vector<std::thread> threads_;
+};
+
+/// The ramp in two pieces, with a step where the hole is.
+void expectTwoRamps(const std::vector<float>& samples, std::size_t& secondAt) {
+    secondAt = 0;
+    for (std::size_t i = 1; i < samples.size() && secondAt == 0; ++i)
+        if (samples[i - 1] != 0 && samples[i] != Signal::ramp(Signal::rampFrame(samples[i - 1], 0) + 1, 0))
+            secondAt = i;
+    ASSERT_GT(secondAt, 0u) << "there is no hole";
+    EXPECT_TRUE(isUnbrokenRamp({samples.begin(), samples.begin() + std::ptrdiff_t(secondAt)}, 0));
+}
+
+} // namespace
+
+TEST_F(InputUnitTest, DeliversEverySampleAsItWasPlayedAt44100) {
+    TestSource source({.description = "Ramp 44", .rate = 44100, .ownClock = true});
+    UnitCapture capture(*hardware_, add(source));
+    ASSERT_TRUE(capture.start());
+    EXPECT_EQ(capture.sampleRate(), 44100);
+    ASSERT_TRUE(captured(capture, 3));
+    capture.stop();
+    EXPECT_TRUE(isUnbrokenRamp(capture.samples(0), 0));
+    EXPECT_TRUE(isUnbrokenRamp(capture.samples(1), 1));
+    EXPECT_EQ(capture.unit().lostFrames(), 0u);
+}
+
+TEST_F(InputUnitTest, DeliversEverySampleOfADeviceOnTheServersClockAt44100) {
+    TestSource source({.description = "Ramp 44 follower", .rate = 44100});
+    UnitCapture capture(*hardware_, add(source));
+    ASSERT_TRUE(capture.start());
+    ASSERT_TRUE(captured(capture, 1));
+    capture.stop();
+    EXPECT_TRUE(isUnbrokenRamp(capture.samples(0), 0));
+    EXPECT_EQ(capture.unit().lostFrames(), 0u);
+}
+
+TEST_F(InputUnitTest, DeliversEverySampleAt48000BesideFourBusyLoops) {
+    const BusyLoops busy(4);
+    TestSource source({.description = "Ramp 48", .ownClock = true});
+    UnitCapture capture(*hardware_, add(source));
+    ASSERT_TRUE(capture.start());
+    ASSERT_TRUE(captured(capture, 5));
+    capture.stop();
+    EXPECT_TRUE(isUnbrokenRamp(capture.samples(0), 0));
+    EXPECT_TRUE(isUnbrokenRamp(capture.samples(1), 1));
+    EXPECT_EQ(capture.unit().lostFrames(), 0u);
+}
+
+TEST_F(InputUnitTest, CutsWhatArrivesIntoCyclesOfTheSizeThatItNamed) {
+    TestSource source({.description = "Odd cycles", .ownClock = true, .cycle = 441});
+    UnitCapture capture(*hardware_, add(source));
+    ASSERT_TRUE(capture.start());
+    ASSERT_TRUE(captured(capture, 1));
+    capture.stop();
+    for (const auto& each : capture.cycles())
+        ASSERT_EQ(each.frames, capture.cycleFrames());
+    EXPECT_TRUE(isUnbrokenRamp(capture.samples(0), 0));
+}
+
+TEST_F(InputUnitTest, StampsEachCycleWithTheTimeOfItsCapture) {
+    TestSource source({.description = "Stamped", .ownClock = true});
+    UnitCapture capture(*hardware_, add(source));
+    ASSERT_TRUE(capture.start());
+    ASSERT_TRUE(captured(capture, 1));
+    // A stall of the I/O thread must not show in the times.
+    capture.unit().holdCycles();
+    const auto before = source.position();
+    ASSERT_TRUE(waitFor([&] { return source.position() > before + 24000; }));
+    capture.unit().releaseCycles();
+    ASSERT_TRUE(captured(capture, 2));
+    capture.stop();
+    const auto cycles = capture.cycles();
+    const auto now = std::uint64_t(std::chrono::steady_clock::now().time_since_epoch().count());
+    const double seconds = double(cycles.back().firstFrame) / capture.sampleRate();
+    EXPECT_NEAR(double(cycles.back().hostTime - cycles.front().hostTime) * 1e-9, seconds, 0.001);
+    EXPECT_LT(cycles.back().hostTime, now);
+    EXPECT_LT(now - cycles.front().hostTime, 20'000'000'000u);
+    for (std::size_t i = 0; i < cycles.size(); ++i) {
+        EXPECT_EQ(cycles[i].scopeTime, cycles[i].hostTime);
+        EXPECT_EQ(cycles[i].sampleTime, double(cycles[i].firstFrame));
+        if (i > 0) {
+            EXPECT_NEAR(double(cycles[i].hostTime - cycles[i - 1].hostTime) * 1e-9,
+                        cycles[i - 1].frames / capture.sampleRate(), 0.0005);
+        }
+    }
+}
+
+TEST_F(InputUnitTest, ShowsTheDriftBetweenTwoClocksInTheCaptureTimes) {
+    TestSource right({.name = "test.clock.right", .description = "Right clock", .ownClock = true});
+    TestSource fast({.name = "test.clock.fast", .description = "Fast clock", .ownClock = true, .clockErrorPpm = 1000});
+    UnitCapture one(*hardware_, add(right));
+    UnitCapture two(*hardware_, add(fast));
+    ASSERT_TRUE(one.start());
+    ASSERT_TRUE(two.start());
+    ASSERT_TRUE(captured(one, 2) && captured(two, 2));
+    one.stop();
+    two.stop();
+    const auto measuredRate = [](const UnitCapture& capture) {
+        const auto cycles = capture.cycles();
+        return double(cycles.back().firstFrame - cycles.front().firstFrame) /
+               (double(cycles.back().hostTime - cycles.front().hostTime) * 1e-9);
+    };
+    EXPECT_NEAR(measuredRate(one), 48000, 2);
+    EXPECT_NEAR(measuredRate(two), 48048, 2);
+    EXPECT_TRUE(isUnbrokenRamp(one.samples(0), 0));
+    EXPECT_TRUE(isUnbrokenRamp(two.samples(0), 0));
+}
+
+TEST_F(InputUnitTest, GivesAMonoDeviceToBothChannels) {
+    TestSource source({.description = "Mono", .channels = 1, .ownClock = true});
+    UnitCapture capture(*hardware_, add(source), 2);
+    ASSERT_TRUE(capture.start());
+    ASSERT_TRUE(captured(capture, 1));
+    capture.stop();
+    EXPECT_TRUE(isUnbrokenRamp(capture.samples(0), 0));
+    EXPECT_EQ(capture.samples(0), capture.samples(1));
+}
+
+TEST_F(InputUnitTest, DeliversAllChannelsOfADeviceWithMoreThanTwo) {
+    TestSource source({.description = "Six channels", .channels = 6, .ownClock = true});
+    UnitCapture capture(*hardware_, add(source));
+    ASSERT_TRUE(capture.start());
+    ASSERT_TRUE(captured(capture, 1));
+    capture.stop();
+    for (std::uint32_t i = 0; i < 6; ++i)
+        EXPECT_TRUE(isUnbrokenRamp(capture.samples(i), i));
+}
+
+TEST_F(InputUnitTest, FillsInWhatWasLostBetweenLosingADeviceAndItsReturn) {
+    TestSource source({.name = "test.unplug", .description = "Unplugged", .ownClock = true});
+    UnitCapture capture(*hardware_, add(source));
+    ASSERT_TRUE(capture.start());
+    ASSERT_TRUE(captured(capture, 0.5));
+    source.remove();
+    ASSERT_TRUE(waitFor([&] { return capture.heard(Event::DeviceLost); }));
+    const auto framesBefore = capture.frames();
+    QElapsedTimer away;
+    away.start();
+    ASSERT_TRUE(waitFor([&] { return away.elapsed() > 300; }));
+    ASSERT_TRUE(source.start());
+    ASSERT_TRUE(waitFor([&] { return capture.heard(Event::DeviceReturned); }));
+    ASSERT_TRUE(waitFor([&] { return capture.frames() > framesBefore + 24000; }));
+    capture.stop();
+    EXPECT_TRUE(capture.heard(Event::FramesLost));
+    const auto samples = capture.samples(0);
+    std::size_t secondAt = 0;
+    expectTwoRamps(samples, secondAt);
+    EXPECT_TRUE(isUnbrokenRamp({samples.begin() + std::ptrdiff_t(secondAt), samples.end()}, 0));
+    // Both the count of lost frames and the capture times tell how long it was away.
+    const double lost = double(capture.unit().lostFrames()) / capture.sampleRate();
+    EXPECT_GT(lost, 0.3);
+    const auto cycles = capture.cycles();
+    const double elapsed = double(cycles.back().hostTime - cycles.front().hostTime) * 1e-9;
+    EXPECT_NEAR(elapsed, double(cycles.back().firstFrame) / capture.sampleRate() + lost, 0.005);
+}
+
+TEST_F(InputUnitTest, TurnsTheTimeWithoutADeviceIntoSilenceWhenAsked) {
+    TestSource source({.name = "test.filled", .description = "Filled", .ownClock = true});
+    UnitCapture capture(*hardware_, add(source));
+    ASSERT_TRUE(capture.start());
+    capture.unit().setFillLostFrames(true);
+    ASSERT_TRUE(captured(capture, 0.5));
+    source.remove();
+    ASSERT_TRUE(waitFor([&] { return capture.heard(Event::DeviceLost); }));
+    const auto framesBefore = capture.frames();
+    ASSERT_TRUE(source.start());
+    ASSERT_TRUE(waitFor([&] { return capture.frames() > framesBefore + 48000; }));
+    capture.stop();
+    EXPECT_GT(capture.unit().lostFrames(), 0u);
+    const auto cycles = capture.cycles();
+    const double elapsed = double(cycles.back().hostTime - cycles.front().hostTime) * 1e-9;
+    EXPECT_NEAR(elapsed, double(cycles.back().firstFrame) / capture.sampleRate(), 0.005);
+    const auto samples = capture.samples(0);
+    const auto silent = std::count(samples.begin() + std::ptrdiff_t(framesBefore) - 2048, samples.end(), 0.0f);
+    EXPECT_NEAR(double(silent), double(capture.unit().lostFrames()), 2048);
+}
+
+TEST_F(InputUnitTest, GoesOnWhenTheServerCameBack) {
+    TestSource source({.name = "test.server", .description = "Server restarts", .ownClock = true});
+    const auto device = add(source);
+    UnitCapture capture(*hardware_, device);
+    ASSERT_TRUE(capture.start());
+    ASSERT_TRUE(captured(capture, 0.5));
+    ASSERT_TRUE(session_.stopServer());
+    ASSERT_TRUE(waitFor([&] { return capture.heard(Event::ServerLost); }));
+    EXPECT_FALSE(capture.heard(Event::DeviceLost));
+    const auto framesBefore = capture.frames();
+    ASSERT_TRUE(session_.startServer());
+    ASSERT_TRUE(source.start());
+    ASSERT_TRUE(waitFor([&] { return capture.frames() > framesBefore + 24000; }));
+    capture.stop();
+    EXPECT_TRUE(capture.heard(Event::ServerReturned));
+    EXPECT_GT(capture.unit().lostFrames(), 0u);
+    const auto samples = capture.samples(0);
+    std::size_t secondAt = 0;
+    expectTwoRamps(samples, secondAt);
+    EXPECT_TRUE(isUnbrokenRamp({samples.begin() + std::ptrdiff_t(secondAt), samples.end()}, 0));
+}
+
+TEST_F(InputUnitTest, KeepsItsRateWhenADeviceReturnsWithAnother) {
+    const auto make = [](std::uint32_t rate, std::uint32_t channels) {
+        return std::make_unique<TestSource>(TestSource::Options{.name = "test.changing",
+                                                                .description = "Changing",
+                                                                .rate = rate,
+                                                                .channels = channels,
+                                                                .content = TestSource::Content::Tone,
+                                                                .frequency = 1000,
+                                                                .ownClock = true});
+    };
+    auto source = make(48000, 2);
+    UnitCapture capture(*hardware_, add(*source));
+    ASSERT_TRUE(capture.start());
+    ASSERT_TRUE(captured(capture, 0.5));
+    source.reset();
+    ASSERT_TRUE(waitFor([&] { return capture.heard(Event::DeviceLost); }));
+    source = make(44100, 1);
+    const auto before = capture.frames();
+    ASSERT_TRUE(source->start());
+    ASSERT_TRUE(waitFor([&] { return capture.frames() > before + 48000; }));
+    capture.stop();
+    // A tone of 1000 Hz crosses zero 2000 times in the last 48000 frames only when they are a second long.
+    const auto samples = capture.samples(0);
+    int crossings = 0;
+    for (std::size_t i = samples.size() - 40000; i < samples.size(); ++i)
+        crossings += (samples[i - 1] < 0) != (samples[i] < 0) ? 1 : 0;
+    EXPECT_NEAR(crossings, 40000 / 24, 3);
+    EXPECT_EQ(capture.samples(1).size(), samples.size());
+    EXPECT_GT(*std::max_element(samples.end() - 40000, samples.end()), 0.2f);
+}
+
+TEST_F(InputUnitTest, FollowsItsDeviceAndNotTheOneThatTookItsPlace) {
+    TestSource source({.name = "test.mine", .description = "Mine", .ownClock = true});
+    UnitCapture capture(*hardware_, add(source));
+    ASSERT_TRUE(capture.start());
+    ASSERT_TRUE(captured(capture, 0.3));
+    source.remove();
+    ASSERT_TRUE(waitFor([&] { return capture.heard(Event::DeviceLost); }));
+    const auto before = capture.frames();
+    TestSource other({.name = "test.not.mine",
+                      .description = "Not mine",
+                      .content = TestSource::Content::Tone,
+                      .ownClock = true,
+                      .sessionPriority = 9000});
+    const auto stranger = add(other);
+    // The stranger runs, so a cycle of it would have come.
+    UnitCapture its(*hardware_, stranger);
+    ASSERT_TRUE(its.start());
+    ASSERT_TRUE(captured(its, 0.3));
+    EXPECT_EQ(capture.frames(), before);
+}
+
+TEST_F(InputUnitTest, RunsNoCycleWhileHeldAndLosesNothing) {
+    TestSource source({.description = "Held", .ownClock = true});
+    UnitCapture capture(*hardware_, add(source));
+    ASSERT_TRUE(capture.start());
+    ASSERT_TRUE(captured(capture, 0.3));
+    capture.unit().holdCycles();
+    capture.unit().holdCycles();
+    const auto held = capture.frames();
+    const auto position = source.position();
+    ASSERT_TRUE(waitFor([&] { return source.position() > position + 48000; }));
+    capture.unit().releaseCycles();
+    EXPECT_EQ(capture.frames(), held);
+    capture.unit().releaseCycles();
+    ASSERT_TRUE(waitFor([&] { return capture.frames() > held + 48000; }));
+    capture.stop();
+    EXPECT_TRUE(isUnbrokenRamp(capture.samples(0), 0));
+    EXPECT_EQ(capture.unit().lostFrames(), 0u);
+}
+
+TEST_F(InputUnitTest, CanBeHeldFromItsOwnCallback) {
+    TestSource source({.description = "Self held", .ownClock = true});
+    UnitCapture capture(*hardware_, add(source));
+    std::atomic<int> holds{0};
+    capture.inCycle = [&] {
+        capture.unit().holdCycles();
+        ++holds;
+        capture.unit().releaseCycles();
+    };
+    ASSERT_TRUE(capture.start());
+    EXPECT_TRUE(waitFor([&] { return holds > 10; }));
+    capture.stop();
+    EXPECT_TRUE(isUnbrokenRamp(capture.samples(0), 0));
+}
+
+TEST_F(InputUnitTest, StopsWhileHeld) {
+    TestSource source({.description = "Stopped held", .ownClock = true});
+    UnitCapture capture(*hardware_, add(source));
+    ASSERT_TRUE(capture.start());
+    ASSERT_TRUE(captured(capture, 0.1));
+    capture.unit().holdCycles();
+    capture.stop();
+    const auto frames = capture.frames();
+    capture.unit().releaseCycles();
+    EXPECT_EQ(capture.frames(), frames);
+}
+
+TEST_F(InputUnitTest, CanBeStartedAgain) {
+    TestSource source({.description = "Again", .ownClock = true});
+    UnitCapture capture(*hardware_, add(source));
+    for (int i = 0; i < 5; ++i) {
+        ASSERT_EQ(i == 0 ? int(bool(capture.start())) : int(capture.unit().start() == noErr), 1);
+        const auto before = capture.frames();
+        ASSERT_TRUE(waitFor([&] { return capture.frames() > before + 4800; }));
+        capture.stop();
+        EXPECT_EQ(capture.unit().lostFrames(), 0u);
+        EXPECT_EQ(capture.cycles().size() > 0, true);
+    }
+}
+
+TEST_F(InputUnitTest, CountsWhatARingThatNobodyEmptiesCannotHold) {
+    TestSource source({.description = "Overflow", .rate = 96000, .ownClock = true});
+    UnitCapture capture(*hardware_, add(source));
+    ASSERT_TRUE(capture.start());
+    ASSERT_TRUE(captured(capture, 0.1));
+    capture.unit().holdCycles();
+    ASSERT_TRUE(waitFor([&] { return capture.unit().lostFrames() > 9600; }, 40000));
+    capture.unit().releaseCycles();
+    const auto frames = capture.frames();
+    EXPECT_TRUE(waitFor([&] { return capture.frames() > frames + 960000; }));
+    EXPECT_TRUE(waitFor([&] { return capture.heard(Event::FramesLost); }));
+    ASSERT_TRUE(
+        waitFor([&] { return capture.cycles().back().sampleTime > double(capture.cycles().back().firstFrame); }));
+    capture.stop();
+    const auto cycles = capture.cycles();
+    EXPECT_EQ(cycles.back().sampleTime - double(cycles.back().firstFrame), double(capture.unit().lostFrames()));
+}
+
+TEST_F(InputUnitTest, RefusesStepsThatCannotBeWithAReason) {
+    bool found = false;
+    const auto unit = hardware_->openOutputUnit(found);
+    ASSERT_TRUE(found && unit);
+    AudioStreamBasicDescription format;
+    std::uint32_t frames = 0;
+    EXPECT_NE(unit->getDeviceFormat(format), noErr);
+    EXPECT_NE(unit->getBufferFrameSize(frames), noErr);
+    EXPECT_NE(unit->initialize(), noErr);
+    EXPECT_NE(unit->start(), noErr);
+    EXPECT_NE(unit->setEnableOutput(true), noErr);
+    EXPECT_NE(unit->setCurrentDevice(0), noErr);
+    EXPECT_NE(unit->setCurrentDevice(deviceNamed(*hardware_, u"Silent Output"_s)), noErr);
+    EXPECT_EQ(unit->lastError(), u"Silent Output has no input"_s);
+    EXPECT_NE(unit->render(nullptr, nullptr, 1, 512, nullptr), noErr);
+    EXPECT_EQ(unit->stop(), noErr);
+}
+
+TEST_F(InputUnitTest, DoesNotStartOnADeviceThatLeft) {
+    TestSource source({.name = "test.left", .description = "Left before"});
+    UnitCapture capture(*hardware_, add(source));
+    ASSERT_TRUE(capture.start());
+    capture.stop();
+    source.remove();
+    ASSERT_TRUE(waitFor([&] { return deviceNamed(*hardware_, u"Left before"_s) == 0; }));
+    EXPECT_NE(capture.unit().start(), noErr);
+    EXPECT_EQ(capture.unit().lastError(), u"the device is not there"_s);
+}
+
+TEST_F(InputUnitTest, KeepsUnityGainWhateverWasRemembered) {
+    // A device at full scale arrives at full scale: nothing between it and the unit has a volume.
+    TestSource source({.description = "Full scale",
+                       .ownClock = true,
+                       .sample = [](std::uint64_t, std::uint32_t channel) { return channel == 0 ? 1.0f : -1.0f; }});
+    UnitCapture capture(*hardware_, add(source));
+    ASSERT_TRUE(capture.start());
+    ASSERT_TRUE(captured(capture, 0.2));
+    capture.stop();
+    EXPECT_EQ(capture.samples(0).back(), 1.0f);
+    EXPECT_EQ(capture.samples(1).back(), -1.0f);
+}
