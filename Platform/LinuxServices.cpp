@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/LinuxServices.h"
 
+#include "Platform/Audio/AudioHardware.h"
 #include "Platform/Audio/PrivateSession.h"
 #include "Platform/Desktop/linux/LinuxAdminShell.h"
 #include "Platform/Desktop/linux/LinuxDesktop.h"
@@ -31,6 +32,7 @@ struct LinuxServices::Private {
     std::unique_ptr<AdminShell> adminShell;
     std::unique_ptr<ColorScheme> colorScheme;
     std::unique_ptr<HotKeys> hotKeys;
+    std::unique_ptr<AudioHardware> audioHardware;
 };
 
 LinuxServices::LinuxServices() : d(std::make_unique<Private>()) {
@@ -64,6 +66,7 @@ bool LinuxServices::startAudio(QString& why) {
                        stderr);
     }
     d->audioWorks = d->session || why.isEmpty();
+    services().audioHardware = (d->audioHardware = createAudioHardware()).get();
     return d->audioWorks;
 }
 
