@@ -15,7 +15,8 @@ public:
     /// @param kind tells the folders of different purposes apart; part of the folder's name.
     /// @return nothing when there is no place for it; @p why then says so.
     [[nodiscard]] static std::optional<TemporaryFolder> create(const QString& kind, QString& why);
-    /// Removes a folder whole, and a link as a link; never what a link points to. Errors are ignored.
+    /// Removes a folder whole, and a link as a link; never what a link points to. Errors are ignored. Files of the user
+    /// that a crash left in it go home first (MovedFiles).
     static void removeWhole(const QString& path);
 
     ~TemporaryFolder();

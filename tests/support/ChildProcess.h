@@ -28,6 +28,11 @@ public:
         ::kill(pid_, SIGKILL);
         (void)wait();
     }
+    /// kill() for it and the programs that it started, after it made itself the leader of a group.
+    void killGroup() {
+        ::kill(-pid_, SIGKILL);
+        (void)wait();
+    }
     /// The exit status, -1 when a signal ended it.
     [[nodiscard]] int wait() {
         int status = 0;

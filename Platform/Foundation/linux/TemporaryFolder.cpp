@@ -3,6 +3,7 @@
 #include "Platform/Foundation/TemporaryFolder.h"
 
 #include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/MovedFiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -33,6 +34,7 @@ void removeOfDeadOwners(const QString& parent, const QString& prefix) {
 } // namespace
 
 void TemporaryFolder::removeWhole(const QString& path) {
+    MovedFiles::bringBack(path);
     std::error_code ignored;
     std::filesystem::remove_all(QFile::encodeName(path).toStdString(), ignored);
 }

@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/Control/ID3ChangeControl.h"
+
+#include "Platform/Foundation/Bundle.h"
+#include "Platform/Foundation/FileManager.h"
+#include "Platform/Foundation/MovedFiles.h"
+#include "Platform/Foundation/Services.h"
+#include "Platform/Media/BasicID3Change.h"
+#include "Source/Control/PreferenceStore.h"
+#include "Source/Model/AudioRecordEntry.h"
+
+#include <QBuffer>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QPainter>
+#include <QProcess>
+
+using namespace Qt::StringLiterals;
+namespace FileManager = Platform::FileManager;
+namespace MovedFiles = Platform::MovedFiles;
+
+namespace ID3ChangeControl {
+namespace {
+
+Q_LOGGING_CATEGORY(log, "sonaphex.control")
+
+unsigned imageCounter = 0;
+unsigned audioCounter = 0;
+unsigned artworkCounter = 0;
+
+QString temporaryPath(QLatin1StringView prefix, unsigned& counter, QLatin1StringView ending) {
+    return g_strTmpPath + u'/' + prefix + QString::number(counter++) + ending;
+}
+
+QByteArray jpegOf(const QImage& image) {
+    // JPEG has no transparency: what shows through is white, not whatever colour lies beneath.
+    QImage opaque(image.size(), QImage::Format_RGB32);
+    opaque.fill(Qt::white);
+    QPainter(&opaque).drawImage(0, 0, image);
+    QByteArray jpeg;
+    QBuffer buffer(&jpeg);
+    buffer.open(QIODevice::WriteOnly);
+    return opaque.save(&buffer, "JPEG") ? jpeg : QByteArray();
+}
+
+/// Takes a file back from the temporary folder; when something else stands there by now, both are kept.
+void moveBack(const QString& from, const QString& to) {
+    if (!FileManager::move(from, to).isEmpty() && QFileInfo::exists(from)) {
+        const QString kept = FileManager::setAside(from, QFileInfo(to).fileName());
+        qCWarning(log, "%s could not be put back; it is at %s", qUtf8Printable(to), qUtf8Printable(kept));
+    }
+    MovedFiles::forget(from);
+}
+
+} // namespace
+
+QString createPathForImage(const QImage& image) {
+    const QString path = temporaryPath("ArtworkImage"_L1, imageCounter, ".png"_L1);
+    (void)FileManager::removeFile(path);
+    const QByteArray jpeg = jpegOf(image);
+    const auto problem = jpeg.isEmpty() ? u"no image"_s : FileManager::writeAtomically(path, jpeg);
+    if (!problem.isEmpty())
+        qCWarning(log, "cannot write %s: %s", qUtf8Printable(path), qUtf8Printable(problem));
+    return path;
+}
+
+QString artworkCommandLine(const QString& tool, const QString& source, const QString& artwork,
+                           const QString& destination) {
+    const auto quoted = [](const QString& path) {
+        QString text(u'"');
+        for (const QChar character : path) {
+            if (character == u'\\' || character == u'"' || character == u'$' || character == u'`')
+                text += u'\\';
+            text += character;
+        }
+        return text + u'"';
+    };
+    return quoted(tool) + u"   "_s + quoted(source) + u"   "_s + quoted(artwork) + u"  "_s + quoted(destination);
+}
+
+void changeID3Artwork(const QString& source, const QString& destPath, const QString& artworkPath) {
+    const Platform::Bundle* const bundle = Platform::services().bundle;
+    const QString tool = bundle->pathForResource(u"SetArtWork"_s);
+    QString artwork = artworkPath;
+    if (artwork.isEmpty()) {
+        artwork = g_strTmpPath + u"/AudioImageSource.png"_s;
+        (void)FileManager::removeFile(artwork);
+        (void)FileManager::copy(bundle->pathForResource(u"AudioArtwork.png"_s), artwork);
+    }
+    if (!QFileInfo::exists(tool))
+        return;
+    (void)QProcess::execute(u"/bin/sh"_s, {u"-c"_s, artworkCommandLine(tool, source, artwork, destPath)});
+}
+
+void changeID3(const QString& source, const QString& destAudioPath, const Dictionary& ID3Info,
+               const QString& artworkPath) {
+    // The copy that undoes an interrupted save stands beside the file: here it is still found.
+    Platform::BasicID3Change::restoreInterruptedSave(source);
+    QString working = source;
+    QString inTheWay;
+    if (source == destAudioPath) {
+        working = temporaryPath("tempID3Audio"_L1, audioCounter, ".m4a"_L1);
+        const auto problem = MovedFiles::moveAway(source, working);
+        if (!QFileInfo::exists(working)) {
+            qCWarning(log, "cannot move %s away: %s", qUtf8Printable(source), qUtf8Printable(problem));
+            return;
+        }
+        (void)FileManager::removeFile(destAudioPath);
+    } else if (QFileInfo::exists(destAudioPath)) {
+        inTheWay = FileManager::setAside(destAudioPath, QFileInfo(destAudioPath).fileName());
+        if (inTheWay == destAudioPath)
+            return; // it would be overwritten
+    }
+
+    changeID3Artwork(working, destAudioPath, artworkPath);
+    (void)changeID3Info(destAudioPath, ID3Info);
+
+    if (QFileInfo::exists(destAudioPath)) {
+        (void)FileManager::removeFile(working);
+        MovedFiles::forget(working);
+        if (!inTheWay.isEmpty())
+            qCWarning(log, "another file was at %s; it is now at %s", qUtf8Printable(destAudioPath),
+                      qUtf8Printable(inTheWay));
+        return;
+    }
+    if (working != source)
+        moveBack(working, source);
+    if (!inTheWay.isEmpty())
+        (void)FileManager::move(inTheWay, destAudioPath);
+}
+
+void changeID3ArtworkInfo(const QString& path, const QString& artworkPath) {
+    Platform::BasicID3Change::restoreInterruptedSave(path);
+    const QString working = temporaryPath("tempID3AudioTT"_L1, artworkCounter, ".m4a"_L1);
+    const auto problem = MovedFiles::moveAway(path, working);
+    if (!QFileInfo::exists(working)) {
+        qCWarning(log, "cannot move %s away: %s", qUtf8Printable(path), qUtf8Printable(problem));
+        return;
+    }
+    changeID3Artwork(working, path, artworkPath);
+    if (QFileInfo::exists(path)) {
+        (void)FileManager::removeFile(working);
+        MovedFiles::forget(working);
+    } else {
+        moveBack(working, path);
+    }
+}
+
+bool changeID3Info(const QString& path, const Dictionary& ID3Info) {
+    using namespace AudioRecordEntry;
+    const auto text = [&](const QString& key) {
+        const QVariant value = ID3Info.value(key);
+        return value.isValid() ? Platform::stringForm(value) : QString();
+    };
+    return Platform::BasicID3Change::setMpeg4ID3Information(path, text(Title), text(Artist), text(Album),
+                                                            Platform::intValue(ID3Info.value(Year)), text(Genre));
+}
+
+bool changeID3BasicInfo(const QString& path, const Dictionary& ID3Info) {
+    return changeID3Info(path, ID3Info);
+}
+
+} // namespace ID3ChangeControl

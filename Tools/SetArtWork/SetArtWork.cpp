@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Media/BasicID3Change.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <cstdio>
+#include <cstring>
+
+namespace {
+constexpr const char* usage =
+    "usage: SetArtWork SOURCE IMAGE DESTINATION\n"
+    "Writes a copy of the MPEG-4 audio file SOURCE to DESTINATION, with IMAGE (a JPEG or PNG\n"
+    "file, told by its content) as its cover. DESTINATION appears whole or not at all.\n";
+}
+
+/// @return 0 done, 1 failed (one line says why), 2 wrong usage
+int main(int argc, char** argv) {
+    if (argc == 2 && (std::strcmp(argv[1], "--help") == 0 || std::strcmp(argv[1], "-h") == 0)) {
+        std::fputs(usage, stdout);
+        return 0;
+    }
+    if (argc != 4) {
+        std::fputs(usage, stderr);
+        return 2;
+    }
+    // Qt looks for its reader of JPEG files through the application.
+    const QCoreApplication application(argc, argv);
+    const QString problem = Platform::BasicID3Change::copyWithArtwork(
+        QFile::decodeName(argv[1]), QFile::decodeName(argv[2]), QFile::decodeName(argv[3]));
+    if (problem.isEmpty())
+        return 0;
+    std::fprintf(stderr, "SetArtWork: %s\n", qUtf8Printable(problem));
+    return 1;
+}
