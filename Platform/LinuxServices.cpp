@@ -13,6 +13,7 @@
 #include "Platform/Foundation/linux/LinuxFoundation.h"
 #include "Platform/Foundation/linux/PropertyListDefaults.h"
 #include "Platform/Media/linux/MediaFilesLinux.h"
+#include "Platform/Media/linux/PipeWireSounds.h"
 
 #include <cstdio>
 
@@ -27,6 +28,7 @@ struct LinuxServices::Private {
     std::unique_ptr<Clock> clock;
     std::unique_ptr<UserDefaults> userDefaults;
     std::unique_ptr<MediaFiles> mediaFiles;
+    std::unique_ptr<Sounds> sounds;
     std::unique_ptr<Workspace> workspace;
     std::unique_ptr<Alerts> alerts;
     std::unique_ptr<AdminShell> adminShell;
@@ -46,6 +48,7 @@ void LinuxServices::install(Mode mode) {
     set.clock = (d->clock = createClock()).get();
     set.userDefaults = (d->userDefaults = createUserDefaults(set.bundle->bundleIdentifier())).get();
     set.mediaFiles = (d->mediaFiles = createMediaFiles()).get();
+    set.sounds = (d->sounds = createSounds(*set.mediaFiles)).get(); // connects when something plays
     set.workspace = (d->workspace = createWorkspace()).get();
     set.alerts = (d->alerts = createCommandLineAlerts()).get();
     set.adminShell = (d->adminShell = createAdminShell()).get();

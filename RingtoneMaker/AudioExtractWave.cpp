@@ -8,6 +8,7 @@
 #include <QLoggingCategory>
 
 #include <algorithm>
+#include <span>
 
 using namespace Qt::StringLiterals;
 
@@ -17,6 +18,18 @@ Q_LOGGING_CATEGORY(waveLog, "sonaphex.wave")
 
 constexpr int kValuesPerSecond = 10;
 constexpr int kBlocksPerReport = 256;
+/// Values fetched at once where a file need not be read in full: ten minutes of sound.
+constexpr std::size_t kValuesAtOnce = 6000;
+
+/// The frames at which blocks begin in which a tenth of a second becomes full.
+std::vector<std::int64_t> framesOfPoints(std::int64_t length, double rate) {
+    constexpr auto block = std::int64_t(ClientBlock::kSamples);
+    const auto step = std::int64_t(rate) / kValuesPerSecond;
+    std::vector<std::int64_t> frames;
+    for (std::int64_t mark = step; mark <= length; mark += step)
+        frames.push_back((mark - 1) / block * block);
+    return frames;
+}
 
 } // namespace
 
@@ -51,6 +64,9 @@ QList<float> AudioExtractWave::extractSamplePoint() {
     const auto fileRate = infile_->fileDataFormat().mSampleRate;
     const double total = fileRate > 0 ? double(infile_->fileLengthFrames()) * rate / fileRate : 0;
 
+    if (fileRate == rate && extractSparse(framesOfPoints(infile_->fileLengthFrames(), rate), points))
+        return points;
+
     infile_->seek(0);
     ClientBlock block;
     int counter = 0;
@@ -72,6 +88,23 @@ QList<float> AudioExtractWave::extractSamplePoint() {
             break;
     }
     return points;
+}
+
+/// Fetches the values alone where the file allows it. False: read it in full.
+bool AudioExtractWave::extractSparse(const std::vector<std::int64_t>& frames, QList<float>& points) {
+    points.resize(qsizetype(frames.size()));
+    for (std::size_t begin = 0; begin < frames.size(); begin += kValuesAtOnce) {
+        if (progress_ && !progress_(double(begin) / double(frames.size()))) {
+            points.resize(qsizetype(begin));
+            return true;
+        }
+        const auto count = std::min(kValuesAtOnce, frames.size() - begin);
+        if (!infile_->sparseSamples(std::span(frames).subspan(begin, count), std::span(points.data() + begin, count))) {
+            points.clear();
+            return false;
+        }
+    }
+    return true;
 }
 
 Platform::MediaError AudioExtractWave::error() const {

@@ -6,7 +6,9 @@
 
 #include <QList>
 
+#include <functional>
 #include <memory>
+#include <vector>
 
 /// Reads a whole audio file once and gives a coarse outline of it: ten signed samples a second. Used on one thread,
 /// which need not be the main one.
@@ -32,6 +34,8 @@ public:
     [[nodiscard]] Platform::MediaError error() const;
 
 private:
+    bool extractSparse(const std::vector<std::int64_t>& frames, QList<float>& points);
+
     std::unique_ptr<Platform::ExtAudioFileReader> infile_;
     AudioStreamBasicDescription actualOutputFormat_;
     void* delegate_ = nullptr;

@@ -86,6 +86,29 @@ TEST_F(AudioExtractWaveTest, LogsAReadErrorAndGoesOn) {
     EXPECT_EQ(log.lines(), QStringList{u"read Audio Data Error"_s});
 }
 
+TEST_F(AudioExtractWaveTest, FetchesTheSameValuesWhereTheFileNeedNotBeReadInFull) {
+    for (const double seconds : {0.09, 0.1, 3.05, 61.234, 1300.0}) {
+        auto& source = addRamp(seconds);
+        source.sparse = false;
+        ASSERT_TRUE(wave.openFile(path));
+        const auto inFull = wave.extractSamplePoint();
+        source.sparse = true;
+        source.asked.clear();
+        ASSERT_TRUE(wave.openFile(path));
+        EXPECT_EQ(wave.extractSamplePoint(), inFull) << seconds;
+        EXPECT_TRUE(source.asked.empty());
+    }
+}
+
+TEST_F(AudioExtractWaveTest, ReadsAFileOfAnotherRateInFull) {
+    auto& source = addRamp(1);
+    source.sparse = true;
+    source.rate = 48000;
+    ASSERT_TRUE(wave.openFile(path));
+    EXPECT_EQ(wave.extractSamplePoint().size(), 10);
+    EXPECT_EQ(source.sparseCalls, 0);
+}
+
 TEST(WaveImage, IsNullForTenValuesOrFewer) {
     EXPECT_TRUE(WaveImage::draw(QList<float>(10, 0.5F)).isNull());
     EXPECT_FALSE(WaveImage::draw(QList<float>(11, 0.5F)).isNull());

@@ -21,6 +21,9 @@ public:
         AudioBufferList firstList{}; ///< as it came with the first read
         std::uint32_t bytesOfBuffers[2] = {};
         AudioStreamBasicDescription clientFormat;
+        double rate = 44100;
+        bool sparse = false; ///< whether single values may be fetched
+        int sparseCalls = 0;
     };
 
     /// A file of two channels. An empty one is made on the disk, so that it exists.
@@ -60,7 +63,7 @@ private:
         explicit Reader(Source& source) : source_(source) {}
         AudioStreamBasicDescription fileDataFormat() const override {
             AudioStreamBasicDescription format;
-            format.mSampleRate = 44100;
+            format.mSampleRate = source_.rate;
             format.mChannelsPerFrame = 2;
             return format;
         }
@@ -82,7 +85,7 @@ private:
             }
             source_.asked.push_back(frames);
             frames = std::uint32_t(std::clamp<std::int64_t>(source_.frames - position_, 0, frames));
-            for (int channel = 0; channel < 2; ++channel) {
+            for (int channel = 0; channel < int(data->mNumberBuffers); ++channel) {
                 auto& buffer = *(&data->mBuffers[0] + channel);
                 auto* out = static_cast<float*>(buffer.mData);
                 for (std::uint32_t i = 0; i < frames; ++i)
@@ -91,6 +94,12 @@ private:
             }
             position_ += frames;
             return int(source_.asked.size()) - 1 == source_.failingRead ? -50 : noErr;
+        }
+        bool sparseSamples(std::span<const std::int64_t> frames, std::span<float> out) override {
+            ++source_.sparseCalls;
+            for (std::size_t i = 0; i < frames.size(); ++i)
+                out[i] = source_.signal(0, frames[i]);
+            return source_.sparse;
         }
         Platform::MediaError firstError() const override { return {}; }
 

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Media/Sound.h"
+
+#include <QStringList>
+
+/// A player that notes what it is told and plays nothing. A paused sound counts as playing, as with the real one.
+class FakeSound : public Platform::Sound {
+public:
+    explicit FakeSound(const QString& path) : path_(path) {}
+    QStringList calls;
+    double seconds = 10;
+    double time = 0;
+    float gain = 1;
+    bool playing = false;
+    bool paused = false;
+    bool playFails = false;
+
+    double duration() const override { return seconds; }
+    double currentTime() const override { return time; }
+    void setCurrentTime(double to) override {
+        calls.append(QStringLiteral("setCurrentTime %1").arg(to));
+        time = to;
+    }
+    float volume() const override { return gain; }
+    void setVolume(float volume) override { gain = volume; }
+    bool isPlaying() const override { return playing; }
+    bool play() override {
+        calls.append(QStringLiteral("play"));
+        playing = !playFails;
+        paused = false;
+        return playing;
+    }
+    bool pause() override {
+        calls.append(QStringLiteral("pause"));
+        return paused = true;
+    }
+    bool resume() override {
+        calls.append(QStringLiteral("resume"));
+        paused = false;
+        return true;
+    }
+    bool stop() override {
+        calls.append(QStringLiteral("stop"));
+        end();
+        return true;
+    }
+    /// The end of the file.
+    void end() {
+        playing = false;
+        paused = false;
+        time = 0;
+        Q_EMIT finished();
+    }
+    QString path() const override { return path_; }
+    QString lastError() const override { return {}; }
+
+private:
+    QString path_;
+};
+
+/// Opens FakeSounds; the one opened last is there for the test as long as its owner keeps it.
+class FakeSounds : public Platform::Sounds {
+public:
+    FakeSound* last = nullptr;
+    std::unique_ptr<Platform::Sound> open(const QString& path) override {
+        auto sound = std::make_unique<FakeSound>(path);
+        last = sound.get();
+        return sound;
+    }
+};
