@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/View/MediaNodeListTableView.h"
 
+#include "Source/View/NamedImages.h"
+
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QMenu>
@@ -23,8 +25,9 @@ MediaNodeListTableView::MediaNodeListTableView(QWidget* parent) : QTableView(par
     horizontalHeader()->setHighlightSections(false);
 }
 
-void MediaNodeListTableView::setEmptyText(const QString& text) {
+void MediaNodeListTableView::setEmptyText(const QString& text, const QString& image) {
     emptyText_ = text;
+    emptyImage_ = image;
     viewport()->update();
 }
 
@@ -41,8 +44,13 @@ QMenu* MediaNodeListTableView::menuForEvent(QContextMenuEvent& event) {
 }
 
 void MediaNodeListTableView::contextMenuEvent(QContextMenuEvent* event) {
-    if (QMenu* menu = menuForEvent(*event))
-        menu->popup(event->globalPos());
+    if (QMenu* menu = menuForEvent(*event)) {
+        Q_EMIT menu->aboutToShow();
+        const QList<QAction*> items = menu->actions();
+        // A menu that hides all of its items is no menu to show.
+        if (std::any_of(items.begin(), items.end(), [](const QAction* item) { return item->isVisible(); }))
+            menu->popup(event->globalPos());
+    }
     event->accept();
 }
 
@@ -60,7 +68,18 @@ void MediaNodeListTableView::paintEvent(QPaintEvent* event) {
     if (emptyText_.isEmpty() || !model() || model()->rowCount() > 0)
         return;
     QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
+    const QColor faint = palette().color(QPalette::Disabled, QPalette::Text);
+    painter.setPen(faint);
     const QRect area = viewport()->rect().adjusted(24, 24, -24, -24);
     painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, emptyText_);
+    if (emptyImage_.isEmpty())
+        return;
+    QRect image(QPoint(), NamedImages::naturalSize(emptyImage_));
+    image.moveCenter(area.center() - QPoint(0, image.height() / 2 + 2 * fontMetrics().height()));
+    // It points to the leading end of the window.
+    if (isRightToLeft()) {
+        painter.translate(image.center().x() * 2 + 1, 0);
+        painter.scale(-1, 1);
+    }
+    NamedImages::draw(painter, image, emptyImage_, faint);
 }

@@ -22,8 +22,8 @@ public:
     explicit MediaNodeListTableView(QWidget* parent = nullptr);
 
     void setMenuDelegate(MediaNodeListTableViewDelegate* delegate) { delegate_ = delegate; }
-    /// Sentence that is shown while the table has no rows; empty for none.
-    void setEmptyText(const QString& text);
+    /// Sentence that is shown while the table has no rows, and the name of an image above it; empty for none.
+    void setEmptyText(const QString& text, const QString& image = {});
 
     /// Settles the selection for a context click and answers the menu to show.
     QMenu* menuForEvent(QContextMenuEvent& event);
@@ -36,4 +36,5 @@ protected:
 private:
     MediaNodeListTableViewDelegate* delegate_ = nullptr;
     QString emptyText_;
+    QString emptyImage_;
 };

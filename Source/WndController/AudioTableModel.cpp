@@ -27,7 +27,9 @@ QString sortText(const Dictionary& entry, int column) {
 }
 
 QCollator collator() {
-    QCollator result;
+    // The "C" locale compares bytes; a list of names wants an alphabet all the same.
+    const QLocale locale;
+    QCollator result(locale.language() == QLocale::C ? QLocale(QLocale::English) : locale);
     result.setNumericMode(true);
     result.setCaseSensitivity(Qt::CaseInsensitive);
     return result;
@@ -83,13 +85,20 @@ void AudioTableModel::takeLeafAnew() {
     beginResetModel();
     changes_.clear();
     leafWasReset_ = false;
-    entries_ = node_ ? node_->leafNode() : QVariantList();
+    QVariantList gone = std::exchange(entries_, node_ ? node_->leafNode() : QVariantList());
     ++generation_;
     order_.clear();
     applied_ = {};
     endResetModel();
+    giveBack(std::move(gone));
     if (wanted_.column >= 0)
         startSorting();
+}
+
+void AudioTableModel::giveBack(QVariantList gone) {
+    // The allocator takes longer than a frame for many entries; for few, handing them over would be the longer way.
+    if (gone.size() > kSortAtOnce)
+        worker_.start([gone = std::move(gone)]() mutable { gone.clear(); });
 }
 
 void AudioTableModel::note(const QString& leafKey, Change change) {
@@ -196,12 +205,10 @@ void AudioTableModel::removeEntries(int first, int last) {
     ++generation_;
     if (applied_.column < 0) {
         beginRemoveRows({}, first, last);
-        // Many entries are given back to the allocator by the worker: it takes longer than a frame.
         QVariantList gone = entries_.mid(first, last - first + 1);
         entries_.remove(first, last - first + 1);
         endRemoveRows();
-        if (gone.size() > kSortAtOnce)
-            worker_.start([gone = std::move(gone)]() mutable { gone.clear(); });
+        giveBack(std::move(gone));
         return;
     }
     for (int source = last; source >= first; --source) {
@@ -221,10 +228,10 @@ Dictionary AudioTableModel::entry(int row) const {
     return entries_.at(sourceRow(row)).toMap();
 }
 
-int AudioTableModel::rowOfKey(const QString& key) const {
+int AudioTableModel::rowOfPath(const QString& path) const {
     // A new entry stands in front, so the search is short for the one case that matters.
     for (int source = 0; source < entries_.size(); ++source)
-        if (Platform::stringForm(entries_.at(source).toMap().value(AudioRecordEntry::NodeDataKey)) == key)
+        if (entries_.at(source).toMap().value(AudioRecordEntry::SavePath).toString() == path)
             return rowOfSource(source);
     return -1;
 }
@@ -262,7 +269,7 @@ QVariant AudioTableModel::data(const QModelIndex& index, int role) const {
         return missing_.isMissing(path) ? QVariant(QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text))
                                         : QVariant();
     case Qt::TextAlignmentRole:
-        return index.column() == Time ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
+        return index.column() == Time ? QVariant(Qt::AlignCenter) : QVariant();
     default:
         break;
     }
@@ -299,7 +306,7 @@ QVariant AudioTableModel::headerData(int section, Qt::Orientation orientation, i
     if (orientation != Qt::Horizontal)
         return {};
     if (role == Qt::TextAlignmentRole)
-        return QVariant((section == Time ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+        return QVariant((section == Time ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter);
     if (role == Qt::AccessibleTextRole && section == State)
         return tr("State");
     if (role != Qt::DisplayRole)

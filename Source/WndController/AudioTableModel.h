@@ -34,8 +34,8 @@ public:
     void reload();
     /// An empty dictionary for a row that does not exist.
     [[nodiscard]] Dictionary entry(int row) const;
-    /// -1 when no row has this identity.
-    [[nodiscard]] int rowOfKey(const QString& key) const;
+    /// The newest entry of a file; -1 when there is none.
+    [[nodiscard]] int rowOfPath(const QString& path) const;
     /// Path of the current sound: its row carries the playing icon.
     void setPlayingPath(const QString& path);
     [[nodiscard]] bool isSorting() const { return sorting_; }
@@ -65,6 +65,7 @@ private:
     [[nodiscard]] QVariant stateData(const Dictionary& entry, int role) const;
     void note(const QString& leafKey, Change change);
     void takeLeafAnew();
+    void giveBack(QVariantList gone);
     void applyChanges(const std::vector<Change>& changes);
     void insertEntry(int source, const QVariant& entry);
     void replaceEntry(int source, const QVariant& entry);

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QStyledItemDelegate>
+
+class QTableView;
+
+/// Rows of the library's outline: a group's row is 1.2 times as high as a node's, in whole points.
+class OutlineRowDelegate : public QStyledItemDelegate {
+    Q_OBJECT
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    static constexpr int kRowHeight = 24;
+    [[nodiscard]] static constexpr int groupRowHeight(int rowHeight) { return rowHeight * 12 / 10; }
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+};
+
+/// Rows of the library's table: no ring around a single cell, since rows are what is selected.
+class AudioRowDelegate : public QStyledItemDelegate {
+    Q_OBJECT
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] static int rowHeight(const QTableView& table);
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+};
