@@ -83,6 +83,7 @@ void AudioWaveViewController::awakeFromNib() {
     const QFont font = view_->font();
     ui_->stateField->setFont(scaled(font, font.pointSizeF() + 2, QFont::DemiBold));
     ui_->timeField->setFont(scaled(font, timePointSize, QFont::Medium));
+    ui_->timeField->setReserve(u"00:00"_s);
     ui_->titleField->setFont(scaled(font, font.pointSizeF() + 3, QFont::DemiBold));
     QPalette dim = view_->palette();
     dim.setColor(QPalette::WindowText, Theme::Glass::dimText());

@@ -5,6 +5,10 @@
 #include <QPainter>
 #include <QStyle>
 
+namespace {
+constexpr int kMargin = 8;
+}
+
 ElidedLabel::ElidedLabel(QWidget* parent) : QWidget(parent) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
 }
@@ -17,15 +21,19 @@ void ElidedLabel::setText(const QString& text) {
 }
 
 QSize ElidedLabel::sizeHint() const {
-    return {fontMetrics().horizontalAdvance(text_), fontMetrics().height()};
+    return {fontMetrics().horizontalAdvance(text_) + 2 * kMargin, fontMetrics().height() + kMargin};
 }
 
 QSize ElidedLabel::minimumSizeHint() const {
-    return {fontMetrics().averageCharWidth() * 4, fontMetrics().height()};
+    return {fontMetrics().averageCharWidth() * 4, fontMetrics().height() + kMargin};
 }
 
 void ElidedLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QString shown = fontMetrics().elidedText(text_, Qt::ElideMiddle, width());
-    style()->drawItemText(&painter, rect(), Qt::AlignCenter, palette(), isEnabled(), shown, foregroundRole());
+    const QRect room = rect().adjusted(kMargin, 0, -kMargin, 0);
+    const QString shown = fontMetrics().elidedText(text_, Qt::ElideMiddle, room.width());
+    // Paths and sentences alike begin where the window begins.
+    const Qt::Alignment edge = layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft;
+    style()->drawItemText(&painter, room, int(edge | Qt::AlignVCenter | Qt::AlignAbsolute), palette(), isEnabled(),
+                          shown, foregroundRole());
 }

@@ -44,15 +44,20 @@ qreal TabularLabel::advance(QChar letter) const {
     return widest;
 }
 
-qreal TabularLabel::textWidth() const {
+void TabularLabel::setReserve(const QString& text) {
+    reserve_ = text;
+    updateGeometry();
+}
+
+qreal TabularLabel::widthOf(const QString& text) const {
     qreal width = 0;
-    for (const QChar letter : text_)
+    for (const QChar letter : text)
         width += advance(letter);
     return width;
 }
 
 QSize TabularLabel::sizeHint() const {
-    return {int(std::ceil(textWidth())), int(std::ceil(QFontMetricsF(font()).height()))};
+    return {int(std::ceil(std::max(textWidth(), widthOf(reserve_)))), int(std::ceil(QFontMetricsF(font()).height()))};
 }
 
 void TabularLabel::paintEvent(QPaintEvent*) {

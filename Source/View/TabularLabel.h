@@ -19,6 +19,8 @@ public:
     void setColor(const QColor& color);
     [[nodiscard]] Qt::Alignment alignment() const { return alignment_; }
     void setAlignment(Qt::Alignment alignment);
+    /// Keeps room for this text too, so that a text that blinks moves nothing beside it.
+    void setReserve(const QString& text);
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -28,9 +30,11 @@ protected:
 
 private:
     [[nodiscard]] qreal advance(QChar letter) const;
-    [[nodiscard]] qreal textWidth() const;
+    [[nodiscard]] qreal widthOf(const QString& text) const;
+    [[nodiscard]] qreal textWidth() const { return widthOf(text_); }
 
     QString text_;
+    QString reserve_;
     QColor color_;
     Qt::Alignment alignment_ = Qt::AlignLeft;
 };

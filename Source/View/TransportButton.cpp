@@ -4,8 +4,9 @@
 
 #include "Source/View/NamedImages.h"
 
+#include <QHelpEvent>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
+#include <QToolTip>
 
 namespace {
 constexpr int kMargin = 4; ///< room for the ring of the keyboard focus
@@ -36,6 +37,14 @@ void TransportButton::setImageSize(int points) {
 
 QSize TransportButton::sizeHint() const {
     return {imageSize_ + 2 * kMargin, imageSize_ + 2 * kMargin};
+}
+
+bool TransportButton::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip && !isEnabled() && !disabledReason_.isEmpty()) {
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), toolTip() + u'\n' + disabledReason_, this);
+        return true;
+    }
+    return QAbstractButton::event(event);
 }
 
 void TransportButton::enterEvent(QEnterEvent* event) {

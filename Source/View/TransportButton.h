@@ -18,9 +18,14 @@ public:
     /// Side of the image in points.
     void setImageSize(int points);
 
+    /// One sentence that the tool tip adds while the button is disabled.
+    void setDisabledReason(const QString& reason) { disabledReason_ = reason; }
+    [[nodiscard]] QString disabledReason() const { return disabledReason_; }
+
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
@@ -28,5 +33,6 @@ protected:
 private:
     QString image_;
     QString pressedImage_;
+    QString disabledReason_;
     int imageSize_ = 36;
 };

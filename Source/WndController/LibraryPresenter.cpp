@@ -1,0 +1,315 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/WndController/LibraryPresenter.h"
+
+#include "FilterAudio/AudioFilterController.h"
+#include "Platform/Desktop/Workspace.h"
+#include "Platform/Foundation/Clock.h"
+#include "Platform/Foundation/Services.h"
+#include "RingtoneMaker/CustomSound.h"
+#include "Source/AudioWaveViewController/AudioWaveViewController.h"
+#include "Source/Model/AudioRecordEntry.h"
+#include "Source/Model/MediaLibrary.h"
+#include "Source/Model/MissingFiles.h"
+#include "Source/WndController/AudioTableModel.h"
+#include "Source/WndController/AudioTags.h"
+#include "Source/WndController/LibraryOutlineModel.h"
+
+#include <QFileInfo>
+#include <QItemSelectionModel>
+#include <QTableView>
+#include <QTreeView>
+
+namespace {
+
+bool isRingtone(const QString& path) {
+    return QFileInfo(path).suffix().toLower() == QStringLiteral("m4r");
+}
+
+} // namespace
+
+LibraryPresenter::LibraryPresenter(MediaLibrary& library, QTreeView& outline, QTableView& table,
+                                   AudioWaveViewController& display, AudioFilterController& filter,
+                                   IsRecording isStateAudioRecord, QObject* parent)
+    : QObject(parent), library_(library), outline_(outline), table_(table), display_(display), filter_(filter),
+      isStateAudioRecord_(std::move(isStateAudioRecord)), missing_(std::make_unique<MissingFiles>()),
+      outlineModel_(std::make_unique<LibraryOutlineModel>(library)),
+      tableModel_(std::make_unique<AudioTableModel>(library, *missing_)) {
+    outline_.setModel(outlineModel_.get());
+    table_.setModel(tableModel_.get());
+    connect(outline_.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &LibraryPresenter::outlineSelectionDidChange);
+    connect(table_.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &LibraryPresenter::tableViewSelectionDidChange);
+    connect(&table_, &QTableView::doubleClicked, this, &LibraryPresenter::tableViewDoubleAction);
+    // Rows that the model takes over by itself change what may be filtered, and may take selected rows away.
+    for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
+        connect(tableModel_.get(), signal, this, [this] { Q_EMIT canFilterAudioChanged(); });
+    connect(tableModel_.get(), &QAbstractItemModel::modelReset, this, [this] {
+        Q_EMIT canFilterAudioChanged();
+        tableViewSelectionDidChange();
+    });
+    connect(tableModel_.get(), &QAbstractItemModel::dataChanged, this,
+            [this] { Q_EMIT tableViewSelectionAudioChanged(); });
+    if (auto* workspace = Platform::services().workspace)
+        connect(workspace, &Platform::Workspace::fileSystemChanged, missing_.get(), &MissingFiles::forget);
+}
+
+LibraryPresenter::~LibraryPresenter() {
+    // The views may live longer than their models.
+    outline_.setModel(nullptr);
+    table_.setModel(nullptr);
+}
+
+void LibraryPresenter::updateDefaultListStyle() {
+    outline_.expandAll();
+    int rows = 0;
+    QModelIndex second;
+    for (QModelIndex row = outlineModel_->index(0, 0); row.isValid(); row = outline_.indexBelow(row))
+        if (++rows == 2)
+            second = row;
+    if (rows >= 3)
+        outline_.selectionModel()->setCurrentIndex(second,
+                                                   QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+Dictionary LibraryPresenter::makeAudioLibraryDataByFile(const QString& path, const Dictionary& tags) {
+    Dictionary entry = tags;
+    if (!entry.contains(AudioRecordEntry::NodeDataKey)) {
+        const double now = Platform::services().clock->timeIntervalSinceReferenceDate();
+        entry.insert(AudioRecordEntry::NodeDataKey, path + u'_' + QString::number(now, 'f', 6));
+    }
+    entry.insert(AudioRecordEntry::SavePath, path);
+    return entry;
+}
+
+void LibraryPresenter::addRecordFile(const QString& path, const Dictionary& tags) {
+    library_.addRecordFile(makeAudioLibraryDataByFile(path, tags));
+    reloadFromMediaLibrary();
+}
+
+void LibraryPresenter::addRingtoneFile(const QString& path, const Dictionary& tags) {
+    library_.addRingtoneFile(makeAudioLibraryDataByFile(path, tags));
+    reloadFromMediaLibrary();
+}
+
+void LibraryPresenter::updateFile(const QString& path, const Dictionary& tags) {
+    if (isRingtone(path))
+        addRingtoneFile(path, tags);
+    else
+        addRecordFile(path, tags);
+}
+
+void LibraryPresenter::removeMediaLibraryArray(const QVariantList& entries) {
+    library_.removeMediaLibraryArray(entries);
+    reloadFromMediaLibrary();
+}
+
+void LibraryPresenter::reloadFromMediaLibrary() {
+    tableModel_->reload();
+    Q_EMIT canFilterAudioChanged();
+}
+
+const MediaLibraryNode* LibraryPresenter::libraryViewSelectedNode() const {
+    const QModelIndexList rows = outline_.selectionModel()->selectedRows();
+    return rows.isEmpty() ? nullptr : outlineModel_->node(rows.first());
+}
+
+void LibraryPresenter::outlineSelectionDidChange() {
+    tableModel_->setNode(libraryViewSelectedNode());
+}
+
+void LibraryPresenter::tableViewSelectionDidChange() {
+    updateTableViewActionEnable();
+    updatePlaySoundState();
+}
+
+qsizetype LibraryPresenter::selectedRowCount() const {
+    // Ranges, not rows: a selection of the whole of a long list must not be walked for each button. The table selects
+    // rows, so that ranges are as wide as the table and do not overlap.
+    qsizetype count = 0;
+    for (const QItemSelectionRange& range : table_.selectionModel()->selection())
+        count += range.height();
+    return count;
+}
+
+int LibraryPresenter::selectedRow() const {
+    const QItemSelection selection = table_.selectionModel()->selection();
+    int last = -1;
+    for (const QItemSelectionRange& range : selection)
+        last = qMax(last, range.bottom());
+    const QModelIndex current = table_.currentIndex();
+    return current.isValid() && selection.contains(current) ? current.row() : last;
+}
+
+QVariantList LibraryPresenter::tableViewSelectionAudioArray() const {
+    std::vector<int> rows;
+    for (const QItemSelectionRange& range : table_.selectionModel()->selection())
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.push_back(row);
+    std::sort(rows.begin(), rows.end());
+    QVariantList entries;
+    for (const int row : rows)
+        if (row < tableModel_->rowCount())
+            entries.append(tableModel_->entry(row));
+    return entries;
+}
+
+Dictionary LibraryPresenter::tableViewSelectionAudio() const {
+    return tableModel_->entry(selectedRow());
+}
+
+QString LibraryPresenter::tableViewSelectionAudioPath() const {
+    return AudioTags::audioTag(tableViewSelectionAudio(), QStringLiteral("path")).toString();
+}
+
+bool LibraryPresenter::selectFile(const QString& path) {
+    tableModel_->reload();
+    int row = tableModel_->rowOfPath(path);
+    if (row < 0) {
+        const QModelIndex all =
+            outlineModel_->indexOfKey(isRingtone(path) ? QStringLiteral("all-ringtone") : QStringLiteral("all-record"));
+        outline_.selectionModel()->setCurrentIndex(all,
+                                                   QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        row = tableModel_->rowOfPath(path);
+    }
+    if (row < 0)
+        return false;
+    table_.selectRow(row);
+    table_.scrollTo(tableModel_->index(row, AudioTableModel::Title));
+    return true;
+}
+
+bool LibraryPresenter::tableViewPlayEnable() const {
+    return selectedRowCount() == 1 && !isStateAudioRecord_();
+}
+
+bool LibraryPresenter::tableViewShowEnable() const {
+    return selectedRowCount() == 1;
+}
+
+bool LibraryPresenter::tableViewDeleteEnable() const {
+    return selectedRowCount() > 0;
+}
+
+bool LibraryPresenter::tableViewSelectionAudioIsRingtone() const {
+    return isRingtone(tableViewSelectionAudioPath());
+}
+
+bool LibraryPresenter::tableViewCanEditSelectionAudioRecord() const {
+    return tableViewPlayEnable() && !tableViewSelectionAudioIsRingtone();
+}
+
+bool LibraryPresenter::canFilterAudio() const {
+    return tableModel_->rowCount() > 0;
+}
+
+bool LibraryPresenter::libraryIsEmpty() const {
+    return library_.records().isEmpty() && library_.ringtones().isEmpty();
+}
+
+bool LibraryPresenter::isPlaySoundButtonEnable() const {
+    if (isStateAudioRecord_())
+        return false;
+    const CustomSound* sound = currentSound();
+    return sound ? sound->duration() > 0 : !tableViewSelectionAudioPath().isEmpty();
+}
+
+bool LibraryPresenter::isPlaySoundPlaying() const {
+    const CustomSound* sound = currentSound();
+    return sound && sound->isPlaying();
+}
+
+void LibraryPresenter::setIsPlaySoundPlaying(bool /*ignored*/) {
+    updatePlaySoundButton();
+}
+
+CustomSound* LibraryPresenter::currentSound() const {
+    return display_.playSound().get();
+}
+
+void LibraryPresenter::updateTableViewActionEnable() {
+    Q_EMIT tableViewPlayEnableChanged();
+    Q_EMIT tableViewShowEnableChanged();
+    Q_EMIT tableViewDeleteEnableChanged();
+    Q_EMIT tableViewSelectionAudioChanged();
+    Q_EMIT tableViewSelectionAudioIsRingtoneChanged();
+    Q_EMIT tableViewCanEditSelectionAudioRecordChanged();
+}
+
+void LibraryPresenter::updateRecordStateAction() {
+    Q_EMIT tableViewPlayEnableChanged();
+    Q_EMIT tableViewCanEditSelectionAudioRecordChanged();
+}
+
+void LibraryPresenter::updatePlaySoundState() {
+    Q_EMIT isPlaySoundButtonEnableChanged();
+    Q_EMIT isPlaySoundPlayingChanged();
+}
+
+void LibraryPresenter::updatePlaySoundButton() {
+    QMetaObject::invokeMethod(this, &LibraryPresenter::updatePlaySoundState);
+}
+
+void LibraryPresenter::playSoundFile(const Dictionary& entry) {
+    if (CustomSound* sound = currentSound())
+        sound->stop();
+    const QString path = Platform::stringForm(AudioTags::audioTag(entry, QStringLiteral("path")));
+    display_.setTitle(AudioTags::audioTag(entry, QStringLiteral("title")).toString());
+    display_.setArtist(AudioTags::audioTag(entry, QStringLiteral("artist")).toString());
+    auto sound = std::make_shared<CustomSound>(path);
+    display_.setPlaySound(sound);
+    sound->play();
+    tableModel_->setPlayingPath(path);
+    updatePlaySoundState();
+    if (sound->duration() <= 0) {
+        missing_->forget(path);
+        Q_EMIT problem(QFileInfo::exists(path) ? tr("“%1” cannot be played.").arg(QFileInfo(path).fileName())
+                                               : tr("The file is no longer there: %1").arg(path));
+    }
+}
+
+void LibraryPresenter::playSoundButtonAction() {
+    CustomSound* sound = currentSound();
+    if (!sound) {
+        playSoundFile(tableViewSelectionAudio());
+        return;
+    }
+    if (sound->isPlaying())
+        sound->pause();
+    else
+        sound->play();
+    updatePlaySoundState();
+}
+
+void LibraryPresenter::tableViewDoubleAction() {
+    if (!tableViewPlayEnable())
+        return;
+    playSoundFile(tableViewSelectionAudio());
+    display_.setTabViewShowWave(false);
+}
+
+void LibraryPresenter::stopSoundPlaying() {
+    if (CustomSound* sound = currentSound())
+        sound->stop();
+    QMetaObject::invokeMethod(this, &LibraryPresenter::updatePlaySoundState, Qt::QueuedConnection);
+}
+
+void LibraryPresenter::deleteAudioFile() {
+    const QVariantList chosen = tableViewSelectionAudioArray();
+    if (chosen.isEmpty() || !filter_.runRemoveAudioAlert())
+        return;
+    removeMediaLibraryArray(chosen);
+}
+
+void LibraryPresenter::revealInFinder() {
+    const QString path = tableViewSelectionAudioPath();
+    if (!Platform::services().workspace->selectFile(path))
+        Q_EMIT problem(tr("The folder of “%1” could not be shown.").arg(QFileInfo(path).fileName()));
+}
+
+void LibraryPresenter::openIniTunes() {
+    const QString path = tableViewSelectionAudioPath();
+    if (!Platform::services().workspace->openFile(path, QStringLiteral("iTunes")))
+        Q_EMIT problem(tr("No player could be opened for “%1”.").arg(QFileInfo(path).fileName()));
+}

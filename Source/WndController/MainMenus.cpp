@@ -1,0 +1,266 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/WndController/MainMenus.h"
+
+#include "Source/AudioWaveViewController/AudioWaveViewController.h"
+#include "Source/Control/RecordStateController.h"
+#include "Source/View/NamedImages.h"
+#include "Source/View/Theme.h"
+#include "Source/WndController/LibraryPresenter.h"
+#include "Source/WndController/MainWndController.h"
+#include "ui_MainWnd.h"
+
+#include <QMenu>
+#include <QMessageBox>
+
+using Window = WindowCommands::Window;
+
+namespace {
+const QColor kStripText(0x1f, 0x24, 0x2a);
+const QColor kStripDisabled(0x80, 0x83, 0x88);
+} // namespace
+
+MainMenus::MainMenus(Ui::MainWnd& ui, MainWndController& controller, QObject* parent)
+    : QObject(parent), ui_(ui), controller_(controller) {
+    makeRecordMenu();
+    makeEditMenu();
+    makeLibraryMenu();
+    makeViewMenu();
+    makeHelpMenu();
+    makeContextMenu();
+    makeStrip();
+}
+
+QAction* MainMenus::add(QMenu* menu, const QString& text, const QString& icon, const QString& toolTip, Slot slot,
+                        const QList<QKeySequence>& keys) {
+    auto* action = new QAction(text, this);
+    if (!icon.isEmpty())
+        action->setIcon(NamedImages::icon(icon));
+    action->setToolTip(toolTip);
+    action->setShortcuts(keys);
+    // The place in the menus of some desktops is guessed from words; ours stands where it was put.
+    action->setMenuRole(QAction::NoRole);
+    if (slot)
+        connect(action, &QAction::triggered, &controller_, [this, slot] { (controller_.*slot)(); });
+    menu->addAction(action);
+    return action;
+}
+
+QAction* MainMenus::addWindow(QMenu* menu, Window window, const QString& text, const QString& icon,
+                              const QString& toolTip, Slot slot, const QList<QKeySequence>& keys) {
+    QAction* action = add(menu, text, icon, toolTip, slot, keys);
+    action->setData(toolTip);
+    windows_[static_cast<std::size_t>(window)] = action;
+    return action;
+}
+
+QAction* MainMenus::window(Window window) const {
+    return windows_[static_cast<std::size_t>(window)];
+}
+
+void MainMenus::makeRecordMenu() {
+    QMenu* menu = ui_.mainMenu_->addMenu(tr("&Record"));
+    menu->setToolTipsVisible(true);
+    startStop_ = add(menu, QStringLiteral("Start Record"), {}, {}, &MainWndController::startAndStopRecord,
+                     {QKeySequence(Qt::CTRL | Qt::Key_R)});
+    pauseResume_ = add(menu, QStringLiteral("Pause Record"), {}, {}, &MainWndController::pauseAndResumeRecord,
+                       {QKeySequence(Qt::CTRL | Qt::Key_P)});
+    split_ = add(menu, tr("&Cut to Another Recording"), {}, tr("Close this file and go on in a new one"),
+                 &MainWndController::splitTheRecord, {QKeySequence(Qt::CTRL | Qt::Key_N)});
+    startStop_->setProperty(MainWndController::kActionProperty, QStringLiteral("startAndStopRecord:"));
+    pauseResume_->setProperty(MainWndController::kActionProperty, QStringLiteral("pauseAndResumeRecord:"));
+    split_->setProperty(MainWndController::kActionProperty, QStringLiteral("splitTheRecord:"));
+    menu->addSeparator();
+    recordInput_ = add(menu, tr("Record the &Input Device"), {}, {}, nullptr);
+    recordInput_->setCheckable(true);
+    connect(recordInput_, &QAction::triggered, ui_.btnBuiltInRecord_, &QAbstractButton::click);
+    recordComputer_ = add(menu, tr("Record Computer &Audio"), {}, {}, nullptr);
+    recordComputer_->setCheckable(true);
+    connect(recordComputer_, &QAction::triggered, ui_.btnComputerAudioRecord_, &QAbstractButton::click);
+    menu->addSeparator();
+    quit_ = add(menu, tr("&Quit"), {}, {}, &MainWndController::closeWindow, {QKeySequence(Qt::CTRL | Qt::Key_Q)});
+    connect(menu, &QMenu::aboutToShow, this, &MainMenus::update);
+}
+
+void MainMenus::makeEditMenu() {
+    QMenu* menu = ui_.mainMenu_->addMenu(tr("&Edit"));
+    menu->setToolTipsVisible(true);
+    addWindow(menu, Window::ID3Edit, tr("Edit &Tags…"), QStringLiteral("tags"),
+              tr("Title, artist, album and cover of the recording"), &MainWndController::openID3EditFace,
+              {QKeySequence(Qt::Key_F2)});
+    addWindow(menu, Window::AudioTrim, tr("T&rim…"), QStringLiteral("trim"), tr("Keep a stretch of the recording"),
+              &MainWndController::openAudioTrimFace, {QKeySequence(Qt::CTRL | Qt::Key_T)});
+    addWindow(menu, Window::RingtoneMaker, tr("Make a &Ringtone…"), QStringLiteral("ringtone"),
+              tr("Cut a ringtone out of the recording"), &MainWndController::openRingtoneMakerWindow,
+              {QKeySequence(Qt::CTRL | Qt::Key_M)});
+    menu->addSeparator();
+    remove_ = add(menu, tr("&Delete"), QStringLiteral("delete"), tr("Delete the selected recordings and their files"),
+                  &MainWndController::deleteAudioFile, {QKeySequence(Qt::Key_Delete)});
+    // Delete and Space belong to other widgets too: they act on the library while it has the focus.
+    remove_->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    ui_.audioTableView_->addAction(remove_);
+    QAction* all = add(menu, tr("Select &All"), {}, {}, nullptr, {QKeySequence::SelectAll});
+    all->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    ui_.libraryView_->addAction(all);
+    connect(all, &QAction::triggered, ui_.audioTableView_, &QTableView::selectAll);
+    menu->addSeparator();
+    preferences_ = add(menu, tr("&Preferences…"), QStringLiteral("preferences"), {}, &MainWndController::perference,
+                       {QKeySequence(Qt::CTRL | Qt::Key_Comma)});
+}
+
+void MainMenus::makeLibraryMenu() {
+    QMenu* menu = ui_.mainMenu_->addMenu(tr("&Library"));
+    menu->setToolTipsVisible(true);
+    play_ = add(menu, tr("&Play"), QStringLiteral("play"), tr("Play or pause"),
+                &MainWndController::playSoundButtonAction, {QKeySequence(Qt::Key_Space)});
+    playSelected_ =
+        add(menu, tr("Play the &Selected Recording"), {}, tr("Play from its beginning"),
+            &MainWndController::tableViewDoubleAction, {QKeySequence(Qt::Key_Return), QKeySequence(Qt::Key_Enter)});
+    for (QAction* action : {play_, playSelected_}) {
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        ui_.audioTableView_->addAction(action);
+    }
+    ui_.outlineLibraryView_->addAction(play_);
+    menu->addSeparator();
+    show_ = add(menu, tr("S&how in Folder"), QStringLiteral("show"), tr("Show the file in the file manager"),
+                &MainWndController::revealInFinder, {QKeySequence(Qt::CTRL | Qt::Key_E)});
+    open_ = add(menu, tr("&Open in Player"), QStringLiteral("open"), tr("Open the file in your music player"),
+                &MainWndController::openIniTunes, {QKeySequence(Qt::CTRL | Qt::Key_O)});
+    menu->addSeparator();
+    addWindow(menu, Window::CDBurn, tr("&Burn to Disc…"), QStringLiteral("burn"), tr("Make an audio CD of this list"),
+              &MainWndController::openCDBurnFace, {QKeySequence(Qt::CTRL | Qt::Key_B)});
+    addWindow(menu, Window::Filter, tr("&Find Short Recordings…"), QStringLiteral("filter"),
+              tr("Find recordings that are too short to keep"), &MainWndController::openFilterWindow,
+              {QKeySequence(Qt::CTRL | Qt::Key_F)});
+}
+
+void MainMenus::makeViewMenu() {
+    QMenu* menu = ui_.mainMenu_->addMenu(tr("&View"));
+    QAction* change =
+        add(menu, tr("&Switch the Display"), QStringLiteral("switch-display"),
+            tr("Level of the recording, or position of the playback"), nullptr, {QKeySequence(Qt::CTRL | Qt::Key_D)});
+    connect(change, &QAction::triggered, &controller_.display(), &AudioWaveViewController::changeTabView);
+}
+
+void MainMenus::makeHelpMenu() {
+    QMenu* menu = ui_.mainMenu_->addMenu(tr("&Help"));
+    add(menu, tr("&Support Page"), {}, {}, &MainWndController::support, {QKeySequence(Qt::Key_F1)});
+    add(menu, tr("Computer-Audio &Add-on Page"), {}, {}, &MainWndController::audioDevice);
+    add(menu, tr("&Install the Computer-Audio Device…"), {}, {}, &MainWndController::requestSystemAudioRecordDevice);
+    menu->addSeparator();
+    about_ = add(menu, tr("A&bout Sonaphex"), {}, {}, nullptr);
+    connect(about_, &QAction::triggered, this, &MainMenus::showAbout);
+}
+
+void MainMenus::makeContextMenu() {
+    audioTableViewMenu_ = new QMenu(ui_.audioTableView_);
+    audioTableViewMenu_->setObjectName(QStringLiteral("audioTableViewMenu_"));
+    audioTableViewMenu_->setToolTipsVisible(true);
+    // Items of its own: this menu hides all of them when nothing is selected, the menu bar never does.
+    const auto item = [this](QAction* original) {
+        QAction* copy = audioTableViewMenu_->addAction(original->icon(), original->text());
+        connect(copy, &QAction::triggered, original, &QAction::trigger);
+        contextItems_.emplaceBack(copy, original);
+    };
+    item(playSelected_);
+    audioTableViewMenu_->addSeparator();
+    for (const Window each : {Window::ID3Edit, Window::AudioTrim, Window::RingtoneMaker})
+        item(window(each));
+    audioTableViewMenu_->addSeparator();
+    item(show_);
+    item(open_);
+    audioTableViewMenu_->addSeparator();
+    item(remove_);
+    connect(audioTableViewMenu_, &QMenu::aboutToShow, this, [this] { controller_.menuWillOpen(*audioTableViewMenu_); });
+}
+
+void MainMenus::makeStrip() {
+    // The strip's grey is the same in both shades, and so are its words and icons.
+    QPalette colors = Theme::palette(Theme::Shade::Light);
+    colors.setColor(QPalette::Disabled, QPalette::ButtonText, kStripDisabled);
+    ui_.additionalControlView_->setPalette(colors);
+    place(ui_.btnTrim_, window(Window::AudioTrim), QStringLiteral("trim"), tr("Trim"));
+    place(ui_.btnRingtone_, window(Window::RingtoneMaker), QStringLiteral("ringtone"), tr("Ringtone"));
+    place(ui_.btnEditTags_, window(Window::ID3Edit), QStringLiteral("tags"), tr("Edit Tags"));
+    place(ui_.btnBurn_, window(Window::CDBurn), QStringLiteral("burn"), tr("Burn"));
+    place(ui_.btnFilter_, window(Window::Filter), QStringLiteral("filter"), tr("Filter"));
+    place(ui_.btnShow_, show_, QStringLiteral("show"), tr("Show"));
+    place(ui_.btnOpen_, open_, QStringLiteral("open"), tr("Open in player"));
+    place(ui_.btnDelete_, remove_, QStringLiteral("delete"), tr("Delete"));
+}
+
+void MainMenus::place(QToolButton* button, QAction* action, const QString& icon, const QString& words) {
+    constexpr QSize size(16, 16);
+    QIcon drawn;
+    for (const qreal ratio : {1.0, 2.0}) {
+        drawn.addPixmap(NamedImages::pixmap(icon, size, ratio, kStripText));
+        drawn.addPixmap(NamedImages::pixmap(icon, size, ratio, kStripDisabled), QIcon::Disabled);
+    }
+    button->setIcon(drawn);
+    button->setIconSize(size);
+    button->setText(words);
+    button->setAccessibleName(words);
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::StrongFocus);
+    // Not the button's default action: that would bring the menu's own icon and words along.
+    const auto follow = [button, action, words] {
+        button->setEnabled(action->isEnabled());
+        button->setToolTip(action->toolTip().isEmpty() ? words : action->toolTip());
+    };
+    follow();
+    connect(action, &QAction::changed, button, follow);
+    connect(button, &QToolButton::clicked, action, &QAction::trigger);
+}
+
+void MainMenus::setCompact(bool compact) {
+    for (QToolButton* button : {ui_.btnTrim_, ui_.btnRingtone_, ui_.btnEditTags_, ui_.btnBurn_, ui_.btnFilter_,
+                                ui_.btnShow_, ui_.btnOpen_, ui_.btnDelete_})
+        button->setToolButtonStyle(compact ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon);
+}
+
+void MainMenus::update() {
+    RecordStateController& record = controller_.record();
+    LibraryPresenter& library = controller_.library();
+    for (QAction* action : {startStop_, pauseResume_, split_})
+        action->setEnabled(controller_.validateMenuItem(*action));
+    recordInput_->setChecked(record.builtInChecked());
+    recordInput_->setEnabled(record.sourcesEnabled());
+    recordComputer_->setChecked(record.computerAudioChecked());
+    recordComputer_->setEnabled(record.sourcesEnabled());
+
+    const bool playing = library.isPlaySoundPlaying();
+    play_->setText(playing ? tr("&Pause") : tr("&Play"));
+    play_->setIcon(NamedImages::icon(playing ? QStringLiteral("pause") : QStringLiteral("play")));
+    play_->setEnabled(library.isPlaySoundButtonEnable());
+    playSelected_->setEnabled(library.tableViewPlayEnable());
+    show_->setEnabled(library.tableViewShowEnable());
+    open_->setEnabled(library.tableViewShowEnable());
+    remove_->setEnabled(library.tableViewDeleteEnable());
+    for (std::size_t i = 0; i < windows_.size(); ++i) {
+        const auto which = static_cast<Window>(i);
+        const QString does = windows_[i]->data().toString();
+        windows_[i]->setEnabled(controller_.commands().isEnabled(which));
+        windows_[i]->setToolTip(controller_.commands().hasOpener(which)
+                                    ? does
+                                    : does + u'\n' + tr("Arrives in a later version of Sonaphex."));
+    }
+    for (const auto& [copy, original] : contextItems_) {
+        copy->setText(original->text());
+        copy->setToolTip(original->toolTip());
+        copy->setEnabled(original->isEnabled());
+    }
+}
+
+void MainMenus::showAbout() {
+    QMessageBox box(ui_.contentView_->window());
+    box.setWindowTitle(tr("About Sonaphex"));
+    box.setIconPixmap(
+        NamedImages::pixmap(QStringLiteral("com.korvane.Sonaphex"), {64, 64}, ui_.contentView_->devicePixelRatioF()));
+    box.setText(tr("Sonaphex %1").arg(QStringLiteral(SONAPHEX_VERSION)));
+    box.setInformativeText(tr("Records what the computer plays, what a microphone hears, or both.\n\n"
+                              "© 2026 The Sonaphex authors. Free software under the GNU General Public License, "
+                              "version 3 or later."));
+    box.setStandardButtons(QMessageBox::Ok);
+    box.exec();
+}

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Source/WndController/WindowCommands.h"
+
+#include <QAction>
+#include <QObject>
+
+class MainWndController;
+class QMenu;
+class QToolButton;
+namespace Ui {
+class MainWnd;
+}
+
+/// The commands of the main window as actions, and where they are offered: the menu bar, the strip below the library,
+/// the table's context menu. Main thread.
+class MainMenus : public QObject {
+    Q_OBJECT
+public:
+    MainMenus(Ui::MainWnd& ui, MainWndController& controller, QObject* parent = nullptr);
+
+    /// Brings titles and enabled states of all actions in step with recording and selection. Shortcuts of disabled
+    /// actions are dead, so this follows each change and does not wait for a menu to open.
+    void update();
+    /// Icons without their words in the strip below the library: for narrow windows.
+    void setCompact(bool compact);
+
+    [[nodiscard]] QMenu* audioTableViewMenu() const { return audioTableViewMenu_; }
+    [[nodiscard]] QAction* startStop() const { return startStop_; }
+    [[nodiscard]] QAction* pauseResume() const { return pauseResume_; }
+    [[nodiscard]] QAction* split() const { return split_; }
+    [[nodiscard]] QAction* play() const { return play_; }
+    [[nodiscard]] QAction* playSelected() const { return playSelected_; }
+    [[nodiscard]] QAction* show() const { return show_; }
+    [[nodiscard]] QAction* open() const { return open_; }
+    [[nodiscard]] QAction* remove() const { return remove_; }
+    [[nodiscard]] QAction* quit() const { return quit_; }
+    [[nodiscard]] QAction* preferences() const { return preferences_; }
+    [[nodiscard]] QAction* about() const { return about_; }
+    [[nodiscard]] QAction* window(WindowCommands::Window window) const;
+
+    void showAbout();
+
+private:
+    using Slot = void (MainWndController::*)();
+    QAction* add(QMenu* menu, const QString& text, const QString& icon, const QString& toolTip, Slot slot,
+                 const QList<QKeySequence>& keys = {});
+    QAction* addWindow(QMenu* menu, WindowCommands::Window window, const QString& text, const QString& icon,
+                       const QString& toolTip, Slot slot, const QList<QKeySequence>& keys = {});
+    void makeRecordMenu();
+    void makeEditMenu();
+    void makeLibraryMenu();
+    void makeViewMenu();
+    void makeHelpMenu();
+    void makeContextMenu();
+    void makeStrip();
+    void place(QToolButton* button, QAction* action, const QString& icon, const QString& words);
+
+    Ui::MainWnd& ui_;
+    MainWndController& controller_;
+    QMenu* audioTableViewMenu_ = nullptr;
+    QAction* startStop_ = nullptr;
+    QAction* pauseResume_ = nullptr;
+    QAction* split_ = nullptr;
+    QAction* recordInput_ = nullptr;
+    QAction* recordComputer_ = nullptr;
+    QAction* play_ = nullptr;
+    QAction* playSelected_ = nullptr;
+    QAction* show_ = nullptr;
+    QAction* open_ = nullptr;
+    QAction* remove_ = nullptr;
+    QAction* quit_ = nullptr;
+    QAction* preferences_ = nullptr;
+    QAction* about_ = nullptr;
+    std::array<QAction*, WindowCommands::kWindows> windows_{};
+    QList<QPair<QAction*, QAction*>> contextItems_; ///< an item of the context menu and the action that it stands for
+};

@@ -1,0 +1,346 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/WndController/MainWndController.h"
+
+#include "FilterAudio/AudioFilterController.h"
+#include "Source/Control/PreferenceStore.h"
+#include "Source/Model/AudioRecordEntry.h"
+#include "Source/Model/MediaLibrary.h"
+#include "Source/View/MediaLibraryNodeSizeFieldCell.h"
+#include "Source/View/NamedImages.h"
+#include "Source/WndController/AudioTableModel.h"
+#include "Source/WndController/LibraryOutlineModel.h"
+#include "Source/WndController/LibraryPresenter.h"
+#include "Source/WndController/LibraryRowDelegates.h"
+#include "Source/WndController/MainMenus.h"
+#include "Source/WndController/RecordPanel.h"
+#include "Source/WndController/WindowLayout.h"
+#include "ui_MainWnd.h"
+
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QMenu>
+#include <QScreen>
+
+namespace {
+constexpr int kCompactBelow = 760; ///< width at which the strip's words no longer fit
+}
+
+MainWndController::MainWndController(RecordStateController& record, MediaLibrary& library, QObject* parent)
+    : QObject(parent), record_(record), window_(std::make_unique<QMainWindow>()), ui_(std::make_unique<Ui::MainWnd>()),
+      filter_(std::make_unique<AudioFilterController>()) {
+    ui_->setupUi(window_.get());
+    window_->setWindowIcon(NamedImages::icon(QStringLiteral("com.korvane.Sonaphex")));
+    window_->installEventFilter(this);
+
+    auto* host = new QVBoxLayout(ui_->audioWaveBackgroundView_);
+    host->setContentsMargins(0, 0, 0, 0);
+    display_ = std::make_unique<AudioWaveViewController>(ui_->audioWaveBackgroundView_);
+    host->addWidget(display_->view());
+
+    setUpViews();
+    library_ = std::make_unique<LibraryPresenter>(library, *ui_->outlineLibraryView_, *ui_->audioTableView_, *display_,
+                                                  *filter_, [this] { return record_.isStateAudioRecord(); });
+    commands_ = std::make_unique<WindowCommands>(*library_);
+    panel_ = std::make_unique<RecordPanel>(*ui_, record_, *display_);
+    menus_ = std::make_unique<MainMenus>(*ui_, *this);
+    layout_ = std::make_unique<WindowLayout>(*window_, *ui_->librarySplitter_, *ui_->audioTableView_);
+    bindLibrary();
+
+    display_->setDelegate(this);
+    record_.setDelegate(this);
+    library_->updateDefaultListStyle();
+    menus_->update();
+}
+
+MainWndController::~MainWndController() {
+    record_.setDelegate(nullptr);
+    display_->setDelegate(nullptr);
+    window_->removeEventFilter(this);
+    layout_->save();
+}
+
+void MainWndController::setUpViews() {
+    QTreeView* outline = ui_->outlineLibraryView_;
+    outline->setItemDelegateForColumn(LibraryOutlineModel::Name, new OutlineRowDelegate(outline));
+    outline->setItemDelegateForColumn(LibraryOutlineModel::Count, new MediaLibraryNodeSizeFieldCell(outline));
+    outline->setIconSize({LibraryOutlineModel::kIconSize, LibraryOutlineModel::kIconSize});
+    outline->setRootIsDecorated(false);
+    outline->setItemsExpandable(true);
+    outline->setExpandsOnDoubleClick(false);
+    outline->setIndentation(8);
+    outline->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    outline->setTextElideMode(Qt::ElideMiddle);
+    outline->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+
+    // The pane's own picture shows through.
+    outline->viewport()->setAutoFillBackground(false);
+
+    MediaNodeListTableView* table = ui_->audioTableView_;
+    table->setMenuDelegate(this);
+    table->setItemDelegate(new AudioRowDelegate(table));
+    table->setSortingEnabled(false); // on after the columns are there: it sorts at once
+}
+
+void MainWndController::bindLibrary() {
+    QHeaderView* columns = ui_->outlineLibraryView_->header();
+    columns->setStretchLastSection(false);
+    columns->setSectionResizeMode(LibraryOutlineModel::Name, QHeaderView::Stretch);
+    columns->setSectionResizeMode(LibraryOutlineModel::Count, QHeaderView::Fixed);
+    columns->setMinimumSectionSize(24);
+    columns->resizeSection(LibraryOutlineModel::Count, 48);
+
+    MediaNodeListTableView* table = ui_->audioTableView_;
+    table->verticalHeader()->setDefaultSectionSize(AudioRowDelegate::rowHeight(*table));
+    table->setColumnHidden(AudioTableModel::Path, true);
+    table->horizontalHeader()->setSectionResizeMode(AudioTableModel::State, QHeaderView::Fixed);
+    table->horizontalHeader()->setSortIndicatorClearable(true);
+    table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    table->setSortingEnabled(true);
+    layout_->restore();
+
+    LibraryPresenter* library = library_.get();
+    const auto update = [this] { menus_->update(); };
+    connect(library, &LibraryPresenter::tableViewPlayEnableChanged, menus_.get(), update);
+    connect(library, &LibraryPresenter::tableViewSelectionAudioChanged, menus_.get(), update);
+    connect(library, &LibraryPresenter::canFilterAudioChanged, menus_.get(), update);
+    connect(library, &LibraryPresenter::canFilterAudioChanged, this, &MainWndController::showEmptyText);
+    connect(library, &LibraryPresenter::tableViewSelectionAudioChanged, this, &MainWndController::showSelection);
+    connect(library, &LibraryPresenter::problem, this, &MainWndController::showStatus);
+    // Ten times a second while the display ticks: only what differs is touched.
+    connect(library, &LibraryPresenter::isPlaySoundPlayingChanged, this, [this] {
+        const bool playing = library_->isPlaySoundPlaying();
+        const bool enabled = library_->isPlaySoundButtonEnable();
+        const QString image = playing ? QStringLiteral("Pause.png") : QStringLiteral("Play.png");
+        if (ui_->btnPlayAudio_->image() == image && ui_->btnPlayAudio_->isEnabled() == enabled)
+            return;
+        ui_->btnPlayAudio_->setImage(image);
+        ui_->btnPlayAudio_->setToolTip(playing ? QStringLiteral("Pause") : QStringLiteral("Play"));
+        ui_->btnPlayAudio_->setEnabled(enabled);
+        menus_->update();
+    });
+    connect(ui_->btnPlayAudio_, &QAbstractButton::clicked, this, &MainWndController::playSoundButtonAction);
+    connect(&record_, &RecordStateController::stateChanged, menus_.get(), update);
+    connect(&record_, &RecordStateController::recordingFinished, this, &MainWndController::recordingFinished);
+    showEmptyText();
+    showSelection();
+    ui_->audioTableView_->setFocus();
+}
+
+bool MainWndController::isWindowVisible() const {
+    return window_->isVisible();
+}
+
+void MainWndController::showWindow() {
+    window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
+    window_->raise();
+    window_->activateWindow();
+}
+
+void MainWndController::makeKeyAndOrderFront() {
+    window_->show();
+    showWindow();
+}
+
+void MainWndController::center() {
+    if (const QScreen* screen = window_->screen()) {
+        QRect frame = window_->frameGeometry();
+        frame.moveCenter(screen->availableGeometry().center());
+        window_->move(frame.topLeft());
+    }
+}
+
+void MainWndController::closeWindow() {
+    (void)record_.windowShouldClose();
+}
+
+bool MainWndController::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == window_.get()) {
+        if (event->type() == QEvent::Close) {
+            // The window is never closed: the program ends as a whole, or the recording goes on.
+            event->ignore();
+            closeWindow();
+            return true;
+        }
+        if (event->type() == QEvent::Resize)
+            menus_->setCompact(window_->width() < kCompactBelow);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+QString MainWndController::startStopMenuString() const {
+    return record_.isStateAudioRecord() ? QStringLiteral("Stop Record") : QStringLiteral("Start Record");
+}
+
+QString MainWndController::pauseResumeMenuString() const {
+    return record_.isStateAudioRecord() && record_.isRecordPause_() ? QStringLiteral("Resume Record")
+                                                                    : QStringLiteral("Pause Record");
+}
+
+bool MainWndController::validateMenuItem(QAction& item) const {
+    const QString action = item.property(kActionProperty).toString();
+    if (action == QStringLiteral("splitTheRecord:"))
+        return record_.splitEnabled();
+    if (action == QStringLiteral("startAndStopRecord:")) {
+        item.setText(startStopMenuString());
+        return record_.isStateAudioCanStartRecord();
+    }
+    if (action == QStringLiteral("pauseAndResumeRecord:")) {
+        item.setText(pauseResumeMenuString());
+        return record_.isStateAudioRecord();
+    }
+    return true;
+}
+
+bool MainWndController::tableMenuHidden() const {
+    return library_->tableViewSelectionAudio().isEmpty();
+}
+
+void MainWndController::menuWillOpen(QMenu& menu) {
+    if (&menu != menus_->audioTableViewMenu())
+        return;
+    menus_->update();
+    const bool hidden = tableMenuHidden();
+    for (QAction* item : menu.actions())
+        item->setVisible(!hidden);
+}
+
+QMenu* MainWndController::menuForEvent(QContextMenuEvent& /*event*/) {
+    return menus_->audioTableViewMenu();
+}
+
+void MainWndController::startAndStopRecord() {
+    record_.startAndStopRecord();
+}
+
+void MainWndController::pauseAndResumeRecord() {
+    record_.pauseAndResumeRecord();
+}
+
+void MainWndController::splitTheRecord() {
+    record_.splitTheRecord();
+}
+
+bool MainWndController::isStateAudioCanStartRecord() const {
+    return record_.isStateAudioCanStartRecord();
+}
+
+bool MainWndController::isStateAudioRecord() const {
+    return record_.isStateAudioRecord();
+}
+
+void MainWndController::playSoundButtonAction() {
+    library_->playSoundButtonAction();
+}
+
+void MainWndController::tableViewDoubleAction() {
+    library_->tableViewDoubleAction();
+}
+
+void MainWndController::deleteAudioFile() {
+    library_->deleteAudioFile();
+}
+
+void MainWndController::revealInFinder() {
+    library_->revealInFinder();
+}
+
+void MainWndController::openIniTunes() {
+    library_->openIniTunes();
+}
+
+void MainWndController::openID3EditFace() {
+    commands_->openID3EditFace();
+}
+
+void MainWndController::openAudioTrimFace() {
+    commands_->openAudioTrimFace();
+}
+
+void MainWndController::openCDBurnFace() {
+    commands_->openCDBurnFace();
+}
+
+void MainWndController::openFilterWindow() {
+    commands_->openFilterWindow();
+}
+
+void MainWndController::openRingtoneMakerWindow() {
+    commands_->openRingtoneMakerWindow();
+}
+
+void MainWndController::stopSoundPlaying() {
+    library_->stopSoundPlaying();
+}
+
+void MainWndController::setTabViewShowWave(bool show) {
+    display_->setTabViewShowWave(show);
+}
+
+void MainWndController::updateRecordStateAction() {
+    library_->updateRecordStateAction();
+}
+
+void MainWndController::addRecordFile(const QString& path, const Dictionary& tags) {
+    library_->addRecordFile(path, tags);
+}
+
+void MainWndController::insertTheSystemAudioRecordDevice() {
+    Q_EMIT requestSystemAudioRecordDevice();
+}
+
+void MainWndController::terminate() {
+    layout_->save();
+    Q_EMIT terminateRequested();
+}
+
+float MainWndController::getAudioWaveLevelValue() {
+    return record_.getAudioWaveLevelValue();
+}
+
+void MainWndController::updateAudioWaveRecordState() {
+    if (display_->isRecording() != record_.isStateAudioRecord())
+        display_->setIsRecording(record_.isStateAudioRecord());
+}
+
+void MainWndController::updatePlaySoundButton() {
+    library_->updatePlaySoundButton();
+}
+
+void MainWndController::recordingFinished(const QString& path, const Dictionary& entry) {
+    if (entry.isEmpty()) {
+        const QString seconds = Platform::stringForm(
+            PreferenceStore::preferenceValueForKey(PreferenceStore::PreferenceFilterTimeKey, QStringLiteral("5")));
+        showStatus(tr("“%1” was not added: it is shorter than %2 s.").arg(QFileInfo(path).completeBaseName(), seconds));
+        return;
+    }
+    // While the next recording runs, the user's own selection stays.
+    if (record_.isStateAudioRecord())
+        showStatus(path);
+    else if (library_->selectFile(path))
+        showSelection();
+}
+
+void MainWndController::showSelection() {
+    showStatus(library_->tableViewSelectionAudioPath());
+}
+
+void MainWndController::showStatus(const QString& text) {
+    ui_->lblStatus_->setText(text);
+    ui_->lblStatus_->setVisible(!text.isEmpty());
+}
+
+void MainWndController::showEmptyText() {
+    const bool nothingYet = library_->libraryIsEmpty();
+    const MediaLibraryNode* node = library_->libraryViewSelectedNode();
+    const bool ringtones = node && node->key().endsWith(QStringLiteral("ringtone"));
+    if (library_->canFilterAudio())
+        ui_->audioTableView_->setEmptyText({});
+    else if (nothingYet && !ringtones)
+        ui_->audioTableView_->setEmptyText(tr("Nothing here yet. Press the red button to make your first recording."),
+                                           QStringLiteral("arrow-to-start"));
+    else
+        ui_->audioTableView_->setEmptyText(ringtones ? tr("Ringtones that you make of your recordings appear here.")
+                                                     : tr("Recordings that you make now appear here."));
+}

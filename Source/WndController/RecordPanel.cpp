@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/WndController/RecordPanel.h"
+
+#include "Source/AudioWaveViewController/AudioWaveViewController.h"
+#include "Source/Control/RecordStateController.h"
+#include "Source/View/ConvertingTipView.h"
+#include "Source/View/NamedImages.h"
+#include "ui_MainWnd.h"
+
+#include <QLocale>
+#include <QSignalBlocker>
+
+RecordPanel::RecordPanel(Ui::MainWnd& ui, RecordStateController& record, AudioWaveViewController& display,
+                         QObject* parent)
+    : QObject(parent), ui_(ui), record_(record), display_(display),
+      fileConvertingTipView_(new ConvertingTipView(ui.libraryView_)) {
+    ui_.btnSatrtRecord_->setImageSize(52);
+    ui_.btnSplitRecord_->setImage(QStringLiteral("split"));
+    ui_.btnPlayAudio_->setImage(QStringLiteral("Play.png"));
+    for (TransportButton* button : {ui_.btnPauseRecord_, ui_.btnSplitRecord_, ui_.btnPlayAudio_})
+        button->setImageSize(32);
+
+    connect(ui_.btnSatrtRecord_, &QAbstractButton::clicked, &record_, &RecordStateController::startAndStopRecord);
+    connect(ui_.btnPauseRecord_, &QAbstractButton::clicked, &record_, &RecordStateController::pauseAndResumeRecord);
+    connect(ui_.btnSplitRecord_, &QAbstractButton::clicked, &record_, &RecordStateController::splitTheRecord);
+    // A box shows the recorder's answer, which may be no: without the device, "computer audio" goes off again.
+    connect(ui_.btnBuiltInRecord_, &QCheckBox::clicked, this, [this](bool on) {
+        record_.chooseRecordBuiltIn(on);
+        showState();
+    });
+    connect(ui_.btnComputerAudioRecord_, &QCheckBox::clicked, this, [this](bool on) {
+        record_.chooseRecordComputerAudio(on);
+        showState();
+    });
+    connect(ui_.popBuiltInDevice_, &QComboBox::activated, &record_, &RecordStateController::chooseBuiltInDevice);
+    connect(&display_, &AudioWaveViewController::noticesDismissed, &record_, &RecordStateController::dismissNotices);
+
+    connect(&record_, &RecordStateController::stateChanged, this, &RecordPanel::showState);
+    connect(&record_, &RecordStateController::displayChanged, this, &RecordPanel::showDisplay);
+    connect(&record_, &RecordStateController::devicesChanged, this, &RecordPanel::showDevices);
+    connect(&record_, &RecordStateController::noticesChanged, this, &RecordPanel::showNotices);
+    connect(&record_, &RecordStateController::queueChanged, this, &RecordPanel::showFileConvertTipView);
+
+    initToopTip();
+    showDevices();
+    showState();
+    showDisplay();
+    showNotices();
+    fileConvertingTipView_->setText(QStringLiteral(""));
+}
+
+void RecordPanel::initToopTip() {
+    ui_.btnSatrtRecord_->setToolTip(QStringLiteral("Start Record"));
+    ui_.btnPauseRecord_->setToolTip(QStringLiteral("Pause Record"));
+    ui_.btnSplitRecord_->setToolTip(QStringLiteral("Cut to another recording"));
+    ui_.btnPlayAudio_->setToolTip(QStringLiteral("Play"));
+    const QString idle = tr("Nothing is being recorded.");
+    ui_.btnSatrtRecord_->setDisabledReason(tr("Choose the input, computer audio, or both first."));
+    ui_.btnPauseRecord_->setDisabledReason(idle);
+    ui_.btnSplitRecord_->setDisabledReason(idle);
+    ui_.btnPlayAudio_->setDisabledReason(tr("Select a recording first. Nothing is played while recording."));
+}
+
+void RecordPanel::showState() {
+    ui_.btnSatrtRecord_->setEnabled(record_.isStateAudioCanStartRecord());
+    ui_.btnSatrtRecord_->setImage(record_.startImage());
+    ui_.btnSatrtRecord_->setPressedImage(record_.startPressedImage());
+    ui_.btnSatrtRecord_->setToolTip(record_.startToolTip());
+    ui_.btnPauseRecord_->setEnabled(record_.isStateAudioRecord());
+    ui_.btnPauseRecord_->setImage(record_.pauseImage());
+    ui_.btnPauseRecord_->setToolTip(record_.pauseToolTip());
+    ui_.btnSplitRecord_->setEnabled(record_.splitEnabled());
+    ui_.btnBuiltInRecord_->setEnabled(record_.sourcesEnabled());
+    ui_.btnComputerAudioRecord_->setEnabled(record_.sourcesEnabled());
+    ui_.popBuiltInDevice_->setEnabled(record_.popUpEnabled());
+    ui_.btnBuiltInRecord_->setChecked(record_.builtInChecked());
+    ui_.btnComputerAudioRecord_->setChecked(record_.computerAudioChecked());
+}
+
+void RecordPanel::showDisplay() {
+    display_.setStateString(record_.stateString());
+    display_.setStateColor(record_.stateColor());
+    display_.setTimeString(record_.timeString());
+    const auto lost = static_cast<qulonglong>(record_.lostFrames());
+    ui_.lblLostFrames_->setText(lost == 0 ? tr("No frames lost") : tr("%1 frames lost").arg(QLocale().toString(lost)));
+    ui_.lblLostFrames_->setForegroundRole(lost == 0 ? QPalette::PlaceholderText : QPalette::WindowText);
+}
+
+void RecordPanel::showDevices() {
+    const QSignalBlocker quiet(ui_.popBuiltInDevice_);
+    ui_.popBuiltInDevice_->clear();
+    const QStringList names = record_.deviceNames();
+    for (const QString& name : names) {
+        ui_.popBuiltInDevice_->addItem(name);
+        ui_.popBuiltInDevice_->setItemData(ui_.popBuiltInDevice_->count() - 1, name, Qt::ToolTipRole);
+    }
+    ui_.popBuiltInDevice_->setCurrentIndex(record_.selectedDevice());
+    ui_.popBuiltInDevice_->setToolTip(names.isEmpty() ? tr("No input device was found.")
+                                                      : names.value(record_.selectedDevice()));
+}
+
+void RecordPanel::showNotices() {
+    display_.setNotices(record_.notices());
+}
+
+void RecordPanel::showFileConvertTipView() {
+    fileConvertingTipView_->showFileConvertTipView(record_.jobsInQueue() > 0, record_.fileConvertTip(),
+                                                   record_.jobProgress());
+}

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+
+class AudioWaveViewController;
+class ConvertingTipView;
+class QComboBox;
+class RecordStateController;
+namespace Ui {
+class MainWnd;
+}
+
+/// Binds the transport buttons, the two sources, the notices and the live display to the recording side: what the
+/// recorder says is shown, what the user does is forwarded. It decides nothing. Main thread.
+class RecordPanel : public QObject {
+    Q_OBJECT
+public:
+    RecordPanel(Ui::MainWnd& ui, RecordStateController& record, AudioWaveViewController& display,
+                QObject* parent = nullptr);
+
+    /// Tool tips of the four transport buttons before anything happens.
+    void initToopTip();
+    /// Shows the converting notice while recordings wait, and hides it when none does. Follows the display's clock.
+    void showFileConvertTipView();
+    [[nodiscard]] ConvertingTipView& fileConvertingTipView() { return *fileConvertingTipView_; }
+
+private:
+    void showState();
+    void showDisplay();
+    void showDevices();
+    void showNotices();
+
+    Ui::MainWnd& ui_;
+    RecordStateController& record_;
+    AudioWaveViewController& display_;
+    ConvertingTipView* fileConvertingTipView_; ///< child of the library's pane
+};

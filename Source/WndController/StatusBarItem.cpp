@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/WndController/StatusBarItem.h"
+
+#include "Source/View/NamedImages.h"
+#include "Source/WndController/MainWndController.h"
+
+#include <QApplication>
+
+StatusBarItem::StatusBarItem(MainWndController& mainWndController, QObject* parent)
+    : QObject(parent), mainWndController_(mainWndController),
+      startStopMenu_(add(QStringLiteral("Start Record"), QStringLiteral("startAndStopRecord:"),
+                         &MainWndController::startAndStopRecord)),
+      pauseResumeMenu_(add(QStringLiteral("Pause Record"), QStringLiteral("pauseAndResumeRecord:"),
+                           &MainWndController::pauseAndResumeRecord)),
+      startNewRecordMenu_(
+          add(tr("Cut to Another Recording"), QStringLiteral("splitTheRecord:"), &MainWndController::splitTheRecord)) {
+    systemBarMenu_.addSeparator();
+    connect(systemBarMenu_.addAction(tr("Show Sonaphex")), &QAction::triggered, &mainWndController_,
+            [this] { ToolControl::showWindowNib(mainWndController_); });
+    connect(systemBarMenu_.addAction(tr("Quit")), &QAction::triggered, &mainWndController_,
+            &MainWndController::closeWindow);
+    connect(&systemBarMenu_, &QMenu::aboutToShow, this, &StatusBarItem::validate);
+    connect(&mainWndController_.record(), &RecordStateController::stateChanged, this, &StatusBarItem::validate);
+    validate();
+
+    QIcon image;
+    for (const qreal ratio : {1.0, 2.0, 3.0})
+        image.addPixmap(
+            NamedImages::pixmap(QStringLiteral("record-status-bar-start"), {kImageSize, kImageSize}, ratio));
+    icon_.setIcon(image);
+    icon_.setToolTip(QStringLiteral("Sonaphex"));
+    icon_.setContextMenu(&systemBarMenu_);
+    connect(&icon_, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
+        if (reason == QSystemTrayIcon::Trigger)
+            ToolControl::showWindowNib(mainWndController_);
+    });
+    icon_.show();
+}
+
+QAction* StatusBarItem::add(const QString& title, const QString& action, void (MainWndController::*command)()) {
+    QAction* item = systemBarMenu_.addAction(title);
+    item->setProperty(MainWndController::kActionProperty, action);
+    connect(item, &QAction::triggered, &mainWndController_, [this, command] { (mainWndController_.*command)(); });
+    return item;
+}
+
+void StatusBarItem::validate() {
+    for (QAction* item : {startStopMenu_, pauseResumeMenu_, startNewRecordMenu_})
+        item->setEnabled(mainWndController_.validateMenuItem(*item));
+}

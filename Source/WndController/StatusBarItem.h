@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QAction>
+#include <QMenu>
+#include <QObject>
+#include <QSystemTrayIcon>
+
+class MainWndController;
+
+/// The program's item in the desktop's status bar: an image and a menu with the three recording commands. Where the
+/// desktop has no such bar nothing is shown, until one appears. Main thread.
+class StatusBarItem : public QObject {
+    Q_OBJECT
+public:
+    /// Side of the image in points.
+    static constexpr int kImageSize = 20;
+
+    explicit StatusBarItem(MainWndController& mainWndController, QObject* parent = nullptr);
+
+    [[nodiscard]] QMenu* systemBarMenu() { return &systemBarMenu_; }
+    [[nodiscard]] QAction* startStopMenu() const { return startStopMenu_; }
+    [[nodiscard]] QAction* pauseResumeMenu() const { return pauseResumeMenu_; }
+    [[nodiscard]] QAction* startNewRecordMenu() const { return startNewRecordMenu_; }
+    [[nodiscard]] const QSystemTrayIcon& icon() const { return icon_; }
+
+private:
+    QAction* add(const QString& title, const QString& action, void (MainWndController::*command)());
+    /// Titles and enabled states; at each change of the recording, since status bars keep copies of menus.
+    void validate();
+
+    MainWndController& mainWndController_;
+    QMenu systemBarMenu_;
+    QAction* startStopMenu_;
+    QAction* pauseResumeMenu_;
+    QAction* startNewRecordMenu_;
+    QSystemTrayIcon icon_;
+};

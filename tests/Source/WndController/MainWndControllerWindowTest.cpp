@@ -1,0 +1,438 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/WndController/MainWndController.h"
+
+#include "RingtoneMaker/CustomSound.h"
+#include "Source/View/ConvertingTipView.h"
+#include "Source/View/ElidedLabel.h"
+#include "Source/View/TransportButton.h"
+#include "Source/WndController/AudioTableModel.h"
+#include "Source/WndController/WindowLayout.h"
+#include "tests/Source/WndController/WindowWorld.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class MainWindow : public testing::Test {
+protected:
+    [[nodiscard]] TransportButton& button(const char* name) const { return world.outlet<TransportButton>(name); }
+    [[nodiscard]] QTableView& table() const { return world.outlet<QTableView>("audioTableView_"); }
+    [[nodiscard]] QString status() const { return world.outlet<ElidedLabel>("lblStatus_").text(); }
+    void addRecording(const QString& title, double seconds = 3) {
+        const Dictionary entry = world.made(title, seconds);
+        world.sounds.lengths.insert(entry.value(AudioRecordEntry::SavePath).toString(), seconds);
+        world.library->addRecordFile(entry);
+    }
+    void feed(float level, AudioObjectID device = WindowWorld::kMicrophone) {
+        world.hardware.unitOf(device)->feedValue(level, 512);
+    }
+    void showAll() {
+        world.selectNode(u"all-record"_s);
+        world.controller->library().tableModel().reload();
+    }
+    void clickRow(int row, Qt::KeyboardModifiers keys = {}) {
+        QWidget* viewport = table().viewport();
+        const QPoint place = table().visualRect(table().model()->index(row, AudioTableModel::Title)).center();
+        QTest::mouseClick(world.controller->window()->windowHandle(), Qt::LeftButton, keys,
+                          viewport->mapTo(world.controller->window(), place));
+    }
+    void key(int code, Qt::KeyboardModifiers keys = {}) {
+        QTest::keyClick(world.controller->window()->windowHandle(), Qt::Key(code), keys);
+    }
+
+    WindowWorld world;
+};
+
+} // namespace
+
+TEST_F(MainWindow, BeginsIdleWithTheInputChosen) {
+    world.open();
+    EXPECT_TRUE(button("btnSatrtRecord_").isEnabled());
+    EXPECT_FALSE(button("btnPauseRecord_").isEnabled());
+    EXPECT_FALSE(button("btnSplitRecord_").isEnabled());
+    EXPECT_FALSE(button("btnPlayAudio_").isEnabled());
+    EXPECT_TRUE(world.outlet<QAbstractButton>("btnBuiltInRecord_").isChecked());
+    EXPECT_FALSE(world.outlet<QAbstractButton>("btnComputerAudioRecord_").isChecked());
+    auto& devices = world.outlet<QComboBox>("popBuiltInDevice_");
+    ASSERT_EQ(devices.count(), 1) << "the computer-audio device is none of the inputs";
+    EXPECT_EQ(devices.itemText(0), u"Built-in Microphone"_s);
+    EXPECT_EQ(button("btnSatrtRecord_").toolTip(), u"Start Record"_s);
+    EXPECT_EQ(button("btnPauseRecord_").toolTip(), u"Pause Record"_s);
+    EXPECT_EQ(button("btnSplitRecord_").toolTip(), u"Cut to another recording"_s);
+    EXPECT_EQ(button("btnPlayAudio_").toolTip(), u"Play"_s);
+    EXPECT_EQ(world.controller->display().stateString(), u"Ready"_s);
+}
+
+TEST_F(MainWindow, ButtonsFollowARecordingFromStartToStop) {
+    world.open();
+    world.click("btnSatrtRecord_");
+    EXPECT_TRUE(button("btnPauseRecord_").isEnabled());
+    EXPECT_TRUE(button("btnSplitRecord_").isEnabled());
+    EXPECT_EQ(button("btnSatrtRecord_").toolTip(), u"Stop Record"_s);
+    EXPECT_EQ(button("btnSatrtRecord_").image(), u"RecorderStop.png"_s);
+    EXPECT_EQ(button("btnSatrtRecord_").pressedImage(), u"RecorderStopDown.png"_s);
+    EXPECT_FALSE(world.outlet("btnBuiltInRecord_").isEnabled());
+    EXPECT_FALSE(world.outlet("btnComputerAudioRecord_").isEnabled());
+    EXPECT_FALSE(world.outlet("popBuiltInDevice_").isEnabled());
+    feed(0.5F);
+    world.click("btnPauseRecord_");
+    EXPECT_EQ(button("btnPauseRecord_").image(), u"RecorderResume.png"_s);
+    EXPECT_EQ(button("btnPauseRecord_").toolTip(), u"Resume Record"_s);
+    world.click("btnPauseRecord_");
+    EXPECT_EQ(button("btnPauseRecord_").image(), u"RecorderPause.png"_s);
+    world.click("btnSatrtRecord_");
+    EXPECT_FALSE(button("btnPauseRecord_").isEnabled());
+    EXPECT_EQ(button("btnSatrtRecord_").image(), u"RecorderStart.png"_s);
+    EXPECT_TRUE(world.outlet("btnBuiltInRecord_").isEnabled());
+    EXPECT_TRUE(waitFor([&] { return world.record->jobsInQueue() == 0; }));
+}
+
+TEST_F(MainWindow, AFinishedRecordingIsSelectedAndItsPathShown) {
+    addRecording(u"Old"_s);
+    world.open();
+    world.click("btnSatrtRecord_");
+    feed(0.5F);
+    world.click("btnSatrtRecord_");
+    ASSERT_TRUE(waitFor([&] { return world.library->records().size() == 2; }));
+    ASSERT_TRUE(waitFor([&] { return !world.controller->library().tableViewSelectionAudio().isEmpty(); }));
+    EXPECT_EQ(world.controller->library().tableViewSelectionAudio().value(AudioRecordEntry::Title), u"Track0"_s);
+    EXPECT_EQ(world.controller->library().libraryViewSelectedNode()->key(), u"new-record"_s);
+    EXPECT_EQ(status(), world.folder.filePath(u"music/Track0.m4a"_s));
+}
+
+TEST_F(MainWindow, ARecordingThatTheFilterDropsIsSaidSo) {
+    PreferenceStore::setPreferenceValue(1, PreferenceStore::PreferenceFilterKey);
+    world.open();
+    Q_EMIT world.record->recordingFinished(u"/music/Track7.m4a"_s, {});
+    EXPECT_TRUE(status().contains(u"Track7"_s));
+    EXPECT_TRUE(status().contains(u"5 s"_s));
+}
+
+TEST_F(MainWindow, ClosingWhileRecordingIsRefusedWithTheAlert) {
+    world.open();
+    QSignalSpy ended(world.controller.get(), &MainWndController::terminateRequested);
+    world.click("btnSatrtRecord_");
+    feed(0.5F);
+    EXPECT_FALSE(world.controller->window()->close());
+    ASSERT_EQ(world.alerts.shown.size(), 1);
+    EXPECT_EQ(world.alerts.shown[0].title, u"Waring:"_s);
+    EXPECT_EQ(world.alerts.shown[0].text, u"Please stop your recording."_s);
+    EXPECT_EQ(world.alerts.shown[0].buttons, QStringList{u"OK"_s});
+    EXPECT_EQ(ended.count(), 0);
+    EXPECT_TRUE(world.controller->window()->isVisible());
+    world.click("btnSatrtRecord_");
+    ASSERT_TRUE(waitFor([&] { return world.record->jobsInQueue() == 0; }));
+    EXPECT_FALSE(world.controller->window()->close()) << "the window itself is never closed";
+    EXPECT_EQ(ended.count(), 1) << "the program ends";
+    EXPECT_TRUE(world.controller->window()->isVisible());
+}
+
+TEST_F(MainWindow, WithoutASourceTheStartButtonIsDisabledAndSaysWhy) {
+    world.open();
+    world.click("btnBuiltInRecord_");
+    EXPECT_FALSE(button("btnSatrtRecord_").isEnabled());
+    EXPECT_FALSE(button("btnSatrtRecord_").disabledReason().isEmpty());
+    EXPECT_FALSE(world.outlet("popBuiltInDevice_").isEnabled());
+    EXPECT_FALSE(world.controller->isStateAudioCanStartRecord());
+    world.click("btnBuiltInRecord_");
+    EXPECT_TRUE(button("btnSatrtRecord_").isEnabled());
+}
+
+TEST(MainWindowWithoutComputerAudio, TheBoxOffersTheAddOnAndGoesOffAgain) {
+    WindowWorld world(false);
+    world.open();
+    QSignalSpy install(world.controller.get(), &MainWndController::requestSystemAudioRecordDevice);
+    world.alerts.answers = {1, 0};
+    world.click("btnComputerAudioRecord_");
+    ASSERT_EQ(world.alerts.shown.size(), 1);
+    EXPECT_EQ(world.alerts.shown[0].title, u"Add-on required to record the system audio."_s);
+    EXPECT_FALSE(world.outlet<QAbstractButton>("btnComputerAudioRecord_").isChecked());
+    EXPECT_EQ(install.count(), 0) << "Cancel installs nothing";
+    world.click("btnComputerAudioRecord_");
+    EXPECT_FALSE(world.outlet<QAbstractButton>("btnComputerAudioRecord_").isChecked());
+    EXPECT_EQ(install.count(), 1);
+}
+
+TEST_F(MainWindow, TheMenuTitlesFollowTheState) {
+    MainWndController& controller = world.open();
+    EXPECT_EQ(controller.startStopMenuString(), u"Start Record"_s);
+    EXPECT_EQ(controller.pauseResumeMenuString(), u"Pause Record"_s);
+    EXPECT_EQ(controller.menus().startStop()->text(), u"Start Record"_s);
+    EXPECT_FALSE(controller.menus().pauseResume()->isEnabled());
+    EXPECT_FALSE(controller.menus().split()->isEnabled());
+    controller.startAndStopRecord();
+    feed(0.5F);
+    controller.pauseAndResumeRecord();
+    EXPECT_EQ(controller.startStopMenuString(), u"Stop Record"_s);
+    EXPECT_EQ(controller.pauseResumeMenuString(), u"Resume Record"_s);
+    EXPECT_EQ(controller.menus().startStop()->text(), u"Stop Record"_s);
+    EXPECT_EQ(controller.menus().pauseResume()->text(), u"Resume Record"_s);
+    EXPECT_TRUE(controller.menus().split()->isEnabled());
+    controller.startAndStopRecord();
+    EXPECT_EQ(controller.pauseResumeMenuString(), u"Pause Record"_s);
+}
+
+TEST_F(MainWindow, ValidatesItemsByTheirAction) {
+    MainWndController& controller = world.open();
+    QAction item;
+    item.setText(u"kept"_s);
+    EXPECT_TRUE(controller.validateMenuItem(item)) << "any other action is always enabled";
+    EXPECT_EQ(item.text(), u"kept"_s);
+    item.setProperty(MainWndController::kActionProperty, u"splitTheRecord:"_s);
+    EXPECT_FALSE(controller.validateMenuItem(item));
+    EXPECT_EQ(item.text(), u"kept"_s);
+    item.setProperty(MainWndController::kActionProperty, u"startAndStopRecord:"_s);
+    EXPECT_TRUE(controller.validateMenuItem(item));
+    EXPECT_EQ(item.text(), u"Start Record"_s);
+    item.setProperty(MainWndController::kActionProperty, u"pauseAndResumeRecord:"_s);
+    EXPECT_FALSE(controller.validateMenuItem(item));
+    EXPECT_EQ(item.text(), u"Pause Record"_s);
+}
+
+TEST_F(MainWindow, TheContextMenuIsHiddenWithoutASelectionAndTheMenuBarIsNot) {
+    addRecording(u"One"_s);
+    MainWndController& controller = world.open();
+    showAll();
+    QMenu* menu = controller.menus().audioTableViewMenu();
+    EXPECT_TRUE(controller.tableMenuHidden());
+    controller.menuWillOpen(*menu);
+    for (const QAction* item : menu->actions())
+        EXPECT_FALSE(item->isVisible());
+    clickRow(0);
+    EXPECT_FALSE(controller.tableMenuHidden());
+    controller.menuWillOpen(*menu);
+    for (const QAction* item : menu->actions())
+        EXPECT_TRUE(item->isVisible());
+    table().clearSelection();
+    controller.menuWillOpen(*menu);
+    EXPECT_TRUE(controller.menus().show()->isVisible());
+    QMenu other;
+    QAction* untouched = other.addAction(u"x"_s);
+    controller.menuWillOpen(other);
+    EXPECT_TRUE(untouched->isVisible()) << "other menus are left alone";
+}
+
+TEST_F(MainWindow, DoubleClickPlaysAndTheButtonPauses) {
+    addRecording(u"One"_s);
+    addRecording(u"Two"_s);
+    MainWndController& controller = world.open();
+    showAll();
+    clickRow(1);
+    EXPECT_TRUE(button("btnPlayAudio_").isEnabled());
+    const QPoint place = table().viewport()->mapTo(
+        controller.window(), table().visualRect(table().model()->index(1, AudioTableModel::Title)).center());
+    QTest::mouseDClick(controller.window()->windowHandle(), Qt::LeftButton, {}, place);
+    ASSERT_NE(controller.display().playSound(), nullptr);
+    EXPECT_EQ(controller.display().title(), u"One"_s);
+    EXPECT_FALSE(controller.display().tabViewShowWave());
+    EXPECT_EQ(button("btnPlayAudio_").image(), u"Pause.png"_s);
+    world.click("btnPlayAudio_");
+    EXPECT_TRUE(controller.display().playSound()->isPause());
+    EXPECT_EQ(button("btnPlayAudio_").image(), u"Play.png"_s);
+    world.click("btnSatrtRecord_");
+    EXPECT_TRUE(controller.display().playSound()->isStop()) << "recording ends playback";
+    EXPECT_TRUE(controller.display().tabViewShowWave());
+    EXPECT_FALSE(button("btnPlayAudio_").isEnabled());
+    EXPECT_FALSE(controller.menus().playSelected()->isEnabled());
+    world.click("btnSatrtRecord_");
+}
+
+TEST_F(MainWindow, KeysDoWhatTheMenusSay) {
+    addRecording(u"One"_s);
+    MainWndController& controller = world.open();
+    showAll();
+    clickRow(0);
+    table().setFocus();
+    key(Qt::Key_Return);
+    ASSERT_NE(controller.display().playSound(), nullptr);
+    EXPECT_TRUE(controller.library().isPlaySoundPlaying());
+    key(Qt::Key_Space);
+    EXPECT_FALSE(controller.library().isPlaySoundPlaying());
+    world.alerts.answers = {0};
+    key(Qt::Key_Delete);
+    EXPECT_EQ(world.alerts.shown.size(), 1);
+    EXPECT_EQ(world.library->records().size(), 1);
+    key(Qt::Key_R, Qt::ControlModifier);
+    EXPECT_TRUE(controller.isStateAudioRecord());
+    key(Qt::Key_P, Qt::ControlModifier);
+    EXPECT_TRUE(world.record->isRecordPause_());
+    key(Qt::Key_R, Qt::ControlModifier);
+    EXPECT_FALSE(controller.isStateAudioRecord());
+    QSignalSpy preferences(&controller, &MainWndController::perference);
+    key(Qt::Key_Comma, Qt::ControlModifier);
+    EXPECT_EQ(preferences.count(), 1);
+    ASSERT_TRUE(waitFor([&] { return world.record->jobsInQueue() == 0; }));
+    QSignalSpy ended(&controller, &MainWndController::terminateRequested);
+    key(Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_EQ(ended.count(), 1);
+}
+
+TEST_F(MainWindow, SpaceStillSwitchesABoxThatHasTheFocus) {
+    world.open();
+    auto& box = world.outlet<QAbstractButton>("btnBuiltInRecord_");
+    box.setFocus();
+    key(Qt::Key_Space);
+    EXPECT_FALSE(box.isChecked());
+    EXPECT_EQ(world.controller->display().playSound(), nullptr);
+}
+
+TEST_F(MainWindow, CommandsOfWindowsToComeAreDisabledAndSaySo) {
+    addRecording(u"One"_s);
+    MainWndController& controller = world.open();
+    showAll();
+    clickRow(0);
+    for (const auto window :
+         {WindowCommands::Window::ID3Edit, WindowCommands::Window::AudioTrim, WindowCommands::Window::CDBurn,
+          WindowCommands::Window::Filter, WindowCommands::Window::RingtoneMaker}) {
+        const QAction* action = controller.menus().window(window);
+        EXPECT_FALSE(action->isEnabled()) << qPrintable(action->text());
+        EXPECT_TRUE(action->toolTip().contains(u"later version"_s));
+    }
+    controller.openID3EditFace();
+    controller.openFilterWindow();
+}
+
+TEST_F(MainWindow, WindowCommandsGetWhatTheyWorkOn) {
+    addRecording(u"One"_s);
+    addRecording(u"Two"_s);
+    MainWndController& controller = world.open();
+    showAll();
+    clickRow(0);
+    using Window = WindowCommands::Window;
+    QList<QPair<Window, QVariantList>> opened;
+    for (const auto window :
+         {Window::ID3Edit, Window::AudioTrim, Window::CDBurn, Window::Filter, Window::RingtoneMaker})
+        controller.commands().setOpener(window, [&opened, window](const QVariantList& entries) {
+            opened.append({window, entries});
+        });
+    controller.menus().update();
+    EXPECT_TRUE(controller.menus().window(Window::ID3Edit)->isEnabled());
+    EXPECT_TRUE(controller.menus().window(Window::RingtoneMaker)->isEnabled());
+    controller.playSoundButtonAction();
+    controller.openID3EditFace();
+    EXPECT_TRUE(controller.library().isPlaySoundPlaying()) << "the tag editor lets it play";
+    controller.openAudioTrimFace();
+    EXPECT_FALSE(controller.library().isPlaySoundPlaying());
+    controller.openCDBurnFace();
+    controller.openFilterWindow();
+    controller.playSoundButtonAction();
+    controller.openRingtoneMakerWindow();
+    EXPECT_FALSE(controller.library().isPlaySoundPlaying());
+    ASSERT_EQ(opened.size(), 5);
+    EXPECT_EQ(opened[0].second, QVariantList{controller.library().tableViewSelectionAudio()});
+    EXPECT_EQ(opened[1].second, QVariantList{controller.library().tableViewSelectionAudio()});
+    EXPECT_EQ(opened[2].second, world.library->records());
+    EXPECT_EQ(opened[3].second, world.library->records());
+    EXPECT_EQ(opened[4].second.size(), 1);
+}
+
+TEST_F(MainWindow, TheConvertingNoticeSlidesInAndOut) {
+    MainWndController& controller = world.open();
+    ConvertingTipView& tip = controller.recordPanel().fileConvertingTipView();
+    EXPECT_FALSE(tip.isVisible());
+    const QString text = u"         Audio File Converting\n         Please Wait .."_s;
+    tip.showFileConvertTipView(true, text, 0.5);
+    EXPECT_TRUE(tip.isVisible());
+    EXPECT_EQ(tip.text(), text);
+    EXPECT_EQ(tip.palette().color(tip.foregroundRole()), QColor(Qt::red));
+    const int height = tip.parentWidget()->height();
+    ASSERT_TRUE(waitFor([&] { return tip.y() == height - tip.height(); }));
+    tip.showFileConvertTipView(false, text, -1);
+    EXPECT_TRUE(waitFor([&] { return !tip.isVisible(); }));
+    EXPECT_EQ(tip.y(), height);
+}
+
+TEST_F(MainWindow, LostFramesAndNoticesAreShown) {
+    MainWndController& controller = world.open();
+    auto& lost = world.outlet<QLabel>("lblLostFrames_");
+    EXPECT_EQ(lost.text(), u"No frames lost"_s);
+    world.click("btnSatrtRecord_");
+    feed(0.5F);
+    for (const auto& state : world.hardware.opened)
+        state->lost = 480;
+    world.record->recordFlushTime();
+    ASSERT_TRUE(waitFor([&] { return lost.text().startsWith(u"480"_s); }));
+    EXPECT_TRUE(waitFor([&] { return !controller.display().notices().isEmpty(); }));
+    Q_EMIT controller.display().noticesDismissed();
+    EXPECT_TRUE(world.record->notices().isEmpty());
+    world.click("btnSatrtRecord_");
+}
+
+TEST_F(MainWindow, RemembersItsSizeAndColumnsAndIsCentred) {
+    world.open({840, 560});
+    table().horizontalHeader()->resizeSection(AudioTableModel::Artist, 133);
+    world.controller.reset();
+    const Dictionary stored = world.defaults.objectForKey(WindowLayout::kKey).toMap();
+    EXPECT_EQ(stored.value(u"width"_s).toInt(), 840);
+    world.controller = std::make_unique<MainWndController>(*world.record, *world.library);
+    EXPECT_EQ(world.controller->window()->size(),
+              QSize(840, 560).boundedTo(world.controller->window()->screen()->availableSize()));
+    EXPECT_EQ(table().horizontalHeader()->sectionSize(AudioTableModel::Artist), 133);
+    world.controller->window()->move(0, 0);
+    ToolControl::showWindowNib(*world.controller);
+    const QRect screen = world.controller->window()->screen()->availableGeometry();
+    EXPECT_NEAR(world.controller->window()->frameGeometry().center().x(), screen.center().x(), 1);
+}
+
+TEST_F(MainWindow, AStoredSizeThatMakesNoSenseIsNotTaken) {
+    world.defaults.setObject(WindowLayout::kKey,
+                             Dictionary{{u"width"_s, -5}, {u"height"_s, u"x"_s}, {u"columns"_s, 7}});
+    world.controller.reset();
+    world.record = std::make_unique<RecordStateController>();
+    world.record->awakeFromNib();
+    world.controller = std::make_unique<MainWndController>(*world.record, *world.library);
+    EXPECT_GE(world.controller->window()->width(), 720);
+    EXPECT_GE(world.controller->window()->height(), 480);
+}
+
+TEST_F(MainWindow, EveryControlHasANameForThoseWhoHearTheWindow) {
+    world.open();
+    for (const QWidget* widget : world.controller->window()->findChildren<QWidget*>()) {
+        if (widget->focusPolicy() == Qt::NoFocus || !widget->isVisible() || qobject_cast<const QMenu*>(widget) ||
+            qobject_cast<const QMenuBar*>(widget))
+            continue;
+        const auto* button = qobject_cast<const QAbstractButton*>(widget);
+        EXPECT_FALSE(widget->accessibleName().isEmpty() && (!button || button->text().isEmpty()))
+            << widget->metaObject()->className() << " " << qPrintable(widget->objectName());
+    }
+}
+
+TEST_F(MainWindow, TabReachesEveryControl) {
+    addRecording(u"One"_s);
+    world.open();
+    showAll();
+    clickRow(0);
+    world.outlet("btnSatrtRecord_").setFocus();
+    QSet<QString> reached;
+    for (int i = 0; i < 40; ++i) {
+        if (const QWidget* focus = QApplication::focusWidget())
+            reached.insert(focus->objectName());
+        key(Qt::Key_Tab);
+    }
+    for (const QString& name : {u"btnSatrtRecord_"_s, u"btnPlayAudio_"_s, u"btnBuiltInRecord_"_s,
+                                u"popBuiltInDevice_"_s, u"btnComputerAudioRecord_"_s, u"outlineLibraryView_"_s,
+                                u"audioTableView_"_s, u"btnShow_"_s, u"btnOpen_"_s, u"btnDelete_"_s})
+        EXPECT_TRUE(reached.contains(name)) << qPrintable(name);
+}
+
+TEST_F(MainWindow, TheDeviceThatIsChosenIsTheOneThatIsRecorded) {
+    world.hardware.list.push_back({30, u"USB Headset"_s, u"usb"_s});
+    world.open();
+    auto& devices = world.outlet<QComboBox>("popBuiltInDevice_");
+    ASSERT_EQ(devices.count(), 2);
+    devices.setFocus();
+    key(Qt::Key_Down);
+    EXPECT_EQ(world.record->selectedDevice(), 1);
+    EXPECT_NE(world.hardware.unitOf(30), nullptr);
+}

@@ -1,0 +1,174 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "RingtoneMaker/CustomSound.h"
+#include "Source/AudioWaveViewController/AudioRecordWaveView.h"
+#include "Source/View/ConvertingTipView.h"
+#include "Source/View/Theme.h"
+#include "tests/Source/WndController/WindowWorld.h"
+#include "tests/support/Screenshot.h"
+
+#include <QTableView>
+#include <cmath>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What people see in each state. With SONAPHEX_SCREENSHOTS set to a folder the pictures are kept there.
+class Pictures : public testing::Test {
+protected:
+    Pictures() { Theme::install(*qApp, nullptr); }
+    ~Pictures() override { Theme::apply(Theme::Shade::Light); }
+
+    void fill() {
+        const QStringList titles{u"Interview with Ada, part 1"_s,
+                                 u"Interview with Ada, part 2"_s,
+                                 u"Rain on the roof"_s,
+                                 u"Track12"_s,
+                                 u"Track11"_s,
+                                 u"Choir rehearsal"_s,
+                                 u"Lecture 7: sampling"_s};
+        double length = 3725;
+        for (const QString& title : titles) {
+            Dictionary entry = world.made(title, length);
+            entry.insert(AudioRecordEntry::IsNew, title.startsWith(u"Interview"));
+            world.sounds.lengths.insert(entry.value(AudioRecordEntry::SavePath).toString(), length);
+            world.library->addRecordFile(entry);
+            length = std::fmod(length * 0.37 + 61, 4000);
+        }
+        world.library->addRingtoneFile(world.made(u"Ringtone"_s, 24, u"m4r"_s));
+        QFile::remove(world.folder.filePath(u"Track11.m4a"_s));
+    }
+    void showAll(int row = -1) {
+        world.selectNode(u"all-record"_s);
+        world.controller->library().tableModel().reload();
+        if (row >= 0)
+            world.outlet<QTableView>("audioTableView_").selectRow(row);
+    }
+    void levels() {
+        for (int i = 0; i < 400; ++i)
+            world.controller->display().audioRecordWaveView()->addCurrentLevel(
+                static_cast<float>(0.15 + 0.55 * std::abs(std::sin(i * 0.045)) * std::abs(std::sin(i * 0.61))));
+    }
+    /// Takes the picture in both shades; the window must have something to show.
+    void take(const QString& name, qreal ratio = 1) {
+        for (const auto shade : {Theme::Shade::Light, Theme::Shade::Dark}) {
+            Theme::apply(shade);
+            // The look at the disk is a worker's.
+            (void)waitFor([] { return false; }, 120);
+            const QString full = name + (shade == Theme::Shade::Dark ? u"-dark"_s : u"-light"_s);
+            const QImage image = Screenshot::take(*world.controller->window(), full, ratio);
+            EXPECT_GT(Screenshot::coverage(image, image.pixel(image.width() / 2, image.height() - 100)), 0.02);
+        }
+        Theme::apply(Theme::Shade::Light);
+    }
+    void feed(float level, AudioObjectID device = WindowWorld::kMicrophone) {
+        world.hardware.unitOf(device)->feedValue(level, 512);
+    }
+    void tick(int times = 1) {
+        for (int i = 0; i < times; ++i)
+            world.record->recordFlushTime();
+    }
+
+    WindowWorld world;
+};
+
+} // namespace
+
+TEST_F(Pictures, AnEmptyLibraryIsFriendly) {
+    world.open();
+    take(u"empty"_s);
+}
+
+TEST_F(Pictures, IdleWithALibrary) {
+    fill();
+    world.open();
+    showAll(2);
+    levels();
+    take(u"idle"_s);
+    take(u"idle-2x"_s, 2);
+}
+
+TEST_F(Pictures, Recording) {
+    fill();
+    world.open();
+    showAll();
+    world.controller->startAndStopRecord();
+    feed(0.5F);
+    tick(374);
+    levels();
+    take(u"recording"_s);
+    world.controller->pauseAndResumeRecord();
+    tick();
+    take(u"paused"_s);
+    world.controller->startAndStopRecord();
+    EXPECT_TRUE(waitFor([&] { return world.record->jobsInQueue() == 0; }));
+}
+
+TEST_F(Pictures, ArmedAndWaitingForTheFirstSound) {
+    fill();
+    PreferenceStore::setPreferenceValue(false, PreferenceStore::ChooseRecordBuiltIn);
+    PreferenceStore::setPreferenceValue(true, PreferenceStore::ChooseRecordComputerAudio);
+    world.open();
+    world.controller->startAndStopRecord();
+    tick();
+    take(u"armed"_s);
+    EXPECT_TRUE(world.record->isWaittingForSound());
+    world.controller->startAndStopRecord();
+}
+
+TEST_F(Pictures, ConvertingWithANotice) {
+    fill();
+    world.open();
+    showAll();
+    levels();
+    auto& tip = world.controller->recordPanel().fileConvertingTipView();
+    tip.showFileConvertTipView(true, u"         Audio File Converting\n         Please Wait .."_s, 0.4);
+    ASSERT_TRUE(waitFor([&] { return tip.y() == tip.parentWidget()->height() - tip.height(); }));
+    world.controller->display().setNotices({u"The disk is nearly full: about 3 h 10 min left."_s});
+    take(u"converting"_s);
+}
+
+TEST_F(Pictures, Playing) {
+    fill();
+    world.open();
+    showAll(1);
+    world.controller->tableViewDoubleAction();
+    auto& sound = static_cast<FakeSound&>(*world.controller->display().playSound()->sound());
+    sound.time = sound.duration() * 0.4;
+    world.controller->display().updatePlaySoundProgress();
+    take(u"playing"_s);
+}
+
+TEST_F(Pictures, LongNamesAndTextFromRightToLeft) {
+    world.library->addRecordFile(LibraryWorld::entry(
+        u"a"_s, u"A very long title that somebody typed on a rainy afternoon and never shortened again"_s,
+        world.file(u"long.m4a"_s), 86399));
+    world.library->addRecordFile(
+        LibraryWorld::entry(u"b"_s, u"هذا تسجيل طويل للاجتماع الأسبوعي"_s, world.file(u"rtl.m4a"_s), 62));
+    world.library->addRecordFile(LibraryWorld::entry(u"c"_s, u"שיחה עם 123 אורחים"_s, world.file(u"he.m4a"_s), 5));
+    world.open({720, 480});
+    showAll(0);
+    take(u"long-names-720"_s);
+}
+
+TEST_F(Pictures, AWholeMirroredWindow) {
+    fill();
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    world.open();
+    showAll(0);
+    take(u"mirrored"_s);
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+TEST_F(Pictures, FromTheSmallestWindowToAFullScreen) {
+    fill();
+    world.open({720, 480});
+    showAll(0);
+    levels();
+    take(u"small-720x480"_s);
+    world.controller->window()->resize(1920, 1080);
+    levels();
+    take(u"full-1920x1080"_s);
+}
