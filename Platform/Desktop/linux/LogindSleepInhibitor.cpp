@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Desktop/SleepInhibitor.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusUnixFileDescriptor>
+#include <QObject>
+
+namespace Platform {
+namespace {
+
+/// The login manager holds sleep off for as long as the descriptor that it hands out is open, so that a crash lets the
+/// machine sleep again.
+class LogindSleepInhibitor : public SleepInhibitor {
+public:
+    void setInhibited(bool inhibited, const QString& why) override {
+        if (inhibited == wanted_)
+            return;
+        wanted_ = inhibited;
+        held_ = {};
+        if (inhibited)
+            ask(why);
+    }
+    [[nodiscard]] bool isInhibited() const override { return held_.isValid(); }
+
+private:
+    void ask(const QString& why) {
+        QDBusMessage call = QDBusMessage::createMethodCall(
+            QStringLiteral("org.freedesktop.login1"), QStringLiteral("/org/freedesktop/login1"),
+            QStringLiteral("org.freedesktop.login1.Manager"), QStringLiteral("Inhibit"));
+        call << QStringLiteral("sleep:idle") << QStringLiteral("Sonaphex") << why << QStringLiteral("block");
+        auto* watcher = new QDBusPendingCallWatcher(QDBusConnection::systemBus().asyncCall(call), &context_);
+        const int request = ++requests_;
+        QObject::connect(watcher, &QDBusPendingCallWatcher::finished, &context_, [this, watcher, request] {
+            const QDBusPendingReply<QDBusUnixFileDescriptor> reply = *watcher;
+            watcher->deleteLater();
+            // An answer to a request that was taken back closes its descriptor at once.
+            if (reply.isValid() && wanted_ && request == requests_)
+                held_ = reply.value();
+        });
+    }
+
+    bool wanted_ = false;
+    int requests_ = 0;
+    QDBusUnixFileDescriptor held_;
+    QObject context_; ///< last member: no answer arrives once it is gone
+};
+
+} // namespace
+
+std::unique_ptr<SleepInhibitor> createSleepInhibitor() {
+    return std::make_unique<LogindSleepInhibitor>();
+}
+
+} // namespace Platform
