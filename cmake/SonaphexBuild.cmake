@@ -42,11 +42,20 @@ function(sonaphex_sources out)
     set(${out} ${found} PARENT_SCOPE)
 endfunction()
 
+# moc and uic run again when a file changes that they know. One that is new since the last configuration they do not know,
+# so their stamp goes when the list of files changes.
+function(sonaphex_look_at_new_files target)
+    string(SHA1 files "${ARGN}")
+    if(NOT "${${target}_files}" STREQUAL files)
+        file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/timestamp)
+        set(${target}_files ${files} CACHE INTERNAL "The sources of ${target} at the last configuration")
+    endif()
+endfunction()
+
 function(sonaphex_floor name)
     add_library(${name} STATIC ${ARGN})
     target_link_libraries(${name} PUBLIC sonaphex_flags)
-    # A file that is new since the last configuration is not among the dependencies that moc and uic found then.
-    set_target_properties(${name} PROPERTIES AUTOGEN_TARGET_DEPENDS "${ARGN}")
+    sonaphex_look_at_new_files(${name} ${ARGN})
     if(SONAPHEX_PCH)
         target_precompile_headers(${name} PRIVATE
             <algorithm> <array> <atomic> <chrono> <cmath> <cstdint> <functional> <map> <memory> <mutex> <optional> <span>

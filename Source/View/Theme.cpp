@@ -24,6 +24,10 @@ public:
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override {
+        if (element == PE_FrameLineEdit) {
+            drawFieldFrame(*option, *painter);
+            return;
+        }
         const bool box = element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck;
         if (!box && element != PE_IndicatorRadioButton) {
             QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -72,6 +76,22 @@ public:
             }
         }
         painter->restore();
+    }
+
+    // Likewise the frame of a text field.
+    static void drawFieldFrame(const QStyleOption& option, QPainter& painter) {
+        const bool enabled = option.state & State_Enabled;
+        const auto group = enabled ? QPalette::Active : QPalette::Disabled;
+        QColor outline = option.palette.color(group, QPalette::WindowText);
+        outline.setAlphaF(enabled ? 0.32F : 0.2F);
+        if (enabled && option.state & State_HasFocus)
+            outline = option.palette.color(group, QPalette::Highlight);
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(outline, 1));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+        painter.restore();
     }
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {

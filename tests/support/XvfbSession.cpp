@@ -65,6 +65,29 @@ bool rootHas(const QByteArray& display, const char* name, bool selection) {
     return found;
 }
 
+// A window manager that has just taken the screen may lose what is asked of it before it listens: only a window that it
+// really shows proves that it is there.
+bool windowsAreShown(const QByteArray& display) {
+    xcb_connection_t* connection = xcb_connect(display.constData(), nullptr);
+    bool shown = false;
+    if (!xcb_connection_has_error(connection)) {
+        const auto root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+        const xcb_window_t window = xcb_generate_id(connection);
+        xcb_create_window(connection, XCB_COPY_FROM_PARENT, window, root, 0, 0, 50, 50, 0,
+                          XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+        xcb_map_window(connection, window);
+        for (int i = 0; i < 20 && !shown; ++i) {
+            auto* attributes =
+                xcb_get_window_attributes_reply(connection, xcb_get_window_attributes(connection, window), nullptr);
+            shown = attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE;
+            free(attributes);
+            QThread::msleep(10);
+        }
+    }
+    xcb_disconnect(connection);
+    return shown;
+}
+
 bool eventually(const std::function<bool()>& condition, int deadlineMs = 20000) {
     QElapsedTimer timer;
     timer.start();
@@ -143,7 +166,8 @@ struct XvfbSession::Private {
     bool startWindowManager() {
         if (!start(u"openbox"_s, {u"--sm-disable"_s}))
             return false;
-        if (!eventually([this] { return rootHas(display, "_NET_SUPPORTING_WM_CHECK", false); }))
+        if (!eventually([this] { return rootHas(display, "_NET_SUPPORTING_WM_CHECK", false); }) ||
+            !eventually([this] { return windowsAreShown(display); }))
             problem = u"openbox does not take the screen"_s;
         return problem.isEmpty();
     }

@@ -1,0 +1,379 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/WndController/PreferenceWndController.h"
+
+#include "Platform/Audio/AudioHardware.h"
+#include "Platform/Desktop/Alerts.h"
+#include "Platform/Desktop/HotKeys.h"
+#include "Platform/Desktop/Panels.h"
+#include "Platform/Desktop/Workspace.h"
+#include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/MainQueue.h"
+#include "Platform/Foundation/Services.h"
+#include "Source/Control/PreferenceStore.h"
+#include "Source/HotKey/KeybordShortcutTextView.h"
+#include "Source/View/NamedImages.h"
+#include "ui_PreferenceWnd.h"
+
+#include <QEvent>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QShortcut>
+#include <QThread>
+
+using namespace Qt::StringLiterals;
+using namespace PreferenceStore;
+
+namespace {
+
+const QStringList splitTimes{u"100"_s,  u"200"_s,  u"300"_s,  u"500"_s,  u"800"_s,
+                             u"1000"_s, u"1500"_s, u"2000"_s, u"3000"_s, u"5000"_s};
+const QStringList filterTimes{u"1"_s, u"2"_s, u"3"_s, u"5"_s, u"10"_s, u"15"_s, u"20"_s, u"30"_s, u"60"_s};
+
+constexpr std::uint32_t commandAndControl = KeybordShortcutTextView::CommandFlag | KeybordShortcutTextView::ControlFlag;
+
+// Containers, data and dates have no place in a text field.
+bool isTextOrNumber(const QVariant& object) {
+    switch (object.typeId()) {
+    case QMetaType::QString:
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Double:
+        return true;
+    default:
+        return false;
+    }
+}
+
+QString storedTime(const QString& key, const QString& defaultTime) {
+    const QVariant stored = preferenceValueForKey(key, defaultTime);
+    return isTextOrNumber(stored) ? Platform::stringForm(stored) : defaultTime;
+}
+
+QString storedFolder(const QString& key) {
+    const QVariant stored = preferenceValueForKey(key, defaultMusicFolder());
+    const bool usable = stored.typeId() == QMetaType::QString && !stored.toString().isEmpty();
+    return usable ? stored.toString() : defaultMusicFolder();
+}
+
+// Selects the item with this title. One that is not offered is put among the others by its number, so that closing the
+// window stores it again.
+void select(QComboBox* popUp, const QString& title) {
+    int index = popUp->findText(title, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (index < 0) {
+        index = 0;
+        while (index < popUp->count() && Platform::intValue(popUp->itemText(index)) <= Platform::intValue(title))
+            ++index;
+        popUp->insertItem(index, title);
+    }
+    popUp->setCurrentIndex(index);
+}
+
+} // namespace
+
+PreferenceWndController::PreferenceWndController(ComputerAudioDevice device, QObject* parent)
+    : QObject(parent), device_(std::move(device)), window_(std::make_unique<QWidget>()),
+      ui_(std::make_unique<Ui::PreferenceWnd>()) {
+    ui_->setupUi(window_.get());
+    awakeFromNib();
+}
+
+PreferenceWndController::~PreferenceWndController() {
+    if (auto* hotKeys = Platform::services().hotKeys)
+        hotKeys->setWayChangedHandler({});
+}
+
+void PreferenceWndController::awakeFromNib() {
+    window_->setWindowIcon(NamedImages::icon(u"com.korvane.Sonaphex"_s));
+    window_->installEventFilter(this);
+    for (const QKeySequence& keys : {QKeySequence(Qt::Key_Escape), QKeySequence(QKeySequence::Close)})
+        connect(new QShortcut(keys, window_.get()), &QShortcut::activated, window_.get(), &QWidget::close);
+    ui_->chooseAudioPathButton->setIcon(NamedImages::icon(u"folder"_s));
+    ui_->chooseRingtonePathButton->setIcon(NamedImages::icon(u"folder"_s));
+    ui_->showAudioPathButton->setIcon(NamedImages::icon(u"show"_s));
+    ui_->showRingtonePathButton->setIcon(NamedImages::icon(u"show"_s));
+    ui_->splitTimePopUp->addItems(splitTimes);
+    ui_->filterTimePopUp->addItems(filterTimes);
+
+    using Self = PreferenceWndController;
+    connect(ui_->chooseAudioPathButton, &QPushButton::clicked, this, &Self::chooseOutAudioPath);
+    connect(ui_->chooseRingtonePathButton, &QPushButton::clicked, this, &Self::chooseOuRingtonePath);
+    connect(ui_->showAudioPathButton, &QPushButton::clicked, this, &Self::showOutAudioPath);
+    connect(ui_->showRingtonePathButton, &QPushButton::clicked, this, &Self::showOutRingtonePath);
+    connect(ui_->splitCheckBox, &QCheckBox::clicked, this, &Self::chooseSplitEffect);
+    connect(ui_->filterCheckBox, &QCheckBox::clicked, this, &Self::chooseFilterEffect);
+    connect(ui_->splitTimePopUp, &QComboBox::activated, this, &Self::chooseSplitTime);
+    connect(ui_->filterTimePopUp, &QComboBox::activated, this, &Self::chooseFilterTime);
+    connect(ui_->insertDeviceButton, &QPushButton::clicked, this, &Self::insertTheSystemAudioRecordDevice);
+    connect(ui_->unInsertDeviceButton, &QPushButton::clicked, this, &Self::unInsertTheSystemAudioRecordDevice);
+    connect(this, &Self::systemAudioRecordDeviceExistChanged, this, &Self::showDeviceState);
+    if (auto* hardware = Platform::services().audioHardware)
+        connect(hardware, &Platform::AudioHardware::devicesChanged, this, &Self::flushExistSystemAudioRecordDevice);
+    showDeviceWork({});
+    showDeviceState();
+
+    initPerferceInterface();
+    setDefaultShortcut();
+    if (auto* hotKeys = Platform::services().hotKeys)
+        hotKeys->setWayChangedHandler([this] { showHotKeyWay(); });
+    showHotKeyWay();
+}
+
+QVariant PreferenceWndController::preferenceValueForKey(const QString& key, const QVariant& defaultObject) {
+    return PreferenceStore::preferenceValueForKey(key, defaultObject);
+}
+
+void PreferenceWndController::setPreferenceValue(const QVariant& object, const QString& key) {
+    PreferenceStore::setPreferenceValue(object, key);
+}
+
+KeybordShortcutTextView* PreferenceWndController::startStopShortcut() const {
+    return ui_->startStopShortcut;
+}
+
+KeybordShortcutTextView* PreferenceWndController::pauseResumeShortcut() const {
+    return ui_->pauseResumeShortcut;
+}
+
+KeybordShortcutTextView* PreferenceWndController::startNewRecordShortcut() const {
+    return ui_->startNewRecordShortcut;
+}
+
+void PreferenceWndController::initPerferceInterface() {
+    ui_->audioPathField->setText(storedFolder(PreferenceSavePathKey));
+    ui_->ringtonePathField->setText(storedFolder(PreferenceRingtoneSavePathKey));
+    ui_->splitCheckBox->setChecked(Platform::longLongValue(preferenceValueForKey(PreferenceSplitKey, 0)) != 0);
+    ui_->filterCheckBox->setChecked(Platform::boolValue(preferenceValueForKey(PreferenceFilterKey, 1)));
+    chooseSplitEffect();
+    chooseFilterEffect();
+    select(ui_->splitTimePopUp, storedTime(PreferenceSplitTimeMSKey, u"300"_s));
+    select(ui_->filterTimePopUp, storedTime(PreferenceFilterTimeKey, u"5"_s));
+}
+
+void PreferenceWndController::setDefaultShortcut() {
+    struct Default {
+        KeybordShortcutTextView* field;
+        QString saveKey;
+        std::uint32_t signature;
+        QString characters;
+        std::uint16_t keyCode;
+        QString description;
+    };
+    for (const Default& d : {Default{startStopShortcut(), PreferenceStartStopShortcutKey, 0x73737273, u"s"_s, 1,
+                                     tr("Start or stop the recording")},
+                             Default{pauseResumeShortcut(), PreferencePauseResumeShortcutKey, 0x70727273, u"p"_s, 35,
+                                     tr("Pause or resume the recording")},
+                             Default{startNewRecordShortcut(), PreferenceStartNewRecordShortcutKey, 0x736E7273, u"n"_s,
+                                     45, tr("Start a new recording")}}) {
+        d.field->setSaveKey(d.saveKey);
+        d.field->setCharacters(d.characters);
+        d.field->setModifierFlags(commandAndControl);
+        d.field->setKeyCode(d.keyCode);
+        d.field->loadUserDefault();
+        d.field->setHotKeyRegister(std::make_unique<HotKeyRegister>());
+        d.field->hotKeyRegister()->setSignature(d.signature);
+        if (auto* hotKeys = Platform::services().hotKeys)
+            hotKeys->describe({d.signature, 1}, d.description);
+        d.field->updateHotKeyRegister();
+    }
+}
+
+bool PreferenceWndController::windowShouldClose() {
+    setPreferenceValue(ui_->audioPathField->text(), PreferenceSavePathKey);
+    setPreferenceValue(ui_->ringtonePathField->text(), PreferenceRingtoneSavePathKey);
+    const bool split = ui_->splitCheckBox->isChecked();
+    setPreferenceValue(qlonglong(split), PreferenceSplitKey);
+    setPreferenceValue(qlonglong(ui_->filterCheckBox->isChecked()), PreferenceFilterKey);
+    const QString splitTime = ui_->splitTimePopUp->currentText();
+    // One store, not two: an I/O thread that read -1 in between would leave a silence uncut.
+    g_SplitTimeMS = split ? Platform::intValue(splitTime) : -1;
+    setPreferenceValue(splitTime, PreferenceSplitTimeMSKey);
+    setPreferenceValue(ui_->filterTimePopUp->currentText(), PreferenceFilterTimeKey);
+    return true;
+}
+
+void PreferenceWndController::chooseOutAudioPath() {
+    chooseFolder(ui_->audioPathField);
+}
+
+void PreferenceWndController::chooseOuRingtonePath() {
+    chooseFolder(ui_->ringtonePathField);
+}
+
+void PreferenceWndController::chooseFolder(QLineEdit* field) {
+    const QString start = QFileInfo::exists(field->text()) ? field->text() : Platform::Folders::home();
+    Platform::services().panels->chooseFolder(
+        window_.get(), tr("Choose"), start, [this, field](const std::optional<QString>& path) {
+            if (!path)
+                return;
+            const QFileInfo folder(*path);
+            if (folder.isWritable() && folder.isReadable()) {
+                field->setText(*path);
+                return;
+            }
+            // After the sheet is gone: an alert on top of a closing one would lose the focus.
+            Platform::MainQueue::post(this, [] {
+                Platform::services().alerts->runModal(
+                    u"Warning:"_s, u"You cannot save files in the folder. Read and write privilege is needed."_s,
+                    {u"OK"_s});
+            });
+        });
+}
+
+void PreferenceWndController::showOutAudioPath() {
+    Platform::services().workspace->selectFile(ui_->audioPathField->text());
+}
+
+void PreferenceWndController::showOutRingtonePath() {
+    Platform::services().workspace->selectFile(ui_->ringtonePathField->text());
+}
+
+void PreferenceWndController::chooseSplitEffect() {
+    ui_->splitTimePopUp->setEnabled(ui_->splitCheckBox->isChecked());
+}
+
+void PreferenceWndController::chooseFilterEffect() {
+    ui_->filterTimePopUp->setEnabled(ui_->filterCheckBox->isChecked());
+}
+
+bool PreferenceWndController::systemAudioRecordDeviceExist() const {
+    return device_.isExist();
+}
+
+void PreferenceWndController::setSystemAudioRecordDeviceExist(bool) {
+    flushLater();
+}
+
+void PreferenceWndController::flushLater() {
+    Platform::MainQueue::post(this, [this] { flushExistSystemAudioRecordDevice(); });
+}
+
+void PreferenceWndController::flushExistSystemAudioRecordDevice() {
+    Q_EMIT systemAudioRecordDeviceExistChanged();
+}
+
+void PreferenceWndController::insertTheSystemAudioRecordDevice() {
+    if (device_.isBusy())
+        return;
+    showDeviceWork(tr("Installing the computer-audio device…"));
+    const bool installed = device_.install();
+    showDeviceWork({});
+    const auto complain = [] {
+        Platform::services().alerts->runModal(u"Can not insert the system audio device, Please try it again."_s,
+                                              QString(), {u"OK"_s});
+    };
+    if (!installed && QThread::currentThread() == thread())
+        complain();
+    else if (!installed)
+        Platform::MainQueue::post(this, complain);
+    flushLater();
+}
+
+void PreferenceWndController::unInsertTheSystemAudioRecordDevice() {
+    if (device_.isBusy())
+        return;
+    showDeviceWork(tr("Removing the computer-audio device…"));
+    static_cast<void>(device_.uninstall());
+    showDeviceWork({});
+    flushLater();
+}
+
+// Widgets belong to the main thread; the work that is reported may run on another.
+void PreferenceWndController::showDeviceWork(const QString& work) {
+    if (QThread::currentThread() != thread()) {
+        Platform::MainQueue::post(this, [this, work] { showDeviceWork(work); });
+        return;
+    }
+    ui_->deviceProgress->setVisible(!work.isEmpty());
+    if (work.isEmpty()) {
+        showDeviceState();
+        return;
+    }
+    ui_->deviceStateField->setText(work);
+    ui_->deviceProblemField->hide();
+    ui_->insertDeviceButton->setEnabled(false);
+    ui_->unInsertDeviceButton->setEnabled(false);
+}
+
+void PreferenceWndController::showDeviceState() {
+    if (ui_->deviceProgress->isVisibleTo(window_.get()))
+        return;
+    const bool exists = systemAudioRecordDeviceExist();
+    ui_->deviceStateField->setText(exists ? tr("The computer-audio device is installed.")
+                                          : tr("The computer-audio device is not installed."));
+    ui_->insertDeviceButton->setEnabled(!exists);
+    ui_->unInsertDeviceButton->setEnabled(exists);
+    ui_->insertDeviceButton->setToolTip(exists ? tr("It is installed already.") : QString());
+    ui_->unInsertDeviceButton->setToolTip(exists ? QString() : tr("There is nothing to remove."));
+    const QString problem = device_.lastError();
+    ui_->deviceProblemField->setText(problem);
+    ui_->deviceProblemField->setVisible(!problem.isEmpty());
+    if (isWindowVisible())
+        fitHeight();
+}
+
+void PreferenceWndController::showHotKeyWay() {
+    using Way = Platform::HotKeys::Way;
+    const auto* hotKeys = Platform::services().hotKeys;
+    const bool works = hotKeys && hotKeys->way() != Way::None;
+    for (QWidget* field : {startStopShortcut(), pauseResumeShortcut(), startNewRecordShortcut()})
+        field->setEnabled(works);
+    ui_->hotKeyHint->setVisible(!works);
+    ui_->hotKeyCommands->setVisible(!works);
+    ui_->hotKeyHint->setText(tr("This desktop lets no program take keys for the whole system. Bind these commands to "
+                                "keys in the desktop's own keyboard settings:"));
+    ui_->hotKeyCommands->setText(
+        u"sonaphex control start-stop\nsonaphex control pause-resume\nsonaphex control split"_s);
+    if (isWindowVisible())
+        fitHeight();
+}
+
+// Texts that wrap tell their height only for a width, which adjustSize() does not ask for.
+void PreferenceWndController::fitHeight() {
+    QLayout* layout = window_->layout();
+    layout->activate();
+    const int width = std::max(window_->width(), window_->minimumSizeHint().width());
+    const int needed =
+        layout->hasHeightForWidth() ? layout->totalHeightForWidth(width) : layout->totalSizeHint().height();
+    if (needed > window_->height() || width > window_->width())
+        window_->resize(width, std::max(needed, window_->height()));
+}
+
+bool PreferenceWndController::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == window_.get()) {
+        if (event->type() == QEvent::Close)
+            event->setAccepted(windowShouldClose());
+        else if (event->type() == QEvent::WindowActivate)
+            flushExistSystemAudioRecordDevice();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+bool PreferenceWndController::isWindowVisible() const {
+    return window_->isVisible();
+}
+
+void PreferenceWndController::showWindow() {
+    window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
+    window_->raise();
+    window_->activateWindow();
+}
+
+void PreferenceWndController::makeKeyAndOrderFront() {
+    window_->layout()->activate();
+    window_->adjustSize();
+    fitHeight();
+    window_->show();
+    window_->raise();
+    window_->activateWindow();
+}
+
+void PreferenceWndController::center() {
+    QRect frame = window_->frameGeometry();
+    frame.moveCenter(window_->screen()->availableGeometry().center());
+    window_->move(frame.topLeft());
+}

@@ -1,0 +1,161 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Desktop/linux/LinuxHotKeys.h"
+
+#include "tests/support/OtherProgram.h"
+#include "tests/support/WaitFor.h"
+#include "tests/support/XvfbSession.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using Platform::HotKeys;
+
+namespace {
+
+constexpr std::uint32_t command = 256, shift = 512, option = 2048, control = 4096;
+constexpr std::uint8_t xKeyG = 34 + 8;
+constexpr std::uint16_t superMask = 64, numLockMask = 16;
+
+class GrabbedKeys : public testing::Test {
+protected:
+    GrabbedKeys() : hotKeys(Platform::createXcbHotKeys()) {
+        hotKeys->setHandler([this](HotKeys::Id id) { pressed.append(id.signature); });
+        EXPECT_TRUE(other.takeFocus());
+    }
+    void type(const QString& keys) { EXPECT_TRUE(XvfbSession::current()->xdotool({u"key"_s, keys})); }
+    bool fires(const QString& keys, std::uint32_t signature) {
+        pressed.clear();
+        type(keys);
+        return waitFor([&] { return pressed == QList<std::uint32_t>{signature}; }, 5000);
+    }
+
+    OtherProgram other;
+    std::unique_ptr<HotKeys> hotKeys;
+    QList<std::uint32_t> pressed;
+};
+
+} // namespace
+
+TEST_F(GrabbedKeys, ActWhileAnotherWindowHasTheFocus) {
+    EXPECT_EQ(hotKeys->way(), HotKeys::Way::X11Grab);
+    ASSERT_NE(hotKeys->registerHotKey(1, command | control, {7, 1}), 0U);
+    EXPECT_TRUE(fires(u"super+ctrl+s"_s, 7));
+    EXPECT_EQ(other.presses(), 2) << "it sees the modifiers go down, not the key";
+    type(u"s"_s);
+    EXPECT_TRUE(waitFor([&] { return other.presses() == 1; }));
+    EXPECT_EQ(pressed.size(), 1);
+}
+
+TEST_F(GrabbedKeys, ActWithNumLockAndCapsLockInAnyState) {
+    ASSERT_NE(hotKeys->registerHotKey(35, command | control, {8, 1}), 0U);
+    EXPECT_TRUE(fires(u"super+ctrl+p"_s, 8));
+    type(u"Num_Lock"_s);
+    EXPECT_TRUE(fires(u"super+ctrl+p"_s, 8));
+    type(u"Caps_Lock"_s);
+    EXPECT_TRUE(fires(u"super+ctrl+p"_s, 8));
+    type(u"Num_Lock"_s);
+    EXPECT_TRUE(fires(u"super+ctrl+p"_s, 8));
+    type(u"Caps_Lock"_s);
+    EXPECT_TRUE(fires(u"super+ctrl+p"_s, 8));
+}
+
+TEST_F(GrabbedKeys, TellCombinationsOfTheSameKeyApart) {
+    ASSERT_NE(hotKeys->registerHotKey(1, command | control, {1, 1}), 0U);
+    ASSERT_NE(hotKeys->registerHotKey(1, command | shift, {2, 1}), 0U);
+    ASSERT_NE(hotKeys->registerHotKey(1, command | option, {3, 1}), 0U);
+    EXPECT_TRUE(fires(u"super+shift+s"_s, 2));
+    EXPECT_TRUE(fires(u"super+alt+s"_s, 3));
+    EXPECT_TRUE(fires(u"super+ctrl+s"_s, 1));
+}
+
+TEST_F(GrabbedKeys, ACombinationOfAnotherProgramIsRefusedAndLeavesNothingBehind) {
+    ASSERT_TRUE(other.grab(xKeyG, superMask | numLockMask));
+    EXPECT_EQ(hotKeys->registerHotKey(5, command, {9, 1}), 0U)
+        << "also when it is taken in one state of the locks only";
+    OtherProgram third;
+    EXPECT_TRUE(third.grab(xKeyG, superMask)) << "what was granted before the refusal was given back";
+}
+
+TEST_F(GrabbedKeys, ACombinationOfOurOwnIsRefused) {
+    const auto first = hotKeys->registerHotKey(5, command, {1, 1});
+    ASSERT_NE(first, 0U);
+    EXPECT_EQ(hotKeys->registerHotKey(5, command, {2, 1}), 0U);
+    EXPECT_TRUE(fires(u"super+g"_s, 1));
+    hotKeys->unregisterHotKey(first);
+    EXPECT_NE(hotKeys->registerHotKey(5, command, {2, 1}), 0U);
+    EXPECT_TRUE(fires(u"super+g"_s, 2));
+}
+
+TEST_F(GrabbedKeys, UnknownKeysAreRefused) {
+    EXPECT_EQ(hotKeys->registerHotKey(0xFFFF, command, {1, 1}), 0U);
+    hotKeys->unregisterHotKey(12345);
+}
+
+TEST_F(GrabbedKeys, AReleasedCombinationReachesTheOthersAgain) {
+    const auto handle = hotKeys->registerHotKey(5, command, {1, 1});
+    ASSERT_TRUE(fires(u"super+g"_s, 1));
+    hotKeys->unregisterHotKey(handle);
+    static_cast<void>(other.presses());
+    type(u"super+g"_s);
+    int reached = 0;
+    EXPECT_TRUE(waitFor([&] { return (reached += other.presses()) == 2; }));
+    EXPECT_EQ(pressed.size(), 1);
+}
+
+TEST_F(GrabbedKeys, AHeldKeyActsOnce) {
+    ASSERT_NE(hotKeys->registerHotKey(5, command, {1, 1}), 0U);
+    auto* session = XvfbSession::current();
+    // The same key without the modifier repeats into the other window: the server does repeat here.
+    ASSERT_TRUE(session->xdotool({u"keydown"_s, u"g"_s}));
+    int repeats = 0;
+    EXPECT_TRUE(waitFor([&] { return (repeats += other.presses()) >= 4; }));
+    ASSERT_TRUE(session->xdotool({u"keyup"_s, u"g"_s}));
+    // Held with it, it acts once while an unrelated key proves that at least as much time went by.
+    ASSERT_TRUE(session->xdotool({u"keydown"_s, u"super"_s, u"keydown"_s, u"g"_s}));
+    QElapsedTimer held;
+    held.start();
+    EXPECT_TRUE(waitFor([&] { return !pressed.isEmpty(); }));
+    EXPECT_TRUE(waitFor([&] { return held.elapsed() > 1500; }));
+    ASSERT_TRUE(session->xdotool({u"keyup"_s, u"g"_s, u"keyup"_s, u"super"_s}));
+    EXPECT_EQ(pressed.size(), 1);
+    EXPECT_TRUE(fires(u"super+g"_s, 1)) << "and once more when it is pressed again";
+}
+
+TEST_F(GrabbedKeys, FollowAChangeOfTheKeymap) {
+    ASSERT_NE(hotKeys->registerHotKey(5, command, {1, 1}), 0U);
+    // Num Lock moves from the second modifier bit to the third.
+    ASSERT_TRUE(other.moveModifier(4, 5));
+    QCoreApplication::processEvents();
+    type(u"Num_Lock"_s);
+    EXPECT_TRUE(fires(u"super+g"_s, 1));
+    type(u"Num_Lock"_s);
+    ASSERT_TRUE(other.moveModifier(5, 4));
+    EXPECT_TRUE(fires(u"super+g"_s, 1));
+}
+
+TEST(HotKeysOfTheSession, UnderWaylandGrabsAreNeverUsed) {
+    qputenv("WAYLAND_DISPLAY", "wayland-9");
+    const auto hotKeys = Platform::createHotKeys();
+    qunsetenv("WAYLAND_DISPLAY");
+    EXPECT_TRUE(waitFor([&] {
+        return hotKeys->registerHotKey(5, command, {1, 1}) == 0;
+    })) << "no portal answers here, so nothing can be registered";
+    EXPECT_EQ(hotKeys->way(), HotKeys::Way::None);
+}
+
+TEST(HotKeysOfTheSession, WithoutAnyDisplayThereIsNoWay) {
+    const QByteArray display = qgetenv("DISPLAY");
+    qunsetenv("DISPLAY");
+    const auto none = Platform::createHotKeys();
+    qputenv("DISPLAY", ":97");
+    const auto unreachable = Platform::createHotKeys();
+    qputenv("DISPLAY", display);
+    EXPECT_EQ(none->way(), HotKeys::Way::None);
+    EXPECT_EQ(none->registerHotKey(5, command, {1, 1}), 0U);
+    EXPECT_EQ(unreachable->way(), HotKeys::Way::None);
+}
+
+TEST(HotKeysOfTheSession, UnderX11GrabsAreUsed) {
+    EXPECT_EQ(Platform::createHotKeys()->way(), HotKeys::Way::X11Grab);
+}

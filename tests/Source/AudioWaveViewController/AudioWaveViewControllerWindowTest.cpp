@@ -1,0 +1,432 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/AudioWaveViewController/AudioWaveViewController.h"
+
+#include "Platform/Foundation/Services.h"
+#include "RingtoneMaker/CustomSound.h"
+#include "Source/AudioWaveViewController/AudioRecordWaveView.h"
+#include "Source/AudioWaveViewController/BackViews.h"
+#include "Source/View/TabularLabel.h"
+#include "Source/View/Theme.h"
+#include "tests/support/Screenshot.h"
+#include "tests/support/WaitFor.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QSignalSpy>
+#include <QStackedWidget>
+#include <QTest>
+#include <QToolButton>
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A sound of ten seconds that stands where it is put.
+class StillSound : public Platform::Sound {
+public:
+    double duration() const override { return 10; }
+    double currentTime() const override { return at_; }
+    void setCurrentTime(double seconds) override { at_ = seconds; }
+    float volume() const override { return 1; }
+    void setVolume(float) override {}
+    bool isPlaying() const override { return false; }
+    bool play() override { return false; }
+    bool pause() override { return false; }
+    bool resume() override { return false; }
+    bool stop() override { return false; }
+    QString path() const override { return u"/somewhere"_s; }
+    QString lastError() const override { return {}; }
+
+private:
+    double at_ = 0;
+};
+
+class StillSounds : public Platform::Sounds {
+public:
+    std::unique_ptr<Platform::Sound> open(const QString&) override { return std::make_unique<StillSound>(); }
+};
+
+class ListeningDelegate : public AudioWaveViewControllerDelegate {
+public:
+    float getAudioWaveLevelValue() override { return level; }
+    void updateAudioWaveRecordState() override { ++recordStateAsked; }
+    void updatePlaySoundButton() override { ++playButtonAsked; }
+    float level = 0.5F;
+    int recordStateAsked = 0;
+    int playButtonAsked = 0;
+};
+
+class AskedPosition : public AudioPlayProgressViewDelegate {
+public:
+    void setAudioPosition(float seconds) override { asked.append(seconds); }
+    QList<float> asked;
+};
+
+class LiveDisplay : public testing::Test {
+protected:
+    LiveDisplay() {
+        Platform::services().sounds = &sounds;
+        Theme::install(*qApp, nullptr);
+        controller.setDelegate(&delegate);
+        controller.destroyDudioPlayUpdateTimer(); // the tests are its clock
+        panel->resize(480, 104);
+        panel->show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(panel));
+    }
+    ~LiveDisplay() override { controller.setDelegate(nullptr); }
+
+    std::shared_ptr<CustomSound> playASound() {
+        auto sound = std::make_shared<CustomSound>(u"/somewhere"_s);
+        sound->setSound(std::make_unique<StillSound>());
+        controller.setPlaySound(sound);
+        return sound;
+    }
+    template <typename T>
+    T* field(const char* name) {
+        return panel->findChild<T*>(QString::fromLatin1(name));
+    }
+
+    Platform::ServicesScope scope;
+    StillSounds sounds;
+    ListeningDelegate delegate;
+    AudioWaveViewController controller;
+    QWidget* panel = controller.view();
+};
+
+bool isLevelColor(QRgb pixel) {
+    return qRed(pixel) == 78 && qGreen(pixel) == 242 && qBlue(pixel) == 255;
+}
+
+} // namespace
+
+TEST_F(LiveDisplay, WakesUpOnItsRecordingSideWithATimerAndBlackState) {
+    AudioWaveViewController fresh;
+    EXPECT_TRUE(fresh.tabViewShowWave());
+    EXPECT_TRUE(fresh.hasDudioPlayUpdateTimer());
+    EXPECT_EQ(fresh.stateColor(), QColor(Qt::black));
+    EXPECT_TRUE(fresh.changeTabViewButtonState());
+}
+
+TEST_F(LiveDisplay, TheTimerFetchesALevelTenTimesASecond) {
+    controller.createDudioPlayUpdateTimer();
+    auto* history = controller.audioRecordWaveView();
+    QElapsedTimer timer;
+    timer.start();
+    ASSERT_TRUE(waitFor([&] { return history->audioLevelArray().size() >= 5; }));
+    EXPECT_GE(timer.elapsed(), 400);
+    EXPECT_EQ(history->audioLevelArray().first(), 0.5F);
+    EXPECT_TRUE(waitFor([&] { return delegate.playButtonAsked >= 5 && delegate.recordStateAsked >= 5; }));
+}
+
+TEST_F(LiveDisplay, WithoutADelegateTheLevelIsZero) {
+    controller.setDelegate(nullptr);
+    EXPECT_EQ(controller.getAudioWaveLevelValue(), 0.0F);
+    controller.audioPlayUpdateTimerFireMethod();
+    QCoreApplication::processEvents();
+}
+
+TEST_F(LiveDisplay, TheProgressIsBroughtLaterAndTheLevelAtOnce) {
+    controller.audioPlayUpdateTimerFireMethod();
+    EXPECT_EQ(delegate.recordStateAsked, 1);
+    EXPECT_EQ(controller.audioRecordWaveView()->audioLevelArray().size(), 1);
+    EXPECT_EQ(delegate.playButtonAsked, 0);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(delegate.playButtonAsked, 1);
+}
+
+TEST_F(LiveDisplay, TheSwitchShowsTheOtherSide) {
+    QSignalSpy changed(&controller, &AudioWaveViewController::tabViewShowWaveChanged);
+    field<QToolButton>("changeTabViewButton")->click();
+    EXPECT_FALSE(controller.tabViewShowWave());
+    EXPECT_EQ(field<QStackedWidget>("tabView")->currentWidget()->objectName(), u"playPage"_s);
+    controller.changeTabView();
+    EXPECT_EQ(field<QStackedWidget>("tabView")->currentWidget()->objectName(), u"recordPage"_s);
+    EXPECT_EQ(changed.count(), 2);
+}
+
+TEST_F(LiveDisplay, WithoutASoundEverythingIsZeroAndTheBarIsFull) {
+    EXPECT_EQ(controller.playLeftTime(), 0.0F);
+    controller.setAudioPosition(12);
+    EXPECT_EQ(controller.currentTime(), 0.0);
+    const auto* bar = controller.audioPlayProgressView();
+    EXPECT_EQ(bar->progressWidth(), bar->validProgressRect().width());
+}
+
+TEST_F(LiveDisplay, SeekingIsKeptInsideTheSound) {
+    playASound();
+    controller.setAudioPosition(4);
+    EXPECT_FLOAT_EQ(float(controller.currentTime()), 4);
+    EXPECT_FLOAT_EQ(controller.playLeftTime(), 6);
+    controller.setAudioPosition(-1);
+    EXPECT_EQ(controller.currentTime(), 0.0);
+    controller.setAudioPosition(10.2F);
+    EXPECT_EQ(controller.currentTime(), 10.0);
+}
+
+TEST_F(LiveDisplay, AClickAtTheFarRightAsksBeyondTheEndAndIsClamped) {
+    playASound();
+    controller.setTabViewShowWave(false);
+    QCoreApplication::processEvents();
+    AudioPlayProgressView* bar = controller.audioPlayProgressView();
+    AskedPosition asked;
+    bar->setDelegate(&asked);
+    const QPoint farRight(bar->width() - 1, bar->height() / 2);
+    QTest::mouseClick(panel->windowHandle(), Qt::LeftButton, {}, bar->mapTo(panel, farRight));
+    ASSERT_EQ(asked.asked.size(), 1);
+    EXPECT_GT(asked.asked.first(), 10.0F);
+    bar->setDelegate(&controller);
+    QTest::mouseClick(panel->windowHandle(), Qt::LeftButton, {}, bar->mapTo(panel, farRight));
+    EXPECT_EQ(controller.currentTime(), 10.0);
+}
+
+TEST_F(LiveDisplay, ADragSeeksAllAlongAndEndsAtTheRelease) {
+    playASound();
+    AskedPosition asked;
+    AudioPlayProgressView bar;
+    bar.resize(110, 20);
+    bar.setDuration(10);
+    bar.setDelegate(&asked);
+    bar.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&bar));
+    QTest::mousePress(bar.windowHandle(), Qt::LeftButton, {}, {50, 10});
+    QTest::mouseMove(bar.windowHandle(), {60, 10});
+    QTest::mouseMove(bar.windowHandle(), {70, 10});
+    QTest::mouseRelease(bar.windowHandle(), Qt::LeftButton, {}, {70, 10});
+    const qsizetype during = asked.asked.size();
+    QTest::mouseMove(bar.windowHandle(), {20, 10});
+    EXPECT_EQ(asked.asked.size(), during);
+    ASSERT_GE(during, 2);
+    // The width without the insets counts, the position is not moved by them.
+    EXPECT_FLOAT_EQ(asked.asked.first(), 5.0F);
+    EXPECT_FLOAT_EQ(asked.asked.last(), 7.0F);
+}
+
+TEST_F(LiveDisplay, ABarWithoutRoomAsksForTheBeginning) {
+    AskedPosition asked;
+    AudioPlayProgressView bar;
+    bar.setMinimumSize(1, 1);
+    bar.resize(10, 10);
+    bar.setDuration(10);
+    bar.setDelegate(&asked);
+    bar.setAudioPosition(7);
+    ASSERT_EQ(asked.asked.size(), 1);
+    EXPECT_EQ(asked.asked.first(), 0.0F);
+}
+
+TEST_F(LiveDisplay, TheBarIsFilledUpToTheCurrentTime) {
+    AudioPlayProgressView bar;
+    bar.setAttribute(Qt::WA_OpaquePaintEvent);
+    bar.resize(110, 20);
+    bar.setDuration(10);
+    bar.setCurrentTime(5);
+    QImage image(bar.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::black);
+    bar.render(&image, {}, {}, QWidget::RenderFlags());
+    const auto progressColor = [&](int x) { return qBlue(image.pixel(x, 10)) > 200 && qRed(image.pixel(x, 10)) < 120; };
+    EXPECT_TRUE(progressColor(10));
+    EXPECT_TRUE(progressColor(45));
+    EXPECT_FALSE(progressColor(65));
+    EXPECT_GT(qRed(image.pixel(55, 10)), 220) << "the point stands on the border";
+}
+
+TEST_F(LiveDisplay, AVeryShortSoundShowsAsComplete) {
+    AudioPlayProgressView bar;
+    bar.resize(110, 20);
+    bar.setDuration(0.1);
+    bar.setCurrentTime(0);
+    EXPECT_EQ(bar.progressWidth(), 100);
+    bar.setDuration(0.2);
+    EXPECT_EQ(bar.progressWidth(), 0);
+}
+
+TEST_F(LiveDisplay, KeysSeekToo) {
+    playASound();
+    controller.setAudioPosition(4);
+    QTest::keyClick(controller.audioPlayProgressView(), Qt::Key_Right);
+    EXPECT_EQ(controller.currentTime(), 9.0);
+    QTest::keyClick(controller.audioPlayProgressView(), Qt::Key_Home);
+    EXPECT_EQ(controller.currentTime(), 0.0);
+}
+
+TEST(LevelHistory, PutsTheNewestLevelAtTheLeft) {
+    AudioRecordWaveView view;
+    view.resize(100, 50);
+    view.addCurrentLevel(0.25F);
+    view.addCurrentLevel(0.75F);
+    EXPECT_EQ(view.audioLevelArray(), (QList<float>{0.75F, 0.25F}));
+}
+
+TEST(LevelHistory, NarrowingDropsTheOldestLevelsAtTheNextTick) {
+    AudioRecordWaveView view;
+    view.setMinimumSize(1, 1);
+    view.resize(10, 50);
+    for (int i = 0; i < 20; ++i)
+        view.addCurrentLevel(float(i));
+    ASSERT_EQ(view.audioLevelArray().size(), 10);
+    view.resize(4, 50);
+    EXPECT_EQ(view.audioLevelArray().size(), 10);
+    view.addCurrentLevel(20);
+    EXPECT_EQ(view.audioLevelArray(), (QList<float>{20, 19, 18, 17}));
+}
+
+TEST(LevelHistory, DrawsEachLevelAroundTheMiddleAndSilenceAsAThinLine) {
+    AudioRecordWaveView view;
+    view.resize(100, 100);
+    view.addCurrentLevel(0);
+    view.addCurrentLevel(0.5F);
+    view.addCurrentLevel(2);
+    const QImage image = Screenshot::take(view, u"level-history"_s);
+    const auto reach = [&](int x) {
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y)
+            count += isLevelColor(image.pixel(x, y)) ? 1 : 0;
+        return count;
+    };
+    EXPECT_EQ(reach(0), 100);
+    EXPECT_EQ(reach(1), 50);
+    EXPECT_EQ(reach(2), 2);
+    EXPECT_EQ(reach(3), 0);
+    EXPECT_TRUE(isLevelColor(image.pixel(1, 25)));
+    EXPECT_TRUE(isLevelColor(image.pixel(1, 74)));
+    EXPECT_FALSE(isLevelColor(image.pixel(1, 24)));
+}
+
+TEST(LevelHistory, AMovedPictureEqualsADrawnOne) {
+    const auto level = [](int i) { return float(std::sin(i) * std::sin(i)); };
+    AudioRecordWaveView moved;
+    moved.resize(64, 40);
+    for (int i = 0; i < 80; ++i) {
+        moved.addCurrentLevel(level(i));
+        moved.grab(); // draws, so that the next level moves the picture
+    }
+    AudioRecordWaveView drawn;
+    drawn.resize(64, 40);
+    for (int i = 0; i < 80; ++i)
+        drawn.addCurrentLevel(level(i));
+    EXPECT_EQ(moved.grab().toImage(), drawn.grab().toImage());
+}
+
+TEST(LevelHistory, ADamagedLevelStopsNothing) {
+    AudioRecordWaveView view;
+    view.resize(20, 20);
+    view.addCurrentLevel(0.5F);
+    view.addCurrentLevel(std::nanf(""));
+    view.addCurrentLevel(INFINITY);
+    const QImage image = Screenshot::take(view, u"damaged-level"_s);
+    EXPECT_TRUE(isLevelColor(image.pixel(2, 10)));
+}
+
+TEST(BackViews, FillTheirWholeBounds) {
+    AdditionalControlBackView strip;
+    strip.resize(20, 20);
+    const QImage image = Screenshot::take(strip, u"strip"_s);
+    EXPECT_EQ(image.pixel(0, 0), QColor::fromRgbF(0.78F, 0.78F, 0.78F).rgba());
+    EXPECT_EQ(image.pixel(19, 19), image.pixel(0, 0));
+    AudioWaveformBackView glass;
+    glass.resize(200, 60);
+    EXPECT_LT(qGray(Screenshot::take(glass, u"glass"_s).pixel(100, 30)), 60);
+}
+
+TEST_F(LiveDisplay, StateTextKeepsItsColorAndBlackBecomesThePanelsOwn) {
+    controller.setStateString(u"Rec.."_s);
+    auto* state = field<QLabel>("stateField");
+    EXPECT_EQ(state->text(), u"Rec.."_s);
+    EXPECT_EQ(state->palette().color(QPalette::WindowText), Theme::Glass::text());
+    controller.setStateColor(Qt::red);
+    EXPECT_EQ(state->palette().color(QPalette::WindowText), QColor(Qt::red));
+}
+
+TEST_F(LiveDisplay, TheTimeIsLargeAndDoesNotTremble) {
+    auto* time = field<TabularLabel>("timeField");
+    EXPECT_GE(time->font().pointSizeF(), 28);
+    controller.setTimeString(u"11:11"_s);
+    const QSize ones = time->sizeHint();
+    controller.setTimeString(u"08:48"_s);
+    EXPECT_EQ(time->sizeHint(), ones);
+}
+
+TEST_F(LiveDisplay, NoticesStayUntilTheyAreDismissed) {
+    auto* line = field<QWidget>("noticeLine");
+    EXPECT_FALSE(line->isVisible());
+    controller.setNotices({u"first"_s, u"12 frames were lost"_s});
+    EXPECT_TRUE(line->isVisible());
+    EXPECT_TRUE(field<QLabel>("noticeField")->toolTip().contains(u"first"_s));
+    QSignalSpy dismissed(&controller, &AudioWaveViewController::noticesDismissed);
+    field<QToolButton>("dismissNoticeButton")->click();
+    EXPECT_EQ(dismissed.count(), 1);
+    EXPECT_FALSE(line->isVisible());
+}
+
+TEST_F(LiveDisplay, LongTitlesAreElidedInTheMiddleAndWholeInTheToolTip) {
+    controller.setTabViewShowWave(false);
+    const QString title = u"A very long title "_s.repeated(20);
+    controller.setTitle(title);
+    QCoreApplication::processEvents();
+    auto* shown = field<QLabel>("titleField");
+    EXPECT_TRUE(shown->text().contains(QChar(0x2026)));
+    EXPECT_EQ(shown->toolTip(), title);
+    controller.setTitle(u"<b>plain</b>"_s);
+    EXPECT_EQ(shown->text(), u"<b>plain</b>"_s);
+    EXPECT_EQ(shown->textFormat(), Qt::PlainText);
+}
+
+TEST_F(LiveDisplay, TheTabButtonStateIsAlwaysTrueAndAnnouncedOnTheMainQueue) {
+    QSignalSpy announced(&controller, &AudioWaveViewController::changeTabViewButtonStateChanged);
+    controller.setChangeTabViewButtonState(false);
+    EXPECT_EQ(announced.count(), 0);
+    EXPECT_TRUE(waitFor([&] { return announced.count() == 1; }));
+    EXPECT_TRUE(controller.changeTabViewButtonState());
+}
+
+TEST_F(LiveDisplay, EveryControlHasAnAccessibleName) {
+    for (QWidget* control : panel->findChildren<QWidget*>()) {
+        if (control->focusPolicy() != Qt::NoFocus) {
+            EXPECT_FALSE(control->accessibleName().isEmpty()) << qPrintable(control->objectName());
+        }
+    }
+}
+
+TEST_F(LiveDisplay, OutlivesTheWindowThatTookItsPanel) {
+    auto window = std::make_unique<QWidget>();
+    AudioWaveViewController inside(nullptr);
+    inside.view()->setParent(window.get());
+    window.reset();
+    EXPECT_EQ(inside.view(), nullptr);
+    inside.setTitle(u"after"_s);
+    inside.setTimeString(u"00:01"_s);
+    inside.audioPlayUpdateTimerFireMethod();
+    QCoreApplication::processEvents();
+}
+
+TEST_F(LiveDisplay, CanBeLookedAt) {
+    playASound();
+    controller.setAudioPosition(3.2F);
+    controller.setTitle(u"Concert in the park"_s);
+    controller.setArtist(u"The Sparrows"_s);
+    controller.setStateString(u"Rec.."_s);
+    controller.setStateColor(Qt::red);
+    controller.setTimeString(u"00:03:12"_s);
+    panel->resize(560, 112);
+    QCoreApplication::processEvents();
+    for (int i = 0; i < 700; ++i)
+        controller.audioRecordWaveView()->addCurrentLevel(
+            float(std::fabs(std::sin(i * 0.031) * std::sin(i * 0.37 + std::sin(i * 0.11)))) * 0.8F);
+    for (const double ratio : {1.0, 2.0}) {
+        const QString suffix = ratio > 1 ? u"-2x"_s : u"-1x"_s;
+        controller.setTabViewShowWave(true);
+        QCoreApplication::processEvents();
+        EXPECT_GT(Screenshot::coverage(Screenshot::take(*panel, u"display-record"_s + suffix, ratio)), 0.9);
+        controller.setNotices(
+            {u"12 frames were lost: the machine was too busy."_s, u"About 3 h 10 min left on the disk."_s});
+        QCoreApplication::processEvents();
+        Screenshot::take(*panel, u"display-notice"_s + suffix, ratio);
+        controller.setNotices({});
+        controller.setTabViewShowWave(false);
+        QCoreApplication::processEvents();
+        Screenshot::take(*panel, u"display-play"_s + suffix, ratio);
+    }
+}
