@@ -61,16 +61,21 @@ bool formatIs(const AVFormatContext& format, const char* name) {
     return names.find(std::string(",") + name + ",") != std::string::npos;
 }
 
-/// Frames that libavcodec takes off the beginning and the end of what this packet gives.
-std::int64_t framesTakenOff(const AVPacket& packet) {
+/// Frames that libavcodec takes off the beginning and the end of what a packet gives.
+struct TakenOff {
+    std::int64_t front = 0;
+    std::int64_t back = 0;
+};
+
+TakenOff takenOff(const AVPacket& packet) {
     std::size_t size = 0;
     const std::uint8_t* data = av_packet_get_side_data(&packet, AV_PKT_DATA_SKIP_SAMPLES, &size);
     if (!data || size < 10)
-        return 0;
+        return {};
     const auto number = [](const std::uint8_t* p) {
         return std::int64_t(p[0]) | std::int64_t(p[1]) << 8 | std::int64_t(p[2]) << 16 | std::int64_t(p[3]) << 24;
     };
-    return number(data) + number(data + 4);
+    return {number(data), number(data + 4)};
 }
 
 Av::CodecPtr createDecoder(const AVStream& stream) {
@@ -173,8 +178,8 @@ bool InputFile::openDecoder(MediaError& error) {
         outputChannels_ = channels_;
     position_ = -facts_.primingFrames;
     target_ = 0;
-    draining_ = timeFromFrames_ = countsPackets_ = frameIsWaiting_ = false;
-    silence_ = packetPosition_ = 0;
+    draining_ = timeFromFrames_ = frameIsWaiting_ = false;
+    silence_ = packetTime_ = origin_ = 0;
     // Only a decoded frame tells the rate and channels for sure: some headers know but half of it.
     std::optional<MediaError> ignored;
     Got got = Got::Silence;
@@ -187,6 +192,11 @@ bool InputFile::openDecoder(MediaError& error) {
             facts_.validFrames.reset();
         }
         channels_ = std::max(1, frame_->ch_layout.nb_channels);
+        // What lies before time 0 is priming that libavformat only marked.
+        if (frame_->pts != AV_NOPTS_VALUE && frame_->pts < 0)
+            position_ += inFrames(frame_->pts);
+        else if (frame_->pts != AV_NOPTS_VALUE)
+            origin_ = frame_->pts;
         frameIsWaiting_ = true;
         return true;
     }
@@ -203,7 +213,11 @@ bool InputFile::openDecoder(MediaError& error) {
 
 bool InputFile::timestampsAreExact() const {
     const AVCodecID id = stream_->codecpar->codec_id;
-    return isPcm(id) || id == AV_CODEC_ID_FLAC || (formatIs(*format_, "mp4") && !facts_.fragmented);
+    return timesAreFine() && (isPcm(id) || id == AV_CODEC_ID_FLAC || (formatIs(*format_, "mp4") && !facts_.fragmented));
+}
+
+bool InputFile::timesAreFine() const {
+    return std::int64_t(stream_->time_base.num) * rate_ <= stream_->time_base.den;
 }
 
 std::int64_t InputFile::inFrames(std::int64_t timestamp) const {
@@ -219,6 +233,10 @@ std::int64_t InputFile::durationOf(const AVPacket& packet) const {
     if (parameters.codec_id != AV_CODEC_ID_AAC || parameters.frame_size <= 0 || parameters.sample_rate <= 0)
         return 0;
     return av_rescale_q(parameters.frame_size, AVRational{1, parameters.sample_rate}, stream_->time_base);
+}
+
+std::int64_t InputFile::inStreamTime(std::int64_t frames) const {
+    return av_rescale_q(frames, AVRational{1, rate_}, stream_->time_base);
 }
 
 std::int64_t InputFile::lengthFrames() {
@@ -241,24 +259,32 @@ void InputFile::findLength() {
 /// Counts what the packets of the file will give, without decoding them.
 void InputFile::countPackets() {
     length_ = 0;
+    packets_ = 0;
     MediaError error;
     const auto counter = open(path_, false, error);
     if (!counter)
         return;
-    std::int64_t time = 0;
+    std::int64_t begin = 0;
+    std::int64_t end = 0; // both in the stream's time
+    std::int64_t usual = 0;
     std::int64_t off = 0;
-    std::int64_t packets = 0;
     while (av_read_frame(counter->format_.get(), packet_.get()) >= 0) {
         if (packet_->stream_index == counter->stream_->index) {
-            time += durationOf(*packet_);
-            off += framesTakenOff(*packet_);
-            ++packets;
+            const std::int64_t time = packet_->pts != AV_NOPTS_VALUE ? packet_->pts : end;
+            const std::int64_t duration = counter->durationOf(*packet_);
+            const TakenOff taken = takenOff(*packet_);
+            if (packets_++ == 0) {
+                begin = std::max<std::int64_t>(0, time + counter->inStreamTime(taken.front));
+            }
+            end = std::max(end, time + duration);
+            // Some containers shorten the last duration by what is taken off, some do not.
+            off = duration + counter->inStreamTime(taken.back) <= usual ? 0 : taken.back;
+            usual = std::max(usual, duration);
         }
         av_packet_unref(packet_.get());
     }
-    packets_ = packets;
-    // What is taken off is counted at the rate that the container names.
-    length_ = std::max<std::int64_t>(0, inFrames(time) - av_rescale(off, rate_, counter->rate_) - facts_.primingFrames);
+    const std::int64_t lasting = av_rescale_q(end - begin, counter->stream_->time_base, AVRational{1, rate_});
+    length_ = std::max<std::int64_t>(0, lasting - av_rescale(off, rate_, counter->rate_) - facts_.primingFrames);
 }
 
 AudioStreamBasicDescription InputFile::dataFormat() const {
@@ -356,10 +382,9 @@ InputFile::Got InputFile::decodeOne(std::optional<MediaError>& error) {
             continue;
         }
         const std::int64_t duration = durationOf(*packet_);
-        if (countsPackets_) {
-            packet_->pts = packet_->dts = packetPosition_;
-            packetPosition_ += duration;
-        }
+        if (packet_->pts == AV_NOPTS_VALUE)
+            packet_->pts = packetTime_;
+        packetTime_ = packet_->pts + duration;
         const int sent = avcodec_send_packet(codec_.get(), packet_.get());
         av_packet_unref(packet_.get());
         if (sent < 0 && sent != AVERROR(EAGAIN)) {
@@ -388,11 +413,8 @@ InputFile::Block InputFile::next() {
         std::int64_t frames = got == Got::Frame ? frame_->nb_samples : silence_;
         if (got == Got::Frame && timeFromFrames_) {
             const std::int64_t time = frame_->pts != AV_NOPTS_VALUE ? frame_->pts : frame_->best_effort_timestamp;
-            if (time != AV_NOPTS_VALUE) {
-                position_ = inFrames(time) - facts_.primingFrames;
-                if (!countsPackets_ && stream_->start_time != AV_NOPTS_VALUE && !formatIs(*format_, "mp4"))
-                    position_ -= inFrames(stream_->start_time);
-            }
+            if (time != AV_NOPTS_VALUE)
+                position_ = inFrames(time - origin_) - facts_.primingFrames;
             timeFromFrames_ = false;
         }
         const std::int64_t from = position_;
@@ -488,59 +510,43 @@ bool InputFile::seek(std::int64_t frame) {
     frame = std::max<std::int64_t>(0, frame);
     failuresInARow_ = 0;
     MediaError error;
-    if (timestampsAreExact() && frame > 0) {
-        const std::int64_t start =
-            formatIs(*format_, "mp4") || stream_->start_time == AV_NOPTS_VALUE ? 0 : stream_->start_time;
-        const std::int64_t time = av_rescale_q(frame - prerollFrames, AVRational{1, rate_}, stream_->time_base) + start;
+    if (timestampsAreExact() && frame > prerollFrames) {
+        const std::int64_t time = inStreamTime(frame - prerollFrames) + origin_;
         if (av_seek_frame(format_.get(), stream_->index, time, AVSEEK_FLAG_BACKWARD) >= 0) {
             avcodec_flush_buffers(codec_.get());
-            draining_ = frameIsWaiting_ = countsPackets_ = false;
+            draining_ = frameIsWaiting_ = false;
             timeFromFrames_ = true;
             target_ = frame;
             return true;
         }
     }
-    // From the beginning, as if it had just been opened; far ahead the packets are only counted, not decoded.
+    // From the beginning, as if it had just been opened.
     if (!openContainer(error) || !openDecoder(error))
         return false;
     target_ = frame;
-    if (frame <= 2 * prerollFrames)
+    if (frame <= 2 * prerollFrames || !timesAreFine())
         return true;
-    std::int64_t durationOfFirst = -1;
-    std::int64_t time = 0;
-    std::int64_t off = 0;
+    // Far ahead the packets before the place are passed over, not decoded.
+    const std::int64_t origin = origin_;
     if (!openContainer(error))
         return false;
     codec_ = createDecoder(*stream_);
     if (!codec_ || avcodec_open2(codec_.get(), nullptr, nullptr) < 0)
         return false;
-    codec_->pkt_timebase = stream_->time_base;
-    const std::int64_t decodeFrom = frame - prerollFrames;
-    int withoutDuration = 0;
     frameIsWaiting_ = draining_ = false;
-    // The packet at which decoding begins has been read already when it is known to be the one, so the place is one
-    // packet early: the durations differ little from one packet to the next.
-    for (;;) {
-        if (inFrames(time) - off + 2 * inFrames(std::max<std::int64_t>(0, durationOfFirst)) >= decodeFrom)
-            break;
+    packetTime_ = 0;
+    std::int64_t longest = 0;
+    while (inFrames(packetTime_ - origin + 2 * longest) < frame - prerollFrames) {
         if (av_read_frame(format_.get(), packet_.get()) < 0)
             break;
         if (packet_->stream_index == stream_->index) {
-            withoutDuration += durationOf(*packet_) == 0;
-            time += durationOf(*packet_);
-            durationOfFirst = std::max(durationOfFirst, durationOf(*packet_));
-            off += framesTakenOff(*packet_);
+            const std::int64_t duration = durationOf(*packet_);
+            longest = std::max(longest, duration);
+            packetTime_ = (packet_->pts != AV_NOPTS_VALUE ? packet_->pts : packetTime_) + duration;
         }
         av_packet_unref(packet_.get());
     }
-    if (withoutDuration > 2) {
-        if (!openContainer(error) || !openDecoder(error))
-            return false;
-        target_ = frame;
-        return true;
-    }
-    countsPackets_ = timeFromFrames_ = true;
-    packetPosition_ = time - av_rescale_q(off, AVRational{1, rate_}, stream_->time_base);
+    timeFromFrames_ = true;
     return true;
 }
 

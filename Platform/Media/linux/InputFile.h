@@ -49,11 +49,13 @@ private:
     void findLength();
     void countPackets();
     [[nodiscard]] bool timestampsAreExact() const;
+    [[nodiscard]] bool timesAreFine() const;
 
     enum class Got { Frame, Silence, End };
     Got decodeOne(std::optional<MediaError>& error);
     Block convert(std::int64_t skip, std::int64_t most);
     std::int64_t inFrames(std::int64_t timestamp) const;
+    std::int64_t inStreamTime(std::int64_t frames) const;
     std::int64_t durationOf(const AVPacket& packet) const;
 
     QString path_;
@@ -77,13 +79,13 @@ private:
     std::int64_t packets_ = -1;
     ContainerFacts facts_;
 
-    std::int64_t position_ = 0;       // number of the next frame that the decoder gives
-    std::int64_t target_ = 0;         // frames before this one are dropped
-    bool frameIsWaiting_ = false;     // the first one, decoded when the file was opened
-    bool timeFromFrames_ = false;     // after a seek, until the first frame told where it lies
-    std::int64_t packetPosition_ = 0; // by the durations of packets, where those are counted
-    bool countsPackets_ = false;
-    std::int64_t silence_ = 0; // frames of silence that stand for a damaged packet
+    std::int64_t position_ = 0;   // number of the next frame that the decoder gives
+    std::int64_t target_ = 0;     // frames before this one are dropped
+    bool frameIsWaiting_ = false; // the first one, decoded when the file was opened
+    bool timeFromFrames_ = false; // after a seek, until the first frame told where it lies
+    std::int64_t packetTime_ = 0; // in the stream's time, of the next packet if it has none of its own
+    std::int64_t origin_ = 0;     // in the stream's time, of the first frame
+    std::int64_t silence_ = 0;    // frames of silence that stand for a damaged packet
     bool draining_ = false;
     int failuresInARow_ = 0;
 };
