@@ -9,6 +9,7 @@
 #include "Platform/Foundation/TemporaryFolder.h"
 #include "Platform/Foundation/UserDefaults.h"
 #include "Source/Control/PreferenceStore.h"
+#include "Source/Model/MediaLibraryRequests.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -78,6 +79,8 @@ void AppDelegate::applicationWillTerminate() {
 }
 
 QByteArray AppDelegate::answer(const QByteArray& request) {
+    if (const auto answer = MediaLibraryRequests::answer(request))
+        return *answer;
     if (request != "show")
         return windows_.answer(*mainWndController_, request);
     ToolControl::showWindowNib(*mainWndController_);

@@ -25,7 +25,7 @@ public:
                                                                                       AppDelegate& application) = 0;
         virtual void setupSystemStatusBar(AppDelegate& application) = 0;
         virtual void insertTheSystemAudioRecordDevice(WindowController& preferences, QObject* sender) = 0;
-        /// Answers a request of another process, but for "show", which the delegate answers.
+        /// Answers a request of another process, but for "show" and what concerns the library.
         [[nodiscard]] virtual QByteArray answer(WindowController& mainWindow, const QByteArray& request) = 0;
         /// Ends a running recording and waits for its files: the program is about to quit.
         virtual void finishRecording(WindowController& mainWindow) = 0;

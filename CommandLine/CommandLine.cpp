@@ -4,7 +4,9 @@
 
 #include "CommandLine/ConvertCommand.h"
 #include "CommandLine/DevicesCommand.h"
+#include "CommandLine/LibraryCommand.h"
 #include "CommandLine/RecordCommand.h"
+#include "CommandLine/TagCommand.h"
 #include "CommandLine/WaveformCommand.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/LinuxServices.h"
@@ -23,10 +25,8 @@ Platform::LinuxServices* installed = nullptr; // while runCommand() runs one; te
 
 const std::map<QString, Command>& commands() {
     static const std::map<QString, Command> all{
-        {u"convert"_s, convertCommand},
-        {u"devices"_s, devicesCommand},
-        {u"record"_s, recordCommand},
-        {u"waveform"_s, waveformCommand},
+        {u"convert"_s, convertCommand}, {u"devices"_s, devicesCommand}, {u"library"_s, libraryCommand},
+        {u"record"_s, recordCommand},   {u"tag"_s, tagCommand},         {u"waveform"_s, waveformCommand},
     };
     return all;
 }

@@ -23,8 +23,10 @@ public:
         int year = 0;
         QByteArray artwork; ///< the image as it stands in the file; empty when there is none
     };
-    /// What the file says of itself; nothing when it is no readable MPEG-4 file.
-    [[nodiscard]] static std::optional<Tags> read(const QString& path);
+    /// What the file says of itself; nothing when it is no readable MPEG-4 file: @p why then tells a person.
+    [[nodiscard]] static std::optional<Tags> read(const QString& path, QString* why = nullptr);
+    /// setMpeg4ID3Information() that says what went wrong; empty when nothing did. The artwork of @p tags is not used.
+    [[nodiscard]] static QString writeTexts(const QString& path, const Tags& tags);
 
     /// Writes a copy of @p source with @p image, a JPEG or PNG file, as its only artwork. The destination appears whole
     /// or not at all. @return what went wrong, for a person; empty when nothing did.

@@ -193,40 +193,51 @@ std::optional<TagLib::MP4::CoverArt::Format> formatOf(QByteArray& image) {
 
 } // namespace
 
-bool BasicID3Change::setMpeg4ID3Information(const QString& path, const QString& name, const QString& artist,
-                                            const QString& album, int year, const QString& genre) {
+QString BasicID3Change::writeTexts(const QString& path, const Tags& tags) {
     QString why;
     const auto edit = [&](PatchedFile& content, QString& reason) {
         return editTags(
             content, {titleItem, artistItem, albumItem, yearItem, genreItem, "gnre"},
             [&](TagLib::MP4::Tag& tag) {
-                setText(tag, titleItem, name);
-                setText(tag, artistItem, artist);
-                setText(tag, albumItem, album);
-                setText(tag, yearItem, year == 0 ? QString() : QString::number(year));
-                setText(tag, genreItem, genre);
+                setText(tag, titleItem, tags.title);
+                setText(tag, artistItem, tags.artist);
+                setText(tag, albumItem, tags.album);
+                setText(tag, yearItem, tags.year == 0 ? QString() : QString::number(tags.year));
+                setText(tag, genreItem, tags.genre);
             },
             reason);
     };
-    if (Media::saveInPlace(path, edit, why))
-        return true;
-    qCWarning(log, "cannot write the tags of %s: %s", qUtf8Printable(path), qUtf8Printable(why));
-    return false;
+    return Media::saveInPlace(path, edit, why) ? QString() : u"cannot write the tags of %1: %2"_s.arg(path, why);
 }
 
-std::optional<BasicID3Change::Tags> BasicID3Change::read(const QString& path) {
+bool BasicID3Change::setMpeg4ID3Information(const QString& path, const QString& name, const QString& artist,
+                                            const QString& album, int year, const QString& genre) {
+    const QString problem = writeTexts(path, {name, artist, album, genre, year, {}});
+    if (!problem.isEmpty())
+        qCWarning(log, "%s", qUtf8Printable(problem));
+    return problem.isEmpty();
+}
+
+std::optional<BasicID3Change::Tags> BasicID3Change::read(const QString& path, QString* whyNot) {
     restoreInterruptedSave(path);
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+    const auto refuse = [&](const QString& why) {
+        if (whyNot)
+            *whyNot = u"cannot read the tags of %1: %2"_s.arg(path, why);
         return std::nullopt;
+    };
+    QFile file(path);
+    if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
+        return refuse(u"not a file"_s);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return refuse(file.errorString());
     PatchedFile content(file.handle(), file.size());
     QString why;
     if (!Media::readMpeg4Atoms(content, why))
-        return std::nullopt;
+        return refuse(why);
     const TagLib::MP4::File mpeg4(&content, false);
     const TagLib::MP4::Tag* const tag = mpeg4.tag();
     if (!mpeg4.isValid() || !tag)
-        return std::nullopt;
+        return refuse(u"not an MPEG-4 file"_s);
 
     Tags tags{text(tag->title()), text(tag->artist()), text(tag->album()), text(tag->genre()), 0, {}};
     if (const TagLib::MP4::Item year = tag->item(yearItem); year.isValid())

@@ -4,6 +4,7 @@
 
 #include "Platform/Foundation/linux/PropertyList.h"
 #include "tests/support/ChildProcess.h"
+#include "tests/support/Environment.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -290,9 +291,7 @@ TEST_F(DefaultsFile, SettingALargeLibraryCostsTheCallerLittle) {
 
 TEST(UserDefaults, LiveInTheConfigurationFolderUnderTheBundleIdentifier) {
     const QTemporaryDir folder;
-    const QByteArray before = qgetenv("XDG_CONFIG_HOME");
-    qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
+    const EnvironmentScope scope("XDG_CONFIG_HOME", folder.path().toUtf8());
     Platform::createUserDefaults(u"com.example.Test"_s)->setObject(u"a"_s, 1);
     EXPECT_TRUE(QFile::exists(folder.filePath(u"com.example.Test.plist"_s)));
-    qputenv("XDG_CONFIG_HOME", before);
 }

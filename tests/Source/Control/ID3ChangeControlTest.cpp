@@ -9,6 +9,7 @@
 #include "Source/Model/AudioRecordEntry.h"
 #include "tests/fakes/FakeBundle.h"
 #include "tests/support/ChildProcess.h"
+#include "tests/support/Environment.h"
 #include "tests/support/Mpeg4Files.h"
 
 #include <QDir>
@@ -132,9 +133,8 @@ TEST_F(ID3Change, WithAnImageThatIsNoneLeavesTheSource) {
 }
 
 TEST_F(ID3Change, KeepsAnotherFileThatStandsAtTheDestination) {
-    const QByteArray homeBefore = qgetenv("XDG_DATA_HOME");
     const QTemporaryDir data;
-    qputenv("XDG_DATA_HOME", data.path().toUtf8());
+    const EnvironmentScope scope("XDG_DATA_HOME", data.path().toUtf8());
     ASSERT_TRUE(Mpeg4Files::write(path(u"b.m4a"_s), "someone else's recording"));
     const QString bad = path(u"bad.png"_s);
     ASSERT_TRUE(Mpeg4Files::write(bad, "no image"));
@@ -148,7 +148,6 @@ TEST_F(ID3Change, KeepsAnotherFileThatStandsAtTheDestination) {
     ASSERT_EQ(unfinished.entryList(QDir::Files).size(), 1);
     EXPECT_EQ(Mpeg4Files::contentOf(unfinished.filePath(unfinished.entryList(QDir::Files).first())),
               "someone else's recording");
-    qputenv("XDG_DATA_HOME", homeBefore);
 }
 
 TEST_F(ID3Change, OfTheArtworkOnlyKeepsTheTextTags) {

@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CommandLine/LibraryCommand.h"
+
+#include "CommandLine/Arguments.h"
+#include "Platform/Foundation/Bundle.h"
+#include "Platform/Foundation/RunningProgram.h"
+#include "Platform/Foundation/Services.h"
+#include "Source/Control/ToolControl.h"
+#include "Source/Model/AudioRecordEntry.h"
+#include "Source/Model/MediaLibrary.h"
+#include "Source/Model/MediaLibraryRequests.h"
+
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using namespace Qt::StringLiterals;
+
+namespace CommandLine {
+namespace {
+
+QString text(const Dictionary& entry, const QString& key) {
+    const QVariant value = entry.value(key);
+    return value.isValid() ? Platform::stringForm(value) : QString();
+}
+
+QString plain(QString line) {
+    for (QChar& character : line)
+        if (character.category() == QChar::Other_Control)
+            character = u' ';
+    return line;
+}
+
+QJsonArray asJson(const QVariantList& entries) {
+    using namespace AudioRecordEntry;
+    QJsonArray array;
+    for (const QVariant& object : entries) {
+        const Dictionary entry = object.toMap();
+        array.append(QJsonObject{{u"key"_s, text(entry, NodeDataKey)},
+                                 {u"path"_s, text(entry, SavePath)},
+                                 {u"title"_s, text(entry, Title)},
+                                 {u"artist"_s, text(entry, Artist)},
+                                 {u"album"_s, text(entry, Album)},
+                                 {u"year"_s, Platform::intValue(entry.value(Year))},
+                                 {u"genre"_s, text(entry, Genre)},
+                                 {u"added"_s, text(entry, AddDate)},
+                                 {u"seconds"_s, Platform::doubleValue(entry.value(Length))},
+                                 {u"exists"_s, QFileInfo::exists(text(entry, SavePath))}});
+    }
+    return array;
+}
+
+void printCollection(const QString& title, const QVariantList& entries) {
+    using namespace AudioRecordEntry;
+    print(u"%1: %2"_s.arg(title).arg(entries.size()));
+    for (const QVariant& object : entries) {
+        const Dictionary entry = object.toMap();
+        const QString path = text(entry, SavePath);
+        print(u"  %1  %2  %3"_s.arg(text(entry, AddDate),
+                                    ToolControl::getTimeString(Platform::longLongValue(entry.value(Length))),
+                                    plain(text(entry, Title))));
+        print(u"      file "_s + plain(path) + (QFileInfo::exists(path) ? QString() : u" (missing)"_s));
+        print(u"      key  "_s + plain(text(entry, NodeDataKey)));
+    }
+}
+
+int list(bool json) {
+    const MediaLibrary& library = MediaLibrary::shareLibrary();
+    if (json) {
+        const QJsonObject document{{u"records"_s, asJson(library.records())},
+                                   {u"ringtones"_s, asJson(library.ringtones())}};
+        print(QString::fromUtf8(QJsonDocument(document).toJson().trimmed()));
+        return Done;
+    }
+    printCollection(u"recordings"_s, library.records());
+    printCollection(u"ringtones"_s, library.ringtones());
+    return Done;
+}
+
+int remove(const QStringList& keys, bool json) {
+    // The running window does it itself: its views follow, and it deletes no file of an entry that it just changed.
+    MediaLibraryRequests::Removal removal;
+    const auto running = Platform::RunningProgram::create(Platform::services().bundle->bundleIdentifier());
+    QByteArray answer;
+    if (running->ask(MediaLibraryRequests::removeRequest(keys), answer)) {
+        const auto told = MediaLibraryRequests::removalOf(answer);
+        if (!told)
+            return fail(u"the running program does not understand: it is of another version"_s);
+        removal = *told;
+    } else {
+        removal = MediaLibraryRequests::remove(keys);
+    }
+    if (!removal.unknown.isEmpty())
+        return fail(u"no entry has the key %1 (nothing was removed)"_s.arg(plain(removal.unknown.first())));
+    if (!removal.stored)
+        return fail(u"the files are deleted, but the library could not be saved"_s);
+    if (json) {
+        const QJsonObject document{{u"removed"_s, QJsonArray::fromStringList(removal.removed)}};
+        print(QString::fromUtf8(QJsonDocument(document).toJson().trimmed()));
+    }
+    return Done;
+}
+
+int run(const QStringList& given) {
+    const auto name = u"library"_s;
+    const Arguments arguments(given, {u"json"_s});
+    if (!arguments.problem().isEmpty())
+        return wrongUsage(name, arguments.problem());
+    const QStringList words = arguments.positional();
+    const bool json = arguments.isSet(u"json"_s);
+    if (words.isEmpty() || words == QStringList{u"list"_s})
+        return list(json);
+    if (words.first() != u"remove"_s)
+        return wrongUsage(name, u"library knows list and remove, not %1"_s.arg(words.first()));
+    if (words.size() < 2)
+        return wrongUsage(name, u"library remove takes the keys of entries"_s);
+    return remove(words.mid(1), json);
+}
+
+} // namespace
+
+const Command libraryCommand{run,
+                             "library [list] [--json]\n"
+                             "       sonaphex library remove KEY... [--json]",
+                             "list recordings and ringtones, or remove some with their files"};
+
+} // namespace CommandLine

@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CommandLine/TagCommand.h"
+
+#include "CommandLine/Arguments.h"
+#include "Platform/Media/BasicID3Change.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+using Platform::BasicID3Change;
+
+namespace CommandLine {
+namespace {
+
+QString kindOf(const QByteArray& artwork) {
+    if (artwork.startsWith("\xff\xd8\xff"))
+        return u"image/jpeg"_s;
+    if (artwork.startsWith("\x89PNG"))
+        return u"image/png"_s;
+    return u"application/octet-stream"_s;
+}
+
+/// A tag on one line of a terminal, which must not take its control characters for orders.
+QString plain(QString text) {
+    for (QChar& character : text)
+        if (character.category() == QChar::Other_Control)
+            character = u' ';
+    return text;
+}
+
+void show(const QString& path, const BasicID3Change::Tags& tags, bool json) {
+    if (json) {
+        const QJsonObject artwork{{u"type"_s, kindOf(tags.artwork)}, {u"bytes"_s, tags.artwork.size()}};
+        const QJsonObject document{{u"path"_s, path},
+                                   {u"title"_s, tags.title},
+                                   {u"artist"_s, tags.artist},
+                                   {u"album"_s, tags.album},
+                                   {u"year"_s, tags.year},
+                                   {u"genre"_s, tags.genre},
+                                   {u"artwork"_s, tags.artwork.isEmpty() ? QJsonValue() : QJsonValue(artwork)}};
+        print(QString::fromUtf8(QJsonDocument(document).toJson().trimmed()));
+        return;
+    }
+    print(u"title:   "_s + plain(tags.title));
+    print(u"artist:  "_s + plain(tags.artist));
+    print(u"album:   "_s + plain(tags.album));
+    print(u"year:    "_s + (tags.year == 0 ? QString() : QString::number(tags.year)));
+    print(u"genre:   "_s + plain(tags.genre));
+    print(u"artwork: "_s +
+          (tags.artwork.isEmpty() ? u"none"_s : u"%1, %2 bytes"_s.arg(kindOf(tags.artwork)).arg(tags.artwork.size())));
+}
+
+int run(const QStringList& given) {
+    const auto name = u"tag"_s;
+    const Arguments arguments(
+        given, {u"title=T"_s, u"artist=A"_s, u"album=B"_s, u"year=Y"_s, u"genre=G"_s, u"artwork=IMAGE"_s, u"json"_s});
+    if (!arguments.problem().isEmpty())
+        return wrongUsage(name, arguments.problem());
+    if (arguments.positional().size() != 1)
+        return wrongUsage(name, u"tag takes one file"_s);
+    const QString path = arguments.positional().first();
+    bool isYear = true;
+    const QString yearText = arguments.value(u"year"_s);
+    const int year = yearText.isEmpty() ? 0 : yearText.toInt(&isYear);
+    if (!isYear)
+        return wrongUsage(name, u"--year: %1 is no number"_s.arg(yearText));
+
+    QString why;
+    std::optional<BasicID3Change::Tags> tags = BasicID3Change::read(path, &why);
+    if (!tags)
+        return fail(why);
+    bool changed = false;
+    const auto take = [&](const QString& option, QString& tag) {
+        if (!arguments.isSet(option))
+            return;
+        tag = arguments.value(option);
+        changed = true;
+    };
+    take(u"title"_s, tags->title);
+    take(u"artist"_s, tags->artist);
+    take(u"album"_s, tags->album);
+    take(u"genre"_s, tags->genre);
+    if (arguments.isSet(u"year"_s)) {
+        tags->year = year;
+        changed = true;
+    }
+
+    const bool hasArtwork = arguments.isSet(u"artwork"_s);
+    if (hasArtwork)
+        if (const auto problem = BasicID3Change::copyWithArtwork(path, arguments.value(u"artwork"_s), path);
+            !problem.isEmpty())
+            return fail(problem);
+    if (changed)
+        if (const auto problem = BasicID3Change::writeTexts(path, *tags); !problem.isEmpty())
+            return fail(problem);
+
+    const bool json = arguments.isSet(u"json"_s);
+    if ((changed || hasArtwork) && !json)
+        return Done;
+    tags = BasicID3Change::read(path, &why);
+    if (!tags)
+        return fail(why);
+    show(path, *tags, json);
+    return Done;
+}
+
+} // namespace
+
+const Command tagCommand{run,
+                         "tag FILE [--title T] [--artist A] [--album B] [--year Y] [--genre G] [--artwork IMAGE]\n"
+                         "        [--json]",
+                         "print or write the tags and the cover of an MPEG-4 audio file"};
+
+} // namespace CommandLine

@@ -1,0 +1,157 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Foundation/RunningProgram.h"
+#include "Platform/Foundation/Services.h"
+#include "Platform/Foundation/linux/PropertyListDefaults.h"
+#include "Source/Control/PreferenceStore.h"
+#include "Source/Model/AudioRecordEntry.h"
+#include "Source/Model/MediaLibrary.h"
+#include "Source/Model/MediaLibraryRequests.h"
+#include "Source/Model/MediaLibraryStore.h"
+#include "tests/support/Environment.h"
+#include "tests/support/Mpeg4Files.h"
+#include "tests/support/WaitFor.h"
+
+#include <QJsonArray>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString identifier = u"com.korvane.Sonaphex"_s;
+
+class LibraryCommand : public testing::Test {
+protected:
+    LibraryCommand() {
+        for (const char* name : {"XDG_CONFIG_HOME", "XDG_RUNTIME_DIR", "XDG_DATA_HOME", "XDG_CACHE_HOME", "HOME"})
+            environment_.push_back(std::make_unique<EnvironmentScope>(name, folder_.path().toUtf8()));
+    }
+    [[nodiscard]] Dictionary entry(const QString& name) const {
+        const QString path = folder_.filePath(name);
+        EXPECT_TRUE(Mpeg4Files::write(path, "audio"));
+        return {{AudioRecordEntry::NodeDataKey, QString(path + u"_817430400.500000"_s)},
+                {AudioRecordEntry::SavePath, path},
+                {AudioRecordEntry::Title, u"Title of "_s + name},
+                {AudioRecordEntry::AddDate, u"2026/11/21"_s},
+                {AudioRecordEntry::Length, 83.9}};
+    }
+    static QString keyOf(const Dictionary& entry) { return entry.value(AudioRecordEntry::NodeDataKey).toString(); }
+    static void store(const QVariantList& records, const QVariantList& ringtones) {
+        const auto defaults = Platform::createUserDefaults(identifier);
+        defaults->setObject(PreferenceStore::kMediaLibrarySavedKey, MediaLibraryStore::value(records, ringtones));
+        ASSERT_TRUE(defaults->flush());
+    }
+    static ToolResult library(const QStringList& arguments) {
+        return runTool(QStringLiteral(SONAPHEX_PROGRAM), QStringList{u"library"_s} + arguments);
+    }
+    static QJsonDocument listed() { return QJsonDocument::fromJson(library({u"--json"_s}).output); }
+
+    QTemporaryDir folder_;
+    std::vector<std::unique_ptr<EnvironmentScope>> environment_;
+};
+
+} // namespace
+
+TEST_F(LibraryCommand, ListsBothCollections) {
+    const Dictionary record = entry(u"a b.m4a"_s);
+    Dictionary ringtone = entry(u"r.m4r"_s);
+    store({record}, {ringtone});
+    ASSERT_TRUE(QFile::remove(folder_.filePath(u"r.m4r"_s)));
+    const QJsonDocument json = listed();
+    ASSERT_EQ(json[u"records"_s].toArray().size(), 1);
+    const QJsonObject first = json[u"records"_s][0].toObject();
+    EXPECT_EQ(first[u"key"_s], keyOf(record));
+    EXPECT_EQ(first[u"path"_s], folder_.filePath(u"a b.m4a"_s));
+    EXPECT_EQ(first[u"title"_s], u"Title of a b.m4a"_s);
+    EXPECT_EQ(first[u"seconds"_s], 83.9);
+    EXPECT_EQ(first[u"exists"_s], true);
+    EXPECT_EQ(json[u"ringtones"_s][0][u"exists"_s], false);
+    const QByteArray plain = library({u"list"_s}).output;
+    EXPECT_TRUE(plain.contains("recordings: 1\n  2026/11/21  00:01:23  Title of a b.m4a\n")) << plain.constData();
+    EXPECT_TRUE(plain.contains("r.m4r (missing)\n"));
+}
+
+TEST_F(LibraryCommand, ListsAnEmptyLibrary) {
+    const ToolResult result = library({});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output, "recordings: 0\nringtones: 0\n");
+}
+
+TEST_F(LibraryCommand, RemovesEntriesAndTheirFiles) {
+    const Dictionary gone = entry(u"$(x) \"gone\".m4a"_s);
+    const Dictionary stays = entry(u"stays.m4a"_s);
+    store({gone, stays}, {});
+    const ToolResult result = library({u"remove"_s, keyOf(gone), u"--json"_s});
+    EXPECT_EQ(result.status, 0) << result.errors.constData();
+    EXPECT_EQ(QJsonDocument::fromJson(result.output)[u"removed"_s][0], keyOf(gone));
+    EXPECT_FALSE(QFile::exists(gone.value(AudioRecordEntry::SavePath).toString()));
+    EXPECT_TRUE(QFile::exists(stays.value(AudioRecordEntry::SavePath).toString()));
+    EXPECT_EQ(listed()[u"records"_s].toArray().size(), 1);
+}
+
+TEST_F(LibraryCommand, RemovesNothingWhenAKeyIsUnknown) {
+    const Dictionary stays = entry(u"stays.m4a"_s);
+    store({stays}, {});
+    const ToolResult result = library({u"remove"_s, keyOf(stays), u"no such key"_s});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, "sonaphex: no entry has the key no such key (nothing was removed)\n");
+    EXPECT_TRUE(QFile::exists(stays.value(AudioRecordEntry::SavePath).toString()));
+    EXPECT_EQ(listed()[u"records"_s].toArray().size(), 1);
+}
+
+TEST_F(LibraryCommand, RefusesWrongUsageWithTheRightOne) {
+    for (const QStringList& arguments : {QStringList{u"remove"_s}, QStringList{u"add"_s}, QStringList{u"--colour"_s}}) {
+        const ToolResult result = library(arguments);
+        EXPECT_EQ(result.status, 2);
+        EXPECT_TRUE(result.errors.contains("usage: sonaphex library [list] [--json]")) << result.errors.constData();
+    }
+}
+
+TEST_F(LibraryCommand, TwoAtOnceLoseNothing) {
+    QVariantList records;
+    for (int i = 0; i < 12; ++i)
+        records.append(entry(u"%1.m4a"_s.arg(i)));
+    store(records, {});
+    std::vector<std::unique_ptr<QProcess>> processes;
+    for (int i = 0; i < 8; ++i) {
+        processes.push_back(std::make_unique<QProcess>());
+        processes.back()->start(QStringLiteral(SONAPHEX_PROGRAM),
+                                {u"library"_s, u"remove"_s, keyOf(records[i].toMap())});
+    }
+    for (const auto& process : processes) {
+        ASSERT_TRUE(process->waitForFinished(60000));
+        EXPECT_EQ(process->exitCode(), 0) << process->readAllStandardError().constData();
+    }
+    EXPECT_EQ(listed()[u"records"_s].toArray().size(), 4);
+}
+
+TEST_F(LibraryCommand, LetsTheRunningWindowRemove) {
+    const Dictionary gone = entry(u"gone\nwith a new line.m4a"_s);
+    const Dictionary stays = entry(u"stays.m4a"_s);
+    store({gone, stays}, {});
+    // What the window's process does.
+    const Platform::ServicesScope scope;
+    const auto defaults = Platform::createUserDefaults(identifier);
+    Platform::services().userDefaults = defaults.get();
+    MediaLibrary& shared = MediaLibrary::shareLibrary();
+    shared.loadMediaLibraryList();
+    shared.loadDefaultMediaLibrary();
+    const auto running = Platform::RunningProgram::create(identifier);
+    ASSERT_TRUE(running->acquire());
+    ASSERT_TRUE(running->listen(
+        [](const QByteArray& request) { return MediaLibraryRequests::answer(request).value_or("what?"); }));
+    const QSignalSpy removed(&shared, &MediaLibrary::entryRemoved);
+
+    QProcess process;
+    process.start(QStringLiteral(SONAPHEX_PROGRAM), {u"library"_s, u"remove"_s, keyOf(gone), u"--json"_s});
+    ASSERT_TRUE(waitFor([&] { return process.state() == QProcess::NotRunning; }, 60000));
+    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().constData();
+    EXPECT_EQ(QJsonDocument::fromJson(process.readAllStandardOutput())[u"removed"_s][0], keyOf(gone));
+    EXPECT_EQ(shared.records(), QVariantList{stays});
+    EXPECT_EQ(removed.count(), 1);
+    EXPECT_FALSE(QFile::exists(gone.value(AudioRecordEntry::SavePath).toString()));
+    EXPECT_EQ(listed()[u"records"_s].toArray().size(), 1);
+}
