@@ -251,6 +251,11 @@ AudioStreamBasicDescription BuildInAudioRecord::exportDescription(int type) cons
 }
 
 std::unique_ptr<ExtAudioFileWriter> BuildInAudioRecord::setOutAudioPath(const QString& path, int forType) {
+    return makeWriter(path, forType, nullptr);
+}
+
+std::unique_ptr<ExtAudioFileWriter> BuildInAudioRecord::makeWriter(const QString& path, int forType,
+                                                                   ExtAudioFileWriter* predecessor) {
     const std::uint32_t fileType = forType == 1 ? kAudioFileM4AType : forType == 0 ? kAudioFileWAVEType : 0;
     Platform::MediaError error;
     auto writer = Platform::services().mediaFiles->createWriter(path, fileType, exportDescription(forType),
@@ -262,7 +267,10 @@ std::unique_ptr<ExtAudioFileWriter> BuildInAudioRecord::setOutAudioPath(const QS
             constexpr std::array<std::int32_t, 2> bothFromTheFirst{0, 0};
             (void)writer->setConverterChannelMap(bothFromTheFirst);
         }
-        status = writer->writeAsync(0, nullptr);
+        if (predecessor)
+            status = writer->continueFrom(*predecessor);
+        if (status == noErr)
+            status = writer->writeAsync(0, nullptr);
     }
     if (status == noErr)
         return writer;
@@ -322,8 +330,8 @@ bool BuildInAudioRecord::exchangeM4aFile(const QString& path, std::function<void
     const CyclesHeld held(audioUnit_.get());
     if (!outputM4a_.writer)
         return setOutPutAudioPath(path, 1);
-    auto writer = setOutAudioPath(path, 1);
-    if (!writer || writer->continueFrom(*outputM4a_.writer) != noErr)
+    auto writer = makeWriter(path, 1, outputM4a_.writer.get());
+    if (!writer)
         return false;
     std::unique_ptr<ExtAudioFileWriter> old;
     QString oldPath;

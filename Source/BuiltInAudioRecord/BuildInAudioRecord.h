@@ -133,6 +133,8 @@ private:
     void clientRecievedBuiltInAudioData(float level);
     void clientRecievedComputerAudioData(float level);
     bool openExport(Export& file, const QString& path, int type);
+    [[nodiscard]] std::unique_ptr<Platform::ExtAudioFileWriter> makeWriter(const QString& path, int forType,
+                                                                           Platform::ExtAudioFileWriter* predecessor);
     [[nodiscard]] std::unique_ptr<Platform::ExtAudioFileWriter> takeWriter(Export& file);
     void noteClosed(const Platform::ExtAudioFileWriter& writer);
     void closeUnit();

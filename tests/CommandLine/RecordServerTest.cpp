@@ -1,0 +1,278 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The program itself, on a sound server, as somebody in a terminal meets it.
+#include "tests/support/AudioCheck.h"
+#include "tests/support/Environment.h"
+#include "tests/support/PrivateAudioSession.h"
+#include "tests/support/TestSource.h"
+#include "tests/support/WaitFor.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QDirIterator>
+#include <QElapsedTimer>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class RecordServer : public testing::Test {
+protected:
+    RecordServer() {
+        QDir(dir_.path()).mkdir(u"tmp"_s);
+        QFile::setPermissions(tmp_, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    /// A tone as input device.
+    TestSource& tone() {
+        source_ = std::make_unique<TestSource>(TestSource::Options{.name = "test.tone",
+                                                                   .description = "Test Tone",
+                                                                   .content = TestSource::Content::Tone,
+                                                                   .frequency = 440,
+                                                                   .ownClock = true});
+        EXPECT_TRUE(source_->start());
+        return *source_;
+    }
+    [[nodiscard]] QStringList recordArguments(QStringList more) const {
+        return QStringList{u"record"_s, u"--input"_s, u"Test Tone"_s, u"--folder"_s, folder_, u"--filter"_s, u"off"_s} +
+               more;
+    }
+    ToolResult sonaphex(const QStringList& arguments) {
+        return runTool(QStringLiteral(SONAPHEX_PROGRAM), arguments, 60000);
+    }
+    [[nodiscard]] static QStringList filesBelow(const QString& folder) {
+        QStringList all;
+        QDirIterator tree(folder, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
+        while (tree.hasNext())
+            all << tree.next();
+        return all;
+    }
+    /// The raw file of a recording under way, as soon as there is sound in it.
+    [[nodiscard]] QString rawFile(qint64 bytes) const {
+        QString raw;
+        (void)waitFor(
+            [&] {
+                for (const QString& path : filesBelow(tmp_))
+                    if (path.endsWith(u".m4a"_s) && QFileInfo(path).size() >= bytes)
+                        raw = path;
+                return !raw.isEmpty();
+            },
+            20000);
+        return raw;
+    }
+
+    PrivateAudioSession& session_ = PrivateAudioSession::shared();
+    QTemporaryDir dir_;
+    QString tmp_ = dir_.filePath(u"tmp"_s);
+    QString folder_ = dir_.filePath(u"recordings"_s);
+    EnvironmentScope home_{"HOME", dir_.path().toUtf8()};
+    EnvironmentScope config_{"XDG_CONFIG_HOME", dir_.filePath(u"config"_s).toUtf8()};
+    EnvironmentScope runtime_{"XDG_RUNTIME_DIR", dir_.path().toUtf8()};
+    EnvironmentScope temporary_{"TMPDIR", tmp_.toUtf8()};
+    EnvironmentScope display_{"DISPLAY"};
+    std::unique_ptr<TestSource> source_;
+};
+
+} // namespace
+
+TEST_F(RecordServer, RecordsFiveSecondsOfAToneThatOtherProgramsRead) {
+    tone();
+    // A machine that is too busy for the sound server loses frames before they reach us, and is told so: once more
+    // then.
+    QJsonObject document;
+    for (int attempt = 0; attempt < 6; ++attempt) {
+        QDir(folder_).removeRecursively();
+        const auto result = sonaphex(recordArguments({u"--for"_s, u"5"_s, u"--json"_s}));
+        ASSERT_EQ(result.status, 0) << result.errors.toStdString();
+        document = QJsonDocument::fromJson(result.output).object();
+        if (document[u"lostFrames"_s].toInt(-1) == 0)
+            break;
+    }
+    EXPECT_EQ(document[u"lostFrames"_s].toInt(-1), 0);
+    ASSERT_EQ(document[u"recordings"_s].toArray().size(), 1);
+    const auto recording = document[u"recordings"_s][0].toObject();
+    const QString path = recording[u"path"_s].toString();
+    EXPECT_EQ(path, folder_ + u"/Track0.m4a"_s);
+    const double seconds = recording[u"seconds"_s].toDouble();
+    EXPECT_GE(seconds, 5.0);
+    EXPECT_LT(seconds, 5.1) << "a cycle more at most";
+    const auto frames = AudioCheck::framesByFfprobe(path);
+    EXPECT_NEAR(double(frames), seconds * 44100, 1.0);
+    for (const auto& decoded : {AudioCheck::decodedByFaad(path), AudioCheck::decodedByFfmpeg(path)}) {
+        ASSERT_EQ(decoded.size(), 2U);
+        EXPECT_NEAR(double(decoded[0].size()), double(frames), 2048) << "whole encoder frames, and the priming";
+        for (const auto& channel : decoded) {
+            const auto middle = AudioCheck::inner(channel, 8192);
+            EXPECT_NEAR(AudioCheck::pitchOf(middle, 44100), 440, 0.5);
+            EXPECT_NEAR(AudioCheck::levelOf(middle), 0.25 / std::numbers::sqrt2, 0.005);
+        }
+    }
+    EXPECT_EQ(filesBelow(tmp_), QStringList());
+}
+
+TEST_F(RecordServer, ListsTheDevicesOfTheServer) {
+    tone();
+    QJsonArray devices;
+    QJsonObject document;
+    ASSERT_TRUE(waitFor([&] {
+        document = QJsonDocument::fromJson(sonaphex({u"devices"_s, u"--json"_s}).output).object();
+        devices = document[u"devices"_s].toArray();
+        return !devices.isEmpty();
+    }));
+    EXPECT_EQ(devices[0][u"name"_s].toString(), u"Test Tone"_s);
+    EXPECT_EQ(devices[0][u"channels"_s].toInt(), 2);
+    EXPECT_EQ(devices[0][u"sampleRate"_s].toInt(), 48000);
+    EXPECT_TRUE(devices[0][u"uid"_s].toString().startsWith(u"test.tone:"_s));
+    EXPECT_EQ(document[u"defaultOutput"_s][u"name"_s].toString(), u"Silent Output"_s);
+}
+
+TEST_F(RecordServer, NamesTheDevicesThereAreForAnUnknownOne) {
+    tone();
+    const auto result = sonaphex({u"record"_s, u"--input"_s, u"Nothing like it"_s, u"--folder"_s, folder_});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, "sonaphex: there is no input device \"Nothing like it\": there are Test Tone\n");
+    EXPECT_FALSE(QFile::exists(folder_)) << "nothing half-made is left";
+}
+
+TEST_F(RecordServer, RefusesAFolderThatCannotBeWritten) {
+    tone();
+    folder_ = u"/proc/self"_s;
+    const auto result = sonaphex(recordArguments({u"--for"_s, u"1"_s}));
+    EXPECT_EQ(result.status, 1);
+    EXPECT_TRUE(result.errors.startsWith("sonaphex: the folder /proc/self cannot be written")) << result.errors.data();
+    EXPECT_EQ(result.errors.count('\n'), 1);
+}
+
+TEST_F(RecordServer, EndsWithAWholeFileAtASignal) {
+    tone();
+    for (const int signal : {SIGINT, SIGTERM}) {
+        QProcess process;
+        process.start(QStringLiteral(SONAPHEX_PROGRAM), recordArguments({}));
+        ASSERT_FALSE(rawFile(20000).isEmpty());
+        ::kill(pid_t(process.processId()), signal);
+        ASSERT_TRUE(process.waitForFinished(20000));
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+        const QString path = QString::fromUtf8(process.readAllStandardOutput().trimmed());
+        EXPECT_GT(AudioCheck::framesByFfprobe(path), 22050);
+        EXPECT_EQ(AudioCheck::decodedByFaad(path).size(), 2U) << "a plain file, closed";
+        EXPECT_EQ(filesBelow(tmp_), QStringList());
+    }
+}
+
+TEST_F(RecordServer, LeavesAPlayableRawFileWhenItIsKilled) {
+    tone();
+    QProcess process;
+    QElapsedTimer sinceStart;
+    sinceStart.start();
+    process.start(QStringLiteral(SONAPHEX_PROGRAM), recordArguments({}));
+    const QString raw = rawFile(60000);
+    ASSERT_FALSE(raw.isEmpty());
+    process.kill();
+    ASSERT_TRUE(process.waitForFinished(20000));
+    const double most = double(sinceStart.elapsed()) / 1000;
+    const auto decoded = AudioCheck::decodedByFfmpeg(raw);
+    ASSERT_EQ(decoded.size(), 2U);
+    const double seconds = double(decoded[0].size()) / 44100;
+    EXPECT_GT(seconds, 2.0);
+    EXPECT_GT(seconds, most - 2.5) << "about the last second is lost";
+    EXPECT_NEAR(AudioCheck::pitchOf(AudioCheck::inner(decoded[0], 8192), 44100), 440, 5);
+    const auto demuxed = runTool(u"gst-launch-1.0"_s, {u"-q"_s, u"filesrc"_s, u"location="_s + raw, u"!"_s,
+                                                       u"qtdemux"_s, u"!"_s, u"fakesink"_s});
+    EXPECT_EQ(demuxed.status, 0) << demuxed.errors.toStdString();
+    // The next recording of the same kind removes it.
+    ASSERT_EQ(sonaphex(recordArguments({u"--for"_s, u"0.2"_s})).status, 0);
+    EXPECT_EQ(filesBelow(tmp_), QStringList());
+}
+
+TEST_F(RecordServer, KeepsWhatItHasWhenTheDiskFillsUp) {
+    tone();
+    // The raw file lies on a file system of 100 kB, in a mount namespace of the program's own; where those are not
+    // allowed, files may grow to 100 kB only.
+    const bool mounts = runTool(u"unshare"_s, {u"-Urm"_s, u"true"_s}).status == 0;
+    const QString script = mounts ? u"mount -t tmpfs -o size=100k,mode=0700 tmpfs \"$TMPDIR\" && exec \"$@\""_s
+                                  : u"trap '' XFSZ; ulimit -f 100; exec \"$@\""_s;
+    QStringList arguments{u"-c"_s, script, u"sh"_s, QStringLiteral(SONAPHEX_PROGRAM)};
+    arguments += recordArguments({u"--for"_s, u"60"_s});
+    const auto result = mounts ? runTool(u"unshare"_s, QStringList{u"-Urm"_s, u"bash"_s} + arguments, 90000)
+                               : runTool(u"bash"_s, arguments, 90000);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_TRUE(result.errors.contains("what was recorded is kept in")) << result.errors.data();
+    const QString path = folder_ + u"/Track0.m4a"_s;
+    ASSERT_TRUE(QFile::exists(path));
+    const auto decoded = AudioCheck::decodedByFfmpeg(path);
+    ASSERT_EQ(decoded.size(), 2U);
+    EXPECT_GT(decoded[0].size(), 3U * 44100);
+    EXPECT_NEAR(AudioCheck::pitchOf(AudioCheck::inner(decoded[0], 8192), 44100), 440, 5);
+    const auto demuxed = runTool(u"gst-launch-1.0"_s, {u"-q"_s, u"filesrc"_s, u"location="_s + path, u"!"_s,
+                                                       u"qtdemux"_s, u"!"_s, u"fakesink"_s});
+    EXPECT_EQ(demuxed.status, 0) << demuxed.errors.toStdString();
+}
+
+TEST_F(RecordServer, SetsADamagedDefaultsFileAsideAndGoesOn) {
+    tone();
+    QDir(dir_.path()).mkdir(u"config"_s);
+    const QString plist = dir_.filePath(u"config/com.korvane.Sonaphex.plist"_s);
+    QFile file(plist);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("<?xml version=\"1.0\"?><plist><dict><key>Pref");
+    file.close();
+    const auto result = sonaphex(recordArguments({u"--for"_s, u"0.5"_s}));
+    EXPECT_EQ(result.status, 0);
+    EXPECT_TRUE(result.errors.contains("is damaged")) << result.errors.data();
+    EXPECT_EQ(QDir(dir_.filePath(u"config"_s)).entryList({u"*.damaged-*"_s}).size(), 1);
+}
+
+TEST_F(RecordServer, WaitsForADeviceThatIsPulledOut) {
+    auto& source = tone();
+    QProcess process;
+    process.start(QStringLiteral(SONAPHEX_PROGRAM), recordArguments({u"--for"_s, u"4"_s}));
+    ASSERT_FALSE(rawFile(20000).isEmpty());
+    source.remove();
+    QByteArray said;
+    ASSERT_TRUE(waitFor([&] {
+        said += process.readAllStandardError();
+        return said.contains("the device went away");
+    }));
+    ASSERT_TRUE(source.start());
+    ASSERT_TRUE(waitFor(
+        [&] {
+            said += process.readAllStandardError();
+            return process.state() == QProcess::NotRunning;
+        },
+        30000))
+        << said.data();
+    EXPECT_EQ(process.exitCode(), 0);
+    EXPECT_TRUE(said.contains("recording goes on")) << said.data();
+    const QString path = QString::fromUtf8(process.readAllStandardOutput().trimmed());
+    EXPECT_GE(AudioCheck::framesByFfprobe(path), 4 * 44100);
+}
+
+TEST_F(RecordServer, BringsASoundServerOfItsOwnWhereThereIsNone) {
+    PrivateAudioSession::end();
+    const EnvironmentScope none("PIPEWIRE_RUNTIME_DIR");
+    const auto result = sonaphex({u"record"_s, u"--for"_s, u"2"_s, u"--filter"_s, u"off"_s, u"--folder"_s, folder_});
+    EXPECT_EQ(result.status, 0) << result.errors.data();
+    EXPECT_TRUE(result.errors.contains("a private one was started")) << result.errors.data();
+    const auto decoded = AudioCheck::decodedByFaad(folder_ + u"/Track0.m4a"_s);
+    ASSERT_EQ(decoded.size(), 2U);
+    EXPECT_GT(AudioCheck::levelOf(AudioCheck::inner(decoded[0], 8192)), 0.01);
+}
+
+TEST_F(RecordServer, SaysThatThePackagesAreMissing) {
+    PrivateAudioSession::end();
+    const EnvironmentScope none("PIPEWIRE_RUNTIME_DIR");
+    const EnvironmentScope path("PATH", dir_.path().toUtf8());
+    const auto result = runTool(QStringLiteral(SONAPHEX_PROGRAM), {u"record"_s, u"--folder"_s, folder_});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors.count('\n'), 1) << result.errors.data();
+    EXPECT_TRUE(result.errors.contains("not installed")) << result.errors.data();
+    EXPECT_FALSE(QFile::exists(folder_));
+}
