@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AppDelegate.h"
 #include "AppWindows.h"
+#include "CaptureComputerAudio/KextInstallControl.h"
 #include "CommandLine/CommandLine.h"
 #include "Platform/Desktop/Alerts.h"
 #include "Platform/Foundation/Bundle.h"
@@ -37,6 +38,7 @@ int runWindows(int argc, char** argv) {
     QString why;
     if (!services.startAudio(why))
         tell(QStringLiteral("Nothing can be recorded or played."), why);
+    KextInstallControl::loadIfInstalled(); // before the devices are listed
 
     AppDelegate delegate(*windows, *running);
     if (!delegate.applicationDidFinishLaunching()) {

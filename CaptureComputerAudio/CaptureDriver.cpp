@@ -6,6 +6,7 @@
 #include "Source/AudioDevice/IOService.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QFileInfo>
@@ -69,8 +70,10 @@ bool load(const QString& bundlePath, QString& why, int patienceMs) {
 }
 
 bool unload(int patienceMs) {
+    // A value that was never said before: the server tells of changes only.
+    const auto now = QDateTime::currentMSecsSinceEpoch();
     for (auto& engine : IOService::getServicesByClassName(CaptureComputerAudio::kEngineClass))
-        engine.setProperty(true, kQuitKey);
+        engine.setProperty(now, kQuitKey);
     return becomesTrue([] { return !isLoaded(); }, patienceMs);
 }
 

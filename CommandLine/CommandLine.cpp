@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandLine/CommandLine.h"
 
+#include "CaptureComputerAudio/KextInstallControl.h"
 #include "CommandLine/ConvertCommand.h"
 #include "CommandLine/DevicesCommand.h"
+#include "CommandLine/DriverCommand.h"
 #include "CommandLine/LibraryCommand.h"
 #include "CommandLine/RecordCommand.h"
 #include "CommandLine/TagCommand.h"
@@ -24,10 +26,17 @@ Platform::LinuxServices* installed = nullptr; // while runCommand() runs one; te
 }
 
 const std::map<QString, Command>& commands() {
+    // clang-format off
     static const std::map<QString, Command> all{
-        {u"convert"_s, convertCommand}, {u"devices"_s, devicesCommand}, {u"library"_s, libraryCommand},
-        {u"record"_s, recordCommand},   {u"tag"_s, tagCommand},         {u"waveform"_s, waveformCommand},
+        {u"convert"_s, convertCommand},
+        {u"devices"_s, devicesCommand},
+        {u"driver"_s, driverCommand},
+        {u"library"_s, libraryCommand},
+        {u"record"_s, recordCommand},
+        {u"tag"_s, tagCommand},
+        {u"waveform"_s, waveformCommand},
     };
+    // clang-format on
     return all;
 }
 
@@ -62,7 +71,12 @@ std::optional<int> runCommand(int argc, char** argv) {
 }
 
 bool startAudio(QString& why) {
-    return installed ? installed->startAudio(why) : Platform::services().audioHardware != nullptr;
+    if (!installed)
+        return Platform::services().audioHardware != nullptr;
+    if (!installed->startAudio(why))
+        return false;
+    KextInstallControl::loadIfInstalled(); // before the devices are listed
+    return true;
 }
 
 int fail(const QString& what) {

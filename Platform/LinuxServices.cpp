@@ -3,6 +3,7 @@
 #include "Platform/LinuxServices.h"
 
 #include "Platform/Audio/AudioHardware.h"
+#include "Platform/Audio/IORegistry.h"
 #include "Platform/Audio/PrivateSession.h"
 #include "Platform/Desktop/linux/LinuxAdminShell.h"
 #include "Platform/Desktop/linux/LinuxDesktop.h"
@@ -35,6 +36,7 @@ struct LinuxServices::Private {
     std::unique_ptr<ColorScheme> colorScheme;
     std::unique_ptr<HotKeys> hotKeys;
     std::unique_ptr<AudioHardware> audioHardware;
+    std::unique_ptr<IORegistry> ioRegistry;
 };
 
 LinuxServices::LinuxServices() : d(std::make_unique<Private>()) {
@@ -70,6 +72,7 @@ bool LinuxServices::startAudio(QString& why) {
     }
     d->audioWorks = d->session || why.isEmpty();
     services().audioHardware = (d->audioHardware = createAudioHardware()).get();
+    services().ioRegistry = (d->ioRegistry = createIORegistry()).get();
     return d->audioWorks;
 }
 

@@ -4,6 +4,7 @@
 
 #include "Platform/Audio/AudioTypes.h"
 
+#include <memory>
 #include <vector>
 
 #include <QString>
@@ -27,5 +28,8 @@ public:
     [[nodiscard]] virtual QVariant property(Object object, const QString& key) = 0;
     virtual OSStatus setProperty(Object object, const QString& key, const QVariant& value) = 0;
 };
+
+/// The Linux side, on the process's connection to the sound server.
+[[nodiscard]] std::unique_ptr<IORegistry> createIORegistry();
 
 } // namespace Platform

@@ -201,7 +201,8 @@ void Driver::createNode() {
                 self->ownId_ = id;
                 // Numbers of nodes are used again: what was said to another node under this one is not for us.
                 if (self->metadata_)
-                    pw_metadata_set_property(self->metadata_.get(), id, nullptr, nullptr, nullptr);
+                    for (const char* key : {kPathKey, kQuitKey})
+                        pw_metadata_set_property(self->metadata_.get(), id, key, nullptr, nullptr);
                 self->lookAgain();
             },
         .removed = [](void* data) { static_cast<Driver*>(data)->quit(); },

@@ -3,6 +3,7 @@
 #include "Platform/Audio/linux/DeviceRegistry.h"
 
 #include "Platform/Audio/linux/NodeFormat.h"
+#include "Platform/Audio/linux/RegistryPath.h"
 
 #include <algorithm>
 #include <array>
@@ -50,11 +51,7 @@ std::string nameIn(const char* json) {
 } // namespace
 
 QString AudioDeviceInfo::uid() const {
-    // FNV-1a
-    std::uint32_t hash = 2166136261u;
-    for (const char each : nodeName)
-        hash = (hash ^ std::uint8_t(each)) * 16777619u;
-    return u"%1:%2"_s.arg(QString::fromStdString(nodeName)).arg(hash, 8, 16, QLatin1Char('0'));
+    return QString::fromStdString(RegistryPath::uniqueID(nodeName));
 }
 
 /// A device's node on the server.

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CommandLine/DriverCommand.h"
+
+#include "CaptureComputerAudio/CaptureComputerAudio.h"
+#include "CaptureComputerAudio/CaptureDriver.h"
+#include "CaptureComputerAudio/KextInstallControl.h"
+#include "CommandLine/Arguments.h"
+#include "Platform/Audio/AudioHardware.h"
+#include "Platform/Audio/IORegistry.h"
+#include "Platform/Audio/PrivateSession.h"
+#include "Platform/Foundation/Services.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using namespace Qt::StringLiterals;
+
+namespace CommandLine {
+namespace {
+
+/// The services of the sound server that runs, for as long as it lives. A private one is of no use here: the driver
+/// would go with it.
+class RunningServer {
+public:
+    RunningServer() {
+        auto& services = Platform::services();
+        if (services.ioRegistry || !Platform::PrivateSession::serverAnswers())
+            return;
+        services.audioHardware = (hardware_ = Platform::createAudioHardware()).get();
+        services.ioRegistry = (registry_ = Platform::createIORegistry()).get();
+    }
+    [[nodiscard]] static bool answers() { return Platform::services().ioRegistry; }
+
+private:
+    Platform::ServicesScope scope_;
+    std::unique_ptr<Platform::AudioHardware> hardware_;
+    std::unique_ptr<Platform::IORegistry> registry_;
+};
+
+int status(bool json) {
+    const bool installed = KextInstallControl::isExist();
+    const bool loaded = CaptureDriver::isLoaded();
+    if (json) {
+        print(QString::fromUtf8(QJsonDocument({{u"installed"_s, installed},
+                                               {u"path"_s, KextInstallControl::installedBundlePath()},
+                                               {u"loaded"_s, loaded},
+                                               {u"device"_s, CaptureComputerAudio::kDeviceName}})
+                                    .toJson(QJsonDocument::Compact)));
+        return Done;
+    }
+    print(installed ? u"installed: "_s + KextInstallControl::installedBundlePath() : u"installed: no"_s);
+    if (loaded)
+        print(u"loaded: "_s + CaptureComputerAudio::kDeviceName);
+    else
+        print(RunningServer::answers() ? u"loaded: no"_s : u"loaded: no (no sound server answers)"_s);
+    return Done;
+}
+
+int install() {
+    if (!RunningServer::answers())
+        return fail(u"the driver cannot be loaded: no sound server answers"_s);
+    if (!KextInstallControl::install())
+        return fail(u"the driver was not installed: "_s + KextInstallControl::lastError());
+    return status(false);
+}
+
+int remove() {
+    if (!KextInstallControl::uninstall())
+        return fail(u"the driver was not removed: "_s + KextInstallControl::lastError());
+    return Done;
+}
+
+int run(const QStringList& given) {
+    const Arguments arguments(given, {u"json"_s});
+    if (!arguments.problem().isEmpty())
+        return wrongUsage(u"driver"_s, arguments.problem());
+    const auto words = arguments.positional();
+    if (words.size() != 1)
+        return wrongUsage(u"driver"_s, u"driver takes one of status, install, remove"_s);
+    const RunningServer server;
+    if (words.constFirst() == u"status")
+        return status(arguments.isSet(u"json"_s));
+    if (words.constFirst() == u"install")
+        return install();
+    if (words.constFirst() == u"remove")
+        return remove();
+    return wrongUsage(u"driver"_s, u"driver takes one of status, install, remove"_s);
+}
+
+} // namespace
+
+const Command driverCommand{run, "driver status [--json] | install | remove",
+                            "the device that carries what the computer plays"};
+
+} // namespace CommandLine

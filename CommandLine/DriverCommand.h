@@ -1,0 +1,10 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "CommandLine/CommandLine.h"
+
+namespace CommandLine {
+/// Tells of the computer-audio driver, installs and removes it.
+extern const Command driverCommand;
+} // namespace CommandLine

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Audio/IORegistry.h"
+
+#include <map>
+#include <memory>
+
+namespace Platform {
+
+class DeviceRegistry;
+
+/// The sound server's devices as services. A handle is the device's number, which is never given to another one, so
+/// there is nothing to hold it by. Main thread.
+class PipeWireIORegistry final : public IORegistry {
+public:
+    PipeWireIORegistry();
+    ~PipeWireIORegistry() override;
+
+    std::vector<Object> servicesOfClass(const QString& className) override;
+    void retain(Object object) override;
+    void release(Object object) override;
+    QString path(Object object) override;
+    /// A property of the node, else what this process set. Numbers and truth values come back as texts.
+    QVariant property(Object object, const QString& key) override;
+    /// Goes to the server's metadata of the node, as text.
+    OSStatus setProperty(Object object, const QString& key, const QVariant& value) override;
+
+private:
+    std::shared_ptr<DeviceRegistry> registry_;
+    std::map<Object, QVariantMap> set_;
+};
+
+} // namespace Platform

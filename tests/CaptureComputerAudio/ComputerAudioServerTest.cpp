@@ -1,0 +1,264 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CaptureComputerAudio/CaptureComputerAudio.h"
+#include "CaptureComputerAudio/CaptureDriver.h"
+#include "CaptureComputerAudio/KextInstallControl.h"
+#include "CommandLine/DriverCommand.h"
+#include "Platform/Audio/AudioHardware.h"
+#include "Platform/Audio/IORegistry.h"
+#include "Platform/Audio/linux/DeviceRegistry.h"
+#include "Platform/Foundation/Services.h"
+#include "Source/AudioDevice/AudioDevice.h"
+#include "tests/fakes/FakeAdminShell.h"
+#include "tests/fakes/FakeBundle.h"
+#include "tests/support/PrivateAudioSession.h"
+#include "tests/support/TestCapture.h"
+#include "tests/support/TestSource.h"
+#include "tests/support/WaitFor.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kBundle = QStringLiteral(SONAPHEX_BIN_DIR "/Resources/ComputerAudioCapture.kext");
+
+/// The real driver in a private session, steered as the program does it.
+class ComputerAudio : public testing::Test {
+protected:
+    ComputerAudio() {
+        auto& services = Platform::services();
+        services.audioHardware = hardware.get();
+        services.ioRegistry = registry.get();
+        services.adminShell = &shell;
+        services.bundle = &bundle;
+    }
+    ~ComputerAudio() override {
+        EXPECT_TRUE(CaptureDriver::unload());
+        second.closeWriteChannel();
+        second.terminate();
+        second.waitForFinished();
+    }
+
+    void load() {
+        QString why;
+        ASSERT_TRUE(CaptureDriver::load(kBundle, why, 10000)) << qPrintable(why);
+    }
+    AudioObjectID deviceNamed(const QString& wanted) {
+        for (const auto device : hardware->devices())
+            if (QString name; hardware->getDeviceName(device, name) == noErr && name == wanted)
+                return device;
+        return 0;
+    }
+    QString defaultOutput() {
+        const auto device = AudioDevice::defaultAudioOutputDevice();
+        QString name;
+        if (device)
+            (void)hardware->getDeviceName(device->audioDeviceID(), name);
+        return name;
+    }
+    /// A second output, which does not become the default by itself.
+    void addSecondOutput() {
+        second.start(u"pw-cli"_s, QStringList());
+        second.write("create-node adapter { factory.name=support.null-audio-sink node.name=test.second "
+                     "node.description=\"Second Output\" media.class=Audio/Sink audio.position=[FL FR] "
+                     "priority.session=1 }\n");
+        ASSERT_TRUE(waitFor([&] { return deviceNamed(u"Second Output"_s) != 0; }));
+    }
+    void setDefaultOutput(const std::string& nodeName) {
+        (void)Platform::DeviceRegistry::shared()->setMetadata(0, "default.configured.audio.sink", "Spa:String:JSON",
+                                                              "{\"name\":\"" + nodeName + "\"}");
+    }
+    static TestSource::Options playing(float value, const std::string& name, const std::string& target) {
+        TestSource::Options options;
+        options.name = name;
+        options.target = target;
+        options.sample = [value](std::uint64_t, std::uint32_t) { return value; };
+        return options;
+    }
+
+    PrivateAudioSession& session = PrivateAudioSession::shared();
+    Platform::ServicesScope scope;
+    std::unique_ptr<Platform::AudioHardware> hardware = Platform::createAudioHardware();
+    std::unique_ptr<Platform::IORegistry> registry = Platform::createIORegistry();
+    FakeAdminShell shell;
+    FakeBundle bundle;
+    QProcess second;
+};
+
+TEST_F(ComputerAudio, AppearsAsAnInputDeviceUnderItsName) {
+    EXPECT_FALSE(CaptureDriver::isLoaded());
+    load();
+    const auto device = deviceNamed(u"Korvane System Audio"_s);
+    ASSERT_NE(device, 0U);
+    std::uint32_t size = 0;
+    EXPECT_EQ(hardware->getStreamsDataSize(device, Platform::AudioHardware::Scope::Input, size), noErr);
+    EXPECT_EQ(size, 8U);
+    const auto engines = IOService::getServicesByClassName(u"com_Korvane_driver_CaptureEngine"_s);
+    ASSERT_EQ(engines.size(), 1U);
+    EXPECT_TRUE(engines[0].path().startsWith(u"IOService:/VIRTUAL/"_s)) << qPrintable(engines[0].path());
+    EXPECT_EQ(engines[0].getProperty(u"korvane.engine.class"_s), u"com_Korvane_driver_CaptureEngine"_s);
+}
+
+TEST_F(ComputerAudio, FindsThePathOfEachDevice) {
+    load();
+    addSecondOutput();
+    EXPECT_EQ(IOService::getServicesByClassName(u"IOAudioEngine"_s).size(), hardware->devices().size());
+    for (const auto id : hardware->devices()) {
+        const AudioDevice device(id);
+        EXPECT_TRUE(device.sameDeviceWithPath(device.path())) << qPrintable(device.path());
+    }
+    EXPECT_TRUE(AudioDevice(deviceNamed(u"Second Output"_s)).path().contains(u"/test.second@"_s));
+    EXPECT_FALSE(CaptureComputerAudio::captureComputerAudioIsUSBDevice());
+}
+
+TEST_F(ComputerAudio, CarriesTheDefaultOutputBeforeAnybodySteersIt) {
+    load();
+    TestPlayer player(playing(0.5F, "test.one", ""));
+    ASSERT_TRUE(player.start());
+    TestCapture capture({.target = "korvane.system-audio", .monitor = false});
+    ASSERT_TRUE(capture.start());
+    EXPECT_TRUE(waitFor([&] { return capture.recentPeak(480) == 0.5F; }));
+}
+
+TEST_F(ComputerAudio, IsSilentWhenToldToStopAndFlowsAgainWhenToldToStart) {
+    load();
+    TestPlayer player(playing(0.5F, "test.one", ""));
+    ASSERT_TRUE(player.start());
+    TestCapture capture({.target = "korvane.system-audio", .monitor = false});
+    ASSERT_TRUE(capture.start());
+    CaptureComputerAudio::startCaptureComputerAudio();
+    ASSERT_TRUE(waitFor([&] { return capture.recentPeak(480) == 0.5F; }));
+    CaptureComputerAudio::stopCaptureComputerAudio();
+    ASSERT_TRUE(waitFor([&] { return capture.recentPeak(4800) == 0; }));
+    const auto before = capture.frames();
+    EXPECT_TRUE(waitFor([&] { return capture.frames() > before + 9600; })) << "silence, not an end";
+    CaptureComputerAudio::startCaptureComputerAudio();
+    EXPECT_TRUE(waitFor([&] { return capture.recentPeak(480) == 0.5F; }));
+}
+
+TEST_F(ComputerAudio, CarriesOnlyTheOutputItWasToldOf) {
+    load();
+    addSecondOutput();
+    TestPlayer one(playing(0.5F, "test.one", "sonaphex.output"));
+    TestPlayer two(playing(0.25F, "test.two", "test.second"));
+    ASSERT_TRUE(one.start());
+    ASSERT_TRUE(two.start());
+    TestCapture capture({.target = "korvane.system-audio", .monitor = false});
+    ASSERT_TRUE(capture.start());
+    ASSERT_TRUE(waitFor([&] { return capture.recentPeak(480) == 0.5F; }));
+    auto engines = IOService::getServicesByClassName(CaptureComputerAudio::kEngineClass);
+    ASSERT_EQ(engines.size(), 1U);
+    engines[0].setProperty(AudioDevice(deviceNamed(u"Second Output"_s)).path(),
+                           CaptureComputerAudio::kCaptureDriverPathKey);
+    EXPECT_TRUE(waitFor([&] { return capture.recentPeak(480) == 0.25F; }));
+}
+
+TEST_F(ComputerAudio, FollowsTheDefaultOutputWithoutAGap) {
+    load();
+    addSecondOutput();
+    // A program that plays to wherever the default is: the session manager takes it along.
+    TestPlayer player(playing(0.5F, "test.one", ""));
+    ASSERT_TRUE(player.start());
+    TestCapture first({.target = "sonaphex.output", .monitor = true});
+    TestCapture other({.target = "test.second", .monitor = true});
+    ASSERT_TRUE(first.start());
+    ASSERT_TRUE(other.start());
+    CaptureComputerAudio::startCaptureComputerAudio();
+    QObject::connect(hardware.get(), &Platform::AudioHardware::defaultOutputDeviceChanged, hardware.get(),
+                     [] { CaptureComputerAudio::startCaptureComputerAudio(); });
+    TestCapture capture({.target = "korvane.system-audio", .monitor = false});
+    ASSERT_TRUE(capture.start());
+    ASSERT_TRUE(waitFor([&] { return capture.recentPeak(480) == 0.5F; }));
+    const auto begin = std::size_t(capture.frames() * 2);
+    for (int i = 0; i < 3; ++i) {
+        setDefaultOutput("test.second");
+        ASSERT_TRUE(waitFor([&] { return other.recentPeak(480) == 0.5F && first.recentPeak(480) == 0; }));
+        ASSERT_TRUE(waitFor([&] { return capture.recentPeak(480) == 0.5F; })) << capture.recentPeak(480);
+        setDefaultOutput("sonaphex.output");
+        ASSERT_TRUE(waitFor([&] { return first.recentPeak(480) == 0.5F && other.recentPeak(480) == 0; }));
+        ASSERT_TRUE(waitFor([&] { return capture.recentPeak(480) == 0.5F; })) << capture.recentPeak(480);
+    }
+    const auto samples = capture.interleaved();
+    std::size_t longest = 0;
+    std::size_t silent = 0;
+    for (std::size_t i = begin; i < samples.size(); i += 2) {
+        silent = samples[i] == 0 ? silent + 1 : 0;
+        longest = std::max(longest, silent);
+    }
+    EXPECT_LT(longest, 9600U) << "0.2 s";
+    RecordProperty("longestSilenceInFrames", int(longest));
+}
+
+TEST_F(ComputerAudio, FallsBackToTheDefaultOutputWhenItsOwnIsPulledOut) {
+    load();
+    addSecondOutput();
+    TestPlayer one(playing(0.5F, "test.one", "sonaphex.output"));
+    ASSERT_TRUE(one.start());
+    TestCapture capture({.target = "korvane.system-audio", .monitor = false});
+    ASSERT_TRUE(capture.start());
+    auto engines = IOService::getServicesByClassName(CaptureComputerAudio::kEngineClass);
+    ASSERT_EQ(engines.size(), 1U);
+    engines[0].setProperty(AudioDevice(deviceNamed(u"Second Output"_s)).path(),
+                           CaptureComputerAudio::kCaptureDriverPathKey);
+    ASSERT_TRUE(waitFor([&] { return capture.recentPeak(480) == 0; }));
+    second.closeWriteChannel();
+    second.terminate();
+    EXPECT_TRUE(waitFor([&] { return capture.recentPeak(480) == 0.5F; }));
+}
+
+TEST_F(ComputerAudio, IsNotTheMicrophoneOfOthersWhenThereIsOne) {
+    TestSource microphone({.name = "test.microphone", .description = "Microphone", .sessionPriority = 100});
+    ASSERT_TRUE(microphone.start());
+    load();
+    TestCapture capture({.target = "korvane.system-audio", .monitor = false});
+    ASSERT_TRUE(capture.start());
+    QProcess metadata;
+    metadata.start(u"pw-metadata"_s, {u"0"_s, u"default.audio.source"_s});
+    ASSERT_TRUE(metadata.waitForFinished());
+    EXPECT_FALSE(metadata.readAllStandardOutput().contains("korvane"));
+}
+
+TEST_F(ComputerAudio, IsInstalledLoadedAndRemovedWithTheRealDriver) {
+    QTemporaryDir folder;
+    const KextInstallControl::ExtensionsFolderScope extensions(folder.filePath(u"Extensions"_s));
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(CommandLine::driverCommand.run({u"status"_s}), CommandLine::Done);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "installed: no\nloaded: no\n");
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(CommandLine::driverCommand.run({u"install"_s}), CommandLine::Done)
+        << qPrintable(KextInstallControl::lastError());
+    EXPECT_TRUE(CaptureDriver::isLoaded());
+    EXPECT_TRUE(KextInstallControl::isExist());
+    EXPECT_EQ(CommandLine::driverCommand.run({u"remove"_s}), CommandLine::Done);
+    EXPECT_FALSE(CaptureDriver::isLoaded());
+    EXPECT_FALSE(KextInstallControl::isExist());
+    testing::internal::GetCapturedStdout();
+
+    // What is installed and not running comes up with the program.
+    ASSERT_TRUE(KextInstallControl::install());
+    ASSERT_TRUE(CaptureDriver::unload());
+    EXPECT_TRUE(KextInstallControl::loadIfInstalled());
+    EXPECT_NE(deviceNamed(u"Korvane System Audio"_s), 0U);
+}
+
+TEST_F(ComputerAudio, IsGoneAfterARestartOfTheServerAndLoadedAnew) {
+    load();
+    ASSERT_TRUE(session.stopServer());
+    ASSERT_TRUE(session.startServer());
+    ASSERT_TRUE(waitFor([&] { return hardware->connected() && deviceNamed(u"Silent Output"_s) != 0; }));
+    EXPECT_FALSE(CaptureDriver::isLoaded());
+    load();
+    EXPECT_TRUE(CaptureDriver::isLoaded());
+}
+
+TEST_F(ComputerAudio, TellsOfWrongUse) {
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(CommandLine::driverCommand.run({}), CommandLine::WrongUsage);
+    EXPECT_EQ(CommandLine::driverCommand.run({u"update"_s}), CommandLine::WrongUsage);
+    testing::internal::GetCapturedStderr();
+}
+
+} // namespace
