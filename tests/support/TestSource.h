@@ -49,10 +49,12 @@ inline constexpr std::uint32_t rampMask = 0xFFFFFF; ///< the ramp repeats after 
 ///     milliseconds) source.setContent(TestSource::Content::Silence); source.remove();                 // pulled out
 ///     ASSERT_TRUE(source.start());     // back under the same name, from frame 0
 ///
-/// Several may run at once. With .ownClock a source keeps its own time like a sound card, .clockErrorPpm faster than it
-/// says; two of those drift against each other. Without, it follows the server's clock. A source at 44.1 kHz is exact
-/// at its own rate (the private session allows it). With .mediaClass = "Stream/Output/Audio" it is a program that plays
-/// into the output named .target (node.name; empty: the default output); see TestPlayer.
+/// Several may run at once. A source keeps its own time like a sound card, .clockErrorPpm faster than it says; two of
+/// those drift against each other. It waits with a cycle until the one before was heard, so that a machine that is kept
+/// from running loses nothing. With .ownClock = false it follows the server's clock, and on a busy machine cycles may
+/// be missed (and counted by who captures). A source at 44.1 kHz is exact at its own rate: the private session allows
+/// it. With .mediaClass = "Stream/Output/Audio" it is a program that plays into the output named .target (node.name;
+/// empty: the default output); see TestPlayer.
 class TestSource {
 public:
     enum class Content { Ramp, Noise, Tone, Silence };
@@ -64,7 +66,7 @@ public:
         Content content = Content::Ramp;
         double frequency = 440;  ///< of the tone, Hz
         double amplitude = 0.25; ///< of the tone
-        bool ownClock = false;
+        bool ownClock = true;
         double clockErrorPpm = 0;
         std::uint32_t cycle = 1024;
         std::string mediaClass = "Audio/Source";
@@ -102,6 +104,7 @@ public:
 private:
     static Options asPlayer(Options options) {
         options.mediaClass = "Stream/Output/Audio";
+        options.ownClock = false;
         if (options.name == "test.source")
             options.name = "test.player";
         return options;

@@ -90,6 +90,13 @@ std::vector<UnitCapture::Cycle> UnitCapture::cycles() const {
     return cycles_;
 }
 
+std::vector<std::vector<float>> UnitCapture::takeAll() {
+    std::lock_guard guard(mutex_);
+    cycles_.clear();
+    frames_ = 0;
+    return std::exchange(samples_, std::vector<std::vector<float>>(channels_));
+}
+
 bool UnitCapture::heard(InputUnit::Event event) const {
     return std::ranges::find(events_, event) != events_.end();
 }

@@ -38,6 +38,8 @@ public:
     [[nodiscard]] std::uint64_t frames() const;
     [[nodiscard]] std::vector<float> samples(std::uint32_t channel) const;
     [[nodiscard]] std::vector<Cycle> cycles() const;
+    /// Hands out all samples so far, one list a channel, and forgets them and the cycles; for long runs.
+    [[nodiscard]] std::vector<std::vector<float>> takeAll();
     [[nodiscard]] std::vector<Platform::InputUnit::Event> events() const { return events_; }
     [[nodiscard]] bool heard(Platform::InputUnit::Event event) const;
     /// Called in each cycle, on the I/O thread, after its frames were fetched.

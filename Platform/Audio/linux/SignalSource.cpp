@@ -16,6 +16,8 @@ using namespace PipeWire;
 
 namespace {
 
+constexpr std::uint64_t patienceNs = 500'000'000;
+
 std::uint64_t steadyNanoseconds() {
     timespec now = {};
     clock_gettime(CLOCK_MONOTONIC, &now);
@@ -32,7 +34,8 @@ struct SignalSource::Connection {
             return;
         {
             LoopLock lock(loop.get());
-            timer.reset();
+            if (timer.get())
+                onDataThread([](Connection& self) { self.timer.reset(); });
             streamListener.remove();
             stream.reset();
             coreListener.remove();
@@ -46,10 +49,18 @@ struct SignalSource::Connection {
     void onStateChanged(pw_stream_state state, const char* error);
     void processRt() noexcept;
     void advanceClockRt() noexcept;
-    void onTimer();
-    void armTimer();
-    std::uint64_t asNanoseconds(double seconds) const {
-        return std::uint64_t(seconds * SPA_NSEC_PER_SEC / (1 + options.clockErrorPpm * 1e-6));
+    void onTimerRt();
+    void armTimerRt(std::uint64_t nsec);
+    /// Runs @p work on the data thread and waits for it.
+    template <typename Work>
+    void onDataThread(Work) {
+        pw_data_loop_invoke(
+            pw_context_get_data_loop(context.get()),
+            [](spa_loop*, bool, std::uint32_t, const void*, std::size_t, void* data) {
+                Work()(*static_cast<Connection*>(data));
+                return 0;
+            },
+            0, nullptr, 0, true, this);
     }
 
     const Options& options;
@@ -67,10 +78,13 @@ struct SignalSource::Connection {
     std::string error;
     std::atomic<spa_io_position*> area{nullptr};
     std::atomic<std::uint64_t> frames{0};
-    std::uint64_t nextNsec = 0;             ///< when the own clock ticks next; loop's thread
-    std::atomic<std::uint64_t> tickNsec{0}; ///< the tick at hand, as the timer saw it
-    std::uint64_t clockNsec = 0;            ///< what the clock says; data thread
-    std::uint64_t lastDuration = 0;         ///< data thread
+    // Data thread. The clock ticks there: a tick that came late from an ordinary thread would catch up with two cycles
+    // at once, and whoever captures would miss the first.
+    std::uint64_t nextNsec = 0; ///< when the own clock ticks next
+    std::uint64_t lastDuration = 0;
+    std::uint64_t lastTrigger = 0;
+    std::atomic<bool> underWay{false}; ///< the graph still works at the cycle begun last
+    std::atomic<bool> tellsEnd{false}; ///< the library says when it is done
 };
 
 bool SignalSource::Connection::start(std::string& why) {
@@ -117,14 +131,22 @@ bool SignalSource::Connection::start(std::string& why) {
                     static_cast<Connection*>(data)->area = static_cast<spa_io_position*>(area);
             },
         .process = [](void* data) { static_cast<Connection*>(data)->processRt(); },
+        .trigger_done =
+            [](void* data) {
+                static_cast<Connection*>(data)->tellsEnd = true;
+                static_cast<Connection*>(data)->underWay = false;
+            },
     };
     pw_stream_add_listener(stream.get(), streamListener.get(), &streamEvents, this);
 
     if (options.ownClock) {
-        auto* mainLoop = pw_thread_loop_get_loop(loop.get());
-        timer = LoopSource(
-            mainLoop, pw_loop_add_timer(
-                          mainLoop, [](void* data, uint64_t) { static_cast<Connection*>(data)->onTimer(); }, this));
+        onDataThread([](Connection& self) {
+            auto* dataLoop = pw_data_loop_get_loop(pw_context_get_data_loop(self.context.get()));
+            self.timer = LoopSource(
+                dataLoop,
+                pw_loop_add_timer(
+                    dataLoop, [](void* data, std::uint64_t) { static_cast<Connection*>(data)->onTimerRt(); }, &self));
+        });
     }
 
     std::uint8_t memory[1024];
@@ -181,34 +203,50 @@ void SignalSource::Connection::onStateChanged(pw_stream_state state, const char*
     if (state == PW_STREAM_STATE_ERROR)
         error = message ? message : "the stream failed";
     known = known || state == PW_STREAM_STATE_PAUSED || state == PW_STREAM_STATE_STREAMING;
-    if (options.ownClock && state == PW_STREAM_STATE_STREAMING) {
-        nextNsec = steadyNanoseconds();
-        armTimer();
+    if (timer.get() && state == PW_STREAM_STATE_STREAMING) {
+        onDataThread([](Connection& self) {
+            self.nextNsec = steadyNanoseconds();
+            self.underWay = false;
+            self.armTimerRt(self.nextNsec);
+        });
     } else if (timer.get()) {
-        timespec never = {};
-        pw_loop_update_timer(pw_thread_loop_get_loop(loop.get()), timer.get(), &never, nullptr, false);
+        onDataThread([](Connection& self) {
+            timespec never = {};
+            pw_loop_update_timer(pw_data_loop_get_loop(pw_context_get_data_loop(self.context.get())), self.timer.get(),
+                                 &never, nullptr, false);
+        });
     }
     pw_thread_loop_signal(loop.get(), false);
 }
 
-void SignalSource::Connection::armTimer() {
+void SignalSource::Connection::armTimerRt(std::uint64_t nsec) {
     timespec when = {};
-    when.tv_sec = time_t(nextNsec / SPA_NSEC_PER_SEC);
-    when.tv_nsec = long(nextNsec % SPA_NSEC_PER_SEC);
-    pw_loop_update_timer(pw_thread_loop_get_loop(loop.get()), timer.get(), &when, nullptr, true);
+    when.tv_sec = time_t(nsec / SPA_NSEC_PER_SEC);
+    when.tv_nsec = long(nsec % SPA_NSEC_PER_SEC);
+    pw_loop_update_timer(pw_data_loop_get_loop(pw_context_get_data_loop(context.get())), timer.get(), &when, nullptr,
+                         true);
 }
 
-void SignalSource::Connection::onTimer() {
+void SignalSource::Connection::onTimerRt() {
     const auto* position = area.load();
     double seconds = double(options.cycle) / options.rate;
+    const std::uint64_t now = steadyNanoseconds();
     if (position && pw_stream_is_driving(stream.get())) {
         if (position->clock.rate.denom > 0 && position->clock.duration > 0)
             seconds = double(position->clock.duration) / position->clock.rate.denom;
-        tickNsec = nextNsec;
+        // On a machine that is kept from running, the cycle before may still be under way; another one now would be
+        // heard by nobody.
+        const bool waits = tellsEnd && underWay && now < lastTrigger + patienceNs;
+        if (waits) {
+            armTimerRt(now + std::uint64_t(seconds * SPA_NSEC_PER_SEC / 16));
+            return;
+        }
+        underWay = true;
+        lastTrigger = now;
         pw_stream_trigger_process(stream.get());
     }
-    nextNsec += asNanoseconds(seconds);
-    armTimer();
+    nextNsec += std::uint64_t(seconds * SPA_NSEC_PER_SEC / (1 + options.clockErrorPpm * 1e-6));
+    armTimerRt(nextNsec);
 }
 
 void SignalSource::Connection::advanceClockRt() noexcept {
@@ -216,13 +254,7 @@ void SignalSource::Connection::advanceClockRt() noexcept {
     if (!position || !options.ownClock || !pw_stream_is_driving(stream.get()))
         return;
     auto& clock = position->clock;
-    // The timer may be a tick ahead of this thread, so the time is counted here; after a pause it is taken anew.
-    const std::uint64_t tick = tickNsec.load(std::memory_order_relaxed);
-    if (clock.rate.denom > 0)
-        clockNsec += asNanoseconds(double(lastDuration) / clock.rate.denom);
-    if (tick > clockNsec + SPA_NSEC_PER_SEC / 4 || clockNsec > tick + SPA_NSEC_PER_SEC / 4)
-        clockNsec = tick;
-    clock.nsec = clockNsec;
+    clock.nsec = nextNsec;
     clock.position += lastDuration;
     clock.rate_diff = 1 + options.clockErrorPpm * 1e-6;
     lastDuration = clock.duration;

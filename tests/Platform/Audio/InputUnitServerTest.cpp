@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Audio/InputUnit.h"
 
+#include "tests/support/BusyLoops.h"
 #include "tests/support/PrivateAudioSession.h"
 #include "tests/support/TestSource.h"
 #include "tests/support/UnitCapture.h"
@@ -34,28 +35,6 @@ protected:
     std::unique_ptr<AudioHardware> hardware_ = createAudioHardware();
 };
 
-/// Keeps processors busy beside a capture.
-class BusyLoops {
-public:
-    explicit BusyLoops(int count) {
-        for (int i = 0; i < count; ++i)
-            threads_.emplace_back([this] {
-                while (!end_)
-                    spin_.fetch_add(1, std::memory_order_relaxed);
-            });
-    }
-    ~BusyLoops() {
-        end_ = true;
-        for (auto& each : threads_)
-            each.join();
-    }
-
-private:
-    std::atomic<bool> end_{false};
-    std::atomic<unsigned> spin_{0};
-    std::vector<std::thread> threads_;
-};
-
 /// The ramp in two pieces, with a step where the hole is.
 void expectTwoRamps(const std::vector<float>& samples, std::size_t& secondAt) {
     secondAt = 0;
@@ -69,7 +48,7 @@ void expectTwoRamps(const std::vector<float>& samples, std::size_t& secondAt) {
 } // namespace
 
 TEST_F(InputUnitTest, DeliversEverySampleAsItWasPlayedAt44100) {
-    TestSource source({.description = "Ramp 44", .rate = 44100, .ownClock = true});
+    TestSource source({.description = "Ramp 44", .rate = 44100});
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());
     EXPECT_EQ(capture.sampleRate(), 44100);
@@ -80,19 +59,22 @@ TEST_F(InputUnitTest, DeliversEverySampleAsItWasPlayedAt44100) {
     EXPECT_EQ(capture.unit().lostFrames(), 0u);
 }
 
-TEST_F(InputUnitTest, DeliversEverySampleOfADeviceOnTheServersClockAt44100) {
-    TestSource source({.description = "Ramp 44 follower", .rate = 44100});
+TEST_F(InputUnitTest, DeliversOrCountsEverySampleOfADeviceOnTheServersClock) {
+    TestSource source({.description = "Ramp 44 follower", .rate = 44100, .ownClock = false});
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());
     ASSERT_TRUE(captured(capture, 1));
     capture.stop();
-    EXPECT_TRUE(isUnbrokenRamp(capture.samples(0), 0));
-    EXPECT_EQ(capture.unit().lostFrames(), 0u);
+    // The server's clock does not wait for a machine that is kept from running; what it cost must be counted.
+    const auto samples = capture.samples(0);
+    const auto first = std::ranges::find_if(samples, [](float value) { return value != 0; });
+    const auto played = Signal::rampFrame(samples.back(), 0) - Signal::rampFrame(*first, 0) + 1;
+    EXPECT_EQ(std::uint64_t(samples.end() - first) + capture.unit().lostFrames(), played);
 }
 
 TEST_F(InputUnitTest, DeliversEverySampleAt48000BesideFourBusyLoops) {
     const BusyLoops busy(4);
-    TestSource source({.description = "Ramp 48", .ownClock = true});
+    TestSource source({.description = "Ramp 48"});
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());
     ASSERT_TRUE(captured(capture, 5));
@@ -103,7 +85,7 @@ TEST_F(InputUnitTest, DeliversEverySampleAt48000BesideFourBusyLoops) {
 }
 
 TEST_F(InputUnitTest, CutsWhatArrivesIntoCyclesOfTheSizeThatItNamed) {
-    TestSource source({.description = "Odd cycles", .ownClock = true, .cycle = 441});
+    TestSource source({.description = "Odd cycles", .cycle = 441});
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());
     ASSERT_TRUE(captured(capture, 1));
@@ -114,7 +96,7 @@ TEST_F(InputUnitTest, CutsWhatArrivesIntoCyclesOfTheSizeThatItNamed) {
 }
 
 TEST_F(InputUnitTest, StampsEachCycleWithTheTimeOfItsCapture) {
-    TestSource source({.description = "Stamped", .ownClock = true});
+    TestSource source({.description = "Stamped"});
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());
     ASSERT_TRUE(captured(capture, 1));
@@ -142,8 +124,8 @@ TEST_F(InputUnitTest, StampsEachCycleWithTheTimeOfItsCapture) {
 }
 
 TEST_F(InputUnitTest, ShowsTheDriftBetweenTwoClocksInTheCaptureTimes) {
-    TestSource right({.name = "test.clock.right", .description = "Right clock", .ownClock = true});
-    TestSource fast({.name = "test.clock.fast", .description = "Fast clock", .ownClock = true, .clockErrorPpm = 1000});
+    TestSource right({.name = "test.clock.right", .description = "Right clock"});
+    TestSource fast({.name = "test.clock.fast", .description = "Fast clock", .clockErrorPpm = 1000});
     UnitCapture one(*hardware_, add(right));
     UnitCapture two(*hardware_, add(fast));
     ASSERT_TRUE(one.start());
@@ -163,7 +145,7 @@ TEST_F(InputUnitTest, ShowsTheDriftBetweenTwoClocksInTheCaptureTimes) {
 }
 
 TEST_F(InputUnitTest, GivesAMonoDeviceToBothChannels) {
-    TestSource source({.description = "Mono", .channels = 1, .ownClock = true});
+    TestSource source({.description = "Mono", .channels = 1});
     UnitCapture capture(*hardware_, add(source), 2);
     ASSERT_TRUE(capture.start());
     ASSERT_TRUE(captured(capture, 1));
@@ -173,7 +155,7 @@ TEST_F(InputUnitTest, GivesAMonoDeviceToBothChannels) {
 }
 
 TEST_F(InputUnitTest, DeliversAllChannelsOfADeviceWithMoreThanTwo) {
-    TestSource source({.description = "Six channels", .channels = 6, .ownClock = true});
+    TestSource source({.description = "Six channels", .channels = 6});
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());
     ASSERT_TRUE(captured(capture, 1));
@@ -183,7 +165,7 @@ TEST_F(InputUnitTest, DeliversAllChannelsOfADeviceWithMoreThanTwo) {
 }
 
 TEST_F(InputUnitTest, FillsInWhatWasLostBetweenLosingADeviceAndItsReturn) {
-    TestSource source({.name = "test.unplug", .description = "Unplugged", .ownClock = true});
+    TestSource source({.name = "test.unplug", .description = "Unplugged"});
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());
     ASSERT_TRUE(captured(capture, 0.5));
@@ -211,7 +193,7 @@ TEST_F(InputUnitTest, FillsInWhatWasLostBetweenLosingADeviceAndItsReturn) {
 }
 
 TEST_F(InputUnitTest, TurnsTheTimeWithoutADeviceIntoSilenceWhenAsked) {
-    TestSource source({.name = "test.filled", .description = "Filled", .ownClock = true});
+    TestSource source({.name = "test.filled", .description = "Filled"});
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());
     capture.unit().setFillLostFrames(true);
@@ -232,7 +214,7 @@ TEST_F(InputUnitTest, TurnsTheTimeWithoutADeviceIntoSilenceWhenAsked) {
 }
 
 TEST_F(InputUnitTest, GoesOnWhenTheServerCameBack) {
-    TestSource source({.name = "test.server", .description = "Server restarts", .ownClock = true});
+    TestSource source({.name = "test.server", .description = "Server restarts"});
     const auto device = add(source);
     UnitCapture capture(*hardware_, device);
     ASSERT_TRUE(capture.start());
@@ -260,8 +242,7 @@ TEST_F(InputUnitTest, KeepsItsRateWhenADeviceReturnsWithAnother) {
                                                                 .rate = rate,
                                                                 .channels = channels,
                                                                 .content = TestSource::Content::Tone,
-                                                                .frequency = 1000,
-                                                                .ownClock = true});
+                                                                .frequency = 1000});
     };
     auto source = make(48000, 2);
     UnitCapture capture(*hardware_, add(*source));
@@ -285,7 +266,7 @@ TEST_F(InputUnitTest, KeepsItsRateWhenADeviceReturnsWithAnother) {
 }
 
 TEST_F(InputUnitTest, FollowsItsDeviceAndNotTheOneThatTookItsPlace) {
-    TestSource source({.name = "test.mine", .description = "Mine", .ownClock = true});
+    TestSource source({.name = "test.mine", .description = "Mine"});
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());
     ASSERT_TRUE(captured(capture, 0.3));
@@ -295,7 +276,6 @@ TEST_F(InputUnitTest, FollowsItsDeviceAndNotTheOneThatTookItsPlace) {
     TestSource other({.name = "test.not.mine",
                       .description = "Not mine",
                       .content = TestSource::Content::Tone,
-                      .ownClock = true,
                       .sessionPriority = 9000});
     const auto stranger = add(other);
     // The stranger runs, so a cycle of it would have come.
@@ -306,7 +286,7 @@ TEST_F(InputUnitTest, FollowsItsDeviceAndNotTheOneThatTookItsPlace) {
 }
 
 TEST_F(InputUnitTest, RunsNoCycleWhileHeldAndLosesNothing) {
-    TestSource source({.description = "Held", .ownClock = true});
+    TestSource source({.description = "Held"});
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());
     ASSERT_TRUE(captured(capture, 0.3));
@@ -325,7 +305,7 @@ TEST_F(InputUnitTest, RunsNoCycleWhileHeldAndLosesNothing) {
 }
 
 TEST_F(InputUnitTest, CanBeHeldFromItsOwnCallback) {
-    TestSource source({.description = "Self held", .ownClock = true});
+    TestSource source({.description = "Self held"});
     UnitCapture capture(*hardware_, add(source));
     std::atomic<int> holds{0};
     capture.inCycle = [&] {
@@ -340,7 +320,7 @@ TEST_F(InputUnitTest, CanBeHeldFromItsOwnCallback) {
 }
 
 TEST_F(InputUnitTest, StopsWhileHeld) {
-    TestSource source({.description = "Stopped held", .ownClock = true});
+    TestSource source({.description = "Stopped held"});
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());
     ASSERT_TRUE(captured(capture, 0.1));
@@ -352,7 +332,7 @@ TEST_F(InputUnitTest, StopsWhileHeld) {
 }
 
 TEST_F(InputUnitTest, CanBeStartedAgain) {
-    TestSource source({.description = "Again", .ownClock = true});
+    TestSource source({.description = "Again"});
     UnitCapture capture(*hardware_, add(source));
     for (int i = 0; i < 5; ++i) {
         ASSERT_EQ(i == 0 ? int(bool(capture.start())) : int(capture.unit().start() == noErr), 1);
@@ -365,7 +345,7 @@ TEST_F(InputUnitTest, CanBeStartedAgain) {
 }
 
 TEST_F(InputUnitTest, CountsWhatARingThatNobodyEmptiesCannotHold) {
-    TestSource source({.description = "Overflow", .rate = 96000, .ownClock = true});
+    TestSource source({.description = "Overflow", .rate = 96000});
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());
     ASSERT_TRUE(captured(capture, 0.1));
@@ -414,7 +394,6 @@ TEST_F(InputUnitTest, DoesNotStartOnADeviceThatLeft) {
 TEST_F(InputUnitTest, KeepsUnityGainWhateverWasRemembered) {
     // A device at full scale arrives at full scale: nothing between it and the unit has a volume.
     TestSource source({.description = "Full scale",
-                       .ownClock = true,
                        .sample = [](std::uint64_t, std::uint32_t channel) { return channel == 0 ? 1.0f : -1.0f; }});
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());

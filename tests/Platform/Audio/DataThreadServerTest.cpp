@@ -1,0 +1,163 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Counts what the sound server's data threads of this process do that an audio thread must not: every allocation,
+// release and lock in the process passes through here, the libraries' own included. The sanitizers bring their own
+// allocator, and there these tests see to the rest only.
+
+#include "Platform/Audio/linux/PipeWireHandles.h"
+#include "tests/support/PrivateAudioSession.h"
+#include "tests/support/TestSource.h"
+#include "tests/support/UnitCapture.h"
+#include "tests/support/WaitFor.h"
+
+#include <atomic>
+#include <cstddef>
+#include <cstring>
+#include <fstream>
+#include <malloc.h>
+#include <string>
+
+#include <dlfcn.h>
+#include <pthread.h>
+
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+#define COUNTS_CALLS 1
+#else
+#define COUNTS_CALLS 0
+#endif
+
+namespace {
+
+std::atomic<bool> counting{false};
+std::atomic<std::uint64_t> allocations{0};
+std::atomic<std::uint64_t> locks{0};
+
+thread_local bool onDataThread = false;
+
+void count(std::atomic<std::uint64_t>& what) {
+    if (onDataThread && counting.load(std::memory_order_relaxed))
+        what.fetch_add(1, std::memory_order_relaxed);
+}
+
+} // namespace
+
+#if COUNTS_CALLS
+extern "C" {
+void* __libc_malloc(std::size_t size);
+void* __libc_calloc(std::size_t count, std::size_t size);
+void* __libc_realloc(void* block, std::size_t size);
+void __libc_free(void* block);
+
+void* malloc(std::size_t size) {
+    count(allocations);
+    return __libc_malloc(size);
+}
+void* calloc(std::size_t number, std::size_t size) {
+    count(allocations);
+    return __libc_calloc(number, size);
+}
+void* realloc(void* block, std::size_t size) {
+    count(allocations);
+    return __libc_realloc(block, size);
+}
+void free(void* block) {
+    count(allocations);
+    __libc_free(block);
+}
+int pthread_mutex_lock(pthread_mutex_t* mutex) {
+    using Lock = int (*)(pthread_mutex_t*);
+    static const Lock real = reinterpret_cast<Lock>(dlsym(RTLD_NEXT, "pthread_mutex_lock"));
+    count(locks);
+    return real(mutex);
+}
+// Who fetches a buffer in real time is a data thread from then on.
+pw_buffer* pw_stream_dequeue_buffer(pw_stream* stream) {
+    using Dequeue = pw_buffer* (*)(pw_stream*);
+    static const Dequeue real = reinterpret_cast<Dequeue>(dlsym(RTLD_NEXT, "pw_stream_dequeue_buffer"));
+    onDataThread = true;
+    return real(stream);
+}
+}
+#endif
+
+using namespace Platform;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class DataThread : public testing::Test {
+protected:
+    PrivateAudioSession& session_ = PrivateAudioSession::shared();
+    std::unique_ptr<AudioHardware> hardware_ = createAudioHardware();
+};
+
+} // namespace
+
+TEST_F(DataThread, AllocatesNothingAndTakesNoLockWhileItCaptures) {
+    TestSource source({.name = "test.rt", .description = "Watched"});
+    ASSERT_TRUE(source.start());
+    UnitCapture capture(*hardware_, waitForDevice(*hardware_, u"Watched"_s), 0, false);
+    ASSERT_TRUE(capture.start());
+    ASSERT_TRUE(waitFor([&] { return capture.frames() > 24000; }));
+    counting = true;
+    const auto before = capture.frames();
+    ASSERT_TRUE(waitFor([&] { return capture.frames() > before + 2 * 48000; }));
+    // A full ring must not change that.
+    capture.unit().holdCycles();
+    ASSERT_TRUE(waitFor([&] { return capture.unit().lostFrames() > 4800; }, 40000));
+    capture.unit().releaseCycles();
+    counting = false;
+    EXPECT_EQ(allocations, 0u);
+    EXPECT_EQ(locks, 0u);
+}
+
+TEST_F(DataThread, IsCountedWhenItAllocates) {
+#if COUNTS_CALLS
+    // The counter itself: a source whose sample function allocates is noticed.
+    TestSource source(
+        {.name = "test.bad", .description = "Allocating", .sample = [](std::uint64_t frame, std::uint32_t) {
+             return float(std::string(64, char('a' + frame % 2)).size()) / 128;
+         }});
+    ASSERT_TRUE(source.start());
+    UnitCapture capture(*hardware_, waitForDevice(*hardware_, u"Allocating"_s), 0, false);
+    ASSERT_TRUE(capture.start());
+    counting = true;
+    EXPECT_TRUE(waitFor([] { return allocations > 0; }));
+    counting = false;
+    allocations = 0;
+#endif
+}
+
+TEST_F(DataThread, ComesAndGoesWithItsUnitAHundredTimesWithoutGrowth) {
+    TestSource source({.name = "test.cycle", .description = "Come and go"});
+    ASSERT_TRUE(source.start());
+    const auto device = waitForDevice(*hardware_, u"Come and go"_s);
+    const auto residentKb = [] {
+        std::ifstream status("/proc/self/status");
+        for (std::string word; status >> word;)
+            if (word == "VmRSS:") {
+                long kb = 0;
+                status >> kb;
+                return kb;
+            }
+        return 0L;
+    };
+    const auto round = [&] {
+        UnitCapture capture(*hardware_, device, 0, false);
+        ASSERT_TRUE(capture.start());
+        ASSERT_TRUE(waitFor([&] { return capture.frames() > 0; }));
+    };
+    for (int i = 0; i < 20; ++i)
+        round();
+    malloc_trim(0);
+    const long before = residentKb();
+    for (int i = 0; i < 80; ++i)
+        round();
+    malloc_trim(0);
+#if COUNTS_CALLS
+    EXPECT_LT(residentKb() - before, 1500);
+#else
+    EXPECT_GT(before, 0);
+#endif
+}
