@@ -3,6 +3,7 @@
 #include "CommandLine/CommandLine.h"
 
 #include "CaptureComputerAudio/KextInstallControl.h"
+#include "CommandLine/ControlCommand.h"
 #include "CommandLine/ConvertCommand.h"
 #include "CommandLine/DevicesCommand.h"
 #include "CommandLine/DriverCommand.h"
@@ -28,6 +29,7 @@ Platform::LinuxServices* installed = nullptr; // while runCommand() runs one; te
 const std::map<QString, Command>& commands() {
     // clang-format off
     static const std::map<QString, Command> all{
+        {u"control"_s, controlCommand},
         {u"convert"_s, convertCommand},
         {u"devices"_s, devicesCommand},
         {u"driver"_s, driverCommand},

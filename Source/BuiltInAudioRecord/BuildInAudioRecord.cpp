@@ -180,29 +180,66 @@ OSStatus BuildInAudioRecord::renderCycle(std::uint32_t* actionFlags, const Audio
         return parameterError; // more than the unit promised; it would not fit
     const OSStatus status = renderUnit_->render(actionFlags, timeStamp, busNumber, frames, audioBuffer_.get());
     measureTime(*timeStamp, frames);
-    if (outputM4a_.writer && recordStatus_ == 1) {
-        if (framesAccepted_ == 0 && frames > 0)
-            firstHostTime_ = timeStamp->mHostTime;
-        if (const OSStatus written = writeCycle(outputM4a_, frames); written != noErr)
-            return written;
-        framesAccepted_ += frames;
-    }
-    if (outputWAV_.writer && recordStatus_ == 1)
-        if (const OSStatus written = writeCycle(outputWAV_, frames); written != noErr)
+    const bool recording = recordStatus_ == 1;
+    if (recording)
+        if (const OSStatus written = writeFiles(*timeStamp, frames); written != noErr)
             return written;
     const float level = levelOf(*audioBuffer_);
     if (isRecordComputerAudio_)
         clientRecievedComputerAudioData(level);
     else
         clientRecievedBuiltInAudioData(level);
+    // The delegate may have begun the recording because of this very cycle: then it is its first one.
+    if (!recording && recordStatus_ == 1)
+        if (const OSStatus written = writeFiles(*timeStamp, frames); written != noErr)
+            return written;
     return status;
 }
 
-OSStatus BuildInAudioRecord::writeCycle(Export& file, std::uint32_t frames) {
+OSStatus BuildInAudioRecord::writeFiles(const AudioTimeStamp& timeStamp, std::uint32_t frames) {
+    if (outputM4a_.writer)
+        if (const OSStatus written = writeM4a(timeStamp, frames); written != noErr)
+            return written;
+    return outputWAV_.writer ? writeCycle(outputWAV_, 0, frames) : noErr;
+}
+
+OSStatus BuildInAudioRecord::writeM4a(const AudioTimeStamp& timeStamp, std::uint32_t frames) {
+    std::uint32_t before = 0;
+    if (cut_) {
+        before = std::uint32_t(std::min<std::int64_t>(cut_->framesBefore, frames));
+        const OSStatus written = writeCycle(outputM4a_, 0, before);
+        cut_->framesBefore -= before;
+        framesAccepted_ += before;
+        if (cut_->framesBefore == 0)
+            finishCut();
+        if (written != noErr || before == frames)
+            return written;
+    }
+    if (framesAccepted_ == 0 && frames > before)
+        firstHostTime_ = timeStamp.mHostTime + std::uint64_t(before / actualOutputFormat_.mSampleRate * 1e9);
+    if (const OSStatus written = writeCycle(outputM4a_, before, frames - before); written != noErr)
+        return written;
+    framesAccepted_ += frames - before;
+    return noErr;
+}
+
+/// Hands a part of the cycle to a file.
+OSStatus BuildInAudioRecord::writeCycle(Export& file, std::uint32_t first, std::uint32_t frames) {
     // A file that was begun on another device expects other buffers.
     if (file.clientFormat != actualOutputFormat_)
         return parameterError;
-    return file.writer->writeAsync(frames, audioBuffer_.get());
+    AudioBufferList& list = *audioBuffer_;
+    const auto move = [&list](std::ptrdiff_t samples) {
+        for (std::uint32_t i = 0; i < list.mNumberBuffers; ++i) {
+            AudioBuffer& buffer = list.mBuffers[i];
+            buffer.mData = static_cast<float*>(buffer.mData) + samples;
+            buffer.mDataByteSize -= std::uint32_t(samples * 4);
+        }
+    };
+    move(first);
+    const OSStatus written = file.writer->writeAsync(frames, audioBuffer_.get());
+    move(-std::ptrdiff_t(first));
+    return written;
 }
 
 void BuildInAudioRecord::measureTime(const AudioTimeStamp& timeStamp, std::uint32_t frames) {
@@ -250,39 +287,43 @@ AudioStreamBasicDescription BuildInAudioRecord::exportDescription(int type) cons
     return format;
 }
 
-std::unique_ptr<ExtAudioFileWriter> BuildInAudioRecord::setOutAudioPath(const QString& path, int forType) {
-    return makeWriter(path, forType, nullptr);
-}
-
-std::unique_ptr<ExtAudioFileWriter> BuildInAudioRecord::makeWriter(const QString& path, int forType,
-                                                                   ExtAudioFileWriter* predecessor) {
+/// The writer, not yet made ready for frames: until then it may continue another one.
+std::unique_ptr<ExtAudioFileWriter> BuildInAudioRecord::createWriter(const QString& path, int forType) {
     const std::uint32_t fileType = forType == 1 ? kAudioFileM4AType : forType == 0 ? kAudioFileWAVEType : 0;
     Platform::MediaError error;
     auto writer = Platform::services().mediaFiles->createWriter(path, fileType, exportDescription(forType),
                                                                 kAudioFileFlags_EraseFile, error);
-    OSStatus status = writer ? writer->setClientDataFormat(actualOutputFormat_) : -1;
-    if (status == noErr) {
-        if (deviceFormat_.mChannelsPerFrame == 1 && actualOutputFormat_.mChannelsPerFrame == 2 &&
-            writer->hasAudioConverter()) {
-            constexpr std::array<std::int32_t, 2> bothFromTheFirst{0, 0};
-            (void)writer->setConverterChannelMap(bothFromTheFirst);
-        }
-        if (predecessor)
-            status = writer->continueFrom(*predecessor);
-        if (status == noErr)
-            status = writer->writeAsync(0, nullptr);
+    if (!writer || writer->setClientDataFormat(actualOutputFormat_) != noErr) {
+        (void)noteFailure(writer ? writer->firstError() : error, path);
+        return nullptr;
     }
-    if (status == noErr)
-        return writer;
-    if (writer && !error)
-        error = writer->firstError();
+    if (deviceFormat_.mChannelsPerFrame == 1 && actualOutputFormat_.mChannelsPerFrame == 2 &&
+        writer->hasAudioConverter()) {
+        constexpr std::array<std::int32_t, 2> bothFromTheFirst{0, 0};
+        (void)writer->setConverterChannelMap(bothFromTheFirst);
+    }
+    return writer;
+}
+
+bool BuildInAudioRecord::noteFailure(const Platform::MediaError& error, const QString& path) {
     const std::lock_guard lock(mutex_);
     lastError_ = error ? error.text : QStringLiteral("%1 cannot be written").arg(path);
-    return nullptr;
+    return false;
+}
+
+std::unique_ptr<ExtAudioFileWriter> BuildInAudioRecord::setOutAudioPath(const QString& path, int forType) {
+    auto writer = createWriter(path, forType);
+    if (writer && writer->writeAsync(0, nullptr) != noErr) {
+        (void)noteFailure(writer->firstError(), path);
+        return nullptr;
+    }
+    return writer;
 }
 
 std::unique_ptr<ExtAudioFileWriter> BuildInAudioRecord::takeWriter(Export& file) {
     const CyclesHeld held(audioUnit_.get());
+    if (&file == &outputM4a_)
+        finishCut();
     const std::lock_guard lock(mutex_);
     return std::move(file.writer);
 }
@@ -326,30 +367,59 @@ bool BuildInAudioRecord::setOutPutAudioPath(const QString& path, int forType) {
     return true;
 }
 
-bool BuildInAudioRecord::exchangeM4aFile(const QString& path, std::function<void(QString, OSStatus)> closed) {
+bool BuildInAudioRecord::exchangeM4aFile(const QString& path, std::function<void(QString, OSStatus)> closed,
+                                         std::int64_t framesBefore) {
     const CyclesHeld held(audioUnit_.get());
+    finishCut();
     if (!outputM4a_.writer)
         return setOutPutAudioPath(path, 1);
-    auto writer = makeWriter(path, 1, outputM4a_.writer.get());
+    auto writer = createWriter(path, 1);
     if (!writer)
         return false;
-    std::unique_ptr<ExtAudioFileWriter> old;
-    QString oldPath;
     {
         const std::lock_guard lock(mutex_);
-        old = std::exchange(outputM4a_.writer, std::move(writer));
-        oldPath = std::exchange(outputM4a_.path, path);
+        cut_ = Cut{std::move(writer), std::move(closed), std::exchange(outputM4a_.path, path),
+                   std::max<std::int64_t>(0, framesBefore)};
         outPutFilePath_ = path;
-        outputM4a_.clientFormat = actualOutputFormat_;
-        framesAccepted_ = 0;
-        firstHostTime_ = 0;
     }
-    old->disposeLater([oldPath, closed = std::move(closed)](OSStatus status) {
+    framesAccepted_ = -cut_->framesBefore;
+    firstHostTime_ = 0;
+    if (cut_->framesBefore == 0)
+        finishCut();
+    return true;
+}
+
+/// Exchanges the writers of a cut, now that the old file has its last frame. On the I/O thread or with cycles held.
+void BuildInAudioRecord::finishCut() {
+    if (!cut_)
+        return;
+    // A writer that cannot continue the other begins anew: the resampler's phase is lost, no frame is.
+    if (outputM4a_.writer)
+        (void)cut_->writer->continueFrom(*outputM4a_.writer);
+    (void)cut_->writer->writeAsync(0, nullptr);
+    std::unique_ptr<ExtAudioFileWriter> old;
+    Cut cut;
+    {
+        const std::lock_guard lock(mutex_);
+        cut = std::move(*cut_);
+        cut_.reset();
+        old = std::exchange(outputM4a_.writer, std::move(cut.writer));
+        outputM4a_.clientFormat = actualOutputFormat_;
+    }
+    framesAccepted_ = 0;
+    if (!old)
+        return;
+    old->disposeLater([oldPath = cut.oldPath, closed = std::move(cut.closed)](OSStatus status) {
         Platform::MainQueue::post([oldPath] { noteFileSystemChanged(oldPath); });
         if (closed)
             closed(oldPath, status);
     });
-    return true;
+}
+
+std::uint64_t BuildInAudioRecord::nextHostTime() const {
+    if (previousHostTime_ == 0)
+        return 0;
+    return previousHostTime_ + std::uint64_t(previousFrames_ / actualOutputFormat_.mSampleRate * 1e9);
 }
 
 bool BuildInAudioRecord::startRecordAudio() {
@@ -483,7 +553,7 @@ std::uint64_t BuildInAudioRecord::lostFrames() const {
 }
 
 std::int64_t BuildInAudioRecord::framesAccepted() const {
-    return framesAccepted_;
+    return std::max<std::int64_t>(0, framesAccepted_);
 }
 
 double BuildInAudioRecord::sampleRate() const {

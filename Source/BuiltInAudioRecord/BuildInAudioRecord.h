@@ -11,6 +11,7 @@
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <optional>
 
 #include <QVariantList>
 
@@ -102,9 +103,14 @@ public:
     [[nodiscard]] virtual Platform::MediaError writeError() const;
     /// Exchanges the M4A writer for a new one at @p path in the midst of a recording: no frame is lost or repeated
     /// between the two files. Returns at once; the old file is closed on its own thread, then @p closed is called there
-    /// with the old path and its status. Allowed on the engine's I/O thread; cycles of other engines must be held by
-    /// the caller. False when the new file could not be made: then recording goes on into the old one.
-    virtual bool exchangeM4aFile(const QString& path, std::function<void(QString oldPath, OSStatus)> closed);
+    /// with the old path and its status. @p framesBefore of the frames that come next still belong to the old file, so
+    /// that two devices can be cut at one time; framesAccepted() is 0 until they have come. Allowed on the engine's I/O
+    /// thread; cycles of other engines must be held by the caller. False when the new file could not be made: then
+    /// recording goes on into the old one.
+    virtual bool exchangeM4aFile(const QString& path, std::function<void(QString oldPath, OSStatus)> closed,
+                                 std::int64_t framesBefore = 0);
+    /// Capture time at which the next cycle begins, 0 when none has come yet. While cycles are held.
+    [[nodiscard]] virtual std::uint64_t nextHostTime() const;
     /// stopRecordAudio() that does not wait for the M4A file: its own thread closes it, then calls @p closed there with
     /// the path and the first error of the file's life. When there was nothing to close, @p closed is not called and
     /// the answer is false.
@@ -129,12 +135,15 @@ private:
     OSStatus renderCycle(std::uint32_t* actionFlags, const AudioTimeStamp* timeStamp, std::uint32_t busNumber,
                          std::uint32_t frames);
     void measureTime(const AudioTimeStamp& timeStamp, std::uint32_t frames);
-    OSStatus writeCycle(Export& file, std::uint32_t frames);
+    OSStatus writeFiles(const AudioTimeStamp& timeStamp, std::uint32_t frames);
+    OSStatus writeM4a(const AudioTimeStamp& timeStamp, std::uint32_t frames);
+    OSStatus writeCycle(Export& file, std::uint32_t first, std::uint32_t frames);
+    [[nodiscard]] std::unique_ptr<Platform::ExtAudioFileWriter> createWriter(const QString& path, int forType);
+    [[nodiscard]] bool noteFailure(const Platform::MediaError& error, const QString& path);
+    void finishCut();
     void clientRecievedBuiltInAudioData(float level);
     void clientRecievedComputerAudioData(float level);
     bool openExport(Export& file, const QString& path, int type);
-    [[nodiscard]] std::unique_ptr<Platform::ExtAudioFileWriter> makeWriter(const QString& path, int forType,
-                                                                           Platform::ExtAudioFileWriter* predecessor);
     [[nodiscard]] std::unique_ptr<Platform::ExtAudioFileWriter> takeWriter(Export& file);
     void noteClosed(const Platform::ExtAudioFileWriter& writer);
     void closeUnit();
@@ -156,6 +165,14 @@ private:
     /// What the callback renders with: still valid while audioUnit_, already null, waits for its last cycle to end.
     Platform::InputUnit* renderUnit_ = nullptr;
     Export outputM4a_;
+    /// A cut that waits for the last frames of the old file. Changed like a writer.
+    struct Cut {
+        std::unique_ptr<Platform::ExtAudioFileWriter> writer;
+        std::function<void(QString, OSStatus)> closed;
+        QString oldPath;
+        std::int64_t framesBefore = 0;
+    };
+    std::optional<Cut> cut_;
     Export outputWAV_;
     QString outPutFilePath_;
     AudioStreamBasicDescription actualOutputFormat_;
@@ -169,8 +186,8 @@ private:
     QString lastError_;
     Platform::MediaError writeError_;
     Platform::InputUnit::EventHandler eventHandler_;
-    std::atomic<std::int64_t> framesAccepted_{0};
-    std::int64_t lostBefore_ = 0; // what a unit's own count is off by, against that of the recording
+    std::atomic<std::int64_t> framesAccepted_{0}; // below 0 while a cut waits
+    std::int64_t lostBefore_ = 0;                 // what a unit's own count is off by, against that of the recording
 
     // The device's clock against the steady one; written in the callback.
     std::atomic<std::uint64_t> firstHostTime_{0};

@@ -10,6 +10,8 @@
 #include <QEventLoop>
 #include <QFileInfo>
 
+#include <cmath>
+
 using namespace Qt::StringLiterals;
 using Platform::FileManager::removeFile;
 
@@ -18,9 +20,13 @@ namespace {
 /// Numbers the raw files; never begins anew in a process. Changed under a controller's mutex.
 std::atomic<int> recordNum{0};
 
-double secondsOf(const BuildInAudioRecord& engine) {
-    const double rate = engine.sampleRate();
-    return rate > 0 ? double(engine.framesAccepted()) / rate : 0;
+/// Nanoseconds that one of two devices may be behind the other at a cut.
+constexpr std::uint64_t FurthestBehind = 250'000'000;
+
+/// Seconds of the source's file at hand.
+double secondsOf(const RecordSource& source) {
+    const double rate = source.engine->sampleRate();
+    return rate > 0 ? double(source.engine->framesAccepted() + source.framesBefore) / rate : 0;
 }
 
 bool writes(const RecordSource& source) {
@@ -30,10 +36,10 @@ bool writes(const RecordSource& source) {
 /// Seconds in the files at hand: of the shorter one when both sources write.
 double secondsAtHand(const RecordSource& builtIn, const RecordSource& computer) {
     if (writes(builtIn) && writes(computer))
-        return std::min(secondsOf(*builtIn.engine), secondsOf(*computer.engine));
+        return std::min(secondsOf(builtIn), secondsOf(computer));
     if (writes(builtIn))
-        return secondsOf(*builtIn.engine);
-    return writes(computer) ? secondsOf(*computer.engine) : 0;
+        return secondsOf(builtIn);
+    return writes(computer) ? secondsOf(computer) : 0;
 }
 
 } // namespace
@@ -68,13 +74,29 @@ void RecordStateController::splitTheRecord() {
 }
 
 double RecordStateController::recordedSeconds() const {
-    const std::scoped_lock lock(d->mutex);
+    const std::scoped_lock lock(d->mutex); // not in the midst of a cut
     return d->closedSeconds_ + secondsAtHand(d->builtIn, d->computer);
 }
 
 std::uint64_t RecordStateController::lostFrames() const {
     const std::scoped_lock lock(d->mutex);
-    return d->lostBefore_ + d->engineLosses();
+    return d->lostBefore_.frames + d->engineLosses().frames;
+}
+
+void RecordStateController::setRecordLimit(double seconds) {
+    d->limit_ = seconds;
+}
+
+bool RecordStateController::hasFile() const {
+    return d->builtIn.hasFile || d->computer.hasFile;
+}
+
+QString RecordStateController::writeProblem() const {
+    for (const RecordSource* source : {&d->builtIn, &d->computer})
+        if (writes(*source))
+            if (const auto error = source->engine->writeError())
+                return error.text;
+    return {};
 }
 
 QString RecordStateController::getAudioRecordPath() {
@@ -101,6 +123,7 @@ void RecordStateController::finishAll() {
         d->stopShown_ = false;
         d->isRecordingFlushTheFace(false);
     }
+    d->showLosses();
     QEventLoop loop;
     connect(d->queue.get(), &RecordQueue::queueChanged, &loop, [this, &loop] {
         if (d->queue->count() == 0)
@@ -112,6 +135,7 @@ void RecordStateController::finishAll() {
 
 void RecordStateController::clientRecievedBuiltInAudioData(float level) {
     d->builtInLevelValue_ = level;
+    d->keepToLimit(d->builtIn);
 }
 
 void RecordStateController::clientRecievedComputerAudioData(float level) {
@@ -131,6 +155,14 @@ void RecordStateController::clientRecievedComputerAudioData(float level) {
         d->changed();
     if (wantsCut)
         d->cut(true);
+    d->keepToLimit(d->computer);
+}
+
+/// No frame is written after the limit, however late the main thread comes to stop.
+void RecordStateController::Private::keepToLimit(RecordSource& source) {
+    const double limit = limit_;
+    if (limit > 0 && writes(source) && closedSeconds_ + secondsOf(source) >= limit)
+        source.engine->pauseRecordAudio();
 }
 
 void RecordStateController::Private::isRecordingFlushTheFace(bool recording) {
@@ -180,8 +212,9 @@ void RecordStateController::Private::startRecord() {
     splitter.clear();
     fRecordTime_ = 0;
     closedSeconds_ = 0;
-    lostBefore_ = 0;
+    lostBefore_ = {};
     lostShown_ = 0;
+    writeProblemShown_ = false;
     audioRecordPath_ = reserveName();
     builtIn.off = false;
     computer.off = false;
@@ -222,12 +255,17 @@ bool RecordStateController::Private::anyEngineRecords() const {
     return builtIn.engine->recordStatus() != 0 || computer.engine->recordStatus() != 0;
 }
 
-std::uint64_t RecordStateController::Private::engineLosses() const {
-    std::uint64_t lost = 0;
-    for (const RecordSource* source : {&builtIn, &computer})
-        if (source->engine->recordStatus() != 0)
-            lost += source->engine->lostFrames();
-    return lost;
+RecordLosses RecordStateController::Private::engineLosses() const {
+    RecordLosses losses;
+    for (const RecordSource* source : {&builtIn, &computer}) {
+        const double rate = source->engine->sampleRate();
+        if (source->engine->recordStatus() == 0 || rate <= 0)
+            continue;
+        const std::uint64_t lost = source->engine->lostFrames();
+        losses.frames += lost;
+        losses.seconds += double(lost) / rate;
+    }
+    return losses;
 }
 
 /// The files at hand as a job, and which of them the filter finds too short.
@@ -245,9 +283,12 @@ RecordStateController::Private::Ending RecordStateController::Private::describeE
         ending.job->paths.insert(ExportJob::OutPutWAVTempPath, raw + u"temp"_s);
         (source == &builtIn ? ending.job->builtInSpan : ending.job->computerSpan) = engine.captureSpan();
         (source == &builtIn ? ending.job->sampleRateBuiltIn : ending.job->sampleRateComputer) = engine.sampleRate();
-        if (filter.drops(static_cast<float>(secondsOf(engine))))
+        ending.job->brokenOff |= bool(engine.writeError());
+        if (filter.drops(static_cast<float>(secondsOf(*source))))
             (source == &builtIn ? ending.builtInTooShort : ending.computerTooShort) = true;
     }
+    if (ending.job->brokenOff)
+        ending.builtInTooShort = ending.computerTooShort = false;
     return ending;
 }
 
@@ -268,8 +309,10 @@ void RecordStateController::Private::stopRecord() {
     std::unique_lock lock(mutex);
     splitter.clear();
     const Ending ending = describeEnding();
-    closedSeconds_ += secondsAtHand(builtIn, computer);
-    lostBefore_ += engineLosses();
+    closedSeconds_ = closedSeconds_ + secondsAtHand(builtIn, computer);
+    const RecordLosses losses = engineLosses();
+    lostBefore_.frames += losses.frames;
+    lostBefore_.seconds += losses.seconds;
     for (RecordSource* source : {&builtIn, &computer}) {
         const bool tooShort = source == &builtIn ? ending.builtInTooShort : ending.computerTooShort;
         if (!writes(*source))
@@ -325,9 +368,13 @@ void RecordStateController::Private::cut(bool automatic) {
         setPaused(false);
         return;
     }
+    alignCut();
     const double seconds = secondsAtHand(builtIn, computer);
     Ending ending = describeEnding();
-    if (!exchangeFiles(ending)) {
+    const bool exchanged = exchangeFiles(ending);
+    builtIn.framesBefore = 0;
+    computer.framesBefore = 0;
+    if (!exchanged) {
         // Without this a silence would try again with every cycle.
         if (automatic) {
             splitter.clear();
@@ -336,7 +383,7 @@ void RecordStateController::Private::cut(bool automatic) {
         return;
     }
     ++recordNum;
-    closedSeconds_ += seconds;
+    closedSeconds_ = closedSeconds_ + seconds;
     fRecordTime_ = 0;
     splitter.clear();
     // The new part is already being written; the next sound makes its silences count again.
@@ -350,6 +397,23 @@ void RecordStateController::Private::cut(bool automatic) {
     endFiles(ending, lock);
 }
 
+/// Cycles of two devices do not end together: the one that is behind still has some frames to give to the old files.
+void RecordStateController::Private::alignCut() {
+    builtIn.framesBefore = 0;
+    computer.framesBefore = 0;
+    if (!writes(builtIn) || !writes(computer))
+        return;
+    const std::uint64_t builtInNext = builtIn.engine->nextHostTime();
+    const std::uint64_t computerNext = computer.engine->nextHostTime();
+    const std::uint64_t cutTime = std::max(builtInNext, computerNext);
+    for (RecordSource* source : {&builtIn, &computer}) {
+        const std::uint64_t behind = cutTime - source->engine->nextHostTime();
+        // A device that is further behind stands still, and what it will give is not of this time.
+        if (builtInNext != 0 && computerNext != 0 && behind < FurthestBehind && source->engine->recordStatus() == 1)
+            source->framesBefore = std::llround(double(behind) * 1e-9 * source->engine->sampleRate());
+    }
+}
+
 /// Gives every writing engine its next raw file. A source that cannot have one goes on in its old file, which then
 /// belongs to the next job; when that is so for the first one, nothing is cut at all.
 bool RecordStateController::Private::exchangeFiles(Ending& ending) {
@@ -360,7 +424,7 @@ bool RecordStateController::Private::exchangeFiles(Ending& ending) {
         const bool tooShort = source == &builtIn ? ending.builtInTooShort : ending.computerTooShort;
         const QString path = rawPath(*source);
         (void)removeFile(path);
-        if (source->engine->exchangeM4aFile(path, whenClosed(ending.job, tooShort))) {
+        if (source->engine->exchangeM4aFile(path, whenClosed(ending.job, tooShort), source->framesBefore)) {
             exchanged = true;
             continue;
         }

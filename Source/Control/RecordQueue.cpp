@@ -155,7 +155,7 @@ void RecordQueue::converterTherecordAudio() {
 void RecordQueue::moveRawFile(const std::shared_ptr<ExportJob>& job, const QString& rawPath) {
     if (!deliver(job, rawPath))
         return;
-    onMain([this, job] { finishConverter(job->path(ExportJob::OutPutPath)); });
+    onMain([this, job] { finishConverter(*job); });
 }
 
 /// Moves the finished file to its final name, or to the next free one when another file has come to stand there.
@@ -284,7 +284,7 @@ void RecordQueue::converterAudio(const std::shared_ptr<ExportJob>& job) {
     if (const auto problem = Platform::FileManager::removeFile(wave); !problem.isEmpty())
         qWarning("%s stays in the temporary folder: %s", qUtf8Printable(wave), qUtf8Printable(problem));
     if (deliver(job, encoded))
-        onMain([this, job] { finishConverter(job->path(ExportJob::OutPutPath)); });
+        onMain([this, job] { finishConverter(*job); });
 }
 
 void RecordQueue::setAside(const std::shared_ptr<ExportJob>& job, const QStringList& files, const QString& why) {
@@ -313,10 +313,11 @@ void RecordQueue::setAside(const std::shared_ptr<ExportJob>& job, const QStringL
     });
 }
 
-void RecordQueue::finishConverter(const QString& finalPath) {
+void RecordQueue::finishConverter(const ExportJob& job) {
+    const QString finalPath = job.path(ExportJob::OutPutPath);
     const float length = ToolControl::getAudioLength(finalPath);
     Dictionary tags;
-    if (!owner_.filter().drops(length)) {
+    if (job.brokenOff || !owner_.filter().drops(length)) {
         tags = initID3BasicInfoDic();
         tags.insert(AudioRecordEntry::Length, double(length));
         tags.insert(AudioRecordEntry::Title, QFileInfo(finalPath).completeBaseName());

@@ -28,6 +28,7 @@ struct ExportJob {
     BuildInAudioRecord::CaptureSpan computerSpan;
     double sampleRateBuiltIn = 0;
     double sampleRateComputer = 0;
+    bool brokenOff = false;        ///< a full disk ended it: however short, it is no recording that the user made short
     std::atomic<int> openFiles{0}; ///< raw files that are still being closed; the job starts when there are none
 
     [[nodiscard]] QString path(const QString& key) const { return paths.value(key).toString(); }
@@ -99,7 +100,7 @@ private:
     void converterAudio(const std::shared_ptr<ExportJob>& job);
     bool deliver(const std::shared_ptr<ExportJob>& job, const QString& file);
     void setAside(const std::shared_ptr<ExportJob>& job, const QStringList& files, const QString& why);
-    void finishConverter(const QString& finalPath);
+    void finishConverter(const ExportJob& job);
     void endJob(const QString& reservedPath);
     void setProgress(double share);
 

@@ -169,3 +169,10 @@ QStringList RecordSources::deviceNames() const {
         names.append(nameOf(device));
     return names;
 }
+
+int RecordSources::indexOfDevice(AudioObjectID device) const {
+    for (qsizetype i = 0; i < aryInputAudioDevice_.size(); ++i)
+        if (idOf(aryInputAudioDevice_.at(i)) == device)
+            return int(i);
+    return -1;
+}

@@ -34,6 +34,8 @@ public:
 
     [[nodiscard]] QStringList deviceNames() const;
     [[nodiscard]] int selectedDevice() const { return selected_; }
+    /// -1 when the device is not in the list.
+    [[nodiscard]] int indexOfDevice(AudioObjectID device) const;
     [[nodiscard]] AudioObjectID computerAudioDeviceID() const { return computerAudioDeviceID_; }
 
 Q_SIGNALS:

@@ -10,6 +10,7 @@
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
 
+#include <QLoggingCategory>
 #include <QThread>
 
 using namespace Qt::StringLiterals;
@@ -20,16 +21,22 @@ namespace {
 /// More would only push the newest out of sight.
 constexpr qsizetype MostNotices = 20;
 
+Q_LOGGING_CATEGORY(recordLog, "sonaphex.record")
+
 } // namespace
 
 void RecordStateControllerDelegate::addRecordFile(const QString& path, const Dictionary& tags) {
     Dictionary entry = tags;
+    makeIdentity(entry, path);
+    MediaLibrary::shareLibrary().addRecordFile(entry);
+}
+
+void RecordStateControllerDelegate::makeIdentity(Dictionary& entry, const QString& path) {
     if (!entry.contains(AudioRecordEntry::NodeDataKey)) {
         const double now = Platform::services().clock->timeIntervalSinceReferenceDate();
         entry.insert(AudioRecordEntry::NodeDataKey, path + u'_' + QString::number(now, 'f', 6));
     }
     entry.insert(AudioRecordEntry::SavePath, path);
-    MediaLibrary::shareLibrary().addRecordFile(entry);
 }
 
 RecordStateController::RecordStateController(EngineFactory factory, QObject* parent)
@@ -280,6 +287,14 @@ int RecordStateController::selectedDevice() const {
     return d->devices ? d->devices->selectedDevice() : -1;
 }
 
+int RecordStateController::indexOfDevice(AudioObjectID device) const {
+    return d->devices ? d->devices->indexOfDevice(device) : -1;
+}
+
+bool RecordStateController::hasComputerAudioDevice() const {
+    return d->devices && d->devices->computerAudioDeviceID() != 0;
+}
+
 bool RecordStateController::isWaittingForSound() const {
     const std::scoped_lock lock(d->mutex);
     return d->splitter.isWaitting() && d->computer.engine->recordStatus() == 0;
@@ -317,7 +332,7 @@ void RecordStateController::recordFlushTime() {
     if (state == 1)
         d->fRecordTime_.fetch_add(0.5F);
     if (state == 2)
-        qInfo("Pause Rcd   %f", double(d->fRecordTime_));
+        qCInfo(recordLog, "Pause Rcd   %f", double(d->fRecordTime_));
     const bool blinkOn = isShowWaveRecordFullTime();
     const RecordDisplay display = RecordDisplay::of(state, d->fRecordTime_, blinkOn);
     const QString tip = RecordDisplay::convertingTip(blinkOn);
@@ -351,7 +366,7 @@ void RecordStateController::Private::notice(const QString& text) {
     Platform::MainQueue::post([this, guard = std::weak_ptr<int>(alive), text] {
         if (guard.expired())
             return;
-        qWarning("%s", qUtf8Printable(text));
+        qCWarning(recordLog, "%s", qUtf8Printable(text));
         if (!notices_.isEmpty() && notices_.last() == text)
             return;
         notices_.append(text);
@@ -383,10 +398,20 @@ void RecordStateController::Private::deviceEvent(Platform::InputUnit::Event even
 }
 
 void RecordStateController::Private::showLosses() {
-    const std::uint64_t lost = q->lostFrames();
-    if (lost == lostShown_)
-        return;
-    lostShown_ = lost;
-    if (lost > 0)
-        notice(u"%1 frames were lost in this recording: the machine did not keep up."_s.arg(lost));
+    RecordLosses lost;
+    {
+        const std::scoped_lock lock(mutex);
+        lost = engineLosses();
+        lost.frames += lostBefore_.frames;
+        lost.seconds += lostBefore_.seconds;
+    }
+    if (lost.frames != lostShown_ && lost.frames > 0)
+        notice(u"%1 frames (%2 s) were lost before they could be written"_s.arg(QString::number(lost.frames),
+                                                                                QString::number(lost.seconds, 'f', 3)));
+    lostShown_ = lost.frames;
+
+    const QString problem = q->writeProblem();
+    if (!problem.isEmpty() && !writeProblemShown_)
+        notice(u"The recording cannot be written any more: %1. What was written is kept."_s.arg(problem));
+    writeProblemShown_ = !problem.isEmpty();
 }

@@ -22,6 +22,8 @@ public:
     virtual void updateRecordStateAction() {}
     /// The default makes the entry (identity, path) and puts it into the shared library.
     virtual void addRecordFile(const QString& path, const Dictionary& tags);
+    /// Gives an entry its path, and its identity when it has none.
+    static void makeIdentity(Dictionary& entry, const QString& path);
     /// The user accepted the add-on prompt.
     virtual void insertTheSystemAudioRecordDevice() {}
     /// The user closed the window while nothing records.
@@ -123,6 +125,17 @@ public:
     [[nodiscard]] double jobProgress() const;
     /// Seconds of frames written since the start, over all files of splits; with two sources, of the shorter one.
     [[nodiscard]] double recordedSeconds() const;
+    /// Ends the writing of each source with the cycle in which it reaches this many seconds since the start, over all
+    /// files of splits: never fewer, and no cycle more. 0 is no limit. Before a start; holds until it is changed.
+    void setRecordLimit(double seconds);
+    /// Whether a recording has a file to write to, be it that it still waits for its first sound.
+    [[nodiscard]] bool hasFile() const;
+    /// Why the files at hand cannot be written any more; empty while they can.
+    [[nodiscard]] QString writeProblem() const;
+    /// The place of a device in the list, -1 when it is not there.
+    [[nodiscard]] int indexOfDevice(AudioObjectID device) const;
+    /// Whether the computer-audio device is there.
+    [[nodiscard]] bool hasComputerAudioDevice() const;
     /// Recordings that the filter has thrown away in this process.
     [[nodiscard]] int droppedRecordings() const;
     /// Frames lost in the recording at hand (or the last one), both sources, over all files of splits.

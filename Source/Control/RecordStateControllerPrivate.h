@@ -22,6 +22,7 @@ struct RecordSource {
     std::atomic<bool> checked{false}; ///< the check box
     std::atomic<bool> off{false};     ///< its engine did not start: this recording goes without it
     std::atomic<bool> hasFile{false}; ///< the engine writes to a raw file
+    std::int64_t framesBefore = 0;    ///< frames to come that still belong to the file of before a cut
 
     [[nodiscard]] bool takesPart() const { return checked && !off; }
 };
@@ -44,6 +45,12 @@ public:
 private:
     BuildInAudioRecord& one_;
     BuildInAudioRecord& other_;
+};
+
+/// What a recording lacks.
+struct RecordLosses {
+    std::uint64_t frames = 0;
+    double seconds = 0;
 };
 
 struct RecordStateController::Private {
@@ -70,12 +77,14 @@ struct RecordStateController::Private {
     std::atomic<bool> resumeTip_{false}; ///< the pause button's tool tip offers to resume
     std::atomic<bool> active_{false};    ///< the pause button's enabled state
     std::atomic<int> dropped_{0};
+    std::atomic<double> closedSeconds_{0}; ///< of the files that splits have closed
+    std::atomic<double> limit_{0};         ///< seconds of a recording, 0 without end
 
     std::mutex mutex; ///< guards the next four; never held while an I/O thread is waited for
     SilenceSplitter splitter;
+    RecordLosses lostBefore_; ///< of the recording that ended last
     QString audioRecordPath_;
     RecordingNames names;
-    double closedSeconds_ = 0; ///< of the files that splits have closed
 
     // Main thread only.
     bool startEnabled_ = false;
@@ -85,7 +94,7 @@ struct RecordStateController::Private {
     QString convertTip_;
     QStringList notices_;
     std::uint64_t lostShown_ = 0;
-    std::uint64_t lostBefore_ = 0; ///< of the recording that ended last
+    bool writeProblemShown_ = false;
 
     void onMain(std::function<void()> work);
     void changed();
@@ -102,7 +111,8 @@ struct RecordStateController::Private {
     void setPaused(bool paused);
     void cut(bool automatic);
     [[nodiscard]] bool anyEngineRecords() const;
-    [[nodiscard]] std::uint64_t engineLosses() const;
+    [[nodiscard]] RecordLosses engineLosses() const;
+    void keepToLimit(RecordSource& source);
 
     /// What a stop or a cut leaves behind.
     struct Ending {
@@ -118,6 +128,7 @@ struct RecordStateController::Private {
     void beginFile(RecordSource& source, bool record);
     [[nodiscard]] Ending describeEnding();
     [[nodiscard]] std::function<void(QString, OSStatus)> whenClosed(const std::shared_ptr<ExportJob>& job, bool remove);
+    void alignCut();
     bool exchangeFiles(Ending& ending);
     void armAnew();
     void endFiles(const Ending& ending, std::unique_lock<std::mutex>& lock);

@@ -5,8 +5,14 @@
 #include <QFile>
 
 #include <atomic>
+#include <sys/stat.h>
 
 namespace {
+
+std::uint64_t inodeOf(const QString& path) {
+    struct stat status {};
+    return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_ino : 0;
+}
 
 class FakeWriter final : public Platform::ExtAudioFileWriter {
 public:
@@ -77,6 +83,7 @@ std::unique_ptr<Platform::ExtAudioFileWriter> FakeMediaFiles::createWriter(const
     }
     auto file = std::make_shared<File>();
     file->path = path;
+    file->inode = inodeOf(path);
     file->type = fileType;
     file->format = format;
     file->flags = flags;
@@ -97,11 +104,12 @@ std::unique_ptr<Platform::ExtAudioFileReader> FakeMediaFiles::openReader(const Q
 
 bool FakeMediaFiles::info(const QString& path, Platform::AudioFileInfo& info, Platform::MediaError& error) {
     if (knowsItsFiles)
-        for (const auto& file : files)
-            if (file->path == path) {
-                info.dataFormat = file->format;
-                info.frameCount = file->framesAccepted;
-                info.seconds = double(file->framesAccepted) / file->clientFormat.mSampleRate;
+        // The newest first: a file that is gone has left its number to a later one.
+        for (auto file = files.rbegin(); file != files.rend(); ++file)
+            if ((*file)->inode == inodeOf(path)) {
+                info.dataFormat = (*file)->format;
+                info.frameCount = (*file)->framesAccepted;
+                info.seconds = double((*file)->framesAccepted) / (*file)->clientFormat.mSampleRate;
                 return true;
             }
     const auto known = infos.constFind(path);

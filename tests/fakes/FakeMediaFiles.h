@@ -16,6 +16,7 @@ public:
     /// One file that was created, for as long as the test looks at it.
     struct File {
         QString path;
+        std::uint64_t inode = 0; ///< of the real file, which keeps it when it is moved
         std::uint32_t type = 0;
         std::uint32_t flags = 0;
         AudioStreamBasicDescription format;
@@ -44,7 +45,7 @@ public:
     bool hasConverter = true;
     /// Oldest first.
     std::vector<std::shared_ptr<File>> files;
-    /// Whether info() also knows the files that were created, by their frames.
+    /// Whether info() also knows the files that were created, by their frames, wherever they were moved to.
     bool knowsItsFiles = false;
     /// What info() answers of a path; other paths are unknown.
     QMap<QString, Platform::AudioFileInfo> infos;

@@ -442,6 +442,61 @@ TEST_F(BuildInAudioRecordTest, MayExchangeItsFileInsideACycle) {
     EXPECT_EQ(media.files[1]->framesAccepted, 3);
 }
 
+TEST_F(BuildInAudioRecordTest, CutsInsideACycleToComeAtTheFrameAskedFor) {
+    prepare();
+    engine.startRecordAudio();
+    unit().feed({{1, 2}, {1, 2}}, 1'000'000'000);
+    QString closedPath;
+    EXPECT_TRUE(engine.exchangeM4aFile(
+        path("next.m4a"), [&](const QString& old, OSStatus) { closedPath = old; }, 4));
+    EXPECT_EQ(engine.outPutFilePath(), path("next.m4a"));
+    unit().feed({{3, 4, 5}, {-3, -4, -5}}, 2'000'000'000);
+    EXPECT_TRUE(closedPath.isNull());
+    EXPECT_EQ(engine.framesAccepted(), 0);
+    unit().feed({{6, 7, 8}, {-6, -7, -8}}, 3'000'000'000);
+    EXPECT_EQ(closedPath, path());
+    EXPECT_EQ(engine.framesAccepted(), 2);
+    EXPECT_EQ(engine.captureSpan().firstHostTime, 3'000'000'000U + 1'000'000'000U / 48000U);
+    engine.stopRecordAudio();
+    EXPECT_EQ(media.files[0]->samples[0], (std::vector<float>{1, 2, 3, 4, 5, 6}));
+    EXPECT_EQ(media.files[1]->samples[1], (std::vector<float>{-7, -8}));
+    EXPECT_EQ(media.files[1]->predecessor, media.files[0].get());
+}
+
+TEST_F(BuildInAudioRecordTest, FinishesAWaitingCutWhenItStops) {
+    prepare();
+    engine.startRecordAudio();
+    unit().feed({{1, 2}, {1, 2}});
+    QStringList closed;
+    const auto note = [&](const QString& old, OSStatus) { closed.append(old); };
+    EXPECT_TRUE(engine.exchangeM4aFile(path("next.m4a"), note, 100));
+    EXPECT_TRUE(engine.exchangeM4aFile(path("last.m4a"), note, 100));
+    EXPECT_TRUE(engine.stopRecordAudioLater(note));
+    EXPECT_EQ(closed, (QStringList{path(), path("next.m4a"), path("last.m4a")}));
+    EXPECT_EQ(media.files[0]->framesAccepted, 2);
+    EXPECT_EQ(media.files[1]->framesAccepted, 0);
+    EXPECT_EQ(media.files[2]->framesAccepted, 0);
+}
+
+TEST_F(BuildInAudioRecordTest, WritesTheCycleThatMadeTheDelegateBegin) {
+    struct Starter : BuildInAudioRecordDelegate {
+        BuildInAudioRecord* engine = nullptr;
+        void clientRecievedBuiltInAudioData(float level) override {
+            if (level > 0)
+                engine->startRecordAudio();
+        }
+    } starter;
+    starter.engine = &engine;
+    engine.setDelegate(&starter);
+    prepare();
+    unit().feed({{0, 0}, {0, 0}}, 1000);
+    unit().feed({{1, 2}, {1, 2}}, 2000);
+    unit().feed({{3}, {3}}, 3000);
+    EXPECT_EQ(media.last().samples[0], (std::vector<float>{1, 2, 3}));
+    EXPECT_EQ(engine.captureSpan().firstHostTime, 2000U);
+    engine.stopRecordAudio();
+}
+
 TEST_F(BuildInAudioRecordTest, StopsWithoutWaitingForTheFile) {
     prepare();
     QString closedPath;

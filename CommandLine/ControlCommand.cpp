@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CommandLine/ControlCommand.h"
+
+#include "Platform/Foundation/Bundle.h"
+#include "Platform/Foundation/RunningProgram.h"
+#include "Platform/Foundation/Services.h"
+#include "Source/Control/ControlRequests.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using namespace Qt::StringLiterals;
+
+namespace CommandLine {
+namespace {
+
+void showStatus(const QByteArray& json, bool asJson) {
+    const auto document = QJsonDocument::fromJson(json);
+    if (asJson) {
+        print(QString::fromUtf8(document.toJson(QJsonDocument::Indented).trimmed()));
+        return;
+    }
+    const QString state = document[u"state"].toString();
+    const int queue = document[u"queue"].toInt();
+    const int seconds = int(document[u"seconds"].toDouble());
+    QString line = state;
+    if (state == u"recording"_s || state == u"paused"_s)
+        line += u" %1:%2"_s.arg(seconds / 60, 2, 10, QChar(u'0')).arg(seconds % 60, 2, 10, QChar(u'0'));
+    if (queue > 0)
+        line += u", %1 being finished"_s.arg(queue);
+    print(line);
+}
+
+int run(const QStringList& given) {
+    const auto name = u"control"_s;
+    QStringList arguments = given;
+    const bool json = arguments.removeAll(u"--json"_s) > 0;
+    const QStringList known{u"start-stop"_s, u"pause-resume"_s, u"split"_s, u"show"_s, u"status"_s};
+    if (arguments.size() != 1 || !known.contains(arguments.front()))
+        return wrongUsage(name, arguments.isEmpty() ? u"control takes a command"_s
+                                                    : u"%1: no such command"_s.arg(arguments.join(u' ')));
+    const QString command = arguments.front();
+    if (json && command != u"status"_s)
+        return wrongUsage(name, u"--json goes with status"_s);
+
+    const auto running = Platform::RunningProgram::create(Platform::services().bundle->bundleIdentifier());
+    QByteArray answer;
+    if (!running->ask(command.toUtf8(), answer))
+        return fail(u"the program is not running"_s);
+    QByteArray rest;
+    if (!ControlRequests::isOk(answer, rest))
+        return fail(u"%1: %2"_s.arg(command, QString::fromUtf8(rest)));
+    if (command == u"status"_s)
+        showStatus(rest, json);
+    return Done;
+}
+
+} // namespace
+
+const Command controlCommand{run, "control start-stop|pause-resume|split|show|status [--json]",
+                             "act on the running program"};
+
+} // namespace CommandLine

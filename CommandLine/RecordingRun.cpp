@@ -1,0 +1,195 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CommandLine/RecordingRun.h"
+
+#include "CommandLine/CommandLine.h"
+#include "CommandLine/ProgressBar.h"
+#include "Platform/Foundation/Bundle.h"
+#include "Platform/Foundation/RunningProgram.h"
+#include "Platform/Foundation/Services.h"
+#include "Platform/Foundation/TerminationSignals.h"
+#include "Platform/Foundation/UserDefaults.h"
+#include "Source/Control/ControlRequests.h"
+#include "Source/Model/AudioRecordEntry.h"
+#include "Source/Model/MediaLibrary.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLoggingCategory>
+#include <QTimer>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace CommandLine {
+
+namespace {
+
+constexpr int LookMilliseconds = 20;
+
+QJsonObject described(const QString& path, double seconds) {
+    return {{u"path"_s, path}, {u"title"_s, QFileInfo(path).completeBaseName()}, {u"seconds"_s, seconds}};
+}
+
+} // namespace
+
+RecordingRun::RecordingRun(RecordPreferences& preferences, const RecordingTask& task) : task_(task) {
+    // What the log would say is said above the meter.
+    QLoggingCategory::setFilterRules(u"sonaphex.record=false"_s);
+    controller_.setDelegate(this);
+    controller_.setPreferences(&preferences);
+    QObject::connect(&controller_, &RecordStateController::recordingFinished, &controller_,
+                     [this](const QString& path, const Dictionary& entry) {
+                         if (entry.isEmpty()) {
+                             ++dropped_;
+                             return;
+                         }
+                         paths_.append(path);
+                         recordings_.append(described(path, entry.value(AudioRecordEntry::Length).toDouble()));
+                     });
+    QObject::connect(&controller_, &RecordStateController::recordingSetAside, &controller_,
+                     [this](const QString&, const QStringList& kept) {
+                         for (const QString& path : kept) {
+                             Platform::AudioFileInfo info;
+                             Platform::MediaError error;
+                             (void)Platform::services().mediaFiles->info(path, info, error);
+                             paths_.append(path);
+                             recordings_.append(described(path, info.seconds));
+                         }
+                         if (problem_.isEmpty())
+                             problem_ = controller_.notices().isEmpty() ? u"a recording could not be finished"_s
+                                                                        : controller_.notices().last();
+                         told_ = controller_.notices().size();
+                     });
+}
+
+int RecordingRun::run() {
+    controller_.awakeFromNib();
+    if (const QString why = begin(); !why.isEmpty())
+        return fail(why);
+    recordUntilTheEnd();
+    return report();
+}
+
+/// Chooses the device and starts. @return why nothing is recorded; empty when something is
+QString RecordingRun::begin() {
+    if (task_.wantsComputerAudio && !controller_.hasComputerAudioDevice() &&
+        (task_.computerAudioNamed || !task_.wantsInput))
+        return u"computer audio: its driver is not installed (see sonaphex driver install)"_s;
+    if (task_.device != 0)
+        controller_.chooseBuiltInDevice(controller_.indexOfDevice(task_.device));
+    if (task_.wantsInput && controller_.deviceNames().isEmpty() && !controller_.hasComputerAudioDevice())
+        return u"there is no input device"_s;
+    if (!controller_.canRecord())
+        return u"there is no source to record: name one with --input or --computer"_s;
+    controller_.setRecordLimit(task_.seconds);
+    controller_.startAndStopRecord();
+    QCoreApplication::sendPostedEvents(); // brings the notices
+    if (controller_.hasFile())
+        return {};
+    const QStringList notices = controller_.notices();
+    return notices.isEmpty() ? u"nothing can be recorded"_s : notices.first();
+}
+
+QString RecordingRun::state() const {
+    switch (controller_.isWaittingForSound() ? -1 : const_cast<RecordStateController&>(controller_).recordState_()) {
+    case -1:
+        return u"waiting for the first sound"_s;
+    case 1:
+        return u"recording"_s;
+    default:
+        return u"finishing"_s;
+    }
+}
+
+void RecordingRun::recordUntilTheEnd() {
+    QEventLoop loop;
+    // Held until all is finished: a second signal must not cut the files off.
+    const Platform::TerminationSignals ending([&](int) { loop.quit(); });
+    armed_.start();
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &loop, [&] {
+        tellNotices();
+        const double seconds = controller_.recordedSeconds();
+        if (const QString why = controller_.writeProblem(); !why.isEmpty()) {
+            problem_ = why;
+            loop.quit();
+        } else if (task_.seconds > 0 && seconds >= task_.seconds) {
+            loop.quit();
+        } else if (task_.waitSeconds >= 0 && controller_.isWaittingForSound() &&
+                   double(armed_.elapsed()) >= task_.waitSeconds * 1000) {
+            meter_.say(u"no sound came: nothing was recorded"_s);
+            loop.quit();
+        }
+        meter_.show(seconds, controller_.getAudioWaveLevelValue(), state());
+    });
+    timer.start(LookMilliseconds);
+    loop.exec();
+    timer.stop();
+    finish();
+}
+
+void RecordingRun::finish() {
+    {
+        ProgressBar bar(u"finishing"_s);
+        QTimer progress;
+        QObject::connect(&progress, &QTimer::timeout, &controller_, [&] {
+            if (const double share = controller_.jobProgress(); share > 0)
+                bar.show(share);
+        });
+        progress.start(100);
+        controller_.finishAll();
+    }
+    QCoreApplication::sendPostedEvents();
+    tellNotices();
+}
+
+void RecordingRun::tellNotices() {
+    const QStringList notices = controller_.notices();
+    for (; told_ < notices.size(); ++told_)
+        meter_.say(notices.at(told_));
+    // The list is bounded; what has been told is not needed any more.
+    controller_.dismissNotices();
+    told_ = 0;
+}
+
+/// The window's library changes through the window; without one it changes here.
+void RecordingRun::addRecordFile(const QString& path, const Dictionary& tags) {
+    const auto running = Platform::RunningProgram::create(Platform::services().bundle->bundleIdentifier());
+    QByteArray answer;
+    QByteArray rest;
+    if (running->ask(ControlRequests::libraryAdd(path, tags), answer) && ControlRequests::isOk(answer, rest))
+        return;
+    Dictionary entry = tags;
+    makeIdentity(entry, path);
+    MediaLibrary library;
+    library.addRecordFile(entry);
+    if (!Platform::services().userDefaults->flush())
+        meter_.say(u"%1 could not be entered into the library"_s.arg(path));
+}
+
+int RecordingRun::report() {
+    if (dropped_ > 0)
+        meter_.say(dropped_ == 1
+                       ? u"one recording was shorter than the filter's time and was not kept"_s
+                       : u"%1 recordings were shorter than the filter's time and were not kept"_s.arg(dropped_));
+    if (task_.json) {
+        const QJsonObject all{{u"recordings"_s, recordings_},
+                              {u"dropped"_s, dropped_},
+                              {u"lostFrames"_s, qint64(controller_.lostFrames())}};
+        print(QString::fromUtf8(QJsonDocument(all).toJson(QJsonDocument::Indented).trimmed()));
+    } else {
+        for (const QString& path : paths_)
+            print(path);
+    }
+    if (problem_.isEmpty())
+        return Done;
+    return fail(paths_.isEmpty() ? problem_
+                                 : u"%1: what was recorded is kept in %2"_s.arg(problem_, paths_.join(u", "_s)));
+}
+
+} // namespace CommandLine

@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "tests/fakes/FakeMediaFiles.h"
+
+#include <algorithm>
+#include <atomic>
+#include <mutex>
+#include <set>
+
+#include <QFile>
+#include <QFileInfo>
+
+/// Files of recordings without their sound: writers as FakeMediaFiles has them, every file that exists has a length,
+/// and movies and readers that do their part of a mix.
+class FakeRecordingFiles : public FakeMediaFiles {
+public:
+    struct Mix {
+        QString first;
+        QString second;
+        std::vector<Platform::Movie::TrackTiming> timings;
+        QString wave;
+    };
+
+    double seconds = 10; ///< the length of every file that exists
+    QMap<QString, double> secondsOf;
+    std::set<QString> unreadable; ///< movies that do not open
+    Platform::MediaError mixError;
+    std::atomic<bool> holdMix{false}; ///< a mix waits while this is set
+    std::atomic<int> mixesStarted{0};
+
+    [[nodiscard]] std::vector<Mix> mixes() const {
+        const std::scoped_lock lock(mutex_);
+        return mixes_;
+    }
+
+    bool info(const QString& path, Platform::AudioFileInfo& info, Platform::MediaError& error) override {
+        if (!QFileInfo::exists(path)) {
+            error = {Platform::MediaError::Kind::NotFound, path};
+            return false;
+        }
+        info.dataFormat.mSampleRate = 44100;
+        info.seconds = secondsOf.value(path, seconds);
+        info.frameCount = std::int64_t(info.seconds * 44100);
+        return true;
+    }
+
+    std::unique_ptr<Platform::Movie> openMovie(const QString& path, Platform::MediaError& error) override {
+        if (unreadable.contains(path) || !QFileInfo::exists(path)) {
+            error = {Platform::MediaError::Kind::Damaged, QStringLiteral("the file is damaged")};
+            return nullptr;
+        }
+        return std::make_unique<FakeMovie>(*this, path);
+    }
+
+    std::unique_ptr<Platform::ExtAudioFileReader> openReader(const QString& path,
+                                                             Platform::MediaError& error) override {
+        if (!QFileInfo::exists(path)) {
+            error = {Platform::MediaError::Kind::NotFound, path};
+            return nullptr;
+        }
+        return std::make_unique<ShortReader>();
+    }
+
+private:
+    class FakeMovie final : public Platform::Movie {
+    public:
+        FakeMovie(FakeRecordingFiles& files, const QString& path) : files_(files), path_(path), timings_(1) {}
+        double duration() const override { return files_.seconds; }
+        int soundTracks() const override { return int(timings_.size()); }
+        bool insertSoundTrackOf(const Movie& other) override {
+            second_ = static_cast<const FakeMovie&>(other).path_;
+            timings_.emplace_back();
+            return true;
+        }
+        void setTiming(int track, TrackTiming timing) override { timings_.at(std::size_t(track)) = timing; }
+        Platform::MediaError writeWave(const QString& path, const std::function<bool(double)>& progress) override {
+            ++files_.mixesStarted;
+            while (files_.holdMix)
+                if (!progress(0.5))
+                    return {Platform::MediaError::Kind::Other, QStringLiteral("stopped")};
+            if (files_.mixError)
+                return files_.mixError;
+            QFile(path).open(QIODevice::WriteOnly);
+            const std::scoped_lock lock(files_.mutex_);
+            files_.mixes_.push_back({path_, second_, timings_, path});
+            return {};
+        }
+
+    private:
+        FakeRecordingFiles& files_;
+        QString path_;
+        QString second_;
+        std::vector<TrackTiming> timings_;
+    };
+
+    /// A tenth of a second of silence.
+    class ShortReader final : public Platform::ExtAudioFileReader {
+    public:
+        AudioStreamBasicDescription fileDataFormat() const override {
+            AudioStreamBasicDescription format;
+            format.mSampleRate = 44100;
+            format.mChannelsPerFrame = 2;
+            return format;
+        }
+        std::int64_t fileLengthFrames() const override { return 4410; }
+        OSStatus setClientDataFormat(const AudioStreamBasicDescription&) override { return noErr; }
+        OSStatus seek(std::int64_t clientFrame) override {
+            position_ = clientFrame;
+            return noErr;
+        }
+        OSStatus read(std::uint32_t& frames, AudioBufferList* data) override {
+            frames = std::uint32_t(std::clamp<std::int64_t>(4410 - position_, 0, frames));
+            for (std::uint32_t i = 0; i < data->mNumberBuffers; ++i) {
+                auto& buffer = *(&data->mBuffers[0] + i);
+                buffer.mDataByteSize = frames * 4;
+                std::fill_n(static_cast<float*>(buffer.mData), frames, 0.0F);
+            }
+            position_ += frames;
+            return noErr;
+        }
+        Platform::MediaError firstError() const override { return {}; }
+
+    private:
+        std::int64_t position_ = 0;
+    };
+
+    mutable std::mutex mutex_;
+    std::vector<Mix> mixes_;
+};
