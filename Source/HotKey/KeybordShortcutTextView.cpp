@@ -214,7 +214,7 @@ bool KeybordShortcutTextView::event(QEvent* event) {
 void KeybordShortcutTextView::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
     // The keys of the mnemonic that led here are still held; letting go of them is no input.
-    ignoresHeldModifiers_ = flagsOf(QGuiApplication::queryKeyboardModifiers()) != 0;
+    ignoresReleases_ = flagsOf(QGuiApplication::keyboardModifiers()) != 0;
     grabKeyboard();
     holdsKeyboard_ = true;
     update();
@@ -263,6 +263,7 @@ void KeybordShortcutTextView::keyPressEvent(QKeyEvent* event) {
     event->accept();
     if (awaitsRelease_ || event->isAutoRepeat())
         return;
+    ignoresReleases_ = false;
     if (isModifierKey(event->key()))
         flagsChanged(flagsAfter(*event));
     else
@@ -277,17 +278,17 @@ void KeybordShortcutTextView::keyReleaseEvent(QKeyEvent* event) {
         if (!isModifierKey(event->key()))
             finishCapture();
     } else if (isModifierKey(event->key())) {
-        flagsChanged(flagsAfter(*event));
+        const std::uint32_t flags = flagsAfter(*event);
+        if (!ignoresReleases_)
+            flagsChanged(flags);
+        else if (flags == 0)
+            ignoresReleases_ = false;
     }
 }
 
 void KeybordShortcutTextView::flagsChanged(std::uint32_t flags) {
     if (!hasFocus())
         return;
-    if (ignoresHeldModifiers_) {
-        ignoresHeldModifiers_ = flags != 0;
-        return;
-    }
     if (hotKeyRegister_)
         hotKeyRegister_->unregisterHotKey();
     characters_ = u""_s;
@@ -307,7 +308,7 @@ void KeybordShortcutTextView::keyDown(const QKeyEvent& event) {
 
 void KeybordShortcutTextView::finishCapture() {
     awaitsRelease_ = false;
-    ignoresHeldModifiers_ = false;
+    ignoresReleases_ = false;
     clearFocus();
     if (!updateHotKeyRegister()) {
         modifierFlags_ = 0;

@@ -88,6 +88,6 @@ private:
     std::unique_ptr<HotKeyRegister> hotKeyRegister_;
     QPointer<QAction> menuItem_;
     bool awaitsRelease_ = false;
-    bool ignoresHeldModifiers_ = false;
+    bool ignoresReleases_ = false;
     bool holdsKeyboard_ = false;
 };

@@ -83,6 +83,8 @@ class PortalHotKeys : public QObject, public HotKeys {
     Q_OBJECT
 public:
     PortalHotKeys() : bus_(QDBusConnection::sessionBus()) {
+        // A slot is found by the names of its types, and this one is known by name only when somebody said so.
+        qRegisterMetaType<QDBusObjectPath>();
         qDBusRegisterMetaType<Shortcut>();
         qDBusRegisterMetaType<QList<Shortcut>>();
         rebind_.setSingleShot(true);

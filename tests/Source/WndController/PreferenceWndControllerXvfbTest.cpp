@@ -1,0 +1,252 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/WndController/PreferenceWndController.h"
+
+#include "Platform/Desktop/linux/LinuxHotKeys.h"
+#include "Platform/Foundation/Services.h"
+#include "Platform/Foundation/UserDefaults.h"
+#include "Platform/Foundation/linux/PropertyListDefaults.h"
+#include "Source/HotKey/KeybordShortcutTextView.h"
+#include "Source/View/QtFocusProbe.h"
+#include "Source/View/Theme.h"
+#include "tests/fakes/FakeBundle.h"
+#include "tests/support/OtherProgram.h"
+#include "tests/support/Screenshot.h"
+#include "tests/support/WaitFor.h"
+#include "tests/support/XvfbSession.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::uint8_t xKeyG = 34 + 8;
+constexpr std::uint16_t superMask = 64;
+const auto startStopKey = u"PreferenceStartStopShortcutKey"_s;
+
+// Real keys, real grabs, a real settings file; of the program, the preferences window and what stands behind its
+// fields.
+class RealKeys : public testing::Test {
+protected:
+    RealKeys() {
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(config.path()));
+        auto& set = Platform::services();
+        set.bundle = &bundle;
+        set.focusProbe = &probe;
+        hotKeys = Platform::createHotKeys();
+        set.hotKeys = hotKeys.get();
+        Theme::install(*qApp, nullptr);
+        launch();
+    }
+    ~RealKeys() override {
+        controller.reset();
+        defaults.reset();
+        qunsetenv("XDG_CONFIG_HOME");
+    }
+    // As a new start of the program: everything comes from the settings file.
+    void launch() {
+        controller.reset();
+        defaults.reset();
+        defaults = Platform::createUserDefaults(bundle.bundleIdentifier());
+        Platform::services().userDefaults = defaults.get();
+        controller = std::make_unique<PreferenceWndController>(
+            ComputerAudioDevice{[] { return false; }, [] { return false; }, [] { return false; }, [] { return false; },
+                                [] { return QString(); }});
+        controller->startStopShortcut()->hotKeyRegister()->setOperation([this] { acted.append(u"start-stop"_s); });
+        controller->pauseResumeShortcut()->hotKeyRegister()->setOperation([this] { acted.append(u"pause"_s); });
+        controller->startNewRecordShortcut()->hotKeyRegister()->setOperation([this] { acted.append(u"new"_s); });
+    }
+    void show() {
+        controller->makeKeyAndOrderFront();
+        controller->center();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(controller->window()));
+    }
+    void keys(const QStringList& arguments) { EXPECT_TRUE(XvfbSession::current()->xdotool(arguments)); }
+    void type(const QString& combination) { keys({u"key"_s, combination}); }
+    void click(QWidget* widget) {
+        const QPoint at = widget->mapToGlobal(widget->rect().center());
+        keys({u"mousemove"_s, QString::number(at.x()), QString::number(at.y()), u"click"_s, u"1"_s});
+        EXPECT_TRUE(waitFor([&] { return widget->hasFocus(); }));
+        // The keyboard is grabbed by a request that must have reached the server before the next key.
+        QCoreApplication::processEvents();
+        settle();
+    }
+    // A round trip through the server, for what was sent to it.
+    static void settle() { static_cast<void>(XvfbSession::current()->xdotoolOutput({u"getmouselocation"_s})); }
+    bool acts(const QString& combination, const QString& what) {
+        acted.clear();
+        type(combination);
+        return waitFor([&] { return acted == QStringList{what}; }, 5000);
+    }
+    Dictionary stored(const QString& key) { return defaults->objectForKey(key).toMap(); }
+
+    Platform::ServicesScope scope;
+    QTemporaryDir config;
+    FakeBundle bundle;
+    QtFocusProbe probe;
+    std::unique_ptr<Platform::HotKeys> hotKeys;
+    std::unique_ptr<Platform::UserDefaults> defaults;
+    std::unique_ptr<PreferenceWndController> controller;
+    QStringList acted;
+};
+
+} // namespace
+
+TEST_F(RealKeys, EachHotKeyActsWhileAnotherWindowHasTheFocus) {
+    OtherProgram other;
+    ASSERT_TRUE(other.takeFocus());
+    for (const char* lock : {"", "Num_Lock", "Caps_Lock", "Num_Lock", "Caps_Lock"}) {
+        if (*lock)
+            type(QString::fromLatin1(lock));
+        EXPECT_TRUE(acts(u"super+ctrl+s"_s, u"start-stop"_s)) << lock;
+        EXPECT_TRUE(acts(u"super+ctrl+p"_s, u"pause"_s)) << lock;
+        EXPECT_TRUE(acts(u"super+ctrl+n"_s, u"new"_s)) << lock;
+    }
+}
+
+TEST_F(RealKeys, AFieldShowsHeldModifiersThenTheCombination) {
+    show();
+    auto* field = controller->startStopShortcut();
+    click(field);
+    keys({u"keydown"_s, u"super"_s});
+    EXPECT_TRUE(waitFor([&] { return field->text() == u"Command + "_s; })) << qPrintable(field->text());
+    EXPECT_FALSE(field->hotKeyRegister()->hasRegisterHotKey());
+    keys({u"keydown"_s, u"shift"_s});
+    EXPECT_TRUE(waitFor([&] { return field->text() == u"Command + Shift + "_s; })) << qPrintable(field->text());
+    keys({u"key"_s, u"a"_s, u"keyup"_s, u"shift"_s, u"keyup"_s, u"super"_s});
+    EXPECT_TRUE(waitFor([&] { return !field->hasFocus(); }));
+    EXPECT_EQ(field->text(), u"Command + Shift + A"_s);
+    const Dictionary expected{{u"KeybordShortcutCharactersKey"_s, u"A"_s},
+                              {u"KeybordShortcutModifierFlagsKey"_s, 0x120000},
+                              {u"KeybordShortcutKeyCodeKey"_s, 0}};
+    EXPECT_EQ(stored(startStopKey), expected);
+
+    OtherProgram other;
+    ASSERT_TRUE(other.takeFocus());
+    EXPECT_TRUE(acts(u"super+shift+a"_s, u"start-stop"_s));
+    type(u"super+ctrl+s"_s);
+    EXPECT_TRUE(acts(u"super+ctrl+n"_s, u"new"_s)) << "and the old combination does nothing";
+}
+
+TEST_F(RealKeys, TheShortcutComesBackAfterARestart) {
+    show();
+    auto* field = controller->startStopShortcut();
+    click(field);
+    type(u"super+alt+F6"_s);
+    ASSERT_TRUE(waitFor([&] { return field->text() == u"Option + Command + F6"_s && !field->hasFocus(); }));
+    ASSERT_TRUE(defaults->flush());
+    launch();
+    EXPECT_EQ(controller->startStopShortcut()->text(), u"Option + Command + F6"_s);
+    EXPECT_EQ(controller->startStopShortcut()->keyCode(), 97);
+    OtherProgram other;
+    ASSERT_TRUE(other.takeFocus());
+    EXPECT_TRUE(acts(u"super+alt+F6"_s, u"start-stop"_s));
+}
+
+TEST_F(RealKeys, ABareKeyClearsAndTheClearingComesBackToo) {
+    show();
+    auto* field = controller->startStopShortcut();
+    click(field);
+    type(u"Tab"_s);
+    ASSERT_TRUE(waitFor([&] { return !field->hasFocus(); }));
+    EXPECT_EQ(field->text(), QString());
+    EXPECT_TRUE(stored(startStopKey).isEmpty());
+    ASSERT_TRUE(defaults->flush());
+    launch();
+    EXPECT_EQ(controller->startStopShortcut()->text(), QString());
+    EXPECT_FALSE(controller->startStopShortcut()->hotKeyRegister()->hasRegisterHotKey());
+}
+
+TEST_F(RealKeys, ACombinationThatAnotherProgramHoldsClearsTheField) {
+    OtherProgram other;
+    ASSERT_TRUE(other.grab(xKeyG, superMask));
+    show();
+    auto* field = controller->startStopShortcut();
+    click(field);
+    type(u"super+g"_s);
+    ASSERT_TRUE(waitFor([&] { return !field->hasFocus(); })) << "the key arrives although another program grabbed it";
+    EXPECT_EQ(field->text(), QString());
+    EXPECT_TRUE(stored(startStopKey).isEmpty());
+}
+
+TEST_F(RealKeys, ACombinationOfAnotherFieldIsRefusedAndDoesNotAct) {
+    show();
+    auto* field = controller->startStopShortcut();
+    click(field);
+    type(u"super+ctrl+p"_s);
+    ASSERT_TRUE(waitFor([&] { return !field->hasFocus(); }));
+    EXPECT_EQ(field->text(), QString());
+    EXPECT_TRUE(acted.isEmpty());
+    EXPECT_TRUE(acts(u"super+ctrl+p"_s, u"pause"_s)) << "it stays where it was";
+}
+
+TEST_F(RealKeys, ItsOwnCombinationCanBeTypedAgain) {
+    show();
+    auto* field = controller->startStopShortcut();
+    click(field);
+    type(u"super+ctrl+s"_s);
+    ASSERT_TRUE(waitFor([&] { return !field->hasFocus(); }));
+    EXPECT_EQ(field->text(), u"Control + Command + S"_s);
+    EXPECT_TRUE(acted.isEmpty());
+    EXPECT_TRUE(acts(u"super+ctrl+s"_s, u"start-stop"_s));
+}
+
+TEST_F(RealKeys, NothingActsWhileAFieldHasTheFocus) {
+    show();
+    click(controller->pauseResumeShortcut());
+    type(u"super+ctrl+s"_s);
+    ASSERT_TRUE(waitFor([&] { return !controller->pauseResumeShortcut()->hasFocus(); }));
+    EXPECT_TRUE(acted.isEmpty());
+}
+
+TEST_F(RealKeys, LocksNeverReachTheStoredFlags) {
+    show();
+    type(u"Caps_Lock"_s);
+    type(u"Num_Lock"_s);
+    auto* field = controller->startStopShortcut();
+    click(field);
+    type(u"super+k"_s);
+    ASSERT_TRUE(waitFor([&] { return !field->hasFocus(); }));
+    type(u"Num_Lock"_s);
+    type(u"Caps_Lock"_s);
+    EXPECT_EQ(field->text(), u"Command + K"_s);
+    EXPECT_EQ(stored(startStopKey).value(u"KeybordShortcutModifierFlagsKey"_s), 0x100000);
+}
+
+TEST_F(RealKeys, AMnemonicLeadsIntoAFieldWithoutHarmingItsShortcut) {
+    show();
+    auto* field = controller->pauseResumeShortcut();
+    type(u"alt+p"_s);
+    ASSERT_TRUE(waitFor([&] { return field->hasFocus(); }));
+    settle();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(field->text(), u"Control + Command + P"_s);
+    EXPECT_TRUE(field->hotKeyRegister()->hasRegisterHotKey());
+    type(u"super+j"_s);
+    EXPECT_TRUE(waitFor([&] { return field->text() == u"Command + J"_s && !field->hasFocus(); }));
+}
+
+TEST_F(RealKeys, ClosingTheWindowWithAFieldInFocusLetsTheKeyboardGo) {
+    show();
+    click(controller->startStopShortcut());
+    controller->window()->close();
+    OtherProgram other;
+    ASSERT_TRUE(other.takeFocus());
+    type(u"x"_s);
+    int reached = 0;
+    EXPECT_TRUE(waitFor([&] { return (reached += other.presses()) == 1; }));
+    EXPECT_TRUE(acts(u"super+ctrl+s"_s, u"start-stop"_s));
+}
+
+TEST_F(RealKeys, TheWindowIsCentredOnItsScreen) {
+    show();
+    const QRect screen = controller->window()->screen()->availableGeometry();
+    EXPECT_TRUE(waitFor([&] {
+        const QPoint off = controller->window()->frameGeometry().center() - screen.center();
+        return off.manhattanLength() < 60;
+    }));
+}
