@@ -2,6 +2,112 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AppWindows.h"
 
+#include "Platform/Desktop/SleepInhibitor.h"
+#include "Platform/Foundation/Services.h"
+#include "Source/Control/ControlRequests.h"
+#include "Source/HotKey/HotKeyRegister.h"
+#include "Source/HotKey/KeybordShortcutTextView.h"
+#include "Source/Model/MediaLibrary.h"
+#include "Source/View/QtAlerts.h"
+#include "Source/View/QtPanels.h"
+#include "Source/View/Theme.h"
+#include "Source/WndController/ComputerAudioDevice.h"
+#include "Source/WndController/MainWndController.h"
+#include "Source/WndController/PreferenceWndController.h"
+#include "Source/WndController/StatusBarItem.h"
+
+#include <QApplication>
+
+namespace {
+
+/// A hot key's operation and what it asks first.
+struct ShortcutCommand {
+    KeybordShortcutTextView* field;
+    QAction* menuItem;
+    void (MainWndController::*command)();
+    bool (MainWndController::*guard)() const;
+};
+
+/// The real windows. Panels and alerts are dialogs from here on.
+class ProgramWindows : public AppDelegate::Windows {
+public:
+    ProgramWindows() : inhibitor_(Platform::createSleepInhibitor()) {
+        auto& services = Platform::services();
+        Theme::install(*qApp, services.colorScheme);
+        services.alerts = &alerts_;
+        services.panels = &panels_;
+    }
+
+    std::unique_ptr<AppDelegate::WindowController> makePreferenceWndController(const QString& /*file*/) override {
+        return std::make_unique<PreferenceWndController>(ComputerAudioDevice::system());
+    }
+
+    std::unique_ptr<AppDelegate::WindowController> makeMainWndController(const QString& /*file*/,
+                                                                         AppDelegate& application) override {
+        record_ = std::make_unique<RecordStateController>();
+        record_->awakeFromNib();
+        auto window = std::make_unique<MainWndController>(*record_, MediaLibrary::shareLibrary());
+        QObject::connect(window.get(), &MainWndController::perference, &application,
+                         [&application] { application.perference(); });
+        QObject::connect(window.get(), &MainWndController::support, &application,
+                         [&application] { application.support(); });
+        QObject::connect(window.get(), &MainWndController::audioDevice, &application,
+                         [&application] { application.audioDevice(); });
+        QObject::connect(window.get(), &MainWndController::requestSystemAudioRecordDevice, &application,
+                         [&application] { application.insertTheSystemAudioRecordDevice(); });
+        // Not quit(): that asks each window first, and the main window never closes.
+        QObject::connect(window.get(), &MainWndController::terminateRequested, &application,
+                         [] { QCoreApplication::exit(0); });
+        QObject::connect(record_.get(), &RecordStateController::stateChanged, window.get(), [this] {
+            inhibitor_->setInhibited(record_->isStateAudioRecord(), QObject::tr("A recording is running."));
+        });
+        return window;
+    }
+
+    void setupSystemStatusBar(AppDelegate& application) override {
+        auto& window = static_cast<MainWndController&>(*application.mainWndController());
+        auto& preferences = static_cast<PreferenceWndController&>(*application.preferenceWndController());
+        // A child of the window's controller: it goes first.
+        auto* item = new StatusBarItem(window, &window);
+        const ShortcutCommand commands[] = {
+            {preferences.startStopShortcut(), item->startStopMenu(), &MainWndController::startAndStopRecord,
+             &MainWndController::isStateAudioCanStartRecord},
+            {preferences.pauseResumeShortcut(), item->pauseResumeMenu(), &MainWndController::pauseAndResumeRecord,
+             &MainWndController::isStateAudioRecord},
+            {preferences.startNewRecordShortcut(), item->startNewRecordMenu(), &MainWndController::splitTheRecord,
+             &MainWndController::isStateAudioRecord},
+        };
+        for (const ShortcutCommand& each : commands) {
+            each.field->setMenuItem(each.menuItem);
+            // The delegate's window of the moment the key is pressed, not of now.
+            each.field->hotKeyRegister()->setOperation([&application, each] {
+                auto* target = static_cast<MainWndController*>(application.mainWndController());
+                if (target && (target->*each.guard)())
+                    (target->*each.command)();
+            });
+        }
+    }
+
+    void insertTheSystemAudioRecordDevice(AppDelegate::WindowController& preferences, QObject* /*sender*/) override {
+        static_cast<PreferenceWndController&>(preferences).insertTheSystemAudioRecordDevice();
+    }
+
+    QByteArray answer(AppDelegate::WindowController& /*mainWindow*/, const QByteArray& request) override {
+        return ControlRequests(*record_).answer(request);
+    }
+
+    void finishRecording(AppDelegate::WindowController& /*mainWindow*/) override { record_->finishAll(); }
+
+private:
+    Platform::ServicesScope scope_; ///< the services of before are back when the windows are gone
+    QtAlerts alerts_;
+    QtPanels panels_;
+    std::unique_ptr<Platform::SleepInhibitor> inhibitor_;
+    std::unique_ptr<RecordStateController> record_;
+};
+
+} // namespace
+
 std::unique_ptr<AppDelegate::Windows> createAppWindows() {
-    return nullptr;
+    return std::make_unique<ProgramWindows>();
 }

@@ -46,7 +46,8 @@ int runWindows(int argc, char** argv) {
         return CommandLine::Failed;
     }
     // However the program is ended in good order, the recording under way becomes a whole file first.
-    const Platform::TerminationSignals ending([](int) { QCoreApplication::quit(); });
+    // Not quit(): that asks the windows first, and the main window never closes while something records.
+    const Platform::TerminationSignals ending([](int) { QCoreApplication::exit(0); });
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &delegate, &AppDelegate::applicationWillTerminate);
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &delegate,
                      &AppDelegate::applicationWillTerminate, Qt::DirectConnection);

@@ -9,7 +9,7 @@ if(EXISTS ${CMAKE_SOURCE_DIR}/Resources/com.korvane.Sonaphex.desktop)
     install(FILES ${CMAKE_SOURCE_DIR}/Resources/com.korvane.Sonaphex.desktop
         DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 endif()
-if(EXISTS ${CMAKE_SOURCE_DIR}/Resources/images/com.korvane.Sonaphex.svg)
-    install(FILES ${CMAKE_SOURCE_DIR}/Resources/images/com.korvane.Sonaphex.svg
+if(EXISTS ${CMAKE_SOURCE_DIR}/Resources/icons/hicolor/scalable/apps/com.korvane.Sonaphex.svg)
+    install(FILES ${CMAKE_SOURCE_DIR}/Resources/icons/hicolor/scalable/apps/com.korvane.Sonaphex.svg
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 endif()

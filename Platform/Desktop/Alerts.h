@@ -11,7 +11,8 @@ namespace Platform {
 class Alerts {
 public:
     virtual ~Alerts() = default;
-    /// Shows a message and waits. The first of @p buttons is the default one, Escape takes the last.
+    /// Shows a message and waits. The first of @p buttons is the default one. Escape takes "Cancel", or the last
+    /// one where there is no such button.
     /// @return the index of the chosen button.
     virtual int runModal(const QString& title, const QString& text, const QStringList& buttons) = 0;
 };

@@ -19,10 +19,13 @@ int QtAlerts::runModal(const QString& title, const QString& text, const QStringL
     for (qsizetype i = 0; i < labels.size(); ++i)
         made.append(box.addButton(labels.at(i), i == 0 ? QMessageBox::AcceptRole : QMessageBox::RejectRole));
     box.setDefaultButton(made.first());
-    box.setEscapeButton(made.last());
+    // Escape never does anything: where there is a Cancel it is that, wherever it stands.
+    const auto cancel = labels.indexOf(QStringLiteral("Cancel"));
+    const qsizetype escape = cancel >= 0 ? cancel : labels.size() - 1;
+    box.setEscapeButton(made.at(escape));
     box.exec();
     for (qsizetype i = 0; i < made.size(); ++i)
         if (box.clickedButton() == made.at(i))
             return int(i);
-    return int(made.size()) - 1;
+    return int(escape);
 }
