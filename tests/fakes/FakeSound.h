@@ -4,6 +4,7 @@
 
 #include "Platform/Media/Sound.h"
 
+#include <QMap>
 #include <QStringList>
 
 /// A player that notes what it is told and plays nothing. A paused sound counts as playing, as with the real one.
@@ -29,7 +30,7 @@ public:
     bool isPlaying() const override { return playing; }
     bool play() override {
         calls.append(QStringLiteral("play"));
-        playing = !playFails;
+        playing = !playFails && seconds > 0;
         paused = false;
         return playing;
     }
@@ -65,8 +66,11 @@ private:
 class FakeSounds : public Platform::Sounds {
 public:
     FakeSound* last = nullptr;
+    QMap<QString, double> lengths; ///< of the paths that are known
+    double otherLength = 10;       ///< of all others; 0 for files that cannot be played
     std::unique_ptr<Platform::Sound> open(const QString& path) override {
         auto sound = std::make_unique<FakeSound>(path);
+        sound->seconds = lengths.value(path, otherLength);
         last = sound.get();
         return sound;
     }

@@ -8,7 +8,7 @@
 #include "tests/fakes/FakeAlerts.h"
 #include "tests/fakes/FakeBundle.h"
 #include "tests/fakes/FakeClock.h"
-#include "tests/fakes/FakeSounds.h"
+#include "tests/fakes/FakeSound.h"
 #include "tests/fakes/FakeUserDefaults.h"
 #include "tests/fakes/FakeWorkspace.h"
 
@@ -25,6 +25,7 @@ struct LibraryWorld {
         services.clock = &clock;
         services.sounds = &sounds;
         services.bundle = &bundle;
+        sounds.otherLength = 0;
     }
 
     /// A file that exists, without any audio in it.
