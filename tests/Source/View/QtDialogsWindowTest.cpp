@@ -1,0 +1,152 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/View/QtAlerts.h"
+#include "Source/View/QtPanels.h"
+
+#include "tests/support/WaitFor.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Does @p act with the dialog of type T as soon as there is one.
+template <typename T>
+void whenShown(QObject* context, std::function<void(T*)> act) {
+    auto* timer = new QTimer(context);
+    QObject::connect(timer, &QTimer::timeout, context, [timer, act = std::move(act)] {
+        auto* dialog = qobject_cast<T*>(QApplication::activeModalWidget());
+        if (!dialog || !dialog->isVisible())
+            return;
+        timer->stop();
+        act(dialog);
+    });
+    timer->start(5);
+}
+
+void click(QMessageBox* box, const QString& text) {
+    for (QAbstractButton* button : box->buttons())
+        if (button->text() == text)
+            button->click();
+}
+
+class QtDialogs : public testing::Test {
+protected:
+    QtDialogs() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+    static void enter(QFileDialog* dialog, const QString& name) {
+        dialog->findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(name);
+    }
+    static void accept(QFileDialog* dialog) { QMetaObject::invokeMethod(dialog, "accept"); }
+
+    QTemporaryDir folder;
+    QWidget window;
+    QtAlerts alerts;
+    QtPanels panels;
+};
+
+} // namespace
+
+TEST_F(QtDialogs, AnAlertShowsItsTextsPlainAndAnswersTheButton) {
+    whenShown<QMessageBox>(&window, [](QMessageBox* box) {
+        EXPECT_EQ(box->text(), u"<b>Title</b> %s"_s);
+        EXPECT_EQ(box->textFormat(), Qt::PlainText);
+        EXPECT_EQ(box->informativeText(), u"Text"_s);
+        EXPECT_EQ(box->defaultButton()->text(), u"Yes"_s);
+        click(box, u"Maybe"_s);
+    });
+    EXPECT_EQ(alerts.runModal(u"<b>Title</b> %s"_s, u"Text"_s, {u"Yes"_s, u"Maybe"_s, u"No"_s}), 1);
+}
+
+TEST_F(QtDialogs, EnterTakesTheFirstButtonAndEscapeTheLast) {
+    whenShown<QMessageBox>(&window, [](QMessageBox* box) { QTest::keyClick(box, Qt::Key_Escape); });
+    EXPECT_EQ(alerts.runModal(u"Title"_s, {}, {u"Yes"_s, u"Maybe"_s, u"No"_s}), 2);
+    whenShown<QMessageBox>(&window, [](QMessageBox* box) { QTest::keyClick(box, Qt::Key_Return); });
+    EXPECT_EQ(alerts.runModal(u"Title"_s, {}, {u"Yes"_s, u"No"_s}), 0);
+}
+
+TEST_F(QtDialogs, AnAlertWithOneButtonAnswersItHoweverItIsClosed) {
+    whenShown<QMessageBox>(&window, [](QMessageBox* box) { box->close(); });
+    EXPECT_EQ(alerts.runModal(u"Title"_s, {}, {u"OK"_s}), 0);
+    whenShown<QMessageBox>(&window, [](QMessageBox* box) { QTest::keyClick(box, Qt::Key_Escape); });
+    EXPECT_EQ(alerts.runModal(u"Title"_s, {}, {}), 0);
+}
+
+TEST_F(QtDialogs, AFolderIsChosenInASheetWithLinksResolved) {
+    QDir(folder.path()).mkdir(u"real"_s);
+    QFile::link(folder.filePath(u"real"_s), folder.filePath(u"link"_s));
+    std::optional<QString> chosen;
+    int answers = 0;
+    whenShown<QFileDialog>(&window, [this](QFileDialog* dialog) {
+        EXPECT_EQ(dialog->labelText(QFileDialog::Accept), u"Choose"_s);
+        EXPECT_EQ(QDir(dialog->directory()).canonicalPath(), QDir(folder.path()).canonicalPath());
+        EXPECT_TRUE(dialog->testOption(QFileDialog::ShowDirsOnly));
+        enter(dialog, folder.filePath(u"link"_s));
+        accept(dialog);
+    });
+    panels.chooseFolder(&window, u"Choose"_s, folder.path(), [&](const std::optional<QString>& path) {
+        chosen = path;
+        ++answers;
+    });
+    EXPECT_EQ(answers, 0) << "a sheet does not block";
+    ASSERT_TRUE(waitFor([&] { return answers == 1; }));
+    EXPECT_EQ(chosen, QFileInfo(folder.filePath(u"real"_s)).canonicalFilePath());
+}
+
+TEST_F(QtDialogs, CancellingAFolderAnswersNothing) {
+    int answers = 0;
+    whenShown<QFileDialog>(&window, [](QFileDialog* dialog) { dialog->reject(); });
+    panels.chooseFolder(&window, u"Choose"_s, folder.path(), [&](const std::optional<QString>& path) {
+        EXPECT_FALSE(path);
+        ++answers;
+    });
+    ASSERT_TRUE(waitFor([&] { return answers == 1; }));
+}
+
+TEST_F(QtDialogs, AnExistingFileIsChosen) {
+    QFile file(folder.filePath(u"cover; $(x) 'é'.png"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.close();
+    whenShown<QFileDialog>(&window, [&](QFileDialog* dialog) {
+        enter(dialog, file.fileName());
+        accept(dialog);
+    });
+    EXPECT_EQ(panels.chooseFile(&window, u"Choose"_s, folder.path(), u"Images (*.png *.jpg)"_s),
+              QFileInfo(file.fileName()).canonicalFilePath());
+    whenShown<QFileDialog>(&window, [](QFileDialog* dialog) { dialog->reject(); });
+    EXPECT_FALSE(panels.chooseFile(&window, u"Choose"_s, folder.path(), {}));
+}
+
+TEST_F(QtDialogs, AFileToWriteIsNamedAndAnExistingOneAskedFor) {
+    whenShown<QFileDialog>(&window, [this](QFileDialog* dialog) {
+        EXPECT_EQ(dialog->findChild<QLineEdit*>(u"fileNameEdit"_s)->text(), u"Track1.m4a"_s);
+        enter(dialog, folder.filePath(u"Other"_s));
+        accept(dialog);
+    });
+    EXPECT_EQ(panels.saveFile(&window, u"Save"_s, folder.filePath(u"Track1.m4a"_s)), folder.filePath(u"Other.m4a"_s));
+
+    QFile existing(folder.filePath(u"Track1.m4a"_s));
+    ASSERT_TRUE(existing.open(QIODevice::WriteOnly));
+    existing.close();
+    bool asked = false;
+    whenShown<QFileDialog>(&window, [&](QFileDialog* dialog) {
+        whenShown<QMessageBox>(&window, [&asked, dialog](QMessageBox* box) {
+            asked = true;
+            box->button(QMessageBox::No)->click();
+            QTimer::singleShot(0, dialog, &QDialog::reject);
+        });
+        accept(dialog);
+    });
+    EXPECT_FALSE(panels.saveFile(&window, u"Save"_s, existing.fileName()));
+    EXPECT_TRUE(asked);
+}
