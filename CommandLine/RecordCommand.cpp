@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandLine/RecordCommand.h"
 
-#include "CaptureComputerAudio/KextInstallControl.h"
 #include "CommandLine/Arguments.h"
 #include "CommandLine/InputDevice.h"
 #include "CommandLine/RecordingRun.h"
@@ -105,7 +104,6 @@ int run(const QStringList& given) {
     QString why;
     if (!startAudio(why))
         return fail(why);
-    (void)KextInstallControl::loadIfInstalled();
     if (!takeSources(arguments, preferences, task, why))
         return fail(why);
     const QString folder = preferences.value(PreferenceSavePathKey, defaultMusicFolder()).toString();

@@ -73,8 +73,13 @@ RecordStateController::RecordStateController(EngineFactory factory, QObject* par
 
 RecordStateController::~RecordStateController() {
     d->alive.reset();
-    // No cycle runs from here on; then what still waits in the queue is set aside.
     d->devices.reset();
+    // Cycles use the engines through our pointers: they must have ended before a pointer is null. What is still being
+    // recorded joins the queue, and what waits there is set aside.
+    if (d->anyEngineRecords())
+        d->stopRecord();
+    d->builtIn.engine->cleanUp();
+    d->computer.engine->cleanUp();
     d->builtIn.engine.reset();
     d->computer.engine.reset();
     d->queue.reset();

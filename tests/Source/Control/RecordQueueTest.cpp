@@ -288,6 +288,16 @@ TEST_F(RecordQueueTest, AControllerThatGoesInTheMidstOfAMixKeepsTheRawFiles) {
     EXPECT_EQ(unfinished().size(), 2);
 }
 
+TEST_F(RecordQueueTest, AControllerThatGoesInTheMidstOfARecordingKeepsIt) {
+    addMicrophone();
+    makeFile(folder(), "in the way");
+    begin();
+    controller->startAndStopRecord();
+    play(Microphone, 0.5F, 6);
+    controller.reset();
+    EXPECT_EQ(unfinished(), QStringList{u"Track0.m4a"_s});
+}
+
 TEST(RecordQueueMovies, AMissingMovieTakesTheOthersPlace) {
     std::unique_ptr<Platform::Movie> none;
     EXPECT_FALSE(RecordQueue::addAudioIntoMove(none, nullptr));
