@@ -50,6 +50,11 @@ QString failure(const ConverterAudioControl& converter, const QString& source) {
     return error ? error.text : u"%1 cannot be converted"_s.arg(source);
 }
 
+/// Errors of the output speak of the hidden file that grows; people know the target.
+int failOutput(Platform::MediaError error, const PartFile& part, const QString& target) {
+    return fail(error.text.replace(part.path(), target));
+}
+
 int convert(const Task& task) {
     PartFile part(task.target, task.overwrite);
     if (const auto problem = part.problem(); !problem.isEmpty())
@@ -74,7 +79,7 @@ int convert(const Task& task) {
     const Interrupt interrupt;
     ConverterAudioControl converter;
     if (!converter.createOutPutFile(part.path(), task.type))
-        return fail(converter.exportError().text);
+        return failOutput(converter.exportError(), part, task.target);
     bool copied = false;
     {
         ProgressBar bar(QFileInfo(task.target).fileName());
@@ -91,7 +96,7 @@ int convert(const Task& task) {
     if (!copied)
         return fail(failure(converter, task.source));
     if (const auto error = converter.exportError())
-        return fail(error.text);
+        return failOutput(error, part, task.target);
     if (const auto problem = part.commit(); !problem.isEmpty())
         return fail(problem);
     if (const auto damage = converter.sourceError())
