@@ -7,7 +7,11 @@
 #include "Platform/Foundation/MainQueue.h"
 #include "Platform/Foundation/Services.h"
 
+#include <QDateTime>
+#include <QLoggingCategory>
+
 #include <array>
+#include <chrono>
 #include <cmath>
 #include <cstdlib>
 
@@ -15,6 +19,8 @@ using Platform::ExtAudioFileWriter;
 using Platform::InputUnit;
 
 namespace {
+
+Q_LOGGING_CATEGORY(engineLog, "sonaphex.engine", QtInfoMsg)
 
 constexpr OSStatus parameterError = -50;
 
@@ -39,6 +45,16 @@ private:
 void noteFileSystemChanged(const QString& path) {
     if (auto* workspace = Platform::services().workspace)
         workspace->noteFileSystemChanged(path);
+}
+
+/// When the first frame was captured, on the clock on the wall: with QT_LOGGING_RULES="sonaphex.engine.debug=true" one
+/// sees how long a start takes.
+void logFirstFrame(std::uint64_t hostTime) {
+    if (hostTime == 0 || !engineLog().isDebugEnabled())
+        return;
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    const double ago = double(std::chrono::nanoseconds(now).count()) / 1e9 - double(hostTime) / 1e9;
+    qCDebug(engineLog, "first frame captured at %.4f", double(QDateTime::currentMSecsSinceEpoch()) / 1000 - ago);
 }
 
 /// Every third sample of the first channel. Without samples the level is no number, and is passed on as it is.
@@ -434,14 +450,17 @@ bool BuildInAudioRecord::startRecordAudio() {
 }
 
 bool BuildInAudioRecord::stopRecordAudio() {
-    if (recordStatus_.exchange(0) != 0)
+    if (recordStatus_.exchange(0) != 0) {
+        logFirstFrame(firstHostTime_);
         closeExportFile();
+    }
     return true;
 }
 
 bool BuildInAudioRecord::stopRecordAudioLater(std::function<void(QString, OSStatus)> closed) {
     if (recordStatus_.exchange(0) == 0)
         return false;
+    logFirstFrame(firstHostTime_);
     auto writer = takeWriter(outputM4a_);
     const QString path = outputM4aFilePath();
     closeExportFile(); // what else is open
