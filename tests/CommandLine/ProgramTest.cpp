@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The program's way in: what it answers before it does anything.
+#include "tests/support/RunTool.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+ToolResult sonaphex(const QStringList& arguments) {
+    return runTool(QStringLiteral(SONAPHEX_PROGRAM), arguments);
+}
+} // namespace
+
+TEST(Program, TellsItsVersionAndItsCommands) {
+    const auto version = sonaphex({u"--version"_s});
+    EXPECT_EQ(version.status, 0);
+    EXPECT_EQ(version.output, "sonaphex " SONAPHEX_VERSION "\n");
+    for (const QString& asked : {u"--help"_s, u"-h"_s, u"help"_s}) {
+        const auto help = sonaphex({asked});
+        EXPECT_EQ(help.status, 0);
+        EXPECT_TRUE(help.output.contains("sonaphex record")) << help.output.data();
+        EXPECT_TRUE(help.output.contains("sonaphex devices"));
+    }
+}
+
+TEST(Program, AnswersWrongUsageWithStatusTwoAndOneReason) {
+    const auto unknown = sonaphex({u"recrod"_s});
+    EXPECT_EQ(unknown.status, 2);
+    EXPECT_TRUE(unknown.errors.startsWith("sonaphex: recrod: no such command")) << unknown.errors.data();
+    const auto option = sonaphex({u"record"_s, u"--fro"_s, u"5"_s});
+    EXPECT_EQ(option.status, 2);
+    EXPECT_TRUE(option.errors.contains("usage: sonaphex record")) << option.errors.data();
+    EXPECT_TRUE(option.output.isEmpty());
+}

@@ -1,0 +1,11 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/SimulatedHours.h"
+
+using LongRecording = SimulatedHours;
+
+TEST_F(LongRecording, GrowsNoMemoryInTwoMinutes) {
+    std::int64_t kept = 0;
+    (void)record(120, kept);
+    EXPECT_LT(kept, 512 * 1024);
+}
