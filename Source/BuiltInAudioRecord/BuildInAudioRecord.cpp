@@ -142,6 +142,7 @@ bool BuildInAudioRecord::configureAudioUnit(AudioObjectID device) {
     renderUnit_ = audioUnit_.get();
     InputUnit& unit = *audioUnit_;
     unit.setEventHandler(eventHandler_);
+    unit.setFillLostFrames(fillLostFrames_);
 
     // A unit whose input cannot be switched on may still have it on.
     if (unit.setEnableInput(true) == noErr && unit.setEnableOutput(false) != noErr)
@@ -604,6 +605,12 @@ void BuildInAudioRecord::holdCycles() {
 void BuildInAudioRecord::releaseCycles() {
     if (audioUnit_)
         audioUnit_->releaseCycles();
+}
+
+void BuildInAudioRecord::setFillLostFrames(bool on) {
+    fillLostFrames_ = on;
+    if (audioUnit_)
+        audioUnit_->setFillLostFrames(on);
 }
 
 void BuildInAudioRecord::setEventHandler(InputUnit::EventHandler handler) {

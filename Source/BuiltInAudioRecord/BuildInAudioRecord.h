@@ -125,6 +125,8 @@ public:
     /// See InputUnit::holdCycles(). The unit must not be exchanged between the two.
     virtual void holdCycles();
     virtual void releaseCycles();
+    /// See InputUnit::setFillLostFrames(); kept for the next device too. Main thread.
+    virtual void setFillLostFrames(bool on);
     /// Device and server events of the unit, on the main thread.
     virtual void setEventHandler(Platform::InputUnit::EventHandler handler);
 
@@ -186,6 +188,7 @@ private:
     QString lastError_;
     Platform::MediaError writeError_;
     Platform::InputUnit::EventHandler eventHandler_;
+    bool fillLostFrames_ = false;
     std::atomic<std::int64_t> framesAccepted_{0}; // below 0 while a cut waits
     std::int64_t lostBefore_ = 0;                 // what a unit's own count is off by, against that of the recording
 

@@ -225,6 +225,10 @@ void RecordStateController::Private::startRecord() {
         if (!builtIn.takesPart() && computer.takesPart())
             splitter.arm();
     }
+    // Two sources are laid over each other later: what one of them loses must not move what follows it.
+    const bool both = builtIn.takesPart() && computer.takesPart();
+    for (RecordSource* source : {&builtIn, &computer})
+        source->engine->setFillLostFrames(both);
     ++recordNum;
     if (!builtIn.takesPart() && !computer.takesPart())
         notice(u"Nothing is being recorded: there is no source."_s);

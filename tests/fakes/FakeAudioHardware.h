@@ -38,6 +38,7 @@ public:
         int stops = 0;
         int holds = 0;
         std::uint64_t lost = 0;
+        bool fillsLost = false;
         FakeInputUnit* unit = nullptr; ///< null once closed
     };
 
@@ -95,6 +96,7 @@ public:
     void holdCycles() override { ++state_->holds; }
     void releaseCycles() override { --state_->holds; }
     std::uint64_t lostFrames() const override { return state_->lost; }
+    void setFillLostFrames(bool on) override { state_->fillsLost = on; }
     void setEventHandler(EventHandler handler) override { handler_ = std::move(handler); }
     QString lastError() const override { return QStringLiteral("the step was told to fail"); }
 

@@ -51,6 +51,19 @@ TEST_F(RecordStateControllerTest, IdleOffersAStartAndTheSources) {
     EXPECT_EQ(controller->stateColor(), QColor(Qt::black));
 }
 
+TEST_F(RecordStateControllerTest, TwoSourcesKeepTogetherOverWhatOneOfThemLoses) {
+    beginWithBoth();
+    controller->startAndStopRecord();
+    for (const auto& unit : hardware.opened)
+        EXPECT_TRUE(unit->fillsLost);
+    controller->startAndStopRecord();
+    controller->chooseRecordComputerAudio(false);
+    controller->startAndStopRecord();
+    for (const auto& unit : hardware.opened)
+        EXPECT_FALSE(unit->fillsLost);
+    controller->startAndStopRecord();
+}
+
 TEST_F(RecordStateControllerTest, IdleWithoutASourceOffersNoStart) {
     addMicrophone();
     begin();
