@@ -9,6 +9,7 @@
 #include "Source/HotKey/KeybordShortcutTextView.h"
 #include "Source/Model/MediaLibrary.h"
 #include "Source/View/QtAlerts.h"
+#include "Source/View/QtFocusProbe.h"
 #include "Source/View/QtPanels.h"
 #include "Source/View/Theme.h"
 #include "Source/WndController/ComputerAudioDevice.h"
@@ -36,6 +37,7 @@ public:
         Theme::install(*qApp, services.colorScheme);
         services.alerts = &alerts_;
         services.panels = &panels_;
+        services.focusProbe = &focusProbe_;
     }
 
     std::unique_ptr<AppDelegate::WindowController> makePreferenceWndController(const QString& /*file*/) override {
@@ -102,6 +104,7 @@ private:
     Platform::ServicesScope scope_; ///< the services of before are back when the windows are gone
     QtAlerts alerts_;
     QtPanels panels_;
+    QtFocusProbe focusProbe_;
     std::unique_ptr<Platform::SleepInhibitor> inhibitor_;
     std::unique_ptr<RecordStateController> record_;
 };
