@@ -96,6 +96,9 @@ void PreferenceWndController::awakeFromNib() {
     ui_->chooseRingtonePathButton->setIcon(NamedImages::icon(u"folder"_s));
     ui_->showAudioPathButton->setIcon(NamedImages::icon(u"show"_s));
     ui_->showRingtonePathButton->setIcon(NamedImages::icon(u"show"_s));
+    // A path may be longer than its field.
+    for (QLineEdit* field : {ui_->audioPathField, ui_->ringtonePathField})
+        connect(field, &QLineEdit::textChanged, field, &QWidget::setToolTip);
     ui_->splitTimePopUp->addItems(splitTimes);
     ui_->filterTimePopUp->addItems(filterTimes);
 

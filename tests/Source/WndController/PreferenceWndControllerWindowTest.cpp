@@ -247,6 +247,7 @@ TEST_F(Preferences, AChosenFolderIsShownAtOnceAndStoredAtTheClose) {
     find<QPushButton>("chooseAudioPathButton")->click();
     EXPECT_EQ(panels.prompts, QStringList{u"Choose"_s});
     EXPECT_EQ(find<QLineEdit>("audioPathField")->text(), folder.path());
+    EXPECT_EQ(find<QLineEdit>("audioPathField")->toolTip(), folder.path());
     EXPECT_EQ(defaults.changes(), 0);
     find<QPushButton>("chooseRingtonePathButton")->click();
     EXPECT_EQ(find<QLineEdit>("ringtonePathField")->text(), folder.path());
