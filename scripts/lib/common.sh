@@ -77,7 +77,7 @@ build() {
         rm -f "build-$preset.log"
     fi
     # Silent when nothing is to be done: looking for new files is not worth a line.
-    cmake --build --preset "$preset" ${1:+--target "$@"} 2>&1 | awk -v preset="$preset" '
+    cmake --build --preset "$preset" ${1:+--target} "$@" 2>&1 | awk -v preset="$preset" '
         /no work to do|Re-checking globbed directories/ { next }
         !said { print "==> building (" preset ")"; said = 1 }
         { print; fflush() }' >&2 || die "the build failed"
