@@ -19,7 +19,7 @@ namespace {
 constexpr std::size_t ringSeconds = 4;
 constexpr std::size_t framesAtOnce = 8192;
 /// Waiting samples of a parallel encoding stay below this, whatever the length of the file.
-constexpr std::int64_t stretchBytes = 42'000'000;
+constexpr std::int64_t stretchBytes = 85'000'000;
 constexpr int shortestStretchSeconds = 120;
 
 using namespace std::chrono_literals;
@@ -162,12 +162,12 @@ OSStatus FileWriter::start(bool parallel) {
         settings.rowOf = core.rowOf;
         const auto packetBytes = std::int64_t(core.channels.size()) * 1024 * 4;
         const std::int64_t shortest = std::int64_t(rate) * shortestStretchSeconds / 1024 + 1;
-        settings.stretchPackets = std::max(shortest, stretchBytes / packetBytes);
-        const auto affordable = std::max<std::int64_t>(1, stretchBytes / (shortest * packetBytes)) + 1;
+        const auto affordable = std::max<std::int64_t>(1, stretchBytes / (shortest * packetBytes) + 1);
         const auto cores = std::int64_t(std::max(1u, std::thread::hardware_concurrency()));
         settings.workers = parallel ? int(std::min(cores, affordable)) : 1;
-        if (settings.workers > 2)
-            settings.stretchPackets = shortest;
+        // Few threads get longer stretches: each costs a warm-up.
+        const std::int64_t longest = stretchBytes / (packetBytes * std::max(2, settings.workers));
+        settings.stretchPackets = std::max(shortest, longest);
         core.sink = createAacSink(
             core.file, core.fileType == kAudioFileCAFType ? createCafFile(core.file) : createMpeg4File(core.file),
             settings);

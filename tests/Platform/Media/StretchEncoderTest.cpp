@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Media/linux/StretchEncoder.h"
+#include "tests/Platform/Media/MediaTestSupport.h"
+
+using namespace MediaTest;
+using namespace Platform;
+
+namespace {
+
+std::vector<AacEncoder::Packet> encoded(const Samples& rows, int workers, std::int64_t stretchPackets) {
+    AacSettings settings;
+    settings.rowOf = {0, 1};
+    settings.workers = workers;
+    settings.stretchPackets = stretchPackets;
+    StretchEncoder encoder(settings);
+    std::vector<AacEncoder::Packet> packets;
+    const std::size_t frames = rows[0].size();
+    for (std::size_t at = 0; at < frames; at += 700) {
+        const std::array<const float*, 2> from = {rows[0].data() + at, rows[1].data() + at};
+        encoder.append(from.data(), std::min<std::size_t>(700, frames - at), packets);
+    }
+    encoder.finish(packets);
+    EXPECT_TRUE(encoder.valid());
+    return packets;
+}
+
+/// Decodes without a container; one frame of 1024 a packet.
+std::vector<float> decoded(const std::vector<AacEncoder::Packet>& packets) {
+    const AacEncoder describing(44100, 2);
+    const auto config = describing.streamInfo().config;
+    Av::CodecPtr codec(avcodec_alloc_context3(avcodec_find_decoder(AV_CODEC_ID_AAC)));
+    codec->extradata = static_cast<std::uint8_t*>(av_mallocz(config.size() + AV_INPUT_BUFFER_PADDING_SIZE));
+    codec->extradata_size = int(config.size());
+    std::ranges::copy(config, codec->extradata);
+    EXPECT_EQ(avcodec_open2(codec.get(), nullptr, nullptr), 0);
+    const Av::FramePtr frame(av_frame_alloc());
+    const Av::PacketPtr packet(av_packet_alloc());
+    std::vector<float> samples;
+    for (const auto& bytes : packets) {
+        EXPECT_EQ(av_new_packet(packet.get(), int(bytes.size())), 0);
+        std::ranges::copy(bytes, packet->data);
+        EXPECT_EQ(avcodec_send_packet(codec.get(), packet.get()), 0);
+        av_packet_unref(packet.get());
+        EXPECT_EQ(avcodec_receive_frame(codec.get(), frame.get()), 0);
+        const auto* row = reinterpret_cast<const float*>(frame->extended_data[0]);
+        samples.insert(samples.end(), row, row + frame->nb_samples);
+    }
+    samples.erase(samples.begin(), samples.begin() + 1024);
+    return samples;
+}
+
+/// Music-like: tones that come and go, and strokes that make the encoder change its windows.
+Samples strokes(std::size_t frames) {
+    Samples rows = sweep(frames, 44100);
+    const Samples noise = tones(frames);
+    for (std::size_t c = 0; c < 2; ++c) {
+        for (std::size_t i = 0; i < frames; ++i)
+            rows[c][i] = rows[c][i] * 0.5f + noise[c][i] * float(std::exp(-double(i % 9000) / 1500));
+    }
+    return rows;
+}
+
+} // namespace
+
+TEST(StretchEncoder, OneStretchGivesTheBytesOfOneRun) {
+    const Samples sound = strokes(1024 * 500 + 77);
+    EXPECT_EQ(encoded(sound, 1, 0), encoded(sound, 2, 600));
+}
+
+TEST(StretchEncoder, GivesAsManyPacketsAsOneRunWhereverTheFileEnds) {
+    constexpr std::int64_t stretch = 512;
+    for (const std::int64_t packets : {stretch - 257, stretch - 255, stretch - 1, stretch, stretch + 1, stretch + 15,
+                                       stretch + 17, stretch + 40, 2 * stretch - 256, 2 * stretch}) {
+        for (const int rest : {0, 1, 1023}) {
+            Samples sound(2, std::vector<float>(std::size_t(packets) * 1024 + std::size_t(rest)));
+            EXPECT_EQ(encoded(sound, 3, stretch).size(), encoded(sound, 1, 0).size()) << packets << " " << rest;
+        }
+    }
+}
+
+TEST(StretchEncoder, ASeamHasNoLargerErrorThanItsSurroundings) {
+    constexpr std::int64_t stretch = 512;
+    const Samples sound = strokes(1024 * stretch * 4);
+    const auto serial = decoded(encoded(sound, 1, 0));
+    const auto parallel = decoded(encoded(sound, 2, stretch));
+    ASSERT_EQ(parallel.size(), serial.size());
+    const auto quality = [&](const std::vector<float>& what, std::size_t from, std::size_t to) {
+        return signalToError(sound[0], what, from, to);
+    };
+    EXPECT_GT(quality(parallel, 2048, sound[0].size()), quality(serial, 2048, sound[0].size()) - 0.2);
+    // The encoder's quality goes up and down by some dB; at a seam it must not leave that range. A window holds one
+    // stroke.
+    constexpr std::size_t window = 9 * 1024;
+    double lowest = 1000;
+    float worst = 0;
+    for (std::size_t at = window; at + 2 * window < sound[0].size(); at += window) {
+        lowest = std::min(lowest, quality(serial, at, at + window));
+        for (std::size_t i = at; i < at + window; ++i)
+            worst = std::max(worst, std::fabs(serial[i] - sound[0][i]));
+    }
+    for (std::size_t seam = 1; seam < 4; ++seam) {
+        // The seam may lie up to 16 packets behind the border.
+        const std::size_t border = seam * stretch * 1024;
+        for (std::size_t at = border - window; at < border + 4 * window; at += 1024)
+            EXPECT_GT(quality(parallel, at, at + window), lowest - 1.0);
+        for (std::size_t i = border - window; i < border + 4 * window; ++i)
+            ASSERT_LE(std::fabs(parallel[i] - sound[0][i]), worst * 1.1f);
+    }
+}
+
+TEST(StretchEncoder, MemoryIsBoundByTheStretchesAndNotByTheFile) {
+    // A producer far ahead of the encoders waits: what was appended and has not come out stays below the bound.
+    AacSettings settings;
+    settings.rowOf = {0, 0};
+    settings.workers = 2;
+    settings.stretchPackets = 512;
+    StretchEncoder encoder(settings);
+    std::vector<float> second(44100, 0.1f);
+    std::vector<AacEncoder::Packet> packets;
+    std::size_t out = 0;
+    for (int i = 0; i < 120; ++i) {
+        const std::array<const float*, 2> rows = {second.data(), second.data()};
+        encoder.append(rows.data(), second.size(), packets);
+        out += packets.size();
+        packets.clear();
+        const double in = double(i + 1) * 44100 / 1024;
+        // Packets of a stretch that is ahead of its turn wait, too; they are small.
+        EXPECT_LT(in - double(out), 3 * 512 + 256 + 128);
+    }
+    encoder.finish(packets);
+    EXPECT_EQ(out + packets.size(), std::size_t(120 * 44100 / 1024 + 2));
+}
+
+TEST(StretchEncoder, MayBeDestroyedBeforeTheEnd) {
+    AacSettings settings;
+    settings.rowOf = {0, 1};
+    settings.workers = 3;
+    settings.stretchPackets = 512;
+    StretchEncoder encoder(settings);
+    const Samples sound = strokes(1024 * 800);
+    std::vector<AacEncoder::Packet> packets;
+    const std::array<const float*, 2> rows = {sound[0].data(), sound[1].data()};
+    encoder.append(rows.data(), sound[0].size(), packets);
+    EXPECT_LT(packets.size(), 800u);
+}
