@@ -66,7 +66,8 @@ struct FileWriter::Core {
     std::unique_ptr<PlaneRing> ring;
     std::thread thread;
     bool started = false;
-    bool disposed = false; // by the owner
+    bool disposed = false;       // by the owner
+    std::size_t quietFrames = 0; // pushed since the thread was woken
 
     Signal toThread, toCaller;
     std::atomic<std::int64_t> accepted{0};
@@ -188,17 +189,19 @@ OSStatus FileWriter::write(std::uint32_t frames, const AudioBufferList* data) {
     if (core_->disposed || !core_->client)
         return kMediaInvalidStateError;
     start(true);
-    return push(frames, data);
+    return push(frames, data, framesAtOnce);
 }
 
 OSStatus FileWriter::writeAsync(std::uint32_t frames, const AudioBufferList* data) {
     if (core_->disposed || !core_->client)
         return kMediaInvalidStateError;
     start(false);
-    return push(frames, data);
+    return push(frames, data, 1);
 }
 
-OSStatus FileWriter::push(std::uint32_t frames, const AudioBufferList* data) {
+/// @p wakeAfter: the file's thread is woken when so many frames wait for it. Waking it for each small block would cost
+/// more than the copy.
+OSStatus FileWriter::push(std::uint32_t frames, const AudioBufferList* data, std::size_t wakeAfter) {
     Core& core = *core_;
     if (frames == 0)
         return statusOf(core_->file.firstError());
@@ -225,13 +228,18 @@ OSStatus FileWriter::push(std::uint32_t frames, const AudioBufferList* data) {
         const auto seen = core.toCaller.now();
         const std::size_t taken = core.ring->push(rows.data(), stride, count - done);
         if (taken == 0) {
+            core.toThread.raise();
             core.toCaller.waitFrom(seen);
             continue;
         }
         done += taken;
         for (std::size_t r = 0; r < rowCount; ++r)
             rows[r] = rows[r] ? rows[r] + taken * stride : nullptr;
-        core.toThread.raise();
+        core.quietFrames += taken;
+        if (core.quietFrames >= wakeAfter) {
+            core.quietFrames = 0;
+            core.toThread.raise();
+        }
     }
     core.accepted += std::int64_t(count);
     if (core.from)

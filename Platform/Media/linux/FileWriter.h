@@ -31,7 +31,7 @@ public:
 private:
     struct Core;
     OSStatus start(bool parallel);
-    OSStatus push(std::uint32_t frames, const AudioBufferList* data);
+    OSStatus push(std::uint32_t frames, const AudioBufferList* data, std::size_t wakeAfter);
 
     std::shared_ptr<Core> core_; // shared with the file's thread, which may outlive the writer
 };

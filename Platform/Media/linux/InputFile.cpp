@@ -553,6 +553,7 @@ bool InputFile::seek(std::int64_t frame) {
 bool InputFile::sparseSamples(std::span<const std::int64_t> frames, std::span<float> out) {
     const AVCodecParameters& parameters = *stream_->codecpar;
     constexpr std::int64_t packetFrames = 1024;
+    constexpr int mostPacketBytes = 1 << 14; // a packet of two channels has 1536 at most
     if (!facts_.ownEncoder || facts_.fragmented || !facts_.validFrames || parameters.codec_id != AV_CODEC_ID_AAC ||
         out.size() < frames.size())
         return false;
@@ -584,6 +585,9 @@ bool InputFile::sparseSamples(std::span<const std::int64_t> frames, std::span<fl
         codec->flags2 |= AV_CODEC_FLAG2_SKIP_MANUAL;
         if (avcodec_open2(codec.get(), nullptr, nullptr) < 0)
             return false;
+        // One buffer for all packets: the decoder is done with one before the next is read.
+        if (av_new_packet(packet.get(), mostPacketBytes) < 0)
+            return false;
         std::int64_t decoded = -2;
         for (std::size_t i = from; i < to; ++i) {
             const std::int64_t wanted = frames[i] / packetFrames + 1;
@@ -592,13 +596,14 @@ bool InputFile::sparseSamples(std::span<const std::int64_t> frames, std::span<fl
                                                           : wanted - 1;
                  p <= wanted; ++p) {
                 const Place& place = places[std::size_t(p)];
-                if (place.size <= 0 || av_new_packet(packet.get(), place.size) < 0)
+                if (place.size <= 0 || place.size > mostPacketBytes)
                     return false;
-                const bool read = file_.readAll(place.offset, std::span(packet->data, std::size_t(place.size)));
-                const int sent = read ? avcodec_send_packet(codec.get(), packet.get()) : -1;
-                av_packet_unref(packet.get());
-                if (sent < 0 || avcodec_receive_frame(codec.get(), frame.get()) < 0 ||
-                    frame->format != AV_SAMPLE_FMT_FLTP || frame->nb_samples != packetFrames)
+                packet->size = place.size;
+                std::memset(packet->data + place.size, 0, AV_INPUT_BUFFER_PADDING_SIZE);
+                if (!file_.readAll(place.offset, std::span(packet->data, std::size_t(place.size))) ||
+                    avcodec_send_packet(codec.get(), packet.get()) < 0 ||
+                    avcodec_receive_frame(codec.get(), frame.get()) < 0 || frame->format != AV_SAMPLE_FMT_FLTP ||
+                    frame->nb_samples != packetFrames)
                     return false;
                 decoded = p;
             }
