@@ -120,14 +120,14 @@ OSStatus FileWriter::setConverterChannelMap(std::span<const std::int32_t> map) {
 }
 
 OSStatus FileWriter::continueFrom(ExtAudioFileWriter& predecessor) {
-    const auto* before = dynamic_cast<FileWriter*>(&predecessor);
-    if (core_->started || !core_->client || core_->from || !before || !before->core_->started ||
-        before->core_->disposed || before->core_->sealed)
+    auto* before = dynamic_cast<FileWriter*>(&predecessor);
+    if (core_->started || !core_->client || core_->from || !before || before->core_->disposed || before->core_->sealed)
         return kMediaInvalidStateError;
     Core& other = *before->core_;
     if (core_->client != other.client || core_->format.mSampleRate != other.format.mSampleRate ||
         core_->format.mChannelsPerFrame != other.format.mChannelsPerFrame)
         return kMediaInvalidPropertyError;
+    before->start(false);
     // The rows in the converter are those of the predecessor's channel map.
     core_->map = other.map;
     core_->from = std::make_shared<Handover>();

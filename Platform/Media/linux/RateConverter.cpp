@@ -120,7 +120,9 @@ void ConversionStream::feed(const float* const* rows, std::size_t frames, Planes
     const std::lock_guard lock(mutex_);
     out.clear();
     fed_ += std::int64_t(frames);
+    const std::size_t at = fresh_.frames();
     converter_.feed(rows, frames, fresh_);
+    skipFrom(at);
     distribute(out);
 }
 
@@ -133,8 +135,7 @@ void ConversionStream::cut(std::shared_ptr<CutTail> tail) {
 void ConversionStream::finish(Planes& out) {
     const std::lock_guard lock(mutex_);
     out.clear();
-    converter_.flush(fresh_);
-    fresh_.resize(std::size_t(std::max<std::int64_t>(0, converter_.outputFrames(fed_) - produced_ + skip_)));
+    flushToEnd();
     distribute(out);
 }
 
@@ -142,30 +143,40 @@ void ConversionStream::completeTails() {
     const std::lock_guard lock(mutex_);
     if (segments_.empty())
         return;
-    converter_.flush(fresh_);
-    const std::int64_t end = segments_.back().end;
-    fresh_.resize(std::size_t(end - produced_ + skip_));
-    distribute(fresh_);
-    fresh_.clear();
-    // The new converter begins where the positions of input and output fall together, shortly before the cut.
+    flushToEnd();
+    distribute(fresh_); // what lies behind the last cut stays for the file that goes on
+    // The new converter begins where the positions of input and output fall together, shortly before this place.
     converter_.reset();
     const std::int64_t start = fed_ / converter_.period() * converter_.period();
+    skip_ = converter_.outputFrames(fed_) - converter_.outputFrames(start);
     Planes silence(channels_);
     silence.resize(std::size_t(fed_ - start));
     std::vector<const float*> rows(channels_);
     for (std::size_t c = 0; c < channels_; ++c)
         rows[c] = silence.row(c);
-    skip_ = end - converter_.outputFrames(start);
+    const std::size_t at = fresh_.frames();
     converter_.feed(rows.data(), silence.frames(), fresh_);
+    skipFrom(at);
+}
+
+/// Everything that was fed comes out, as long as it was fed.
+void ConversionStream::flushToEnd() {
+    const std::size_t at = fresh_.frames();
+    converter_.flush(fresh_);
+    skipFrom(at);
+    fresh_.resize(std::size_t(std::max<std::int64_t>(0, converter_.outputFrames(fed_) - produced_)));
+}
+
+/// Of what the converter gave from @p at on, takes away what lies before the place where it was started anew.
+void ConversionStream::skipFrom(std::size_t at) {
+    const auto count = std::min<std::size_t>(std::size_t(skip_), fresh_.frames() - at);
+    fresh_.erase(at, count);
+    skip_ -= std::int64_t(count);
 }
 
 void ConversionStream::distribute(Planes& out) {
     std::size_t from = 0;
     const std::size_t all = fresh_.frames();
-    if (skip_ > 0) {
-        from = std::size_t(std::min<std::int64_t>(skip_, std::int64_t(all)));
-        skip_ -= std::int64_t(from);
-    }
     while (!segments_.empty()) {
         const Segment segment = segments_.front();
         const std::size_t take = std::size_t(std::min<std::int64_t>(segment.end - produced_, std::int64_t(all - from)));
@@ -180,7 +191,7 @@ void ConversionStream::distribute(Planes& out) {
         segments_.pop_front();
     }
     if (&out == &fresh_) {
-        fresh_.dropFront(from);
+        fresh_.erase(0, from);
         return;
     }
     out.append(fresh_, from, all);

@@ -29,9 +29,9 @@ public:
             rows_[c].insert(rows_[c].end(), other.rows_[c].begin() + std::ptrdiff_t(from),
                             other.rows_[c].begin() + std::ptrdiff_t(to));
     }
-    void dropFront(std::size_t frames) {
+    void erase(std::size_t from, std::size_t frames) {
         for (auto& row : rows_)
-            row.erase(row.begin(), row.begin() + std::ptrdiff_t(frames));
+            row.erase(row.begin() + std::ptrdiff_t(from), row.begin() + std::ptrdiff_t(from + frames));
     }
 
 private:
@@ -96,6 +96,8 @@ public:
 
 private:
     void distribute(Planes& out);
+    void flushToEnd();
+    void skipFrom(std::size_t at);
 
     struct Segment {
         std::int64_t end;
@@ -108,7 +110,7 @@ private:
     std::deque<Segment> segments_;
     std::int64_t fed_ = 0;
     std::int64_t produced_ = 0; // frames handed out, to tails and to the current file
-    std::int64_t skip_ = 0;     // frames to drop after a restart
+    std::int64_t skip_ = 0;     // frames that a converter started anew gives too early
 };
 
 } // namespace Platform

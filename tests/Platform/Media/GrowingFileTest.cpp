@@ -296,6 +296,29 @@ TEST_F(Cuts, AFileThatIsClosedBeforeAnythingFollowsEndsThereAndTheNextGoesOnInPl
     EXPECT_GT(signalToError(expected[0], all[0], seam + 500, seam + 40000), 80);
 }
 
+TEST_F(Cuts, AFileThatEndsWhileAFewFramesFollowedKeepsThemInTheNext) {
+    Samples sound = sweep(48000 * 2, 48000);
+    auto first = newWriter(at(u"1.wav"_s), kAudioFileWAVEType, waveFormat(), clientFormat(48000));
+    const auto put = [&](ExtAudioFileWriter& writer, std::size_t from, std::size_t to) {
+        BufferList list(sound, from, to - from);
+        EXPECT_EQ(writer.writeAsync(std::uint32_t(to - from), list.get()), noErr);
+    };
+    put(*first, 0, 40000);
+    auto second = newWriter(at(u"2.wav"_s), kAudioFileWAVEType, waveFormat(), clientFormat(48000));
+    EXPECT_EQ(second->continueFrom(*first), noErr);
+    put(*second, 40000, 40200); // too few for the converter to give the end of the first
+    EXPECT_EQ(first->dispose(), noErr);
+    put(*second, 40200, 96000);
+    EXPECT_EQ(second->dispose(), noErr);
+    const Samples all = laidEndToEnd({at(u"1.wav"_s), at(u"2.wav"_s)});
+    ASSERT_EQ(all[0].size(), 88200u);
+    const Samples expected = sweep(88200, 44100);
+    const auto cut = std::size_t(40000.0 * 44100 / 48000);
+    EXPECT_GT(signalToError(expected[0], all[0], 1000, cut), 50);
+    EXPECT_GT(signalToError(expected[0], all[0], cut, cut + 100), 20);
+    EXPECT_GT(signalToError(expected[0], all[0], cut + 700, 87000), 80);
+}
+
 TEST_F(Cuts, RefuseAFormatOfAnotherKindAndASecondSuccessor) {
     Samples sound = tones(1000);
     auto first = newWriter(at(u"1.wav"_s), kAudioFileWAVEType, waveFormat(), clientFormat());
