@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// Recordings on a real sound server, from playing streams to files of the library.
+#include "tests/support/RecordOnServer.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+class RecordServer : public RecordOnServer {};
+} // namespace
+
+TEST_F(RecordServer, ComputerAudioAloneWaitsForTheFirstSound) {
+    std::atomic<bool> plays{false};
+    TestSource computer(computerAudio(
+        [&](std::uint64_t frame, std::uint32_t) { return plays ? Signal::tone(frame, 440, 48000, 0.25) : 0.0F; }));
+    ASSERT_TRUE(computer.start());
+    ASSERT_TRUE(deviceIsThere(RecordSources::ComputerAudioName));
+    begin(false, true);
+    controller->startAndStopRecord();
+    const auto heardSilence = computer.position() + 24000;
+    ASSERT_TRUE(waitFor([&] { return computer.position() > heardSilence; }));
+    EXPECT_TRUE(controller->isWaittingForSound());
+    EXPECT_EQ(controller->recordState_(), 0);
+    plays = true;
+    ASSERT_TRUE(recorded(1));
+    controller->finishAll();
+    ASSERT_EQ(delegate.paths.size(), 1);
+    const auto samples = decoded(delegate.paths.front());
+    ASSERT_EQ(samples.size(), 2U);
+    const auto first =
+        std::find_if(samples[0].begin(), samples[0].end(), [](float sample) { return std::fabs(sample) > 0.1F; });
+    EXPECT_LT(first - samples[0].begin(), 2048) << "the file begins with the cycle of the first sound";
+    EXPECT_NEAR(AudioCheck::pitchOf(AudioCheck::inner(samples[0], 6000), 44100), 440, 1);
+}
+
+TEST_F(RecordServer, SilencesBetweenSongsCutTheRecording) {
+    constexpr double pitches[] = {330, 550, 770};
+    constexpr std::uint64_t song = 2 * 48000;
+    constexpr std::uint64_t all = 3 * (song + 24000);
+    std::atomic<std::int64_t> begins{-1};
+    TestSource computer(computerAudio([&](std::uint64_t frame, std::uint32_t) {
+        const std::int64_t start = begins;
+        if (start < 0 || frame < std::uint64_t(start) || frame - std::uint64_t(start) >= all)
+            return 0.0F;
+        const std::uint64_t at = frame - std::uint64_t(start);
+        const std::uint64_t number = at / (song + 24000);
+        return at % (song + 24000) < song ? Signal::tone(frame, pitches[number], 48000, 0.25) : 0.0F;
+    }));
+    ASSERT_TRUE(computer.start());
+    ASSERT_TRUE(deviceIsThere(RecordSources::ComputerAudioName));
+    g_SplitTimeMS = 300;
+    defaults.setObject(PreferenceStore::PreferenceFilterKey, 1);
+    defaults.setObject(PreferenceStore::PreferenceFilterTimeKey, u"1"_s);
+    begin(false, true);
+    controller->startAndStopRecord();
+    begins = std::int64_t(computer.position()) + 9600;
+    ASSERT_TRUE(recorded(7.4));
+    controller->finishAll();
+    ASSERT_EQ(delegate.paths.size(), 3) << qPrintable(delegate.paths.join(u' '));
+    double seconds = 0;
+    for (int i = 0; i < 3; ++i) {
+        const auto samples = decoded(delegate.paths.at(i));
+        ASSERT_EQ(samples.size(), 2U);
+        seconds += double(samples[0].size()) / 44100;
+        // Each part holds its song whole, and begins with what was left of the silence before it.
+        const auto loud = [](float sample) { return std::fabs(sample) > 0.05F; };
+        const auto first = std::find_if(samples[0].begin(), samples[0].end(), loud);
+        const auto last = std::find_if(samples[0].rbegin(), samples[0].rend(), loud).base();
+        EXPECT_NEAR(double(last - first) / 44100, 2, 0.03);
+        if (i > 0)
+            EXPECT_NEAR(double(first - samples[0].begin()) / 44100, 0.2, 0.06);
+        const std::vector<float> middle(first + 8192, last - 8192);
+        EXPECT_NEAR(AudioCheck::pitchOf(middle, 44100), pitches[i], 1);
+    }
+    EXPECT_NEAR(seconds, 3 * 2 + 2 * 0.5 + 0.3, 0.1);
+}
+
+TEST_F(RecordServer, NoFrameIsLostOrRepeatedAtCuts) {
+    expectExactCuts(12);
+}
+
+TEST_F(RecordServer, TwoSourcesBecomeOneFileWithBoth) {
+    TestSource microphone({.name = "test.microphone",
+                           .description = "Microphone",
+                           .content = TestSource::Content::Tone,
+                           .frequency = 440});
+    TestSource computer(
+        computerAudio([](std::uint64_t frame, std::uint32_t) { return Signal::tone(frame, 2000, 48000, 0.25); }));
+    ASSERT_TRUE(microphone.start());
+    ASSERT_TRUE(computer.start());
+    ASSERT_TRUE(deviceIsThere(u"Microphone"_s));
+    ASSERT_TRUE(deviceIsThere(RecordSources::ComputerAudioName));
+    begin(true, true);
+    controller->startAndStopRecord();
+    ASSERT_TRUE(recorded(3));
+    controller->finishAll();
+    ASSERT_EQ(delegate.paths.size(), 1) << qPrintable(controller->notices().join(u'\n'));
+    const auto samples = decoded(delegate.paths.front());
+    ASSERT_EQ(samples.size(), 2U);
+    EXPECT_GE(double(samples[0].size()) / 44100, 2.9);
+    const auto middle = AudioCheck::inner(samples[0], 22050);
+    EXPECT_NEAR(strength(middle, 440), 0.25, 0.03);
+    EXPECT_NEAR(strength(middle, 2000), 0.25, 0.03);
+    EXPECT_TRUE(QDir(g_strTmpPath).isEmpty());
+}
+
+TEST_F(RecordServer, WithoutAMicrophoneComputerAudioIsRecordedAndTheInputIsSaidToBeOff) {
+    TestSource computer(
+        computerAudio([](std::uint64_t frame, std::uint32_t) { return Signal::tone(frame, 2000, 48000, 0.25); }));
+    ASSERT_TRUE(computer.start());
+    ASSERT_TRUE(deviceIsThere(RecordSources::ComputerAudioName));
+    begin(true, true);
+    ASSERT_TRUE(controller->deviceNames().isEmpty());
+    controller->startAndStopRecord();
+    ASSERT_TRUE(recorded(1));
+    EXPECT_TRUE(controller->notices().join(u' ').contains(u"The input device is off"_s));
+    controller->finishAll();
+    EXPECT_EQ(delegate.paths.size(), 1);
+}
