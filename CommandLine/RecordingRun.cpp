@@ -35,9 +35,24 @@ QJsonObject described(const QString& path, double seconds) {
     return {{u"path"_s, path}, {u"title"_s, QFileInfo(path).completeBaseName()}, {u"seconds"_s, seconds}};
 }
 
+/// An engine that opens the asked device only: a source that is not recorded costs no stream and no ring.
+class AskedEngine final : public BuildInAudioRecord {
+public:
+    explicit AskedEngine(const RecordingTask& task) : task_(task) {}
+    bool configureAudioUnit(AudioObjectID device) override {
+        const bool asked = isRecordComputerAudio() ? task_.wantsComputerAudio
+                                                   : task_.wantsInput && (task_.device == 0 || task_.device == device);
+        return !asked || BuildInAudioRecord::configureAudioUnit(device);
+    }
+
+private:
+    RecordingTask task_;
+};
+
 } // namespace
 
-RecordingRun::RecordingRun(RecordPreferences& preferences, const RecordingTask& task) : task_(task) {
+RecordingRun::RecordingRun(RecordPreferences& preferences, const RecordingTask& task)
+    : task_(task), controller_([&task] { return std::make_unique<AskedEngine>(task); }) {
     // What the log would say is said above the meter.
     QLoggingCategory::setFilterRules(u"sonaphex.record=false"_s);
     controller_.setDelegate(this);
