@@ -306,7 +306,10 @@ QVariant AudioTableModel::headerData(int section, Qt::Orientation orientation, i
     if (orientation != Qt::Horizontal)
         return {};
     if (role == Qt::TextAlignmentRole)
-        return QVariant((section == Time ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter);
+        return QVariant((section == Time                                         ? Qt::AlignHCenter
+                         : QGuiApplication::layoutDirection() == Qt::RightToLeft ? Qt::AlignRight
+                                                                                 : Qt::AlignLeft) |
+                        Qt::AlignVCenter);
     if (role == Qt::AccessibleTextRole && section == State)
         return tr("State");
     if (role != Qt::DisplayRole)

@@ -76,15 +76,23 @@ void RecordPanel::showState() {
     ui_.popBuiltInDevice_->setEnabled(record_.popUpEnabled());
     ui_.btnBuiltInRecord_->setChecked(record_.builtInChecked());
     ui_.btnComputerAudioRecord_->setChecked(record_.computerAudioChecked());
+    showHealth();
 }
 
 void RecordPanel::showDisplay() {
     display_.setStateString(record_.stateString());
     display_.setStateColor(record_.stateColor());
     display_.setTimeString(record_.timeString());
+    showHealth();
+}
+
+void RecordPanel::showHealth() {
     const auto lost = static_cast<qulonglong>(record_.lostFrames());
-    ui_.lblLostFrames_->setText(lost == 0 ? tr("No frames lost") : tr("%1 frames lost").arg(QLocale().toString(lost)));
-    ui_.lblLostFrames_->setForegroundRole(lost == 0 ? QPalette::PlaceholderText : QPalette::WindowText);
+    // An armed recording counts no time yet; it must not look like none.
+    const bool armed = record_.isStateAudioRecord() && record_.isWaittingForSound();
+    ui_.lblLostFrames_->setText(lost > 0 ? tr("%1 frames lost").arg(QLocale().toString(lost))
+                                         : (armed ? tr("Waiting for sound …") : tr("No frames lost")));
+    ui_.lblLostFrames_->setForegroundRole(lost > 0 || armed ? QPalette::WindowText : QPalette::PlaceholderText);
 }
 
 void RecordPanel::showDevices() {

@@ -29,6 +29,7 @@ public:
 private:
     void showState();
     void showDisplay();
+    void showHealth();
     void showDevices();
     void showNotices();
 

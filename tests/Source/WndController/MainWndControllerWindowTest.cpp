@@ -369,6 +369,22 @@ TEST_F(MainWindow, LostFramesAndNoticesAreShown) {
     world.click("btnSatrtRecord_");
 }
 
+TEST_F(MainWindow, AnArmedRecordingSaysThatItWaits) {
+    PreferenceStore::setPreferenceValue(false, PreferenceStore::ChooseRecordBuiltIn);
+    PreferenceStore::setPreferenceValue(true, PreferenceStore::ChooseRecordComputerAudio);
+    world.open();
+    auto& health = world.outlet<QLabel>("lblLostFrames_");
+    world.click("btnSatrtRecord_");
+    EXPECT_EQ(health.text(), u"Waiting for sound …"_s);
+    EXPECT_TRUE(button("btnPauseRecord_").isEnabled());
+    feed(0.5F, WindowWorld::kComputer);
+    EXPECT_TRUE(waitFor([&] {
+        world.record->recordFlushTime();
+        return health.text() == u"No frames lost"_s;
+    }));
+    world.click("btnSatrtRecord_");
+}
+
 TEST_F(MainWindow, RemembersItsSizeAndColumnsAndIsCentred) {
     world.open({840, 560});
     table().horizontalHeader()->resizeSection(AudioTableModel::Artist, 133);
