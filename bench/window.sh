@@ -1,0 +1,57 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Sonaphex authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+# The main window: from the start of the process to the painted window with a library of 10,000 recordings, the processor
+# time of an idle window with its engines running, and memory; qmmp, a player with Qt windows and an empty list, beside it.
+# Without a sound server on the machine, the start of one of its own is part of our time.
+set -euo pipefail
+
+entries=10000
+runs=${RUNS:-7}
+idle=${IDLE:-10}
+: "${BUILD:?run this through scripts/bench}" "${SCRATCH:?}"
+
+children=()
+cleanup() { for child in "${children[@]}"; do kill "$child" 2>/dev/null || true; wait "$child" 2>/dev/null || true; done; }
+trap cleanup EXIT
+
+Xvfb -displayfd 6 -screen 0 1280x900x24 -nolisten tcp -noreset 6>"$SCRATCH/display" >"$SCRATCH/xvfb.log" 2>&1 &
+children+=($!)
+for _ in $(seq 200); do [ -s "$SCRATCH/display" ] && break; sleep 0.05; done
+DISPLAY=:$(cat "$SCRATCH/display")
+export DISPLAY QT_QPA_PLATFORM=xcb
+
+# One recording after another, as the library stores them.
+mkdir -p "$XDG_CONFIG_HOME"
+awk -v n="$entries" 'BEGIN {
+    print "<?xml version=\"1.0\" encoding=\"UTF-8\"?><plist version=\"1.0\"><dict><key>kMediaLibrarySavedKey</key><dict>"
+    print "<key>ringtones</key><array/><key>records</key><array>"
+    for (i = 0; i < n; i++)
+        printf "<dict><key>AddAudioDate</key><string>2026/11/21</string><key>AddAudioLength</key><real>%d.5</real>" \
+               "<key>AudioSavePath</key><string>/nowhere/Track%d.m4a</string><key>ID3AlbumKey</key><string>NO Album" \
+               "</string><key>ID3ArtistKey</key><string>NO Artist</string><key>ID3GenreKey</key><string>NO General" \
+               "</string><key>ID3TitleKey</key><string>Track%d</string><key>ID3YearKey</key><integer>2012</integer>" \
+               "<key>MediaLibraryNodeDataKey</key><string>/nowhere/Track%d.m4a_%d.5</string></dict>\n", i % 4000, i, i, i, i
+    print "</array></dict></dict></plist>"
+}' >"$XDG_CONFIG_HOME/com.korvane.Sonaphex.plist"
+
+median() { sort -n | awk '{ v[NR] = $1 } END { print v[int((NR + 1) / 2)] }'; }
+
+# The two take turns, so that a machine that is busy for a while is busy for both.
+for _ in $(seq "$runs"); do
+    "$BUILD/bin/bench_window" "$BUILD/bin/sonaphex" >>"$SCRATCH/ours"
+    "$BUILD/bin/bench_window" qmmp >>"$SCRATCH/peer"
+done
+"$BUILD/bin/bench_window" --idle "$idle" "$BUILD/bin/sonaphex" >"$SCRATCH/ours.idle"
+"$BUILD/bin/bench_window" --idle "$idle" qmmp >"$SCRATCH/peer.idle"
+
+report() { # name, ours, peer, unit, aim
+    awk -v name="$1" -v a="$2" -v b="$3" -v unit="$4" -v aim="$5" \
+        'BEGIN { printf "%s: ours %.1f %s, peer %.1f %s, ratio %s (aim %s)\n", name, a, unit, b, unit, (b > 0 ? sprintf("%.2f", a / b) : "-"), aim }'
+}
+read -r _ ours_cpu ours_mb <"$SCRATCH/ours.idle"
+read -r _ peer_cpu peer_mb <"$SCRATCH/peer.idle"
+report "window, start to painted, $entries recordings, beside qmmp" \
+    "$(median <"$SCRATCH/ours")" "$(median <"$SCRATCH/peer")" ms "under 300 ms"
+report "window, idle with both engines running, beside qmmp at rest" "$ours_cpu" "$peer_cpu" "% of a core" "under 2 %"
+report "window, memory, $entries recordings, beside qmmp" "$ours_mb" "$peer_mb" MB "-"
