@@ -48,6 +48,8 @@ struct RecordCommandTest : testing::Test {
     QString err;
     QString folder = dir.filePath(u"recordings"_s);
     QTimer cycles; ///< the device's I/O thread
+    float level = 0.5F;
+    std::function<void()> eachCycle = [] {};
     std::function<void()> afterCycle = [] {};
 
     RecordCommandTest() {
@@ -71,8 +73,14 @@ struct RecordCommandTest : testing::Test {
             auto* unit = hardware.unit();
             if (!unit || !hardware.opened.back()->running)
                 return;
-            for (int i = 0; i < 50; ++i)
-                (void)unit->feedValue(0.5F, 480);
+            for (int i = 0; i < 50; ++i) {
+                eachCycle();
+                clock.advance(0.01);
+                // Both devices give their cycles; one is enough where only one is there.
+                for (const AudioObjectID device : {AudioObjectID(9), hardware.opened.back()->device})
+                    if (auto* each = hardware.unitOf(device); each && (device == 9 || each == unit))
+                        (void)each->feedValue(level, 480, clock.hostTime());
+            }
             afterCycle();
         });
         cycles.start(1);
@@ -238,6 +246,62 @@ TEST_F(RecordCommandTest, SaysWhenTheDeviceOrTheFileCannotBeUsed) {
     EXPECT_EQ(err, u"sonaphex: The input device is not being recorded: the file was told to fail.\n"_s);
     EXPECT_EQ(recordings(), QStringList());
     EXPECT_EQ(temporaries(), QStringList());
+}
+
+TEST_F(RecordCommandTest, RecordsComputerAudioAlone) {
+    EXPECT_EQ(record({u"--computer"_s, u"--for"_s, u"2"_s, u"--filter"_s, u"off"_s}), CommandLine::Done)
+        << qPrintable(err);
+    EXPECT_EQ(recordings(), QStringList{u"Track0.m4a"_s});
+    ASSERT_EQ(media.files.size(), 1U);
+    EXPECT_TRUE(media.last().path.contains(u"ComputerA"_s));
+    EXPECT_EQ(media.last().framesAccepted, 2 * 48000);
+}
+
+TEST_F(RecordCommandTest, TakesTheNameOfTheComputersAudioAsThatSource) {
+    EXPECT_EQ(record({u"--input"_s, u"Korvane System Audio"_s, u"--for"_s, u"1"_s, u"--filter"_s, u"off"_s}),
+              CommandLine::Done);
+    EXPECT_TRUE(media.last().path.contains(u"ComputerA"_s));
+}
+
+TEST_F(RecordCommandTest, SaysWhatIsMissingForComputerAudio) {
+    hardware.remove(9);
+    EXPECT_EQ(record({u"--computer"_s}), CommandLine::Failed);
+    EXPECT_EQ(err, u"sonaphex: computer audio: its driver is not installed (see sonaphex driver install)\n"_s);
+}
+
+TEST_F(RecordCommandTest, EndsAWaitThatHeardNothing) {
+    level = 0;
+    EXPECT_EQ(record({u"--computer"_s, u"--wait"_s, u"0.1"_s, u"--json"_s}), CommandLine::Done);
+    EXPECT_EQ(err, u"sonaphex: no sound came: nothing was recorded\n"_s);
+    const auto document = QJsonDocument::fromJson(out.toUtf8()).object();
+    EXPECT_TRUE(document[u"recordings"_s].toArray().isEmpty());
+    EXPECT_EQ(document[u"dropped"_s].toInt(-1), 0);
+    EXPECT_EQ(recordings(), QStringList());
+    EXPECT_EQ(temporaries(), QStringList());
+}
+
+TEST_F(RecordCommandTest, ASignalWhileWaitingIsNoFailure) {
+    level = 0;
+    afterCycle = [] { std::raise(SIGINT); };
+    EXPECT_EQ(record({u"--computer"_s}), CommandLine::Done);
+    EXPECT_EQ(out, QString());
+}
+
+TEST_F(RecordCommandTest, SplitsAtSilences) {
+    // A second of sound, then half a second of silence, and so on.
+    int cycles = 0;
+    eachCycle = [&] { level = cycles++ / 50 % 3 < 2 ? 0.5F : 0; };
+    EXPECT_EQ(
+        record({u"--computer"_s, u"--split"_s, u"300"_s, u"--for"_s, u"4.4"_s, u"--filter"_s, u"off"_s, u"--json"_s}),
+        CommandLine::Done)
+        << qPrintable(err);
+    const auto document = QJsonDocument::fromJson(out.toUtf8()).object();
+    EXPECT_EQ(document[u"recordings"_s].toArray().size(), 3 + 1) << "the last part begins in the third silence";
+    std::int64_t frames = 0;
+    for (const auto& file : media.files)
+        frames += file->framesAccepted;
+    EXPECT_NEAR(double(frames), 4.4 * 48000, 480) << "the limit counts all files";
+    EXPECT_GE(frames, std::int64_t(4.4 * 48000));
 }
 
 TEST_F(RecordCommandTest, AnswersWrongUsageWithTheUsage) {
