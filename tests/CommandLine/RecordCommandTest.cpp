@@ -77,7 +77,7 @@ struct RecordCommandTest : testing::Test {
                 eachCycle();
                 clock.advance(0.01);
                 // Both devices give their cycles; one is enough where only one is there.
-                for (const AudioObjectID device : {AudioObjectID(9), hardware.opened.back()->device})
+                for (const AudioObjectID device : std::set{AudioObjectID(9), hardware.opened.back()->device})
                     if (auto* each = hardware.unitOf(device); each && (device == 9 || each == unit))
                         (void)each->feedValue(level, 480, clock.hostTime());
             }
