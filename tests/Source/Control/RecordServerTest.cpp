@@ -68,8 +68,9 @@ TEST_F(RecordServer, SilencesBetweenSongsCutTheRecording) {
         const auto first = std::find_if(samples[0].begin(), samples[0].end(), loud);
         const auto last = std::find_if(samples[0].rbegin(), samples[0].rend(), loud).base();
         EXPECT_NEAR(double(last - first) / 44100, 2, 0.03);
-        if (i > 0)
+        if (i > 0) {
             EXPECT_NEAR(double(first - samples[0].begin()) / 44100, 0.2, 0.06);
+        }
         const std::vector<float> middle(first + 8192, last - 8192);
         EXPECT_NEAR(AudioCheck::pitchOf(middle, 44100), pitches[i], 1);
     }
