@@ -46,6 +46,19 @@ line "record: processor seconds a minute (pw-record, WAVE, encodes nothing)" \
 line "record: peak memory (ffmpeg)" "$(peak <<<"$ours")" "$(peak <<<"$ffmpeg")" MB "none"
 line "record: peak memory (a program of Qt Core alone)" "$(peak <<<"$ours")" "$(peak <<<"$core")" MB "30 MB more"
 
+# Pages that nobody shares with it, in the middle of a recording: what it costs a machine that runs other programs too.
+private() {
+    "$@" >/dev/null 2>&1 &
+    local recorder=$!
+    sleep 3
+    awk '/RssAnon/ { printf "%.1f", $2 / 1024 }' "/proc/$recorder/status"
+    kill -INT "$recorder"
+    wait "$recorder" || true
+}
+line "record: private memory (ffmpeg)" \
+    "$(private "$bin/sonaphex" record --input "Test Tone" --filter off --folder "$SCRATCH/out")" \
+    "$(private ffmpeg -v error -f pulse -i sonaphex.tone -c:a aac -y "$SCRATCH/peer.m4a")" MB "30 MB"
+
 # From the start of the process to the capture of its first frame; the middle one of nine, the machine does other things.
 starts=()
 for _ in $(seq 9); do
