@@ -32,6 +32,9 @@ public:
     /// @p x in points from the view's left edge, not from the bar's.
     void setAudioPosition(double x);
 
+    /// A drag on the bar seeks; it never moves the window.
+    [[nodiscard]] bool mouseDownCanMoveWindow() const { return false; }
+
     [[nodiscard]] QSize sizeHint() const override { return {240, 20}; }
     [[nodiscard]] QSize minimumSizeHint() const override { return {80, 20}; }
 

@@ -260,8 +260,10 @@ void PreferenceWndController::flushExistSystemAudioRecordDevice() {
 }
 
 void PreferenceWndController::insertTheSystemAudioRecordDevice() {
-    if (device_.isBusy())
+    if (device_.isBusy()) {
+        flushLater();
         return;
+    }
     showDeviceWork(tr("Installing the computer-audio device…"));
     const bool installed = device_.install();
     showDeviceWork({});
@@ -277,8 +279,10 @@ void PreferenceWndController::insertTheSystemAudioRecordDevice() {
 }
 
 void PreferenceWndController::unInsertTheSystemAudioRecordDevice() {
-    if (device_.isBusy())
+    if (device_.isBusy()) {
+        flushLater();
         return;
+    }
     showDeviceWork(tr("Removing the computer-audio device…"));
     static_cast<void>(device_.uninstall());
     showDeviceWork({});
