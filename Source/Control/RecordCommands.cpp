@@ -7,7 +7,7 @@
 #include "Platform/Foundation/Services.h"
 #include "Source/Control/RecordStateControllerPrivate.h"
 
-#include <QEventLoop>
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <cmath>
@@ -124,13 +124,9 @@ void RecordStateController::finishAll() {
         d->isRecordingFlushTheFace(false);
     }
     d->showLosses();
-    QEventLoop loop;
-    connect(d->queue.get(), &RecordQueue::queueChanged, &loop, [this, &loop] {
-        if (d->queue->count() == 0)
-            loop.quit();
-    });
-    if (d->queue->count() > 0)
-        loop.exec(QEventLoop::ExcludeUserInputEvents);
+    // Not an event loop of its own: that would end at once when the program is quitting already.
+    while (d->queue->count() > 0)
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
 }
 
 void RecordStateController::clientRecievedBuiltInAudioData(float level) {

@@ -6,8 +6,8 @@
 
 #include "tests/Source/Control/RecordFixture.h"
 
-#include <sys/stat.h>
-#include <unistd.h>
+#include <csignal>
+#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -185,6 +185,46 @@ TEST_F(RecordQueueTest, AFolderWithoutPermissionSetsTheRecordingAside) {
     ASSERT_TRUE(queueDone());
     EXPECT_EQ(unfinished(), QStringList{u"Track0.m4a"_s});
     EXPECT_TRUE(noticed(u"could not be saved in"_s));
+}
+
+TEST_F(RecordQueueTest, ADiskThatTakesNoMoreSetsTheRecordingAside) {
+    // The recordings lie on another file system, so that the move has to write.
+    QTemporaryDir other(u"/dev/shm/sonaphex-XXXXXX"_s);
+    ASSERT_TRUE(other.isValid());
+    defaults.setObject(PreferenceStore::PreferenceSavePathKey, other.path());
+    addMicrophone();
+    begin();
+    controller->startAndStopRecord();
+    play(Microphone, 0.5F, 6);
+    makeFile(media.last().path, QByteArray(200000, 'x'));
+    {
+        const auto before = std::signal(SIGXFSZ, SIG_IGN);
+        rlimit limit{};
+        getrlimit(RLIMIT_FSIZE, &limit);
+        const rlimit tight{100000, limit.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &tight);
+        controller->startAndStopRecord();
+        EXPECT_TRUE(queueDone());
+        setrlimit(RLIMIT_FSIZE, &limit);
+        std::signal(SIGXFSZ, before);
+    }
+    EXPECT_TRUE(delegate.paths.isEmpty());
+    EXPECT_EQ(unfinished(), QStringList{u"Track0.m4a"_s});
+    EXPECT_EQ(QFileInfo(Platform::FileManager::unfinishedFolder() + u"/Track0.m4a"_s).size(), 200000);
+    EXPECT_TRUE(QDir(other.path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+    EXPECT_TRUE(noticed(u"could not be saved in"_s));
+}
+
+TEST_F(RecordQueueTest, ARecordingReachesAnotherFileSystem) {
+    QTemporaryDir other(u"/dev/shm/sonaphex-XXXXXX"_s);
+    ASSERT_TRUE(other.isValid());
+    defaults.setObject(PreferenceStore::PreferenceSavePathKey, other.path());
+    addMicrophone();
+    begin();
+    record();
+    ASSERT_TRUE(queueDone());
+    EXPECT_EQ(delegate.paths, QStringList{other.filePath(u"Track0.m4a"_s)});
+    EXPECT_TRUE(rawFiles().isEmpty());
 }
 
 TEST_F(RecordQueueTest, TwoRecordingsThatWereSetAsideDoNotMeet) {

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/RecordMix.h"
 #include "tests/support/RecordOnServer.h"
 
 namespace {
@@ -8,4 +9,8 @@ class RecordSoak : public RecordOnServer {};
 
 TEST_F(RecordSoak, NoFrameIsLostOrRepeatedAtTwoHundredCuts) {
     expectExactCuts(200);
+}
+
+TEST_F(RecordMix, SourcesStayTogetherForTenMinutes) {
+    expectTogether(600);
 }
