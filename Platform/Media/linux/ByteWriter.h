@@ -30,7 +30,8 @@ public:
         return *this;
     }
     ByteWriter& code(const char (&letters)[5]) {
-        bytes_.insert(bytes_.end(), letters, letters + 4);
+        for (int i = 0; i < 4; ++i)
+            u8(std::uint8_t(letters[i]));
         return *this;
     }
     ByteWriter& text(const char* characters) {

@@ -17,7 +17,8 @@ constexpr std::uint32_t waveLimit = 0xffffffff;
 class LittleEndian {
 public:
     LittleEndian& code(const char (&letters)[5]) {
-        bytes_.insert(bytes_.end(), letters, letters + 4);
+        for (int i = 0; i < 4; ++i)
+            bytes_.push_back(std::uint8_t(letters[i]));
         return *this;
     }
     LittleEndian& number(std::uint64_t value, int size) {

@@ -46,7 +46,10 @@ inline void readDamagedFiles(int count, unsigned seed) {
         const auto size = std::size_t(bytes.size());
         const bool inHeader = random() % 2 == 0;
         for (std::size_t hits = 1 + below(20); hits > 0; --hits) {
-            const auto where = qsizetype(inHeader ? below(std::min<std::size_t>(size, 700)) : below(size));
+            const auto left = std::size_t(bytes.size());
+            if (left == 0)
+                break;
+            const auto where = qsizetype(inHeader ? below(std::min<std::size_t>(left, 700)) : below(left));
             switch (random() % 4) {
             case 0:
                 bytes[where] = char(random());
