@@ -19,7 +19,7 @@ namespace {
 constexpr std::size_t ringSeconds = 4;
 constexpr std::size_t framesAtOnce = 8192;
 /// Waiting samples of a parallel encoding stay below this, whatever the length of the file.
-constexpr std::int64_t stretchBytes = 85'000'000;
+constexpr std::int64_t stretchBytes = 64'000'000;
 constexpr int shortestStretchSeconds = 120;
 
 using namespace std::chrono_literals;
@@ -167,7 +167,7 @@ OSStatus FileWriter::start(bool parallel) {
         const auto cores = std::int64_t(std::max(1u, std::thread::hardware_concurrency()));
         settings.workers = parallel ? int(std::min(cores, affordable)) : 1;
         // Few threads get longer stretches: each costs a warm-up.
-        const std::int64_t longest = stretchBytes / (packetBytes * std::max(2, settings.workers));
+        const std::int64_t longest = stretchBytes * 2 / 3 / (packetBytes * std::max(1, settings.workers - 1));
         settings.stretchPackets = std::max(shortest, longest);
         core.sink = createAacSink(
             core.file, core.fileType == kAudioFileCAFType ? createCafFile(core.file) : createMpeg4File(core.file),
