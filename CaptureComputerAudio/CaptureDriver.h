@@ -8,7 +8,7 @@
 /// the sound server. Main thread.
 namespace CaptureDriver {
 
-inline constexpr int kPatienceMs = 1000;
+inline constexpr int kPatienceMs = 5000;
 
 /// The driver's program inside a bundle.
 [[nodiscard]] QString programIn(const QString& bundlePath);

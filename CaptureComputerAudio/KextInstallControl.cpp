@@ -22,6 +22,8 @@ namespace {
 
 const auto kBundleName = u"ComputerAudioCapture.kext"_s;
 QString extensionsFolder = u"/usr/local/lib/com.korvane.Sonaphex/Extensions"_s;
+/// How long a launch may be held up; a device that comes later is found when it comes.
+constexpr int kLaunchPatienceMs = 1000;
 QString whyFailed;
 bool busy = false;
 
@@ -131,7 +133,7 @@ bool loadIfInstalled() {
     if (CaptureDriver::isLoaded())
         return true;
     QString why;
-    return isExist() && CaptureDriver::load(installedBundlePath(), why);
+    return isExist() && CaptureDriver::load(installedBundlePath(), why, kLaunchPatienceMs);
 }
 
 ExtensionsFolderScope::ExtensionsFolderScope(const QString& folder) : before_(extensionsFolder) {

@@ -93,6 +93,9 @@ private:
     };
 
     void quit() { pw_main_loop_quit(loop_.get()); }
+    void leave();
+    void onSteered(const std::string& key, const std::string& value);
+    void bindMetadata(std::uint32_t id);
     void createNode();
     void onGlobal(std::uint32_t id, const char* type, const spa_dict* properties);
     void onGlobalRemoved(std::uint32_t id);
@@ -123,9 +126,12 @@ private:
     std::uint32_t metadataId_ = SPA_ID_INVALID;
     std::uint32_t ownId_ = SPA_ID_INVALID;
     bool created_ = false;
+    bool listening_ = false;
+    bool leaving_ = false;
     std::map<std::uint32_t, Node> nodes_;
     std::map<std::uint32_t, Port> ports_;
     std::map<Ports, Link> links_;
+    std::map<std::pair<std::uint32_t, std::string>, std::string> stale_; ///< by number and key
     std::string defaultOutput_;
     std::string steering_; ///< a registry path; the key itself takes nothing; empty follows the default output
 };
@@ -149,7 +155,7 @@ bool Driver::start(const std::string& configuration) {
         std::fprintf(stderr, "CaptureDriver: no sound server: %s\n", strerror(errno));
         return false;
     }
-    const auto stop = [](void* data, int) { static_cast<Driver*>(data)->quit(); };
+    const auto stop = [](void* data, int) { static_cast<Driver*>(data)->leave(); };
     interrupt_ = LoopSource(loop, pw_loop_add_signal(loop, SIGINT, stop, this));
     termination_ = LoopSource(loop, pw_loop_add_signal(loop, SIGTERM, stop, this));
 
@@ -158,7 +164,11 @@ bool Driver::start(const std::string& configuration) {
         .done =
             [](void* data, uint32_t id, int sequence) {
                 auto* self = static_cast<Driver*>(data);
-                if (id == PW_ID_CORE && sequence == self->pendingSync_)
+                if (id != PW_ID_CORE || sequence != self->pendingSync_)
+                    return;
+                if (self->leaving_)
+                    self->quit();
+                else
                     self->reconcile();
             },
         .error =
@@ -199,10 +209,6 @@ void Driver::createNode() {
             [](void* data, uint32_t id) {
                 auto* self = static_cast<Driver*>(data);
                 self->ownId_ = id;
-                // Numbers of nodes are used again: what was said to another node under this one is not for us.
-                if (self->metadata_)
-                    for (const char* key : {kPathKey, kQuitKey})
-                        pw_metadata_set_property(self->metadata_.get(), id, key, nullptr, nullptr);
                 self->lookAgain();
             },
         .removed = [](void* data) { static_cast<Driver*>(data)->quit(); },
@@ -221,22 +227,27 @@ void Driver::onGlobal(std::uint32_t id, const char* type, const spa_dict* proper
                       text(properties, PW_KEY_AUDIO_CHANNEL)};
     } else if (strcmp(type, PW_TYPE_INTERFACE_Metadata) == 0 && text(properties, PW_KEY_METADATA_NAME) == "default" &&
                !metadata_) {
-        metadata_.reset(static_cast<pw_metadata*>(
-            pw_registry_bind(registry_.get(), id, PW_TYPE_INTERFACE_Metadata, PW_VERSION_METADATA, 0)));
-        metadataId_ = id;
-        static constexpr pw_metadata_events events = {
-            .version = PW_VERSION_METADATA_EVENTS,
-            .property =
-                [](void* data, uint32_t subject, const char* key, const char*, const char* value) {
-                    static_cast<Driver*>(data)->onMetadata(subject, key, value);
-                    return 0;
-                },
-        };
-        pw_metadata_add_listener(metadata_.get(), metadataListener_.get(), &events, this);
+        bindMetadata(id);
     } else {
         return;
     }
     lookAgain();
+}
+
+void Driver::bindMetadata(std::uint32_t id) {
+    metadataListener_.remove();
+    metadata_.reset(static_cast<pw_metadata*>(
+        pw_registry_bind(registry_.get(), id, PW_TYPE_INTERFACE_Metadata, PW_VERSION_METADATA, 0)));
+    metadataId_ = id;
+    static constexpr pw_metadata_events events = {
+        .version = PW_VERSION_METADATA_EVENTS,
+        .property =
+            [](void* data, uint32_t subject, const char* key, const char*, const char* value) {
+                static_cast<Driver*>(data)->onMetadata(subject, key, value);
+                return 0;
+            },
+    };
+    pw_metadata_add_listener(metadata_.get(), metadataListener_.get(), &events, this);
 }
 
 void Driver::onGlobalRemoved(std::uint32_t id) {
@@ -250,14 +261,41 @@ void Driver::onGlobalRemoved(std::uint32_t id) {
         lookAgain();
 }
 
+/// Takes back what was said to this node: its number will be another's. What the number's former owner was told came
+/// before our node was made and is not listened to.
+void Driver::leave() {
+    leaving_ = true;
+    if (metadata_ && ownId_ != SPA_ID_INVALID)
+        for (const char* key : {kPathKey, kQuitKey})
+            pw_metadata_set_property(metadata_.get(), ownId_, key, nullptr, nullptr);
+    lookAgain();
+}
+
+void Driver::onSteered(const std::string& key, const std::string& value) {
+    if (const auto before = stale_.find({ownId_, key}); before != stale_.end()) {
+        if (before->second == value)
+            return;
+        stale_.erase(before);
+    }
+    if (key == kPathKey)
+        steering_ = value;
+    else if (!value.empty())
+        leave();
+    lookAgain();
+}
+
 void Driver::onMetadata(std::uint32_t subject, const char* key, const char* value) {
+    if (leaving_)
+        return;
     if (subject == PW_ID_CORE && key && strcmp(key, "default.audio.sink") == 0) {
         defaultOutput_ = value ? nameIn(value) : "";
-    } else if (subject == ownId_ && ownId_ != SPA_ID_INVALID) {
-        if (!key || strcmp(key, kPathKey) == 0)
-            steering_ = key && value ? value : "";
-        else if (strcmp(key, kQuitKey) == 0 && value)
-            quit();
+    } else if (key && (strcmp(key, kPathKey) == 0 || strcmp(key, kQuitKey) == 0)) {
+        // Until our node is made, all that is said is said to others, under a number that may become ours.
+        if (!created_)
+            stale_[{subject, key}] = value ? value : "";
+        else if (subject == ownId_)
+            onSteered(key, value ? value : "");
+        return;
     } else {
         return;
     }
@@ -370,6 +408,15 @@ void Driver::reconcile() {
     if (!created_) {
         if (metadata_)
             createNode();
+        return;
+    }
+    if (!listening_ && ownId_ != SPA_ID_INVALID) {
+        // The server tells nobody of an object that he does not know of yet, so what was said to our node in its first
+        // moments is lost. Asked now, it tells all.
+        listening_ = true;
+        if (metadataId_ != SPA_ID_INVALID)
+            bindMetadata(metadataId_);
+        lookAgain();
         return;
     }
     std::erase_if(links_, [](const auto& each) { return each.second.gone; });

@@ -36,7 +36,7 @@ protected:
         services.bundle = &bundle;
     }
     ~ComputerAudio() override {
-        EXPECT_TRUE(CaptureDriver::unload());
+        EXPECT_TRUE(CaptureDriver::unload(20000));
         second.closeWriteChannel();
         second.terminate();
         second.waitForFinished();
@@ -206,7 +206,8 @@ TEST_F(ComputerAudio, FallsBackToTheDefaultOutputWhenItsOwnIsPulledOut) {
     ASSERT_TRUE(waitFor([&] { return capture.recentPeak(480) == 0; }));
     second.closeWriteChannel();
     second.terminate();
-    EXPECT_TRUE(waitFor([&] { return capture.recentPeak(480) == 0.5F; }));
+    EXPECT_TRUE(waitFor([&] { return capture.recentPeak(480) == 0.5F; }))
+        << capture.recentPeak(480) << qPrintable(defaultOutput()) << deviceNamed(u"Second Output"_s);
 }
 
 TEST_F(ComputerAudio, IsNotTheMicrophoneOfOthersWhenThereIsOne) {
@@ -239,8 +240,9 @@ TEST_F(ComputerAudio, IsInstalledLoadedAndRemovedWithTheRealDriver) {
 
     // What is installed and not running comes up with the program.
     ASSERT_TRUE(KextInstallControl::install());
-    ASSERT_TRUE(CaptureDriver::unload());
-    EXPECT_TRUE(KextInstallControl::loadIfInstalled());
+    ASSERT_TRUE(CaptureDriver::unload(20000));
+    KextInstallControl::loadIfInstalled(); // on a busy machine it comes after the launch
+    EXPECT_TRUE(waitFor([&] { return CaptureDriver::isLoaded(); }));
     EXPECT_NE(deviceNamed(u"Korvane System Audio"_s), 0U);
 }
 
