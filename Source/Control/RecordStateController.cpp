@@ -68,6 +68,7 @@ RecordStateController::RecordStateController(EngineFactory factory, QObject* par
     connect(d->queue.get(), &RecordQueue::noticed, this, [this](const QString& text) { d->notice(text); });
 
     connect(&d->recordTimerForTime_, &QTimer::timeout, this, &RecordStateController::recordFlushTime);
+    d->recordTimerForTime_.setTimerType(Qt::PreciseTimer);
     d->recordTimerForTime_.setInterval(500);
 }
 

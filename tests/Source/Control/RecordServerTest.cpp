@@ -2,7 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // Recordings on a real sound server, from playing streams to files of the library.
+#include "CaptureComputerAudio/CaptureDriver.h"
+#include "Platform/Audio/linux/DeviceRegistry.h"
 #include "tests/support/RecordOnServer.h"
+
+#include <QProcess>
 
 using namespace Qt::StringLiterals;
 
@@ -118,4 +122,69 @@ TEST_F(RecordServer, WithoutAMicrophoneComputerAudioIsRecordedAndTheInputIsSaidT
     EXPECT_TRUE(controller->notices().join(u' ').contains(u"The input device is off"_s));
     controller->finishAll();
     EXPECT_EQ(delegate.paths.size(), 1);
+}
+
+TEST_F(RecordServer, TheRecordingFollowsTheUserToAnotherOutput) {
+    QString why;
+    ASSERT_TRUE(
+        CaptureDriver::load(QStringLiteral(SONAPHEX_BIN_DIR "/Resources/ComputerAudioCapture.kext"), why, 10000))
+        << qPrintable(why);
+    QProcess second;
+    second.start(u"pw-cli"_s, QStringList());
+    second.write("create-node adapter { factory.name=support.null-audio-sink node.name=test.second "
+                 "node.description=\"Second Output\" media.class=Audio/Sink audio.position=[FL FR] "
+                 "priority.session=1 }\n");
+    const auto outputIsThere = [&](const QString& wanted) {
+        return waitFor([&] {
+            QString name;
+            for (const auto device : hardware->devices())
+                if (hardware->getDeviceName(device, name) == noErr && name == wanted)
+                    return true;
+            return false;
+        });
+    };
+    ASSERT_TRUE(outputIsThere(u"Second Output"_s));
+    // Two programs play, each to its own output.
+    const auto playing = [](const std::string& name, const std::string& target, double pitch) {
+        TestSource::Options options;
+        options.name = name;
+        options.target = target;
+        options.sample = [pitch](std::uint64_t frame, std::uint32_t) {
+            return Signal::tone(frame, pitch, 48000, 0.25);
+        };
+        return options;
+    };
+    TestPlayer one(playing("test.one", "sonaphex.output", 440));
+    TestPlayer other(playing("test.other", "test.second", 2000));
+    ASSERT_TRUE(one.start());
+    ASSERT_TRUE(other.start());
+
+    begin(false, true);
+    controller->startAndStopRecord();
+    ASSERT_TRUE(recorded(1.5));
+    (void)Platform::DeviceRegistry::shared()->setMetadata(0, "default.configured.audio.sink", "Spa:String:JSON",
+                                                          "{\"name\":\"test.second\"}");
+    ASSERT_TRUE(recorded(4));
+    controller->finishAll();
+    controller.reset();
+    EXPECT_TRUE(CaptureDriver::unload());
+    (void)Platform::DeviceRegistry::shared()->setMetadata(0, "default.configured.audio.sink", "Spa:String:JSON",
+                                                          "{\"name\":\"sonaphex.output\"}");
+    second.closeWriteChannel();
+    second.terminate();
+    second.waitForFinished();
+
+    ASSERT_EQ(delegate.paths.size(), 1);
+    const auto samples = decoded(delegate.paths.front());
+    ASSERT_EQ(samples.size(), 2U);
+    const auto& left = samples[0];
+    EXPECT_GT(strength({left.begin() + 4410, left.begin() + 44100}, 440), 0.2);
+    EXPECT_GT(strength({left.end() - 44100, left.end() - 4410}, 2000), 0.2);
+    int quiet = 0;
+    int longest = 0;
+    for (const float sample : left) {
+        quiet = std::fabs(sample) < 0.01F ? quiet + 1 : 0;
+        longest = std::max(longest, quiet);
+    }
+    EXPECT_LT(longest, 44100 / 5) << "frames of silence";
 }

@@ -457,6 +457,18 @@ TEST_F(RecordStateControllerTest, WithoutAnySourceTheUserIsToldAndNoNameIsKept) 
     EXPECT_EQ(controller->getAudioRecordPath(), track(0));
 }
 
+TEST_F(RecordStateControllerTest, ALossOfOneOfTwoSourcesBecomesSilenceSoThatTheyStayTogether) {
+    beginWithBoth();
+    controller->startAndStopRecord();
+    for (const auto& unit : hardware.opened)
+        EXPECT_TRUE(unit->fillsLost);
+    controller->startAndStopRecord();
+    controller->chooseRecordComputerAudio(false);
+    controller->startAndStopRecord();
+    for (const auto& unit : hardware.opened)
+        EXPECT_FALSE(unit->fillsLost) << "alone, a recording leaves out what it lost";
+}
+
 TEST_F(RecordStateControllerTest, LostFramesAreCountedAndTold) {
     addMicrophone();
     begin();
