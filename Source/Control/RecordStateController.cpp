@@ -368,13 +368,15 @@ void RecordStateController::Private::changed() {
 }
 
 /// Always later: it is also said with the mutex locked, and who hears of it asks for the state.
-void RecordStateController::Private::notice(const QString& text) {
-    Platform::MainQueue::post([this, guard = std::weak_ptr<int>(alive), text] {
+void RecordStateController::Private::notice(const QString& text, const QString& replaces) {
+    Platform::MainQueue::post([this, guard = std::weak_ptr<int>(alive), text, replaces] {
         if (guard.expired())
             return;
         qCWarning(recordLog, "%s", qUtf8Printable(text));
         if (!notices_.isEmpty() && notices_.last() == text)
             return;
+        if (!replaces.isEmpty())
+            notices_.removeAll(replaces);
         notices_.append(text);
         if (notices_.size() > MostNotices)
             notices_.removeFirst();
@@ -411,9 +413,12 @@ void RecordStateController::Private::showLosses() {
         lost.frames += lostBefore_.frames;
         lost.seconds += lostBefore_.seconds;
     }
-    if (lost.frames != lostShown_ && lost.frames > 0)
-        notice(u"%1 frames (%2 s) were lost before they could be written"_s.arg(QString::number(lost.frames),
-                                                                                QString::number(lost.seconds, 'f', 3)));
+    if (lost.frames != lostShown_ && lost.frames > 0) {
+        const QString before = lostShown_ > 0 ? lossNotice_ : QString();
+        lossNotice_ = u"%1 frames (%2 s) were lost before they could be written"_s.arg(
+            QString::number(lost.frames), QString::number(lost.seconds, 'f', 3));
+        notice(lossNotice_, before);
+    }
     lostShown_ = lost.frames;
 
     const QString problem = q->writeProblem();

@@ -94,11 +94,13 @@ struct RecordStateController::Private {
     QString convertTip_;
     QStringList notices_;
     std::uint64_t lostShown_ = 0;
+    QString lossNotice_; ///< of the recording at hand: a growing loss is one notice, not one each time
     bool writeProblemShown_ = false;
 
     void onMain(std::function<void()> work);
     void changed();
-    void notice(const QString& text);
+    /// @param replaces the notice that this one brings up to date, if any
+    void notice(const QString& text, const QString& replaces = {});
     void deviceEvent(Platform::InputUnit::Event event, const RecordSource& source);
     void showLosses();
 

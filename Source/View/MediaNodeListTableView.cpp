@@ -38,7 +38,7 @@ QMenu* MediaNodeListTableView::menuForEvent(QContextMenuEvent& event) {
         if (!under.isValid())
             clearSelection();
         else if (!selectionModel()->isRowSelected(under.row()))
-            selectRow(under.row());
+            selectionModel()->setCurrentIndex(under, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     }
     return delegate_ ? delegate_->menuForEvent(event) : nullptr;
 }

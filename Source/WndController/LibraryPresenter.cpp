@@ -175,8 +175,10 @@ bool LibraryPresenter::selectFile(const QString& path) {
     }
     if (row < 0)
         return false;
-    table_.selectRow(row);
-    table_.scrollTo(tableModel_->index(row, AudioTableModel::Title));
+    // Not selectRow(): with a key held, as for a shortcut, that would add to the selection.
+    const QModelIndex entry = tableModel_->index(row, AudioTableModel::Title);
+    table_.selectionModel()->setCurrentIndex(entry, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    table_.scrollTo(entry);
     return true;
 }
 

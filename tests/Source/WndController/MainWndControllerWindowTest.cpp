@@ -47,6 +47,9 @@ protected:
         QTest::mouseClick(world.controller->window()->windowHandle(), Qt::LeftButton, keys,
                           viewport->mapTo(world.controller->window(), place));
     }
+    [[nodiscard]] qsizetype controllerSelection() const {
+        return world.controller->library().tableViewSelectionAudioArray().size();
+    }
     void key(int code, Qt::KeyboardModifiers keys = {}) {
         QTest::keyClick(world.controller->window()->windowHandle(), Qt::Key(code), keys);
     }
@@ -109,6 +112,20 @@ TEST_F(MainWindow, AFinishedRecordingIsSelectedAndItsPathShown) {
     EXPECT_EQ(world.controller->library().tableViewSelectionAudio().value(AudioRecordEntry::Title), u"Track0"_s);
     EXPECT_EQ(world.controller->library().libraryViewSelectedNode()->key(), u"new-record"_s);
     EXPECT_EQ(status(), world.folder.filePath(u"music/Track0.m4a"_s));
+}
+
+TEST_F(MainWindow, AShortcutThatIsStillHeldDoesNotAddTheNewEntryToTheSelection) {
+    addRecording(u"Old"_s);
+    world.open();
+    showAll();
+    clickRow(0);
+    world.click("btnSatrtRecord_");
+    feed(0.5F);
+    QTest::keyPress(world.controller->window()->windowHandle(), Qt::Key_Control);
+    key(Qt::Key_R, Qt::ControlModifier);
+    ASSERT_TRUE(waitFor([&] { return status() == world.folder.filePath(u"music/Track0.m4a"_s); }));
+    EXPECT_EQ(controllerSelection(), 1);
+    QTest::keyRelease(world.controller->window()->windowHandle(), Qt::Key_Control);
 }
 
 TEST_F(MainWindow, ARecordingThatTheFilterDropsIsSaidSo) {
@@ -363,7 +380,12 @@ TEST_F(MainWindow, LostFramesAndNoticesAreShown) {
         state->lost = 480;
     world.record->recordFlushTime();
     ASSERT_TRUE(waitFor([&] { return lost.text().startsWith(u"480"_s); }));
-    EXPECT_TRUE(waitFor([&] { return !controller.display().notices().isEmpty(); }));
+    EXPECT_TRUE(waitFor([&] { return controller.display().notices().size() == 1; }));
+    for (const auto& state : world.hardware.opened)
+        state->lost = 960;
+    world.record->recordFlushTime();
+    ASSERT_TRUE(waitFor([&] { return controller.display().notices().value(0).startsWith(u"960"_s); }));
+    EXPECT_EQ(controller.display().notices().size(), 1) << "a loss that grows is one notice";
     Q_EMIT controller.display().noticesDismissed();
     EXPECT_TRUE(world.record->notices().isEmpty());
     world.click("btnSatrtRecord_");
