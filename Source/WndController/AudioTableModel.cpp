@@ -76,8 +76,8 @@ QString AudioTableModel::identifier(int column) {
     return names.value(column);
 }
 
-void AudioTableModel::setNode(const MediaLibraryNode* node) {
-    node_ = node;
+void AudioTableModel::setNode(std::shared_ptr<const MediaLibraryNode> node) {
+    node_ = std::move(node);
     takeLeafAnew();
 }
 

@@ -7,6 +7,7 @@
 #include <QAbstractTableModel>
 #include <QThreadPool>
 
+#include <memory>
 #include <vector>
 
 class MediaLibrary;
@@ -29,7 +30,7 @@ public:
     [[nodiscard]] static QString identifier(int column);
 
     /// Shows the entries of a leaf; null shows none.
-    void setNode(const MediaLibraryNode* node);
+    void setNode(std::shared_ptr<const MediaLibraryNode> node);
     /// Takes over now what the library has told so far; the model does so by itself when the event loop turns.
     void reload();
     /// An empty dictionary for a row that does not exist.
@@ -77,11 +78,11 @@ private:
 
     MediaLibrary& library_;
     MissingFiles& missing_;
-    const MediaLibraryNode* node_ = nullptr;
-    QVariantList entries_; ///< in the library's order
-    Order order_;          ///< row to place in entries_; empty while rows are in the library's order
-    Sorting applied_;      ///< what order_ follows
-    Sorting wanted_;       ///< what the user asked for last
+    std::shared_ptr<const MediaLibraryNode> node_; ///< outlives a tree that the library has replaced
+    QVariantList entries_;                         ///< in the library's order
+    Order order_;     ///< row to place in entries_; empty while rows are in the library's order
+    Sorting applied_; ///< what order_ follows
+    Sorting wanted_;  ///< what the user asked for last
     bool sorting_ = false;
     std::uint64_t generation_ = 0; ///< counts changes of entries_: an order sorted from older ones is of no use
     std::vector<Change> changes_;

@@ -20,7 +20,7 @@ QFont systemFont(int size) {
 
 LibraryOutlineModel::LibraryOutlineModel(MediaLibrary& library, QObject* parent)
     : QAbstractItemModel(parent), library_(library) {
-    learnParents(library_.rootNode());
+    learnTree();
     connect(&library_, &MediaLibrary::entryInserted, this, &LibraryOutlineModel::announceCount);
     connect(&library_, &MediaLibrary::entryRemoved, this, &LibraryOutlineModel::announceCount);
     connect(&library_, &MediaLibrary::leafReset, this, &LibraryOutlineModel::announceCount);
@@ -28,9 +28,22 @@ LibraryOutlineModel::LibraryOutlineModel(MediaLibrary& library, QObject* parent)
 
 void LibraryOutlineModel::reset() {
     beginResetModel();
-    parents_.clear();
-    learnParents(library_.rootNode());
+    learnTree();
     endResetModel();
+}
+
+void LibraryOutlineModel::learnTree() {
+    parents_.clear();
+    root_ = &library_.rootNode();
+    groups_ = library_.rootNode().nonLeafNode();
+    learnParents(library_.rootNode());
+}
+
+std::shared_ptr<const MediaLibraryNode> LibraryOutlineModel::sharedNode(const QModelIndex& index) const {
+    if (!index.isValid())
+        return nullptr;
+    const auto& rows = index.parent().isValid() ? node(index.parent())->nonLeafNode() : groups_;
+    return static_cast<std::size_t>(index.row()) < rows.size() ? rows[static_cast<std::size_t>(index.row())] : nullptr;
 }
 
 void LibraryOutlineModel::learnParents(const MediaLibraryNode& node) {
@@ -48,7 +61,7 @@ QModelIndex LibraryOutlineModel::indexOf(const MediaLibraryNode* node, int colum
     const MediaLibraryNode* above = parents_.value(node);
     if (!above)
         return {};
-    const auto& rows = above->nonLeafNode();
+    const auto& rows = above == root_ ? groups_ : above->nonLeafNode();
     const auto found = std::find_if(rows.begin(), rows.end(), [&](const auto& each) { return each.get() == node; });
     return createIndex(static_cast<int>(found - rows.begin()), column, node);
 }
@@ -61,7 +74,7 @@ QModelIndex LibraryOutlineModel::indexOfKey(const QString& key) const {
 }
 
 bool LibraryOutlineModel::isGroup(const MediaLibraryNode* node) const {
-    return node && parents_.value(node) == &library_.rootNode();
+    return node && parents_.value(node) == root_;
 }
 
 LibraryOutlineModel::AttributedString
@@ -74,7 +87,7 @@ LibraryOutlineModel::AttributedString LibraryOutlineModel::mediaLibraryNodeTitle
 }
 
 QModelIndex LibraryOutlineModel::index(int row, int column, const QModelIndex& parent) const {
-    const auto& rows = node(parent)->nonLeafNode();
+    const auto& rows = parent.isValid() ? node(parent)->nonLeafNode() : groups_;
     if (row < 0 || row >= static_cast<int>(rows.size()) || column < 0 || column >= ColumnCount)
         return {};
     return createIndex(row, column, rows[static_cast<std::size_t>(row)].get());
@@ -84,11 +97,13 @@ QModelIndex LibraryOutlineModel::parent(const QModelIndex& index) const {
     if (!index.isValid())
         return {};
     const MediaLibraryNode* above = parents_.value(node(index));
-    return above && above != &library_.rootNode() ? indexOf(above) : QModelIndex();
+    return above && above != root_ ? indexOf(above) : QModelIndex();
 }
 
 int LibraryOutlineModel::rowCount(const QModelIndex& parent) const {
-    return parent.column() > 0 ? 0 : static_cast<int>(node(parent)->nonLeafNode().size());
+    if (parent.column() > 0)
+        return 0;
+    return static_cast<int>(parent.isValid() ? node(parent)->nonLeafNode().size() : groups_.size());
 }
 
 int LibraryOutlineModel::columnCount(const QModelIndex&) const {
@@ -141,6 +156,10 @@ QVariant LibraryOutlineModel::headerData(int section, Qt::Orientation orientatio
 }
 
 void LibraryOutlineModel::announceCount(const QString& leafKey) {
+    if (root_ != &library_.rootNode()) {
+        reset();
+        return;
+    }
     const QModelIndex name = indexOfKey(leafKey);
     if (name.isValid())
         Q_EMIT dataChanged(name.siblingAtColumn(Count), name.siblingAtColumn(Count));

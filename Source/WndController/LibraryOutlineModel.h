@@ -6,6 +6,9 @@
 #include <QFont>
 #include <QHash>
 
+#include <memory>
+#include <vector>
+
 class MediaLibrary;
 class MediaLibraryNode;
 
@@ -28,10 +31,12 @@ public:
 
     explicit LibraryOutlineModel(MediaLibrary& library, QObject* parent = nullptr);
 
-    /// Reads the tree anew, after the library built another one.
+    /// Reads the tree anew. The model does so by itself when the library has built another one.
     void reset();
     /// The invisible root for an invalid index.
     [[nodiscard]] const MediaLibraryNode* node(const QModelIndex& index) const;
+    /// The same with a share in its life; null for the root.
+    [[nodiscard]] std::shared_ptr<const MediaLibraryNode> sharedNode(const QModelIndex& index) const;
     [[nodiscard]] QModelIndex indexOf(const MediaLibraryNode* node, int column = Name) const;
     [[nodiscard]] QModelIndex indexOfKey(const QString& key) const;
     [[nodiscard]] bool isGroup(const MediaLibraryNode* node) const;
@@ -49,8 +54,11 @@ public:
 
 private:
     void announceCount(const QString& leafKey);
+    void learnTree();
     void learnParents(const MediaLibraryNode& node);
 
     MediaLibrary& library_;
+    const MediaLibraryNode* root_ = nullptr; ///< only compared: whether the library still has the tree that is shown
+    std::vector<std::shared_ptr<MediaLibraryNode>> groups_; ///< keeps that tree alive while views point into it
     QHash<const MediaLibraryNode*, const MediaLibraryNode*> parents_;
 };

@@ -39,6 +39,11 @@ LibraryPresenter::LibraryPresenter(MediaLibrary& library, QTreeView& outline, QT
     table_.setModel(tableModel_.get());
     connect(outline_.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &LibraryPresenter::outlineSelectionDidChange);
+    // A tree that the library has built anew begins like the first one. No selection is told of a reset.
+    connect(outlineModel_.get(), &QAbstractItemModel::modelReset, this, [this] {
+        updateDefaultListStyle();
+        outlineSelectionDidChange();
+    });
     connect(table_.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &LibraryPresenter::tableViewSelectionDidChange);
     connect(&table_, &QTableView::doubleClicked, this, &LibraryPresenter::tableViewDoubleAction);
@@ -116,7 +121,8 @@ const MediaLibraryNode* LibraryPresenter::libraryViewSelectedNode() const {
 }
 
 void LibraryPresenter::outlineSelectionDidChange() {
-    tableModel_->setNode(libraryViewSelectedNode());
+    const QModelIndexList rows = outline_.selectionModel()->selectedRows();
+    tableModel_->setNode(rows.isEmpty() ? nullptr : outlineModel_->sharedNode(rows.first()));
 }
 
 void LibraryPresenter::tableViewSelectionDidChange() {

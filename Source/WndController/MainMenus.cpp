@@ -41,7 +41,7 @@ QAction* MainMenus::add(QMenu* menu, const QString& text, const QString& icon, c
     // The place in the menus of some desktops is guessed from words; ours stands where it was put.
     action->setMenuRole(QAction::NoRole);
     if (slot)
-        connect(action, &QAction::triggered, &controller_, [this, slot] { (controller_.*slot)(); });
+        connect(action, &QAction::triggered, &controller_, slot);
     menu->addAction(action);
     return action;
 }

@@ -41,7 +41,7 @@ StatusBarItem::StatusBarItem(MainWndController& mainWndController, QObject* pare
 QAction* StatusBarItem::add(const QString& title, const QString& action, void (MainWndController::*command)()) {
     QAction* item = systemBarMenu_.addAction(title);
     item->setProperty(MainWndController::kActionProperty, action);
-    connect(item, &QAction::triggered, &mainWndController_, [this, command] { (mainWndController_.*command)(); });
+    connect(item, &QAction::triggered, &mainWndController_, command);
     return item;
 }
 

@@ -72,6 +72,17 @@ TEST_F(Presenter, BeginsWithTheGroupsOpenAndTheFirstNodeSelected) {
     EXPECT_EQ(table.model()->rowCount(), 0);
 }
 
+TEST_F(Presenter, ALibraryThatIsBuiltAnewIsShownFromItsBeginning) {
+    select({1});
+    library.loadDefaultMediaLibrary();
+    library.addRecordFile(world.made(u"Four"_s));
+    ASSERT_NE(presenter.libraryViewSelectedNode(), nullptr);
+    EXPECT_EQ(presenter.libraryViewSelectedNode()->key(), u"new-record"_s);
+    EXPECT_TRUE(outline.isExpanded(presenter.outlineModel().index(1, 0)));
+    selectNode(u"all-record"_s);
+    EXPECT_EQ(table.model()->rowCount(), 4);
+}
+
 TEST_F(Presenter, EveryBindableKeyIsAPropertyWithAnnouncement) {
     const QMetaObject* meta = presenter.metaObject();
     for (const char* key :

@@ -47,11 +47,11 @@ struct LibraryWorld {
     Dictionary made(const QString& title, double seconds = 1, const QString& ending = QStringLiteral("m4a")) const {
         return entry(title, title, file(title + u'.' + ending), seconds);
     }
-    static const MediaLibraryNode* leaf(const MediaLibrary& library, const QString& key) {
+    static std::shared_ptr<const MediaLibraryNode> leaf(const MediaLibrary& library, const QString& key) {
         for (const auto& group : library.rootNode().nonLeafNode())
             for (const auto& node : group->nonLeafNode())
                 if (node->key() == key)
-                    return node.get();
+                    return node;
         return nullptr;
     }
 
