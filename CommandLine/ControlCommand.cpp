@@ -41,8 +41,6 @@ int run(const QStringList& given) {
         return wrongUsage(name, arguments.isEmpty() ? u"control takes a command"_s
                                                     : u"%1: no such command"_s.arg(arguments.join(u' ')));
     const QString command = arguments.front();
-    if (json && command != u"status"_s)
-        return wrongUsage(name, u"--json goes with status"_s);
 
     const auto running = Platform::RunningProgram::create(Platform::services().bundle->bundleIdentifier());
     QByteArray answer;
@@ -53,6 +51,8 @@ int run(const QStringList& given) {
         return fail(u"%1: %2"_s.arg(command, QString::fromUtf8(rest)));
     if (command == u"status"_s)
         showStatus(rest, json);
+    else if (json)
+        print(QString::fromUtf8(QJsonDocument(QJsonObject{{u"done"_s, command}}).toJson(QJsonDocument::Compact)));
     return Done;
 }
 
