@@ -37,13 +37,13 @@ beside() {
     ourWall=999999 peerWall=999999 ourCpu=999999 peerCpu=999999 ourMemory=0 peerMemory=0
     for ((i = 0; i < rounds; ++i)); do
         measure "${our[@]}"
-        ourWall=$(awk "BEGIN { print $wall < $ourWall ? $wall : $ourWall }")
-        ourCpu=$(awk "BEGIN { print $cpu < $ourCpu ? $cpu : $ourCpu }")
-        ourMemory=$(awk "BEGIN { print $memory > $ourMemory ? $memory : $ourMemory }")
+        ourWall=$(awk "BEGIN { print (($wall < $ourWall) ? $wall : $ourWall) }")
+        ourCpu=$(awk "BEGIN { print (($cpu < $ourCpu) ? $cpu : $ourCpu) }")
+        ourMemory=$(awk "BEGIN { print (($memory > $ourMemory) ? $memory : $ourMemory) }")
         measure "${peer[@]}"
-        peerWall=$(awk "BEGIN { print $wall < $peerWall ? $wall : $peerWall }")
-        peerCpu=$(awk "BEGIN { print $cpu < $peerCpu ? $cpu : $peerCpu }")
-        peerMemory=$(awk "BEGIN { print $memory > $peerMemory ? $memory : $peerMemory }")
+        peerWall=$(awk "BEGIN { print (($wall < $peerWall) ? $wall : $peerWall) }")
+        peerCpu=$(awk "BEGIN { print (($cpu < $peerCpu) ? $cpu : $peerCpu) }")
+        peerMemory=$(awk "BEGIN { print (($memory > $peerMemory) ? $memory : $peerMemory) }")
     done
 }
 
