@@ -51,6 +51,7 @@ private:
 struct FileWriter::Core {
     void run();
     void store(const Planes& frames);
+    void store(const float* const* rows, std::size_t frames);
     void closeFile(ConversionStream& stream, const std::shared_ptr<CutTail>& tail);
 
     QString path;
@@ -302,10 +303,16 @@ void FileWriter::Core::run() {
         const bool cut = sealed;
         const std::size_t frames = ring->peek(rows, framesAtOnce);
         if (frames > 0) {
-            stream->feed(rows.data(), frames, converted);
-            ring->release(frames);
+            if (stream->passesThrough()) {
+                stream->pass(frames);
+                store(rows.data(), frames);
+                ring->release(frames);
+            } else {
+                stream->feed(rows.data(), frames, converted);
+                ring->release(frames);
+                store(converted);
+            }
             toCaller.raise();
-            store(converted);
             continue;
         }
         if (cut && !tail) {
@@ -326,12 +333,20 @@ void FileWriter::Core::run() {
 }
 
 void FileWriter::Core::store(const Planes& frames) {
-    if (!sink || frames.frames() == 0 || file.failed())
+    std::vector<const float*> rows(frames.channels());
+    for (std::size_t r = 0; r < rows.size(); ++r)
+        rows[r] = frames.row(r);
+    store(rows.data(), frames.frames());
+}
+
+void FileWriter::Core::store(const float* const* rows, std::size_t frames) {
+    if (!sink || frames == 0 || file.failed())
         return;
-    std::array<const float*, 256> of;
-    for (std::size_t c = 0; c < rowOf.size() && c < of.size(); ++c)
-        of[c] = frames.row(rowOf[c]);
-    sink->append(of.data(), frames.frames());
+    std::array<const float*, 64> of;
+    const std::size_t width = std::min(rowOf.size(), of.size());
+    for (std::size_t c = 0; c < width; ++c)
+        of[c] = rows[rowOf[c]];
+    sink->append(of.data(), frames);
 }
 
 /// With a successor the last frames wait for what comes behind the cut. When nothing comes (the recording is paused, or

@@ -126,6 +126,12 @@ void ConversionStream::feed(const float* const* rows, std::size_t frames, Planes
     distribute(out);
 }
 
+void ConversionStream::pass(std::size_t frames) {
+    const std::lock_guard lock(mutex_);
+    fed_ += std::int64_t(frames);
+    produced_ += std::int64_t(frames);
+}
+
 void ConversionStream::cut(std::shared_ptr<CutTail> tail) {
     const std::lock_guard lock(mutex_);
     segments_.push_back({std::max(produced_, converter_.outputFrames(fed_)), std::move(tail)});

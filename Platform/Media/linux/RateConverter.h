@@ -86,6 +86,9 @@ public:
 
     /// @p out becomes what belongs to the feeding writer's own file.
     void feed(const float* const* rows, std::size_t frames, Planes& out);
+    /// With equal rates nothing needs to go through: frames that the writer stores itself are only counted.
+    [[nodiscard]] bool passesThrough() const { return converter_.passesThrough(); }
+    void pass(std::size_t frames);
     /// The file of @p tail ends with the frames fed so far.
     void cut(std::shared_ptr<CutTail> tail);
     /// No more frames: @p out becomes the rest, so that all files together hold outputFrames(fed).
