@@ -14,10 +14,11 @@ TEST(AudioFilterController, AsksBeforeAnythingIsRemovedAndTakesOnlyRemoveForYes)
     FakeAlerts alerts;
     Platform::services().alerts = &alerts;
     AudioFilterController filter;
-    alerts.answers = {0, 1};
+    alerts.answers = {0, 1, -1};
     EXPECT_FALSE(filter.runRemoveAudioAlert());
     EXPECT_TRUE(filter.runRemoveAudioAlert());
-    ASSERT_EQ(alerts.shown.size(), 2);
+    EXPECT_FALSE(filter.runRemoveAudioAlert()) << "a dialog that went away has answered nothing";
+    ASSERT_EQ(alerts.shown.size(), 3);
     EXPECT_EQ(alerts.shown[0].title, u"Do you want to move these items to the trash?"_s);
     EXPECT_TRUE(alerts.shown[0].text.isEmpty());
     EXPECT_EQ(alerts.shown[0].buttons, (QStringList{u"Cancel"_s, u"Remove"_s})) << "Cancel is the default";
