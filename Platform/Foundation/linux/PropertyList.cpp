@@ -180,7 +180,7 @@ public:
             const TextPtr keyOwner(key);
             if (!child)
                 return result;
-            result.insert(keyNamed(key), object(child));
+            result.insert(result.cend(), keyNamed(key), object(child)); // files of ours are in order
         }
     }
 
@@ -222,16 +222,19 @@ QByteArray toXml(const Dictionary& dictionary) {
     return QByteArray(text, static_cast<qsizetype>(length));
 }
 
-std::optional<Dictionary> fromXml(const QByteArray& xml) {
+std::optional<Dictionary> fromXml(const QByteArray& xml, std::shared_ptr<void>* spent) {
     if (xml.isEmpty() || xml.size() > std::numeric_limits<std::uint32_t>::max() || isTooDeep(xml))
         return std::nullopt;
     const CNumbers numbers;
     plist_t node = nullptr;
     plist_from_xml(xml.constData(), static_cast<std::uint32_t>(xml.size()), &node);
-    const NodePtr root(node);
+    NodePtr root(node);
     if (!root || plist_get_node_type(node) != PLIST_DICT)
         return std::nullopt;
-    return Reader().dictionary(node);
+    auto dictionary = Reader().dictionary(node);
+    if (spent)
+        *spent = std::shared_ptr<void>(std::move(root));
+    return dictionary;
 }
 
 } // namespace Platform::PropertyList

@@ -151,11 +151,14 @@ void PropertyListDefaults::load() {
             readAgain(Damage::SetAside);
     }
     ours_ = onDisk_;
-    const std::lock_guard guard(mutex_);
-    values_ = onDisk_;
-    overlay(pending_, values_); // set while the file was read
-    loaded_ = true;
+    {
+        const std::lock_guard guard(mutex_);
+        values_ = onDisk_;
+        overlay(pending_, values_); // set while the file was read
+        loaded_ = true;
+    }
     done_.notify_all();
+    spent_.reset();
 }
 
 void PropertyListDefaults::overlay(const Changes& changes, Dictionary& values) {
@@ -244,7 +247,7 @@ bool PropertyListDefaults::readAgain(Damage damage) {
         qCWarning(log, "cannot read %s: %s", qUtf8Printable(path_), qUtf8Printable(reader.errorString()));
         return false;
     }
-    if (auto dictionary = PropertyList::fromXml(content)) {
+    if (auto dictionary = PropertyList::fromXml(content, &spent_)) {
         onDisk_ = std::move(*dictionary);
         version_ = version;
         return true;
@@ -282,6 +285,7 @@ bool PropertyListDefaults::save(const Changes& changes, const QHash<QString, Mer
         return problem("its lock");
     if (!readAgain(Damage::SetAside))
         return problem("what it holds now");
+    spent_.reset();
 
     Dictionary merged = onDisk_;
     for (auto it = changes.cbegin(); it != changes.cend(); ++it) {

@@ -77,8 +77,9 @@ private:
 
     // The worker's own.
     Version version_;
-    Dictionary onDisk_; // the file's content as of version_
-    Dictionary ours_;   // what this process read or set itself, the base of a merge
+    Dictionary onDisk_;           // the file's content as of version_
+    Dictionary ours_;             // what this process read or set itself, the base of a merge
+    std::shared_ptr<void> spent_; // left over from reading, freed when nobody waits for what was read
     bool problemTold_ = false;
 
     std::thread worker_; // last: it uses everything above
