@@ -5,7 +5,10 @@
 #include <clocale>
 #include <cstdlib>
 #include <cstring>
+#include <future>
 #include <plist/plist.h>
+#include <span>
+#include <vector>
 
 #include <QDateTime>
 #include <QTimeZone>
@@ -40,6 +43,7 @@ private:
 
 // libplist recurses and trusts the depth of its input (2.2.0 runs out of stack). Lists of ours are five levels deep.
 constexpr int deepestNesting = 200;
+constexpr std::size_t worthTwoThreads = 2000;
 
 bool isTooDeep(const QByteArray& xml) {
     int depth = 0;
@@ -186,8 +190,8 @@ public:
 
 private:
     QVariantList array(plist_t node) {
-        QVariantList result;
-        result.reserve(plist_array_get_size(node));
+        std::vector<plist_t> children;
+        children.reserve(plist_array_get_size(node));
         void* iterator = nullptr;
         plist_array_new_iter(node, &iterator);
         const TextPtr owner(static_cast<char*>(iterator));
@@ -195,9 +199,26 @@ private:
             plist_t child = nullptr;
             plist_array_next_item(node, iterator, &child);
             if (!child)
-                return result;
-            result.append(object(child));
+                break;
+            children.push_back(child);
         }
+        // A library of thousands of entries is what a launch waits for: two threads share it. The list is only read.
+        const std::span<const plist_t> all(children);
+        if (all.size() < worthTwoThreads)
+            return objects(all);
+        auto behind = std::async(std::launch::async | std::launch::deferred,
+                                 [&] { return Reader().objects(all.subspan(all.size() / 2)); });
+        QVariantList result = objects(all.first(all.size() / 2));
+        result.append(behind.get());
+        return result;
+    }
+
+    QVariantList objects(std::span<const plist_t> nodes) {
+        QVariantList result;
+        result.reserve(static_cast<qsizetype>(nodes.size()));
+        for (const plist_t node : nodes)
+            result.append(object(node));
+        return result;
     }
 
     QString keyNamed(const char* key) {
