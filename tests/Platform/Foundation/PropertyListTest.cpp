@@ -34,6 +34,16 @@ TEST(PropertyList, GivesEveryKindOfObjectBack) {
     EXPECT_EQ(thereAndBack(all), all);
 }
 
+TEST(PropertyList, KeepsTheOrderOfALongList) {
+    for (const int count : {1999, 2000, 5001}) {
+        QVariantList entries;
+        for (int i = 0; i < count; ++i)
+            entries.append(QVariantMap{{u"number"_s, qlonglong(i)}, {u"path"_s, u"/m/Track%1.m4a"_s.arg(i)}});
+        const Dictionary all{{u"records"_s, entries}};
+        EXPECT_EQ(thereAndBack(all), all) << count;
+    }
+}
+
 TEST(PropertyList, KeepsEveryCharacterThatAFileNameMayHave) {
     for (char16_t character = 1; character < 0x800; ++character) {
         const Dictionary one{{u"path"_s, QString(u"/tmp/a"_s + QChar(character) + u'b')}};
