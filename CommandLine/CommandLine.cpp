@@ -11,6 +11,8 @@
 #include "CommandLine/RecordCommand.h"
 #include "CommandLine/TagCommand.h"
 #include "CommandLine/WaveformCommand.h"
+#include "Platform/Foundation/Bundle.h"
+#include "Platform/Foundation/RunningProgram.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/LinuxServices.h"
 
@@ -79,6 +81,14 @@ bool startAudio(QString& why) {
         return false;
     KextInstallControl::loadIfInstalled(); // before the devices are listed
     return true;
+}
+
+std::optional<QByteArray> askWindow(const QByteArray& request) {
+    const auto running = Platform::RunningProgram::create(Platform::services().bundle->bundleIdentifier());
+    QByteArray answer;
+    if (!running->ask(request, answer))
+        return std::nullopt;
+    return answer;
 }
 
 int fail(const QString& what) {

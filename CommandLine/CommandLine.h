@@ -34,6 +34,9 @@ struct Command {
 /// play. @return false, with the reason in @p why, when there is no sound server at all.
 [[nodiscard]] bool startAudio(QString& why);
 
+/// The answer of the running window to a request of one line; nothing when no window runs or none answers.
+[[nodiscard]] std::optional<QByteArray> askWindow(const QByteArray& request);
+
 /// "sonaphex: what went wrong: why" on standard error. @return Failed
 int fail(const QString& what);
 /// The same, with the command's usage. @return WrongUsage

@@ -2,9 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandLine/ControlCommand.h"
 
-#include "Platform/Foundation/Bundle.h"
-#include "Platform/Foundation/RunningProgram.h"
-#include "Platform/Foundation/Services.h"
 #include "Source/Control/ControlRequests.h"
 
 #include <QJsonDocument>
@@ -42,12 +39,11 @@ int run(const QStringList& given) {
                                                     : u"%1: no such command"_s.arg(arguments.join(u' ')));
     const QString command = arguments.front();
 
-    const auto running = Platform::RunningProgram::create(Platform::services().bundle->bundleIdentifier());
-    QByteArray answer;
-    if (!running->ask(command.toUtf8(), answer))
+    const auto answer = askWindow(command.toUtf8());
+    if (!answer)
         return fail(u"the program is not running"_s);
     QByteArray rest;
-    if (!ControlRequests::isOk(answer, rest))
+    if (!ControlRequests::isOk(*answer, rest))
         return fail(u"%1: %2"_s.arg(command, QString::fromUtf8(rest)));
     if (command == u"status"_s)
         showStatus(rest, json);

@@ -3,9 +3,6 @@
 #include "CommandLine/LibraryCommand.h"
 
 #include "CommandLine/Arguments.h"
-#include "Platform/Foundation/Bundle.h"
-#include "Platform/Foundation/RunningProgram.h"
-#include "Platform/Foundation/Services.h"
 #include "Source/Control/ToolControl.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
@@ -82,10 +79,8 @@ int list(bool json) {
 int remove(const QStringList& keys, bool json) {
     // The running window does it itself: its views follow, and it deletes no file of an entry that it just changed.
     MediaLibraryRequests::Removal removal;
-    const auto running = Platform::RunningProgram::create(Platform::services().bundle->bundleIdentifier());
-    QByteArray answer;
-    if (running->ask(MediaLibraryRequests::removeRequest(keys), answer)) {
-        const auto told = MediaLibraryRequests::removalOf(answer);
+    if (const auto answer = askWindow(MediaLibraryRequests::removeRequest(keys))) {
+        const auto told = MediaLibraryRequests::removalOf(*answer);
         if (!told)
             return fail(u"the running program does not understand: it is of another version"_s);
         removal = *told;

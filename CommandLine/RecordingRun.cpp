@@ -4,8 +4,6 @@
 
 #include "CommandLine/CommandLine.h"
 #include "CommandLine/ProgressBar.h"
-#include "Platform/Foundation/Bundle.h"
-#include "Platform/Foundation/RunningProgram.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/TerminationSignals.h"
 #include "Platform/Foundation/UserDefaults.h"
@@ -174,10 +172,9 @@ void RecordingRun::tellNotices() {
 
 /// The window's library changes through the window; without one it changes here.
 void RecordingRun::addRecordFile(const QString& path, const Dictionary& tags) {
-    const auto running = Platform::RunningProgram::create(Platform::services().bundle->bundleIdentifier());
-    QByteArray answer;
     QByteArray rest;
-    if (running->ask(ControlRequests::libraryAdd(path, tags), answer) && ControlRequests::isOk(answer, rest))
+    if (const auto answer = askWindow(ControlRequests::libraryAdd(path, tags));
+        answer && ControlRequests::isOk(*answer, rest))
         return;
     Dictionary entry = tags;
     makeIdentity(entry, path);

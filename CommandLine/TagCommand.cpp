@@ -4,6 +4,8 @@
 
 #include "CommandLine/Arguments.h"
 #include "Platform/Media/BasicID3Change.h"
+#include "Source/Model/AudioRecordEntry.h"
+#include "Source/Model/MediaLibraryRequests.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -54,6 +56,19 @@ void show(const QString& path, const BasicID3Change::Tags& tags, bool json) {
           (tags.artwork.isEmpty() ? u"none"_s : u"%1, %2 bytes"_s.arg(kindOf(tags.artwork)).arg(tags.artwork.size())));
 }
 
+/// The file may be one of the library, which shows what it was told. @return what went wrong; empty when nothing did
+QString tellLibrary(const QString& path, const Dictionary& changed) {
+    std::optional<bool> stored;
+    if (const auto answer = askWindow(MediaLibraryRequests::retagRequest(path, changed))) {
+        stored = MediaLibraryRequests::retaggingOf(*answer);
+        if (!stored)
+            return u"the tags are written, but the running program does not understand: it is of another version"_s;
+    } else {
+        stored = MediaLibraryRequests::retag(path, changed);
+    }
+    return *stored ? QString() : u"the tags are written, but the library could not be saved"_s;
+}
+
 int run(const QStringList& given) {
     const auto name = u"tag"_s;
     const Arguments arguments(
@@ -73,20 +88,20 @@ int run(const QStringList& given) {
     std::optional<BasicID3Change::Tags> tags = BasicID3Change::read(path, &why);
     if (!tags)
         return fail(why);
-    bool changed = false;
-    const auto take = [&](const QString& option, QString& tag) {
+    Dictionary changed; // as the library has it
+    const auto take = [&](const QString& option, QString& tag, const QString& key) {
         if (!arguments.isSet(option))
             return;
         tag = arguments.value(option);
-        changed = true;
+        changed.insert(key, tag);
     };
-    take(u"title"_s, tags->title);
-    take(u"artist"_s, tags->artist);
-    take(u"album"_s, tags->album);
-    take(u"genre"_s, tags->genre);
+    take(u"title"_s, tags->title, AudioRecordEntry::Title);
+    take(u"artist"_s, tags->artist, AudioRecordEntry::Artist);
+    take(u"album"_s, tags->album, AudioRecordEntry::Album);
+    take(u"genre"_s, tags->genre, AudioRecordEntry::Genre);
     if (arguments.isSet(u"year"_s)) {
         tags->year = year;
-        changed = true;
+        changed.insert(AudioRecordEntry::Year, year);
     }
 
     const bool hasArtwork = arguments.isSet(u"artwork"_s);
@@ -94,12 +109,15 @@ int run(const QStringList& given) {
         if (const auto problem = BasicID3Change::copyWithArtwork(path, arguments.value(u"artwork"_s), path);
             !problem.isEmpty())
             return fail(problem);
-    if (changed)
+    if (!changed.isEmpty()) {
         if (const auto problem = BasicID3Change::writeTexts(path, *tags); !problem.isEmpty())
             return fail(problem);
+        if (const QString problem = tellLibrary(path, changed); !problem.isEmpty())
+            return fail(problem);
+    }
 
     const bool json = arguments.isSet(u"json"_s);
-    if ((changed || hasArtwork) && !json)
+    if ((!changed.isEmpty() || hasArtwork) && !json)
         return Done;
     tags = BasicID3Change::read(path, &why);
     if (!tags)

@@ -4,8 +4,11 @@
 
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/UserDefaults.h"
+#include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -16,6 +19,7 @@ namespace MediaLibraryRequests {
 namespace {
 
 const QByteArray removeWord = "library-remove ";
+const QByteArray retagWord = "library-retag ";
 
 QByteArray line(const QJsonDocument& document) {
     return document.toJson(QJsonDocument::Compact); // new-lines inside texts are escaped
@@ -54,6 +58,35 @@ Removal remove(const QStringList& keys) {
     return result;
 }
 
+bool retag(const QString& path, const Dictionary& values) {
+    const QString given = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    const QFileInfo real(QFileInfo(path).canonicalFilePath());
+    const auto isIt = [&](const QString& other) {
+        // The disk is asked only where the names agree: there may be a hundred thousand entries.
+        return other == given || (QFileInfo(other).fileName() == real.fileName() &&
+                                  QFileInfo(other).canonicalFilePath() == real.filePath());
+    };
+    MediaLibrary& library = MediaLibrary::shareLibrary();
+    bool changed = false;
+    const auto retagAll = [&](const QVariantList& entries, void (MediaLibrary::*put)(const Dictionary&)) {
+        for (const QVariant& object : entries) {
+            Dictionary entry = object.toMap();
+            if (!isIt(entry.value(AudioRecordEntry::SavePath).toString()))
+                continue;
+            const Dictionary before = entry;
+            entry.insert(values);
+            if (entry == before)
+                continue;
+            (library.*put)(entry);
+            changed = true;
+        }
+    };
+    // Copies: what is gone through changes meanwhile.
+    retagAll(QVariantList(library.records()), &MediaLibrary::addRecordFile);
+    retagAll(QVariantList(library.ringtones()), &MediaLibrary::addRingtoneFile);
+    return !changed || Platform::services().userDefaults->flush();
+}
+
 QByteArray removeRequest(const QStringList& keys) {
     return removeWord + line(QJsonDocument(QJsonArray::fromStringList(keys)));
 }
@@ -65,7 +98,29 @@ std::optional<Removal> removalOf(const QByteArray& answer) {
     return Removal{texts(document[u"removed"_s]), texts(document[u"unknown"_s]), document[u"stored"_s].toBool()};
 }
 
+QByteArray retagRequest(const QString& path, const Dictionary& values) {
+    // The window may have another working folder.
+    const QJsonObject object{{u"path"_s, QFileInfo(path).absoluteFilePath()},
+                             {u"values"_s, QJsonObject::fromVariantMap(values)}};
+    return retagWord + line(QJsonDocument(object));
+}
+
+std::optional<bool> retaggingOf(const QByteArray& answer) {
+    const QJsonValue stored = QJsonDocument::fromJson(answer)[u"stored"_s];
+    return stored.isBool() ? std::optional(stored.toBool()) : std::nullopt;
+}
+
 std::optional<QByteArray> answer(const QByteArray& request) {
+    if (request.startsWith(retagWord)) {
+        const QJsonDocument asked = QJsonDocument::fromJson(request.mid(retagWord.size()));
+        const QString path = asked[u"path"_s].toString();
+        if (!QFileInfo(path).isAbsolute())
+            return line(QJsonDocument(QJsonObject{{u"problem"_s, u"no path"_s}}));
+        Dictionary values = asked[u"values"_s].toObject().toVariantMap();
+        if (const auto year = values.find(AudioRecordEntry::Year); year != values.end())
+            *year = year->toInt(); // JSON has one kind of number
+        return line(QJsonDocument(QJsonObject{{u"stored"_s, retag(path, values)}}));
+    }
     if (!request.startsWith(removeWord))
         return std::nullopt;
     const QJsonDocument keys = QJsonDocument::fromJson(request.mid(removeWord.size()));

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Foundation/Dictionary.h"
+
 #include <optional>
 
 #include <QByteArray>
@@ -21,9 +23,17 @@ struct Removal {
 /// Removes the entries with these keys, and their files, from the library of this process.
 [[nodiscard]] Removal remove(const QStringList& keys);
 
+/// Gives the entries of the file at @p path these values, by the keys of AudioRecordEntry, after they went into the
+/// file's tags. Paths that lead to the same file are the same. @return whether what changed, if anything did, is stored
+[[nodiscard]] bool retag(const QString& path, const Dictionary& values);
+
 [[nodiscard]] QByteArray removeRequest(const QStringList& keys);
 /// The running window's answer to a removeRequest(); nothing when it is none.
 [[nodiscard]] std::optional<Removal> removalOf(const QByteArray& answer);
+
+[[nodiscard]] QByteArray retagRequest(const QString& path, const Dictionary& values);
+/// The running window's answer to a retagRequest(), as retag() has it; nothing when it is none.
+[[nodiscard]] std::optional<bool> retaggingOf(const QByteArray& answer);
 
 /// Answers a request on the main thread of the window; nothing when it does not concern the library.
 [[nodiscard]] std::optional<QByteArray> answer(const QByteArray& request);

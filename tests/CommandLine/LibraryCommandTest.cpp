@@ -47,6 +47,9 @@ protected:
     static ToolResult library(const QStringList& arguments) {
         return runTool(QStringLiteral(SONAPHEX_PROGRAM), QStringList{u"library"_s} + arguments);
     }
+    static ToolResult tag(const QStringList& arguments) {
+        return runTool(QStringLiteral(SONAPHEX_PROGRAM), QStringList{u"tag"_s} + arguments);
+    }
     static QJsonDocument listed() { return QJsonDocument::fromJson(library({u"--json"_s}).output); }
 
     QTemporaryDir folder_;
@@ -128,30 +131,87 @@ TEST_F(LibraryCommand, TwoAtOnceLoseNothing) {
     EXPECT_EQ(listed()[u"records"_s].toArray().size(), 4);
 }
 
-TEST_F(LibraryCommand, LetsTheRunningWindowRemove) {
+TEST_F(LibraryCommand, ShowsTheTagsThatWereWrittenIntoItsFiles) {
+    const Dictionary one = entry(u"one.m4a"_s);
+    const Dictionary other = entry(u"other.m4a"_s);
+    const QString path = one.value(AudioRecordEntry::SavePath).toString();
+    ASSERT_TRUE(Mpeg4Files::make(path));
+    ASSERT_TRUE(QDir(folder_.path()).mkdir(u"links"_s));
+    const QString link = folder_.filePath(u"links/one.m4a"_s);
+    ASSERT_TRUE(QFile::link(path, link));
+    store({other, one}, {one});
+
+    const ToolResult result =
+        tag({link, u"--title"_s, u"$(x) \"日本\""_s, u"--artist"_s, QString(), u"--year"_s, u"1984"_s});
+    EXPECT_EQ(result.status, 0) << result.errors.constData();
+    const QJsonDocument document = listed();
+    EXPECT_EQ(document[u"records"_s][0][u"title"_s], u"Title of other.m4a"_s);
+    for (const QJsonValue& told : {document[u"records"_s][1], document[u"ringtones"_s][0]}) {
+        EXPECT_EQ(told[u"key"_s], keyOf(one));
+        EXPECT_EQ(told[u"title"_s], u"$(x) \"日本\""_s);
+        EXPECT_EQ(told[u"artist"_s], QString());
+        EXPECT_EQ(told[u"year"_s], 1984);
+        EXPECT_EQ(told[u"added"_s], u"2026/11/21"_s);
+    }
+
+    // What was not written is not told to the library.
+    EXPECT_EQ(tag({other.value(AudioRecordEntry::SavePath).toString(), u"--title"_s, u"x"_s}).status, 1);
+    EXPECT_EQ(listed(), document);
+}
+
+/// What the window's process does.
+class LibraryCommandBesideAWindow : public LibraryCommand {
+protected:
+    void open(const QVariantList& records) {
+        store(records, {});
+        defaults_ = Platform::createUserDefaults(identifier);
+        Platform::services().userDefaults = defaults_.get();
+        shared_.loadMediaLibraryList();
+        shared_.loadDefaultMediaLibrary();
+        ASSERT_TRUE(running_->acquire());
+        ASSERT_TRUE(running_->listen(
+            [](const QByteArray& request) { return MediaLibraryRequests::answer(request).value_or("what?"); }));
+    }
+    /// Starts the program, to which this process answers meanwhile.
+    static QByteArray ask(const QStringList& arguments) {
+        QProcess process;
+        process.start(QStringLiteral(SONAPHEX_PROGRAM), arguments);
+        EXPECT_TRUE(waitFor([&] { return process.state() == QProcess::NotRunning; }, 60000));
+        EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().constData();
+        return process.readAllStandardOutput();
+    }
+
+    const Platform::ServicesScope scope_;
+    std::unique_ptr<Platform::UserDefaults> defaults_;
+    MediaLibrary& shared_ = MediaLibrary::shareLibrary();
+    std::unique_ptr<Platform::RunningProgram> running_ = Platform::RunningProgram::create(identifier);
+};
+
+TEST_F(LibraryCommandBesideAWindow, LetsItRemove) {
     const Dictionary gone = entry(u"gone\nwith a new line.m4a"_s);
     const Dictionary stays = entry(u"stays.m4a"_s);
-    store({gone, stays}, {});
-    // What the window's process does.
-    const Platform::ServicesScope scope;
-    const auto defaults = Platform::createUserDefaults(identifier);
-    Platform::services().userDefaults = defaults.get();
-    MediaLibrary& shared = MediaLibrary::shareLibrary();
-    shared.loadMediaLibraryList();
-    shared.loadDefaultMediaLibrary();
-    const auto running = Platform::RunningProgram::create(identifier);
-    ASSERT_TRUE(running->acquire());
-    ASSERT_TRUE(running->listen(
-        [](const QByteArray& request) { return MediaLibraryRequests::answer(request).value_or("what?"); }));
-    const QSignalSpy removed(&shared, &MediaLibrary::entryRemoved);
-
-    QProcess process;
-    process.start(QStringLiteral(SONAPHEX_PROGRAM), {u"library"_s, u"remove"_s, keyOf(gone), u"--json"_s});
-    ASSERT_TRUE(waitFor([&] { return process.state() == QProcess::NotRunning; }, 60000));
-    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().constData();
-    EXPECT_EQ(QJsonDocument::fromJson(process.readAllStandardOutput())[u"removed"_s][0], keyOf(gone));
-    EXPECT_EQ(shared.records(), QVariantList{stays});
+    open({gone, stays});
+    const QSignalSpy removed(&shared_, &MediaLibrary::entryRemoved);
+    const QByteArray output = ask({u"library"_s, u"remove"_s, keyOf(gone), u"--json"_s});
+    EXPECT_EQ(QJsonDocument::fromJson(output)[u"removed"_s][0], keyOf(gone));
+    EXPECT_EQ(shared_.records(), QVariantList{stays});
     EXPECT_EQ(removed.count(), 1);
     EXPECT_FALSE(QFile::exists(gone.value(AudioRecordEntry::SavePath).toString()));
     EXPECT_EQ(listed()[u"records"_s].toArray().size(), 1);
+}
+
+TEST_F(LibraryCommandBesideAWindow, LetsItShowTheTagsThatWereWritten) {
+    const Dictionary one = entry(u"one\nwith a new line.m4a"_s);
+    const Dictionary other = entry(u"other.m4a"_s);
+    ASSERT_TRUE(Mpeg4Files::make(one.value(AudioRecordEntry::SavePath).toString()));
+    open({other, one});
+    const QSignalSpy replaced(&shared_, &MediaLibrary::entryReplaced);
+    (void)ask({u"tag"_s, one.value(AudioRecordEntry::SavePath).toString(), u"--title"_s, u"new\nline"_s, u"--year"_s,
+               u"1984"_s});
+    Dictionary expected = one;
+    expected.insert(AudioRecordEntry::Title, u"new\nline"_s);
+    expected.insert(AudioRecordEntry::Year, 1984);
+    EXPECT_EQ(shared_.records(), (QVariantList{other, expected}));
+    EXPECT_EQ(replaced.count(), 1);
+    EXPECT_EQ(listed()[u"records"_s][1][u"title"_s], u"new\nline"_s);
 }
