@@ -46,4 +46,15 @@ inline std::string text(int code) {
     return buffer;
 }
 
+/// A decoder for the stream, still closed; nothing when there is none or no memory.
+inline CodecPtr createDecoder(const AVStream& stream) {
+    const AVCodec* codec = avcodec_find_decoder(stream.codecpar->codec_id);
+    CodecPtr context(codec ? avcodec_alloc_context3(codec) : nullptr);
+    if (!context || avcodec_parameters_to_context(context.get(), stream.codecpar) < 0)
+        return nullptr;
+    context->thread_count = 1;
+    context->pkt_timebase = stream.time_base;
+    return context;
+}
+
 } // namespace Av
