@@ -7,8 +7,10 @@
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
+#include <linux/magic.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 #include <thread>
 #include <unistd.h>
 
@@ -29,7 +31,9 @@ Q_LOGGING_CATEGORY(log, "sonaphex.media")
 // What is copied aside and rewritten on the spot; above it a whole new file is as fast and simpler.
 constexpr qint64 mostInPlace = qint64(32) << 20;
 constexpr auto lockPatience = std::chrono::seconds(10);
-constexpr quint64 undoMagic = 0x534e5058554e4431; // "SNPXUND1"
+constexpr auto readerPatience = std::chrono::seconds(2);
+constexpr quint64 undoMagic = 0x534e5058554e4432; // "SNPXUND2"
+constexpr qint64 longestWitness = qint64(64) << 10;
 
 class Descriptor {
 public:
@@ -50,21 +54,29 @@ private:
     int fd_ = -1;
 };
 
-/// Tells a file from every other, also from a later one that got its inode number.
+/// Tells a file from every other in its folder, also from a later one that got its inode number. The number of the
+/// device is no part of it: after a power cut the same disk may come back under another one.
 struct Identity {
-    quint64 device = 0, inode = 0;
+    QByteArray name; ///< what the copy is called after
     qint64 born = 0;
     friend bool operator==(const Identity&, const Identity&) = default;
 };
 
-Identity identityOf(int fd) {
+/// FAT makes inode numbers up anew each time that it is mounted; there a file goes by its name.
+bool hasInodeNumbers(int fd) {
+    constexpr decltype(statfs::f_type) exfat = 0x2011BAB0;
+    struct statfs system {};
+    return ::fstatfs(fd, &system) != 0 || (system.f_type != MSDOS_SUPER_MAGIC && system.f_type != exfat);
+}
+
+Identity identityOf(int fd, const QString& path) {
     struct statx status {};
-    if (::statx(fd, "", AT_EMPTY_PATH, STATX_INO | STATX_BTIME, &status) != 0)
-        return {};
+    if (!hasInodeNumbers(fd) || ::statx(fd, "", AT_EMPTY_PATH, STATX_INO | STATX_BTIME, &status) != 0)
+        return {QCryptographicHash::hash(QFileInfo(path).fileName().toUtf8(), QCryptographicHash::Sha1).toHex(), 0};
     const qint64 born = (status.stx_mask & STATX_BTIME)
                             ? qint64(status.stx_btime.tv_sec) * 1'000'000'000 + status.stx_btime.tv_nsec
                             : 0;
-    return {(quint64(status.stx_dev_major) << 32) | status.stx_dev_minor, status.stx_ino, born};
+    return {QByteArray::number(quint64(status.stx_ino), 16), born};
 }
 
 bool writeAll(int fd, const QByteArray& bytes, qint64 at) {
@@ -85,14 +97,14 @@ void syncFolder(const QString& folder) {
         ::fsync(fd.get());
 }
 
-/// The copy goes by the file's number, so that it is found again when the file was renamed in its folder.
-QString undoPath(const QString& folder, quint64 inode) {
-    return folder + "/.sonaphex-"_L1 + QString::number(inode, 16) + ".undo"_L1;
+/// The copy goes by the file's inode number, so that it is found again when the file was renamed in its folder.
+QString undoPath(const QString& path, const Identity& identity) {
+    return QFileInfo(path).path() + "/.sonaphex-"_L1 + QLatin1StringView(identity.name) + ".undo"_L1;
 }
 
 /// Opens for writing and takes the lock; the file that is locked is the one that has the name.
-bool openLocked(const QString& path, Descriptor& file, QString& why) {
-    const auto deadline = std::chrono::steady_clock::now() + lockPatience;
+bool openLocked(const QString& path, std::chrono::seconds patience, Descriptor& file, QString& why) {
+    const auto deadline = std::chrono::steady_clock::now() + patience;
     const QByteArray name = QFile::encodeName(path);
     for (;;) {
         file.reset(::open(name.constData(), O_RDWR | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
@@ -122,15 +134,25 @@ bool openLocked(const QString& path, Descriptor& file, QString& why) {
 
 struct Undo {
     Identity identity;
-    qint64 size = 0;  // of the whole file before
-    qint64 begin = 0; // where the bytes belong
+    QByteArray witness; // what witnessOf() said
+    qint64 size = 0;    // of the whole file before
+    qint64 begin = 0;   // where the bytes belong
     QByteArray bytes;
 };
+
+/// A hash of what stands before @p begin and is not written to: the undo of one file never gets into another.
+QByteArray witnessOf(int fd, qint64 begin) {
+    QByteArray before(static_cast<qsizetype>(std::min(begin, longestWitness)), '\0');
+    const ssize_t got =
+        ::pread(fd, before.data(), static_cast<std::size_t>(before.size()), begin - static_cast<qint64>(before.size()));
+    before.truncate(std::max<ssize_t>(got, 0));
+    return QCryptographicHash::hash(before, QCryptographicHash::Sha1);
+}
 
 QByteArray packed(const Undo& undo) {
     QByteArray content;
     QDataStream stream(&content, QIODevice::WriteOnly);
-    stream << undoMagic << undo.identity.device << undo.identity.inode << undo.identity.born << undo.size << undo.begin
+    stream << undoMagic << undo.identity.name << undo.identity.born << undo.witness << undo.size << undo.begin
            << undo.bytes;
     return content + QCryptographicHash::hash(content, QCryptographicHash::Sha1);
 }
@@ -142,7 +164,7 @@ bool unpack(const QByteArray& content, Undo& undo) {
         return false;
     QDataStream stream(body);
     quint64 magic = 0;
-    stream >> magic >> undo.identity.device >> undo.identity.inode >> undo.identity.born >> undo.size >> undo.begin >>
+    stream >> magic >> undo.identity.name >> undo.identity.born >> undo.witness >> undo.size >> undo.begin >>
         undo.bytes;
     return stream.status() == QDataStream::Ok && magic == undoMagic && undo.begin >= 0 && undo.size >= undo.begin;
 }
@@ -170,9 +192,9 @@ bool putBack(int fd, const Undo& undo) {
 }
 
 /// The file is open and locked.
-bool restoreLocked(int fd, const QString& folder) {
-    const Identity identity = identityOf(fd);
-    const QString path = undoPath(folder, identity.inode);
+bool restoreLocked(int fd, const QString& file) {
+    const Identity identity = identityOf(fd, file);
+    const QString path = undoPath(file, identity);
     QFile copy(path);
     if (!copy.open(QIODevice::ReadOnly))
         return false;
@@ -181,8 +203,8 @@ bool restoreLocked(int fd, const QString& folder) {
         qCWarning(log, "%s is damaged: the save that it would undo stays as it is", qUtf8Printable(path));
         return false;
     }
-    if (undo.identity != identity) {
-        copy.remove(); // of a file that was deleted; this one only got its number
+    if (undo.identity != identity || undo.witness != witnessOf(fd, undo.begin)) {
+        copy.remove(); // of a file that was deleted; this one only got its number or its name
         return false;
     }
     if (!putBack(fd, undo)) {
@@ -224,20 +246,55 @@ bool writePiece(int out, qint64 at, int in, const PatchedFile::Piece& piece) {
     return true;
 }
 
+/// A new file in a folder that has no name yet, so that a crash leaves nothing behind, or, where the file system knows
+/// no such files, a hidden name.
+class FileWithoutName {
+public:
+    explicit FileWithoutName(const QString& folder)
+        : hidden_(QFile::encodeName(folder + "/.sonaphex-"_L1 +
+                                    QString::number(QRandomGenerator::system()->generate64(), 16) + ".part"_L1)),
+          file_(::open(QFile::encodeName(folder).constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0600)) {
+        if (file_)
+            return;
+        file_.reset(::open(hidden_.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0600));
+        named_ = static_cast<bool>(file_);
+    }
+    ~FileWithoutName() {
+        if (named_)
+            ::unlink(hidden_.constData());
+    }
+    FileWithoutName(const FileWithoutName&) = delete;
+    FileWithoutName& operator=(const FileWithoutName&) = delete;
+    [[nodiscard]] int get() const { return file_.get(); }
+    explicit operator bool() const { return static_cast<bool>(file_); }
+
+    /// Gives it its name, in the place of a file that has it. @return false with errno.
+    bool rename(const QString& path) {
+        const QByteArray self = "/proc/self/fd/" + QByteArray::number(file_.get());
+        // A link cannot take another file's place, so it gets the hidden name for a moment.
+        if (!named_ && ::linkat(AT_FDCWD, self.constData(), AT_FDCWD, hidden_.constData(), AT_SYMLINK_FOLLOW) != 0)
+            return false;
+        named_ = true;
+        if (std::rename(hidden_.constData(), QFile::encodeName(path).constData()) != 0)
+            return false;
+        named_ = false;
+        return true;
+    }
+
+private:
+    const QByteArray hidden_;
+    Descriptor file_;
+    bool named_ = false;
+};
+
 /// Makes a file of the edited content beside @p path and gives it that name when it is whole. The owner and the mode
 /// are those of the file that the content comes from.
 bool writeWhole(const QString& path, int source, const PatchedFile& content, QString& why) {
     const QString folder = QFileInfo(path).path();
-    const QByteArray part = QFile::encodeName(
-        folder + "/.sonaphex-"_L1 + QString::number(QRandomGenerator::system()->generate64(), 16) + ".part"_L1);
-    const Descriptor out(::open(part.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0600));
-    if (!out) {
-        why = qt_error_string(errno);
-        return false;
-    }
+    FileWithoutName out(folder);
     const auto write = [&] {
         struct stat status {};
-        if (::fstat(source, &status) != 0)
+        if (!out || ::fstat(source, &status) != 0)
             return false;
         // Only root may give files away; for others the file is theirs anyway.
         if (::fchown(out.get(), status.st_uid, status.st_gid) != 0 && errno != EPERM)
@@ -250,11 +307,10 @@ bool writeWhole(const QString& path, int source, const PatchedFile& content, QSt
                 return false;
             at += piece.length;
         }
-        return ::fsync(out.get()) == 0 && std::rename(part.constData(), QFile::encodeName(path).constData()) == 0;
+        return ::fsync(out.get()) == 0 && out.rename(path);
     };
     if (!write()) {
         why = qt_error_string(errno);
-        ::unlink(part.constData());
         return false;
     }
     syncFolder(folder);
@@ -267,11 +323,10 @@ bool saveInPlace(const QString& givenPath, const std::function<bool(PatchedFile&
     // Behind a link the file itself is changed, and the copy stands beside it.
     const QString real = QFileInfo(givenPath).canonicalFilePath();
     const QString path = real.isEmpty() ? givenPath : real;
-    const QString folder = QFileInfo(path).path();
     Descriptor file;
-    if (!openLocked(path, file, why))
+    if (!openLocked(path, lockPatience, file, why))
         return false;
-    restoreLocked(file.get(), folder);
+    restoreLocked(file.get(), path);
 
     struct stat status {};
     if (::fstat(file.get(), &status) != 0) {
@@ -294,10 +349,10 @@ bool saveInPlace(const QString& givenPath, const std::function<bool(PatchedFile&
     if (std::max(change.newEnd, change.oldEnd) - change.begin > mostInPlace)
         return writeWhole(path, file.get(), content, why);
 
-    Undo undo{identityOf(file.get()), status.st_size, change.begin, {}};
+    Undo undo{identityOf(file.get(), path), witnessOf(file.get(), change.begin), status.st_size, change.begin, {}};
     PatchedFile before(file.get(), status.st_size);
     undo.bytes = before.read(change.begin, change.oldEnd - change.begin);
-    const QString undoFile = undoPath(folder, undo.identity.inode);
+    const QString undoFile = undoPath(path, undo.identity);
     if (before.failed() || !writeBeside(undoFile, packed(undo))) {
         why = qt_error_string(errno);
         return false;
@@ -312,7 +367,7 @@ bool saveInPlace(const QString& givenPath, const std::function<bool(PatchedFile&
             return false; // the copy stays: the next one who opens the file puts it back
     }
     ::unlink(QFile::encodeName(undoFile).constData());
-    syncFolder(folder);
+    syncFolder(QFileInfo(path).path());
     return written;
 }
 
@@ -341,15 +396,19 @@ bool saveCopy(const QString& source, const QString& destination,
 
 bool restoreInterruptedSave(const QString& givenPath) {
     const QString path = QFileInfo(givenPath).canonicalFilePath();
-    struct stat status {};
-    if (path.isEmpty() || ::stat(QFile::encodeName(path).constData(), &status) != 0 || !S_ISREG(status.st_mode))
+    if (path.isEmpty())
         return false;
-    const QString folder = QFileInfo(path).path();
-    if (!QFileInfo::exists(undoPath(folder, status.st_ino)))
-        return false;
+    {
+        // A name is not opened for writing just to see that nothing is to be done.
+        const Descriptor found(::open(QFile::encodeName(path).constData(), O_PATH | O_CLOEXEC));
+        struct stat status {};
+        if (!found || ::fstat(found.get(), &status) != 0 || !S_ISREG(status.st_mode) ||
+            !QFileInfo::exists(undoPath(path, identityOf(found.get(), path))))
+            return false;
+    }
     Descriptor file;
     QString why;
-    return openLocked(path, file, why) && restoreLocked(file.get(), folder);
+    return openLocked(path, readerPatience, file, why) && restoreLocked(file.get(), path);
 }
 
 } // namespace Platform::Media

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/linux/SourceFile.h"
+#include "Platform/Media/linux/InPlaceSave.h"
 #include "Platform/Media/linux/PacketFile.h"
 
 #include <QFile>
@@ -19,6 +20,8 @@ SourceFile::~SourceFile() {
 }
 
 MediaError SourceFile::open(const QString& path) {
+    // A tag save that a crash interrupted left the index torn, and with it the recording would be unreadable.
+    Media::restoreInterruptedSave(path);
     fd_ = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
     if (fd_ < 0)
         return errnoError(errno, path);

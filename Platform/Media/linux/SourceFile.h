@@ -9,7 +9,8 @@
 
 namespace Platform {
 
-/// A regular file that is read. Opening never waits, whatever lies at the path. Reads are from any thread.
+/// A regular file that is read. Opening never waits, whatever lies at the path, except for another process that saves
+/// tags into the file at that moment. Reads are from any thread.
 class SourceFile {
 public:
     SourceFile() = default;
@@ -17,6 +18,7 @@ public:
     SourceFile(const SourceFile&) = delete;
     SourceFile& operator=(const SourceFile&) = delete;
 
+    /// Undoes an interrupted tag save first.
     [[nodiscard]] MediaError open(const QString& path);
     [[nodiscard]] std::int64_t size() const;
     /// @return bytes read, 0 at the end, negative errno on failure.

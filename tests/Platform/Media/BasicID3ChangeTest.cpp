@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/BasicID3Change.h"
 
+#include "Platform/Media/ExtAudioFile.h"
 #include "Platform/Media/linux/InPlaceSave.h"
+#include "Platform/Media/linux/MediaFilesLinux.h"
 #include "Platform/Media/linux/Mpeg4Atoms.h"
 #include "tests/support/ChildProcess.h"
 #include "tests/support/Mpeg4Files.h"
@@ -35,6 +37,22 @@ protected:
     /// Files that a save left beside those of the test.
     [[nodiscard]] QStringList leftOver() const {
         return QDir(folder_.path()).entryList({u".sonaphex*"_s}, QDir::Hidden | QDir::Files);
+    }
+
+    /// Saves a long title in a process that the kernel kills when a part of it is written.
+    void crashInASave() {
+        const QByteArray before = Mpeg4Files::contentOf(path());
+        ChildProcess child([&] {
+            const rlimit limit{static_cast<rlim_t>(before.size() + 500), RLIM_INFINITY};
+            const rlimit noCore{0, 0};
+            ::setrlimit(RLIMIT_CORE, &noCore);
+            std::signal(SIGXFSZ, SIG_DFL);
+            ::setrlimit(RLIMIT_FSIZE, &limit);
+            return tag(path(), QString(20000, u'x')) ? 1 : 0;
+        });
+        ASSERT_EQ(child.wait(), -1);
+        ASSERT_NE(Mpeg4Files::contentOf(path()), before);
+        ASSERT_EQ(leftOver().size(), 1);
     }
 
     QTemporaryDir folder_;
@@ -375,43 +393,61 @@ TEST_F(Tags, OfASaveThatACrashInterruptedAreAsBeforeAtTheNextOpening) {
     ASSERT_TRUE(Mpeg4Files::make(path(), Shape::IndexAtEnd, 10));
     ASSERT_TRUE(tag(path(), u"Before"_s));
     const QByteArray before = Mpeg4Files::contentOf(path());
-    const auto crash = [&] {
-        ChildProcess child([&] {
-            const rlimit limit{static_cast<rlim_t>(before.size() + 500), RLIM_INFINITY};
-            const rlimit noCore{0, 0};
-            ::setrlimit(RLIMIT_CORE, &noCore);
-            std::signal(SIGXFSZ, SIG_DFL);
-            ::setrlimit(RLIMIT_FSIZE, &limit);
-            return tag(path(), QString(20000, u'x')) ? 1 : 0;
-        });
-        EXPECT_EQ(child.wait(), -1);
-        EXPECT_NE(Mpeg4Files::contentOf(path()), before);
-        EXPECT_EQ(leftOver().size(), 1);
-    };
-    crash();
+    crashInASave();
     EXPECT_EQ(BasicID3Change::read(path())->title, u"Before"_s);
     EXPECT_EQ(Mpeg4Files::contentOf(path()), before);
-    crash();
+    crashInASave();
     EXPECT_TRUE(BasicID3Change::restoreInterruptedSave(path()));
     EXPECT_EQ(Mpeg4Files::contentOf(path()), before);
     EXPECT_FALSE(BasicID3Change::restoreInterruptedSave(path()));
-    crash();
+    crashInASave();
     ASSERT_TRUE(QFile::rename(path(), path(u"renamed.m4a"_s)));
     EXPECT_EQ(BasicID3Change::read(path(u"renamed.m4a"_s))->title, u"Before"_s);
     EXPECT_TRUE(leftOver().isEmpty());
 }
 
-TEST_F(Tags, NeverRestoreIntoAnotherFileOfTheSameName) {
+TEST_F(Tags, OfASaveThatACrashInterruptedAreAsBeforeForWhoeverReadsTheSound) {
     ASSERT_TRUE(Mpeg4Files::make(path(), Shape::IndexAtEnd, 10));
     const QByteArray before = Mpeg4Files::contentOf(path());
-    ChildProcess child([&] {
-        const rlimit limit{static_cast<rlim_t>(before.size() + 500), RLIM_INFINITY};
-        const rlimit noCore{0, 0};
-        ::setrlimit(RLIMIT_CORE, &noCore);
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-        return tag(path(), QString(20000, u'x')) ? 1 : 0;
-    });
-    ASSERT_EQ(child.wait(), -1);
+    const auto files = Platform::createMediaFiles();
+    Platform::AudioFileInfo whole;
+    Platform::MediaError error;
+    ASSERT_TRUE(files->info(path(), whole, error));
+
+    crashInASave();
+    Platform::AudioFileInfo info;
+    EXPECT_TRUE(files->info(path(), info, error)) << qPrintable(error.text);
+    EXPECT_EQ(info.frameCount, whole.frameCount);
+    EXPECT_EQ(Mpeg4Files::contentOf(path()), before);
+    crashInASave();
+    EXPECT_TRUE(files->openReader(path(), error)) << qPrintable(error.text);
+    EXPECT_EQ(Mpeg4Files::contentOf(path()), before);
+    crashInASave();
+    EXPECT_TRUE(files->openMovie(path(), error)) << qPrintable(error.text);
+    EXPECT_EQ(Mpeg4Files::contentOf(path()), before);
+    EXPECT_TRUE(leftOver().isEmpty());
+}
+
+TEST_F(Tags, NeverRestoreIntoAFileThatIsNotTheOneThatWasSaved) {
+    ASSERT_TRUE(Mpeg4Files::make(path(), Shape::IndexAtEnd, 10));
+    crashInASave();
+    // The same inode, so that only what stands in the file tells.
+    ASSERT_TRUE(Mpeg4Files::make(path(u"other.m4a"_s), Shape::IndexAtEnd, 12));
+    QByteArray other = Mpeg4Files::contentOf(path(u"other.m4a"_s));
+    for (qsizetype i = 1000; i < other.size(); i += 1000)
+        other[i] = static_cast<char>(~other[i]);
+    QFile file(path());
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_EQ(file.write(other), other.size());
+    file.close();
+    const QByteArray mixed = Mpeg4Files::contentOf(path());
+    EXPECT_FALSE(BasicID3Change::restoreInterruptedSave(path()));
+    EXPECT_EQ(Mpeg4Files::contentOf(path()), mixed);
+}
+
+TEST_F(Tags, NeverRestoreIntoAnotherFileOfTheSameName) {
+    ASSERT_TRUE(Mpeg4Files::make(path(), Shape::IndexAtEnd, 10));
+    crashInASave();
     ASSERT_TRUE(QFile::remove(path()));
     ASSERT_TRUE(Mpeg4Files::make(path(), Shape::IndexAtEnd, 2));
     const QByteArray other = Mpeg4Files::contentOf(path());
