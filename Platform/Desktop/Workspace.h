@@ -8,7 +8,8 @@
 
 namespace Platform {
 
-/// The desktop around the program. Main thread, but for noteFileSystemChanged().
+/// The desktop around the program. A recording that a crash left torn is whole when it is handed on. Main thread, but
+/// for noteFileSystemChanged().
 class Workspace : public QObject {
     Q_OBJECT
 public:
