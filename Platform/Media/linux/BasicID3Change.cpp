@@ -85,15 +85,45 @@ void moveOffsets(PatchedFile& content, const std::vector<Mpeg4Atom>& atoms, qint
     }
 }
 
+/// Writes that a box is longer by @p more bytes.
+void grow(PatchedFile& content, const Mpeg4Atom& atom, qint64 more) {
+    constexpr quint32 sizeIsBehindTheName = 1;
+    QByteArray size(8, '\0');
+    if (content.read(atom.offset, 4) == bigEndian(sizeIsBehindTheName)) {
+        qToBigEndian(static_cast<quint64>(atom.length + more), size.data());
+        content.overwrite(atom.offset + 8, size);
+    } else {
+        content.overwrite(atom.offset, bigEndian(static_cast<quint32>(atom.length + more)));
+    }
+}
+
+QByteArray box(const char* name, const QByteArray& body) {
+    return bigEndian(static_cast<quint32>(8 + body.size())) + QByteArray(name, 4) + body;
+}
+
+/// Gives an index without any tags an empty list of them, with room for texts, at its end. TagLib would put it in
+/// front: then the tables of the audio behind it, large in an hour, are written anew whenever the tags need more room.
+void addTagList(PatchedFile& content, const Mpeg4Atoms& atoms) {
+    constexpr int room = 1024;
+    const Mpeg4Atom& moov = *atoms.find("moov");
+    if (moov.child("udta") || moov.children.empty())
+        return;
+    const QByteArray version(4, '\0');
+    const QByteArray handler = version + QByteArray(4, '\0') + "mdirappl" + QByteArray(9, '\0');
+    const QByteArray list = box(
+        "udta", box("meta", version + box("hdlr", handler) + box("ilst", {}) + box("free", QByteArray(room, '\0'))));
+    const qint64 end = moov.children.back().offset + moov.children.back().length;
+    moveOffsets(content, atoms.top, end, list.size());
+    grow(content, moov, list.size());
+    content.replace(end, 0, list);
+}
+
 /// Puts whole items at the end of the tag list.
 bool appendItems(PatchedFile& content, const QByteArray& items, QString& why) {
     const auto atoms = Media::readMpeg4Atoms(content, why);
     const Mpeg4Atom* const list = atoms ? atoms->tagList() : nullptr;
     if (!list)
         return false;
-    const auto grow = [&](const Mpeg4Atom& atom) {
-        content.overwrite(atom.offset, bigEndian(static_cast<quint32>(atom.length + items.size())));
-    };
     const Mpeg4Atom& moov = *atoms->find("moov");
     const Mpeg4Atom& udta = *moov.child("udta");
     const Mpeg4Atom& meta = *udta.child("meta");
@@ -103,12 +133,12 @@ bool appendItems(PatchedFile& content, const QByteArray& items, QString& why) {
     for (const Mpeg4Atom& free : meta.children)
         if (free.name == "free" && free.offset == listEnd && free.length >= items.size() + 8) {
             content.overwrite(listEnd, items + bigEndian(static_cast<quint32>(free.length - items.size())) + "free");
-            grow(*list);
+            grow(content, *list, items.size());
             return true;
         }
     moveOffsets(content, atoms->top, listEnd, items.size());
     for (const Mpeg4Atom* atom : {list, &meta, &udta, &moov})
-        grow(*atom);
+        grow(content, *atom, items.size());
     content.replace(listEnd, 0, items);
     return true;
 }
@@ -125,6 +155,7 @@ bool editTags(PatchedFile& content, const std::vector<const char*>& changed,
     }
     const auto itemsBefore = rawItems(content, *before);
     const qint64 sizeBefore = content.size();
+    addTagList(content, *before);
     {
         TagLib::MP4::File file(&content, false);
         if (!file.isValid() || !file.tag()) {

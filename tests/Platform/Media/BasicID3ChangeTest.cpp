@@ -69,6 +69,17 @@ QString mediainfo(const QString& path, const QString& field) {
     return QString::fromUtf8(found.output).trimmed();
 }
 
+/// Takes all tags from a file that ends with them, as those of recorders do before they are tagged.
+void stripTags(const QString& path) {
+    QByteArray content = Mpeg4Files::contentOf(path);
+    const auto tags = content.lastIndexOf("udta") - 4;
+    const auto index = content.lastIndexOf("moov") - 4;
+    ASSERT_EQ(tags + qFromBigEndian<qint32>(content.constData() + tags), content.size());
+    content.truncate(tags);
+    qToBigEndian(static_cast<quint32>(content.size() - index), content.data() + index);
+    ASSERT_TRUE(Mpeg4Files::write(path, content));
+}
+
 /// Puts an item into the tag list of a file whose index is at its end.
 void insertItem(const QString& path, const QByteArray& item) {
     QString why;
@@ -233,6 +244,53 @@ TEST_F(Tags, NeverRewriteTheAudioOfAFileWithItsIndexAtTheEnd) {
     ASSERT_TRUE(tag(path(), QString(2000, u'x')));
     ASSERT_EQ(::stat(QFile::encodeName(path()).constData(), &after), 0);
     EXPECT_EQ(before.st_ino, after.st_ino);
+}
+
+TEST_F(Tags, StandBehindTheTablesOfTheAudio) {
+    ASSERT_TRUE(Mpeg4Files::make(path(), Shape::IndexAtEnd, 20));
+    stripTags(path());
+    const QByteArray before = Mpeg4Files::contentOf(path());
+    const auto moovOf = [](const QByteArray& content) { return content.indexOf("moov") - 4; };
+    for (const int length : {20, 5000, 100}) {
+        ASSERT_TRUE(tag(path(), QString(length, u'x')));
+        const QByteArray after = Mpeg4Files::contentOf(path());
+        // All but the size of the index is as it was.
+        const auto tables = moovOf(before) + 4;
+        EXPECT_EQ(after.left(moovOf(before)), before.left(moovOf(before)));
+        EXPECT_EQ(after.mid(tables, before.size() - tables), before.mid(tables));
+        EXPECT_EQ(after.indexOf("udta"), before.size() + 4);
+    }
+}
+
+TEST_F(Tags, GoIntoAnIndexWithALargeSize) {
+    const QByteArray odd = QByteArray::fromHex("0000001c636d494400000014646174610000001500000000000004d2");
+    ASSERT_TRUE(Mpeg4Files::make(path(), Shape::IndexAtEnd, 5));
+    ASSERT_TRUE(tag(path(), u"x"_s));
+    insertItem(path(), odd);
+    const QByteArray audio = Mpeg4Files::audioOf(path());
+    const auto enlarge = [&] {
+        QByteArray content = Mpeg4Files::contentOf(path());
+        const auto at = content.indexOf("moov") - 4;
+        QByteArray size(8, '\0');
+        qToBigEndian(static_cast<quint64>(content.size() - at + 8), size.data());
+        content.replace(at, 8, QByteArray::fromHex("00000001") + "moov" + size);
+        return Mpeg4Files::write(path(), content);
+    };
+    ASSERT_TRUE(enlarge());
+    for (const int length : {5000, 20}) {
+        ASSERT_TRUE(tag(path(), QString(length, u'x')));
+        EXPECT_EQ(BasicID3Change::read(path())->title.size(), length);
+        EXPECT_EQ(Mpeg4Files::probe(path())[u"title"_s].toString().size(), length);
+        EXPECT_EQ(Mpeg4Files::audioOf(path()), audio);
+        EXPECT_TRUE(Mpeg4Files::contentOf(path()).contains(odd));
+    }
+    // And into one that has no tags yet.
+    ASSERT_TRUE(Mpeg4Files::make(path(), Shape::IndexAtEnd, 5));
+    stripTags(path());
+    ASSERT_TRUE(enlarge());
+    ASSERT_TRUE(tag(path(), u"y"_s));
+    EXPECT_EQ(Mpeg4Files::probe(path())[u"title"_s].toString(), u"y"_s);
+    EXPECT_EQ(Mpeg4Files::audioOf(path()), audio);
 }
 
 TEST_F(Tags, KeepTheModeOfAFileThatIsMadeAnew) {
