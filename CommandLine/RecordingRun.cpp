@@ -93,8 +93,10 @@ QString RecordingRun::begin() {
     if (task_.wantsComputerAudio && !controller_.hasComputerAudioDevice() &&
         (task_.computerAudioNamed || !task_.wantsInput))
         return u"computer audio: its driver is not installed (see sonaphex driver install)"_s;
-    if (task_.device != 0)
-        controller_.chooseBuiltInDevice(controller_.indexOfDevice(task_.device));
+    // The first of the list is open already; to choose it would open it a second time.
+    if (const int index = controller_.indexOfDevice(task_.device);
+        task_.device != 0 && index != controller_.selectedDevice())
+        controller_.chooseBuiltInDevice(index);
     if (task_.wantsInput && controller_.deviceNames().isEmpty() && !controller_.hasComputerAudioDevice())
         return u"there is no input device"_s;
     if (!controller_.canRecord())

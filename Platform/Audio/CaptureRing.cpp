@@ -13,8 +13,11 @@ constexpr std::size_t smallestBlock = 64;
 }
 
 CaptureRing::CaptureRing(std::uint32_t channels, std::size_t frames)
-    : channels_(channels), capacity_(std::bit_ceil(frames)), samples_(capacity_ * channels),
+    : channels_(channels), capacity_(std::bit_ceil(frames)),
+      samples_(std::make_unique_for_overwrite<float[]>(capacity_ * channels)),
       blocks_(std::max<std::size_t>(16, capacity_ / smallestBlock)) {
+    for (std::uint32_t channel = 0; channel < channels_; ++channel)
+        std::fill_n(samples_.get() + channel * capacity_, std::min(capacity_, readyFrames), 0.0f);
 }
 
 bool CaptureRing::pushRt(std::span<const float* const> samples, const CaptureBlock& block) noexcept {
@@ -29,11 +32,13 @@ bool CaptureRing::pushRt(std::span<const float* const> samples, const CaptureBlo
         loseRt(block.frames);
         return false;
     }
-    const std::size_t start = framesWritten_ & (capacity_ - 1);
+    if (framesRead == framesWritten_)
+        firstFrame_.store(framesWritten_, std::memory_order_relaxed);
+    const std::size_t start = (framesWritten_ - firstFrame_.load(std::memory_order_relaxed)) & (capacity_ - 1);
     const std::size_t first = std::min<std::size_t>(block.frames, capacity_ - start);
     const std::size_t rest = block.frames - first;
     for (std::uint32_t channel = 0; channel < channels_; ++channel) {
-        float* stretch = samples_.data() + channel * capacity_;
+        float* stretch = samples_.get() + channel * capacity_;
         const float* source = channel < samples.size() ? samples[channel] : nullptr;
         if (source) {
             std::memcpy(stretch + start, source, first * sizeof(float));
@@ -76,10 +81,10 @@ std::uint32_t CaptureRing::take(std::span<float* const> out, std::uint32_t frame
         return 0;
     frames = std::min(frames, block.frames);
     const auto framesRead = framesRead_.load(std::memory_order_relaxed);
-    const std::size_t start = framesRead & (capacity_ - 1);
+    const std::size_t start = (framesRead - firstFrame_.load(std::memory_order_relaxed)) & (capacity_ - 1);
     const std::size_t first = std::min<std::size_t>(frames, capacity_ - start);
     for (std::uint32_t channel = 0; channel < channels_ && channel < out.size(); ++channel) {
-        const float* stretch = samples_.data() + channel * capacity_;
+        const float* stretch = samples_.get() + channel * capacity_;
         std::memcpy(out[channel], stretch + start, first * sizeof(float));
         std::memcpy(out[channel] + first, stretch, (frames - first) * sizeof(float));
     }

@@ -7,6 +7,7 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <vector>
 
@@ -22,10 +23,15 @@ struct CaptureBlock {
 
 /// Carries blocks of captured audio from the sound server's data thread to one I/O thread. `...Rt` belongs to the data
 /// thread, the rest to the I/O thread, but for lostFrames(). Memory is taken once, when it is built.
+///
+/// An empty ring begins anew at the start of its memory: what it occupies is as deep as it ever was, not as it may
+/// become.
 class CaptureRing {
 public:
-    /// Room for at least @p frames frames, in blocks of 64 frames or more.
+    /// Room for at least @p frames frames, in blocks of 64 frames or more. The pages of the first readyFrames are there
+    /// from the beginning: a reader that is no further behind never makes the data thread wait for one.
     CaptureRing(std::uint32_t channels, std::size_t frames);
+    static constexpr std::size_t readyFrames = 1 << 16;
 
     /// Stores the block or, when there is no room, counts it as lost. The next block that finds room says how many
     /// frames are missing before it. @p samples holds one pointer a channel; a null pointer is a silent channel.
@@ -46,14 +52,17 @@ public:
 
 private:
     const std::uint32_t channels_;
-    const std::size_t capacity_;       ///< frames, a power of two
-    std::vector<float> samples_;       ///< one stretch of capacity_ samples a channel
-    std::vector<CaptureBlock> blocks_; ///< a power of two
+    const std::size_t capacity_;             ///< frames, a power of two
+    const std::unique_ptr<float[]> samples_; ///< one stretch of capacity_ samples a channel
+    std::vector<CaptureBlock> blocks_;       ///< a power of two
 
     // Changed by the data thread only.
     std::uint64_t pendingLost_ = 0;
     bool pendingStart_ = false;
     std::uint64_t framesWritten_ = 0;
+    /// The frame that lies at the start of the memory. It changes only while the ring is empty; the reader sees the
+    /// change with the next block.
+    std::atomic<std::uint64_t> firstFrame_{0};
     alignas(64) std::atomic<std::uint64_t> blocksWritten_{0};
     alignas(64) std::atomic<std::uint64_t> lost_{0};
     // Changed by the I/O thread only.

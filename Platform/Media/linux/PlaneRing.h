@@ -7,26 +7,34 @@
 #include <bit>
 #include <cstdint>
 #include <cstring>
+#include <memory>
 #include <vector>
 
 namespace Platform {
 
 /// Carries frames from the thread that captures to the thread that encodes: one row a channel, one producer, one
 /// consumer, no lock. A side that has nothing to do sleeps on a counter that the other one raises.
+///
+/// An empty ring begins anew at the start of its rows: pages further behind are touched only when that much waits.
 class PlaneRing {
 public:
-    PlaneRing(std::size_t channels, std::size_t frames)
-        : capacity_(std::bit_ceil(frames)), rows_(channels, std::vector<float>(capacity_)) {}
+    PlaneRing(std::size_t channels, std::size_t frames) : capacity_(std::bit_ceil(frames)), rows_(channels) {
+        for (auto& row : rows_)
+            row = std::make_unique_for_overwrite<float[]>(capacity_);
+    }
 
     /// Producer: copies as many of @p frames as there is room for, from rows whose samples are @p stride apart; a null
     /// row is silence. @return how many went in.
     std::size_t push(const float* const* rows, std::size_t stride, std::size_t frames) {
         const auto written = written_.load(std::memory_order_relaxed);
-        const auto room = capacity_ - std::size_t(written - read_.load(std::memory_order_acquire));
+        const auto read = read_.load(std::memory_order_acquire);
+        if (read == written) // the consumer holds nothing, and sees this with the frames that follow
+            first_.store(written, std::memory_order_relaxed);
+        const auto room = capacity_ - std::size_t(written - read);
         const std::size_t count = std::min(frames, room);
+        const std::size_t at = place(written);
         for (std::size_t c = 0; c < rows_.size(); ++c) {
-            float* const row = rows_[c].data();
-            const std::size_t at = std::size_t(written) & (capacity_ - 1);
+            float* const row = rows_[c].get();
             const std::size_t first = std::min(count, capacity_ - at);
             copy(row + at, rows[c], stride, first);
             copy(row, rows[c] ? rows[c] + first * stride : nullptr, stride, count - first);
@@ -39,10 +47,10 @@ public:
     std::size_t peek(std::vector<const float*>& rows, std::size_t most) const {
         const auto read = read_.load(std::memory_order_relaxed);
         const auto filled = std::size_t(written_.load(std::memory_order_acquire) - read);
-        const std::size_t at = std::size_t(read) & (capacity_ - 1);
+        const std::size_t at = place(read);
         rows.resize(rows_.size());
         for (std::size_t c = 0; c < rows_.size(); ++c)
-            rows[c] = rows_[c].data() + at;
+            rows[c] = rows_[c].get() + at;
         return std::min({filled, most, capacity_ - at});
     }
     void release(std::size_t frames) {
@@ -50,6 +58,9 @@ public:
     }
 
 private:
+    [[nodiscard]] std::size_t place(std::uint64_t frame) const {
+        return std::size_t(frame - first_.load(std::memory_order_relaxed)) & (capacity_ - 1);
+    }
     static void copy(float* out, const float* in, std::size_t stride, std::size_t count) {
         if (count == 0)
             return;
@@ -63,7 +74,9 @@ private:
     }
 
     std::size_t capacity_;
-    std::vector<std::vector<float>> rows_;
+    std::vector<std::unique_ptr<float[]>> rows_;
+    std::atomic<std::uint64_t> first_{
+        0}; // the frame at the start of the rows; changed by the producer, while all is read
     alignas(64) std::atomic<std::uint64_t> written_{0}; // changed by the producer only
     alignas(64) std::atomic<std::uint64_t> read_{0};    // changed by the consumer only
 };

@@ -120,6 +120,29 @@ TEST(CaptureRing, AMissingChannelIsSilent) {
     EXPECT_EQ(b[3], 0.0f);
 }
 
+TEST(CaptureRing, OccupiesMemoryForWhatWaitedInItOnly) {
+    // Kilobytes of this process that nobody shares.
+    const auto occupied = [] {
+        QFile status(QStringLiteral("/proc/self/status"));
+        EXPECT_TRUE(status.open(QIODevice::ReadOnly));
+        const QByteArray text = status.readAll();
+        return text.mid(text.indexOf("RssAnon:") + 8).trimmed().split(' ').first().toLongLong();
+    };
+    constexpr std::size_t frames = 1 << 25;
+    constexpr std::int64_t whole = 2 * frames * sizeof(float) / 1024;
+    const auto before = occupied();
+    CaptureRing ring(2, frames);
+    const std::vector<float> samples(1 << 14, 1.0f);
+    const std::array<const float*, 2> in = {samples.data(), samples.data()};
+    std::vector<float> taken(samples.size());
+    const std::array<float*, 2> out = {taken.data(), taken.data()};
+    for (std::size_t passed = 0; passed < 2 * frames; passed += samples.size()) {
+        ASSERT_TRUE(ring.pushRt(in, {.frames = std::uint32_t(samples.size())}));
+        ASSERT_EQ(ring.take(out, std::uint32_t(samples.size())), samples.size());
+    }
+    EXPECT_LT(occupied() - before, whole / 4);
+}
+
 TEST(CaptureRing, LosesAndRepeatsNothingBetweenTwoThreads) {
     CaptureRing ring(2, 4096);
     constexpr std::uint64_t total = 400'000;
