@@ -80,6 +80,11 @@ TakenOff takenOff(const AVPacket& packet) {
 std::unique_ptr<InputFile> InputFile::open(const QString& path, bool decode, MediaError& error) {
     std::unique_ptr<InputFile> input(new InputFile(path));
     error = input->file_.open(path);
+    std::string why;
+    input->av_ = Av::formatLibrary(&why);
+    if (!error && !input->av_)
+        error = makeError(MediaError::Kind::Other, path,
+                          QStringLiteral("sound files cannot be read: ") + QString::fromLocal8Bit(why.c_str()));
     input->frame_.reset(av_frame_alloc());
     input->packet_.reset(av_packet_alloc());
     if (error || !input->openContainer(error) || (decode && !input->openDecoder(error)))
@@ -100,7 +105,7 @@ bool InputFile::openContainer(MediaError& error) {
     if (!io_) {
         auto* buffer = static_cast<std::uint8_t*>(av_malloc(ioBufferBytes));
         auto reading = std::make_unique<Reading>(Reading{&file_});
-        io_.reset(avio_alloc_context(buffer, ioBufferBytes, 0, reading.get(), readSome, nullptr, seekTo));
+        io_.reset(av_->allocIo(buffer, ioBufferBytes, 0, reading.get(), readSome, nullptr, seekTo));
         if (!io_) {
             av_free(buffer);
             error = makeError(MediaError::Kind::Other, path_, QStringLiteral("out of memory"));
@@ -108,11 +113,11 @@ bool InputFile::openContainer(MediaError& error) {
         }
         reading.release(); // freed with the file
     }
-    if (avio_seek(io_.get(), 0, SEEK_SET) < 0) {
+    if (av_->seekIo(io_.get(), 0, SEEK_SET) < 0) {
         error = makeError(MediaError::Kind::Damaged, path_, QStringLiteral("cannot be read"));
         return false;
     }
-    AVFormatContext* context = avformat_alloc_context();
+    AVFormatContext* context = av_->allocContext();
     if (!context) {
         error = makeError(MediaError::Kind::Other, path_, QStringLiteral("out of memory"));
         return false;
@@ -120,7 +125,7 @@ bool InputFile::openContainer(MediaError& error) {
     context->pb = io_.get();
     context->io_open = openNothing;
     // On failure the context is freed.
-    int code = avformat_open_input(&context, "", nullptr, nullptr);
+    int code = av_->openInput(&context, "", nullptr, nullptr);
     if (code < 0) {
         const bool unknown = code == AVERROR_INVALIDDATA || code == AVERROR_EOF;
         error = makeError(MediaError::Kind::UnknownFormat, path_,
@@ -129,8 +134,8 @@ bool InputFile::openContainer(MediaError& error) {
         return false;
     }
     format_.reset(context);
-    code = avformat_find_stream_info(context, nullptr);
-    const int best = av_find_best_stream(context, AVMEDIA_TYPE_AUDIO, -1, -1, nullptr, 0);
+    code = av_->findStreamInfo(context, nullptr);
+    const int best = av_->findBestStream(context, AVMEDIA_TYPE_AUDIO, -1, -1, nullptr, 0);
     if (best < 0) {
         error = makeError(MediaError::Kind::NoAudio, path_, QStringLiteral("the file holds no sound"));
         return false;
@@ -255,7 +260,7 @@ void InputFile::countPackets() {
     std::int64_t end = 0; // both in the stream's time
     std::int64_t usual = 0;
     std::int64_t off = 0;
-    while (av_read_frame(counter->format_.get(), packet_.get()) >= 0) {
+    while (av_->readFrame(counter->format_.get(), packet_.get()) >= 0) {
         if (packet_->stream_index == counter->stream_->index) {
             const std::int64_t time = packet_->pts != AV_NOPTS_VALUE ? packet_->pts : end;
             const std::int64_t duration = counter->durationOf(*packet_);
@@ -312,7 +317,7 @@ std::int64_t InputFile::packetCount() {
         if (isPcm(stream_->codecpar->codec_id))
             packets_ = lengthFrames();
         else if (formatIs(*format_, "mp4") && !facts_.fragmented)
-            packets_ = avformat_index_get_entries_count(stream_);
+            packets_ = av_->indexEntriesCount(stream_);
         else {
             const auto length = length_;
             countPackets();
@@ -355,7 +360,7 @@ InputFile::Got InputFile::decodeOne(std::optional<MediaError>& error) {
         }
         if (draining_)
             return Got::End;
-        const int read = av_read_frame(format_.get(), packet_.get());
+        const int read = av_->readFrame(format_.get(), packet_.get());
         if (read < 0) {
             if (read != AVERROR_EOF && read != AVERROR(EAGAIN))
                 damaged(read);
@@ -499,7 +504,7 @@ bool InputFile::seek(std::int64_t frame) {
     MediaError error;
     if (timestampsAreExact() && frame > prerollFrames) {
         const std::int64_t time = inStreamTime(frame - prerollFrames) + origin_;
-        if (av_seek_frame(format_.get(), stream_->index, time, AVSEEK_FLAG_BACKWARD) >= 0) {
+        if (av_->seekFrame(format_.get(), stream_->index, time, AVSEEK_FLAG_BACKWARD) >= 0) {
             avcodec_flush_buffers(codec_.get());
             draining_ = frameIsWaiting_ = false;
             timeFromFrames_ = true;
@@ -524,7 +529,7 @@ bool InputFile::seek(std::int64_t frame) {
     packetTime_ = 0;
     std::int64_t longest = 0;
     while (inFrames(packetTime_ - origin + 2 * longest) < frame - prerollFrames) {
-        if (av_read_frame(format_.get(), packet_.get()) < 0)
+        if (av_->readFrame(format_.get(), packet_.get()) < 0)
             break;
         if (packet_->stream_index == stream_->index) {
             const std::int64_t duration = durationOf(*packet_);

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Platform/Media/linux/LibAv.h"
+#include "Platform/Media/linux/LibAvFormat.h"
 #include "Platform/Media/linux/MediaErrors.h"
 #include "Platform/Media/linux/SourceFile.h"
 
@@ -60,6 +60,7 @@ private:
 
     QString path_;
     SourceFile file_;
+    const Av::FormatLibrary* av_ = nullptr;
     Av::IoPtr io_;
     Av::FormatPtr format_;
     Av::CodecPtr codec_;

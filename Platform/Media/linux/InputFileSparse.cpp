@@ -15,8 +15,8 @@ bool InputFile::sparseSamples(std::span<const std::int64_t> frames, std::span<fl
     if (!facts_.ownEncoder || facts_.fragmented || !facts_.validFrames || parameters.codec_id != AV_CODEC_ID_AAC ||
         out.size() < frames.size())
         return false;
-    const std::int64_t entries = avformat_index_get_entries_count(stream_);
-    const AVIndexEntry* first = entries > 0 ? avformat_index_get_entry(stream_, 0) : nullptr;
+    const std::int64_t entries = av_->indexEntriesCount(stream_);
+    const AVIndexEntry* first = entries > 0 ? av_->indexEntry(stream_, 0) : nullptr;
     if (!first || inFrames(first->timestamp) != -packetFrames)
         return false;
     for (std::size_t i = 0; i < frames.size(); ++i) {
@@ -30,7 +30,7 @@ bool InputFile::sparseSamples(std::span<const std::int64_t> frames, std::span<fl
     };
     std::vector<Place> places(static_cast<std::size_t>(entries));
     for (std::size_t i = 0; i < places.size(); ++i) {
-        const AVIndexEntry* entry = avformat_index_get_entry(stream_, int(i));
+        const AVIndexEntry* entry = av_->indexEntry(stream_, int(i));
         places[i] = {entry->pos, entry->size};
     }
     // A packet's frame hangs together with the packet before it and with no other.

@@ -4,6 +4,7 @@
 #include "Platform/Media/linux/FileReader.h"
 #include "Platform/Media/linux/FileWriter.h"
 #include "Platform/Media/linux/MixMovie.h"
+#include "Platform/Media/linux/SourceFile.h"
 
 namespace Platform {
 
@@ -50,6 +51,14 @@ public:
     }
 
     bool info(const QString& path, AudioFileInfo& info, MediaError& error) override {
+        SourceFile file;
+        if (!file.open(path)) {
+            if (const auto own = readOwnRecording(file)) {
+                error = {};
+                info = *own;
+                return true;
+            }
+        }
         const auto input = InputFile::open(path, false, error);
         if (!input)
             return false;

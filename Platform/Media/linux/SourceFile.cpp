@@ -200,6 +200,38 @@ ContainerFacts readMpeg4Facts(const SourceFile& file, int rate) {
     return facts;
 }
 
+std::optional<AudioFileInfo> readOwnRecording(const SourceFile& file) {
+    const auto media =
+        findBox(file, {0, file.size()}, {fourCharCode("moov"), fourCharCode("trak"), fourCharCode("mdia")});
+    if (!media)
+        return std::nullopt;
+    const auto rate = timeScale(boxBytes(file, *media, {fourCharCode("mdhd")}));
+    const auto table = findBox(file, *media, {fourCharCode("minf"), fourCharCode("stbl")});
+    if (rate <= 0 || rate > 1'000'000 || !table)
+        return std::nullopt;
+    const ContainerFacts facts = readMpeg4Facts(file, int(rate));
+    const auto description = boxBytes(file, *table, {fourCharCode("stsd")});
+    const auto sizes = findBox(file, *table, {fourCharCode("stsz")});
+    constexpr std::size_t channelsAt =
+        8 + 8 + 16; // behind the table's head, the entry's head, and what all entries have
+    std::uint8_t head[12];
+    if (!facts.ownEncoder || facts.fragmented || !facts.validFrames || description.size() < channelsAt + 2 ||
+        bigEndian(description.data() + 12, 4) != fourCharCode("mp4a") || !sizes || sizes->to - sizes->from < 12 ||
+        !file.readAll(sizes->from, head))
+        return std::nullopt;
+    AudioFileInfo info;
+    info.dataFormat.mSampleRate = double(rate);
+    info.dataFormat.mFormatID = kAudioFormatMPEG4AAC;
+    info.dataFormat.mFramesPerPacket = 1024;
+    info.dataFormat.mChannelsPerFrame = std::uint32_t(bigEndian(description.data() + channelsAt, 2));
+    info.packetCount = std::int64_t(bigEndian(head + 8, 4));
+    info.frameCount = *facts.validFrames;
+    info.seconds = double(info.frameCount) / double(rate);
+    if (info.dataFormat.mChannelsPerFrame == 0 || info.frameCount > info.packetCount * 1024)
+        return std::nullopt;
+    return info;
+}
+
 ContainerFacts readCafFacts(const SourceFile& file) {
     ContainerFacts facts;
     const std::int64_t end = file.size();

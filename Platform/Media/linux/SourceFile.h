@@ -42,5 +42,8 @@ struct ContainerFacts {
 /// Of an MPEG-4 file's first sound track; @p rate: its sample rate.
 [[nodiscard]] ContainerFacts readMpeg4Facts(const SourceFile& file, int rate);
 [[nodiscard]] ContainerFacts readCafFacts(const SourceFile& file);
+/// What there is to say of a whole MPEG-4 file that we wrote; nothing of any other. libavformat would say the same, but
+/// who has just made a recording need not load it for that.
+[[nodiscard]] std::optional<AudioFileInfo> readOwnRecording(const SourceFile& file);
 
 } // namespace Platform

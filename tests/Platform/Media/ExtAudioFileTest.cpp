@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Media/linux/InputFile.h"
 #include "tests/Platform/Media/MediaTestSupport.h"
 
 using namespace MediaTest;
@@ -59,6 +60,28 @@ TEST_F(WrittenFiles, Mpeg4AndCafHaveTheExactLengthAndTheSoundInPlace) {
             EXPECT_EQ(info.dataFormat.mSampleRate, 44100);
             EXPECT_EQ(info.dataFormat.mFramesPerPacket, 1024u);
             EXPECT_EQ(info.packetCount, std::int64_t((frames + 1023) / 1024 + 1));
+        }
+    }
+}
+
+TEST_F(WrittenFiles, WhatIsToldOfOurOwnFilesIsWhatADecoderFindsInThem) {
+    for (const double rate : {8000.0, 44100.0, 96000.0}) {
+        for (const std::size_t frames : {1u, 1023u, 1024u, 1025u, 2048u, 50000u}) {
+            const std::uint32_t channels = frames % 2 ? 1 : 2;
+            const QString path = at(u"a.m4a"_s);
+            Samples source = tones(frames, rate, channels);
+            auto writer = newWriter(path, kAudioFileM4AType, aacFormat(rate, channels), clientFormat(rate, channels));
+            writeAll(*writer, source);
+            ASSERT_EQ(writer->dispose(), noErr);
+            AudioFileInfo info;
+            MediaError error;
+            ASSERT_TRUE(media().info(path, info, error)) << error.text.toStdString();
+            const auto read = Platform::InputFile::open(path, true, error);
+            ASSERT_TRUE(read) << error.text.toStdString();
+            EXPECT_EQ(info.frameCount, read->lengthFrames());
+            EXPECT_EQ(info.packetCount, read->packetCount());
+            EXPECT_EQ(info.seconds, double(read->lengthFrames()) / read->rate());
+            EXPECT_EQ(info.dataFormat, read->dataFormat());
         }
     }
 }

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Media/linux/LibAv.h"
+
+extern "C" {
+#include <libavformat/avformat.h>
+}
+
+namespace Av {
+
+/// What we call of libavformat, which is loaded when the first sound file is read. Forty libraries come with it
+/// (network protocols, module players, disc readers) and occupy 10 MB; who only records never needs them, for our files
+/// are written without it.
+struct FormatLibrary {
+    decltype(&::avio_alloc_context) allocIo;
+    decltype(&::avio_context_free) freeIo;
+    decltype(&::avio_seek) seekIo;
+    decltype(&::avformat_alloc_context) allocContext;
+    decltype(&::avformat_open_input) openInput;
+    decltype(&::avformat_close_input) closeInput;
+    decltype(&::avformat_find_stream_info) findStreamInfo;
+    decltype(&::av_find_best_stream) findBestStream;
+    decltype(&::av_read_frame) readFrame;
+    decltype(&::av_seek_frame) seekFrame;
+    decltype(&::avformat_index_get_entries_count) indexEntriesCount;
+    decltype(&::avformat_index_get_entry) indexEntry;
+};
+
+/// Null when the library is missing; @p why then says so. Once loaded it stays. Any thread.
+[[nodiscard]] const FormatLibrary* formatLibrary(std::string* why = nullptr);
+
+struct CloseFormat {
+    void operator()(AVFormatContext* context) const noexcept { formatLibrary()->closeInput(&context); }
+};
+
+struct FreeIo {
+    void operator()(AVIOContext* io) const noexcept {
+        // The buffer may have been exchanged by libavformat: free the one that is there now.
+        av_freep(&io->buffer);
+        formatLibrary()->freeIo(&io);
+    }
+};
+
+using FormatPtr = std::unique_ptr<AVFormatContext, CloseFormat>;
+using IoPtr = std::unique_ptr<AVIOContext, FreeIo>;
+
+/// A decoder for the stream, still closed; nothing when there is none or no memory.
+inline CodecPtr createDecoder(const AVStream& stream) {
+    const AVCodec* codec = avcodec_find_decoder(stream.codecpar->codec_id);
+    CodecPtr context(codec ? avcodec_alloc_context3(codec) : nullptr);
+    if (!context || avcodec_parameters_to_context(context.get(), stream.codecpar) < 0)
+        return nullptr;
+    context->thread_count = 1;
+    context->pkt_timebase = stream.time_base;
+    return context;
+}
+
+} // namespace Av
