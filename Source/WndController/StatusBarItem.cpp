@@ -24,18 +24,25 @@ StatusBarItem::StatusBarItem(MainWndController& mainWndController, QObject* pare
     connect(&mainWndController_.record(), &RecordStateController::stateChanged, this, &StatusBarItem::validate);
     validate();
 
+    // Qt 6.4 decides once in a process, when the first icon is made, whether the session bus has a status bar, and
+    // never looks again: made before the bar is there, the icon would not be shown in it.
+    bars_ = Platform::StatusBars::create();
+    connect(bars_.get(), &Platform::StatusBars::appeared, this, &StatusBarItem::showIcon);
+}
+
+void StatusBarItem::showIcon() {
     QIcon image;
     for (const qreal ratio : {1.0, 2.0, 3.0})
         image.addPixmap(
             NamedImages::pixmap(QStringLiteral("record-status-bar-start"), {kImageSize, kImageSize}, ratio));
-    icon_.setIcon(image);
-    icon_.setToolTip(QStringLiteral("Sonaphex"));
-    icon_.setContextMenu(&systemBarMenu_);
-    connect(&icon_, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
+    icon_ = std::make_unique<QSystemTrayIcon>(image);
+    icon_->setToolTip(QStringLiteral("Sonaphex"));
+    icon_->setContextMenu(&systemBarMenu_);
+    connect(icon_.get(), &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
         if (reason == QSystemTrayIcon::Trigger)
             ToolControl::showWindowNib(mainWndController_);
     });
-    icon_.show();
+    icon_->show();
 }
 
 QAction* StatusBarItem::add(const QString& title, const QString& action, void (MainWndController::*command)()) {

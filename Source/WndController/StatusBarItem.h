@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Desktop/StatusBars.h"
+
 #include <QAction>
 #include <QMenu>
 #include <QObject>
@@ -10,7 +12,7 @@
 class MainWndController;
 
 /// The program's item in the desktop's status bar: an image and a menu with the three recording commands. Where the
-/// desktop has no such bar nothing is shown, until one appears. Main thread.
+/// desktop has no such bar nothing is shown, until one appears; a bar that comes back has the item again. Main thread.
 class StatusBarItem : public QObject {
     Q_OBJECT
 public:
@@ -23,9 +25,11 @@ public:
     [[nodiscard]] QAction* startStopMenu() const { return startStopMenu_; }
     [[nodiscard]] QAction* pauseResumeMenu() const { return pauseResumeMenu_; }
     [[nodiscard]] QAction* startNewRecordMenu() const { return startNewRecordMenu_; }
-    [[nodiscard]] const QSystemTrayIcon& icon() const { return icon_; }
+    /// Null until the desktop has had a status bar.
+    [[nodiscard]] const QSystemTrayIcon* icon() const { return icon_.get(); }
 
 private:
+    void showIcon();
     QAction* add(const QString& title, const QString& action, void (MainWndController::*command)());
     /// Titles and enabled states; at each change of the recording, since status bars keep copies of menus.
     void validate();
@@ -35,5 +39,6 @@ private:
     QAction* startStopMenu_;
     QAction* pauseResumeMenu_;
     QAction* startNewRecordMenu_;
-    QSystemTrayIcon icon_;
+    std::unique_ptr<Platform::StatusBars> bars_;
+    std::unique_ptr<QSystemTrayIcon> icon_;
 };

@@ -99,6 +99,14 @@ bool eventually(const std::function<bool()>& condition, int deadlineMs = 20000) 
     return true;
 }
 
+void end(QProcess& process) {
+    process.terminate();
+    if (!process.waitForFinished(3000)) {
+        process.kill();
+        process.waitForFinished(3000);
+    }
+}
+
 } // namespace
 
 struct XvfbSession::Private {
@@ -186,13 +194,8 @@ XvfbSession::XvfbSession() : d(std::make_unique<Private>()) {
 }
 
 XvfbSession::~XvfbSession() {
-    for (auto process = d->processes.rbegin(); process != d->processes.rend(); ++process) {
-        (*process)->terminate();
-        if (!(*process)->waitForFinished(3000)) {
-            (*process)->kill();
-            (*process)->waitForFinished(3000);
-        }
-    }
+    for (auto process = d->processes.rbegin(); process != d->processes.rend(); ++process)
+        end(**process);
     session = nullptr;
 }
 
@@ -211,6 +214,38 @@ QString XvfbSession::display() const {
 bool XvfbSession::startTray() {
     return d->start(u"trayer"_s, {u"--edge"_s, u"bottom"_s, u"--widthtype"_s, u"request"_s}) &&
            eventually([this] { return rootHas(d->display, "_NET_SYSTEM_TRAY_S0", true); });
+}
+
+void XvfbSession::stopTray() {
+    const auto tray = std::ranges::find(d->processes, u"trayer"_s, [](const auto& each) { return each->program(); });
+    if (tray == d->processes.end())
+        return;
+    end(**tray);
+    d->processes.erase(tray);
+    (void)eventually([this] { return !rootHas(d->display, "_NET_SYSTEM_TRAY_S0", true); });
+}
+
+QList<quint32> XvfbSession::windowsOfRoot(const QByteArray& property) const {
+    xcb_connection_t* connection = xcb_connect(d->display.constData(), nullptr);
+    QList<quint32> windows;
+    if (!xcb_connection_has_error(connection)) {
+        const auto root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+        const auto length = static_cast<std::uint16_t>(property.size());
+        auto* atom =
+            xcb_intern_atom_reply(connection, xcb_intern_atom(connection, 0, length, property.constData()), nullptr);
+        auto* value = !atom ? nullptr
+                            : xcb_get_property_reply(
+                                  connection,
+                                  xcb_get_property(connection, 0, root, atom->atom, XCB_ATOM_WINDOW, 0, 1000), nullptr);
+        if (value) {
+            const auto* first = static_cast<const quint32*>(xcb_get_property_value(value));
+            windows = QList<quint32>(first, first + xcb_get_property_value_length(value) / 4);
+        }
+        free(value);
+        free(atom);
+    }
+    xcb_disconnect(connection);
+    return windows;
 }
 
 bool XvfbSession::xdotool(const QStringList& arguments) const {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QList>
 #include <QString>
 
 #include <memory>
@@ -25,6 +26,11 @@ public:
     [[nodiscard]] QString display() const; ///< ":7"
     /// A system tray; returns when it owns the tray selection.
     [[nodiscard]] bool startTray();
+    /// Ends the tray; returns when the selection is free again.
+    void stopTray();
+    /// The windows that a property of the root window lists ("_NET_ACTIVE_WINDOW", "_NET_CLIENT_LIST_STACKING" with the
+    /// lowest first).
+    [[nodiscard]] QList<quint32> windowsOfRoot(const QByteArray& property) const;
     /// Runs xdotool with @p arguments and waits for it.
     bool xdotool(const QStringList& arguments) const;
     /// What it prints, trimmed.

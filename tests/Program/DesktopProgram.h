@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "tests/support/Environment.h"
+#include "tests/support/RunTool.h"
+#include "tests/support/WaitFor.h"
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+/// A user's folders, empty, for as long as a test runs.
+struct Home {
+    QTemporaryDir folder;
+    EnvironmentScope home{"HOME", QFile::encodeName(folder.path())};
+    EnvironmentScope config{"XDG_CONFIG_HOME", QFile::encodeName(folder.filePath(u".config"_s))};
+    EnvironmentScope cache{"XDG_CACHE_HOME", QFile::encodeName(folder.filePath(u".cache"_s))};
+    EnvironmentScope data{"XDG_DATA_HOME", QFile::encodeName(folder.filePath(u".local/share"_s))};
+    EnvironmentScope runtime{"XDG_RUNTIME_DIR", QFile::encodeName(folder.path())};
+    EnvironmentScope temporary{"TMPDIR"};
+    EnvironmentScope server{"PIPEWIRE_RUNTIME_DIR"};
+
+    [[nodiscard]] QString recording(int number) const {
+        return folder.filePath(u"Music/com.korvane.Sonaphex/Track%1.m4a"_s.arg(number));
+    }
+};
+
+/// The program in a process of its own, with its window on the display of the test.
+class DesktopProgram {
+public:
+    DesktopProgram() { process_.setProcessChannelMode(QProcess::ForwardedChannels); }
+    ~DesktopProgram() { end(); }
+    DesktopProgram(const DesktopProgram&) = delete;
+    DesktopProgram& operator=(const DesktopProgram&) = delete;
+
+    /// Returns when its window is set up.
+    [[nodiscard]] bool start() {
+        process_.start(QStringLiteral(SONAPHEX_PROGRAM), QStringList());
+        return waitFor([this] { return state() == u"idle"_s; }, 60000);
+    }
+    /// Ends it in good order, if it still runs.
+    void end() {
+        if (process_.state() == QProcess::NotRunning)
+            return;
+        process_.terminate();
+        if (process_.waitForFinished(20000))
+            return;
+        process_.kill();
+        process_.waitForFinished();
+    }
+    /// What another launch of it says.
+    [[nodiscard]] static ToolResult launchAgain() { return runTool(QStringLiteral(SONAPHEX_PROGRAM), {}, 20000); }
+    [[nodiscard]] static bool control(const QString& command) {
+        return runTool(QStringLiteral(SONAPHEX_PROGRAM), {u"control"_s, command}, 20000).status == 0;
+    }
+    [[nodiscard]] static QJsonObject status() {
+        const auto said = runTool(QStringLiteral(SONAPHEX_PROGRAM), {u"control"_s, u"status"_s, u"--json"_s}, 20000);
+        return said.status == 0 ? QJsonDocument::fromJson(said.output).object() : QJsonObject();
+    }
+    [[nodiscard]] static QString state() { return status().value(u"state"_s).toString(); }
+    /// Starts a recording and waits until it is so long that the filter keeps it.
+    [[nodiscard]] static bool recordForAWhile() {
+        return control(u"start-stop"_s) && waitFor(
+                                               [] {
+                                                   const QJsonObject now = status();
+                                                   return now.value(u"state"_s) == u"recording"_s &&
+                                                          now.value(u"seconds"_s).toDouble() > 6;
+                                               },
+                                               60000);
+    }
+    [[nodiscard]] QProcess& process() { return process_; }
+    /// Whether it ended by itself and in good order.
+    [[nodiscard]] bool endsWell() {
+        return waitFor([this] { return process_.state() == QProcess::NotRunning; }, 60000) &&
+               process_.exitStatus() == QProcess::NormalExit && process_.exitCode() == 0;
+    }
+
+private:
+    QProcess process_;
+};
