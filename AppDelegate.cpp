@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AppDelegate.h"
 
+#include "Platform/Desktop/Activation.h"
 #include "Platform/Desktop/Workspace.h"
 #include "Platform/Foundation/Bundle.h"
 #include "Platform/Foundation/Folders.h"
@@ -81,8 +82,9 @@ void AppDelegate::applicationWillTerminate() {
 QByteArray AppDelegate::answer(const QByteArray& request) {
     if (const auto answer = MediaLibraryRequests::answer(request))
         return *answer;
-    if (request != "show")
+    if (request != "show" && !request.startsWith("show "))
         return windows_.answer(*mainWndController_, request);
+    Platform::Activation::setToken(request.mid(5));
     ToolControl::showWindowNib(*mainWndController_);
     return "ok";
 }

@@ -4,6 +4,7 @@
 #include "AppWindows.h"
 #include "CaptureComputerAudio/KextInstallControl.h"
 #include "CommandLine/CommandLine.h"
+#include "Platform/Desktop/Activation.h"
 #include "Platform/Desktop/Alerts.h"
 #include "Platform/Foundation/Bundle.h"
 #include "Platform/Foundation/Services.h"
@@ -15,8 +16,23 @@
 
 namespace {
 
+/// What the end of a session sends ends the program whatever it does. Qt would ask the windows first, and the main
+/// window never closes while something records.
+class EndWithTheSession : public QObject {
+public:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched != qApp || event->type() != QEvent::Quit)
+            return QObject::eventFilter(watched, event);
+        QCoreApplication::exit(0);
+        return true;
+    }
+};
+
 int runWindows(int argc, char** argv) {
+    const QByteArray launchToken = Platform::Activation::launchToken();
     QApplication application(argc, argv);
+    // It is not the last window that ends the program: all of them may be closed but the main one.
+    QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setApplicationName(QStringLiteral("Sonaphex"));
     Platform::LinuxServices services;
     services.install(Platform::LinuxServices::Mode::Window);
@@ -27,7 +43,7 @@ int runWindows(int argc, char** argv) {
     const auto running = Platform::RunningProgram::create(Platform::services().bundle->bundleIdentifier());
     if (!running->acquire() && running->lastError().isEmpty()) {
         QByteArray answer;
-        if (running->ask("show", answer))
+        if (running->ask(("show " + launchToken).trimmed(), answer))
             return 0;
         return CommandLine::fail(QStringLiteral("it is already running, but does not answer"));
     }
@@ -48,6 +64,8 @@ int runWindows(int argc, char** argv) {
     // However the program is ended in good order, the recording under way becomes a whole file first.
     // Not quit(): that asks the windows first, and the main window never closes while something records.
     const Platform::TerminationSignals ending([](int) { QCoreApplication::exit(0); });
+    EndWithTheSession endWithTheSession;
+    application.installEventFilter(&endWithTheSession);
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &delegate, &AppDelegate::applicationWillTerminate);
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &delegate,
                      &AppDelegate::applicationWillTerminate, Qt::DirectConnection);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandLine/ControlCommand.h"
 
+#include "Platform/Desktop/Activation.h"
 #include "Source/Control/ControlRequests.h"
 
 #include <QJsonDocument>
@@ -39,7 +40,10 @@ int run(const QStringList& given) {
                                                     : u"%1: no such command"_s.arg(arguments.join(u' ')));
     const QString command = arguments.front();
 
-    const auto answer = askWindow(command.toUtf8());
+    QByteArray request = command.toUtf8();
+    if (command == u"show"_s)
+        request = (request + ' ' + Platform::Activation::launchToken()).trimmed();
+    const auto answer = askWindow(request);
     if (!answer)
         return fail(u"the program is not running"_s);
     QByteArray rest;

@@ -3,6 +3,7 @@
 #include "Source/WndController/MainWndController.h"
 
 #include "FilterAudio/AudioFilterController.h"
+#include "Platform/Desktop/Activation.h"
 #include "Source/Control/PreferenceStore.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
@@ -22,6 +23,7 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QScreen>
+#include <QWindow>
 
 namespace {
 constexpr int kCompactBelow = 760; ///< width at which the strip's words no longer fit
@@ -134,13 +136,14 @@ bool MainWndController::isWindowVisible() const {
 
 void MainWndController::showWindow() {
     window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
-    window_->raise();
-    window_->activateWindow();
+    if (QWindow* handle = window_->windowHandle())
+        Platform::Activation::bringToFront(*handle);
 }
 
 void MainWndController::makeKeyAndOrderFront() {
     window_->show();
-    showWindow();
+    window_->raise();
+    window_->activateWindow();
 }
 
 void MainWndController::center() {

@@ -63,13 +63,14 @@ public:
         return said.status == 0 ? QJsonDocument::fromJson(said.output).object() : QJsonObject();
     }
     [[nodiscard]] static QString state() { return status().value(u"state"_s).toString(); }
-    /// Starts a recording and waits until it is so long that the filter keeps it.
+    /// Starts a recording and waits until it is so long that the filter keeps it; the clock counts from the start, the
+    /// frames a moment later.
     [[nodiscard]] static bool recordForAWhile() {
         return control(u"start-stop"_s) && waitFor(
                                                [] {
                                                    const QJsonObject now = status();
                                                    return now.value(u"state"_s) == u"recording"_s &&
-                                                          now.value(u"seconds"_s).toDouble() > 6;
+                                                          now.value(u"seconds"_s).toDouble() > 7;
                                                },
                                                60000);
     }
