@@ -72,8 +72,15 @@ protected:
         ASSERT_TRUE(desktop().xdotool(arguments << QString::number(button)));
     }
     void click(const char* name) const {
+        // The window manager may still be moving the window to its place: the button itself tells when the pointer is
+        // on it.
         const QWidget& widget = outlet(name);
-        clickAt(widget.mapToGlobal(widget.rect().center()));
+        ASSERT_TRUE(waitFor([&] {
+            const QPoint place = widget.mapToGlobal(widget.rect().center());
+            return desktop().xdotool({u"mousemove"_s, QString::number(place.x()), QString::number(place.y())}) &&
+                   waitFor([&] { return widget.underMouse(); }, 500);
+        }));
+        ASSERT_TRUE(desktop().xdotool({u"click"_s, u"1"_s}));
     }
     [[nodiscard]] QPoint rowPlace(int row) const {
         return table().viewport()->mapToGlobal(
