@@ -38,6 +38,19 @@ QFont scaled(QFont font, qreal points, QFont::Weight weight = QFont::Normal) {
     return font;
 }
 
+/// The text in at most two lines, its end left out where it is too long: what matters stands at its beginning.
+QString inTwoLines(const QString& text, const QFontMetrics& metrics, int room) {
+    if (metrics.horizontalAdvance(text) <= room)
+        return text;
+    qsizetype end = 0; // of the first line, between two words
+    for (qsizetype blank = text.indexOf(u' '); blank >= 0; blank = text.indexOf(u' ', blank + 1))
+        if (metrics.horizontalAdvance(text.left(blank)) <= room)
+            end = blank;
+    if (end == 0)
+        return metrics.elidedText(text, Qt::ElideRight, room);
+    return text.left(end) + u'\n' + metrics.elidedText(text.mid(end + 1), Qt::ElideRight, room);
+}
+
 void setElided(QLabel* label, const QString& text) {
     const int room = std::max(label->width() - 2, 16);
     const QString shown = label->fontMetrics().elidedText(text, Qt::ElideMiddle, room);
@@ -94,6 +107,11 @@ void AudioWaveViewController::awakeFromNib() {
     ui_->noticeMark->setPixmap(NamedImages::pixmap(u"warning"_s, {16, 16}, 2, QColor(0xffc857)));
     setGlassIcon(ui_->changeTabViewButton, u"switch-display"_s);
     setGlassIcon(ui_->dismissNoticeButton, u"close"_s);
+    // The line stands in the room below the time, and the panel keeps its height.
+    ui_->noticeField->setFont(scaled(font, font.pointSizeF() - 1.5));
+    ui_->noticeLine->setFixedHeight(2 * QFontMetrics(ui_->noticeField->font()).height());
+    ui_->dismissNoticeButton->setIconSize({16, 16});
+    ui_->dismissNoticeButton->setFixedSize(24, 24);
     for (QWidget* elided : {ui_->titleField, ui_->artistField, ui_->noticeField})
         elided->installEventFilter(this);
 
@@ -244,7 +262,8 @@ void AudioWaveViewController::showNotices() {
     const QString newest = notices_.size() > 1
                                ? tr("%1 (and %n more)", nullptr, int(notices_.size()) - 1).arg(notices_.last())
                                : notices_.last();
-    setElided(ui_->noticeField, newest);
+    ui_->noticeField->setText(
+        inTwoLines(newest, ui_->noticeField->fontMetrics(), std::max(ui_->noticeField->width(), 16)));
     ui_->noticeField->setToolTip(notices_.join(u'\n'));
     ui_->noticeField->setAccessibleDescription(notices_.join(u'\n'));
 }

@@ -3,6 +3,7 @@
 #include "Source/View/Theme.h"
 
 #include "Platform/Desktop/ColorScheme.h"
+#include "Source/View/NamedImages.h"
 
 #include <QApplication>
 #include <QFontDatabase>
@@ -94,6 +95,40 @@ public:
         painter.restore();
     }
 
+    // A name that is longer than its box keeps its beginning and its end; Qt 6.4 cuts it off.
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+        const auto* box = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+        if (element != CE_ComboBoxLabel || !box) {
+            QProxyStyle::drawControl(element, option, painter, widget);
+            return;
+        }
+        QStyleOptionComboBox elided = *box;
+        int room = subControlRect(CC_ComboBox, box, SC_ComboBoxEditField, widget).width() - 4;
+        if (!box->currentIcon.isNull())
+            room -= box->iconSize.width() + 4;
+        elided.currentText = box->fontMetrics.elidedText(box->currentText, Qt::ElideMiddle, room);
+        QProxyStyle::drawControl(element, &elided, painter, widget);
+    }
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* more) const override {
+        if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
+            return 0;
+        return QProxyStyle::styleHint(hint, option, widget, more);
+    }
+
+    QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override {
+        if (which != SP_MessageBoxWarning)
+            return QProxyStyle::standardIcon(which, option, widget);
+        const int side = pixelMetric(PM_MessageBoxIconSize, option, widget);
+        const QColor amber = currentShade == Theme::Shade::Dark ? QColor(0xffc857) : QColor(0xc97a00);
+        QIcon icon;
+        for (const qreal ratio : {1.0, 2.0})
+            icon.addPixmap(NamedImages::pixmap(u"warning"_s, {side, side}, ratio, amber));
+        return icon;
+    }
+
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
         switch (metric) {
         case PM_LayoutLeftMargin:
@@ -114,16 +149,16 @@ public:
 };
 
 struct Colors {
-    QColor window, base, alternate, text, button, highlight, onHighlight, link, dim, tip, tipText;
+    QColor window, base, alternate, text, button, highlight, onHighlight, link, quiet, disabled, tip, tipText;
 };
 
 Colors colors(Theme::Shade shade) {
     if (shade == Theme::Shade::Dark)
         return {QColor(0x24272b), QColor(0x1b1e21), QColor(0x202327), QColor(0xe8eaed),
                 QColor(0x34383d), QColor(0x2f7dd1), QColor(0xffffff), QColor(0x6cb4ff),
-                QColor(0x858b92), QColor(0x3a3f45), QColor(0xf2f3f5)};
+                QColor(0x9aa0a7), QColor(0x858b92), QColor(0x3a3f45), QColor(0xf2f3f5)};
     return {QColor(0xf2f3f5), QColor(0xffffff), QColor(0xf7f8fa), QColor(0x1d2125), QColor(0xfbfbfc), QColor(0x2f7dd1),
-            QColor(0xffffff), QColor(0x1a63ad), QColor(0x9aa0a6), QColor(0x2b3035), QColor(0xf2f3f5)};
+            QColor(0xffffff), QColor(0x1a63ad), QColor(0x666c73), QColor(0x9aa0a6), QColor(0x2b3035), QColor(0xf2f3f5)};
 }
 
 } // namespace
@@ -148,16 +183,16 @@ QPalette palette(Shade shade) {
     everywhere(QPalette::LinkVisited, c.link);
     everywhere(QPalette::ToolTipBase, c.tip);
     everywhere(QPalette::ToolTipText, c.tipText);
-    everywhere(QPalette::PlaceholderText, c.dim);
+    everywhere(QPalette::PlaceholderText, c.quiet);
     everywhere(QPalette::Light, c.button.lighter(shade == Shade::Dark ? 140 : 105));
     everywhere(QPalette::Midlight, c.button.lighter(shade == Shade::Dark ? 115 : 102));
     everywhere(QPalette::Mid, c.button.darker(130));
     everywhere(QPalette::Dark, c.button.darker(160));
     everywhere(QPalette::Shadow, shade == Shade::Dark ? QColor(0x0c0d0e) : QColor(0x9aa0a6));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText})
-        p.setColor(QPalette::Disabled, role, c.dim);
+        p.setColor(QPalette::Disabled, role, c.disabled);
     p.setColor(QPalette::Disabled, QPalette::Base, c.window);
-    p.setColor(QPalette::Disabled, QPalette::Highlight, c.dim);
+    p.setColor(QPalette::Disabled, QPalette::Highlight, c.disabled);
     p.setColor(QPalette::Disabled, QPalette::HighlightedText, c.window);
     // A selection of a window in the background stays visible without shouting.
     p.setColor(QPalette::Inactive, QPalette::Highlight, shade == Shade::Dark ? QColor(0x3d4a58) : QColor(0xcfdbe8));

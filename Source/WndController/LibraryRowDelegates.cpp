@@ -25,11 +25,28 @@ QSize OutlineRowDelegate::sizeHint(const QStyleOptionViewItem& option, const QMo
     return size;
 }
 
+void OutlineRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    if (option.state.testFlag(QStyle::State_Selected) && option.widget) {
+        // The selection reaches the edge of the pane: the indentation belongs to the row.
+        QRect indentation = option.rect;
+        if (option.direction == Qt::RightToLeft)
+            indentation.setCoords(option.rect.right() + 1, option.rect.top(), option.widget->width(),
+                                  option.rect.bottom());
+        else
+            indentation.setCoords(0, option.rect.top(), option.rect.left() - 1, option.rect.bottom());
+        const auto group = option.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
+        painter->fillRect(indentation, option.palette.color(group, QPalette::Highlight));
+    }
+    QStyledItemDelegate::paint(painter, option, index);
+}
+
 void OutlineRowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
     option->state &= ~QStyle::State_HasFocus;
-    if (index.data(LibraryOutlineModel::GroupRole).toBool())
+    if (index.data(LibraryOutlineModel::GroupRole).toBool()) {
         option->state &= ~QStyle::State_MouseOver; // a heading answers to nothing
+        option->palette.setColor(QPalette::Text, option->palette.color(QPalette::Active, QPalette::PlaceholderText));
+    }
     option->icon =
         QIcon(option->icon.pixmap(option->decorationSize, option->widget->devicePixelRatioF(), markMode(*option)));
 }

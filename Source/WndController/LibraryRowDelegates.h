@@ -16,6 +16,7 @@ public:
     [[nodiscard]] static constexpr int groupRowHeight(int rowHeight) { return rowHeight * 12 / 10; }
 
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;

@@ -37,6 +37,7 @@ QAction* MainMenus::add(QMenu* menu, const QString& text, const QString& icon, c
     if (!icon.isEmpty())
         action->setIcon(NamedImages::icon(icon));
     action->setToolTip(toolTip);
+    action->setData(toolTip);
     action->setShortcuts(keys);
     // The place in the menus of some desktops is guessed from words; ours stands where it was put.
     action->setMenuRole(QAction::NoRole);
@@ -49,7 +50,6 @@ QAction* MainMenus::add(QMenu* menu, const QString& text, const QString& icon, c
 QAction* MainMenus::addWindow(QMenu* menu, Window window, const QString& text, const QString& icon,
                               const QString& toolTip, Slot slot, const QList<QKeySequence>& keys) {
     QAction* action = add(menu, text, icon, toolTip, slot, keys);
-    action->setData(toolTip);
     windows_[static_cast<std::size_t>(window)] = action;
     return action;
 }
@@ -222,12 +222,25 @@ void MainMenus::setCompact(bool compact) {
 void MainMenus::update() {
     RecordStateController& record = controller_.record();
     LibraryPresenter& library = controller_.library();
-    for (QAction* action : {startStop_, pauseResume_, split_})
+    // What is disabled says why, below what it does.
+    const auto say = [](QAction* action, const QString& why) {
+        QStringList lines{action->data().toString()};
+        if (!action->isEnabled())
+            lines << why;
+        lines.removeAll(QString());
+        action->setToolTip(lines.isEmpty() ? QAction(action->text()).toolTip() : lines.join(u'\n'));
+    };
+    for (QAction* action : {startStop_, pauseResume_, split_}) {
         action->setEnabled(controller_.validateMenuItem(*action));
+        say(action, action == startStop_ ? tr("Choose the input, computer audio, or both first.")
+                                         : tr("Nothing is being recorded."));
+    }
     recordInput_->setChecked(record.builtInChecked());
     recordInput_->setEnabled(record.sourcesEnabled());
     recordComputer_->setChecked(record.computerAudioChecked());
     recordComputer_->setEnabled(record.sourcesEnabled());
+    for (QAction* action : {recordInput_, recordComputer_})
+        say(action, tr("The sources stay as they are until the recording ends."));
 
     const bool playing = library.isPlaySoundPlaying();
     play_->setText(playing ? tr("&Pause") : tr("&Play"));
@@ -237,13 +250,18 @@ void MainMenus::update() {
     show_->setEnabled(library.tableViewShowEnable());
     open_->setEnabled(library.tableViewShowEnable());
     remove_->setEnabled(library.tableViewDeleteEnable());
+    const QString selectFirst = tr("Select a recording first.");
+    for (QAction* action : {play_, playSelected_})
+        say(action, tr("Select a recording first. Nothing is played while recording."));
+    for (QAction* action : {show_, open_, remove_})
+        say(action, selectFirst);
     for (std::size_t i = 0; i < windows_.size(); ++i) {
         const auto which = static_cast<Window>(i);
-        const QString does = windows_[i]->data().toString();
         windows_[i]->setEnabled(controller_.commands().isEnabled(which));
-        windows_[i]->setToolTip(controller_.commands().hasOpener(which)
-                                    ? does
-                                    : does + u'\n' + tr("Arrives in a later version of Sonaphex."));
+        const bool wholeList = which == Window::CDBurn || which == Window::Filter;
+        say(windows_[i], !controller_.commands().hasOpener(which) ? tr("Arrives in a later version of Sonaphex.")
+                         : wholeList                              ? tr("There is nothing in this list.")
+                                                                  : selectFirst);
     }
     for (const auto& [copy, original] : contextItems_) {
         copy->setText(original->text());

@@ -98,7 +98,11 @@ void PreferenceWndController::awakeFromNib() {
     ui_->showRingtonePathButton->setIcon(NamedImages::icon(u"show"_s));
     // A path may be longer than its field.
     for (QLineEdit* field : {ui_->audioPathField, ui_->ringtonePathField})
-        connect(field, &QLineEdit::textChanged, field, &QWidget::setToolTip);
+        connect(field, &QLineEdit::textChanged, field, [field](const QString& path) {
+            field->setToolTip(path);
+            constexpr int least = 280, most = 480, frame = 16;
+            field->setMinimumWidth(qBound(least, field->fontMetrics().horizontalAdvance(path) + frame, most));
+        });
     ui_->splitTimePopUp->addItems(splitTimes);
     ui_->filterTimePopUp->addItems(filterTimes);
 
@@ -236,11 +240,15 @@ void PreferenceWndController::showOutRingtonePath() {
 }
 
 void PreferenceWndController::chooseSplitEffect() {
-    ui_->splitTimePopUp->setEnabled(ui_->splitCheckBox->isChecked());
+    const bool on = ui_->splitCheckBox->isChecked();
+    ui_->splitTimePopUp->setEnabled(on);
+    ui_->splitTimePopUp->setToolTip(on ? QString() : tr("Nothing is split at a silence: check the box first."));
 }
 
 void PreferenceWndController::chooseFilterEffect() {
-    ui_->filterTimePopUp->setEnabled(ui_->filterCheckBox->isChecked());
+    const bool on = ui_->filterCheckBox->isChecked();
+    ui_->filterTimePopUp->setEnabled(on);
+    ui_->filterTimePopUp->setToolTip(on ? QString() : tr("All recordings are kept: check the box first."));
 }
 
 bool PreferenceWndController::systemAudioRecordDeviceExist() const {
@@ -327,8 +335,10 @@ void PreferenceWndController::showHotKeyWay() {
     using Way = Platform::HotKeys::Way;
     const auto* hotKeys = Platform::services().hotKeys;
     const bool works = hotKeys && hotKeys->way() != Way::None;
-    for (QWidget* field : {startStopShortcut(), pauseResumeShortcut(), startNewRecordShortcut()})
+    for (QWidget* field : {startStopShortcut(), pauseResumeShortcut(), startNewRecordShortcut()}) {
         field->setEnabled(works);
+        field->setToolTip(works ? QString() : tr("This desktop lets no program take keys for the whole system."));
+    }
     ui_->hotKeyHint->setVisible(!works);
     ui_->hotKeyCommands->setVisible(!works);
     ui_->hotKeyHint->setText(tr("This desktop lets no program take keys for the whole system. Bind these commands to "

@@ -74,8 +74,13 @@ void RecordPanel::showState() {
     ui_.btnBuiltInRecord_->setEnabled(record_.sourcesEnabled());
     ui_.btnComputerAudioRecord_->setEnabled(record_.sourcesEnabled());
     ui_.popBuiltInDevice_->setEnabled(record_.popUpEnabled());
+    const QString fixed = tr("The sources stay as they are until the recording ends.");
+    const bool choosable = record_.sourcesEnabled();
+    ui_.btnBuiltInRecord_->setToolTip(choosable ? tr("Record the chosen input device") : fixed);
+    ui_.btnComputerAudioRecord_->setToolTip(choosable ? tr("Record what the computer plays") : fixed);
     ui_.btnBuiltInRecord_->setChecked(record_.builtInChecked());
     ui_.btnComputerAudioRecord_->setChecked(record_.computerAudioChecked());
+    showDeviceToolTip();
     showHealth();
 }
 
@@ -104,8 +109,17 @@ void RecordPanel::showDevices() {
         ui_.popBuiltInDevice_->setItemData(ui_.popBuiltInDevice_->count() - 1, name, Qt::ToolTipRole);
     }
     ui_.popBuiltInDevice_->setCurrentIndex(record_.selectedDevice());
-    ui_.popBuiltInDevice_->setToolTip(names.isEmpty() ? tr("No input device was found.")
-                                                      : names.value(record_.selectedDevice()));
+    showDeviceToolTip();
+}
+
+void RecordPanel::showDeviceToolTip() {
+    const QStringList names = record_.deviceNames();
+    QStringList lines{names.isEmpty() ? tr("No input device was found.") : names.value(record_.selectedDevice())};
+    if (!record_.sourcesEnabled())
+        lines << tr("The sources stay as they are until the recording ends.");
+    else if (!record_.popUpEnabled() && !names.isEmpty())
+        lines << tr("The input is not recorded: check the box first.");
+    ui_.popBuiltInDevice_->setToolTip(lines.join(u'\n'));
 }
 
 void RecordPanel::showNotices() {

@@ -31,6 +31,7 @@ private:
     void showDisplay();
     void showHealth();
     void showDevices();
+    void showDeviceToolTip();
     void showNotices();
 
     Ui::MainWnd& ui_;

@@ -361,6 +361,24 @@ TEST_F(LiveDisplay, NoticesStayUntilTheyAreDismissed) {
     EXPECT_FALSE(line->isVisible());
 }
 
+TEST_F(LiveDisplay, ALongNoticeTakesTwoLinesAndNoRoomFromTheWindow) {
+    QWidget* panel = controller.view();
+    panel->resize(272, 116);
+    controller.setNotices({});
+    QCoreApplication::processEvents();
+    EXPECT_LE(panel->minimumSizeHint().height(), 116);
+    controller.setNotices({u"The disk is nearly full: about 3 h 10 min left."_s});
+    QCoreApplication::processEvents();
+    EXPECT_LE(panel->minimumSizeHint().height(), 116) << "the list below would jump";
+    EXPECT_EQ(field<QLabel>("noticeField")->text().simplified(), u"The disk is nearly full: about 3 h 10 min left."_s);
+    EXPECT_EQ(field<QLabel>("noticeField")->text().count(u'\n'), 1);
+    const QString endless = u"95232 frames were lost "_s.repeated(9);
+    controller.setNotices({endless});
+    EXPECT_EQ(field<QLabel>("noticeField")->text().count(u'\n'), 1);
+    EXPECT_TRUE(field<QLabel>("noticeField")->text().endsWith(QChar(0x2026)));
+    EXPECT_EQ(field<QLabel>("noticeField")->toolTip(), endless);
+}
+
 TEST_F(LiveDisplay, LongTitlesAreElidedInTheMiddleAndWholeInTheToolTip) {
     controller.setTabViewShowWave(false);
     const QString title = u"A very long title "_s.repeated(20);

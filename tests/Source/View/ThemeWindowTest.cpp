@@ -7,6 +7,8 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
+#include <QStyle>
 #include <gtest/gtest.h>
 
 namespace {
@@ -42,8 +44,37 @@ TEST(Theme, TextIsReadableInBothShades) {
         EXPECT_GT(contrast(p.color(QPalette::Text), p.color(QPalette::Base)), 7);
         EXPECT_GT(contrast(p.color(QPalette::ButtonText), p.color(QPalette::Button)), 7);
         EXPECT_GT(contrast(p.color(QPalette::HighlightedText), p.color(QPalette::Highlight)), 4);
+        EXPECT_GT(contrast(p.color(QPalette::PlaceholderText), p.color(QPalette::Window)), 4.5)
+            << "quiet, but to be read";
+        EXPECT_GT(contrast(p.color(QPalette::PlaceholderText), p.color(QPalette::Base)), 4.5);
         EXPECT_NE(p.color(QPalette::Disabled, QPalette::ButtonText), p.color(QPalette::Active, QPalette::ButtonText));
     }
+}
+
+TEST(Theme, ALongNameInABoxKeepsItsBeginningAndItsEnd) {
+    Theme::install(*qApp, nullptr);
+    const auto drawn = [](const QString& name) {
+        QComboBox box;
+        box.addItem(name);
+        box.resize(150, 26);
+        return Screenshot::take(box, QStringLiteral("long-name-in-a-box"));
+    };
+    const QString name = QStringLiteral("A Microphone With An Unreasonably Long Name, Channel ");
+    EXPECT_NE(drawn(name + u'1'), drawn(name + u'2')) << "what tells two devices apart is at the end of their names";
+    EXPECT_NE(drawn(u'B' + name), drawn(u'C' + name));
+}
+
+TEST(Theme, DialogsUseTheProgramsOwnSigns) {
+    Theme::install(*qApp, nullptr);
+    EXPECT_EQ(QApplication::style()->styleHint(QStyle::SH_DialogButtonBox_ButtonsHaveIcons), 0);
+    const auto sign = [] {
+        return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap({32, 32}, 1).toImage();
+    };
+    const QImage light = sign();
+    EXPECT_GT(Screenshot::coverage(light), 0.05);
+    Theme::apply(Theme::Shade::Dark);
+    EXPECT_NE(sign(), light) << "it is drawn for its ground";
+    Theme::apply(Theme::Shade::Light);
 }
 
 TEST(Theme, FollowsTheDesktopAlsoWhenItsAnswerComesLate) {

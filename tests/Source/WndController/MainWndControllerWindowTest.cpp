@@ -320,6 +320,25 @@ TEST_F(MainWindow, CommandsOfWindowsToComeAreDisabledAndSaySo) {
     controller.openFilterWindow();
 }
 
+TEST_F(MainWindow, WhatIsDisabledSaysWhy) {
+    MainWndController& controller = world.open();
+    const auto saysWhy = [&](const char* name, const QString& why) {
+        const QWidget& widget = world.outlet(name);
+        return !widget.isEnabled() && widget.toolTip().contains(why);
+    };
+    for (const char* name : {"btnShow_", "btnOpen_", "btnDelete_"})
+        EXPECT_TRUE(saysWhy(name, u"Select a recording first."_s)) << name;
+    controller.startAndStopRecord();
+    for (const char* name : {"btnBuiltInRecord_", "popBuiltInDevice_", "btnComputerAudioRecord_"})
+        EXPECT_TRUE(saysWhy(name, u"until the recording ends"_s)) << name;
+    for (const QMenu* menu : controller.window()->menuBar()->findChildren<QMenu*>())
+        for (const QAction* action : menu->actions())
+            EXPECT_TRUE(action->isEnabled() || action->toolTip().contains(u'.')) << qPrintable(action->text());
+    controller.startAndStopRecord();
+    for (const char* name : {"btnBuiltInRecord_", "popBuiltInDevice_", "btnComputerAudioRecord_"})
+        EXPECT_FALSE(world.outlet(name).toolTip().contains(u"until the recording ends"_s)) << name;
+}
+
 TEST_F(MainWindow, WindowCommandsGetWhatTheyWorkOn) {
     addRecording(u"One"_s);
     addRecording(u"Two"_s);

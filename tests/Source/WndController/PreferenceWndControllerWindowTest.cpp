@@ -421,7 +421,7 @@ TEST_F(Preferences, LongerTextsMakeTheWindowGrow) {
     open();
     const int before = controller->window()->minimumSizeHint().width();
     find<QCheckBox>("splitCheckBox")
-        ->setText(u"A translation that needs a good deal more room than the original does"_s);
+        ->setText(u"A translation that needs a good deal more room than the original does, "_s.repeated(3));
     QCoreApplication::processEvents();
     EXPECT_GT(controller->window()->minimumSizeHint().width(), before);
 }
