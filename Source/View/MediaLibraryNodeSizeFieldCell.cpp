@@ -62,6 +62,7 @@ void MediaLibraryNodeSizeFieldCell::paint(QPainter* painter, const QStyleOptionV
     style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
     MediaLibraryNodeSizeFieldCell badge;
     badge.setHighlighted(cell.state.testFlag(QStyle::State_Selected));
-    const QRect frame = cell.rect.adjusted(0, 0, cell.direction == Qt::RightToLeft ? 0 : -4, 0);
+    const bool mirrored = cell.direction == Qt::RightToLeft;
+    const QRect frame = cell.rect.adjusted(mirrored ? 4 : 0, 0, mirrored ? 0 : -4, 0);
     badge.drawWithFrame(painter, titleRect(frame, text, cell.font, cell.direction), text, cell.font);
 }

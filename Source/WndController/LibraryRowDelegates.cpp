@@ -45,6 +45,8 @@ void OutlineRowDelegate::initStyleOption(QStyleOptionViewItem* option, const QMo
     option->state &= ~QStyle::State_HasFocus;
     if (index.data(LibraryOutlineModel::GroupRole).toBool()) {
         option->state &= ~QStyle::State_MouseOver; // a heading answers to nothing
+        const bool mirrored = option->direction == Qt::RightToLeft;
+        option->rect.adjust(mirrored ? 0 : kInset, 0, mirrored ? -kInset : 0, 0);
         option->palette.setColor(QPalette::Text, option->palette.color(QPalette::Active, QPalette::PlaceholderText));
     }
     option->icon =

@@ -13,6 +13,7 @@ public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
     static constexpr int kRowHeight = 24;
+    static constexpr int kInset = 8; ///< of a heading; a node stands twice as deep
     [[nodiscard]] static constexpr int groupRowHeight(int rowHeight) { return rowHeight * 12 / 10; }
 
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;

@@ -71,7 +71,7 @@ void MainWndController::setUpViews() {
     outline->setRootIsDecorated(false);
     outline->setItemsExpandable(true);
     outline->setExpandsOnDoubleClick(false);
-    outline->setIndentation(8);
+    outline->setIndentation(2 * OutlineRowDelegate::kInset);
     outline->setEditTriggers(QAbstractItemView::NoEditTriggers);
     outline->setTextElideMode(Qt::ElideMiddle);
     outline->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
