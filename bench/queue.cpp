@@ -31,18 +31,10 @@ std::unique_ptr<Platform::ExtAudioFileWriter> record(const QString& path, double
     file.mFormatID = kAudioFormatMPEG4AAC;
     file.mFramesPerPacket = 1024;
     file.mChannelsPerFrame = 2;
-    AudioStreamBasicDescription client;
-    client.mSampleRate = Rate;
-    client.mFormatID = kAudioFormatLinearPCM;
-    client.mFormatFlags = kAudioFormatFlagIsFloat | kAudioFormatFlagIsPacked | kAudioFormatFlagIsNonInterleaved;
-    client.mBytesPerPacket = client.mBytesPerFrame = 4;
-    client.mFramesPerPacket = 1;
-    client.mChannelsPerFrame = 2;
-    client.mBitsPerChannel = 32;
     Platform::MediaError error;
     auto writer =
         Platform::services().mediaFiles->createWriter(path, kAudioFileM4AType, file, kAudioFileFlags_EraseFile, error);
-    if (!writer || writer->setClientDataFormat(client) != noErr)
+    if (!writer || writer->setClientDataFormat(planarFloatFormat(Rate, 2)) != noErr)
         return nullptr;
     (void)writer->writeAsync(0, nullptr);
 

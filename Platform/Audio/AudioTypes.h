@@ -52,6 +52,18 @@ struct AudioStreamBasicDescription {
 };
 static_assert(sizeof(AudioStreamBasicDescription) == 40);
 
+/// Samples as 32-bit float, one buffer a channel.
+constexpr AudioStreamBasicDescription planarFloatFormat(double rate, std::uint32_t channels) {
+    return {.mSampleRate = rate,
+            .mFormatID = kAudioFormatLinearPCM,
+            .mFormatFlags = kAudioFormatFlagIsFloat | kAudioFormatFlagIsPacked | kAudioFormatFlagIsNonInterleaved,
+            .mBytesPerPacket = 4,
+            .mFramesPerPacket = 1,
+            .mBytesPerFrame = 4,
+            .mChannelsPerFrame = channels,
+            .mBitsPerChannel = 32};
+}
+
 /// Samples of one channel (or of several interleaved ones).
 struct AudioBuffer {
     std::uint32_t mNumberChannels;

@@ -9,16 +9,7 @@ constexpr double kShortestFade = 0.99;
 }
 
 AudioStreamBasicDescription clientFormat() {
-    AudioStreamBasicDescription format;
-    format.mSampleRate = 44100;
-    format.mFormatID = kAudioFormatLinearPCM;
-    format.mFormatFlags = kAudioFormatFlagIsFloat | kAudioFormatFlagIsPacked | kAudioFormatFlagIsNonInterleaved;
-    format.mBitsPerChannel = 32;
-    format.mBytesPerFrame = format.mBitsPerChannel / 8;
-    format.mFramesPerPacket = 1;
-    format.mBytesPerPacket = 4;
-    format.mChannelsPerFrame = 2;
-    return format;
+    return planarFloatFormat(44100, 2);
 }
 
 ClientBlock::ClientBlock() {

@@ -8,15 +8,7 @@
 #include <cstring>
 
 OSStatus FakeInputUnit::getDeviceFormat(AudioStreamBasicDescription& format) {
-    format = {};
-    format.mSampleRate = state_->sampleRate;
-    format.mFormatID = kAudioFormatLinearPCM;
-    format.mFormatFlags = kAudioFormatFlagIsFloat | kAudioFormatFlagIsPacked | kAudioFormatFlagIsNonInterleaved;
-    format.mBytesPerPacket = 4;
-    format.mFramesPerPacket = 1;
-    format.mBytesPerFrame = 4;
-    format.mChannelsPerFrame = state_->channels;
-    format.mBitsPerChannel = 32;
+    format = planarFloatFormat(state_->sampleRate, state_->channels);
     return step(Step::DeviceFormat);
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/TestCapture.h"
 
+#include "Platform/Audio/linux/NodeFormat.h"
 #include "Platform/Audio/linux/PipeWireHandles.h"
 
 #include <algorithm>
@@ -50,17 +51,9 @@ struct TestCapture::Connection {
             .process = [](void* data) { static_cast<Connection*>(data)->process(); },
         };
         pw_stream_add_listener(stream.get(), listener.get(), &events, this);
-        std::uint8_t memory[1024];
-        spa_pod_builder builder = SPA_POD_BUILDER_INIT(memory, sizeof memory);
-        spa_audio_info_raw format = {};
-        format.format = SPA_AUDIO_FORMAT_F32;
-        format.rate = options.rate;
-        format.channels = options.channels;
-        for (std::uint32_t i = 0; i < options.channels; ++i)
-            format.position[i] = options.channels == 1   ? std::uint32_t(SPA_AUDIO_CHANNEL_MONO)
-                                 : options.channels == 2 ? SPA_AUDIO_CHANNEL_FL + i
-                                                         : SPA_AUDIO_CHANNEL_AUX0 + i;
-        const spa_pod* params[] = {spa_format_audio_raw_build(&builder, SPA_PARAM_EnumFormat, &format)};
+        const auto format = Platform::interleavedFloatPod(
+            {options.rate, options.channels, Platform::defaultChannelPositions(options.channels)});
+        const spa_pod* params[] = {format.get()};
         return pw_stream_connect(stream.get(), PW_DIRECTION_INPUT, PW_ID_ANY,
                                  pw_stream_flags(PW_STREAM_FLAG_AUTOCONNECT | PW_STREAM_FLAG_MAP_BUFFERS), params,
                                  1) >= 0;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Audio/linux/CaptureStream.h"
 
+#include "Platform/Audio/linux/NodeFormat.h"
+
 #include <algorithm>
 #include <chrono>
 #include <cmath>
@@ -91,15 +93,8 @@ bool CaptureStream::connectStream(const AudioDeviceInfo& device) {
     mayBeSilentStart_ = true;
     pw_stream_add_listener(stream_.get(), listener_.get(), &events, this);
 
-    std::uint8_t memory[1024];
-    spa_pod_builder builder = SPA_POD_BUILDER_INIT(memory, sizeof memory);
-    spa_audio_info_raw format = {};
-    format.format = SPA_AUDIO_FORMAT_F32P;
-    format.rate = target_.sampleRate;
-    format.channels = target_.channels;
-    for (std::size_t i = 0; i < target_.positions.size() && i < SPA_AUDIO_MAX_CHANNELS; ++i)
-        format.position[i] = target_.positions[i];
-    const spa_pod* params[] = {spa_format_audio_raw_build(&builder, SPA_PARAM_EnumFormat, &format)};
+    const PodPtr format = planarFloatPod({target_.sampleRate, target_.channels, target_.positions});
+    const spa_pod* params[] = {format.get()};
     constexpr int flags = PW_STREAM_FLAG_AUTOCONNECT | PW_STREAM_FLAG_MAP_BUFFERS | PW_STREAM_FLAG_RT_PROCESS |
                           PW_STREAM_FLAG_DONT_RECONNECT;
     gone_ = false;

@@ -4,6 +4,8 @@
 
 #include "Platform/Audio/linux/PipeWireHandles.h"
 
+#include <algorithm>
+
 namespace Platform {
 
 namespace {
@@ -28,6 +30,18 @@ PodPtr buildProps(Build build) {
     spa_pod_builder_push_object(&builder, &frame, SPA_TYPE_OBJECT_Props, SPA_PARAM_Props);
     build(builder);
     return PodPtr(spa_pod_copy(static_cast<spa_pod*>(spa_pod_builder_pop(&builder, &frame))));
+}
+
+PodPtr floatPod(const NodeFormat& asked, spa_audio_format sampleFormat) {
+    std::uint8_t memory[1024];
+    spa_pod_builder builder = SPA_POD_BUILDER_INIT(memory, sizeof memory);
+    spa_audio_info_raw format = {};
+    format.format = sampleFormat;
+    format.rate = asked.rate;
+    format.channels = asked.channels;
+    std::copy_n(asked.positions.begin(), std::min<std::size_t>(asked.positions.size(), SPA_AUDIO_MAX_CHANNELS),
+                format.position);
+    return PodPtr(spa_pod_copy(spa_format_audio_raw_build(&builder, SPA_PARAM_EnumFormat, &format)));
 }
 
 } // namespace
@@ -63,6 +77,14 @@ std::vector<std::uint32_t> defaultChannelPositions(std::uint32_t channels) {
     for (std::uint32_t i = 0; i < channels; ++i)
         positions.push_back(SPA_AUDIO_CHANNEL_AUX0 + i);
     return positions;
+}
+
+PodPtr interleavedFloatPod(const NodeFormat& format) {
+    return floatPod(format, SPA_AUDIO_FORMAT_F32);
+}
+
+PodPtr planarFloatPod(const NodeFormat& format) {
+    return floatPod(format, SPA_AUDIO_FORMAT_F32P);
 }
 
 bool readVolumes(const spa_pod* pod, std::vector<float>& volumes, bool& muted) {

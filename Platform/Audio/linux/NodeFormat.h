@@ -30,6 +30,10 @@ using PodPtr = std::unique_ptr<spa_pod, FreePod>;
 /// Mono, front left and right, or numbered places beyond two channels.
 [[nodiscard]] std::vector<std::uint32_t> defaultChannelPositions(std::uint32_t channels);
 
+/// What a stream asks for: raw audio of 32-bit float at a format's rate, interleaved or one buffer a channel.
+[[nodiscard]] PodPtr interleavedFloatPod(const NodeFormat& format);
+[[nodiscard]] PodPtr planarFloatPod(const NodeFormat& format);
+
 /// Takes over what a Props parameter says of volumes (linear) and mute; what it does not say stays. A device that was
 /// never opened has the property without values yet. Answers whether there is a volume control.
 bool readVolumes(const spa_pod* pod, std::vector<float>& volumes, bool& muted);

@@ -77,24 +77,17 @@ OSStatus PipeWireInputUnit::setInputCallback(RenderCallback callback, void* refC
 OSStatus PipeWireInputUnit::getDeviceFormat(AudioStreamBasicDescription& format) {
     if (target_.device == 0)
         return fail(kAudioUnitErr_Uninitialized, u"no device is set"_s);
-    format = {.mSampleRate = double(target_.sampleRate),
-              .mFormatID = kAudioFormatLinearPCM,
-              .mFormatFlags = kAudioFormatFlagIsFloat | kAudioFormatFlagIsPacked | kAudioFormatFlagIsNonInterleaved,
-              .mBytesPerPacket = 4,
-              .mFramesPerPacket = 1,
-              .mBytesPerFrame = 4,
-              .mChannelsPerFrame = target_.channels,
-              .mBitsPerChannel = 32};
+    format = planarFloatFormat(target_.sampleRate, target_.channels);
     return noErr;
 }
 
 OSStatus PipeWireInputUnit::setClientFormat(const AudioStreamBasicDescription& format) {
     if (target_.device == 0)
         return fail(kAudioUnitErr_Uninitialized, u"no device is set"_s);
-    constexpr auto flags = kAudioFormatFlagIsFloat | kAudioFormatFlagIsPacked | kAudioFormatFlagIsNonInterleaved;
-    const bool supported = format.mFormatID == kAudioFormatLinearPCM && format.mFormatFlags == flags &&
-                           format.mBitsPerChannel == 32 && format.mChannelsPerFrame >= 1 &&
-                           format.mSampleRate == double(target_.sampleRate);
+    const auto own = planarFloatFormat(target_.sampleRate, format.mChannelsPerFrame);
+    const bool supported = format.mFormatID == own.mFormatID && format.mFormatFlags == own.mFormatFlags &&
+                           format.mBitsPerChannel == own.mBitsPerChannel && format.mChannelsPerFrame >= 1 &&
+                           format.mSampleRate == own.mSampleRate;
     if (!supported)
         return fail(kAudioUnitErr_FormatNotSupported,
                     u"the unit delivers 32-bit float, one buffer a channel, at the device's rate only"_s);

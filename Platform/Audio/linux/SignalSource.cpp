@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Audio/linux/SignalSource.h"
 
+#include "Platform/Audio/linux/NodeFormat.h"
 #include "Platform/Audio/linux/PipeWireHandles.h"
 
 #include <algorithm>
@@ -149,22 +150,9 @@ bool SignalSource::Connection::start(std::string& why) {
         });
     }
 
-    std::uint8_t memory[1024];
-    spa_pod_builder builder = SPA_POD_BUILDER_INIT(memory, sizeof memory);
-    spa_audio_info_raw format = {};
-    format.format = SPA_AUDIO_FORMAT_F32;
-    format.rate = options.rate;
-    format.channels = options.channels;
-    if (options.channels == 1) {
-        format.position[0] = SPA_AUDIO_CHANNEL_MONO;
-    } else if (options.channels == 2) {
-        format.position[0] = SPA_AUDIO_CHANNEL_FL;
-        format.position[1] = SPA_AUDIO_CHANNEL_FR;
-    } else {
-        for (std::uint32_t i = 0; i < std::min(options.channels, SPA_AUDIO_MAX_CHANNELS); ++i)
-            format.position[i] = SPA_AUDIO_CHANNEL_AUX0 + i;
-    }
-    const spa_pod* params[] = {spa_format_audio_raw_build(&builder, SPA_PARAM_EnumFormat, &format)};
+    const PodPtr format =
+        interleavedFloatPod({options.rate, options.channels, defaultChannelPositions(options.channels)});
+    const spa_pod* params[] = {format.get()};
     int flags = PW_STREAM_FLAG_MAP_BUFFERS | PW_STREAM_FLAG_RT_PROCESS;
     if (options.ownClock)
         flags |= PW_STREAM_FLAG_DRIVER;

@@ -16,13 +16,7 @@ constexpr std::int64_t settleFrames = 8192;
 } // namespace
 
 FileReader::FileReader(std::unique_ptr<InputFile> input) : input_(std::move(input)) {
-    AudioStreamBasicDescription format;
-    format.mSampleRate = input_->rate();
-    format.mFormatID = kAudioFormatLinearPCM;
-    format.mFormatFlags = kAudioFormatFlagIsFloat | kAudioFormatFlagIsPacked | kAudioFormatFlagIsNonInterleaved;
-    format.mBitsPerChannel = 32;
-    format.mChannelsPerFrame = std::uint32_t(input_->channels());
-    setClientDataFormat(format);
+    setClientDataFormat(planarFloatFormat(input_->rate(), std::uint32_t(input_->channels())));
 }
 
 OSStatus FileReader::setClientDataFormat(const AudioStreamBasicDescription& format) {

@@ -20,18 +20,6 @@ constexpr std::size_t chunkFrames = 1 << 16;
 /// A speed is a ratio of two rates; this many times the real ones, so that a hundredth of a millionth counts.
 constexpr double speedScale = 10000;
 
-AudioStreamBasicDescription mixFormat() {
-    AudioStreamBasicDescription format;
-    format.mSampleRate = mixRate;
-    format.mFormatID = kAudioFormatLinearPCM;
-    format.mFormatFlags = kAudioFormatFlagIsFloat | kAudioFormatFlagIsPacked | kAudioFormatFlagIsNonInterleaved;
-    format.mBytesPerPacket = format.mBytesPerFrame = 4;
-    format.mFramesPerPacket = 1;
-    format.mChannelsPerFrame = mixChannels;
-    format.mBitsPerChannel = 32;
-    return format;
-}
-
 AudioStreamBasicDescription waveFormat() {
     AudioStreamBasicDescription format;
     format.mSampleRate = mixRate;
@@ -56,7 +44,7 @@ class TrackReader {
 public:
     TrackReader(std::unique_ptr<InputFile> input, Movie::TrackTiming timing)
         : reader_(std::move(input)), converted_(mixChannels) {
-        reader_.setClientDataFormat(mixFormat());
+        reader_.setClientDataFormat(planarFloatFormat(mixRate, mixChannels));
         const auto shift = std::int64_t(std::llround(timing.offset * mixRate));
         silence_ = std::max<std::int64_t>(0, shift);
         drop_ = std::max<std::int64_t>(0, -shift);
@@ -170,7 +158,7 @@ MediaError MixMovie::writeWave(const QString& path, const std::function<bool(dou
     error = writer.open(true);
     if (error)
         return error;
-    writer.setClientDataFormat(mixFormat());
+    writer.setClientDataFormat(planarFloatFormat(mixRate, mixChannels));
 
     const double total = std::max(1.0, duration() * mixRate);
     std::vector<Planes> sums(readers.size(), Planes(mixChannels));

@@ -92,13 +92,7 @@ private:
         const auto source = reader_->fileDataFormat();
         if (!(source.mSampleRate >= 1) || source.mChannelsPerFrame == 0)
             return false;
-        format_.mSampleRate = source.mSampleRate;
-        format_.mFormatID = kAudioFormatLinearPCM;
-        format_.mFormatFlags = kAudioFormatFlagIsFloat | kAudioFormatFlagIsPacked | kAudioFormatFlagIsNonInterleaved;
-        format_.mBytesPerPacket = format_.mBytesPerFrame = sizeof(float);
-        format_.mFramesPerPacket = 1;
-        format_.mBitsPerChannel = 32;
-        format_.mChannelsPerFrame = std::min(source.mChannelsPerFrame, 2U);
+        format_ = planarFloatFormat(source.mSampleRate, std::min(source.mChannelsPerFrame, 2U));
         length_ = reader_->fileLengthFrames();
         return reader_->setClientDataFormat(format_) == noErr;
     }

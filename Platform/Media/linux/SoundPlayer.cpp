@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/linux/SoundPlayer.h"
 
+#include "Platform/Audio/linux/NodeFormat.h"
 #include "Platform/Audio/linux/PipeWireHandles.h"
 
 #include <array>
@@ -180,15 +181,9 @@ bool SoundPlayer::Connection::start(QString& why) {
         .process = [](void* data) { static_cast<Connection*>(data)->processRt(); },
     };
     pw_stream_add_listener(stream.get(), streamListener.get(), &streamEvents, this);
-    std::uint8_t memory[1024];
-    spa_pod_builder builder = SPA_POD_BUILDER_INIT(memory, sizeof memory);
-    spa_audio_info_raw raw = {};
-    raw.format = SPA_AUDIO_FORMAT_F32;
-    raw.rate = rate;
-    raw.channels = format.mChannelsPerFrame;
-    raw.position[0] = raw.channels == 1 ? SPA_AUDIO_CHANNEL_MONO : SPA_AUDIO_CHANNEL_FL;
-    raw.position[1] = SPA_AUDIO_CHANNEL_FR;
-    const spa_pod* params[] = {spa_format_audio_raw_build(&builder, SPA_PARAM_EnumFormat, &raw)};
+    const PodPtr asked =
+        interleavedFloatPod({rate, format.mChannelsPerFrame, defaultChannelPositions(format.mChannelsPerFrame)});
+    const spa_pod* params[] = {asked.get()};
     constexpr auto flags =
         pw_stream_flags(PW_STREAM_FLAG_AUTOCONNECT | PW_STREAM_FLAG_MAP_BUFFERS | PW_STREAM_FLAG_RT_PROCESS);
     if (pw_stream_connect(stream.get(), PW_DIRECTION_OUTPUT, PW_ID_ANY, flags, params, 1) < 0) {

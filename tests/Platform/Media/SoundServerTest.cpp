@@ -91,10 +91,7 @@ TEST_F(SoundTest, PlaysAWaveFileAsItIs) {
         Platform::MediaError error;
         auto writer = media->createWriter(file, kAudioFileWAVEType, format, kAudioFileFlags_EraseFile, error);
         ASSERT_TRUE(writer) << qPrintable(error.text);
-        AudioStreamBasicDescription client = format;
-        client.mFormatFlags = kAudioFormatFlagIsFloat | kAudioFormatFlagIsPacked | kAudioFormatFlagIsNonInterleaved;
-        client.mBytesPerPacket = client.mBytesPerFrame = 4;
-        ASSERT_EQ(writer->setClientDataFormat(client), noErr);
+        ASSERT_EQ(writer->setClientDataFormat(planarFloatFormat(kRate, 2)), noErr);
         std::vector<float> planes[2];
         for (std::uint32_t i = 0; i < kRate; ++i)
             for (std::uint32_t c = 0; c < 2; ++c)
