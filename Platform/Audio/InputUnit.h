@@ -66,4 +66,22 @@ public:
     [[nodiscard]] virtual QString lastError() const = 0;
 };
 
+/// Keeps a unit's I/O thread from beginning a cycle while it lives. Without a unit there is nothing to keep.
+class CyclesHeld {
+public:
+    explicit CyclesHeld(InputUnit* unit) : unit_(unit) {
+        if (unit_)
+            unit_->holdCycles();
+    }
+    ~CyclesHeld() {
+        if (unit_)
+            unit_->releaseCycles();
+    }
+    CyclesHeld(const CyclesHeld&) = delete;
+    CyclesHeld& operator=(const CyclesHeld&) = delete;
+
+private:
+    InputUnit* unit_;
+};
+
 } // namespace Platform

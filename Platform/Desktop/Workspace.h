@@ -25,4 +25,7 @@ Q_SIGNALS:
     void fileSystemChanged(const QString& path);
 };
 
+/// Workspace::noteFileSystemChanged() of the process's workspace, where there is one.
+void noteFileSystemChanged(const QString& path);
+
 } // namespace Platform

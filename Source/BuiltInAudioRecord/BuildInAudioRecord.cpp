@@ -3,19 +3,16 @@
 #include "Source/BuiltInAudioRecord/BuildInAudioRecord.h"
 
 #include "Platform/Audio/AudioHardware.h"
-#include "Platform/Desktop/Workspace.h"
-#include "Platform/Foundation/MainQueue.h"
 #include "Platform/Foundation/Services.h"
 
 #include <QDateTime>
 #include <QLoggingCategory>
 
-#include <array>
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <cstdlib>
 
-using Platform::ExtAudioFileWriter;
 using Platform::InputUnit;
 
 namespace {
@@ -23,29 +20,6 @@ namespace {
 Q_LOGGING_CATEGORY(engineLog, "sonaphex.engine", QtInfoMsg)
 
 constexpr OSStatus parameterError = -50;
-
-/// Keeps the unit's I/O thread from beginning a cycle.
-class CyclesHeld {
-public:
-    explicit CyclesHeld(InputUnit* unit) : unit_(unit) {
-        if (unit_)
-            unit_->holdCycles();
-    }
-    ~CyclesHeld() {
-        if (unit_)
-            unit_->releaseCycles();
-    }
-    CyclesHeld(const CyclesHeld&) = delete;
-    CyclesHeld& operator=(const CyclesHeld&) = delete;
-
-private:
-    InputUnit* unit_;
-};
-
-void noteFileSystemChanged(const QString& path) {
-    if (auto* workspace = Platform::services().workspace)
-        workspace->noteFileSystemChanged(path);
-}
 
 /// When the first frame was captured, on the clock on the wall: with QT_LOGGING_RULES="sonaphex.engine.debug=true" one
 /// sees how long a start takes.
@@ -154,15 +128,8 @@ bool BuildInAudioRecord::configureAudioUnit(AudioObjectID device) {
     if (unit.getDeviceFormat(deviceFormat_) != noErr)
         return fail("the device's format cannot be read");
 
-    AudioStreamBasicDescription format;
-    format.mSampleRate = deviceFormat_.mSampleRate;
-    format.mChannelsPerFrame = std::max(2U, deviceFormat_.mChannelsPerFrame); // mono is captured as two channels
-    format.mFormatID = kAudioFormatLinearPCM;
-    format.mFormatFlags = kAudioFormatFlagIsFloat | kAudioFormatFlagIsPacked | kAudioFormatFlagIsNonInterleaved;
-    format.mBitsPerChannel = 32;
-    format.mBytesPerFrame = 4;
-    format.mFramesPerPacket = 1;
-    format.mBytesPerPacket = 4;
+    // A mono device is captured as two channels.
+    const auto format = planarFloatFormat(deviceFormat_.mSampleRate, std::max(2U, deviceFormat_.mChannelsPerFrame));
     actualOutputFormat_ = format;
     if (unit.setClientFormat(format) != noErr)
         return fail("the device's format cannot be captured");
@@ -283,156 +250,6 @@ void BuildInAudioRecord::clientRecievedComputerAudioData(float level) {
         receiver->clientRecievedComputerAudioData(level / 4);
 }
 
-AudioStreamBasicDescription BuildInAudioRecord::exportDescription(int type) const {
-    AudioStreamBasicDescription format;
-    if (type == 1) {
-        format.mSampleRate = 44100;
-        format.mFormatID = kAudioFormatMPEG4AAC;
-        format.mFramesPerPacket = 1024;
-        format.mChannelsPerFrame = 2;
-    } else if (type == 0) {
-        format.mSampleRate = 44100;
-        format.mFormatID = kAudioFormatLinearPCM;
-        format.mFormatFlags = kAudioFormatFlagIsSignedInteger | kAudioFormatFlagIsPacked;
-        format.mBytesPerPacket = 8;
-        format.mFramesPerPacket = 1024; // files of this program have always been described so
-        format.mBytesPerFrame = 8;
-        format.mChannelsPerFrame = 2;
-        format.mBitsPerChannel = 32;
-        (void)Platform::services().mediaFiles->completeFormat(format);
-    }
-    return format;
-}
-
-/// The writer, not yet made ready for frames: until then it may continue another one.
-std::unique_ptr<ExtAudioFileWriter> BuildInAudioRecord::createWriter(const QString& path, int forType) {
-    const std::uint32_t fileType = forType == 1 ? kAudioFileM4AType : forType == 0 ? kAudioFileWAVEType : 0;
-    Platform::MediaError error;
-    auto writer = Platform::services().mediaFiles->createWriter(path, fileType, exportDescription(forType),
-                                                                kAudioFileFlags_EraseFile, error);
-    if (!writer || writer->setClientDataFormat(actualOutputFormat_) != noErr) {
-        (void)noteFailure(writer ? writer->firstError() : error, path);
-        return nullptr;
-    }
-    if (deviceFormat_.mChannelsPerFrame == 1 && actualOutputFormat_.mChannelsPerFrame == 2 &&
-        writer->hasAudioConverter()) {
-        constexpr std::array<std::int32_t, 2> bothFromTheFirst{0, 0};
-        (void)writer->setConverterChannelMap(bothFromTheFirst);
-    }
-    return writer;
-}
-
-bool BuildInAudioRecord::noteFailure(const Platform::MediaError& error, const QString& path) {
-    const std::lock_guard lock(mutex_);
-    lastError_ = error ? error.text : QStringLiteral("%1 cannot be written").arg(path);
-    return false;
-}
-
-std::unique_ptr<ExtAudioFileWriter> BuildInAudioRecord::setOutAudioPath(const QString& path, int forType) {
-    auto writer = createWriter(path, forType);
-    if (writer && writer->writeAsync(0, nullptr) != noErr) {
-        (void)noteFailure(writer->firstError(), path);
-        return nullptr;
-    }
-    return writer;
-}
-
-std::unique_ptr<ExtAudioFileWriter> BuildInAudioRecord::takeWriter(Export& file) {
-    const CyclesHeld held(audioUnit_.get());
-    if (&file == &outputM4a_)
-        finishCut();
-    const std::lock_guard lock(mutex_);
-    return std::move(file.writer);
-}
-
-void BuildInAudioRecord::noteClosed(const ExtAudioFileWriter& writer) {
-    const auto error = writer.firstError();
-    const std::lock_guard lock(mutex_);
-    writeError_ = error;
-}
-
-bool BuildInAudioRecord::openExport(Export& file, const QString& path, int type) {
-    {
-        const std::lock_guard lock(mutex_);
-        file.path = path;
-    }
-    if (const auto old = takeWriter(file))
-        (void)old->dispose();
-    auto writer = setOutAudioPath(path, type);
-    const CyclesHeld held(audioUnit_.get());
-    const std::lock_guard lock(mutex_);
-    file.clientFormat = actualOutputFormat_;
-    file.writer = std::move(writer);
-    if (type == 1) {
-        framesAccepted_ = 0;
-        firstHostTime_ = 0;
-        writeError_ = {};
-    }
-    return file.writer != nullptr;
-}
-
-bool BuildInAudioRecord::setOutPutAudioPath(const QString& path, int forType) {
-    const int type = forType == 2 ? 1 : forType;
-    {
-        const std::lock_guard lock(mutex_);
-        outPutFilePath_ = path;
-    }
-    if (type == 1)
-        return openExport(outputM4a_, path, 1);
-    if (type == 0)
-        return openExport(outputWAV_, path, 0);
-    return true;
-}
-
-bool BuildInAudioRecord::exchangeM4aFile(const QString& path, std::function<void(QString, OSStatus)> closed,
-                                         std::int64_t framesBefore) {
-    const CyclesHeld held(audioUnit_.get());
-    finishCut();
-    if (!outputM4a_.writer)
-        return setOutPutAudioPath(path, 1);
-    auto writer = createWriter(path, 1);
-    if (!writer)
-        return false;
-    {
-        const std::lock_guard lock(mutex_);
-        cut_ = Cut{std::move(writer), std::move(closed), std::exchange(outputM4a_.path, path),
-                   std::max<std::int64_t>(0, framesBefore)};
-        outPutFilePath_ = path;
-    }
-    framesAccepted_ = -cut_->framesBefore;
-    firstHostTime_ = 0;
-    if (cut_->framesBefore == 0)
-        finishCut();
-    return true;
-}
-
-/// Exchanges the writers of a cut, now that the old file has its last frame. On the I/O thread or with cycles held.
-void BuildInAudioRecord::finishCut() {
-    if (!cut_)
-        return;
-    // A writer that cannot continue the other begins anew: the resampler's phase is lost, no frame is.
-    if (outputM4a_.writer)
-        (void)cut_->writer->continueFrom(*outputM4a_.writer);
-    (void)cut_->writer->writeAsync(0, nullptr);
-    std::unique_ptr<ExtAudioFileWriter> old;
-    Cut cut;
-    {
-        const std::lock_guard lock(mutex_);
-        cut = std::move(*cut_);
-        cut_.reset();
-        old = std::exchange(outputM4a_.writer, std::move(cut.writer));
-        outputM4a_.clientFormat = actualOutputFormat_;
-    }
-    framesAccepted_ = 0;
-    if (!old)
-        return;
-    old->disposeLater([oldPath = cut.oldPath, closed = std::move(cut.closed)](OSStatus status) {
-        Platform::MainQueue::post([oldPath] { noteFileSystemChanged(oldPath); });
-        if (closed)
-            closed(oldPath, status);
-    });
-}
-
 std::uint64_t BuildInAudioRecord::nextHostTime() const {
     if (previousHostTime_ == 0)
         return 0;
@@ -462,18 +279,7 @@ bool BuildInAudioRecord::stopRecordAudioLater(std::function<void(QString, OSStat
     if (recordStatus_.exchange(0) == 0)
         return false;
     logFirstFrame(firstHostTime_);
-    auto writer = takeWriter(outputM4a_);
-    const QString path = outputM4aFilePath();
-    closeExportFile(); // what else is open
-    if (!writer)
-        return false;
-    noteClosed(*writer);
-    writer->disposeLater([path, closed = std::move(closed)](OSStatus status) {
-        Platform::MainQueue::post([path] { noteFileSystemChanged(path); });
-        if (closed)
-            closed(path, status);
-    });
-    return true;
+    return closeExportFileLater(std::move(closed));
 }
 
 bool BuildInAudioRecord::pauseRecordAudio() {
@@ -486,18 +292,6 @@ bool BuildInAudioRecord::resumeRecordAudio() {
     int paused = 2;
     recordStatus_.compare_exchange_strong(paused, 1);
     return recordStatus_ != 0;
-}
-
-void BuildInAudioRecord::closeExportFile() {
-    if (const auto writer = takeWriter(outputM4a_)) {
-        (void)writer->dispose();
-        noteClosed(*writer);
-        noteFileSystemChanged(outputM4aFilePath());
-    }
-    if (const auto writer = takeWriter(outputWAV_)) {
-        (void)writer->dispose();
-        noteFileSystemChanged(outputWAVFilePath());
-    }
 }
 
 void BuildInAudioRecord::cleanUp() {
@@ -558,7 +352,7 @@ BuildInAudioRecordDelegate* BuildInAudioRecord::delegate() const {
 }
 
 void BuildInAudioRecord::setDelegate(BuildInAudioRecordDelegate* delegate) {
-    const CyclesHeld held(audioUnit_.get()); // who goes hears nothing any more when this returns
+    const Platform::CyclesHeld held(audioUnit_.get()); // who goes hears nothing any more when this returns
     delegate_ = delegate;
 }
 

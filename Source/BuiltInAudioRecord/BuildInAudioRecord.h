@@ -147,6 +147,8 @@ private:
     void clientRecievedComputerAudioData(float level);
     bool openExport(Export& file, const QString& path, int type);
     [[nodiscard]] std::unique_ptr<Platform::ExtAudioFileWriter> takeWriter(Export& file);
+    /// closeExportFile() that leaves the M4A file to its writer's thread; see stopRecordAudioLater().
+    bool closeExportFileLater(std::function<void(QString path, OSStatus)> closed);
     void noteClosed(const Platform::ExtAudioFileWriter& writer);
     void closeUnit();
     bool fail(const char* step);

@@ -4,6 +4,7 @@
 
 #include "Platform/Desktop/Workspace.h"
 #include "Platform/Foundation/Services.h"
+#include "Source/BuiltInAudioRecord/ExportFormat.h"
 #include "Source/Control/ClientFormat.h"
 
 #include <QFileInfo>
@@ -20,11 +21,6 @@ Q_LOGGING_CATEGORY(converterLog, "sonaphex.converter")
 
 /// Blocks between two reports of progress: about three quarters of a second of sound.
 constexpr int kBlocksPerReport = 64;
-
-void noteFileSystemChanged(const QString& path) {
-    if (auto* workspace = Platform::services().workspace)
-        workspace->noteFileSystemChanged(path);
-}
 
 std::uint32_t containerOf(int type) {
     switch (type) {
@@ -60,33 +56,9 @@ ConverterAudioControl::ConverterAudioControl() : actualOutputFormat_(clientForma
 ConverterAudioControl::~ConverterAudioControl() = default;
 
 AudioStreamBasicDescription ConverterAudioControl::exportDescription(int type) {
-    AudioStreamBasicDescription format;
-    switch (type) {
-    case 0:
-        format.mSampleRate = 44100;
-        format.mFormatID = kAudioFormatLinearPCM;
-        format.mFormatFlags = kAudioFormatFlagIsSignedInteger | kAudioFormatFlagIsPacked;
-        format.mBytesPerPacket = 8;
-        // One packet of linear PCM holds one frame; who completes the description knows, and this value is kept.
-        format.mFramesPerPacket = 1024;
-        format.mBytesPerFrame = 8;
-        format.mChannelsPerFrame = 2;
-        format.mBitsPerChannel = 32;
-        if (auto* files = Platform::services().mediaFiles)
-            files->completeFormat(format);
-        break;
-    case 1:
-    case 2:
-    case 3:
-        format.mSampleRate = 44100;
-        format.mFormatID = kAudioFormatMPEG4AAC;
-        format.mFramesPerPacket = 1024;
-        format.mChannelsPerFrame = 2;
-        break;
-    default:
-        break;
-    }
-    return format;
+    if (type >= 1 && type <= 3)
+        return aacExportFormat();
+    return type == 0 ? waveExportFormat() : AudioStreamBasicDescription{};
 }
 
 bool ConverterAudioControl::createOutPutFile(const QString& path, int type) {
@@ -155,8 +127,14 @@ bool ConverterAudioControl::goesOn(double share) {
     return !progress_ || progress_(std::clamp(share, 0.0, 1.0));
 }
 
-void ConverterAudioControl::finishSource(const Source& source) {
+bool ConverterAudioControl::finishCopy(Source& source, const QString& path, bool stopped) {
     sourceError_ = source.file->firstError();
+    source.file.reset();
+    Platform::noteFileSystemChanged(path);
+    closeExportFile();
+    if (!stopped && progress_)
+        progress_(1);
+    return !stopped;
 }
 
 bool ConverterAudioControl::startConverterSource(const QString& path, float trimFrom, float trimTo) {
@@ -188,14 +166,8 @@ bool ConverterAudioControl::startConverterSource(const QString& path, float trim
         if (source.timeToReport())
             stopped = !goesOn(double(position - first) / total);
     }
-    finishSource(source);
-    source.file.reset();
-    noteFileSystemChanged(path);
-    closeExportFile();
-    if (stopped)
+    if (!finishCopy(source, path, stopped))
         return false;
-    if (progress_)
-        progress_(1);
     converterFinish();
     return true;
 }
@@ -236,15 +208,7 @@ bool ConverterAudioControl::startFadeInFadeOutConverterSource(const QString& pat
         if (source.timeToReport())
             stopped = !goesOn(double(written) / std::max(fades.length * source.rate, 1.0));
     }
-    finishSource(source);
-    source.file.reset();
-    noteFileSystemChanged(path);
-    closeExportFile();
-    if (stopped)
-        return false;
-    if (progress_)
-        progress_(1);
-    return true;
+    return finishCopy(source, path, stopped);
 }
 
 void ConverterAudioControl::closeExportFile() {
@@ -253,7 +217,7 @@ void ConverterAudioControl::closeExportFile() {
     outputAudioFile_->dispose();
     exportError_ = outputAudioFile_->firstError();
     outputAudioFile_.reset();
-    noteFileSystemChanged(outputAudioFilePath_);
+    Platform::noteFileSystemChanged(outputAudioFilePath_);
 }
 
 void ConverterAudioControl::converterFinish() {

@@ -47,7 +47,8 @@ private:
     [[nodiscard]] bool openSource(const QString& path, Source& source);
     void writeBlock(Source& source, std::uint32_t frames);
     [[nodiscard]] bool goesOn(double share);
-    void finishSource(const Source& source);
+    /// Closes both files. @return whether the copy came to its end
+    [[nodiscard]] bool finishCopy(Source& source, const QString& path, bool stopped);
 
     std::unique_ptr<Platform::ExtAudioFileWriter> outputAudioFile_;
     QString outputAudioFilePath_;

@@ -1,0 +1,10 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Desktop/Workspace.h"
+
+#include "Platform/Foundation/Services.h"
+
+void Platform::noteFileSystemChanged(const QString& path) {
+    if (auto* workspace = services().workspace)
+        workspace->noteFileSystemChanged(path);
+}

@@ -1,0 +1,182 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The engine's export files: how they are made, exchanged and closed. What is written to them is the engine's business.
+#include "Source/BuiltInAudioRecord/BuildInAudioRecord.h"
+
+#include "Platform/Desktop/Workspace.h"
+#include "Platform/Foundation/MainQueue.h"
+#include "Platform/Foundation/Services.h"
+#include "Source/BuiltInAudioRecord/ExportFormat.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+using Platform::ExtAudioFileWriter;
+
+namespace {
+
+/// Lets the writer's own thread close the file, tell file browsers, and report.
+void disposeLater(ExtAudioFileWriter& writer, const QString& path, std::function<void(QString, OSStatus)> closed) {
+    writer.disposeLater([path, closed = std::move(closed)](OSStatus status) {
+        Platform::MainQueue::post([path] { Platform::noteFileSystemChanged(path); });
+        if (closed)
+            closed(path, status);
+    });
+}
+
+} // namespace
+
+AudioStreamBasicDescription BuildInAudioRecord::exportDescription(int type) const {
+    if (type == 1)
+        return aacExportFormat();
+    return type == 0 ? waveExportFormat() : AudioStreamBasicDescription{};
+}
+
+/// The writer, not yet made ready for frames: until then it may continue another one.
+std::unique_ptr<ExtAudioFileWriter> BuildInAudioRecord::createWriter(const QString& path, int forType) {
+    const std::uint32_t fileType = forType == 1 ? kAudioFileM4AType : forType == 0 ? kAudioFileWAVEType : 0;
+    Platform::MediaError error;
+    auto writer = Platform::services().mediaFiles->createWriter(path, fileType, exportDescription(forType),
+                                                                kAudioFileFlags_EraseFile, error);
+    if (!writer || writer->setClientDataFormat(actualOutputFormat_) != noErr) {
+        (void)noteFailure(writer ? writer->firstError() : error, path);
+        return nullptr;
+    }
+    if (deviceFormat_.mChannelsPerFrame == 1 && actualOutputFormat_.mChannelsPerFrame == 2 &&
+        writer->hasAudioConverter()) {
+        constexpr std::array<std::int32_t, 2> bothFromTheFirst{0, 0};
+        (void)writer->setConverterChannelMap(bothFromTheFirst);
+    }
+    return writer;
+}
+
+bool BuildInAudioRecord::noteFailure(const Platform::MediaError& error, const QString& path) {
+    const std::lock_guard lock(mutex_);
+    lastError_ = error ? error.text : QStringLiteral("%1 cannot be written").arg(path);
+    return false;
+}
+
+std::unique_ptr<ExtAudioFileWriter> BuildInAudioRecord::setOutAudioPath(const QString& path, int forType) {
+    auto writer = createWriter(path, forType);
+    if (writer && writer->writeAsync(0, nullptr) != noErr) {
+        (void)noteFailure(writer->firstError(), path);
+        return nullptr;
+    }
+    return writer;
+}
+
+std::unique_ptr<ExtAudioFileWriter> BuildInAudioRecord::takeWriter(Export& file) {
+    const Platform::CyclesHeld held(audioUnit_.get());
+    if (&file == &outputM4a_)
+        finishCut();
+    const std::lock_guard lock(mutex_);
+    return std::move(file.writer);
+}
+
+void BuildInAudioRecord::noteClosed(const ExtAudioFileWriter& writer) {
+    const auto error = writer.firstError();
+    const std::lock_guard lock(mutex_);
+    writeError_ = error;
+}
+
+bool BuildInAudioRecord::openExport(Export& file, const QString& path, int type) {
+    {
+        const std::lock_guard lock(mutex_);
+        file.path = path;
+    }
+    if (const auto old = takeWriter(file))
+        (void)old->dispose();
+    auto writer = setOutAudioPath(path, type);
+    const Platform::CyclesHeld held(audioUnit_.get());
+    const std::lock_guard lock(mutex_);
+    file.clientFormat = actualOutputFormat_;
+    file.writer = std::move(writer);
+    if (type == 1) {
+        framesAccepted_ = 0;
+        firstHostTime_ = 0;
+        writeError_ = {};
+    }
+    return file.writer != nullptr;
+}
+
+bool BuildInAudioRecord::setOutPutAudioPath(const QString& path, int forType) {
+    const int type = forType == 2 ? 1 : forType;
+    {
+        const std::lock_guard lock(mutex_);
+        outPutFilePath_ = path;
+    }
+    if (type == 1)
+        return openExport(outputM4a_, path, 1);
+    if (type == 0)
+        return openExport(outputWAV_, path, 0);
+    return true;
+}
+
+bool BuildInAudioRecord::exchangeM4aFile(const QString& path, std::function<void(QString, OSStatus)> closed,
+                                         std::int64_t framesBefore) {
+    const Platform::CyclesHeld held(audioUnit_.get());
+    finishCut();
+    if (!outputM4a_.writer)
+        return setOutPutAudioPath(path, 1);
+    auto writer = createWriter(path, 1);
+    if (!writer)
+        return false;
+    {
+        const std::lock_guard lock(mutex_);
+        cut_ = Cut{std::move(writer), std::move(closed), std::exchange(outputM4a_.path, path),
+                   std::max<std::int64_t>(0, framesBefore)};
+        outPutFilePath_ = path;
+    }
+    framesAccepted_ = -cut_->framesBefore;
+    firstHostTime_ = 0;
+    if (cut_->framesBefore == 0)
+        finishCut();
+    return true;
+}
+
+/// Exchanges the writers of a cut, now that the old file has its last frame. On the I/O thread or with cycles held.
+void BuildInAudioRecord::finishCut() {
+    if (!cut_)
+        return;
+    // A writer that cannot continue the other begins anew: the resampler's phase is lost, no frame is.
+    if (outputM4a_.writer)
+        (void)cut_->writer->continueFrom(*outputM4a_.writer);
+    (void)cut_->writer->writeAsync(0, nullptr);
+    std::unique_ptr<ExtAudioFileWriter> old;
+    Cut cut;
+    {
+        const std::lock_guard lock(mutex_);
+        cut = std::move(*cut_);
+        cut_.reset();
+        old = std::exchange(outputM4a_.writer, std::move(cut.writer));
+        outputM4a_.clientFormat = actualOutputFormat_;
+    }
+    framesAccepted_ = 0;
+    if (!old)
+        return;
+    disposeLater(*old, cut.oldPath, std::move(cut.closed));
+}
+
+void BuildInAudioRecord::closeExportFile() {
+    if (const auto writer = takeWriter(outputM4a_)) {
+        (void)writer->dispose();
+        noteClosed(*writer);
+        Platform::noteFileSystemChanged(outputM4aFilePath());
+    }
+    if (const auto writer = takeWriter(outputWAV_)) {
+        (void)writer->dispose();
+        Platform::noteFileSystemChanged(outputWAVFilePath());
+    }
+}
+
+bool BuildInAudioRecord::closeExportFileLater(std::function<void(QString, OSStatus)> closed) {
+    auto writer = takeWriter(outputM4a_);
+    const QString path = outputM4aFilePath();
+    closeExportFile(); // what else is open
+    if (!writer)
+        return false;
+    noteClosed(*writer);
+    disposeLater(*writer, path, std::move(closed));
+    return true;
+}
