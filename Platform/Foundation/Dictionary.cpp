@@ -42,6 +42,19 @@ qint64 leadingInteger(const QString& text) {
 
 } // namespace
 
+bool isNumber(const QVariant& object) {
+    switch (object.typeId()) {
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Double:
+        return true;
+    default:
+        return false;
+    }
+}
+
 qint64 longLongValue(const QVariant& object) {
     if (isText(object))
         return leadingInteger(object.toString());

@@ -11,6 +11,9 @@ using Dictionary = QVariantMap;
 
 namespace Platform {
 
+/// Whether a stored object is a number; a truth value is none.
+[[nodiscard]] bool isNumber(const QVariant& object);
+
 /// The integer that a stored object stands for: a number truncated towards zero, the leading digits of a text
 /// (after blanks and a sign; "300ms" is 300, "abc" is 0), 0 for everything else. Saturates at the 32-bit limits.
 [[nodiscard]] int intValue(const QVariant& object);

@@ -3,6 +3,7 @@
 #include "Source/HotKey/KeybordShortcutTextView.h"
 
 #include "Platform/Desktop/KeyCodes.h"
+#include "Platform/Foundation/Dictionary.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/UserDefaults.h"
 
@@ -79,25 +80,12 @@ std::uint16_t keyCodeOf(const QKeyEvent& event) {
     return Platform::KeyCodes::virtualKeyCodeOfSign(Qt::Key(event.key())).value_or(noKeyCode);
 }
 
-bool isNumber(const QVariant& object) {
-    switch (object.typeId()) {
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-    case QMetaType::Double:
-        return true;
-    default:
-        return false;
-    }
-}
-
 // A cleared shortcut is an empty dictionary. Anything else has all three values, or somebody else wrote it.
 bool isShortcut(const Dictionary& stored) {
     using View = KeybordShortcutTextView;
-    return stored.isEmpty() ||
-           (stored.value(View::CharactersKey).typeId() == QMetaType::QString &&
-            isNumber(stored.value(View::ModifierFlagsKey)) && isNumber(stored.value(View::KeyCodeKey)));
+    return stored.isEmpty() || (stored.value(View::CharactersKey).typeId() == QMetaType::QString &&
+                                Platform::isNumber(stored.value(View::ModifierFlagsKey)) &&
+                                Platform::isNumber(stored.value(View::KeyCodeKey)));
 }
 
 } // namespace

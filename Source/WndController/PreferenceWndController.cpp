@@ -7,6 +7,7 @@
 #include "Platform/Desktop/HotKeys.h"
 #include "Platform/Desktop/Panels.h"
 #include "Platform/Desktop/Workspace.h"
+#include "Platform/Foundation/Dictionary.h"
 #include "Platform/Foundation/Folders.h"
 #include "Platform/Foundation/MainQueue.h"
 #include "Platform/Foundation/Services.h"
@@ -35,18 +36,7 @@ constexpr std::uint32_t commandAndControl = KeybordShortcutTextView::CommandFlag
 
 // Containers, data and dates have no place in a text field.
 bool isTextOrNumber(const QVariant& object) {
-    switch (object.typeId()) {
-    case QMetaType::QString:
-    case QMetaType::Bool:
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-    case QMetaType::Double:
-        return true;
-    default:
-        return false;
-    }
+    return object.typeId() == QMetaType::QString || object.typeId() == QMetaType::Bool || Platform::isNumber(object);
 }
 
 QString storedTime(const QString& key, const QString& defaultTime) {

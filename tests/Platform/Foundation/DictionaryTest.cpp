@@ -6,6 +6,7 @@
 
 using Platform::boolValue;
 using Platform::intValue;
+using Platform::isNumber;
 
 TEST(Dictionary, ReadsTheLeadingDigitsOfAText) {
     EXPECT_EQ(intValue(QStringLiteral("300ms")), 300);
@@ -26,6 +27,15 @@ TEST(Dictionary, TakesNoNumberFromOtherShapes) {
     EXPECT_EQ(intValue(QVariant()), 0);
     EXPECT_EQ(intValue(QVariantList{1, 2}), 0);
     EXPECT_FALSE(boolValue(QVariantMap{{QStringLiteral("a"), 1}}));
+}
+
+TEST(Dictionary, TellsNumbersFromTruthValuesAndTexts) {
+    EXPECT_TRUE(isNumber(0));
+    EXPECT_TRUE(isNumber(qulonglong(7)));
+    EXPECT_TRUE(isNumber(0.5));
+    EXPECT_FALSE(isNumber(true));
+    EXPECT_FALSE(isNumber(QStringLiteral("7")));
+    EXPECT_FALSE(isNumber(QVariant()));
 }
 
 TEST(Dictionary, KnowsWhatCountsAsTrue) {
