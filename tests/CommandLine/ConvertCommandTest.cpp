@@ -3,6 +3,7 @@
 #include "CommandLine/ConvertCommand.h"
 #include "CommandLine/WaveformCommand.h"
 #include "Platform/Foundation/Services.h"
+#include "tests/CommandLine/CommandRun.h"
 #include "tests/fakes/FakeSourceFiles.h"
 
 #include <QDir>
@@ -29,12 +30,10 @@ protected:
         return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
     }
     int run(const CommandLine::Command& command, const QStringList& arguments) {
-        testing::internal::CaptureStdout();
-        testing::internal::CaptureStderr();
-        const int status = command.run(arguments);
-        out = QString::fromStdString(testing::internal::GetCapturedStdout());
-        err = QString::fromStdString(testing::internal::GetCapturedStderr());
-        return status;
+        const CommandRun ran(command, arguments);
+        out = ran.out;
+        err = ran.err;
+        return ran.status;
     }
     int convert(const QStringList& arguments) { return run(CommandLine::convertCommand, arguments); }
     int waveform(const QStringList& arguments) { return run(CommandLine::waveformCommand, arguments); }

@@ -5,6 +5,7 @@
 #include "CommandLine/LevelMeter.h"
 #include "Platform/Foundation/Services.h"
 #include "Source/Control/PreferenceStore.h"
+#include "tests/CommandLine/CommandRun.h"
 #include "tests/fakes/FakeAudioHardware.h"
 #include "tests/fakes/FakeBundle.h"
 #include "tests/fakes/FakeClock.h"
@@ -94,14 +95,12 @@ struct RecordCommandTest : testing::Test {
         hardware.list.push_back(device);
     }
     int run(const CommandLine::Command& command, const QStringList& arguments) {
-        testing::internal::CaptureStdout();
-        testing::internal::CaptureStderr();
-        const int status = command.run(arguments);
-        out = QString::fromStdString(testing::internal::GetCapturedStdout());
-        err = QString::fromStdString(testing::internal::GetCapturedStderr());
+        const CommandRun ran(command, arguments);
+        out = ran.out;
+        err = ran.err;
         // The double's files hold no sound, so that they cannot carry tags.
         err.remove(QRegularExpression(u"sonaphex(: Track[0-9]+\\.m4a could not be tagged\\.|\\.media: .*)\n"_s));
-        return status;
+        return ran.status;
     }
     int record(QStringList arguments) {
         arguments << u"--folder"_s << folder;

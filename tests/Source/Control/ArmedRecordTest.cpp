@@ -59,9 +59,7 @@ TEST_F(ArmedRecordTest, TheClosingIsRefusedThoughAnotherSourceWasChosenMeanwhile
 TEST_F(ArmedRecordTest, WhatAStoppedWaitRecordedIsKeptByTheNextStart) {
     beginWithComputerAudioOnly();
     controller->startAndStopRecord();
-    controller->startAndStopRecord();
-    play(ComputerAudio, 0.25F, 6);
-    controller->startAndStopRecord();
+    record(ComputerAudio, 0.25F, 6);
     EXPECT_TRUE(controller->isWaittingForSound());
     ASSERT_TRUE(queueDone());
     EXPECT_EQ(delegate.paths, QStringList{track(0)});

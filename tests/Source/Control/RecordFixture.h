@@ -121,6 +121,13 @@ protected:
         }
     }
 
+    /// A whole recording of what one device plays for a while.
+    void record(AudioObjectID device, float value, double seconds) {
+        controller->startAndStopRecord();
+        play(device, value, seconds);
+        controller->startAndStopRecord();
+    }
+
     [[nodiscard]] QString folder() const { return home.filePath(QStringLiteral("Music")); }
     [[nodiscard]] QString track(int n) const { return folder() + QStringLiteral("/Track%1.m4a").arg(n); }
     [[nodiscard]] QStringList rawFiles() const { return QDir(g_strTmpPath).entryList(QDir::Files, QDir::Name); }

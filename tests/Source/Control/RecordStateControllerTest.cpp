@@ -51,19 +51,6 @@ TEST_F(RecordStateControllerTest, IdleOffersAStartAndTheSources) {
     EXPECT_EQ(controller->stateColor(), QColor(Qt::black));
 }
 
-TEST_F(RecordStateControllerTest, TwoSourcesKeepTogetherOverWhatOneOfThemLoses) {
-    beginWithBoth();
-    controller->startAndStopRecord();
-    for (const auto& unit : hardware.opened)
-        EXPECT_TRUE(unit->fillsLost);
-    controller->startAndStopRecord();
-    controller->chooseRecordComputerAudio(false);
-    controller->startAndStopRecord();
-    for (const auto& unit : hardware.opened)
-        EXPECT_FALSE(unit->fillsLost);
-    controller->startAndStopRecord();
-}
-
 TEST_F(RecordStateControllerTest, IdleWithoutASourceOffersNoStart) {
     addMicrophone();
     begin();
@@ -145,9 +132,7 @@ TEST_F(RecordStateControllerTest, PausedCyclesAreNotWritten) {
 TEST_F(RecordStateControllerTest, StoppingBringsIdleBackAndQueuesOneJob) {
     addMicrophone();
     begin();
-    controller->startAndStopRecord();
-    play(Microphone, 0.5F, 6);
-    controller->startAndStopRecord();
+    record(Microphone, 0.5F, 6);
     expectControlsOfIdle();
     EXPECT_EQ(controller->recordState_(), 0);
     ASSERT_TRUE(queueDone());
@@ -266,9 +251,7 @@ TEST_F(RecordStateControllerTest, TwoSourcesAreCutAtOneTimeInsideACycle) {
 TEST_F(RecordStateControllerTest, AShortRecordingIsDroppedAndItsNameFreed) {
     addMicrophone();
     begin();
-    controller->startAndStopRecord();
-    play(Microphone, 0.5F, 3);
-    controller->startAndStopRecord();
+    record(Microphone, 0.5F, 3);
     EXPECT_EQ(controller->jobsInQueue(), 0);
     EXPECT_EQ(controller->droppedRecordings(), 1);
     EXPECT_TRUE(waitFor([this] { return rawFiles().isEmpty(); }));
@@ -280,9 +263,7 @@ TEST_F(RecordStateControllerTest, AShortRecordingIsDroppedAndItsNameFreed) {
 TEST_F(RecordStateControllerTest, ARecordingOfExactlyTheFilterTimeIsKept) {
     addMicrophone();
     begin();
-    controller->startAndStopRecord();
-    play(Microphone, 0.5F, 5);
-    controller->startAndStopRecord();
+    record(Microphone, 0.5F, 5);
     ASSERT_TRUE(queueDone());
     EXPECT_EQ(delegate.paths, QStringList{track(0)});
 }
@@ -291,9 +272,7 @@ TEST_F(RecordStateControllerTest, TheFilterReadsTheLeadingDigitsOfItsTime) {
     addMicrophone();
     setFilter(true, u"8 seconds"_s);
     begin();
-    controller->startAndStopRecord();
-    play(Microphone, 0.5F, 7.9);
-    controller->startAndStopRecord();
+    record(Microphone, 0.5F, 7.9);
     EXPECT_EQ(controller->droppedRecordings(), 1);
 }
 
@@ -301,9 +280,7 @@ TEST_F(RecordStateControllerTest, WithTheFilterOffEveryLengthIsKept) {
     addMicrophone();
     setFilter(false);
     begin();
-    controller->startAndStopRecord();
-    play(Microphone, 0.5F, 0.1);
-    controller->startAndStopRecord();
+    record(Microphone, 0.5F, 0.1);
     ASSERT_TRUE(queueDone());
     EXPECT_EQ(delegate.paths, QStringList{track(0)});
 }
@@ -523,9 +500,7 @@ TEST_F(RecordStateControllerTest, OverriddenSettingsAreNotStored) {
     controller->setPreferences(&preferences);
     controller->awakeFromNib();
     controller->chooseRecordBuiltIn(true);
-    controller->startAndStopRecord();
-    play(Microphone, 0.5F, 0.5);
-    controller->startAndStopRecord();
+    record(Microphone, 0.5F, 0.5);
     ASSERT_TRUE(queueDone());
     EXPECT_EQ(delegate.paths, QStringList{home.filePath(u"Elsewhere/Track0.m4a"_s)});
     EXPECT_EQ(defaults.values(), before);
