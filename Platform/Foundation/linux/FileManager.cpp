@@ -5,6 +5,7 @@
 #include "Platform/Foundation/Bundle.h"
 #include "Platform/Foundation/Folders.h"
 #include "Platform/Foundation/Services.h"
+#include "Platform/Foundation/linux/Descriptor.h"
 
 #include <QDir>
 #include <QFile>
@@ -21,26 +22,6 @@
 namespace Platform::FileManager {
 namespace {
 
-/// An open file that is closed at the end of its scope.
-class Descriptor {
-public:
-    explicit Descriptor(int fd) : fd_(fd) {}
-    ~Descriptor() { close(); }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    explicit operator bool() const { return fd_ >= 0; }
-    [[nodiscard]] int get() const { return fd_; }
-    /// Some file systems tell of a full disk only here. @return 0 or an errno
-    int close() {
-        const int status = fd_ >= 0 ? ::close(fd_) : 0;
-        fd_ = -1;
-        return status == 0 ? 0 : errno;
-    }
-
-private:
-    int fd_;
-};
-
 Problem words(int error) {
     return error == 0 ? Problem() : qt_error_string(error);
 }
@@ -50,28 +31,9 @@ QByteArray folderOf(const QByteArray& path) {
     return slash < 0 ? QByteArray(".") : slash == 0 ? QByteArray("/") : path.left(slash);
 }
 
-/// Without it a rename can be undone by a power cut.
-void syncFolder(const QByteArray& folder) {
-    if (const Descriptor open{::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)})
-        (void)fsync(open.get());
-}
-
 /// A name of its own beside the target: short, for the target's own may already be as long as a name can be.
 QByteArray hiddenNameIn(const QByteArray& folder) {
     return folder + "/.sonaphex-" + QByteArray::number(QRandomGenerator::global()->generate64(), 36) + ".part";
-}
-
-int writeAll(int fd, const char* data, std::size_t size) {
-    while (size > 0) {
-        const ssize_t written = ::write(fd, data, size);
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            return written < 0 ? errno : EIO;
-        data += written;
-        size -= std::size_t(written);
-    }
-    return 0;
 }
 
 /// rename() that never overwrites. @return 0 or an errno; EEXIST when something stands at the target.
@@ -120,8 +82,10 @@ int copyHidden(const QByteArray& from, const QByteArray& folder, QByteArray& hid
             error = errno;
         if (got <= 0)
             break;
-        if ((error = writeAll(target.get(), block.data(), std::size_t(got))) != 0)
+        if (!writeAll(target.get(), QByteArrayView(block.data(), got))) {
+            error = errno;
             break;
+        }
     }
     if (error == 0) {
         (void)fchmod(target.get(), is.st_mode & 07777);
@@ -218,9 +182,7 @@ Problem writeAtomically(const QString& path, const QByteArray& content, int mode
     Descriptor file{::open(hidden.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode)};
     if (!file)
         return words(errno);
-    int error = writeAll(file.get(), content.constData(), std::size_t(content.size()));
-    if (error == 0 && fsync(file.get()) != 0)
-        error = errno;
+    int error = writeAll(file.get(), content) && fsync(file.get()) == 0 ? 0 : errno;
     if (const int closed = file.close(); error == 0)
         error = closed;
     if (error == 0 && rename(hidden.constData(), target.constData()) != 0)

@@ -3,6 +3,7 @@
 #include "Platform/Foundation/linux/PropertyListDefaults.h"
 
 #include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/linux/Descriptor.h"
 #include "Platform/Foundation/linux/PropertyList.h"
 
 #include <QDateTime>
@@ -28,22 +29,6 @@ Q_LOGGING_CATEGORY(log, "sonaphex.foundation")
 constexpr auto retryAfter = std::chrono::seconds(5);
 constexpr auto lockPatience = std::chrono::seconds(10);
 
-class Descriptor {
-public:
-    explicit Descriptor(int fd) : fd_(fd) {}
-    ~Descriptor() {
-        if (fd_ >= 0)
-            ::close(fd_);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    [[nodiscard]] int get() const { return fd_; }
-    explicit operator bool() const { return fd_ >= 0; }
-
-private:
-    int fd_;
-};
-
 /// A hidden neighbour of the file: "/a/.b.plist.lock" for "/a/b.plist" and "lock".
 QByteArray neighbour(const QString& path, const char* ending) {
     const QFileInfo info(path);
@@ -61,19 +46,6 @@ bool lockWithin(int fd, std::chrono::milliseconds patience) {
         if ((errno != EWOULDBLOCK && errno != EINTR) || std::chrono::steady_clock::now() > deadline)
             return false;
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
-    }
-    return true;
-}
-
-bool writeAll(int fd, const QByteArray& content) {
-    qsizetype at = 0;
-    while (at < content.size()) {
-        const ssize_t count = ::write(fd, content.constData() + at, static_cast<std::size_t>(content.size() - at));
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count <= 0)
-            return false;
-        at += count;
     }
     return true;
 }
@@ -330,10 +302,7 @@ bool PropertyListDefaults::replaceFile(const QByteArray& content) {
     }
     if (std::rename(newPath.constData(), path.constData()) != 0)
         return false;
-    const Descriptor folder(
-        ::open(QFile::encodeName(QFileInfo(path_).path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (folder)
-        ::fsync(folder.get());
+    syncFolder(QFile::encodeName(QFileInfo(path_).path()));
     if (::stat(path.constData(), &status) == 0)
         version_ = versionOf(status);
     return true;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/linux/OutputFile.h"
 
+#include "Platform/Foundation/linux/Descriptor.h"
+
 #include <QFile>
 
 #include <cerrno>
@@ -39,18 +41,11 @@ MediaError OutputFile::create(const QString& path, bool overwrite) {
 bool OutputFile::append(std::span<const std::uint8_t> bytes) {
     if (fd_ < 0 || failed())
         return false;
-    std::size_t done = 0;
-    while (done < bytes.size()) {
-        const ssize_t written = ::pwrite(fd_, bytes.data() + done, bytes.size() - done, size_ + std::int64_t(done));
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0) {
-            fail(errnoError(written < 0 ? errno : ENOSPC, path_));
-            if (done > 0 && ::ftruncate(fd_, size_) < 0)
-                qWarning("%s: the unfinished end could not be cut off", qUtf8Printable(path_));
-            return false;
-        }
-        done += std::size_t(written);
+    if (!writeAllAt(fd_, bytes, size_)) {
+        fail(errnoError(errno, path_));
+        if (::ftruncate(fd_, size_) < 0)
+            qWarning("%s: the unfinished end could not be cut off", qUtf8Printable(path_));
+        return false;
     }
     size_ += std::int64_t(bytes.size());
     return true;
@@ -59,24 +54,14 @@ bool OutputFile::append(std::span<const std::uint8_t> bytes) {
 bool OutputFile::patch(std::int64_t offset, std::span<const std::uint8_t> bytes) {
     if (fd_ < 0)
         return false;
-    const ssize_t written = ::pwrite(fd_, bytes.data(), bytes.size(), offset);
-    if (written == ssize_t(bytes.size()))
+    if (writeAllAt(fd_, bytes, offset))
         return true;
-    fail(errnoError(written < 0 ? errno : ENOSPC, path_));
+    fail(errnoError(errno, path_));
     return false;
 }
 
 bool OutputFile::readBack(std::int64_t offset, std::span<std::uint8_t> bytes) const {
-    std::size_t done = 0;
-    while (done < bytes.size()) {
-        const ssize_t got = ::pread(fd_, bytes.data() + done, bytes.size() - done, offset + std::int64_t(done));
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got <= 0)
-            return false;
-        done += std::size_t(got);
-    }
-    return true;
+    return readAllAt(fd_, bytes.data(), bytes.size(), offset) == std::int64_t(bytes.size());
 }
 
 bool OutputFile::beginReplacement(OutputFile& replacement) const {
