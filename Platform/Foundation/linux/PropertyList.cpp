@@ -216,7 +216,7 @@ private:
     QVariantList objects(std::span<const plist_t> nodes) {
         QVariantList result;
         result.reserve(static_cast<qsizetype>(nodes.size()));
-        for (const plist_t node : nodes)
+        for (plist_t node : nodes)
             result.append(object(node));
         return result;
     }

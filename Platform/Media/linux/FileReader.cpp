@@ -42,6 +42,8 @@ OSStatus FileReader::seek(std::int64_t clientFrame) {
     converter_.reset();
     std::int64_t source = clientFrame;
     if (clientRate != rate) {
+        if (rate < 1)
+            return kMediaInvalidPropertyError;
         converter_ = std::make_unique<ConversionStream>(client_.mChannelsPerFrame, int(rate), int(clientRate));
         if (!converter_->valid())
             return kMediaInvalidPropertyError;

@@ -3,6 +3,7 @@
 #include "Platform/Media/linux/RateConverter.h"
 #include "Platform/Media/linux/LibAv.h"
 
+#include <algorithm>
 #include <numeric>
 
 namespace Platform {
