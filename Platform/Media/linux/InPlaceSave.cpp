@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/linux/InPlaceSave.h"
 
+#include "Platform/Foundation/linux/Descriptor.h"
+
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
@@ -35,25 +37,6 @@ constexpr auto readerPatience = std::chrono::seconds(2);
 constexpr quint64 undoMagic = 0x534e5058554e4432; // "SNPXUND2"
 constexpr qint64 longestWitness = qint64(64) << 10;
 
-class Descriptor {
-public:
-    Descriptor() = default;
-    explicit Descriptor(int fd) : fd_(fd) {}
-    ~Descriptor() { reset(); }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    void reset(int fd = -1) {
-        if (fd_ >= 0)
-            ::close(fd_);
-        fd_ = fd;
-    }
-    [[nodiscard]] int get() const { return fd_; }
-    explicit operator bool() const { return fd_ >= 0; }
-
-private:
-    int fd_ = -1;
-};
-
 /// Tells a file from every other in its folder, also from a later one that got its inode number. The number of the
 /// device is no part of it: after a power cut the same disk may come back under another one.
 struct Identity {
@@ -77,24 +60,6 @@ Identity identityOf(int fd, const QString& path) {
                             ? qint64(status.stx_btime.tv_sec) * 1'000'000'000 + status.stx_btime.tv_nsec
                             : 0;
     return {QByteArray::number(quint64(status.stx_ino), 16), born};
-}
-
-bool writeAll(int fd, const QByteArray& bytes, qint64 at) {
-    for (qsizetype done = 0; done < bytes.size();) {
-        const ssize_t count =
-            ::pwrite(fd, bytes.constData() + done, static_cast<std::size_t>(bytes.size() - done), at + done);
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count <= 0)
-            return false;
-        done += count;
-    }
-    return true;
-}
-
-void syncFolder(const QString& folder) {
-    if (const Descriptor fd{::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)})
-        ::fsync(fd.get());
 }
 
 /// The copy goes by the file's inode number, so that it is found again when the file was renamed in its folder.
@@ -174,7 +139,7 @@ bool writeBeside(const QString& path, const QByteArray& content) {
     const QByteArray part = QFile::encodeName(path + ".part"_L1);
     {
         const Descriptor file(::open(part.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0600));
-        if (!file || !writeAll(file.get(), content, 0) || ::fsync(file.get()) != 0) {
+        if (!file || !writeAllAt(file.get(), content, 0) || ::fsync(file.get()) != 0) {
             const int error = errno;
             ::unlink(part.constData());
             errno = error;
@@ -183,12 +148,12 @@ bool writeBeside(const QString& path, const QByteArray& content) {
     }
     if (std::rename(part.constData(), QFile::encodeName(path).constData()) != 0)
         return false;
-    syncFolder(QFileInfo(path).path());
+    syncFolder(QFile::encodeName(QFileInfo(path).path()));
     return true;
 }
 
 bool putBack(int fd, const Undo& undo) {
-    return writeAll(fd, undo.bytes, undo.begin) && ::ftruncate(fd, undo.size) == 0 && ::fsync(fd) == 0;
+    return writeAllAt(fd, undo.bytes, undo.begin) && ::ftruncate(fd, undo.size) == 0 && ::fsync(fd) == 0;
 }
 
 /// The file is open and locked.
@@ -218,7 +183,7 @@ bool restoreLocked(int fd, const QString& file) {
 
 bool writePiece(int out, qint64 at, int in, const PatchedFile::Piece& piece) {
     if (piece.fileOffset < 0)
-        return writeAll(out, piece.bytes, at);
+        return writeAllAt(out, piece.bytes, at);
     loff_t from = piece.fileOffset;
     loff_t to = at;
     for (qint64 left = piece.length; left > 0;) {
@@ -238,7 +203,7 @@ bool writePiece(int out, qint64 at, int in, const PatchedFile::Piece& piece) {
             continue;
         if (count == 0)
             errno = EIO;
-        if (count <= 0 || !writeAll(out, QByteArray::fromRawData(buffer.data(), count), to))
+        if (count <= 0 || !writeAllAt(out, QByteArrayView(buffer.data(), count), to))
             return false;
         from += count;
         to += count;
@@ -313,7 +278,7 @@ bool writeWhole(const QString& path, int source, const PatchedFile& content, QSt
         why = qt_error_string(errno);
         return false;
     }
-    syncFolder(folder);
+    syncFolder(QFile::encodeName(folder));
     return true;
 }
 
@@ -358,7 +323,7 @@ bool saveInPlace(const QString& givenPath, const std::function<bool(PatchedFile&
         return false;
     }
     const qint64 newSize = status.st_size + (change.newEnd - change.oldEnd);
-    const bool written = writeAll(file.get(), bytes, change.begin) &&
+    const bool written = writeAllAt(file.get(), bytes, change.begin) &&
                          (newSize >= status.st_size || ::ftruncate(file.get(), newSize) == 0) &&
                          ::fsync(file.get()) == 0;
     if (!written) {
@@ -367,7 +332,7 @@ bool saveInPlace(const QString& givenPath, const std::function<bool(PatchedFile&
             return false; // the copy stays: the next one who opens the file puts it back
     }
     ::unlink(QFile::encodeName(undoFile).constData());
-    syncFolder(QFileInfo(path).path());
+    syncFolder(QFile::encodeName(QFileInfo(path).path()));
     return written;
 }
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/linux/PatchedFile.h"
 
+#include "Platform/Foundation/linux/Descriptor.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <unistd.h>
@@ -49,17 +51,12 @@ QByteArray PatchedFile::read(qint64 offset, qint64 length) const {
             if (piece.fileOffset < 0) {
                 std::copy_n(piece.bytes.constData() + within, end - begin, to);
             } else {
-                for (qint64 done = 0; done < end - begin;) {
-                    const ssize_t count = ::pread(fd_, to + done, static_cast<std::size_t>(end - begin - done),
-                                                  piece.fileOffset + within + done);
-                    if (count < 0 && errno == EINTR)
-                        continue;
-                    if (count <= 0) {
-                        failed_ = true;
-                        result.resize(filled + done);
-                        return result;
-                    }
-                    done += count;
+                const std::int64_t count =
+                    readAllAt(fd_, to, static_cast<std::size_t>(end - begin), piece.fileOffset + within);
+                if (count < end - begin) {
+                    failed_ = true;
+                    result.resize(filled + std::max<std::int64_t>(count, 0));
+                    return result;
                 }
             }
             filled += end - begin;

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/linux/SourceFile.h"
+
+#include "Platform/Foundation/linux/Descriptor.h"
 #include "Platform/Media/linux/InPlaceSave.h"
 #include "Platform/Media/linux/PacketFile.h"
 
@@ -44,18 +46,7 @@ std::int64_t SourceFile::size() const {
 }
 
 std::int64_t SourceFile::read(std::int64_t offset, std::span<std::uint8_t> out) const {
-    std::size_t done = 0;
-    while (done < out.size()) {
-        const ssize_t got = ::pread(fd_, out.data() + done, out.size() - done, offset + std::int64_t(done));
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got < 0)
-            return -errno;
-        if (got == 0)
-            break;
-        done += std::size_t(got);
-    }
-    return std::int64_t(done);
+    return readAllAt(fd_, out.data(), out.size(), offset);
 }
 
 namespace {
