@@ -68,8 +68,14 @@ protected:
     void keys(const QStringList& arguments) { EXPECT_TRUE(XvfbSession::current()->xdotool(arguments)); }
     void type(const QString& combination) { keys({u"key"_s, combination}); }
     void click(QWidget* widget) {
-        const QPoint at = widget->mapToGlobal(widget->rect().center());
-        keys({u"mousemove"_s, QString::number(at.x()), QString::number(at.y()), u"click"_s, u"1"_s});
+        // The window manager may still be moving the window to its place: the field itself tells when the pointer is on
+        // it.
+        EXPECT_TRUE(waitFor([&] {
+            const QPoint at = widget->mapToGlobal(widget->rect().center());
+            keys({u"mousemove"_s, QString::number(at.x()), QString::number(at.y())});
+            return waitFor([&] { return widget->underMouse(); }, 500);
+        }));
+        keys({u"click"_s, u"1"_s});
         EXPECT_TRUE(waitFor([&] { return widget->hasFocus(); }));
         // The keyboard is grabbed by a request that must have reached the server before the next key.
         QCoreApplication::processEvents();
