@@ -1,81 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "AppDelegate.h"
-#include "AppWindows.h"
-#include "CaptureComputerAudio/KextInstallControl.h"
 #include "CommandLine/CommandLine.h"
-#include "Platform/Desktop/Activation.h"
-#include "Platform/Desktop/Alerts.h"
-#include "Platform/Foundation/Bundle.h"
-#include "Platform/Foundation/Services.h"
-#include "Platform/Foundation/TerminationSignals.h"
-#include "Platform/LinuxServices.h"
-
-#include <QApplication>
-#include <QSessionManager>
-
-namespace {
-
-/// What the end of a session sends ends the program whatever it does. Qt would ask the windows first, and the main
-/// window never closes while something records.
-class EndWithTheSession : public QObject {
-public:
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (watched != qApp || event->type() != QEvent::Quit)
-            return QObject::eventFilter(watched, event);
-        QCoreApplication::exit(0);
-        return true;
-    }
-};
-
-int runWindows(int argc, char** argv) {
-    const QByteArray launchToken = Platform::Activation::launchToken();
-    QApplication application(argc, argv);
-    // It is not the last window that ends the program: all of them may be closed but the main one.
-    QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setApplicationName(QStringLiteral("Sonaphex"));
-    Platform::LinuxServices services;
-    services.install(Platform::LinuxServices::Mode::Window);
-    const auto tell = [](const QString& what, const QString& why) {
-        (void)Platform::services().alerts->runModal(what, why, {QStringLiteral("OK")});
-    };
-
-    const auto running = Platform::RunningProgram::create(Platform::services().bundle->bundleIdentifier());
-    if (!running->acquire() && running->lastError().isEmpty()) {
-        QByteArray answer;
-        if (running->ask(("show " + launchToken).trimmed(), answer))
-            return 0;
-        return CommandLine::fail(QStringLiteral("it is already running, but does not answer"));
-    }
-
-    const auto windows = createAppWindows();
-    if (!windows)
-        return CommandLine::fail(QStringLiteral("this build has no windows; see sonaphex --help"));
-    QString why;
-    if (!services.startAudio(why))
-        tell(QStringLiteral("Nothing can be recorded or played."), why);
-    KextInstallControl::loadIfInstalled(); // before the devices are listed
-
-    AppDelegate delegate(*windows, *running);
-    if (!delegate.applicationDidFinishLaunching()) {
-        tell(QStringLiteral("Sonaphex cannot start."), delegate.lastError());
-        return CommandLine::Failed;
-    }
-    // However the program is ended in good order, the recording under way becomes a whole file first.
-    // Not quit(): that asks the windows first, and the main window never closes while something records.
-    const Platform::TerminationSignals ending([](int) { QCoreApplication::exit(0); });
-    EndWithTheSession endWithTheSession;
-    application.installEventFilter(&endWithTheSession);
-    QObject::connect(&application, &QCoreApplication::aboutToQuit, &delegate, &AppDelegate::applicationWillTerminate);
-    QObject::connect(&application, &QGuiApplication::commitDataRequest, &delegate,
-                     &AppDelegate::applicationWillTerminate, Qt::DirectConnection);
-    return QApplication::exec();
-}
-
-} // namespace
+#include "Platform/Foundation/Module.h"
 
 int main(int argc, char** argv) {
-    if (const auto status = CommandLine::runCommand(argc, argv))
+    // Who records from the command line pays for no window: the libraries of the desktop come with the module.
+    if (const auto status = CommandLine::runOneOf(CommandLine::plainCommands(), argc, argv))
         return *status;
-    return runWindows(argc, argv);
+    QString why;
+    using Main = int (*)(int, char**);
+    const auto desktopMain =
+        Platform::loadFunction<Main>(QStringLiteral("SonaphexDesktop.so"), "sonaphexDesktopMain", why);
+    return desktopMain ? desktopMain(argc, argv) : CommandLine::fail(why);
 }

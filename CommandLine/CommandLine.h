@@ -23,11 +23,17 @@ struct Command {
     const char* summary; ///< one line
 };
 
-/// All subcommands by name.
-[[nodiscard]] const std::map<QString, Command>& commands();
+using Commands = std::map<QString, Command>;
 
-/// Runs the subcommand that the program's arguments name, under a QCoreApplication and with the services of the command
-/// line. @return its exit status; nothing when none is named and the window is wanted.
+/// Those that neither draw nor look into pictures: the program itself knows them, and is linked without Qt Gui.
+[[nodiscard]] const Commands& plainCommands();
+/// All subcommands by name.
+[[nodiscard]] const Commands& allCommands();
+
+/// Runs the subcommand that the program's first argument names if it is one of @p known, under a QCoreApplication and
+/// with the services of the command line. @return its exit status; nothing when it is none of them.
+[[nodiscard]] std::optional<int> runOneOf(const Commands& known, int argc, char** argv);
+/// The same for all of them, and for what is asked about them. @return nothing when the window is wanted.
 [[nodiscard]] std::optional<int> runCommand(int argc, char** argv);
 
 /// Connects this process to the sound server, or to a private one when none answers. For subcommands that record or
@@ -40,7 +46,7 @@ struct Command {
 /// "sonaphex: what went wrong: why" on standard error. @return Failed
 int fail(const QString& what);
 /// The same, with the command's usage. @return WrongUsage
-int wrongUsage(const QString& command, const QString& what);
+int wrongUsage(const Command& command, const QString& what);
 /// One line (or a JSON document) on standard output, flushed.
 void print(const QString& line);
 

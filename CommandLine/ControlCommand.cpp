@@ -31,13 +31,12 @@ void showStatus(const QByteArray& json, bool asJson) {
 }
 
 int run(const QStringList& given) {
-    const auto name = u"control"_s;
     QStringList arguments = given;
     const bool json = arguments.removeAll(u"--json"_s) > 0;
     const QStringList known{u"start-stop"_s, u"pause-resume"_s, u"split"_s, u"show"_s, u"status"_s};
     if (arguments.size() != 1 || !known.contains(arguments.front()))
-        return wrongUsage(name, arguments.isEmpty() ? u"control takes a command"_s
-                                                    : u"%1: no such command"_s.arg(arguments.join(u' ')));
+        return wrongUsage(controlCommand, arguments.isEmpty() ? u"control takes a command"_s
+                                                              : u"%1: no such command"_s.arg(arguments.join(u' ')));
     const QString command = arguments.front();
 
     QByteArray request = command.toUtf8();

@@ -105,7 +105,6 @@ int convert(const Task& task) {
 }
 
 int run(const QStringList& given) {
-    const auto name = u"convert"_s;
     Arguments arguments(given, {u"type=TYPE"_s, u"from=S"_s, u"to=S"_s, u"fade-in=S"_s, u"fade-out=S"_s, u"length=S"_s,
                                 u"overwrite"_s});
     Task task;
@@ -118,19 +117,19 @@ int run(const QStringList& given) {
     for (const auto& option : {u"fade-in"_s, u"fade-out"_s, u"length"_s})
         task.fading |= arguments.isSet(option);
     if (!arguments.problem().isEmpty())
-        return wrongUsage(name, arguments.problem());
+        return wrongUsage(convertCommand, arguments.problem());
     if (arguments.positional().size() != 2)
-        return wrongUsage(name, u"convert takes a source and a target"_s);
+        return wrongUsage(convertCommand, u"convert takes a source and a target"_s);
     task.source = arguments.positional().at(0);
     task.target = arguments.positional().at(1);
     const auto typeName =
         arguments.isSet(u"type"_s) ? arguments.value(u"type"_s) : QFileInfo(task.target).suffix().toLower();
     const auto type = outputType(typeName);
     if (!type)
-        return wrongUsage(name, u"--type is wav, m4a or caf"_s);
+        return wrongUsage(convertCommand, u"--type is wav, m4a or caf"_s);
     task.type = *type;
     if (arguments.isSet(u"to"_s) && task.to <= task.from)
-        return wrongUsage(name, u"--to lies before --from"_s);
+        return wrongUsage(convertCommand, u"--to lies before --from"_s);
     return convert(task);
 }
 

@@ -51,9 +51,9 @@ void printJson(const std::vector<InputDevice>& devices, const Output& output) {
 int run(const QStringList& given) {
     Arguments arguments(given, {u"json"_s});
     if (!arguments.problem().isEmpty())
-        return wrongUsage(u"devices"_s, arguments.problem());
+        return wrongUsage(devicesCommand, arguments.problem());
     if (!arguments.positional().isEmpty())
-        return wrongUsage(u"devices"_s, u"devices takes no names"_s);
+        return wrongUsage(devicesCommand, u"devices takes no names"_s);
     QString why;
     if (!startAudio(why))
         return fail(why);

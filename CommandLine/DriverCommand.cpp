@@ -74,10 +74,10 @@ int remove() {
 int run(const QStringList& given) {
     const Arguments arguments(given, {u"json"_s});
     if (!arguments.problem().isEmpty())
-        return wrongUsage(u"driver"_s, arguments.problem());
+        return wrongUsage(driverCommand, arguments.problem());
     const auto words = arguments.positional();
     if (words.size() != 1)
-        return wrongUsage(u"driver"_s, u"driver takes one of status, install, remove"_s);
+        return wrongUsage(driverCommand, u"driver takes one of status, install, remove"_s);
     const RunningServer server;
     if (words.constFirst() == u"status")
         return status(arguments.isSet(u"json"_s));
@@ -85,7 +85,7 @@ int run(const QStringList& given) {
         return install();
     if (words.constFirst() == u"remove")
         return remove();
-    return wrongUsage(u"driver"_s, u"driver takes one of status, install, remove"_s);
+    return wrongUsage(driverCommand, u"driver takes one of status, install, remove"_s);
 }
 
 } // namespace

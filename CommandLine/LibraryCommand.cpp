@@ -99,18 +99,17 @@ int remove(const QStringList& keys, bool json) {
 }
 
 int run(const QStringList& given) {
-    const auto name = u"library"_s;
     const Arguments arguments(given, {u"json"_s});
     if (!arguments.problem().isEmpty())
-        return wrongUsage(name, arguments.problem());
+        return wrongUsage(libraryCommand, arguments.problem());
     const QStringList words = arguments.positional();
     const bool json = arguments.isSet(u"json"_s);
     if (words.isEmpty() || words == QStringList{u"list"_s})
         return list(json);
     if (words.first() != u"remove"_s)
-        return wrongUsage(name, u"library knows list and remove, not %1"_s.arg(words.first()));
+        return wrongUsage(libraryCommand, u"library knows list and remove, not %1"_s.arg(words.first()));
     if (words.size() < 2)
-        return wrongUsage(name, u"library remove takes the keys of entries"_s);
+        return wrongUsage(libraryCommand, u"library remove takes the keys of entries"_s);
     return remove(words.mid(1), json);
 }
 

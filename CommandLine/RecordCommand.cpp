@@ -89,7 +89,6 @@ bool takeSources(const Arguments& arguments, OverriddenPreferences& preferences,
 }
 
 int run(const QStringList& given) {
-    const auto name = u"record"_s;
     Arguments arguments(given, {u"input=NAME"_s, u"computer"_s, u"for=S"_s, u"wait=S"_s, u"split=MS"_s, u"filter=S"_s,
                                 u"folder=DIR"_s, u"json"_s});
     OverriddenPreferences preferences;
@@ -99,7 +98,7 @@ int run(const QStringList& given) {
     task.json = arguments.isSet(u"json"_s);
     takeSettings(arguments, preferences);
     if (const QString why = whyWrong(arguments, task); !why.isEmpty())
-        return wrongUsage(name, why);
+        return wrongUsage(recordCommand, why);
 
     QString why;
     if (!startAudio(why))

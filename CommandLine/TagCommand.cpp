@@ -70,19 +70,18 @@ QString tellLibrary(const QString& path, const Dictionary& changed) {
 }
 
 int run(const QStringList& given) {
-    const auto name = u"tag"_s;
     const Arguments arguments(
         given, {u"title=T"_s, u"artist=A"_s, u"album=B"_s, u"year=Y"_s, u"genre=G"_s, u"artwork=IMAGE"_s, u"json"_s});
     if (!arguments.problem().isEmpty())
-        return wrongUsage(name, arguments.problem());
+        return wrongUsage(tagCommand, arguments.problem());
     if (arguments.positional().size() != 1)
-        return wrongUsage(name, u"tag takes one file"_s);
+        return wrongUsage(tagCommand, u"tag takes one file"_s);
     const QString path = arguments.positional().first();
     bool isYear = true;
     const QString yearText = arguments.value(u"year"_s);
     const int year = yearText.isEmpty() ? 0 : yearText.toInt(&isYear);
     if (!isYear)
-        return wrongUsage(name, u"--year: %1 is no number"_s.arg(yearText));
+        return wrongUsage(tagCommand, u"--year: %1 is no number"_s.arg(yearText));
 
     QString why;
     std::optional<BasicID3Change::Tags> tags = BasicID3Change::read(path, &why);

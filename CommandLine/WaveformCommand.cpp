@@ -40,12 +40,11 @@ QString drawTo(const QString& target, bool overwrite, const QList<float>& values
 }
 
 int run(const QStringList& given) {
-    const auto name = u"waveform"_s;
     Arguments arguments(given, {u"png=FILE"_s, u"json"_s, u"overwrite"_s});
     if (!arguments.problem().isEmpty())
-        return wrongUsage(name, arguments.problem());
+        return wrongUsage(waveformCommand, arguments.problem());
     if (arguments.positional().size() != 1)
-        return wrongUsage(name, u"waveform takes one file"_s);
+        return wrongUsage(waveformCommand, u"waveform takes one file"_s);
     const auto source = arguments.positional().constFirst();
 
     const Interrupt interrupt;

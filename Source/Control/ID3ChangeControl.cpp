@@ -10,10 +10,8 @@
 #include "Source/Control/PreferenceStore.h"
 #include "Source/Model/AudioRecordEntry.h"
 
-#include <QBuffer>
 #include <QFileInfo>
 #include <QLoggingCategory>
-#include <QPainter>
 #include <QProcess>
 
 using namespace Qt::StringLiterals;
@@ -25,23 +23,11 @@ namespace {
 
 Q_LOGGING_CATEGORY(log, "sonaphex.control")
 
-unsigned imageCounter = 0;
 unsigned audioCounter = 0;
 unsigned artworkCounter = 0;
 
 QString temporaryPath(QLatin1StringView prefix, unsigned& counter, QLatin1StringView ending) {
     return g_strTmpPath + u'/' + prefix + QString::number(counter++) + ending;
-}
-
-QByteArray jpegOf(const QImage& image) {
-    // JPEG has no transparency: what shows through is white, not whatever colour lies beneath.
-    QImage opaque(image.size(), QImage::Format_RGB32);
-    opaque.fill(Qt::white);
-    QPainter(&opaque).drawImage(0, 0, image);
-    QByteArray jpeg;
-    QBuffer buffer(&jpeg);
-    buffer.open(QIODevice::WriteOnly);
-    return opaque.save(&buffer, "JPEG") ? jpeg : QByteArray();
 }
 
 /// Takes a file back from the temporary folder; when something else stands there by now, both are kept.
@@ -54,16 +40,6 @@ void moveBack(const QString& from, const QString& to) {
 }
 
 } // namespace
-
-QString createPathForImage(const QImage& image) {
-    const QString path = temporaryPath("ArtworkImage"_L1, imageCounter, ".png"_L1);
-    (void)FileManager::removeFile(path);
-    const QByteArray jpeg = jpegOf(image);
-    const auto problem = jpeg.isEmpty() ? u"no image"_s : FileManager::writeAtomically(path, jpeg);
-    if (!problem.isEmpty())
-        qCWarning(log, "cannot write %s: %s", qUtf8Printable(path), qUtf8Printable(problem));
-    return path;
-}
 
 QString artworkCommandLine(const QString& tool, const QString& source, const QString& artwork,
                            const QString& destination) {

@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QColor>
 #include <QString>
 
 /// What the live display says about a recording.
 struct RecordDisplay {
     QString stateString;
     QString timeString;
-    QColor stateColor;
+    Qt::GlobalColor stateColor = Qt::black;
 
     /// @p recordState 0 stopped, 1 recording, 2 paused; @p seconds of the file at hand.
     [[nodiscard]] static RecordDisplay of(int recordState, float seconds, bool blinkOn);

@@ -273,7 +273,7 @@ QString RecordStateController::timeString() const {
     return d->display_.timeString;
 }
 
-QColor RecordStateController::stateColor() const {
+Qt::GlobalColor RecordStateController::stateColor() const {
     return d->display_.stateColor;
 }
 

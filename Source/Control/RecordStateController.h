@@ -5,7 +5,6 @@
 #include "Source/BuiltInAudioRecord/BuildInAudioRecord.h"
 #include "Source/Control/RecordPreferences.h"
 
-#include <QColor>
 #include <QObject>
 #include <QStringList>
 #include <QVariantList>
@@ -52,7 +51,7 @@ class RecordStateController : public QObject, public BuildInAudioRecordDelegate 
     Q_PROPERTY(QString pauseImage READ pauseImage NOTIFY stateChanged)
     Q_PROPERTY(QString stateString READ stateString NOTIFY displayChanged)
     Q_PROPERTY(QString timeString READ timeString NOTIFY displayChanged)
-    Q_PROPERTY(QColor stateColor READ stateColor NOTIFY displayChanged)
+    Q_PROPERTY(Qt::GlobalColor stateColor READ stateColor NOTIFY displayChanged)
     Q_PROPERTY(QStringList deviceNames READ deviceNames NOTIFY devicesChanged)
     Q_PROPERTY(int selectedDevice READ selectedDevice NOTIFY devicesChanged)
 
@@ -110,7 +109,7 @@ public:
     [[nodiscard]] QString pauseImage() const;
     [[nodiscard]] QString stateString() const;
     [[nodiscard]] QString timeString() const;
-    [[nodiscard]] QColor stateColor() const;
+    [[nodiscard]] Qt::GlobalColor stateColor() const;
     /// Text of the converting notice in its blink phase; empty until the first tick.
     [[nodiscard]] QString fileConvertTip() const;
     /// Seconds of the current file as the clock counts them.

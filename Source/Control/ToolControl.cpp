@@ -9,7 +9,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLoggingCategory>
-#include <QPainter>
 #include <QProcess>
 #include <filesystem>
 #include <stdexcept>
@@ -172,18 +171,6 @@ QString getFirstImageFile(const QStringList& paths) {
         if (hasExtension(path, "iso"_L1) || hasExtension(path, "dmg"_L1))
             return path;
     return {};
-}
-
-QImage creatorImageFromStr(const Drawable& string) {
-    const QSizeF size = string.size();
-    QImage image(static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height())),
-                 QImage::Format_ARGB32_Premultiplied);
-    if (image.isNull())
-        return image;
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    string.drawInRect(painter, QRectF(QPointF(0, 0), size));
-    return image;
 }
 
 void openFile(const QString& path) {

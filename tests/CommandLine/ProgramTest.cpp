@@ -25,6 +25,23 @@ TEST(Program, TellsItsVersionAndItsCommands) {
     }
 }
 
+TEST(Program, LoadsNoLibraryOfWindowsOrContainersToRecord) {
+    const auto dynamic = runTool(u"readelf"_s, {u"-d"_s, QStringLiteral(SONAPHEX_PROGRAM)});
+    ASSERT_EQ(dynamic.status, 0) << dynamic.errors.data();
+    ASSERT_TRUE(dynamic.output.contains("[libQt6Core.so")) << dynamic.output.data();
+    for (const char* unwanted : {"libQt6Gui", "libQt6Widgets", "libQt6Svg", "libavformat"})
+        EXPECT_FALSE(dynamic.output.contains(unwanted)) << unwanted;
+}
+
+TEST(Program, SaysSoWhenThePartWithItsWindowsIsMissing) {
+    QTemporaryDir folder;
+    const QString copy = folder.filePath(u"sonaphex"_s);
+    ASSERT_TRUE(QFile::copy(QStringLiteral(SONAPHEX_PROGRAM), copy));
+    const auto result = runTool(copy, {u"--help"_s});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_TRUE(result.errors.startsWith("sonaphex: a part of the program is missing: ")) << result.errors.data();
+}
+
 TEST(Program, AnswersWrongUsageWithStatusTwoAndOneReason) {
     const auto unknown = sonaphex({u"recrod"_s});
     EXPECT_EQ(unknown.status, 2);

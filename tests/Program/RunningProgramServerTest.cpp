@@ -37,7 +37,7 @@ protected:
     }
     [[nodiscard]] bool launch() {
         window_.start(QStringLiteral(SONAPHEX_PROGRAM), QStringList());
-        return waitFor([this] { return control(u"status"_s).startsWith("idle"); }, 30000);
+        return window_.waitForStarted() && waitFor([this] { return control(u"status"_s).startsWith("idle"); }, 30000);
     }
 
     PrivateAudioSession& session_ = PrivateAudioSession::shared();

@@ -16,7 +16,6 @@ namespace Platform::Activation {
 namespace {
 
 constexpr const char* waylandToken = "XDG_ACTIVATION_TOKEN";
-constexpr const char* startupId = "DESKTOP_STARTUP_ID";
 
 QByteArray token;
 
@@ -98,11 +97,6 @@ void endLaunch(const Visit& server, const QByteArray& id) {
 }
 
 } // namespace
-
-QByteArray launchToken() {
-    const QByteArray wayland = qgetenv(waylandToken);
-    return wayland.isEmpty() || qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ? qgetenv(startupId) : wayland;
-}
 
 void setToken(const QByteArray& of) {
     token = of;

@@ -5,14 +5,12 @@
 #include "Platform/Foundation/Dictionary.h"
 #include "Platform/Media/linux/InPlaceSave.h"
 #include "Platform/Media/linux/Mpeg4Atoms.h"
+#include "Platform/Media/linux/Mpeg4Tags.h"
 
 #include <algorithm>
-#include <functional>
 
-#include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
-#include <QImageReader>
 #include <QLoggingCategory>
 #include <QtEndian>
 
@@ -36,10 +34,6 @@ constexpr const char* artistItem = "\251ART";
 constexpr const char* albumItem = "\251alb";
 constexpr const char* yearItem = "\251day";
 constexpr const char* genreItem = "\251gen";
-constexpr const char* artworkItem = "covr";
-
-// Covers are shown on screens; a larger file is no cover.
-constexpr qint64 largestImage = qint64(64) << 20;
 
 // Where the pieces of a day of audio are.
 constexpr qint64 largestTable = qint64(64) << 20;
@@ -143,9 +137,22 @@ bool appendItems(PatchedFile& content, const QByteArray& items, QString& why) {
     return true;
 }
 
-/// Edits the tags and keeps every item but those named in @p changed. TagLib drops items whose type it does not know.
-bool editTags(PatchedFile& content, const std::vector<const char*>& changed,
-              const std::function<void(TagLib::MP4::Tag&)>& edit, QString& why) {
+void setText(TagLib::MP4::Tag& tag, const char* item, QString text) {
+    text.remove(QChar(u'\0'));
+    if (text.isEmpty())
+        tag.removeItem(item);
+    else
+        tag.setItem(item, TagLib::StringList(TagLib::String(text.toUtf8().constData(), TagLib::String::UTF8)));
+}
+
+QString text(const TagLib::String& string) {
+    return QString::fromStdString(string.to8Bit(true));
+}
+
+} // namespace
+
+bool Media::editTags(PatchedFile& content, const std::vector<const char*>& changed,
+                     const std::function<void(TagLib::MP4::Tag&)>& edit, QString& why) {
     const auto before = Media::readMpeg4Atoms(content, why);
     if (!before)
         return false;
@@ -197,37 +204,10 @@ bool editTags(PatchedFile& content, const std::vector<const char*>& changed,
     return true;
 }
 
-void setText(TagLib::MP4::Tag& tag, const char* item, QString text) {
-    text.remove(QChar(u'\0'));
-    if (text.isEmpty())
-        tag.removeItem(item);
-    else
-        tag.setItem(item, TagLib::StringList(TagLib::String(text.toUtf8().constData(), TagLib::String::UTF8)));
-}
-
-QString text(const TagLib::String& string) {
-    return QString::fromStdString(string.to8Bit(true));
-}
-
-/// The kind of picture by its content, nothing when it is no whole JPEG or PNG file.
-std::optional<TagLib::MP4::CoverArt::Format> formatOf(QByteArray& image) {
-    const bool isJpeg = image.startsWith("\xff\xd8\xff") && image.contains("\xff\xd9");
-    const bool isPng = image.startsWith("\x89PNG\r\n\x1a\n") && image.contains("IEND");
-    if (!isJpeg && !isPng)
-        return std::nullopt;
-    QBuffer buffer(&image);
-    buffer.open(QIODevice::ReadOnly);
-    if (!QImageReader(&buffer, isJpeg ? "jpeg" : "png").size().isValid())
-        return std::nullopt;
-    return isJpeg ? TagLib::MP4::CoverArt::JPEG : TagLib::MP4::CoverArt::PNG;
-}
-
-} // namespace
-
 QString BasicID3Change::writeTexts(const QString& path, const Tags& tags) {
     QString why;
     const auto edit = [&](PatchedFile& content, QString& reason) {
-        return editTags(
+        return Media::editTags(
             content, {titleItem, artistItem, albumItem, yearItem, genreItem, "gnre"},
             [&](TagLib::MP4::Tag& tag) {
                 setText(tag, titleItem, tags.title);
@@ -273,42 +253,13 @@ std::optional<BasicID3Change::Tags> BasicID3Change::read(const QString& path, QS
     Tags tags{text(tag->title()), text(tag->artist()), text(tag->album()), text(tag->genre()), 0, {}};
     if (const TagLib::MP4::Item year = tag->item(yearItem); year.isValid())
         tags.year = intValue(text(year.toStringList().toString()));
-    if (const TagLib::MP4::Item artwork = tag->item(artworkItem); artwork.isValid()) {
+    if (const TagLib::MP4::Item artwork = tag->item(Media::artworkItem); artwork.isValid()) {
         const TagLib::MP4::CoverArtList covers = artwork.toCoverArtList();
         if (!covers.isEmpty())
             tags.artwork =
                 QByteArray(covers.front().data().data(), static_cast<qsizetype>(covers.front().data().size()));
     }
     return tags;
-}
-
-QString BasicID3Change::copyWithArtwork(const QString& source, const QString& image, const QString& destination) {
-    QFile file(image);
-    if (!QFileInfo(image).isFile() || !file.open(QIODevice::ReadOnly))
-        return u"cannot read the image %1: %2"_s.arg(
-            image, QFileInfo::exists(image) ? u"it is no file, or not for you"_s : u"there is no such file"_s);
-    if (file.size() > largestImage)
-        return u"the image %1 is too large"_s.arg(image);
-    QByteArray bytes = file.readAll();
-    const auto format = formatOf(bytes);
-    if (!format)
-        return u"%1 is neither a JPEG nor a PNG image"_s.arg(image);
-
-    QString why;
-    const auto edit = [&](PatchedFile& content, QString& reason) {
-        return editTags(
-            content, {artworkItem},
-            [&](TagLib::MP4::Tag& tag) {
-                TagLib::MP4::CoverArtList covers;
-                covers.append(
-                    {*format, TagLib::ByteVector(bytes.constData(), static_cast<unsigned int>(bytes.size()))});
-                tag.setItem(artworkItem, covers);
-            },
-            reason);
-    };
-    if (Media::saveCopy(source, destination, edit, why))
-        return {};
-    return u"cannot write the artwork of %1 to %2: %3"_s.arg(source, destination, why);
 }
 
 bool BasicID3Change::restoreInterruptedSave(const QString& path) {

@@ -6,7 +6,7 @@ TEST(RecordDisplay, SaysReadyWhileNothingRecords) {
     const auto on = RecordDisplay::of(0, 83, true);
     EXPECT_EQ(on.stateString, QStringLiteral("Ready"));
     EXPECT_EQ(on.timeString, QStringLiteral("00:00"));
-    EXPECT_EQ(on.stateColor, QColor(Qt::black));
+    EXPECT_EQ(on.stateColor, Qt::black);
     const auto off = RecordDisplay::of(0, 83, false);
     EXPECT_EQ(off.stateString, QStringLiteral("Ready"));
     EXPECT_EQ(off.timeString, QStringLiteral("00:"));
@@ -16,7 +16,7 @@ TEST(RecordDisplay, BlinksTheDotsInRedWhileItRecords) {
     const auto on = RecordDisplay::of(1, 83.5F, true);
     EXPECT_EQ(on.stateString, QStringLiteral("Rec.."));
     EXPECT_EQ(on.timeString, QStringLiteral("01:23"));
-    EXPECT_EQ(on.stateColor, QColor(Qt::red));
+    EXPECT_EQ(on.stateColor, Qt::red);
     const auto off = RecordDisplay::of(1, 83.5F, false);
     EXPECT_EQ(off.stateString, QStringLiteral("Rec"));
     EXPECT_EQ(off.timeString, QStringLiteral("01:23"));
@@ -26,7 +26,7 @@ TEST(RecordDisplay, BlinksTheSecondsWhilePaused) {
     const auto on = RecordDisplay::of(2, 83.5F, true);
     EXPECT_EQ(on.stateString, QStringLiteral("Pause"));
     EXPECT_EQ(on.timeString, QStringLiteral("01:23"));
-    EXPECT_EQ(on.stateColor, QColor(Qt::black));
+    EXPECT_EQ(on.stateColor, Qt::black);
     const auto off = RecordDisplay::of(2, 83.5F, false);
     EXPECT_EQ(off.stateString, QStringLiteral("Pause"));
     EXPECT_EQ(off.timeString, QStringLiteral("01:"));

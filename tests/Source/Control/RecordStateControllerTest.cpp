@@ -48,7 +48,7 @@ TEST_F(RecordStateControllerTest, IdleOffersAStartAndTheSources) {
     EXPECT_EQ(controller->pauseImage(), u"RecorderPause.png"_s);
     controller->recordFlushTime();
     EXPECT_EQ(controller->stateString(), u"Ready"_s);
-    EXPECT_EQ(controller->stateColor(), QColor(Qt::black));
+    EXPECT_EQ(controller->stateColor(), Qt::black);
 }
 
 TEST_F(RecordStateControllerTest, IdleWithoutASourceOffersNoStart) {
@@ -91,7 +91,7 @@ TEST_F(RecordStateControllerTest, RecordingShowsItsTimeInRed) {
         controller->recordFlushTime();
     EXPECT_EQ(controller->stateString(), u"Rec.."_s);
     EXPECT_EQ(controller->timeString(), u"00:02"_s);
-    EXPECT_EQ(controller->stateColor(), QColor(Qt::red));
+    EXPECT_EQ(controller->stateColor(), Qt::red);
 }
 
 TEST_F(RecordStateControllerTest, PausedOffersToResumeAndStandsStill) {

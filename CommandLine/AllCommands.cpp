@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CommandLine/CommandLine.h"
+#include "CommandLine/TagCommand.h"
+#include "CommandLine/WaveformCommand.h"
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace CommandLine {
+
+const Commands& allCommands() {
+    static const Commands all = [] {
+        Commands commands = plainCommands();
+        commands.emplace(u"tag"_s, tagCommand);
+        commands.emplace(u"waveform"_s, waveformCommand);
+        return commands;
+    }();
+    return all;
+}
+
+std::optional<int> runCommand(int argc, char** argv) {
+    if (argc < 2)
+        return {};
+    const auto name = QString::fromLocal8Bit(argv[1]);
+    if (name == u"help"_s || name == u"--help"_s || name == u"-h"_s) {
+        std::printf("usage: sonaphex                    opens the window\n");
+        for (const auto& [word, command] : allCommands())
+            std::printf("       sonaphex %s\n           %s\n", command.usage, command.summary);
+        return Done;
+    }
+    if (name == u"--version"_s) {
+        std::printf("sonaphex %s\n", SONAPHEX_VERSION);
+        return Done;
+    }
+    if (const auto status = runOneOf(allCommands(), argc, argv))
+        return status;
+    if (name.startsWith(u'-'))
+        return {};
+    std::fprintf(stderr, "sonaphex: %s: no such command (see sonaphex help)\n", argv[1]);
+    return WrongUsage;
+}
+
+} // namespace CommandLine

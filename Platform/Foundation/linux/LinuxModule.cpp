@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Foundation/Module.h"
+
+#include "Platform/Foundation/linux/LinuxFoundation.h"
+
+#include <QFile>
+
+#include <dlfcn.h>
+
+namespace Platform {
+
+void* loadModuleFunction(const QString& file, const char* name, QString& why) {
+    const QString path = createBundle()->pathForResource(file);
+    void* const module = dlopen(QFile::encodeName(path).constData(), RTLD_LAZY | RTLD_LOCAL);
+    void* const function = module ? dlsym(module, name) : nullptr;
+    if (!function)
+        why = QStringLiteral("a part of the program is missing: ") + QString::fromLocal8Bit(dlerror());
+    return function;
+}
+
+} // namespace Platform

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What draws stands apart: the recorder on the command line is linked without Qt Gui.
+#include "Source/Control/ID3ChangeControl.h"
+
+#include "Platform/Foundation/FileManager.h"
+#include "Source/Control/PreferenceStore.h"
+
+#include <QBuffer>
+#include <QLoggingCategory>
+#include <QPainter>
+
+using namespace Qt::StringLiterals;
+namespace FileManager = Platform::FileManager;
+
+namespace ID3ChangeControl {
+namespace {
+
+Q_LOGGING_CATEGORY(log, "sonaphex.control")
+
+unsigned imageCounter = 0;
+
+QByteArray jpegOf(const QImage& image) {
+    // JPEG has no transparency: what shows through is white, not whatever colour lies beneath.
+    QImage opaque(image.size(), QImage::Format_RGB32);
+    opaque.fill(Qt::white);
+    QPainter(&opaque).drawImage(0, 0, image);
+    QByteArray jpeg;
+    QBuffer buffer(&jpeg);
+    buffer.open(QIODevice::WriteOnly);
+    return opaque.save(&buffer, "JPEG") ? jpeg : QByteArray();
+}
+
+} // namespace
+
+QString createPathForImage(const QImage& image) {
+    const QString path = g_strTmpPath + u"/ArtworkImage"_s + QString::number(imageCounter++) + u".png"_s;
+    (void)FileManager::removeFile(path);
+    const QByteArray jpeg = jpegOf(image);
+    const auto problem = jpeg.isEmpty() ? u"no image"_s : FileManager::writeAtomically(path, jpeg);
+    if (!problem.isEmpty())
+        qCWarning(log, "cannot write %s: %s", qUtf8Printable(path), qUtf8Printable(problem));
+    return path;
+}
+
+} // namespace ID3ChangeControl
