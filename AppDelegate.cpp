@@ -9,6 +9,7 @@
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/TemporaryFolder.h"
 #include "Platform/Foundation/UserDefaults.h"
+#include "Source/Control/CutOffRecordings.h"
 #include "Source/Control/PreferenceStore.h"
 #include "Source/Model/MediaLibraryRequests.h"
 
@@ -53,6 +54,7 @@ bool AppDelegate::applicationDidFinishLaunching() {
 
     ToolControl::showWindowNib(*mainWndController_);
     setupSystemStatusBar();
+    CutOffRecordings::keepAtExit();
     (void)running_.listen([this](const QByteArray& request) { return answer(request); });
     return true;
 }

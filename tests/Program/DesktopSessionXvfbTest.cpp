@@ -100,6 +100,20 @@ TEST_F(ProgramOnADesktop, ASignalFinishesTheRecording) {
     expectAWholeRecording();
 }
 
+TEST_F(ProgramOnADesktop, KeepsWhatItRecordedWhenTheDisplayGoes) {
+    QProcess display;
+    display.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s});
+    ASSERT_TRUE(waitFor([&] { return display.canReadLine(); }, 30000));
+    const EnvironmentScope elsewhere{"DISPLAY", ":" + display.readLine().trimmed()};
+    ASSERT_TRUE(program.start());
+    ASSERT_TRUE(program.recordForAWhile());
+    display.kill();
+    ASSERT_TRUE(display.waitForFinished());
+    ASSERT_TRUE(waitFor([this] { return program.process().state() == QProcess::NotRunning; }, 60000));
+    const QString kept = user.folder.filePath(u".local/share/com.korvane.Sonaphex/Unfinished/BuiltInA0.m4a"_s);
+    EXPECT_GT(AudioCheck::framesByFfprobe(kept), 5 * 44100);
+}
+
 TEST_F(ProgramInASession, ALogoutFinishesTheRecordingBeforeItGoesOn) {
     ASSERT_TRUE(program.recordForAWhile());
     manager.askToSaveForTheEnd();
