@@ -87,19 +87,20 @@ int run(const QStringList& given) {
     std::optional<BasicID3Change::Tags> tags = BasicID3Change::read(path, &why);
     if (!tags)
         return fail(why);
+    BasicID3Change::Texts texts;
     Dictionary changed; // as the library has it
-    const auto take = [&](const QString& option, QString& tag, const QString& key) {
+    const auto take = [&](const QString& option, std::optional<QString>& text, const QString& key) {
         if (!arguments.isSet(option))
             return;
-        tag = arguments.value(option);
-        changed.insert(key, tag);
+        text = arguments.value(option);
+        changed.insert(key, *text);
     };
-    take(u"title"_s, tags->title, AudioRecordEntry::Title);
-    take(u"artist"_s, tags->artist, AudioRecordEntry::Artist);
-    take(u"album"_s, tags->album, AudioRecordEntry::Album);
-    take(u"genre"_s, tags->genre, AudioRecordEntry::Genre);
+    take(u"title"_s, texts.title, AudioRecordEntry::Title);
+    take(u"artist"_s, texts.artist, AudioRecordEntry::Artist);
+    take(u"album"_s, texts.album, AudioRecordEntry::Album);
+    take(u"genre"_s, texts.genre, AudioRecordEntry::Genre);
     if (arguments.isSet(u"year"_s)) {
-        tags->year = year;
+        texts.year = year;
         changed.insert(AudioRecordEntry::Year, year);
     }
 
@@ -109,7 +110,7 @@ int run(const QStringList& given) {
             !problem.isEmpty())
             return fail(problem);
     if (!changed.isEmpty()) {
-        if (const auto problem = BasicID3Change::writeTexts(path, *tags); !problem.isEmpty())
+        if (const auto problem = BasicID3Change::writeTexts(path, texts); !problem.isEmpty())
             return fail(problem);
         if (const QString problem = tellLibrary(path, changed); !problem.isEmpty())
             return fail(problem);

@@ -25,8 +25,13 @@ public:
     };
     /// What the file says of itself; nothing when it is no readable MPEG-4 file: @p why then tells a person.
     [[nodiscard]] static std::optional<Tags> read(const QString& path, QString* why = nullptr);
-    /// setMpeg4ID3Information() that says what went wrong; empty when nothing did. The artwork of @p tags is not used.
-    [[nodiscard]] static QString writeTexts(const QString& path, const Tags& tags);
+    struct Texts {
+        std::optional<QString> title{}, artist{}, album{}, genre{};
+        std::optional<int> year{};
+    };
+    /// setMpeg4ID3Information() for those texts that are given, the others stay. @return what went wrong, for a person;
+    /// empty when nothing did.
+    [[nodiscard]] static QString writeTexts(const QString& path, const Texts& texts);
 
     /// Writes a copy of @p source with @p image, a JPEG or PNG file, as its only artwork. The destination appears whole
     /// or not at all. @return what went wrong, for a person; empty when nothing did.

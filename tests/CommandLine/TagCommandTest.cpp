@@ -45,6 +45,13 @@ TEST_F(TagCommand, WritesWhatIsGivenAndLeavesTheRest) {
     EXPECT_EQ(Mpeg4Files::probe(path())[u"title"_s].toString(), u"$(x) \"日本\""_s);
 }
 
+TEST_F(TagCommand, LeavesAFullDateWhereOnlyTheTitleIsGiven) {
+    ASSERT_EQ(runTool(u"AtomicParsley"_s, {path(), u"--year"_s, u"2004-05-06"_s, u"--overWrite"_s}).status, 0);
+    EXPECT_EQ(tag({path(), u"--title"_s, u"T"_s}).status, 0);
+    EXPECT_EQ(Mpeg4Files::probe(path())[u"date"_s].toString(), u"2004-05-06"_s);
+    EXPECT_EQ(json(tag({path(), u"--json"_s}))[u"year"_s], 2004);
+}
+
 TEST_F(TagCommand, PrintsTheTagsOnOneLineEach) {
     ASSERT_TRUE(Platform::BasicID3Change::setMpeg4ID3Information(path(), u"a\nb\x1b[31m"_s, u"A"_s, {}, 0, u"G"_s));
     const ToolResult result = tag({path()});

@@ -13,7 +13,8 @@
 /// MPEG-4 audio files for tests, made and examined by other programs than ours.
 namespace Mpeg4Files {
 
-enum class Shape { IndexAtEnd, IndexInFront, Fragmented, Ringtone };
+/// The fragments of FragmentedWithPlaces say where in the file they are, those of Fragmented do not.
+enum class Shape { IndexAtEnd, IndexInFront, Fragmented, FragmentedWithPlaces, Ringtone };
 
 /// A few seconds of a tone.
 inline bool make(const QString& path, Shape shape = Shape::IndexAtEnd, int seconds = 3) {
@@ -33,6 +34,9 @@ inline bool make(const QString& path, Shape shape = Shape::IndexAtEnd, int secon
         arguments << QStringLiteral("-movflags") << QStringLiteral("+faststart");
     if (shape == Shape::Fragmented)
         arguments << QStringLiteral("-movflags") << QStringLiteral("+frag_keyframe+empty_moov+default_base_moof")
+                  << QStringLiteral("-frag_duration") << QStringLiteral("500000");
+    if (shape == Shape::FragmentedWithPlaces)
+        arguments << QStringLiteral("-movflags") << QStringLiteral("+frag_keyframe+empty_moov")
                   << QStringLiteral("-frag_duration") << QStringLiteral("500000");
     arguments << QStringLiteral("-f") << QStringLiteral("ipod") << QStringLiteral("-y") << path;
     return runTool(QStringLiteral("ffmpeg"), arguments).status == 0;

@@ -83,6 +83,7 @@ private:
     }
 
     bool content(Mpeg4Atom& atom, qint64 header, int depth) {
+        atom.content = atom.offset + header;
         static constexpr std::array containers{"moov", "udta", "mdia", "meta", "ilst", "stbl",
                                                "minf", "moof", "traf", "trak", "stsd"};
         const bool isContainer =
@@ -95,18 +96,23 @@ private:
                 skipped += 4;
             if (skipped > atom.length)
                 return refuse(u"a box of impossible size"_s);
-            return walk(atom.offset + skipped, atom.offset + atom.length, depth + 1, atom.children, nullptr);
+            atom.content = atom.offset + skipped;
+            return walk(atom.content, atom.offset + atom.length, depth + 1, atom.children, nullptr);
         }
         // Tables that are rewritten when the audio moves: a count that lies would be followed far beyond the box.
+        const qint64 length = atom.length - header;
         const qint64 entry = atom.name == "stco" ? 4 : atom.name == "co64" ? 8 : 0;
         if (entry > 0) {
-            const QByteArray count = file_.read(atom.offset + 12, 4);
-            if (atom.length < 16 || count.size() < 4 ||
-                qint64(qFromBigEndian<quint32>(count.constData())) * entry > atom.length - 16)
+            const QByteArray count = file_.read(atom.content + 4, 4);
+            if (length < 8 || count.size() < 4 ||
+                qint64(qFromBigEndian<quint32>(count.constData())) * entry > length - 8)
                 return refuse(u"a table that is larger than its box"_s);
         }
-        if (atom.name == "tfhd" && atom.length < 16)
-            return refuse(u"a box of impossible size"_s);
+        if (atom.name == "tfhd") {
+            const QByteArray flags = file_.read(atom.content, 4);
+            if (length < 8 || flags.size() < 4 || ((flags[3] & 1) && length < 16))
+                return refuse(u"a box of impossible size"_s);
+        }
         return true;
     }
 
@@ -136,11 +142,33 @@ const Mpeg4Atom* Mpeg4Atoms::find(const char* name) const {
     return found == top.end() ? nullptr : &*found;
 }
 
+std::vector<const Mpeg4Atom*> Mpeg4Atoms::tagPath() const {
+    const Mpeg4Atom* const moov = find("moov");
+    if (!moov)
+        return {};
+    std::vector<const Mpeg4Atom*> longest{moov};
+    for (const Mpeg4Atom& udta : moov->children) {
+        if (udta.name != "udta")
+            continue;
+        if (longest.size() == 1)
+            longest.push_back(&udta);
+        for (const Mpeg4Atom& meta : udta.children) {
+            // With a table of keys its items are numbered: another kind of list, which most players do not show.
+            if (meta.name != "meta" || meta.child("keys"))
+                continue;
+            const Mpeg4Atom* const list = meta.child("ilst");
+            if (list)
+                return {moov, &udta, &meta, list};
+            if (longest.size() == 2)
+                longest = {moov, &udta, &meta};
+        }
+    }
+    return longest;
+}
+
 const Mpeg4Atom* Mpeg4Atoms::tagList() const {
-    const Mpeg4Atom* atom = find("moov");
-    for (const char* name : {"udta", "meta", "ilst"})
-        atom = atom ? atom->child(name) : nullptr;
-    return atom;
+    const auto path = tagPath();
+    return path.size() == 4 ? path.back() : nullptr;
 }
 
 std::optional<Mpeg4Atoms> readMpeg4Atoms(const PatchedFile& file, QString& why) {

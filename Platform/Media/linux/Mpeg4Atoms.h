@@ -12,11 +12,12 @@ namespace Platform::Media {
 
 class PatchedFile;
 
-/// One box of an MPEG-4 file, with the boxes in it where it is a container that TagLib opens too.
+/// One box of an MPEG-4 file, with the boxes in it where tags or the places of the audio are found in it.
 struct Mpeg4Atom {
     QByteArray name;
     qint64 offset = 0;
-    qint64 length = 0; ///< header included
+    qint64 length = 0;  ///< header included
+    qint64 content = 0; ///< where what is in it begins
     std::vector<Mpeg4Atom> children;
 
     [[nodiscard]] const Mpeg4Atom* child(const char* wanted) const;
@@ -28,11 +29,13 @@ struct Mpeg4Atoms {
     bool complete = true; ///< false: the file ends within its last box
 
     [[nodiscard]] const Mpeg4Atom* find(const char* name) const;
-    /// moov/udta/meta/ilst; null when the file has no tags.
+    /// The way to the tag list, "moov", "udta", "meta", "ilst", as far as it is there.
+    [[nodiscard]] std::vector<const Mpeg4Atom*> tagPath() const;
+    /// Its end; null when the file has no tags.
     [[nodiscard]] const Mpeg4Atom* tagList() const;
 };
 
-/// Walks the boxes before a library that trusts them does. Nothing when the file is no MPEG-4 file with an index, or
+/// Walks the boxes, all of whose sizes a file may lie about. Nothing when the file is no MPEG-4 file with an index, or
 /// when a size or a table in it claims more than there is; @p why then says which.
 [[nodiscard]] std::optional<Mpeg4Atoms> readMpeg4Atoms(const PatchedFile& file, QString& why);
 

@@ -13,7 +13,8 @@ namespace Platform::Media {
 
 inline constexpr const char* artworkItem = "covr";
 
-/// Edits the tags and keeps every item but those named in @p changed. TagLib drops items whose type it does not know.
+/// Puts the tags that @p edit sets in the place of those that are named in @p changed; every other item stays to the
+/// byte.
 [[nodiscard]] bool editTags(PatchedFile& content, const std::vector<const char*>& changed,
                             const std::function<void(TagLib::MP4::Tag&)>& edit, QString& why);
 
