@@ -67,12 +67,12 @@ QString undoPath(const QString& path, const Identity& identity) {
     return QFileInfo(path).path() + "/.sonaphex-"_L1 + QLatin1StringView(identity.name) + ".undo"_L1;
 }
 
-/// Opens for writing and takes the lock; the file that is locked is the one that has the name.
-bool openLocked(const QString& path, std::chrono::seconds patience, Descriptor& file, QString& why) {
+/// Opens (@p access is O_RDONLY or O_RDWR) and takes the lock; the file that is locked is the one that has the name.
+bool openLocked(const QString& path, int access, std::chrono::seconds patience, Descriptor& file, QString& why) {
     const auto deadline = std::chrono::steady_clock::now() + patience;
     const QByteArray name = QFile::encodeName(path);
     for (;;) {
-        file.reset(::open(name.constData(), O_RDWR | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+        file.reset(::open(name.constData(), access | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
         struct stat opened {};
         struct stat named {};
         if (!file || ::fstat(file.get(), &opened) != 0) {
@@ -156,29 +156,31 @@ bool putBack(int fd, const Undo& undo) {
     return writeAllAt(fd, undo.bytes, undo.begin) && ::ftruncate(fd, undo.size) == 0 && ::fsync(fd) == 0;
 }
 
+enum class Restored { Yes, NothingToDo, Failed };
+
 /// The file is open and locked.
-bool restoreLocked(int fd, const QString& file) {
+Restored restoreLocked(int fd, const QString& file) {
     const Identity identity = identityOf(fd, file);
     const QString path = undoPath(file, identity);
     QFile copy(path);
     if (!copy.open(QIODevice::ReadOnly))
-        return false;
+        return copy.exists() ? Restored::Failed : Restored::NothingToDo;
     Undo undo;
     if (!unpack(copy.readAll(), undo)) {
         qCWarning(log, "%s is damaged: the save that it would undo stays as it is", qUtf8Printable(path));
-        return false;
+        return Restored::NothingToDo;
     }
     if (undo.identity != identity || undo.witness != witnessOf(fd, undo.begin)) {
         copy.remove(); // of a file that was deleted; this one only got its number or its name
-        return false;
+        return Restored::NothingToDo;
     }
     if (!putBack(fd, undo)) {
         qCWarning(log, "cannot undo an interrupted save: %s", qUtf8Printable(qt_error_string(errno)));
-        return false; // the copy stays for the next time
+        return Restored::Failed; // the copy stays for the next time
     }
     qCInfo(log, "undid an interrupted save with %s", qUtf8Printable(path));
     copy.remove();
-    return true;
+    return Restored::Yes;
 }
 
 bool writePiece(int out, qint64 at, int in, const PatchedFile::Piece& piece) {
@@ -289,9 +291,13 @@ bool saveInPlace(const QString& givenPath, const std::function<bool(PatchedFile&
     const QString real = QFileInfo(givenPath).canonicalFilePath();
     const QString path = real.isEmpty() ? givenPath : real;
     Descriptor file;
-    if (!openLocked(path, lockPatience, file, why))
+    if (!openLocked(path, O_RDWR, lockPatience, file, why))
         return false;
-    restoreLocked(file.get(), path);
+    if (restoreLocked(file.get(), path) == Restored::Failed) {
+        // Another save would write its own copy over the one that is still needed.
+        why = u"an interrupted save cannot be undone"_s;
+        return false;
+    }
 
     struct stat status {};
     if (::fstat(file.get(), &status) != 0) {
@@ -339,14 +345,13 @@ bool saveInPlace(const QString& givenPath, const std::function<bool(PatchedFile&
 bool saveCopy(const QString& source, const QString& destination,
               const std::function<bool(PatchedFile&, QString&)>& edit, QString& why) {
     restoreInterruptedSave(source);
-    const Descriptor file(::open(QFile::encodeName(source).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    // Locked although it is only read: a save in between would move what is still to be copied.
+    Descriptor file;
     struct stat status {};
-    if (!file || ::fstat(file.get(), &status) != 0) {
-        why = qt_error_string(errno);
+    if (!openLocked(source, O_RDONLY, lockPatience, file, why))
         return false;
-    }
-    if (!S_ISREG(status.st_mode)) {
-        why = u"not a file"_s;
+    if (::fstat(file.get(), &status) != 0) {
+        why = qt_error_string(errno);
         return false;
     }
     PatchedFile content(file.get(), status.st_size);
@@ -356,7 +361,9 @@ bool saveCopy(const QString& source, const QString& destination,
         why = u"it cannot be read"_s;
         return false;
     }
-    return writeWhole(destination, file.get(), content, why);
+    // A link stays one: what it points to is replaced.
+    const QString real = QFileInfo(destination).isSymLink() ? QFileInfo(destination).canonicalFilePath() : QString();
+    return writeWhole(real.isEmpty() ? destination : real, file.get(), content, why);
 }
 
 bool restoreInterruptedSave(const QString& givenPath) {
@@ -373,7 +380,7 @@ bool restoreInterruptedSave(const QString& givenPath) {
     }
     Descriptor file;
     QString why;
-    return openLocked(path, readerPatience, file, why) && restoreLocked(file.get(), path);
+    return openLocked(path, O_RDWR, readerPatience, file, why) && restoreLocked(file.get(), path) == Restored::Yes;
 }
 
 } // namespace Platform::Media

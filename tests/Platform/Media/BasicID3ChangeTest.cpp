@@ -169,7 +169,8 @@ TEST_P(TagsOfShape, CarryACoverOfAMegabyte) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, TagsOfShape,
-                         testing::Values(Shape::IndexAtEnd, Shape::IndexInFront, Shape::Fragmented, Shape::Ringtone));
+                         testing::Values(Shape::IndexAtEnd, Shape::IndexInFront, Shape::Fragmented,
+                                         Shape::FragmentedWithPlaces, Shape::Ringtone));
 
 TEST_F(Tags, WithoutAValueAreNotInTheFile) {
     ASSERT_TRUE(Mpeg4Files::make(path()));
@@ -511,6 +512,32 @@ TEST_F(Tags, NeverRestoreIntoAnotherFileOfTheSameName) {
     const QByteArray other = Mpeg4Files::contentOf(path());
     EXPECT_FALSE(BasicID3Change::restoreInterruptedSave(path()));
     EXPECT_EQ(Mpeg4Files::contentOf(path()), other);
+}
+
+TEST_F(Tags, KeepWhatUndoesAnInterruptedSaveUntilItIsUndone) {
+    ASSERT_TRUE(Mpeg4Files::make(path(), Shape::IndexAtEnd, 10));
+    ASSERT_TRUE(tag(path(), u"Before"_s));
+    const QByteArray before = Mpeg4Files::contentOf(path());
+    crashInASave();
+    const QString undo = path(leftOver().constFirst());
+    const QByteArray needed = Mpeg4Files::contentOf(undo);
+    // What the crash left happens to look like a sound file, and the disk takes nothing back.
+    QByteArray torn = before;
+    torn[torn.lastIndexOf("Before")] = 'x';
+    QFile file(path());
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.write(torn) == torn.size() && file.resize(torn.size()));
+    file.close();
+    ChildProcess child([&] {
+        const rlimit limit{static_cast<rlim_t>(2 * needed.size() + 500), RLIM_INFINITY};
+        std::signal(SIGXFSZ, SIG_IGN);
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        return tag(path(), u"After"_s) ? 1 : 0;
+    });
+    ASSERT_LT(2 * needed.size() + 500, before.lastIndexOf("moov"));
+    ASSERT_EQ(child.wait(), 0);
+    EXPECT_EQ(Mpeg4Files::contentOf(undo), needed);
+    EXPECT_EQ(BasicID3Change::read(path())->title, u"Before"_s);
+    EXPECT_EQ(Mpeg4Files::contentOf(path()), before);
 }
 
 TEST_F(Tags, SurviveKillsAtAnyMoment) {
