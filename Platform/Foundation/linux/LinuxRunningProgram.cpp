@@ -11,7 +11,8 @@
 namespace Platform {
 namespace {
 
-constexpr qsizetype longestLine = 1 << 16;
+// The keys of a whole library are one line: more than a command line holds, each sign of it escaped.
+constexpr qsizetype longestLine = 1 << 24;
 
 class LinuxRunningProgram final : public RunningProgram {
 public:
@@ -80,7 +81,7 @@ public:
         while (!socket.canReadLine())
             if (left() == 0 || !socket.waitForReadyRead(left()))
                 return false;
-        answer = socket.readLine(longestLine).trimmed();
+        answer = socket.readLine().trimmed();
         return true;
     }
 
@@ -95,7 +96,7 @@ private:
             if (!client->canReadLine() && client->bytesAvailable() > longestLine)
                 client->abort(); // a line without end
             while (client->canReadLine()) {
-                QByteArray answer = handler_(client->readLine(longestLine).trimmed());
+                QByteArray answer = handler_(client->readLine().trimmed());
                 answer.replace('\n', ' ');
                 client->write(answer + '\n');
             }

@@ -110,6 +110,18 @@ TEST_F(RunningProgramTest, KeepsOneRequestOneLine) {
     EXPECT_EQ(askMeanwhile(*second, "one\ntwo"), "one two second");
 }
 
+TEST_F(RunningProgramTest, CarriesTheKeysOfAWholeLibrary) {
+    ASSERT_TRUE(first->acquire());
+    int requests = 0;
+    ASSERT_TRUE(first->listen([&](const QByteArray& request) {
+        ++requests;
+        return request;
+    }));
+    const QByteArray keys(2 << 20, 'k'); // what a command line holds
+    EXPECT_TRUE(askMeanwhile(*second, keys) == keys);
+    EXPECT_EQ(requests, 1);
+}
+
 TEST_F(RunningProgramTest, ListensOnlyWithTheLock) {
     EXPECT_FALSE(first->listen([](const QByteArray&) { return QByteArray(); }));
     QByteArray answer;
