@@ -38,7 +38,7 @@ QByteArray ControlRequests::answer(const QByteArray& request) {
     const QByteArray rest = blank < 0 ? QByteArray() : line.mid(blank + 1);
     if (command == "start-stop") {
         if (!controller_.isStateAudioCanStartRecord())
-            return failed("there is no source to record");
+            return failed(controller_.canRecord() ? "the program is ending" : "there is no source to record");
         controller_.startAndStopRecord();
         return Ok;
     }

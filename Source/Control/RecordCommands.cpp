@@ -45,6 +45,8 @@ double secondsAtHand(const RecordSource& builtIn, const RecordSource& computer) 
 } // namespace
 
 void RecordStateController::startAndStopRecord() {
+    if (d->finishing_)
+        return;
     d->delegate->stopSoundPlaying();
     d->delegate->setTabViewShowWave(true);
     if (d->active_) {
@@ -124,9 +126,17 @@ void RecordStateController::finishAll() {
         d->isRecordingFlushTheFace(false);
     }
     d->showLosses();
+    // Hot keys and other processes are still heard while the files are finished. What they begin would be cut off.
+    d->setFinishing(true);
     // Not an event loop of its own: that would end at once when the program is quitting already.
     while (d->queue->count() > 0)
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+    d->setFinishing(false);
+}
+
+void RecordStateController::Private::setFinishing(bool finishing) {
+    finishing_ = finishing;
+    changed();
 }
 
 void RecordStateController::clientRecievedBuiltInAudioData(float level) {

@@ -184,7 +184,7 @@ int RecordStateController::recordState_() {
 }
 
 bool RecordStateController::isStateAudioCanStartRecord() const {
-    return d->startEnabled_;
+    return d->startEnabled_ && !d->finishing_;
 }
 
 bool RecordStateController::isStateAudioRecord() const {

@@ -89,6 +89,7 @@ struct RecordStateController::Private {
     // Main thread only.
     bool startEnabled_ = false;
     bool popUpEnabled_ = true;
+    bool finishing_ = false; ///< the program is ending: what would begin now would be cut off
     bool stopShown_ = false; ///< the start button shows "Stop Record"
     RecordDisplay display_;
     QString convertTip_;
@@ -104,6 +105,7 @@ struct RecordStateController::Private {
     void deviceEvent(Platform::InputUnit::Event event, const RecordSource& source);
     void showLosses();
 
+    void setFinishing(bool finishing);
     void isRecordingFlushTheFace(bool recording);
     void startRecord();
     void stopRecord();

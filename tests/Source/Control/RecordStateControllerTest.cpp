@@ -4,6 +4,8 @@
 // The state table row by row, the commands, the sources and the filter.
 #include "tests/Source/Control/RecordFixture.h"
 
+#include "Platform/Foundation/MainQueue.h"
+#include "Source/Control/ControlRequests.h"
 #include "Source/Model/AudioRecordEntry.h"
 
 using namespace Qt::StringLiterals;
@@ -487,6 +489,33 @@ TEST_F(RecordStateControllerTest, FinishingEndsTheRecordingAndTheQueue) {
     EXPECT_EQ(controller->jobsInQueue(), 0);
     EXPECT_EQ(delegate.paths, (QStringList{track(0), track(1)}));
     expectControlsOfIdle();
+}
+
+TEST_F(RecordStateControllerTest, NoRecordingBeginsWhileTheLastFilesAreFinished) {
+    addMicrophone();
+    begin();
+    setFilter(false);
+    controller->startAndStopRecord();
+    play(Microphone, 0.5F, 1);
+    controller->startAndStopRecord();
+    ASSERT_EQ(controller->jobsInQueue(), 1);
+    // Hot keys and other processes still reach a program that is ending.
+    std::optional<bool> couldStart;
+    QByteArray answer;
+    Platform::MainQueue::post([&] {
+        couldStart = controller->isStateAudioCanStartRecord();
+        answer = ControlRequests(*controller).answer("start-stop");
+        controller->startAndStopRecord();
+    });
+    controller->finishAll();
+    EXPECT_EQ(couldStart, false);
+    EXPECT_EQ(answer, "failed the program is ending");
+    EXPECT_EQ(controller->recordState_(), 0) << "nothing is left that would be cut off";
+    EXPECT_EQ(delegate.paths, QStringList{track(0)});
+    // A logout may be called off.
+    expectControlsOfIdle();
+    controller->startAndStopRecord();
+    EXPECT_EQ(controller->recordState_(), 1);
 }
 
 TEST_F(RecordStateControllerTest, OverriddenSettingsAreNotStored) {
