@@ -218,6 +218,8 @@ void KeybordShortcutTextView::focusOutEvent(QFocusEvent* event) {
 
 void KeybordShortcutTextView::hideEvent(QHideEvent* event) {
     letKeyboardGo();
+    // A window that is shown again gives the focus to whom it had: the next key would be taken for a shortcut.
+    clearFocus();
     QLineEdit::hideEvent(event);
 }
 

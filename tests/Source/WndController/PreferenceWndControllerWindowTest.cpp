@@ -417,6 +417,21 @@ TEST_F(Preferences, TheMnemonicOfAShortcutFieldLeadsIntoIt) {
     EXPECT_TRUE(controller->pauseResumeShortcut()->hotKeyRegister()->hasRegisterHotKey());
 }
 
+TEST_F(Preferences, AFieldThatWasLeftByClosingTheWindowDoesNotCaptureWhenItIsShownAgain) {
+    open();
+    controller->window()->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(controller->window()));
+    controller->startStopShortcut()->setFocus();
+    ASSERT_TRUE(probe.isEditKeybordShortcutControl());
+    controller->window()->close();
+    controller->makeKeyAndOrderFront();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(controller->window()));
+    EXPECT_FALSE(probe.isEditKeybordShortcutControl()) << "hot keys would rest, and nobody is typing one";
+    QTest::keyClick(controller->window()->windowHandle(), Qt::Key_Escape);
+    EXPECT_FALSE(controller->isWindowVisible()) << "Escape closes the window";
+    EXPECT_EQ(controller->startStopShortcut()->text(), u"Control + Command + S"_s) << "and takes no shortcut away";
+}
+
 TEST_F(Preferences, LongerTextsMakeTheWindowGrow) {
     open();
     const int before = controller->window()->minimumSizeHint().width();
