@@ -113,7 +113,9 @@ int LibraryOutlineModel::columnCount(const QModelIndex&) const {
 Qt::ItemFlags LibraryOutlineModel::flags(const QModelIndex& index) const {
     if (!index.isValid())
         return Qt::NoItemFlags;
-    return isGroup(node(index)) ? Qt::ItemIsEnabled : Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+    // The arrow keys pass over what is not enabled. A heading that was only not selectable would stop them, and take
+    // the selection from the node that has it.
+    return isGroup(node(index)) ? Qt::NoItemFlags : Qt::ItemIsEnabled | Qt::ItemIsSelectable;
 }
 
 QVariant LibraryOutlineModel::data(const QModelIndex& index, int role) const {

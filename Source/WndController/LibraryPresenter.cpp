@@ -270,11 +270,22 @@ void LibraryPresenter::playSoundFile(const Dictionary& entry) {
     sound->play();
     tableModel_->setPlayingPath(path);
     updatePlaySoundState();
-    if (sound->duration() <= 0) {
+    if (sound->duration() <= 0)
         missing_->forget(path);
-        Q_EMIT problem(QFileInfo::exists(path) ? tr("“%1” cannot be played.").arg(QFileInfo(path).fileName())
-                                               : tr("The file is no longer there: %1").arg(path));
-    }
+    sayWhyNothingPlays(*sound);
+}
+
+void LibraryPresenter::sayWhyNothingPlays(const CustomSound& sound) {
+    if (sound.isPlaying())
+        return;
+    const QString name = QFileInfo(sound.path()).fileName();
+    const QString why = sound.sound() ? sound.sound()->lastError() : QString();
+    if (!QFileInfo::exists(sound.path()))
+        Q_EMIT problem(tr("The file is no longer there: %1").arg(sound.path()));
+    else if (sound.duration() <= 0 || why.isEmpty())
+        Q_EMIT problem(tr("“%1” cannot be played.").arg(name));
+    else
+        Q_EMIT problem(tr("“%1” cannot be played: %2").arg(name, why));
 }
 
 void LibraryPresenter::playSoundButtonAction() {
@@ -283,11 +294,14 @@ void LibraryPresenter::playSoundButtonAction() {
         playSoundFile(tableViewSelectionAudio());
         return;
     }
-    if (sound->isPlaying())
+    if (sound->isPlaying()) {
         sound->pause();
-    else
-        sound->play();
+        updatePlaySoundState();
+        return;
+    }
+    sound->play();
     updatePlaySoundState();
+    sayWhyNothingPlays(*sound);
 }
 
 void LibraryPresenter::tableViewDoubleAction() {

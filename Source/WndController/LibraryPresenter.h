@@ -121,6 +121,8 @@ private:
     [[nodiscard]] int selectedRow() const;
     [[nodiscard]] qsizetype selectedRowCount() const;
     [[nodiscard]] CustomSound* currentSound() const;
+    /// Says nothing of a sound that plays.
+    void sayWhyNothingPlays(const CustomSound& sound);
 
     MediaLibrary& library_;
     QTreeView& outline_;

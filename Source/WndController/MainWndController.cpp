@@ -121,6 +121,10 @@ void MainWndController::bindLibrary() {
         ui_->btnPlayAudio_->setToolTip(playing ? QStringLiteral("Pause") : QStringLiteral("Play"));
         ui_->btnPlayAudio_->setEnabled(enabled);
         menus_->update();
+        if (playing) { // whatever went wrong is over
+            shownSelection_.reset();
+            showSelection();
+        }
     });
     connect(ui_->btnPlayAudio_, &QAbstractButton::clicked, this, &MainWndController::playSoundButtonAction);
     connect(&record_, &RecordStateController::stateChanged, menus_.get(), update);
@@ -326,7 +330,10 @@ void MainWndController::recordingFinished(const QString& path, const Dictionary&
 }
 
 void MainWndController::showSelection() {
-    showStatus(library_->tableViewSelectionAudioPath());
+    const QString path = library_->tableViewSelectionAudioPath();
+    // The selection is also announced when its row only looks different, and what went wrong is to be read.
+    if (std::exchange(shownSelection_, path) != path)
+        showStatus(path);
 }
 
 void MainWndController::showStatus(const QString& text) {

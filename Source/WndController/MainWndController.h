@@ -11,6 +11,8 @@
 #include <QMainWindow>
 #include <QObject>
 
+#include <optional>
+
 class AudioFilterController;
 class LibraryPresenter;
 class MainMenus;
@@ -126,4 +128,5 @@ private:
     std::unique_ptr<RecordPanel> panel_;
     std::unique_ptr<MainMenus> menus_;
     std::unique_ptr<WindowLayout> layout_;
+    std::optional<QString> shownSelection_; ///< path that the status line showed last for a selection
 };

@@ -56,7 +56,7 @@ public:
         Q_EMIT finished();
     }
     QString path() const override { return path_; }
-    QString lastError() const override { return {}; }
+    QString lastError() const override { return playFails ? QStringLiteral("no sound server answers") : QString(); }
 
 private:
     QString path_;
@@ -68,9 +68,11 @@ public:
     FakeSound* last = nullptr;
     QMap<QString, double> lengths; ///< of the paths that are known
     double otherLength = 10;       ///< of all others; 0 for files that cannot be played
+    bool playFails = false;        ///< as without a sound server
     std::unique_ptr<Platform::Sound> open(const QString& path) override {
         auto sound = std::make_unique<FakeSound>(path);
         sound->seconds = lengths.value(path, otherLength);
+        sound->playFails = playFails;
         last = sound.get();
         return sound;
     }

@@ -270,6 +270,22 @@ TEST_F(Presenter, AFileThatCannotBePlayedSaysWhy) {
     EXPECT_TRUE(problem.at(0).at(0).toString().contains(u"/nowhere/gone.m4a"_s));
 }
 
+TEST_F(Presenter, ASoundThatDoesNotBeginSaysWhy) {
+    QSignalSpy problem(&presenter, &LibraryPresenter::problem);
+    world.sounds.playFails = true;
+    select({1});
+    presenter.playSoundButtonAction();
+    ASSERT_EQ(problem.count(), 1);
+    EXPECT_TRUE(problem.at(0).at(0).toString().contains(u"Two.m4a"_s));
+    EXPECT_TRUE(problem.at(0).at(0).toString().contains(u"no sound server answers"_s));
+    presenter.playSoundButtonAction();
+    EXPECT_EQ(problem.count(), 2) << "also when it is tried again";
+    sound().playFails = false;
+    presenter.playSoundButtonAction();
+    presenter.playSoundButtonAction();
+    EXPECT_EQ(problem.count(), 2) << "neither playing nor pausing is a problem";
+}
+
 TEST_F(Presenter, DeletingAsksAndRemovesOnlyAfterRemove) {
     select({1});
     world.alerts.answers = {0};

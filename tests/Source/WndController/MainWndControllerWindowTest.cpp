@@ -18,6 +18,7 @@
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTimer>
+#include <QTreeView>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -238,6 +239,66 @@ TEST_F(MainWindow, TheContextMenuIsHiddenWithoutASelectionAndTheMenuBarIsNot) {
     QAction* untouched = other.addAction(u"x"_s);
     controller.menuWillOpen(other);
     EXPECT_TRUE(untouched->isVisible()) << "other menus are left alone";
+}
+
+TEST_F(MainWindow, HeadingsOfTheLibraryTakeNoSelection) {
+    addRecording(u"One"_s);
+    MainWndController& controller = world.open();
+    showAll();
+    auto& outline = world.outlet<QTreeView>("outlineLibraryView_");
+    const auto& nodes = controller.library().outlineModel();
+    const auto selected = [&] {
+        const MediaLibraryNode* node = controller.library().libraryViewSelectedNode();
+        return node ? node->key() : QString();
+    };
+    const auto inWindow = [&](const QModelIndex& node) {
+        return outline.viewport()->mapTo(controller.window(), outline.visualRect(node).center());
+    };
+    QWindow* handle = controller.window()->windowHandle();
+    for (const int group : {1, 0}) {
+        QTest::mouseClick(handle, Qt::LeftButton, {}, inWindow(nodes.index(group, 0)));
+        EXPECT_EQ(selected(), u"all-record"_s);
+        EXPECT_EQ(table().model()->rowCount(), 1) << "the list stays";
+    }
+    QTest::mousePress(handle, Qt::LeftButton, {}, inWindow(nodes.indexOfKey(u"all-record"_s)));
+    QTest::mouseMove(handle, inWindow(nodes.index(1, 0)) - QPoint(0, 2));
+    QTest::mouseMove(handle, inWindow(nodes.index(1, 0)));
+    EXPECT_EQ(selected(), u"all-record"_s) << "nor from a pointer that is drawn over them";
+    QTest::mouseRelease(handle, Qt::LeftButton, {}, inWindow(nodes.index(1, 0)));
+    EXPECT_EQ(selected(), u"all-record"_s);
+    QTest::mouseClick(
+        handle, Qt::LeftButton, {},
+        outline.viewport()->mapTo(controller.window(), outline.viewport()->rect().bottomLeft() - QPoint(-9, 9)));
+    EXPECT_EQ(selected(), u"all-record"_s) << "nor does the empty place below";
+    outline.setFocus();
+    world.selectNode(u"all-record"_s);
+    key(Qt::Key_Down);
+    EXPECT_EQ(selected(), u"new-ringtone"_s) << "the keys pass a heading over";
+    key(Qt::Key_Up);
+    EXPECT_EQ(selected(), u"all-record"_s);
+    key(Qt::Key_Home);
+    EXPECT_EQ(selected(), u"new-record"_s);
+    key(Qt::Key_Up);
+    EXPECT_EQ(selected(), u"new-record"_s) << "there is none above the first";
+}
+
+TEST_F(MainWindow, WhatWentWrongStaysInTheStatusLineWhenItsRowTurnsGrey) {
+    addRecording(u"One"_s);
+    MainWndController& controller = world.open();
+    showAll();
+    clickRow(0);
+    const QString path = status();
+    ASSERT_EQ(path, world.folder.filePath(u"One.m4a"_s));
+    world.sounds.lengths.insert(path, 0);
+    ASSERT_TRUE(QFile::remove(path));
+    controller.tableViewDoubleAction();
+    const QString problem = status();
+    EXPECT_NE(problem, path);
+    const QModelIndex title = table().model()->index(0, AudioTableModel::Title);
+    ASSERT_TRUE(waitFor([&] { return title.data(AudioTableModel::MissingRole).toBool(); }));
+    EXPECT_EQ(status(), problem);
+    table().clearSelection();
+    EXPECT_EQ(status(), QString()) << "until something else is looked at";
 }
 
 TEST_F(MainWindow, DoubleClickPlaysAndTheButtonPauses) {
