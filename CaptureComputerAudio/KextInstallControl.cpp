@@ -66,6 +66,23 @@ bool runWithAdmin(const QString& command) {
     return !problem;
 }
 
+/// A prompt that was cancelled must not cost the user the device that he had: what ran before, and is installed still,
+/// runs again.
+class RunsOn {
+public:
+    RunsOn() = default;
+    ~RunsOn() {
+        QString why;
+        if (ran_ && isExist())
+            (void)CaptureDriver::load(installedBundlePath(), why);
+    }
+    RunsOn(const RunsOn&) = delete;
+    RunsOn& operator=(const RunsOn&) = delete;
+
+private:
+    const bool ran_ = CaptureDriver::isLoaded();
+};
+
 /// The removal without the question whether anything is there to be removed.
 bool removeBundle() {
     const auto bundle = installedBundlePath();
@@ -95,6 +112,7 @@ bool uninstall() {
     if (!isExist())
         return true;
     const Turn turn;
+    const RunsOn runsOn;
     return removeBundle();
 }
 
@@ -103,6 +121,7 @@ bool install() {
         return false;
     whyFailed.clear();
     const Turn turn;
+    const RunsOn runsOn;
     if (isExist())
         (void)removeBundle();
 

@@ -138,6 +138,18 @@ TEST_F(KextInstallControlTest, AnswersNoWhenThePromptIsCancelled) {
     makeBundle(extensions, "old");
     EXPECT_FALSE(KextInstallControl::uninstall());
     EXPECT_EQ(installedVersion(), "old");
+    EXPECT_FALSE(CaptureDriver::isLoaded()) << "what did not run is not started";
+}
+
+TEST_F(KextInstallControlTest, KeepsTheDeviceWhenThePromptIsCancelled) {
+    makeBundle(extensions, "old");
+    write(marker, "");
+    shell.refusal = u"the password prompt was cancelled"_s;
+    EXPECT_FALSE(KextInstallControl::uninstall());
+    EXPECT_TRUE(CaptureDriver::isLoaded());
+    EXPECT_FALSE(KextInstallControl::install());
+    EXPECT_TRUE(CaptureDriver::isLoaded());
+    EXPECT_EQ(KextInstallControl::lastError(), u"the password prompt was cancelled"_s);
 }
 
 TEST_F(KextInstallControlTest, AnswersNoWhenTheDriverDoesNotComeUp) {
