@@ -13,6 +13,7 @@
 #include "tests/fakes/FakeBundle.h"
 #include "tests/support/PrivateAudioSession.h"
 #include "tests/support/TestCapture.h"
+#include "tests/support/TestCard.h"
 #include "tests/support/TestSource.h"
 #include "tests/support/WaitFor.h"
 
@@ -60,11 +61,12 @@ protected:
         return name;
     }
     /// A second output, which does not become the default by itself.
-    void addSecondOutput() {
+    void addSecondOutput(const QByteArray& properties = {}) {
         second.start(u"pw-cli"_s, QStringList());
         second.write("create-node adapter { factory.name=support.null-audio-sink node.name=test.second "
                      "node.description=\"Second Output\" media.class=Audio/Sink audio.position=[FL FR] "
-                     "priority.session=1 }\n");
+                     "priority.session=1 " +
+                     properties + " }\n");
         ASSERT_TRUE(waitFor([&] { return deviceNamed(u"Second Output"_s) != 0; }));
     }
     void setDefaultOutput(const std::string& nodeName) {
@@ -112,6 +114,20 @@ TEST_F(ComputerAudio, FindsThePathOfEachDevice) {
     }
     EXPECT_TRUE(AudioDevice(deviceNamed(u"Second Output"_s)).path().contains(u"/test.second@"_s));
     EXPECT_FALSE(CaptureComputerAudio::captureComputerAudioIsUSBDevice());
+}
+
+TEST_F(ComputerAudio, KnowsTheBusOfAnOutputFromItsCard) {
+    TestCard card({{"device.name", "test_card.headset"}, {"device.bus", "usb"}, {"media.class", "Audio/Device"}});
+    ASSERT_TRUE(card.start());
+    addSecondOutput("device.id=" + QByteArray::number(card.id()));
+    const AudioDevice headset(deviceNamed(u"Second Output"_s));
+    EXPECT_TRUE(waitFor([&] { return headset.path().startsWith(u"IOService:/USB/test_card.headset/test.second@"_s); }))
+        << qPrintable(headset.path());
+    setDefaultOutput("test.second");
+    EXPECT_TRUE(waitFor([] { return CaptureComputerAudio::captureComputerAudioIsUSBDevice(); }))
+        << qPrintable(defaultOutput());
+    setDefaultOutput("sonaphex.output");
+    EXPECT_TRUE(waitFor([] { return !CaptureComputerAudio::captureComputerAudioIsUSBDevice(); }));
 }
 
 TEST_F(ComputerAudio, CarriesTheDefaultOutputBeforeAnybodySteersIt) {

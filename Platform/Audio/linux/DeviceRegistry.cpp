@@ -72,6 +72,23 @@ struct DeviceRegistry::Node {
     Hook listener;
 };
 
+/// The hardware that nodes belong to: a sound card, a headset. Of its bus a card's node says nothing itself.
+struct DeviceRegistry::Card {
+    Card(DeviceRegistry& r, std::uint32_t i) : owner(r), deviceId(std::to_string(i)) {}
+
+    void onInfo(const pw_device_info* update);
+    [[nodiscard]] bool has(const AudioDeviceInfo& node) const {
+        const auto named = node.properties.find(PW_KEY_DEVICE_ID);
+        return named != node.properties.end() && named->second == deviceId;
+    }
+
+    DeviceRegistry& owner;
+    std::string deviceId;
+    std::map<std::string, std::string> properties;
+    DevicePtr proxy;
+    Hook listener;
+};
+
 struct DeviceRegistry::Metadata {
     Metadata(DeviceRegistry& r, std::string n) : owner(r), name(std::move(n)) {}
 
@@ -141,6 +158,7 @@ void DeviceRegistry::serverLost() {
     const bool wasConnected = registry_ != nullptr;
     metadata_.clear();
     nodes_.clear();
+    cards_.clear();
     ports_.clear();
     registryListener_.remove();
     registry_.reset();
@@ -167,6 +185,8 @@ void DeviceRegistry::onGlobal(std::uint32_t id, const char* type, const spa_dict
             publish(*node->second);
     } else if (strcmp(type, PW_TYPE_INTERFACE_Metadata) == 0) {
         bindMetadata(id, lookup(properties, PW_KEY_METADATA_NAME));
+    } else if (strcmp(type, PW_TYPE_INTERFACE_Device) == 0) {
+        bindCard(id);
     } else if (strcmp(type, PW_TYPE_INTERFACE_Node) == 0) {
         const std::string mediaClass = lookup(properties, PW_KEY_MEDIA_CLASS);
         if (std::ranges::find(deviceClasses, mediaClass) == deviceClasses.end())
@@ -201,6 +221,7 @@ void DeviceRegistry::onGlobalRemove(std::uint32_t id) {
         return;
     }
     metadata_.erase(id);
+    cards_.erase(id);
     const auto found = nodes_.find(id);
     if (found == nodes_.end())
         return;
@@ -273,6 +294,9 @@ void DeviceRegistry::publish(const Node& node) {
     info.channelPositions = format.positions;
     if (info.channelPositions.size() != info.channels)
         info.channelPositions = defaultChannelPositions(info.channels);
+    for (const auto& [id, card] : cards_)
+        if (card->has(info))
+            info.properties.insert(card->properties.begin(), card->properties.end());
     if (info.hasVolume)
         info.volumes.resize(info.channels, 1.0f);
     // The session manager makes a device's ports a moment after the device itself.
@@ -310,6 +334,28 @@ void DeviceRegistry::Node::onParam(std::uint32_t id, const spa_pod* pod) {
     }
     if (announced)
         owner.publish(*this);
+}
+
+void DeviceRegistry::bindCard(std::uint32_t id) {
+    auto& card = cards_[id] = std::make_unique<Card>(*this, id);
+    card->proxy.reset(
+        static_cast<pw_device*>(pw_registry_bind(registry_.get(), id, PW_TYPE_INTERFACE_Device, PW_VERSION_DEVICE, 0)));
+    static constexpr pw_device_events events = {
+        .version = PW_VERSION_DEVICE_EVENTS,
+        .info = [](void* data, const pw_device_info* info) { static_cast<Card*>(data)->onInfo(info); },
+    };
+    pw_device_add_listener(card->proxy.get(), card->listener.get(), &events, card.get());
+}
+
+void DeviceRegistry::Card::onInfo(const pw_device_info* update) {
+    if (!(update->change_mask & PW_DEVICE_CHANGE_MASK_PROPS) || !update->props)
+        return;
+    for (const char* key : {PW_KEY_DEVICE_BUS, PW_KEY_DEVICE_NAME})
+        if (auto value = lookup(update->props, key); !value.empty())
+            properties[key] = std::move(value);
+    for (const auto& [id, node] : owner.nodes_)
+        if (node->announced && has(node->info))
+            owner.publish(*node);
 }
 
 void DeviceRegistry::bindMetadata(std::uint32_t id, const std::string& name) {

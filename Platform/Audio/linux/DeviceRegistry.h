@@ -23,7 +23,7 @@ struct AudioDeviceInfo {
     std::string nodeName;
     std::string description;
     std::string mediaClass;
-    std::map<std::string, std::string> properties; ///< all of the node's
+    std::map<std::string, std::string> properties; ///< all of the node's, and what it lacks of its card's
     std::uint32_t captureStreams = 0;              ///< ports that deliver and are no monitor
     std::uint32_t playbackStreams = 0;             ///< ports that take
     double sampleRate = 0;
@@ -86,6 +86,7 @@ public:
 
 private:
     struct Node;
+    struct Card;
     struct Port {
         std::uint32_t node = 0;
         bool delivers = false;
@@ -99,6 +100,7 @@ private:
     void onDone(int sequence);
     void onMetadata(Metadata& metadata, std::uint32_t subject, const char* key, const char* value);
     void bindMetadata(std::uint32_t id, const std::string& name);
+    void bindCard(std::uint32_t id);
     void announce(Node& node);
     void publish(const Node& node);
     [[nodiscard]] AudioObjectID numberFor(const std::string& nodeName);
@@ -110,6 +112,7 @@ private:
     PipeWire::Hook registryListener_;
     PipeWire::Hook coreListener_;
     std::map<std::uint32_t, std::unique_ptr<Node>> nodes_; ///< by the server's id
+    std::map<std::uint32_t, std::unique_ptr<Card>> cards_; ///< by the server's id, as are the next two
     std::map<std::uint32_t, Port> ports_;
     std::map<std::uint32_t, std::unique_ptr<Metadata>> metadata_;
     int globalsSequence_ = -1; ///< answered when all that existed at connecting was named

@@ -52,6 +52,7 @@ using PropertiesPtr = std::unique_ptr<pw_properties, FreeBy<pw_properties_free>>
 using RegistryPtr = std::unique_ptr<pw_registry, FreeProxy>;
 using MetadataPtr = std::unique_ptr<pw_metadata, FreeProxy>;
 using NodePtr = std::unique_ptr<pw_node, FreeProxy>;
+using DevicePtr = std::unique_ptr<pw_device, FreeProxy>;
 using ProxyPtr = std::unique_ptr<pw_proxy, FreeProxy>;
 
 /// A listener that unhooks itself.

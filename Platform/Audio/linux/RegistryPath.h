@@ -17,7 +17,8 @@ namespace Platform::RegistryPath {
 [[nodiscard]] std::string hash(std::string_view nodeName);
 /// "<node name>:<hash>"
 [[nodiscard]] std::string uniqueID(std::string_view nodeName);
-/// "USB", "PCI", "BLUETOOTH", "VIRTUAL" or another bus in capitals, from the node's property device.bus.
+/// "USB", "PCI", "BLUETOOTH", "VIRTUAL" or another bus in capitals, from the property device.bus of the node or its
+/// card.
 [[nodiscard]] std::string bus(std::string_view deviceBus);
 /// "IOService:/<bus>/<device>/<node>@<hash>"
 [[nodiscard]] std::string path(std::string_view deviceBus, std::string_view deviceName, std::string_view nodeName);
