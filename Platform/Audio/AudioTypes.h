@@ -81,4 +81,5 @@ struct AudioBufferList {
 struct AudioTimeStamp {
     std::uint64_t mHostTime = 0; ///< nanoseconds of the steady clock, of the first frame
     double mSampleTime = 0;      ///< frames since the unit started, lost ones included
+    bool mStartsAnew = false;    ///< the first cycle of a connection: of the time before it nothing is known
 };

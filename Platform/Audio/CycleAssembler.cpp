@@ -22,6 +22,7 @@ bool CycleAssembler::next(CaptureCycle& cycle, bool fillLost, bool flush) {
                 if (filled_ > 0)
                     return finish(cycle);
                 sampleTime_ += block.lostBefore;
+                startsAnew_ = block.startsAnew;
             }
             holePassed_ = true;
         }
@@ -49,7 +50,8 @@ bool CycleAssembler::next(CaptureCycle& cycle, bool fillLost, bool flush) {
 }
 
 bool CycleAssembler::finish(CaptureCycle& cycle) {
-    cycle = {.frames = filled_, .hostTime = hostTime_, .sampleTime = sampleTime_};
+    cycle = {.frames = filled_, .hostTime = hostTime_, .sampleTime = sampleTime_, .startsAnew = startsAnew_};
+    startsAnew_ = false;
     sampleTime_ += filled_;
     filled_ = 0;
     return true;

@@ -14,6 +14,7 @@ struct CaptureCycle {
     std::uint32_t frames = 0;
     std::uint64_t hostTime = 0;   ///< capture time of the first frame, steady nanoseconds
     std::uint64_t sampleTime = 0; ///< frames since the start, lost ones included
+    bool startsAnew = false;      ///< begins with the first frame of a connection; never where holes are filled
 };
 
 /// Cuts what the ring holds into cycles of one size. It belongs to the I/O thread.
@@ -43,6 +44,7 @@ private:
     std::uint32_t filled_ = 0;
     std::uint64_t hostTime_ = 0; ///< of the first frame in buffer_
     std::uint64_t sampleTime_ = 0;
+    bool startsAnew_ = false; ///< as of the cycle to come
     bool holePassed_ = false; ///< the hole before the ring's front was dealt with
     std::uint64_t silenceLeft_ = 0;
 };

@@ -164,6 +164,7 @@ OSStatus BuildInAudioRecord::renderCycle(std::uint32_t* actionFlags, const Audio
         return parameterError; // more than the unit promised; it would not fit
     const OSStatus status = renderUnit_->render(actionFlags, timeStamp, busNumber, frames, audioBuffer_.get());
     measureTime(*timeStamp, frames);
+    cycleStartsAnew_ = timeStamp->mStartsAnew;
     const bool recording = recordStatus_ == 1;
     if (recording)
         if (const OSStatus written = writeFiles(*timeStamp, frames); written != noErr)

@@ -111,6 +111,8 @@ public:
                                  std::int64_t framesBefore = 0);
     /// Capture time at which the next cycle begins, 0 when none has come yet. While cycles are held.
     [[nodiscard]] virtual std::uint64_t nextHostTime() const;
+    /// Whether the cycle at hand is the first after a time without the device. Only inside a call of the delegate.
+    [[nodiscard]] bool cycleStartsAnew() const { return cycleStartsAnew_; }
     /// stopRecordAudio() that does not wait for the M4A file: its own thread closes it, then calls @p closed there with
     /// the path and the first error of the file's life. When there was nothing to close, @p closed is not called and
     /// the answer is false.
@@ -200,6 +202,7 @@ private:
     std::atomic<std::uint64_t> measuredNanoseconds_{0};
     std::uint64_t previousHostTime_ = 0;
     std::uint32_t previousFrames_ = 0;
+    bool cycleStartsAnew_ = false;
 
     /// Guards what other threads ask for: the unit, the writers, the paths and the errors. Never held while anything
     /// waits, and not taken in a cycle.

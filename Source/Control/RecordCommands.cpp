@@ -151,6 +151,8 @@ void RecordStateController::clientRecievedComputerAudioData(float level) {
     bool wantsCut = false;
     {
         const std::scoped_lock lock(d->mutex);
+        if (d->computer.engine->cycleStartsAnew())
+            d->splitter.restartClock();
         d->splitter.measure(level, now, recordState_() == 1);
         soundBegan = d->splitter.soundBegins(level);
         if (soundBegan)
@@ -209,8 +211,11 @@ void RecordStateController::Private::beginFile(RecordSource& source, bool record
 
 void RecordStateController::Private::startRecord() {
     // A wait for sound that a stop left behind may have turned into a recording since. It is a recording like others.
-    if (anyEngineRecords())
+    // Its device may have gone meanwhile.
+    if (anyEngineRecords()) {
         stopRecord();
+        devices->setRecording(false);
+    }
     const CycleHold hold(*builtIn.engine, *computer.engine);
     const std::scoped_lock lock(mutex);
     if (splitter.isWaitting())

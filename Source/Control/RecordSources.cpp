@@ -21,6 +21,19 @@ AudioObjectID idOf(const QVariant& device) {
     return device.toMap().value(BuildInAudioRecord::DeviceIDKey).toUInt();
 }
 
+/// No cut of the computer-audio recording begins: one uses the units of both engines, and may come while the window
+/// shows none running.
+class Held {
+public:
+    explicit Held(BuildInAudioRecord& engine) : engine_(engine) { engine_.holdCycles(); }
+    ~Held() { engine_.releaseCycles(); }
+    Held(const Held&) = delete;
+    Held& operator=(const Held&) = delete;
+
+private:
+    BuildInAudioRecord& engine_;
+};
+
 void warnOfUsbHeadset() {
     if (auto* alerts = Platform::services().alerts)
         alerts->runModal(u"Waring:"_s,
@@ -88,6 +101,7 @@ void RecordSources::configAudioDevice(int index) {
 }
 
 void RecordSources::bindChosen() {
+    const Held held(computerAudioRecord_);
     const QVariant device = aryInputAudioDevice_.at(selected_);
     boundDevice_ = idOf(device);
     if (chosenDevice_ == 0)
@@ -138,13 +152,16 @@ void RecordSources::followDevices() {
     devices.removeIf([](const QVariant& device) { return nameOf(device) == ComputerAudioName; });
 
     if (computerAudio != computerAudioDeviceID_) {
-        if (computerAudio != 0) {
+        if (computerAudioRecord_.recordStatus() != 0) {
+            changedMeanwhile_ = true; // a wait for sound that was left by a stop may record: it waits for its device
+        } else if (computerAudio != 0) {
             adoptComputerAudio(computerAudio);
         } else {
             computerAudioDeviceID_ = 0;
             computerAudioRecord_.cleanUp();
         }
-        Q_EMIT computerAudioDeviceChanged();
+        if (computerAudio == computerAudioDeviceID_)
+            Q_EMIT computerAudioDeviceChanged();
     }
 
     if (devices == aryInputAudioDevice_)
@@ -155,6 +172,7 @@ void RecordSources::followDevices() {
         if (idOf(devices.at(i)) == chosenDevice_)
             selected_ = int(i);
     if (selected_ < 0) {
+        const Held held(computerAudioRecord_);
         boundDevice_ = 0;
         buildInAudioRecord_.cleanUp();
     } else if (idOf(devices.at(selected_)) != boundDevice_) {

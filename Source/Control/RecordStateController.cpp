@@ -165,8 +165,9 @@ void RecordStateController::chooseBuiltInDevice(int index) {
 }
 
 bool RecordStateController::windowShouldClose() {
-    // An engine may write although the choices say otherwise: a wait for sound that was left by a stop.
-    if (recordState_() == 0 && !d->anyEngineRecords())
+    // What a left wait for sound records although the choices say otherwise is no reason to stay: it is kept at the
+    // end.
+    if (recordState_() == 0)
         d->delegate->terminate();
     else
         Platform::services().alerts->runModal(u"Waring:"_s, u"Please stop your recording."_s, {u"OK"_s});
@@ -396,10 +397,6 @@ void RecordStateController::Private::deviceEvent(Platform::InputUnit::Event even
                    : u"The sound server went away. What was recorded so far is kept; the recording goes on when it "
                      u"is back."_s);
     } else if (event == Event::DeviceReturned || event == Event::ServerReturned) {
-        {
-            const std::scoped_lock lock(mutex);
-            splitter.restartClock();
-        }
         if (records)
             notice(u"%1 is back."_s.arg(source.label));
     }

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 OSStatus FakeInputUnit::getDeviceFormat(AudioStreamBasicDescription& format) {
     format = planarFloatFormat(state_->sampleRate, state_->channels);
@@ -15,7 +16,7 @@ OSStatus FakeInputUnit::getDeviceFormat(AudioStreamBasicDescription& format) {
 OSStatus FakeInputUnit::feed(const std::vector<std::vector<float>>& channels, std::uint64_t hostTime) {
     cycle_ = &channels;
     const auto frames = std::uint32_t(channels.empty() ? 0 : channels.front().size());
-    const AudioTimeStamp stamp{hostTime, sampleTime_};
+    const AudioTimeStamp stamp{hostTime, sampleTime_, std::exchange(state_->startsAnew, false)};
     std::uint32_t flags = 0;
     const Platform::HostTimeScope scope(hostTime);
     const OSStatus status = callback_(refCon_, &flags, &stamp, 1, frames, nullptr);
@@ -138,6 +139,8 @@ OSStatus FakeAudioHardware::getInputFormat(AudioObjectID id, double& sampleRate,
 
 std::unique_ptr<Platform::InputUnit> FakeAudioHardware::openOutputUnit(bool& found) {
     found = unitFound;
+    if (onOpen)
+        onOpen();
     if (!unitFound || !unitOpens)
         return nullptr;
     opened.push_back(nextUnit);

@@ -39,6 +39,7 @@ public:
         int holds = 0;
         std::uint64_t lost = 0;
         bool fillsLost = false;
+        bool startsAnew = false;       ///< the next cycle is the first of a new connection
         FakeInputUnit* unit = nullptr; ///< null once closed
     };
 
@@ -143,6 +144,7 @@ public:
     bool isConnected = true;
     /// How units of a device behave; "the next unit" when a device has no entry. Made at need.
     std::shared_ptr<FakeInputUnit::State> nextUnit = std::make_shared<FakeInputUnit::State>();
+    std::function<void()> onOpen; ///< called before a unit is opened
     /// States of all units that were opened, oldest first.
     std::vector<std::shared_ptr<FakeInputUnit::State>> opened;
 
@@ -165,9 +167,14 @@ public:
     [[nodiscard]] FakeInputUnit* unit() const { return opened.empty() ? nullptr : opened.back()->unit; }
     /// The open unit on this device.
     [[nodiscard]] FakeInputUnit* unitOf(AudioObjectID id) const {
+        const auto state = stateOf(id);
+        return state ? state->unit : nullptr;
+    }
+    /// And its state.
+    [[nodiscard]] std::shared_ptr<FakeInputUnit::State> stateOf(AudioObjectID id) const {
         for (auto state = opened.rbegin(); state != opened.rend(); ++state)
             if ((*state)->device == id && (*state)->unit)
-                return (*state)->unit;
+                return *state;
         return nullptr;
     }
 

@@ -182,7 +182,7 @@ void PipeWireInputUnit::runCycles() {
         // What was begun when the device left is delivered as it is: the rest will not come.
         const bool ended = !stream_->streaming();
         while (assembler.next(cycle, fillLost_, ended)) {
-            if (!runCycle(assembler, cycle.frames, cycle.hostTime, cycle.sampleTime))
+            if (!runCycle(assembler, cycle))
                 return;
         }
         watch(seenBlocks, toldLost);
@@ -192,8 +192,7 @@ void PipeWireInputUnit::runCycles() {
     }
 }
 
-bool PipeWireInputUnit::runCycle(const CycleAssembler& assembler, std::uint32_t frames, std::uint64_t hostTime,
-                                 std::uint64_t sampleTime) {
+bool PipeWireInputUnit::runCycle(const CycleAssembler& assembler, const CaptureCycle& cycle) {
     {
         std::unique_lock lock(cycleMutex_);
         cycleChanged_.wait(lock, [this] { return stopping_ || holds_ == 0; });
@@ -203,12 +202,13 @@ bool PipeWireInputUnit::runCycle(const CycleAssembler& assembler, std::uint32_t 
         ioThreadId_ = std::this_thread::get_id();
     }
     current_ = &assembler;
-    currentFrames_ = frames;
+    currentFrames_ = cycle.frames;
     {
-        const HostTimeScope scope(hostTime);
-        const AudioTimeStamp timeStamp = {.mHostTime = hostTime, .mSampleTime = double(sampleTime)};
+        const HostTimeScope scope(cycle.hostTime);
+        const AudioTimeStamp timeStamp = {
+            .mHostTime = cycle.hostTime, .mSampleTime = double(cycle.sampleTime), .mStartsAnew = cycle.startsAnew};
         std::uint32_t actionFlags = 0;
-        callback_(refCon_, &actionFlags, &timeStamp, 1, frames, nullptr);
+        callback_(refCon_, &actionFlags, &timeStamp, 1, cycle.frames, nullptr);
     }
     current_ = nullptr;
     {

@@ -13,6 +13,7 @@
 namespace Platform {
 
 class CycleAssembler;
+struct CaptureCycle;
 
 /// An input unit on the sound server: a stream fills a ring, a thread of the unit's own empties it cycle by cycle.
 class PipeWireInputUnit final : public InputUnit {
@@ -44,8 +45,7 @@ private:
     void tell(Event event);
     void runCycles();
     /// Waits for the end of a hold, then runs the callback. False when the unit stops.
-    bool runCycle(const CycleAssembler& assembler, std::uint32_t frames, std::uint64_t hostTime,
-                  std::uint64_t sampleTime);
+    bool runCycle(const CycleAssembler& assembler, const CaptureCycle& cycle);
     void watch(std::uint64_t& seenBlocks, std::uint64_t& toldLost);
 
     const std::shared_ptr<DeviceRegistry> registry_;

@@ -272,9 +272,14 @@ TEST(CycleAssembler, StartsTimeAnewWithANewConnection) {
     CaptureCycle cycle;
     ASSERT_TRUE(assembler.next(cycle, false));
     EXPECT_EQ(cycle.frames, 100u);
+    EXPECT_FALSE(cycle.startsAnew);
+    ASSERT_TRUE(producer.push(256));
     ASSERT_TRUE(assembler.next(cycle, false));
     EXPECT_EQ(cycle.frames, 256u);
     EXPECT_EQ(cycle.hostTime, 1'600'000u);
+    EXPECT_TRUE(cycle.startsAnew);
+    ASSERT_TRUE(assembler.next(cycle, false));
+    EXPECT_FALSE(cycle.startsAnew);
 }
 
 TEST(CycleAssembler, DeliversAPartWhenTheRestWillNotCome) {

@@ -46,14 +46,45 @@ TEST_F(ArmedRecordTest, StoppedBeforeAnySoundKeepsListeningAndTellsTheTruth) {
     EXPECT_EQ(alerts.shown.size(), 1);
 }
 
-TEST_F(ArmedRecordTest, TheClosingIsRefusedThoughAnotherSourceWasChosenMeanwhile) {
+TEST_F(ArmedRecordTest, TheClosingAsksTheChosenSourceAndTheOtherOneIsKept) {
     beginWithComputerAudioOnly();
     controller->startAndStopRecord();
     controller->startAndStopRecord();
-    play(ComputerAudio, 0.25F, 1);
+    play(ComputerAudio, 0.25F, 6);
     controller->chooseRecordBuiltIn(true);
     EXPECT_FALSE(controller->windowShouldClose());
-    EXPECT_EQ(delegate.terminations, 0);
+    EXPECT_EQ(delegate.terminations, 1);
+    EXPECT_TRUE(alerts.shown.isEmpty());
+    controller->finishAll();
+    EXPECT_EQ(delegate.paths, QStringList{track(0)});
+}
+
+TEST_F(ArmedRecordTest, WhatAStoppedWaitRecordsSurvivesItsDevice) {
+    beginWithComputerAudioOnly();
+    controller->startAndStopRecord();
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0.25F, 6);
+    hardware.remove(ComputerAudio);
+    EXPECT_TRUE(hardware.unitOf(ComputerAudio)) << "the recording waits for its device";
+    controller->startAndStopRecord();
+    EXPECT_FALSE(controller->computerAudioChecked()) << "what came and went meanwhile is taken in at its end";
+    ASSERT_TRUE(queueDone());
+    EXPECT_EQ(delegate.paths, QStringList{track(0)});
+}
+
+TEST_F(ArmedRecordTest, NoCutMeetsAnInputThatIsBeingExchanged) {
+    beginWithComputerAudioOnly();
+    addHeadset();
+    controller->startAndStopRecord();
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0.25F, 1);
+    int holdsOfTheComputer = 0;
+    const auto computer = hardware.stateOf(ComputerAudio);
+    hardware.onOpen = [&] { holdsOfTheComputer = computer->holds; };
+    controller->chooseBuiltInDevice(1);
+    EXPECT_EQ(holdsOfTheComputer, 1);
+    EXPECT_EQ(computer->holds, 0);
+    EXPECT_TRUE(hardware.unitOf(Headset));
 }
 
 TEST_F(ArmedRecordTest, WhatAStoppedWaitRecordedIsKeptByTheNextStart) {
@@ -196,11 +227,14 @@ TEST_F(ArmedRecordTest, ATimeWithoutTheDeviceIsNotCut) {
     g_SplitTimeMS = 300;
     controller->startAndStopRecord();
     play(ComputerAudio, 0.25F, 1);
-    hardware.unitOf(ComputerAudio)->tell(Platform::InputUnit::Event::DeviceLost);
+    play(ComputerAudio, 0, 0.1);
+    // The first cycle may come before the main thread hears that the device is back.
+    hardware.stateOf(ComputerAudio)->startsAnew = true;
     clock.advance(5);
-    hardware.unitOf(ComputerAudio)->tell(Platform::InputUnit::Event::DeviceReturned);
     play(ComputerAudio, 0, 0.1);
     EXPECT_EQ(media.files.size(), 1U);
+    play(ComputerAudio, 0, 0.15);
+    EXPECT_EQ(media.files.size(), 2U) << "the silence before and after it counts";
 }
 
 TEST_F(ArmedRecordTest, ACutThatFailsGoesOnInTheOldFileAndTriesOnceASilence) {

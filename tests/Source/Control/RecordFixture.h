@@ -72,6 +72,7 @@ protected:
 
     void addMicrophone() { add(Microphone, QStringLiteral("Microphone")); }
     void addComputerAudio() { add(ComputerAudio, RecordSources::ComputerAudioName); }
+    void addHeadset() { add(Headset, QStringLiteral("Headset")); }
     void add(AudioObjectID id, const QString& name) {
         FakeAudioHardware::Device device;
         device.id = id;

@@ -12,7 +12,6 @@ class RecordSourcesTest : public RecordFixture {
 protected:
     static constexpr AudioObjectID Speakers = 21;
 
-    void addHeadset() { add(Headset, u"Headset"_s); }
     /// An output on a bus, as the default one.
     void addOutput(AudioObjectID id, const QString& node, const QString& bus) {
         FakeAudioHardware::Device device;
