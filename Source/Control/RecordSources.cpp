@@ -3,6 +3,7 @@
 #include "Source/Control/RecordSources.h"
 
 #include "CaptureComputerAudio/CaptureComputerAudio.h"
+#include "CaptureComputerAudio/KextInstallControl.h"
 #include "Platform/Audio/AudioHardware.h"
 #include "Platform/Desktop/Alerts.h"
 #include "Platform/Foundation/Services.h"
@@ -71,6 +72,11 @@ void RecordSources::awakeFromNib() {
         connect(hardware, &Platform::AudioHardware::defaultOutputDeviceChanged, this, [this] {
             if (computerAudioDeviceID_ != 0)
                 CaptureComputerAudio::startCaptureComputerAudio();
+        });
+        // The driver ends with its server. A recording waits for the device, so it must come back with the next one.
+        connect(hardware, &Platform::AudioHardware::connectedChanged, this, [](bool connected) {
+            if (connected && !KextInstallControl::isBusy())
+                KextInstallControl::loadIfInstalled();
         });
     }
     if (changedMeanwhile_)

@@ -3,6 +3,7 @@
 //
 // Recordings on a real sound server, from playing streams to files of the library.
 #include "CaptureComputerAudio/CaptureDriver.h"
+#include "CaptureComputerAudio/KextInstallControl.h"
 #include "Platform/Audio/linux/DeviceRegistry.h"
 #include "tests/support/RecordOnServer.h"
 
@@ -187,4 +188,33 @@ TEST_F(RecordServer, TheRecordingFollowsTheUserToAnotherOutput) {
         longest = std::max(longest, quiet);
     }
     EXPECT_LT(longest, 44100 / 5) << "frames of silence";
+}
+
+TEST_F(RecordServer, ComputerAudioGoesOnWhenTheSoundServerWasRestarted) {
+    QTemporaryDir folder;
+    const KextInstallControl::ExtensionsFolderScope extensions(folder.path());
+    ASSERT_TRUE(QFile::link(QStringLiteral(SONAPHEX_BIN_DIR "/Resources/ComputerAudioCapture.kext"),
+                            KextInstallControl::installedBundlePath()));
+    QString why;
+    ASSERT_TRUE(CaptureDriver::load(KextInstallControl::installedBundlePath(), why, 10000)) << qPrintable(why);
+    {
+        TestSource::Options options;
+        options.sample = [](std::uint64_t frame, std::uint32_t) { return Signal::tone(frame, 440, 48000, 0.25); };
+        TestPlayer player(options);
+        ASSERT_TRUE(player.start());
+        begin(false, true);
+        controller->startAndStopRecord();
+        ASSERT_TRUE(recorded(1));
+    }
+    ASSERT_TRUE(session.stopServer());
+    ASSERT_TRUE(waitFor([&] { return controller->notices().join(u' ').contains(u"went away"_s); }));
+    ASSERT_TRUE(session.startServer());
+    const double before = controller->recordedSeconds();
+    EXPECT_TRUE(waitFor([&] { return controller->recordedSeconds() > before + 1; }, 30000))
+        << qPrintable(controller->notices().join(u'\n'));
+    EXPECT_TRUE(controller->notices().join(u' ').contains(u"Computer audio is back"_s));
+    controller->finishAll();
+    controller.reset();
+    EXPECT_EQ(delegate.paths.size(), 1);
+    EXPECT_TRUE(CaptureDriver::unload(20000));
 }
