@@ -166,7 +166,7 @@ OSStatus BuildInAudioRecord::renderCycle(std::uint32_t* actionFlags, const Audio
     measureTime(*timeStamp, frames);
     cycleStartsAnew_ = timeStamp->mStartsAnew;
     const bool recording = recordStatus_ == 1;
-    if (recording)
+    if (recordStatus_ != 0)
         if (const OSStatus written = writeFiles(*timeStamp, frames); written != noErr)
             return written;
     const float level = levelOf(*audioBuffer_);
@@ -182,29 +182,38 @@ OSStatus BuildInAudioRecord::renderCycle(std::uint32_t* actionFlags, const Audio
 }
 
 OSStatus BuildInAudioRecord::writeFiles(const AudioTimeStamp& timeStamp, std::uint32_t frames) {
-    if (outputM4a_.writer)
-        if (const OSStatus written = writeM4a(timeStamp, frames); written != noErr)
+    const auto parts = pause_.of(recordStatus_ == 2, timeStamp.mHostTime, frames, actualOutputFormat_.mSampleRate);
+    if (parts.head > 0)
+        if (const OSStatus written = writePart(timeStamp, 0, parts.head); written != noErr)
             return written;
-    return outputWAV_.writer ? writeCycle(outputWAV_, 0, frames) : noErr;
+    return parts.tail < frames ? writePart(timeStamp, parts.tail, frames - parts.tail) : noErr;
 }
 
-OSStatus BuildInAudioRecord::writeM4a(const AudioTimeStamp& timeStamp, std::uint32_t frames) {
-    std::uint32_t before = 0;
+OSStatus BuildInAudioRecord::writePart(const AudioTimeStamp& timeStamp, std::uint32_t first, std::uint32_t frames) {
+    if (outputM4a_.writer)
+        if (const OSStatus written = writeM4a(timeStamp, first, frames); written != noErr)
+            return written;
+    return outputWAV_.writer ? writeCycle(outputWAV_, first, frames) : noErr;
+}
+
+OSStatus BuildInAudioRecord::writeM4a(const AudioTimeStamp& timeStamp, std::uint32_t first, std::uint32_t frames) {
+    const std::uint32_t end = first + frames;
     if (cut_) {
-        before = std::uint32_t(std::min<std::int64_t>(cut_->framesBefore, frames));
-        const OSStatus written = writeCycle(outputM4a_, 0, before);
+        const auto before = std::uint32_t(std::min<std::int64_t>(cut_->framesBefore, frames));
+        const OSStatus written = writeCycle(outputM4a_, first, before);
         cut_->framesBefore -= before;
         framesAccepted_ += before;
         if (cut_->framesBefore == 0)
             finishCut();
-        if (written != noErr || before == frames)
+        first += before;
+        if (written != noErr || first == end)
             return written;
     }
-    if (framesAccepted_ == 0 && frames > before)
-        firstHostTime_ = timeStamp.mHostTime + std::uint64_t(before / actualOutputFormat_.mSampleRate * 1e9);
-    if (const OSStatus written = writeCycle(outputM4a_, before, frames - before); written != noErr)
+    if (framesAccepted_ == 0 && first < end)
+        firstHostTime_ = timeStamp.mHostTime + std::uint64_t(first / actualOutputFormat_.mSampleRate * 1e9);
+    if (const OSStatus written = writeCycle(outputM4a_, first, end - first); written != noErr)
         return written;
-    framesAccepted_ += frames - before;
+    framesAccepted_ += end - first;
     return noErr;
 }
 
@@ -258,12 +267,15 @@ std::uint64_t BuildInAudioRecord::nextHostTime() const {
 }
 
 bool BuildInAudioRecord::startRecordAudio() {
-    if (recordStatus_ != 0 || !audioUnit_)
+    if (recordStatus_ != 0)
         return false;
     {
-        const std::lock_guard lock(mutex_);
+        const std::lock_guard lock(mutex_); // a first sound may begin it while the unit is being closed
+        if (!audioUnit_)
+            return false;
         lostBefore_ = -std::int64_t(audioUnit_->lostFrames());
     }
+    pause_.begin(0);
     recordStatus_ = 1;
     return true;
 }
@@ -284,14 +296,24 @@ bool BuildInAudioRecord::stopRecordAudioLater(std::function<void(QString, OSStat
 }
 
 bool BuildInAudioRecord::pauseRecordAudio() {
-    int recording = 1;
-    recordStatus_.compare_exchange_strong(recording, 2);
-    return recordStatus_ != 0;
+    return pauseRecordAudioAt(0);
 }
 
 bool BuildInAudioRecord::resumeRecordAudio() {
+    return resumeRecordAudioAt(0);
+}
+
+bool BuildInAudioRecord::pauseRecordAudioAt(std::uint64_t hostTime) {
+    int recording = 1;
+    if (recordStatus_.compare_exchange_strong(recording, 2))
+        pause_.begin(hostTime);
+    return recordStatus_ != 0;
+}
+
+bool BuildInAudioRecord::resumeRecordAudioAt(std::uint64_t hostTime) {
     int paused = 2;
-    recordStatus_.compare_exchange_strong(paused, 1);
+    if (recordStatus_.compare_exchange_strong(paused, 1))
+        pause_.end(hostTime);
     return recordStatus_ != 0;
 }
 

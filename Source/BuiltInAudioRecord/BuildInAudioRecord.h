@@ -6,6 +6,7 @@
 #include "Platform/Audio/InputUnit.h"
 #include "Platform/Foundation/Dictionary.h"
 #include "Platform/Media/ExtAudioFile.h"
+#include "Source/BuiltInAudioRecord/PauseSpan.h"
 
 #include <atomic>
 #include <functional>
@@ -109,6 +110,10 @@ public:
     /// recording goes on into the old one.
     virtual bool exchangeM4aFile(const QString& path, std::function<void(QString oldPath, OSStatus)> closed,
                                  std::int64_t framesBefore = 0);
+    /// The same at one capture time, which may fall inside a cycle: two devices pause together, though the answers and
+    /// the status change at once. While cycles are held; 0 is with the next cycle.
+    bool pauseRecordAudioAt(std::uint64_t hostTime);
+    bool resumeRecordAudioAt(std::uint64_t hostTime);
     /// Capture time at which the next cycle begins, 0 when none has come yet. While cycles are held.
     [[nodiscard]] virtual std::uint64_t nextHostTime() const;
     /// Whether the cycle at hand is the first after a time without the device. Only inside a call of the delegate.
@@ -140,7 +145,8 @@ private:
                          std::uint32_t frames);
     void measureTime(const AudioTimeStamp& timeStamp, std::uint32_t frames);
     OSStatus writeFiles(const AudioTimeStamp& timeStamp, std::uint32_t frames);
-    OSStatus writeM4a(const AudioTimeStamp& timeStamp, std::uint32_t frames);
+    OSStatus writePart(const AudioTimeStamp& timeStamp, std::uint32_t first, std::uint32_t frames);
+    OSStatus writeM4a(const AudioTimeStamp& timeStamp, std::uint32_t first, std::uint32_t frames);
     OSStatus writeCycle(Export& file, std::uint32_t first, std::uint32_t frames);
     [[nodiscard]] std::unique_ptr<Platform::ExtAudioFileWriter> createWriter(const QString& path, int forType);
     [[nodiscard]] bool noteFailure(const Platform::MediaError& error, const QString& path);
@@ -203,6 +209,7 @@ private:
     std::uint64_t previousHostTime_ = 0;
     std::uint32_t previousFrames_ = 0;
     bool cycleStartsAnew_ = false;
+    PauseSpan pause_;
 
     /// Guards what other threads ask for: the unit, the writers, the paths and the errors. Never held while anything
     /// waits, and not taken in a cycle.

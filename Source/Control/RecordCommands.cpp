@@ -247,17 +247,19 @@ void RecordStateController::Private::startRecord() {
 
 void RecordStateController::Private::pauseRecord() {
     const CycleHold hold(*builtIn.engine, *computer.engine);
+    const std::uint64_t time = commonTime();
     for (RecordSource* source : {&builtIn, &computer})
         if (source->checked)
-            source->engine->pauseRecordAudio();
+            source->engine->pauseRecordAudioAt(time);
     setPaused(true);
 }
 
 void RecordStateController::Private::resumeRecord() {
     const CycleHold hold(*builtIn.engine, *computer.engine);
+    const std::uint64_t time = commonTime();
     for (RecordSource* source : {&builtIn, &computer})
         if (source->checked)
-            source->engine->resumeRecordAudio();
+            source->engine->resumeRecordAudioAt(time);
     setPaused(false);
 }
 
@@ -344,10 +346,21 @@ void RecordStateController::Private::stopRecord() {
 void RecordStateController::Private::leaveUnheardRecording() {
     {
         const std::scoped_lock lock(mutex);
-        if (!splitter.isWaitting())
+        // The first sound may come at this very moment.
+        if (!splitter.isWaitting() && !anyEngineRecords())
             names.release(audioRecordPath_);
     }
     setPaused(false);
+}
+
+/// A wait that a stop has left ends with its device: the engine's file went with that.
+void RecordStateController::Private::forgetLeftWait() {
+    const std::scoped_lock lock(mutex);
+    if (active_ || !splitter.isWaitting() || anyEngineRecords())
+        return;
+    splitter.clear();
+    names.release(audioRecordPath_);
+    computer.hasFile = false;
 }
 
 /// Hands the job on, or forgets it when the filter drops it. The mutex is let go: the queue tells others.
@@ -412,20 +425,26 @@ void RecordStateController::Private::cut(bool automatic) {
     endFiles(ending, lock);
 }
 
-/// Cycles of two devices do not end together: the one that is behind still has some frames to give to the old files.
-void RecordStateController::Private::alignCut() {
-    builtIn.framesBefore = 0;
-    computer.framesBefore = 0;
+/// The capture time to which the device has come that is ahead of the other. 0 when not both write, or when one stands
+/// still: what it will give is not of this time.
+std::uint64_t RecordStateController::Private::commonTime() const {
     if (!writes(builtIn) || !writes(computer))
-        return;
+        return 0;
     const std::uint64_t builtInNext = builtIn.engine->nextHostTime();
     const std::uint64_t computerNext = computer.engine->nextHostTime();
-    const std::uint64_t cutTime = std::max(builtInNext, computerNext);
+    const std::uint64_t ahead = std::max(builtInNext, computerNext);
+    const std::uint64_t behind = std::min(builtInNext, computerNext);
+    return behind != 0 && ahead - behind < FurthestBehind ? ahead : 0;
+}
+
+/// Cycles of two devices do not end together: the one that is behind still has some frames to give to the old files.
+void RecordStateController::Private::alignCut() {
+    const std::uint64_t cutTime = commonTime();
     for (RecordSource* source : {&builtIn, &computer}) {
-        const std::uint64_t behind = cutTime - source->engine->nextHostTime();
-        // A device that is further behind stands still, and what it will give is not of this time.
-        if (builtInNext != 0 && computerNext != 0 && behind < FurthestBehind && source->engine->recordStatus() == 1)
-            source->framesBefore = std::llround(double(behind) * 1e-9 * source->engine->sampleRate());
+        source->framesBefore = 0;
+        if (cutTime != 0 && source->engine->recordStatus() == 1)
+            source->framesBefore =
+                std::llround(double(cutTime - source->engine->nextHostTime()) * 1e-9 * source->engine->sampleRate());
     }
 }
 

@@ -104,7 +104,10 @@ void RecordStateController::awakeFromNib() {
     }
     d->devices = std::make_unique<RecordSources>(*d->builtIn.engine, *d->computer.engine);
     connect(d->devices.get(), &RecordSources::devicesChanged, this, &RecordStateController::devicesChanged);
-    connect(d->devices.get(), &RecordSources::computerAudioDeviceChanged, this, &RecordStateController::refreshTheFace);
+    connect(d->devices.get(), &RecordSources::computerAudioDeviceChanged, this, [this] {
+        d->forgetLeftWait();
+        refreshTheFace();
+    });
     connect(d->devices.get(), &RecordSources::noticed, this, [this](const QString& text) { d->notice(text); });
     d->devices->awakeFromNib();
 

@@ -110,6 +110,7 @@ struct RecordStateController::Private {
     void startRecord();
     void stopRecord();
     void leaveUnheardRecording();
+    void forgetLeftWait();
     void pauseRecord();
     void resumeRecord();
     void setPaused(bool paused);
@@ -132,6 +133,7 @@ struct RecordStateController::Private {
     void beginFile(RecordSource& source, bool record);
     [[nodiscard]] Ending describeEnding();
     [[nodiscard]] std::function<void(QString, OSStatus)> whenClosed(const std::shared_ptr<ExportJob>& job, bool remove);
+    [[nodiscard]] std::uint64_t commonTime() const;
     void alignCut();
     bool exchangeFiles(Ending& ending);
     void armAnew();

@@ -72,6 +72,18 @@ TEST_F(ArmedRecordTest, WhatAStoppedWaitRecordsSurvivesItsDevice) {
     EXPECT_EQ(delegate.paths, QStringList{track(0)});
 }
 
+TEST_F(ArmedRecordTest, AStoppedWaitEndsWithItsDevice) {
+    beginWithComputerAudioOnly();
+    setFilter(false);
+    controller->startAndStopRecord();
+    controller->startAndStopRecord();
+    hardware.remove(ComputerAudio);
+    addComputerAudio();
+    play(ComputerAudio, 0.25F, 1);
+    EXPECT_EQ(controller->recordState_(), 0) << "there is no file to record into";
+    EXPECT_EQ(controller->getAudioRecordPath(), track(0));
+}
+
 TEST_F(ArmedRecordTest, NoCutMeetsAnInputThatIsBeingExchanged) {
     beginWithComputerAudioOnly();
     addHeadset();
@@ -85,6 +97,39 @@ TEST_F(ArmedRecordTest, NoCutMeetsAnInputThatIsBeingExchanged) {
     EXPECT_EQ(holdsOfTheComputer, 1);
     EXPECT_EQ(computer->holds, 0);
     EXPECT_TRUE(hardware.unitOf(Headset));
+}
+
+TEST_F(ArmedRecordTest, ASoundInTheMomentOfTheStopKeepsItsName) {
+    /// Hears a sound when it was just asked whether it records.
+    struct Engine : BuildInAudioRecord {
+        [[nodiscard]] int recordStatus() const override {
+            const int status = BuildInAudioRecord::recordStatus();
+            if (status == 0 && sound)
+                std::exchange(sound, {})();
+            return status;
+        }
+        mutable std::function<void()> sound;
+    };
+    addComputerAudio();
+    defaults.setObject(PreferenceStore::ChooseRecordBuiltIn, false);
+    defaults.setObject(PreferenceStore::ChooseRecordComputerAudio, true);
+    Engine* computer = nullptr;
+    controller = std::make_unique<RecordStateController>([&computer] {
+        auto engine = std::make_unique<Engine>();
+        computer = engine.get();
+        return engine;
+    });
+    controller->setDelegate(&delegate);
+    controller->awakeFromNib();
+    controller->setDisplayClockRunning(false);
+    controller->startAndStopRecord();
+    computer->sound = [this] { play(ComputerAudio, 0.25F, 6); };
+    controller->startAndStopRecord();
+    EXPECT_EQ(media.last().framesAccepted, 6 * 48000);
+    EXPECT_EQ(controller->getAudioRecordPath(), track(1));
+    controller->finishAll();
+    EXPECT_EQ(delegate.paths, QStringList{track(0)});
+    controller.reset();
 }
 
 TEST_F(ArmedRecordTest, WhatAStoppedWaitRecordedIsKeptByTheNextStart) {

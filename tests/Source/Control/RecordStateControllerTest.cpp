@@ -250,6 +250,47 @@ TEST_F(RecordStateControllerTest, TwoSourcesAreCutAtOneTimeInsideACycle) {
     EXPECT_NEAR(second.at(1).offset, 0, 1e-6);
 }
 
+TEST_F(RecordStateControllerTest, TwoSourcesPauseAndGoOnAtOneTimeInsideACycle) {
+    beginWithBoth();
+    controller->startAndStopRecord();
+    const std::uint64_t start = clock.hostTime();
+    // Cycles of 10 ms; those of the computer-audio device begin 4 ms later.
+    const auto microphone = [&](int from, int to) {
+        for (int cycle = from; cycle < to; ++cycle)
+            hardware.unitOf(Microphone)->feedValue(0.5F, 480, start + std::uint64_t(cycle) * 10'000'000);
+    };
+    const auto computer = [&](int from, int to) {
+        for (int cycle = from; cycle < to; ++cycle)
+            hardware.unitOf(ComputerAudio)->feedValue(0.5F, 480, start + std::uint64_t(cycle) * 10'000'000 + 4'000'000);
+    };
+    microphone(0, 11); // until 110 ms
+    computer(0, 10);   // until 104 ms
+    controller->pauseAndResumeRecord();
+    microphone(11, 15); // until 150 ms
+    computer(10, 16);   // until 164 ms
+    EXPECT_EQ(media.files.at(0)->framesAccepted, 110 * 48);
+    EXPECT_EQ(media.files.at(1)->framesAccepted, 106 * 48) << "up to where the other device had come";
+    controller->pauseAndResumeRecord();
+    microphone(15, 26); // until 260 ms
+    computer(16, 26);   // until 264 ms
+    EXPECT_EQ(media.files.at(0)->framesAccepted, (110 + 96) * 48) << "from where the other device has come";
+    EXPECT_EQ(media.files.at(1)->framesAccepted, (106 + 100) * 48);
+}
+
+TEST_F(RecordStateControllerTest, APauseThatEndsAtOnceLeavesOutNothing) {
+    beginWithBoth();
+    controller->startAndStopRecord();
+    const std::uint64_t start = clock.hostTime();
+    for (int cycle = 0; cycle < 20; ++cycle) {
+        hardware.unitOf(Microphone)->feedValue(0.5F, 480, start + std::uint64_t(cycle) * 10'000'000);
+        controller->pauseAndResumeRecord();
+        controller->pauseAndResumeRecord();
+        hardware.unitOf(ComputerAudio)->feedValue(0.5F, 480, start + std::uint64_t(cycle) * 10'000'000);
+    }
+    EXPECT_EQ(media.files.at(0)->framesAccepted, 20 * 480);
+    EXPECT_EQ(media.files.at(1)->framesAccepted, 20 * 480);
+}
+
 TEST_F(RecordStateControllerTest, AShortRecordingIsDroppedAndItsNameFreed) {
     addMicrophone();
     begin();
@@ -379,7 +420,11 @@ TEST_F(RecordStateControllerTest, ComputerAudioWithoutItsDeviceOffersTheAddOn) {
     controller->chooseRecordComputerAudio(true);
     ASSERT_EQ(alerts.shown.size(), 1);
     EXPECT_EQ(alerts.shown.at(0).title, u"Add-on required to record the system audio."_s);
-    EXPECT_TRUE(alerts.shown.at(0).text.startsWith(u"KorvanAudioDevice is easy to use, it simply accept"_s));
+    EXPECT_EQ(
+        alerts.shown.at(0).text,
+        u"KorvanAudioDevice is easy to use, it simply accept system audio data, allowing any audio application to "
+        u"send and receive audio with no other support needed. KorvanAudioDevice is free, and runs on Mac Intel "
+        u"computers. This driver will only be used by Sonaphex."_s);
     EXPECT_EQ(alerts.shown.at(0).buttons, (QStringList{u"Install"_s, u"Cancel"_s}));
     EXPECT_EQ(delegate.installs, 0);
     EXPECT_FALSE(controller->computerAudioChecked());

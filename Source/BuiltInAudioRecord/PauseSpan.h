@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <algorithm>
+#include <atomic>
+#include <cmath>
+#include <cstdint>
+
+/// The times at which a pause begins and ends inside the cycles of one device. Cycles of two devices do not end
+/// together: without it each pause would move one source against the other by up to a cycle. Times other than 0 are set
+/// while cycles are held; the I/O thread asks.
+class PauseSpan {
+public:
+    /// What is captured before @p hostTime is still written. 0 is at once.
+    void begin(std::uint64_t hostTime) {
+        begin_ = hostTime;
+        end_ = 0;
+    }
+    /// What is captured from @p hostTime on is written again. 0 is at once.
+    void end(std::uint64_t hostTime) { end_ = hostTime; }
+
+    /// The frames of a cycle to write: those in front of head and those from tail on.
+    struct Parts {
+        std::uint32_t head = 0;
+        std::uint32_t tail = 0;
+    };
+    [[nodiscard]] Parts of(bool paused, std::uint64_t hostTime, std::uint32_t frames, double sampleRate) const {
+        const std::uint32_t head = framesUntil(begin_, hostTime, frames, sampleRate);
+        if (paused)
+            return {head, frames};
+        return {head, std::max(head, framesUntil(end_, hostTime, frames, sampleRate))};
+    }
+
+private:
+    [[nodiscard]] static std::uint32_t framesUntil(std::uint64_t time, std::uint64_t from, std::uint32_t frames,
+                                                   double sampleRate) {
+        if (time <= from)
+            return 0;
+        return std::uint32_t(std::min<std::int64_t>(frames, std::llround(double(time - from) * 1e-9 * sampleRate)));
+    }
+
+    std::atomic<std::uint64_t> begin_{0};
+    std::atomic<std::uint64_t> end_{0};
+};
