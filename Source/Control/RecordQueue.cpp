@@ -56,9 +56,9 @@ RecordQueue::RecordQueue(Owner owner, QObject* parent)
 }
 
 RecordQueue::~RecordQueue() {
-    self_.reset();
     cancelled_ = true;
     worker_.waitForDone();
+    self_.reset(); // only now: the step at hand may still have been taking a guard
     for (const auto& job : aryForExportDataInfo_) {
         const QString name = QFileInfo(job->path(ExportJob::OutPutPath)).completeBaseName();
         for (const auto& key :
