@@ -31,6 +31,11 @@ if(SONAPHEX_SANITIZE)
     target_compile_options(sonaphex_flags INTERFACE -fsanitize=${SONAPHEX_SANITIZE} -fno-omit-frame-pointer)
     target_link_options(sonaphex_flags INTERFACE -fsanitize=${SONAPHEX_SANITIZE})
 endif()
+if(SONAPHEX_SANITIZE MATCHES "thread")
+    add_library(sonaphex_thread_sanitizer OBJECT ${CMAKE_CURRENT_LIST_DIR}/ThreadSanitizerClone.cpp)
+    target_compile_options(sonaphex_thread_sanitizer PRIVATE -fsanitize=${SONAPHEX_SANITIZE})
+    target_link_libraries(sonaphex_flags INTERFACE $<TARGET_OBJECTS:sonaphex_thread_sanitizer>)
+endif()
 
 # All sources and headers below the given folders. Headers are listed for moc: it looks into listed ones only.
 function(sonaphex_sources out)

@@ -8,6 +8,7 @@
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibraryStore.h"
 #include "tests/fakes/FakeUserDefaults.h"
+#include "tests/support/Slowness.h"
 
 #include <QElapsedTimer>
 #include <QFile>
