@@ -108,8 +108,8 @@ bool CaptureStream::connectStream(const AudioDeviceInfo& device) {
 }
 
 void CaptureStream::closeStream() {
-    // Unhooking waits for the data thread: afterwards nothing touches what it used.
-    listener_.remove();
+    if (stream_)
+        unhookFromDataThread(registry_->connection()->context(), listener_);
     stream_.reset();
     position_ = nullptr;
     if (state_ != State::Failed)

@@ -40,6 +40,7 @@ public:
     [[nodiscard]] pw_loop* loop() const { return pw_thread_loop_get_loop(loop_.get()); }
     /// Null while no server answers. Under the lock.
     [[nodiscard]] pw_core* core() const { return core_.get(); }
+    [[nodiscard]] pw_context* context() const { return context_.get(); }
 
     /// Takes the lock itself. A client that comes while the server is there hears serverConnected() at once. Clients
     /// are told in the order in which they came, of a loss in the opposite order.

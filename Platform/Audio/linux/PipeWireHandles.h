@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <mutex>
 #include <utility>
@@ -74,6 +76,20 @@ public:
 private:
     spa_hook hook_ = {};
 };
+
+/// Unhooks a stream whose process callback runs on the data thread. To be called before the stream, or anything that
+/// the callback uses, is touched. The library takes the callback away on whichever thread asks and waits for nobody:
+/// asked beside a running cycle, that cycle would find a stream that is gone. So the data thread does it itself,
+/// between two cycles.
+inline void unhookFromDataThread(pw_context* context, Hook& listener) {
+    pw_data_loop_invoke(
+        pw_context_get_data_loop(context),
+        [](spa_loop*, bool, std::uint32_t, const void*, std::size_t, void* data) {
+            static_cast<Hook*>(data)->remove();
+            return 0;
+        },
+        0, nullptr, 0, true, &listener);
+}
 
 /// Holds a thread loop still.
 class LoopLock {

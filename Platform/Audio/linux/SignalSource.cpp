@@ -37,7 +37,8 @@ struct SignalSource::Connection {
             LoopLock lock(loop.get());
             if (timer.get())
                 onDataThread([](Connection& self) { self.timer.reset(); });
-            streamListener.remove();
+            if (stream)
+                unhookFromDataThread(context.get(), streamListener);
             stream.reset();
             coreListener.remove();
             core.reset();

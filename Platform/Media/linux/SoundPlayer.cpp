@@ -102,7 +102,8 @@ struct SoundPlayer::Connection {
             return;
         {
             LoopLock lock(loop.get());
-            streamListener.remove();
+            if (stream)
+                unhookFromDataThread(context.get(), streamListener);
             stream.reset();
             coreListener.remove();
             core.reset();
