@@ -17,7 +17,8 @@ UnitCapture::UnitCapture(AudioHardware& hardware, AudioObjectID device, std::uin
 }
 
 UnitCapture::~UnitCapture() {
-    unit_.reset();
+    if (unit_)
+        unit_->stop(); // the callback uses unit_, which is null before its reset() destroys anything
 }
 
 testing::AssertionResult UnitCapture::start() {

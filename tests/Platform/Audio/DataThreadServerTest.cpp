@@ -35,7 +35,7 @@ std::atomic<std::uint64_t> locks{0};
 
 thread_local bool onDataThread = false;
 
-void count(std::atomic<std::uint64_t>& what) {
+[[maybe_unused]] void count(std::atomic<std::uint64_t>& what) {
     if (onDataThread && counting.load(std::memory_order_relaxed))
         what.fetch_add(1, std::memory_order_relaxed);
 }
