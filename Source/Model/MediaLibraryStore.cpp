@@ -95,9 +95,19 @@ QVariant value(const QVariantList& records, const QVariantList& ringtones) {
 QVariant merge(const QVariant& base, const QVariant& theirs, const QVariant& ours) {
     if (!ours.isValid() || !theirs.isValid())
         return ours;
-    bool damaged = false;
     const auto joined = [&](const QString& name) {
-        return mergeEntries(entries(base, name, damaged), entries(theirs, name, damaged), entries(ours, name, damaged));
+        bool damaged = !theirs.toMap().contains(name);
+        bool isOld = false;
+        const QVariantList known = entries(base, name, isOld);
+        QVariantList others = entries(theirs, name, damaged);
+        // No process of ours stores another shape: what is not in it was lost, not removed.
+        if (damaged) {
+            const auto there = byKey(others);
+            for (const QVariant& entry : known)
+                if (!there.contains(keyOf(entry)))
+                    others.append(entry);
+        }
+        return mergeEntries(known, others, entries(ours, name, isOld));
     };
     return value(joined(recordsName), joined(ringtonesName));
 }

@@ -360,6 +360,14 @@ TEST(MediaLibraryStore, KeepsOursWhenTheirsIsNoLibrary) {
     const QVariant ours = MediaLibraryStore::value({entry(u"a"_s)}, {});
     EXPECT_EQ(MediaLibraryStore::merge({}, {}, ours), ours);
     EXPECT_EQ(MediaLibraryStore::merge({}, u"odd"_s, ours), ours);
+    // Damage takes nothing away from a process that knows better.
+    const QVariant known = MediaLibraryStore::value({entry(u"a"_s)}, {entry(u"r"_s)});
+    for (const QVariant& theirs :
+         {QVariant(u"odd"_s), QVariant(Dictionary()), QVariant(Dictionary{{u"records"_s, 5}, {u"ringtones"_s, u"x"_s}}),
+          MediaLibraryStore::value({5}, {u"x"_s})})
+        EXPECT_EQ(MediaLibraryStore::merge(known, theirs, known), known);
+    EXPECT_EQ(MediaLibraryStore::merge(known, MediaLibraryStore::value({entry(u"new"_s), 5}, {entry(u"r"_s)}), known),
+              MediaLibraryStore::value({entry(u"new"_s), entry(u"a"_s)}, {entry(u"r"_s)}));
 }
 
 TEST(MediaLibraryStore, LosesNoEntryOfTwoLibrariesOnOneFile) {
