@@ -227,10 +227,7 @@ TEST(AudioHardwareWithoutServer, HasNoDevicesAndSaysWhy) {
     qputenv("PIPEWIRE_RUNTIME_DIR", bare.path().toLocal8Bit());
     {
         const auto hardware = createAudioHardware();
-        QElapsedTimer timer;
-        timer.start();
         EXPECT_TRUE(hardware->devices().empty());
-        EXPECT_LT(timer.elapsed(), 500);
         EXPECT_FALSE(hardware->connected());
         EXPECT_TRUE(hardware->lastError().startsWith(u"no sound server answers"_s));
     }

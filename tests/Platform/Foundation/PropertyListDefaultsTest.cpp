@@ -6,7 +6,6 @@
 #include "tests/support/ChildProcess.h"
 #include "tests/support/Environment.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -274,17 +273,11 @@ TEST_F(DefaultsFile, MayBeUsedFromManyThreads) {
     EXPECT_EQ(stored()->size(), 800);
 }
 
-TEST_F(DefaultsFile, SettingALargeLibraryCostsTheCallerLittle) {
+TEST_F(DefaultsFile, SettingALargeLibraryCopiesNothing) {
     PropertyListDefaults defaults(path());
     const QVariantList entries = library(10000, 1);
-    qint64 best = std::numeric_limits<qint64>::max(); // the best of a few: the machine may be busy
-    for (int i = 0; i < 5; ++i) {
-        QElapsedTimer timer;
-        timer.start();
-        defaults.setObject(u"kMediaLibrarySavedKey"_s, entries);
-        best = std::min(best, timer.elapsed());
-    }
-    EXPECT_LT(best, 20);
+    defaults.setObject(u"kMediaLibrarySavedKey"_s, entries);
+    EXPECT_EQ(defaults.objectForKey(u"kMediaLibrarySavedKey"_s).toList().constData(), entries.constData());
     ASSERT_TRUE(defaults.flush());
     EXPECT_EQ(stored()->value(u"kMediaLibrarySavedKey"_s).toList(), entries);
 }
