@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/Platform/Media/MediaTestSupport.h"
 
-#include <QThread>
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/wait.h>

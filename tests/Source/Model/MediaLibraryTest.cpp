@@ -8,7 +8,6 @@
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibraryStore.h"
 #include "tests/fakes/FakeUserDefaults.h"
-#include "tests/support/Slowness.h"
 
 #include <QFile>
 #include <QSignalSpy>
