@@ -62,18 +62,18 @@ int convert(const Task& task) {
 
     auto to = task.to;
     auto length = task.length;
-    if (task.fading) {
-        if (to <= 0) {
-            Platform::AudioFileInfo info;
-            Platform::MediaError error;
-            if (!Platform::services().mediaFiles->info(task.source, info, error))
-                return fail(error.text);
+    if (task.fading || task.from > 0) {
+        Platform::AudioFileInfo info;
+        Platform::MediaError error;
+        if (!Platform::services().mediaFiles->info(task.source, info, error))
+            return fail(error.text);
+        if (task.from >= info.seconds)
+            return fail(u"%1: it ends at second %2, there is nothing from second %3 on"_s.arg(
+                task.source, QString::number(info.seconds), QString::number(task.from)));
+        if (task.fading && to <= 0)
             to = info.seconds;
-        }
-        if (length <= 0)
+        if (task.fading && length <= 0)
             length = to - task.from;
-        if (to <= task.from)
-            return fail(task.source + u": nothing between second %1 and second %2"_s.arg(task.from).arg(to));
     }
 
     const Interrupt interrupt;
@@ -128,6 +128,9 @@ int run(const QStringList& given) {
     if (!type)
         return wrongUsage(convertCommand, u"--type is wav, m4a or caf"_s);
     task.type = *type;
+    // The engine takes a shorter stretch from the beginning for "to the end".
+    if (arguments.isSet(u"to"_s) && task.to < 0.1)
+        return wrongUsage(convertCommand, u"--to is a tenth of a second or more"_s);
     if (arguments.isSet(u"to"_s) && task.to <= task.from)
         return wrongUsage(convertCommand, u"--to lies before --from"_s);
     return convert(task);

@@ -81,12 +81,25 @@ TEST_F(ConvertCommandTest, FadesAndRepeatsWhenALengthIsGiven) {
     EXPECT_EQ(files.last().samples.at(0).at(50), 0.0F);
 }
 
+TEST_F(ConvertCommandTest, WritesNoEmptyFileWhenTheStretchBeginsBehindTheEnd) {
+    source = at(u"50%2%1.wav"_s);
+    files.addSource(source, 4, [](int, std::int64_t) { return 0.5F; });
+    write(target, "precious");
+    for (const auto& fade : {QStringList{}, QStringList{u"--fade-in"_s, u"1"_s}}) {
+        EXPECT_EQ(convert(QStringList{source, target, u"--overwrite"_s, u"--from"_s, u"4"_s} + fade),
+                  CommandLine::Failed);
+        EXPECT_EQ(err, u"sonaphex: "_s + source + u": it ends at second 4, there is nothing from second 4 on\n"_s);
+    }
+    EXPECT_EQ(read(target), "precious");
+    EXPECT_EQ(convert({source, target, u"--overwrite"_s, u"--from"_s, u"3.9"_s}), CommandLine::Done);
+}
+
 TEST_F(ConvertCommandTest, AnswersWrongUsageWithTheUsage) {
     for (const auto& arguments :
          {QStringList{}, QStringList{source}, QStringList{source, target, u"third"_s},
           QStringList{source, target, u"--type"_s, u"ogg"_s}, QStringList{source, target, u"--from"_s, u"abc"_s},
           QStringList{source, target, u"--from"_s, u"-1"_s}, QStringList{source, target, u"--from"_s, u"nan"_s},
-          QStringList{source, target, u"--unknown"_s},
+          QStringList{source, target, u"--unknown"_s}, QStringList{source, target, u"--to"_s, u"0.05"_s},
           QStringList{source, target, u"--from"_s, u"3"_s, u"--to"_s, u"2"_s}}) {
         EXPECT_EQ(convert(arguments), CommandLine::WrongUsage) << qPrintable(arguments.join(u' '));
         EXPECT_TRUE(err.startsWith(u"sonaphex: "_s));

@@ -57,6 +57,15 @@ public:
         return std::make_unique<Reader>(found->second);
     }
 
+    bool info(const QString& path, Platform::AudioFileInfo& info, Platform::MediaError& error) override {
+        const auto found = sources.find(path);
+        if (found == sources.end())
+            return FakeMediaFiles::info(path, info, error);
+        info.frameCount = found->second.frames;
+        info.seconds = double(info.frameCount) / 44100;
+        return true;
+    }
+
 private:
     class Reader final : public Platform::ExtAudioFileReader {
     public:
