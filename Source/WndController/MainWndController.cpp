@@ -287,6 +287,7 @@ void MainWndController::setTabViewShowWave(bool show) {
 
 void MainWndController::updateRecordStateAction() {
     library_->updateRecordStateAction();
+    selectionAtStop_ = selection();
 }
 
 void MainWndController::addRecordFile(const QString& path, const Dictionary& tags) {
@@ -322,11 +323,22 @@ void MainWndController::recordingFinished(const QString& path, const Dictionary&
         showStatus(tr("“%1” was not added: it is shorter than %2 s.").arg(QFileInfo(path).completeBaseName(), seconds));
         return;
     }
-    // While the next recording runs, the user's own selection stays.
-    if (record_.isStateAudioRecord())
+    // The user's own selection stays while the next recording runs, and when it is newer than the stop: two sources are
+    // finished minutes later, perhaps with a finger on the key that deletes.
+    if (record_.isStateAudioRecord() || selectionAtStop_.value_or(selection()) != selection()) {
         showStatus(path);
-    else if (library_->selectFile(path))
+    } else if (library_->selectFile(path)) {
         showSelection();
+        selectionAtStop_ = selection();
+    }
+}
+
+QStringList MainWndController::selection() const {
+    const MediaLibraryNode* node = library_->libraryViewSelectedNode();
+    QStringList selected{node ? node->key() : QString()};
+    for (const QVariant& entry : library_->tableViewSelectionAudioArray())
+        selected += entry.toMap().value(AudioRecordEntry::SavePath).toString();
+    return selected;
 }
 
 void MainWndController::showSelection() {

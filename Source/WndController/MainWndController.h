@@ -115,6 +115,8 @@ private:
     void bindLibrary();
     void recordingFinished(const QString& path, const Dictionary& entry);
     void showSelection();
+    /// The selected node and rows, to be compared: its key, then the paths.
+    [[nodiscard]] QStringList selection() const;
     void showStatus(const QString& text);
     void showEmptyText();
 
@@ -128,5 +130,6 @@ private:
     std::unique_ptr<RecordPanel> panel_;
     std::unique_ptr<MainMenus> menus_;
     std::unique_ptr<WindowLayout> layout_;
-    std::optional<QString> shownSelection_; ///< path that the status line showed last for a selection
+    std::optional<QStringList> selectionAtStop_; ///< of the last start or stop, or as a finished file has set it since
+    std::optional<QString> shownSelection_;      ///< path that the status line showed last for a selection
 };

@@ -115,6 +115,25 @@ TEST_F(MainWindow, AFinishedRecordingIsSelectedAndItsPathShown) {
     EXPECT_EQ(status(), world.folder.filePath(u"music/Track0.m4a"_s));
 }
 
+TEST_F(MainWindow, ARecordingThatIsFinishedLateLeavesWhatTheUserSelectedMeanwhile) {
+    for (const QString& title : {u"New"_s, u"One"_s, u"Two"_s})
+        addRecording(title);
+    MainWndController& controller = world.open();
+    showAll();
+    controller.updateRecordStateAction();
+    clickRow(0);
+    clickRow(1, Qt::ControlModifier);
+    const Dictionary entry = world.library->records().last().toMap();
+    const QString path = entry.value(AudioRecordEntry::SavePath).toString();
+    Q_EMIT world.record->recordingFinished(path, entry);
+    EXPECT_EQ(controllerSelection(), 2) << "a Delete means these two";
+    EXPECT_EQ(status(), path);
+    controller.updateRecordStateAction(); // a stop: nothing was selected since
+    Q_EMIT world.record->recordingFinished(path, entry);
+    EXPECT_EQ(controllerSelection(), 1);
+    EXPECT_EQ(controller.library().tableViewSelectionAudioPath(), path);
+}
+
 TEST_F(MainWindow, AShortcutThatIsStillHeldDoesNotAddTheNewEntryToTheSelection) {
     addRecording(u"Old"_s);
     world.open();
