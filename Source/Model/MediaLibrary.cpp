@@ -50,6 +50,21 @@ std::shared_ptr<MediaLibraryNode> makeNode(const QString& name, const QString& i
     return node;
 }
 
+/// Under a name of its own: what an earlier damage left may be all that remains of another list.
+void keepAside(Platform::UserDefaults& defaults, const QVariant& stored) {
+    QString key = kMediaLibrarySavedKey + u".damaged"_s;
+    for (int number = 2;; ++number) {
+        const QVariant kept = defaults.objectForKey(key);
+        if (kept == stored)
+            return;
+        if (!kept.isValid())
+            break;
+        key = kMediaLibrarySavedKey + u".damaged-"_s + QString::number(number);
+    }
+    qCWarning(log, "the stored library is damaged; it was kept under %s", qUtf8Printable(key));
+    defaults.setObject(key, stored);
+}
+
 } // namespace
 
 MediaLibrary& MediaLibrary::shareLibrary() {
@@ -74,11 +89,8 @@ void MediaLibrary::loadMediaLibraryList() {
     bool damaged = false;
     ringtones_ = MediaLibraryStore::entries(stored, u"ringtones"_s, damaged);
     records_ = MediaLibraryStore::entries(stored, u"records"_s, damaged);
-    if (damaged) {
-        qCWarning(log, "the stored library is damaged; it was kept under %s.damaged",
-                  qUtf8Printable(kMediaLibrarySavedKey));
-        defaults->setObject(kMediaLibrarySavedKey + u".damaged"_s, stored);
-    }
+    if (damaged)
+        keepAside(*defaults, stored);
 }
 
 void MediaLibrary::store() const {

@@ -20,7 +20,7 @@ public:
     /// Loads what is stored and builds the tree.
     MediaLibrary();
     /// Reads the stored collections. What is stored in another shape counts as empty; it is kept aside in the defaults
-    /// under the same key with the ending ".damaged".
+    /// under the same key with the ending ".damaged", the next damaged one with ".damaged-2" and so on.
     void loadMediaLibraryList();
     /// Stores both collections and loads every leaf anew.
     void saveMediaLibraryList();

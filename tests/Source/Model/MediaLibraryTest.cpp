@@ -245,13 +245,18 @@ TEST_F(Library, FindsTheLastEntryWithAKey) {
 TEST_F(Library, TakesAStoredValueOfTheWrongShapeAsEmptyAndKeepsItAside) {
     const QVariantList shapes{u"a text"_s, 5, QVariantList{1, 2}, QVariantMap{{u"records"_s, u"no array"_s}},
                               QVariantMap{{u"ringtones"_s, 7.5}}};
-    for (const QVariant& shape : shapes) {
+    QString aside = kMediaLibrarySavedKey + u".damaged"_s;
+    for (int number = 1; const QVariant& shape : shapes) {
         defaults_.setObject(kMediaLibrarySavedKey, shape);
-        MediaLibrary library;
-        EXPECT_TRUE(library.records().isEmpty());
-        EXPECT_TRUE(library.ringtones().isEmpty());
-        library.addRecordFile(entry(u"a"_s));
-        EXPECT_EQ(defaults_.objectForKey(kMediaLibrarySavedKey + u".damaged"_s), shape);
+        for (int launch = 0; launch < 2; ++launch) {
+            const MediaLibrary library;
+            EXPECT_TRUE(library.records().isEmpty());
+            EXPECT_TRUE(library.ringtones().isEmpty());
+        }
+        MediaLibrary().addRecordFile(entry(u"a"_s));
+        EXPECT_EQ(defaults_.objectForKey(aside), shape) << "each is kept, and once";
+        aside = kMediaLibrarySavedKey + u".damaged-%1"_s.arg(++number);
+        EXPECT_FALSE(defaults_.objectForKey(aside).isValid());
     }
 }
 
