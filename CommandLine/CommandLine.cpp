@@ -11,6 +11,7 @@
 #include <QCoreApplication>
 
 #include <cstdio>
+#include <cstring>
 
 using namespace Qt::StringLiterals;
 
@@ -26,6 +27,10 @@ std::optional<int> runOneOf(const Commands& known, int argc, char** argv) {
     const auto found = known.find(QString::fromLocal8Bit(argv[1]));
     if (found == known.end())
         return {};
+    if (argc > 2 && (std::strcmp(argv[2], "--help") == 0 || std::strcmp(argv[2], "-h") == 0)) {
+        std::printf("usage: sonaphex %s\n           %s\n", found->second.usage, found->second.summary);
+        return Done;
+    }
     QCoreApplication application(argc, argv);
     Platform::LinuxServices services;
     services.install(Platform::LinuxServices::Mode::CommandLine);

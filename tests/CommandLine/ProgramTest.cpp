@@ -23,6 +23,13 @@ TEST(Program, TellsItsVersionAndItsCommands) {
         EXPECT_TRUE(help.output.contains("sonaphex record")) << help.output.data();
         EXPECT_TRUE(help.output.contains("sonaphex devices"));
     }
+    for (const QString& command : {u"record"_s, u"tag"_s})
+        for (const QString& asked : {u"--help"_s, u"-h"_s}) {
+            const auto help = sonaphex({command, asked});
+            EXPECT_EQ(help.status, 0) << help.errors.data();
+            EXPECT_TRUE(help.output.startsWith("usage: sonaphex " + command.toUtf8())) << help.output.data();
+            EXPECT_EQ(help.output.count("sonaphex"), 1);
+        }
 }
 
 TEST(Program, LoadsNoLibraryOfWindowsOrContainersToRecord) {
