@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandLine/Arguments.h"
 
-#include <cmath>
+#include <cstdint>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -23,7 +24,8 @@ double Arguments::seconds(const QString& option, double otherwise) {
         return otherwise;
     bool isNumber = false;
     const auto seconds = parser_.value(option).toDouble(&isNumber);
-    if (!isNumber || !std::isfinite(seconds) || seconds < 0) {
+    // Beyond 68 years nobody means a time, and the counters of milliseconds end.
+    if (!isNumber || !(seconds >= 0 && seconds <= std::numeric_limits<std::int32_t>::max())) {
         problem_ = u"--%1: %2 is no time in seconds"_s.arg(option, parser_.value(option));
         return otherwise;
     }

@@ -18,7 +18,7 @@ public:
     [[nodiscard]] QStringList positional() const { return parser_.positionalArguments(); }
     [[nodiscard]] bool isSet(const QString& option) const { return parser_.isSet(option); }
     [[nodiscard]] QString value(const QString& option) const { return parser_.value(option); }
-    /// A time in seconds, 0 or more; @p otherwise when the option is not set.
+    /// A time in seconds, 0 to 2^31 - 1; @p otherwise when the option is not set.
     [[nodiscard]] double seconds(const QString& option, double otherwise);
 
 private:
