@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandLine/CommandLine.h"
-#include "CommandLine/TagCommand.h"
 #include "CommandLine/WaveformCommand.h"
 
 #include <cstdio>
@@ -13,7 +12,6 @@ namespace CommandLine {
 const Commands& allCommands() {
     static const Commands all = [] {
         Commands commands = plainCommands();
-        commands.emplace(u"tag"_s, tagCommand);
         commands.emplace(u"waveform"_s, waveformCommand);
         return commands;
     }();

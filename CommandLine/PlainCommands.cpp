@@ -7,6 +7,7 @@
 #include "CommandLine/DriverCommand.h"
 #include "CommandLine/LibraryCommand.h"
 #include "CommandLine/RecordCommand.h"
+#include "CommandLine/TagCommand.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,6 +22,7 @@ const Commands& plainCommands() {
         {u"driver"_s, driverCommand},
         {u"library"_s, libraryCommand},
         {u"record"_s, recordCommand},
+        {u"tag"_s, tagCommand},
     };
     // clang-format on
     return plain;

@@ -3,12 +3,15 @@
 #include "CommandLine/TagCommand.h"
 
 #include "CommandLine/Arguments.h"
+#include "Platform/Foundation/Bundle.h"
+#include "Platform/Foundation/Services.h"
 #include "Platform/Media/BasicID3Change.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibraryRequests.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QProcess>
 
 #include <optional>
 
@@ -69,6 +72,20 @@ QString tellLibrary(const QString& path, const Dictionary& changed) {
     return *stored ? QString() : u"the tags are written, but the library could not be saved"_s;
 }
 
+/// Pictures are looked into by a program of its own: this one needs none of the desktop's libraries.
+/// @return what went wrong; empty when nothing did
+QString setArtwork(const QString& path, const QString& image) {
+    QProcess tool;
+    tool.start(Platform::services().bundle->pathForResource(u"SetArtWork"_s), {path, image, path});
+    if (!tool.waitForFinished(-1))
+        return u"%1: %2"_s.arg(tool.program(), tool.errorString());
+    if (tool.exitStatus() == QProcess::NormalExit && tool.exitCode() == 0)
+        return {};
+    const QString told = QString::fromLocal8Bit(tool.readAllStandardError()).trimmed();
+    const QString problem = told.section(u": "_s, 1);
+    return problem.isEmpty() ? u"the artwork of %1 could not be written"_s.arg(path) : problem;
+}
+
 int run(const QStringList& given) {
     const Arguments arguments(
         given, {u"title=T"_s, u"artist=A"_s, u"album=B"_s, u"year=Y"_s, u"genre=G"_s, u"artwork=IMAGE"_s, u"json"_s});
@@ -106,8 +123,7 @@ int run(const QStringList& given) {
 
     const bool hasArtwork = arguments.isSet(u"artwork"_s);
     if (hasArtwork)
-        if (const auto problem = BasicID3Change::copyWithArtwork(path, arguments.value(u"artwork"_s), path);
-            !problem.isEmpty())
+        if (const QString problem = setArtwork(path, arguments.value(u"artwork"_s)); !problem.isEmpty())
             return fail(problem);
     if (!changed.isEmpty()) {
         if (const auto problem = BasicID3Change::writeTexts(path, texts); !problem.isEmpty())
