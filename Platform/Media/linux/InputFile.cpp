@@ -111,7 +111,7 @@ bool InputFile::openContainer(MediaError& error) {
             error = makeError(MediaError::Kind::Other, path_, QStringLiteral("out of memory"));
             return false;
         }
-        reading.release(); // freed with the file
+        (void)reading.release(); // freed with the file
     }
     if (av_->seekIo(io_.get(), 0, SEEK_SET) < 0) {
         error = makeError(MediaError::Kind::Damaged, path_, QStringLiteral("cannot be read"));
