@@ -118,15 +118,17 @@ TEST_F(AudioHardwareTest, CountsCapturePortsButNoMonitors) {
     ASSERT_TRUE(source.start());
     const auto input = waitForDevice(*hardware_, u"Four Channels"_s);
     const auto output = waitForDevice(*hardware_, u"Silent Output"_s);
-    std::uint32_t size = 256;
-    ASSERT_EQ(hardware_->getStreamsDataSize(input, AudioHardware::Scope::Input, size), noErr);
-    EXPECT_EQ(size, 16u);
-    ASSERT_EQ(hardware_->getStreamsDataSize(input, AudioHardware::Scope::Output, size), noErr);
-    EXPECT_EQ(size, 0u);
-    ASSERT_EQ(hardware_->getStreamsDataSize(output, AudioHardware::Scope::Input, size), noErr);
-    EXPECT_EQ(size, 0u);
-    ASSERT_EQ(hardware_->getStreamsDataSize(output, AudioHardware::Scope::Output, size), noErr);
-    EXPECT_EQ(size, 8u);
+    const auto sizeOf = [&](AudioObjectID device, AudioHardware::Scope scope) {
+        std::uint32_t bytes = 256;
+        EXPECT_EQ(hardware_->getStreamsDataSize(device, scope, bytes), noErr);
+        return bytes;
+    };
+    // The session manager makes the ports one by one.
+    EXPECT_TRUE(waitFor([&] { return sizeOf(input, AudioHardware::Scope::Input) == 16; }));
+    EXPECT_EQ(sizeOf(input, AudioHardware::Scope::Output), 0u);
+    EXPECT_TRUE(waitFor([&] { return sizeOf(output, AudioHardware::Scope::Output) == 8; }));
+    EXPECT_EQ(sizeOf(output, AudioHardware::Scope::Input), 0u);
+    std::uint32_t size = 0;
     size = 256;
     EXPECT_NE(hardware_->getStreamsDataSize(0xFFFFFF, AudioHardware::Scope::Input, size), noErr);
     EXPECT_EQ(size, 256u);
