@@ -15,6 +15,7 @@ namespace Platform::MovedFiles {
 void forget(const QString& to);
 
 /// Moves every file with a note back; one whose place is taken by now goes to FileManager::unfinishedFolder().
-void bringBack(const QString& folder);
+/// @return names in the folder of those that neither place took (a full disk), and of their notes: they must stay.
+QStringList bringBack(const QString& folder);
 
 } // namespace Platform::MovedFiles

@@ -16,7 +16,7 @@ public:
     /// @return nothing when there is no place for it; @p why then says so.
     [[nodiscard]] static std::optional<TemporaryFolder> create(const QString& kind, QString& why);
     /// Removes a folder whole, and a link as a link; never what a link points to. Errors are ignored. Files of the user
-    /// that a crash left in it go home first (MovedFiles).
+    /// that a crash left in it go home first (MovedFiles); one that cannot stays, and the folder with it.
     static void removeWhole(const QString& path);
 
     ~TemporaryFolder();

@@ -33,7 +33,8 @@ void forget(const QString& to) {
     (void)FileManager::removeFile(to + noteEnding);
 }
 
-void bringBack(const QString& folder) {
+QStringList bringBack(const QString& folder) {
+    QStringList stay;
     const QStringList notes = QDir(folder).entryList({u'*' + noteEnding}, QDir::Files | QDir::Hidden);
     for (const QString& name : notes) {
         const QString path = folder + u'/' + name.chopped(noteEnding.size());
@@ -42,12 +43,20 @@ void bringBack(const QString& folder) {
             continue;
         const QString home = QFile::decodeName(note.readAll());
         QString landed = home;
-        if (!FileManager::move(path, home).isEmpty())
+        if (const auto problem = FileManager::move(path, home); !problem.isEmpty()) {
             landed = FileManager::setAside(path, QFileInfo(home).fileName());
+            if (landed == path) {
+                qCWarning(log, "%s is still at %s: it cannot be put back (%s)", qUtf8Printable(home),
+                          qUtf8Printable(path), qUtf8Printable(problem));
+                stay += {name.chopped(noteEnding.size()), name};
+                continue;
+            }
+        }
         qCWarning(log, "%s was left in a temporary folder; it is back at %s", qUtf8Printable(home),
                   qUtf8Printable(landed));
         forget(path);
     }
+    return stay;
 }
 
 } // namespace Platform::MovedFiles

@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QRandomGenerator>
 
 #include <sys/stat.h>
@@ -18,6 +19,15 @@ namespace {
 
 const QString lockEnding = QStringLiteral(".lock");
 
+/// A folder that has to stay keeps its lock's file: by it the next one finds the folder.
+void removeWithLock(const QString& path, FileLock& lock) {
+    TemporaryFolder::removeWhole(path);
+    if (QFileInfo::exists(path))
+        lock.release();
+    else
+        lock.removeAndRelease();
+}
+
 /// Every folder has its lock as long as it stands: the lock comes before it and goes after it.
 void removeOfDeadOwners(const QString& parent, const QString& prefix) {
     const auto names = QDir(parent).entryList({prefix + u'*' + lockEnding}, QDir::Files | QDir::Hidden);
@@ -26,17 +36,24 @@ void removeOfDeadOwners(const QString& parent, const QString& prefix) {
         const QString path = parent + u'/' + name;
         if (lock.take(path) != FileLock::Result::Held)
             continue;
-        TemporaryFolder::removeWhole(path.chopped(lockEnding.size()));
-        lock.removeAndRelease();
+        removeWithLock(path.chopped(lockEnding.size()), lock);
     }
 }
 
 } // namespace
 
 void TemporaryFolder::removeWhole(const QString& path) {
-    MovedFiles::bringBack(path);
+    namespace fs = std::filesystem;
+    const QStringList stay = MovedFiles::bringBack(path);
+    const fs::path folder = QFile::encodeName(path).toStdString();
     std::error_code ignored;
-    std::filesystem::remove_all(QFile::encodeName(path).toStdString(), ignored);
+    if (stay.isEmpty()) {
+        fs::remove_all(folder, ignored);
+        return;
+    }
+    for (fs::directory_iterator entry(folder, ignored), end; entry != end; entry.increment(ignored))
+        if (!stay.contains(QFile::decodeName(entry->path().filename().c_str())))
+            fs::remove_all(entry->path(), ignored);
 }
 
 std::optional<TemporaryFolder> TemporaryFolder::create(const QString& kind, QString& why) {
@@ -68,8 +85,7 @@ std::optional<TemporaryFolder> TemporaryFolder::create(const QString& kind, QStr
 TemporaryFolder::~TemporaryFolder() {
     if (!lock_.isHeld())
         return; // moved from
-    removeWhole(path_);
-    lock_.removeAndRelease();
+    removeWithLock(path_, lock_);
 }
 
 } // namespace Platform

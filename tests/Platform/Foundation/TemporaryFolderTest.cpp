@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Foundation/TemporaryFolder.h"
+#include "Platform/Foundation/MovedFiles.h"
 #include "Platform/Foundation/TerminationSignals.h"
 
 #include "tests/support/ChildProcess.h"
@@ -18,6 +19,7 @@
 #include <vector>
 
 using Platform::TemporaryFolder;
+namespace MovedFiles = Platform::MovedFiles;
 
 namespace {
 
@@ -100,4 +102,44 @@ TEST(TerminationSignals, ArriveOnTheMainThreadAndEndNothing) {
     struct sigaction now {};
     sigaction(SIGTERM, nullptr, &now);
     EXPECT_EQ(now.sa_handler, SIG_DFL);
+}
+
+TEST_F(TemporaryFolderTest, StaysWithAFileOfTheUserThatHasNoOtherPlace) {
+    const QString folder = dir.filePath(QStringLiteral("work"));
+    const QString home = dir.filePath(QStringLiteral("music"));
+    QDir(dir.path()).mkpath(QStringLiteral("work"));
+    QDir(dir.path()).mkpath(QStringLiteral("music"));
+    make(dir.filePath(QStringLiteral("no folder")));
+    const EnvironmentScope data("XDG_DATA_HOME", dir.filePath(QStringLiteral("no folder/data")).toUtf8());
+    make(home + QStringLiteral("/a.m4a"));
+    ASSERT_EQ(MovedFiles::moveAway(home + QStringLiteral("/a.m4a"), folder + QStringLiteral("/1.m4a")), QString());
+    make(folder + QStringLiteral("/raw"));
+    ASSERT_TRUE(QDir(home).removeRecursively());
+
+    for (int launch = 0; launch < 2; ++launch) {
+        TemporaryFolder::removeWhole(folder);
+        EXPECT_EQ(QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name),
+                  (QStringList{QStringLiteral("1.m4a"), QStringLiteral("1.m4a.origin")}));
+    }
+    QDir(dir.path()).mkpath(QStringLiteral("music"));
+    TemporaryFolder::removeWhole(folder);
+    EXPECT_TRUE(QFile::exists(home + QStringLiteral("/a.m4a")));
+    EXPECT_FALSE(QFile::exists(folder));
+}
+
+TEST_F(TemporaryFolderTest, ThatHadToStayIsFoundAgain) {
+    const EnvironmentScope data("XDG_DATA_HOME", dir.filePath(QStringLiteral("no folder/data")).toUtf8());
+    make(dir.filePath(QStringLiteral("no folder")));
+    const QString home = dir.filePath(QStringLiteral("a.m4a"));
+    make(home);
+    {
+        const auto folder = TemporaryFolder::create(QStringLiteral("test"), why);
+        ASSERT_TRUE(folder) << qPrintable(why);
+        ASSERT_EQ(MovedFiles::moveAway(home, folder->path() + QStringLiteral("/1.m4a")), QString());
+        make(home); // its place is taken
+    }
+    EXPECT_EQ(all().size(), 4) << "the folder and its lock stay";
+    ASSERT_TRUE(QFile::remove(home));
+    { const auto other = TemporaryFolder::create(QStringLiteral("test"), why); }
+    EXPECT_EQ(all(), (QStringList{QStringLiteral("a.m4a"), QStringLiteral("no folder")}));
 }
