@@ -27,7 +27,31 @@ unsigned audioCounter = 0;
 unsigned artworkCounter = 0;
 
 QString temporaryPath(QLatin1StringView prefix, unsigned& counter, QLatin1StringView ending) {
-    return g_strTmpPath + u'/' + prefix + QString::number(counter++) + ending;
+    for (;;) {
+        // What a crash left there and nobody could bring back is not to be taken for the file at hand.
+        const QString path = g_strTmpPath + u'/' + prefix + QString::number(counter++) + ending;
+        if (!QFileInfo::exists(path) && !QFileInfo(path).isSymLink())
+            return path;
+    }
+}
+
+/// A library may hold a link: what it points to is changed, and the link stays.
+QString behindLink(const QString& path) {
+    const QString real = QFileInfo(path).isSymLink() ? QFileInfo(path).canonicalFilePath() : QString();
+    return real.isEmpty() ? path : real;
+}
+
+/// Moves a file into the temporary folder. @return whether it is there now and nowhere else
+bool moveAway(const QString& path, const QString& working) {
+    const auto problem = MovedFiles::moveAway(path, working);
+    if (problem.isEmpty())
+        return true;
+    qCWarning(log, "cannot move %s away: %s", qUtf8Printable(path), qUtf8Printable(problem));
+    if (!QFileInfo::exists(path))
+        return QFileInfo::exists(working);
+    (void)FileManager::removeFile(working); // a copy whose original could not be removed
+    MovedFiles::forget(working);
+    return false;
 }
 
 /// Takes a file back from the temporary folder; when something else stands there by now, both are kept.
@@ -71,17 +95,17 @@ void changeID3Artwork(const QString& source, const QString& destPath, const QStr
 
 void changeID3(const QString& source, const QString& destAudioPath, const Dictionary& ID3Info,
                const QString& artworkPath) {
+    const bool samePath = source == destAudioPath;
+    if (const QString real = behindLink(source); samePath && real != source)
+        return changeID3(real, real, ID3Info, artworkPath);
     // The copy that undoes an interrupted save stands beside the file: here it is still found.
     Platform::BasicID3Change::restoreInterruptedSave(source);
     QString working = source;
     QString inTheWay;
-    if (source == destAudioPath) {
+    if (samePath) {
         working = temporaryPath("tempID3Audio"_L1, audioCounter, ".m4a"_L1);
-        const auto problem = MovedFiles::moveAway(source, working);
-        if (!QFileInfo::exists(working)) {
-            qCWarning(log, "cannot move %s away: %s", qUtf8Printable(source), qUtf8Printable(problem));
+        if (!moveAway(source, working))
             return;
-        }
         (void)FileManager::removeFile(destAudioPath);
     } else if (QFileInfo::exists(destAudioPath)) {
         inTheWay = FileManager::setAside(destAudioPath, QFileInfo(destAudioPath).fileName());
@@ -107,13 +131,12 @@ void changeID3(const QString& source, const QString& destAudioPath, const Dictio
 }
 
 void changeID3ArtworkInfo(const QString& path, const QString& artworkPath) {
+    if (const QString real = behindLink(path); real != path)
+        return changeID3ArtworkInfo(real, artworkPath);
     Platform::BasicID3Change::restoreInterruptedSave(path);
     const QString working = temporaryPath("tempID3AudioTT"_L1, artworkCounter, ".m4a"_L1);
-    const auto problem = MovedFiles::moveAway(path, working);
-    if (!QFileInfo::exists(working)) {
-        qCWarning(log, "cannot move %s away: %s", qUtf8Printable(path), qUtf8Printable(problem));
+    if (!moveAway(path, working))
         return;
-    }
     changeID3Artwork(working, path, artworkPath);
     if (QFileInfo::exists(path)) {
         (void)FileManager::removeFile(working);

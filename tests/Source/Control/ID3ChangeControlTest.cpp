@@ -17,6 +17,7 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using Platform::BasicID3Change;
@@ -158,6 +159,33 @@ TEST_F(ID3Change, OfTheArtworkOnlyKeepsTheTextTags) {
     EXPECT_EQ(tags->title, u"Title"_s);
     EXPECT_EQ(tags->artwork, Mpeg4Files::contentOf(music_.filePath(u"image"_s)));
     EXPECT_TRUE(filesIn(temporary_).isEmpty());
+}
+
+TEST_F(ID3Change, OfALinkChangesWhatItPointsTo) {
+    ASSERT_TRUE(QDir(music_.path()).mkpath(u"real"_s));
+    ASSERT_TRUE(QFile::rename(path(), path(u"real/a.m4a"_s)));
+    ASSERT_EQ(::symlink("real/a.m4a", QFile::encodeName(path()).constData()), 0);
+    const QByteArray audio = Mpeg4Files::audioOf(path());
+    ID3ChangeControl::changeID3(path(), path(), info(), image());
+    EXPECT_EQ(QFileInfo(path()).symLinkTarget(), path(u"real/a.m4a"_s));
+    EXPECT_EQ(BasicID3Change::read(path())->title, u"Title"_s);
+    const QString other = image("JPEG");
+    ID3ChangeControl::changeID3ArtworkInfo(path(), other);
+    EXPECT_EQ(QFileInfo(path()).symLinkTarget(), path(u"real/a.m4a"_s));
+    EXPECT_EQ(BasicID3Change::read(path())->artwork, Mpeg4Files::contentOf(other));
+    EXPECT_EQ(Mpeg4Files::audioOf(path()), audio);
+}
+
+TEST_F(ID3Change, TakesNoFileForItsOwnThatWasLeftInTheTemporaryFolder) {
+    const QByteArray audio = Mpeg4Files::audioOf(path());
+    for (int number = 0; number < 300; ++number)
+        for (const QString& name : {u"tempID3Audio%1.m4a"_s, u"tempID3AudioTT%1.m4a"_s})
+            ASSERT_TRUE(Mpeg4Files::write(temporary_.filePath(name.arg(number)), "another recording"));
+    ID3ChangeControl::changeID3(path(), path(), info(), image());
+    ID3ChangeControl::changeID3ArtworkInfo(path(), image("JPEG"));
+    EXPECT_EQ(Mpeg4Files::audioOf(path()), audio);
+    EXPECT_EQ(BasicID3Change::read(path())->title, u"Title"_s);
+    EXPECT_EQ(filesIn(temporary_).size(), 600);
 }
 
 TEST_F(ID3Change, TakesAYearAsATextOrANumber) {

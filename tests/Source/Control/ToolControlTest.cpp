@@ -5,6 +5,7 @@
 #include "Platform/Foundation/Services.h"
 #include "tests/fakes/FakeMediaFiles.h"
 #include "tests/fakes/FakeWorkspace.h"
+#include "tests/support/LogCatcher.h"
 
 #include <QDir>
 #include <QFile>
@@ -129,7 +130,11 @@ TEST(ToolControl, FindsAProtectedFileInAFolderOfAnyDepth) {
     writeFile(folder.filePath(u"deep/a $(song) \"x\".m4p"_s), protectedFile);
     ASSERT_TRUE(
         ToolControl::getFileInfoForFileCMD(folder.filePath(u"deep/a $(song) \"x\".m4p"_s)).contains(u" iTunes "_s));
-    EXPECT_TRUE(ToolControl::findDRMForExtension(folder.path(), u"*.m4p"_s));
+    {
+        const LogCatcher log;
+        EXPECT_TRUE(ToolControl::findDRMForExtension(folder.path(), u"*.m4p"_s));
+        EXPECT_TRUE(log.lines().join(u'\n').contains(u"taskOutput    =   "_s + folder.path() + u"/deep/a $(song)"_s));
+    }
     EXPECT_FALSE(ToolControl::findDRMForExtension(folder.path(), u"*.m4a"_s));
     EXPECT_TRUE(ToolControl::hasDRMFile(folder.path()));
     EXPECT_TRUE(ToolControl::hasDRMFile(folder.filePath(u"deep/a $(song) \"x\".m4p"_s)));
