@@ -3,6 +3,7 @@
 #include "Source/Control/ClientFormat.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace {
 constexpr double kShortestFade = 0.99;
