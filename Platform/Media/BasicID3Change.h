@@ -34,7 +34,8 @@ public:
     [[nodiscard]] static QString writeTexts(const QString& path, const Texts& texts);
 
     /// Writes a copy of @p source with @p image, a JPEG or PNG file, as its only artwork. The destination appears whole
-    /// or not at all. @return what went wrong, for a person; empty when nothing did.
+    /// or not at all; the source itself as destination is changed in place, as texts are. @return what went wrong, for
+    /// a person; empty when nothing did.
     [[nodiscard]] static QString copyWithArtwork(const QString& source, const QString& image,
                                                  const QString& destination);
 

@@ -62,7 +62,10 @@ QString BasicID3Change::copyWithArtwork(const QString& source, const QString& im
             },
             reason);
     };
-    if (Media::saveCopy(source, destination, edit, why))
+    // Onto itself it is a change like any other: the audio of an hour stays where it is.
+    const QString real = QFileInfo(source).canonicalFilePath();
+    const bool ontoItself = !real.isEmpty() && real == QFileInfo(destination).canonicalFilePath();
+    if (ontoItself ? Media::saveInPlace(real, edit, why) : Media::saveCopy(source, destination, edit, why))
         return {};
     return u"cannot write the artwork of %1 to %2: %3"_s.arg(source, destination, why);
 }

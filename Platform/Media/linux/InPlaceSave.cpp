@@ -3,7 +3,9 @@
 #include "Platform/Media/linux/InPlaceSave.h"
 
 #include "Platform/Foundation/linux/Descriptor.h"
+#include "Platform/Media/linux/Mpeg4Atoms.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
@@ -34,7 +36,7 @@ Q_LOGGING_CATEGORY(log, "sonaphex.media")
 constexpr qint64 mostInPlace = qint64(32) << 20;
 constexpr auto lockPatience = std::chrono::seconds(10);
 constexpr auto readerPatience = std::chrono::seconds(2);
-constexpr quint64 undoMagic = 0x534e5058554e4432; // "SNPXUND2"
+constexpr quint64 undoMagic = 0x534e5058554e4433; // "SNPXUND3"
 constexpr qint64 longestWitness = qint64(64) << 10;
 
 /// Tells a file from every other in its folder, also from a later one that got its inode number. The number of the
@@ -102,8 +104,14 @@ struct Undo {
     QByteArray witness; // what witnessOf() said
     qint64 size = 0;    // of the whole file before
     qint64 begin = 0;   // where the bytes belong
-    QByteArray bytes;
+    QByteArray before;  // what stood there, all of what the save overwrites
+    QByteArray after;   // what the save puts in its place
+    [[nodiscard]] qint64 newSize() const { return size + after.size() - before.size(); }
 };
+
+QByteArray hashOf(const QByteArray& bytes) {
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
+}
 
 /// A hash of what stands before @p begin and is not written to: the undo of one file never gets into another.
 QByteArray witnessOf(int fd, qint64 begin) {
@@ -111,26 +119,26 @@ QByteArray witnessOf(int fd, qint64 begin) {
     const ssize_t got =
         ::pread(fd, before.data(), static_cast<std::size_t>(before.size()), begin - static_cast<qint64>(before.size()));
     before.truncate(std::max<ssize_t>(got, 0));
-    return QCryptographicHash::hash(before, QCryptographicHash::Sha1);
+    return hashOf(before);
 }
 
 QByteArray packed(const Undo& undo) {
     QByteArray content;
     QDataStream stream(&content, QIODevice::WriteOnly);
     stream << undoMagic << undo.identity.name << undo.identity.born << undo.witness << undo.size << undo.begin
-           << undo.bytes;
-    return content + QCryptographicHash::hash(content, QCryptographicHash::Sha1);
+           << undo.before << undo.after;
+    return content + hashOf(content);
 }
 
 bool unpack(const QByteArray& content, Undo& undo) {
     constexpr qsizetype hashSize = 20;
     const QByteArray body = content.chopped(std::min(hashSize, content.size()));
-    if (body.isEmpty() || QCryptographicHash::hash(body, QCryptographicHash::Sha1) != content.right(hashSize))
+    if (body.isEmpty() || hashOf(body) != content.right(hashSize))
         return false;
     QDataStream stream(body);
     quint64 magic = 0;
     stream >> magic >> undo.identity.name >> undo.identity.born >> undo.witness >> undo.size >> undo.begin >>
-        undo.bytes;
+        undo.before >> undo.after;
     return stream.status() == QDataStream::Ok && magic == undoMagic && undo.begin >= 0 && undo.size >= undo.begin;
 }
 
@@ -153,7 +161,33 @@ bool writeBeside(const QString& path, const QByteArray& content) {
 }
 
 bool putBack(int fd, const Undo& undo) {
-    return writeAllAt(fd, undo.bytes, undo.begin) && ::ftruncate(fd, undo.size) == 0 && ::fsync(fd) == 0;
+    return writeAllAt(fd, undo.before, undo.begin) && ::ftruncate(fd, undo.size) == 0 && ::fsync(fd) == 0;
+}
+
+enum class Found { AllWritten, Torn, Foreign };
+
+/// What stands in the file: all of the save, some of it, or what somebody else has written since. A power cut leaves
+/// zeros where nothing had reached the disk.
+Found lookAt(int fd, const Undo& undo) {
+    struct stat status {};
+    if (::fstat(fd, &status) != 0)
+        return Found::Torn;
+    const PatchedFile content(fd, status.st_size);
+    const QByteArray there = content.read(undo.begin, std::max(undo.before.size(), undo.after.size()));
+    if (status.st_size == undo.newSize() && there.startsWith(undo.after))
+        return Found::AllWritten;
+    const auto [least, most] = std::minmax({undo.size, undo.newSize()});
+    bool ours = status.st_size >= least && status.st_size <= most;
+    for (qsizetype i = 0; ours && i < there.size(); ++i)
+        ours = there[i] == '\0' || (i < undo.before.size() && there[i] == undo.before[i]) ||
+               (i < undo.after.size() && there[i] == undo.after[i]);
+    return ours ? Found::Torn : Found::Foreign;
+}
+
+bool isSound(int fd) {
+    struct stat status {};
+    QString why;
+    return ::fstat(fd, &status) == 0 && readMpeg4Atoms(PatchedFile(fd, status.st_size), why).has_value();
 }
 
 enum class Restored { Yes, NothingToDo, Failed };
@@ -172,6 +206,12 @@ Restored restoreLocked(int fd, const QString& file) {
     }
     if (undo.identity != identity || undo.witness != witnessOf(fd, undo.begin)) {
         copy.remove(); // of a file that was deleted; this one only got its number or its name
+        return Restored::NothingToDo;
+    }
+    const Found found = lookAt(fd, undo);
+    if (found == Found::AllWritten || (found == Found::Foreign && isSound(fd))) {
+        if (::fsync(fd) == 0)
+            copy.remove();
         return Restored::NothingToDo;
     }
     if (!putBack(fd, undo)) {
@@ -320,17 +360,20 @@ bool saveInPlace(const QString& givenPath, const std::function<bool(PatchedFile&
     if (std::max(change.newEnd, change.oldEnd) - change.begin > mostInPlace)
         return writeWhole(path, file.get(), content, why);
 
-    Undo undo{identityOf(file.get(), path), witnessOf(file.get(), change.begin), status.st_size, change.begin, {}};
     PatchedFile before(file.get(), status.st_size);
-    undo.bytes = before.read(change.begin, change.oldEnd - change.begin);
+    const Undo undo{.identity = identityOf(file.get(), path),
+                    .witness = witnessOf(file.get(), change.begin),
+                    .size = status.st_size,
+                    .begin = change.begin,
+                    .before = before.read(change.begin, change.oldEnd - change.begin),
+                    .after = bytes};
     const QString undoFile = undoPath(path, undo.identity);
     if (before.failed() || !writeBeside(undoFile, packed(undo))) {
         why = qt_error_string(errno);
         return false;
     }
-    const qint64 newSize = status.st_size + (change.newEnd - change.oldEnd);
-    const bool written = writeAllAt(file.get(), bytes, change.begin) &&
-                         (newSize >= status.st_size || ::ftruncate(file.get(), newSize) == 0) &&
+    const bool written = writeAllAt(file.get(), undo.after, undo.begin) &&
+                         (undo.newSize() >= undo.size || ::ftruncate(file.get(), undo.newSize()) == 0) &&
                          ::fsync(file.get()) == 0;
     if (!written) {
         why = qt_error_string(errno);
@@ -363,6 +406,10 @@ bool saveCopy(const QString& source, const QString& destination,
     }
     // A link stays one: what it points to is replaced.
     const QString real = QFileInfo(destination).isSymLink() ? QFileInfo(destination).canonicalFilePath() : QString();
+    if (QFileInfo::exists(destination) && !QFileInfo(destination).isFile()) {
+        why = u"something stands there that is no file"_s; // a device, a pipe, a folder
+        return false;
+    }
     return writeWhole(real.isEmpty() ? destination : real, file.get(), content, why);
 }
 

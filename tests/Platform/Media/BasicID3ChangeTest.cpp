@@ -160,6 +160,8 @@ TEST_P(TagsOfShape, CarryACoverOfAMegabyte) {
     EXPECT_EQ(Mpeg4Files::contentOf(file), before);
     EXPECT_EQ(BasicID3Change::read(copy)->artwork, Mpeg4Files::contentOf(cover));
     EXPECT_EQ(Mpeg4Files::artworkOf(copy), Mpeg4Files::contentOf(cover));
+    EXPECT_EQ(mediainfo(copy, u"Cover"_s), u"Yes"_s);
+    EXPECT_TRUE(parsley(copy).contains(u"\"covr\" contains: 1 piece of artwork"_s)) << qPrintable(parsley(copy));
     EXPECT_EQ(Mpeg4Files::audioOf(copy), Mpeg4Files::audioOf(file));
     // Text tags leave it alone.
     ASSERT_TRUE(tag(copy, u"Title"_s));
@@ -515,7 +517,7 @@ TEST_F(Tags, NeverRestoreIntoAnotherFileOfTheSameName) {
 }
 
 TEST_F(Tags, KeepWhatUndoesAnInterruptedSaveUntilItIsUndone) {
-    ASSERT_TRUE(Mpeg4Files::make(path(), Shape::IndexAtEnd, 10));
+    ASSERT_TRUE(Mpeg4Files::make(path(), Shape::IndexAtEnd, 60));
     ASSERT_TRUE(tag(path(), u"Before"_s));
     const QByteArray before = Mpeg4Files::contentOf(path());
     crashInASave();

@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What a save of tags touches on the disk, and what it leaves alone.
+#include "Platform/Media/BasicID3Change.h"
+#include "tests/support/Mpeg4Files.h"
+#include "tests/support/WaitFor.h"
+
+#include <atomic>
+#include <thread>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using Platform::BasicID3Change;
+
+namespace {
+
+class InPlaceSave : public testing::Test {
+protected:
+    [[nodiscard]] QString path(const QString& name = u"a.m4a"_s) const { return folder_.filePath(name); }
+    [[nodiscard]] QStringList hidden() const {
+        return QDir(folder_.path()).entryList({u".*"_s}, QDir::Files | QDir::Hidden);
+    }
+    static quint64 inodeOf(const QString& file) {
+        struct stat status {};
+        EXPECT_EQ(::stat(QFile::encodeName(file).constData(), &status), 0);
+        return status.st_ino;
+    }
+    /// Bytes that this process has handed to the kernel to write.
+    static qint64 bytesWritten() {
+        QFile io(u"/proc/self/io"_s);
+        EXPECT_TRUE(io.open(QIODevice::ReadOnly));
+        for (const QByteArray& line : io.readAll().split('\n'))
+            if (line.startsWith("wchar: "))
+                return line.mid(7).toLongLong();
+        ADD_FAILURE() << "the kernel does not say what was written";
+        return 0;
+    }
+
+    /// A file whose title was changed from "Before" to "After", and the copy that would undo that: what a crash leaves
+    /// between the last write and the removal of the copy.
+    void makeDoneSaveWithItsCopy() {
+        ASSERT_TRUE(Mpeg4Files::make(path(), Mpeg4Files::Shape::IndexAtEnd, 5));
+        ASSERT_EQ(BasicID3Change::writeTexts(path(), {.title = u"Before"_s}), QString());
+        before_ = Mpeg4Files::contentOf(path());
+        const QString copy = path(u".sonaphex-%1.undo"_s.arg(inodeOf(path()), 0, 16));
+        const QByteArray copyName = QFile::encodeName(copy);
+        const QByteArray secondName = QFile::encodeName(path(u"second"_s));
+        std::atomic<bool> taken{false};
+        std::atomic<bool> enough{false};
+        std::thread taker([&] {
+            while (!taken && !enough)
+                taken = ::link(copyName.constData(), secondName.constData()) == 0;
+        });
+        const bool caught = waitFor([&] {
+            EXPECT_TRUE(Mpeg4Files::write(path(), before_));
+            EXPECT_EQ(BasicID3Change::writeTexts(path(), {.title = u"After"_s}), QString());
+            return taken.load();
+        });
+        enough = true;
+        taker.join();
+        ASSERT_TRUE(caught);
+        ASSERT_TRUE(QFile::rename(path(u"second"_s), copy));
+    }
+
+    QTemporaryDir folder_;
+    QByteArray before_;
+};
+
+} // namespace
+
+TEST_F(InPlaceSave, WritesNoAudioOfAFileWithItsIndexAtTheEnd) {
+    ASSERT_TRUE(Mpeg4Files::make(path(), Mpeg4Files::Shape::IndexAtEnd, 600));
+    const qint64 size = QFileInfo(path()).size();
+    ASSERT_GT(size, 4'000'000);
+    const QByteArray audio = Mpeg4Files::audioOf(path());
+    const QString cover = path(u"cover.png"_s);
+    ASSERT_TRUE(Mpeg4Files::noise(20).save(cover));
+    ASSERT_EQ(::link(QFile::encodeName(path()).constData(), QFile::encodeName(path(u"second.m4a"_s)).constData()), 0);
+    const bool hasAttributes = ::setxattr(QFile::encodeName(path()).constData(), "user.note", "kept", 4, 0) == 0;
+
+    const qint64 before = bytesWritten();
+    ASSERT_EQ(BasicID3Change::writeTexts(path(), {.title = QString(2000, u'x')}), QString());
+    ASSERT_EQ(BasicID3Change::copyWithArtwork(path(), cover, path()), QString());
+    EXPECT_LT(bytesWritten() - before, size / 4) << "the index is written, and before it the copy of it";
+
+    EXPECT_EQ(BasicID3Change::read(path())->title.size(), 2000);
+    EXPECT_EQ(BasicID3Change::read(path())->artwork, Mpeg4Files::contentOf(cover));
+    EXPECT_EQ(Mpeg4Files::audioOf(path()), audio);
+    EXPECT_EQ(inodeOf(path()), inodeOf(path(u"second.m4a"_s)));
+    if (hasAttributes) {
+        char note[5] = {};
+        EXPECT_EQ(::getxattr(QFile::encodeName(path()).constData(), "user.note", note, 4), 4);
+    }
+    EXPECT_TRUE(hidden().isEmpty());
+}
+
+TEST_F(InPlaceSave, ThatWasDoneIsNotUndone) {
+    makeDoneSaveWithItsCopy();
+    EXPECT_FALSE(BasicID3Change::restoreInterruptedSave(path()));
+    EXPECT_EQ(BasicID3Change::read(path())->title, u"After"_s);
+    EXPECT_TRUE(hidden().isEmpty());
+}
+
+TEST_F(InPlaceSave, TakesNothingBackThatAnotherProgramWroteSince) {
+    makeDoneSaveWithItsCopy();
+    const QByteArray content = Mpeg4Files::contentOf(path());
+    QFile file(path());
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.seek(content.lastIndexOf("After")));
+    ASSERT_EQ(file.write("Later"), 5);
+    file.close();
+    EXPECT_EQ(BasicID3Change::read(path())->title, u"Later"_s);
+    EXPECT_TRUE(hidden().isEmpty());
+}
+
+TEST_F(InPlaceSave, TakesBackAFileThatAPowerCutLeftUnsound) {
+    makeDoneSaveWithItsCopy();
+    QByteArray content = Mpeg4Files::contentOf(path());
+    content.replace(content.lastIndexOf("\251nam") - 4, 12, QByteArray(12, '\xee'));
+    ASSERT_TRUE(Mpeg4Files::write(path(), content));
+    EXPECT_EQ(BasicID3Change::read(path())->title, u"Before"_s);
+    EXPECT_EQ(Mpeg4Files::contentOf(path()), before_);
+    EXPECT_TRUE(hidden().isEmpty());
+}
+
+TEST_F(InPlaceSave, PutsNoFileInThePlaceOfSomethingElse) {
+    ASSERT_TRUE(Mpeg4Files::make(path()));
+    const QString cover = path(u"cover.png"_s);
+    ASSERT_TRUE(Mpeg4Files::noise(20).save(cover));
+    const QString pipe = path(u"pipe.m4a"_s);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    EXPECT_NE(BasicID3Change::copyWithArtwork(path(), cover, pipe), QString());
+    EXPECT_NE(BasicID3Change::copyWithArtwork(path(), cover, folder_.path()), QString());
+    struct stat status {};
+    ASSERT_EQ(::stat(QFile::encodeName(pipe).constData(), &status), 0);
+    EXPECT_TRUE(S_ISFIFO(status.st_mode));
+}
