@@ -13,6 +13,7 @@
 #include <QTemporaryDir>
 #include <csignal>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -92,6 +93,13 @@ TEST_F(ConvertCommandTest, WritesNoEmptyFileWhenTheStretchBeginsBehindTheEnd) {
     }
     EXPECT_EQ(read(target), "precious");
     EXPECT_EQ(convert({source, target, u"--overwrite"_s, u"--from"_s, u"3.9"_s}), CommandLine::Done);
+}
+
+TEST_F(ConvertCommandTest, PutsNoFileInThePlaceOfAPipe) {
+    ASSERT_EQ(::mkfifo(QFile::encodeName(target).constData(), 0600), 0);
+    EXPECT_EQ(convert({source, target, u"--overwrite"_s}), CommandLine::Failed);
+    EXPECT_EQ(err.count(u'\n'), 1);
+    EXPECT_FALSE(QFileInfo(target).isFile());
 }
 
 TEST_F(ConvertCommandTest, AnswersWrongUsageWithTheUsage) {
