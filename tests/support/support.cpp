@@ -1,3 +1,0 @@
-// SPDX-FileCopyrightText: 2026 The Sonaphex authors
-// SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/support/WaitFor.h"
