@@ -32,4 +32,16 @@ double Arguments::seconds(const QString& option, double otherwise) {
     return seconds;
 }
 
+int Arguments::whole(const QString& option, int otherwise) {
+    if (!parser_.isSet(option))
+        return otherwise;
+    bool isNumber = false;
+    const int number = parser_.value(option).toInt(&isNumber);
+    if (!isNumber || number < 0) {
+        problem_ = u"--%1: %2 is no whole number"_s.arg(option, parser_.value(option));
+        return otherwise;
+    }
+    return number;
+}
+
 } // namespace CommandLine

@@ -13,13 +13,15 @@ public:
     /// Options as "from=S" (takes a value) or "json" (takes none).
     Arguments(const QStringList& arguments, const QStringList& options);
 
-    /// Why the arguments make no sense; empty when they do. Every method may set it.
+    /// Why the arguments make no sense; empty when they do. What reads a number may set it.
     [[nodiscard]] QString problem() const { return problem_; }
     [[nodiscard]] QStringList positional() const { return parser_.positionalArguments(); }
     [[nodiscard]] bool isSet(const QString& option) const { return parser_.isSet(option); }
     [[nodiscard]] QString value(const QString& option) const { return parser_.value(option); }
     /// A time in seconds, 0 to 2^31 - 1; @p otherwise when the option is not set.
     [[nodiscard]] double seconds(const QString& option, double otherwise);
+    /// A whole number, 0 to 2^31 - 1; @p otherwise when the option is not set.
+    [[nodiscard]] int whole(const QString& option, int otherwise);
 
 private:
     QCommandLineParser parser_;

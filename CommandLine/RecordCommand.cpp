@@ -36,9 +36,9 @@ QString whyNotWritable(const QString& folder) {
 void takeSettings(Arguments& arguments, OverriddenPreferences& preferences) {
     if (arguments.isSet(u"filter"_s)) {
         const bool off = arguments.value(u"filter"_s) == u"off"_s;
-        const double seconds = off ? 0 : arguments.seconds(u"filter"_s, 0);
+        const int seconds = off ? 0 : arguments.whole(u"filter"_s, 0);
         preferences.setValue(off ? 0 : 1, PreferenceFilterKey);
-        preferences.setValue(int(seconds), PreferenceFilterTimeKey);
+        preferences.setValue(seconds, PreferenceFilterTimeKey);
     }
     if (arguments.isSet(u"folder"_s)) {
         const QString folder = arguments.value(u"folder"_s);
@@ -46,7 +46,7 @@ void takeSettings(Arguments& arguments, OverriddenPreferences& preferences) {
     }
     g_SplitTimeMS = storedSplitTimeMS();
     if (arguments.isSet(u"split"_s))
-        g_SplitTimeMS = arguments.value(u"split"_s) == u"off"_s ? -1 : std::int32_t(arguments.seconds(u"split"_s, 0));
+        g_SplitTimeMS = arguments.value(u"split"_s) == u"off"_s ? -1 : arguments.whole(u"split"_s, 0);
 }
 
 /// What is wrong with the options as a whole; empty when nothing is.
