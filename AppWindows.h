@@ -4,5 +4,5 @@
 
 #include "AppDelegate.h"
 
-/// The program's own windows; null in a build without any.
+/// The program's own windows.
 [[nodiscard]] std::unique_ptr<AppDelegate::Windows> createAppWindows();

@@ -51,8 +51,6 @@ int runWindows(int argc, char** argv) {
     }
 
     const auto windows = createAppWindows();
-    if (!windows)
-        return CommandLine::fail(QStringLiteral("this build has no windows; see sonaphex --help"));
     QString why;
     if (!services.startAudio(why))
         tell(QStringLiteral("Nothing can be recorded or played."), why);

@@ -8,7 +8,7 @@
 #include <map>
 #include <optional>
 
-/// The subcommands of the program. Each lives in a file of its own and registers itself here by name.
+/// The subcommands of the program. Each lives in a file of its own and has its name in one of the two lists.
 namespace CommandLine {
 
 /// Exit statuses of every subcommand.

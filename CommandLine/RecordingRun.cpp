@@ -111,14 +111,9 @@ QString RecordingRun::begin() {
 }
 
 QString RecordingRun::state() const {
-    switch (controller_.isWaittingForSound() ? -1 : const_cast<RecordStateController&>(controller_).recordState_()) {
-    case -1:
+    if (controller_.isWaittingForSound())
         return u"waiting for the first sound"_s;
-    case 1:
-        return u"recording"_s;
-    default:
-        return u"finishing"_s;
-    }
+    return controller_.recordState_() == 1 ? u"recording"_s : u"finishing"_s;
 }
 
 void RecordingRun::recordUntilTheEnd() {

@@ -46,7 +46,6 @@ public:
     std::uint32_t take(std::span<float* const> out, std::uint32_t frames) noexcept;
 
     [[nodiscard]] std::uint32_t channels() const noexcept { return channels_; }
-    [[nodiscard]] std::size_t capacity() const noexcept { return capacity_; }
     /// All frames counted as lost: by the ring being full, and by lostBefore and loseRt(). Any thread.
     [[nodiscard]] std::uint64_t lostFrames() const noexcept { return lost_.load(std::memory_order_relaxed); }
 

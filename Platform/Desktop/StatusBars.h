@@ -13,9 +13,6 @@ namespace Platform {
 class StatusBars : public QObject {
     Q_OBJECT
 public:
-    /// Whether one was there since the program started.
-    [[nodiscard]] virtual bool wasSeen() const = 0;
-
     [[nodiscard]] static std::unique_ptr<StatusBars> create();
 
 Q_SIGNALS:

@@ -212,7 +212,7 @@ private:
     PauseSpan pause_;
 
     /// Guards what other threads ask for: the unit, the writers, the paths and the errors. Never held while anything
-    /// waits, and not taken in a cycle.
+    /// waits. A cycle takes it only where a recording begins or a file is exchanged.
     mutable std::mutex mutex_;
     std::unique_ptr<Platform::InputUnit> audioUnit_; // closed first: until then cycles use the rest
 };

@@ -60,7 +60,8 @@ void moveBack(const QString& from, const QString& to) {
         const QString kept = FileManager::setAside(from, QFileInfo(to).fileName());
         qCWarning(log, "%s could not be put back; it is at %s", qUtf8Printable(to), qUtf8Printable(kept));
     }
-    MovedFiles::forget(from);
+    if (!QFileInfo::exists(from)) // one that stays keeps its note: the next launch tries again
+        MovedFiles::forget(from);
 }
 
 } // namespace

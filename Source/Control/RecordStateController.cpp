@@ -177,14 +177,10 @@ bool RecordStateController::windowShouldClose() {
     return false;
 }
 
-int RecordStateController::recordState_() {
-    int state = 0;
+int RecordStateController::recordState_() const {
     if (d->builtIn.takesPart())
-        state = d->builtIn.engine->recordStatus();
-    else if (d->computer.takesPart())
-        state = d->computer.engine->recordStatus();
-    d->recordState_ = state;
-    return state;
+        return d->builtIn.engine->recordStatus();
+    return d->computer.takesPart() ? d->computer.engine->recordStatus() : 0;
 }
 
 bool RecordStateController::isStateAudioCanStartRecord() const {

@@ -32,7 +32,7 @@ public:
 /// The recording side of the main window without the window: two engines, start, stop, pause, split, the display's
 /// clock, and the queue that turns raw files into tagged recordings of the library. A window binds to its properties.
 ///
-/// Main thread, but for the level callbacks (I/O threads) and, through an automatic split, splitTheRecord().
+/// Main thread, but for the level callbacks (I/O threads), which begin an armed recording and split at silences.
 class RecordStateController : public QObject, public BuildInAudioRecordDelegate {
     Q_OBJECT
     // One property for each thing that a window shows; each changes on the main thread with stateChanged().
@@ -73,7 +73,7 @@ public:
     void startAndStopRecord();
     void pauseAndResumeRecord();
     /// Closes and queues the file in progress and goes on in a new one without a gap. Nothing happens while nothing
-    /// records. Also on the computer engine's I/O thread (automatic split).
+    /// records.
     void splitTheRecord();
     void chooseRecordBuiltIn(bool on);
     void chooseRecordComputerAudio(bool on);
@@ -88,7 +88,8 @@ public:
     void setDisplayClockRunning(bool running);
 
     // The state.
-    [[nodiscard]] int recordState_();
+    /// 0 nothing is recorded, 1 it is, 2 it is paused.
+    [[nodiscard]] int recordState_() const;
     [[nodiscard]] bool isStateAudioCanStartRecord() const;
     [[nodiscard]] bool isStateAudioRecord() const;
     [[nodiscard]] bool isStateAudioRecordPause() const;

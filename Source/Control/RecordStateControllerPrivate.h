@@ -72,7 +72,6 @@ struct RecordStateController::Private {
     std::atomic<float> builtInLevelValue_{0};
     std::atomic<float> computerLevelValue_{0};
     std::atomic<float> fRecordTime_{0};
-    std::atomic<int> recordState_{0};
     std::atomic<bool> isRecordPause_{false};
     std::atomic<bool> resumeTip_{false}; ///< the pause button's tool tip offers to resume
     std::atomic<bool> active_{false};    ///< the pause button's enabled state

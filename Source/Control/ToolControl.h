@@ -15,7 +15,7 @@ class QSizeF;
 /// Small operations on files, times and windows that the whole program shares.
 namespace ToolControl {
 
-/// Shows a window, raises it and centres it on its screen. The controller answers showWindow() (see WindowShower).
+/// A window's controller, as far as showWindowNib() needs it.
 class WindowShower {
 public:
     virtual ~WindowShower() = default;
@@ -24,6 +24,7 @@ public:
     virtual void makeKeyAndOrderFront() = 0; ///< for one that is not
     virtual void center() = 0;
 };
+/// Shows a window, raises it and centres it on its screen.
 void showWindowNib(WindowShower& controller);
 
 /// "hh:mm:ss", the hours without limit.

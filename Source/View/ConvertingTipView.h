@@ -15,7 +15,6 @@ public:
     /// @param working whether a recording waits or is being converted
     /// @param progress share done of the job at hand, below 0 for none
     void showFileConvertTipView(bool working, const QString& text, double progress);
-    [[nodiscard]] bool isShown() const { return shown_; }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

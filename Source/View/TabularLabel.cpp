@@ -23,11 +23,6 @@ void TabularLabel::setText(const QString& text) {
     update();
 }
 
-void TabularLabel::setColor(const QColor& color) {
-    color_ = color;
-    update();
-}
-
 void TabularLabel::setAlignment(Qt::Alignment alignment) {
     alignment_ = alignment;
     update();
@@ -62,7 +57,7 @@ QSize TabularLabel::sizeHint() const {
 
 void TabularLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setPen(color_.isValid() ? color_ : palette().color(QPalette::WindowText));
+    painter.setPen(palette().color(QPalette::WindowText));
     const QFontMetricsF metrics(font());
     qreal x = 0;
     if (alignment_ & Qt::AlignRight)

@@ -8,15 +8,11 @@
 class TabularLabel : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString text READ text WRITE setText)
-    Q_PROPERTY(QColor color READ color WRITE setColor)
     Q_PROPERTY(Qt::Alignment alignment READ alignment WRITE setAlignment)
 public:
     explicit TabularLabel(QWidget* parent = nullptr);
     [[nodiscard]] QString text() const { return text_; }
     void setText(const QString& text);
-    [[nodiscard]] QColor color() const { return color_; }
-    /// An invalid colour stands for the palette's text.
-    void setColor(const QColor& color);
     [[nodiscard]] Qt::Alignment alignment() const { return alignment_; }
     void setAlignment(Qt::Alignment alignment);
     /// Keeps room for this text too, so that a text that blinks moves nothing beside it.
@@ -35,6 +31,5 @@ private:
 
     QString text_;
     QString reserve_;
-    QColor color_;
     Qt::Alignment alignment_ = Qt::AlignLeft;
 };

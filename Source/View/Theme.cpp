@@ -236,9 +236,6 @@ QColor text() {
 QColor dimText() {
     return QColor(0x93a6b4);
 }
-QColor alarm() {
-    return QColor(0xff6b63);
-}
 QColor level() {
     return QColor::fromRgbF(78.0F / 255, 242.0F / 255, 1.0F);
 }

@@ -28,7 +28,6 @@ void apply(Shade shade);
 namespace Glass {
 [[nodiscard]] QColor text();
 [[nodiscard]] QColor dimText();
-[[nodiscard]] QColor alarm();
 [[nodiscard]] QColor level();
 } // namespace Glass
 

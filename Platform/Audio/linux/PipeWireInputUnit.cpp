@@ -91,7 +91,6 @@ OSStatus PipeWireInputUnit::setClientFormat(const AudioStreamBasicDescription& f
     if (!supported)
         return fail(kAudioUnitErr_FormatNotSupported,
                     u"the unit delivers 32-bit float, one buffer a channel, at the device's rate only"_s);
-    clientFormat_ = format;
     return noErr;
 }
 

@@ -54,7 +54,6 @@ private:
     RenderCallback callback_ = nullptr;
     void* refCon_ = nullptr;
     CaptureStream::Target target_;
-    AudioStreamBasicDescription clientFormat_;
     bool initialized_ = false;
     EventHandler handler_;
     std::atomic<bool> fillLost_{false};

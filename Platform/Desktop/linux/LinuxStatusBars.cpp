@@ -39,8 +39,6 @@ public:
     }
     ~LinuxStatusBars() override { leaveTheServer(); }
 
-    bool wasSeen() const override { return seen_; }
-
 private Q_SLOTS:
     void found() {
         if (seen_)

@@ -139,10 +139,10 @@ OSStatus FileWriter::continueFrom(ExtAudioFileWriter& predecessor) {
 }
 
 /// Makes ring, encoder and thread. @p parallel: the frames are there already, so several threads may encode.
-OSStatus FileWriter::start(bool parallel) {
+void FileWriter::start(bool parallel) {
     Core& core = *core_;
     if (core.started)
-        return noErr;
+        return;
     const std::size_t width = core.format.mChannelsPerFrame;
     // A stream that nobody has described has the file's own shape; it can only be closed.
     const auto clientChannels = core.client ? std::int32_t(core.client->mChannelsPerFrame) : std::int32_t(width);
@@ -183,7 +183,6 @@ OSStatus FileWriter::start(bool parallel) {
     core.ring = std::make_unique<PlaneRing>(core.channels.size(), std::size_t(clientRate) * ringSeconds);
     core.started = true;
     core.thread = std::thread([core = core_] { core->run(); });
-    return noErr;
 }
 
 OSStatus FileWriter::write(std::uint32_t frames, const AudioBufferList* data) {

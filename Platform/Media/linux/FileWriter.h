@@ -8,7 +8,7 @@
 
 namespace Platform {
 
-/// A writer with its file open. @p file has been created already; null when the format cannot be written.
+/// The system's writer: an encoder behind a ring, on a thread of its own.
 class FileWriter final : public ExtAudioFileWriter {
 public:
     FileWriter(const QString& path, std::uint32_t fileType, const AudioStreamBasicDescription& format);
@@ -30,7 +30,7 @@ public:
 
 private:
     struct Core;
-    OSStatus start(bool parallel);
+    void start(bool parallel);
     OSStatus push(std::uint32_t frames, const AudioBufferList* data, std::size_t wakeAfter);
 
     std::shared_ptr<Core> core_; // shared with the file's thread, which may outlive the writer

@@ -11,7 +11,7 @@
 namespace Platform::Media {
 
 /// Edits a file so that a crash at any moment costs nothing. What the save overwrites is first copied into a hidden
-/// file beside it and synced; restoreInterruptedSave() puts it back. When more than a few megabytes would have to move
+/// file beside it and synced; restoreInterruptedSave() puts it back. When more than 32 MiB would have to move
 /// (the index stands in front of the audio), the whole file is made anew beside it and renamed.
 ///
 /// @p edit changes the content in memory and answers whether it is to be written. Blocks; other processes that save

@@ -19,7 +19,7 @@ constexpr int mostAtoms = 2'000'000;
 
 class Walker {
 public:
-    Walker(const PatchedFile& file, QString& why) : file_(file), size_(file.size()), why_(why) {}
+    Walker(const PatchedFile& file, QString& why) : file_(file), why_(why) {}
 
     /// The boxes from @p at to @p end. A box of the top level may reach beyond the end of the file.
     bool walk(qint64 at, qint64 end, int depth, std::vector<Mpeg4Atom>& atoms, bool* complete) {
@@ -124,7 +124,6 @@ private:
     }
 
     const PatchedFile& file_;
-    const qint64 size_;
     QString& why_;
     int count_ = 0;
 };

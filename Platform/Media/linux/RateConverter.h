@@ -82,7 +82,6 @@ class ConversionStream {
 public:
     ConversionStream(std::size_t channels, int inRate, int outRate);
     [[nodiscard]] bool valid() const { return converter_.valid(); }
-    [[nodiscard]] std::size_t channels() const { return channels_; }
 
     /// @p out becomes what belongs to the feeding writer's own file.
     void feed(const float* const* rows, std::size_t frames, Planes& out);
