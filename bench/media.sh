@@ -74,8 +74,3 @@ rm -f our.wav peer.wav again.m4a
 
 beside "$((rounds + 1))" "$ours" waveform our.m4a -- ffmpeg -v error -i our.m4a -f null -
 report "waveform of an AAC file, wall time" "$ourWall" "$peerWall" 0.3 " s"
-
-beside 1 "$BUILD/bin/bench_mix" our.m4a peer.m4a mix.wav mix.m4a -- \
-    ffmpeg -v error -y -i our.m4a -i peer.m4a -filter_complex "amix=inputs=2:normalize=0" -c:a aac peer-mix.m4a
-report "two sources to one AAC file, wall time" "$ourWall" "$peerWall" 0.7 " s"
-report "two sources to one AAC file, processor time" "$ourCpu" "$peerCpu" "none" " s"
