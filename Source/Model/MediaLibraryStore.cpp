@@ -26,6 +26,19 @@ QHash<QString, QVariant> byKey(const QVariantList& entries) {
     return result;
 }
 
+/// What changed in one entry on either side; a value that both changed is ours.
+Dictionary mergeValues(const Dictionary& base, const Dictionary& theirs, const Dictionary& ours) {
+    const auto isUntouched = [&](const QString& name) { return ours.value(name) == base.value(name); };
+    Dictionary result;
+    for (auto it = ours.cbegin(); it != ours.cend(); ++it)
+        if (!isUntouched(it.key()))
+            result.insert(it.key(), *it);
+    for (auto it = theirs.cbegin(); it != theirs.cend(); ++it)
+        if (isUntouched(it.key()))
+            result.insert(it.key(), *it);
+    return result;
+}
+
 QVariantList mergeEntries(const QVariantList& base, const QVariantList& theirs, const QVariantList& ours) {
     if (theirs == base)
         return ours;
@@ -52,11 +65,12 @@ QVariantList mergeEntries(const QVariantList& base, const QVariantList& theirs, 
             result.append(added);
             atTop = false;
         }
+        const auto now = key.isEmpty() ? inTheirs.cend() : inTheirs.constFind(key);
         const bool untouched = !key.isEmpty() && before != inBase.cend() && *before == entry;
-        if (!untouched)
+        if (now != inTheirs.cend())
+            result.append(untouched ? *now : mergeValues(inBase.value(key).toMap(), now->toMap(), entry.toMap()));
+        else if (!untouched)
             result.append(entry);
-        else if (const auto now = inTheirs.constFind(key); now != inTheirs.cend())
-            result.append(*now);
     }
     if (atTop)
         result.append(added);

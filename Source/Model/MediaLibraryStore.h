@@ -15,8 +15,9 @@ namespace MediaLibraryStore {
 
 [[nodiscard]] QVariant value(const QVariantList& records, const QVariantList& ringtones);
 
-/// Joins the changes of two processes (UserDefaults::Merge): what either added is kept, what either removed is gone
-/// unless the other changed it meanwhile, and of two edits ours wins.
+/// Joins the changes of two processes (UserDefaults::Merge): what either added is kept, what either removed is gone,
+/// but for an entry that we changed meanwhile. An entry that both changed or added has the values that either changed;
+/// of two changes of one value ours wins.
 [[nodiscard]] QVariant merge(const QVariant& base, const QVariant& theirs, const QVariant& ours);
 
 } // namespace MediaLibraryStore

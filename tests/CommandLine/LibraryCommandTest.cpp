@@ -159,6 +159,31 @@ TEST_F(LibraryCommand, ShowsTheTagsThatWereWrittenIntoItsFiles) {
     EXPECT_EQ(listed(), document);
 }
 
+TEST_F(LibraryCommand, KeepsWhatSeveralTagAtOnce) {
+    const Dictionary one = entry(u"one.m4a"_s);
+    const QString path = one.value(AudioRecordEntry::SavePath).toString();
+    ASSERT_TRUE(Mpeg4Files::make(path));
+    store({one}, {});
+    for (int round = 0; round < 5; ++round) {
+        const QString text = u"round %1"_s.arg(round);
+        std::vector<std::unique_ptr<QProcess>> processes;
+        for (const QString& option : {u"--title"_s, u"--artist"_s, u"--album"_s}) {
+            processes.push_back(std::make_unique<QProcess>());
+            processes.back()->start(QStringLiteral(SONAPHEX_PROGRAM), {u"tag"_s, path, option, text});
+        }
+        for (const auto& process : processes) {
+            ASSERT_TRUE(process->waitForFinished(60000));
+            EXPECT_EQ(process->exitCode(), 0) << process->readAllStandardError().constData();
+        }
+        const QJsonDocument inFile = QJsonDocument::fromJson(tag({path, u"--json"_s}).output);
+        const QJsonDocument document = listed();
+        for (const QString& name : {u"title"_s, u"artist"_s, u"album"_s}) {
+            EXPECT_EQ(inFile[name], text) << qPrintable(name);
+            EXPECT_EQ(document[u"records"_s][0][name], text) << qPrintable(name);
+        }
+    }
+}
+
 /// What the window's process does.
 class LibraryCommandBesideAWindow : public LibraryCommand {
 protected:

@@ -357,6 +357,43 @@ TEST(MediaLibraryStore, KeepsWhatTwoProcessesAddedAndRemoved) {
                                                {entry(u"r"_s)}));
 }
 
+TEST(MediaLibraryStore, KeepsWhatTwoProcessesChangedInOneEntry) {
+    const auto merged = [](const Dictionary& base, const Dictionary& theirs, const Dictionary& ours) {
+        const auto whole = [](Dictionary values) {
+            values.insert(AudioRecordEntry::NodeDataKey, u"a"_s);
+            return MediaLibraryStore::value({entry(u"top"_s), values}, {values});
+        };
+        const Dictionary joined = MediaLibraryStore::merge(whole(base), whole(theirs), whole(ours)).toMap();
+        EXPECT_EQ(keys(joined.value(u"records"_s).toList()), (QStringList{u"top"_s, u"a"_s}));
+        Dictionary values = joined.value(u"records"_s).toList().last().toMap();
+        EXPECT_EQ(joined.value(u"ringtones"_s).toList(), QVariantList{values});
+        values.remove(AudioRecordEntry::NodeDataKey);
+        return values;
+    };
+    using Values = Dictionary;
+    // One side changed, added or took away a value, the other side another one.
+    EXPECT_EQ(merged({{u"1"_s, 1}, {u"2"_s, 2}}, {{u"1"_s, 1}, {u"2"_s, u"b"_s}}, {{u"1"_s, u"a"_s}, {u"2"_s, 2}}),
+              (Values{{u"1"_s, u"a"_s}, {u"2"_s, u"b"_s}}));
+    EXPECT_EQ(merged({}, {{u"1"_s, 1}}, {{u"2"_s, 2}}), (Values{{u"1"_s, 1}, {u"2"_s, 2}}));
+    EXPECT_EQ(merged({{u"1"_s, 1}, {u"2"_s, 2}}, {{u"2"_s, 2}}, {{u"1"_s, 1}}), Values{});
+    EXPECT_EQ(merged({{u"1"_s, 1}, {u"2"_s, 2}}, {{u"1"_s, 1}}, {{u"1"_s, 3}, {u"2"_s, 2}}), (Values{{u"1"_s, 3}}));
+    // Both changed the same one.
+    EXPECT_EQ(merged({{u"1"_s, 1}}, {{u"1"_s, 2}}, {{u"1"_s, 3}}), (Values{{u"1"_s, 3}}));
+    EXPECT_EQ(merged({{u"1"_s, 1}}, {{u"1"_s, 2}}, {}), Values{});
+    EXPECT_EQ(merged({{u"1"_s, 1}}, {}, {{u"1"_s, 3}}), (Values{{u"1"_s, 3}}));
+}
+
+TEST(MediaLibraryStore, TakesAnEntryThatTwoProcessesAddedForOne) {
+    Dictionary theirs = entry(u"a"_s, u"their title"_s);
+    theirs.insert(AudioRecordEntry::Artist, u"their artist"_s);
+    Dictionary expected = theirs;
+    expected.insert(AudioRecordEntry::Title, u"our title"_s);
+    const QVariant base = MediaLibraryStore::value({entry(u"old"_s)}, {});
+    EXPECT_EQ(MediaLibraryStore::merge(base, MediaLibraryStore::value({theirs, entry(u"old"_s)}, {}),
+                                       MediaLibraryStore::value({entry(u"a"_s, u"our title"_s), entry(u"old"_s)}, {})),
+              MediaLibraryStore::value({expected, entry(u"old"_s)}, {}));
+}
+
 TEST(MediaLibraryStore, KeepsOursWhenTheirsIsNoLibrary) {
     const QVariant ours = MediaLibraryStore::value({entry(u"a"_s)}, {});
     EXPECT_EQ(MediaLibraryStore::merge({}, {}, ours), ours);
