@@ -169,12 +169,14 @@ void RecordingRun::tellNotices() {
 
 /// The window's library changes through the window; without one it changes here.
 void RecordingRun::addRecordFile(const QString& path, const Dictionary& tags) {
-    QByteArray rest;
-    if (const auto answer = askWindow(ControlRequests::libraryAdd(path, tags));
-        answer && ControlRequests::isOk(*answer, rest))
-        return;
+    // The identity comes first: a window that is too late to answer still does what it was asked, and then adds this
+    // very entry once more, not another one.
     Dictionary entry = tags;
     makeIdentity(entry, path);
+    QByteArray rest;
+    if (const auto answer = askWindow(ControlRequests::libraryAdd(path, entry));
+        answer && ControlRequests::isOk(*answer, rest))
+        return;
     MediaLibrary library;
     library.addRecordFile(entry);
     if (!Platform::services().userDefaults->flush())

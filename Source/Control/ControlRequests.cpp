@@ -85,6 +85,8 @@ QByteArray ControlRequests::addToLibrary(const QByteArray& json) const {
     entry.insert(AudioRecordEntry::SavePath, path);
     // JSON has one kind of number.
     entry.insert(AudioRecordEntry::Year, entry.value(AudioRecordEntry::Year).toInt());
+    if (entry.value(AudioRecordEntry::NodeDataKey).toString().isEmpty())
+        entry.remove(AudioRecordEntry::NodeDataKey);
     RecordStateControllerDelegate::makeIdentity(entry, path);
     (library_ ? *library_ : MediaLibrary::shareLibrary()).addRecordFile(entry);
     return Ok;

@@ -14,7 +14,9 @@ class RecordStateController;
 ///
 ///     start-stop | pause-resume | split     as the buttons do; refused where the button is disabled
 ///     status                                "ok {...}", see status()
-///     library-add {"path": P, "tags": {…}}  a recording that a subcommand has finished
+///     library-add {"path": P, "tags": {…}}  a recording that a subcommand has finished; its tags bring its identity,
+///     so
+///                                           that a request that was given up can be done all the same
 ///     library-remove …                      as MediaLibraryRequests says
 class ControlRequests {
 public:
@@ -26,7 +28,7 @@ public:
     /// (queue), lostFrames, notices.
     [[nodiscard]] Dictionary status() const;
 
-    /// The request as a line; any text goes through unharmed.
+    /// The request as a line; any text goes through unharmed. @p tags should have the entry's identity.
     [[nodiscard]] static QByteArray libraryAdd(const QString& path, const Dictionary& tags);
     /// What an answer says: whether it is "ok", and the rest of the line.
     [[nodiscard]] static bool isOk(const QByteArray& answer, QByteArray& rest);

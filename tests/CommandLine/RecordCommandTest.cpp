@@ -5,6 +5,8 @@
 #include "CommandLine/LevelMeter.h"
 #include "Platform/Foundation/Services.h"
 #include "Source/Control/PreferenceStore.h"
+#include "Source/Model/AudioRecordEntry.h"
+#include "Source/Model/MediaLibrary.h"
 #include "tests/CommandLine/CommandRun.h"
 #include "tests/fakes/FakeAudioHardware.h"
 #include "tests/fakes/FakeBundle.h"
@@ -21,11 +23,15 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocalServer>
+#include <QLocalSocket>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QThread>
 #include <QTimer>
 
 #include <csignal>
+#include <future>
 
 using namespace Qt::StringLiterals;
 
@@ -128,6 +134,33 @@ TEST_F(RecordCommandTest, RecordsTheAskedTimeInFramesAndSaysWhere) {
 TEST_F(RecordCommandTest, NeverRecordsFewerFramesThanAsked) {
     EXPECT_EQ(record({u"--for"_s, u"0.0101"_s, u"--filter"_s, u"off"_s}), CommandLine::Done);
     EXPECT_EQ(media.last().framesAccepted, 960) << "485 frames take two cycles";
+}
+
+TEST_F(RecordCommandTest, EntersTheEntryThatItAskedAWindowInVainToEnter) {
+    QByteArray asked;
+    std::promise<void> listening;
+    const std::unique_ptr<QThread> window(QThread::create([&] {
+        QLocalServer server;
+        const bool listens = server.listen(dir.filePath(bundle.bundleIdentifier() + u".socket"_s));
+        listening.set_value();
+        if (!listens || !server.waitForNewConnection(60000))
+            return;
+        QLocalSocket* const asker = server.nextPendingConnection();
+        while (!asker->canReadLine() && asker->waitForReadyRead(60000)) {
+        }
+        asked = asker->readLine();
+    }));
+    window->start();
+    listening.get_future().wait();
+    EXPECT_EQ(record({u"--for"_s, u"2"_s, u"--filter"_s, u"off"_s}), CommandLine::Done) << qPrintable(err);
+    window->wait();
+    ASSERT_TRUE(asked.startsWith("library-add ")) << asked.constData();
+    const QJsonDocument document = QJsonDocument::fromJson(asked.mid(asked.indexOf(' ')));
+    const MediaLibrary library;
+    ASSERT_EQ(library.records().size(), 1);
+    const QString key = library.records().front().toMap().value(AudioRecordEntry::NodeDataKey).toString();
+    EXPECT_TRUE(key.startsWith(folder + u"/Track0.m4a_"_s)) << qPrintable(key);
+    EXPECT_EQ(document[u"tags"_s][AudioRecordEntry::NodeDataKey].toString(), key);
 }
 
 TEST_F(RecordCommandTest, AnswersAsJson) {

@@ -90,6 +90,20 @@ TEST_F(RunningWindow, FinishesItsRecordingWhenItIsAskedToEnd) {
     EXPECT_EQ(AudioCheck::decodedByFaad(path).size(), 2U) << "a plain file, closed";
 }
 
+TEST_F(RunningWindow, EntersARecordingOnceHoweverLateItAnswers) {
+    ASSERT_TRUE(launch());
+    ASSERT_EQ(::kill(pid_t(window_.processId()), SIGSTOP), 0);
+    const auto recorded =
+        runTool(QStringLiteral(SONAPHEX_PROGRAM), {u"record"_s, u"--for"_s, u"1"_s, u"--filter"_s, u"off"_s});
+    EXPECT_EQ(recorded.status, 0) << recorded.errors.constData();
+    ASSERT_EQ(::kill(pid_t(window_.processId()), SIGCONT), 0);
+    ASSERT_TRUE(waitFor([this] { return control(u"status"_s).startsWith("idle"); }, 30000)); // it asked later
+    ::kill(pid_t(window_.processId()), SIGTERM);
+    ASSERT_TRUE(waitFor([this] { return window_.state() == QProcess::NotRunning; }, 30000));
+    const auto listed = runTool(QStringLiteral(SONAPHEX_PROGRAM), {u"library"_s});
+    EXPECT_TRUE(listed.output.startsWith("recordings: 1\n")) << listed.output.constData();
+}
+
 TEST_F(RunningWindow, WipesWhatAKilledOneLeft) {
     ASSERT_TRUE(launch());
     window_.kill();

@@ -81,6 +81,24 @@ TEST_F(ControlRequestsTest, TakesARecordingOfASubcommandIntoTheLibrary) {
     EXPECT_EQ(requests->answer("library-add {{{"), "failed there is no path");
 }
 
+TEST_F(ControlRequestsTest, AddsARecordingUnderTheIdentityThatItComesWith) {
+    Dictionary tags{{AudioRecordEntry::NodeDataKey, u"its own"_s}, {AudioRecordEntry::IsNew, true}};
+    for (const QString& title : {u"first"_s, u"second"_s}) {
+        tags.insert(AudioRecordEntry::Title, title);
+        EXPECT_EQ(requests->answer(ControlRequests::libraryAdd(u"/music/a.m4a"_s, tags)), "ok");
+        ASSERT_EQ(library->records().size(), 1);
+        EXPECT_EQ(library->records().front().toMap().value(AudioRecordEntry::NodeDataKey), u"its own"_s);
+        EXPECT_EQ(library->records().front().toMap().value(AudioRecordEntry::Title), title);
+    }
+    EXPECT_EQ(library->currentNewArray(), QStringList{u"its own"_s});
+    for (const QVariant& none : {QVariant(QString()), QVariant(QVariantList{1})}) {
+        tags.insert(AudioRecordEntry::NodeDataKey, none);
+        EXPECT_EQ(requests->answer(ControlRequests::libraryAdd(u"/music/b.m4a"_s, tags)), "ok");
+        const QString made = library->records().front().toMap().value(AudioRecordEntry::NodeDataKey).toString();
+        EXPECT_TRUE(made.startsWith(u"/music/b.m4a_"_s)) << qPrintable(made);
+    }
+}
+
 TEST_F(ControlRequestsTest, HandsRemovalsToTheLibrary) {
     EXPECT_TRUE(requests->answer("library-remove {}").contains("problem"));
 }
