@@ -29,6 +29,10 @@ public:
     /// A value with parts that two processes may change separately names how they are joined. Without it the value
     /// that was set last wins as a whole.
     virtual void setMergeForKey(const QString& /*key*/, Merge /*merge*/) {}
+    /// Lets objectForKey() see what other processes have stored under a key since it was read, joined with what this
+    /// process set. Without it a value that is joined keeps the view of this process, even when it is saved. Waits for
+    /// the disk. False when the file could not be read: then nothing changes.
+    virtual bool takeUp(const QString& /*key*/) { return true; }
 };
 
 } // namespace Platform

@@ -115,6 +115,46 @@ bool PropertyListDefaults::flush() {
     return savedChange_ >= wanted;
 }
 
+bool PropertyListDefaults::takeUp(const QString& key) {
+    TakeUp mine{key};
+    std::unique_lock lock(mutex_);
+    takeUps_.push_back(&mine);
+    work_.notify_one();
+    done_.wait(lock, [&] { return mine.isDone; });
+    return mine.isRead;
+}
+
+void PropertyListDefaults::answerTakeUps(std::unique_lock<std::mutex>& lock) {
+    const auto asked = std::exchange(takeUps_, {});
+    lock.unlock();
+    const bool isRead = readAgain(Damage::Leave);
+    lock.lock();
+    for (TakeUp* each : asked) {
+        if (isRead)
+            takeUpFromDisk(each->key);
+        each->isRead = isRead;
+        each->isDone = true;
+    }
+    lock.unlock();
+    done_.notify_all();
+    spent_.reset();
+    lock.lock();
+}
+
+void PropertyListDefaults::takeUpFromDisk(const QString& key) {
+    const QVariant theirs = onDisk_.value(key);
+    const Merge merge = merges_.value(key);
+    const auto set = pending_.find(key);
+    if (theirs == ours_.value(key) || (set != pending_.end() && !merge))
+        return;
+    const bool isHere = values_.contains(key) || set != pending_.end();
+    const QVariant joined = merge && isHere ? merge(ours_.value(key), theirs, values_.value(key)) : theirs;
+    overlay({{key, joined}}, values_);
+    if (set != pending_.end())
+        *set = joined;
+    ours_.insert(key, theirs); // what is here is now a change of that
+}
+
 void PropertyListDefaults::load() {
     if (!readAgain(Damage::Leave)) {
         // Moving a damaged file away needs the lock: another process may just have put a good one in its place.
@@ -146,11 +186,17 @@ void PropertyListDefaults::run() {
     load();
     std::unique_lock lock(mutex_);
     for (;;) {
-        const auto hasWork = [this] { return stopping_ || (!pending_.isEmpty() && failedChange_ < lastChange_); };
+        const auto hasWork = [this] {
+            return stopping_ || !takeUps_.empty() || (!pending_.isEmpty() && failedChange_ < lastChange_);
+        };
         if (pending_.isEmpty() || failedChange_ < lastChange_)
             work_.wait(lock, hasWork);
         else
             work_.wait_for(lock, retryAfter, hasWork);
+        if (!takeUps_.empty()) {
+            answerTakeUps(lock);
+            continue;
+        }
         if (pending_.isEmpty()) {
             if (stopping_)
                 return;

@@ -9,6 +9,7 @@
 #include <memory>
 #include <mutex>
 #include <thread>
+#include <vector>
 
 struct stat;
 
@@ -36,6 +37,7 @@ public:
     void removeObject(const QString& key) override;
     bool flush() override;
     void setMergeForKey(const QString& key, Merge merge) override;
+    bool takeUp(const QString& key) override;
 
 private:
     using Changes = QHash<QString, QVariant>; // an invalid value removes the key
@@ -50,6 +52,8 @@ private:
     void change(const QString& key, const QVariant& object);
     void run();
     void load();
+    void answerTakeUps(std::unique_lock<std::mutex>& lock);
+    void takeUpFromDisk(const QString& key);
     static void overlay(const Changes& changes, Dictionary& values);
     enum class Damage { Leave, SetAside };
 
@@ -72,6 +76,13 @@ private:
     quint64 lastChange_ = 0;   // number of the newest change
     quint64 savedChange_ = 0;  // the newest one that is on the disk
     quint64 failedChange_ = 0; // the newest one that a failed save contained
+    /// A call of takeUp() that waits for the worker.
+    struct TakeUp {
+        QString key;
+        bool isDone = false;
+        bool isRead = false;
+    };
+    std::vector<TakeUp*> takeUps_;
     bool loaded_ = false;
     bool stopping_ = false;
 

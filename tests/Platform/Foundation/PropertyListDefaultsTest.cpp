@@ -202,6 +202,62 @@ TEST_F(DefaultsFile, JoinsAValueThatTwoProcessesChanged) {
     EXPECT_EQ(one.objectForKey(u"list"_s), u"ours"_s);
 }
 
+TEST_F(DefaultsFile, TakesUpWhatAnotherProcessStored) {
+    store(Platform::PropertyList::toXml({{u"list"_s, u"base"_s}, {u"text"_s, u"old"_s}}));
+    PropertyListDefaults one(path());
+    PropertyListDefaults other(path());
+    one.setMergeForKey(u"list"_s, joinTexts);
+    EXPECT_TRUE(one.takeUp(u"list"_s));
+    EXPECT_EQ(one.objectForKey(u"list"_s), u"base"_s) << "nothing is new";
+    other.setObject(u"list"_s, u"theirs"_s);
+    other.setObject(u"text"_s, u"new"_s);
+    ASSERT_TRUE(other.flush());
+    EXPECT_TRUE(one.takeUp(u"list"_s));
+    EXPECT_TRUE(one.takeUp(u"list"_s));
+    EXPECT_EQ(one.objectForKey(u"list"_s), u"base|theirs|base"_s) << "once";
+    EXPECT_TRUE(one.takeUp(u"text"_s));
+    EXPECT_EQ(one.objectForKey(u"text"_s), u"new"_s);
+    one.setObject(u"list"_s, u"ours"_s);
+    ASSERT_TRUE(one.flush());
+    EXPECT_EQ(stored()->value(u"list"_s), u"theirs|theirs|ours"_s) << "a change of what was taken up";
+    other.removeObject(u"text"_s);
+    ASSERT_TRUE(other.flush());
+    EXPECT_TRUE(one.takeUp(u"text"_s));
+    EXPECT_FALSE(one.objectForKey(u"text"_s).isValid());
+}
+
+TEST_F(DefaultsFile, TakesUpWhatAnotherStoredBesideWhatItCouldNotSave) {
+    store(Platform::PropertyList::toXml({{u"list"_s, u"base"_s}, {u"text"_s, u"old"_s}}));
+    PropertyListDefaults one(path());
+    one.setMergeForKey(u"list"_s, joinTexts);
+    const QString inTheWay = folder_.filePath(u".com.korvane.Sonaphex.plist.new"_s);
+    ASSERT_TRUE(QDir().mkpath(inTheWay));
+    one.setObject(u"list"_s, u"ours"_s);
+    one.setObject(u"text"_s, u"ours"_s);
+    EXPECT_FALSE(one.flush());
+    store(Platform::PropertyList::toXml({{u"list"_s, u"theirs"_s}, {u"text"_s, u"theirs"_s}}));
+    EXPECT_TRUE(one.takeUp(u"list"_s));
+    EXPECT_TRUE(one.takeUp(u"text"_s));
+    EXPECT_EQ(one.objectForKey(u"list"_s), u"base|theirs|ours"_s);
+    EXPECT_EQ(one.objectForKey(u"text"_s), u"ours"_s);
+    ASSERT_TRUE(QDir().rmdir(inTheWay));
+    EXPECT_TRUE(one.flush());
+    EXPECT_EQ(stored(), (Dictionary{{u"list"_s, u"theirs|theirs|base|theirs|ours"_s}, {u"text"_s, u"ours"_s}}));
+}
+
+TEST_F(DefaultsFile, TakesUpNothingOfAFileThatItCannotRead) {
+    store(Platform::PropertyList::toXml({{u"a"_s, 1}}));
+    PropertyListDefaults defaults(path());
+    ASSERT_EQ(defaults.objectForKey(u"a"_s), 1);
+    store("damaged");
+    EXPECT_FALSE(defaults.takeUp(u"a"_s));
+    EXPECT_EQ(defaults.objectForKey(u"a"_s), 1);
+    EXPECT_EQ(damagedFiles(), QStringList());
+    ASSERT_TRUE(QFile::remove(path()));
+    EXPECT_TRUE(defaults.takeUp(u"a"_s));
+    EXPECT_EQ(defaults.objectForKey(u"a"_s), 1) << "a file that was taken away comes back with the next save";
+}
+
 TEST_F(DefaultsFile, TwoProcessesThatWriteAtOnceLoseNothing) {
     constexpr int values = 60;
     const auto writer = [&](const QString& name) {
@@ -265,6 +321,9 @@ TEST_F(DefaultsFile, MayBeUsedFromManyThreads) {
             for (int i = 0; i < 200; ++i) {
                 defaults.setObject(u"%1-%2"_s.arg(thread).arg(i), i);
                 (void)defaults.objectForKey(u"%1-%2"_s.arg((thread + 1) % 4).arg(i));
+                if (i % 50 == thread) {
+                    EXPECT_TRUE(defaults.takeUp(u"%1-%2"_s.arg(thread).arg(i)));
+                }
             }
         });
     for (std::thread& thread : threads)
