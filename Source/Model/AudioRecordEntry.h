@@ -18,4 +18,12 @@ inline const QString Artwork = QStringLiteral("ID3ArtworkKey");   ///< image dat
 inline const QString AddDate = QStringLiteral("AddAudioDate");    ///< "%Y/%m/%d"
 inline const QString Length = QStringLiteral("AddAudioLength");   ///< float seconds
 inline const QString IsNew = QStringLiteral("ISNewAudioFileKey"); ///< transient, never stored
+
+/// The identity of an entry of a list; invalid when it has none. Looks at the map itself, without a copy: it is asked
+/// for each of ten thousand rows.
+[[nodiscard]] inline QVariant keyOf(const QVariant& entry) {
+    if (entry.typeId() != QMetaType::QVariantMap)
+        return {};
+    return static_cast<const QVariantMap*>(entry.constData())->value(NodeDataKey);
+}
 } // namespace AudioRecordEntry

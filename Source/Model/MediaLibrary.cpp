@@ -7,12 +7,14 @@
 #include "Platform/Foundation/UserDefaults.h"
 #include "Source/Control/PreferenceStore.h"
 #include "Source/Model/AudioRecordEntry.h"
+#include "Source/Model/LeafChanges.h"
 #include "Source/Model/MediaLibraryStore.h"
 
 #include <QLoggingCategory>
 #include <QSet>
 
 using namespace Qt::StringLiterals;
+using AudioRecordEntry::keyOf;
 using Platform::stringForm;
 using PreferenceStore::kMediaLibrarySavedKey;
 
@@ -24,16 +26,6 @@ const QString newRecord = u"new-record"_s;
 const QString allRecord = u"all-record"_s;
 const QString newRingtone = u"new-ringtone"_s;
 const QString allRingtone = u"all-ringtone"_s;
-
-// Beyond this a view is faster with a fresh list than with a row at a time.
-constexpr qsizetype mostRemovalsTold = 64;
-
-QVariant keyOf(const QVariant& entry) {
-    // The map itself, without a copy: an entry is looked at for each of ten thousand rows.
-    if (entry.typeId() != QMetaType::QVariantMap)
-        return {};
-    return static_cast<const QVariantMap*>(entry.constData())->value(AudioRecordEntry::NodeDataKey);
-}
 
 qsizetype lastIndexOfKey(const QString& key, const QVariantList& entries) {
     for (qsizetype i = entries.size() - 1; i >= 0; --i)
@@ -85,12 +77,24 @@ void MediaLibrary::loadMediaLibraryList() {
     if (!defaults)
         return;
     defaults->setMergeForKey(kMediaLibrarySavedKey, MediaLibraryStore::merge);
-    const QVariant stored = defaults->objectForKey(kMediaLibrarySavedKey);
+    takeStored(*defaults);
+}
+
+void MediaLibrary::takeUpMediaLibraryList() {
+    Platform::UserDefaults* const defaults = Platform::services().userDefaults;
+    if (!defaults || !defaults->takeUp(kMediaLibrarySavedKey))
+        return;
+    takeStored(*defaults);
+    updateLeaves();
+}
+
+void MediaLibrary::takeStored(Platform::UserDefaults& defaults) {
+    const QVariant stored = defaults.objectForKey(kMediaLibrarySavedKey);
     bool damaged = false;
     ringtones_ = MediaLibraryStore::entries(stored, u"ringtones"_s, damaged);
     records_ = MediaLibraryStore::entries(stored, u"records"_s, damaged);
     if (damaged)
-        keepAside(*defaults, stored);
+        keepAside(defaults, stored);
 }
 
 void MediaLibrary::store() const {
@@ -167,10 +171,7 @@ void MediaLibrary::addRingtoneFile(const Dictionary& entry) {
 
 void MediaLibrary::add(const Dictionary& entry, Collection collection) {
     addAudio(entry, collection == Collection::Records ? records_ : ringtones_);
-    store();
-    for (const auto& group : rootNode_->nonLeafNode())
-        for (const auto& leaf : group->nonLeafNode())
-            updateLeaf(*leaf);
+    updateLeavesAndStore();
 }
 
 void MediaLibrary::addAudio(const Dictionary& entry, QVariantList& toArray) {
@@ -236,7 +237,15 @@ void MediaLibrary::removeMediaLibraryArray(const QVariantList& entries) {
         if (path.startsWith(u'/'))
             (void)Platform::FileManager::removeFile(path);
     }
+    updateLeavesAndStore();
+}
+
+void MediaLibrary::updateLeavesAndStore() {
+    updateLeaves(); // first: once it is stored, the last owner of what is gone may be the worker that saves
     store();
+}
+
+void MediaLibrary::updateLeaves() {
     for (const auto& group : rootNode_->nonLeafNode())
         for (const auto& leaf : group->nonLeafNode())
             updateLeaf(*leaf);
@@ -245,43 +254,33 @@ void MediaLibrary::removeMediaLibraryArray(const QVariantList& entries) {
 void MediaLibrary::updateLeaf(MediaLibraryNode& leaf) {
     const QVariantList before = leaf.leafNode();
     const QVariantList after = contentOf(leaf.key());
-    const auto reset = [&] {
+    const auto steps = LeafChanges::between(before, after);
+    if (!steps) {
         leaf.setLeafNode(after);
         Q_EMIT leafReset(leaf.key());
-    };
-
-    if (after.size() > before.size()) {
-        const auto [old, added] = std::mismatch(before.cbegin(), before.cend(), after.cbegin());
-        const bool isOneRow = after.size() == before.size() + 1 && std::equal(old, before.cend(), added + 1);
-        if (!isOneRow)
-            return reset();
-        leaf.setLeafNode(after);
-        Q_EMIT entryInserted(leaf.key(), static_cast<int>(added - after.cbegin()));
         return;
     }
-    if (after.size() == before.size()) {
-        leaf.setLeafNode(after);
-        for (qsizetype i = 0; i < after.size(); ++i)
-            if (after[i] != before[i])
-                Q_EMIT entryReplaced(leaf.key(), static_cast<int>(i));
-        return;
-    }
-
-    QList<int> gone; // the last first
-    qsizetype kept = after.size() - 1;
-    for (qsizetype i = before.size() - 1; i >= 0; --i) {
-        if (kept >= 0 && before[i] == after[kept])
-            --kept;
+    if (steps->empty())
+        leaf.setLeafNode(after); // equal, but shared with the collection: looked through in no time
+    QVariantList shown = before;
+    for (std::size_t i = 0; i < steps->size(); ++i) {
+        const auto [kind, index] = (*steps)[i];
+        // The last step leads to the new list itself: most often there is one step, and nothing is copied.
+        if (i + 1 == steps->size())
+            shown = after;
+        else if (kind == LeafChanges::Step::Kind::Removed)
+            shown.removeAt(index);
+        else if (kind == LeafChanges::Step::Kind::Inserted)
+            shown.insert(index, after[index]);
         else
-            gone.append(static_cast<int>(i));
-    }
-    if (kept >= 0 || gone.size() > mostRemovalsTold)
-        return reset();
-    QVariantList left = before;
-    for (const int index : gone) {
-        left.removeAt(index);
-        leaf.setLeafNode(left);
-        Q_EMIT entryRemoved(leaf.key(), index);
+            shown[index] = after[index];
+        leaf.setLeafNode(shown);
+        if (kind == LeafChanges::Step::Kind::Removed)
+            Q_EMIT entryRemoved(leaf.key(), index);
+        else if (kind == LeafChanges::Step::Kind::Inserted)
+            Q_EMIT entryInserted(leaf.key(), index);
+        else
+            Q_EMIT entryReplaced(leaf.key(), index);
     }
 }
 

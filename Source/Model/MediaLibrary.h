@@ -7,6 +7,10 @@
 #include <QObject>
 #include <QStringList>
 
+namespace Platform {
+class UserDefaults;
+}
+
 /// The two collections of audio files that the program made, newest first, their tree, and their store. Every change is
 /// stored at once (in memory; the file follows behind) and shown in all leaves. Main thread only.
 class MediaLibrary : public QObject {
@@ -22,6 +26,8 @@ public:
     /// Reads the stored collections. What is stored in another shape counts as empty; it is kept aside in the defaults
     /// under the same key with the ending ".damaged", the next damaged one with ".damaged-2" and so on.
     void loadMediaLibraryList();
+    /// Takes over what other processes have stored since; views hear of each row. What cannot be read changes nothing.
+    void takeUpMediaLibraryList();
     /// Stores both collections and loads every leaf anew.
     void saveMediaLibraryList();
     void loadDefaultMediaLibrary();
@@ -57,16 +63,20 @@ public:
 
 Q_SIGNALS:
     // What changed in a leaf, so that views need not load it again. Indexes are of the leaf's entries; the leaf has
-    // changed by just this one row when the signal comes. Several rows leave from the last to the first.
+    // changed by just this one row when the signal comes. Several rows leave from the last to the first, and then come
+    // from the first to the last.
     void entryInserted(const QString& leafKey, int index);
     void entryReplaced(const QString& leafKey, int index);
     void entryRemoved(const QString& leafKey, int index);
-    /// The leaf was loaded anew as a whole, or lost more rows at once than are worth a signal each.
+    /// The leaf was loaded anew as a whole, or changed in more rows at once than are worth a signal each.
     void leafReset(const QString& leafKey);
 
 private:
     void add(const Dictionary& entry, Collection collection);
     void store() const;
+    void takeStored(Platform::UserDefaults& defaults);
+    void updateLeaves();
+    void updateLeavesAndStore();
     /// Brings one leaf up to date with a signal for each row that differs.
     void updateLeaf(MediaLibraryNode& leaf);
     [[nodiscard]] QVariantList contentOf(const QString& leafKey) const;

@@ -15,7 +15,7 @@ const QString ringtonesName = u"ringtones"_s;
 const QString recordsName = u"records"_s;
 
 QString keyOf(const QVariant& entry) {
-    return entry.toMap().value(AudioRecordEntry::NodeDataKey).toString();
+    return AudioRecordEntry::keyOf(entry).toString();
 }
 
 QHash<QString, QVariant> byKey(const QVariantList& entries) {

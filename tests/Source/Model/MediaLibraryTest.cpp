@@ -438,3 +438,43 @@ TEST(MediaLibraryStore, LosesNoEntryOfTwoLibrariesOnOneFile) {
     all.sort();
     EXPECT_EQ(all, (QStringList{u"command 1"_s, u"command 2"_s, u"window 2"_s}));
 }
+
+TEST(MediaLibraryStore, IsTakenUpRowByRowByALibraryBesideAnother) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.plist"_s);
+    const Platform::ServicesScope scope;
+    Platform::PropertyListDefaults one(path);
+    Platform::services().userDefaults = &one;
+    MediaLibrary window;
+    for (const QString& key : {u"a"_s, u"b"_s, u"c"_s})
+        window.addRecordFile(newEntry(key));
+    ASSERT_TRUE(one.flush());
+
+    {
+        Platform::PropertyListDefaults other(path);
+        Platform::services().userDefaults = &other;
+        MediaLibrary commandLine;
+        commandLine.removeMediaLibraryArray({entry(u"b"_s)});
+        commandLine.addRecordFile(entry(u"a"_s, u"Title"_s));
+        commandLine.addRecordFile(newEntry(u"d"_s));
+        commandLine.addRingtoneFile(entry(u"r"_s));
+        ASSERT_TRUE(other.flush());
+    }
+    Platform::services().userDefaults = &one;
+    Notes notes(window);
+    window.takeUpMediaLibraryList();
+    EXPECT_EQ(notes.lines, (QStringList{u"-new-record 1"_s, u"=new-record 1"_s, u"-all-record 1"_s, u"+all-record 0"_s,
+                                        u"=all-record 2"_s, u"+all-ringtone 0"_s}));
+    EXPECT_EQ(window.records(), (QVariantList{entry(u"d"_s), entry(u"c"_s), entry(u"a"_s, u"Title"_s)}));
+    EXPECT_EQ(keys(window.ringtones()), QStringList{u"r"_s});
+    notes.lines.clear();
+    window.takeUpMediaLibraryList();
+    EXPECT_EQ(notes.lines, QStringList());
+
+    // What was taken up can go, and stays away.
+    window.removeMediaLibraryArray({entry(u"d"_s)});
+    ASSERT_TRUE(one.flush());
+    Platform::PropertyListDefaults fresh(path);
+    Platform::services().userDefaults = &fresh;
+    EXPECT_EQ(keys(MediaLibrary().records()), (QStringList{u"c"_s, u"a"_s}));
+}

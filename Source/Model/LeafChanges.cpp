@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/Model/LeafChanges.h"
+
+#include "Platform/Foundation/Dictionary.h"
+#include "Source/Model/AudioRecordEntry.h"
+
+#include <QSet>
+
+#include <algorithm>
+#include <iterator>
+
+using AudioRecordEntry::keyOf;
+
+namespace LeafChanges {
+namespace {
+
+// Beyond this a view is faster with a fresh list than with a row at a time.
+constexpr qsizetype mostSteps = 64;
+
+bool isSameEntry(const QVariant& one, const QVariant& other) {
+    const QVariant key = keyOf(one);
+    return key.isValid() ? key == keyOf(other) : one == other;
+}
+
+} // namespace
+
+std::optional<std::vector<Step>> between(const QVariantList& before, const QVariantList& after) {
+    // Lists of ten thousand differ in a few rows: the rest is passed over without a look at a key.
+    const auto [first, firstNow] = std::mismatch(before.cbegin(), before.cend(), after.cbegin(), after.cend());
+    const auto [rest, restNow] = std::mismatch(before.crbegin(), std::make_reverse_iterator(first), after.crbegin(),
+                                               std::make_reverse_iterator(firstNow));
+    const auto last = rest.base();
+    const auto lastNow = restNow.base();
+    if (std::abs((last - first) - (lastNow - firstNow)) > mostSteps)
+        return std::nullopt;
+
+    QSet<QString> keysNow;
+    for (auto it = firstNow; it != lastNow; ++it)
+        keysNow.insert(Platform::stringForm(keyOf(*it)));
+    const auto isGone = [&](const QVariant& entry) {
+        const QVariant key = keyOf(entry);
+        return key.isValid() ? !keysNow.contains(Platform::stringForm(key))
+                             : std::find(firstNow, lastNow, entry) == lastNow;
+    };
+    std::vector<Step> steps;
+    QVariantList kept; // the last first
+    for (auto it = last; it != first;) {
+        if (isGone(*--it))
+            steps.push_back({Step::Kind::Removed, static_cast<int>(it - before.cbegin())});
+        else
+            kept.append(*it);
+    }
+    for (auto it = firstNow; it != lastNow; ++it) {
+        const int index = static_cast<int>(it - after.cbegin());
+        if (kept.isEmpty() || !isSameEntry(kept.last(), *it))
+            steps.push_back({Step::Kind::Inserted, index});
+        else if (kept.takeLast() != *it)
+            steps.push_back({Step::Kind::Replaced, index});
+    }
+    if (!kept.isEmpty() || steps.size() > mostSteps)
+        return std::nullopt;
+    return steps;
+}
+
+} // namespace LeafChanges
