@@ -88,7 +88,9 @@ QByteArray ControlRequests::addToLibrary(const QByteArray& json) const {
     if (entry.value(AudioRecordEntry::NodeDataKey).toString().isEmpty())
         entry.remove(AudioRecordEntry::NodeDataKey);
     RecordStateControllerDelegate::makeIdentity(entry, path);
-    (library_ ? *library_ : MediaLibrary::shareLibrary()).addRecordFile(entry);
+    MediaLibrary& library = library_ ? *library_ : MediaLibrary::shareLibrary();
+    library.takeUpMediaLibraryList(); // others may be among it that were stored past this process
+    library.addRecordFile(entry);
     return Ok;
 }
 

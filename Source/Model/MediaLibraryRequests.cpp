@@ -36,6 +36,7 @@ QStringList texts(const QJsonValue& array) {
 
 Removal remove(const QStringList& keys) {
     MediaLibrary& library = MediaLibrary::shareLibrary();
+    library.takeUpMediaLibraryList();
     Removal result;
     QVariantList entries;
     for (const QString& key : keys) {
@@ -67,6 +68,7 @@ bool retag(const QString& path, const Dictionary& values) {
                                   QFileInfo(other).canonicalFilePath() == real.filePath());
     };
     MediaLibrary& library = MediaLibrary::shareLibrary();
+    library.takeUpMediaLibraryList();
     bool changed = false;
     const auto retagAll = [&](const QVariantList& entries, void (MediaLibrary::*put)(const Dictionary&)) {
         for (const QVariant& object : entries) {

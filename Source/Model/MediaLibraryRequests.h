@@ -10,7 +10,8 @@
 #include <QStringList>
 
 /// Changes of the library that another process asks of the running window, so that its views follow at once. A request
-/// and its answer are single lines; they go over Platform::RunningProgram.
+/// and its answer are single lines; they go over Platform::RunningProgram. What others stored past the window is taken
+/// up first: it can be asked for like all that the window shows.
 namespace MediaLibraryRequests {
 
 /// What became of a removal. Nothing is removed when a key is unknown.

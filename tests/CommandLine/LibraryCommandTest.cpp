@@ -206,6 +206,15 @@ protected:
         return process.readAllStandardOutput();
     }
 
+    /// What a subcommand does that does not reach the window.
+    void addBesideTheWindow(const Dictionary& entry) {
+        const auto defaults = Platform::createUserDefaults(identifier);
+        Platform::services().userDefaults = defaults.get();
+        MediaLibrary().addRecordFile(entry);
+        EXPECT_TRUE(defaults->flush());
+        Platform::services().userDefaults = defaults_.get();
+    }
+
     const Platform::ServicesScope scope_;
     std::unique_ptr<Platform::UserDefaults> defaults_;
     MediaLibrary& shared_ = MediaLibrary::shareLibrary();
@@ -239,4 +248,29 @@ TEST_F(LibraryCommandBesideAWindow, LetsItShowTheTagsThatWereWritten) {
     EXPECT_EQ(shared_.records(), (QVariantList{other, expected}));
     EXPECT_EQ(replaced.count(), 1);
     EXPECT_EQ(listed()[u"records"_s][1][u"title"_s], u"new\nline"_s);
+}
+
+TEST_F(LibraryCommandBesideAWindow, LetsItRemoveWhatAnotherProcessStored) {
+    const Dictionary stays = entry(u"stays.m4a"_s);
+    const Dictionary gone = entry(u"gone.m4a"_s);
+    open({stays});
+    addBesideTheWindow(gone);
+    (void)ask({u"library"_s, u"remove"_s, keyOf(gone)});
+    EXPECT_EQ(shared_.records(), QVariantList{stays});
+    EXPECT_FALSE(QFile::exists(gone.value(AudioRecordEntry::SavePath).toString()));
+    EXPECT_EQ(listed()[u"records"_s].toArray().size(), 1);
+}
+
+TEST_F(LibraryCommandBesideAWindow, LetsItShowTheTagsOfWhatAnotherProcessStored) {
+    const Dictionary known = entry(u"known.m4a"_s);
+    const Dictionary one = entry(u"one.m4a"_s);
+    const QString path = one.value(AudioRecordEntry::SavePath).toString();
+    ASSERT_TRUE(Mpeg4Files::make(path));
+    open({known});
+    addBesideTheWindow(one);
+    const QSignalSpy inserted(&shared_, &MediaLibrary::entryInserted);
+    (void)ask({u"tag"_s, path, u"--title"_s, u"new"_s});
+    EXPECT_EQ(inserted.count(), 1);
+    EXPECT_EQ(listed()[u"records"_s].toArray().size(), 2);
+    EXPECT_EQ(listed()[u"records"_s][0][u"title"_s], u"new"_s);
 }

@@ -4,6 +4,7 @@
 
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
+#include "Source/Model/MediaLibraryStore.h"
 #include "tests/Source/Control/RecordFixture.h"
 
 using namespace Qt::StringLiterals;
@@ -97,6 +98,14 @@ TEST_F(ControlRequestsTest, AddsARecordingUnderTheIdentityThatItComesWith) {
         const QString made = library->records().front().toMap().value(AudioRecordEntry::NodeDataKey).toString();
         EXPECT_TRUE(made.startsWith(u"/music/b.m4a_"_s)) << qPrintable(made);
     }
+}
+
+TEST_F(ControlRequestsTest, TakesUpWhatOthersStoredBeforeItAdds) {
+    const Dictionary theirs{{AudioRecordEntry::NodeDataKey, u"theirs"_s}};
+    defaults.setObject(PreferenceStore::kMediaLibrarySavedKey, MediaLibraryStore::value({theirs}, {}));
+    EXPECT_EQ(requests->answer(ControlRequests::libraryAdd(u"/music/a.m4a"_s, {})), "ok");
+    ASSERT_EQ(library->records().size(), 2);
+    EXPECT_EQ(library->records().last(), theirs);
 }
 
 TEST_F(ControlRequestsTest, HandsRemovalsToTheLibrary) {
