@@ -26,11 +26,11 @@ std::optional<int> runCommand(int argc, char** argv) {
         std::printf("usage: sonaphex                    opens the window\n");
         for (const auto& [word, command] : allCommands())
             std::printf("       sonaphex %s\n           %s\n", command.usage, command.summary);
-        return Done;
+        return ended(Done);
     }
     if (name == u"--version"_s) {
         std::printf("sonaphex %s\n", SONAPHEX_VERSION);
-        return Done;
+        return ended(Done);
     }
     if (const auto status = runOneOf(allCommands(), argc, argv))
         return status;

@@ -10,6 +10,7 @@
 
 #include <QCoreApplication>
 
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
 
@@ -19,6 +20,7 @@ namespace CommandLine {
 
 namespace {
 Platform::LinuxServices* installed = nullptr; // while runOneOf() runs one; tests bring services of their own
+int outputError = 0;                          // why something could not be printed
 } // namespace
 
 std::optional<int> runOneOf(const Commands& known, int argc, char** argv) {
@@ -29,7 +31,7 @@ std::optional<int> runOneOf(const Commands& known, int argc, char** argv) {
         return {};
     if (argc > 2 && (std::strcmp(argv[2], "--help") == 0 || std::strcmp(argv[2], "-h") == 0)) {
         std::printf("usage: sonaphex %s\n           %s\n", found->second.usage, found->second.summary);
-        return Done;
+        return ended(Done);
     }
     QCoreApplication application(argc, argv);
     Platform::LinuxServices services;
@@ -37,7 +39,7 @@ std::optional<int> runOneOf(const Commands& known, int argc, char** argv) {
     installed = &services;
     const int status = found->second.run(QCoreApplication::arguments().mid(2));
     installed = nullptr;
-    return status;
+    return ended(status);
 }
 
 bool startAudio(QString& why) {
@@ -69,8 +71,16 @@ int wrongUsage(const Command& command, const QString& what) {
 }
 
 void print(const QString& line) {
-    std::fprintf(stdout, "%s\n", qUtf8Printable(line));
-    std::fflush(stdout);
+    if (std::fprintf(stdout, "%s\n", qUtf8Printable(line)) < 0 || std::fflush(stdout) != 0)
+        outputError = errno;
+}
+
+int ended(int status) {
+    if (std::fflush(stdout) != 0)
+        outputError = errno;
+    if (status != Done || (outputError == 0 && std::ferror(stdout) == 0))
+        return status;
+    return fail(u"standard output could not be written: "_s + qt_error_string(outputError));
 }
 
 } // namespace CommandLine

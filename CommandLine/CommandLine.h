@@ -49,5 +49,8 @@ int fail(const QString& what);
 int wrongUsage(const Command& command, const QString& what);
 /// One line (or a JSON document) on standard output, flushed.
 void print(const QString& line);
+/// What a run ends with after its last output: @p status, or Failed, with a line on standard error, when all was well
+/// but for output that could not be written.
+[[nodiscard]] int ended(int status);
 
 } // namespace CommandLine

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The program's way in: what it answers before it does anything.
+#include "tests/support/Environment.h"
+#include "tests/support/Mpeg4Files.h"
 #include "tests/support/RunTool.h"
 
 #include <gtest/gtest.h>
@@ -30,6 +32,35 @@ TEST(Program, TellsItsVersionAndItsCommands) {
             EXPECT_TRUE(help.output.startsWith("usage: sonaphex " + command.toUtf8())) << help.output.data();
             EXPECT_EQ(help.output.count("sonaphex"), 1);
         }
+}
+
+TEST(Program, FailsWhenItsAnswerCannotBeWritten) {
+    const QTemporaryDir folder;
+    const EnvironmentScope config("XDG_CONFIG_HOME", folder.path().toUtf8());
+    const QString file = folder.filePath(u"a.m4a"_s);
+    ASSERT_TRUE(Mpeg4Files::make(file));
+    for (const QString& arguments : {u"library"_s, u"library --json"_s, u"tag a.m4a"_s, u"tag a.m4a --json"_s,
+                                     u"tag a.m4a --title x --json"_s, u"help"_s, u"record --help"_s, u"--version"_s}) {
+        QProcess process;
+        process.setWorkingDirectory(folder.path());
+        process.setStandardOutputFile(u"/dev/full"_s);
+        process.start(QStringLiteral(SONAPHEX_PROGRAM), arguments.split(u' '));
+        ASSERT_TRUE(process.waitForFinished(60000));
+        EXPECT_EQ(process.exitCode(), 1) << qPrintable(arguments);
+        EXPECT_EQ(process.readAllStandardError(),
+                  "sonaphex: standard output could not be written: No space left on device\n")
+            << qPrintable(arguments);
+    }
+    // What says why it failed already says no more, and what has nothing to say did all that it was asked.
+    for (const auto& [arguments, status] : std::map<QStringList, int>{
+             {{u"tag"_s, u"missing"_s}, 1}, {{u"tag"_s}, 2}, {{u"tag"_s, file, u"--title"_s, u"x"_s}, 0}}) {
+        QProcess process;
+        process.setStandardOutputFile(u"/dev/full"_s);
+        process.start(QStringLiteral(SONAPHEX_PROGRAM), arguments);
+        ASSERT_TRUE(process.waitForFinished(60000));
+        EXPECT_EQ(process.exitCode(), status);
+        EXPECT_FALSE(process.readAllStandardError().contains("standard output"));
+    }
 }
 
 TEST(Program, LoadsNoLibraryOfWindowsOrContainersToRecord) {
