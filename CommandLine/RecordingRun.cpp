@@ -171,8 +171,7 @@ void RecordingRun::tellNotices() {
 void RecordingRun::addRecordFile(const QString& path, const Dictionary& tags) {
     // The identity comes first: a window that is too late to answer still does what it was asked, and then adds this
     // very entry once more, not another one.
-    Dictionary entry = tags;
-    makeIdentity(entry, path);
+    const Dictionary entry = MediaLibrary::entryForFile(path, tags);
     QByteArray rest;
     if (const auto answer = askWindow(ControlRequests::libraryAdd(path, entry));
         answer && ControlRequests::isOk(*answer, rest))

@@ -82,15 +82,13 @@ QByteArray ControlRequests::addToLibrary(const QByteArray& json) const {
     if (!QFileInfo(path).isAbsolute())
         return failed("there is no path");
     Dictionary entry = object.value(u"tags").toObject().toVariantMap();
-    entry.insert(AudioRecordEntry::SavePath, path);
     // JSON has one kind of number.
     entry.insert(AudioRecordEntry::Year, entry.value(AudioRecordEntry::Year).toInt());
     if (entry.value(AudioRecordEntry::NodeDataKey).toString().isEmpty())
         entry.remove(AudioRecordEntry::NodeDataKey);
-    RecordStateControllerDelegate::makeIdentity(entry, path);
     MediaLibrary& library = library_ ? *library_ : MediaLibrary::shareLibrary();
     library.takeUpMediaLibraryList(); // others may be among it that were stored past this process
-    library.addRecordFile(entry);
+    library.addRecordFile(MediaLibrary::entryForFile(path, entry));
     return Ok;
 }
 

@@ -14,9 +14,8 @@ class RecordStateController;
 ///
 ///     start-stop | pause-resume | split     as the buttons do; refused where the button is disabled
 ///     status                                "ok {...}", see status()
-///     library-add {"path": P, "tags": {…}}  a recording that a subcommand has finished; its tags bring its identity,
-///     so
-///                                           that a request that was given up can be done all the same
+///     library-add {"path": P, "tags": {…}}  a recording that a subcommand has finished. The tags bring its
+///                                           identity: a request that was given up may be done all the same
 ///     library-remove …                      as MediaLibraryRequests says
 class ControlRequests {
 public:

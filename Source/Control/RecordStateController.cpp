@@ -26,17 +26,7 @@ Q_LOGGING_CATEGORY(recordLog, "sonaphex.record")
 } // namespace
 
 void RecordStateControllerDelegate::addRecordFile(const QString& path, const Dictionary& tags) {
-    Dictionary entry = tags;
-    makeIdentity(entry, path);
-    MediaLibrary::shareLibrary().addRecordFile(entry);
-}
-
-void RecordStateControllerDelegate::makeIdentity(Dictionary& entry, const QString& path) {
-    if (!entry.contains(AudioRecordEntry::NodeDataKey)) {
-        const double now = Platform::services().clock->timeIntervalSinceReferenceDate();
-        entry.insert(AudioRecordEntry::NodeDataKey, path + u'_' + QString::number(now, 'f', 6));
-    }
-    entry.insert(AudioRecordEntry::SavePath, path);
+    MediaLibrary::shareLibrary().addRecordFile(MediaLibrary::entryForFile(path, tags));
 }
 
 RecordStateController::RecordStateController(EngineFactory factory, QObject* parent)

@@ -21,8 +21,6 @@ public:
     virtual void updateRecordStateAction() {}
     /// The default makes the entry (identity, path) and puts it into the shared library.
     virtual void addRecordFile(const QString& path, const Dictionary& tags);
-    /// Gives an entry its path, and its identity when it has none.
-    static void makeIdentity(Dictionary& entry, const QString& path);
     /// The user accepted the add-on prompt.
     virtual void insertTheSystemAudioRecordDevice() {}
     /// The user closed the window while nothing records.

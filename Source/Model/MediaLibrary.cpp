@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/Model/MediaLibrary.h"
 
+#include "Platform/Foundation/Clock.h"
 #include "Platform/Foundation/FileManager.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/UserDefaults.h"
@@ -159,6 +160,16 @@ QVariantList MediaLibrary::mediaNodes(const QVariantList& entries, bool isNew) c
         if (newKeys.contains(stringForm(keyOf(entry))))
             result.append(entry);
     return result;
+}
+
+Dictionary MediaLibrary::entryForFile(const QString& path, const Dictionary& tags) {
+    Dictionary entry = tags;
+    if (!entry.contains(AudioRecordEntry::NodeDataKey)) {
+        const double now = Platform::services().clock->timeIntervalSinceReferenceDate();
+        entry.insert(AudioRecordEntry::NodeDataKey, path + u'_' + QString::number(now, 'f', 6));
+    }
+    entry.insert(AudioRecordEntry::SavePath, path);
+    return entry;
 }
 
 void MediaLibrary::addRecordFile(const Dictionary& entry) {

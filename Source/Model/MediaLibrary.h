@@ -35,6 +35,8 @@ public:
     void loadMediaLibraryNodeLeaf(MediaLibraryNode& leaf);
     /// A copy of the entries; of the new ones only with @p isNew.
     [[nodiscard]] QVariantList mediaNodes(const QVariantList& entries, bool isNew) const;
+    /// The entry of a file: its tags, its path, and an identity made of path and time when they bring none.
+    [[nodiscard]] static Dictionary entryForFile(const QString& path, const Dictionary& tags);
     /// Puts the entry on top, or in the place of the entry with its key.
     void addRecordFile(const Dictionary& entry);
     void addRingtoneFile(const Dictionary& entry);

@@ -79,13 +79,7 @@ void LibraryPresenter::updateDefaultListStyle() {
 }
 
 Dictionary LibraryPresenter::makeAudioLibraryDataByFile(const QString& path, const Dictionary& tags) {
-    Dictionary entry = tags;
-    if (!entry.contains(AudioRecordEntry::NodeDataKey)) {
-        const double now = Platform::services().clock->timeIntervalSinceReferenceDate();
-        entry.insert(AudioRecordEntry::NodeDataKey, path + u'_' + QString::number(now, 'f', 6));
-    }
-    entry.insert(AudioRecordEntry::SavePath, path);
-    return entry;
+    return MediaLibrary::entryForFile(path, tags);
 }
 
 void LibraryPresenter::addRecordFile(const QString& path, const Dictionary& tags) {
