@@ -27,11 +27,13 @@ bool isSameEntry(const QVariant& one, const QVariant& other) {
 
 std::optional<std::vector<Step>> between(const QVariantList& before, const QVariantList& after) {
     // Lists of ten thousand differ in a few rows: the rest is passed over without a look at a key.
-    const auto [first, firstNow] = std::mismatch(before.cbegin(), before.cend(), after.cbegin(), after.cend());
-    const auto [rest, restNow] = std::mismatch(before.crbegin(), std::make_reverse_iterator(first), after.crbegin(),
-                                               std::make_reverse_iterator(firstNow));
-    const auto last = rest.base();
-    const auto lastNow = restNow.base();
+    const auto top = std::mismatch(before.cbegin(), before.cend(), after.cbegin(), after.cend());
+    const auto first = top.first;
+    const auto firstNow = top.second;
+    const auto bottom = std::mismatch(before.crbegin(), std::make_reverse_iterator(first), after.crbegin(),
+                                      std::make_reverse_iterator(firstNow));
+    const auto last = bottom.first.base();
+    const auto lastNow = bottom.second.base();
     if (std::abs((last - first) - (lastNow - firstNow)) > mostSteps)
         return std::nullopt;
 
