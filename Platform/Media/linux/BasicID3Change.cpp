@@ -9,9 +9,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
+#include <sys/stat.h>
 
-#include <QFile>
-#include <QFileInfo>
 #include <QLoggingCategory>
 
 #include <taglib/mp4coverart.h>
@@ -139,21 +139,21 @@ bool BasicID3Change::setMpeg4ID3Information(const QString& path, const QString& 
 }
 
 std::optional<BasicID3Change::Tags> BasicID3Change::read(const QString& path, QString* whyNot) {
-    restoreInterruptedSave(path);
     const auto refuse = [&](const QString& why) {
         if (whyNot)
             *whyNot = u"cannot read the tags of %1: %2"_s.arg(path, why);
         return std::nullopt;
     };
-    QFile file(path);
-    if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
-        return refuse(u"not a file"_s);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return refuse(file.errorString());
-    const PatchedFile content(file.handle(), file.size());
+    Descriptor file;
+    struct stat status {};
+    QString why;
+    if (!Media::openForReading(path, file, why))
+        return refuse(why);
+    if (::fstat(file.get(), &status) != 0)
+        return refuse(qt_error_string(errno));
+    const PatchedFile content(file.get(), status.st_size);
     static const std::array<QByteArray, 7> ours{titleItem, artistItem,        albumItem,         yearItem,
                                                 genreItem, numberedGenreItem, Media::artworkItem};
-    QString why;
     const auto atoms = Media::readMpeg4Atoms(content, why);
     if (!atoms)
         return refuse(why);

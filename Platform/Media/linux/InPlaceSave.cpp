@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/linux/InPlaceSave.h"
 
-#include "Platform/Foundation/linux/Descriptor.h"
 #include "Platform/Media/linux/Mpeg4Atoms.h"
 
 #include <algorithm>
@@ -69,8 +68,10 @@ QString undoPath(const QString& path, const Identity& identity) {
     return QFileInfo(path).path() + "/.sonaphex-"_L1 + QLatin1StringView(identity.name) + ".undo"_L1;
 }
 
-/// Opens (@p access is O_RDONLY or O_RDWR) and takes the lock; the file that is locked is the one that has the name.
-bool openLocked(const QString& path, int access, std::chrono::seconds patience, Descriptor& file, QString& why) {
+/// Opens (@p access is O_RDONLY or O_RDWR) and takes the lock (@p kind is LOCK_EX or LOCK_SH); the file that is locked
+/// is the one that has the name. False leaves a file open that only is in use for longer than the patience.
+bool openLocked(const QString& path, int access, int kind, std::chrono::seconds patience, Descriptor& file,
+                QString& why) {
     const auto deadline = std::chrono::steady_clock::now() + patience;
     const QByteArray name = QFile::encodeName(path);
     for (;;) {
@@ -79,13 +80,15 @@ bool openLocked(const QString& path, int access, std::chrono::seconds patience, 
         struct stat named {};
         if (!file || ::fstat(file.get(), &opened) != 0) {
             why = qt_error_string(errno);
+            file.reset(-1);
             return false;
         }
         if (!S_ISREG(opened.st_mode)) {
+            file.reset(-1);
             why = u"not a file"_s;
             return false;
         }
-        if (::flock(file.get(), LOCK_EX | LOCK_NB) == 0) {
+        if (::flock(file.get(), kind | LOCK_NB) == 0) {
             if (::stat(name.constData(), &named) == 0 && named.st_ino == opened.st_ino && named.st_dev == opened.st_dev)
                 return true;
         } else if (errno != EWOULDBLOCK && errno != EINTR) {
@@ -331,7 +334,7 @@ bool saveInPlace(const QString& givenPath, const std::function<bool(PatchedFile&
     const QString real = QFileInfo(givenPath).canonicalFilePath();
     const QString path = real.isEmpty() ? givenPath : real;
     Descriptor file;
-    if (!openLocked(path, O_RDWR, lockPatience, file, why))
+    if (!openLocked(path, O_RDWR, LOCK_EX, lockPatience, file, why))
         return false;
     if (restoreLocked(file.get(), path) == Restored::Failed) {
         // Another save would write its own copy over the one that is still needed.
@@ -391,7 +394,7 @@ bool saveCopy(const QString& source, const QString& destination,
     // Locked although it is only read: a save in between would move what is still to be copied.
     Descriptor file;
     struct stat status {};
-    if (!openLocked(source, O_RDONLY, lockPatience, file, why))
+    if (!openLocked(source, O_RDONLY, LOCK_EX, lockPatience, file, why))
         return false;
     if (::fstat(file.get(), &status) != 0) {
         why = qt_error_string(errno);
@@ -413,6 +416,12 @@ bool saveCopy(const QString& source, const QString& destination,
     return writeWhole(real.isEmpty() ? destination : real, file.get(), content, why);
 }
 
+bool openForReading(const QString& path, Descriptor& file, QString& why) {
+    restoreInterruptedSave(path);
+    // Who holds the file for longer may be no save of ours: better a look at it than none.
+    return openLocked(path, O_RDONLY, LOCK_SH, readerPatience, file, why) || file;
+}
+
 bool restoreInterruptedSave(const QString& givenPath) {
     const QString path = QFileInfo(givenPath).canonicalFilePath();
     if (path.isEmpty())
@@ -427,7 +436,8 @@ bool restoreInterruptedSave(const QString& givenPath) {
     }
     Descriptor file;
     QString why;
-    return openLocked(path, O_RDWR, readerPatience, file, why) && restoreLocked(file.get(), path) == Restored::Yes;
+    return openLocked(path, O_RDWR, LOCK_EX, readerPatience, file, why) &&
+           restoreLocked(file.get(), path) == Restored::Yes;
 }
 
 } // namespace Platform::Media

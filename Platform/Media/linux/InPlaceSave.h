@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Foundation/linux/Descriptor.h"
 #include "Platform/Media/linux/PatchedFile.h"
 
 #include <functional>
@@ -23,6 +24,10 @@ namespace Platform::Media {
 /// the source is only read. @return false, with the reason in @p why, and nothing new at the destination.
 [[nodiscard]] bool saveCopy(const QString& source, const QString& destination,
                             const std::function<bool(PatchedFile&, QString& why)>& edit, QString& why);
+
+/// Opens a file whose tags are to be read, so that no save goes on meanwhile, and undoes one that a crash interrupted.
+/// @return false, with the reason in @p why, when it is no file that can be opened.
+[[nodiscard]] bool openForReading(const QString& path, Descriptor& file, QString& why);
 
 /// Undoes a save that a crash interrupted; a look at one name when there was none. @return whether something was put
 /// back.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What a save of tags touches on the disk, and what it leaves alone.
 #include "Platform/Media/BasicID3Change.h"
+#include "tests/support/ChildProcess.h"
 #include "tests/support/Mpeg4Files.h"
 #include "tests/support/WaitFor.h"
 
@@ -127,6 +128,20 @@ TEST_F(InPlaceSave, TakesBackAFileThatAPowerCutLeftUnsound) {
     EXPECT_EQ(BasicID3Change::read(path())->title, u"Before"_s);
     EXPECT_EQ(Mpeg4Files::contentOf(path()), before_);
     EXPECT_TRUE(hidden().isEmpty());
+}
+
+TEST_F(InPlaceSave, IsWaitedForByWhoeverReads) {
+    ASSERT_TRUE(Mpeg4Files::make(path(), Mpeg4Files::Shape::IndexAtEnd, 5));
+    ChildProcess writer([this] {
+        for (int i = 0;; ++i)
+            if (!BasicID3Change::writeTexts(path(), {.title = QString(1 + i * 997 % 9000, u'x')}).isEmpty())
+                return 1;
+    });
+    for (int i = 0; i < 1000; ++i) {
+        QString why;
+        ASSERT_TRUE(BasicID3Change::read(path(), &why)) << i << ": " << qPrintable(why);
+    }
+    writer.kill();
 }
 
 TEST_F(InPlaceSave, PutsNoFileInThePlaceOfSomethingElse) {
