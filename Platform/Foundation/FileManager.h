@@ -37,8 +37,12 @@ using Problem = QString;
 /// The place for what could not be finished: $XDG_DATA_HOME/<bundle id>/Unfinished, made when missing.
 [[nodiscard]] QString unfinishedFolder();
 
-/// Moves @p path into unfinishedFolder() under a free name made from @p wishedName, and answers where it is; the old
-/// path when it could not be moved.
+/// Moves @p path into @p folder under a free name made from @p wishedName. @p landed receives the path used.
+[[nodiscard]] Problem moveIntoFolder(const QString& path, const QString& folder, const QString& wishedName,
+                                     QString& landed);
+
+/// moveIntoFolder() with unfinishedFolder(). @return where the file is; the old path when it could not be moved. What
+/// lies in a temporary folder needs MovedFiles::setAside(), or it goes with the folder.
 [[nodiscard]] QString setAside(const QString& path, const QString& wishedName);
 
 } // namespace FileManager

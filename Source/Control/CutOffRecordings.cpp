@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/Control/CutOffRecordings.h"
 
-#include "Platform/Foundation/FileManager.h"
+#include "Platform/Foundation/MovedFiles.h"
 #include "Source/Control/PreferenceStore.h"
 
 #include <QDir>
@@ -19,9 +19,9 @@ void keep() {
     // The files may still grow: a writer that holds one goes on in it under its new name.
     const QDir folder(g_strTmpPath);
     for (const QFileInfo& file : folder.entryInfoList({u"BuiltInA*"_s, u"ComputerA*"_s}, QDir::Files)) {
-        if (file.size() == 0)
+        if (file.size() == 0 || Platform::MovedFiles::isKept(file.filePath()))
             continue;
-        const QString kept = Platform::FileManager::setAside(file.filePath(), file.fileName());
+        const QString kept = Platform::MovedFiles::setAside(file.filePath(), file.fileName());
         std::fprintf(stderr, "sonaphex: ended in the middle of a recording: it is kept in %s\n", qUtf8Printable(kept));
     }
 }

@@ -5,6 +5,7 @@
 #include "Platform/Foundation/Clock.h"
 #include "Platform/Foundation/FileManager.h"
 #include "Platform/Foundation/MainQueue.h"
+#include "Platform/Foundation/MovedFiles.h"
 #include "Platform/Foundation/Services.h"
 #include "Source/Control/ID3ChangeControl.h"
 #include "Source/Control/ToolControl.h"
@@ -13,6 +14,7 @@
 #include <QFileInfo>
 #include <QThread>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -30,6 +32,15 @@ constexpr double LargestDrift = 2e-3;
 /// The error text of a failed step without its trailing full stop, so that it fits into a sentence.
 QString reason(const MediaError& error) {
     return error.text.isEmpty() ? u"the reason is unknown"_s : error.text;
+}
+
+/// Where files were kept, for a sentence.
+QString places(const QStringList& kept) {
+    const QString folder = Platform::FileManager::unfinishedFolder();
+    QString text = kept.join(u" and "_s);
+    if (std::ranges::any_of(kept, [&](const QString& path) { return QFileInfo(path).path() != folder; }))
+        text += u", which the next start moves to %1 when there is room"_s.arg(folder);
+    return text;
 }
 
 } // namespace
@@ -68,7 +79,7 @@ RecordQueue::~RecordQueue() {
                 continue;
             const QString ending = key == ExportJob::OutPutWAVTempPath ? u".wav"_s : u".m4a"_s;
             qWarning("%s was not finished and is kept at %s", qUtf8Printable(name),
-                     qUtf8Printable(Platform::FileManager::setAside(file, name + ending)));
+                     qUtf8Printable(Platform::MovedFiles::setAside(file, name + ending)));
         }
     }
 }
@@ -204,9 +215,10 @@ void RecordQueue::openMovies(const std::shared_ptr<ExportJob>& job) {
         const QString bad = first ? raws.at(1) : raws.at(0);
         const QString good = first ? raws.at(0) : raws.at(1);
         if (QFileInfo(bad).size() > 0) {
-            const QString kept = Platform::FileManager::setAside(bad, QFileInfo(bad).fileName());
+            const QString kept = Platform::MovedFiles::setAside(bad, QFileInfo(bad).fileName());
             onMain([this, name, kept, why = reason(first ? secondError : firstError)] {
-                Q_EMIT noticed(u"One source of %1 could not be read (%2). It is kept at %3."_s.arg(name, why, kept));
+                Q_EMIT noticed(
+                    u"One source of %1 could not be read (%2). It is kept at %3."_s.arg(name, why, places({kept})));
             });
         }
         moveRawFile(job, good);
@@ -301,11 +313,11 @@ void RecordQueue::setAside(const std::shared_ptr<ExportJob>& job, const QStringL
             name += file == files.front() ? u" input.m4a"_s : u" computer.m4a"_s;
         else
             name += u".m4a"_s;
-        kept.append(Platform::FileManager::setAside(file, name));
+        kept.append(Platform::MovedFiles::setAside(file, name));
     }
     QString text = why;
     if (!kept.isEmpty())
-        text += u" The recording is kept at %1."_s.arg(kept.join(u" and "_s));
+        text += u" The recording is kept at %1."_s.arg(places(kept));
     onMain([this, wished, kept, text] {
         Q_EMIT noticed(text);
         Q_EMIT recordingSetAside(wished, kept);

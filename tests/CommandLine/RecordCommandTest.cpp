@@ -3,6 +3,7 @@
 #include "CommandLine/RecordCommand.h"
 #include "CommandLine/DevicesCommand.h"
 #include "CommandLine/LevelMeter.h"
+#include "Platform/Foundation/FileManager.h"
 #include "Platform/Foundation/Services.h"
 #include "Source/Control/PreferenceStore.h"
 #include "Source/Model/AudioRecordEntry.h"
@@ -243,6 +244,25 @@ TEST_F(RecordCommandTest, KeepsWhatItHasWhenTheDiskIsFull) {
     EXPECT_EQ(err, u"sonaphex: No space left on device: what was recorded is kept in %1/Track0.m4a\n"_s.arg(folder));
     EXPECT_EQ(recordings(), QStringList{u"Track0.m4a"_s});
     EXPECT_TRUE(media.last().disposed);
+}
+
+TEST_F(RecordCommandTest, ARecordingThatNoPlaceTakesIsStillWhereItSays) {
+    const EnvironmentScope noData("XDG_DATA_HOME", dir.filePath(u"in the way"_s).toUtf8());
+    QFile inTheWay(dir.filePath(u"in the way"_s));
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    afterCycle = [this] { QDir(folder).removeRecursively(); };
+    EXPECT_EQ(record({u"--for"_s, u"6"_s}), CommandLine::Failed);
+    EXPECT_TRUE(err.contains(u"The recording is kept at "_s)) << qPrintable(err);
+    const QString kept = out.trimmed();
+    EXPECT_TRUE(kept.endsWith(u"/Track0.m4a"_s)) << qPrintable(out);
+    EXPECT_TRUE(QFile::exists(kept));
+    // The next recording that finds room takes it to where it is looked for.
+    ASSERT_TRUE(inTheWay.remove());
+    afterCycle = [] {};
+    EXPECT_EQ(record({u"--for"_s, u"6"_s}), CommandLine::Done) << qPrintable(err);
+    EXPECT_FALSE(QFile::exists(kept));
+    EXPECT_TRUE(QFile::exists(Platform::FileManager::unfinishedFolder() + u"/Track0.m4a"_s));
+    EXPECT_EQ(temporaries(), QStringList());
 }
 
 TEST_F(RecordCommandTest, SaysThatFramesWereLost) {

@@ -214,24 +214,26 @@ QString unfinishedFolder() {
     return folder;
 }
 
-QString setAside(const QString& path, const QString& wishedName) {
+Problem moveIntoFolder(const QString& path, const QString& folder, const QString& wishedName, QString& landed) {
     QString name = wishedName;
     name.replace(u'/', u'_');
     if (name.isEmpty() || name == QStringLiteral(".") || name == QStringLiteral(".."))
         name = QStringLiteral("Unfinished");
-    const QString folder = unfinishedFolder();
     const auto dot = name.lastIndexOf(u'.');
     const QString stem = dot > 0 ? name.left(dot) : name;
     const QString ending = dot > 0 ? name.mid(dot) : QString();
     int number = 1;
-    QString landed;
-    const Problem problem = moveToFreeName(
+    return moveToFreeName(
         path, folder + u'/' + name,
         [&](const QString&) {
             return QStringLiteral("%1/%2 %3%4").arg(folder, stem, QString::number(++number), ending);
         },
         landed);
-    return problem.isEmpty() ? landed : path;
+}
+
+QString setAside(const QString& path, const QString& wishedName) {
+    QString landed;
+    return moveIntoFolder(path, unfinishedFolder(), wishedName, landed).isEmpty() ? landed : path;
 }
 
 } // namespace Platform::FileManager

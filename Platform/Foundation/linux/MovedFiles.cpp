@@ -29,6 +29,28 @@ FileManager::Problem moveAway(const QString& from, const QString& to) {
     return problem;
 }
 
+QString setAside(const QString& path, const QString& wishedName) {
+    QString at = FileManager::setAside(path, wishedName);
+    if (at != path || !QFileInfo::exists(path)) {
+        forget(path); // it may have been kept before
+        return at;
+    }
+    // Its own name may be taken again by the next recording, which begins with an empty file.
+    if (QString landed; FileManager::moveIntoFolder(path, QFileInfo(path).path(), wishedName, landed).isEmpty())
+        at = landed;
+    const QString home = FileManager::unfinishedFolder() + u'/' + QFileInfo(at).fileName();
+    if (FileManager::writeAtomically(at + noteEnding, QFile::encodeName(home), 0600).isEmpty())
+        return at;
+    // An empty note needs no room, and says as much.
+    if (QFile note(at + noteEnding); !note.open(QIODevice::WriteOnly))
+        qCWarning(log, "%s goes with its temporary folder: %s", qUtf8Printable(at), qUtf8Printable(note.errorString()));
+    return at;
+}
+
+bool isKept(const QString& path) {
+    return path.endsWith(noteEnding) || QFileInfo::exists(path + noteEnding);
+}
+
 void forget(const QString& to) {
     (void)FileManager::removeFile(to + noteEnding);
 }
@@ -41,7 +63,9 @@ QStringList bringBack(const QString& folder) {
         QFile note(folder + u'/' + name);
         if (!QFileInfo(path).isFile() || !note.open(QIODevice::ReadOnly))
             continue;
-        const QString home = QFile::decodeName(note.readAll());
+        QString home = QFile::decodeName(note.readAll());
+        if (home.isEmpty())
+            home = FileManager::unfinishedFolder() + u'/' + QFileInfo(path).fileName();
         QString landed = home;
         if (const auto problem = FileManager::move(path, home); !problem.isEmpty()) {
             landed = FileManager::setAside(path, QFileInfo(home).fileName());

@@ -127,6 +127,36 @@ TEST_F(TemporaryFolderTest, StaysWithAFileOfTheUserThatHasNoOtherPlace) {
     EXPECT_FALSE(QFile::exists(folder));
 }
 
+TEST_F(TemporaryFolderTest, StaysWithWhatCouldNotBeSetAside) {
+    const QString folder = dir.filePath(QStringLiteral("work"));
+    QDir(dir.path()).mkpath(QStringLiteral("work"));
+    make(dir.filePath(QStringLiteral("data")));
+    const EnvironmentScope data("XDG_DATA_HOME", dir.filePath(QStringLiteral("data")).toUtf8());
+    QStringList kept;
+    for (int i = 0; i < 2; ++i) {
+        make(folder + QStringLiteral("/raw"));
+        kept += MovedFiles::setAside(folder + QStringLiteral("/raw"), QStringLiteral("a.m4a"));
+    }
+    EXPECT_EQ(kept, (QStringList{folder + QStringLiteral("/a.m4a"), folder + QStringLiteral("/a 2.m4a")}));
+    // An empty note, as on a disk without room for a word, does as well.
+    ASSERT_TRUE(QFile::resize(kept.at(1) + QStringLiteral(".origin"), 0));
+    make(folder + QStringLiteral("/raw"));
+    TemporaryFolder::removeWhole(folder);
+    for (const QString& path : kept) {
+        EXPECT_TRUE(QFile::exists(path));
+        EXPECT_TRUE(MovedFiles::isKept(path));
+    }
+    EXPECT_FALSE(QFile::exists(folder + QStringLiteral("/raw")));
+
+    ASSERT_TRUE(QFile::remove(dir.filePath(QStringLiteral("data"))));
+    EXPECT_NE(MovedFiles::setAside(kept.at(0), QStringLiteral("a.m4a")), kept.at(0)) << "now there is room";
+    EXPECT_FALSE(MovedFiles::isKept(kept.at(0)));
+    TemporaryFolder::removeWhole(folder);
+    EXPECT_FALSE(QFile::exists(folder));
+    EXPECT_EQ(QDir(Platform::FileManager::unfinishedFolder()).entryList(QDir::Files, QDir::Name),
+              (QStringList{QStringLiteral("a 2.m4a"), QStringLiteral("a.m4a")}));
+}
+
 TEST_F(TemporaryFolderTest, ThatHadToStayIsFoundAgain) {
     const EnvironmentScope data("XDG_DATA_HOME", dir.filePath(QStringLiteral("no folder/data")).toUtf8());
     make(dir.filePath(QStringLiteral("no folder")));

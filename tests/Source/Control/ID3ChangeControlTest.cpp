@@ -271,6 +271,27 @@ TEST_F(ID3Change, GivesAFileBackThatACrashLeftInTheTemporaryFolder) {
     EXPECT_TRUE(filesIn(temporary_).isEmpty());
 }
 
+TEST_F(ID3Change, AFileThatNoPlaceTakesBackStaysInTheTemporaryFolder) {
+    // The tool takes the folder away, and nothing can be set aside either.
+    const QString data = resources_.filePath(u"data"_s);
+    ASSERT_TRUE(Mpeg4Files::write(data, {}));
+    const EnvironmentScope noData("XDG_DATA_HOME", data.toUtf8());
+    removeTool();
+    const QString tool = resources_.filePath(u"SetArtWork"_s);
+    ASSERT_TRUE(Mpeg4Files::write(tool, "#!/bin/sh\nexec rm -r '" + music_.path().toUtf8() + "'\n"));
+    QFile::setPermissions(tool, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    const QByteArray before = Mpeg4Files::contentOf(path());
+    const QString cover = resources_.filePath(u"cover.png"_s);
+    ASSERT_TRUE(Mpeg4Files::noise(5).save(cover));
+    ID3ChangeControl::changeID3(path(), path(), info(), cover);
+    ASSERT_FALSE(QFileInfo::exists(music_.path()));
+
+    EXPECT_FALSE(Platform::MovedFiles::bringBack(temporary_.path()).isEmpty());
+    ASSERT_TRUE(QDir().mkpath(music_.path()));
+    EXPECT_TRUE(Platform::MovedFiles::bringBack(temporary_.path()).isEmpty());
+    EXPECT_EQ(Mpeg4Files::contentOf(path()), before);
+}
+
 TEST(SetArtWork, SaysHowItIsUsed) {
     const ToolResult help = runTool(toolPath, {u"--help"_s});
     EXPECT_EQ(help.status, 0);

@@ -4,6 +4,8 @@
 // From the raw files of a recording to one file of the library, and what happens when that fails.
 #include "Source/Control/RecordQueue.h"
 
+#include "Platform/Foundation/TemporaryFolder.h"
+
 #include "tests/Source/Control/RecordFixture.h"
 
 #include <csignal>
@@ -236,6 +238,36 @@ TEST_F(RecordQueueTest, TwoRecordingsThatWereSetAsideDoNotMeet) {
     record();
     ASSERT_TRUE(queueDone());
     EXPECT_EQ(unfinished().size(), 2);
+}
+
+TEST_F(RecordQueueTest, ARecordingThatNoPlaceTakesOutlivesItsTemporaryFolder) {
+    // Neither the recordings' folder nor the one for what is unfinished can be written.
+    makeFile(folder(), "in the way");
+    makeFile(home.filePath(u"data"_s), "in the way");
+    addMicrophone();
+    begin();
+    QStringList kept;
+    QObject::connect(controller.get(), &RecordStateController::recordingSetAside, controller.get(),
+                     [&](const QString&, const QStringList& where) { kept = where; });
+    controller->startAndStopRecord();
+    play(Microphone, 0.5F, 6);
+    makeFile(media.last().path, "the sound");
+    controller->startAndStopRecord();
+    ASSERT_TRUE(queueDone());
+    EXPECT_EQ(kept, QStringList{g_strTmpPath + u"/Track0.m4a"_s}) << "no name that a later recording takes";
+    EXPECT_TRUE(noticed(u"The recording is kept at "_s + kept.value(0)));
+    EXPECT_TRUE(noticed(u"the next start moves to "_s + Platform::FileManager::unfinishedFolder()));
+
+    const auto contentOf = [](const QString& path) {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    Platform::TemporaryFolder::removeWhole(g_strTmpPath);
+    EXPECT_EQ(contentOf(kept.value(0)), "the sound");
+    ASSERT_TRUE(QFile::remove(home.filePath(u"data"_s)));
+    Platform::TemporaryFolder::removeWhole(g_strTmpPath);
+    EXPECT_EQ(contentOf(Platform::FileManager::unfinishedFolder() + u"/Track0.m4a"_s), "the sound");
+    EXPECT_FALSE(QFileInfo::exists(g_strTmpPath));
 }
 
 TEST_F(RecordQueueTest, AMixThatFailsKeepsBothRawFiles) {
