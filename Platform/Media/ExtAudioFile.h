@@ -119,8 +119,11 @@ public:
     };
     virtual void setTiming(int track, TrackTiming timing) = 0;
     /// Writes the sum of all tracks, 44100 Hz, 32-bit integer, two channels; the sum is limited, it never wraps around.
-    /// Blocks; @p progress is told a share from 0 to 1 and may answer false to stop. Nothing is left on failure.
+    /// Blocks; @p progress is told a share from 0 to 1 and may answer false to stop. Nothing is left on failure. A
+    /// place of a track that cannot be read is no failure: it is silent in the sum, and readError() says so.
     [[nodiscard]] virtual MediaError writeWave(const QString& path, const std::function<bool(double)>& progress) = 0;
+    /// The first thing that the last writeWave() could not read of a track.
+    [[nodiscard]] virtual MediaError readError() const = 0;
 };
 
 /// The door to all media files. Thread-safe; the objects it hands out are owned by the caller.

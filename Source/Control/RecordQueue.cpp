@@ -254,6 +254,7 @@ void RecordQueue::converterMovie(const std::shared_ptr<ExportJob>& job) {
         setProgress(share * MixShare);
         return !cancelled_;
     });
+    const MediaError damage = qtMovieForRecord_->readError();
     qtMovieForRecord_.reset();
     if (cancelled_)
         return;
@@ -261,14 +262,17 @@ void RecordQueue::converterMovie(const std::shared_ptr<ExportJob>& job) {
         setAside(job, raws, u"%1 could not be mixed: %2."_s.arg(name, reason(error)));
         return;
     }
+    if (damage)
+        keepDamaged(*job, {ExportJob::BuiltInAudioTempPath, ExportJob::ComputerAudioTempPath}, damage);
     onMain([this, job] { startConverterAudio(job); });
 }
 
 void RecordQueue::startConverterAudio(const std::shared_ptr<ExportJob>& job) {
-    // The WAVE is whole: the raw files have done their part.
+    // The WAVE is whole: the raw files have done their part, unless they were kept.
     for (const auto& key : {ExportJob::BuiltInAudioTempPath, ExportJob::ComputerAudioTempPath})
-        if (const auto problem = Platform::FileManager::removeFile(job->path(key)); !problem.isEmpty())
-            qWarning("%s stays in the temporary folder: %s", qUtf8Printable(job->path(key)), qUtf8Printable(problem));
+        if (const QString raw = job->path(key); !raw.isEmpty())
+            if (const auto problem = Platform::FileManager::removeFile(raw); !problem.isEmpty())
+                qWarning("%s stays in the temporary folder: %s", qUtf8Printable(raw), qUtf8Printable(problem));
     onWorker([this, job] { converterAudio(job); });
 }
 
@@ -287,27 +291,31 @@ void RecordQueue::converterAudio(const std::shared_ptr<ExportJob>& job) {
     if (cancelled_)
         return;
     const MediaError error = converterAudioControl_.exportError();
+    const MediaError damage = converterAudioControl_.sourceError();
     whole = whole && !error;
     if (!whole) {
         (void)Platform::FileManager::removeFile(encoded);
-        setAside(job, {wave}, u"%1 could not be encoded: %2."_s.arg(name, reason(error)));
+        setAside(job, {wave}, u"%1 could not be encoded: %2."_s.arg(name, reason(error ? error : damage)));
         return;
     }
-    if (const auto problem = Platform::FileManager::removeFile(wave); !problem.isEmpty())
+    if (damage)
+        keepDamaged(*job, {ExportJob::OutPutWAVTempPath}, damage);
+    else if (const auto problem = Platform::FileManager::removeFile(wave); !problem.isEmpty())
         qWarning("%s stays in the temporary folder: %s", qUtf8Printable(wave), qUtf8Printable(problem));
     if (deliver(job, encoded))
         onMain([this, job] { finishConverter(*job); });
 }
 
-void RecordQueue::setAside(const std::shared_ptr<ExportJob>& job, const QStringList& files, const QString& why) {
-    const QString wished = job->path(ExportJob::OutPutPath);
+/// Brings files of a job to safety. @return where each one is now
+QStringList RecordQueue::keepFiles(const ExportJob& job, const QStringList& files) {
+    const QString wished = job.path(ExportJob::OutPutPath);
     QStringList kept;
     for (const QString& file : files) {
         const QFileInfo info(file);
         if (!info.exists())
             continue;
         QString name = QFileInfo(wished).completeBaseName();
-        if (file == job->path(ExportJob::OutPutWAVTempPath))
+        if (file == job.path(ExportJob::OutPutWAVTempPath))
             name += u".wav"_s;
         else if (files.size() > 1)
             name += file == files.front() ? u" input.m4a"_s : u" computer.m4a"_s;
@@ -315,6 +323,27 @@ void RecordQueue::setAside(const std::shared_ptr<ExportJob>& job, const QStringL
             name += u".m4a"_s;
         kept.append(Platform::MovedFiles::setAside(file, name));
     }
+    return kept;
+}
+
+/// Keeps the files under these keys, of which a part could not be read. The job goes on with what could.
+void RecordQueue::keepDamaged(ExportJob& job, const QStringList& keys, const MediaError& damage) {
+    QStringList files;
+    for (const QString& key : keys)
+        files.append(job.path(key));
+    const QStringList kept = keepFiles(job, files);
+    for (const QString& key : keys)
+        job.paths.remove(key); // no longer the job's to delete
+    const QString name = QFileInfo(job.path(ExportJob::OutPutPath)).fileName();
+    const QString text =
+        u"A part of %1 could not be read (%2) and is missing in it. What it was made from is kept at %3."_s.arg(
+            name, reason(damage), places(kept));
+    onMain([this, text] { Q_EMIT noticed(text); });
+}
+
+void RecordQueue::setAside(const std::shared_ptr<ExportJob>& job, const QStringList& files, const QString& why) {
+    const QString wished = job->path(ExportJob::OutPutPath);
+    const QStringList kept = keepFiles(*job, files);
     QString text = why;
     if (!kept.isEmpty())
         text += u" The recording is kept at %1."_s.arg(places(kept));

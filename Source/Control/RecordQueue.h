@@ -100,6 +100,8 @@ private:
     void converterAudio(const std::shared_ptr<ExportJob>& job);
     bool deliver(const std::shared_ptr<ExportJob>& job, const QString& file);
     void setAside(const std::shared_ptr<ExportJob>& job, const QStringList& files, const QString& why);
+    QStringList keepFiles(const ExportJob& job, const QStringList& files);
+    void keepDamaged(ExportJob& job, const QStringList& keys, const Platform::MediaError& damage);
     void finishConverter(const ExportJob& job);
     void endJob(const QString& reservedPath);
     void setProgress(double share);

@@ -27,7 +27,9 @@ public:
     QMap<QString, double> secondsOf;
     std::set<QString> unreadable; ///< movies that do not open
     Platform::MediaError mixError;
-    std::atomic<bool> holdMix{false}; ///< a mix waits while this is set
+    Platform::MediaError mixReadError; ///< what a mix could not read of its tracks
+    Platform::MediaError readError;    ///< what a reader meets
+    std::atomic<bool> holdMix{false};  ///< a mix waits while this is set
     std::atomic<int> mixesStarted{0};
 
     [[nodiscard]] std::vector<Mix> mixes() const {
@@ -60,7 +62,7 @@ public:
             error = {Platform::MediaError::Kind::NotFound, path};
             return nullptr;
         }
-        return std::make_unique<ShortReader>();
+        return std::make_unique<ShortReader>(readError);
     }
 
 private:
@@ -87,6 +89,7 @@ private:
             files_.mixes_.push_back({path_, second_, timings_, path});
             return {};
         }
+        Platform::MediaError readError() const override { return files_.mixReadError; }
 
     private:
         FakeRecordingFiles& files_;
@@ -98,6 +101,7 @@ private:
     /// A tenth of a second of silence.
     class ShortReader final : public Platform::ExtAudioFileReader {
     public:
+        explicit ShortReader(Platform::MediaError error) : error_(std::move(error)) {}
         AudioStreamBasicDescription fileDataFormat() const override {
             AudioStreamBasicDescription format;
             format.mSampleRate = 44100;
@@ -120,9 +124,10 @@ private:
             position_ += frames;
             return noErr;
         }
-        Platform::MediaError firstError() const override { return {}; }
+        Platform::MediaError firstError() const override { return error_; }
 
     private:
+        Platform::MediaError error_;
         std::int64_t position_ = 0;
     };
 

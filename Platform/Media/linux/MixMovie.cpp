@@ -140,14 +140,17 @@ public:
     }
 
     MediaError writeWave(const QString& path, const std::function<bool(double)>& progress) override;
+    MediaError readError() const override { return readError_; }
 
 private:
     std::vector<Track> tracks_;
+    MediaError readError_;
 };
 
 MediaError MixMovie::writeWave(const QString& path, const std::function<bool(double)>& progress) {
     std::vector<std::unique_ptr<TrackReader>> readers;
     MediaError error;
+    readError_ = {};
     for (const Track& track : tracks_) {
         auto input = InputFile::open(track.path, true, error);
         if (!input)
@@ -198,6 +201,9 @@ MediaError MixMovie::writeWave(const QString& path, const std::function<bool(dou
         if (!error && progress && !progress(std::min(1.0, written / total)))
             error = makeError(MediaError::Kind::Other, path, QStringLiteral("cancelled"));
     }
+    for (const auto& reader : readers)
+        if (!readError_)
+            readError_ = reader->error();
     writer.dispose();
     if (!error)
         error = writer.firstError();

@@ -390,6 +390,25 @@ TEST_F(Mixes, ShiftAndStretchATrackThatRanOnAnotherClock) {
     EXPECT_GT(signalToError(expected[0], moved, moved.size() - 40000, moved.size() - 2000), 70);
 }
 
+TEST_F(Mixes, TellOfADamagedPlaceOfATrack) {
+    writeFile(at(u"a.m4a"_s), kAudioFileM4AType, tones(400000));
+    writeFile(at(u"b.m4a"_s), kAudioFileM4AType, tones(400000));
+    MediaError error;
+    auto movie = media().openMovie(at(u"a.m4a"_s), error);
+    ASSERT_TRUE(movie->insertSoundTrackOf(*media().openMovie(at(u"b.m4a"_s), error)));
+    EXPECT_FALSE(movie->writeWave(at(u"sum.wav"_s), {}));
+    EXPECT_FALSE(movie->readError());
+    QFile damaged(at(u"b.m4a"_s));
+    ASSERT_TRUE(damaged.open(QIODevice::ReadWrite));
+    damaged.seek(damaged.size() / 2);
+    damaged.write(QByteArray(2000, '\xff'));
+    damaged.close();
+    EXPECT_FALSE(movie->writeWave(at(u"sum.wav"_s), {})) << "what can be read is mixed";
+    EXPECT_EQ(movie->readError().kind, MediaError::Kind::Damaged);
+    EXPECT_TRUE(movie->readError().text.contains(u"b.m4a"_s)) << qPrintable(movie->readError().text);
+    EXPECT_EQ(readFile(at(u"sum.wav"_s)).length, 400000);
+}
+
 TEST_F(Mixes, StopWhenToldToAndLeaveNothing) {
     writeFile(at(u"a.wav"_s), kAudioFileWAVEType, tones(400000));
     MediaError error;

@@ -4,6 +4,7 @@
 // From the raw files of a recording to one file of the library, and what happens when that fails.
 #include "Source/Control/RecordQueue.h"
 
+#include "Platform/Foundation/MovedFiles.h"
 #include "Platform/Foundation/TemporaryFolder.h"
 
 #include "tests/Source/Control/RecordFixture.h"
@@ -308,6 +309,40 @@ TEST_F(RecordQueueTest, AnEncoderThatFailsKeepsTheWave) {
     ASSERT_TRUE(queueDone());
     EXPECT_EQ(unfinished(), QStringList{u"Track0.wav"_s});
     EXPECT_TRUE(noticed(u"could not be encoded"_s));
+    EXPECT_TRUE(rawFiles().isEmpty());
+}
+
+TEST_F(RecordQueueTest, ADamagedPlaceInASourceKeepsBothRawFilesBesideTheRecording) {
+    beginWithBoth();
+    media.mixReadError = {Platform::MediaError::Kind::Damaged, u"a packet is damaged"_s};
+    recordBoth();
+    ASSERT_TRUE(queueDone());
+    EXPECT_EQ(delegate.paths, QStringList{track(0)});
+    EXPECT_EQ(unfinished(), (QStringList{u"Track0 computer.m4a"_s, u"Track0 input.m4a"_s}));
+    EXPECT_TRUE(noticed(u"A part of Track0.m4a could not be read (a packet is damaged)"_s));
+    EXPECT_TRUE(noticed(u"Unfinished/Track0 computer.m4a"_s));
+    EXPECT_TRUE(rawFiles().isEmpty());
+}
+
+TEST_F(RecordQueueTest, DamagedSourcesThatNoPlaceTakesAreNotDeleted) {
+    beginWithBoth();
+    makeFile(home.filePath(u"data"_s), "in the way");
+    media.mixReadError = {Platform::MediaError::Kind::Damaged, u"a packet is damaged"_s};
+    recordBoth();
+    ASSERT_TRUE(queueDone());
+    EXPECT_EQ(delegate.paths, QStringList{track(0)});
+    for (const QString& name : {u"/Track0 input.m4a"_s, u"/Track0 computer.m4a"_s})
+        EXPECT_TRUE(Platform::MovedFiles::isKept(g_strTmpPath + name)) << qPrintable(name);
+}
+
+TEST_F(RecordQueueTest, AWaveThatCannotBeReadToItsEndIsKeptBesideTheRecording) {
+    beginWithBoth();
+    media.readError = {Platform::MediaError::Kind::Other, u"Input/output error"_s};
+    recordBoth();
+    ASSERT_TRUE(queueDone());
+    EXPECT_EQ(delegate.paths, QStringList{track(0)});
+    EXPECT_EQ(unfinished(), QStringList{u"Track0.wav"_s});
+    EXPECT_TRUE(noticed(u"A part of Track0.m4a could not be read (Input/output error)"_s));
     EXPECT_TRUE(rawFiles().isEmpty());
 }
 
