@@ -373,6 +373,8 @@ void FileWriter::Core::closeFile(ConversionStream& stream, const std::shared_ptr
     }
     if (sink)
         sink->finish();
+    // Who is told that the file is closed may delete what it was made from.
+    file.sync();
     file.close();
 }
 

@@ -81,6 +81,7 @@ bool OutputFile::beginReplacement(OutputFile& replacement) const {
 
 bool OutputFile::replaceWith(OutputFile& replacement) {
     const QByteArray hidden = QFile::encodeName(replacement.path_);
+    replacement.syncContent();
     if (replacement.failed() || ::rename(hidden.constData(), QFile::encodeName(path_).constData()) < 0) {
         if (replacement.fd_ >= 0)
             ::unlink(hidden.constData());
@@ -89,6 +90,19 @@ bool OutputFile::replaceWith(OutputFile& replacement) {
     std::swap(fd_, replacement.fd_);
     std::swap(size_, replacement.size_);
     return true;
+}
+
+void OutputFile::syncContent() {
+    // Some file systems have no such thing to do.
+    if (fd_ >= 0 && ::fsync(fd_) < 0 && errno != EINVAL && errno != ENOSYS && errno != EOPNOTSUPP)
+        fail(errnoError(errno, path_));
+}
+
+void OutputFile::sync() {
+    syncContent();
+    const QByteArray name = QFile::encodeName(path_);
+    const auto slash = name.lastIndexOf('/');
+    syncFolder(slash < 0 ? QByteArray(".") : name.left(slash + 1));
 }
 
 void OutputFile::close() {

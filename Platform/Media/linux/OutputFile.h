@@ -32,9 +32,12 @@ public:
     /// Begins a second form of this file in a hidden file beside it; false when there is no place for one, or when this
     /// file no longer lies at its path. Never this file's error.
     [[nodiscard]] bool beginReplacement(OutputFile& replacement) const;
-    /// Puts a whole @p replacement in this file's place, at once, and goes on with it; a failed one is thrown away.
+    /// Puts a whole @p replacement in this file's place, at once, and goes on with it; a failed one is thrown away. The
+    /// replacement is on the disk before: a power cut leaves the one form or the other, never an empty file.
     bool replaceWith(OutputFile& replacement);
 
+    /// Waits until the file and its name are on the disk; an error of the disk is told here, if anywhere.
+    void sync();
     void close();
     void fail(const MediaError& error);
     [[nodiscard]] bool failed() const;
@@ -42,6 +45,8 @@ public:
     [[nodiscard]] const QString& path() const { return path_; }
 
 private:
+    void syncContent();
+
     QString path_;
     int fd_ = -1;
     std::int64_t size_ = 0;
