@@ -178,8 +178,13 @@ void RecordingRun::addRecordFile(const QString& path, const Dictionary& tags) {
         return;
     MediaLibrary library;
     library.addRecordFile(entry);
-    if (!Platform::services().userDefaults->flush())
-        meter_.say(u"%1 could not be entered into the library"_s.arg(path));
+    if (!Platform::services().userDefaults->flush()) {
+        const QString problem = u"%1 could not be entered into the library"_s.arg(path);
+        if (problem_.isEmpty())
+            problem_ = problem;
+        else
+            meter_.say(problem);
+    }
 }
 
 int RecordingRun::report() {

@@ -265,6 +265,14 @@ TEST_F(RecordCommandTest, ARecordingThatNoPlaceTakesIsStillWhereItSays) {
     EXPECT_EQ(temporaries(), QStringList());
 }
 
+TEST_F(RecordCommandTest, ALibraryThatCannotBeStoredIsAFailure) {
+    defaults.flushFails = true;
+    EXPECT_EQ(record({u"--for"_s, u"6"_s}), CommandLine::Failed);
+    EXPECT_EQ(out, folder + u"/Track0.m4a\n"_s);
+    EXPECT_EQ(err, u"sonaphex: %1/Track0.m4a could not be entered into the library: what was recorded is kept in "
+                   "%1/Track0.m4a\n"_s.arg(folder));
+}
+
 TEST_F(RecordCommandTest, SaysThatFramesWereLost) {
     afterCycle = [this] { hardware.opened.back()->lost = 24000; };
     EXPECT_EQ(record({u"--for"_s, u"5"_s, u"--json"_s}), CommandLine::Done);

@@ -23,7 +23,8 @@ public:
         ++changes_;
         values_.remove(key);
     }
-    bool flush() override { return true; }
+    bool flush() override { return !flushFails; }
+    bool flushFails = false;
 
     /// Everything stored.
     [[nodiscard]] Dictionary values() const {
