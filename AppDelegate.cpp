@@ -55,7 +55,8 @@ bool AppDelegate::applicationDidFinishLaunching() {
     ToolControl::showWindowNib(*mainWndController_);
     setupSystemStatusBar();
     CutOffRecordings::keepAtExit();
-    (void)running_.listen([this](const QByteArray& request) { return answer(request); });
+    if (!running_.listen([this](const QByteArray& request) { return answer(request); }))
+        qWarning("commands and further launches cannot reach this window: %s", qUtf8Printable(running_.lastError()));
     return true;
 }
 

@@ -22,7 +22,7 @@ public:
     /// Why acquire() or listen() failed, for people; empty when another program of ours holds the lock.
     [[nodiscard]] virtual QString lastError() const = 0;
     /// Begins to answer on the local socket in $XDG_RUNTIME_DIR. Needs the lock.
-    virtual bool listen(Handler handler) = 0;
+    [[nodiscard]] virtual bool listen(Handler handler) = 0;
     /// Sends one line to the running program and waits for its answer at most @p timeoutMs. False when nobody answers.
     [[nodiscard]] virtual bool ask(const QByteArray& request, QByteArray& answer, int timeoutMs = 5000) = 0;
 

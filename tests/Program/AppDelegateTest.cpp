@@ -8,6 +8,7 @@
 #include "tests/fakes/FakeUserDefaults.h"
 #include "tests/fakes/FakeWorkspace.h"
 #include "tests/support/Environment.h"
+#include "tests/support/LogCatcher.h"
 
 #include <gtest/gtest.h>
 
@@ -24,6 +25,7 @@ namespace {
 
 struct FakeRunning : Platform::RunningProgram {
     bool free = true;
+    bool listens = true;
     int acquired = 0;
     QString problem;
     Handler handler;
@@ -34,7 +36,7 @@ struct FakeRunning : Platform::RunningProgram {
     QString lastError() const override { return problem; }
     bool listen(Handler answer) override {
         handler = std::move(answer);
-        return true;
+        return listens;
     }
     bool ask(const QByteArray&, QByteArray&, int) override { return false; }
 };
@@ -231,6 +233,14 @@ TEST_F(AppDelegateTest, MakesTheDefaultMusicFolderEvenWhenAnotherIsChosen) {
     ASSERT_TRUE(delegate.applicationDidFinishLaunching());
     EXPECT_TRUE(QDir(music()).exists());
     EXPECT_FALSE(QDir(path(u"elsewhere"_s)).exists());
+}
+
+TEST_F(AppDelegateTest, SaysThatNobodyCanReachIt) {
+    running.listens = false;
+    running.problem = u"/run/user/1000/sonaphex.socket: Permission denied"_s;
+    const LogCatcher log;
+    EXPECT_TRUE(delegate.applicationDidFinishLaunching()) << "it records all the same";
+    EXPECT_EQ(log.lines().filter(running.problem).size(), 1);
 }
 
 TEST_F(AppDelegateTest, LaunchesWhenTheMusicFolderCannotBeMade) {
