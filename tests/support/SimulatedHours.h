@@ -8,8 +8,8 @@
 #include "tests/fakes/FakeAudioHardware.h"
 #include "tests/fakes/FakeWorkspace.h"
 #include "tests/support/AudioCheck.h"
+#include "tests/support/WaitFor.h"
 
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 
 #include <malloc.h>
@@ -37,9 +37,20 @@ struct SimulatedHours : testing::Test {
         return info.uordblks + info.hblkhd;
     }
 
+    /// Waits until the file's thread has taken what it was given: all but what no fragment is made of yet.
+    void drain(const QString& path, std::int64_t given) {
+        const auto written = [&] {
+            Platform::AudioFileInfo info;
+            Platform::MediaError error;
+            return media->info(path, info, error) ? info.frameCount : 0;
+        };
+        const std::int64_t fragment = 44100;
+        const std::int64_t expected = given * 44100 / 48000 - 2 * fragment;
+        EXPECT_TRUE(waitFor([&] { return written() >= expected; }, 600'000)) << written() << " of " << expected;
+    }
+
     /// @param kept receives how many bytes of heap grew between the first and the last tenth.
-    /// @return milliseconds that closing the file took
-    qint64 record(double seconds, std::int64_t& kept) {
+    void record(double seconds, std::int64_t& kept) {
         const QString path = dir.filePath(QStringLiteral("hour.m4a"));
         EXPECT_TRUE(engine.configureAudioUnit(7));
         EXPECT_TRUE(engine.setOutPutAudioPath(path, 1));
@@ -51,16 +62,15 @@ struct SimulatedHours : testing::Test {
             for (std::size_t i = 0; i < 512; ++i)
                 block[0][i] = block[1][i] = float(0.25 * std::sin(double(cycle * 512 + std::int64_t(i)) * 0.13));
             EXPECT_EQ(hardware.unit()->feed(block, std::uint64_t(cycle + 1) * 10666667), noErr);
-            if (cycle == cycles / 10)
+            if (cycle == cycles / 10) {
+                drain(path, (cycle + 1) * 512);
                 early = heapInUse();
+            }
         }
+        drain(path, cycles * 512);
         kept = std::int64_t(heapInUse()) - std::int64_t(early);
-        QElapsedTimer timer;
-        timer.start();
         engine.stopRecordAudio();
-        const qint64 closing = timer.elapsed();
         EXPECT_FALSE(engine.writeError()) << qPrintable(engine.writeError().text);
         EXPECT_NEAR(double(AudioCheck::framesByFfprobe(path)), double(cycles * 512) * 44100 / 48000, 1.0);
-        return closing;
     }
 };
