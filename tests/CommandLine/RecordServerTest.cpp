@@ -11,7 +11,6 @@
 
 #include <QDir>
 #include <QDirIterator>
-#include <QElapsedTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -64,7 +63,7 @@ protected:
                         raw = path;
                 return !raw.isEmpty();
             },
-            20000);
+            60000);
         return raw;
     }
 
@@ -157,7 +156,7 @@ TEST_F(RecordServer, EndsWithAWholeFileAtASignal) {
         process.start(QStringLiteral(SONAPHEX_PROGRAM), recordArguments({}));
         ASSERT_FALSE(rawFile(20000).isEmpty());
         ::kill(pid_t(process.processId()), signal);
-        ASSERT_TRUE(process.waitForFinished(20000));
+        ASSERT_TRUE(process.waitForFinished());
         EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
         EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
         const QString path = QString::fromUtf8(process.readAllStandardOutput().trimmed());
@@ -170,19 +169,15 @@ TEST_F(RecordServer, EndsWithAWholeFileAtASignal) {
 TEST_F(RecordServer, LeavesAPlayableRawFileWhenItIsKilled) {
     tone();
     QProcess process;
-    QElapsedTimer sinceStart;
-    sinceStart.start();
     process.start(QStringLiteral(SONAPHEX_PROGRAM), recordArguments({}));
     const QString raw = rawFile(60000);
     ASSERT_FALSE(raw.isEmpty());
     process.kill();
-    ASSERT_TRUE(process.waitForFinished(20000));
-    const double most = double(sinceStart.elapsed()) / 1000;
+    ASSERT_TRUE(process.waitForFinished());
     const auto decoded = AudioCheck::decodedByFfmpeg(raw);
     ASSERT_EQ(decoded.size(), 2U);
     const double seconds = double(decoded[0].size()) / 44100;
     EXPECT_GT(seconds, 2.0);
-    EXPECT_GT(seconds, most - 2.5) << "about the last second is lost";
     EXPECT_NEAR(AudioCheck::pitchOf(AudioCheck::inner(decoded[0], 8192), 44100), 440, 5);
     const auto demuxed = runTool(u"gst-launch-1.0"_s, {u"-q"_s, u"filesrc"_s, u"location="_s + raw, u"!"_s,
                                                        u"qtdemux"_s, u"!"_s, u"fakesink"_s});
@@ -190,6 +185,33 @@ TEST_F(RecordServer, LeavesAPlayableRawFileWhenItIsKilled) {
     // The next recording of the same kind removes it.
     ASSERT_EQ(sonaphex(recordArguments({u"--for"_s, u"0.2"_s})).status, 0);
     EXPECT_EQ(filesBelow(tmp_), QStringList());
+}
+
+TEST_F(RecordServer, LosesAboutTheLastSecondWhenItIsKilled) {
+    auto& source = tone();
+    QProcess process;
+    process.start(QStringLiteral(SONAPHEX_PROGRAM), recordArguments({}));
+    const QString raw = rawFile(1);
+    ASSERT_FALSE(raw.isEmpty());
+    const auto begin = source.position();
+    ASSERT_TRUE(waitFor([&] { return source.position() > begin + 3 * 48000; }, 60000));
+    // With the device at rest, what was played can be compared with what is on the disk.
+    const double played = double(source.position() - begin) / 48000;
+    source.remove();
+    QByteArray said;
+    ASSERT_TRUE(waitFor([&] {
+        said += process.readAllStandardError();
+        return said.contains("went away");
+    }));
+    const auto secondsOnDisk = [&] {
+        const auto decoded = AudioCheck::decodedByFfmpeg(raw);
+        return decoded.empty() ? 0.0 : double(decoded[0].size()) / 44100;
+    };
+    EXPECT_TRUE(waitFor([&] { return secondsOnDisk() > played - 1.5; })) << secondsOnDisk() << " of " << played;
+    EXPECT_EQ(process.state(), QProcess::Running);
+    process.kill();
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_GT(secondsOnDisk(), played - 1.5);
 }
 
 /// What the thread sanitizer takes of $TMPDIR for itself before the program begins.
