@@ -51,12 +51,22 @@ protected:
             world.controller->display().audioRecordWaveView()->addCurrentLevel(
                 static_cast<float>(0.15 + 0.55 * std::abs(std::sin(i * 0.045)) * std::abs(std::sin(i * 0.61))));
     }
+    /// Whether all rows show which files are gone: the look at the disk is a worker's.
+    [[nodiscard]] bool filesAreKnown() const {
+        const auto& model = world.controller->library().tableModel();
+        for (int row = 0; row < model.rowCount(); ++row) {
+            const QModelIndex index = model.index(row, AudioTableModel::Title);
+            const bool gone = !QFile::exists(index.data(AudioTableModel::PathRole).toString());
+            if (index.data(AudioTableModel::MissingRole).toBool() != gone)
+                return false;
+        }
+        return true;
+    }
     /// Takes the picture in both shades; the window must have something to show.
     void take(const QString& name, qreal ratio = 1) {
         for (const auto shade : {Theme::Shade::Light, Theme::Shade::Dark}) {
             Theme::apply(shade);
-            // The look at the disk is a worker's.
-            (void)waitFor([] { return false; }, 120);
+            ASSERT_TRUE(waitFor([this] { return filesAreKnown(); }));
             const QString full = name + (shade == Theme::Shade::Dark ? u"-dark"_s : u"-light"_s);
             const QImage image = Screenshot::take(*world.controller->window(), full, ratio);
             EXPECT_GT(Screenshot::coverage(image, image.pixel(image.width() / 2, image.height() - 100)), 0.02);
