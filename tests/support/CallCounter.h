@@ -2,8 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-/// Counts what the calling thread asks of the heap and of mutexes while it lives. Under a sanitizer, which has its own
-/// heap and mutexes, it counts nothing.
+/// 0 under a sanitizer, which has its own heap and mutexes: what rests on a CallCounter is not built there.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#define SONAPHEX_COUNTS_CALLS 0
+#else
+#define SONAPHEX_COUNTS_CALLS 1
+#endif
+
+#if SONAPHEX_COUNTS_CALLS
+/// Counts what the calling thread asks of the heap and of mutexes while it lives.
 class CallCounter {
 public:
     CallCounter();
@@ -12,6 +19,5 @@ public:
     CallCounter& operator=(const CallCounter&) = delete;
     [[nodiscard]] long allocations() const;
     [[nodiscard]] long locks() const;
-    /// Whether anything is counted in this build.
-    [[nodiscard]] static bool counts();
 };
+#endif

@@ -3,7 +3,7 @@
 
 // Counts what the sound server's data threads of this process do that an audio thread must not, and what the process
 // keeps: every allocation, release and lock passes through here, the libraries' own included. The sanitizers bring
-// their own allocator, and there these tests see to the rest only.
+// their own allocator and locks: what rests on the counts is not built with them.
 
 #include "Platform/Audio/linux/PipeWireHandles.h"
 #include "tests/support/PrivateAudioSession.h"
@@ -119,6 +119,7 @@ protected:
 
 } // namespace
 
+#if COUNTS_CALLS
 TEST_F(DataThread, AllocatesNothingAndTakesNoLockWhileItCaptures) {
     TestSource source({.name = "test.rt", .description = "Watched"});
     ASSERT_TRUE(source.start());
@@ -138,7 +139,6 @@ TEST_F(DataThread, AllocatesNothingAndTakesNoLockWhileItCaptures) {
 }
 
 TEST_F(DataThread, IsCountedWhenItAllocates) {
-#if COUNTS_CALLS
     // The counter itself: a source whose sample function allocates is noticed.
     TestSource source(
         {.name = "test.bad", .description = "Allocating", .sample = [](std::uint64_t frame, std::uint32_t) {
@@ -151,8 +151,8 @@ TEST_F(DataThread, IsCountedWhenItAllocates) {
     EXPECT_TRUE(waitFor([] { return allocations > 0; }));
     counting = false;
     allocations = 0;
-#endif
 }
+#endif
 
 TEST_F(DataThread, ComesAndGoesWithItsUnitAHundredTimesWithoutGrowth) {
     TestSource source({.name = "test.cycle", .description = "Come and go"});
@@ -170,12 +170,14 @@ TEST_F(DataThread, ComesAndGoesWithItsUnitAHundredTimesWithoutGrowth) {
         round();
     const auto files = entries("/proc/self/fd");
     const auto threads = entries("/proc/self/task");
-    const auto bytes = bytesInUse.load();
+    [[maybe_unused]] const auto bytes = bytesInUse.load();
     for (int i = 0; i < 80; ++i)
         round();
     // The server gives back what belonged to the last units in its own time. What each round kept would be there 80
     // times; what the process occupies is no measure of it, since the heap keeps pages as it likes.
     EXPECT_TRUE(waitFor([&] { return entries("/proc/self/fd") < files + 40; })) << "files at first: " << files;
     EXPECT_TRUE(waitFor([&] { return entries("/proc/self/task") < threads + 40; })) << "threads at first: " << threads;
+#if COUNTS_CALLS
     EXPECT_TRUE(waitFor([&] { return bytesInUse - bytes < 80 * 256; })) << "more bytes by: " << bytesInUse - bytes;
+#endif
 }

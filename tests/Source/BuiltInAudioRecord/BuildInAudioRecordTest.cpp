@@ -542,6 +542,7 @@ TEST_F(BuildInAudioRecordTest, MeasuresTheDevicesClock) {
     EXPECT_NEAR(engine.captureSpan().measuredRate, 48004.8, 0.01);
 }
 
+#if SONAPHEX_COUNTS_CALLS
 TEST_F(BuildInAudioRecordTest, TakesNoMemoryAndNoLockInACycle) {
     media.keepSamples = false;
     prepare();
@@ -555,16 +556,15 @@ TEST_F(BuildInAudioRecordTest, TakesNoMemoryAndNoLockInACycle) {
         unit().feed(block, std::uint64_t(i));
     EXPECT_EQ(counter.allocations(), 0);
     EXPECT_EQ(counter.locks(), 0);
-    if (CallCounter::counts()) {
-        void* volatile block10 = std::malloc(10);
-        std::free(block10);
-        std::mutex mutex;
-        mutex.lock();
-        mutex.unlock();
-        EXPECT_EQ(counter.allocations(), 1) << "the counter counts";
-        EXPECT_EQ(counter.locks(), 1);
-    }
+    void* volatile block10 = std::malloc(10);
+    std::free(block10);
+    std::mutex mutex;
+    mutex.lock();
+    mutex.unlock();
+    EXPECT_EQ(counter.allocations(), 1) << "the counter counts";
+    EXPECT_EQ(counter.locks(), 1);
 }
+#endif
 
 TEST_F(BuildInAudioRecordTest, KeepsItsEventHandlerForEveryUnit) {
     std::vector<Platform::InputUnit::Event> events;
