@@ -5,6 +5,7 @@
 #include "tests/support/WaitFor.h"
 
 #include <cstdlib>
+#include <utility>
 #include <vector>
 
 #include <xcb/xcb.h>
@@ -24,10 +25,26 @@ struct OtherProgram::Private {
     xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
     xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
     xcb_window_t window = 0;
+    int presses = 0;
+    xcb_timestamp_t lastPress = 0;
+    xcb_timestamp_t lastChange = 0; ///< of a property
+    bool repeats = false;
 
     xcb_window_t focus() const {
         const auto reply = owned(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
         return reply ? reply->focus : 0;
+    }
+    void readEvents() {
+        // A round trip: what the server sent before it has arrived now.
+        focus();
+        while (auto event = owned(xcb_poll_for_event(connection))) {
+            if ((event->response_type & 0x7F) == XCB_KEY_PRESS) {
+                ++presses;
+                lastPress = reinterpret_cast<const xcb_key_press_event_t*>(event.get())->time;
+            } else if ((event->response_type & 0x7F) == XCB_PROPERTY_NOTIFY) {
+                lastChange = reinterpret_cast<const xcb_property_notify_event_t*>(event.get())->time;
+            }
+        }
     }
 };
 
@@ -35,13 +52,16 @@ OtherProgram::OtherProgram() : d(std::make_unique<Private>()) {
 }
 
 OtherProgram::~OtherProgram() {
+    if (d->repeats)
+        letKeysRepeat(false);
     xcb_disconnect(d->connection);
 }
 
 bool OtherProgram::takeFocus() {
     if (d->window == 0) {
         d->window = xcb_generate_id(d->connection);
-        const std::uint32_t events = XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_EXPOSURE;
+        const std::uint32_t events =
+            XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_EXPOSURE | XCB_EVENT_MASK_PROPERTY_CHANGE;
         xcb_create_window(d->connection, XCB_COPY_FROM_PARENT, d->window, d->root, 10, 10, 200, 100, 0,
                           XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, &events);
         xcb_map_window(d->connection, d->window);
@@ -66,12 +86,26 @@ bool OtherProgram::takeFocus() {
 }
 
 int OtherProgram::presses() {
-    int count = 0;
-    // A round trip: what the server sent before it has arrived now.
+    d->readEvents();
+    return std::exchange(d->presses, 0);
+}
+
+std::uint32_t OtherProgram::timeOfLastPress() const {
+    return d->lastPress;
+}
+
+std::uint32_t OtherProgram::serverTime() {
+    // Nothing is added to the title; the server tells that the property changed, and when.
+    xcb_change_property(d->connection, XCB_PROP_MODE_APPEND, d->window, XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8, 0, "");
+    d->readEvents();
+    return d->lastChange;
+}
+
+void OtherProgram::letKeysRepeat(bool repeat) {
+    const std::uint32_t mode = repeat ? XCB_AUTO_REPEAT_MODE_ON : XCB_AUTO_REPEAT_MODE_OFF;
+    xcb_change_keyboard_control(d->connection, XCB_KB_AUTO_REPEAT_MODE, &mode);
+    d->repeats = repeat;
     d->focus();
-    while (auto event = owned(xcb_poll_for_event(d->connection)))
-        count += (event->response_type & 0x7F) == XCB_KEY_PRESS ? 1 : 0;
-    return count;
 }
 
 bool OtherProgram::grab(std::uint8_t xKeyCode, std::uint16_t modifiers) {

@@ -101,9 +101,9 @@ bool eventually(const std::function<bool()>& condition, int deadlineMs = 20000) 
 
 void end(QProcess& process) {
     process.terminate();
-    if (!process.waitForFinished(3000)) {
+    if (!process.waitForFinished(10000)) {
         process.kill();
-        process.waitForFinished(3000);
+        process.waitForFinished();
     }
 }
 
@@ -134,7 +134,9 @@ struct XvfbSession::Private {
         if (pipe(ends) != 0)
             return false;
         auto* server = start(u"Xvfb"_s, {u"-displayfd"_s, QString::number(ends[1]), u"-screen"_s, u"0"_s,
-                                         u"1280x1000x24"_s, u"-nolisten"_s, u"tcp"_s, u"-noreset"_s});
+                                         u"1280x1000x24"_s, u"-nolisten"_s, u"tcp"_s, u"-noreset"_s,
+                                         // A key is not repeated when the machine is slow to let go of it.
+                                         u"-r"_s});
         close(ends[1]);
         if (server)
             display = ":" + readLine(ends[0], 30000);
