@@ -3,8 +3,6 @@
 #include "tests/support/AudioCheck.h"
 #include "tests/support/EngineRecording.h"
 
-#include <QElapsedTimer>
-
 using namespace Qt::StringLiterals;
 using Event = Platform::InputUnit::Event;
 
@@ -186,16 +184,27 @@ TEST_F(EngineServer, KeepsBothStretchesWhenTheServerIsRestarted) {
 }
 
 TEST_F(EngineServer, TellsWhenItsFirstFrameWasCaptured) {
-    TestSource source({.name = "stamp", .description = "Stamp", .ownClock = true});
-    ASSERT_TRUE(configure(source));
-    const auto now = [] { return std::uint64_t(std::chrono::steady_clock::now().time_since_epoch().count()); };
+    const auto now = [] { return std::int64_t(std::chrono::steady_clock::now().time_since_epoch().count()); };
+    TestSource source({.name = "stamp", .description = "Stamp", .rate = 44100, .ownClock = true});
     const auto before = now();
-    ASSERT_TRUE(begin(1));
+    ASSERT_TRUE(configure(source));
+    ASSERT_TRUE(beginBoth());
+    ASSERT_TRUE(waitFor([&] { return source.position() > 0; }));
+    const auto begun = now();
     ASSERT_TRUE(recorded(0.2));
-    const auto stamp = engine_.captureSpan().firstHostTime;
-    EXPECT_GT(stamp, before - 200'000'000);
+    const auto stamp = std::int64_t(engine_.captureSpan().firstHostTime);
     EXPECT_LT(stamp, now());
     engine_.stopRecordAudio();
+    // The first frame names its place, and with it its time on the source's clock, which began between the two looks.
+    const auto samples = AudioCheck::waveSamples(wave_);
+    ASSERT_EQ(samples.size(), 2U);
+    const auto first = std::ranges::find_if(samples[0], [](float sample) { return sample != 0; });
+    ASSERT_NE(first, samples[0].end());
+    const auto frame = std::int64_t(Signal::rampFrame(*first, 0)) - (first - samples[0].begin());
+    const auto began = stamp - frame * 1'000'000'000 / 44100;
+    constexpr std::int64_t cycle = 25'000'000;
+    EXPECT_GT(began, before - cycle);
+    EXPECT_LT(began, begun + cycle);
 }
 
 TEST_F(EngineServer, ClosesItsFileWithoutHoldingUpItsCaller) {
