@@ -11,6 +11,7 @@
 #include "tests/support/ChildProcess.h"
 #include "tests/support/Environment.h"
 #include "tests/support/Mpeg4Files.h"
+#include "tests/support/WaitFor.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -261,9 +262,7 @@ TEST_F(ID3Change, GivesAFileBackThatACrashLeftInTheTemporaryFolder) {
             ID3ChangeControl::changeID3(path(), path(), info(), cover);
             return 0;
         });
-        for (int i = 0; i < 2000 && QFile::exists(path()); ++i)
-            ::usleep(5000);
-        ASSERT_FALSE(QFile::exists(path()));
+        ASSERT_TRUE(waitFor([this] { return !QFile::exists(path()); }));
         child.killGroup();
     }
     Platform::MovedFiles::bringBack(temporary_.path());

@@ -136,7 +136,7 @@ protected:
         return waitFor([this] { return controller->jobsInQueue() == 0; });
     }
     [[nodiscard]] bool noticed(const QString& words) {
-        return waitFor([this, words] { return controller->notices().join(u'\n').contains(words); }, 3000);
+        return waitFor([this, words] { return controller->notices().join(u'\n').contains(words); });
     }
 
     QTemporaryDir home;

@@ -86,7 +86,7 @@ protected:
     bool acts(const QString& combination, const QString& what) {
         acted.clear();
         type(combination);
-        return waitFor([&] { return acted == QStringList{what}; }, 5000);
+        return waitFor([&] { return acted == QStringList{what}; });
     }
     Dictionary stored(const QString& key) { return defaults->objectForKey(key).toMap(); }
 
