@@ -6,6 +6,7 @@
 #include "tests/support/RunTool.h"
 #include "tests/support/WaitFor.h"
 
+#include <QDirIterator>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -63,16 +64,19 @@ public:
         return said.status == 0 ? QJsonDocument::fromJson(said.output).object() : QJsonObject();
     }
     [[nodiscard]] static QString state() { return status().value(u"state"_s).toString(); }
-    /// Starts a recording and waits until it is so long that the filter keeps it; the clock counts from the start, the
-    /// frames a moment later.
+    /// Starts a recording and waits until it is so long that the filter keeps it: the clock counts from the start, what
+    /// lies on the disk is recorded.
     [[nodiscard]] static bool recordForAWhile() {
-        return control(u"start-stop"_s) && waitFor(
-                                               [] {
-                                                   const QJsonObject now = status();
-                                                   return now.value(u"state"_s) == u"recording"_s &&
-                                                          now.value(u"seconds"_s).toDouble() > 7;
-                                               },
-                                               60000);
+        const auto recorded = [] {
+            QDirIterator files(QDir::homePath(), {u"BuiltInA*.m4a"_s}, QDir::Files | QDir::Hidden,
+                               QDirIterator::Subdirectories);
+            qint64 most = 0;
+            while (files.hasNext())
+                most = std::max(most, QFileInfo(files.next()).size());
+            return most;
+        };
+        return control(u"start-stop"_s) &&
+               waitFor([&] { return recorded() > 120000 && state() == u"recording"_s; }, 60000); // seven seconds
     }
     [[nodiscard]] QProcess& process() { return process_; }
     /// Whether it ended by itself and in good order.

@@ -93,7 +93,7 @@ testing::AssertionResult TestCapture::start() {
     QElapsedTimer timer;
     timer.start();
     while (frames() == 0) {
-        if (timer.elapsed() > 10000)
+        if (timer.elapsed() > 30000)
             return testing::AssertionFailure() << options_.target << " delivers nothing";
         QThread::msleep(1);
     }

@@ -96,6 +96,8 @@ TEST_F(InputUnitTest, CutsWhatArrivesIntoCyclesOfTheSizeThatItNamed) {
 
 TEST_F(InputUnitTest, StampsEachCycleWithTheTimeOfItsCapture) {
     TestSource source({.description = "Stamped"});
+    const auto clock = [] { return std::uint64_t(std::chrono::steady_clock::now().time_since_epoch().count()); };
+    const auto begun = clock();
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());
     ASSERT_TRUE(captured(capture, 1));
@@ -107,11 +109,10 @@ TEST_F(InputUnitTest, StampsEachCycleWithTheTimeOfItsCapture) {
     ASSERT_TRUE(captured(capture, 2));
     capture.stop();
     const auto cycles = capture.cycles();
-    const auto now = std::uint64_t(std::chrono::steady_clock::now().time_since_epoch().count());
     const double seconds = double(cycles.back().firstFrame) / capture.sampleRate();
     EXPECT_NEAR(double(cycles.back().hostTime - cycles.front().hostTime) * 1e-9, seconds, 0.001);
-    EXPECT_LT(cycles.back().hostTime, now);
-    EXPECT_LT(now - cycles.front().hostTime, 20'000'000'000u);
+    EXPECT_GT(cycles.front().hostTime, begun);
+    EXPECT_LT(cycles.back().hostTime, clock());
     for (std::size_t i = 0; i < cycles.size(); ++i) {
         EXPECT_EQ(cycles[i].scopeTime, cycles[i].hostTime);
         EXPECT_EQ(cycles[i].sampleTime, double(cycles[i].firstFrame));
@@ -276,7 +277,6 @@ TEST_F(InputUnitTest, FollowsItsDeviceAndNotTheOneThatTookItsPlace) {
     ASSERT_TRUE(captured(capture, 0.3));
     source.remove();
     ASSERT_TRUE(waitFor([&] { return capture.heard(Event::DeviceLost); }));
-    const auto before = capture.frames();
     TestSource other({.name = "test.not.mine",
                       .description = "Not mine",
                       .content = TestSource::Content::Tone,
@@ -286,7 +286,8 @@ TEST_F(InputUnitTest, FollowsItsDeviceAndNotTheOneThatTookItsPlace) {
     UnitCapture its(*hardware_, stranger);
     ASSERT_TRUE(its.start());
     ASSERT_TRUE(captured(its, 0.3));
-    EXPECT_EQ(capture.frames(), before);
+    capture.stop();
+    EXPECT_TRUE(isUnbrokenRamp(capture.samples(0), 0)) << "nothing of the stranger";
 }
 
 TEST_F(InputUnitTest, RunsNoCycleWhileHeldAndLosesNothing) {

@@ -75,7 +75,7 @@ protected:
         controller.destroyDudioPlayUpdateTimer(); // the tests are its clock
         panel->resize(480, 104);
         panel->show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(panel));
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(panel, 30000));
     }
     ~LiveDisplay() override { controller.setDelegate(nullptr); }
 
@@ -191,7 +191,7 @@ TEST_F(LiveDisplay, ADragSeeksAllAlongAndEndsAtTheRelease) {
     bar.setDuration(10);
     bar.setDelegate(&asked);
     bar.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&bar));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&bar, 30000));
     QTest::mousePress(bar.windowHandle(), Qt::LeftButton, {}, {50, 10});
     QTest::mouseMove(bar.windowHandle(), {60, 10});
     QTest::mouseMove(bar.windowHandle(), {70, 10});

@@ -59,10 +59,21 @@ TEST_F(RecordServer, SilencesBetweenSongsCutTheRecording) {
     defaults.setObject(PreferenceStore::PreferenceFilterKey, 1);
     defaults.setObject(PreferenceStore::PreferenceFilterTimeKey, u"1"_s);
     begin(false, true);
-    controller->startAndStopRecord();
-    begins = std::int64_t(computer.position()) + 9600;
-    ASSERT_TRUE(recorded(7.4));
-    controller->finishAll();
+    // A machine that does not let the sound server run in time loses frames before they reach us, and says so. Such a
+    // run proves nothing about lengths and is repeated.
+    for (int attempt = 0; attempt < 8; ++attempt) {
+        delegate.paths.clear();
+        begins = -1;
+        controller->startAndStopRecord();
+        begins = std::int64_t(computer.position()) + 9600;
+        ASSERT_TRUE(recorded(7.4));
+        controller->startAndStopRecord();
+        const auto lost = controller->lostFrames();
+        controller->finishAll();
+        if (lost == 0)
+            break;
+    }
+    ASSERT_EQ(controller->lostFrames(), 0U);
     ASSERT_EQ(delegate.paths.size(), 3) << qPrintable(delegate.paths.join(u' '));
     double seconds = 0;
     for (int i = 0; i < 3; ++i) {
@@ -177,7 +188,7 @@ TEST_F(RecordServer, TheRecordingFollowsTheUserToAnotherOutput) {
     ASSERT_TRUE(recorded(controller->recordedSeconds() + 4));
     controller->finishAll();
     controller.reset();
-    EXPECT_TRUE(CaptureDriver::unload());
+    EXPECT_TRUE(CaptureDriver::unload(20000));
     (void)Platform::DeviceRegistry::shared()->setMetadata(0, "default.configured.audio.sink", "Spa:String:JSON",
                                                           "{\"name\":\"sonaphex.output\"}");
     second.closeWriteChannel();

@@ -37,7 +37,7 @@ protected:
         prepare(field, saveKey, 0x73737273);
         window.show();
         window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window, 30000));
         other->setFocus();
     }
     static void prepare(Field* field, const QString& key, std::uint32_t signature) {

@@ -32,7 +32,7 @@ protected:
         view.setMenuDelegate(&delegate);
         view.resize(300, 400);
         view.show();
-        (void)QTest::qWaitForWindowExposed(&view);
+        (void)QTest::qWaitForWindowExposed(&view, 30000);
     }
     void rightClick(int row) {
         const QPoint place = row < model.rowCount() ? view.visualRect(model.index(row, 0)).center()

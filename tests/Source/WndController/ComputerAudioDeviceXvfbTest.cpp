@@ -45,11 +45,11 @@ protected:
         set.hotKeys = &hotKeys;
         controller = std::make_unique<PreferenceWndController>(ComputerAudioDevice::system());
         controller->makeKeyAndOrderFront();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(controller->window()));
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(controller->window(), 30000));
     }
     ~InstallingTheDevice() override {
         controller.reset();
-        EXPECT_TRUE(CaptureDriver::unload());
+        EXPECT_TRUE(CaptureDriver::unload(20000));
     }
     bool listed() {
         for (const auto device : hardware->devices())

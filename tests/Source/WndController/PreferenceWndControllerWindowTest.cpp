@@ -102,7 +102,7 @@ protected:
         controller = std::make_unique<PreferenceWndController>(device.door());
         controller->makeKeyAndOrderFront();
         controller->center();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(controller->window()));
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(controller->window(), 30000));
         return *controller;
     }
     template <typename T>
@@ -411,7 +411,7 @@ TEST_F(Preferences, EveryControlHasAnAccessibleNameAndEveryFieldAMnemonic) {
 TEST_F(Preferences, TheMnemonicOfAShortcutFieldLeadsIntoIt) {
     open();
     controller->window()->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(controller->window()));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(controller->window(), 30000));
     QTest::keyClick(controller->window(), Qt::Key_P, Qt::AltModifier);
     EXPECT_TRUE(controller->pauseResumeShortcut()->hasFocus());
     EXPECT_TRUE(controller->pauseResumeShortcut()->hotKeyRegister()->hasRegisterHotKey());
@@ -420,12 +420,12 @@ TEST_F(Preferences, TheMnemonicOfAShortcutFieldLeadsIntoIt) {
 TEST_F(Preferences, AFieldThatWasLeftByClosingTheWindowDoesNotCaptureWhenItIsShownAgain) {
     open();
     controller->window()->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(controller->window()));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(controller->window(), 30000));
     controller->startStopShortcut()->setFocus();
     ASSERT_TRUE(probe.isEditKeybordShortcutControl());
     controller->window()->close();
     controller->makeKeyAndOrderFront();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(controller->window()));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(controller->window(), 30000));
     EXPECT_FALSE(probe.isEditKeybordShortcutControl()) << "hot keys would rest, and nobody is typing one";
     QTest::keyClick(controller->window()->windowHandle(), Qt::Key_Escape);
     EXPECT_FALSE(controller->isWindowVisible()) << "Escape closes the window";

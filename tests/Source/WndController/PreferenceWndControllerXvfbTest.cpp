@@ -63,7 +63,7 @@ protected:
     void show() {
         controller->makeKeyAndOrderFront();
         controller->center();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(controller->window()));
+        ASSERT_TRUE(QTest::qWaitForWindowActive(controller->window(), 30000));
     }
     void keys(const QStringList& arguments) { EXPECT_TRUE(XvfbSession::current()->xdotool(arguments)); }
     void type(const QString& combination) { keys({u"key"_s, combination}); }

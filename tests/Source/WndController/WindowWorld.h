@@ -43,7 +43,7 @@ struct WindowWorld : LibraryWorld {
         controller = std::make_unique<MainWndController>(*record, *library);
         controller->window()->resize(size);
         ToolControl::showWindowNib(*controller);
-        (void)QTest::qWaitForWindowExposed(controller->window());
+        (void)QTest::qWaitForWindowExposed(controller->window(), 30000);
         return *controller;
     }
     template <typename W = QWidget>
