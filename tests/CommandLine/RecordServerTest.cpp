@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The program itself, on a sound server, as somebody in a terminal meets it.
+#include "Platform/Audio/linux/ServerProbe.h"
 #include "tests/support/AudioCheck.h"
 #include "tests/support/Environment.h"
 #include "tests/support/PrivateAudioSession.h"
@@ -37,6 +38,8 @@ protected:
                                                                    .frequency = 440,
                                                                    .ownClock = true});
         EXPECT_TRUE(source_->start());
+        // The program does not wait for a session manager that is late with the ports of a device.
+        EXPECT_TRUE(Platform::PipeWire::serverIsThere(30000, true, "test.tone"));
         return *source_;
     }
     [[nodiscard]] QStringList recordArguments(QStringList more) const {

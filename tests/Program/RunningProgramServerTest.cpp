@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The program with its window, as a process: launched twice, spoken to, and ended by a signal.
+#include "Platform/Audio/linux/ServerProbe.h"
 #include "tests/support/AudioCheck.h"
 #include "tests/support/Environment.h"
 #include "tests/support/PrivateAudioSession.h"
@@ -25,6 +26,7 @@ protected:
         QDir(dir_.path()).mkdir(u"tmp"_s);
         QFile::setPermissions(tmp_, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         EXPECT_TRUE(source_.start());
+        EXPECT_TRUE(Platform::PipeWire::serverIsThere(30000, true, "test.tone"));
     }
     ~RunningWindow() override {
         if (window_.state() == QProcess::NotRunning)

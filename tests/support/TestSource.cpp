@@ -14,6 +14,7 @@ Platform::SignalSource::Options sourceOptions(const TestSource::Options& options
             .cycle = options.cycle,
             .ownClock = options.ownClock,
             .clockErrorPpm = options.clockErrorPpm,
+            .patienceMs = 5000, // a server that is kept from running for seconds loses nothing
             .sessionPriority = options.sessionPriority};
 }
 

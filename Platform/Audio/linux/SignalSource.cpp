@@ -17,8 +17,6 @@ using namespace PipeWire;
 
 namespace {
 
-constexpr std::uint64_t patienceNs = 500'000'000;
-
 std::uint64_t steadyNanoseconds() {
     timespec now = {};
     clock_gettime(CLOCK_MONOTONIC, &now);
@@ -225,7 +223,8 @@ void SignalSource::Connection::onTimerRt() {
             seconds = double(position->clock.duration) / position->clock.rate.denom;
         // On a machine that is kept from running, the cycle before may still be under way; another one now would be
         // heard by nobody.
-        const bool waits = tellsEnd && underWay && now < lastTrigger + patienceNs;
+        const bool waits =
+            tellsEnd && underWay && now < lastTrigger + std::uint64_t(options.patienceMs) * SPA_NSEC_PER_MSEC;
         if (waits) {
             armTimerRt(now + std::uint64_t(seconds * SPA_NSEC_PER_SEC / 16));
             return;

@@ -32,6 +32,9 @@ public:
         bool ownClock = false;
         /// How much faster than it says that clock runs, in millionths.
         double clockErrorPpm = 0;
+        /// How long that clock waits with a cycle until the one before was heard. A listener that left in the midst of
+        /// one holds the source up for as long.
+        int patienceMs = 500;
         int sessionPriority = 0; ///< the highest becomes the default device
     };
 
