@@ -59,8 +59,6 @@ void moveBack(const QString& from, const QString& to) {
     if (!FileManager::move(from, to).isEmpty() && QFileInfo::exists(from)) {
         const QString kept = FileManager::setAside(from, QFileInfo(to).fileName());
         qCWarning(log, "%s could not be put back; it is at %s", qUtf8Printable(to), qUtf8Printable(kept));
-        if (kept == from)
-            return; // by its note it goes home later; without one it would go with the temporary folder
     }
     if (!QFileInfo::exists(from)) // one that stays keeps its note: the next launch tries again
         MovedFiles::forget(from);
