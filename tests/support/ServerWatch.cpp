@@ -3,6 +3,7 @@
 #include "tests/support/ServerWatch.h"
 
 #include "Platform/Audio/linux/PipeWireHandles.h"
+#include "tests/support/ClientConnection.h"
 #include "tests/support/WaitFor.h"
 
 #include <cstdlib>
@@ -12,7 +13,7 @@
 
 using namespace Platform::PipeWire;
 
-struct ServerWatch::Connection {
+struct ServerWatch::Connection : ClientConnection {
     struct Node {
         ~Node() { listener.remove(); }
         Connection* owner = nullptr;
@@ -29,29 +30,19 @@ struct ServerWatch::Connection {
     };
 
     ~Connection() {
-        if (!loop)
-            return;
-        {
-            LoopLock lock(loop.get());
+        disconnect([this] {
             nodes.clear();
             registryListener.remove();
             registry.reset();
             coreListener.remove();
-            core.reset();
-        }
-        pw_thread_loop_stop(loop.get());
+        });
     }
 
     bool start() {
-        initialiseLibrary();
-        loop.reset(pw_thread_loop_new("server-watch", nullptr));
-        context.reset(pw_context_new(pw_thread_loop_get_loop(loop.get()), nullptr, 0));
-        if (!context || pw_thread_loop_start(loop.get()) < 0)
-            return false;
-        LoopLock lock(loop.get());
-        core.reset(pw_context_connect(context.get(), nullptr, 0));
-        if (!core)
-            return false;
+        return connect("server-watch", [this] { return setUp(); });
+    }
+
+    bool setUp() {
         static constexpr pw_core_events coreEvents = {
             .version = PW_VERSION_CORE_EVENTS,
             .done = [](void* data, std::uint32_t, int) { static_cast<Connection*>(data)->onDone(); },
@@ -134,9 +125,6 @@ struct ServerWatch::Connection {
     int answers = 0;
     std::map<std::uint32_t, Node> nodes; ///< by the server's id, as are the links
     std::map<std::uint32_t, Link> links;
-    ThreadLoopPtr loop;
-    ContextPtr context;
-    CorePtr core;
     Hook coreListener;
     RegistryPtr registry;
     Hook registryListener;

@@ -4,6 +4,7 @@
 
 #include "Platform/Audio/linux/NodeFormat.h"
 #include "Platform/Audio/linux/PipeWireHandles.h"
+#include "tests/support/ClientConnection.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,30 +15,20 @@
 
 using namespace Platform::PipeWire;
 
-struct TestCapture::Connection {
+struct TestCapture::Connection : ClientConnection {
     explicit Connection(const Options& o) : options(o) {}
     ~Connection() {
-        if (!loop)
-            return;
-        {
-            LoopLock lock(loop.get());
+        disconnect([this] {
             listener.remove();
             stream.reset();
-            core.reset();
-        }
-        pw_thread_loop_stop(loop.get());
+        });
     }
 
     bool start() {
-        initialiseLibrary();
-        loop.reset(pw_thread_loop_new("test-capture", nullptr));
-        context.reset(pw_context_new(pw_thread_loop_get_loop(loop.get()), nullptr, 0));
-        if (!context || pw_thread_loop_start(loop.get()) < 0)
-            return false;
-        LoopLock lock(loop.get());
-        core.reset(pw_context_connect(context.get(), nullptr, 0));
-        if (!core)
-            return false;
+        return connect("test-capture", [this] { return setUp(); });
+    }
+
+    bool setUp() {
         auto* properties = pw_properties_new(PW_KEY_MEDIA_TYPE, "Audio", PW_KEY_MEDIA_CATEGORY, "Capture",
                                              PW_KEY_TARGET_OBJECT, options.target.c_str(), PW_KEY_APP_ID,
                                              "test.capture", "node.dont-reconnect", "true", nullptr);
@@ -75,9 +66,6 @@ struct TestCapture::Connection {
     const Options& options;
     mutable std::mutex mutex;
     std::vector<float> samples;
-    ThreadLoopPtr loop;
-    ContextPtr context;
-    CorePtr core;
     StreamPtr stream;
     Hook listener;
 };

@@ -3,6 +3,7 @@
 #include "tests/support/TestCard.h"
 
 #include "Platform/Audio/linux/PipeWireHandles.h"
+#include "tests/support/ClientConnection.h"
 #include "tests/support/WaitFor.h"
 
 #include <atomic>
@@ -14,7 +15,7 @@
 
 using namespace Platform::PipeWire;
 
-struct TestCard::Connection {
+struct TestCard::Connection : ClientConnection {
     explicit Connection(const std::map<std::string, std::string>& properties) {
         for (const auto& [key, value] : properties)
             items.push_back(SPA_DICT_ITEM_INIT(key.c_str(), value.c_str()));
@@ -39,27 +40,17 @@ struct TestCard::Connection {
         device.iface = SPA_INTERFACE_INIT(SPA_TYPE_INTERFACE_Device, SPA_VERSION_DEVICE, &methods, this);
     }
     ~Connection() {
-        if (!loop)
-            return;
-        {
-            LoopLock lock(loop.get());
+        disconnect([this] {
             listener.remove();
             proxy.reset();
-            core.reset();
-        }
-        pw_thread_loop_stop(loop.get());
+        });
     }
 
     bool start() {
-        initialiseLibrary();
-        loop.reset(pw_thread_loop_new("test-card", nullptr));
-        context.reset(pw_context_new(pw_thread_loop_get_loop(loop.get()), nullptr, 0));
-        if (!context || pw_thread_loop_start(loop.get()) < 0)
-            return false;
-        LoopLock lock(loop.get());
-        core.reset(pw_context_connect(context.get(), nullptr, 0));
-        if (!core)
-            return false;
+        return connect("test-card", [this] { return setUp(); });
+    }
+
+    bool setUp() {
         proxy.reset(pw_core_export(core.get(), SPA_TYPE_INTERFACE_Device, &dict, &device, 0));
         if (!proxy)
             return false;
@@ -86,9 +77,6 @@ struct TestCard::Connection {
     spa_hook_list hooks = {};
     spa_device device = {};
     std::atomic<std::uint32_t> id{SPA_ID_INVALID};
-    ThreadLoopPtr loop;
-    ContextPtr context;
-    CorePtr core;
     ProxyPtr proxy;
     Hook listener;
 };
