@@ -9,9 +9,9 @@
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/TemporaryFolder.h"
 #include "Platform/Foundation/UserDefaults.h"
-#include "Source/Control/CutOffRecordings.h"
-#include "Source/Control/PreferenceStore.h"
-#include "Source/Model/MediaLibraryRequests.h"
+#include "Source/Preferences/PreferenceStore.h"
+#include "Source/ProcessRequests/MediaLibraryRequests.h"
+#include "Source/Record/CutOffRecordings.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -4,10 +4,10 @@
 
 #include "Platform/Desktop/SleepInhibitor.h"
 #include "Platform/Foundation/Services.h"
-#include "Source/Control/ControlRequests.h"
 #include "Source/HotKey/HotKeyRegister.h"
 #include "Source/HotKey/KeybordShortcutTextView.h"
 #include "Source/Model/MediaLibrary.h"
+#include "Source/ProcessRequests/ControlRequests.h"
 #include "Source/View/QtAlerts.h"
 #include "Source/View/QtFocusProbe.h"
 #include "Source/View/QtPanels.h"

@@ -3,7 +3,7 @@
 #include "CommandLine/ControlCommand.h"
 
 #include "Platform/Desktop/Activation.h"
-#include "Source/Control/ControlRequests.h"
+#include "Source/ProcessRequests/ControlRequests.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -6,7 +6,7 @@
 #include "Source/Control/ToolControl.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
-#include "Source/Model/MediaLibraryRequests.h"
+#include "Source/ProcessRequests/MediaLibraryRequests.h"
 
 #include <QFileInfo>
 #include <QJsonArray>

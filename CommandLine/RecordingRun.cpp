@@ -7,9 +7,9 @@
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/TerminationSignals.h"
 #include "Platform/Foundation/UserDefaults.h"
-#include "Source/Control/ControlRequests.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
+#include "Source/ProcessRequests/ControlRequests.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>

@@ -4,7 +4,7 @@
 
 #include "CommandLine/LevelMeter.h"
 #include "Platform/Audio/AudioTypes.h"
-#include "Source/Control/RecordStateController.h"
+#include "Source/Record/RecordStateController.h"
 
 #include <QElapsedTimer>
 #include <QJsonArray>

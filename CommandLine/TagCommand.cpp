@@ -7,7 +7,7 @@
 #include "Platform/Foundation/Services.h"
 #include "Platform/Media/BasicID3Change.h"
 #include "Source/Model/AudioRecordEntry.h"
-#include "Source/Model/MediaLibraryRequests.h"
+#include "Source/ProcessRequests/MediaLibraryRequests.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -14,7 +14,7 @@
 #include "Platform/Foundation/linux/LinuxFoundation.h"
 #include "Platform/Foundation/linux/PropertyListDefaults.h"
 #include "Platform/Media/linux/MediaFilesLinux.h"
-#include "Platform/Media/linux/PipeWireSounds.h"
+#include "Platform/Media/linux/play/PipeWireSounds.h"
 
 #include <cstdio>
 

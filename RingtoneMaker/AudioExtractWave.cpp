@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "RingtoneMaker/AudioExtractWave.h"
 
+#include "Platform/Audio/ClientFormat.h"
 #include "Platform/Foundation/Services.h"
-#include "Source/Control/ClientFormat.h"
 
 #include <QLoggingCategory>
 

@@ -5,10 +5,10 @@
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/linux/PropertyListDefaults.h"
 #include "Platform/Media/BasicID3Change.h"
-#include "Source/Control/PreferenceStore.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
 #include "Source/Model/MediaLibraryStore.h"
+#include "Source/Preferences/PreferenceStore.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

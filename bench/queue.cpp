@@ -8,8 +8,8 @@
 #include "Platform/Foundation/linux/LinuxFoundation.h"
 #include "Platform/Foundation/linux/PropertyListDefaults.h"
 #include "Platform/Media/linux/MediaFilesLinux.h"
-#include "Source/Control/RecordQueue.h"
-#include "Source/Control/RecordStateController.h"
+#include "Source/Record/RecordQueue.h"
+#include "Source/Record/RecordStateController.h"
 
 #include <QCoreApplication>
 #include <QDir>

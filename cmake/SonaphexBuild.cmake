@@ -47,6 +47,27 @@ function(sonaphex_sources out)
     set(${out} ${found} PARENT_SCOPE)
 endfunction()
 
+# Divides sources into those of the core and those of the windows' floor, by the list in cmake/WindowFloor.txt.
+function(sonaphex_sort_floors sources core_out ui_out)
+    set(list_file ${CMAKE_SOURCE_DIR}/cmake/WindowFloor.txt)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${list_file})
+    file(STRINGS ${list_file} entries REGEX "^[^#]")
+    set(core)
+    set(ui)
+    foreach(source IN LISTS sources)
+        file(RELATIVE_PATH path ${CMAKE_SOURCE_DIR} ${source})
+        get_filename_component(folder ${path} DIRECTORY)
+        string(REGEX REPLACE "\\.[^./]*$" "" stem ${path})
+        if("${folder}/" IN_LIST entries OR stem IN_LIST entries)
+            list(APPEND ui ${source})
+        else()
+            list(APPEND core ${source})
+        endif()
+    endforeach()
+    set(${core_out} ${core} PARENT_SCOPE)
+    set(${ui_out} ${ui} PARENT_SCOPE)
+endfunction()
+
 # moc and uic run again when a file changes that they know. One that is new since the last configuration they do not know,
 # so their stamp goes when the list of files changes.
 function(sonaphex_look_at_new_files target)

@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/Control/ConverterAudioControl.h"
 
+#include "Platform/Audio/ClientFormat.h"
 #include "Platform/Desktop/Workspace.h"
 #include "Platform/Foundation/Services.h"
 #include "Source/BuiltInAudioRecord/ExportFormat.h"
-#include "Source/Control/ClientFormat.h"
+#include "Source/Control/Fades.h"
 
 #include <QFileInfo>
 #include <QLoggingCategory>

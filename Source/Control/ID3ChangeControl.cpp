@@ -7,8 +7,8 @@
 #include "Platform/Foundation/MovedFiles.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/Media/BasicID3Change.h"
-#include "Source/Control/PreferenceStore.h"
 #include "Source/Model/AudioRecordEntry.h"
+#include "Source/Preferences/PreferenceStore.h"
 
 #include <QFileInfo>
 #include <QLoggingCategory>

@@ -4,7 +4,7 @@
 #include "Source/Control/ID3ChangeControl.h"
 
 #include "Platform/Foundation/FileManager.h"
-#include "Source/Control/PreferenceStore.h"
+#include "Source/Preferences/PreferenceStore.h"
 
 #include <QBuffer>
 #include <QLoggingCategory>

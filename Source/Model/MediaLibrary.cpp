@@ -6,10 +6,10 @@
 #include "Platform/Foundation/FileManager.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/UserDefaults.h"
-#include "Source/Control/PreferenceStore.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/LeafChanges.h"
 #include "Source/Model/MediaLibraryStore.h"
+#include "Source/Preferences/PreferenceStore.h"
 
 #include <QLoggingCategory>
 #include <QSet>

@@ -3,7 +3,7 @@
 #include "Source/WndController/MainMenus.h"
 
 #include "Source/AudioWaveViewController/AudioWaveViewController.h"
-#include "Source/Control/RecordStateController.h"
+#include "Source/Record/RecordStateController.h"
 #include "Source/View/NamedImages.h"
 #include "Source/View/Theme.h"
 #include "Source/WndController/LibraryPresenter.h"

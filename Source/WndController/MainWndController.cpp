@@ -4,9 +4,9 @@
 
 #include "FilterAudio/AudioFilterController.h"
 #include "Platform/Desktop/Activation.h"
-#include "Source/Control/PreferenceStore.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
+#include "Source/Preferences/PreferenceStore.h"
 #include "Source/View/MediaLibraryNodeSizeFieldCell.h"
 #include "Source/View/NamedImages.h"
 #include "Source/WndController/AudioTableModel.h"

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "Source/AudioWaveViewController/AudioWaveViewController.h"
-#include "Source/Control/RecordStateController.h"
 #include "Source/Control/ToolControl.h"
+#include "Source/Record/RecordStateController.h"
 #include "Source/View/MediaNodeListTableView.h"
 #include "Source/WndController/WindowCommands.h"
 

@@ -11,8 +11,8 @@
 #include "Platform/Foundation/Folders.h"
 #include "Platform/Foundation/MainQueue.h"
 #include "Platform/Foundation/Services.h"
-#include "Source/Control/PreferenceStore.h"
 #include "Source/HotKey/KeybordShortcutTextView.h"
+#include "Source/Preferences/PreferenceStore.h"
 #include "Source/View/NamedImages.h"
 #include "ui_PreferenceWnd.h"
 

@@ -3,7 +3,7 @@
 #include "Source/WndController/RecordPanel.h"
 
 #include "Source/AudioWaveViewController/AudioWaveViewController.h"
-#include "Source/Control/RecordStateController.h"
+#include "Source/Record/RecordStateController.h"
 #include "Source/View/ConvertingTipView.h"
 #include "Source/View/NamedImages.h"
 #include "ui_MainWnd.h"

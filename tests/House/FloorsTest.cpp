@@ -17,11 +17,21 @@ namespace {
 
 enum Floor { Platform = 1, Core, Windows, Program, Tools, Tests };
 
-/// The same rule by which the build sorts sources into libraries.
+/// The list by which the build sorts sources into the core and the windows' floor.
+const QStringList& windowFloor() {
+    static const QStringList entries = [] {
+        QFile file(QStringLiteral(SONAPHEX_SOURCE_DIR "/cmake/WindowFloor.txt"));
+        if (!file.open(QIODevice::ReadOnly))
+            return QStringList();
+        QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+        lines.removeIf([](const QString& line) { return line.startsWith(u'#'); });
+        return lines;
+    }();
+    return entries;
+}
+
+/// @p path is relative to the root of the tree.
 Floor floorOf(const QString& path) {
-    static const QRegularExpression windowName(
-        u"(View|ViewCell|FieldCell|WndController|AudioFilterController|RingtoneMakerController)\\.(cpp|h)$"_s);
-    static const QRegularExpression windowFolder(u"/(WndController|View|AudioWaveViewController)/[^/]+\\.(cpp|h)$"_s);
     if (path.startsWith(u"tests/"_s) || path.startsWith(u"bench/"_s))
         return Tests;
     if (path.startsWith(u"Tools/"_s))
@@ -30,7 +40,9 @@ Floor floorOf(const QString& path) {
         return Platform;
     if (!path.contains(u'/') || path.startsWith(u"CommandLine/"_s))
         return Program;
-    return path.contains(windowName) || path.contains(windowFolder) ? Windows : Core;
+    const QString folder = path.left(path.lastIndexOf(u'/') + 1);
+    const QString stem = path.left(path.lastIndexOf(u'.'));
+    return windowFloor().contains(folder) || windowFloor().contains(stem) ? Windows : Core;
 }
 
 /// Includes of the system's libraries, which one door leads to.

@@ -3,7 +3,7 @@
 #include "AppDelegate.h"
 
 #include "Platform/Foundation/Services.h"
-#include "Source/Control/PreferenceStore.h"
+#include "Source/Preferences/PreferenceStore.h"
 #include "tests/fakes/FakeBundle.h"
 #include "tests/fakes/FakeUserDefaults.h"
 #include "tests/fakes/FakeWorkspace.h"

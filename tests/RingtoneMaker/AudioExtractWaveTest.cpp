@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "RingtoneMaker/AudioExtractWave.h"
 
+#include "Platform/Audio/ClientFormat.h"
 #include "Platform/Foundation/Services.h"
 #include "RingtoneMaker/WaveImage.h"
-#include "Source/Control/ClientFormat.h"
 #include "tests/fakes/FakeSourceFiles.h"
 #include "tests/support/LogCatcher.h"
 

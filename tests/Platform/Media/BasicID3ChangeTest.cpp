@@ -3,9 +3,9 @@
 #include "Platform/Media/BasicID3Change.h"
 
 #include "Platform/Media/ExtAudioFile.h"
-#include "Platform/Media/linux/InPlaceSave.h"
 #include "Platform/Media/linux/MediaFilesLinux.h"
-#include "Platform/Media/linux/Mpeg4Atoms.h"
+#include "Platform/Media/linux/mpeg4/Mpeg4Atoms.h"
+#include "Platform/Media/linux/tags/InPlaceSave.h"
 #include "tests/support/ChildProcess.h"
 #include "tests/support/Mpeg4Files.h"
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Foundation/Services.h"
 #include "Platform/Media/linux/MediaFilesLinux.h"
-#include "Platform/Media/linux/PipeWireSounds.h"
+#include "Platform/Media/linux/play/PipeWireSounds.h"
 #include "RingtoneMaker/CustomSound.h"
 #include "tests/fakes/FakeSourceFiles.h"
 #include "tests/support/HeardFrames.h"

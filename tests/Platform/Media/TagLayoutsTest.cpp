@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/BasicID3Change.h"
-#include "Platform/Media/linux/InPlaceSave.h"
-#include "Platform/Media/linux/Mpeg4TagList.h"
+#include "Platform/Media/linux/tags/InPlaceSave.h"
+#include "Platform/Media/linux/tags/Mpeg4TagList.h"
 #include "tests/support/ChildProcess.h"
 #include "tests/support/Mpeg4Files.h"
 #include "tests/support/WaitFor.h"

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/Control/ConverterAudioControl.h"
 
+#include "Platform/Audio/ClientFormat.h"
 #include "Platform/Foundation/Services.h"
-#include "Source/Control/ClientFormat.h"
+#include "Source/Control/Fades.h"
 #include "tests/fakes/FakeSourceFiles.h"
 #include "tests/support/LogCatcher.h"
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Audio/ClientFormat.h"
 #include "Platform/Foundation/Services.h"
 #include "RingtoneMaker/AudioExtractWave.h"
-#include "Source/Control/ClientFormat.h"
 #include "Source/Control/ConverterAudioControl.h"
 #include "tests/Platform/Media/MediaTestSupport.h"
 #include "tests/support/RunTool.h"

@@ -4,9 +4,9 @@
 
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/linux/PropertyListDefaults.h"
-#include "Source/Control/PreferenceStore.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibraryStore.h"
+#include "Source/Preferences/PreferenceStore.h"
 #include "tests/fakes/FakeUserDefaults.h"
 
 #include <QFile>

@@ -3,8 +3,8 @@
 #include "Source/WndController/PreferenceWndController.h"
 
 #include "Platform/Foundation/Services.h"
-#include "Source/Control/PreferenceStore.h"
 #include "Source/HotKey/KeybordShortcutTextView.h"
+#include "Source/Preferences/PreferenceStore.h"
 #include "Source/View/QtFocusProbe.h"
 #include "Source/View/Theme.h"
 #include "tests/fakes/FakeAlerts.h"

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Source/Control/PreferenceStore.h"
-#include "Source/Control/RecordStateController.h"
+#include "Source/Preferences/PreferenceStore.h"
+#include "Source/Record/RecordStateController.h"
 #include "Source/WndController/AudioTableModel.h"
 #include "Source/WndController/LibraryOutlineModel.h"
 #include "Source/WndController/LibraryPresenter.h"

@@ -1,0 +1,545 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Media/linux/decode/InputFile.h"
+
+namespace Platform {
+
+namespace {
+
+constexpr int ioBufferBytes = 1 << 16;
+constexpr std::int64_t prerollFrames = 16384; // decoded before a seek's target, for decoders that remember
+constexpr int mostFailuresInARow = 10000;
+constexpr int mostRate = 3'000'000;
+
+/// libavformat's view of a SourceFile. It sees no path and can open no other file.
+struct Reading {
+    const SourceFile* file;
+    std::int64_t at = 0;
+};
+
+int readSome(void* opaque, std::uint8_t* out, int size) {
+    auto* reading = static_cast<Reading*>(opaque);
+    const std::int64_t got = reading->file->read(reading->at, std::span(out, std::size_t(size)));
+    if (got <= 0)
+        return got == 0 ? AVERROR_EOF : int(got);
+    reading->at += got;
+    return int(got);
+}
+
+std::int64_t seekTo(void* opaque, std::int64_t offset, int whence) {
+    auto* reading = static_cast<Reading*>(opaque);
+    if (whence & AVSEEK_SIZE)
+        return reading->file->size();
+    switch (whence & ~AVSEEK_FORCE) {
+    case SEEK_CUR:
+        offset += reading->at;
+        break;
+    case SEEK_END:
+        offset += reading->file->size();
+        break;
+    default:
+        break;
+    }
+    if (offset < 0)
+        return AVERROR(EINVAL);
+    return reading->at = offset;
+}
+
+int openNothing(AVFormatContext*, AVIOContext**, const char*, int, AVDictionary**) {
+    return AVERROR(EPERM);
+}
+
+bool isPcm(AVCodecID id) {
+    return id >= AV_CODEC_ID_FIRST_AUDIO && id < AV_CODEC_ID_ADPCM_IMA_QT;
+}
+
+bool formatIs(const AVFormatContext& format, const char* name) {
+    const std::string names = std::string(",") + format.iformat->name + ",";
+    return names.find(std::string(",") + name + ",") != std::string::npos;
+}
+
+/// Frames that libavcodec takes off the beginning and the end of what a packet gives.
+struct TakenOff {
+    std::int64_t front = 0;
+    std::int64_t back = 0;
+};
+
+TakenOff takenOff(const AVPacket& packet) {
+    std::size_t size = 0;
+    const std::uint8_t* data = av_packet_get_side_data(&packet, AV_PKT_DATA_SKIP_SAMPLES, &size);
+    if (!data || size < 10)
+        return {};
+    const auto number = [](const std::uint8_t* p) {
+        return std::int64_t(p[0]) | std::int64_t(p[1]) << 8 | std::int64_t(p[2]) << 16 | std::int64_t(p[3]) << 24;
+    };
+    return {number(data), number(data + 4)};
+}
+
+} // namespace
+
+std::unique_ptr<InputFile> InputFile::open(const QString& path, bool decode, MediaError& error) {
+    std::unique_ptr<InputFile> input(new InputFile(path));
+    error = input->file_.open(path);
+    std::string why;
+    input->av_ = Av::formatLibrary(&why);
+    if (!error && !input->av_)
+        error = makeError(MediaError::Kind::Other, path,
+                          QStringLiteral("sound files cannot be read: ") + QString::fromLocal8Bit(why.c_str()));
+    input->frame_.reset(av_frame_alloc());
+    input->packet_.reset(av_packet_alloc());
+    if (error || !input->openContainer(error) || (decode && !input->openDecoder(error)))
+        return nullptr;
+    return input;
+}
+
+InputFile::~InputFile() {
+    format_.reset();
+    if (io_)
+        delete static_cast<Reading*>(io_->opaque);
+}
+
+bool InputFile::openContainer(MediaError& error) {
+    codec_.reset();
+    format_.reset();
+    stream_ = nullptr;
+    if (!io_) {
+        auto* buffer = static_cast<std::uint8_t*>(av_malloc(ioBufferBytes));
+        auto reading = std::make_unique<Reading>(Reading{&file_});
+        io_.reset(av_->allocIo(buffer, ioBufferBytes, 0, reading.get(), readSome, nullptr, seekTo));
+        if (!io_) {
+            av_free(buffer);
+            error = makeError(MediaError::Kind::Other, path_, QStringLiteral("out of memory"));
+            return false;
+        }
+        (void)reading.release(); // freed with the file
+    }
+    if (av_->seekIo(io_.get(), 0, SEEK_SET) < 0) {
+        error = makeError(MediaError::Kind::Damaged, path_, QStringLiteral("cannot be read"));
+        return false;
+    }
+    AVFormatContext* context = av_->allocContext();
+    if (!context) {
+        error = makeError(MediaError::Kind::Other, path_, QStringLiteral("out of memory"));
+        return false;
+    }
+    context->pb = io_.get();
+    context->io_open = openNothing;
+    // On failure the context is freed.
+    int code = av_->openInput(&context, "", nullptr, nullptr);
+    if (code < 0) {
+        const bool unknown = code == AVERROR_INVALIDDATA || code == AVERROR_EOF;
+        error = makeError(MediaError::Kind::UnknownFormat, path_,
+                          unknown ? QStringLiteral("not a sound file, or damaged beyond reading")
+                                  : QString::fromStdString(Av::text(code)));
+        return false;
+    }
+    format_.reset(context);
+    code = av_->findStreamInfo(context, nullptr);
+    const int best = av_->findBestStream(context, AVMEDIA_TYPE_AUDIO, -1, -1, nullptr, 0);
+    if (best < 0) {
+        error = makeError(MediaError::Kind::NoAudio, path_, QStringLiteral("the file holds no sound"));
+        return false;
+    }
+    stream_ = context->streams[best];
+    for (unsigned i = 0; i < context->nb_streams; ++i) {
+        if (int(i) != best)
+            context->streams[i]->discard = AVDISCARD_ALL;
+    }
+    rate_ = stream_->codecpar->sample_rate;
+    channels_ = stream_->codecpar->ch_layout.nb_channels;
+    if (code < 0 || rate_ <= 0 || rate_ > mostRate || channels_ <= 0 || channels_ > 64 || stream_->time_base.num <= 0 ||
+        stream_->time_base.den <= 0) {
+        error = makeError(MediaError::Kind::Damaged, path_, QStringLiteral("the sound in it cannot be understood"));
+        return false;
+    }
+    if (formatIs(*format_, "mp4"))
+        facts_ = readMpeg4Facts(file_, rate_);
+    else if (formatIs(*format_, "caf") && !isPcm(stream_->codecpar->codec_id))
+        facts_ = readCafFacts(file_);
+    return true;
+}
+
+bool InputFile::openDecoder(MediaError& error) {
+    codec_ = Av::createDecoder(*stream_);
+    if (!codec_ || avcodec_open2(codec_.get(), nullptr, nullptr) < 0) {
+        codec_.reset();
+        error = makeError(MediaError::Kind::UnknownFormat, path_, QStringLiteral("no decoder for this kind of sound"));
+        return false;
+    }
+    if (outputChannels_ == 0)
+        outputChannels_ = channels_;
+    position_ = -facts_.primingFrames;
+    target_ = 0;
+    draining_ = timeFromFrames_ = frameIsWaiting_ = false;
+    silence_ = packetTime_ = origin_ = 0;
+    // Only a decoded frame tells the rate and channels for sure: some headers know but half of it.
+    std::optional<MediaError> ignored;
+    Got got = Got::Silence;
+    for (int i = 0; i < 64 && got == Got::Silence; ++i)
+        got = decodeOne(ignored);
+    if (got == Got::Frame) {
+        const bool believable = frame_->sample_rate > 0 && frame_->sample_rate <= mostRate;
+        if (believable && frame_->sample_rate != rate_) {
+            rate_ = frame_->sample_rate;
+            facts_.validFrames.reset();
+        }
+        channels_ = std::max(1, frame_->ch_layout.nb_channels);
+        // What lies before time 0 is priming that libavformat only marked.
+        if (frame_->pts != AV_NOPTS_VALUE && frame_->pts < 0)
+            position_ += inFrames(frame_->pts);
+        else if (frame_->pts != AV_NOPTS_VALUE)
+            origin_ = frame_->pts;
+        frameIsWaiting_ = true;
+        return true;
+    }
+    if (got == Got::Silence) {
+        error = makeError(MediaError::Kind::Damaged, path_, QStringLiteral("the sound in it cannot be decoded"));
+        return false;
+    }
+    if (ignored) {
+        error = *ignored;
+        return false;
+    }
+    return true; // no frames at all: an empty recording
+}
+
+bool InputFile::timestampsAreExact() const {
+    const AVCodecID id = stream_->codecpar->codec_id;
+    return timesAreFine() && (isPcm(id) || id == AV_CODEC_ID_FLAC || (formatIs(*format_, "mp4") && !facts_.fragmented));
+}
+
+bool InputFile::timesAreFine() const {
+    return std::int64_t(stream_->time_base.num) * rate_ <= stream_->time_base.den;
+}
+
+std::int64_t InputFile::inFrames(std::int64_t timestamp) const {
+    return av_rescale_q(timestamp, stream_->time_base, AVRational{1, rate_});
+}
+
+/// In the stream's time; 0 when it is not known.
+std::int64_t InputFile::durationOf(const AVPacket& packet) const {
+    if (packet.duration > 0)
+        return packet.duration;
+    const AVCodecParameters& parameters = *stream_->codecpar;
+    // libavformat does not know how long the first packet of a CAF file is.
+    if (parameters.codec_id != AV_CODEC_ID_AAC || parameters.frame_size <= 0 || parameters.sample_rate <= 0)
+        return 0;
+    return av_rescale_q(parameters.frame_size, AVRational{1, parameters.sample_rate}, stream_->time_base);
+}
+
+std::int64_t InputFile::inStreamTime(std::int64_t frames) const {
+    return av_rescale_q(frames, AVRational{1, rate_}, stream_->time_base);
+}
+
+std::int64_t InputFile::lengthFrames() {
+    if (!length_)
+        findLength();
+    return *length_;
+}
+
+void InputFile::findLength() {
+    const bool told = stream_->duration != AV_NOPTS_VALUE && stream_->duration > 0 &&
+                      format_->duration_estimation_method != AVFMT_DURATION_FROM_BITRATE;
+    if (facts_.validFrames)
+        length_ = *facts_.validFrames;
+    else if (told && timestampsAreExact())
+        length_ = inFrames(stream_->duration);
+    else
+        countPackets();
+}
+
+/// Counts what the packets of the file will give, without decoding them.
+void InputFile::countPackets() {
+    length_ = 0;
+    packets_ = 0;
+    MediaError error;
+    const auto counter = open(path_, false, error);
+    if (!counter)
+        return;
+    std::int64_t begin = 0;
+    std::int64_t end = 0; // both in the stream's time
+    std::int64_t usual = 0;
+    std::int64_t off = 0;
+    while (av_->readFrame(counter->format_.get(), packet_.get()) >= 0) {
+        if (packet_->stream_index == counter->stream_->index) {
+            const std::int64_t time = packet_->pts != AV_NOPTS_VALUE ? packet_->pts : end;
+            const std::int64_t duration = counter->durationOf(*packet_);
+            const TakenOff taken = takenOff(*packet_);
+            if (packets_++ == 0) {
+                begin = std::max<std::int64_t>(0, time + counter->inStreamTime(taken.front));
+            }
+            end = std::max(end, time + duration);
+            // Some containers shorten the last duration by what is taken off, some do not.
+            off = duration + counter->inStreamTime(taken.back) <= usual ? 0 : taken.back;
+            usual = std::max(usual, duration);
+        }
+        av_packet_unref(packet_.get());
+    }
+    const std::int64_t lasting = av_rescale_q(end - begin, counter->stream_->time_base, AVRational{1, rate_});
+    length_ = std::max<std::int64_t>(0, lasting - av_rescale(off, rate_, counter->rate_) - facts_.primingFrames);
+}
+
+AudioStreamBasicDescription InputFile::dataFormat() const {
+    const AVCodecParameters& parameters = *stream_->codecpar;
+    AudioStreamBasicDescription format;
+    format.mSampleRate = rate_;
+    format.mChannelsPerFrame = std::uint32_t(channels_);
+    if (isPcm(parameters.codec_id)) {
+        const AVCodecID id = parameters.codec_id;
+        const auto bits = std::uint32_t(std::max(0, av_get_bits_per_sample(id)));
+        const bool isFloat = id == AV_CODEC_ID_PCM_F32LE || id == AV_CODEC_ID_PCM_F32BE ||
+                             id == AV_CODEC_ID_PCM_F64LE || id == AV_CODEC_ID_PCM_F64BE;
+        const bool isUnsigned = id == AV_CODEC_ID_PCM_U8 || id == AV_CODEC_ID_PCM_U16LE || id == AV_CODEC_ID_PCM_U16BE;
+        format.mFormatID = kAudioFormatLinearPCM;
+        format.mFormatFlags = kAudioFormatFlagIsPacked | (isFloat      ? kAudioFormatFlagIsFloat
+                                                          : isUnsigned ? 0
+                                                                       : kAudioFormatFlagIsSignedInteger);
+        format.mBitsPerChannel = bits;
+        format.mBytesPerFrame = format.mBytesPerPacket = bits / 8 * format.mChannelsPerFrame;
+        format.mFramesPerPacket = 1;
+    } else if (parameters.codec_id == AV_CODEC_ID_AAC) {
+        format.mFormatID = kAudioFormatMPEG4AAC;
+        format.mFramesPerPacket = std::uint32_t(parameters.frame_size > 0 ? parameters.frame_size : 1024);
+    } else {
+        // Four letters of the codec's name.
+        const char* name = avcodec_get_name(parameters.codec_id);
+        for (int i = 0; i < 4; ++i) {
+            const char letter = *name ? *name++ : ' ';
+            format.mFormatID = (format.mFormatID << 8) | std::uint8_t(letter);
+        }
+        format.mFramesPerPacket = std::uint32_t(std::max(0, parameters.frame_size));
+    }
+    return format;
+}
+
+std::int64_t InputFile::packetCount() {
+    if (packets_ < 0) {
+        if (isPcm(stream_->codecpar->codec_id))
+            packets_ = lengthFrames();
+        else if (formatIs(*format_, "mp4") && !facts_.fragmented)
+            packets_ = av_->indexEntriesCount(stream_);
+        else {
+            const auto length = length_;
+            countPackets();
+            if (length)
+                length_ = length;
+        }
+    }
+    return std::max<std::int64_t>(0, packets_);
+}
+
+void InputFile::setOutputChannels(int channels) {
+    outputChannels_ = channels;
+    mixer_.reset();
+}
+
+/// Brings the next frame, or the length of the silence that stands for a damaged one.
+InputFile::Got InputFile::decodeOne(std::optional<MediaError>& error) {
+    const auto damaged = [&](int code) {
+        error = makeError(
+            MediaError::Kind::Damaged, path_,
+            QStringLiteral("damaged at frame %1 (%2)").arg(position_).arg(QString::fromStdString(Av::text(code))));
+    };
+    for (;;) {
+        av_frame_unref(frame_.get());
+        const int received = avcodec_receive_frame(codec_.get(), frame_.get());
+        if (received >= 0) {
+            failuresInARow_ = 0;
+            if (frame_->nb_samples > 0 && frame_->ch_layout.nb_channels > 0)
+                return Got::Frame;
+            continue;
+        }
+        if (received == AVERROR_EOF)
+            return Got::End;
+        if (received != AVERROR(EAGAIN)) {
+            damaged(received);
+            if (++failuresInARow_ > mostFailuresInARow || draining_)
+                return Got::End;
+            silence_ = 0;
+            return Got::Silence;
+        }
+        if (draining_)
+            return Got::End;
+        const int read = av_->readFrame(format_.get(), packet_.get());
+        if (read < 0) {
+            if (read != AVERROR_EOF && read != AVERROR(EAGAIN))
+                damaged(read);
+            draining_ = true;
+            if (avcodec_send_packet(codec_.get(), nullptr) < 0)
+                return Got::End;
+            continue;
+        }
+        if (packet_->stream_index != stream_->index) {
+            av_packet_unref(packet_.get());
+            continue;
+        }
+        const std::int64_t duration = durationOf(*packet_);
+        if (packet_->pts == AV_NOPTS_VALUE)
+            packet_->pts = packetTime_;
+        packetTime_ = packet_->pts + duration;
+        const int sent = avcodec_send_packet(codec_.get(), packet_.get());
+        av_packet_unref(packet_.get());
+        if (sent < 0 && sent != AVERROR(EAGAIN)) {
+            damaged(sent);
+            if (sent == AVERROR(ENOMEM) || ++failuresInARow_ > mostFailuresInARow)
+                return Got::End;
+            silence_ = std::min<std::int64_t>(inFrames(duration), rate_);
+            return Got::Silence;
+        }
+    }
+}
+
+InputFile::Block InputFile::next() {
+    Block block;
+    // A header that lies about the length cuts nothing off but the padding of codecs that pad.
+    const bool cut = facts_.validFrames.has_value();
+    for (;;) {
+        if (cut && position_ >= *facts_.validFrames)
+            return block;
+        std::optional<MediaError> error;
+        const Got got = std::exchange(frameIsWaiting_, false) ? Got::Frame : decodeOne(error);
+        if (error && !block.error)
+            block.error = error;
+        if (got == Got::End)
+            return block;
+        std::int64_t frames = got == Got::Frame ? frame_->nb_samples : silence_;
+        if (got == Got::Frame && timeFromFrames_) {
+            const std::int64_t time = frame_->pts != AV_NOPTS_VALUE ? frame_->pts : frame_->best_effort_timestamp;
+            if (time != AV_NOPTS_VALUE)
+                position_ = inFrames(time - origin_) - facts_.primingFrames;
+            timeFromFrames_ = false;
+        }
+        const std::int64_t from = position_;
+        position_ += frames;
+        if (cut)
+            frames = std::min(frames, *facts_.validFrames - from);
+        const std::int64_t skip = std::max<std::int64_t>(0, target_ - from);
+        if (skip >= frames)
+            continue;
+        if (got == Got::Silence) {
+            mixed_.assign(std::size_t(outputChannels_), std::vector<float>(std::size_t(frames - skip)));
+            rows_.clear();
+            for (const auto& row : mixed_)
+                rows_.push_back(row.data());
+            block.rows = rows_.data();
+            block.frames = std::size_t(frames - skip);
+            return block;
+        }
+        Block converted = convert(skip, frames - skip);
+        if (block.error && !converted.error)
+            converted.error = block.error;
+        if (converted.frames > 0)
+            return converted;
+        block.error = converted.error;
+    }
+}
+
+/// The samples of frame_ in the output's shape.
+InputFile::Block InputFile::convert(std::int64_t skip, std::int64_t most) {
+    Block block;
+    const int have = frame_->ch_layout.nb_channels;
+    const auto width = std::size_t(outputChannels_);
+    rows_.resize(width);
+    block.frames = std::size_t(most);
+    if (frame_->format == AV_SAMPLE_FMT_FLTP && (have == outputChannels_ || have == 1)) {
+        for (std::size_t c = 0; c < width; ++c)
+            rows_[c] = reinterpret_cast<const float*>(frame_->extended_data[have == 1 ? 0 : c]) + skip;
+        block.rows = rows_.data();
+        return block;
+    }
+    // One channel fills all; where a layout is unknown, or has fewer channels, the first ones are taken.
+    const auto frames = std::size_t(frame_->nb_samples);
+    const std::size_t made = have == 1 ? 1 : width;
+    if (!mixer_ || swr_is_initialized(mixer_.get()) == 0 || mixerFormat_ != frame_->format || mixerChannels_ != have) {
+        mixer_.reset();
+        AVChannelLayout in = {};
+        AVChannelLayout out = {};
+        if (frame_->ch_layout.order == AV_CHANNEL_ORDER_UNSPEC)
+            av_channel_layout_default(&in, have);
+        else
+            av_channel_layout_copy(&in, &frame_->ch_layout);
+        if (int(made) == have)
+            av_channel_layout_copy(&out, &in);
+        else
+            av_channel_layout_default(&out, int(made));
+        SwrContext* context = nullptr;
+        swr_alloc_set_opts2(&context, &out, AV_SAMPLE_FMT_FLTP, rate_, &in, AVSampleFormat(frame_->format), rate_, 0,
+                            nullptr);
+        av_channel_layout_uninit(&in);
+        av_channel_layout_uninit(&out);
+        mixer_.reset(context);
+        if (mixer_)
+            av_opt_set_double(mixer_.get(), "rematrix_maxval", 1.0,
+                              0); // a downmix of full-scale channels must not clip
+        if (!mixer_ || swr_init(mixer_.get()) < 0) {
+            mixer_.reset();
+            block.frames = 0;
+            block.error = makeError(MediaError::Kind::Damaged, path_, QStringLiteral("channels that cannot be mixed"));
+            return block;
+        }
+        mixerFormat_ = frame_->format;
+        mixerChannels_ = have;
+    }
+    mixed_.resize(made);
+    std::vector<std::uint8_t*> out(made);
+    for (std::size_t c = 0; c < made; ++c) {
+        mixed_[c].resize(frames);
+        out[c] = reinterpret_cast<std::uint8_t*>(mixed_[c].data());
+    }
+    const int got = swr_convert(mixer_.get(), out.data(), int(frames),
+                                const_cast<const std::uint8_t**>(frame_->extended_data), int(frames));
+    if (got < int(frames)) {
+        block.frames = 0;
+        return block;
+    }
+    for (std::size_t c = 0; c < width; ++c)
+        rows_[c] = mixed_[made == 1 ? 0 : c].data() + skip;
+    block.rows = rows_.data();
+    return block;
+}
+
+bool InputFile::seek(std::int64_t frame) {
+    frame = std::max<std::int64_t>(0, frame);
+    failuresInARow_ = 0;
+    MediaError error;
+    if (timestampsAreExact() && frame > prerollFrames) {
+        const std::int64_t time = inStreamTime(frame - prerollFrames) + origin_;
+        if (av_->seekFrame(format_.get(), stream_->index, time, AVSEEK_FLAG_BACKWARD) >= 0) {
+            avcodec_flush_buffers(codec_.get());
+            draining_ = frameIsWaiting_ = false;
+            timeFromFrames_ = true;
+            target_ = frame;
+            return true;
+        }
+    }
+    // From the beginning, as if it had just been opened.
+    if (!openContainer(error) || !openDecoder(error))
+        return false;
+    target_ = frame;
+    if (frame <= 2 * prerollFrames || !timesAreFine())
+        return true;
+    // Far ahead the packets before the place are passed over, not decoded.
+    const std::int64_t origin = origin_;
+    if (!openContainer(error))
+        return false;
+    codec_ = Av::createDecoder(*stream_);
+    if (!codec_ || avcodec_open2(codec_.get(), nullptr, nullptr) < 0)
+        return false;
+    frameIsWaiting_ = draining_ = false;
+    packetTime_ = 0;
+    std::int64_t longest = 0;
+    while (inFrames(packetTime_ - origin + 2 * longest) < frame - prerollFrames) {
+        if (av_->readFrame(format_.get(), packet_.get()) < 0)
+            break;
+        if (packet_->stream_index == stream_->index) {
+            const std::int64_t duration = durationOf(*packet_);
+            longest = std::max(longest, duration);
+            packetTime_ = (packet_->pts != AV_NOPTS_VALUE ? packet_->pts : packetTime_) + duration;
+        }
+        av_packet_unref(packet_.get());
+    }
+    timeFromFrames_ = true;
+    return true;
+}
+
+} // namespace Platform

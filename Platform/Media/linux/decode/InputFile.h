@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Media/linux/LibAvFormat.h"
+#include "Platform/Media/linux/MediaErrors.h"
+#include "Platform/Media/linux/decode/SourceFile.h"
+
+#include <optional>
+#include <vector>
+
+namespace Platform {
+
+/// One audio file being decoded: its best sound stream as rows of float samples at the file's own rate, each frame with
+/// its number, priming and padding taken off. One thread.
+class InputFile {
+public:
+    /// @p decode: false only describes the file.
+    [[nodiscard]] static std::unique_ptr<InputFile> open(const QString& path, bool decode, MediaError& error);
+    ~InputFile();
+
+    [[nodiscard]] int rate() const { return rate_; }
+    [[nodiscard]] int channels() const { return channels_; }
+    [[nodiscard]] const QString& path() const { return path_; }
+    /// Exact where the container tells; else all packets are counted, once.
+    [[nodiscard]] std::int64_t lengthFrames();
+    [[nodiscard]] AudioStreamBasicDescription dataFormat() const;
+    [[nodiscard]] std::int64_t packetCount();
+
+    /// What next() gives shall have this many channels.
+    void setOutputChannels(int channels);
+
+    struct Block {
+        const float* const* rows = nullptr; ///< valid until the next call
+        std::size_t frames = 0;             ///< 0 at the end
+        std::optional<MediaError> error;    ///< these frames stand for damaged ones
+    };
+    [[nodiscard]] Block next();
+    /// The next block begins with this frame (or at the end).
+    bool seek(std::int64_t frame);
+
+    /// See ExtAudioFileReader::sparseSamples(); the first channel of the file at these frames.
+    [[nodiscard]] bool sparseSamples(std::span<const std::int64_t> frames, std::span<float> out);
+
+private:
+    explicit InputFile(QString path) : path_(std::move(path)) {}
+    bool openContainer(MediaError& error);
+    bool openDecoder(MediaError& error);
+    void findLength();
+    void countPackets();
+    [[nodiscard]] bool timestampsAreExact() const;
+    [[nodiscard]] bool timesAreFine() const;
+
+    enum class Got { Frame, Silence, End };
+    Got decodeOne(std::optional<MediaError>& error);
+    Block convert(std::int64_t skip, std::int64_t most);
+    std::int64_t inFrames(std::int64_t timestamp) const;
+    std::int64_t inStreamTime(std::int64_t frames) const;
+    std::int64_t durationOf(const AVPacket& packet) const;
+
+    QString path_;
+    SourceFile file_;
+    const Av::FormatLibrary* av_ = nullptr;
+    Av::IoPtr io_;
+    Av::FormatPtr format_;
+    Av::CodecPtr codec_;
+    AVStream* stream_ = nullptr; // of format_
+    Av::FramePtr frame_;
+    Av::PacketPtr packet_;
+    Av::ResamplerPtr mixer_; // sample format and channels, where they differ
+    int mixerFormat_ = -1;
+    int mixerChannels_ = 0;
+    std::vector<std::vector<float>> mixed_;
+    std::vector<const float*> rows_;
+
+    int rate_ = 0;
+    int channels_ = 0;
+    int outputChannels_ = 0;
+    std::optional<std::int64_t> length_;
+    std::int64_t packets_ = -1;
+    ContainerFacts facts_;
+
+    std::int64_t position_ = 0;   // number of the next frame that the decoder gives
+    std::int64_t target_ = 0;     // frames before this one are dropped
+    bool frameIsWaiting_ = false; // the first one, decoded when the file was opened
+    bool timeFromFrames_ = false; // after a seek, until the first frame told where it lies
+    std::int64_t packetTime_ = 0; // in the stream's time, of the next packet if it has none of its own
+    std::int64_t origin_ = 0;     // in the stream's time, of the first frame
+    std::int64_t silence_ = 0;    // frames of silence that stand for a damaged packet
+    bool draining_ = false;
+    int failuresInARow_ = 0;
+};
+
+} // namespace Platform

@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Media/linux/decode/InputFile.h"
+
+#include <algorithm>
+#include <cstring>
+#include <thread>
+
+namespace Platform {
+
+bool InputFile::sparseSamples(std::span<const std::int64_t> frames, std::span<float> out) {
+    const AVCodecParameters& parameters = *stream_->codecpar;
+    constexpr std::int64_t packetFrames = 1024;
+    constexpr int mostPacketBytes = 1 << 14; // a packet of two channels has 1536 at most
+    if (!facts_.ownEncoder || facts_.fragmented || !facts_.validFrames || parameters.codec_id != AV_CODEC_ID_AAC ||
+        out.size() < frames.size())
+        return false;
+    const std::int64_t entries = av_->indexEntriesCount(stream_);
+    const AVIndexEntry* first = entries > 0 ? av_->indexEntry(stream_, 0) : nullptr;
+    if (!first || inFrames(first->timestamp) != -packetFrames)
+        return false;
+    for (std::size_t i = 0; i < frames.size(); ++i) {
+        if (frames[i] < 0 || frames[i] >= *facts_.validFrames || (i > 0 && frames[i] < frames[i - 1]) ||
+            frames[i] / packetFrames + 1 >= entries)
+            return false;
+    }
+    struct Place {
+        std::int64_t offset;
+        int size;
+    };
+    std::vector<Place> places(static_cast<std::size_t>(entries));
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        const AVIndexEntry* entry = av_->indexEntry(stream_, int(i));
+        places[i] = {entry->pos, entry->size};
+    }
+    // A packet's frame hangs together with the packet before it and with no other.
+    const auto part = [&](std::size_t from, std::size_t to) {
+        Av::CodecPtr codec = Av::createDecoder(*stream_);
+        const Av::FramePtr frame(av_frame_alloc());
+        const Av::PacketPtr packet(av_packet_alloc());
+        if (!codec || !frame || !packet)
+            return false;
+        codec->flags2 |= AV_CODEC_FLAG2_SKIP_MANUAL;
+        if (avcodec_open2(codec.get(), nullptr, nullptr) < 0)
+            return false;
+        // One buffer for all packets: the decoder is done with one before the next is read.
+        if (av_new_packet(packet.get(), mostPacketBytes) < 0)
+            return false;
+        std::int64_t decoded = -2;
+        for (std::size_t i = from; i < to; ++i) {
+            const std::int64_t wanted = frames[i] / packetFrames + 1;
+            for (std::int64_t p = decoded == wanted       ? wanted + 1
+                                  : decoded == wanted - 1 ? wanted
+                                                          : wanted - 1;
+                 p <= wanted; ++p) {
+                const Place& place = places[std::size_t(p)];
+                if (place.size <= 0 || place.size > mostPacketBytes)
+                    return false;
+                packet->size = place.size;
+                std::memset(packet->data + place.size, 0, AV_INPUT_BUFFER_PADDING_SIZE);
+                if (!file_.readAll(place.offset, std::span(packet->data, std::size_t(place.size))) ||
+                    avcodec_send_packet(codec.get(), packet.get()) < 0 ||
+                    avcodec_receive_frame(codec.get(), frame.get()) < 0 || frame->format != AV_SAMPLE_FMT_FLTP ||
+                    frame->nb_samples != packetFrames)
+                    return false;
+                decoded = p;
+            }
+            out[i] = reinterpret_cast<const float*>(frame->extended_data[0])[frames[i] % packetFrames];
+        }
+        return true;
+    };
+    const std::size_t count = frames.size();
+    const auto threads = std::size_t(std::max(1u, std::min(4u, std::thread::hardware_concurrency())));
+    std::vector<char> good(threads, 0);
+    std::vector<std::jthread> workers;
+    for (std::size_t t = 1; t < threads; ++t)
+        workers.emplace_back([&, t] { good[t] = part(count * t / threads, count * (t + 1) / threads); });
+    good[0] = part(0, count / threads);
+    workers.clear();
+    return std::ranges::all_of(good, [](char done) { return done != 0; });
+}
+
+} // namespace Platform

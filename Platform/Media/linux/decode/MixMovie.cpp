@@ -1,0 +1,224 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Media/linux/decode/MixMovie.h"
+#include "Platform/Media/linux/decode/FileReader.h"
+#include "Platform/Media/linux/encode/FileWriter.h"
+
+#include <QFile>
+
+#include <cmath>
+#include <cstring>
+#include <future>
+
+namespace Platform {
+
+namespace {
+
+constexpr int mixRate = 44100;
+constexpr std::size_t mixChannels = 2;
+constexpr std::size_t chunkFrames = 1 << 16;
+/// A speed is a ratio of two rates; this many times the real ones, so that a hundredth of a millionth counts.
+constexpr double speedScale = 10000;
+
+AudioStreamBasicDescription waveFormat() {
+    AudioStreamBasicDescription format;
+    format.mSampleRate = mixRate;
+    format.mFormatID = kAudioFormatLinearPCM;
+    format.mFormatFlags = kAudioFormatFlagIsSignedInteger | kAudioFormatFlagIsPacked;
+    format.mBytesPerPacket = format.mBytesPerFrame = 8;
+    format.mFramesPerPacket = 1;
+    format.mChannelsPerFrame = mixChannels;
+    format.mBitsPerChannel = 32;
+    return format;
+}
+
+struct Track {
+    QString path;
+    double seconds = 0;
+    Movie::TrackTiming timing;
+    [[nodiscard]] double end() const { return timing.offset + seconds / timing.speed; }
+};
+
+/// One track as the mix hears it: at the mix's rate, shifted and stretched.
+class TrackReader {
+public:
+    TrackReader(std::unique_ptr<InputFile> input, Movie::TrackTiming timing)
+        : reader_(std::move(input)), converted_(mixChannels) {
+        reader_.setClientDataFormat(planarFloatFormat(mixRate, mixChannels));
+        const auto shift = std::int64_t(std::llround(timing.offset * mixRate));
+        silence_ = std::max<std::int64_t>(0, shift);
+        drop_ = std::max<std::int64_t>(0, -shift);
+        if (std::fabs(timing.speed - 1) > 1e-9)
+            stretch_ = std::make_unique<ConversionStream>(
+                mixChannels, int(std::llround(mixRate * speedScale * timing.speed)), int(mixRate * speedScale));
+    }
+
+    /// Adds the next @p frames frames to @p sums, fewer at the end of the track. @return how many there were.
+    std::size_t addTo(Planes& sums, std::size_t frames) {
+        std::size_t done = std::size_t(std::min<std::int64_t>(silence_, std::int64_t(frames)));
+        silence_ -= std::int64_t(done);
+        while (done < frames && fill()) {
+            const auto dropped = std::size_t(std::min<std::int64_t>(drop_, std::int64_t(waiting_)));
+            drop_ -= std::int64_t(dropped);
+            advance(dropped);
+            const std::size_t count = std::min(waiting_, frames - done);
+            for (std::size_t c = 0; c < mixChannels; ++c) {
+                float* sum = sums.row(c) + done;
+                const float* in = rows_[c];
+                for (std::size_t i = 0; i < count; ++i)
+                    sum[i] += in[i];
+            }
+            advance(count);
+            done += count;
+        }
+        return done;
+    }
+
+    [[nodiscard]] MediaError error() const { return reader_.firstError(); }
+
+private:
+    bool fill() {
+        while (waiting_ == 0 && !ended_) {
+            const auto got = reader_.readRows(chunkFrames);
+            ended_ = got.frames == 0;
+            if (!stretch_) {
+                std::copy_n(got.rows, ended_ ? 0 : mixChannels, rows_.begin());
+                waiting_ = got.frames;
+                continue;
+            }
+            if (ended_)
+                stretch_->finish(converted_);
+            else
+                stretch_->feed(got.rows, got.frames, converted_);
+            for (std::size_t c = 0; c < mixChannels; ++c)
+                rows_[c] = converted_.row(c);
+            waiting_ = converted_.frames();
+        }
+        return waiting_ > 0;
+    }
+    void advance(std::size_t frames) {
+        for (auto& row : rows_)
+            row += frames;
+        waiting_ -= frames;
+    }
+
+    FileReader reader_;
+    std::unique_ptr<ConversionStream> stretch_;
+    Planes converted_;
+    std::array<const float*, mixChannels> rows_ = {};
+    std::size_t waiting_ = 0;
+    std::int64_t silence_ = 0;
+    std::int64_t drop_ = 0;
+    bool ended_ = false;
+};
+
+class MixMovie final : public Movie {
+public:
+    explicit MixMovie(Track track) { tracks_.push_back(std::move(track)); }
+
+    double duration() const override {
+        double longest = 0;
+        for (const Track& track : tracks_)
+            longest = std::max(longest, track.end());
+        return longest;
+    }
+
+    int soundTracks() const override { return int(tracks_.size()); }
+
+    bool insertSoundTrackOf(const Movie& other) override {
+        const auto* movie = dynamic_cast<const MixMovie*>(&other);
+        if (!movie || movie->tracks_.empty())
+            return false;
+        tracks_.push_back(movie->tracks_.front());
+        return true;
+    }
+
+    void setTiming(int track, TrackTiming timing) override {
+        const bool sane = std::isfinite(timing.offset) && timing.speed > 0.5 && timing.speed < 2;
+        if (track >= 0 && track < soundTracks() && sane)
+            tracks_[std::size_t(track)].timing = timing;
+    }
+
+    MediaError writeWave(const QString& path, const std::function<bool(double)>& progress) override;
+    MediaError readError() const override { return readError_; }
+
+private:
+    std::vector<Track> tracks_;
+    MediaError readError_;
+};
+
+MediaError MixMovie::writeWave(const QString& path, const std::function<bool(double)>& progress) {
+    std::vector<std::unique_ptr<TrackReader>> readers;
+    MediaError error;
+    readError_ = {};
+    for (const Track& track : tracks_) {
+        auto input = InputFile::open(track.path, true, error);
+        if (!input)
+            return error;
+        readers.push_back(std::make_unique<TrackReader>(std::move(input), track.timing));
+    }
+    FileWriter writer(path, kAudioFileWAVEType, waveFormat());
+    error = writer.open(true);
+    if (error)
+        return error;
+    writer.setClientDataFormat(planarFloatFormat(mixRate, mixChannels));
+
+    const double total = std::max(1.0, duration() * mixRate);
+    std::vector<Planes> sums(readers.size(), Planes(mixChannels));
+    std::vector<std::size_t> counts(readers.size());
+    alignas(AudioBufferList) std::byte memory[sizeof(AudioBufferList) + sizeof(AudioBuffer)];
+    auto* list = new (memory) AudioBufferList{};
+    for (double written = 0; !error;) {
+        // Each track is decoded on a thread of its own.
+        const auto readTrack = [&](std::size_t i) {
+            sums[i].clear();
+            sums[i].resize(chunkFrames);
+            counts[i] = readers[i]->addTo(sums[i], chunkFrames);
+        };
+        std::vector<std::future<void>> others;
+        for (std::size_t i = 1; i < readers.size(); ++i)
+            others.push_back(std::async(std::launch::async, readTrack, i));
+        readTrack(0);
+        for (auto& other : others)
+            other.get();
+        const std::size_t frames = *std::ranges::max_element(counts);
+        if (frames == 0)
+            break;
+        for (std::size_t i = 1; i < readers.size(); ++i) {
+            for (std::size_t c = 0; c < mixChannels; ++c) {
+                float* sum = sums[0].row(c);
+                const float* in = sums[i].row(c);
+                for (std::size_t f = 0; f < counts[i]; ++f)
+                    sum[f] += in[f];
+            }
+        }
+        list->mNumberBuffers = mixChannels;
+        for (std::size_t c = 0; c < mixChannels; ++c)
+            list->mBuffers[c] = {1, std::uint32_t(frames * 4), sums[0].row(c)};
+        if (writer.write(std::uint32_t(frames), list) != noErr)
+            error = writer.firstError();
+        written += double(frames);
+        if (!error && progress && !progress(std::min(1.0, written / total)))
+            error = makeError(MediaError::Kind::Other, path, QStringLiteral("cancelled"));
+    }
+    for (const auto& reader : readers)
+        if (!readError_)
+            readError_ = reader->error();
+    writer.dispose();
+    if (!error)
+        error = writer.firstError();
+    if (error)
+        QFile::remove(path);
+    return error;
+}
+
+} // namespace
+
+std::unique_ptr<Movie> createMixMovie(const QString& path, MediaError& error) {
+    const auto input = InputFile::open(path, false, error);
+    if (!input)
+        return nullptr;
+    return std::make_unique<MixMovie>(Track{path, double(input->lengthFrames()) / input->rate(), {}});
+}
+
+} // namespace Platform

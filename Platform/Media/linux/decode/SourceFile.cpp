@@ -1,0 +1,254 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Media/linux/decode/SourceFile.h"
+
+#include "Platform/Foundation/linux/Descriptor.h"
+#include "Platform/Media/linux/encode/PacketFile.h"
+#include "Platform/Media/linux/tags/InPlaceSave.h"
+
+#include <QFile>
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace Platform {
+
+SourceFile::~SourceFile() {
+    if (fd_ >= 0)
+        ::close(fd_);
+}
+
+MediaError SourceFile::open(const QString& path) {
+    // A tag save that a crash interrupted left the index torn, and with it the recording would be unreadable.
+    Media::restoreInterruptedSave(path);
+    fd_ = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    if (fd_ < 0)
+        return errnoError(errno, path);
+    struct stat info = {};
+    if (::fstat(fd_, &info) < 0)
+        return errnoError(errno, path);
+    if (S_ISDIR(info.st_mode))
+        return makeError(MediaError::Kind::NotAFile, path, QStringLiteral("is a folder"));
+    if (!S_ISREG(info.st_mode))
+        return makeError(MediaError::Kind::NotAFile, path, QStringLiteral("not a regular file"));
+    if (info.st_size == 0)
+        return makeError(MediaError::Kind::UnknownFormat, path, QStringLiteral("the file is empty"));
+    ::posix_fadvise(fd_, 0, 0, POSIX_FADV_SEQUENTIAL);
+    return {};
+}
+
+std::int64_t SourceFile::size() const {
+    struct stat info = {};
+    return ::fstat(fd_, &info) == 0 ? std::int64_t(info.st_size) : 0;
+}
+
+std::int64_t SourceFile::read(std::int64_t offset, std::span<std::uint8_t> out) const {
+    return readAllAt(fd_, out.data(), out.size(), offset);
+}
+
+namespace {
+
+std::uint64_t bigEndian(const std::uint8_t* bytes, int size) {
+    std::uint64_t value = 0;
+    for (int i = 0; i < size; ++i)
+        value = (value << 8) | bytes[i];
+    return value;
+}
+
+constexpr double longestBelieved = 1e15; // frames
+
+struct Span {
+    std::int64_t from = 0;
+    std::int64_t to = 0;
+};
+
+/// Calls @p visit with the type and content of each box in a part of the file, until it answers false.
+template <typename Visit>
+void eachBox(const SourceFile& file, Span part, Visit visit) {
+    constexpr int mostBoxes = 1'000'000; // a damaged file does not keep us for long
+    std::int64_t at = part.from;
+    for (int i = 0; i < mostBoxes && part.to - at >= 8; ++i) {
+        std::uint8_t head[16];
+        if (!file.readAll(at, std::span(head, 8)))
+            return;
+        auto size = std::int64_t(bigEndian(head, 4));
+        std::int64_t headSize = 8;
+        if (size == 1) {
+            if (!file.readAll(at, head))
+                return;
+            size = std::int64_t(bigEndian(head + 8, 8));
+            headSize = 16;
+        } else if (size == 0) {
+            size = part.to - at;
+        }
+        if (size < headSize || size > part.to - at)
+            return;
+        if (!visit(std::uint32_t(bigEndian(head + 4, 4)), Span{at + headSize, at + size}))
+            return;
+        at += size;
+    }
+}
+
+std::optional<Span> findBox(const SourceFile& file, Span part, std::initializer_list<std::uint32_t> path) {
+    for (const std::uint32_t wanted : path) {
+        std::optional<Span> found;
+        eachBox(file, part, [&](std::uint32_t type, Span content) {
+            if (type == wanted)
+                found = content;
+            return !found;
+        });
+        if (!found)
+            return std::nullopt;
+        part = *found;
+    }
+    return part;
+}
+
+/// The content of a small box; empty when it is missing or too long to be believed.
+std::vector<std::uint8_t> boxBytes(const SourceFile& file, Span part, std::initializer_list<std::uint32_t> path) {
+    constexpr std::int64_t longest = 1 << 22;
+    const auto box = findBox(file, part, path);
+    if (!box || box->to - box->from > longest)
+        return {};
+    std::vector<std::uint8_t> bytes(std::size_t(box->to - box->from));
+    if (!file.readAll(box->from, bytes))
+        bytes.clear();
+    return bytes;
+}
+
+/// The time scale of a "mvhd" or "mdhd".
+std::int64_t timeScale(const std::vector<std::uint8_t>& bytes) {
+    const std::size_t at = !bytes.empty() && bytes[0] == 1 ? 20 : 12;
+    return bytes.size() >= at + 4 ? std::int64_t(bigEndian(bytes.data() + at, 4)) : 0;
+}
+
+struct Edit {
+    std::int64_t duration = 0;
+    std::int64_t start = 0;
+};
+
+/// The one edit that a sound track has as a rule; nothing when there are more, which libavformat sorts out.
+std::optional<Edit> onlyEdit(const std::vector<std::uint8_t>& bytes) {
+    if (bytes.size() < 8 || bigEndian(bytes.data() + 4, 4) != 1)
+        return std::nullopt;
+    const int width = bytes[0] == 1 ? 8 : 4;
+    if (bytes.size() < 8 + std::size_t(width) * 2)
+        return std::nullopt;
+    const auto start = bigEndian(bytes.data() + 8 + width, width);
+    const std::int64_t signedStart = width == 4 ? std::int32_t(std::uint32_t(start)) : std::int64_t(start);
+    if (signedStart < 0)
+        return std::nullopt;
+    return Edit{std::int64_t(bigEndian(bytes.data() + 8, width)), signedStart};
+}
+
+std::int64_t sumOfDurations(const std::vector<std::uint8_t>& bytes) {
+    double sum = 0;
+    for (std::size_t at = 8; at + 8 <= bytes.size(); at += 8)
+        sum += double(bigEndian(bytes.data() + at, 4)) * double(bigEndian(bytes.data() + at + 4, 4));
+    return sum < longestBelieved ? std::int64_t(sum) : 0;
+}
+
+} // namespace
+
+ContainerFacts readMpeg4Facts(const SourceFile& file, int rate) {
+    ContainerFacts facts;
+    const auto movie = findBox(file, {0, file.size()}, {fourCharCode("moov")});
+    if (!movie)
+        return facts;
+    facts.fragmented = findBox(file, *movie, {fourCharCode("mvex")}).has_value();
+    const std::int64_t movieScale = timeScale(boxBytes(file, *movie, {fourCharCode("mvhd")}));
+    int soundTracks = 0;
+    eachBox(file, *movie, [&](std::uint32_t type, Span track) {
+        if (type != fourCharCode("trak"))
+            return true;
+        const auto handler = boxBytes(file, track, {fourCharCode("mdia"), fourCharCode("hdlr")});
+        if (handler.size() < 12 || bigEndian(handler.data() + 8, 4) != fourCharCode("soun"))
+            return true;
+        if (++soundTracks > 1) {
+            facts = {}; // which of them is read is libavformat's choice
+            return false;
+        }
+        facts.ownEncoder = handler.size() >= 24 + std::strlen(mpeg4HandlerName) &&
+                           std::memcmp(handler.data() + 24, mpeg4HandlerName, std::strlen(mpeg4HandlerName)) == 0;
+        const auto scale = timeScale(boxBytes(file, track, {fourCharCode("mdia"), fourCharCode("mdhd")}));
+        const auto edit = onlyEdit(boxBytes(file, track, {fourCharCode("edts"), fourCharCode("elst")}));
+        const std::int64_t media = sumOfDurations(boxBytes(
+            file, track, {fourCharCode("mdia"), fourCharCode("minf"), fourCharCode("stbl"), fourCharCode("stts")}));
+        if (facts.fragmented || scale != rate || movieScale <= 0 || media <= 0 || !edit || edit->start > media)
+            return true;
+        // A movie that counts in milliseconds cannot name the exact frame: within its rounding the media decides.
+        const std::int64_t left = media - edit->start;
+        const double edited = double(edit->duration) * rate / double(movieScale);
+        if (!(edited >= 0 && edited < longestBelieved))
+            return true;
+        const bool rounded = movieScale < rate && std::abs(edited - double(left)) <= double(rate) / double(movieScale);
+        facts.validFrames = rounded ? left : std::min(left, std::int64_t(edited + 0.5));
+        return true;
+    });
+    return facts;
+}
+
+std::optional<AudioFileInfo> readOwnRecording(const SourceFile& file) {
+    const auto media =
+        findBox(file, {0, file.size()}, {fourCharCode("moov"), fourCharCode("trak"), fourCharCode("mdia")});
+    if (!media)
+        return std::nullopt;
+    const auto rate = timeScale(boxBytes(file, *media, {fourCharCode("mdhd")}));
+    const auto table = findBox(file, *media, {fourCharCode("minf"), fourCharCode("stbl")});
+    if (rate <= 0 || rate > 1'000'000 || !table)
+        return std::nullopt;
+    const ContainerFacts facts = readMpeg4Facts(file, int(rate));
+    const auto description = boxBytes(file, *table, {fourCharCode("stsd")});
+    const auto sizes = findBox(file, *table, {fourCharCode("stsz")});
+    constexpr std::size_t channelsAt =
+        8 + 8 + 16; // behind the table's head, the entry's head, and what all entries have
+    std::uint8_t head[12];
+    if (!facts.ownEncoder || facts.fragmented || !facts.validFrames || description.size() < channelsAt + 2 ||
+        bigEndian(description.data() + 12, 4) != fourCharCode("mp4a") || !sizes || sizes->to - sizes->from < 12 ||
+        !file.readAll(sizes->from, head))
+        return std::nullopt;
+    AudioFileInfo info;
+    info.dataFormat.mSampleRate = double(rate);
+    info.dataFormat.mFormatID = kAudioFormatMPEG4AAC;
+    info.dataFormat.mFramesPerPacket = 1024;
+    info.dataFormat.mChannelsPerFrame = std::uint32_t(bigEndian(description.data() + channelsAt, 2));
+    info.packetCount = std::int64_t(bigEndian(head + 8, 4));
+    info.frameCount = *facts.validFrames;
+    info.seconds = double(info.frameCount) / double(rate);
+    if (info.dataFormat.mChannelsPerFrame == 0 || info.frameCount > info.packetCount * 1024)
+        return std::nullopt;
+    return info;
+}
+
+ContainerFacts readCafFacts(const SourceFile& file) {
+    ContainerFacts facts;
+    const std::int64_t end = file.size();
+    std::int64_t at = 8;
+    for (int i = 0; i < 10000 && end - at >= 12; ++i) {
+        std::uint8_t head[12];
+        if (!file.readAll(at, head))
+            break;
+        const auto size = std::int64_t(bigEndian(head + 4, 8));
+        if (bigEndian(head, 4) == fourCharCode("pakt")) {
+            std::uint8_t table[24];
+            if (!file.readAll(at + 12, table))
+                break;
+            const auto valid = std::int64_t(bigEndian(table + 8, 8));
+            const auto priming = std::int32_t(std::uint32_t(bigEndian(table + 16, 4)));
+            if (valid >= 0 && priming >= 0) {
+                facts.validFrames = valid;
+                facts.primingFrames = priming;
+            }
+            break;
+        }
+        if (size < 0 || size > end - at - 12)
+            break;
+        at += 12 + size;
+    }
+    return facts;
+}
+
+} // namespace Platform

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Media/linux/LibAv.h"
+#include "Platform/Media/linux/encode/PacketFile.h"
+
+#include <vector>
+
+namespace Platform {
+
+/// One run of libavcodec's AAC encoder. One thread.
+class AacEncoder {
+public:
+    using Packet = std::vector<std::uint8_t>;
+    static constexpr int packetFrames = 1024;
+
+    /// At the encoder's default bit rate. Check valid() afterwards.
+    AacEncoder(int rate, int channels);
+    [[nodiscard]] bool valid() const { return bool(context_); }
+    [[nodiscard]] AacStreamInfo streamInfo() const;
+
+    /// Encodes 1024 frames, or fewer at the very end; appends the packets that are ready.
+    bool encode(const float* const* channels, int frames, std::vector<Packet>& out);
+    /// The rest. Nothing can be encoded afterwards.
+    bool flush(std::vector<Packet>& out);
+
+private:
+    bool receive(std::vector<Packet>& out);
+
+    Av::CodecPtr context_;
+    Av::FramePtr frame_;
+    Av::PacketPtr packet_;
+    std::int64_t position_ = 0;
+};
+
+} // namespace Platform

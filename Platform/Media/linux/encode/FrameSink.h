@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Media/linux/encode/OutputFile.h"
+#include "Platform/Media/linux/encode/PacketFile.h"
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace Platform {
+
+/// Takes the frames of a file at the file's rate and stores them in its format. The file's own thread.
+class FrameSink {
+public:
+    virtual ~FrameSink() = default;
+    /// @p channels: one row for each channel of the file (rows may be the same memory).
+    virtual void append(const float* const* channels, std::size_t frames) = 0;
+    /// Stores what is left and makes the file whole.
+    virtual void finish() = 0;
+};
+
+[[nodiscard]] std::unique_ptr<FrameSink> createWaveSink(OutputFile& file, int rate, int channels, int bitsPerChannel,
+                                                        bool isFloat);
+
+/// How MPEG-4 AAC is encoded.
+struct AacSettings {
+    int rate = 44100;
+    int channels = 2;
+    /// Which rows differ: file channel c is row rowOf[c]. Rows that are the same are kept once.
+    std::vector<std::size_t> rowOf;
+    /// Threads that encode stretches of the file beside each other; 1 encodes on the calling thread.
+    int workers = 1;
+    /// Shortest stretch that a thread is given, in packets of 1024 frames.
+    std::int64_t stretchPackets = 0;
+};
+
+/// Nothing when this rate or channel count cannot be encoded.
+[[nodiscard]] std::unique_ptr<FrameSink> createAacSink(OutputFile& file, std::unique_ptr<PacketFile> container,
+                                                       const AacSettings& settings);
+
+} // namespace Platform

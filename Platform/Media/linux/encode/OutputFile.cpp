@@ -1,0 +1,133 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Media/linux/encode/OutputFile.h"
+
+#include "Platform/Foundation/linux/Descriptor.h"
+
+#include <QFile>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace Platform {
+
+OutputFile::~OutputFile() {
+    close();
+}
+
+MediaError OutputFile::create(const QString& path, bool overwrite) {
+    path_ = path;
+    const QByteArray name = QFile::encodeName(path);
+    // Truncated only after it is known to be a regular file.
+    const int flags = O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK | (overwrite ? 0 : O_EXCL);
+    fd_ = ::open(name.constData(), flags, 0666);
+    if (fd_ < 0)
+        return errnoError(errno, path);
+    struct stat info = {};
+    if (::fstat(fd_, &info) == 0 && !S_ISREG(info.st_mode)) {
+        close();
+        return makeError(MediaError::Kind::NotAFile, path, QStringLiteral("not a regular file"));
+    }
+    if (::ftruncate(fd_, 0) < 0) {
+        const MediaError error = errnoError(errno, path);
+        close();
+        return error;
+    }
+    return {};
+}
+
+bool OutputFile::append(std::span<const std::uint8_t> bytes) {
+    if (fd_ < 0 || failed())
+        return false;
+    if (!writeAllAt(fd_, bytes, size_)) {
+        fail(errnoError(errno, path_));
+        if (::ftruncate(fd_, size_) < 0)
+            qWarning("%s: the unfinished end could not be cut off", qUtf8Printable(path_));
+        return false;
+    }
+    size_ += std::int64_t(bytes.size());
+    return true;
+}
+
+bool OutputFile::patch(std::int64_t offset, std::span<const std::uint8_t> bytes) {
+    if (fd_ < 0)
+        return false;
+    if (writeAllAt(fd_, bytes, offset))
+        return true;
+    fail(errnoError(errno, path_));
+    return false;
+}
+
+bool OutputFile::readBack(std::int64_t offset, std::span<std::uint8_t> bytes) const {
+    return readAllAt(fd_, bytes.data(), bytes.size(), offset) == std::int64_t(bytes.size());
+}
+
+bool OutputFile::beginReplacement(OutputFile& replacement) const {
+    struct stat open = {};
+    struct stat lying = {};
+    const QByteArray name = QFile::encodeName(path_);
+    if (::fstat(fd_, &open) < 0 || ::stat(name.constData(), &lying) < 0 || open.st_dev != lying.st_dev ||
+        open.st_ino != lying.st_ino)
+        return false;
+    QByteArray hidden = name.left(name.lastIndexOf('/') + 1) + ".sonaphex-XXXXXX";
+    replacement.fd_ = ::mkostemp(hidden.data(), O_CLOEXEC);
+    if (replacement.fd_ < 0)
+        return false;
+    replacement.path_ = QFile::decodeName(hidden);
+    return ::fchmod(replacement.fd_, open.st_mode & 0777) == 0;
+}
+
+bool OutputFile::replaceWith(OutputFile& replacement) {
+    const QByteArray hidden = QFile::encodeName(replacement.path_);
+    replacement.syncContent();
+    if (replacement.failed() || ::rename(hidden.constData(), QFile::encodeName(path_).constData()) < 0) {
+        if (replacement.fd_ >= 0)
+            ::unlink(hidden.constData());
+        return false;
+    }
+    std::swap(fd_, replacement.fd_);
+    std::swap(size_, replacement.size_);
+    return true;
+}
+
+void OutputFile::syncContent() {
+    // Some file systems have no such thing to do.
+    if (fd_ >= 0 && ::fsync(fd_) < 0 && errno != EINVAL && errno != ENOSYS && errno != EOPNOTSUPP)
+        fail(errnoError(errno, path_));
+}
+
+void OutputFile::sync() {
+    syncContent();
+    const QByteArray name = QFile::encodeName(path_);
+    const auto slash = name.lastIndexOf('/');
+    syncFolder(slash < 0 ? QByteArray(".") : name.left(slash + 1));
+}
+
+void OutputFile::close() {
+    if (fd_ < 0)
+        return;
+    // Some file systems tell only now that the data found no room.
+    if (::close(fd_) < 0 && errno != EINTR)
+        fail(errnoError(errno, path_));
+    fd_ = -1;
+}
+
+void OutputFile::fail(const MediaError& error) {
+    const std::lock_guard lock(mutex_);
+    if (!error_)
+        error_ = error;
+}
+
+bool OutputFile::failed() const {
+    const std::lock_guard lock(mutex_);
+    return bool(error_);
+}
+
+MediaError OutputFile::firstError() const {
+    const std::lock_guard lock(mutex_);
+    return error_;
+}
+
+} // namespace Platform

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Media/linux/encode/AacEncoder.h"
+#include "Platform/Media/linux/encode/FrameSink.h"
+
+#include <array>
+#include <condition_variable>
+#include <deque>
+#include <mutex>
+#include <thread>
+
+namespace Platform {
+
+/// AAC encoding in one run, or in stretches on several threads.
+///
+/// A stretch begins on a packet border. Its encoder is warmed up with the packets before it, until its rate control has
+/// settled, and runs on into the next stretch with the real samples, so that the last packet it keeps overlaps with
+/// what follows as in one run. The seam is laid where both encoders chose the same window, so that the overlap fits.
+/// Waiting samples are bounded: they hold the stretches of all threads but one. One stretch gives the same bytes as one
+/// run. One thread calls.
+class StretchEncoder {
+public:
+    using Packet = AacEncoder::Packet;
+    static constexpr std::int64_t warmUpPackets = 256;
+    static constexpr std::int64_t seamPackets = 16; // how far a seam may move
+
+    explicit StretchEncoder(const AacSettings& settings);
+    ~StretchEncoder();
+    StretchEncoder(const StretchEncoder&) = delete;
+    StretchEncoder& operator=(const StretchEncoder&) = delete;
+
+    [[nodiscard]] bool valid() const { return first_.valid() && !failed_.load(std::memory_order_relaxed); }
+    [[nodiscard]] AacStreamInfo streamInfo() const { return first_.streamInfo(); }
+
+    /// Appends to @p out the packets that are ready, in order. Waits while too many samples wait.
+    void append(const float* const* channels, std::size_t frames, std::vector<Packet>& out);
+    void finish(std::vector<Packet>& out);
+
+private:
+    /// 1024 frames of the rows that differ; counts itself.
+    struct Block {
+        Block(std::atomic<std::int64_t>& counter, std::size_t rows) : live(counter), samples(rows) { ++live; }
+        ~Block() { --live; }
+        std::atomic<std::int64_t>& live;
+        std::vector<std::array<float, AacEncoder::packetFrames>> samples;
+        int frames = 0;
+    };
+    using BlockPtr = std::shared_ptr<Block>;
+
+    struct Stretch {
+        std::int64_t fedFrom = 0;  // packet that the first block is
+        std::int64_t keepFrom = 0; // first packet that is kept, before the seam is laid
+        std::int64_t keepTo = 0;   // packet behind the last
+        std::deque<BlockPtr> blocks;
+        bool complete = false;  // no more blocks come
+        bool last = false;      // the end of the file: flush
+        bool taken = false;     // by a thread
+        bool done = false;      // all packets are there
+        bool cancelled = false; // the file ended before it began
+        std::deque<Packet> packets;
+        std::int64_t packetsFrom = 0; // number of packets.front()
+    };
+
+    void pushBlock();
+    void encodeSerial(const Block& block, std::vector<Packet>& out);
+    void collect(std::vector<Packet>& out); // with the mutex held
+    bool laySeam(Stretch& before, Stretch& after);
+    void work();
+    std::vector<const float*> rowsOf(const Block& block) const;
+
+    AacSettings settings_;
+    std::size_t distinctRows_ = 1;
+    std::int64_t budget_ = 0;
+    AacEncoder first_; // encodes all of the file when there is one thread; else only describes the stream
+    std::atomic<bool> failed_{false};
+
+    BlockPtr filling_;
+    std::int64_t blocks_ = 0; // so far
+    std::atomic<std::int64_t> live_{0};
+
+    std::mutex mutex_;                               // guards what follows
+    std::condition_variable changed_;                // for the threads: blocks, stretches, the end
+    std::condition_variable progress_;               // for the caller: room, packets
+    std::deque<std::unique_ptr<Stretch>> stretches_; // those not wholly collected
+    std::int64_t stretchesMade_ = 0;
+    bool stopping_ = false;
+    std::vector<std::thread> threads_;
+};
+
+} // namespace Platform

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What looks into pictures stands apart: the recorder on the command line is linked without Qt Gui.
+#include "Platform/Media/BasicID3Change.h"
+
+#include "Platform/Media/linux/tags/InPlaceSave.h"
+#include "Platform/Media/linux/tags/Mpeg4Tags.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+
+#include <taglib/mp4coverart.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Platform {
+namespace {
+
+using Media::PatchedFile;
+
+// Covers are shown on screens; a larger file is no cover.
+constexpr qint64 largestImage = qint64(64) << 20;
+
+/// The kind of picture by its content, nothing when it is no whole JPEG or PNG file.
+std::optional<TagLib::MP4::CoverArt::Format> formatOf(QByteArray& image) {
+    const bool isJpeg = image.startsWith("\xff\xd8\xff") && image.contains("\xff\xd9");
+    const bool isPng = image.startsWith("\x89PNG\r\n\x1a\n") && image.contains("IEND");
+    if (!isJpeg && !isPng)
+        return std::nullopt;
+    QBuffer buffer(&image);
+    buffer.open(QIODevice::ReadOnly);
+    if (!QImageReader(&buffer, isJpeg ? "jpeg" : "png").size().isValid())
+        return std::nullopt;
+    return isJpeg ? TagLib::MP4::CoverArt::JPEG : TagLib::MP4::CoverArt::PNG;
+}
+
+} // namespace
+
+QString BasicID3Change::copyWithArtwork(const QString& source, const QString& image, const QString& destination) {
+    QFile file(image);
+    if (!QFileInfo(image).isFile() || !file.open(QIODevice::ReadOnly))
+        return u"cannot read the image %1: %2"_s.arg(
+            image, QFileInfo::exists(image) ? u"it is no file, or not for you"_s : u"there is no such file"_s);
+    if (file.size() > largestImage)
+        return u"the image %1 is too large"_s.arg(image);
+    QByteArray bytes = file.readAll();
+    const auto format = formatOf(bytes);
+    if (!format)
+        return u"%1 is neither a JPEG nor a PNG image"_s.arg(image);
+
+    QString why;
+    const auto edit = [&](PatchedFile& content, QString& reason) {
+        return Media::editTags(
+            content, {Media::artworkItem},
+            [&](TagLib::MP4::Tag& tag) {
+                TagLib::MP4::CoverArtList covers;
+                covers.append(
+                    {*format, TagLib::ByteVector(bytes.constData(), static_cast<unsigned int>(bytes.size()))});
+                tag.setItem(Media::artworkItem, covers);
+            },
+            reason);
+    };
+    // Onto itself it is a change like any other: the audio of an hour stays where it is.
+    const QString real = QFileInfo(source).canonicalFilePath();
+    const bool ontoItself = !real.isEmpty() && real == QFileInfo(destination).canonicalFilePath();
+    if (ontoItself ? Media::saveInPlace(real, edit, why) : Media::saveCopy(source, destination, edit, why))
+        return {};
+    return u"cannot write the artwork of %1 to %2: %3"_s.arg(source, destination, why);
+}
+
+} // namespace Platform

@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+/// Linear fades over a range that may be played more than once. All times in seconds.
+struct Fades {
+    double rangeBegin;
+    double rangeEnd;
+    double fadeIn; ///< a fade shorter than 0.99 s is off
+    double fadeOut;
+    double length; ///< of the output
+
+    /// The gain of the block that begins at @p source in the file and at @p written in the output, 0 to 1.
+    [[nodiscard]] double gainAt(double source, double written) const;
+};

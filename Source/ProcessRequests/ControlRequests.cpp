@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/ProcessRequests/ControlRequests.h"
+
+#include "Source/Model/AudioRecordEntry.h"
+#include "Source/Model/MediaLibrary.h"
+#include "Source/ProcessRequests/MediaLibraryRequests.h"
+#include "Source/Record/RecordStateController.h"
+
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QByteArray Ok = "ok";
+
+QByteArray failed(const QByteArray& why) {
+    return "failed " + why;
+}
+
+QByteArray compact(const QJsonDocument& document) {
+    return document.toJson(QJsonDocument::Compact);
+}
+
+} // namespace
+
+ControlRequests::ControlRequests(RecordStateController& controller, MediaLibrary* library)
+    : controller_(controller), library_(library) {
+}
+
+QByteArray ControlRequests::answer(const QByteArray& request) {
+    const QByteArray line = request.trimmed();
+    const auto blank = line.indexOf(' ');
+    const QByteArray command = blank < 0 ? line : line.left(blank);
+    const QByteArray rest = blank < 0 ? QByteArray() : line.mid(blank + 1);
+    if (command == "start-stop") {
+        if (!controller_.isStateAudioCanStartRecord())
+            return failed(controller_.canRecord() ? "the program is ending" : "there is no source to record");
+        controller_.startAndStopRecord();
+        return Ok;
+    }
+    if (command == "pause-resume" || command == "split") {
+        if (!controller_.isStateAudioRecord())
+            return failed("nothing is being recorded");
+        if (command == "split")
+            controller_.splitTheRecord();
+        else
+            controller_.pauseAndResumeRecord();
+        return Ok;
+    }
+    if (command == "status")
+        return Ok + ' ' + compact(QJsonDocument(QJsonObject::fromVariantMap(status())));
+    if (command == "library-add")
+        return addToLibrary(rest);
+    if (const auto answered = MediaLibraryRequests::answer(line))
+        return *answered;
+    return failed("unknown request");
+}
+
+Dictionary ControlRequests::status() const {
+    const int state = controller_.recordState_();
+    QString word = u"idle"_s;
+    if (state == 1)
+        word = u"recording"_s;
+    else if (state == 2)
+        word = u"paused"_s;
+    else if (controller_.isStateAudioRecord() && controller_.isWaittingForSound())
+        word = u"armed"_s;
+    return {{u"state"_s, word},
+            {u"seconds"_s, double(controller_.fRecordTime())},
+            {u"queue"_s, controller_.jobsInQueue()},
+            {u"lostFrames"_s, qulonglong(controller_.lostFrames())},
+            {u"notices"_s, controller_.notices()}};
+}
+
+QByteArray ControlRequests::addToLibrary(const QByteArray& json) const {
+    const QJsonObject object = QJsonDocument::fromJson(json).object();
+    const QString path = object.value(u"path").toString();
+    if (!QFileInfo(path).isAbsolute())
+        return failed("there is no path");
+    Dictionary entry = object.value(u"tags").toObject().toVariantMap();
+    // JSON has one kind of number.
+    entry.insert(AudioRecordEntry::Year, entry.value(AudioRecordEntry::Year).toInt());
+    if (entry.value(AudioRecordEntry::NodeDataKey).toString().isEmpty())
+        entry.remove(AudioRecordEntry::NodeDataKey);
+    MediaLibrary& library = library_ ? *library_ : MediaLibrary::shareLibrary();
+    library.takeUpMediaLibraryList(); // others may be among it that were stored past this process
+    library.addRecordFile(MediaLibrary::entryForFile(path, entry));
+    return Ok;
+}
+
+QByteArray ControlRequests::libraryAdd(const QString& path, const Dictionary& tags) {
+    const QJsonObject object{{u"path"_s, path}, {u"tags"_s, QJsonObject::fromVariantMap(tags)}};
+    return "library-add " + compact(QJsonDocument(object));
+}
+
+bool ControlRequests::isOk(const QByteArray& answer, QByteArray& rest) {
+    const bool ok = answer == Ok || answer.startsWith(Ok + ' ');
+    const auto blank = answer.indexOf(' ');
+    rest = blank < 0 ? QByteArray() : answer.mid(blank + 1).trimmed();
+    return ok;
+}

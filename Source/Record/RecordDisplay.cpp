@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/Record/RecordDisplay.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString twoDigits(std::int64_t number) {
+    return u"%1"_s.arg(number, 2, 10, QChar(u'0'));
+}
+
+} // namespace
+
+RecordDisplay RecordDisplay::of(int recordState, float seconds, bool blinkOn) {
+    const auto whole = static_cast<std::int64_t>(seconds);
+    // Hours are not shown: the minutes begin anew after 59.
+    const QString minutes = twoDigits(whole / 60 % 60);
+    const QString minutesAndSeconds = minutes + u':' + twoDigits(whole % 60);
+    switch (recordState) {
+    case 1:
+        return {blinkOn ? u"Rec.."_s : u"Rec"_s, minutesAndSeconds, Qt::red};
+    case 2:
+        return {u"Pause"_s, blinkOn ? minutesAndSeconds : minutes + u':', Qt::black};
+    default:
+        return {u"Ready"_s, blinkOn ? u"00:00"_s : u"00:"_s, Qt::black};
+    }
+}
+
+bool RecordDisplay::blinkOn(double timeIntervalSinceReferenceDate) {
+    const auto halfSeconds = static_cast<std::int64_t>(2 * timeIntervalSinceReferenceDate + 0.1);
+    return halfSeconds % 2 == 0;
+}
+
+QString RecordDisplay::convertingTip(bool blinkOn) {
+    return blinkOn ? u"         Audio File Converting\n         Please Wait .."_s
+                   : u"         Audio File Converting\n         Please Wait "_s;
+}

@@ -1,0 +1,397 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/Record/RecordQueue.h"
+
+#include "Platform/Foundation/Clock.h"
+#include "Platform/Foundation/FileManager.h"
+#include "Platform/Foundation/MainQueue.h"
+#include "Platform/Foundation/MovedFiles.h"
+#include "Platform/Foundation/Services.h"
+#include "Source/Control/ID3ChangeControl.h"
+#include "Source/Control/ToolControl.h"
+#include "Source/Model/AudioRecordEntry.h"
+
+#include <QFileInfo>
+#include <QThread>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+using Platform::MediaError;
+
+namespace {
+
+/// Bytes of the mix for each second: 44100 frames of two 32-bit samples, and a little for the header.
+constexpr double MixBytesPerSecond = 353000;
+/// Share of a two-source job's work that is the mixing; the rest is encoding.
+constexpr double MixShare = 0.3;
+/// Clocks of real devices differ by some hundred parts in a million. More is a measurement that went wrong.
+constexpr double LargestDrift = 2e-3;
+
+/// The error text of a failed step without its trailing full stop, so that it fits into a sentence.
+QString reason(const MediaError& error) {
+    return error.text.isEmpty() ? u"the reason is unknown"_s : error.text;
+}
+
+/// Where files were kept, for a sentence.
+QString places(const QStringList& kept) {
+    const QString folder = Platform::FileManager::unfinishedFolder();
+    QString text = kept.join(u" and "_s);
+    if (std::ranges::any_of(kept, [&](const QString& path) { return QFileInfo(path).path() != folder; }))
+        text += u", which the next start moves to %1 when there is room"_s.arg(folder);
+    return text;
+}
+
+} // namespace
+
+ExportJob::Timing ExportJob::timing() const {
+    Timing timing;
+    if (builtInSpan.firstHostTime == 0 || computerSpan.firstHostTime == 0)
+        return timing;
+    const double later = (double(computerSpan.firstHostTime) - double(builtInSpan.firstHostTime)) / 1e9;
+    (later > 0 ? timing.computerOffset : timing.builtInOffset) = std::abs(later);
+    if (builtInSpan.measuredRate > 0 && computerSpan.measuredRate > 0 && sampleRateBuiltIn > 0 &&
+        sampleRateComputer > 0) {
+        const double speed =
+            (computerSpan.measuredRate / sampleRateComputer) / (builtInSpan.measuredRate / sampleRateBuiltIn);
+        if (std::abs(speed - 1) < LargestDrift)
+            timing.computerSpeed = speed;
+    }
+    return timing;
+}
+
+RecordQueue::RecordQueue(Owner owner, QObject* parent)
+    : QObject(parent), owner_(std::move(owner)), self_(std::make_shared<RecordQueue*>(this)) {
+    worker_.setMaxThreadCount(1);
+}
+
+RecordQueue::~RecordQueue() {
+    cancelled_ = true;
+    worker_.waitForDone();
+    self_.reset(); // only now: the step at hand may still have been taking a guard
+    for (const auto& job : aryForExportDataInfo_) {
+        const QString name = QFileInfo(job->path(ExportJob::OutPutPath)).completeBaseName();
+        for (const auto& key :
+             {ExportJob::BuiltInAudioTempPath, ExportJob::ComputerAudioTempPath, ExportJob::OutPutWAVTempPath}) {
+            const QString file = job->path(key);
+            if (file.isEmpty() || !QFileInfo::exists(file))
+                continue;
+            const QString ending = key == ExportJob::OutPutWAVTempPath ? u".wav"_s : u".m4a"_s;
+            qWarning("%s was not finished and is kept at %s", qUtf8Printable(name),
+                     qUtf8Printable(Platform::MovedFiles::setAside(file, name + ending)));
+        }
+    }
+}
+
+void RecordQueue::onMain(std::function<void()> work) {
+    Platform::MainQueue::post([guard = Guard(self_), work = std::move(work)] {
+        if (!guard.expired())
+            work();
+    });
+}
+
+void RecordQueue::onWorker(std::function<void()> work) {
+    worker_.start(std::move(work));
+}
+
+void RecordQueue::append(std::shared_ptr<ExportJob> job) {
+    {
+        const std::scoped_lock lock(mutex_);
+        aryForExportDataInfo_.push_back(std::move(job));
+    }
+    const auto begin = [this] {
+        Q_EMIT queueChanged();
+        if (!isConverterTherecordAudio_)
+            converterTherecordAudio();
+    };
+    if (QThread::currentThread() == thread())
+        begin();
+    else
+        onMain(begin);
+}
+
+void RecordQueue::rawFileClosed(const Guard& guard, const std::shared_ptr<ExportJob>& job, const QString& path,
+                                OSStatus status) {
+    --job->openFiles;
+    Platform::MainQueue::post([guard, path, status] {
+        const auto self = guard.lock();
+        if (!self)
+            return;
+        RecordQueue& queue = **self;
+        if (status != noErr)
+            Q_EMIT queue.noticed(
+                u"A part of the recording could not be written (error %1). What was written is kept."_s.arg(status));
+        if (queue.isConverterTherecordAudio_ && !queue.working_)
+            queue.converterTherecordAudio();
+    });
+}
+
+int RecordQueue::count() const {
+    const std::scoped_lock lock(mutex_);
+    return int(aryForExportDataInfo_.size());
+}
+
+double RecordQueue::progress() const {
+    return progress_.load(std::memory_order_relaxed);
+}
+
+void RecordQueue::setProgress(double share) {
+    progress_.store(share, std::memory_order_relaxed);
+}
+
+void RecordQueue::converterTherecordAudio() {
+    isConverterTherecordAudio_ = true;
+    std::shared_ptr<ExportJob> job;
+    {
+        const std::scoped_lock lock(mutex_);
+        if (aryForExportDataInfo_.empty()) {
+            isConverterTherecordAudio_ = false;
+            return;
+        }
+        job = aryForExportDataInfo_.front();
+    }
+    if (working_ || job->openFiles > 0)
+        return;
+    working_ = true;
+    setProgress(0);
+    const QString builtIn = job->path(ExportJob::BuiltInAudioTempPath);
+    const QString computer = job->path(ExportJob::ComputerAudioTempPath);
+    if (!builtIn.isEmpty() && !computer.isEmpty())
+        onWorker([this, job] { openMovies(job); });
+    else
+        onWorker([this, job, raw = computer.isEmpty() ? builtIn : computer] { moveRawFile(job, raw); });
+}
+
+void RecordQueue::moveRawFile(const std::shared_ptr<ExportJob>& job, const QString& rawPath) {
+    if (!deliver(job, rawPath))
+        return;
+    onMain([this, job] { finishConverter(*job); });
+}
+
+/// Moves the finished file to its final name, or to the next free one when another file has come to stand there.
+bool RecordQueue::deliver(const std::shared_ptr<ExportJob>& job, const QString& file) {
+    const QString wished = job->path(ExportJob::OutPutPath);
+    QString landed;
+    const auto problem = Platform::FileManager::moveToFreeName(
+        file, wished, [this](const QString&) { return owner_.nextFreeName(); }, landed);
+    if (!problem.isEmpty()) {
+        setAside(
+            job, {file},
+            u"%1 could not be saved in %2: %3."_s.arg(QFileInfo(wished).fileName(), QFileInfo(wished).path(), problem));
+        return false;
+    }
+    if (landed != wished) {
+        owner_.releaseName(wished);
+        job->paths.insert(ExportJob::OutPutPath, landed);
+    }
+    return true;
+}
+
+bool RecordQueue::addAudioIntoMove(std::unique_ptr<Platform::Movie>& movie, std::unique_ptr<Platform::Movie> audio) {
+    if (!movie && !audio)
+        return false;
+    if (!movie) {
+        movie = std::move(audio);
+        return true;
+    }
+    return audio && movie->insertSoundTrackOf(*audio);
+}
+
+void RecordQueue::openMovies(const std::shared_ptr<ExportJob>& job) {
+    const QStringList raws{job->path(ExportJob::BuiltInAudioTempPath), job->path(ExportJob::ComputerAudioTempPath)};
+    MediaError firstError;
+    MediaError secondError;
+    auto* media = Platform::services().mediaFiles;
+    auto first = media->openMovie(raws.at(0), firstError);
+    auto second = media->openMovie(raws.at(1), secondError);
+    const QString name = QFileInfo(job->path(ExportJob::OutPutPath)).fileName();
+    if (!first && !second) {
+        setAside(job, raws, u"%1 could not be put together: %2."_s.arg(name, reason(firstError)));
+        return;
+    }
+    if (!first || !second) {
+        // One half is lost: the other one becomes the recording, and what is left of the first is kept.
+        const QString bad = first ? raws.at(1) : raws.at(0);
+        const QString good = first ? raws.at(0) : raws.at(1);
+        if (QFileInfo(bad).size() > 0) {
+            const QString kept = Platform::MovedFiles::setAside(bad, QFileInfo(bad).fileName());
+            onMain([this, name, kept, why = reason(first ? secondError : firstError)] {
+                Q_EMIT noticed(
+                    u"One source of %1 could not be read (%2). It is kept at %3."_s.arg(name, why, places({kept})));
+            });
+        }
+        moveRawFile(job, good);
+        return;
+    }
+    const ExportJob::Timing timing = job->timing();
+    qtMovieForRecord_ = std::move(first);
+    if (addAudioIntoMove(qtMovieForRecord_, std::move(second))) {
+        qtMovieForRecord_->setTiming(0, {timing.builtInOffset, 1});
+        qtMovieForRecord_->setTiming(1, {timing.computerOffset, timing.computerSpeed});
+    }
+    converterMovie(job);
+}
+
+void RecordQueue::converterMovie(const std::shared_ptr<ExportJob>& job) {
+    const QString wave = job->path(ExportJob::OutPutWAVTempPath);
+    const QStringList raws{job->path(ExportJob::BuiltInAudioTempPath), job->path(ExportJob::ComputerAudioTempPath)};
+    const QString name = QFileInfo(job->path(ExportJob::OutPutPath)).fileName();
+    if (const auto problem = Platform::FileManager::removeFile(wave); !problem.isEmpty()) {
+        setAside(job, raws, u"%1 could not be mixed: %2."_s.arg(name, problem));
+        return;
+    }
+    const double needed = qtMovieForRecord_->duration() * MixBytesPerSecond;
+    const qint64 available = Platform::FileManager::availableBytes(QFileInfo(wave).path());
+    if (available >= 0 && double(available) < needed) {
+        qtMovieForRecord_.reset();
+        setAside(job, raws,
+                 u"%1 could not be mixed: it needs %2 MB of space and %3 MB are left."_s.arg(
+                     name, QString::number(std::llround(needed / 1e6)), QString::number(available / 1000000)));
+        return;
+    }
+    const MediaError error = qtMovieForRecord_->writeWave(wave, [this](double share) {
+        setProgress(share * MixShare);
+        return !cancelled_;
+    });
+    const MediaError damage = qtMovieForRecord_->readError();
+    qtMovieForRecord_.reset();
+    if (cancelled_)
+        return;
+    if (error) {
+        setAside(job, raws, u"%1 could not be mixed: %2."_s.arg(name, reason(error)));
+        return;
+    }
+    if (damage)
+        keepDamaged(*job, {ExportJob::BuiltInAudioTempPath, ExportJob::ComputerAudioTempPath}, damage);
+    onMain([this, job] { startConverterAudio(job); });
+}
+
+void RecordQueue::startConverterAudio(const std::shared_ptr<ExportJob>& job) {
+    // The WAVE is whole: the raw files have done their part, unless they were kept.
+    for (const auto& key : {ExportJob::BuiltInAudioTempPath, ExportJob::ComputerAudioTempPath})
+        if (const QString raw = job->path(key); !raw.isEmpty())
+            if (const auto problem = Platform::FileManager::removeFile(raw); !problem.isEmpty())
+                qWarning("%s stays in the temporary folder: %s", qUtf8Printable(raw), qUtf8Printable(problem));
+    onWorker([this, job] { converterAudio(job); });
+}
+
+void RecordQueue::converterAudio(const std::shared_ptr<ExportJob>& job) {
+    const QString wave = job->path(ExportJob::OutPutWAVTempPath);
+    const QString name = QFileInfo(job->path(ExportJob::OutPutPath)).fileName();
+    // Encoded beside the WAVE and then moved: whatever stands under the final name by now is not overwritten.
+    const QString encoded = wave + u".m4a"_s;
+    converterAudioControl_.setProgress([this](double share) {
+        setProgress(MixShare + share * (1 - MixShare));
+        return !cancelled_;
+    });
+    bool whole =
+        converterAudioControl_.createOutPutFile(encoded, 1) && converterAudioControl_.startConverterSource(wave, 0, 0);
+    converterAudioControl_.closeExportFile();
+    if (cancelled_)
+        return;
+    const MediaError error = converterAudioControl_.exportError();
+    const MediaError damage = converterAudioControl_.sourceError();
+    whole = whole && !error;
+    if (!whole) {
+        (void)Platform::FileManager::removeFile(encoded);
+        setAside(job, {wave}, u"%1 could not be encoded: %2."_s.arg(name, reason(error ? error : damage)));
+        return;
+    }
+    if (damage)
+        keepDamaged(*job, {ExportJob::OutPutWAVTempPath}, damage);
+    else if (const auto problem = Platform::FileManager::removeFile(wave); !problem.isEmpty())
+        qWarning("%s stays in the temporary folder: %s", qUtf8Printable(wave), qUtf8Printable(problem));
+    if (deliver(job, encoded))
+        onMain([this, job] { finishConverter(*job); });
+}
+
+/// Brings files of a job to safety. @return where each one is now
+QStringList RecordQueue::keepFiles(const ExportJob& job, const QStringList& files) {
+    const QString wished = job.path(ExportJob::OutPutPath);
+    QStringList kept;
+    for (const QString& file : files) {
+        const QFileInfo info(file);
+        if (!info.exists())
+            continue;
+        QString name = QFileInfo(wished).completeBaseName();
+        if (file == job.path(ExportJob::OutPutWAVTempPath))
+            name += u".wav"_s;
+        else if (files.size() > 1)
+            name += file == files.front() ? u" input.m4a"_s : u" computer.m4a"_s;
+        else
+            name += u".m4a"_s;
+        kept.append(Platform::MovedFiles::setAside(file, name));
+    }
+    return kept;
+}
+
+/// Keeps the files under these keys, of which a part could not be read. The job goes on with what could.
+void RecordQueue::keepDamaged(ExportJob& job, const QStringList& keys, const MediaError& damage) {
+    QStringList files;
+    for (const QString& key : keys)
+        files.append(job.path(key));
+    const QStringList kept = keepFiles(job, files);
+    for (const QString& key : keys)
+        job.paths.remove(key); // no longer the job's to delete
+    const QString name = QFileInfo(job.path(ExportJob::OutPutPath)).fileName();
+    const QString text =
+        u"A part of %1 could not be read (%2) and is missing in it. What it was made from is kept at %3."_s.arg(
+            name, reason(damage), places(kept));
+    onMain([this, text] { Q_EMIT noticed(text); });
+}
+
+void RecordQueue::setAside(const std::shared_ptr<ExportJob>& job, const QStringList& files, const QString& why) {
+    const QString wished = job->path(ExportJob::OutPutPath);
+    const QStringList kept = keepFiles(*job, files);
+    QString text = why;
+    if (!kept.isEmpty())
+        text += u" The recording is kept at %1."_s.arg(places(kept));
+    onMain([this, wished, kept, text] {
+        Q_EMIT noticed(text);
+        Q_EMIT recordingSetAside(wished, kept);
+        endJob(wished);
+    });
+}
+
+void RecordQueue::finishConverter(const ExportJob& job) {
+    const QString finalPath = job.path(ExportJob::OutPutPath);
+    const float length = ToolControl::getAudioLength(finalPath);
+    Dictionary tags;
+    if (job.brokenOff || !owner_.filter().drops(length)) {
+        tags = initID3BasicInfoDic();
+        tags.insert(AudioRecordEntry::Length, double(length));
+        tags.insert(AudioRecordEntry::Title, QFileInfo(finalPath).completeBaseName());
+        tags.insert(AudioRecordEntry::SavePath, finalPath);
+        if (!ID3ChangeControl::changeID3BasicInfo(finalPath, tags))
+            Q_EMIT noticed(u"%1 could not be tagged."_s.arg(QFileInfo(finalPath).fileName()));
+        tags.insert(AudioRecordEntry::IsNew, true);
+        owner_.addRecordFile(finalPath, tags);
+    }
+    Q_EMIT recordingFinished(finalPath, tags);
+    endJob(finalPath);
+}
+
+void RecordQueue::endJob(const QString& reservedPath) {
+    owner_.releaseName(reservedPath);
+    bool more = false;
+    {
+        const std::scoped_lock lock(mutex_);
+        aryForExportDataInfo_.pop_front();
+        more = !aryForExportDataInfo_.empty();
+    }
+    working_ = false;
+    setProgress(-1);
+    isConverterTherecordAudio_ = more;
+    if (more)
+        converterTherecordAudio();
+    Q_EMIT queueChanged();
+}
+
+Dictionary RecordQueue::initID3BasicInfoDic() {
+    const auto* clock = Platform::services().clock;
+    const QDateTime now = clock ? clock->now() : QDateTime::currentDateTime();
+    return {{AudioRecordEntry::Title, u"NO Title"_s},   {AudioRecordEntry::Artist, u"NO Artist"_s},
+            {AudioRecordEntry::Album, u"NO Album"_s},   {AudioRecordEntry::Year, 2012},
+            {AudioRecordEntry::Genre, u"NO General"_s}, {AudioRecordEntry::AddDate, now.toString(u"yyyy/MM/dd"_s)}};
+}

@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Media/ExtAudioFile.h"
+#include "Source/BuiltInAudioRecord/BuildInAudioRecord.h"
+#include "Source/Control/ConverterAudioControl.h"
+#include "Source/Preferences/RecordPreferences.h"
+
+#include <QObject>
+#include <QThreadPool>
+
+#include <atomic>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <mutex>
+
+/// A finished recording on its way from the raw files of the engines to one tagged file.
+struct ExportJob {
+    static inline const QString OutPutPath = QStringLiteral("OutPutPath");
+    static inline const QString BuiltInAudioTempPath = QStringLiteral("BuiltInAudioTempPath");
+    static inline const QString ComputerAudioTempPath = QStringLiteral("ComputerAudioTempPath");
+    static inline const QString OutPutWAVTempPath = QStringLiteral("OutPutWAVTempPath");
+
+    Dictionary paths; ///< under the keys above; a source that was off has none
+    BuildInAudioRecord::CaptureSpan builtInSpan;
+    BuildInAudioRecord::CaptureSpan computerSpan;
+    double sampleRateBuiltIn = 0;
+    double sampleRateComputer = 0;
+    bool brokenOff = false;        ///< a full disk ended it: however short, it is no recording that the user made short
+    std::atomic<int> openFiles{0}; ///< raw files that are still being closed; the job starts when there are none
+
+    [[nodiscard]] QString path(const QString& key) const { return paths.value(key).toString(); }
+    /// How the computer-audio recording lies over the other one: how much later each begins, and how fast the former
+    /// must play because the clocks of the two devices differ.
+    struct Timing {
+        double builtInOffset = 0;
+        double computerOffset = 0;
+        double computerSpeed = 1;
+    };
+    [[nodiscard]] Timing timing() const;
+};
+
+/// Turns finished recordings into tagged files, one at a time in the order in which they came: one source is moved, two
+/// are mixed and encoded. The work runs on a worker; what cannot be finished is set aside and told. Main thread, but
+/// for append() and rawFileClosed().
+class RecordQueue : public QObject {
+    Q_OBJECT
+public:
+    /// What the queue needs of its owner. The first two are called on a worker.
+    struct Owner {
+        /// Reserves the next free name for a recording whose own name is taken by now.
+        std::function<QString()> nextFreeName;
+        std::function<void(const QString& path)> releaseName;
+        std::function<void(const QString& path, const Dictionary& tags)> addRecordFile;
+        std::function<RecordFilter()> filter;
+    };
+
+    explicit RecordQueue(Owner owner, QObject* parent = nullptr);
+    /// Stops the job at hand; what is left in the queue is set aside.
+    ~RecordQueue() override;
+
+    /// Any thread.
+    void append(std::shared_ptr<ExportJob> job);
+    /// Tells that one raw file of the job is closed, with the first error of its life. Any thread, also after the queue
+    /// is gone: hence the guard, which is taken while the queue lives.
+    using Guard = std::weak_ptr<RecordQueue*>;
+    [[nodiscard]] Guard guard() const { return self_; }
+    static void rawFileClosed(const Guard& guard, const std::shared_ptr<ExportJob>& job, const QString& path,
+                              OSStatus status);
+
+    /// Jobs that wait or are worked on.
+    [[nodiscard]] int count() const;
+    /// Of the job at hand, 0 to 1; below 0 when there is none.
+    [[nodiscard]] double progress() const;
+    /// The tags that a new recording begins with.
+    [[nodiscard]] static Dictionary initID3BasicInfoDic();
+
+    // The steps of a job.
+    void converterTherecordAudio();
+    /// Lays @p audio over @p movie; a missing movie takes the other's place. False when there is nothing to lay over.
+    static bool addAudioIntoMove(std::unique_ptr<Platform::Movie>& movie, std::unique_ptr<Platform::Movie> audio);
+
+Q_SIGNALS:
+    void queueChanged();
+    /// A job came to its end. @p entry is empty when the filter kept it out of the library.
+    void recordingFinished(const QString& path, const Dictionary& entry);
+    /// A job could not be finished; its files were kept at @p kept.
+    void recordingSetAside(const QString& path, const QStringList& kept);
+    void noticed(const QString& text);
+
+private:
+    void onMain(std::function<void()> work);
+    void onWorker(std::function<void()> work);
+    void moveRawFile(const std::shared_ptr<ExportJob>& job, const QString& rawPath);
+    void openMovies(const std::shared_ptr<ExportJob>& job);
+    void converterMovie(const std::shared_ptr<ExportJob>& job);
+    void startConverterAudio(const std::shared_ptr<ExportJob>& job);
+    void converterAudio(const std::shared_ptr<ExportJob>& job);
+    bool deliver(const std::shared_ptr<ExportJob>& job, const QString& file);
+    void setAside(const std::shared_ptr<ExportJob>& job, const QStringList& files, const QString& why);
+    QStringList keepFiles(const ExportJob& job, const QStringList& files);
+    void keepDamaged(ExportJob& job, const QStringList& keys, const Platform::MediaError& damage);
+    void finishConverter(const ExportJob& job);
+    void endJob(const QString& reservedPath);
+    void setProgress(double share);
+
+    Owner owner_;
+    std::shared_ptr<RecordQueue*> self_;
+    mutable std::mutex mutex_; ///< guards the list
+    std::deque<std::shared_ptr<ExportJob>> aryForExportDataInfo_;
+    bool isConverterTherecordAudio_ = false;
+    bool working_ = false; ///< the first job's raw files are closed and a step of it is under way
+    std::atomic<double> progress_{-1};
+    std::atomic<bool> cancelled_{false};
+    std::unique_ptr<Platform::Movie> qtMovieForRecord_;
+    ConverterAudioControl converterAudioControl_;
+    QThreadPool worker_; ///< destroyed first: waits for the step at hand
+};

@@ -1,0 +1,202 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/Record/RecordSources.h"
+
+#include "CaptureComputerAudio/CaptureComputerAudio.h"
+#include "CaptureComputerAudio/KextInstallControl.h"
+#include "Platform/Audio/AudioHardware.h"
+#include "Platform/Desktop/Alerts.h"
+#include "Platform/Foundation/Services.h"
+
+#include <QScopeGuard>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString nameOf(const QVariant& device) {
+    return device.toMap().value(BuildInAudioRecord::DeviceNameKey).toString();
+}
+
+AudioObjectID idOf(const QVariant& device) {
+    return device.toMap().value(BuildInAudioRecord::DeviceIDKey).toUInt();
+}
+
+/// No cut of the computer-audio recording begins: one uses the units of both engines, and may come while the window
+/// shows none running.
+class Held {
+public:
+    explicit Held(BuildInAudioRecord& engine) : engine_(engine) { engine_.holdCycles(); }
+    ~Held() { engine_.releaseCycles(); }
+    Held(const Held&) = delete;
+    Held& operator=(const Held&) = delete;
+
+private:
+    BuildInAudioRecord& engine_;
+};
+
+void warnOfUsbHeadset() {
+    if (auto* alerts = Platform::services().alerts)
+        alerts->runModal(u"Waring:"_s,
+                         u"The application is reading your USB headset data, please do not unplug your USB headset, if "
+                         u"you want to unplug your USB headset please turn off this application first， Otherwise give "
+                         u"your computer some trouble."_s,
+                         {u"OK"_s});
+}
+
+} // namespace
+
+RecordSources::RecordSources(BuildInAudioRecord& buildInAudioRecord, BuildInAudioRecord& computerAudioRecord,
+                             QObject* parent)
+    : QObject(parent), buildInAudioRecord_(buildInAudioRecord), computerAudioRecord_(computerAudioRecord) {
+}
+
+void RecordSources::awakeFromNib() {
+    walking_ = true;
+    aryInputAudioDevice_ = BuildInAudioRecord::getAudioInPutDeviceIDs();
+    for (qsizetype i = 0; i < aryInputAudioDevice_.size(); ++i) {
+        if (nameOf(aryInputAudioDevice_.at(i)) != ComputerAudioName)
+            continue;
+        adoptComputerAudio(idOf(aryInputAudioDevice_.at(i)));
+        // The entry that moves into this place is not looked at: there is only one such device.
+        aryInputAudioDevice_.removeAt(i);
+    }
+    selected_ = aryInputAudioDevice_.isEmpty() ? -1 : 0;
+    configAudioDevice(0);
+    walking_ = false;
+    Q_EMIT devicesChanged();
+
+    if (auto* hardware = Platform::services().audioHardware) {
+        connect(hardware, &Platform::AudioHardware::devicesChanged, this, &RecordSources::followDevices);
+        // The driver listens where it was told to: a new default output must be told again, during a recording too.
+        connect(hardware, &Platform::AudioHardware::defaultOutputDeviceChanged, this, [this] {
+            if (computerAudioDeviceID_ != 0)
+                CaptureComputerAudio::startCaptureComputerAudio();
+        });
+        // The driver ends with its server. A recording waits for the device, so it must come back with the next one.
+        connect(hardware, &Platform::AudioHardware::connectedChanged, this, [](bool connected) {
+            if (connected && !KextInstallControl::isBusy())
+                KextInstallControl::loadIfInstalled();
+        });
+    }
+    if (changedMeanwhile_)
+        followDevices();
+}
+
+void RecordSources::adoptComputerAudio(AudioObjectID device) {
+    CaptureComputerAudio::startCaptureComputerAudio();
+    if (CaptureComputerAudio::captureComputerAudioIsUSBDevice())
+        warnOfUsbHeadset();
+    computerAudioDeviceID_ = device;
+    configComputerRecordAudioDevice();
+}
+
+void RecordSources::chooseBuiltInDevice(int index) {
+    if (index < 0 || index >= aryInputAudioDevice_.size())
+        return;
+    selected_ = index;
+    chosenDevice_ = idOf(aryInputAudioDevice_.at(index));
+    configAudioDevice(index);
+    Q_EMIT devicesChanged();
+}
+
+void RecordSources::configAudioDevice(int index) {
+    if (index < 0 || index >= aryInputAudioDevice_.size() || selected_ < 0)
+        return;
+    bindChosen();
+}
+
+void RecordSources::bindChosen() {
+    const Held held(computerAudioRecord_);
+    const QVariant device = aryInputAudioDevice_.at(selected_);
+    boundDevice_ = idOf(device);
+    if (chosenDevice_ == 0)
+        chosenDevice_ = boundDevice_;
+    bind(buildInAudioRecord_, boundDevice_, nameOf(device));
+}
+
+void RecordSources::configComputerRecordAudioDevice() {
+    if (computerAudioDeviceID_ != 0)
+        bind(computerAudioRecord_, computerAudioDeviceID_, ComputerAudioName);
+}
+
+void RecordSources::bind(BuildInAudioRecord& engine, AudioObjectID device, const QString& name) {
+    BuildInAudioRecord::setMaxVolume(device);
+    if (!engine.configureAudioUnit(device))
+        Q_EMIT noticed(u"%1 cannot be opened: %2"_s.arg(name, engine.lastError()));
+}
+
+void RecordSources::findComputerAudioDevice() {
+    const QVariantList devices = BuildInAudioRecord::getAudioInPutDeviceIDs();
+    for (const QVariant& device : devices)
+        if (nameOf(device) == ComputerAudioName)
+            adoptComputerAudio(idOf(device));
+    if (computerAudioDeviceID_ != 0)
+        Q_EMIT computerAudioDeviceChanged();
+}
+
+void RecordSources::setRecording(bool recording) {
+    recording_ = recording;
+    if (!recording && changedMeanwhile_)
+        followDevices();
+}
+
+void RecordSources::followDevices() {
+    if (recording_ || walking_) {
+        changedMeanwhile_ = true;
+        return;
+    }
+    walking_ = true;
+    changedMeanwhile_ = false;
+    const auto done = qScopeGuard([this] { walking_ = false; });
+
+    QVariantList devices = BuildInAudioRecord::getAudioInPutDeviceIDs();
+    AudioObjectID computerAudio = 0;
+    for (const QVariant& device : devices)
+        if (nameOf(device) == ComputerAudioName)
+            computerAudio = idOf(device);
+    devices.removeIf([](const QVariant& device) { return nameOf(device) == ComputerAudioName; });
+
+    if (computerAudio != computerAudioDeviceID_) {
+        if (computerAudioRecord_.recordStatus() != 0) {
+            changedMeanwhile_ = true; // a wait for sound that was left by a stop may record: it waits for its device
+        } else if (computerAudio != 0) {
+            adoptComputerAudio(computerAudio);
+        } else {
+            computerAudioDeviceID_ = 0;
+            computerAudioRecord_.cleanUp();
+        }
+        if (computerAudio == computerAudioDeviceID_)
+            Q_EMIT computerAudioDeviceChanged();
+    }
+
+    if (devices == aryInputAudioDevice_)
+        return;
+    aryInputAudioDevice_ = devices;
+    selected_ = devices.isEmpty() ? -1 : 0;
+    for (qsizetype i = 0; i < devices.size(); ++i)
+        if (idOf(devices.at(i)) == chosenDevice_)
+            selected_ = int(i);
+    if (selected_ < 0) {
+        const Held held(computerAudioRecord_);
+        boundDevice_ = 0;
+        buildInAudioRecord_.cleanUp();
+    } else if (idOf(devices.at(selected_)) != boundDevice_) {
+        bindChosen();
+    }
+    Q_EMIT devicesChanged();
+}
+
+QStringList RecordSources::deviceNames() const {
+    QStringList names;
+    for (const QVariant& device : aryInputAudioDevice_)
+        names.append(nameOf(device));
+    return names;
+}
+
+int RecordSources::indexOfDevice(AudioObjectID device) const {
+    for (qsizetype i = 0; i < aryInputAudioDevice_.size(); ++i)
+        if (idOf(aryInputAudioDevice_.at(i)) == device)
+            return int(i);
+    return -1;
+}

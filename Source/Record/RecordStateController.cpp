@@ -1,0 +1,414 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/Record/RecordStateController.h"
+
+#include "Platform/Desktop/Alerts.h"
+#include "Platform/Foundation/Clock.h"
+#include "Platform/Foundation/MainQueue.h"
+#include "Platform/Foundation/Services.h"
+#include "Source/Model/AudioRecordEntry.h"
+#include "Source/Model/MediaLibrary.h"
+#include "Source/Record/RecordStateControllerPrivate.h"
+
+#include <QLoggingCategory>
+#include <QThread>
+
+using namespace Qt::StringLiterals;
+using namespace PreferenceStore;
+
+namespace {
+
+/// More would only push the newest out of sight.
+constexpr qsizetype MostNotices = 20;
+
+Q_LOGGING_CATEGORY(recordLog, "sonaphex.record")
+
+} // namespace
+
+void RecordStateControllerDelegate::addRecordFile(const QString& path, const Dictionary& tags) {
+    MediaLibrary::shareLibrary().addRecordFile(MediaLibrary::entryForFile(path, tags));
+}
+
+RecordStateController::RecordStateController(EngineFactory factory, QObject* parent)
+    : QObject(parent), d(std::make_unique<Private>(this)) {
+    const auto make = [&factory] { return factory ? factory() : std::make_unique<BuildInAudioRecord>(); };
+    d->builtIn.engine = make();
+    d->builtIn.label = u"The input device"_s;
+    d->builtIn.rawName = u"/BuiltInA"_s;
+    d->builtIn.jobKey = ExportJob::BuiltInAudioTempPath;
+    d->computer.engine = make();
+    d->computer.label = u"Computer audio"_s;
+    d->computer.rawName = u"/ComputerA"_s;
+    d->computer.jobKey = ExportJob::ComputerAudioTempPath;
+
+    RecordQueue::Owner owner;
+    owner.nextFreeName = [this] { return getAudioRecordPath(); };
+    owner.releaseName = [this](const QString& path) {
+        const std::scoped_lock lock(d->mutex);
+        d->names.release(path);
+    };
+    owner.addRecordFile = [this](const QString& path, const Dictionary& tags) {
+        d->delegate->addRecordFile(path, tags);
+    };
+    owner.filter = [this] { return RecordFilter::read(*d->preferences); };
+    d->queue = std::make_unique<RecordQueue>(std::move(owner));
+    connect(d->queue.get(), &RecordQueue::queueChanged, this, &RecordStateController::queueChanged);
+    connect(d->queue.get(), &RecordQueue::recordingFinished, this, &RecordStateController::recordingFinished);
+    connect(d->queue.get(), &RecordQueue::recordingSetAside, this, &RecordStateController::recordingSetAside);
+    connect(d->queue.get(), &RecordQueue::noticed, this, [this](const QString& text) { d->notice(text); });
+
+    connect(&d->recordTimerForTime_, &QTimer::timeout, this, &RecordStateController::recordFlushTime);
+    d->recordTimerForTime_.setTimerType(Qt::PreciseTimer);
+    d->recordTimerForTime_.setInterval(500);
+}
+
+RecordStateController::~RecordStateController() {
+    d->alive.reset();
+    d->devices.reset();
+    // Cycles use the engines through our pointers: they must have ended before a pointer is null. What is still being
+    // recorded joins the queue, and what waits there is set aside.
+    if (d->anyEngineRecords())
+        d->stopRecord();
+    d->builtIn.engine->cleanUp();
+    d->computer.engine->cleanUp();
+    d->builtIn.engine.reset();
+    d->computer.engine.reset();
+    d->queue.reset();
+}
+
+void RecordStateController::setDelegate(RecordStateControllerDelegate* delegate) {
+    d->delegate = delegate ? delegate : &d->defaultDelegate;
+}
+
+void RecordStateController::setPreferences(RecordPreferences* preferences) {
+    d->preferences = preferences ? preferences : &d->storedPreferences;
+}
+
+void RecordStateController::awakeFromNib() {
+    setIsRecordPause_(false);
+    for (RecordSource* source : {&d->builtIn, &d->computer}) {
+        source->engine->setDelegate(this);
+        source->engine->setIsecordComputerAudio_(source == &d->computer);
+        source->engine->setEventHandler(
+            [this, source](Platform::InputUnit::Event event) { d->deviceEvent(event, *source); });
+    }
+    d->devices = std::make_unique<RecordSources>(*d->builtIn.engine, *d->computer.engine);
+    connect(d->devices.get(), &RecordSources::devicesChanged, this, &RecordStateController::devicesChanged);
+    connect(d->devices.get(), &RecordSources::computerAudioDeviceChanged, this, [this] {
+        d->forgetLeftWait();
+        refreshTheFace();
+    });
+    connect(d->devices.get(), &RecordSources::noticed, this, [this](const QString& text) { d->notice(text); });
+    d->devices->awakeFromNib();
+
+    d->isRecordingFlushTheFace(false);
+    refreshTheFace();
+    d->display_ = RecordDisplay::of(0, 0, isShowWaveRecordFullTime());
+    d->recordTimerForTime_.start();
+}
+
+void RecordStateController::setDisplayClockRunning(bool running) {
+    if (running)
+        d->recordTimerForTime_.start();
+    else
+        d->recordTimerForTime_.stop();
+}
+
+void RecordStateController::refreshTheFace() {
+    d->builtIn.checked = Platform::boolValue(d->preferences->value(ChooseRecordBuiltIn, true));
+    d->popUpEnabled_ = d->builtIn.checked;
+    d->computer.checked = d->devices->computerAudioDeviceID() != 0 &&
+                          Platform::boolValue(d->preferences->value(ChooseRecordComputerAudio, false));
+    d->startEnabled_ = canRecord();
+    d->changed();
+}
+
+void RecordStateController::chooseRecordBuiltIn(bool on) {
+    d->builtIn.checked = on;
+    d->builtIn.off = false;
+    d->popUpEnabled_ = on;
+    d->preferences->setValue(on, ChooseRecordBuiltIn);
+    d->startEnabled_ = canRecord();
+    d->changed();
+}
+
+void RecordStateController::chooseRecordComputerAudio(bool on) {
+    if (d->devices->computerAudioDeviceID() == 0)
+        d->devices->findComputerAudioDevice();
+    const bool present = d->devices->computerAudioDeviceID() != 0;
+    if (!present) {
+        const int button = Platform::services().alerts->runModal(
+            u"Add-on required to record the system audio."_s,
+            u"KorvanAudioDevice is easy to use, it simply accept system audio data, allowing any audio application to "
+            u"send and receive audio with no other support needed. KorvanAudioDevice is free, and runs on Mac Intel "
+            u"computers. This driver will only be used by Sonaphex."_s,
+            {u"Install"_s, u"Cancel"_s});
+        if (button == 0)
+            d->delegate->insertTheSystemAudioRecordDevice();
+    }
+    d->computer.checked = on && present;
+    d->computer.off = false;
+    d->preferences->setValue(bool(d->computer.checked), ChooseRecordComputerAudio);
+    d->startEnabled_ = canRecord();
+    d->changed();
+}
+
+void RecordStateController::chooseBuiltInDevice(int index) {
+    d->devices->chooseBuiltInDevice(index);
+}
+
+bool RecordStateController::windowShouldClose() {
+    // What a left wait for sound records although the choices say otherwise is no reason to stay: it is kept at the
+    // end.
+    if (recordState_() == 0)
+        d->delegate->terminate();
+    else
+        Platform::services().alerts->runModal(u"Waring:"_s, u"Please stop your recording."_s, {u"OK"_s});
+    return false;
+}
+
+int RecordStateController::recordState_() const {
+    if (d->builtIn.takesPart())
+        return d->builtIn.engine->recordStatus();
+    return d->computer.takesPart() ? d->computer.engine->recordStatus() : 0;
+}
+
+bool RecordStateController::isStateAudioCanStartRecord() const {
+    return d->startEnabled_ && !d->finishing_;
+}
+
+bool RecordStateController::isStateAudioRecord() const {
+    return d->active_;
+}
+
+bool RecordStateController::isStateAudioRecordPause() const {
+    return d->active_;
+}
+
+bool RecordStateController::isRecordPause_() const {
+    return d->isRecordPause_;
+}
+
+void RecordStateController::setIsRecordPause_(bool paused) {
+    d->isRecordPause_ = paused;
+    d->changed();
+}
+
+bool RecordStateController::canRecord() const {
+    return d->builtIn.checked || d->computer.checked;
+}
+
+float RecordStateController::getAudioWaveLevelValue() const {
+    float level = 0;
+    if (d->builtIn.checked)
+        level = d->builtInLevelValue_;
+    if (d->computer.checked)
+        level = d->computerLevelValue_;
+    if (d->builtIn.checked && d->computer.checked) {
+        const double t = Platform::services().clock->timeIntervalSinceReferenceDate();
+        level = static_cast<std::uint64_t>(t * 10) % 2 == 0 ? d->builtInLevelValue_ : d->computerLevelValue_;
+    }
+    return level;
+}
+
+bool RecordStateController::isShowWaveRecordFullTime() const {
+    return RecordDisplay::blinkOn(Platform::services().clock->timeIntervalSinceReferenceDate());
+}
+
+bool RecordStateController::splitEnabled() const {
+    return d->active_;
+}
+
+bool RecordStateController::sourcesEnabled() const {
+    return !d->active_;
+}
+
+bool RecordStateController::popUpEnabled() const {
+    return d->popUpEnabled_;
+}
+
+bool RecordStateController::builtInChecked() const {
+    return d->builtIn.checked;
+}
+
+bool RecordStateController::computerAudioChecked() const {
+    return d->computer.checked;
+}
+
+QString RecordStateController::startToolTip() const {
+    return d->stopShown_ ? u"Stop Record"_s : u"Start Record"_s;
+}
+
+QString RecordStateController::startImage() const {
+    return d->stopShown_ ? u"RecorderStop.png"_s : u"RecorderStart.png"_s;
+}
+
+QString RecordStateController::startPressedImage() const {
+    return d->stopShown_ ? u"RecorderStopDown.png"_s : u"RecorderStartDown.png"_s;
+}
+
+QString RecordStateController::pauseToolTip() const {
+    return d->resumeTip_ ? u"Resume Record"_s : u"Pause Record"_s;
+}
+
+QString RecordStateController::pauseImage() const {
+    return d->isRecordPause_ ? u"RecorderResume.png"_s : u"RecorderPause.png"_s;
+}
+
+QString RecordStateController::stateString() const {
+    return d->display_.stateString;
+}
+
+QString RecordStateController::timeString() const {
+    return d->display_.timeString;
+}
+
+Qt::GlobalColor RecordStateController::stateColor() const {
+    return d->display_.stateColor;
+}
+
+QString RecordStateController::fileConvertTip() const {
+    return d->convertTip_;
+}
+
+float RecordStateController::fRecordTime() const {
+    return d->fRecordTime_;
+}
+
+QStringList RecordStateController::deviceNames() const {
+    return d->devices ? d->devices->deviceNames() : QStringList();
+}
+
+int RecordStateController::selectedDevice() const {
+    return d->devices ? d->devices->selectedDevice() : -1;
+}
+
+int RecordStateController::indexOfDevice(AudioObjectID device) const {
+    return d->devices ? d->devices->indexOfDevice(device) : -1;
+}
+
+bool RecordStateController::hasComputerAudioDevice() const {
+    return d->devices && d->devices->computerAudioDeviceID() != 0;
+}
+
+bool RecordStateController::isWaittingForSound() const {
+    const std::scoped_lock lock(d->mutex);
+    return d->splitter.isWaitting() && d->computer.engine->recordStatus() == 0;
+}
+
+int RecordStateController::jobsInQueue() const {
+    return d->queue->count();
+}
+
+double RecordStateController::jobProgress() const {
+    return d->queue->progress();
+}
+
+int RecordStateController::droppedRecordings() const {
+    return d->dropped_;
+}
+
+QStringList RecordStateController::notices() const {
+    return d->notices_;
+}
+
+void RecordStateController::dismissNotices() {
+    if (d->notices_.isEmpty())
+        return;
+    d->notices_.clear();
+    Q_EMIT noticesChanged();
+}
+
+Dictionary RecordStateController::initID3BasicInfoDic() {
+    return RecordQueue::initID3BasicInfoDic();
+}
+
+void RecordStateController::recordFlushTime() {
+    const int state = recordState_();
+    if (state == 1)
+        d->fRecordTime_.fetch_add(0.5F);
+    if (state == 2)
+        qCInfo(recordLog, "Pause Rcd   %f", double(d->fRecordTime_));
+    const bool blinkOn = isShowWaveRecordFullTime();
+    const RecordDisplay display = RecordDisplay::of(state, d->fRecordTime_, blinkOn);
+    const QString tip = RecordDisplay::convertingTip(blinkOn);
+    if (display != d->display_ || tip != d->convertTip_) {
+        d->display_ = display;
+        d->convertTip_ = tip;
+        Q_EMIT displayChanged();
+    }
+    d->showLosses();
+    if (jobsInQueue() > 0)
+        Q_EMIT queueChanged();
+}
+
+void RecordStateController::Private::onMain(std::function<void()> work) {
+    if (QThread::currentThread() == q->thread()) {
+        work();
+        return;
+    }
+    Platform::MainQueue::post([guard = std::weak_ptr<int>(alive), work = std::move(work)] {
+        if (!guard.expired())
+            work();
+    });
+}
+
+void RecordStateController::Private::changed() {
+    onMain([this] { Q_EMIT q->stateChanged(); });
+}
+
+/// Always later: it is also said with the mutex locked, and who hears of it asks for the state.
+void RecordStateController::Private::notice(const QString& text, const QString& replaces) {
+    Platform::MainQueue::post([this, guard = std::weak_ptr<int>(alive), text, replaces] {
+        if (guard.expired())
+            return;
+        qCWarning(recordLog, "%s", qUtf8Printable(text));
+        if (!notices_.isEmpty() && notices_.last() == text)
+            return;
+        if (!replaces.isEmpty())
+            notices_.removeAll(replaces);
+        notices_.append(text);
+        if (notices_.size() > MostNotices)
+            notices_.removeFirst();
+        Q_EMIT q->noticesChanged();
+    });
+}
+
+void RecordStateController::Private::deviceEvent(Platform::InputUnit::Event event, const RecordSource& source) {
+    using Event = Platform::InputUnit::Event;
+    const bool records = source.engine->recordStatus() != 0;
+    if (event == Event::DeviceLost || event == Event::ServerLost) {
+        if (!records)
+            return;
+        notice(event == Event::DeviceLost
+                   ? u"%1 went away. What was recorded so far is kept; the recording goes on when it is back."_s.arg(
+                         source.label)
+                   : u"The sound server went away. What was recorded so far is kept; the recording goes on when it "
+                     u"is back."_s);
+    } else if (event == Event::DeviceReturned || event == Event::ServerReturned) {
+        if (records)
+            notice(u"%1 is back."_s.arg(source.label));
+    }
+}
+
+void RecordStateController::Private::showLosses() {
+    RecordLosses lost;
+    {
+        const std::scoped_lock lock(mutex);
+        lost = engineLosses();
+        lost.frames += lostBefore_.frames;
+        lost.seconds += lostBefore_.seconds;
+    }
+    if (lost.frames != lostShown_ && lost.frames > 0) {
+        const QString before = lostShown_ > 0 ? lossNotice_ : QString();
+        lossNotice_ = u"%1 frames (%2 s) were lost before they could be written"_s.arg(
+            QString::number(lost.frames), QString::number(lost.seconds, 'f', 3));
+        notice(lossNotice_, before);
+    }
+    lostShown_ = lost.frames;
+
+    const QString problem = q->writeProblem();
+    if (!problem.isEmpty() && !writeProblemShown_)
+        notice(u"The recording cannot be written any more: %1. What was written is kept."_s.arg(problem));
+    writeProblemShown_ = !problem.isEmpty();
+}

@@ -1,0 +1,173 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Source/BuiltInAudioRecord/BuildInAudioRecord.h"
+#include "Source/Preferences/RecordPreferences.h"
+
+#include <QObject>
+#include <QStringList>
+#include <QVariantList>
+
+#include <functional>
+#include <memory>
+
+/// What the recording side asks of those around it. All calls on the main thread.
+class RecordStateControllerDelegate {
+public:
+    virtual ~RecordStateControllerDelegate() = default;
+    virtual void stopSoundPlaying() {}
+    virtual void setTabViewShowWave(bool /*show*/) {}
+    virtual void updateRecordStateAction() {}
+    /// The default makes the entry (identity, path) and puts it into the shared library.
+    virtual void addRecordFile(const QString& path, const Dictionary& tags);
+    /// The user accepted the add-on prompt.
+    virtual void insertTheSystemAudioRecordDevice() {}
+    /// The user closed the window while nothing records.
+    virtual void terminate() {}
+};
+
+/// The recording side of the main window without the window: two engines, start, stop, pause, split, the display's
+/// clock, and the queue that turns raw files into tagged recordings of the library. A window binds to its properties.
+///
+/// Main thread, but for the level callbacks (I/O threads), which begin an armed recording and split at silences.
+class RecordStateController : public QObject, public BuildInAudioRecordDelegate {
+    Q_OBJECT
+    // One property for each thing that a window shows; each changes on the main thread with stateChanged().
+    Q_PROPERTY(bool startEnabled READ isStateAudioCanStartRecord NOTIFY stateChanged)
+    Q_PROPERTY(bool pauseEnabled READ isStateAudioRecord NOTIFY stateChanged)
+    Q_PROPERTY(bool splitEnabled READ splitEnabled NOTIFY stateChanged)
+    Q_PROPERTY(bool sourcesEnabled READ sourcesEnabled NOTIFY stateChanged)
+    Q_PROPERTY(bool popUpEnabled READ popUpEnabled NOTIFY stateChanged)
+    Q_PROPERTY(bool builtInChecked READ builtInChecked NOTIFY stateChanged)
+    Q_PROPERTY(bool computerAudioChecked READ computerAudioChecked NOTIFY stateChanged)
+    Q_PROPERTY(bool isRecordPause_ READ isRecordPause_ WRITE setIsRecordPause_ NOTIFY stateChanged)
+    Q_PROPERTY(QString startToolTip READ startToolTip NOTIFY stateChanged)
+    Q_PROPERTY(QString startImage READ startImage NOTIFY stateChanged)
+    Q_PROPERTY(QString startPressedImage READ startPressedImage NOTIFY stateChanged)
+    Q_PROPERTY(QString pauseToolTip READ pauseToolTip NOTIFY stateChanged)
+    Q_PROPERTY(QString pauseImage READ pauseImage NOTIFY stateChanged)
+    Q_PROPERTY(QString stateString READ stateString NOTIFY displayChanged)
+    Q_PROPERTY(QString timeString READ timeString NOTIFY displayChanged)
+    Q_PROPERTY(Qt::GlobalColor stateColor READ stateColor NOTIFY displayChanged)
+    Q_PROPERTY(QStringList deviceNames READ deviceNames NOTIFY devicesChanged)
+    Q_PROPERTY(int selectedDevice READ selectedDevice NOTIFY devicesChanged)
+
+public:
+    /// Makes an engine; tests hand in their own.
+    using EngineFactory = std::function<std::unique_ptr<BuildInAudioRecord>()>;
+
+    explicit RecordStateController(EngineFactory factory = {}, QObject* parent = nullptr);
+    ~RecordStateController() override;
+
+    /// Set-up in its fixed order: engines, devices, computer audio, clock.
+    void awakeFromNib();
+    /// Not owned; null for the defaults.
+    void setDelegate(RecordStateControllerDelegate* delegate);
+    /// Settings to use instead of the stored ones; not owned, before awakeFromNib().
+    void setPreferences(RecordPreferences* preferences);
+
+    // The commands.
+    void startAndStopRecord();
+    void pauseAndResumeRecord();
+    /// Closes and queues the file in progress and goes on in a new one without a gap. Nothing happens while nothing
+    /// records.
+    void splitTheRecord();
+    void chooseRecordBuiltIn(bool on);
+    void chooseRecordComputerAudio(bool on);
+    void chooseBuiltInDevice(int index);
+    /// Shows the stored choices again, as far as their devices are there.
+    void refreshTheFace();
+    /// Whether the window may close: never; while nothing records the program ends, else an alert is shown.
+    bool windowShouldClose();
+
+    /// One tick of the display's clock: 0.5 s. The clock runs from awakeFromNib() on; tests stop it and tick.
+    void recordFlushTime();
+    void setDisplayClockRunning(bool running);
+
+    // The state.
+    /// 0 nothing is recorded, 1 it is, 2 it is paused.
+    [[nodiscard]] int recordState_() const;
+    [[nodiscard]] bool isStateAudioCanStartRecord() const;
+    [[nodiscard]] bool isStateAudioRecord() const;
+    [[nodiscard]] bool isStateAudioRecordPause() const;
+    [[nodiscard]] bool isRecordPause_() const;
+    void setIsRecordPause_(bool paused);
+    [[nodiscard]] bool canRecord() const;
+    [[nodiscard]] float getAudioWaveLevelValue() const;
+    [[nodiscard]] bool isShowWaveRecordFullTime() const;
+    [[nodiscard]] bool splitEnabled() const;
+    [[nodiscard]] bool sourcesEnabled() const;
+    [[nodiscard]] bool popUpEnabled() const;
+    [[nodiscard]] bool builtInChecked() const;
+    [[nodiscard]] bool computerAudioChecked() const;
+    [[nodiscard]] QString startToolTip() const;
+    [[nodiscard]] QString startImage() const;
+    [[nodiscard]] QString startPressedImage() const;
+    [[nodiscard]] QString pauseToolTip() const;
+    [[nodiscard]] QString pauseImage() const;
+    [[nodiscard]] QString stateString() const;
+    [[nodiscard]] QString timeString() const;
+    [[nodiscard]] Qt::GlobalColor stateColor() const;
+    /// Text of the converting notice in its blink phase; empty until the first tick.
+    [[nodiscard]] QString fileConvertTip() const;
+    /// Seconds of the current file as the clock counts them.
+    [[nodiscard]] float fRecordTime() const;
+    /// Whether a computer-audio recording waits for its first sound.
+    [[nodiscard]] bool isWaittingForSound() const;
+    [[nodiscard]] QStringList deviceNames() const;
+    [[nodiscard]] int selectedDevice() const;
+    /// Jobs that wait or are being worked on; the converting notice shows while it is not 0.
+    [[nodiscard]] int jobsInQueue() const;
+    /// Share of the job at hand, 0 to 1; below 0 when there is none.
+    [[nodiscard]] double jobProgress() const;
+    /// Seconds of frames written since the start, over all files of splits; with two sources, of the shorter one.
+    [[nodiscard]] double recordedSeconds() const;
+    /// Ends the writing of each source with the cycle in which it reaches this many seconds since the start, over all
+    /// files of splits: never fewer, and no cycle more. 0 is no limit. Before a start; holds until it is changed.
+    void setRecordLimit(double seconds);
+    /// Whether a recording has a file to write to, be it that it still waits for its first sound.
+    [[nodiscard]] bool hasFile() const;
+    /// Why the files at hand cannot be written any more; empty while they can.
+    [[nodiscard]] QString writeProblem() const;
+    /// The place of a device in the list, -1 when it is not there.
+    [[nodiscard]] int indexOfDevice(AudioObjectID device) const;
+    /// Whether the computer-audio device is there.
+    [[nodiscard]] bool hasComputerAudioDevice() const;
+    /// Recordings that the filter has thrown away in this process.
+    [[nodiscard]] int droppedRecordings() const;
+    /// Frames lost in the recording at hand (or the last one), both sources, over all files of splits.
+    [[nodiscard]] std::uint64_t lostFrames() const;
+    /// What the user should know, in plain words, newest last: lost frames, a device that went away, a source that is
+    /// off, a disk that fills up, where an unfinished recording was kept.
+    [[nodiscard]] QStringList notices() const;
+    void dismissNotices();
+    /// Ends a running recording and waits until all queued jobs are done or set aside (quitting, signals).
+    void finishAll();
+
+    /// The next free name for a recording in the stored folder, reserved until its job is done. Any thread.
+    [[nodiscard]] QString getAudioRecordPath();
+    /// The first free name for a ringtone in the stored folder; not reserved.
+    [[nodiscard]] QString nextRingtoneMakerFilePath();
+    /// The tags that a new recording begins with.
+    [[nodiscard]] static Dictionary initID3BasicInfoDic();
+
+    // Engine callbacks (I/O threads).
+    void clientRecievedBuiltInAudioData(float level) override;
+    void clientRecievedComputerAudioData(float level) override;
+
+Q_SIGNALS:
+    void stateChanged();
+    void displayChanged();
+    void devicesChanged();
+    void queueChanged();
+    void noticesChanged();
+    /// A finished recording reached the library (or was kept out by the filter: then @p entry is empty).
+    void recordingFinished(const QString& path, const Dictionary& entry);
+    /// A recording could not be finished and was kept elsewhere.
+    void recordingSetAside(const QString& path, const QStringList& kept);
+
+private:
+    struct Private;
+    std::unique_ptr<Private> d;
+};

@@ -1,0 +1,302 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// Recordings of computer audio alone: the wait for the first sound and the cuts at silences.
+#include "tests/Source/Record/RecordFixture.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+class ArmedRecordTest : public RecordFixture {};
+} // namespace
+
+TEST_F(ArmedRecordTest, TheFileBeginsWithTheCycleOfTheFirstSound) {
+    beginWithComputerAudioOnly();
+    media.keepSamples = true;
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0, 2);
+    EXPECT_EQ(controller->recordState_(), 0);
+    EXPECT_EQ(media.last().framesAccepted, 0);
+    play(ComputerAudio, 0.25F, 0.01);
+    EXPECT_EQ(controller->recordState_(), 1);
+    EXPECT_FALSE(controller->isWaittingForSound());
+    EXPECT_EQ(media.last().framesAccepted, 480);
+    EXPECT_EQ(media.last().samples[0].front(), 0.25F);
+    play(ComputerAudio, 0, 1);
+    EXPECT_EQ(media.last().framesAccepted, 480 + 48000);
+}
+
+TEST_F(ArmedRecordTest, StoppedBeforeAnySoundKeepsListeningAndTellsTheTruth) {
+    beginWithComputerAudioOnly();
+    controller->startAndStopRecord();
+    controller->startAndStopRecord();
+    EXPECT_FALSE(controller->isStateAudioRecord());
+    EXPECT_EQ(controller->jobsInQueue(), 0);
+    EXPECT_EQ(controller->startToolTip(), u"Start Record"_s);
+    EXPECT_FALSE(controller->windowShouldClose());
+    EXPECT_EQ(delegate.terminations, 1);
+
+    play(ComputerAudio, 0.25F, 6);
+    EXPECT_EQ(media.last().framesAccepted, 6 * 48000);
+    EXPECT_FALSE(controller->isStateAudioRecord());
+    controller->recordFlushTime();
+    EXPECT_TRUE(controller->stateString().startsWith(u"Rec"_s));
+    EXPECT_FALSE(controller->windowShouldClose());
+    EXPECT_EQ(delegate.terminations, 1);
+    EXPECT_EQ(alerts.shown.size(), 1);
+}
+
+TEST_F(ArmedRecordTest, TheClosingAsksTheChosenSourceAndTheOtherOneIsKept) {
+    beginWithComputerAudioOnly();
+    controller->startAndStopRecord();
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0.25F, 6);
+    controller->chooseRecordBuiltIn(true);
+    EXPECT_FALSE(controller->windowShouldClose());
+    EXPECT_EQ(delegate.terminations, 1);
+    EXPECT_TRUE(alerts.shown.isEmpty());
+    controller->finishAll();
+    EXPECT_EQ(delegate.paths, QStringList{track(0)});
+}
+
+TEST_F(ArmedRecordTest, WhatAStoppedWaitRecordsSurvivesItsDevice) {
+    beginWithComputerAudioOnly();
+    controller->startAndStopRecord();
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0.25F, 6);
+    hardware.remove(ComputerAudio);
+    EXPECT_TRUE(hardware.unitOf(ComputerAudio)) << "the recording waits for its device";
+    controller->startAndStopRecord();
+    EXPECT_FALSE(controller->computerAudioChecked()) << "what came and went meanwhile is taken in at its end";
+    ASSERT_TRUE(queueDone());
+    EXPECT_EQ(delegate.paths, QStringList{track(0)});
+}
+
+TEST_F(ArmedRecordTest, AStoppedWaitEndsWithItsDevice) {
+    beginWithComputerAudioOnly();
+    setFilter(false);
+    controller->startAndStopRecord();
+    controller->startAndStopRecord();
+    hardware.remove(ComputerAudio);
+    addComputerAudio();
+    play(ComputerAudio, 0.25F, 1);
+    EXPECT_EQ(controller->recordState_(), 0) << "there is no file to record into";
+    EXPECT_EQ(controller->getAudioRecordPath(), track(0));
+}
+
+TEST_F(ArmedRecordTest, NoCutMeetsAnInputThatIsBeingExchanged) {
+    beginWithComputerAudioOnly();
+    addHeadset();
+    controller->startAndStopRecord();
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0.25F, 1);
+    int holdsOfTheComputer = 0;
+    const auto computer = hardware.stateOf(ComputerAudio);
+    hardware.onOpen = [&] { holdsOfTheComputer = computer->holds; };
+    controller->chooseBuiltInDevice(1);
+    EXPECT_EQ(holdsOfTheComputer, 1);
+    EXPECT_EQ(computer->holds, 0);
+    EXPECT_TRUE(hardware.unitOf(Headset));
+}
+
+TEST_F(ArmedRecordTest, ASoundInTheMomentOfTheStopKeepsItsName) {
+    /// Hears a sound when it was just asked whether it records.
+    struct Engine : BuildInAudioRecord {
+        [[nodiscard]] int recordStatus() const override {
+            const int status = BuildInAudioRecord::recordStatus();
+            if (status == 0 && sound)
+                std::exchange(sound, {})();
+            return status;
+        }
+        mutable std::function<void()> sound;
+    };
+    addComputerAudio();
+    defaults.setObject(PreferenceStore::ChooseRecordBuiltIn, false);
+    defaults.setObject(PreferenceStore::ChooseRecordComputerAudio, true);
+    Engine* computer = nullptr;
+    controller = std::make_unique<RecordStateController>([&computer] {
+        auto engine = std::make_unique<Engine>();
+        computer = engine.get();
+        return engine;
+    });
+    controller->setDelegate(&delegate);
+    controller->awakeFromNib();
+    controller->setDisplayClockRunning(false);
+    controller->startAndStopRecord();
+    computer->sound = [this] { play(ComputerAudio, 0.25F, 6); };
+    controller->startAndStopRecord();
+    EXPECT_EQ(media.last().framesAccepted, 6 * 48000);
+    EXPECT_EQ(controller->getAudioRecordPath(), track(1));
+    controller->finishAll();
+    EXPECT_EQ(delegate.paths, QStringList{track(0)});
+    controller.reset();
+}
+
+TEST_F(ArmedRecordTest, WhatAStoppedWaitRecordedIsKeptByTheNextStart) {
+    beginWithComputerAudioOnly();
+    controller->startAndStopRecord();
+    record(ComputerAudio, 0.25F, 6);
+    EXPECT_TRUE(controller->isWaittingForSound());
+    ASSERT_TRUE(queueDone());
+    EXPECT_EQ(delegate.paths, QStringList{track(0)});
+}
+
+TEST_F(ArmedRecordTest, WhatAStoppedWaitRecordedIsKeptWhenTheProgramEnds) {
+    beginWithComputerAudioOnly();
+    controller->startAndStopRecord();
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0.25F, 6);
+    controller->finishAll();
+    EXPECT_EQ(delegate.paths, QStringList{track(0)});
+}
+
+TEST_F(ArmedRecordTest, PausingAWaitChangesOnlyTheButton) {
+    beginWithComputerAudioOnly();
+    controller->startAndStopRecord();
+    controller->pauseAndResumeRecord();
+    EXPECT_TRUE(controller->isRecordPause_());
+    EXPECT_EQ(controller->pauseImage(), u"RecorderResume.png"_s);
+    EXPECT_EQ(controller->recordState_(), 0);
+    EXPECT_TRUE(controller->isWaittingForSound());
+}
+
+TEST_F(ArmedRecordTest, SplittingAWaitStaysWaiting) {
+    beginWithComputerAudioOnly();
+    setFilter(false);
+    controller->startAndStopRecord();
+    controller->splitTheRecord();
+    EXPECT_TRUE(controller->isWaittingForSound());
+    EXPECT_TRUE(controller->isStateAudioRecord());
+    EXPECT_EQ(controller->jobsInQueue(), 0);
+    EXPECT_EQ(rawFiles().size(), 1);
+    play(ComputerAudio, 0.25F, 1);
+    controller->startAndStopRecord();
+    ASSERT_TRUE(queueDone());
+    EXPECT_EQ(delegate.paths, QStringList{track(0)});
+}
+
+TEST_F(ArmedRecordTest, SilenceClosesTheFileAndBeginsTheNextAtOnce) {
+    beginWithComputerAudioOnly();
+    g_SplitTimeMS = 300;
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0.25F, 6);
+    play(ComputerAudio, 0, 0.29);
+    EXPECT_EQ(media.files.size(), 1U);
+    play(ComputerAudio, 0, 0.01);
+    ASSERT_EQ(media.files.size(), 2U);
+    EXPECT_EQ(media.files[0]->framesAccepted, 48000 * 63 / 10);
+    EXPECT_EQ(controller->recordState_(), 1);
+    EXPECT_TRUE(controller->isStateAudioRecord());
+    play(ComputerAudio, 0, 1);
+    EXPECT_EQ(media.files.size(), 2U) << "one silence is cut once";
+    EXPECT_EQ(media.last().framesAccepted, 48000);
+    ASSERT_TRUE(queueDone());
+    EXPECT_EQ(delegate.paths, QStringList{track(0)});
+    // The silent rest is shorter than the filter time.
+    controller->startAndStopRecord();
+    EXPECT_EQ(controller->droppedRecordings(), 1);
+    EXPECT_EQ(controller->jobsInQueue(), 0);
+    EXPECT_TRUE(waitFor([this] { return rawFiles().isEmpty(); }));
+}
+
+TEST_F(ArmedRecordTest, EverySilenceBetweenSongsIsCutOnce) {
+    beginWithComputerAudioOnly();
+    g_SplitTimeMS = 300;
+    controller->startAndStopRecord();
+    for (int song = 0; song < 3; ++song) {
+        play(ComputerAudio, 0.25F, 6);
+        play(ComputerAudio, 0, 0.5);
+    }
+    controller->startAndStopRecord();
+    ASSERT_TRUE(queueDone());
+    EXPECT_EQ(delegate.paths, (QStringList{track(0), track(1), track(2)}));
+    std::int64_t frames = 0;
+    for (const auto& file : media.files)
+        frames += file->framesAccepted;
+    EXPECT_EQ(frames, 3 * 48000 * 65 / 10);
+}
+
+TEST_F(ArmedRecordTest, APartAfterACutByHandIsCutAtItsNextSilence) {
+    beginWithComputerAudioOnly();
+    g_SplitTimeMS = 300;
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0.25F, 6);
+    controller->splitTheRecord();
+    EXPECT_EQ(controller->recordState_(), 1);
+    play(ComputerAudio, 0.25F, 6);
+    play(ComputerAudio, 0, 0.3);
+    EXPECT_EQ(media.files.size(), 3U);
+    controller->finishAll();
+    EXPECT_EQ(delegate.paths, (QStringList{track(0), track(1)}));
+}
+
+TEST_F(ArmedRecordTest, WithTheInputOnNothingIsCut) {
+    beginWithBoth();
+    g_SplitTimeMS = 300;
+    controller->startAndStopRecord();
+    playBoth(0.25F, 1);
+    playBoth(0, 2);
+    EXPECT_EQ(media.files.size(), 2U);
+}
+
+TEST_F(ArmedRecordTest, WithSplittingOffNothingIsCut) {
+    beginWithComputerAudioOnly();
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0.25F, 1);
+    play(ComputerAudio, 0, 3);
+    EXPECT_EQ(media.files.size(), 1U);
+}
+
+TEST_F(ArmedRecordTest, AChangedSplitTimeHoldsAtOnce) {
+    beginWithComputerAudioOnly();
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0.25F, 1);
+    play(ComputerAudio, 0, 1);
+    g_SplitTimeMS = 500;
+    play(ComputerAudio, 0, 0.01);
+    EXPECT_EQ(media.files.size(), 2U);
+}
+
+TEST_F(ArmedRecordTest, APausedSilenceIsNotCut) {
+    beginWithComputerAudioOnly();
+    g_SplitTimeMS = 300;
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0.25F, 1);
+    controller->pauseAndResumeRecord();
+    play(ComputerAudio, 0, 3);
+    EXPECT_EQ(media.files.size(), 1U);
+}
+
+TEST_F(ArmedRecordTest, ATimeWithoutTheDeviceIsNotCut) {
+    beginWithComputerAudioOnly();
+    g_SplitTimeMS = 300;
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0.25F, 1);
+    play(ComputerAudio, 0, 0.1);
+    // The first cycle may come before the main thread hears that the device is back.
+    hardware.stateOf(ComputerAudio)->startsAnew = true;
+    clock.advance(5);
+    play(ComputerAudio, 0, 0.1);
+    EXPECT_EQ(media.files.size(), 1U);
+    play(ComputerAudio, 0, 0.15);
+    EXPECT_EQ(media.files.size(), 2U) << "the silence before and after it counts";
+}
+
+TEST_F(ArmedRecordTest, ACutThatFailsGoesOnInTheOldFileAndTriesOnceASilence) {
+    beginWithComputerAudioOnly();
+    g_SplitTimeMS = 300;
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0.25F, 6);
+    media.createFails = true;
+    play(ComputerAudio, 0, 2);
+    EXPECT_TRUE(noticed(u"could not be split"_s));
+    EXPECT_EQ(controller->notices().size(), 1);
+    media.createFails = false;
+    play(ComputerAudio, 0.25F, 1);
+    EXPECT_EQ(media.files.size(), 1U);
+    EXPECT_EQ(media.last().framesAccepted, 9 * 48000);
+    play(ComputerAudio, 0, 0.3);
+    EXPECT_EQ(media.files.size(), 2U);
+    ASSERT_TRUE(queueDone());
+    EXPECT_EQ(delegate.paths, QStringList{track(0)});
+}

@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/Record/RecordingNames.h"
+
+#include "tests/support/Environment.h"
+
+#include <QTemporaryDir>
+
+namespace {
+
+class RecordingNamesTest : public testing::Test {
+protected:
+    QString track(int n) const { return folder() + QStringLiteral("/Track%1.m4a").arg(n); }
+    QString folder() const { return home.filePath(QStringLiteral("Music/here")); }
+    void make(const QString& path) const {
+        QDir().mkpath(QFileInfo(path).path());
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+
+    QTemporaryDir home;
+    EnvironmentScope runtime{"XDG_RUNTIME_DIR", home.path().toUtf8()};
+};
+
+} // namespace
+
+TEST_F(RecordingNamesTest, MakesTheFolderAndBeginsWithZero) {
+    RecordingNames names;
+    EXPECT_EQ(names.getAudioRecordPath(folder()), track(0));
+    EXPECT_TRUE(QFileInfo(folder()).isDir());
+}
+
+TEST_F(RecordingNamesTest, SkipsFilesAndReservedNames) {
+    make(track(0));
+    RecordingNames names;
+    EXPECT_EQ(names.getAudioRecordPath(folder()), track(1));
+    EXPECT_EQ(names.getAudioRecordPath(folder()), track(2));
+}
+
+TEST_F(RecordingNamesTest, UsesFreedNumbersAgain) {
+    make(track(0));
+    RecordingNames names;
+    const QString second = names.getAudioRecordPath(folder());
+    names.release(second);
+    EXPECT_EQ(names.getAudioRecordPath(folder()), track(1));
+    QFile::remove(track(0));
+    EXPECT_EQ(names.getAudioRecordPath(folder()), track(0));
+}
+
+TEST_F(RecordingNamesTest, RespectsTheNamesOfAnotherOwner) {
+    RecordingNames ours;
+    RecordingNames theirs;
+    EXPECT_EQ(theirs.getAudioRecordPath(folder()), track(0));
+    EXPECT_EQ(ours.getAudioRecordPath(folder()), track(1));
+    theirs.release(track(0));
+    EXPECT_EQ(ours.getAudioRecordPath(folder()), track(0));
+}
+
+TEST_F(RecordingNamesTest, CountsALinkThatLeadsNowhereAsTaken) {
+    QDir().mkpath(folder());
+    ASSERT_TRUE(QFile::link(home.filePath(QStringLiteral("nowhere")), track(0)));
+    RecordingNames names;
+    EXPECT_EQ(names.getAudioRecordPath(folder()), track(1));
+}
+
+TEST_F(RecordingNamesTest, TakesAFolderNameWithAnySign) {
+    RecordingNames names;
+    const QString odd = home.filePath(QStringLiteral("a%1 $(b) 'c' ü"));
+    EXPECT_EQ(names.getAudioRecordPath(odd + u'/'), odd + QStringLiteral("/Track0.m4a"));
+}
+
+TEST_F(RecordingNamesTest, GivesANameEvenWhenTheFolderCannotBeMade) {
+    make(home.filePath(QStringLiteral("file")));
+    RecordingNames names;
+    const QString within = home.filePath(QStringLiteral("file/folder"));
+    EXPECT_EQ(names.getAudioRecordPath(within), within + QStringLiteral("/Track0.m4a"));
+}
+
+TEST_F(RecordingNamesTest, NumbersRingtonesFromTheSecondOn) {
+    EXPECT_EQ(RecordingNames::nextRingtoneMakerFilePath(folder()), folder() + QStringLiteral("/Ringtone.m4r"));
+    make(folder() + QStringLiteral("/Ringtone.m4r"));
+    EXPECT_EQ(RecordingNames::nextRingtoneMakerFilePath(folder()), folder() + QStringLiteral("/Ringtone1.m4r"));
+    EXPECT_EQ(RecordingNames::nextRingtoneMakerFilePath(folder()), folder() + QStringLiteral("/Ringtone1.m4r"));
+    make(folder() + QStringLiteral("/Ringtone1.m4r"));
+    EXPECT_EQ(RecordingNames::nextRingtoneMakerFilePath(folder()), folder() + QStringLiteral("/Ringtone2.m4r"));
+}
