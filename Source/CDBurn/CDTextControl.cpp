@@ -35,7 +35,7 @@ OSStatus statusOf(Kind kind) {
     }
 }
 
-constexpr std::int64_t kLongestRefused = 2;       ///< an entry's seconds: those of the file plus one
+constexpr std::int64_t kLongestRefused = 2;        ///< an entry's seconds: those of the file plus one
 constexpr std::int64_t kLongest = 365 * 24 * 3600; ///< a damaged entry of the library may claim any length
 
 Dictionary entryOf(const QString& path, std::int64_t wholeSeconds) {
@@ -69,8 +69,8 @@ std::uint64_t CAGetLengthOfAudioFile(const QString& path) {
     if (!(format.mSampleRate > 0))
         return 0;
     // Packets of changing length (Vorbis) have no number of frames; their file's own length stands in.
-    const double frames = format.mFramesPerPacket > 0 ? double(file.packetCount) * format.mFramesPerPacket
-                                                      : double(file.frameCount);
+    const double frames =
+        format.mFramesPerPacket > 0 ? double(file.packetCount) * format.mFramesPerPacket : double(file.frameCount);
     const double seconds = frames / format.mSampleRate;
     return seconds > 0 && seconds < kLongest ? std::uint64_t(seconds) : 0;
 }

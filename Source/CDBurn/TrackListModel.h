@@ -6,8 +6,8 @@
 
 #include <QAbstractTableModel>
 
-/// The files that are to become the tracks of a disc, in their order, each with a tick (see TrackEntry). A file may stand
-/// in the list more than once. Main thread.
+/// The files that are to become the tracks of a disc, in their order, each with a tick (see TrackEntry). A file may
+/// stand in the list more than once. Main thread.
 class TrackListModel : public QAbstractTableModel {
     Q_OBJECT
 public:

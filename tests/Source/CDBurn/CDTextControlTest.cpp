@@ -26,8 +26,9 @@ protected:
     /// A real sound file of @p seconds; its ending chooses codec and container.
     QString sound(const QString& name, double seconds, const QStringList& options = {}) {
         const QString path = folder.filePath(name);
-        QStringList arguments{u"-v"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s,
-                              u"sine=frequency=440:sample_rate=44100:duration=%1"_s.arg(seconds)};
+        QStringList arguments{u"-v"_s, u"error"_s,
+                              u"-f"_s, u"lavfi"_s,
+                              u"-i"_s, u"sine=frequency=440:sample_rate=44100:duration=%1"_s.arg(seconds)};
         const ToolResult made = runTool(u"ffmpeg"_s, arguments + options + QStringList{u"file:"_s + path});
         EXPECT_EQ(made.status, 0) << made.errors.constData();
         return path;

@@ -23,8 +23,8 @@ Dictionary track(const QString& name, qlonglong seconds) {
 class TrackList : public testing::Test {
 protected:
     TrackList() {
-        model.setEntries({track(u"a"_s, 10), track(u"b"_s, 100), track(u"c"_s, 1000), track(u"d"_s, 3661),
-                          track(u"e"_s, 5)});
+        model.setEntries(
+            {track(u"a"_s, 10), track(u"b"_s, 100), track(u"c"_s, 1000), track(u"d"_s, 3661), track(u"e"_s, 5)});
     }
     [[nodiscard]] QString order() const {
         QString names;
@@ -112,7 +112,8 @@ TEST_F(TrackList, AMoveToItsOwnPlaceChangesNothing) {
 TEST_F(TrackList, EveryMoveOfEverySelectionKeepsAllRows) {
     for (int selection = 0; selection < 32; ++selection) {
         for (int before = 0; before <= 5; ++before) {
-            model.setEntries({track(u"a"_s, 3), track(u"b"_s, 3), track(u"c"_s, 3), track(u"d"_s, 3), track(u"e"_s, 3)});
+            model.setEntries(
+                {track(u"a"_s, 3), track(u"b"_s, 3), track(u"c"_s, 3), track(u"d"_s, 3), track(u"e"_s, 3)});
             const QString names = u"abcde"_s;
             QList<int> rows;
             QString above, taken, below;
