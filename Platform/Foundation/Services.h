@@ -20,6 +20,8 @@ class AdminShell;
 class Bundle;
 class ColorScheme;
 class FocusProbe;
+class DiscRecording;
+class DiskArbitration;
 
 /// The process's set of system services: the one global. main() installs the Linux set, a test puts its doubles in
 /// front with a ServicesScope. The members are not owned. Set up before any thread that uses it starts.
@@ -38,6 +40,8 @@ struct Services {
     Bundle* bundle = nullptr;
     ColorScheme* colorScheme = nullptr;
     FocusProbe* focusProbe = nullptr;
+    DiscRecording* discRecording = nullptr;
+    DiskArbitration* diskArbitration = nullptr;
 };
 
 [[nodiscard]] Services& services();

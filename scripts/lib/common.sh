@@ -7,20 +7,20 @@ die() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; exit 1; }
 
 # Package lists: what it takes to build, to run, to test, to measure.
 apt_build="cmake ninja-build g++ ccache pkg-config qt6-base-dev qt6-svg-dev libpipewire-0.3-dev libavcodec-dev libavformat-dev
-  libavutil-dev libswresample-dev libtag1-dev libplist-dev libxcb1-dev libxcb-keysyms1-dev"
+  libavutil-dev libswresample-dev libtag1-dev libplist-dev libxcb1-dev libxcb-keysyms1-dev libburn-dev libudev-dev"
 apt_run="pipewire pipewire-bin wireplumber libspa-0.2-modules libqt6svg6 qt6-image-formats-plugins fonts-inter
   fonts-droid-fallback file findutils xdg-utils"
 apt_test="libgtest-dev libgmock-dev xvfb xauth x11-utils x11-xkb-utils dbus dbus-daemon xdotool openbox trayer ffmpeg faad
   mediainfo atomicparsley sox libsox-fmt-all gstreamer1.0-tools gstreamer1.0-plugins-base gstreamer1.0-plugins-good
-  gstreamer1.0-plugins-bad gstreamer1.0-libav pipewire-pulse procps"
+  gstreamer1.0-plugins-bad gstreamer1.0-libav pipewire-pulse procps libcdio-utils bchunk"
 apt_check="clang-format clang-tidy git"
 apt_bench="$apt_test time qmmp"
 
 dnf_build="cmake ninja-build gcc-c++ ccache pkgconf qt6-qtbase-devel qt6-qtsvg-devel pipewire-devel ffmpeg-free-devel
-  taglib-devel libplist-devel libxcb-devel xcb-util-keysyms-devel"
+  taglib-devel libplist-devel libxcb-devel xcb-util-keysyms-devel libburn-devel systemd-devel"
 dnf_run="pipewire pipewire-utils wireplumber qt6-qtsvg qt6-qtimageformats rsms-inter-fonts file findutils xdg-utils"
 pacman_build="cmake ninja gcc ccache pkgconf qt6-base qt6-svg libpipewire ffmpeg taglib libplist libxcb
-  xcb-util-keysyms"
+  xcb-util-keysyms libburn systemd-libs"
 pacman_run="pipewire wireplumber qt6-svg qt6-imageformats inter-font file findutils xdg-utils"
 
 as_root() {

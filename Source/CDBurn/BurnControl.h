@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Disc/DiscRecording.h"
+#include "Platform/Foundation/Dictionary.h"
+
+#include <QObject>
+#include <QStringList>
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+/// A disc is going in.
+inline const QString BurnControlDVDWillInsertNotification = QStringLiteral("DvdInsert");
+/// A disc is present.
+inline const QString BurnControlDVDDidInNotification = QStringLiteral("DvdIn");
+/// The disc has gone.
+inline const QString BurnControlDVDDidOutNotification = QStringLiteral("DvdOut");
+/// Each change of a burn's status, with {"burnprogress": share of the work from 0 to 1, or -1 while it is not known}.
+inline const QString BurnControlBurnProgressNotification = QStringLiteral("BurnProcess");
+inline const QString BurnControlBurnDidFininshNotification = QStringLiteral("BurnFinish");
+inline const QString BurnControlBurnDidFailedNotification = QStringLiteral("BurnFailed");
+/// Each change of an erase's status, with {"burnprogress": ...}.
+inline const QString EraseDVDProgressNotification = QStringLiteral("EraseProcess");
+inline const QString EraseDVDDidFininshNotification = QStringLiteral("EraseFininsh");
+/// A drive came or went: cdROMDisplayNames() and perhaps recordNum() have changed.
+inline const QString BurnControlDevicesDidChangeNotification = QStringLiteral("DvdDevices");
+
+/// Key of the user info of the progress notifications.
+inline const QString kBurnProgressKey = QStringLiteral("burnprogress");
+
+/// A track entry: what the track list knows of one audio file.
+namespace TrackEntry {
+inline const QString FilePath = QStringLiteral("FilePath");             ///< text: the file's path
+inline const QString FileName = QStringLiteral("FileName");             ///< text: last component of the path
+inline const QString FileTimeLong = QStringLiteral("FileTimeLong");     ///< 64-bit integer: whole seconds plus one
+inline const QString FileSize = QStringLiteral("FileSize");             ///< float: estimated megabytes on the disc
+inline const QString ChooseTheAudio = QStringLiteral("ChooseTheAudio"); ///< truth value: ticked for burning
+inline const QString NumberForMusic = QStringLiteral("NumberForMusic"); ///< integer: the row, from 0
+} // namespace TrackEntry
+
+/// The one object through which a window or a command talks to the disc drive. Notifications are posted with the
+/// process's notification centre. Main thread.
+class BurnControl : public QObject {
+    Q_OBJECT
+
+public:
+    explicit BurnControl(QObject* parent = nullptr);
+    /// Stops watching. A burn or an erase that runs goes on.
+    ~BurnControl() override;
+
+    /// The displayed name of every drive, in the order of their indices.
+    [[nodiscard]] static QStringList cdROMDisplayNames();
+    /// getcurrentDVDFreeSize() for the drive at @p index.
+    [[nodiscard]] static float getFreeSize(std::uint32_t index);
+    /// Whether the system can describe "/dev/" + @p bsdName: there is a disc in it.
+    [[nodiscard]] static bool statusByPath(const QString& bsdName);
+
+    /// Chooses and watches a drive. An index beyond the list of drives is ignored.
+    void setUseCDRom(std::uint32_t index);
+    /// Stops watching the current drive.
+    void destroyCDRom();
+    [[nodiscard]] std::uint32_t recordNum() const { return recordNum_; }
+
+    /// The ticked entries as tracks, each with a pre-gap of 75 sectors. Nothing when one of the files cannot become a
+    /// track: failureReason() then names it.
+    [[nodiscard]] std::optional<Platform::DRLayout> createLayoutForCDBurn(const QList<Dictionary>& entries);
+    /// Starts to burn the ticked entries as an audio CD; the disc is ejected afterwards, or mounted.
+    void burnMusicToCD(const QList<Dictionary>& entries, bool ejectDisc);
+    /// Starts to burn an image file to a DVD.
+    void beginDVDMediaBurn(const QString& imagePath);
+    /// Starts a quick erase.
+    void eraseDVD();
+    /// Aborts the burn. Nothing is posted from then on; the caller closes its own display.
+    void stopBurn();
+
+    bool ejectCurrentDvd();
+    [[nodiscard]] bool currenrDVDIsBlank() const;
+    [[nodiscard]] bool currentDVDIsErasable() const;
+    [[nodiscard]] QString currentDVDbsdName() const;
+    /// Free space of the disc in gigabytes of 1024 * 1024 * 1024 bytes, counted in blocks of 2048 bytes.
+    [[nodiscard]] float getcurrentDVDFreeSize() const;
+
+    /// The user was asked where to write the image and gave no answer: the burn was not started, nothing is posted.
+    [[nodiscard]] bool burnWasDeclined() const;
+    /// Why the last burn failed, or why its layout could not be made; empty when nothing went wrong.
+    [[nodiscard]] QString failureReason() const;
+    /// What is wrong with the chosen drive, in words; empty when nothing is.
+    [[nodiscard]] QString deviceProblem() const;
+    /// The last burn; null before the first one.
+    [[nodiscard]] std::shared_ptr<Platform::DRBurn> burn() const { return burn_; }
+
+    void NotificationToCurrentDevice(const Platform::DRNotification& notification);
+    void burnNotification(const Platform::DRNotification& notification);
+    void eraseNotification(const Platform::DRNotification& notification);
+
+private:
+    [[nodiscard]] static std::shared_ptr<Platform::DRDevice> deviceAt(std::uint32_t index);
+    void devicesDidChange();
+    void watch(const std::shared_ptr<Platform::DRBurn>& burn);
+    void keep(std::shared_ptr<Platform::DRObject> earlier);
+
+    std::uint32_t recordNum_ = 0;
+    QString mediaStateMarker_;
+    std::shared_ptr<Platform::DRBurn> burn_;
+    std::shared_ptr<Platform::DRErase> erase_;
+
+    std::shared_ptr<Platform::DRDevice> watched_;                ///< the drive at recordNum_ when it was chosen
+    std::vector<std::shared_ptr<Platform::DRObject>> earlier_;   ///< burns and erases of before: never torn down here
+    QString layoutProblem_;
+};
