@@ -17,9 +17,9 @@ enum DRDeviceMediaState { DRDeviceMediaStateNone, DRDeviceMediaStateInTransition
 struct DRDeviceStatus {
     bool isBusy = false; ///< it burns, erases or is being looked at
     DRDeviceMediaState mediaState = DRDeviceMediaStateNone;
-    float maximumWriteSpeed = 0;   ///< kilobytes (1000) a second with the disc that is in; 0: not known
+    float maximumWriteSpeed = 0;      ///< kilobytes (1000) a second with the disc that is in; 0: not known
     std::int64_t mediaBlocksFree = 0; ///< blocks that can still be written to the disc
-    QString mediaKind;             ///< "CD-R", "CD-RW"; empty without a disc
+    QString mediaKind;                ///< "CD-R", "CD-RW"; empty without a disc
     /// Why the drive cannot be used, in words ("another program uses the drive"); empty when nothing is wrong.
     QString problem;
 };
@@ -85,8 +85,8 @@ enum DRUDFVersion { DRUDFVersion102, DRUDFVersion150 };
 struct DRBurnProperties {
     DRBurnCompletionAction completionAction = DRBurnCompletionActionEject;
     DRBurnStrategy strategy = DRBurnStrategyAutomatic;
-    bool verifyDisc = true;                           ///< read an image file back and compare; audio is never read back
-    DRUDFVersion udfWriteVersion = DRUDFVersion102;   ///< for file systems that are made; an image file keeps its own
+    bool verifyDisc = true;                         ///< read an image file back and compare; audio is never read back
+    DRUDFVersion udfWriteVersion = DRUDFVersion102; ///< for file systems that are made; an image file keeps its own
 };
 
 /// Writes one layout to the disc in one drive, on a thread of its own. Main thread. A burn that runs keeps itself

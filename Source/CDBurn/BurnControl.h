@@ -107,7 +107,7 @@ private:
     std::shared_ptr<Platform::DRBurn> burn_;
     std::shared_ptr<Platform::DRErase> erase_;
 
-    std::shared_ptr<Platform::DRDevice> watched_;                ///< the drive at recordNum_ when it was chosen
-    std::vector<std::shared_ptr<Platform::DRObject>> earlier_;   ///< burns and erases of before: never torn down here
+    std::shared_ptr<Platform::DRDevice> watched_;              ///< the drive at recordNum_ when it was chosen
+    std::vector<std::shared_ptr<Platform::DRObject>> earlier_; ///< burns and erases of before: never torn down here
     QString layoutProblem_;
 };
