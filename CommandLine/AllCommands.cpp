@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "CommandLine/CommandHelp.h"
 #include "CommandLine/CommandLine.h"
+#include "CommandLine/ManualCommand.h"
 #include "CommandLine/WaveformCommand.h"
 
 #include <cstdio>
@@ -12,7 +14,7 @@ namespace CommandLine {
 const Commands& allCommands() {
     static const Commands all = [] {
         Commands commands = plainCommands();
-        commands.emplace(u"waveform"_s, waveformCommand);
+        commands.merge(byName({&completionsCommand, &manualCommand, &waveformCommand}));
         return commands;
     }();
     return all;
@@ -23,9 +25,7 @@ std::optional<int> runCommand(int argc, char** argv) {
         return {};
     const auto name = QString::fromLocal8Bit(argv[1]);
     if (name == u"help"_s || name == u"--help"_s || name == u"-h"_s) {
-        std::printf("usage: sonaphex                    opens the window\n");
-        for (const auto& [word, command] : allCommands())
-            std::printf("       sonaphex %s\n           %s\n", command.usage, command.summary);
+        print(CommandHelp::overview(allCommands()).trimmed());
         return ended(Done);
     }
     if (name == u"--version"_s) {

@@ -9,12 +9,11 @@ using namespace Qt::StringLiterals;
 
 namespace CommandLine {
 
-Arguments::Arguments(const QStringList& arguments, const QStringList& options) {
+Arguments::Arguments(const QStringList& arguments, const Command& command) {
     parser_.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    for (const auto& option : options) {
-        const auto name = option.section(u'=', 0, 0);
-        parser_.addOption({{name}, QString(), option.section(u'=', 1)});
-    }
+    for (const Option& option : command.options)
+        parser_.addOption(
+            {{QString::fromUtf8(option.name)}, QString::fromUtf8(option.sentence), QString::fromUtf8(option.value)});
     if (!parser_.parse(QStringList{u"sonaphex"_s} + arguments))
         problem_ = parser_.errorText();
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "CommandLine/CommandLine.h"
+
 #include <QCommandLineParser>
 #include <QStringList>
 
@@ -10,8 +12,8 @@ namespace CommandLine {
 /// The arguments of one subcommand.
 class Arguments {
 public:
-    /// Options as "from=S" (takes a value) or "json" (takes none).
-    Arguments(const QStringList& arguments, const QStringList& options);
+    /// @p arguments are parsed by the options that @p command declares.
+    Arguments(const QStringList& arguments, const Command& command);
 
     /// Why the arguments make no sense; empty when they do. What reads a number may set it.
     [[nodiscard]] QString problem() const { return problem_; }

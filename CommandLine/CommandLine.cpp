@@ -3,6 +3,7 @@
 #include "CommandLine/CommandLine.h"
 
 #include "CaptureComputerAudio/KextInstallControl.h"
+#include "CommandLine/CommandHelp.h"
 #include "Platform/Foundation/Bundle.h"
 #include "Platform/Foundation/RunningProgram.h"
 #include "Platform/Foundation/Services.h"
@@ -29,15 +30,16 @@ std::optional<int> runOneOf(const Commands& known, int argc, char** argv) {
     const auto found = known.find(QString::fromLocal8Bit(argv[1]));
     if (found == known.end())
         return {};
+    const Command& command = *found->second;
     if (argc > 2 && (std::strcmp(argv[2], "--help") == 0 || std::strcmp(argv[2], "-h") == 0)) {
-        std::printf("usage: sonaphex %s\n           %s\n", found->second.usage, found->second.summary);
+        print(CommandHelp::whole(command).trimmed());
         return ended(Done);
     }
     QCoreApplication application(argc, argv);
     Platform::LinuxServices services;
     services.install(Platform::LinuxServices::Mode::CommandLine);
     installed = &services;
-    const int status = found->second.run(QCoreApplication::arguments().mid(2));
+    const int status = command.run(QCoreApplication::arguments().mid(2));
     installed = nullptr;
     return ended(status);
 }
@@ -66,7 +68,7 @@ int fail(const QString& what) {
 
 int wrongUsage(const Command& command, const QString& what) {
     std::fprintf(stderr, "sonaphex: %s\n", qUtf8Printable(what));
-    std::fprintf(stderr, "usage: sonaphex %s\n", command.usage);
+    std::fprintf(stderr, "%s\n", qUtf8Printable(CommandHelp::usage(command)));
     return WrongUsage;
 }
 

@@ -4,9 +4,10 @@
 
 #include <QStringList>
 
-#include <functional>
+#include <initializer_list>
 #include <map>
 #include <optional>
+#include <vector>
 
 /// The subcommands of the program. Each lives in a file of its own and has its name in one of the two lists.
 namespace CommandLine {
@@ -17,13 +18,34 @@ enum Status { Done = 0, Failed = 1, WrongUsage = 2 };
 /// Runs one subcommand under a QCoreApplication; @p arguments come without the program's and the command's name.
 using Run = int (*)(const QStringList& arguments);
 
-struct Command {
-    Run run;
-    const char* usage;   ///< one or more lines, without "usage:"
-    const char* summary; ///< one line
+/// One option of a subcommand. The parser, `--help`, the manual page and the completions all read this declaration.
+struct Option {
+    const char* name;           ///< without the dashes: "from"
+    const char* value;          ///< what follows it, as help shows it: "S", "NAME|none"; empty when nothing follows
+    const char* sentence;       ///< what it does, with the unit of its value
+    const char* byDefault = ""; ///< what holds without it, as help shows it; empty when nothing does
 };
 
-using Commands = std::map<QString, Command>;
+inline constexpr Option kJsonOption{"json", "", "Print one JSON document instead of lines for people."};
+
+/// An example of the manual page: the arguments after the program's name, and what they do.
+struct Example {
+    const char* arguments;
+    const char* sentence;
+};
+
+struct Command {
+    const char* name;
+    const char* operands; ///< what follows the name, as help shows it: "SRC DST"
+    const char* summary;  ///< one sentence, without its full stop
+    std::vector<Option> options;
+    std::vector<Example> examples;
+    Run run;
+};
+
+/// By name.
+using Commands = std::map<QString, const Command*>;
+[[nodiscard]] Commands byName(std::initializer_list<const Command*> commands);
 
 /// Those that neither draw nor look into pictures: the program itself knows them, and is linked without Qt Gui.
 [[nodiscard]] const Commands& plainCommands();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandLine/ControlCommand.h"
 
+#include "CommandLine/Arguments.h"
 #include "Platform/Desktop/Activation.h"
 #include "Source/ProcessRequests/ControlRequests.h"
 
@@ -31,8 +32,11 @@ void showStatus(const QByteArray& json, bool asJson) {
 }
 
 int run(const QStringList& given) {
-    QStringList arguments = given;
-    const bool json = arguments.removeAll(u"--json"_s) > 0;
+    const Arguments parsed(given, controlCommand);
+    if (!parsed.problem().isEmpty())
+        return wrongUsage(controlCommand, parsed.problem());
+    const QStringList arguments = parsed.positional();
+    const bool json = parsed.isSet(u"json"_s);
     const QStringList known{u"start-stop"_s, u"pause-resume"_s, u"split"_s, u"show"_s, u"status"_s};
     if (arguments.size() != 1 || !known.contains(arguments.front()))
         return wrongUsage(controlCommand, arguments.isEmpty() ? u"control takes a command"_s
@@ -57,7 +61,12 @@ int run(const QStringList& given) {
 
 } // namespace
 
-const Command controlCommand{run, "control start-stop|pause-resume|split|show|status [--json]",
-                             "act on the running program"};
+const Command controlCommand{"control",
+                             "start-stop|pause-resume|split|show|status",
+                             "act on the running program",
+                             {kJsonOption},
+                             {{"control start-stop", "Start a recording in the open window, or stop it."},
+                              {"control status --json", "Print the state of the running program for a script."}},
+                             run};
 
 } // namespace CommandLine

@@ -105,8 +105,7 @@ int convert(const Task& task) {
 }
 
 int run(const QStringList& given) {
-    Arguments arguments(given, {u"type=TYPE"_s, u"from=S"_s, u"to=S"_s, u"fade-in=S"_s, u"fade-out=S"_s, u"length=S"_s,
-                                u"overwrite"_s});
+    Arguments arguments(given, convertCommand);
     Task task;
     task.from = arguments.seconds(u"from"_s, 0);
     task.to = arguments.seconds(u"to"_s, 0);
@@ -138,9 +137,20 @@ int run(const QStringList& given) {
 
 } // namespace
 
-const Command convertCommand{run,
-                             "convert SRC DST [--type wav|m4a|caf] [--from S] [--to S] [--fade-in S] [--fade-out S]\n"
-                             "        [--length S] [--overwrite]",
-                             "copy a stretch of an audio file into a new file"};
+const Command convertCommand{
+    "convert",
+    "SRC DST",
+    "copy a range of an audio file into a new file",
+    {{"type", "wav|m4a|caf", "The type of the new file.", "from the ending of DST"},
+     {"from", "S", "Begin at second S of the source.", "0"},
+     {"to", "S", "End at second S of the source.", "its end"},
+     {"fade-in", "S", "Fade in over S seconds; a fade shorter than one second is left out.", "0"},
+     {"fade-out", "S", "Fade out over S seconds; a fade shorter than one second is left out.", "0"},
+     {"length", "S", "Repeat the range until the new file is S seconds long.", "the length of the range"},
+     {"overwrite", "", "Replace DST when it exists."}},
+    {{"convert a.m4a b.wav --from 10 --to 20.5", "Copy ten and a half seconds into a WAVE file."},
+     {"convert a.m4a b.m4a --from 10 --to 20 --fade-in 1 --fade-out 2 --length 30",
+      "Repeat ten seconds for half a minute, with fades."}},
+    run};
 
 } // namespace CommandLine

@@ -49,7 +49,7 @@ void printJson(const std::vector<InputDevice>& devices, const Output& output) {
 }
 
 int run(const QStringList& given) {
-    Arguments arguments(given, {u"json"_s});
+    Arguments arguments(given, devicesCommand);
     if (!arguments.problem().isEmpty())
         return wrongUsage(devicesCommand, arguments.problem());
     if (!arguments.positional().isEmpty())
@@ -76,6 +76,11 @@ int run(const QStringList& given) {
 
 } // namespace
 
-const Command devicesCommand{run, "devices [--json]", "list what can be recorded from"};
+const Command devicesCommand{"devices",
+                             "",
+                             "list what can be recorded from",
+                             {kJsonOption},
+                             {{"devices --json", "List the devices for a script."}},
+                             run};
 
 } // namespace CommandLine

@@ -72,7 +72,7 @@ int remove() {
 }
 
 int run(const QStringList& given) {
-    const Arguments arguments(given, {u"json"_s});
+    const Arguments arguments(given, driverCommand);
     if (!arguments.problem().isEmpty())
         return wrongUsage(driverCommand, arguments.problem());
     const auto words = arguments.positional();
@@ -90,7 +90,12 @@ int run(const QStringList& given) {
 
 } // namespace
 
-const Command driverCommand{run, "driver status [--json] | install | remove",
-                            "the device that carries what the computer plays"};
+const Command driverCommand{
+    "driver",
+    "status|install|remove",
+    "show, install or remove the device that carries what the computer plays",
+    {kJsonOption},
+    {{"driver install", "Install the device and load it. Asks for the administrator's password."}},
+    run};
 
 } // namespace CommandLine

@@ -99,7 +99,7 @@ int remove(const QStringList& keys, bool json) {
 }
 
 int run(const QStringList& given) {
-    const Arguments arguments(given, {u"json"_s});
+    const Arguments arguments(given, libraryCommand);
     if (!arguments.problem().isEmpty())
         return wrongUsage(libraryCommand, arguments.problem());
     const QStringList words = arguments.positional();
@@ -115,9 +115,12 @@ int run(const QStringList& given) {
 
 } // namespace
 
-const Command libraryCommand{run,
-                             "library [list] [--json]\n"
-                             "       sonaphex library remove KEY... [--json]",
-                             "list recordings and ringtones, or remove some with their files"};
+const Command libraryCommand{"library",
+                             "[list | remove KEY...]",
+                             "list recordings and ringtones, or remove some with their files",
+                             {kJsonOption},
+                             {{"library", "List both collections with the key of each entry."},
+                              {"library remove KEY", "Remove an entry and delete its file."}},
+                             run};
 
 } // namespace CommandLine

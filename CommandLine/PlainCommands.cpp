@@ -9,22 +9,18 @@
 #include "CommandLine/RecordCommand.h"
 #include "CommandLine/TagCommand.h"
 
-using namespace Qt::StringLiterals;
-
 namespace CommandLine {
 
+Commands byName(std::initializer_list<const Command*> commands) {
+    Commands named;
+    for (const Command* command : commands)
+        named.emplace(QString::fromUtf8(command->name), command);
+    return named;
+}
+
 const Commands& plainCommands() {
-    // clang-format off
-    static const Commands plain{
-        {u"control"_s, controlCommand},
-        {u"convert"_s, convertCommand},
-        {u"devices"_s, devicesCommand},
-        {u"driver"_s, driverCommand},
-        {u"library"_s, libraryCommand},
-        {u"record"_s, recordCommand},
-        {u"tag"_s, tagCommand},
-    };
-    // clang-format on
+    static const Commands plain = byName({&controlCommand, &convertCommand, &devicesCommand, &driverCommand,
+                                          &libraryCommand, &recordCommand, &tagCommand});
     return plain;
 }
 

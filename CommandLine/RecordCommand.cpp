@@ -89,8 +89,7 @@ bool takeSources(const Arguments& arguments, OverriddenPreferences& preferences,
 }
 
 int run(const QStringList& given) {
-    Arguments arguments(given, {u"input=NAME"_s, u"computer"_s, u"for=S"_s, u"wait=S"_s, u"split=MS"_s, u"filter=S"_s,
-                                u"folder=DIR"_s, u"json"_s});
+    Arguments arguments(given, recordCommand);
     OverriddenPreferences preferences;
     RecordingTask task;
     task.seconds = arguments.seconds(u"for"_s, 0);
@@ -120,9 +119,23 @@ int run(const QStringList& given) {
 } // namespace
 
 const Command recordCommand{
-    run,
-    "record [--input NAME|none] [--computer] [--for S] [--wait S] [--split MS] [--filter S|off] "
-    "[--folder DIR] [--json]",
-    "record an input device, what the computer plays, or both into .m4a files"};
+    "record",
+    "",
+    "record an input device, what the computer plays, or both into .m4a files",
+    {{"input", "NAME|none", "Record the input device with this name, UID or id; none records no input device.",
+      "the device and the choice stored in the preferences"},
+     {"computer", "", "Record what the computer plays."},
+     {"for", "S", "Stop after S seconds of recorded sound, over all files.", "until Ctrl+C"},
+     {"wait", "S", "When waiting for the first sound, give up after S seconds.", "no limit"},
+     {"split", "MS|off", "Begin a new file after a silence of MS milliseconds of computer audio.",
+      "as in the preferences"},
+     {"filter", "S|off", "Drop a recording shorter than S seconds.", "as in the preferences"},
+     {"folder", "DIR", "Put the recordings into DIR, which is made when it is missing.", "as in the preferences"},
+     kJsonOption},
+    {{"record --for 10", "Record ten seconds of the input device."},
+     {"record --input \"USB Mic\" --folder .", "Record a named device into the current folder until Ctrl+C."},
+     {"record --input none --computer --split 300 --wait 60",
+      "Record what the computer plays, one file for each song, and give up when nothing plays for a minute."}},
+    run};
 
 } // namespace CommandLine

@@ -87,8 +87,7 @@ QString setArtwork(const QString& path, const QString& image) {
 }
 
 int run(const QStringList& given) {
-    const Arguments arguments(
-        given, {u"title=T"_s, u"artist=A"_s, u"album=B"_s, u"year=Y"_s, u"genre=G"_s, u"artwork=IMAGE"_s, u"json"_s});
+    const Arguments arguments(given, tagCommand);
     if (!arguments.problem().isEmpty())
         return wrongUsage(tagCommand, arguments.problem());
     if (arguments.positional().size() != 1)
@@ -144,9 +143,18 @@ int run(const QStringList& given) {
 
 } // namespace
 
-const Command tagCommand{run,
-                         "tag FILE [--title T] [--artist A] [--album B] [--year Y] [--genre G] [--artwork IMAGE]\n"
-                         "        [--json]",
-                         "print or write the tags and the cover of an MPEG-4 audio file"};
+const Command tagCommand{"tag",
+                         "FILE",
+                         "print or write the tags and the cover of an MPEG-4 audio file",
+                         {{"title", "T", "Write this title. An empty text removes the tag; so it does for all texts."},
+                          {"artist", "A", "Write this artist."},
+                          {"album", "B", "Write this album."},
+                          {"year", "Y", "Write this year; 0 removes the tag."},
+                          {"genre", "G", "Write this genre."},
+                          {"artwork", "IMAGE", "Take the cover from this picture file."},
+                          kJsonOption},
+                         {{"tag a.m4a", "Print the tags."},
+                          {"tag a.m4a --title \"Morning\" --artwork cover.jpg", "Write a title and a cover."}},
+                         run};
 
 } // namespace CommandLine

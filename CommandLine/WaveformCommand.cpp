@@ -40,7 +40,7 @@ QString drawTo(const QString& target, bool overwrite, const QList<float>& values
 }
 
 int run(const QStringList& given) {
-    Arguments arguments(given, {u"png=FILE"_s, u"json"_s, u"overwrite"_s});
+    Arguments arguments(given, waveformCommand);
     if (!arguments.problem().isEmpty())
         return wrongUsage(waveformCommand, arguments.problem());
     if (arguments.positional().size() != 1)
@@ -89,7 +89,13 @@ int run(const QStringList& given) {
 
 } // namespace
 
-const Command waveformCommand{run, "waveform SRC [--png FILE [--overwrite]] [--json]",
-                              "ten values of a file's outline for each second"};
+const Command waveformCommand{"waveform",
+                              "SRC",
+                              "print ten values of a file's outline for each second",
+                              {{"png", "FILE", "Draw the outline into a PNG file instead of printing it."},
+                               {"overwrite", "", "Replace FILE when it exists."},
+                               kJsonOption},
+                              {{"waveform a.m4a --png outline.png", "Draw the outline of a recording."}},
+                              run};
 
 } // namespace CommandLine

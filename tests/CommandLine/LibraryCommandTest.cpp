@@ -109,7 +109,8 @@ TEST_F(LibraryCommand, RefusesWrongUsageWithTheRightOne) {
     for (const QStringList& arguments : {QStringList{u"remove"_s}, QStringList{u"add"_s}, QStringList{u"--colour"_s}}) {
         const ToolResult result = library(arguments);
         EXPECT_EQ(result.status, 2);
-        EXPECT_TRUE(result.errors.contains("usage: sonaphex library [list] [--json]")) << result.errors.constData();
+        EXPECT_TRUE(result.errors.contains("usage: sonaphex library [list | remove KEY...] [--json]"))
+            << result.errors.constData();
     }
 }
 

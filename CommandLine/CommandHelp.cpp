@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CommandLine/CommandHelp.h"
+
+using namespace Qt::StringLiterals;
+using namespace CommandLine;
+
+namespace CommandHelp {
+namespace {
+
+constexpr qsizetype kLineLength = 100;
+
+QString shown(const Option& option) {
+    const QString name = u"--"_s + QString::fromUtf8(option.name);
+    return *option.value ? name + u' ' + QString::fromUtf8(option.value) : name;
+}
+
+/// Joins @p words with spaces and breaks the line before it grows too long.
+QString wrapped(const QString& first, const QStringList& words, qsizetype indent) {
+    QString text = first;
+    qsizetype column = first.size();
+    for (const QString& word : words) {
+        if (column + 1 + word.size() > kLineLength) {
+            text += u'\n' + QString(indent, u' ');
+            column = indent;
+        } else {
+            text += u' ';
+            ++column;
+        }
+        text += word;
+        column += word.size();
+    }
+    return text;
+}
+
+/// An option's sentence with its default in brackets.
+QStringList explanation(const Option& option) {
+    QString text = QString::fromUtf8(option.sentence);
+    if (*option.byDefault)
+        text += u" (default: %1)"_s.arg(QString::fromUtf8(option.byDefault));
+    return text.split(u' ');
+}
+
+} // namespace
+
+QString usage(const Command& command) {
+    QStringList words;
+    if (*command.operands)
+        words << QString::fromUtf8(command.operands);
+    for (const Option& option : command.options)
+        words << u'[' + shown(option) + u']';
+    return wrapped(u"usage: sonaphex "_s + QString::fromUtf8(command.name), words, 8);
+}
+
+QString whole(const Command& command) {
+    QString text = usage(command) + u"\n\n"_s + QString::fromUtf8(command.summary) + u'\n';
+    qsizetype width = 0;
+    for (const Option& option : command.options)
+        width = std::max(width, shown(option).size());
+    if (!command.options.empty())
+        text += u"\noptions:\n"_s;
+    for (const Option& option : command.options)
+        text += wrapped(u"  "_s + shown(option).leftJustified(width + 1), explanation(option), width + 4) + u'\n';
+    if (!command.examples.empty())
+        text += u"\nexamples:\n"_s;
+    for (const Example& example : command.examples)
+        text += u"  sonaphex %1\n      %2\n"_s.arg(QString::fromUtf8(example.arguments),
+                                                   QString::fromUtf8(example.sentence));
+    return text;
+}
+
+QString overview(const Commands& commands) {
+    QString text =
+        u"usage: sonaphex            open the window\n       sonaphex COMMAND    do one thing and end\n\ncommands:\n"_s;
+    for (const auto& [name, command] : commands)
+        text += u"  %1 %2\n"_s.arg(name.leftJustified(12), QString::fromUtf8(command->summary));
+    return text +
+           u"\n\"sonaphex COMMAND --help\" tells the options of a command, \"sonaphex --version\" the version.\n"_s;
+}
+
+} // namespace CommandHelp

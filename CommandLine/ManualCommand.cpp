@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CommandLine/ManualCommand.h"
+
+#include "CommandLine/Arguments.h"
+#include "CommandLine/CommandHelp.h"
+
+using namespace Qt::StringLiterals;
+
+namespace CommandLine {
+namespace {
+
+int printManual(const QStringList& given) {
+    const Arguments arguments(given, manualCommand);
+    if (!arguments.problem().isEmpty() || !arguments.positional().isEmpty())
+        return wrongUsage(manualCommand, u"manual takes nothing"_s);
+    print(CommandHelp::manualPage(allCommands()).trimmed());
+    return Done;
+}
+
+int printCompletions(const QStringList& given) {
+    const Arguments arguments(given, completionsCommand);
+    const QStringList shells = arguments.positional();
+    if (arguments.problem().isEmpty() && shells == QStringList{u"bash"_s})
+        print(CommandHelp::bashCompletion(allCommands()).trimmed());
+    else if (arguments.problem().isEmpty() && shells == QStringList{u"zsh"_s})
+        print(CommandHelp::zshCompletion(allCommands()).trimmed());
+    else if (arguments.problem().isEmpty() && shells == QStringList{u"fish"_s})
+        print(CommandHelp::fishCompletion(allCommands()).trimmed());
+    else
+        return wrongUsage(completionsCommand, u"completions takes one of bash, zsh, fish"_s);
+    return Done;
+}
+
+} // namespace
+
+const Command manualCommand{
+    "manual", "", "print the manual page", {}, {{"manual | man -l -", "Read the manual page."}}, printManual};
+
+const Command completionsCommand{"completions",
+                                 "bash|zsh|fish",
+                                 "print the completions for a shell",
+                                 {},
+                                 {{"completions bash > ~/.local/share/bash-completion/completions/sonaphex",
+                                   "Install the completions for the current user's bash."}},
+                                 printCompletions};
+
+} // namespace CommandLine

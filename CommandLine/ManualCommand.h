@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "CommandLine/CommandLine.h"
+
+namespace CommandLine {
+
+/// Prints the manual page. Packages make sonaphex.1 with it.
+extern const Command manualCommand;
+/// Prints the completions of a shell. Packages make the files of bash, zsh and fish with it.
+extern const Command completionsCommand;
+
+} // namespace CommandLine
