@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandLine/CommandLine.h"
 #include "Platform/Foundation/Module.h"
+#include "Platform/Foundation/StandardStreams.h"
 
 int main(int argc, char** argv) {
-    // Who records from the command line pays for no window: the libraries of the desktop come with the module.
+    Platform::secureStandardStreams();
+    // The commands that need no window are in the program itself. The desktop's libraries are loaded with the module.
     if (const auto status = CommandLine::runOneOf(CommandLine::plainCommands(), argc, argv))
         return *status;
     QString why;

@@ -72,9 +72,11 @@ int wrongUsage(const Command& command, const QString& what) {
     return WrongUsage;
 }
 
-void print(const QString& line) {
-    if (std::fprintf(stdout, "%s\n", qUtf8Printable(line)) < 0 || std::fflush(stdout) != 0)
-        outputError = errno;
+bool print(const QString& line) {
+    if (std::fprintf(stdout, "%s\n", qUtf8Printable(line)) >= 0 && std::fflush(stdout) == 0)
+        return true;
+    outputError = errno;
+    return false;
 }
 
 int ended(int status) {
@@ -82,6 +84,9 @@ int ended(int status) {
         outputError = errno;
     if (status != Done || (outputError == 0 && std::ferror(stdout) == 0))
         return status;
+    // As with "sonaphex library | head -1": the reader has what it wanted.
+    if (outputError == EPIPE)
+        return Failed;
     return fail(u"standard output could not be written: "_s + qt_error_string(outputError));
 }
 

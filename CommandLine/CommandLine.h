@@ -69,10 +69,10 @@ using Commands = std::map<QString, const Command*>;
 int fail(const QString& what);
 /// The same, with the command's usage. @return WrongUsage
 int wrongUsage(const Command& command, const QString& what);
-/// One line (or a JSON document) on standard output, flushed.
-void print(const QString& line);
-/// What a run ends with after its last output: @p status, or Failed, with a line on standard error, when all was well
-/// but for output that could not be written.
+/// One line (or a JSON document) on standard output, flushed. @return false when it could not be written
+bool print(const QString& line);
+/// The exit status after the last output: @p status, or Failed when all was well except that output could not be
+/// written. That is said on standard error, but not when the reader closed its end of a pipe.
 [[nodiscard]] int ended(int status);
 
 } // namespace CommandLine

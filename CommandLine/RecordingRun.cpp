@@ -19,6 +19,7 @@
 #include <QLoggingCategory>
 #include <QTimer>
 
+#include <cerrno>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -192,15 +193,18 @@ int RecordingRun::report() {
         meter_.say(dropped_ == 1
                        ? u"one recording was shorter than the filter's time and was not kept"_s
                        : u"%1 recordings were shorter than the filter's time and were not kept"_s.arg(dropped_));
+    bool printed = true;
     if (task_.json) {
         const QJsonObject all{{u"recordings"_s, recordings_},
                               {u"dropped"_s, dropped_},
                               {u"lostFrames"_s, qint64(controller_.lostFrames())}};
-        print(QString::fromUtf8(QJsonDocument(all).toJson(QJsonDocument::Indented).trimmed()));
-    } else {
-        for (const QString& path : paths_)
-            print(path);
+        printed = print(QString::fromUtf8(QJsonDocument(all).toJson(QJsonDocument::Indented).trimmed()));
+    } else if (!paths_.isEmpty()) {
+        printed = print(paths_.join(u'\n'));
     }
+    // The recording is whole, but its user has not been told where it is.
+    if (!printed && problem_.isEmpty())
+        problem_ = u"standard output could not be written: "_s + qt_error_string(errno);
     if (problem_.isEmpty())
         return Done;
     return fail(paths_.isEmpty() ? problem_

@@ -2,13 +2,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
+#include <csignal>
 #include <functional>
 #include <memory>
 
 namespace Platform {
 
+/// Installs a handler for SIGINT, SIGTERM and SIGHUP while it lives and puts the former dispositions back afterwards.
+/// A signal that was ignored stays ignored: nohup and the shell's background jobs rely on it.
+class TerminationHandler {
+public:
+    /// @param handler runs on any thread and must be async-signal-safe.
+    explicit TerminationHandler(void (*handler)(int signal));
+    ~TerminationHandler();
+    TerminationHandler(const TerminationHandler&) = delete;
+    TerminationHandler& operator=(const TerminationHandler&) = delete;
+
+private:
+    static constexpr std::array signals{SIGINT, SIGTERM, SIGHUP};
+    std::array<struct sigaction, signals.size()> before_{};
+};
+
 /// Turns SIGINT, SIGTERM and SIGHUP into a call on the main thread, so that a recording ends as a whole file. While it
-/// lives these signals end the process no more; one object at a time. Main thread, with an event loop.
+/// lives these signals no longer end the process; those that were ignored before stay ignored. One object at a time.
+/// Main thread, with an event loop.
 class TerminationSignals {
 public:
     /// @param handler is called with the signal's number, once for each that arrives.

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -62,6 +64,22 @@ TEST(Program, FailsWhenItsAnswerCannotBeWritten) {
         EXPECT_EQ(process.exitCode(), status);
         EXPECT_FALSE(process.readAllStandardError().contains("standard output"));
     }
+}
+
+TEST(Program, SaysNothingAboutAReaderThatLeft) {
+    const QTemporaryDir folder;
+    const EnvironmentScope config("XDG_CONFIG_HOME", folder.path().toUtf8());
+    int ends[2];
+    ASSERT_EQ(pipe(ends), 0);
+    close(ends[0]);
+    QProcess process;
+    process.setChildProcessModifier([&] { dup2(ends[1], STDOUT_FILENO); });
+    process.start(QStringLiteral(SONAPHEX_PROGRAM), {u"library"_s});
+    ASSERT_TRUE(process.waitForFinished(60000));
+    close(ends[1]);
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process.exitCode(), 1);
+    EXPECT_EQ(process.readAllStandardError(), QByteArray());
 }
 
 TEST(Program, LoadsNoLibraryOfWindowsOrContainersToRecord) {

@@ -1,9 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/DefaultSignals.h"
+
 #include <QCoreApplication>
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
+    defaultSignals();
     testing::InitGoogleTest(&argc, argv);
     QCoreApplication application(argc, argv);
     return RUN_ALL_TESTS();

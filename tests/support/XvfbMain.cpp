@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/DefaultSignals.h"
 #include "tests/support/XvfbSession.h"
 
 #include <QApplication>
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
+    defaultSignals();
     testing::InitGoogleTest(&argc, argv);
     XvfbSession session;
     if (!session.problem().isEmpty()) {

@@ -4,15 +4,14 @@
 
 #include <QSocketNotifier>
 
-#include <array>
-#include <csignal>
+#include <cerrno>
 #include <fcntl.h>
+#include <optional>
 #include <unistd.h>
 
 namespace Platform {
 namespace {
 
-constexpr std::array endings{SIGINT, SIGTERM, SIGHUP};
 /// The end of the pipe that a signal handler may write to.
 volatile std::sig_atomic_t writeEnd = -1;
 
@@ -25,10 +24,26 @@ void note(int signal) {
 
 } // namespace
 
+TerminationHandler::TerminationHandler(void (*handler)(int)) {
+    struct sigaction action {};
+    action.sa_handler = handler;
+    action.sa_flags = SA_RESTART;
+    for (std::size_t i = 0; i < signals.size(); ++i) {
+        sigaction(signals[i], nullptr, &before_[i]);
+        if (before_[i].sa_handler != SIG_IGN)
+            sigaction(signals[i], &action, nullptr);
+    }
+}
+
+TerminationHandler::~TerminationHandler() {
+    for (std::size_t i = 0; i < signals.size(); ++i)
+        sigaction(signals[i], &before_[i], nullptr);
+}
+
 struct TerminationSignals::Private {
     std::array<int, 2> pipe{-1, -1};
-    std::array<struct sigaction, endings.size()> before{};
     std::unique_ptr<QSocketNotifier> notifier;
+    std::optional<TerminationHandler> handler;
 };
 
 TerminationSignals::TerminationSignals(std::function<void(int)> handler) : d(std::make_unique<Private>()) {
@@ -42,18 +57,13 @@ TerminationSignals::TerminationSignals(std::function<void(int)> handler) : d(std
                          while (read(from, &number, 1) == 1)
                              handler(number);
                      });
-    struct sigaction action {};
-    action.sa_handler = note;
-    action.sa_flags = SA_RESTART;
-    for (std::size_t i = 0; i < endings.size(); ++i)
-        sigaction(endings[i], &action, &d->before[i]);
+    d->handler.emplace(note);
 }
 
 TerminationSignals::~TerminationSignals() {
     if (d->pipe[0] < 0)
         return;
-    for (std::size_t i = 0; i < endings.size(); ++i)
-        sigaction(endings[i], &d->before[i], nullptr);
+    d->handler.reset();
     writeEnd = -1;
     d->notifier.reset();
     close(d->pipe[0]);

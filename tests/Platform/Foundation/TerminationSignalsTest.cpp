@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Foundation/TerminationSignals.h"
+
+#include "tests/support/WaitFor.h"
+
+#include <gtest/gtest.h>
+
+#include <QList>
+
+#include <csignal>
+
+namespace {
+
+/// Sets what a signal does and puts it back afterwards.
+class Disposition {
+public:
+    Disposition(int signal, void (*action)(int)) : signal_(signal), before_(std::signal(signal, action)) {}
+    ~Disposition() { std::signal(signal_, before_); }
+    Disposition(const Disposition&) = delete;
+    Disposition& operator=(const Disposition&) = delete;
+    [[nodiscard]] static bool isIgnored(int signal) {
+        struct sigaction now {};
+        sigaction(signal, nullptr, &now);
+        return now.sa_handler == SIG_IGN;
+    }
+
+private:
+    int signal_;
+    void (*before_)(int);
+};
+
+} // namespace
+
+TEST(TerminationSignals, TellsEachSignalOnTheMainThread) {
+    QList<int> told;
+    const Platform::TerminationSignals signals([&](int signal) { told.append(signal); });
+    raise(SIGHUP);
+    raise(SIGTERM);
+    EXPECT_TRUE(waitFor([&] { return told.size() == 2; }));
+    EXPECT_EQ(told, (QList<int>{SIGHUP, SIGTERM}));
+}
+
+TEST(TerminationSignals, LeavesSignalsIgnoredThatWereIgnored) {
+    const Disposition hangUp(SIGHUP, SIG_IGN);
+    const Disposition interrupt(SIGINT, SIG_IGN);
+    QList<int> told;
+    {
+        const Platform::TerminationSignals signals([&](int signal) { told.append(signal); });
+        EXPECT_TRUE(Disposition::isIgnored(SIGHUP));
+        EXPECT_TRUE(Disposition::isIgnored(SIGINT));
+        raise(SIGHUP);
+        raise(SIGINT);
+        raise(SIGTERM);
+        EXPECT_TRUE(waitFor([&] { return !told.isEmpty(); }));
+    }
+    EXPECT_EQ(told, QList<int>{SIGTERM});
+    EXPECT_TRUE(Disposition::isIgnored(SIGHUP)) << "also afterwards";
+}
