@@ -13,6 +13,7 @@
 #include "Source/ProcessRequests/MediaLibraryRequests.h"
 #include "Source/Record/CutOffRecordings.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -82,14 +83,19 @@ void AppDelegate::applicationWillTerminate() {
     (void)Platform::services().userDefaults->flush();
 }
 
-QByteArray AppDelegate::answer(const QByteArray& request) {
+void AppDelegate::terminate() {
+    applicationWillTerminate();
+    QCoreApplication::exit(0);
+}
+
+Platform::RunningProgram::Reply AppDelegate::answer(const QByteArray& request) {
     if (const auto answer = MediaLibraryRequests::answer(request))
         return *answer;
     if (request != "show" && !request.startsWith("show "))
         return windows_.answer(*mainWndController_, request);
     Platform::Activation::setToken(request.mid(5));
     ToolControl::showWindowNib(*mainWndController_);
-    return "ok";
+    return QByteArray("ok");
 }
 
 void AppDelegate::perference(QObject*) {

@@ -26,7 +26,8 @@ public:
         virtual void setupSystemStatusBar(AppDelegate& application) = 0;
         virtual void insertTheSystemAudioRecordDevice(WindowController& preferences, QObject* sender) = 0;
         /// Answers a request of another process, but for "show" and what concerns the library.
-        [[nodiscard]] virtual QByteArray answer(WindowController& mainWindow, const QByteArray& request) = 0;
+        [[nodiscard]] virtual Platform::RunningProgram::Reply answer(WindowController& mainWindow,
+                                                                     const QByteArray& request) = 0;
         /// Ends a running recording and waits for its files: the program is about to quit.
         virtual void finishRecording(WindowController& mainWindow) = 0;
     };
@@ -40,6 +41,10 @@ public:
     [[nodiscard]] bool applicationDidFinishLaunching();
     /// Ends what must not be cut off: a recording under way, settings not yet written.
     void applicationWillTerminate();
+    /// Ends the program. The recording is finished before this returns and before any event loop ends: a dialog or a
+    /// password prompt may stand, and the code behind its loop may take any time. Does not ask the windows as quit()
+    /// would; the main window never closes while something records.
+    void terminate();
 
     [[nodiscard]] WindowController* mainWndController() const { return mainWndController_.get(); }
     [[nodiscard]] WindowController* preferenceWndController() const { return preferenceWndController_.get(); }
@@ -63,7 +68,7 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] bool recreateTemporaryFolder();
-    [[nodiscard]] QByteArray answer(const QByteArray& request);
+    [[nodiscard]] Platform::RunningProgram::Reply answer(const QByteArray& request);
 
     Windows& windows_;
     Platform::RunningProgram& running_;

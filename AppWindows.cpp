@@ -94,7 +94,8 @@ public:
         static_cast<PreferenceWndController&>(preferences).insertTheSystemAudioRecordDevice();
     }
 
-    QByteArray answer(AppDelegate::WindowController& /*mainWindow*/, const QByteArray& request) override {
+    Platform::RunningProgram::Reply answer(AppDelegate::WindowController& /*mainWindow*/,
+                                           const QByteArray& request) override {
         return ControlRequests(*record_).answer(request);
     }
 

@@ -12,6 +12,7 @@
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/TerminationSignals.h"
 #include "Platform/LinuxServices.h"
+#include "Source/ProcessRequests/Launch.h"
 
 #include <QApplication>
 #include <QSessionManager>
@@ -22,12 +23,16 @@ namespace {
 /// window never closes while something records.
 class EndWithTheSession : public QObject {
 public:
+    explicit EndWithTheSession(AppDelegate& delegate) : delegate_(delegate) {}
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (watched != qApp || event->type() != QEvent::Quit)
             return QObject::eventFilter(watched, event);
-        QCoreApplication::exit(0);
+        delegate_.terminate();
         return true;
     }
+
+private:
+    AppDelegate& delegate_;
 };
 
 int runWindows(int argc, char** argv) {
@@ -43,11 +48,14 @@ int runWindows(int argc, char** argv) {
     };
 
     const auto running = Platform::RunningProgram::create(Platform::services().bundle->bundleIdentifier());
-    if (!running->acquire() && running->lastError().isEmpty()) {
-        QByteArray answer;
-        if (running->ask(("show " + launchToken).trimmed(), answer))
-            return 0;
+    switch (Launch::begin(*running, launchToken)) {
+    case Launch::Outcome::Raised:
+        return CommandLine::Done;
+    case Launch::Outcome::NobodyAnswers:
         return CommandLine::fail(QStringLiteral("it is already running, but does not answer"));
+    case Launch::Outcome::First:
+    case Launch::Outcome::NoPlace: // the delegate says why
+        break;
     }
 
     const auto windows = createAppWindows();
@@ -61,10 +69,8 @@ int runWindows(int argc, char** argv) {
         tell(QStringLiteral("Sonaphex cannot start."), delegate.lastError());
         return CommandLine::Failed;
     }
-    // However the program is ended in good order, the recording under way becomes a whole file first.
-    // Not quit(): that asks the windows first, and the main window never closes while something records.
-    const Platform::TerminationSignals ending([](int) { QCoreApplication::exit(0); });
-    EndWithTheSession endWithTheSession;
+    const Platform::TerminationSignals ending([&delegate](int) { delegate.terminate(); });
+    EndWithTheSession endWithTheSession(delegate);
     application.installEventFilter(&endWithTheSession);
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &delegate, &AppDelegate::applicationWillTerminate);
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &delegate,

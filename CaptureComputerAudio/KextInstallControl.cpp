@@ -61,6 +61,8 @@ bool runWithAdmin(const QString& command) {
     QObject::connect(worker.get(), &QThread::finished, &loop, &QEventLoop::quit);
     worker->start();
     loop.exec();
+    // The program may be ending while the prompt stands: nobody will answer it any more.
+    worker->requestInterruption();
     worker->wait();
     whyFailed = problem.value_or(QString());
     return !problem;

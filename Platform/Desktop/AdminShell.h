@@ -8,7 +8,8 @@
 namespace Platform {
 
 /// Runs a shell command line with administrator rights: directly when the process has them, else through pkexec, which
-/// asks for a password. Blocks; called from a worker.
+/// asks for a password. Blocks; called from a worker. A request to interrupt the worker ends the password prompt; a
+/// command that has its rights already runs to its end.
 class AdminShell {
 public:
     virtual ~AdminShell() = default;

@@ -13,8 +13,17 @@ namespace Platform {
 /// with the process, however it ends), lies outside the temporary folder that a launch wipes, and is closed on exec.
 class RunningProgram {
 public:
-    /// Answers a request of another process; called on the main thread. The request and the answer are single lines.
-    using Handler = std::function<QByteArray(const QByteArray& request)>;
+    /// The answer to a request, and the work that is begun only after the answer was written. That work may open a
+    /// dialog; the caller does not wait for it.
+    struct Reply {
+        Reply(QByteArray line, std::function<void()> afterwards = {}) // NOLINT: an answer alone is a reply
+            : line(std::move(line)), afterwards(std::move(afterwards)) {}
+        QByteArray line;
+        std::function<void()> afterwards; ///< may be empty; runs on the main thread, before the next request is read
+    };
+    /// Answers a request of another process; called on the main thread, in the order of the requests. The request and
+    /// the answer are single lines. The caller waits, so nothing here may take long or open a dialog.
+    using Handler = std::function<Reply(const QByteArray& request)>;
 
     virtual ~RunningProgram() = default;
     /// Takes the lock. False when another process holds it, or when there is no place for it: see lastError().

@@ -31,7 +31,7 @@ ControlRequests::ControlRequests(RecordStateController& controller, MediaLibrary
     : controller_(controller), library_(library) {
 }
 
-QByteArray ControlRequests::answer(const QByteArray& request) {
+Platform::RunningProgram::Reply ControlRequests::answer(const QByteArray& request) {
     const QByteArray line = request.trimmed();
     const auto blank = line.indexOf(' ');
     const QByteArray command = blank < 0 ? line : line.left(blank);
@@ -39,17 +39,14 @@ QByteArray ControlRequests::answer(const QByteArray& request) {
     if (command == "start-stop") {
         if (!controller_.isStateAudioCanStartRecord())
             return failed(controller_.canRecord() ? "the program is ending" : "there is no source to record");
-        controller_.startAndStopRecord();
-        return Ok;
+        return {Ok, [&controller = controller_] { controller.startAndStopRecord(); }};
     }
     if (command == "pause-resume" || command == "split") {
         if (!controller_.isStateAudioRecord())
             return failed("nothing is being recorded");
-        if (command == "split")
-            controller_.splitTheRecord();
-        else
-            controller_.pauseAndResumeRecord();
-        return Ok;
+        const auto act =
+            command == "split" ? &RecordStateController::splitTheRecord : &RecordStateController::pauseAndResumeRecord;
+        return {Ok, [&controller = controller_, act] { (controller.*act)(); }};
     }
     if (command == "status")
         return Ok + ' ' + compact(QJsonDocument(QJsonObject::fromVariantMap(status())));

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Platform/Foundation/Dictionary.h"
+#include "Platform/Foundation/RunningProgram.h"
 
 #include <QByteArray>
 
@@ -22,7 +23,9 @@ public:
     /// Neither is owned. @p library null: the shared one, when it is first needed.
     explicit ControlRequests(RecordStateController& controller, MediaLibrary* library = nullptr);
 
-    [[nodiscard]] QByteArray answer(const QByteArray& request);
+    /// The buttons' commands are begun after their answer is on its way: what they do may open a dialog, and the other
+    /// process does not wait for that.
+    [[nodiscard]] Platform::RunningProgram::Reply answer(const QByteArray& request);
     /// state ("idle", "armed", "recording", "paused"), seconds of the file at hand, recordings that are being finished
     /// (queue), lostFrames, notices.
     [[nodiscard]] Dictionary status() const;

@@ -6,6 +6,7 @@
 #include "CaptureComputerAudio/KextInstallControl.h"
 #include "Platform/Audio/AudioHardware.h"
 #include "Platform/Desktop/Alerts.h"
+#include "Platform/Foundation/MainQueue.h"
 #include "Platform/Foundation/Services.h"
 
 #include <QScopeGuard>
@@ -85,8 +86,13 @@ void RecordSources::awakeFromNib() {
 
 void RecordSources::adoptComputerAudio(AudioObjectID device) {
     CaptureComputerAudio::startCaptureComputerAudio();
-    if (CaptureComputerAudio::captureComputerAudioIsUSBDevice())
-        warnOfUsbHeadset();
+    if (CaptureComputerAudio::captureComputerAudioIsUSBDevice()) {
+        // A dialog turns the event loop. Inside a device event, that would handle the next event within this one.
+        if (followsDeviceEvent_)
+            Platform::MainQueue::post(this, warnOfUsbHeadset);
+        else
+            warnOfUsbHeadset();
+    }
     computerAudioDeviceID_ = device;
     configComputerRecordAudioDevice();
 }
@@ -147,8 +153,9 @@ void RecordSources::followDevices() {
         return;
     }
     walking_ = true;
+    followsDeviceEvent_ = true;
     changedMeanwhile_ = false;
-    const auto done = qScopeGuard([this] { walking_ = false; });
+    const auto done = qScopeGuard([this] { walking_ = followsDeviceEvent_ = false; });
 
     QVariantList devices = BuildInAudioRecord::getAudioInPutDeviceIDs();
     AudioObjectID computerAudio = 0;

@@ -60,5 +60,6 @@ private:
     int selected_ = -1;
     bool recording_ = false;
     bool walking_ = false; ///< an alert may spin the event loop in the midst of a walk
+    bool followsDeviceEvent_ = false;
     bool changedMeanwhile_ = false;
 };

@@ -5,6 +5,7 @@
 #include "CaptureComputerAudio/CaptureComputerAudio.h"
 #include "CaptureComputerAudio/CaptureDriver.h"
 #include "Platform/Desktop/linux/LinuxAdminShell.h"
+#include "Platform/Foundation/MainQueue.h"
 #include "Platform/Foundation/Services.h"
 #include "tests/fakes/FakeAdminShell.h"
 #include "tests/fakes/FakeBundle.h"
@@ -206,6 +207,23 @@ TEST_F(KextInstallControlTest, WaitsNoLongerThanItsPatienceForADriverThatDoesNot
     EXPECT_LE(registry.looks, 1000 / 2 + 3);
 }
 
+TEST_F(KextInstallControlTest, AProgramThatEndsDoesNotWaitForThePrompt) {
+    shell.refusal = u"the password prompt was cancelled"_s;
+    shell.before = [] {
+        Platform::MainQueue::post([] { QCoreApplication::exit(0); });
+        while (!QThread::currentThread()->isInterruptionRequested())
+            QThread::msleep(1);
+    };
+    bool returned = false;
+    Platform::MainQueue::post([&] {
+        EXPECT_FALSE(KextInstallControl::install());
+        returned = true;
+    });
+    QCoreApplication::exec();
+    EXPECT_TRUE(returned);
+    EXPECT_EQ(shell.commands.size(), 1);
+}
+
 /// The shell behind pkexec, with a pkexec of the test in PATH.
 class AdminShellTest : public testing::Test {
 protected:
@@ -237,6 +255,17 @@ TEST_F(AdminShellTest, SaysThatThePromptWasCancelledOrTheRightsNotGiven) {
     makeHelper("exit 127\n");
     EXPECT_EQ(Platform::createAdminShell(false)->executeShellStringWithAdmin(u"true"_s),
               u"administrator rights were not given"_s);
+}
+
+TEST_F(AdminShellTest, EndsThePromptWhenItsWorkerIsInterrupted) {
+    makeHelper("exec /bin/sleep 1000\n");
+    std::optional<QString> result;
+    const std::unique_ptr<QThread> worker(
+        QThread::create([&] { result = Platform::createAdminShell(false)->executeShellStringWithAdmin(u"true"_s); }));
+    worker->start();
+    worker->requestInterruption();
+    EXPECT_TRUE(worker->wait(30000));
+    EXPECT_EQ(result, u"the password prompt was cancelled"_s);
 }
 
 TEST_F(AdminShellTest, SaysThatThereIsNoHelper) {

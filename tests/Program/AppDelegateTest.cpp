@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AppDelegate.h"
 
+#include "Platform/Foundation/MainQueue.h"
 #include "Platform/Foundation/Services.h"
 #include "Source/Preferences/PreferenceStore.h"
 #include "tests/fakes/FakeBundle.h"
@@ -12,7 +13,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -76,8 +79,8 @@ struct FakeWindows : AppDelegate::Windows {
         log << u"install for %1 by %2"_s.arg(static_cast<Window&>(preferences).name,
                                              sender ? sender->objectName() : u"nobody"_s);
     }
-    QByteArray answer(AppDelegate::WindowController&, const QByteArray& request) override {
-        return "window heard " + request;
+    Platform::RunningProgram::Reply answer(AppDelegate::WindowController&, const QByteArray& request) override {
+        return QByteArray("window heard " + request);
     }
     void finishRecording(AppDelegate::WindowController&) override { log << u"finish"_s; }
 };
@@ -275,9 +278,26 @@ TEST_F(AppDelegateTest, OpensItsPagesInTheBrowser) {
 TEST_F(AppDelegateTest, RaisesItsWindowWhenASecondLaunchAsks) {
     ASSERT_TRUE(delegate.applicationDidFinishLaunching());
     windows.log.clear();
-    EXPECT_EQ(running.handler("show"), "ok");
+    EXPECT_EQ(running.handler("show").line, "ok");
     EXPECT_EQ(windows.log, (QStringList{u"MainWnd: showWindow"_s, u"MainWnd: center"_s}));
-    EXPECT_EQ(running.handler("split"), "window heard split");
+    EXPECT_EQ(running.handler("split").line, "window heard split");
+}
+
+TEST_F(AppDelegateTest, FinishesARecordingBeforeADialogOrAPromptIsLeft) {
+    ASSERT_TRUE(delegate.applicationDidFinishLaunching());
+    windows.log.clear();
+    // The code behind the loop of a prompt may wait for as long as the prompt likes.
+    Platform::MainQueue::post([this] {
+        QEventLoop prompt;
+        Platform::MainQueue::post([this] {
+            delegate.terminate();
+            windows.log << u"terminated"_s;
+        });
+        prompt.exec();
+        windows.log << u"prompt left"_s;
+    });
+    QCoreApplication::exec();
+    EXPECT_EQ(windows.log, (QStringList{u"finish"_s, u"terminated"_s, u"prompt left"_s}));
 }
 
 TEST_F(AppDelegateTest, FinishesARecordingBeforeItEnds) {

@@ -74,6 +74,22 @@ TEST_F(RunningWindow, IsTheOnlyOneAndASecondLaunchLeavesItsFilesAlone) {
     EXPECT_EQ(window_.state(), QProcess::Running);
 }
 
+TEST_F(RunningWindow, TwoLaunchesAtOnceShowOneWindow) {
+    QProcess second;
+    window_.start(QStringLiteral(SONAPHEX_PROGRAM), QStringList());
+    second.start(QStringLiteral(SONAPHEX_PROGRAM), QStringList());
+    const auto ended = [](const QProcess& process) { return process.state() == QProcess::NotRunning; };
+    ASSERT_TRUE(waitFor([&] { return ended(window_) || ended(second); }, 60000));
+    QProcess& raised = ended(window_) ? window_ : second;
+    QProcess& running = ended(window_) ? second : window_;
+    EXPECT_EQ(raised.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(raised.exitCode(), 0) << raised.readAllStandardError().toStdString();
+    EXPECT_EQ(running.state(), QProcess::Running);
+    EXPECT_TRUE(control(u"status"_s).startsWith("idle"));
+    second.kill();
+    second.waitForFinished();
+}
+
 TEST_F(RunningWindow, FinishesItsRecordingWhenItIsAskedToEnd) {
     ASSERT_TRUE(launch());
     (void)control(u"start-stop"_s);

@@ -4,6 +4,7 @@
 
 #include <QProcess>
 #include <QStandardPaths>
+#include <QThread>
 
 #include <unistd.h>
 
@@ -12,6 +13,10 @@ using namespace Qt::StringLiterals;
 namespace Platform {
 
 namespace {
+
+const auto kCancelled = u"the password prompt was cancelled"_s;
+/// How long a request to interrupt may go unnoticed.
+constexpr int kLookMs = 100;
 
 class LinuxAdminShell final : public AdminShell {
 public:
@@ -31,9 +36,19 @@ public:
         process.setStandardInputFile(QProcess::nullDevice());
         process.setStandardOutputFile(QProcess::nullDevice());
         process.start();
-        // No limit: a password prompt may stand for as long as the user likes.
-        if (!process.waitForStarted(-1) || (process.state() != QProcess::NotRunning && !process.waitForFinished(-1)))
+        if (!process.waitForStarted(-1))
             return process.errorString();
+        // No limit: a password prompt may stand for as long as the user likes.
+        bool isCancelled = false;
+        while (process.state() != QProcess::NotRunning && !process.waitForFinished(kLookMs)) {
+            if (haveRights_ || isCancelled || !QThread::currentThread()->isInterruptionRequested())
+                continue;
+            // Reaches the helper while it asks. The command that it starts afterwards belongs to root.
+            process.terminate();
+            isCancelled = true;
+        }
+        if (isCancelled && process.exitStatus() == QProcess::CrashExit)
+            return kCancelled;
         return problemOf(process);
     }
 
@@ -43,7 +58,7 @@ private:
             return {};
         // What pkexec says of itself; a command may end with the same numbers only through it.
         if (!haveRights_ && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 126)
-            return u"the password prompt was cancelled"_s;
+            return kCancelled;
         if (!haveRights_ && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 127)
             return u"administrator rights were not given"_s;
         const auto said = QString::fromLocal8Bit(process.readAllStandardError()).trimmed().section(u'\n', 0, 0);

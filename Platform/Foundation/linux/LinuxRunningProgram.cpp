@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Foundation/FileLock.h"
 #include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/MainQueue.h"
 #include "Platform/Foundation/RunningProgram.h"
 
 #include <QElapsedTimer>
@@ -92,23 +93,38 @@ private:
 
     void serve(QLocalSocket* client) {
         QObject::connect(client, &QLocalSocket::disconnected, client, &QObject::deleteLater);
-        const auto answerLines = [this, client] {
-            if (!client->canReadLine() && client->bytesAvailable() > longestLine)
-                client->abort(); // a line without end
-            while (client->canReadLine()) {
-                QByteArray answer = handler_(client->readLine().trimmed());
-                answer.replace('\n', ' ');
-                client->write(answer + '\n');
+        QObject::connect(client, &QLocalSocket::readyRead, client, [this, client] { answerLines(client); });
+        answerLines(client); // what came before the connection of the signal
+    }
+
+    // The socket may be deleted whenever the event loop turns, so nothing here may turn it. The work that follows an
+    // answer runs from the loop: it may open a dialog, whose own loop handles this socket again.
+    void answerLines(QLocalSocket* client) {
+        if (!client->canReadLine() && client->bytesAvailable() > longestLine)
+            client->abort(); // a line without end
+        while (client->canReadLine()) {
+            if (workToBegin_ > 0) {
+                MainQueue::post(client, [this, client] { answerLines(client); });
+                return;
             }
-        };
-        QObject::connect(client, &QLocalSocket::readyRead, client, answerLines);
-        answerLines(); // what came before the connection of the signal
+            Reply reply = handler_(client->readLine().trimmed());
+            client->write(reply.line.replace('\n', ' ') + '\n');
+            client->flush();
+            if (!reply.afterwards)
+                continue;
+            ++workToBegin_;
+            MainQueue::post(server_.get(), [this, work = std::move(reply.afterwards)] {
+                --workToBegin_;
+                work();
+            });
+        }
     }
 
     QString identifier_;
     QString lastError_;
     FileLock lock_;
     Handler handler_;
+    int workToBegin_ = 0; ///< answered requests whose work has not begun
     std::unique_ptr<QLocalServer> server_;
 };
 

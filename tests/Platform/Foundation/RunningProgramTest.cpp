@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Foundation/RunningProgram.h"
 
+#include "Platform/Foundation/MainQueue.h"
 #include "tests/support/Environment.h"
 #include "tests/support/WaitFor.h"
 
@@ -9,6 +10,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLocalSocket>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -99,14 +101,14 @@ TEST_F(RunningProgramTest, SaysWhyThereIsNoPlaceForTheLock) {
 
 TEST_F(RunningProgramTest, AnswersLinesOfOtherPrograms) {
     ASSERT_TRUE(first->acquire());
-    ASSERT_TRUE(first->listen([](const QByteArray& request) { return "heard " + request; }));
+    ASSERT_TRUE(first->listen([](const QByteArray& request) { return QByteArray("heard " + request); }));
     EXPECT_EQ(askMeanwhile(*second, "status"), "heard status");
     EXPECT_EQ(askMeanwhile(*second, "split"), "heard split");
 }
 
 TEST_F(RunningProgramTest, KeepsOneRequestOneLine) {
     ASSERT_TRUE(first->acquire());
-    ASSERT_TRUE(first->listen([](const QByteArray& request) { return request + "\nsecond"; }));
+    ASSERT_TRUE(first->listen([](const QByteArray& request) { return QByteArray(request + "\nsecond"); }));
     EXPECT_EQ(askMeanwhile(*second, "one\ntwo"), "one two second");
 }
 
@@ -141,4 +143,52 @@ TEST_F(RunningProgramTest, ListensWhereAKilledProgramLeftItsSocket) {
     ASSERT_TRUE(second->listen([](const QByteArray&) { return QByteArray("new"); })) << qPrintable(second->lastError());
     first = RunningProgram::create(QStringLiteral("org.example.Test"));
     EXPECT_EQ(askMeanwhile(*first, "who"), "new");
+}
+
+TEST_F(RunningProgramTest, AnswersBeforeItDoesWhatTurnsTheEventLoop) {
+    ASSERT_TRUE(first->acquire());
+    bool answered = false;
+    bool done = false;
+    ASSERT_TRUE(first->listen([&](const QByteArray&) {
+        return RunningProgram::Reply("ok", [&] {
+            // A dialog: it stands until the caller has its answer and has hung up.
+            EXPECT_TRUE(waitFor([&] { return answered; }, 10000));
+            done = true;
+        });
+    }));
+    QByteArray answer;
+    std::thread asking([&] {
+        if (!second->ask("start-stop", answer))
+            answer = "(nobody)";
+        Platform::MainQueue::post([&] { answered = true; });
+    });
+    EXPECT_TRUE(waitFor([&] { return done; }));
+    asking.join();
+    EXPECT_EQ(answer, "ok");
+}
+
+TEST_F(RunningProgramTest, DoesWhatItAnsweredBeforeTheNextRequest) {
+    ASSERT_TRUE(first->acquire());
+    QByteArray heard;
+    ASSERT_TRUE(first->listen([&](const QByteArray& request) {
+        heard += request;
+        return RunningProgram::Reply(heard, [&heard] { heard += '!'; });
+    }));
+    std::atomic<bool> done{false};
+    QByteArrayList answers;
+    std::thread asking([&] {
+        QLocalSocket socket;
+        socket.connectToServer(dir.filePath(QStringLiteral("org.example.Test.socket")));
+        EXPECT_TRUE(socket.waitForConnected());
+        socket.write("a\nb\nc\n"); // all at once
+        socket.waitForBytesWritten();
+        while (answers.size() < 3 && (socket.canReadLine() || socket.waitForReadyRead(10000)))
+            while (socket.canReadLine())
+                answers.append(socket.readLine().trimmed());
+        done = true;
+    });
+    EXPECT_TRUE(waitFor([&] { return done.load(); }));
+    asking.join();
+    EXPECT_EQ(answers, (QByteArrayList{"a", "a!b", "a!b!c"}));
+    EXPECT_TRUE(waitFor([&] { return heard == "a!b!c!"; }));
 }

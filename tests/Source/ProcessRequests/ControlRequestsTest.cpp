@@ -21,6 +21,14 @@ protected:
         requests = std::make_unique<ControlRequests>(*controller, library.get());
     }
 
+    /// The answer, after what follows it was done.
+    QByteArray ask(const QByteArray& request) {
+        const auto reply = requests->answer(request);
+        if (reply.afterwards)
+            reply.afterwards();
+        return reply.line;
+    }
+
     std::unique_ptr<MediaLibrary> library;
     std::unique_ptr<ControlRequests> requests;
 };
@@ -29,36 +37,36 @@ protected:
 
 TEST_F(ControlRequestsTest, StartsAndStops) {
     EXPECT_EQ(requests->status().value(u"state"_s), u"idle"_s);
-    EXPECT_EQ(requests->answer("start-stop"), "ok");
+    EXPECT_EQ(ask("start-stop"), "ok");
     EXPECT_EQ(requests->status().value(u"state"_s), u"recording"_s);
-    EXPECT_EQ(requests->answer("start-stop\n"), "ok");
+    EXPECT_EQ(ask("start-stop\n"), "ok");
     EXPECT_EQ(requests->status().value(u"state"_s), u"idle"_s);
 }
 
 TEST_F(ControlRequestsTest, RefusesWhatTheButtonsWouldRefuse) {
-    EXPECT_EQ(requests->answer("pause-resume"), "failed nothing is being recorded");
-    EXPECT_EQ(requests->answer("split"), "failed nothing is being recorded");
+    EXPECT_EQ(ask("pause-resume"), "failed nothing is being recorded");
+    EXPECT_EQ(ask("split"), "failed nothing is being recorded");
     controller->chooseRecordBuiltIn(false);
-    EXPECT_EQ(requests->answer("start-stop"), "failed there is no source to record");
+    EXPECT_EQ(ask("start-stop"), "failed there is no source to record");
     EXPECT_FALSE(controller->isStateAudioRecord());
-    EXPECT_EQ(requests->answer("rm -rf"), "failed unknown request");
-    EXPECT_EQ(requests->answer(""), "failed unknown request");
+    EXPECT_EQ(ask("rm -rf"), "failed unknown request");
+    EXPECT_EQ(ask(""), "failed unknown request");
 }
 
 TEST_F(ControlRequestsTest, PausesAndSplits) {
-    (void)requests->answer("start-stop");
+    (void)ask("start-stop");
     play(Microphone, 0.5F, 6);
-    EXPECT_EQ(requests->answer("pause-resume"), "ok");
+    EXPECT_EQ(ask("pause-resume"), "ok");
     EXPECT_EQ(requests->status().value(u"state"_s), u"paused"_s);
-    EXPECT_EQ(requests->answer("pause-resume"), "ok");
-    EXPECT_EQ(requests->answer("split"), "ok");
+    EXPECT_EQ(ask("pause-resume"), "ok");
+    EXPECT_EQ(ask("split"), "ok");
     ASSERT_TRUE(queueDone());
     EXPECT_EQ(delegate.paths, QStringList{track(0)});
 }
 
 TEST_F(ControlRequestsTest, TheStatusIsOneLineOfJson) {
     QByteArray rest;
-    const QByteArray answer = requests->answer("status");
+    const QByteArray answer = ask("status");
     EXPECT_FALSE(answer.contains('\n'));
     ASSERT_TRUE(ControlRequests::isOk(answer, rest));
     EXPECT_TRUE(rest.contains("\"state\":\"idle\"")) << rest.constData();
@@ -71,22 +79,22 @@ TEST_F(ControlRequestsTest, TakesARecordingOfASubcommandIntoTheLibrary) {
     tags.insert(AudioRecordEntry::Length, 7.5);
     const QByteArray request = ControlRequests::libraryAdd(u"/music/ä %1.m4a"_s, tags);
     EXPECT_FALSE(request.contains('\n'));
-    EXPECT_EQ(requests->answer(request), "ok");
+    EXPECT_EQ(ask(request), "ok");
     ASSERT_EQ(library->records().size(), 1);
     const Dictionary entry = library->records().front().toMap();
     EXPECT_EQ(entry.value(AudioRecordEntry::SavePath), u"/music/ä %1.m4a"_s);
     EXPECT_EQ(entry.value(AudioRecordEntry::Title), u"Träck \"0\"\n"_s);
     EXPECT_DOUBLE_EQ(entry.value(AudioRecordEntry::Length).toDouble(), 7.5);
     EXPECT_TRUE(entry.value(AudioRecordEntry::NodeDataKey).toString().startsWith(u"/music/ä %1.m4a_"_s));
-    EXPECT_EQ(requests->answer("library-add {}"), "failed there is no path");
-    EXPECT_EQ(requests->answer("library-add {{{"), "failed there is no path");
+    EXPECT_EQ(ask("library-add {}"), "failed there is no path");
+    EXPECT_EQ(ask("library-add {{{"), "failed there is no path");
 }
 
 TEST_F(ControlRequestsTest, AddsARecordingUnderTheIdentityThatItComesWith) {
     Dictionary tags{{AudioRecordEntry::NodeDataKey, u"its own"_s}, {AudioRecordEntry::IsNew, true}};
     for (const QString& title : {u"first"_s, u"second"_s}) {
         tags.insert(AudioRecordEntry::Title, title);
-        EXPECT_EQ(requests->answer(ControlRequests::libraryAdd(u"/music/a.m4a"_s, tags)), "ok");
+        EXPECT_EQ(ask(ControlRequests::libraryAdd(u"/music/a.m4a"_s, tags)), "ok");
         ASSERT_EQ(library->records().size(), 1);
         EXPECT_EQ(library->records().front().toMap().value(AudioRecordEntry::NodeDataKey), u"its own"_s);
         EXPECT_EQ(library->records().front().toMap().value(AudioRecordEntry::Title), title);
@@ -94,7 +102,7 @@ TEST_F(ControlRequestsTest, AddsARecordingUnderTheIdentityThatItComesWith) {
     EXPECT_EQ(library->currentNewArray(), QStringList{u"its own"_s});
     for (const QVariant& none : {QVariant(QString()), QVariant(QVariantList{1})}) {
         tags.insert(AudioRecordEntry::NodeDataKey, none);
-        EXPECT_EQ(requests->answer(ControlRequests::libraryAdd(u"/music/b.m4a"_s, tags)), "ok");
+        EXPECT_EQ(ask(ControlRequests::libraryAdd(u"/music/b.m4a"_s, tags)), "ok");
         const QString made = library->records().front().toMap().value(AudioRecordEntry::NodeDataKey).toString();
         EXPECT_TRUE(made.startsWith(u"/music/b.m4a_"_s)) << qPrintable(made);
     }
@@ -103,11 +111,23 @@ TEST_F(ControlRequestsTest, AddsARecordingUnderTheIdentityThatItComesWith) {
 TEST_F(ControlRequestsTest, TakesUpWhatOthersStoredBeforeItAdds) {
     const Dictionary theirs{{AudioRecordEntry::NodeDataKey, u"theirs"_s}};
     defaults.setObject(PreferenceStore::kMediaLibrarySavedKey, MediaLibraryStore::value({theirs}, {}));
-    EXPECT_EQ(requests->answer(ControlRequests::libraryAdd(u"/music/a.m4a"_s, {})), "ok");
+    EXPECT_EQ(ask(ControlRequests::libraryAdd(u"/music/a.m4a"_s, {})), "ok");
     ASSERT_EQ(library->records().size(), 2);
     EXPECT_EQ(library->records().last(), theirs);
 }
 
 TEST_F(ControlRequestsTest, HandsRemovalsToTheLibrary) {
-    EXPECT_TRUE(requests->answer("library-remove {}").contains("problem"));
+    EXPECT_TRUE(ask("library-remove {}").contains("problem"));
+}
+
+TEST_F(ControlRequestsTest, TheButtonsCommandsBeginAfterTheirAnswer) {
+    const auto start = requests->answer("start-stop");
+    EXPECT_EQ(start.line, "ok");
+    EXPECT_EQ(requests->status().value(u"state"_s), u"idle"_s);
+    start.afterwards();
+    EXPECT_EQ(requests->status().value(u"state"_s), u"recording"_s);
+    const auto pause = requests->answer("pause-resume");
+    EXPECT_EQ(requests->status().value(u"state"_s), u"recording"_s);
+    pause.afterwards();
+    EXPECT_EQ(requests->status().value(u"state"_s), u"paused"_s);
 }

@@ -196,3 +196,14 @@ TEST_F(RecordSourcesTest, AHeadsetOnUsbIsWarnedOf) {
     EXPECT_EQ(alerts.shown.front().buttons, QStringList{u"OK"_s});
     EXPECT_TRUE(hardware.unitOf(ComputerAudio));
 }
+
+TEST_F(RecordSourcesTest, AHeadsetIsNotWarnedOfInsideADeviceEvent) {
+    addOutput(Speakers, u"headset"_s, u"USB"_s);
+    addMicrophone();
+    begin();
+    addComputerAudio();
+    Q_EMIT hardware.devicesChanged();
+    EXPECT_TRUE(hardware.unitOf(ComputerAudio)) << "the event is handled";
+    EXPECT_TRUE(alerts.shown.isEmpty()) << "a dialog would turn the event loop within it";
+    EXPECT_TRUE(waitFor([this] { return alerts.shown.size() == 1; }));
+}

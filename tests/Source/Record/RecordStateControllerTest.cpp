@@ -498,7 +498,7 @@ TEST_F(RecordStateControllerTest, NoRecordingBeginsWhileTheLastFilesAreFinished)
     QByteArray answer;
     Platform::MainQueue::post([&] {
         couldStart = controller->isStateAudioCanStartRecord();
-        answer = ControlRequests(*controller).answer("start-stop");
+        answer = ControlRequests(*controller).answer("start-stop").line;
         controller->startAndStopRecord();
     });
     controller->finishAll();
