@@ -7,6 +7,7 @@
 #include "CommandLine/DriverCommand.h"
 #include "CommandLine/LibraryCommand.h"
 #include "CommandLine/RecordCommand.h"
+#include "CommandLine/RingtoneCommand.h"
 #include "CommandLine/TagCommand.h"
 
 namespace CommandLine {
@@ -20,7 +21,7 @@ Commands byName(std::initializer_list<const Command*> commands) {
 
 const Commands& plainCommands() {
     static const Commands plain = byName({&controlCommand, &convertCommand, &devicesCommand, &driverCommand,
-                                          &libraryCommand, &recordCommand, &tagCommand});
+                                          &libraryCommand, &recordCommand, &ringtoneCommand, &tagCommand});
     return plain;
 }
 

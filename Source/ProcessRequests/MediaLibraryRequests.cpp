@@ -20,9 +20,42 @@ namespace {
 
 const QByteArray removeWord = "library-remove ";
 const QByteArray retagWord = "library-retag ";
+const QByteArray addRingtoneWord = "library-add-ringtone ";
 
 QByteArray line(const QJsonDocument& document) {
     return document.toJson(QJsonDocument::Compact); // new-lines inside texts are escaped
+}
+
+QByteArray storedLine(bool stored) {
+    return line(QJsonDocument(QJsonObject{{u"stored"_s, stored}}));
+}
+
+std::optional<bool> storedOf(const QByteArray& answer) {
+    const QJsonValue stored = QJsonDocument::fromJson(answer)[u"stored"_s];
+    return stored.isBool() ? std::optional(stored.toBool()) : std::nullopt;
+}
+
+/// A file and its values, as retagRequest() and addRingtoneRequest() write them.
+struct FileValues {
+    QString path; ///< empty when the request names no absolute one
+    Dictionary values;
+};
+
+QByteArray fileRequest(const QByteArray& word, const QString& path, const Dictionary& values) {
+    // The window may have another working folder.
+    const QJsonObject object{{u"path"_s, QFileInfo(path).absoluteFilePath()},
+                             {u"values"_s, QJsonObject::fromVariantMap(values)}};
+    return word + line(QJsonDocument(object));
+}
+
+FileValues fileValuesOf(const QByteArray& document) {
+    const QJsonDocument asked = QJsonDocument::fromJson(document);
+    FileValues result{asked[u"path"_s].toString(), asked[u"values"_s].toObject().toVariantMap()};
+    if (!QFileInfo(result.path).isAbsolute())
+        result.path.clear();
+    if (const auto year = result.values.find(AudioRecordEntry::Year); year != result.values.end())
+        *year = year->toInt(); // JSON has one kind of number
+    return result;
 }
 
 QStringList texts(const QJsonValue& array) {
@@ -101,27 +134,36 @@ std::optional<Removal> removalOf(const QByteArray& answer) {
 }
 
 QByteArray retagRequest(const QString& path, const Dictionary& values) {
-    // The window may have another working folder.
-    const QJsonObject object{{u"path"_s, QFileInfo(path).absoluteFilePath()},
-                             {u"values"_s, QJsonObject::fromVariantMap(values)}};
-    return retagWord + line(QJsonDocument(object));
+    return fileRequest(retagWord, path, values);
 }
 
 std::optional<bool> retaggingOf(const QByteArray& answer) {
-    const QJsonValue stored = QJsonDocument::fromJson(answer)[u"stored"_s];
-    return stored.isBool() ? std::optional(stored.toBool()) : std::nullopt;
+    return storedOf(answer);
+}
+
+bool addRingtone(const QString& path, const Dictionary& tags) {
+    MediaLibrary& library = MediaLibrary::shareLibrary();
+    library.takeUpMediaLibraryList();
+    library.addRingtoneFile(MediaLibrary::entryForFile(path, tags));
+    return Platform::services().userDefaults->flush();
+}
+
+QByteArray addRingtoneRequest(const QString& path, const Dictionary& tags) {
+    return fileRequest(addRingtoneWord, path, tags);
+}
+
+std::optional<bool> addingOf(const QByteArray& answer) {
+    return storedOf(answer);
 }
 
 std::optional<QByteArray> answer(const QByteArray& request) {
-    if (request.startsWith(retagWord)) {
-        const QJsonDocument asked = QJsonDocument::fromJson(request.mid(retagWord.size()));
-        const QString path = asked[u"path"_s].toString();
-        if (!QFileInfo(path).isAbsolute())
+    for (const QByteArray& word : {retagWord, addRingtoneWord}) {
+        if (!request.startsWith(word))
+            continue;
+        const FileValues file = fileValuesOf(request.mid(word.size()));
+        if (file.path.isEmpty())
             return line(QJsonDocument(QJsonObject{{u"problem"_s, u"no path"_s}}));
-        Dictionary values = asked[u"values"_s].toObject().toVariantMap();
-        if (const auto year = values.find(AudioRecordEntry::Year); year != values.end())
-            *year = year->toInt(); // JSON has one kind of number
-        return line(QJsonDocument(QJsonObject{{u"stored"_s, retag(path, values)}}));
+        return storedLine(word == retagWord ? retag(file.path, file.values) : addRingtone(file.path, file.values));
     }
     if (!request.startsWith(removeWord))
         return std::nullopt;

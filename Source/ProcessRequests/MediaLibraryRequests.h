@@ -28,6 +28,10 @@ struct Removal {
 /// file's tags. Paths that lead to the same file are the same. @return whether what changed, if anything did, is stored
 [[nodiscard]] bool retag(const QString& path, const Dictionary& values);
 
+/// Adds a ringtone to the library of this process, as MediaLibrary::entryForFile() describes it. @return whether it is
+/// stored
+[[nodiscard]] bool addRingtone(const QString& path, const Dictionary& tags);
+
 [[nodiscard]] QByteArray removeRequest(const QStringList& keys);
 /// The running window's answer to a removeRequest(); nothing when it is none.
 [[nodiscard]] std::optional<Removal> removalOf(const QByteArray& answer);
@@ -35,6 +39,10 @@ struct Removal {
 [[nodiscard]] QByteArray retagRequest(const QString& path, const Dictionary& values);
 /// The running window's answer to a retagRequest(), as retag() has it; nothing when it is none.
 [[nodiscard]] std::optional<bool> retaggingOf(const QByteArray& answer);
+
+[[nodiscard]] QByteArray addRingtoneRequest(const QString& path, const Dictionary& tags);
+/// The running window's answer to an addRingtoneRequest(), as addRingtone() has it; nothing when it is none.
+[[nodiscard]] std::optional<bool> addingOf(const QByteArray& answer);
 
 /// Answers a request on the main thread of the window; nothing when it does not concern the library.
 [[nodiscard]] std::optional<QByteArray> answer(const QByteArray& request);

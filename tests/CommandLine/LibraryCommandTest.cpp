@@ -8,6 +8,8 @@
 #include "Source/Model/MediaLibraryStore.h"
 #include "Source/Preferences/PreferenceStore.h"
 #include "Source/ProcessRequests/MediaLibraryRequests.h"
+#include "tests/Platform/Media/MediaTestSupport.h"
+#include "tests/fakes/FakeClock.h"
 #include "tests/support/Environment.h"
 #include "tests/support/Mpeg4Files.h"
 #include "tests/support/WaitFor.h"
@@ -274,4 +276,24 @@ TEST_F(LibraryCommandBesideAWindow, LetsItShowTheTagsOfWhatAnotherProcessStored)
     EXPECT_EQ(inserted.count(), 1);
     EXPECT_EQ(listed()[u"records"_s].toArray().size(), 2);
     EXPECT_EQ(listed()[u"records"_s][0][u"title"_s], u"new"_s);
+}
+
+TEST_F(LibraryCommandBesideAWindow, LetsItAddTheRingtoneThatWasMade) {
+    const Dictionary song = entry(u"Track 1.m4a"_s);
+    const QString path = song.value(AudioRecordEntry::SavePath).toString();
+    MediaTest::writeFile(path, kAudioFileM4AType, MediaTest::tones(7 * 44100));
+    open({song});
+    FakeClock clock;
+    Platform::services().clock = &clock;
+    const QSignalSpy inserted(&shared_, &MediaLibrary::entryInserted);
+    const auto before = shared_.ringtones().size();
+    const QString made =
+        QString::fromLocal8Bit(ask({u"ringtone"_s, path, u"--from"_s, u"1"_s, u"--to"_s, u"6"_s}).trimmed());
+    ASSERT_EQ(shared_.ringtones().size(), before + 1);
+    const Dictionary ringtone = shared_.ringtones().first().toMap();
+    EXPECT_EQ(ringtone.value(AudioRecordEntry::SavePath).toString(), made);
+    EXPECT_EQ(ringtone.value(AudioRecordEntry::Title).toString(), u"Title of Track 1.m4a"_s);
+    EXPECT_EQ(ringtone.value(AudioRecordEntry::Length).toDouble(), 5);
+    EXPECT_EQ(inserted.count(), 2) << "in the list of the new ones and in that of all";
+    EXPECT_EQ(shared_.records(), QVariantList{song});
 }

@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CommandLine/RingtoneCommand.h"
+
+#include "CommandLine/Arguments.h"
+#include "CommandLine/Interrupt.h"
+#include "CommandLine/ProgressBar.h"
+#include "Platform/Foundation/Bundle.h"
+#include "Platform/Foundation/Clock.h"
+#include "Platform/Foundation/Services.h"
+#include "Platform/Foundation/TemporaryFolder.h"
+#include "Platform/Media/BasicID3Change.h"
+#include "Platform/Media/ExtAudioFile.h"
+#include "RingtoneMaker/RingtoneFile.h"
+#include "Source/Control/ConverterAudioControl.h"
+#include "Source/Model/AudioRecordEntry.h"
+#include "Source/Model/MediaLibrary.h"
+#include "Source/Preferences/PreferenceStore.h"
+#include "Source/ProcessRequests/MediaLibraryRequests.h"
+#include "Source/Record/RecordingNames.h"
+
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using namespace Qt::StringLiterals;
+
+namespace CommandLine {
+namespace {
+
+/// The library's entry of the file; empty when it has none.
+Dictionary entryOf(const QString& path) {
+    const QString real = QFileInfo(path).canonicalFilePath();
+    const MediaLibrary& library = MediaLibrary::shareLibrary();
+    for (const QVariantList* entries : {&library.records(), &library.ringtones()})
+        for (const QVariant& object : *entries) {
+            const Dictionary entry = object.toMap();
+            const QFileInfo file(entry.value(AudioRecordEntry::SavePath).toString());
+            // The disk is asked only where the names agree.
+            if (file.filePath() == path ||
+                (file.fileName() == QFileInfo(real).fileName() && file.canonicalFilePath() == real))
+                return entry;
+        }
+    return {};
+}
+
+/// What is known of a file that the library does not have: its own tags, its name, today.
+Dictionary tagsOf(const QString& path) {
+    const auto tags = Platform::BasicID3Change::read(path).value_or(Platform::BasicID3Change::Tags());
+    const auto orElse = [](const QString& text, const QString& otherwise) { return text.isEmpty() ? otherwise : text; };
+    return {{AudioRecordEntry::Title, orElse(tags.title, QFileInfo(path).completeBaseName())},
+            {AudioRecordEntry::Artist, orElse(tags.artist, u"NO Artist"_s)},
+            {AudioRecordEntry::Album, orElse(tags.album, u"NO Album"_s)},
+            {AudioRecordEntry::Year, tags.year},
+            {AudioRecordEntry::Genre, tags.genre},
+            {AudioRecordEntry::AddDate, Platform::services().clock->now().toString(u"yyyy/MM/dd"_s)}};
+}
+
+/// @return what went wrong; empty when nothing did
+QString tellLibrary(const QString& path, const Dictionary& tags) {
+    std::optional<bool> stored;
+    if (const auto answer = askWindow(MediaLibraryRequests::addRingtoneRequest(path, tags))) {
+        stored = MediaLibraryRequests::addingOf(*answer);
+        if (!stored)
+            return u"%1 is made, but the running program does not understand: it is of another version"_s.arg(path);
+    } else {
+        stored = MediaLibraryRequests::addRingtone(path, tags);
+    }
+    return *stored ? QString() : u"%1 is made, but the library could not be saved"_s.arg(path);
+}
+
+int make(RingtoneFile::Task task, bool json) {
+    Platform::AudioFileInfo info;
+    Platform::MediaError error;
+    if (!Platform::services().mediaFiles->info(task.source, info, error))
+        return fail(error.text);
+    if (double(task.to) > info.seconds + 0.001)
+        return fail(u"%1: it ends at second %2, --to is %3"_s.arg(task.source, QString::number(info.seconds),
+                                                                  QString::number(double(task.to))));
+
+    QString why;
+    const auto temporary =
+        Platform::TemporaryFolder::create(Platform::services().bundle->bundleIdentifier() + u".ringtone"_s, why);
+    if (!temporary)
+        return fail(why);
+    task.temporaryFolder = temporary->path();
+    task.target = RecordingNames::nextRingtoneMakerFilePath(
+        PreferenceStore::preferenceValueForKey(PreferenceStore::PreferenceRingtoneSavePathKey,
+                                               PreferenceStore::defaultMusicFolder())
+            .toString());
+
+    const Interrupt interrupt;
+    RingtoneFile::Result result;
+    {
+        ProgressBar bar(QFileInfo(task.target).fileName());
+        ConverterAudioControl converter;
+        result = RingtoneFile::write(converter, task, [&bar](double share) {
+            bar.show(share);
+            return !Interrupt::requested();
+        });
+    }
+    if (result.path.isEmpty())
+        return fail(result.problem.isEmpty() ? u"stopped before the end: no ringtone was made"_s : result.problem);
+
+    const float seconds = task.to - task.from;
+    Dictionary recording = entryOf(task.source);
+    if (recording.isEmpty())
+        recording = tagsOf(task.source);
+    const Dictionary tags = RingtoneFile::tags(recording, result.path, seconds);
+    if (const QString problem = tellLibrary(result.path, tags); !problem.isEmpty())
+        return fail(problem);
+    if (!result.damage.isEmpty())
+        fail(u"the source is damaged, the ringtone is silent where it could not be read: %1"_s.arg(result.damage));
+    if (json) {
+        const QJsonObject document{{u"path"_s, result.path},
+                                   {u"title"_s, Platform::stringForm(tags.value(AudioRecordEntry::Title))},
+                                   {u"seconds"_s, double(seconds)}};
+        print(QString::fromUtf8(QJsonDocument(document).toJson().trimmed()));
+    } else {
+        print(result.path);
+    }
+    return Done;
+}
+
+int run(const QStringList& given) {
+    Arguments arguments(given, ringtoneCommand);
+    RingtoneFile::Task task;
+    task.from = float(arguments.seconds(u"from"_s, 0));
+    task.to = float(arguments.seconds(u"to"_s, 0));
+    task.fadeIn = float(arguments.seconds(u"fade-in"_s, RingtoneFile::kFadeSeconds));
+    task.fadeOut = float(arguments.seconds(u"fade-out"_s, RingtoneFile::kFadeSeconds));
+    if (!arguments.problem().isEmpty())
+        return wrongUsage(ringtoneCommand, arguments.problem());
+    if (arguments.positional().size() != 1)
+        return wrongUsage(ringtoneCommand, u"ringtone takes one file"_s);
+    if (!arguments.isSet(u"from"_s) || !arguments.isSet(u"to"_s))
+        return wrongUsage(ringtoneCommand, u"ringtone needs --from and --to"_s);
+    if (task.to <= task.from)
+        return wrongUsage(ringtoneCommand, u"--to does not lie behind --from"_s);
+    task.source = QFileInfo(arguments.positional().first()).absoluteFilePath();
+    return make(task, arguments.isSet(u"json"_s));
+}
+
+} // namespace
+
+const Command ringtoneCommand{
+    "ringtone",
+    "FILE",
+    "make a ringtone of a stretch of a recording and add it to the library",
+    {{"from", "S", "Begin at second S of the recording."},
+     {"to", "S", "End at second S of the recording."},
+     {"fade-in", "S", "Fade in over S seconds; a fade shorter than one second is left out.", "5"},
+     {"fade-out", "S", "Fade out over S seconds; a fade shorter than one second is left out.", "5"},
+     kJsonOption},
+    {{"ringtone a.m4a --from 10 --to 40", "Make a ringtone of this half minute."}},
+    run};
+
+} // namespace CommandLine
