@@ -4,6 +4,7 @@
 
 #include "Platform/Desktop/SleepInhibitor.h"
 #include "Platform/Foundation/Services.h"
+#include "Source/Control/EditNote.h"
 #include "Source/HotKey/HotKeyRegister.h"
 #include "Source/HotKey/KeybordShortcutTextView.h"
 #include "Source/Model/MediaLibrary.h"
@@ -13,11 +14,15 @@
 #include "Source/View/QtPanels.h"
 #include "Source/View/Theme.h"
 #include "Source/WndController/ComputerAudioDevice.h"
+#include "Source/WndController/EditWindows.h"
+#include "Source/WndController/LibraryPresenter.h"
 #include "Source/WndController/MainWndController.h"
 #include "Source/WndController/PreferenceWndController.h"
 #include "Source/WndController/StatusBarItem.h"
 
 #include <QApplication>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace {
 
@@ -48,7 +53,9 @@ public:
                                                                          AppDelegate& application) override {
         record_ = std::make_unique<RecordStateController>();
         record_->awakeFromNib();
+        EditNote::recover(); // before the window shows what the library says
         auto window = std::make_unique<MainWndController>(*record_, MediaLibrary::shareLibrary());
+        new EditWindows(*window, window.get());
         QObject::connect(window.get(), &MainWndController::perference, &application,
                          [&application] { application.perference(); });
         QObject::connect(window.get(), &MainWndController::support, &application,
@@ -94,8 +101,14 @@ public:
         static_cast<PreferenceWndController&>(preferences).insertTheSystemAudioRecordDevice();
     }
 
-    Platform::RunningProgram::Reply answer(AppDelegate::WindowController& /*mainWindow*/,
+    Platform::RunningProgram::Reply answer(AppDelegate::WindowController& mainWindow,
                                            const QByteArray& request) override {
+        const LibraryPresenter& library = static_cast<MainWndController&>(mainWindow).library();
+        if (request == "playing") // {"path": P}, of the file that the window plays now, if any
+            return "ok " +
+                   QJsonDocument(QJsonObject{{QStringLiteral("path"),
+                                              library.isPlaySoundPlaying() ? library.playingPath() : QString()}})
+                       .toJson(QJsonDocument::Compact);
         return ControlRequests(*record_).answer(request);
     }
 

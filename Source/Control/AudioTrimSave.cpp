@@ -63,7 +63,8 @@ QString convert(ConverterAudioControl& converter, const Task& task, const QStrin
 
 QString exportPath(const QString& path) {
     const QFileInfo info(path);
-    return info.path() + u'/' + info.completeBaseName() + u".m4a"_s;
+    const QString name = info.completeBaseName();
+    return info.path() + u'/' + (name.isEmpty() ? info.fileName() : name) + u".m4a"_s;
 }
 
 QString refusal(const QString& source, double from, double to) {

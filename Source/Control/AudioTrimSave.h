@@ -17,12 +17,12 @@ namespace AudioTrimSave {
 inline constexpr double kShortestRange = 0.1;
 
 struct Task {
-    QString source;      ///< the recording
-    QString exportPath;  ///< the file to be written; see exportPath()
-    float from = 0;      ///< seconds of the source
-    float to = 0;        ///< seconds of the source, more than from
-    Dictionary entry;    ///< the tags that the result gets
-    QString artworkPath; ///< picture for the cover; empty: the cover of the source, or the default one
+    QString source;       ///< the recording
+    QString exportPath;   ///< the file to be written; see exportPath()
+    float from = 0;       ///< seconds of the source
+    float to = 0;         ///< seconds of the source, more than from
+    Dictionary entry;     ///< the tags that the result gets
+    QString artworkPath;  ///< picture for the cover; empty: the cover of the source, or the default one
     bool replace = false; ///< whether a file at exportPath is replaced; otherwise it is kept and nothing is written
 };
 

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 namespace RecordingRename {
 namespace {
 
-constexpr int kLongestName = 255;  ///< bytes, on every usual file system
+constexpr int kLongestName = 255;    ///< bytes, on every usual file system
 constexpr int kShownCharacters = 40; ///< of a name within a sentence
 
 QString shown(const QString& name) {

@@ -4,7 +4,8 @@
 
 #include <QString>
 
-/// Names a recording's file after its title. A rename never overwrites and never leaves the folder. Any thread, blocking.
+/// Names a recording's file after its title. A rename never overwrites and never leaves the folder. Any thread,
+/// blocking.
 namespace RecordingRename {
 
 /// The file's path with the title in place of its name; folder and ending stay. The title is not checked.

@@ -10,5 +10,7 @@ public:
     void chooseFolder(QObject* window, const QString& prompt, const QString& startFolder, Chosen done) override;
     std::optional<QString> chooseFile(QObject* window, const QString& title, const QString& startFolder,
                                       const QString& filter) override;
-    std::optional<QString> saveFile(QObject* window, const QString& title, const QString& startPath) override;
+    using Panels::saveFile;
+    std::optional<QString> saveFile(QObject* window, const QString& title, const QString& startPath,
+                                    Existing existing) override;
 };
