@@ -21,9 +21,9 @@ Commands byName(std::initializer_list<const Command*> commands) {
 }
 
 const Commands& plainCommands() {
-    static const Commands plain = byName({&controlCommand, &convertCommand, &devicesCommand, &driverCommand,
-                                          &libraryCommand, &recordCommand, &ringtoneCommand, &tagCommand,
-                                          &trimCommand});
+    static const Commands plain =
+        byName({&controlCommand, &convertCommand, &devicesCommand, &driverCommand, &libraryCommand, &recordCommand,
+                &ringtoneCommand, &tagCommand, &trimCommand});
     return plain;
 }
 
