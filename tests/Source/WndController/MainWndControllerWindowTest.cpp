@@ -510,8 +510,8 @@ TEST_F(MainWindow, TheConvertingNoticeStaysForWorkThatLasts) {
     feed(0.5F);
     feed(0.5F, WindowWorld::kComputer);
     world.click("btnSatrtRecord_");
-    EXPECT_TRUE(waitFor([&] { return tip.isVisible(); }));
-    EXPECT_TRUE(tip.text().startsWith(u"         Audio File Converting\n         Please Wait "_s));
+    const QString text = u"         Audio File Converting\n         Please Wait "_s;
+    EXPECT_TRUE(waitFor([&] { return tip.isVisible() && tip.text().startsWith(text); }));
     files.holdMix = false;
     EXPECT_TRUE(waitFor([&] { return world.record->jobsInQueue() == 0 && !tip.isVisible(); }));
 }
