@@ -9,7 +9,6 @@
 #include "CommandLine/RecordCommand.h"
 #include "CommandLine/RingtoneCommand.h"
 #include "CommandLine/TagCommand.h"
-#include "CommandLine/TrimCommand.h"
 
 namespace CommandLine {
 
@@ -21,9 +20,8 @@ Commands byName(std::initializer_list<const Command*> commands) {
 }
 
 const Commands& plainCommands() {
-    static const Commands plain =
-        byName({&controlCommand, &convertCommand, &devicesCommand, &driverCommand, &libraryCommand, &recordCommand,
-                &ringtoneCommand, &tagCommand, &trimCommand});
+    static const Commands plain = byName({&controlCommand, &convertCommand, &devicesCommand, &driverCommand,
+                                          &libraryCommand, &recordCommand, &ringtoneCommand, &tagCommand});
     return plain;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <optional>
@@ -19,20 +20,15 @@ public:
     /// A sheet that picks one existing folder (new ones may be made in it, links are resolved). @p window is the window
     /// it belongs to; @p done is called once, with nothing on Cancel.
     virtual void chooseFolder(QObject* window, const QString& prompt, const QString& startFolder, Chosen done) = 0;
+    /// A sheet that picks any number of existing files and folders (links are resolved). @p done is called once, with
+    /// nothing on Cancel.
+    virtual void chooseFilesAndFolders(QObject* window, const QString& prompt, const QString& startFolder,
+                                       std::function<void(QStringList paths)> done) = 0;
     /// A modal panel that picks one existing file; the filter reads "Images (*.png *.jpg)".
     virtual std::optional<QString> chooseFile(QObject* window, const QString& title, const QString& startFolder,
                                               const QString& filter) = 0;
-    /// What the save panel does with the name of a file that exists.
-    enum class Existing {
-        Asked,  ///< it asks before the name is taken
-        Unasked ///< the name is taken: the caller decides
-    };
-    /// A modal panel that names a file to write.
-    virtual std::optional<QString> saveFile(QObject* window, const QString& title, const QString& startPath,
-                                            Existing existing) = 0;
-    std::optional<QString> saveFile(QObject* window, const QString& title, const QString& startPath) {
-        return saveFile(window, title, startPath, Existing::Asked);
-    }
+    /// A modal panel that names a file to write; it asks before an existing one is taken.
+    virtual std::optional<QString> saveFile(QObject* window, const QString& title, const QString& startPath) = 0;
 };
 
 } // namespace Platform

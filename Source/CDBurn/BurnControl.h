@@ -4,6 +4,7 @@
 
 #include "Platform/Disc/DiscRecording.h"
 #include "Platform/Foundation/Dictionary.h"
+#include "Source/CDBurn/TrackEntry.h"
 
 #include <QObject>
 #include <QStringList>
@@ -30,16 +31,6 @@ inline const QString BurnControlDevicesDidChangeNotification = QStringLiteral("D
 
 /// Key of the user info of the progress notifications.
 inline const QString kBurnProgressKey = QStringLiteral("burnprogress");
-
-/// A track entry: what the track list knows of one audio file.
-namespace TrackEntry {
-inline const QString FilePath = QStringLiteral("FilePath");             ///< text: the file's path
-inline const QString FileName = QStringLiteral("FileName");             ///< text: last component of the path
-inline const QString FileTimeLong = QStringLiteral("FileTimeLong");     ///< 64-bit integer: whole seconds plus one
-inline const QString FileSize = QStringLiteral("FileSize");             ///< float: estimated megabytes on the disc
-inline const QString ChooseTheAudio = QStringLiteral("ChooseTheAudio"); ///< truth value: ticked for burning
-inline const QString NumberForMusic = QStringLiteral("NumberForMusic"); ///< integer: the row, from 0
-} // namespace TrackEntry
 
 /// The one object through which a window or a command talks to the disc drive. Notifications are posted with the
 /// process's notification centre. Main thread.

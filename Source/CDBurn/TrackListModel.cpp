@@ -25,6 +25,13 @@ void tidy(QList<int>& rows, qsizetype count) {
 
 } // namespace
 
+TrackListModel::TrackListModel(QObject* parent) : QAbstractTableModel(parent) {
+    connect(&missing_, &MissingFiles::changed, this, [this] {
+        if (!entries_.isEmpty())
+            Q_EMIT dataChanged(index(0, 0), index(int(entries_.size()) - 1, kColumns - 1));
+    });
+}
+
 QString TrackListModel::identifier(int column) {
     switch (column) {
     case Choose:
@@ -159,8 +166,14 @@ QVariant TrackListModel::data(const QModelIndex& index, int role) const {
         if (index.column() != Choose)
             return {};
         return Platform::boolValue(objectValue(kChoose, index.row())) ? Qt::Checked : Qt::Unchecked;
-    case Qt::ToolTipRole:
-        return index.column() == AudioName ? child(index.row()).value(TrackEntry::FilePath) : QVariant();
+    case Qt::ToolTipRole: {
+        if (index.column() != AudioName)
+            return {};
+        const QString path = child(index.row()).value(TrackEntry::FilePath).toString();
+        return missing_.isMissing(path) ? tr("The file is no longer there.") + u'\n' + path : path;
+    }
+    case MissingRole:
+        return missing_.isMissing(child(index.row()).value(TrackEntry::FilePath).toString());
     case Qt::AccessibleTextRole:
         // The cell with the box is read out alone when the row's tick changes.
         return index.column() == Choose ? objectValue(kAudioName, index.row()) : QVariant();

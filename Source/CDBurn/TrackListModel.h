@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Platform/Foundation/Dictionary.h"
+#include "Source/Model/MissingFiles.h"
 
 #include <QAbstractTableModel>
 
@@ -13,8 +14,9 @@ class TrackListModel : public QAbstractTableModel {
 public:
     enum Column { Choose, AudioName, Time };
     static constexpr int kColumns = 3;
+    static constexpr int MissingRole = Qt::UserRole; ///< bool: the file is gone from the disk
 
-    using QAbstractTableModel::QAbstractTableModel;
+    explicit TrackListModel(QObject* parent = nullptr);
 
     /// "Choose", "Audio Name" or "Time".
     [[nodiscard]] static QString identifier(int column);
@@ -57,4 +59,5 @@ private:
     void forEachTicked(Use use) const;
 
     mutable QList<Dictionary> entries_; ///< asking for a row stamps its number into it
+    mutable MissingFiles missing_;      ///< asking for a path makes a worker look at it
 };

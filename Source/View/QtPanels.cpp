@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
+#include <algorithm>
 
 namespace {
 
@@ -23,6 +25,27 @@ std::optional<QString> runModal(QFileDialog& dialog) {
         return std::nullopt;
     return dialog.selectedFiles().first();
 }
+
+/// Takes folders as well as files. A folder's path that is typed is opened, as in any file dialog.
+class FilesAndFoldersDialog : public QFileDialog {
+public:
+    using QFileDialog::QFileDialog;
+
+protected:
+    void accept() override {
+        const QStringList chosen = selectedFiles();
+        const bool typed = qobject_cast<QLineEdit*>(focusWidget()) != nullptr;
+        const auto isFolder = [](const QString& path) { return QFileInfo(path).isDir(); };
+        const bool allThere =
+            std::ranges::all_of(chosen, [](const QString& path) { return QFileInfo::exists(path); });
+        if (chosen.isEmpty() || !allThere || (typed && chosen.size() == 1 && isFolder(chosen.first())) ||
+            std::ranges::none_of(chosen, isFolder)) {
+            QFileDialog::accept(); // says what is not there, or closes
+            return;
+        }
+        QDialog::accept();
+    }
+};
 
 } // namespace
 
@@ -44,6 +67,22 @@ void QtPanels::chooseFolder(QObject* window, const QString& prompt, const QStrin
     dialog->open();
 }
 
+void QtPanels::chooseFilesAndFolders(QObject* window, const QString& prompt, const QString& startFolder,
+                                     std::function<void(QStringList paths)> done) {
+    auto* dialog = new FilesAndFoldersDialog(parentFor(window), Qt::Sheet);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::ExistingFiles);
+    dialog->setLabelText(QFileDialog::Accept, prompt);
+    dialog->setWindowTitle(prompt);
+    dialog->setDirectory(startFolder);
+    QObject::connect(dialog, &QDialog::finished, dialog, [dialog, done = std::move(done)](int result) {
+        QStringList chosen = result == QDialog::Accepted ? dialog->selectedFiles() : QStringList();
+        std::ranges::transform(chosen, chosen.begin(), resolved);
+        done(chosen);
+    });
+    dialog->open();
+}
+
 std::optional<QString> QtPanels::chooseFile(QObject* window, const QString& title, const QString& startFolder,
                                             const QString& filter) {
     QFileDialog dialog(parentFor(window), title, startFolder, filter);
@@ -52,13 +91,11 @@ std::optional<QString> QtPanels::chooseFile(QObject* window, const QString& titl
     return path ? std::optional(resolved(*path)) : std::nullopt;
 }
 
-std::optional<QString> QtPanels::saveFile(QObject* window, const QString& title, const QString& startPath,
-                                          Existing existing) {
+std::optional<QString> QtPanels::saveFile(QObject* window, const QString& title, const QString& startPath) {
     const QFileInfo start(startPath);
     QFileDialog dialog(parentFor(window), title, start.absolutePath());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setOption(QFileDialog::DontConfirmOverwrite, existing == Existing::Unasked);
     dialog.setDefaultSuffix(start.suffix());
     dialog.selectFile(start.fileName());
     return runModal(dialog);

@@ -8,9 +8,9 @@
 class QtPanels : public Platform::Panels {
 public:
     void chooseFolder(QObject* window, const QString& prompt, const QString& startFolder, Chosen done) override;
+    void chooseFilesAndFolders(QObject* window, const QString& prompt, const QString& startFolder,
+                               std::function<void(QStringList paths)> done) override;
     std::optional<QString> chooseFile(QObject* window, const QString& title, const QString& startFolder,
                                       const QString& filter) override;
-    using Panels::saveFile;
-    std::optional<QString> saveFile(QObject* window, const QString& title, const QString& startPath,
-                                    Existing existing) override;
+    std::optional<QString> saveFile(QObject* window, const QString& title, const QString& startPath) override;
 };

@@ -11,10 +11,6 @@
 #include <QLocale>
 #include <QSignalBlocker>
 
-namespace {
-constexpr int kShortConversionMs = 500; // one tick of the display's clock
-} // namespace
-
 RecordPanel::RecordPanel(Ui::MainWnd& ui, RecordStateController& record, AudioWaveViewController& display,
                          QObject* parent)
     : QObject(parent), ui_(ui), record_(record), display_(display),
@@ -45,13 +41,6 @@ RecordPanel::RecordPanel(Ui::MainWnd& ui, RecordStateController& record, AudioWa
     connect(&record_, &RecordStateController::devicesChanged, this, &RecordPanel::showDevices);
     connect(&record_, &RecordStateController::noticesChanged, this, &RecordPanel::showNotices);
     connect(&record_, &RecordStateController::queueChanged, this, &RecordPanel::showFileConvertTipView);
-
-    conversion_.setSingleShot(true);
-    conversion_.setInterval(kShortConversionMs);
-    connect(&conversion_, &QTimer::timeout, this, [this] {
-        conversionLasts_ = true;
-        showFileConvertTipView();
-    });
 
     initToopTip();
     showDevices();
@@ -138,12 +127,6 @@ void RecordPanel::showNotices() {
 }
 
 void RecordPanel::showFileConvertTipView() {
-    // A recording of one source is finished within a few frames of the animation: its notice would only flash.
-    if (record_.jobsInQueue() == 0) {
-        conversion_.stop();
-        conversionLasts_ = false;
-    } else if (!conversionLasts_ && !conversion_.isActive()) {
-        conversion_.start();
-    }
-    fileConvertingTipView_->showFileConvertTipView(conversionLasts_, record_.fileConvertTip(), record_.jobProgress());
+    fileConvertingTipView_->showFileConvertTipView(record_.jobsInQueue() > 0, record_.fileConvertTip(),
+                                                   record_.jobProgress());
 }

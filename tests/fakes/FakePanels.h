@@ -14,20 +14,26 @@ public:
         startFolders.append(startFolder);
         done(answer);
     }
+    void chooseFilesAndFolders(QObject*, const QString& prompt, const QString& startFolder,
+                               std::function<void(QStringList paths)> done) override {
+        prompts.append(prompt);
+        startFolders.append(startFolder);
+        done(answers);
+    }
     std::optional<QString> chooseFile(QObject*, const QString& title, const QString& startFolder,
                                       const QString&) override {
         prompts.append(title);
         startFolders.append(startFolder);
         return answer;
     }
-    using Panels::saveFile;
-    std::optional<QString> saveFile(QObject*, const QString& title, const QString& startPath, Existing) override {
+    std::optional<QString> saveFile(QObject*, const QString& title, const QString& startPath) override {
         prompts.append(title);
         startFolders.append(startPath);
         return answer;
     }
 
     std::optional<QString> answer; ///< nothing is Cancel
+    QStringList answers;           ///< of a panel that picks any number
     QStringList prompts;
     QStringList startFolders;
 };

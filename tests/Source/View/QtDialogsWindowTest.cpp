@@ -6,9 +6,11 @@
 #include "tests/support/WaitFor.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QListView>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -111,6 +113,60 @@ TEST_F(QtDialogs, CancellingAFolderAnswersNothing) {
         ++answers;
     });
     ASSERT_TRUE(waitFor([&] { return answers == 1; }));
+}
+
+TEST_F(QtDialogs, FilesAndFoldersAreChosenTogether) {
+    ASSERT_TRUE(QDir(folder.path()).mkpath(u"album"_s));
+    for (const QString& name : {u"a.wav"_s, u"b.wav"_s})
+        ASSERT_TRUE(QFile(folder.filePath(name)).open(QIODevice::WriteOnly));
+    ASSERT_TRUE(QFile::link(folder.filePath(u"a.wav"_s), folder.filePath(u"link.wav"_s)));
+    const auto choose = [this](const QStringList& names) {
+        std::optional<QStringList> chosen;
+        whenShown<QFileDialog>(&window, [&](QFileDialog* dialog) {
+            EXPECT_EQ(dialog->labelText(QFileDialog::Accept), u"Select"_s);
+            EXPECT_EQ(dialog->fileMode(), QFileDialog::ExistingFiles);
+            auto* list = dialog->findChild<QAbstractItemView*>(u"listView"_s);
+            list->setFocus();
+            // The rows come from a worker of the dialog's own.
+            EXPECT_TRUE(waitFor([&] { return list->model()->rowCount(list->rootIndex()) == 4; }));
+            list->clearSelection();
+            for (int row = 0; row < 4; ++row) {
+                const QModelIndex index = list->model()->index(row, 0, list->rootIndex());
+                if (names.contains(index.data().toString()))
+                    list->selectionModel()->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+            }
+            dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open)->setFocus();
+            accept(dialog);
+        });
+        panels.chooseFilesAndFolders(&window, u"Select"_s, folder.path(),
+                                     [&chosen](const QStringList& paths) { chosen = paths; });
+        EXPECT_FALSE(chosen) << "a sheet does not block";
+        EXPECT_TRUE(waitFor([&] { return chosen.has_value(); }));
+        chosen->sort();
+        return *chosen;
+    };
+    const auto at = [this](const QString& name) { return QFileInfo(folder.filePath(name)).canonicalFilePath(); };
+    EXPECT_EQ(choose({u"a.wav"_s, u"b.wav"_s}), (QStringList{at(u"a.wav"_s), at(u"b.wav"_s)}));
+    EXPECT_EQ(choose({u"album"_s, u"b.wav"_s}), (QStringList{at(u"album"_s), at(u"b.wav"_s)}));
+    EXPECT_EQ(choose({u"album"_s}), QStringList{at(u"album"_s)});
+    EXPECT_EQ(choose({u"link.wav"_s}), QStringList{at(u"a.wav"_s)}) << "links are resolved";
+}
+
+TEST_F(QtDialogs, AFolderThatIsTypedIsOpened) {
+    ASSERT_TRUE(QDir(folder.path()).mkpath(u"album"_s));
+    std::optional<QStringList> chosen;
+    whenShown<QFileDialog>(&window, [&](QFileDialog* dialog) {
+        dialog->findChild<QLineEdit*>(u"fileNameEdit"_s)->setFocus();
+        enter(dialog, folder.filePath(u"album"_s));
+        accept(dialog);
+        EXPECT_TRUE(dialog->isVisible());
+        EXPECT_EQ(dialog->directory().dirName(), u"album"_s);
+        dialog->reject();
+    });
+    panels.chooseFilesAndFolders(&window, u"Select"_s, folder.path(),
+                                 [&chosen](const QStringList& paths) { chosen = paths; });
+    ASSERT_TRUE(waitFor([&] { return chosen.has_value(); }));
+    EXPECT_TRUE(chosen->isEmpty()) << "Cancel";
 }
 
 TEST_F(QtDialogs, AnExistingFileIsChosen) {

@@ -1,0 +1,228 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/CDBurn/CDBurnWndController.h"
+
+#include "Platform/Desktop/Panels.h"
+#include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/Services.h"
+#include "Source/CDBurn/BurnControl.h"
+#include "Source/CDBurn/BurnWindowFont.h"
+#include "Source/CDBurn/ProcessWndController.h"
+#include "Source/Control/ToolControl.h"
+#include "Source/View/EditDialog.h"
+#include "Source/View/NamedImages.h"
+#include "ui_CDBurnWnd.h"
+
+#include <QDialog>
+#include <QPointer>
+#include <algorithm>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kLayoutKey = QStringLiteral("CDBurnWndLayout");
+constexpr QSize kFirstSize(720, 480);
+constexpr int kBottomBorder = 30;
+constexpr int kWarningFont = 13;
+
+// What a free space of so many gigabytes is in the window's megabytes. The track list counts in its own, slightly larger
+// estimate, so the two go together as they are.
+int megabytes(float gigabytes) {
+    const float scaled = gigabytes * 1000;
+    constexpr auto most = std::numeric_limits<int>::max();
+    return scaled < float(most) ? int(std::max(scaled, 0.0F)) : most;
+}
+
+QList<QUrl> urls(const QStringList& paths) {
+    QList<QUrl> result;
+    for (const QString& path : paths)
+        result.append(QUrl::fromLocalFile(path));
+    return result;
+}
+
+} // namespace
+
+CDBurnWndController::CDBurnWndController(QWidget* mainWindow)
+    : window_(std::make_unique<EditDialog>(kLayoutKey, kFirstSize, mainWindow)),
+      ui_(std::make_unique<Ui::CDBurnWnd>()) {
+    ui_->setupUi(window_.get());
+    awakeFromNib();
+}
+
+CDBurnWndController::~CDBurnWndController() {
+    ui_->trackList_->setDelegateForMain(nullptr);
+}
+
+AudioDataSourceView& CDBurnWndController::trackList() const {
+    return *ui_->trackList_;
+}
+
+void CDBurnWndController::awakeFromNib() {
+    burnControl_ = std::make_unique<BurnControl>();
+    process_ = std::make_unique<ProcessWndController>(*window_);
+    process_->senBurnControl(burnControl_.get());
+    fillDrives();
+    burnControl_->setUseCDRom(0);
+    ui_->bottomBorder_->setMinimumHeight(kBottomBorder);
+    ui_->trackList_->setDelegateForMain(this);
+
+    using Self = CDBurnWndController;
+    connect(window_.get(), &EditDialog::cancelled, this, [this] {
+        if (!process_->window()->isVisible()) // a burn goes on until its sheet ends it
+            windowShouldClose();
+    });
+    connect(ui_->popDrives_, &QComboBox::activated, this, &Self::chooseBurnDevice);
+    connect(ui_->btnEject_, &QAbstractButton::clicked, this, &Self::ejesctDisc);
+    connect(ui_->btnAddFiles_, &QAbstractButton::clicked, this, &Self::addFilesToData);
+    connect(ui_->btnBurn_, &QAbstractButton::clicked, this, &Self::startBurnCD);
+
+    auto& center = Platform::NotificationCenter::defaultCenter();
+    const auto observe = [&](const QString& name, auto member) {
+        observations_.push_back(
+            center.addObserver(name, [this, member](const QString&, const Dictionary&) { (this->*member)(); }));
+    };
+    observe(BurnControlDVDWillInsertNotification, &Self::discInsertCDRROM);
+    observe(BurnControlDVDDidInNotification, &Self::discDidInCDROM);
+    observe(BurnControlDVDDidOutNotification, &Self::discOutCDROM);
+    observations_.push_back(
+        center.addObserver(BurnControlDevicesDidChangeNotification, [this](const QString&, const Dictionary&) {
+            fillDrives();
+            flushDVDStartinfo();
+        }));
+    flushOtherInfo();
+    flushDVDStartinfo();
+}
+
+void CDBurnWndController::fillDrives() {
+    const QStringList names = BurnControl::cdROMDisplayNames();
+    if (names.isEmpty())
+        return;
+    // Drives come and go while the window is open; the chosen one keeps its place in the list or has been replaced.
+    ui_->popDrives_->clear();
+    ui_->popDrives_->addItems(names);
+    ui_->popDrives_->setCurrentIndex(int(burnControl_->recordNum()));
+}
+
+void CDBurnWndController::runModal() {
+    window_->restoreSize();
+    ui_->trackList_->setFocus();
+    window_->exec();
+}
+
+void CDBurnWndController::discDidInCDROM() {
+    flushDVDStartinfo();
+}
+
+void CDBurnWndController::discOutCDROM() {
+    flushDVDStartinfo();
+}
+
+void CDBurnWndController::musicFileNumChange() {
+    flushOtherInfo();
+    flushDVDStartinfo();
+}
+
+void CDBurnWndController::setAudioDataForCDBurn(const QVariantList& records) {
+    ui_->trackList_->addDataFromRecordAudio(records);
+    flushOtherInfo();
+}
+
+void CDBurnWndController::addFilesToData() {
+    // The sheet belongs to the window, which may be closed before it is answered.
+    const QPointer<CDBurnWndController> self(this);
+    Platform::services().panels->chooseFilesAndFolders(
+        window_.get(), u"Select"_s, Platform::Folders::home(), [self](const QStringList& paths) {
+            if (!self || paths.isEmpty())
+                return;
+            self->ui_->trackList_->addFilesToDataAry(urls(paths));
+            self->flushOtherInfo();
+        });
+}
+
+void CDBurnWndController::chooseBurnDevice(int index) {
+    if (index < 0 || std::uint32_t(index) == burnControl_->recordNum())
+        return;
+    burnControl_->setUseCDRom(std::uint32_t(index));
+    flushDVDStartinfo();
+    flushOtherInfo();
+}
+
+void CDBurnWndController::ejesctDisc() {
+    burnControl_->ejectCurrentDvd();
+}
+
+void CDBurnWndController::startBurnCD() {
+    if (ui_->trackList_->isNullForData())
+        return;
+    // The disc may have been taken out a moment ago. A burn that cannot start tells nothing, and its sheet would stay.
+    flushDVDStartinfo();
+    if (!ui_->btnBurn_->isEnabled())
+        return;
+    burnControl_->burnMusicToCD(ui_->trackList_->aryForAudioData_(), ui_->btnEjectAfterBurn_->isChecked());
+    if (burnControl_->burnWasDeclined())
+        return;
+    process_->initProcessWnd();
+    process_->beginSheet([this] { burnSheetDidEnd(); });
+}
+
+void CDBurnWndController::burnSheetDidEnd() {
+    flushOtherInfo();
+    flushDVDStartinfo();
+    window_->done(0);
+}
+
+bool CDBurnWndController::windowShouldClose() {
+    window_->done(0);
+    return true;
+}
+
+void CDBurnWndController::flushOtherInfo() {
+    ui_->lblSummary_->setText(
+        u" %1 Items     Size: %2 MB"_s.arg(trackList().dataCountNum()).arg(trackList().dataSizeForMusic()));
+    ui_->lblTotalTime_->setText(tr("Time: %1").arg(ToolControl::getTimeString(trackList().tracks().tickedSeconds())));
+    burnStateControl();
+}
+
+void CDBurnWndController::flushDVDStartinfo() {
+    const bool mounted = BurnControl::statusByPath(burnControl_->currentDVDbsdName());
+    discFreeSize_ = megabytes(burnControl_->getcurrentDVDFreeSize());
+    ui_->btnEject_->setIcon(NamedImages::icon(mounted ? u"EjectDisc1.png"_s : u"EjectDisc2.png"_s));
+    ui_->btnEject_->setEnabled(mounted);
+    ui_->btnEject_->setToolTip(mounted ? tr("Eject the disc") : tr("There is no disc in the drive."));
+    const QString problem = burnControl_->deviceProblem();
+    ui_->lblProblem_->setText(problem);
+    ui_->lblProblem_->setVisible(!problem.isEmpty());
+    burnStateControl();
+}
+
+BurnState CDBurnWndController::currentState() const {
+    BurnConditions conditions;
+    conditions.listIsEmpty = trackList().isNullForData();
+    conditions.mounted = BurnControl::statusByPath(burnControl_->currentDVDbsdName());
+    conditions.blank = burnControl_->currenrDVDIsBlank();
+    conditions.erasable = burnControl_->currentDVDIsErasable();
+    conditions.musicSize = trackList().dataSizeForMusic();
+    conditions.discFreeSize = discFreeSize_;
+    return burnState(conditions);
+}
+
+void CDBurnWndController::burnStateControl() {
+    const BurnState state = currentState();
+    const bool ready = state == BurnState::Ready;
+    const QString message = burnStateMessage(state);
+    if (ready) {
+        ui_->lblState_->setPalette({});
+        ui_->lblState_->setFont({});
+    } else {
+        QPalette warning;
+        warning.setColor(QPalette::WindowText, Qt::red);
+        ui_->lblState_->setPalette(warning);
+        ui_->lblState_->setFont(BurnWindowFont::ofSize(kWarningFont));
+    }
+    ui_->lblState_->setText(message);
+    ui_->btnBurn_->setEnabled(ready);
+    ui_->btnBurn_->setIcon(NamedImages::icon(ready ? u"burn1.png"_s : u"burn3.png"_s));
+    ui_->btnBurn_->setToolTip(ready ? QString() : message);
+}
