@@ -148,9 +148,9 @@ void AudioDataSourceView::toggleSelected() {
     if (!current.isValid())
         return;
     // All rows follow the current one, so that a mixed selection becomes alike.
-    const auto state =
-        current.siblingAtColumn(TrackListModel::Choose).data(Qt::CheckStateRole) == Qt::Checked ? Qt::Unchecked
-                                                                                                 : Qt::Checked;
+    const auto state = current.siblingAtColumn(TrackListModel::Choose).data(Qt::CheckStateRole) == Qt::Checked
+                           ? Qt::Unchecked
+                           : Qt::Checked;
     for (const int row : selectedRows())
         tracks_.setData(tracks_.index(row, TrackListModel::Choose), state, Qt::CheckStateRole);
 }

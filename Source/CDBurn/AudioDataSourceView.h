@@ -18,8 +18,8 @@ public:
 };
 
 /// The burn window's track list: a flat outline with a tick, a name and a time a row. Rows are ticked with the mouse or
-/// the space bar, dragged (or moved with Alt and an arrow key) into another order, and taken out with Delete; files that
-/// are dropped onto it are added. Main thread.
+/// the space bar, dragged (or moved with Alt and an arrow key) into another order, and taken out with Delete; files
+/// that are dropped onto it are added. Main thread.
 class AudioDataSourceView : public QTreeView {
     Q_OBJECT
 public:

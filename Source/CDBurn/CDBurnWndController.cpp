@@ -27,8 +27,8 @@ constexpr QSize kFirstSize(720, 480);
 constexpr int kBottomBorder = 30;
 constexpr int kWarningFont = 13;
 
-// What a free space of so many gigabytes is in the window's megabytes. The track list counts in its own, slightly larger
-// estimate, so the two go together as they are.
+// What a free space of so many gigabytes is in the window's megabytes. The track list counts in its own, slightly
+// larger estimate, so the two go together as they are.
 int megabytes(float gigabytes) {
     const float scaled = gigabytes * 1000;
     constexpr auto most = std::numeric_limits<int>::max();
@@ -132,13 +132,13 @@ void CDBurnWndController::setAudioDataForCDBurn(const QVariantList& records) {
 void CDBurnWndController::addFilesToData() {
     // The sheet belongs to the window, which may be closed before it is answered.
     const QPointer<CDBurnWndController> self(this);
-    Platform::services().panels->chooseFilesAndFolders(
-        window_.get(), u"Select"_s, Platform::Folders::home(), [self](const QStringList& paths) {
-            if (!self || paths.isEmpty())
-                return;
-            self->ui_->trackList_->addFilesToDataAry(urls(paths));
-            self->flushOtherInfo();
-        });
+    Platform::services().panels->chooseFilesAndFolders(window_.get(), u"Select"_s, Platform::Folders::home(),
+                                                       [self](const QStringList& paths) {
+                                                           if (!self || paths.isEmpty())
+                                                               return;
+                                                           self->ui_->trackList_->addFilesToDataAry(urls(paths));
+                                                           self->flushOtherInfo();
+                                                       });
 }
 
 void CDBurnWndController::chooseBurnDevice(int index) {

@@ -29,7 +29,8 @@ constexpr int kUnknownPercent = -100;
 /// Escape and the close box ask what Cancel asks; the sheet never just goes.
 class Sheet : public QDialog {
 public:
-    Sheet(QWidget* parent, std::function<void()> rejected) : QDialog(parent, Qt::Sheet), rejected_(std::move(rejected)) {
+    Sheet(QWidget* parent, std::function<void()> rejected)
+        : QDialog(parent, Qt::Sheet), rejected_(std::move(rejected)) {
         setWindowFlag(Qt::WindowCloseButtonHint, false);
     }
     void reject() override { rejected_(); }
@@ -157,8 +158,8 @@ void ProcessWndController::burnError() {
 }
 
 void ProcessWndController::cancelBurn() {
-    const int answer = Platform::services().alerts->runModal(
-        u"Warning:"_s, u"Are you sure to end the task?"_s, {u"Cancel"_s, u"OK"_s});
+    const int answer = Platform::services().alerts->runModal(u"Warning:"_s, u"Are you sure to end the task?"_s,
+                                                             {u"Cancel"_s, u"OK"_s});
     // The burn may have ended while the question stood.
     if (answer != 1 || finished_ || !didEnd_)
         return;

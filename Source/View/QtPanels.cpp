@@ -36,8 +36,7 @@ protected:
         const QStringList chosen = selectedFiles();
         const bool typed = qobject_cast<QLineEdit*>(focusWidget()) != nullptr;
         const auto isFolder = [](const QString& path) { return QFileInfo(path).isDir(); };
-        const bool allThere =
-            std::ranges::all_of(chosen, [](const QString& path) { return QFileInfo::exists(path); });
+        const bool allThere = std::ranges::all_of(chosen, [](const QString& path) { return QFileInfo::exists(path); });
         if (chosen.isEmpty() || !allThere || (typed && chosen.size() == 1 && isFolder(chosen.first())) ||
             std::ranges::none_of(chosen, isFolder)) {
             QFileDialog::accept(); // says what is not there, or closes

@@ -55,7 +55,7 @@ struct BurnWorld {
                 record(QStringLiteral("Encore.m4a"), 749)};
     }
     /// Free blocks of a disc that the window counts as @p megabytes.
-    static std::int64_t blocksOf(int megabytes) { return std::int64_t((megabytes + 0.5) / 1000 * 1024 * 1024 / 2) ; }
+    static std::int64_t blocksOf(int megabytes) { return std::int64_t((megabytes + 0.5) / 1000 * 1024 * 1024 / 2); }
 
     /// A disc is in the drive and known to the system; observers are told.
     void insert(FakeDrive& into, std::int64_t freeBlocks = blocksOf(686)) {

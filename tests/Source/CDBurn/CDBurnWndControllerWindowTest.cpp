@@ -292,9 +292,9 @@ TEST_F(BurnWindow, OnlyRejectedFilesLeaveTheListAsItIs) {
     auto& list = world.controller->trackList();
     const QSignalSpy inserted(list.model(), &QAbstractItemModel::rowsInserted);
     const QSignalSpy reset(list.model(), &QAbstractItemModel::modelReset);
-    EXPECT_FALSE(list.addFilesToDataAry({QUrl::fromLocalFile(u"/files"_s),
-                                         QUrl::fromLocalFile(file(u"short.wav"_s, 1.9)),
-                                         QUrl(u"https://example.com/a.wav"_s)}));
+    EXPECT_FALSE(
+        list.addFilesToDataAry({QUrl::fromLocalFile(u"/files"_s), QUrl::fromLocalFile(file(u"short.wav"_s, 1.9)),
+                                QUrl(u"https://example.com/a.wav"_s)}));
     EXPECT_FALSE(list.addFilesToDataAry({}));
     EXPECT_EQ(inserted.count() + reset.count(), 0);
     EXPECT_TRUE(list.addFilesToDataAry({QUrl::fromLocalFile(file(u"b.wav"_s, 100))}));

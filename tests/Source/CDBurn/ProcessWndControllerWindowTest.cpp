@@ -60,7 +60,7 @@ TEST_F(ProgressSheet, WaitsUntilThereIsAPercentage) {
 }
 
 TEST_F(ProgressSheet, ShowsWholePercentAndNeverAHundred) {
-    const QList<QPair<double, QString>> shown{{0.0, u"0  %"_s},   {0.129, u"12  %"_s}, {0.989, u"98  %"_s},
+    const QList<QPair<double, QString>> shown{{0.0, u"0  %"_s},    {0.129, u"12  %"_s}, {0.989, u"98  %"_s},
                                               {0.995, u"99  %"_s}, {1.0, u"99  %"_s},   {7.0, u"99  %"_s}};
     for (const auto& [share, text] : shown) {
         progress(share);

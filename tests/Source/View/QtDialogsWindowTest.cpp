@@ -10,8 +10,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
-#include <QListView>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
