@@ -2,28 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandLine/PartFile.h"
 
-#include "Platform/Foundation/FileManager.h"
-
-#include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
-
-#include <filesystem>
 
 using namespace Qt::StringLiterals;
 
 namespace CommandLine {
 
-PartFile::PartFile(const QString& target, bool overwrite)
-    : target_(QFileInfo(target).absoluteFilePath()), overwrite_(overwrite) {
-    const QFileInfo info(target_);
-    const auto suffix = info.suffix().isEmpty() ? QString() : u'.' + info.suffix();
-    // A name of its own, not one made from the target's: that one may already be as long as names get.
-    path_ = info.path() + u"/.sonaphex-%1.part"_s.arg(QCoreApplication::applicationPid()) + suffix;
-}
+using Existing = Platform::ReplacementFile::Existing;
 
-PartFile::~PartFile() {
-    QFile::remove(path_);
+PartFile::PartFile(const QString& target, bool overwrite)
+    : target_(QFileInfo(target).absoluteFilePath()), overwrite_(overwrite),
+      file_(target_, overwrite ? Existing::Replaced : Existing::Kept, Platform::ReplacementFile::Link::Replaced) {
 }
 
 QString PartFile::problem() const {
@@ -40,13 +29,8 @@ QString PartFile::problem() const {
 }
 
 QString PartFile::commit() {
-    if (!overwrite_) {
-        const auto why = Platform::FileManager::move(path_, target_);
-        return why.isEmpty() ? QString() : u"%1: %2"_s.arg(target_, why);
-    }
-    std::error_code error;
-    std::filesystem::rename(QFile::encodeName(path_).toStdString(), QFile::encodeName(target_).toStdString(), error);
-    return error ? u"%1: %2"_s.arg(target_, QString::fromLocal8Bit(error.message())) : QString();
+    const int error = file_.commit();
+    return error == 0 ? QString() : u"%1: %2"_s.arg(target_, qt_error_string(error));
 }
 
 } // namespace CommandLine

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
+#include "Platform/Foundation/ReplacementFile.h"
 
 namespace CommandLine {
 
@@ -11,21 +11,18 @@ class PartFile {
 public:
     /// @p overwrite lets it replace a file of that name at the end; otherwise such a file is kept and is a problem.
     PartFile(const QString& target, bool overwrite);
-    ~PartFile();
-    PartFile(const PartFile&) = delete;
-    PartFile& operator=(const PartFile&) = delete;
 
     /// Why nothing can be written to the target as things stand; empty when nothing stands in the way.
     [[nodiscard]] QString problem() const;
     /// Where to write. Ends like the target, because writers judge a file by its ending.
-    [[nodiscard]] QString path() const { return path_; }
+    [[nodiscard]] QString path() const { return file_.path(); }
     /// Gives the written file its name. @return what went wrong, empty when nothing did
     [[nodiscard]] QString commit();
 
 private:
     QString target_;
-    QString path_;
     bool overwrite_;
+    Platform::ReplacementFile file_;
 };
 
 } // namespace CommandLine

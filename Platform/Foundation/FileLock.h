@@ -4,22 +4,24 @@
 
 #include <QString>
 
+#include <chrono>
 #include <utility>
 
 namespace Platform {
 
-/// A lock of the kernel on a file that it makes at need. It ends with its holder, however that ends, and is not handed
-/// to programs that the holder starts. Any thread; one object by one thread at a time.
+/// A kernel lock on a file, which is made when it is missing. The lock ends with the process that holds it, however the
+/// process ends, and programs that the process starts do not inherit it. Any thread; one object by one thread at a
+/// time.
 class FileLock {
 public:
     enum class Result {
-        Held,      ///< it is ours
-        Elsewhere, ///< another holds it
+        Held,      ///< this object holds the lock
+        Elsewhere, ///< another process or object holds it
         Failed     ///< see problem()
     };
 
     FileLock() = default;
-    /// Gives the lock free; the file stays.
+    /// Releases the lock; the file stays.
     ~FileLock() { release(); }
     FileLock(FileLock&& other) noexcept
         : descriptor_(std::exchange(other.descriptor_, -1)), path_(std::move(other.path_)) {}
@@ -30,14 +32,15 @@ public:
         return *this;
     }
 
-    /// Takes the lock without waiting. The file at @p path is made when missing, never followed when it is a link.
-    [[nodiscard]] Result take(const QString& path);
+    /// Takes the lock; waits for another holder at most as long as @p patience. The file at @p path is made when it is
+    /// missing; a link is not followed.
+    [[nodiscard]] Result take(const QString& path, std::chrono::milliseconds patience = {});
     [[nodiscard]] bool isHeld() const { return descriptor_ >= 0; }
     [[nodiscard]] QString path() const { return path_; }
     /// Why take() failed, for people.
     [[nodiscard]] QString problem() const { return problem_; }
     void release();
-    /// Removes the file, then gives the lock free.
+    /// Removes the file, then releases the lock.
     void removeAndRelease();
 
 private:

@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QByteArray>
 #include <QString>
+
 #include <functional>
+#include <optional>
 
 namespace Platform {
 
@@ -29,6 +32,10 @@ using Problem = QString;
 
 /// Writes the whole content beside the target, syncs it and the folder, and renames it over the target.
 [[nodiscard]] Problem writeAtomically(const QString& path, const QByteArray& content, int mode = 0644);
+
+/// Reads a regular file of at most @p largest bytes. Never waits for a pipe or a device. @return nothing on failure,
+/// with @p why.
+[[nodiscard]] std::optional<QByteArray> read(const QString& path, qint64 largest, Problem& why);
 
 /// Bytes that a program without special rights may still write to the file system of @p path (or of its nearest
 /// existing parent); -1 when it cannot be told.

@@ -9,7 +9,6 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
-#include <QLockFile>
 
 using namespace Qt::StringLiterals;
 
@@ -38,7 +37,10 @@ QString markerFor(const QString& path) {
 } // namespace
 
 RecordingNames::RecordingNames() = default;
-RecordingNames::~RecordingNames() = default;
+RecordingNames::~RecordingNames() {
+    for (auto& [path, marker] : reserved_)
+        marker.removeAndRelease();
+}
 
 QString RecordingNames::getAudioRecordPath(const QString& folder) {
     QDir().mkpath(folder);
@@ -53,22 +55,24 @@ QString RecordingNames::getAudioRecordPath(const QString& folder) {
 bool RecordingNames::reserve(const QString& path) {
     if (reserved_.contains(path))
         return false;
-    auto marker = std::make_unique<QLockFile>(markerFor(path));
-    marker->setStaleLockTime(0); // a marker is old only when its process is gone
-    if (!marker->tryLock(0)) {
-        if (marker->error() == QLockFile::LockFailedError)
-            return false;
-        marker.reset(); // no place for markers: the list has to do
-    }
-    // Another process may have finished its recording of this name before the marker was ours.
-    if (isTaken(path))
+    Platform::FileLock marker;
+    // When no marker can be made, the list of this process has to do.
+    if (marker.take(markerFor(path)) == Platform::FileLock::Result::Elsewhere)
         return false;
+    // Another process may have finished its recording of this name before the marker was ours.
+    if (isTaken(path)) {
+        marker.removeAndRelease();
+        return false;
+    }
     reserved_.emplace(path, std::move(marker));
     return true;
 }
 
 void RecordingNames::release(const QString& path) {
-    reserved_.erase(path);
+    if (const auto found = reserved_.find(path); found != reserved_.end()) {
+        found->second.removeAndRelease();
+        reserved_.erase(found);
+    }
 }
 
 QStringList RecordingNames::aryForRecordedAudioPath() const {

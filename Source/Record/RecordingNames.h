@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Foundation/FileLock.h"
+
 #include <QString>
 #include <QStringList>
 
 #include <map>
-#include <memory>
-
-class QLockFile;
 
 /// Hands out names for new files. A recording's name is reserved until it is released: within this object by a list,
 /// against other processes of the user by a marker file, which ends with its process. No lock of its own.
@@ -32,5 +31,5 @@ public:
 private:
     [[nodiscard]] bool reserve(const QString& path);
 
-    std::map<QString, std::unique_ptr<QLockFile>> reserved_; ///< with their markers; null when none could be made
+    std::map<QString, Platform::FileLock> reserved_; ///< with their markers; not held when none could be made
 };

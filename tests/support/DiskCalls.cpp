@@ -18,14 +18,14 @@ std::atomic<bool> watching{false};
 std::mutex mutex; // guards what follows
 std::vector<DiskCalls::Call> seen;
 int syncError = 0;
-QString failingPart;
+std::function<bool(const QString&)> fails;
 
 /// Only while somebody watches: a child that was forked in the midst of it must not find the mutex locked.
 /// @return the errno that the call shall fail with, or 0
 int note(DiskCalls::Call::Kind kind, const struct stat& file, const QString& path, const QString& to) {
     const std::lock_guard lock(mutex);
     seen.push_back({kind, file.st_ino, file.st_size, to, std::this_thread::get_id()});
-    return kind == DiskCalls::Call::Kind::Sync && syncError != 0 && path.contains(failingPart) ? syncError : 0;
+    return kind == DiskCalls::Call::Kind::Sync && syncError != 0 && fails(path) ? syncError : 0;
 }
 
 } // namespace
@@ -75,8 +75,8 @@ std::vector<DiskCalls::Call> DiskCalls::calls() const {
     return seen;
 }
 
-void DiskCalls::failSync(int error, const QString& part) {
+void DiskCalls::failSync(int error, std::function<bool(const QString&)> which) {
     const std::lock_guard lock(mutex);
     syncError = error;
-    failingPart = part;
+    fails = std::move(which);
 }

@@ -26,6 +26,7 @@ public:
     DiskCalls(const DiskCalls&) = delete;
     DiskCalls& operator=(const DiskCalls&) = delete;
     [[nodiscard]] std::vector<Call> calls() const;
-    /// fsync() fails with this errno, for files whose path holds @p part.
-    void failSync(int error, const QString& part);
+    /// fsync() fails with this errno for files whose path @p which accepts. A file without a name has a path like
+    /// "/folder/#123 (deleted)".
+    void failSync(int error, std::function<bool(const QString& path)> which);
 };

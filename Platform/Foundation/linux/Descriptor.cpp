@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Foundation/linux/Descriptor.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
 #include <unistd.h>
+#include <vector>
 
 namespace Platform {
 namespace {
@@ -58,9 +61,66 @@ std::int64_t readAllAt(int fd, void* to, std::size_t size, std::int64_t offset) 
     return std::int64_t(done);
 }
 
+bool copyBytes(int from, std::int64_t fromOffset, std::int64_t length, int to, std::int64_t toOffset) {
+    loff_t source = fromOffset;
+    loff_t target = toOffset;
+    const loff_t end = fromOffset + length;
+    while (source < end) {
+        const ssize_t count = ::copy_file_range(from, &source, to, &target, std::size_t(end - source), 0);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            break; // between these file systems the kernel does not copy, or an older kernel does not
+    }
+    std::vector<char> buffer(std::size_t(std::clamp<std::int64_t>(end - source, 0, 1 << 20)));
+    while (source < end) {
+        const auto wanted = std::min<std::int64_t>(end - source, std::int64_t(buffer.size()));
+        const std::int64_t count = readAllAt(from, buffer.data(), std::size_t(wanted), source);
+        if (count != wanted) {
+            errno = count < 0 ? int(-count) : EIO;
+            return false;
+        }
+        if (!writeAllAt(to, QByteArrayView(buffer.data(), wanted), target))
+            return false;
+        source += wanted;
+        target += wanted;
+    }
+    return true;
+}
+
+bool syncFile(int fd) {
+    return ::fsync(fd) == 0 || errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP;
+}
+
 void syncFolder(const QByteArray& folder) {
     if (const Descriptor open{::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)})
         (void)::fsync(open.get());
+}
+
+QByteArray folderOf(const QByteArray& path) {
+    const auto slash = path.lastIndexOf('/');
+    return slash < 0 ? QByteArray(".") : slash == 0 ? QByteArray("/") : path.left(slash);
+}
+
+int renameWithoutOverwriting(const QByteArray& from, const QByteArray& to) {
+    if (::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0)
+        return 0;
+    if (errno != EINVAL && errno != ENOSYS)
+        return errno;
+    // The file system does not know the flag. A hard link never overwrites either.
+    if (::link(from.constData(), to.constData()) == 0)
+        return ::unlink(from.constData()) == 0 ? 0 : errno;
+    if (errno != EPERM && errno != EOPNOTSUPP && errno != EMLINK && errno != ENOSYS)
+        return errno;
+    // It has no hard links: an empty file reserves the name, and the rename replaces it.
+    const Descriptor held{::open(to.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600)};
+    if (!held)
+        return errno;
+    if (std::rename(from.constData(), to.constData()) == 0)
+        return 0;
+    const int error = errno;
+    (void)::unlink(to.constData());
+    return error;
 }
 
 } // namespace Platform

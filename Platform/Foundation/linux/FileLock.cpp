@@ -2,55 +2,72 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Foundation/FileLock.h"
 
+#include "Platform/Foundation/linux/LockedFile.h"
+
 #include <QFile>
 
+#include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace Platform {
 
-FileLock::Result FileLock::take(const QString& path) {
+FileLock::Result openLocked(const QString& path, const std::function<Descriptor()>& open, LockKind kind,
+                            std::chrono::milliseconds patience, Descriptor& file) {
+    const auto deadline = std::chrono::steady_clock::now() + patience;
+    const QByteArray name = QFile::encodeName(path);
+    int replaced = 0; // how often the file lost its name before it was locked
+    for (;;) {
+        file = open();
+        if (!file)
+            return FileLock::Result::Failed;
+        if (::flock(file.get(), (kind == LockKind::Shared ? LOCK_SH : LOCK_EX) | LOCK_NB) == 0) {
+            struct stat locked {};
+            struct stat named {};
+            if (::fstat(file.get(), &locked) == 0 && ::stat(name.constData(), &named) == 0 &&
+                locked.st_ino == named.st_ino && locked.st_dev == named.st_dev)
+                return FileLock::Result::Held;
+            if (++replaced < 10)
+                continue;
+            file.reset(-1);
+            errno = EAGAIN;
+            return FileLock::Result::Failed;
+        }
+        if (errno != EWOULDBLOCK && errno != EINTR)
+            return FileLock::Result::Failed;
+        if (std::chrono::steady_clock::now() >= deadline)
+            return FileLock::Result::Elsewhere;
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+}
+
+FileLock::Result FileLock::take(const QString& path, std::chrono::milliseconds patience) {
     release();
     path_ = path;
     problem_.clear();
-    const QByteArray name = QFile::encodeName(path);
-    for (int attempt = 0; attempt < 10; ++attempt) {
-        const int file = open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
-        if (file < 0)
-            break;
-        if (flock(file, LOCK_EX | LOCK_NB) != 0) {
-            const int error = errno;
-            close(file);
-            if (error == EWOULDBLOCK)
-                return Result::Elsewhere;
-            errno = error;
-            break;
-        }
-        // Its former holder may have removed the file between the two calls: a lock without a name protects nothing.
-        struct stat mine {
-        }, there{};
-        if (fstat(file, &mine) == 0 && lstat(name.constData(), &there) == 0 && mine.st_ino == there.st_ino &&
-            mine.st_dev == there.st_dev) {
-            descriptor_ = file;
-            return Result::Held;
-        }
-        close(file);
-        errno = EAGAIN;
-    }
-    problem_ = QStringLiteral("%1: %2").arg(path, qt_error_string(errno));
-    return Result::Failed;
+    const auto open = [name = QFile::encodeName(path)] {
+        return Descriptor(::open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0600));
+    };
+    Descriptor file;
+    const Result result = openLocked(path, open, LockKind::Exclusive, patience, file);
+    if (result == Result::Failed)
+        problem_ = QStringLiteral("%1: %2").arg(path, qt_error_string(errno));
+    if (result == Result::Held)
+        descriptor_ = file.release();
+    return result;
 }
 
 void FileLock::release() {
     if (descriptor_ >= 0)
-        close(std::exchange(descriptor_, -1));
+        ::close(std::exchange(descriptor_, -1));
 }
 
 void FileLock::removeAndRelease() {
     if (descriptor_ >= 0)
-        (void)unlink(QFile::encodeName(path_).constData());
+        (void)::unlink(QFile::encodeName(path_).constData());
     release();
 }
 

@@ -4,20 +4,19 @@
 
 #include "Platform/Foundation/Bundle.h"
 #include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/ReplacementFile.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/linux/Descriptor.h"
+#include "Platform/Foundation/linux/OpenFile.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRandomGenerator>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
-
-#include <vector>
 
 namespace Platform::FileManager {
 namespace {
@@ -26,79 +25,22 @@ Problem words(int error) {
     return error == 0 ? Problem() : qt_error_string(error);
 }
 
-QByteArray folderOf(const QByteArray& path) {
-    const auto slash = path.lastIndexOf('/');
-    return slash < 0 ? QByteArray(".") : slash == 0 ? QByteArray("/") : path.left(slash);
-}
-
-/// A name of its own beside the target: short, for the target's own may already be as long as a name can be.
-QByteArray hiddenNameIn(const QByteArray& folder) {
-    return folder + "/.sonaphex-" + QByteArray::number(QRandomGenerator::global()->generate64(), 36) + ".part";
-}
-
-/// rename() that never overwrites. @return 0 or an errno; EEXIST when something stands at the target.
-int renameWithoutOverwriting(const QByteArray& from, const QByteArray& to) {
-    if (renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0)
-        return 0;
-    if (errno != EINVAL && errno != ENOSYS)
-        return errno;
-    // The file system does not know the flag. A hard link never overwrites either.
-    if (link(from.constData(), to.constData()) == 0)
-        return unlink(from.constData()) == 0 ? 0 : errno;
-    if (errno != EPERM && errno != EOPNOTSUPP && errno != EMLINK && errno != ENOSYS)
-        return errno;
-    // Nor links: an empty file of ours holds the name, and is then replaced.
-    const Descriptor held{::open(to.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600)};
-    if (!held)
-        return errno;
-    if (rename(from.constData(), to.constData()) == 0)
-        return 0;
-    const int error = errno;
-    (void)unlink(to.constData());
-    return error;
-}
-
-/// Copies a regular file to a hidden name in @p folder, synced. @return 0 or an errno; nothing is left on failure.
-int copyHidden(const QByteArray& from, const QByteArray& folder, QByteArray& hidden) {
-    const Descriptor source{::open(from.constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY)};
-    if (!source)
-        return errno;
-    struct stat is {};
-    if (fstat(source.get(), &is) != 0)
-        return errno;
-    if (!S_ISREG(is.st_mode))
-        return S_ISDIR(is.st_mode) ? EISDIR : EINVAL;
-    hidden = hiddenNameIn(folder);
-    Descriptor target{::open(hidden.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600)};
-    if (!target)
-        return errno;
-    int error = 0;
-    std::vector<char> block(1 << 20);
-    for (;;) {
-        const ssize_t got = ::read(source.get(), block.data(), block.size());
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got < 0)
-            error = errno;
-        if (got <= 0)
-            break;
-        if (!writeAll(target.get(), QByteArrayView(block.data(), got))) {
-            error = errno;
-            break;
-        }
-    }
-    if (error == 0) {
-        (void)fchmod(target.get(), is.st_mode & 07777);
-        const timespec times[2] = {is.st_atim, is.st_mtim};
-        (void)futimens(target.get(), times);
-        if (fsync(target.get()) != 0)
-            error = errno;
-    }
-    if (const int closed = target.close(); error == 0)
-        error = closed;
+/// Copies a regular file to @p target through a hidden neighbour of that name. @return 0 or an errno; nothing is left
+/// on failure.
+int copyFile(const QByteArray& from, const QByteArray& target, ReplacementFile::Existing existing) {
+    const OpenedFile source = openFile(QFile::decodeName(from));
+    if (!source.file)
+        return source.error != 0 ? source.error : source.isFolder() ? EISDIR : EINVAL;
+    ReplacementFile copy(QFile::decodeName(target), existing, ReplacementFile::Link::Replaced);
+    const timespec times[2] = {source.status.st_atim, source.status.st_mtim};
+    int error = copy.open(0600);
+    if (error == 0 && !copyBytes(source.file.get(), 0, source.status.st_size, copy.descriptor(), 0))
+        error = errno;
     if (error != 0)
-        (void)unlink(hidden.constData());
-    return error;
+        return error;
+    (void)fchmod(copy.descriptor(), source.status.st_mode & 07777);
+    (void)futimens(copy.descriptor(), times);
+    return copy.commit();
 }
 
 /// @return 0 or an errno; EEXIST when something stands at the target.
@@ -113,14 +55,8 @@ int moveFile(const QByteArray& from, const QByteArray& to) {
     struct stat there {};
     if (lstat(to.constData(), &there) == 0)
         return EEXIST; // known before the copy is paid for
-    QByteArray hidden;
-    if ((error = copyHidden(from, folderOf(to), hidden)) != 0)
+    if ((error = copyFile(from, to, ReplacementFile::Existing::Kept)) != 0)
         return error;
-    if ((error = renameWithoutOverwriting(hidden, to)) != 0) {
-        (void)unlink(hidden.constData());
-        return error;
-    }
-    syncFolder(folderOf(to));
     return unlink(from.constData()) == 0 ? 0 : errno;
 }
 
@@ -151,16 +87,8 @@ Problem copy(const QString& from, const QString& to, bool replace) {
     struct stat there {};
     if (!replace && lstat(target.constData(), &there) == 0)
         return words(EEXIST);
-    QByteArray hidden;
-    if (const int error = copyHidden(QFile::encodeName(from), folderOf(target), hidden))
-        return words(error);
-    const int error = replace ? (rename(hidden.constData(), target.constData()) == 0 ? 0 : errno)
-                              : renameWithoutOverwriting(hidden, target);
-    if (error != 0)
-        (void)unlink(hidden.constData());
-    else
-        syncFolder(folderOf(target));
-    return words(error);
+    return words(copyFile(QFile::encodeName(from), target,
+                          replace ? ReplacementFile::Existing::Replaced : ReplacementFile::Existing::Kept));
 }
 
 Problem removeFile(const QString& path) {
@@ -174,24 +102,15 @@ Problem removeFile(const QString& path) {
 }
 
 Problem writeAtomically(const QString& path, const QByteArray& content, int mode) {
-    // A link stays one: what it points to is replaced.
-    const QFileInfo info(path);
-    const QString real = info.isSymLink() && info.exists() ? info.canonicalFilePath() : path;
-    const QByteArray target = QFile::encodeName(real);
-    const QByteArray hidden = hiddenNameIn(folderOf(target));
-    Descriptor file{::open(hidden.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode)};
-    if (!file)
-        return words(errno);
-    int error = writeAll(file.get(), content) && fsync(file.get()) == 0 ? 0 : errno;
-    if (const int closed = file.close(); error == 0)
-        error = closed;
-    if (error == 0 && rename(hidden.constData(), target.constData()) != 0)
+    ReplacementFile file(path);
+    int error = file.open(mode);
+    if (error == 0 && !writeAll(file.descriptor(), content))
         error = errno;
-    if (error != 0)
-        (void)unlink(hidden.constData());
-    else
-        syncFolder(folderOf(target));
-    return words(error);
+    return words(error != 0 ? error : file.commit());
+}
+
+std::optional<QByteArray> read(const QString& path, qint64 largest, Problem& why) {
+    return readFile(path, {.largest = largest}, why);
 }
 
 qint64 availableBytes(const QString& path) {

@@ -6,28 +6,32 @@
 #include "Platform/Foundation/RunningProgram.h"
 
 #include <QElapsedTimer>
+#include <QFile>
 #include <QLocalServer>
 #include <QLocalSocket>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace Platform {
 namespace {
 
-// The keys of a whole library are one line: more than a command line holds, each sign of it escaped.
+// A request may hold the keys of a whole library in one line.
 constexpr qsizetype longestLine = 1 << 24;
 
 class LinuxRunningProgram final : public RunningProgram {
 public:
     explicit LinuxRunningProgram(const QString& identifier) : identifier_(identifier) {}
     ~LinuxRunningProgram() override {
-        server_.reset(); // before the lock: who takes that listens in the same place
+        server_.reset(); // before the lock: the next holder of the lock listens at the same path
     }
 
     bool acquire() override {
         if (lock_.isHeld())
             return true;
         lastError_.clear();
-        // Beside the folder that a launch wipes: whoever would wipe the same folder meets the same lock, whatever else
-        // differs between the two environments.
+        // Beside the folder that a launch wipes: two programs that would wipe the same folder then always meet the same
+        // lock, even when their environments differ.
         QString why;
         const QString folder = Folders::temporary(&why);
         if (folder.isEmpty()) {
@@ -50,7 +54,8 @@ public:
             lastError_ = QStringLiteral("%1 is already answered").arg(path);
             return false;
         }
-        (void)QLocalServer::removeServer(path); // left by a program that was killed
+        if (!removeDeadSocket(path))
+            return false;
         handler_ = std::move(handler);
         server_ = std::make_unique<QLocalServer>();
         server_->setSocketOptions(QLocalServer::UserAccessOption);
@@ -90,6 +95,19 @@ public:
 
 private:
     QString socketPath() const { return Folders::runtime() + u'/' + identifier_ + QStringLiteral(".socket"); }
+
+    /// Removes the socket that a killed program left. Anything else at @p path stays.
+    bool removeDeadSocket(const QString& path) {
+        struct stat status {};
+        const QByteArray name = QFile::encodeName(path);
+        if (lstat(name.constData(), &status) != 0)
+            return true;
+        if (!S_ISSOCK(status.st_mode) || status.st_uid != geteuid()) {
+            lastError_ = QStringLiteral("%1 is not a socket of this user").arg(path);
+            return false;
+        }
+        return QLocalServer::removeServer(path);
+    }
 
     void serve(QLocalSocket* client) {
         QObject::connect(client, &QLocalSocket::disconnected, client, &QObject::deleteLater);

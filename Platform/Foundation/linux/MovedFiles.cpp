@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Foundation/MovedFiles.h"
 
+#include "Platform/Foundation/linux/OpenFile.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -15,11 +17,13 @@ namespace {
 Q_LOGGING_CATEGORY(log, "sonaphex.foundation")
 
 const QString noteEnding = u".origin"_s;
+// A note says where a file is moved to, so nobody else may have written it.
+const FileRules noteRules{.ownUser = true, .noLink = true, .largest = 65536};
 
 } // namespace
 
 FileManager::Problem moveAway(const QString& from, const QString& to) {
-    // The note is there first: between the two there is no moment in which a crash makes the file homeless.
+    // The note is written first: without it a crash after the move would leave a file that nobody can assign.
     if (const auto problem = FileManager::writeAtomically(to + noteEnding, QFile::encodeName(from), 0600);
         !problem.isEmpty())
         return problem;
@@ -41,7 +45,7 @@ QString setAside(const QString& path, const QString& wishedName) {
     const QString home = FileManager::unfinishedFolder() + u'/' + QFileInfo(at).fileName();
     if (FileManager::writeAtomically(at + noteEnding, QFile::encodeName(home), 0600).isEmpty())
         return at;
-    // An empty note needs no room, and says as much.
+    // An empty note needs no room on a full disk and stands for the same place.
     if (QFile note(at + noteEnding); !note.open(QIODevice::WriteOnly))
         qCWarning(log, "%s goes with its temporary folder: %s", qUtf8Printable(at), qUtf8Printable(note.errorString()));
     return at;
@@ -60,10 +64,11 @@ QStringList bringBack(const QString& folder) {
     const QStringList notes = QDir(folder).entryList({u'*' + noteEnding}, QDir::Files | QDir::Hidden);
     for (const QString& name : notes) {
         const QString path = folder + u'/' + name.chopped(noteEnding.size());
-        QFile note(folder + u'/' + name);
-        if (!QFileInfo(path).isFile() || !note.open(QIODevice::ReadOnly))
+        QString why;
+        const auto note = readFile(folder + u'/' + name, noteRules, why);
+        if (!QFileInfo(path).isFile() || !note)
             continue;
-        QString home = QFile::decodeName(note.readAll());
+        QString home = QFile::decodeName(*note);
         if (home.isEmpty())
             home = FileManager::unfinishedFolder() + u'/' + QFileInfo(path).fileName();
         QString landed = home;

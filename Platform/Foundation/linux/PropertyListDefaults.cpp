@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Foundation/linux/PropertyListDefaults.h"
 
+#include "Platform/Foundation/FileLock.h"
 #include "Platform/Foundation/Folders.h"
-#include "Platform/Foundation/linux/Descriptor.h"
+#include "Platform/Foundation/ReplacementFile.h"
+#include "Platform/Foundation/linux/OpenFile.h"
 #include "Platform/Foundation/linux/PropertyList.h"
 
 #include <QDateTime>
@@ -15,7 +17,6 @@
 #include <chrono>
 #include <cstdio>
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -27,30 +28,16 @@ namespace {
 Q_LOGGING_CATEGORY(log, "sonaphex.foundation")
 
 constexpr auto retryAfter = std::chrono::seconds(5);
-constexpr auto lockPatience = std::chrono::seconds(10);
+constexpr auto lockPatience = std::chrono::seconds(10);     // a stopped process may hold the lock for good
+constexpr std::int64_t largestFile = std::int64_t(1) << 30; // a library of two million recordings
 
-/// A hidden neighbour of the file: "/a/.b.plist.lock" for "/a/b.plist" and "lock".
-QByteArray neighbour(const QString& path, const char* ending) {
+/// The hidden file whose lock a writer of the settings holds.
+QString lockPath(const QString& path) {
     const QFileInfo info(path);
-    return QFile::encodeName(info.path() + "/."_L1 + info.fileName() + u'.' + QLatin1StringView(ending));
+    return info.path() + "/."_L1 + info.fileName() + ".lock"_L1;
 }
 
-int openLock(const QString& path) {
-    return ::open(neighbour(path, "lock").constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
-}
-
-/// Takes the kernel's lock on @p fd. A process that was stopped while it held the lock must not hang this one.
-bool lockWithin(int fd, std::chrono::milliseconds patience) {
-    const auto deadline = std::chrono::steady_clock::now() + patience;
-    while (::flock(fd, LOCK_EX | LOCK_NB) != 0) {
-        if ((errno != EWOULDBLOCK && errno != EINTR) || std::chrono::steady_clock::now() > deadline)
-            return false;
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
-    }
-    return true;
-}
-
-/// The file itself where the settings are kept behind a symbolic link: replacing the link would cut it.
+/// The file behind a symbolic link: replacing the link itself would detach the settings from where the user keeps them.
 QString behindLinks(const QString& path) {
     const QString real = QFileInfo(path).canonicalFilePath();
     return real.isEmpty() ? path : real;
@@ -158,8 +145,8 @@ void PropertyListDefaults::takeUpFromDisk(const QString& key) {
 void PropertyListDefaults::load() {
     if (!readAgain(Damage::Leave)) {
         // Moving a damaged file away needs the lock: another process may just have put a good one in its place.
-        const Descriptor lock(openLock(path_));
-        if (lock && lockWithin(lock.get(), lockPatience))
+        FileLock lock;
+        if (lock.take(lockPath(path_), lockPatience) == FileLock::Result::Held)
             readAgain(Damage::SetAside);
     }
     ours_ = onDisk_;
@@ -212,8 +199,8 @@ void PropertyListDefaults::run() {
 
         if (saved) {
             savedChange_ = newest;
-            // What others stored is seen from here on, but for what was set here since, and for joined values: their
-            // owner keeps its own view, or it could not take away what it sees as new.
+            // Adopt the values that other processes stored, except for keys that were changed here since, and except
+            // for merged values: their owner keeps its own view, or it could not remove an entry that it sees as new.
             Dictionary seen = onDisk_;
             Changes joined;
             for (auto it = merges.cbegin(); it != merges.cend(); ++it)
@@ -239,30 +226,21 @@ PropertyListDefaults::Version PropertyListDefaults::versionOf(const struct stat&
 }
 
 bool PropertyListDefaults::readAgain(Damage damage) {
-    const Descriptor file(::open(QFile::encodeName(path_).constData(), O_RDONLY | O_CLOEXEC));
-    if (!file) {
-        if (errno == ENOENT || errno == ENOTDIR)
+    const OpenedFile opened = openFile(path_, {.largest = largestFile});
+    if (!opened.file) {
+        if (opened.error == ENOENT || opened.error == ENOTDIR)
             return true; // a file that was taken away comes back whole with the next save
-        qCWarning(log, "cannot read %s: %s", qUtf8Printable(path_), qUtf8Printable(qt_error_string(errno)));
+        qCWarning(log, "cannot read %s: %s", qUtf8Printable(path_), qUtf8Printable(opened.why));
+        errno = opened.error != 0 ? opened.error : EINVAL;
         return false;
     }
-    struct stat status {};
-    if (::fstat(file.get(), &status) != 0)
-        return false;
-    if (!S_ISREG(status.st_mode)) {
-        errno = EISDIR;
-        return false;
-    }
-    const Version version = versionOf(status);
+    const Version version = versionOf(opened.status);
     if (version == version_)
         return true;
 
-    QFile reader;
-    if (!reader.open(file.get(), QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return false;
-    const QByteArray content = reader.readAll();
-    if (reader.error() != QFileDevice::NoError || content.size() < status.st_size) {
-        qCWarning(log, "cannot read %s: %s", qUtf8Printable(path_), qUtf8Printable(reader.errorString()));
+    QByteArray content(qsizetype(opened.status.st_size), Qt::Uninitialized);
+    if (readAllAt(opened.file.get(), content.data(), std::size_t(content.size()), 0) != content.size()) {
+        qCWarning(log, "cannot read %s: %s", qUtf8Printable(path_), qUtf8Printable(qt_error_string(errno)));
         return false;
     }
     if (auto dictionary = PropertyList::fromXml(content, &spent_)) {
@@ -298,8 +276,8 @@ bool PropertyListDefaults::save(const Changes& changes, const QHash<QString, Mer
     };
     if (!QDir().mkpath(QFileInfo(path_).path()))
         return problem("its folder");
-    const Descriptor lock(openLock(path_));
-    if (!lock || !lockWithin(lock.get(), lockPatience))
+    FileLock lock;
+    if (lock.take(lockPath(path_), lockPatience) != FileLock::Result::Held)
         return problem("its lock");
     if (!readAgain(Damage::SetAside))
         return problem("what it holds now");
@@ -327,28 +305,24 @@ bool PropertyListDefaults::save(const Changes& changes, const QHash<QString, Mer
 
 bool PropertyListDefaults::replaceFile(const QByteArray& content) {
     const QByteArray path = QFile::encodeName(path_);
-    // One name is enough under the lock, and a crash leaves one file at most.
-    const QByteArray newPath = neighbour(path_, "new");
     struct stat status {};
-    // Damage that could not be moved away is not overwritten either.
+    // A damaged file that could not be moved away is not overwritten either.
     const bool exists = ::stat(path.constData(), &status) == 0;
     if (exists && static_cast<quint64>(status.st_ino) != version_.inode) {
         errno = EEXIST;
         return false;
     }
-    {
-        const Descriptor file(::open(newPath.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0600));
-        if (!file || ::fchmod(file.get(), exists ? status.st_mode & 0777 : 0600) != 0 ||
-            !writeAll(file.get(), content) || ::fsync(file.get()) != 0) {
-            const int why = errno;
-            ::unlink(newPath.constData());
-            errno = why;
-            return false;
-        }
-    }
-    if (std::rename(newPath.constData(), path.constData()) != 0)
+    ReplacementFile file(path_);
+    int error = file.open(0600);
+    if (error == 0 &&
+        ((exists && ::fchmod(file.descriptor(), status.st_mode & 0777) != 0) || !writeAll(file.descriptor(), content)))
+        error = errno;
+    if (error == 0)
+        error = file.commit();
+    if (error != 0) {
+        errno = error;
         return false;
-    syncFolder(QFile::encodeName(QFileInfo(path_).path()));
+    }
     if (::stat(path.constData(), &status) == 0)
         version_ = versionOf(status);
     return true;

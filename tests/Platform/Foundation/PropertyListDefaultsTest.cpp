@@ -230,7 +230,7 @@ TEST_F(DefaultsFile, TakesUpWhatAnotherStoredBesideWhatItCouldNotSave) {
     store(Platform::PropertyList::toXml({{u"list"_s, u"base"_s}, {u"text"_s, u"old"_s}}));
     PropertyListDefaults one(path());
     one.setMergeForKey(u"list"_s, joinTexts);
-    const QString inTheWay = folder_.filePath(u".com.korvane.Sonaphex.plist.new"_s);
+    const QString inTheWay = folder_.filePath(u".com.korvane.Sonaphex.plist.lock"_s);
     ASSERT_TRUE(QDir().mkpath(inTheWay));
     one.setObject(u"list"_s, u"ours"_s);
     one.setObject(u"text"_s, u"ours"_s);

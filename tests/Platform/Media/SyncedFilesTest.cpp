@@ -68,7 +68,7 @@ TEST_F(SyncedFiles, AreOnTheDiskBeforeTheyAreReportedClosed) {
 
 TEST_F(SyncedFiles, AnErrorOfTheDiskIsTheFilesError) {
     DiskCalls disk;
-    disk.failSync(EIO, path);
+    disk.failSync(EIO, [&](const QString& of) { return of == path; });
     Samples sound = tones(10000);
     auto writer = newWriter(path, kAudioFileWAVEType, waveFormat(), clientFormat());
     writeAll(*writer, sound);
@@ -78,7 +78,7 @@ TEST_F(SyncedFiles, AnErrorOfTheDiskIsTheFilesError) {
 
 TEST_F(SyncedFiles, APlainFormThatDoesNotReachTheDiskTakesNothingsPlace) {
     DiskCalls disk;
-    disk.failSync(EIO, folder.filePath(u".sonaphex-"_s));
+    disk.failSync(EIO, [&](const QString& of) { return of.startsWith(folder.path() + u'/') && of != path; });
     writeFile(path, kAudioFileM4AType, tones(300000));
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));

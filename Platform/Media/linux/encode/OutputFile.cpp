@@ -71,44 +71,38 @@ bool OutputFile::beginReplacement(OutputFile& replacement) const {
     if (::fstat(fd_, &open) < 0 || ::stat(name.constData(), &lying) < 0 || open.st_dev != lying.st_dev ||
         open.st_ino != lying.st_ino)
         return false;
-    QByteArray hidden = name.left(name.lastIndexOf('/') + 1) + ".sonaphex-XXXXXX";
-    replacement.fd_ = ::mkostemp(hidden.data(), O_CLOEXEC);
-    if (replacement.fd_ < 0)
+    auto hidden = std::make_unique<ReplacementFile>(path_);
+    if (hidden->openLike(fd_) != 0)
         return false;
-    replacement.path_ = QFile::decodeName(hidden);
-    return ::fchmod(replacement.fd_, open.st_mode & 0777) == 0;
+    replacement.path_ = path_;
+    replacement.fd_ = ::fcntl(hidden->descriptor(), F_DUPFD_CLOEXEC, 0);
+    replacement.hidden_ = std::move(hidden);
+    return replacement.fd_ >= 0;
 }
 
 bool OutputFile::replaceWith(OutputFile& replacement) {
-    const QByteArray hidden = QFile::encodeName(replacement.path_);
-    replacement.syncContent();
-    if (replacement.failed() || ::rename(hidden.constData(), QFile::encodeName(path_).constData()) < 0) {
-        if (replacement.fd_ >= 0)
-            ::unlink(hidden.constData());
+    const auto hidden = std::move(replacement.hidden_);
+    if (!hidden || replacement.failed() || hidden->commit() != 0)
         return false;
-    }
     std::swap(fd_, replacement.fd_);
     std::swap(size_, replacement.size_);
     return true;
 }
 
 void OutputFile::syncContent() {
-    // Some file systems have no such thing to do.
-    if (fd_ >= 0 && ::fsync(fd_) < 0 && errno != EINVAL && errno != ENOSYS && errno != EOPNOTSUPP)
+    if (fd_ >= 0 && !syncFile(fd_))
         fail(errnoError(errno, path_));
 }
 
 void OutputFile::sync() {
     syncContent();
-    const QByteArray name = QFile::encodeName(path_);
-    const auto slash = name.lastIndexOf('/');
-    syncFolder(slash < 0 ? QByteArray(".") : name.left(slash + 1));
+    syncFolder(folderOf(QFile::encodeName(path_)));
 }
 
 void OutputFile::close() {
     if (fd_ < 0)
         return;
-    // Some file systems tell only now that the data found no room.
+    // Some file systems report a full disk only here.
     if (::close(fd_) < 0 && errno != EINTR)
         fail(errnoError(errno, path_));
     fd_ = -1;

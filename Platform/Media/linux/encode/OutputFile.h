@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Foundation/ReplacementFile.h"
 #include "Platform/Media/linux/MediaErrors.h"
 
 #include <cstdint>
+#include <memory>
 #include <mutex>
 #include <span>
 
@@ -29,11 +31,11 @@ public:
     bool readBack(std::int64_t offset, std::span<std::uint8_t> bytes) const;
     [[nodiscard]] std::int64_t size() const { return size_; }
 
-    /// Begins a second form of this file in a hidden file beside it; false when there is no place for one, or when this
-    /// file no longer lies at its path. Never this file's error.
+    /// Begins a second form of this file, which has no name yet; false when it cannot be made, or when this file no
+    /// longer lies at its path. A failure is never this file's error.
     [[nodiscard]] bool beginReplacement(OutputFile& replacement) const;
-    /// Puts a whole @p replacement in this file's place, at once, and goes on with it; a failed one is thrown away. The
-    /// replacement is on the disk before: a power cut leaves the one form or the other, never an empty file.
+    /// Syncs the @p replacement, puts it in this file's place in one step, and goes on with it; a failed one is
+    /// discarded. A power cut leaves the one form or the other, never an empty file.
     bool replaceWith(OutputFile& replacement);
 
     /// Waits until the file and its name are on the disk; an error of the disk is told here, if anywhere.
@@ -50,7 +52,8 @@ private:
     QString path_;
     int fd_ = -1;
     std::int64_t size_ = 0;
-    mutable std::mutex mutex_; // guards error_
+    std::unique_ptr<ReplacementFile> hidden_; // set while this is another file's replacement
+    mutable std::mutex mutex_;                // guards error_
     MediaError error_;
 };
 

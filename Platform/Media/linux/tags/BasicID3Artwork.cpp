@@ -3,11 +3,11 @@
 // What looks into pictures stands apart: the recorder on the command line is linked without Qt Gui.
 #include "Platform/Media/BasicID3Change.h"
 
+#include "Platform/Foundation/linux/OpenFile.h"
 #include "Platform/Media/linux/tags/InPlaceSave.h"
 #include "Platform/Media/linux/tags/Mpeg4Tags.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
 
@@ -39,25 +39,21 @@ std::optional<TagLib::MP4::CoverArt::Format> formatOf(QByteArray& image) {
 } // namespace
 
 QString BasicID3Change::copyWithArtwork(const QString& source, const QString& image, const QString& destination) {
-    QFile file(image);
-    if (!QFileInfo(image).isFile() || !file.open(QIODevice::ReadOnly))
-        return u"cannot read the image %1: %2"_s.arg(
-            image, QFileInfo::exists(image) ? u"it is no file, or not for you"_s : u"there is no such file"_s);
-    if (file.size() > largestImage)
-        return u"the image %1 is too large"_s.arg(image);
-    QByteArray bytes = file.readAll();
-    const auto format = formatOf(bytes);
+    QString why;
+    auto bytes = readFile(image, {.largest = largestImage}, why);
+    if (!bytes)
+        return u"cannot read the image %1: %2"_s.arg(image, why);
+    const auto format = formatOf(*bytes);
     if (!format)
         return u"%1 is neither a JPEG nor a PNG image"_s.arg(image);
 
-    QString why;
     const auto edit = [&](PatchedFile& content, QString& reason) {
         return Media::editTags(
             content, {Media::artworkItem},
             [&](TagLib::MP4::Tag& tag) {
                 TagLib::MP4::CoverArtList covers;
                 covers.append(
-                    {*format, TagLib::ByteVector(bytes.constData(), static_cast<unsigned int>(bytes.size()))});
+                    {*format, TagLib::ByteVector(bytes->constData(), static_cast<unsigned int>(bytes->size()))});
                 tag.setItem(Media::artworkItem, covers);
             },
             reason);

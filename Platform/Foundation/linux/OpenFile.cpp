@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Foundation/linux/OpenFile.h"
+
+#include <QFile>
+#include <QLocale>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Platform {
+namespace {
+
+constexpr std::int64_t largestWithoutLimit = std::int64_t(64) << 20;
+
+/// Why the rules refuse the file; empty when they do not.
+QString refusal(const struct stat& status, const FileRules& rules) {
+    if (S_ISLNK(status.st_mode))
+        return u"is a link"_s;
+    if (S_ISDIR(status.st_mode))
+        return u"is a folder"_s;
+    if (!S_ISREG(status.st_mode))
+        return u"not a regular file"_s;
+    if (rules.ownUser && status.st_uid != ::geteuid() && status.st_uid != 0)
+        return u"belongs to another user"_s;
+    if (rules.largest >= 0 && status.st_size > rules.largest)
+        return u"is larger than %1"_s.arg(QLocale::c().formattedDataSize(rules.largest));
+    return {};
+}
+
+} // namespace
+
+OpenedFile openFile(const QString& path, const FileRules& rules) {
+    OpenedFile opened;
+    const auto fail = [&opened](int error, const QString& why) {
+        opened.file.reset(-1);
+        opened.error = error;
+        opened.why = why;
+        return std::move(opened);
+    };
+    const QByteArray name = QFile::encodeName(path);
+    // The look comes first: to open a pipe or a device can change it, even when it is closed again at once.
+    const auto look = rules.noLink ? ::lstat : ::stat;
+    if (look(name.constData(), &opened.status) != 0)
+        return fail(errno, qt_error_string(errno));
+    if (const QString why = refusal(opened.status, rules); !why.isEmpty())
+        return fail(0, why);
+    opened.file.reset(::open(name.constData(), (rules.writable ? O_RDWR : O_RDONLY) | (rules.noLink ? O_NOFOLLOW : 0) |
+                                                   O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    if (!opened.file || ::fstat(opened.file.get(), &opened.status) != 0)
+        return fail(errno, qt_error_string(errno));
+    // The name may have changed its file since.
+    if (const QString why = refusal(opened.status, rules); !why.isEmpty())
+        return fail(0, why);
+    return opened;
+}
+
+std::optional<QByteArray> readFile(const QString& path, const FileRules& rules, QString& why) {
+    FileRules limited = rules;
+    if (limited.largest < 0)
+        limited.largest = largestWithoutLimit;
+    const OpenedFile opened = openFile(path, limited);
+    why = opened.why;
+    if (!opened.file)
+        return std::nullopt;
+    QByteArray content(qsizetype(opened.status.st_size), Qt::Uninitialized);
+    const std::int64_t count = readAllAt(opened.file.get(), content.data(), std::size_t(content.size()), 0);
+    if (count < 0) {
+        why = qt_error_string(int(-count));
+        return std::nullopt;
+    }
+    content.truncate(qsizetype(count)); // it may have been cut since it was opened
+    return content;
+}
+
+} // namespace Platform

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Foundation/ReplacementFile.h"
+
+#include "Platform/Foundation/linux/Descriptor.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QRandomGenerator>
+
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Platform {
+
+ReplacementFile::ReplacementFile(const QString& target, Existing existing, Link link)
+    : target_(target), existing_(existing) {
+    if (existing == Existing::Replaced && link == Link::Followed)
+        if (const QFileInfo info(target); info.isSymLink() && info.exists())
+            target_ = info.canonicalFilePath();
+    // The hidden name is not made from the target's, which may already be as long as a name can be.
+    const QString suffix = QFileInfo(target_).suffix();
+    path_ = QFile::decodeName(folderOf(QFile::encodeName(target_))) + "/.sonaphex-"_L1 +
+            QString::number(QRandomGenerator::global()->generate64(), 36) + ".part"_L1 +
+            (suffix.isEmpty() || suffix.size() > 8 ? QString() : u'.' + suffix);
+}
+
+ReplacementFile::~ReplacementFile() {
+    if (descriptor_ >= 0)
+        ::close(descriptor_);
+    if (!done_ && hasName_)
+        (void)::unlink(QFile::encodeName(path_).constData());
+}
+
+int ReplacementFile::open(int mode) {
+    const QByteArray hidden = QFile::encodeName(path_);
+    descriptor_ = ::open(folderOf(hidden).constData(), O_TMPFILE | O_RDWR | O_CLOEXEC, mode);
+    hasName_ = descriptor_ < 0;
+    if (hasName_)
+        descriptor_ = ::open(hidden.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, mode);
+    return descriptor_ >= 0 ? 0 : errno;
+}
+
+int ReplacementFile::openLike(int model) {
+    struct stat status {};
+    if (::fstat(model, &status) != 0)
+        return errno;
+    if (const int error = open(0600); error != 0)
+        return error;
+    // Only root may give files away; for other users the file is theirs anyway.
+    if (::fchown(descriptor_, status.st_uid, status.st_gid) != 0 && errno != EPERM)
+        return errno;
+    return ::fchmod(descriptor_, status.st_mode & 07777) == 0 ? 0 : errno;
+}
+
+/// Gives the open file without a name one; never in the place of another file.
+int ReplacementFile::give(const QByteArray& name) {
+    const QByteArray self = "/proc/self/fd/" + QByteArray::number(descriptor_);
+    return ::linkat(AT_FDCWD, self.constData(), AT_FDCWD, name.constData(), AT_SYMLINK_FOLLOW) == 0 ? 0 : errno;
+}
+
+int ReplacementFile::commit() {
+    const QByteArray hidden = QFile::encodeName(path_);
+    const QByteArray target = QFile::encodeName(target_);
+    if (descriptor_ < 0)
+        descriptor_ = ::open(hidden.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW);
+    if (descriptor_ < 0 || !syncFile(descriptor_))
+        return errno;
+    // linkat() cannot replace a file, so a file without a name takes the hidden name for a moment.
+    const bool linkToTarget = !hasName_ && existing_ == Existing::Kept;
+    if (const int error = hasName_ ? 0 : give(linkToTarget ? target : hidden); error != 0)
+        return error;
+    hasName_ = true;
+    if (!linkToTarget) {
+        if (existing_ == Existing::Kept) {
+            if (const int error = renameWithoutOverwriting(hidden, target); error != 0)
+                return error;
+        } else if (std::rename(hidden.constData(), target.constData()) != 0) {
+            return errno;
+        }
+    }
+    done_ = true;
+    syncFolder(folderOf(target));
+    return 0;
+}
+
+} // namespace Platform
