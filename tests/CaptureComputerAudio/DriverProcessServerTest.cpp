@@ -8,7 +8,12 @@
 #include "tests/support/TestSource.h"
 #include "tests/support/WaitFor.h"
 
+#include <QFile>
 #include <QProcess>
+#include <algorithm>
+#include <cmath>
+#include <spa/param/audio/raw.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -25,12 +30,70 @@ protected:
         ASSERT_TRUE(Platform::PipeWire::serverIsThere(10000, true, "korvane.system-audio"));
     }
     ~DriverProcess() override {
+        setDefaultOutput(u"sonaphex.output"_s);
+        second_.closeWriteChannel();
+        second_.terminate();
+        second_.waitForFinished();
         driver_.terminate();
         driver_.waitForFinished();
     }
 
+    /// A second output, "test.second". It goes with the test.
+    void addSecondOutput(const QByteArray& positions) {
+        second_.start(u"pw-cli"_s, QStringList());
+        second_.write("create-node adapter { factory.name=support.null-audio-sink node.name=test.second "
+                      "media.class=Audio/Sink priority.session=1 audio.position=[" +
+                      positions + "] }\n");
+        ASSERT_TRUE(second_.waitForBytesWritten());
+        ASSERT_TRUE(Platform::PipeWire::serverIsThere(10000, true, "test.second"));
+    }
+    static void setDefaultOutput(const QString& nodeName) {
+        run(u"pw-metadata"_s,
+            {u"0"_s, u"default.configured.audio.sink"_s, u"{\"name\":\"%1\"}"_s.arg(nodeName), u"Spa:String:JSON"_s});
+    }
+    static int run(const QString& program, const QStringList& arguments) {
+        QProcess process;
+        process.setStandardOutputFile(QProcess::nullDevice());
+        process.start(program, arguments);
+        return process.waitForFinished() ? process.exitCode() : -1;
+    }
+    /// Processor time that the driver has used, in seconds.
+    [[nodiscard]] double processorSeconds() const {
+        QFile file(u"/proc/%1/stat"_s.arg(driver_.processId()));
+        if (!file.open(QIODevice::ReadOnly))
+            return -1;
+        const QByteArray all = file.readAll();
+        const auto fields = all.mid(all.lastIndexOf(')') + 2).split(' ');
+        return (fields.value(11).toDouble() + fields.value(12).toDouble()) / double(sysconf(_SC_CLK_TCK));
+    }
+    /// Plays one value on each channel of an output.
+    static TestSource::Options constant(const std::string& output, std::vector<float> values,
+                                        std::vector<std::uint32_t> positions) {
+        TestSource::Options options;
+        options.target = output;
+        options.channels = std::uint32_t(values.size());
+        options.positions = std::move(positions);
+        options.sample = [values = std::move(values)](std::uint64_t, std::uint32_t channel) { return values[channel]; };
+        return options;
+    }
+    /// Waits until the last frame that was captured has these values.
+    static testing::AssertionResult ends(const TestCapture& capture, double left, double right) {
+        std::vector<float> samples;
+        const auto arrived = [&] {
+            samples = capture.interleaved();
+            return samples.size() > 1 && std::abs(samples[samples.size() - 2] - left) < 1e-6 &&
+                   std::abs(samples.back() - right) < 1e-6;
+        };
+        if (waitFor(arrived))
+            return testing::AssertionSuccess();
+        return testing::AssertionFailure()
+               << samples[samples.size() - 2] << ' ' << samples.back() << " instead of " << left << ' ' << right;
+    }
+
     PrivateAudioSession& session_ = PrivateAudioSession::shared();
     QProcess driver_;
+    QProcess second_;
+    const double minus3dB_ = std::sqrt(0.5);
 };
 
 TEST_F(DriverProcess, CarriesWhatTheDefaultOutputPlaysSampleForSample) {
@@ -111,6 +174,80 @@ TEST_F(DriverProcess, FlowsAgainAfterALongRest) {
     TestPlayer player({.content = TestSource::Content::Tone});
     ASSERT_TRUE(player.start());
     EXPECT_TRUE(waitFor([&] { return capture.recentPeak() > 0.2F; }));
+}
+
+TEST_F(DriverProcess, MixesAllChannelsOfAnOutputWithSix) {
+    addSecondOutput("FL FR FC LFE RL RR");
+    setDefaultOutput(u"test.second"_s);
+    TestCapture capture({.target = "korvane.system-audio", .monitor = false});
+    ASSERT_TRUE(capture.start());
+    TestPlayer player(constant("test.second", {0.1F, 0.2F, 0.3F, 0.04F, 0.15F, 0.25F},
+                               {SPA_AUDIO_CHANNEL_FL, SPA_AUDIO_CHANNEL_FR, SPA_AUDIO_CHANNEL_FC, SPA_AUDIO_CHANNEL_LFE,
+                                SPA_AUDIO_CHANNEL_RL, SPA_AUDIO_CHANNEL_RR}));
+    ASSERT_TRUE(player.start());
+    EXPECT_TRUE(ends(capture, 0.1 + minus3dB_ * 0.3 + 0.5 * 0.04 + minus3dB_ * 0.15,
+                     0.2 + minus3dB_ * 0.3 + 0.5 * 0.04 + minus3dB_ * 0.25));
+}
+
+TEST_F(DriverProcess, MixesAllChannelsOfAnOutputWithEightWithoutLimitingTheirSum) {
+    addSecondOutput("FL FR FC LFE RL RR SL SR");
+    setDefaultOutput(u"test.second"_s);
+    TestCapture capture({.target = "korvane.system-audio", .monitor = false});
+    ASSERT_TRUE(capture.start());
+    TestPlayer player(
+        constant("test.second", {1, -1, 1, 1, 1, -1, 1, -1},
+                 {SPA_AUDIO_CHANNEL_FL, SPA_AUDIO_CHANNEL_FR, SPA_AUDIO_CHANNEL_FC, SPA_AUDIO_CHANNEL_LFE,
+                  SPA_AUDIO_CHANNEL_RL, SPA_AUDIO_CHANNEL_RR, SPA_AUDIO_CHANNEL_SL, SPA_AUDIO_CHANNEL_SR}));
+    ASSERT_TRUE(player.start());
+    EXPECT_TRUE(ends(capture, 1.5 + 3 * minus3dB_, -0.5 - minus3dB_));
+}
+
+TEST_F(DriverProcess, ChangesBetweenAStereoOutputAndOneWithSixChannelsWithoutBeingCutOff) {
+    addSecondOutput("FL FR FC LFE RL RR");
+    TestCapture capture({.target = "korvane.system-audio", .monitor = false});
+    ASSERT_TRUE(capture.start());
+    // The player goes where the default output is. On the stereo output the server mixes its channels down; the mix of
+    // the driver must be the same.
+    TestPlayer player(constant("", {0.1F, 0.2F, 0.3F, 0.0F, 0.15F, 0.25F},
+                               {SPA_AUDIO_CHANNEL_FL, SPA_AUDIO_CHANNEL_FR, SPA_AUDIO_CHANNEL_FC, SPA_AUDIO_CHANNEL_LFE,
+                                SPA_AUDIO_CHANNEL_RL, SPA_AUDIO_CHANNEL_RR}));
+    ASSERT_TRUE(player.start());
+    const double left = 0.1 + minus3dB_ * (0.3 + 0.15);
+    const double right = 0.2 + minus3dB_ * (0.3 + 0.25);
+    ASSERT_TRUE(ends(capture, left, right));
+    ServerWatch server;
+    ASSERT_TRUE(server.start());
+    const auto fedBy = [&](const std::string& node) {
+        return waitFor([&] { return server.feedersOf("korvane.system-audio") == std::set<std::string>{node}; });
+    };
+    ASSERT_TRUE(fedBy("sonaphex.output"));
+    for (int i = 0; i < 3; ++i) {
+        setDefaultOutput(u"test.second"_s);
+        ASSERT_TRUE(fedBy("korvane.system-audio.mix"));
+        ASSERT_TRUE(ends(capture, left, right));
+        setDefaultOutput(u"sonaphex.output"_s);
+        ASSERT_TRUE(fedBy("sonaphex.output"));
+        ASSERT_TRUE(ends(capture, left, right));
+    }
+    EXPECT_EQ(server.timesCutOff("korvane.system-audio"), 0);
+}
+
+TEST_F(DriverProcess, RestsWhenAPatchbayMadeItsLinkBefore) {
+    addSecondOutput("FL FR");
+    TestCapture capture({.target = "korvane.system-audio", .monitor = false});
+    ASSERT_TRUE(capture.start());
+    TestPlayer player(constant("test.second", {0.5F, 0.25F}, {}));
+    ASSERT_TRUE(player.start());
+    ASSERT_EQ(run(u"pw-link"_s, {u"test.second:monitor_FL"_s, u"korvane.system-audio:input_FL"_s}), 0);
+    setDefaultOutput(u"test.second"_s);
+    ASSERT_TRUE(ends(capture, 0.5, 0.25));
+    const double before = processorSeconds();
+    const auto frames = capture.frames();
+    ASSERT_TRUE(waitFor([&] { return capture.frames() > frames + 96000; }));
+    EXPECT_LT(processorSeconds() - before, 0.1) << "of two seconds";
+    // The other one's link goes; the driver sees to it that both sides arrive.
+    ASSERT_EQ(run(u"pw-link"_s, {u"-d"_s, u"test.second:monitor_FL"_s, u"korvane.system-audio:input_FL"_s}), 0);
+    EXPECT_TRUE(ends(capture, 0.5, 0.25));
 }
 
 } // namespace

@@ -11,6 +11,7 @@ Platform::SignalSource::Options sourceOptions(const TestSource::Options& options
             .target = options.target,
             .rate = options.rate,
             .channels = options.channels,
+            .positions = options.positions,
             .cycle = options.cycle,
             .ownClock = options.ownClock,
             .clockErrorPpm = options.clockErrorPpm,

@@ -10,6 +10,7 @@
 #include <functional>
 #include <numbers>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -63,6 +64,7 @@ public:
         std::string description = "Test Source";
         std::uint32_t rate = 48000;
         std::uint32_t channels = 2;
+        std::vector<std::uint32_t> positions{}; ///< SPA_AUDIO_CHANNEL_..., one a channel
         Content content = Content::Ramp;
         double frequency = 440;  ///< of the tone, Hz
         double amplitude = 0.25; ///< of the tone

@@ -149,8 +149,9 @@ bool SignalSource::Connection::start(std::string& why) {
         });
     }
 
-    const PodPtr format =
-        interleavedFloatPod({options.rate, options.channels, defaultChannelPositions(options.channels)});
+    const PodPtr format = interleavedFloatPod(
+        {options.rate, options.channels,
+         options.positions.empty() ? defaultChannelPositions(options.channels) : options.positions});
     const spa_pod* params[] = {format.get()};
     int flags = PW_STREAM_FLAG_MAP_BUFFERS | PW_STREAM_FLAG_RT_PROCESS;
     if (options.ownClock)

@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace Platform {
 
@@ -27,6 +28,8 @@ public:
         std::string target{};
         std::uint32_t rate = 48000; ///< Hz
         std::uint32_t channels = 2;
+        /// SPA_AUDIO_CHANNEL_..., one a channel; empty is mono, front left and right, or numbered places.
+        std::vector<std::uint32_t> positions{};
         std::uint32_t cycle = 1024; ///< frames it asks to be called for at a time
         /// Keeps its own time like a sound card, instead of the server's: needed for two devices whose clocks differ.
         bool ownClock = false;

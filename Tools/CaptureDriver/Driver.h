@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Audio/linux/PipeWireHandles.h"
+#include "Tools/CaptureDriver/Mixer.h"
+
+#include <chrono>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+/// The computer-audio driver: makes a source in the sound server and feeds it from the monitor of an output, the
+/// default one until it is told another. Everything happens on the one thread of the main loop. Members are destroyed
+/// from the bottom up.
+class Driver {
+public:
+    /// The metadata of our node that names the output to take; also the value that takes nothing.
+    static constexpr char kPathKey[] = "kCaptureDriverPathKey";
+
+    Driver() = default;
+    ~Driver();
+    Driver(const Driver&) = delete;
+    Driver& operator=(const Driver&) = delete;
+
+    /// @p configuration holds the properties of the node. Connects to the server; false without one.
+    bool start(const std::string& configuration);
+    /// Runs until the server ends or the driver is told to quit.
+    void run() { pw_main_loop_run(loop_.get()); }
+
+private:
+    using MainLoopPtr = std::unique_ptr<pw_main_loop, Platform::PipeWire::FreeBy<pw_main_loop_destroy>>;
+    using SteadyClock = std::chrono::steady_clock;
+    using Ports = std::pair<std::uint32_t, std::uint32_t>; ///< from, to
+
+    struct Node {
+        std::string name;
+        std::string mediaClass;
+    };
+    struct Port {
+        std::uint32_t node;
+        std::uint32_t number;
+        bool output;
+        bool monitor;
+        std::string channel;
+    };
+    /// One link that we made. The server may take it away at any time.
+    struct Link {
+        ~Link() {
+            infoListener.remove();
+            proxyListener.remove();
+        }
+        Driver* driver = nullptr;
+        Platform::PipeWire::ProxyPtr proxy;
+        Platform::PipeWire::Hook infoListener;
+        Platform::PipeWire::Hook proxyListener;
+        SteadyClock::time_point madeAt;
+        bool established = false;
+        bool refused = false; ///< the server could not make it
+        bool gone = false;
+    };
+    /// The links that carry the present output to us.
+    struct Wiring {
+        std::set<Ports> links;
+        const Mixer* mixer = nullptr; ///< they go through it; null when they are direct
+        bool complete = true;         ///< false while a node or its ports are still to come
+    };
+
+    void quit() { pw_main_loop_quit(loop_.get()); }
+    void leave();
+    void onSteered(const std::string& key, const std::string& value);
+    void bindMetadata(std::uint32_t id);
+    void createNode();
+    void onGlobal(std::uint32_t id, const char* type, const spa_dict* properties);
+    void onGlobalRemoved(std::uint32_t id);
+    void onMetadata(std::uint32_t subject, const char* key, const char* value);
+    /// reconcile() follows when the server has told all that happened so far.
+    void lookAgain() { pendingSync_ = pw_core_sync(core_.get(), PW_ID_CORE, 0); }
+    void reconcile();
+    void forgetLostLinks();
+    void retryLater();
+    [[nodiscard]] std::uint32_t nodeNamed(const std::string& name) const;
+    [[nodiscard]] std::uint32_t target() const;
+    enum class PortKind { Input, Output, Monitor };
+    [[nodiscard]] std::vector<std::uint32_t> portsOf(std::uint32_t node, PortKind kind) const;
+    [[nodiscard]] Wiring wiring();
+    [[nodiscard]] std::set<Ports> directLinks(const std::vector<std::uint32_t>& from) const;
+    [[nodiscard]] Wiring mixedLinks(const std::vector<std::uint32_t>& from);
+    [[nodiscard]] const Mixer* mixerFor(std::uint32_t output, const std::vector<std::string>& channels);
+    [[nodiscard]] bool isLinkedByOthers(Ports ports) const;
+    void connect(Ports ports);
+
+    MainLoopPtr loop_;
+    Platform::PipeWire::ContextPtr context_;
+    Platform::PipeWire::CorePtr core_;
+    Platform::PipeWire::Hook coreListener_;
+    Platform::PipeWire::RegistryPtr registry_;
+    Platform::PipeWire::Hook registryListener_;
+    Platform::PipeWire::ProxyPtr node_;
+    Platform::PipeWire::Hook nodeListener_;
+    Platform::PipeWire::MetadataPtr metadata_;
+    Platform::PipeWire::Hook metadataListener_;
+    Platform::PipeWire::PropertiesPtr properties_;
+    Platform::PipeWire::LoopSource interrupt_;
+    Platform::PipeWire::LoopSource termination_;
+    Platform::PipeWire::LoopSource retryTimer_;
+
+    int pendingSync_ = -1;
+    std::uint32_t metadataId_ = SPA_ID_INVALID;
+    std::uint32_t ownId_ = SPA_ID_INVALID;
+    bool created_ = false;
+    bool listening_ = false;
+    bool leaving_ = false;
+    std::map<std::uint32_t, Node> nodes_;
+    std::map<std::uint32_t, Port> ports_;
+    std::map<std::uint32_t, Ports> serverLinks_; ///< all that there are, by the server's number
+    std::vector<std::unique_ptr<Mixer>> mixers_; ///< the present output's, and until it flows the one before
+    std::map<Ports, Link> links_;
+    std::map<Ports, SteadyClock::time_point> refused_; ///< when the server refused or removed a link of ours
+    SteadyClock::time_point mixerFailedAt_{};
+    std::map<std::pair<std::uint32_t, std::string>, std::string> stale_; ///< by number and key
+    std::string defaultOutput_;
+    std::string steering_; ///< a registry path; the key itself takes nothing; empty follows the default output
+};
