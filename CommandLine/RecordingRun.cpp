@@ -34,14 +34,14 @@ QJsonObject described(const QString& path, double seconds) {
     return {{u"path"_s, path}, {u"title"_s, QFileInfo(path).completeBaseName()}, {u"seconds"_s, seconds}};
 }
 
-/// An engine that opens the asked device only: a source that is not recorded costs no stream and no ring.
+/// An engine that takes the asked device only: a source that is not recorded costs no stream and no ring, and its
+/// volume stays as it is.
 class AskedEngine final : public BuildInAudioRecord {
 public:
     explicit AskedEngine(const RecordingTask& task) : task_(task) {}
-    bool configureAudioUnit(AudioObjectID device) override {
-        const bool asked = isRecordComputerAudio() ? task_.wantsComputerAudio
-                                                   : task_.wantsInput && (task_.device == 0 || task_.device == device);
-        return !asked || BuildInAudioRecord::configureAudioUnit(device);
+    bool records(AudioObjectID device) const override {
+        return isRecordComputerAudio() ? task_.wantsComputerAudio
+                                       : task_.wantsInput && (task_.device == 0 || task_.device == device);
     }
 
 private:

@@ -54,6 +54,8 @@ public:
     /// Opens, configures and starts the input unit on a device; from then on levels arrive, whatever is recorded. On an
     /// engine that has a unit it moves to the other device. A unit that failed midway stays open and silent.
     virtual bool configureAudioUnit(AudioObjectID device);
+    /// Whether this engine may record that device. Nothing of one that it does not record is changed.
+    [[nodiscard]] virtual bool records(AudioObjectID /*device*/) const { return true; }
     /// Creates the export file: type 0 WAVE, 1 (and 2) MPEG-4 AAC; an existing file is overwritten. It stays open until
     /// it is recorded and stopped, replaced by another of its type, or cleaned up. False when it cannot be created.
     virtual bool setOutPutAudioPath(const QString& path, int forType);

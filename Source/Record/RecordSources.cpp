@@ -71,7 +71,7 @@ void RecordSources::awakeFromNib() {
         connect(hardware, &Platform::AudioHardware::devicesChanged, this, &RecordSources::followDevices);
         // The driver listens where it was told to: a new default output must be told again, during a recording too.
         connect(hardware, &Platform::AudioHardware::defaultOutputDeviceChanged, this, [this] {
-            if (computerAudioDeviceID_ != 0)
+            if (computerAudioDeviceID_ != 0 && computerAudioRecord_.records(computerAudioDeviceID_))
                 CaptureComputerAudio::startCaptureComputerAudio();
         });
         // The driver ends with its server. A recording waits for the device, so it must come back with the next one.
@@ -85,8 +85,10 @@ void RecordSources::awakeFromNib() {
 }
 
 void RecordSources::adoptComputerAudio(AudioObjectID device) {
-    CaptureComputerAudio::startCaptureComputerAudio();
-    if (CaptureComputerAudio::captureComputerAudioIsUSBDevice()) {
+    const bool records = computerAudioRecord_.records(device);
+    if (records)
+        CaptureComputerAudio::startCaptureComputerAudio();
+    if (records && CaptureComputerAudio::captureComputerAudioIsUSBDevice()) {
         // A dialog turns the event loop. Inside a device event, that would handle the next event within this one.
         if (followsDeviceEvent_)
             Platform::MainQueue::post(this, warnOfUsbHeadset);
@@ -127,6 +129,8 @@ void RecordSources::configComputerRecordAudioDevice() {
 }
 
 void RecordSources::bind(BuildInAudioRecord& engine, AudioObjectID device, const QString& name) {
+    if (!engine.records(device))
+        return;
     BuildInAudioRecord::setMaxVolume(device);
     if (!engine.configureAudioUnit(device))
         Q_EMIT noticed(u"%1 cannot be opened: %2"_s.arg(name, engine.lastError()));

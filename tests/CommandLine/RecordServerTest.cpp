@@ -62,6 +62,39 @@ TEST_F(RecordServer, NamesTheDevicesThereAreForAnUnknownOne) {
     EXPECT_FALSE(QFile::exists(folder_)) << "nothing half-made is left";
 }
 
+TEST_F(RecordServer, LeavesADeviceAloneThatItDoesNotRecord) {
+    TestSource other({.name = "test.left.alone", .description = "Left alone"});
+    ASSERT_TRUE(other.start());
+    ASSERT_TRUE(Platform::PipeWire::serverIsThere(30000, true, "test.left.alone"));
+    const QString driver = QStringLiteral(SONAPHEX_BIN_DIR "/Resources/ComputerAudioCapture.kext/CaptureDriver");
+    QProcess computerAudio;
+    computerAudio.start(driver, QStringList());
+    ASSERT_TRUE(Platform::PipeWire::serverIsThere(30000, true, "korvane.system-audio"));
+    tone();
+    const QString quiet = u"{ channelVolumes: [ 0.25, 0.25 ], mute: true }"_s;
+    ASSERT_EQ(runTool(u"pw-cli"_s, {u"set-param"_s, u"test.left.alone"_s, u"Props"_s, quiet}).status, 0);
+    ASSERT_EQ(runTool(u"pw-cli"_s, {u"set-param"_s, u"test.tone"_s, u"Props"_s, quiet}).status, 0);
+    const auto result = sonaphex(recordArguments({u"--for"_s, u"0.2"_s}));
+    EXPECT_EQ(result.status, 0) << result.errors.toStdString();
+    const auto propsOf = [](const QString& node) { return runTool(u"pw-dump"_s, {node}).output.simplified(); };
+    EXPECT_TRUE(propsOf(u"test.tone"_s).contains("\"channelVolumes\": [ 1.000000, 1.000000 ]"));
+    const QByteArray untouched = propsOf(u"test.left.alone"_s);
+    EXPECT_TRUE(untouched.contains("\"channelVolumes\": [ 0.250000, 0.250000 ]")) << untouched.toStdString();
+    EXPECT_TRUE(untouched.contains("\"mute\": true"));
+    // Computer audio is off: the driver is not told which output to take.
+    EXPECT_FALSE(runTool(u"pw-metadata"_s, {}).output.contains("kCaptureDriverPathKey"));
+
+    ASSERT_EQ(runTool(u"pw-cli"_s, {u"set-param"_s, u"test.tone"_s, u"Props"_s, quiet}).status, 0);
+    const auto computerOnly = sonaphex({u"record"_s, u"--input"_s, u"none"_s, u"--computer"_s, u"--wait"_s, u"0.1"_s,
+                                        u"--folder"_s, folder_, u"--filter"_s, u"off"_s});
+    EXPECT_EQ(computerOnly.status, 0) << computerOnly.errors.toStdString();
+    EXPECT_TRUE(propsOf(u"test.tone"_s).contains("\"mute\": true"));
+    EXPECT_TRUE(propsOf(u"test.left.alone"_s).contains("\"mute\": true"));
+    EXPECT_TRUE(runTool(u"pw-metadata"_s, {}).output.contains("kCaptureDriverPathKey"));
+    computerAudio.terminate();
+    computerAudio.waitForFinished();
+}
+
 TEST_F(RecordServer, RefusesAFolderThatCannotBeWritten) {
     tone();
     folder_ = u"/proc/self"_s;

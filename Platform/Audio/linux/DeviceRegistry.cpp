@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Audio/linux/DeviceRegistry.h"
 
-#include "Platform/Audio/linux/NodeFormat.h"
+#include "Platform/Audio/linux/DeviceRegistryObjects.h"
 #include "Platform/Audio/linux/RegistryPath.h"
 
 #include <algorithm>
@@ -23,11 +23,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr std::array deviceClasses = {"Audio/Sink", "Audio/Source", "Audio/Source/Virtual", "Audio/Duplex"};
-
-std::string lookup(const spa_dict* properties, const char* key) {
-    const char* value = properties ? spa_dict_lookup(properties, key) : nullptr;
-    return value ? value : "";
-}
 
 /// The value of "name" in {"name":"..."}.
 std::string nameIn(const char* json) {
@@ -53,50 +48,6 @@ std::string nameIn(const char* json) {
 QString AudioDeviceInfo::uid() const {
     return QString::fromStdString(RegistryPath::uniqueID(nodeName));
 }
-
-/// A device's node on the server.
-struct DeviceRegistry::Node {
-    Node(DeviceRegistry& r, std::uint32_t i) : owner(r), nodeId(i) {}
-
-    void onInfo(const pw_node_info* update);
-    void onParam(std::uint32_t id, const spa_pod* pod);
-
-    DeviceRegistry& owner;
-    std::uint32_t nodeId;
-    AudioDeviceInfo info;
-    NodeFormat offered; ///< what it could do
-    NodeFormat chosen;  ///< what it does since it was opened; may be unknown
-    int sequence = -1;  ///< answered when it told about itself
-    bool announced = false;
-    NodePtr proxy;
-    Hook listener;
-};
-
-/// The hardware that nodes belong to: a sound card, a headset. Of its bus a card's node says nothing itself.
-struct DeviceRegistry::Card {
-    Card(DeviceRegistry& r, std::uint32_t i) : owner(r), deviceId(std::to_string(i)) {}
-
-    void onInfo(const pw_device_info* update);
-    [[nodiscard]] bool has(const AudioDeviceInfo& node) const {
-        const auto named = node.properties.find(PW_KEY_DEVICE_ID);
-        return named != node.properties.end() && named->second == deviceId;
-    }
-
-    DeviceRegistry& owner;
-    std::string deviceId;
-    std::map<std::string, std::string> properties;
-    DevicePtr proxy;
-    Hook listener;
-};
-
-struct DeviceRegistry::Metadata {
-    Metadata(DeviceRegistry& r, std::string n) : owner(r), name(std::move(n)) {}
-
-    DeviceRegistry& owner;
-    std::string name;
-    MetadataPtr proxy;
-    Hook listener;
-};
 
 std::shared_ptr<DeviceRegistry> DeviceRegistry::shared() {
     static std::mutex mutex;
@@ -151,6 +102,7 @@ void DeviceRegistry::serverConnected() {
     };
     pw_registry_add_listener(registry_.get(), registryListener_.get(), &registryEvents, this);
     knownSequence_ = -1;
+    routesAsked_ = false;
     globalsSequence_ = pw_core_sync(core, PW_ID_CORE, 0);
 }
 
@@ -244,6 +196,10 @@ void DeviceRegistry::onDone(int sequence) {
     }
     if (sequence == globalsSequence_) {
         knownSequence_ = pw_core_sync(connection_->core(), PW_ID_CORE, 0);
+    } else if (sequence == knownSequence_ && !routesAsked_ && !cards_.empty()) {
+        // Cards that told about themselves were asked for their routes. The answers come before that of this call.
+        routesAsked_ = true;
+        knownSequence_ = pw_core_sync(connection_->core(), PW_ID_CORE, 0);
     } else if (sequence == knownSequence_) {
         {
             std::lock_guard guard(mutex_);
@@ -294,9 +250,16 @@ void DeviceRegistry::publish(const Node& node) {
     info.channelPositions = format.positions;
     if (info.channelPositions.size() != info.channels)
         info.channelPositions = defaultChannelPositions(info.channels);
-    for (const auto& [id, card] : cards_)
-        if (card->has(info))
-            info.properties.insert(card->properties.begin(), card->properties.end());
+    for (const auto& [id, card] : cards_) {
+        if (!card->has(info))
+            continue;
+        info.properties.insert(card->properties.begin(), card->properties.end());
+        if (const auto* route = card->routeOf(info); route && route->hasVolume) {
+            info.hasVolume = true;
+            info.volumes = route->volumes;
+            info.muted = route->muted;
+        }
+    }
     if (info.hasVolume)
         info.volumes.resize(info.channels, 1.0f);
     // The session manager makes a device's ports a moment after the device itself.
@@ -334,28 +297,6 @@ void DeviceRegistry::Node::onParam(std::uint32_t id, const spa_pod* pod) {
     }
     if (announced)
         owner.publish(*this);
-}
-
-void DeviceRegistry::bindCard(std::uint32_t id) {
-    auto& card = cards_[id] = std::make_unique<Card>(*this, id);
-    card->proxy.reset(
-        static_cast<pw_device*>(pw_registry_bind(registry_.get(), id, PW_TYPE_INTERFACE_Device, PW_VERSION_DEVICE, 0)));
-    static constexpr pw_device_events events = {
-        .version = PW_VERSION_DEVICE_EVENTS,
-        .info = [](void* data, const pw_device_info* info) { static_cast<Card*>(data)->onInfo(info); },
-    };
-    pw_device_add_listener(card->proxy.get(), card->listener.get(), &events, card.get());
-}
-
-void DeviceRegistry::Card::onInfo(const pw_device_info* update) {
-    if (!(update->change_mask & PW_DEVICE_CHANGE_MASK_PROPS) || !update->props)
-        return;
-    for (const char* key : {PW_KEY_DEVICE_BUS, PW_KEY_DEVICE_NAME})
-        if (auto value = lookup(update->props, key); !value.empty())
-            properties[key] = std::move(value);
-    for (const auto& [id, node] : owner.nodes_)
-        if (node->announced && has(node->info))
-            owner.publish(*node);
 }
 
 void DeviceRegistry::bindMetadata(std::uint32_t id, const std::string& name) {
@@ -441,45 +382,6 @@ std::uint32_t DeviceRegistry::cycleFrames(double sampleRate) const {
     const auto quantum = forcedQuantum_ ? forcedQuantum_ : quantum_;
     // At a multiple of the server's rate a cycle lasts as long and so holds more frames.
     return std::clamp(std::uint32_t(quantum * std::max(1.0, std::floor(sampleRate / clockRate_))), 64u, 8192u);
-}
-
-DeviceRegistry::Node* DeviceRegistry::find(AudioObjectID device) {
-    for (const auto& [id, node] : nodes_)
-        if (node->announced && node->info.id == device)
-            return node.get();
-    return nullptr;
-}
-
-OSStatus DeviceRegistry::setVolume(AudioObjectID device, std::uint32_t element, float volume) {
-    LoopLock lock(connection_->threadLoop());
-    Node* node = find(device);
-    if (!node)
-        return kAudioHardwareBadDeviceError;
-    std::vector<float> volumes;
-    if (const auto known = this->device(device))
-        volumes = known->volumes;
-    if (element == 0 || element > volumes.size())
-        return kAudioHardwareUnknownPropertyError;
-    volumes[element - 1] = volume;
-    const auto pod = volumesPod(volumes);
-    if (pw_node_set_param(node->proxy.get(), SPA_PARAM_Props, 0, pod.get()) < 0)
-        return kAudioHardwareIllegalOperationError;
-    node->info.volumes = volumes;
-    publish(*node);
-    return noErr;
-}
-
-OSStatus DeviceRegistry::setMute(AudioObjectID device, bool mute) {
-    LoopLock lock(connection_->threadLoop());
-    Node* node = find(device);
-    if (!node)
-        return kAudioHardwareBadDeviceError;
-    const auto pod = mutePod(mute);
-    if (pw_node_set_param(node->proxy.get(), SPA_PARAM_Props, 0, pod.get()) < 0)
-        return kAudioHardwareIllegalOperationError;
-    node->info.muted = mute;
-    publish(*node);
-    return noErr;
 }
 
 OSStatus DeviceRegistry::setMetadata(std::uint32_t subject, const std::string& key, const std::string& type,

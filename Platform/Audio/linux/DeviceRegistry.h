@@ -15,6 +15,8 @@
 
 namespace Platform {
 
+struct DeviceRoute;
+
 /// A node of the sound server that is a device, as it is known at one moment.
 struct AudioDeviceInfo {
     AudioObjectID id = 0;
@@ -74,7 +76,8 @@ public:
     /// Frames in one cycle of a device that runs at @p sampleRate.
     [[nodiscard]] std::uint32_t cycleFrames(double sampleRate) const;
 
-    /// Volume of one channel, or mute, of a device. Takes the loop's lock.
+    /// Volume of one channel, or mute, of a device: of its card's route where the card has one, else of the node.
+    /// Takes the loop's lock.
     OSStatus setVolume(AudioObjectID device, std::uint32_t element, float volume);
     OSStatus setMute(AudioObjectID device, bool mute);
     /// Sets or (empty @p value) removes a key of the server's metadata "default" for an object. Takes the loop's lock.
@@ -105,6 +108,8 @@ private:
     void publish(const Node& node);
     [[nodiscard]] AudioObjectID numberFor(const std::string& nodeName);
     [[nodiscard]] Node* find(AudioObjectID device);
+    /// The card and the route that carry the node's volume; null where the node carries it itself.
+    [[nodiscard]] std::pair<Card*, DeviceRoute*> routeOf(const Node& node);
 
     std::shared_ptr<PipeWireConnection> connection_;
     std::vector<Listener*> listeners_;
@@ -116,7 +121,8 @@ private:
     std::map<std::uint32_t, Port> ports_;
     std::map<std::uint32_t, std::unique_ptr<Metadata>> metadata_;
     int globalsSequence_ = -1; ///< answered when all that existed at connecting was named
-    int knownSequence_ = -1;   ///< answered when all of that told about itself
+    bool routesAsked_ = false;
+    int knownSequence_ = -1; ///< answered when all of that told about itself
 
     /// Numbers ever given under a name, oldest first. Kept for the life of the process, beyond that of any registry.
     static std::unordered_map<std::string, std::vector<AudioObjectID>>& numbers();

@@ -3,6 +3,7 @@
 #include "Platform/Audio/AudioHardware.h"
 
 #include "tests/support/PrivateAudioSession.h"
+#include "tests/support/TestCard.h"
 #include "tests/support/TestSource.h"
 #include "tests/support/UnitCapture.h"
 #include "tests/support/WaitFor.h"
@@ -179,6 +180,75 @@ TEST_F(AudioHardwareTest, SeesAVolumeThatSomebodyElseSet) {
     ASSERT_TRUE(waitFor([&] { return hardware_->getVolumeScalar(device, 1, volume) == noErr; }));
     asked(u"pw-cli"_s, {u"set-param"_s, u"test.other"_s, u"Props"_s, u"{ channelVolumes: [ 0.125, 0.75 ] }"_s});
     EXPECT_TRUE(waitFor([&] { return hardware_->getVolumeScalar(device, 2, volume) == noErr && volume == 0.75f; }));
+}
+
+namespace {
+
+/// The microphone of a sound card.
+class CardNode {
+public:
+    CardNode(const TestCard& card, int device) {
+        node_.start(u"pw-cli"_s, QStringList());
+        node_.write("create-node adapter { factory.name=support.null-audio-sink node.name=test.card.mic "
+                    "node.description=\"Card Microphone\" media.class=Audio/Source/Virtual audio.position=[FL FR] "
+                    "device.id=" +
+                    QByteArray::number(card.id()) + " card.profile.device=" + QByteArray::number(device) + " }\n");
+    }
+    ~CardNode() {
+        node_.closeWriteChannel();
+        node_.terminate();
+        node_.waitForFinished();
+    }
+
+private:
+    QProcess node_;
+};
+
+} // namespace
+
+TEST_F(AudioHardwareTest, SetsVolumeAndMuteOnTheRouteOfACard) {
+    TestCard card({{"device.name", "test_card.routed"}, {"media.class", "Audio/Device"}},
+                  TestCard::Route{.index = 4, .device = 7, .volumes = {0.1f, 0.2f}, .muted = true});
+    ASSERT_TRUE(card.start());
+    const CardNode node(card, 7);
+    const auto device = waitForDevice(*hardware_, u"Card Microphone"_s);
+    // What the card has is told, not what its node says.
+    float volume = 0;
+    bool mute = false;
+    ASSERT_TRUE(waitFor([&] { return hardware_->getVolumeScalar(device, 2, volume) == noErr && volume == 0.2f; }));
+    ASSERT_TRUE(waitFor([&] { return hardware_->getMute(device, 1, mute) == noErr && mute; }));
+    ASSERT_EQ(hardware_->setVolumeScalar(device, 1, 1.0f), noErr);
+    ASSERT_EQ(hardware_->setVolumeScalar(device, 2, 0.5f), noErr);
+    ASSERT_EQ(hardware_->setMute(device, 2, false), noErr);
+    EXPECT_TRUE(waitFor([&] {
+        const auto route = card.route();
+        return route.volumes == std::vector{1.0f, 0.5f} && !route.muted;
+    })) << testing::PrintToString(card.route().volumes);
+    // A program that has just begun knows the route when it first asks.
+    hardware_.reset();
+    hardware_ = createAudioHardware();
+    (void)hardware_->devices();
+    const auto again = deviceNamed(*hardware_, u"Card Microphone"_s);
+    EXPECT_EQ(again, device);
+    EXPECT_EQ(hardware_->getVolumeScalar(again, 2, volume), noErr);
+    EXPECT_EQ(volume, 0.5f);
+    card.turn({0.25f, 0.75f});
+    EXPECT_TRUE(waitFor([&] { return hardware_->getVolumeScalar(device, 2, volume) == noErr && volume == 0.75f; }));
+}
+
+TEST_F(AudioHardwareTest, SetsVolumeAndMuteOnTheNodeWhereTheRouteHasNone) {
+    TestCard card({{"device.name", "test_card.digital"}, {"media.class", "Audio/Device"}},
+                  TestCard::Route{.index = 0, .device = 7});
+    ASSERT_TRUE(card.start());
+    const CardNode node(card, 7);
+    const auto device = waitForDevice(*hardware_, u"Card Microphone"_s);
+    float volume = 0;
+    ASSERT_TRUE(waitFor([&] { return hardware_->getVolumeScalar(device, 1, volume) == noErr; }));
+    ASSERT_EQ(hardware_->setVolumeScalar(device, 1, 0.25f), noErr);
+    EXPECT_TRUE(waitFor([] {
+        return asked(u"pw-dump"_s, {u"test.card.mic"_s}).simplified().contains("\"channelVolumes\": [ 0.250000,");
+    }));
+    EXPECT_TRUE(card.route().volumes.empty());
 }
 
 TEST_F(AudioHardwareTest, FollowsTheDefaultOutput) {
