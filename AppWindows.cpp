@@ -43,7 +43,11 @@ public:
     }
 
     std::unique_ptr<AppDelegate::WindowController> makePreferenceWndController(const QString& /*file*/) override {
-        return std::make_unique<PreferenceWndController>(ComputerAudioDevice::system());
+        return std::make_unique<PreferenceWndController>(ComputerAudioDevice::system([this] {
+            return record_ && record_->isStateAudioRecord()
+                       ? QObject::tr("The device stays as it is until the recording ends.")
+                       : QString();
+        }));
     }
 
     std::unique_ptr<AppDelegate::WindowController> makeMainWndController(const QString& /*file*/,
@@ -80,6 +84,8 @@ public:
     void setupSystemStatusBar(AppDelegate& application) override {
         auto& window = static_cast<MainWndController&>(*application.mainWndController());
         auto& preferences = static_cast<PreferenceWndController&>(*application.preferenceWndController());
+        QObject::connect(record_.get(), &RecordStateController::stateChanged, &preferences,
+                         &PreferenceWndController::flushExistSystemAudioRecordDevice);
         // A child of the window's controller: it goes first.
         auto* item = new StatusBarItem(window, &window);
         const ShortcutCommand commands[] = {

@@ -15,7 +15,10 @@
 #include "Source/ProcessRequests/Launch.h"
 
 #include <QApplication>
+#include <QProgressDialog>
 #include <QSessionManager>
+
+#include <memory>
 
 namespace {
 
@@ -33,6 +36,25 @@ public:
 
 private:
     AppDelegate& delegate_;
+};
+
+/// Tells the user that the sound server is waited for, and lets him go on without it.
+class WaitingForServer {
+public:
+    bool goOn() {
+        if (!dialog_) {
+            dialog_ = std::make_unique<QProgressDialog>(
+                QObject::tr("The sound server does not answer yet. Waiting for it…"), QObject::tr("Do Not Wait"), 0, 0);
+            dialog_->setWindowTitle(QApplication::applicationName());
+            dialog_->setMinimumDuration(0);
+            dialog_->show();
+        }
+        QCoreApplication::processEvents();
+        return !dialog_->wasCanceled();
+    }
+
+private:
+    std::unique_ptr<QProgressDialog> dialog_;
 };
 
 int runWindows(int argc, char** argv) {
@@ -60,7 +82,7 @@ int runWindows(int argc, char** argv) {
 
     const auto windows = createAppWindows();
     QString why;
-    if (!services.startAudio(why))
+    if (!services.startAudio(why, [waiting = std::make_shared<WaitingForServer>()] { return waiting->goOn(); }))
         tell(QStringLiteral("Nothing can be recorded or played."), why);
     KextInstallControl::loadIfInstalled(); // before the devices are listed
 

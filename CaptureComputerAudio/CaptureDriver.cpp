@@ -44,6 +44,23 @@ bool isLoaded() {
     return !IOService::getServicesByClassName(CaptureComputerAudio::kEngineClass).empty();
 }
 
+bool canRun(const QString& bundlePath, QString& why) {
+    const auto program = programIn(bundlePath);
+    QProcess process;
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.start(program, {u"--check"_s});
+    if (!process.waitForStarted() || !process.waitForFinished()) {
+        why = u"%1: %2"_s.arg(program, process.errorString());
+        return false;
+    }
+    if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
+        return true;
+    const auto said = QString::fromLocal8Bit(process.readAllStandardError()).trimmed().section(u'\n', 0, 0);
+    why = said.isEmpty() ? u"%1: the driver does not run on this machine"_s.arg(program) : said;
+    return false;
+}
+
 bool load(const QString& bundlePath, QString& why, int patienceMs) {
     if (isLoaded())
         return true;

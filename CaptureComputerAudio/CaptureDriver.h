@@ -14,6 +14,9 @@ inline constexpr int kPatienceMs = 5000;
 [[nodiscard]] QString programIn(const QString& bundlePath);
 /// Whether the sound server has its engine.
 [[nodiscard]] bool isLoaded();
+/// Whether the driver of a bundle can run on this machine: its program starts, reads its configuration and reaches the
+/// sound server. It makes no device meanwhile. @p why says what is wrong otherwise.
+[[nodiscard]] bool canRun(const QString& bundlePath, QString& why);
 /// Starts the driver of a bundle and waits until its engine is there, at most @p patienceMs, turning the event loop.
 /// True when it is there, also when it was before. @p why says what is wrong otherwise.
 bool load(const QString& bundlePath, QString& why, int patienceMs = kPatienceMs);

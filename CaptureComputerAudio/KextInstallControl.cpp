@@ -85,11 +85,22 @@ private:
     const bool ran_ = CaptureDriver::isLoaded();
 };
 
-/// The removal without the question whether anything is there to be removed.
-bool removeBundle() {
+/// Copies the new bundle beside the installed one and puts it in its place. Whatever fails, one of them lies there
+/// whole: a full disk leaves no half driver that the next launch would load. Every user must be able to run it, also
+/// when the administrator's umask says otherwise.
+QString replaceCommand(const QString& source) {
     const auto bundle = installedBundlePath();
-    CaptureDriver::unload();
-    return runWithAdmin(u"rm -rf %1"_s.arg(quoted(bundle)));
+    const auto fresh = bundle + u".part"_s;
+    const auto old = bundle + u".old"_s;
+    const auto folder = QFileInfo(bundle).path();
+    return u"umask 022; "
+           // An earlier replacement may have been cut off between its two moves.
+           u"[ -e %1 ] || [ ! -e %3 ] || mv -T %3 %1; "
+           u"mkdir -p %5 && chmod go+rx %6 %5 && rm -rf %2 %3 && cp -R %4 %2 && chmod -R u=rwX,go=rX %2 && "
+           u"{ [ ! -e %1 ] || mv -T %1 %3; } && "
+           u"{ mv -T %2 %1 || { [ ! -e %3 ] || mv -T %3 %1; false; }; } && { rm -rf %3 || true; }"_s.arg(
+               quoted(bundle), quoted(fresh), quoted(old), quoted(source), quoted(folder),
+               quoted(QFileInfo(folder).path()));
 }
 
 } // namespace
@@ -115,7 +126,10 @@ bool uninstall() {
         return true;
     const Turn turn;
     const RunsOn runsOn;
-    return removeBundle();
+    const auto bundle = installedBundlePath();
+    CaptureDriver::unload();
+    return runWithAdmin(
+        u"rm -rf %1 %2 %3"_s.arg(quoted(bundle), quoted(bundle + u".part"_s), quoted(bundle + u".old"_s)));
 }
 
 bool install() {
@@ -124,22 +138,17 @@ bool install() {
     whyFailed.clear();
     const Turn turn;
     const RunsOn runsOn;
-    if (isExist())
-        (void)removeBundle();
-
+    // Everything that can be known without rights comes first, and the driver that is there runs until the new one lies
+    // in its place.
     const auto source = resourceBundlePath();
-    const auto bundle = installedBundlePath();
     if (!QFileInfo(CaptureDriver::programIn(source)).isExecutable()) {
         whyFailed = u"%1: the driver is missing from the program's resources"_s.arg(source);
         return false;
     }
-    CaptureDriver::unload();
-    // Copied beside its place and moved there whole: a full disk leaves no half driver that the next launch would load.
-    const auto command = u"rm -rf %1 %2; mkdir -p %3 && cp -R %4 %2 && chmod -R go-w %2 && mv %2 %1"_s.arg(
-        quoted(bundle), quoted(bundle + u".part"_s), quoted(extensionsFolder), quoted(source));
-    if (!runWithAdmin(command))
+    if (!CaptureDriver::canRun(source, whyFailed) || !runWithAdmin(replaceCommand(source)))
         return false;
-    return CaptureDriver::load(bundle, whyFailed);
+    CaptureDriver::unload();
+    return CaptureDriver::load(installedBundlePath(), whyFailed);
 }
 
 QString lastError() {

@@ -12,7 +12,8 @@ namespace KextInstallControl {
 [[nodiscard]] bool isExist();
 /// True when no bundle is left; without one at once, and nobody is asked for a password.
 [[nodiscard]] bool uninstall();
-/// Removes what is installed, copies the bundle of the program's resources and loads the driver.
+/// Puts the bundle of the program's resources in the place of what is installed, and loads its driver. Asks for one
+/// password. Whatever fails, a driver that was installed is installed still, and runs again if it ran.
 [[nodiscard]] bool install();
 /// Why the last of them failed, in one line; empty when it did not.
 [[nodiscard]] QString lastError();

@@ -10,6 +10,7 @@
 #include "Platform/Audio/IORegistry.h"
 #include "Platform/Audio/PrivateSession.h"
 #include "Platform/Foundation/Services.h"
+#include "Source/ProcessRequests/ControlRequests.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -25,7 +26,8 @@ class RunningServer {
 public:
     RunningServer() {
         auto& services = Platform::services();
-        if (services.ioRegistry || !Platform::PrivateSession::serverAnswers())
+        if (services.ioRegistry ||
+            Platform::PrivateSession::waitForServer() != Platform::PrivateSession::Server::Answering)
             return;
         services.audioHardware = (hardware_ = Platform::createAudioHardware()).get();
         services.ioRegistry = (registry_ = Platform::createIORegistry()).get();
@@ -57,7 +59,19 @@ int status(bool json) {
     return Done;
 }
 
+/// Whether the window records: its recording would lose its device for a moment, or for good.
+bool windowRecords() {
+    const auto answer = askWindow("status");
+    QByteArray rest;
+    if (!answer || !ControlRequests::isOk(*answer, rest))
+        return false;
+    const QString state = QJsonDocument::fromJson(rest)[u"state"].toString();
+    return !state.isEmpty() && state != u"idle"_s;
+}
+
 int install() {
+    if (windowRecords())
+        return fail(u"the driver stays as it is while the window records: stop the recording first"_s);
     if (!RunningServer::answers())
         return fail(u"the driver cannot be loaded: no sound server answers"_s);
     if (!KextInstallControl::install())
@@ -66,6 +80,8 @@ int install() {
 }
 
 int remove() {
+    if (windowRecords())
+        return fail(u"the driver stays as it is while the window records: stop the recording first"_s);
     if (!KextInstallControl::uninstall())
         return fail(u"the driver was not removed: "_s + KextInstallControl::lastError());
     return Done;

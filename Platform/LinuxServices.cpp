@@ -60,18 +60,22 @@ void LinuxServices::install(Mode mode) {
     set.hotKeys = (d->hotKeys = createHotKeys()).get();
 }
 
-bool LinuxServices::startAudio(QString& why) {
+bool LinuxServices::startAudio(QString& why, const std::function<bool()>& whileWaiting) {
     if (d->audioStarted)
         return d->audioWorks;
     d->audioStarted = true;
-    if (!PrivateSession::serverAnswers()) {
+    const auto server = PrivateSession::waitForServer(whileWaiting);
+    if (server == PrivateSession::Server::Absent) {
         d->session = PrivateSession::start(why);
         if (d->session)
             std::fputs("sonaphex: no sound server answers: a private one was started, its input device is a tone\n",
                        stderr);
+    } else if (server == PrivateSession::Server::Silent) {
+        why = QStringLiteral("the sound server does not answer: it takes connections and says nothing. Restart it "
+                             "(systemctl --user restart pipewire) and try again");
     }
-    d->audioWorks = d->session || why.isEmpty();
-    services().audioHardware = (d->audioHardware = createAudioHardware()).get();
+    d->audioWorks = d->session || server == PrivateSession::Server::Answering;
+    services().audioHardware = (d->audioHardware = createAudioHardware(d->session != nullptr)).get();
     services().ioRegistry = (d->ioRegistry = createIORegistry()).get();
     return d->audioWorks;
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include <QString>
@@ -23,10 +24,12 @@ public:
 
     /// All services that need no sound server. Cheap: a subcommand that only reads a file pays for nothing else.
     void install(Mode mode);
-    /// Connects to the sound server and adds the services that speak with it. When none answers, a private session is
-    /// started first, and one line on standard error says so. A second call does nothing.
-    /// @return false when there is no sound server and none can be started; @p why then says what is missing.
-    [[nodiscard]] bool startAudio(QString& why);
+    /// Connects to the sound server and adds the services that speak with it. A server that is slow to answer is waited
+    /// for, up to 30 seconds. On a machine without one a private session is started first. One line on standard error
+    /// says either. A second call does nothing.
+    /// @p whileWaiting is called about fifty times a second while a server is waited for; false gives up.
+    /// @return false when no server answers and none can be started; @p why then says what is wrong.
+    [[nodiscard]] bool startAudio(QString& why, const std::function<bool()>& whileWaiting = {});
 
 private:
     struct Private;

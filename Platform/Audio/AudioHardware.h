@@ -42,6 +42,8 @@ public:
     /// Finds and opens the hardware output unit: null when there is none (@p found false) or it does not open.
     [[nodiscard]] virtual std::unique_ptr<InputUnit> openOutputUnit(bool& found) = 0;
 
+    /// Whether the sound server is our own, for a machine without one: its input device is a test tone.
+    [[nodiscard]] virtual bool isTestTone() const { return false; }
     /// Whether a sound server answers, and why not.
     [[nodiscard]] virtual bool connected() const = 0;
     [[nodiscard]] virtual QString lastError() const = 0;
@@ -53,7 +55,8 @@ Q_SIGNALS:
     void connectedChanged(bool connected);
 };
 
-/// The Linux side. Begins to connect at once; goes on trying while there is no server. Main thread.
-[[nodiscard]] std::unique_ptr<AudioHardware> createAudioHardware();
+/// The Linux side. Begins to connect at once; goes on trying while there is no server. Main thread. @p testTone says
+/// that the server is a private session of this process.
+[[nodiscard]] std::unique_ptr<AudioHardware> createAudioHardware(bool testTone = false);
 
 } // namespace Platform

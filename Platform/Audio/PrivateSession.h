@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include <QString>
@@ -16,7 +17,20 @@ public:
     /// The folder in which its socket lies (PIPEWIRE_RUNTIME_DIR for those who want to join).
     [[nodiscard]] virtual QString runtimeFolder() const = 0;
 
-    /// Whether a sound server answers this process as its environment stands. Waits at most a second.
+    /// What there is in this process's environment.
+    enum class Server {
+        Absent,   ///< no socket accepts a connection
+        Silent,   ///< one does, and nothing comes back yet: a living server that is slow
+        Answering ///< one that can be used
+    };
+    static constexpr int kPatienceMs = 30000;
+
+    /// Looks for a sound server. @p goOn is called about fifty times a second; false gives up.
+    [[nodiscard]] static Server lookForServer(int milliseconds, const std::function<bool()>& goOn = {});
+    /// The same with patience: a server that is silent for a second is waited for, and one line on standard error says
+    /// so. @p goOn is called from then on. Main thread.
+    [[nodiscard]] static Server waitForServer(const std::function<bool()>& goOn = {}, int patienceMs = kPatienceMs);
+    /// Whether one answers within a second.
     [[nodiscard]] static bool serverAnswers();
     /// Starts one and waits until its devices are there; then sets PIPEWIRE_RUNTIME_DIR of this process so that what
     /// follows uses it. Main thread, before any other use of the sound server.

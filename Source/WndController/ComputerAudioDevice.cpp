@@ -4,7 +4,7 @@
 
 #include "CaptureComputerAudio/KextInstallControl.h"
 
-ComputerAudioDevice ComputerAudioDevice::system() {
-    return {KextInstallControl::isExist, KextInstallControl::install, KextInstallControl::uninstall,
-            KextInstallControl::isBusy, KextInstallControl::lastError};
+ComputerAudioDevice ComputerAudioDevice::system(std::function<QString()> whyNotNow) {
+    return {KextInstallControl::isExist, KextInstallControl::install,   KextInstallControl::uninstall,
+            KextInstallControl::isBusy,  KextInstallControl::lastError, std::move(whyNotNow)};
 }

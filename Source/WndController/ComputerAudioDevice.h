@@ -13,7 +13,9 @@ struct ComputerAudioDevice {
     std::function<bool()> uninstall; ///< likewise
     std::function<bool()> isBusy;
     std::function<QString()> lastError; ///< one line; empty after a success
+    /// Why it stays as it is now, in a sentence for people; empty when it may change. None: it always may.
+    std::function<QString()> whyNotNow{};
 
     /// The device of this system.
-    [[nodiscard]] static ComputerAudioDevice system();
+    [[nodiscard]] static ComputerAudioDevice system(std::function<QString()> whyNotNow = {});
 };

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/WndController/MainMenus.h"
 
+#include "CaptureComputerAudio/KextInstallControl.h"
 #include "Source/AudioWaveViewController/AudioWaveViewController.h"
 #include "Source/Record/RecordStateController.h"
 #include "Source/View/NamedImages.h"
@@ -144,9 +145,12 @@ void MainMenus::makeViewMenu() {
 
 void MainMenus::makeHelpMenu() {
     QMenu* menu = ui_.mainMenu_->addMenu(tr("&Help"));
+    menu->setToolTipsVisible(true);
     add(menu, tr("&Support Page"), {}, {}, &MainWndController::support, {QKeySequence(Qt::Key_F1)});
     add(menu, tr("Computer-Audio &Add-on Page"), {}, {}, &MainWndController::audioDevice);
-    add(menu, tr("&Install the Computer-Audio Device…"), {}, {}, &MainWndController::requestSystemAudioRecordDevice);
+    installDevice_ = add(menu, tr("&Install the Computer-Audio Device…"), {}, {},
+                         &MainWndController::requestSystemAudioRecordDevice);
+    connect(menu, &QMenu::aboutToShow, this, &MainMenus::update);
     menu->addSeparator();
     about_ = add(menu, tr("A&bout Sonaphex"), {}, {}, nullptr);
     connect(about_, &QAction::triggered, this, &MainMenus::showAbout);
@@ -238,6 +242,10 @@ void MainMenus::update() {
     recordInput_->setChecked(record.builtInChecked());
     recordInput_->setEnabled(record.sourcesEnabled());
     recordComputer_->setChecked(record.computerAudioChecked());
+    const bool installed = KextInstallControl::isExist();
+    installDevice_->setEnabled(!installed && !record.isStateAudioRecord());
+    say(installDevice_,
+        installed ? tr("It is installed already.") : tr("The device stays as it is until the recording ends."));
     recordComputer_->setEnabled(record.sourcesEnabled());
     for (QAction* action : {recordInput_, recordComputer_})
         say(action, tr("The sources stay as they are until the recording ends."));

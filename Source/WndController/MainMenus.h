@@ -65,6 +65,7 @@ private:
     QAction* pauseResume_ = nullptr;
     QAction* split_ = nullptr;
     QAction* recordInput_ = nullptr;
+    QAction* installDevice_ = nullptr;
     QAction* recordComputer_ = nullptr;
     QAction* play_ = nullptr;
     QAction* playSelected_ = nullptr;

@@ -257,13 +257,18 @@ void PreferenceWndController::flushExistSystemAudioRecordDevice() {
     Q_EMIT systemAudioRecordDeviceExistChanged();
 }
 
+QString PreferenceWndController::whyDeviceStays() const {
+    return device_.whyNotNow ? device_.whyNotNow() : QString();
+}
+
 void PreferenceWndController::insertTheSystemAudioRecordDevice() {
-    if (device_.isBusy()) {
+    if (device_.isBusy() || !whyDeviceStays().isEmpty()) {
         flushLater();
         return;
     }
     showDeviceWork(tr("Installing the computer-audio device…"));
     const bool installed = device_.install();
+    installProblem_ = installed ? QString() : device_.lastError();
     showDeviceWork({});
     const auto complain = [] {
         Platform::services().alerts->runModal(u"Can not insert the system audio device, Please try it again."_s,
@@ -277,12 +282,13 @@ void PreferenceWndController::insertTheSystemAudioRecordDevice() {
 }
 
 void PreferenceWndController::unInsertTheSystemAudioRecordDevice() {
-    if (device_.isBusy()) {
+    if (device_.isBusy() || !whyDeviceStays().isEmpty()) {
         flushLater();
         return;
     }
     showDeviceWork(tr("Removing the computer-audio device…"));
     static_cast<void>(device_.uninstall());
+    installProblem_.clear();
     showDeviceWork({});
     flushLater();
 }
@@ -310,13 +316,13 @@ void PreferenceWndController::showDeviceState() {
     const bool exists = systemAudioRecordDeviceExist();
     ui_->deviceStateField->setText(exists ? tr("The computer-audio device is installed.")
                                           : tr("The computer-audio device is not installed."));
-    ui_->insertDeviceButton->setEnabled(!exists);
-    ui_->unInsertDeviceButton->setEnabled(exists);
-    ui_->insertDeviceButton->setToolTip(exists ? tr("It is installed already.") : QString());
-    ui_->unInsertDeviceButton->setToolTip(exists ? QString() : tr("There is nothing to remove."));
-    const QString problem = device_.lastError();
-    ui_->deviceProblemField->setText(problem);
-    ui_->deviceProblemField->setVisible(!problem.isEmpty());
+    const QString stays = whyDeviceStays();
+    ui_->insertDeviceButton->setEnabled(!exists && stays.isEmpty());
+    ui_->unInsertDeviceButton->setEnabled(exists && stays.isEmpty());
+    ui_->insertDeviceButton->setToolTip(exists ? tr("It is installed already.") : stays);
+    ui_->unInsertDeviceButton->setToolTip(exists ? stays : tr("There is nothing to remove."));
+    ui_->deviceProblemField->setText(installProblem_);
+    ui_->deviceProblemField->setVisible(!installProblem_.isEmpty());
     if (isWindowVisible())
         fitHeight();
 }

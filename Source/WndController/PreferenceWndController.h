@@ -82,7 +82,10 @@ private:
     void fitHeight();
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+    [[nodiscard]] QString whyDeviceStays() const;
+
     ComputerAudioDevice device_;
+    QString installProblem_; ///< why the last installation failed; a failed removal shows nothing
     std::unique_ptr<QWidget> window_;
     std::unique_ptr<Ui::PreferenceWnd> ui_;
 };

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/WndController/RecordPanel.h"
 
+#include "Platform/Audio/AudioHardware.h"
+#include "Platform/Foundation/Services.h"
 #include "Source/AudioWaveViewController/AudioWaveViewController.h"
 #include "Source/Record/RecordStateController.h"
 #include "Source/View/ConvertingTipView.h"
@@ -95,9 +97,15 @@ void RecordPanel::showHealth() {
     const auto lost = static_cast<qulonglong>(record_.lostFrames());
     // An armed recording counts no time yet; it must not look like none.
     const bool armed = record_.isStateAudioRecord() && record_.isWaittingForSound();
-    ui_.lblLostFrames_->setText(lost > 0 ? tr("%1 frames lost").arg(QLocale().toString(lost))
-                                         : (armed ? tr("Waiting for sound …") : tr("No frames lost")));
-    ui_.lblLostFrames_->setForegroundRole(lost > 0 || armed ? QPalette::WindowText : QPalette::PlaceholderText);
+    // Without a sound server nothing of this machine is heard. A recording of that must not look like another.
+    const auto* hardware = Platform::services().audioHardware;
+    const bool testTone = hardware && hardware->isTestTone();
+    ui_.lblLostFrames_->setText(lost > 0   ? tr("%1 frames lost").arg(QLocale().toString(lost))
+                                : armed    ? tr("Waiting for sound …")
+                                : testTone ? tr("No sound server: a test tone is recorded")
+                                           : tr("No frames lost"));
+    ui_.lblLostFrames_->setForegroundRole(lost > 0 || armed || testTone ? QPalette::WindowText
+                                                                        : QPalette::PlaceholderText);
 }
 
 void RecordPanel::showDevices() {

@@ -13,6 +13,8 @@
 // one thread only. The owner is watched through its process descriptor, so that even a killed owner leaves nothing
 // behind.
 
+#include "Tools/OwnProcess.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
@@ -166,11 +168,30 @@ private:
 
     bool makeFolder() {
         removeDeserted(base_);
-        folder_ = base_ + '/' + folderPrefix + "XXXXXX";
-        if (!mkdtemp(folder_.data()))
-            return false;
-        lock_ = open((folder_ + "/lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-        return lock_ >= 0 && flock(lock_, LOCK_EX | LOCK_NB) == 0 && mkdir((folder_ + "/state").c_str(), 0700) == 0;
+        // Another keeper may take the new folder for a deserted one until its lock is held.
+        for (int attempt = 0; attempt < 100; ++attempt) {
+            folder_ = base_ + '/' + folderPrefix + "XXXXXX";
+            if (!mkdtemp(folder_.data()))
+                return false;
+            if (lockFolder())
+                return mkdir((folder_ + "/state").c_str(), 0700) == 0;
+        }
+        return false;
+    }
+
+    /// False when another keeper holds the lock, or has removed the folder before we held it.
+    bool lockFolder() {
+        const std::string path = folder_ + "/lock";
+        lock_ = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+        struct stat held = {};
+        struct stat there = {};
+        if (lock_ >= 0 && flock(lock_, LOCK_EX | LOCK_NB) == 0 && fstat(lock_, &held) == 0 &&
+            lstat(path.c_str(), &there) == 0 && held.st_ino == there.st_ino && held.st_dev == there.st_dev)
+            return true;
+        if (lock_ >= 0)
+            close(lock_);
+        lock_ = -1;
+        return false;
     }
 
     pid_t launch(const std::vector<std::string>& command) {
@@ -280,8 +301,8 @@ int main(int argc, char** argv) {
         fprintf(stderr, "usage: AudioSessionKeeper OWNER BASE CONFIGURATION PIPEWIRE WIREPLUMBER [PROGRAM...]\n");
         return 2;
     }
-    // Out of the terminal's job: Ctrl-C is for the recorder, which still has a file to finish.
-    setsid();
+    // Also out of the terminal's job: Ctrl-C is for the recorder, which still has a file to finish.
+    becomeAProcessOfItsOwn();
     std::vector<std::string> programs(argv + 4, argv + argc);
     return Keeper(pid_t(atol(argv[1])), argv[2], argv[3], std::move(programs)).run();
 }

@@ -2,12 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The computer-audio driver's program. It ends with the sound server, and when its engine is told to quit.
 #include "Tools/CaptureDriver/Driver.h"
+#include "Tools/OwnProcess.h"
 
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 
 int main(int argc, char** argv) {
+    becomeAProcessOfItsOwn();
     pw_init(&argc, &argv);
     std::error_code error;
     const auto folder = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
@@ -16,6 +19,8 @@ int main(int argc, char** argv) {
     Driver driver;
     if (!driver.start(configuration))
         return 1;
+    if (argc > 1 && std::strcmp(argv[1], "--check") == 0)
+        return 0; // it could run; nothing was made
     driver.run();
     return 0;
 }

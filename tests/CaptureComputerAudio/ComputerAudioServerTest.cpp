@@ -11,6 +11,7 @@
 #include "Source/AudioDevice/AudioDevice.h"
 #include "tests/fakes/FakeAdminShell.h"
 #include "tests/fakes/FakeBundle.h"
+#include "tests/support/CallersThings.h"
 #include "tests/support/PrivateAudioSession.h"
 #include "tests/support/ServerWatch.h"
 #include "tests/support/TestCapture.h"
@@ -47,6 +48,17 @@ protected:
     void load() {
         QString why;
         ASSERT_TRUE(CaptureDriver::load(kBundle, why, 10000)) << qPrintable(why);
+    }
+    /// The driver of this session.
+    [[nodiscard]] pid_t driverProcess() const {
+        const QByteArray ours = "PIPEWIRE_RUNTIME_DIR=" + session.runtimeFolder().toLocal8Bit();
+        for (const QString& pid : QDir(u"/proc"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+            QFile environment(u"/proc/%1/environ"_s.arg(pid));
+            if (QFile::symLinkTarget(u"/proc/%1/exe"_s.arg(pid)).endsWith(u"/CaptureDriver"_s) &&
+                environment.open(QIODevice::ReadOnly) && environment.readAll().split('\0').contains(ours))
+                return pid.toInt();
+        }
+        return -1;
     }
     AudioObjectID deviceNamed(const QString& wanted) {
         for (const auto device : hardware->devices())
@@ -103,6 +115,15 @@ TEST_F(ComputerAudio, AppearsAsAnInputDeviceUnderItsName) {
     ASSERT_EQ(engines.size(), 1U);
     EXPECT_TRUE(engines[0].path().startsWith(u"IOService:/VIRTUAL/"_s)) << qPrintable(engines[0].path());
     EXPECT_EQ(engines[0].getProperty(u"korvane.engine.class"_s), u"com_Korvane_driver_CaptureEngine"_s);
+}
+
+TEST_F(ComputerAudio, KeepsNothingOfTheProgramThatStartedIt) {
+    CallersThings things;
+    load();
+    const pid_t driver = driverProcess();
+    ASSERT_GT(driver, 0);
+    EXPECT_TRUE(things.areNotOf(driver));
+    EXPECT_TRUE(things.letGo());
 }
 
 TEST_F(ComputerAudio, FindsThePathOfEachDevice) {

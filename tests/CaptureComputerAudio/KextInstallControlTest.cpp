@@ -17,6 +17,7 @@
 #include <QThread>
 #include <QTimer>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -63,7 +64,7 @@ protected:
         const auto path = parent + u"/ComputerAudioCapture.kext"_s;
         ASSERT_TRUE(QDir().mkpath(path));
         write(path + u"/version"_s, version);
-        write(path + u"/CaptureDriver"_s, "#!/bin/sh\ntouch '" + marker.toLocal8Bit() + "'\n");
+        write(path + u"/CaptureDriver"_s, "#!/bin/sh\n[ \"$1\" = --check ] || touch '" + marker.toLocal8Bit() + "'\n");
         QFile(path + u"/CaptureDriver"_s).setPermissions(QFile::Permissions(0x7755));
     }
     static void write(const QString& path, const QByteArray& content) {
@@ -103,27 +104,86 @@ TEST_F(KextInstallControlTest, InstallsTheBundleAndLoadsTheDriver) {
     EXPECT_FALSE(QFile::exists(u"pwned"_s));
 }
 
-TEST_F(KextInstallControlTest, UnloadsAndRemovesAnOlderBundleBeforeItCopies) {
+TEST_F(KextInstallControlTest, ReplacesAnOlderBundleWithOnePromptAndUnloadsItsDriverAfterThat) {
     makeBundle(extensions, "old");
     write(extensions + u"/ComputerAudioCapture.kext/left over"_s, "x");
     write(marker, "");
-    QByteArray seenByTheCopy = "nothing";
-    bool runningAtTheRemoval = true;
+    bool runningAtThePrompt = false;
+    QByteArray installedAtThePrompt;
     shell.before = [&] {
-        if (shell.commands.size() == 1)
-            runningAtTheRemoval = QFile::exists(marker);
-        else
-            seenByTheCopy = installedVersion();
+        runningAtThePrompt = QFile::exists(marker);
+        installedAtThePrompt = installedVersion();
     };
-    EXPECT_TRUE(KextInstallControl::install());
-    ASSERT_EQ(shell.commands.size(), 2);
-    EXPECT_TRUE(shell.commands[0].startsWith(u"rm -rf '"_s));
-    EXPECT_TRUE(shell.commands[1].contains(u"cp -R"_s));
-    EXPECT_FALSE(runningAtTheRemoval);
-    EXPECT_EQ(seenByTheCopy, "");
+    EXPECT_TRUE(KextInstallControl::install()) << qPrintable(KextInstallControl::lastError());
+    EXPECT_EQ(shell.commands.size(), 1);
+    EXPECT_TRUE(runningAtThePrompt);
+    EXPECT_EQ(installedAtThePrompt, "old");
     EXPECT_EQ(registry.unloads, 1);
     EXPECT_EQ(installedVersion(), "new");
     EXPECT_FALSE(QFile::exists(extensions + u"/ComputerAudioCapture.kext/left over"_s));
+    EXPECT_EQ(QDir(extensions).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              QStringList{u"ComputerAudioCapture.kext"_s});
+    EXPECT_TRUE(CaptureDriver::isLoaded());
+}
+
+TEST_F(KextInstallControlTest, KeepsTheOldDriverWhicheverStepFails) {
+    // A command of this name in front of the system's fails at its first, second ... call.
+    const QString tools = folder.filePath(u"tools"_s);
+    const QByteArray path = qgetenv("PATH");
+    QDir().mkpath(tools);
+    for (const auto& [command, call] : {std::pair("mkdir", 1), {"cp", 1}, {"chmod", 2}, {"mv", 1}, {"mv", 2}}) {
+        SCOPED_TRACE(testing::Message() << command << ' ' << call);
+        QDir(extensions).removeRecursively();
+        QDir(tools).removeRecursively();
+        QDir().mkpath(tools);
+        makeBundle(extensions, "old");
+        write(marker, "");
+        write(tools + u'/' + QLatin1StringView(command),
+              "#!/bin/sh\necho >> \"${0%/*}/calls\"\n[ $(wc -l < \"${0%/*}/calls\") -eq " + QByteArray::number(call) +
+                  " ] && exit 1\nPATH='" + path + "' exec " + command + " \"$@\"\n");
+        QFile(tools + u'/' + QLatin1StringView(command)).setPermissions(QFile::Permissions(0x7755));
+        qputenv("PATH", tools.toLocal8Bit() + ':' + path);
+        EXPECT_FALSE(KextInstallControl::install());
+        qputenv("PATH", path);
+        EXPECT_TRUE(QFile::exists(tools + u"/calls"_s));
+        EXPECT_FALSE(KextInstallControl::lastError().isEmpty());
+        EXPECT_EQ(installedVersion(), "old");
+        EXPECT_TRUE(CaptureDriver::isLoaded());
+        EXPECT_EQ(registry.unloads, 0) << "the device did not even go away";
+    }
+}
+
+TEST_F(KextInstallControlTest, KeepsTheOldDriverAndAsksForNoPasswordWhenTheNewOneCannotRun) {
+    makeBundle(extensions, "old");
+    write(marker, "");
+    write(bundle.resources + u"/ComputerAudioCapture.kext/CaptureDriver"_s,
+          "#!/bin/sh\necho 'a library is missing' >&2\nexit 127\n");
+    EXPECT_FALSE(KextInstallControl::install());
+    EXPECT_EQ(KextInstallControl::lastError(), u"a library is missing"_s);
+    QDir(bundle.resources).removeRecursively();
+    EXPECT_FALSE(KextInstallControl::install());
+    EXPECT_TRUE(shell.commands.isEmpty());
+    EXPECT_EQ(installedVersion(), "old");
+    EXPECT_TRUE(CaptureDriver::isLoaded());
+}
+
+TEST_F(KextInstallControlTest, CanBeRunByEveryoneWhateverTheUmask) {
+    const auto before = umask(077);
+    const bool installed = KextInstallControl::install();
+    umask(before);
+    ASSERT_TRUE(installed) << qPrintable(KextInstallControl::lastError());
+    const auto modeOf = [](const QString& path) {
+        struct stat status = {};
+        return stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
+    };
+    const QString path = KextInstallControl::installedBundlePath();
+    for (const QString& each : {QFileInfo(extensions).path(), extensions, path, path + u"/CaptureDriver"_s})
+        EXPECT_EQ(modeOf(each), 0755U) << qPrintable(each);
+    EXPECT_EQ(modeOf(path + u"/version"_s), 0644U);
+    // One that was installed so before is mended.
+    ASSERT_TRUE(QFile::setPermissions(extensions, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    ASSERT_TRUE(KextInstallControl::install());
+    EXPECT_EQ(modeOf(extensions), 0755U);
 }
 
 TEST_F(KextInstallControlTest, RemovesTheBundleAndUnloadsTheDriver) {
@@ -157,8 +217,10 @@ TEST_F(KextInstallControlTest, KeepsTheDeviceWhenThePromptIsCancelled) {
 }
 
 TEST_F(KextInstallControlTest, AnswersNoWhenTheDriverDoesNotComeUp) {
-    write(bundle.resources + u"/ComputerAudioCapture.kext/CaptureDriver"_s, "#!/bin/sh\nexit 1\n");
+    write(bundle.resources + u"/ComputerAudioCapture.kext/CaptureDriver"_s,
+          "#!/bin/sh\n[ \"$1\" = --check ] && exit 0\nexit 1\n");
     EXPECT_FALSE(KextInstallControl::install());
+    EXPECT_EQ(shell.commands.size(), 1);
     EXPECT_FALSE(KextInstallControl::lastError().isEmpty());
 }
 

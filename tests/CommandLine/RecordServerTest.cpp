@@ -240,6 +240,35 @@ TEST_F(RecordServer, WaitsForADeviceThatIsPulledOut) {
     EXPECT_GE(AudioCheck::framesByFfprobe(path), 4 * 44100);
 }
 
+TEST_F(RecordServer, WaitsForASoundServerThatIsSlowToAnswer) {
+    TestSource source({.name = "test.slow",
+                       .description = "Slow Server",
+                       .content = TestSource::Content::Tone,
+                       .frequency = 660}); // a private session's tone has 440 Hz
+    ASSERT_TRUE(source.start());
+    ASSERT_TRUE(Platform::PipeWire::serverIsThere(30000, true, "test.slow"));
+    const pid_t server = session_.serverProcess();
+    ASSERT_GT(server, 0);
+    ASSERT_EQ(kill(server, SIGSTOP), 0);
+    QProcess process;
+    process.start(QStringLiteral(SONAPHEX_PROGRAM), {u"record"_s, u"--for"_s, u"1"_s, u"--folder"_s, folder_,
+                                                     u"--filter"_s, u"off"_s, u"--input"_s, u"Slow Server"_s});
+    QByteArray said;
+    const bool waited = waitFor([&] {
+        said += process.readAllStandardError();
+        return said.contains("waiting for it, at most 30 seconds") || process.state() == QProcess::NotRunning;
+    });
+    ASSERT_EQ(kill(server, SIGCONT), 0);
+    ASSERT_TRUE(waited);
+    ASSERT_TRUE(process.waitForFinished());
+    said += process.readAllStandardError();
+    EXPECT_EQ(process.exitCode(), 0) << said.data();
+    EXPECT_FALSE(said.contains("a private one was started")) << said.data();
+    const auto decoded = AudioCheck::decodedByFfmpeg(folder_ + u"/Track0.m4a"_s);
+    ASSERT_EQ(decoded.size(), 2U);
+    EXPECT_NEAR(AudioCheck::pitchOf(AudioCheck::inner(decoded[0], 8192), 44100), 660, 0.5);
+}
+
 TEST_F(RecordServer, BringsASoundServerOfItsOwnWhereThereIsNone) {
     PrivateAudioSession::end();
     const EnvironmentScope none("PIPEWIRE_RUNTIME_DIR");

@@ -142,6 +142,7 @@ public:
     bool unitFound = true;
     bool unitOpens = true;
     bool isConnected = true;
+    bool testTone = false;
     /// How units of a device behave; "the next unit" when a device has no entry. Made at need.
     std::shared_ptr<FakeInputUnit::State> nextUnit = std::make_shared<FakeInputUnit::State>();
     std::function<void()> onOpen; ///< called before a unit is opened
@@ -189,6 +190,7 @@ public:
     OSStatus getDefaultOutputDevice(AudioObjectID& device) override;
     OSStatus getInputFormat(AudioObjectID device, double& sampleRate, std::uint32_t& channels) override;
     std::unique_ptr<Platform::InputUnit> openOutputUnit(bool& found) override;
+    bool isTestTone() const override { return testTone; }
     bool connected() const override { return isConnected; }
     QString lastError() const override { return isConnected ? QString() : QStringLiteral("no sound server answers"); }
 

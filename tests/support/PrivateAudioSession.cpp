@@ -5,6 +5,8 @@
 #include <cstdlib>
 
 #include <QDebug>
+#include <QDir>
+#include <QFile>
 
 std::unique_ptr<PrivateAudioSession>& PrivateAudioSession::instance() {
     static std::unique_ptr<PrivateAudioSession> shared;
@@ -41,4 +43,19 @@ bool PrivateAudioSession::stopServer() {
 bool PrivateAudioSession::startServer() {
     stopped_ = !session_->startServer();
     return !stopped_;
+}
+
+pid_t PrivateAudioSession::serverProcess() const {
+    for (const QString& pid : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
+        if (!stat.open(QIODevice::ReadOnly))
+            continue;
+        const QByteArray all = stat.readAll();
+        const auto end = all.lastIndexOf(')');
+        const QByteArray name = all.mid(all.indexOf('(') + 1, end - all.indexOf('(') - 1);
+        const auto parent = all.mid(end + 2).split(' ').value(1).toInt();
+        if (name == "pipewire" && parent == session_->keeper())
+            return pid.toInt();
+    }
+    return -1;
 }

@@ -27,6 +27,8 @@ public:
     [[nodiscard]] bool stopServer();
     [[nodiscard]] bool startServer();
     [[nodiscard]] QString runtimeFolder() const { return session_->runtimeFolder(); }
+    /// The process of the server.
+    [[nodiscard]] pid_t serverProcess() const;
     [[nodiscard]] Platform::LinuxPrivateSession& session() { return *session_; }
 
 private:

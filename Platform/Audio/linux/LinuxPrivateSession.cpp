@@ -6,8 +6,10 @@
 #include "Platform/Foundation/Bundle.h"
 #include "Platform/Foundation/Services.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
+#include <cstdio>
 #include <cstring>
 #include <vector>
 
@@ -53,8 +55,22 @@ void closeFd(int& fd) {
 
 } // namespace
 
+PrivateSession::Server PrivateSession::lookForServer(int milliseconds, const std::function<bool()>& goOn) {
+    return PipeWire::lookForServer(milliseconds, goOn);
+}
+
+PrivateSession::Server PrivateSession::waitForServer(const std::function<bool()>& goOn, int patienceMs) {
+    const int first = std::min(1000, patienceMs);
+    const auto server = lookForServer(first);
+    if (server != Server::Silent)
+        return server;
+    std::fprintf(stderr, "sonaphex: the sound server does not answer: waiting for it, at most %d seconds\n",
+                 patienceMs / 1000);
+    return lookForServer(patienceMs - first, goOn);
+}
+
 bool PrivateSession::serverAnswers() {
-    return PipeWire::serverIsThere(1000);
+    return lookForServer(1000) == Server::Answering;
 }
 
 std::unique_ptr<PrivateSession> PrivateSession::start(QString& why) {

@@ -12,11 +12,11 @@ namespace {
 constexpr int settleMs = 1000;
 } // namespace
 
-std::unique_ptr<AudioHardware> createAudioHardware() {
-    return std::make_unique<PipeWireAudioHardware>();
+std::unique_ptr<AudioHardware> createAudioHardware(bool testTone) {
+    return std::make_unique<PipeWireAudioHardware>(testTone);
 }
 
-PipeWireAudioHardware::PipeWireAudioHardware() : registry_(DeviceRegistry::shared()) {
+PipeWireAudioHardware::PipeWireAudioHardware(bool testTone) : registry_(DeviceRegistry::shared()), testTone_(testTone) {
     registry_->add(*this);
     toldConnected_ = connected();
 }
@@ -26,8 +26,8 @@ PipeWireAudioHardware::~PipeWireAudioHardware() {
 }
 
 void PipeWireAudioHardware::settle() const {
-    if (registry_->connection()->connected())
-        registry_->waitUntilKnown(settleMs);
+    if (patient_ && registry_->connection()->connected() && !registry_->waitUntilKnown(settleMs))
+        patient_ = false;
 }
 
 std::vector<AudioObjectID> PipeWireAudioHardware::devices() {
@@ -163,6 +163,7 @@ void PipeWireAudioHardware::serverGone() {
 }
 
 void PipeWireAudioHardware::devicesKnown() {
+    patient_ = true;
     postConnected();
 }
 

@@ -13,7 +13,7 @@ namespace Platform {
 class PipeWireAudioHardware final : public AudioHardware, private DeviceRegistry::Listener {
     Q_OBJECT
 public:
-    PipeWireAudioHardware();
+    explicit PipeWireAudioHardware(bool testTone);
     ~PipeWireAudioHardware() override;
 
     std::vector<AudioObjectID> devices() override;
@@ -27,6 +27,7 @@ public:
     OSStatus getDefaultOutputDevice(AudioObjectID& device) override;
     OSStatus getInputFormat(AudioObjectID device, double& sampleRate, std::uint32_t& channels) override;
     std::unique_ptr<InputUnit> openOutputUnit(bool& found) override;
+    bool isTestTone() const override { return testTone_; }
     bool connected() const override;
     QString lastError() const override;
 
@@ -41,7 +42,8 @@ private:
     void postDevicesChanged();
     void postDefaultOutputChanged();
     void postConnected();
-    /// Gives a server that is just being asked a moment to answer.
+    /// Gives a server that is just being asked a moment to answer, once for each connection: later calls would each
+    /// hold up the window as long.
     void settle() const;
     OSStatus find(AudioObjectID device, AudioDeviceInfo& info) const;
     OSStatus findInputElement(AudioObjectID device, std::uint32_t element, AudioDeviceInfo& info) const;
@@ -50,6 +52,8 @@ private:
     std::atomic<bool> devicesPosted_{false};
     std::atomic<bool> defaultPosted_{false};
     bool toldConnected_ = false; ///< main thread
+    const bool testTone_;
+    mutable std::atomic<bool> patient_{true}; ///< settle() waits still
 };
 
 } // namespace Platform

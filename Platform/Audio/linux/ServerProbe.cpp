@@ -25,6 +25,7 @@ struct Probe {
         return answered && (!sinkWanted || hasDefaultSink) && (source.empty() || nodesWithPorts.contains(sourceNode));
     }
     void onGlobal(std::uint32_t id, const char* type, const spa_dict* properties);
+    void run(int deadlineMs, const std::function<bool()>& goOn);
 
     bool sinkWanted;
     std::string source;
@@ -101,19 +102,36 @@ void Probe::onGlobal(std::uint32_t id, const char* type, const spa_dict* propert
     pw_metadata_add_listener(metadata.get(), metadataListener.get(), &metadataEvents, this);
 }
 
+void Probe::run(int deadlineMs, const std::function<bool()>& goOn) {
+    QElapsedTimer timer;
+    timer.start();
+    auto* turned = pw_main_loop_get_loop(loop.get());
+    while (!satisfied() && !failed && timer.elapsed() < deadlineMs && (!goOn || goOn())) {
+        pw_loop_enter(turned);
+        pw_loop_iterate(turned, 20);
+        pw_loop_leave(turned);
+    }
+}
+
 } // namespace
+
+PrivateSession::Server lookForServer(int deadlineMs, const std::function<bool()>& goOn) {
+    // The library connects at once or not at all: with a server that stands still the kernel accepts for it.
+    Probe probe(false, {});
+    if (!probe.connect())
+        return PrivateSession::Server::Absent;
+    probe.run(deadlineMs, goOn);
+    // A server that ended meanwhile leaves a machine without one.
+    return probe.failed     ? PrivateSession::Server::Absent
+           : probe.answered ? PrivateSession::Server::Answering
+                            : PrivateSession::Server::Silent;
+}
 
 bool serverIsThere(int deadlineMs, bool sink, const QByteArray& source) {
     Probe probe(sink, source);
     if (!probe.connect())
         return false;
-    QElapsedTimer timer;
-    timer.start();
-    auto* loop = pw_main_loop_get_loop(probe.loop.get());
-    pw_loop_enter(loop);
-    while (!probe.satisfied() && !probe.failed && timer.elapsed() < deadlineMs)
-        pw_loop_iterate(loop, 20);
-    pw_loop_leave(loop);
+    probe.run(deadlineMs, {});
     return probe.satisfied();
 }
 

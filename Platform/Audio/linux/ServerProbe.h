@@ -2,9 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Audio/PrivateSession.h"
+
 #include <QByteArray>
 
 namespace Platform::PipeWire {
+
+/// See PrivateSession::lookForServer().
+[[nodiscard]] PrivateSession::Server lookForServer(int deadlineMs, const std::function<bool()>& goOn = {});
 
 /// Connects with a connection of its own and waits until the server answered; with @p sink also until there is a
 /// default output, with a @p source named also until that node has a port. False when @p deadlineMs went by first.

@@ -2,18 +2,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Audio/PrivateSession.h"
 
+#include "tests/support/CallersThings.h"
 #include "tests/support/PrivateAudioSession.h"
+#include "tests/support/RunTool.h"
 #include "tests/support/TestCapture.h"
 #include "tests/support/TestSource.h"
 #include "tests/support/UnitCapture.h"
 #include "tests/support/WaitFor.h"
 
+#include <atomic>
 #include <csignal>
 #include <cstdlib>
+#include <optional>
+#include <thread>
+#include <vector>
 
 #include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -91,6 +99,71 @@ TEST(PrivateSession, EndsWithItsOwnerThatIsKilled) {
     EXPECT_TRUE(waitFor([&] { return !QFileInfo::exists(folder); }));
 }
 
+TEST(PrivateSession, KeepsNothingOfItsCaller) {
+    PrivateAudioSession::end();
+    CallersThings things;
+    QString why;
+    const auto session = LinuxPrivateSession::start({}, why);
+    ASSERT_TRUE(session) << why.toStdString();
+    const QStringList processes = processesOf(session->runtimeFolder());
+    ASSERT_GE(processes.size(), 2);
+    for (const QString& each : processes + QStringList{QString::number(session->keeper())})
+        EXPECT_TRUE(things.areNotOf(each.toInt()));
+    EXPECT_TRUE(things.letGo());
+}
+
+namespace {
+
+/// Keepers that begin beside this one: each takes every folder whose lock it gets for a deserted one.
+class OtherKeepers {
+public:
+    explicit OtherKeepers(QString base) : base_(std::move(base)) {
+        for (int i = 0; i < 2; ++i)
+            threads_.emplace_back([this] {
+                while (!end_)
+                    removeAll();
+            });
+    }
+    ~OtherKeepers() {
+        end_ = true;
+        for (auto& each : threads_)
+            each.join();
+    }
+    OtherKeepers(const OtherKeepers&) = delete;
+    OtherKeepers& operator=(const OtherKeepers&) = delete;
+
+private:
+    void removeAll() {
+        for (const QString& each : QDir(base_).entryList({u"sonaphex-audio-*"_s}, QDir::Dirs)) {
+            const QString path = base_ + u'/' + each;
+            const int lock = open(QFile::encodeName(path + u"/lock"_s).constData(), O_RDONLY | O_CLOEXEC);
+            if (lock < 0)
+                continue;
+            if (flock(lock, LOCK_EX | LOCK_NB) == 0)
+                QDir(path).removeRecursively();
+            close(lock);
+        }
+    }
+
+    QString base_;
+    std::atomic<bool> end_{false};
+    std::vector<std::thread> threads_;
+};
+
+} // namespace
+
+TEST(PrivateSession, FolderIsNotTakenForADesertedOneByAnotherThatBeginsBesideIt) {
+    const QTemporaryDir base;
+    const OtherKeepers others(base.path());
+    const QString keeper = QStringLiteral(SONAPHEX_BIN_DIR "/Resources/AudioSessionKeeper");
+    for (int i = 0; i < 300; ++i) {
+        // Its server ends at once, so all that it does is to make its folder, and to say how far it came.
+        const auto result = runTool(
+            keeper, {QString::number(getpid()), base.path(), u"/nonexistent"_s, u"/bin/false"_s, u"/bin/false"_s});
+        ASSERT_EQ(result.output, "failed the sound server /bin/false did not come up\n") << "at keeper " << i;
+    }
+}
+
 TEST(PrivateSession, ServerDiesWithAKeeperThatIsKilled) {
     PrivateAudioSession::end();
     QString why;
@@ -123,6 +196,56 @@ TEST(PrivateSession, HearsNoServerWhereThereIsNone) {
     qputenv("PIPEWIRE_RUNTIME_DIR", bare.path().toLocal8Bit());
     EXPECT_FALSE(PrivateSession::serverAnswers());
     qunsetenv("PIPEWIRE_RUNTIME_DIR");
+}
+
+namespace {
+
+/// The server stands still, as on a machine that is busy with other things, for as long as it lives.
+class StoodStill {
+public:
+    explicit StoodStill(pid_t process) : process_(process) { kill(process_, SIGSTOP); }
+    ~StoodStill() { kill(process_, SIGCONT); }
+    StoodStill(const StoodStill&) = delete;
+    StoodStill& operator=(const StoodStill&) = delete;
+
+private:
+    pid_t process_;
+};
+
+} // namespace
+
+TEST(PrivateSession, TellsAServerThatStandsStillFromNone) {
+    auto& session = PrivateAudioSession::shared();
+    EXPECT_EQ(PrivateSession::lookForServer(10000), PrivateSession::Server::Answering);
+    ASSERT_GT(session.serverProcess(), 0);
+    {
+        const StoodStill still(session.serverProcess());
+        EXPECT_EQ(PrivateSession::lookForServer(200), PrivateSession::Server::Silent);
+        int steps = 0;
+        EXPECT_EQ(PrivateSession::lookForServer(60000, [&] { return ++steps < 5; }), PrivateSession::Server::Silent);
+        EXPECT_EQ(steps, 5);
+    }
+    EXPECT_EQ(PrivateSession::lookForServer(10000), PrivateSession::Server::Answering);
+    ASSERT_TRUE(session.stopServer());
+    EXPECT_EQ(PrivateSession::lookForServer(200), PrivateSession::Server::Absent);
+    ASSERT_TRUE(session.startServer());
+}
+
+TEST(PrivateSession, WaitsForAServerThatStandsStillAndSaysSoOnce) {
+    auto& session = PrivateAudioSession::shared();
+    std::optional<StoodStill> still(std::in_place, session.serverProcess());
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(PrivateSession::waitForServer({}, 1500), PrivateSession::Server::Silent);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "sonaphex: the sound server does not answer: waiting for it, at most 1 seconds\n");
+    // It wakes up while it is waited for.
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(PrivateSession::waitForServer([&] {
+                  still.reset();
+                  return true;
+              }),
+              PrivateSession::Server::Answering);
+    testing::internal::GetCapturedStderr();
 }
 
 TEST(PrivateSession, PlaysTheRampOfATestSourceUnbroken) {

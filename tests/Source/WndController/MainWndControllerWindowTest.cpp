@@ -506,6 +506,19 @@ TEST_F(MainWindow, AnArmedRecordingSaysThatItWaits) {
     world.click("btnSatrtRecord_");
 }
 
+TEST_F(MainWindow, SaysThatItRecordsATestToneOnAMachineWithoutASoundServer) {
+    world.hardware.testTone = true;
+    world.open();
+    auto& health = world.outlet<QLabel>("lblLostFrames_");
+    EXPECT_EQ(health.text(), u"No sound server: a test tone is recorded"_s);
+    world.click("btnSatrtRecord_");
+    feed(0.5F);
+    world.record->recordFlushTime();
+    EXPECT_EQ(health.text(), u"No sound server: a test tone is recorded"_s);
+    EXPECT_GE(health.width(), health.sizeHint().width()) << "cut off";
+    world.click("btnSatrtRecord_");
+}
+
 TEST_F(MainWindow, RemembersItsSizeAndColumnsAndIsCentred) {
     world.open({840, 560});
     table().horizontalHeader()->resizeSection(AudioTableModel::Artist, 133);

@@ -43,6 +43,7 @@ struct ScriptedDevice {
     int installs = 0;
     int removals = 0;
     std::function<void()> whileWorking;
+    const QString* whyNot = nullptr;
 
     ComputerAudioDevice door() {
         return {[this] { return exists; },
@@ -62,7 +63,9 @@ struct ScriptedDevice {
                         exists = false;
                     return works;
                 },
-                [this] { return busy; }, [this] { return error; }};
+                [this] { return busy; },
+                [this] { return error; },
+                [this] { return whyNot ? *whyNot : QString(); }};
     }
 };
 
@@ -313,6 +316,38 @@ TEST_F(Preferences, InstallingTheDeviceRefreshesItsButtons) {
     remove->click();
     EXPECT_TRUE(waitFor([&] { return insert->isEnabled(); }));
     EXPECT_EQ(device.removals, 1);
+}
+
+TEST_F(Preferences, AFailedRemovalShowsNothing) {
+    device.exists = true;
+    open();
+    device.works = false;
+    device.error = u"the password was not given"_s;
+    find<QPushButton>("unInsertDeviceButton")->click();
+    EXPECT_EQ(device.removals, 1);
+    EXPECT_TRUE(alerts.shown.isEmpty());
+    EXPECT_FALSE(find<QLabel>("deviceProblemField")->isVisible());
+}
+
+TEST_F(Preferences, TheDeviceStaysAsItIsWhileARecordingRuns) {
+    QString why = u"a recording runs"_s;
+    device.whyNot = &why;
+    open();
+    auto* insert = find<QPushButton>("insertDeviceButton");
+    auto* remove = find<QPushButton>("unInsertDeviceButton");
+    EXPECT_FALSE(insert->isEnabled());
+    EXPECT_EQ(insert->toolTip(), why);
+    controller->insertTheSystemAudioRecordDevice();
+    EXPECT_EQ(device.installs, 0);
+    device.exists = true;
+    controller->flushExistSystemAudioRecordDevice();
+    EXPECT_FALSE(remove->isEnabled());
+    EXPECT_EQ(remove->toolTip(), why);
+    controller->unInsertTheSystemAudioRecordDevice();
+    EXPECT_EQ(device.removals, 0);
+    why.clear();
+    controller->flushExistSystemAudioRecordDevice();
+    EXPECT_TRUE(remove->isEnabled());
 }
 
 TEST_F(Preferences, AFailedInstallationShowsItsAlertAndTheReasonStaysInTheWindow) {
