@@ -30,6 +30,7 @@ bool CaptureRing::pushRt(std::span<const float* const> samples, const CaptureBlo
     const auto framesRead = framesRead_.load(std::memory_order_acquire);
     if (blocksWritten - blocksRead >= blocks_.size() || block.frames > capacity_ - (framesWritten_ - framesRead)) {
         loseRt(block.frames);
+        overrun_.fetch_add(block.frames, std::memory_order_relaxed);
         return false;
     }
     if (framesRead == framesWritten_)

@@ -48,6 +48,8 @@ public:
     [[nodiscard]] std::uint32_t channels() const noexcept { return channels_; }
     /// All frames counted as lost: by the ring being full, and by lostBefore and loseRt(). Any thread.
     [[nodiscard]] std::uint64_t lostFrames() const noexcept { return lost_.load(std::memory_order_relaxed); }
+    /// Those of them for which there was no room: the reader was too slow. Any thread.
+    [[nodiscard]] std::uint64_t overrunFrames() const noexcept { return overrun_.load(std::memory_order_relaxed); }
 
 private:
     const std::uint32_t channels_;
@@ -64,6 +66,7 @@ private:
     std::atomic<std::uint64_t> firstFrame_{0};
     alignas(64) std::atomic<std::uint64_t> blocksWritten_{0};
     alignas(64) std::atomic<std::uint64_t> lost_{0};
+    std::atomic<std::uint64_t> overrun_{0};
     // Changed by the I/O thread only.
     alignas(64) std::atomic<std::uint64_t> blocksRead_{0};
     alignas(64) std::atomic<std::uint64_t> framesRead_{0};

@@ -56,6 +56,9 @@ public:
     /// Frames that were lost before the ring since start(): the only place where audio may be lost. Also what the
     /// device would have delivered while it or the server was away, once it is back. Any thread.
     [[nodiscard]] virtual std::uint64_t lostFrames() const = 0;
+    /// Those of them that our own ring had no room for, because the I/O thread was kept from running or held for longer
+    /// than the ring is deep. The others never reached us: the server missed a cycle, or the device was away.
+    [[nodiscard]] virtual std::uint64_t overrunFrames() const { return 0; }
     /// Whether a lost stretch becomes silence of equal length (needed where two sources must stay together) instead of
     /// being left out. Any thread, at any time; holds for the holes that are met from then on. The time without a
     /// device or server counts as lost too.

@@ -168,6 +168,10 @@ std::uint64_t PipeWireInputUnit::lostFrames() const {
     return ring_ ? ring_->lostFrames() : 0;
 }
 
+std::uint64_t PipeWireInputUnit::overrunFrames() const {
+    return ring_ ? ring_->overrunFrames() : 0;
+}
+
 void PipeWireInputUnit::runCycles() {
     CycleAssembler assembler(*ring_, target_.sampleRate, target_.cycleFrames);
     // Nobody wakes this thread: waking is a system call, and the data thread makes none.

@@ -36,6 +36,7 @@ public:
     void holdCycles() override;
     void releaseCycles() override;
     std::uint64_t lostFrames() const override;
+    std::uint64_t overrunFrames() const override;
     void setFillLostFrames(bool on) override { fillLost_ = on; }
     void setEventHandler(EventHandler handler) override;
     QString lastError() const override { return lastError_; }

@@ -4,24 +4,21 @@
 
 #include "tests/support/CallersThings.h"
 #include "tests/support/PrivateAudioSession.h"
-#include "tests/support/RunTool.h"
 #include "tests/support/TestCapture.h"
 #include "tests/support/TestSource.h"
 #include "tests/support/UnitCapture.h"
 #include "tests/support/WaitFor.h"
 
-#include <atomic>
 #include <csignal>
 #include <cstdlib>
 #include <optional>
-#include <thread>
-#include <vector>
 
 #include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/ptrace.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -114,54 +111,53 @@ TEST(PrivateSession, KeepsNothingOfItsCaller) {
 
 namespace {
 
-/// Keepers that begin beside this one: each takes every folder whose lock it gets for a deserted one.
-class OtherKeepers {
-public:
-    explicit OtherKeepers(QString base) : base_(std::move(base)) {
-        for (int i = 0; i < 2; ++i)
-            threads_.emplace_back([this] {
-                while (!end_)
-                    removeAll();
-            });
+/// Starts a keeper and does to its folder what another one may do that begins beside it: between the moment when the
+/// folder has its lock file and the one when the lock is held, it takes the folder for a deserted one. Returns what the
+/// keeper says in the end. Its server ends at once, so all that it does is to make its folder.
+QByteArray keeperWhoseFolderIsRemoved(const QString& base, bool& removed) {
+    const QByteArray path = QByteArrayLiteral(SONAPHEX_BIN_DIR "/Resources/AudioSessionKeeper");
+    const QByteArray owner = QByteArray::number(getpid());
+    const QByteArray folder = base.toLocal8Bit();
+    int output[2] = {-1, -1};
+    if (pipe2(output, O_CLOEXEC) != 0)
+        return {};
+    const pid_t keeper = fork();
+    if (keeper == 0) {
+        ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
+        dup2(output[1], STDOUT_FILENO);
+        execl(path.constData(), path.constData(), owner.constData(), folder.constData(), "/nonexistent", "/bin/false",
+              "/bin/false", nullptr);
+        _exit(127);
     }
-    ~OtherKeepers() {
-        end_ = true;
-        for (auto& each : threads_)
-            each.join();
-    }
-    OtherKeepers(const OtherKeepers&) = delete;
-    OtherKeepers& operator=(const OtherKeepers&) = delete;
-
-private:
-    void removeAll() {
-        for (const QString& each : QDir(base_).entryList({u"sonaphex-audio-*"_s}, QDir::Dirs)) {
-            const QString path = base_ + u'/' + each;
-            const int lock = open(QFile::encodeName(path + u"/lock"_s).constData(), O_RDONLY | O_CLOEXEC);
-            if (lock < 0)
-                continue;
-            if (flock(lock, LOCK_EX | LOCK_NB) == 0)
-                QDir(path).removeRecursively();
-            close(lock);
+    close(output[1]);
+    removed = false;
+    int status = 0;
+    // It stops at each of its system calls, until the lock file is there for the first time.
+    while (!removed && waitpid(keeper, &status, 0) == keeper && WIFSTOPPED(status)) {
+        for (const QString& each : QDir(base).entryList({u"sonaphex-audio-*"_s}, QDir::Dirs)) {
+            const int lock = open(QFile::encodeName(base + u'/' + each + u"/lock"_s).constData(), O_RDONLY | O_CLOEXEC);
+            removed = lock >= 0 && flock(lock, LOCK_EX | LOCK_NB) == 0 && QDir(base + u'/' + each).removeRecursively();
+            if (lock >= 0)
+                close(lock);
         }
+        ptrace(removed ? PTRACE_DETACH : PTRACE_SYSCALL, keeper, nullptr, nullptr);
     }
-
-    QString base_;
-    std::atomic<bool> end_{false};
-    std::vector<std::thread> threads_;
-};
+    QByteArray said;
+    char block[256];
+    for (ssize_t count = 0; (count = read(output[0], block, sizeof block)) > 0;)
+        said.append(block, count);
+    close(output[0]);
+    waitpid(keeper, nullptr, 0);
+    return said;
+}
 
 } // namespace
 
-TEST(PrivateSession, FolderIsNotTakenForADesertedOneByAnotherThatBeginsBesideIt) {
+TEST(PrivateSession, MakesAnotherFolderWhenAKeeperThatBeginsBesideItRemovesTheFirst) {
     const QTemporaryDir base;
-    const OtherKeepers others(base.path());
-    const QString keeper = QStringLiteral(SONAPHEX_BIN_DIR "/Resources/AudioSessionKeeper");
-    for (int i = 0; i < 300; ++i) {
-        // Its server ends at once, so all that it does is to make its folder, and to say how far it came.
-        const auto result = runTool(
-            keeper, {QString::number(getpid()), base.path(), u"/nonexistent"_s, u"/bin/false"_s, u"/bin/false"_s});
-        ASSERT_EQ(result.output, "failed the sound server /bin/false did not come up\n") << "at keeper " << i;
-    }
+    bool removed = false;
+    EXPECT_EQ(keeperWhoseFolderIsRemoved(base.path(), removed), "failed the sound server /bin/false did not come up\n");
+    EXPECT_TRUE(removed);
 }
 
 TEST(PrivateSession, ServerDiesWithAKeeperThatIsKilled) {
