@@ -31,6 +31,10 @@ public:
     /// What a combination does, in words that a desktop may show when it asks the user for consent.
     virtual void describe(Id /*id*/, const QString& /*text*/) {}
     virtual void setHandler(Handler handler) = 0;
+    /// Called on the main thread when a combination that registerHotKey() took is refused afterwards: a desktop portal
+    /// answers later, and may ask the user first. The handle is no longer valid then.
+    using RefusedHandler = std::function<void(Handle)>;
+    virtual void setRefusedHandler(RefusedHandler /*handler*/) {}
     /// Takes a combination for the program.
     /// @param keyCode ANSI virtual key code of the physical key
     /// @param carbonModifiers 256 Command, 512 Shift, 2048 Option, 4096 Control

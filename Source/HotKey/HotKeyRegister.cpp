@@ -17,6 +17,12 @@ void HotKeyRegisterHandler(Platform::HotKeys::Id id) {
         {{HotKeyRegister::HotKeyRegisterSignatureKey, static_cast<int>(id.signature)}});
 }
 
+void postRefusal(Platform::HotKeys::Handle handle) {
+    NotificationCenter::defaultCenter().post(
+        HotKeyRegister::HotKeyRegisterRefusedNotification,
+        {{HotKeyRegister::HotKeyRegisterHandleKey, static_cast<qulonglong>(handle)}});
+}
+
 Platform::HotKeys* hotKeys() {
     return Platform::services().hotKeys;
 }
@@ -26,11 +32,15 @@ Platform::HotKeys* hotKeys() {
 HotKeyRegister::HotKeyRegister()
     : observation_(NotificationCenter::defaultCenter().addObserver(
           HotKeyRegisterNotification,
-          [this](const QString&, const Dictionary& userInfo) { hotKeyRegisterNotification(userInfo); })) {
+          [this](const QString&, const Dictionary& userInfo) { hotKeyRegisterNotification(userInfo); })),
+      refusedObservation_(NotificationCenter::defaultCenter().addObserver(
+          HotKeyRegisterRefusedNotification,
+          [this](const QString&, const Dictionary& userInfo) { hotKeyRefused(userInfo); })) {
 }
 
 HotKeyRegister::~HotKeyRegister() {
     observation_.reset();
+    refusedObservation_.reset();
     unregisterHotKey();
 }
 
@@ -39,6 +49,7 @@ void HotKeyRegister::registerHotKey(std::uint16_t keyCode, std::uint32_t modifie
     if (!hotKeys())
         return;
     hotKeys()->setHandler(HotKeyRegisterHandler);
+    hotKeys()->setRefusedHandler(postRefusal);
     hotKeyHandle_ = hotKeys()->registerHotKey(keyCode, carbonKeyModifiers(modifier), {signature_, 1});
 }
 
@@ -48,6 +59,14 @@ void HotKeyRegister::unregisterHotKey() {
     if (hotKeys())
         hotKeys()->unregisterHotKey(hotKeyHandle_);
     hotKeyHandle_ = 0;
+}
+
+void HotKeyRegister::hotKeyRefused(const Dictionary& userInfo) {
+    if (hotKeyHandle_ == 0 || userInfo.value(HotKeyRegisterHandleKey).toULongLong() != hotKeyHandle_)
+        return;
+    hotKeyHandle_ = 0;
+    if (refused_)
+        refused_();
 }
 
 bool HotKeyRegister::isEditKeybordShortcutControl() const {

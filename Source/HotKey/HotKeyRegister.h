@@ -15,6 +15,10 @@ public:
     static inline const QString HotKeyRegisterNotification = QStringLiteral("HotKeyRegisterNotification");
     static inline const QString HotKeyRegisterSignatureKey = QStringLiteral("HotKeyRegisterSignatureKey");
 
+    /// Notification of a combination that was refused after it had been taken, and the key of its handle.
+    static inline const QString HotKeyRegisterRefusedNotification = QStringLiteral("HotKeyRegisterRefusedNotification");
+    static inline const QString HotKeyRegisterHandleKey = QStringLiteral("HotKeyRegisterHandleKey");
+
     HotKeyRegister();
     ~HotKeyRegister();
     HotKeyRegister(const HotKeyRegister&) = delete;
@@ -32,9 +36,16 @@ public:
     [[nodiscard]] const std::function<void()>& operation() const { return operation_; }
     void setOperation(std::function<void()> operation) { operation_ = std::move(operation); }
 
+    /// Called when the combination is refused after registerHotKey() took it. Nothing is registered any more then.
+    void setRefused(std::function<void()> refused) { refused_ = std::move(refused); }
+
 private:
+    void hotKeyRefused(const Dictionary& userInfo);
+
     Platform::HotKeys::Handle hotKeyHandle_ = 0;
     std::uint32_t signature_ = 0;
     std::function<void()> operation_;
+    std::function<void()> refused_;
     std::unique_ptr<Platform::NotificationCenter::Observation> observation_;
+    std::unique_ptr<Platform::NotificationCenter::Observation> refusedObservation_;
 };

@@ -104,6 +104,8 @@ KeybordShortcutTextView::~KeybordShortcutTextView() {
 
 void KeybordShortcutTextView::setHotKeyRegister(std::unique_ptr<HotKeyRegister> hotKeyRegister) {
     hotKeyRegister_ = std::move(hotKeyRegister);
+    if (hotKeyRegister_)
+        hotKeyRegister_->setRefused([this] { combinationRefused(); });
 }
 
 Dictionary KeybordShortcutTextView::data() const {
@@ -300,12 +302,29 @@ void KeybordShortcutTextView::finishCapture() {
     awaitsRelease_ = false;
     ignoresReleases_ = false;
     clearFocus();
-    if (!updateHotKeyRegister()) {
-        modifierFlags_ = 0;
-        characters_ = QString();
-        keyCode_ = 0;
-        updateShortcutValue();
-    }
+    captured_ = true;
+    if (!updateHotKeyRegister())
+        clearShortcut();
+    saveCapture();
+}
+
+// The desktop answers some time after the combination was typed. One that was loaded stays: another program may have
+// taken it for now.
+void KeybordShortcutTextView::combinationRefused() {
+    if (!captured_)
+        return;
+    clearShortcut();
+    saveCapture();
+}
+
+void KeybordShortcutTextView::clearShortcut() {
+    modifierFlags_ = 0;
+    characters_ = QString();
+    keyCode_ = 0;
+    updateShortcutValue();
+}
+
+void KeybordShortcutTextView::saveCapture() {
     saveUserDefault();
     if (menuItem_ && menuItem_->data().value<QObject*>() == this)
         setMenuItem(menuItem_);

@@ -79,6 +79,9 @@ private:
     void flagsChanged(std::uint32_t flags);
     void keyDown(const QKeyEvent& event);
     void finishCapture();
+    void clearShortcut();
+    void combinationRefused();
+    void saveCapture();
     void letKeyboardGo();
 
     QString saveKey_;
@@ -88,6 +91,7 @@ private:
     std::unique_ptr<HotKeyRegister> hotKeyRegister_;
     QPointer<QAction> menuItem_;
     bool awaitsRelease_ = false;
+    bool captured_ = false; ///< the combination was typed here, not loaded
     bool ignoresReleases_ = false;
     bool holdsKeyboard_ = false;
 };

@@ -19,6 +19,7 @@ public:
 
     Way way() const override { return currentWay; }
     void setHandler(Handler handler) override { handler_ = std::move(handler); }
+    void setRefusedHandler(RefusedHandler handler) override { refused_ = std::move(handler); }
     void setWayChangedHandler(std::function<void()> handler) override { wayChanged_ = std::move(handler); }
     Handle registerHotKey(std::uint16_t keyCode, std::uint32_t carbonModifiers, Id id) override {
         if (currentWay == Way::None || heldByOthers.contains({keyCode, carbonModifiers}))
@@ -41,6 +42,17 @@ public:
         }
         return false;
     }
+    /// The desktop refuses a combination that it had taken.
+    void refuse(std::uint16_t keyCode, std::uint32_t carbonModifiers) {
+        for (const auto& [handle, taken] : registrations) {
+            if (taken.keyCode != keyCode || taken.carbonModifiers != carbonModifiers)
+                continue;
+            const Handle refused = handle;
+            registrations.erase(refused);
+            refused_(refused);
+            return;
+        }
+    }
     void changeWay(Way way) {
         currentWay = way;
         if (wayChanged_)
@@ -53,6 +65,7 @@ public:
 
 private:
     Handler handler_;
+    RefusedHandler refused_;
     std::function<void()> wayChanged_;
     Handle last_ = 0;
 };

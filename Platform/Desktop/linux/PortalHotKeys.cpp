@@ -14,6 +14,7 @@
 #include <QTimer>
 
 #include <map>
+#include <set>
 
 using namespace Qt::StringLiterals;
 
@@ -106,12 +107,15 @@ public:
                 wayChanged_();
             if (available_ && !registrations_.empty())
                 rebind_.start();
+            if (!available_)
+                refuse(handles());
         });
     }
     ~PortalHotKeys() override { closeSession(); }
 
     Way way() const override { return available_ ? Way::Portal : Way::None; }
     void setHandler(Handler handler) override { handler_ = std::move(handler); }
+    void setRefusedHandler(RefusedHandler handler) override { refusedHandler_ = std::move(handler); }
     void setWayChangedHandler(std::function<void()> handler) override { wayChanged_ = std::move(handler); }
     void describe(Id id, const QString& text) override { descriptions_[id.signature] = text; }
 
@@ -149,15 +153,38 @@ private Q_SLOTS:
         const QString session = results.value(u"session_handle"_s).toString();
         if (response != 0 || session.isEmpty()) {
             qWarning("the desktop portal opens no session for hot keys (answer %u)", response);
+            refuseWhatWasAsked();
             return;
         }
         session_ = session;
         bindShortcuts();
     }
-    void bindResponse(uint response, const QVariantMap&) {
+    void bindResponse(uint response, const QVariantMap& results) {
         forgetRequest(SLOT(bindResponse(uint, QVariantMap)));
-        if (response != 0)
+        if (response != 0) {
             qWarning("the desktop portal binds no hot keys (answer %u)", response);
+            refuseWhatWasAsked();
+            return;
+        }
+        // A portal that lists nothing granted everything.
+        const QVariant listed = results.value(u"shortcuts"_s);
+        std::set<QString> granted;
+        for (const auto& shortcut : qdbus_cast<QList<Shortcut>>(listed)) {
+            // Without a trigger the desktop knows the shortcut, but gave its combination to nobody.
+            const QVariant keys = shortcut.properties.value(u"trigger_description"_s);
+            if (!keys.isValid() || !keys.toString().isEmpty())
+                granted.insert(shortcut.id);
+        }
+        Handles refused;
+        for (const Handle handle : asked_) {
+            const auto found = registrations_.find(handle);
+            if (found == registrations_.end())
+                continue;
+            found->second.granted = !listed.isValid() || granted.contains(nameOf(found->second.id));
+            if (!found->second.granted)
+                refused.insert(handle);
+        }
+        refuse(refused);
     }
 
 private:
@@ -165,7 +192,44 @@ private:
         std::uint16_t keyCode;
         std::uint32_t carbonModifiers;
         Id id;
+        bool granted = false; ///< by an answer of the portal
     };
+    using Handles = std::set<Handle>;
+
+    [[nodiscard]] Handles handles() const {
+        Handles all;
+        for (const auto& [handle, registration] : registrations_)
+            all.insert(handle);
+        return all;
+    }
+    void refuse(const Handles& refused) {
+        for (const Handle handle : refused)
+            registrations_.erase(handle);
+        const auto told = refusedHandler_; // whoever hears of it may register another combination
+        for (const Handle handle : refused)
+            if (told)
+                told(handle);
+    }
+    /// The portal bound nothing. The new combinations were the cause; those that it had granted before are tried again
+    /// without them.
+    void refuseWhatWasAsked() {
+        Handles refused;
+        for (const Handle handle : asked_)
+            if (const auto found = registrations_.find(handle); found != registrations_.end() && !found->second.granted)
+                refused.insert(handle);
+        if (refused.empty())
+            refused = asked_;
+        refuse(refused);
+        if (!registrations_.empty())
+            rebind_.start();
+    }
+
+    void refuseAtAnError(const QDBusMessage& reply) {
+        if (reply.type() != QDBusMessage::ErrorMessage)
+            return;
+        qWarning("hot keys: %s", qPrintable(reply.errorMessage()));
+        refuseWhatWasAsked();
+    }
 
     template <typename Then>
     void call(const QDBusMessage& message, Then then) {
@@ -194,19 +258,18 @@ private:
 
     void openSession() {
         closeSession();
-        if (registrations_.empty())
+        asked_ = handles();
+        if (asked_.empty())
             return;
         const QString token = expectRequest(SLOT(sessionResponse(uint, QVariantMap)));
         auto message = QDBusMessage::createMethodCall(service, desktopPath, shortcutsInterface, u"CreateSession"_s);
         message << QVariantMap{{u"handle_token"_s, token}, {u"session_handle_token"_s, token}};
-        call(message, [](const QDBusMessage& reply) {
-            if (reply.type() == QDBusMessage::ErrorMessage)
-                qWarning("hot keys: %s", qPrintable(reply.errorMessage()));
-        });
+        call(message, [this](const QDBusMessage& reply) { refuseAtAnError(reply); });
     }
 
     void bindShortcuts() {
         QList<Shortcut> shortcuts;
+        asked_ = handles();
         for (const auto& [handle, registration] : registrations_) {
             const auto described = descriptions_.find(registration.id.signature);
             const QString name = nameOf(registration.id);
@@ -218,10 +281,7 @@ private:
         auto message = QDBusMessage::createMethodCall(service, desktopPath, shortcutsInterface, u"BindShortcuts"_s);
         message << QDBusObjectPath(session_) << QVariant::fromValue(shortcuts) << QString()
                 << QVariantMap{{u"handle_token"_s, token}};
-        call(message, [](const QDBusMessage& reply) {
-            if (reply.type() == QDBusMessage::ErrorMessage)
-                qWarning("hot keys: %s", qPrintable(reply.errorMessage()));
-        });
+        call(message, [this](const QDBusMessage& reply) { refuseAtAnError(reply); });
     }
 
     void closeSession() {
@@ -234,6 +294,7 @@ private:
     QDBusConnection bus_;
     QTimer rebind_;
     std::map<Handle, Registration> registrations_;
+    Handles asked_; ///< those of the request that the portal is answering
     std::map<std::uint32_t, QString> descriptions_;
     Handle lastHandle_ = 0;
     QString session_;
@@ -242,6 +303,7 @@ private:
     bool answered_ = false;
     bool available_ = false;
     Handler handler_;
+    RefusedHandler refusedHandler_;
     std::function<void()> wayChanged_;
 };
 

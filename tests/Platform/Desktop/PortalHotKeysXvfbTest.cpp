@@ -9,9 +9,11 @@
 #include <QDBusConnection>
 #include <QDBusError>
 #include <QDBusMessage>
+#include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
 #include <QDBusVirtualObject>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -23,10 +25,28 @@ const auto portalName = u"org.freedesktop.portal.Desktop"_s;
 const auto portalPath = u"/org/freedesktop/portal/desktop"_s;
 const auto shortcutsInterface = u"org.freedesktop.portal.GlobalShortcuts"_s;
 
+struct ListedShortcut {
+    QString id;
+    QVariantMap properties;
+};
+[[maybe_unused]] QDBusArgument& operator<<(QDBusArgument& argument, const ListedShortcut& shortcut) {
+    argument.beginStructure();
+    argument << shortcut.id << shortcut.properties;
+    argument.endStructure();
+    return argument;
+}
+[[maybe_unused]] const QDBusArgument& operator>>(const QDBusArgument& argument, ListedShortcut& shortcut) {
+    argument.beginStructure();
+    argument >> shortcut.id >> shortcut.properties;
+    argument.endStructure();
+    return argument;
+}
+
 // A desktop portal on the private bus: it answers like one, and its user presses what the test says.
 class Portal : public QDBusVirtualObject {
 public:
     Portal() : bus_(QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), u"portal"_s)) {
+        qDBusRegisterMetaType<ListedShortcut>();
         EXPECT_TRUE(bus_.registerVirtualObject(u"/"_s, this, QDBusConnection::SubPath));
         EXPECT_TRUE(bus_.registerService(portalName));
     }
@@ -61,7 +81,10 @@ public:
                 bound.insert(id, properties);
             }
             list.endArray();
-            respond(message, qdbus_cast<QVariantMap>(message.arguments().at(3)), {});
+            const uint answer = std::any_of(refusesAllFor.cbegin(), refusesAllFor.cend(),
+                                            [this](const QString& id) { return bound.contains(id); });
+            respond(message, qdbus_cast<QVariantMap>(message.arguments().at(3)),
+                    answer == 0 && lists ? QVariantMap{{u"shortcuts"_s, granted()}} : QVariantMap(), answer);
         } else if (member == u"Close") {
             closed.append(message.path());
             bus.send(message.createReply());
@@ -82,6 +105,10 @@ public:
     }
 
     bool hasShortcuts = true;
+    bool lists = false;        ///< an answer lists the shortcuts that were bound
+    QStringList refused;       ///< not in that list
+    QStringList withoutKeys;   ///< in that list, but without a combination
+    QStringList refusesAllFor; ///< with one of these it binds nothing
     uint scheme = 1;
     QString session;
     QMap<QString, QVariantMap> bound;
@@ -89,14 +116,24 @@ public:
     QStringList closed;
 
 private:
-    void respond(const QDBusMessage& message, const QVariantMap& options, const QVariantMap& results) {
+    [[nodiscard]] QVariant granted() const {
+        QDBusArgument list;
+        list.beginArray(QMetaType::fromType<ListedShortcut>());
+        for (auto each = bound.cbegin(); each != bound.cend(); ++each)
+            if (!refused.contains(each.key()))
+                list << ListedShortcut{
+                    each.key(), {{u"trigger_description"_s, withoutKeys.contains(each.key()) ? u""_s : u"Keys"_s}}};
+        list.endArray();
+        return QVariant::fromValue(list);
+    }
+    void respond(const QDBusMessage& message, const QVariantMap& options, const QVariantMap& results, uint answer = 0) {
         QString sender = message.service().mid(1);
         sender.replace(u'.', u'_');
         const QString request =
             portalPath + u"/request/"_s + sender + u'/' + options.value(u"handle_token"_s).toString();
         // A portal may answer the request before the call: the program must be listening by then.
         auto response = QDBusMessage::createSignal(request, u"org.freedesktop.portal.Request"_s, u"Response"_s);
-        response << 0U << results;
+        response << answer << results;
         bus_.send(response);
         bus_.send(message.createReply(QVariant::fromValue(QDBusObjectPath(request))));
     }
@@ -109,10 +146,12 @@ protected:
     void SetUp() override {
         hotKeys = Platform::createPortalHotKeys();
         hotKeys->setHandler([this](HotKeys::Id id) { pressed.append(id.signature); });
+        hotKeys->setRefusedHandler([this](HotKeys::Handle handle) { refused.append(handle); });
     }
     Portal portal;
     std::unique_ptr<HotKeys> hotKeys;
     QList<std::uint32_t> pressed;
+    QList<HotKeys::Handle> refused;
 };
 
 } // namespace
@@ -145,6 +184,39 @@ TEST_F(PortalKeys, AChangeBindsAnewInASessionOfItsOwn) {
 TEST_F(PortalKeys, OneCombinationForOneFieldOnly) {
     ASSERT_NE(hotKeys->registerHotKey(1, 256, {1, 1}), 0U);
     EXPECT_EQ(hotKeys->registerHotKey(1, 256, {2, 1}), 0U);
+}
+
+TEST_F(PortalKeys, ACombinationThatThePortalLeavesOutIsRefused) {
+    portal.lists = true;
+    portal.refused = {u"prrs"_s};
+    portal.withoutKeys = {u"nrrs"_s};
+    const auto taken = hotKeys->registerHotKey(1, 256, {0x73737273, 1});
+    const auto leftOut = hotKeys->registerHotKey(35, 256, {0x70727273, 1});
+    const auto withoutKeys = hotKeys->registerHotKey(45, 256, {0x6E727273, 1});
+    EXPECT_TRUE(waitFor([&] { return refused == QList{leftOut, withoutKeys}; })) << refused.size();
+    EXPECT_NE(hotKeys->registerHotKey(35, 256, {1, 1}), 0U) << "the combination is free again";
+    EXPECT_EQ(hotKeys->registerHotKey(1, 256, {2, 1}), 0U) << "this one is not";
+    EXPECT_NE(taken, 0U);
+}
+
+TEST_F(PortalKeys, WhatWasGrantedStaysWhenTheUserRefusesAnother) {
+    portal.refusesAllFor = {u"prrs"_s};
+    ASSERT_NE(hotKeys->registerHotKey(1, 256, {0x73737273, 1}), 0U);
+    ASSERT_TRUE(waitFor([&] { return portal.bound.size() == 1; }));
+    const auto another = hotKeys->registerHotKey(35, 256, {0x70727273, 1});
+    ASSERT_TRUE(waitFor([&] { return refused == QList{another}; }));
+    EXPECT_TRUE(waitFor([&] { return portal.bound.size() == 1 && portal.bound.contains(u"ssrs"_s); }));
+    portal.press(u"ssrs"_s);
+    EXPECT_TRUE(waitFor([&] { return pressed == QList<std::uint32_t>{0x73737273}; }));
+}
+
+TEST_F(PortalKeys, ARefusalOfEverythingIsToldOnce) {
+    portal.refusesAllFor = {u"ssrs"_s};
+    const auto only = hotKeys->registerHotKey(1, 256, {0x73737273, 1});
+    EXPECT_TRUE(waitFor([&] { return refused == QList{only}; }));
+    EXPECT_NE(hotKeys->registerHotKey(1, 256, {0x70727273, 1}), 0U);
+    EXPECT_TRUE(waitFor([&] { return portal.bound.contains(u"prrs"_s); })) << "the next one is asked for";
+    EXPECT_EQ(refused.size(), 1);
 }
 
 TEST(PortalOfTheDesktop, WithoutGlobalShortcutsThereIsNoWay) {

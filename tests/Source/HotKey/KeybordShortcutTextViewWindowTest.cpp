@@ -166,6 +166,28 @@ TEST_F(ShortcutField, ARefusedCombinationClearsAndStoresAnEmptyDictionary) {
     EXPECT_TRUE(stored().isEmpty());
 }
 
+TEST_F(ShortcutField, ACombinationThatTheDesktopRefusesLaterIsClearedToo) {
+    QMenu menu;
+    QAction* item = menu.addAction(u"Start"_s);
+    field->setMenuItem(item);
+    type(Qt::Key_G, Qt::MetaModifier);
+    ASSERT_EQ(field->text(), u"Command + G"_s);
+    hotKeys.refuse(5, 256);
+    EXPECT_EQ(field->text(), QString());
+    EXPECT_TRUE(stored().isEmpty());
+    EXPECT_FALSE(field->hotKeyRegister()->hasRegisterHotKey());
+    EXPECT_TRUE(item->shortcut().isEmpty());
+    type(Qt::Key_H, Qt::MetaModifier);
+    EXPECT_EQ(field->text(), u"Command + H"_s) << "another one may be taken";
+}
+
+TEST_F(ShortcutField, ALoadedCombinationStaysWhenTheDesktopRefusesIt) {
+    hotKeys.refuse(1, 256 + 4096);
+    EXPECT_EQ(field->text(), u"Control + Command + S"_s);
+    EXPECT_FALSE(field->hotKeyRegister()->hasRegisterHotKey());
+    EXPECT_FALSE(defaults.objectForKey(saveKey).isValid());
+}
+
 TEST_F(ShortcutField, ACombinationOfAnotherFieldIsRefused) {
     Field second(&window);
     prepare(&second, u"PreferencePauseResumeShortcutKey"_s, 0x70727273);
