@@ -151,7 +151,10 @@ void AudioDataSourceView::toggleSelected() {
     const auto state = current.siblingAtColumn(TrackListModel::Choose).data(Qt::CheckStateRole) == Qt::Checked
                            ? Qt::Unchecked
                            : Qt::Checked;
-    for (const int row : selectedRows())
+    QList<int> rows = selectedRows();
+    if (!rows.contains(current.row()))
+        rows = {current.row()};
+    for (const int row : rows)
         tracks_.setData(tracks_.index(row, TrackListModel::Choose), state, Qt::CheckStateRole);
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/CDBurn/CDBurnWndController.h"
 
+#include "Platform/Desktop/Alerts.h"
 #include "Platform/Desktop/Panels.h"
 #include "Platform/Foundation/Folders.h"
 #include "Platform/Foundation/Services.h"
@@ -105,9 +106,16 @@ void CDBurnWndController::fillDrives() {
     ui_->popDrives_->setCurrentIndex(int(burnControl_->recordNum()));
 }
 
-void CDBurnWndController::runModal() {
+void CDBurnWndController::prepareWindow() {
     window_->restoreSize();
-    ui_->trackList_->setFocus();
+    AudioDataSourceView& list = trackList();
+    if (!list.isNullForData())
+        list.setCurrentIndex(list.model()->index(0, TrackListModel::AudioName));
+    list.setFocus();
+}
+
+void CDBurnWndController::runModal() {
+    prepareWindow();
     window_->exec();
 }
 
@@ -156,6 +164,13 @@ void CDBurnWndController::ejesctDisc() {
 void CDBurnWndController::startBurnCD() {
     if (ui_->trackList_->isNullForData())
         return;
+    // An empty layout would fail without a word, and the window would go with it.
+    if (ui_->trackList_->dataCountNum() == 0) {
+        Platform::services().alerts->runModal(tr("There is nothing to burn."),
+                                              tr("Tick the files that are to become tracks, then press Burn."),
+                                              {tr("OK")});
+        return;
+    }
     // The disc may have been taken out a moment ago. A burn that cannot start tells nothing, and its sheet would stay.
     flushDVDStartinfo();
     if (!ui_->btnBurn_->isEnabled())

@@ -32,6 +32,8 @@ public:
     [[nodiscard]] ProcessWndController& processWndController() const { return *process_; }
     [[nodiscard]] AudioDataSourceView& trackList() const;
 
+    /// Before the window is shown: its size of last time, and the first track selected.
+    void prepareWindow();
     /// Shows the window and returns when it is closed.
     void runModal();
 

@@ -40,7 +40,7 @@ struct BurnWorld {
     CDBurnWndController& open(const QVariantList& records = {}) {
         controller = std::make_unique<CDBurnWndController>(nullptr);
         controller->setAudioDataForCDBurn(records);
-        controller->window()->restoreSize();
+        controller->prepareWindow();
         controller->window()->show();
         (void)QTest::qWaitForWindowExposed(controller->window(), 30000);
         return *controller;

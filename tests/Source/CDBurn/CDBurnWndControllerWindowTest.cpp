@@ -352,6 +352,18 @@ TEST_F(BurnWindow, ADiscThatIsGoneUnseenStartsNoBurn) {
     expectState(u"Waiting for the inserted Disc"_s, false);
 }
 
+TEST_F(BurnWindow, WithoutATickBurnSaysSoAndStartsNothing) {
+    world.insert(*world.drive);
+    world.open({BurnWorld::record(u"One.m4a"_s, 100)});
+    world.clickTick(0);
+    expectState(u"Ready to burn"_s, true);
+    BurnWorld::click(world.outlet("btnBurn_"));
+    EXPECT_FALSE(world.recording.lastBurn());
+    EXPECT_TRUE(world.controller->window()->isVisible());
+    ASSERT_EQ(world.alerts.shown.size(), 1);
+    EXPECT_EQ(world.alerts.shown[0].title, u"There is nothing to burn."_s);
+}
+
 TEST_F(BurnWindow, AnImageWithoutAPlaceStartsNoBurn) {
     world.insert(*world.drive);
     world.recording.declinesBurns = true;
