@@ -122,7 +122,8 @@ TEST_F(BurnWindowOnADesktop, TheSheetKeepsTheWindowOpenAndCancelEndsBoth) {
             click(*world.sheet().findChild<QPushButton*>(u"btnCancel_"_s));
         else
             keys(press);
-        EXPECT_TRUE(waitFor([&] { return !text.isEmpty() && !qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); }));
+        EXPECT_TRUE(
+            waitFor([&] { return !text.isEmpty() && !qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); }));
         EXPECT_EQ(text, u"Warning:|Are you sure to end the task?"_s);
     };
     ask(u"Escape"_s, u"Cancel"_s);
