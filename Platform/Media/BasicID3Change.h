@@ -9,8 +9,8 @@
 
 namespace Platform {
 
-/// Text tags and artwork of MPEG-4 audio files. What is not to be changed stays as it is: the audio, the artwork, tags
-/// of other kinds. A save that a crash interrupts is undone when the file is next opened here.
+/// Text tags and artwork of MPEG-4 audio files. Everything else stays as it is: the audio, the other artwork, tags of
+/// other kinds. The file is whole at every moment of a save; after a crash it has the old tags or the new ones.
 class BasicID3Change {
 public:
     /// Writes the five text tags in place. Null and empty texts and a year of 0 mean that the tag has no value. Blocks;
@@ -38,10 +38,6 @@ public:
     /// a person; empty when nothing did.
     [[nodiscard]] static QString copyWithArtwork(const QString& source, const QString& image,
                                                  const QString& destination);
-
-    /// Undoes a save that a crash interrupted. For everyone who opens a file of ours in another way; costs one look at
-    /// a name when there is nothing to do. @return whether the file was changed.
-    static bool restoreInterruptedSave(const QString& path);
 };
 
 } // namespace Platform

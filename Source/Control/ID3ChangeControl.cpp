@@ -99,8 +99,6 @@ void changeID3(const QString& source, const QString& destAudioPath, const Dictio
     const bool samePath = source == destAudioPath;
     if (const QString real = behindLink(source); samePath && real != source)
         return changeID3(real, real, ID3Info, artworkPath);
-    // The copy that undoes an interrupted save stands beside the file: here it is still found.
-    Platform::BasicID3Change::restoreInterruptedSave(source);
     QString working = source;
     QString inTheWay;
     if (samePath) {
@@ -134,7 +132,6 @@ void changeID3(const QString& source, const QString& destAudioPath, const Dictio
 void changeID3ArtworkInfo(const QString& path, const QString& artworkPath) {
     if (const QString real = behindLink(path); real != path)
         return changeID3ArtworkInfo(real, artworkPath);
-    Platform::BasicID3Change::restoreInterruptedSave(path);
     const QString working = temporaryPath("tempID3AudioTT"_L1, artworkCounter, ".m4a"_L1);
     if (!moveAway(path, working))
         return;

@@ -8,11 +8,16 @@
 
 #include <atomic>
 #include <cerrno>
+#include <csignal>
+#include <cstdio>
 #include <dlfcn.h>
 #include <mutex>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
+
+using Kind = DiskCalls::Call::Kind;
 
 std::atomic<bool> watching{false};
 std::mutex mutex; // guards what follows
@@ -20,12 +25,42 @@ std::vector<DiskCalls::Call> seen;
 int syncError = 0;
 std::function<bool(const QString&)> fails;
 
+int killed = -1;
+
+template <typename Function>
+Function real(Function, const char* name) {
+    return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name));
+}
+
+struct stat statOf(int fd) {
+    struct stat file {};
+    (void)::fstat(fd, &file);
+    return file;
+}
+
 /// Only while somebody watches: a child that was forked in the midst of it must not find the mutex locked.
-/// @return the errno that the call shall fail with, or 0
-int note(DiskCalls::Call::Kind kind, const struct stat& file, const QString& path, const QString& to) {
+/// @return whether the process is to be killed in this call
+bool note(DiskCalls::Call call) {
     const std::lock_guard lock(mutex);
-    seen.push_back({kind, file.st_ino, file.st_size, to, std::this_thread::get_id()});
-    return kind == DiskCalls::Call::Kind::Sync && syncError != 0 && fails(path) ? syncError : 0;
+    call.thread = std::this_thread::get_id();
+    seen.push_back(std::move(call));
+    return killed >= 0 && int(seen.size()) == killed + 1;
+}
+
+template <typename Sync>
+int synced(int fd, Sync sync) {
+    if (!watching)
+        return sync(fd);
+    const struct stat file = statOf(fd);
+    const QString path = QFileInfo(QStringLiteral("/proc/self/fd/%1").arg(fd)).symLinkTarget();
+    if (note({.kind = Kind::Sync, .inode = file.st_ino, .size = file.st_size}))
+        (void)::raise(SIGKILL);
+    const std::lock_guard lock(mutex);
+    if (syncError != 0 && fails(path)) {
+        errno = syncError;
+        return -1;
+    }
+    return sync(fd);
 }
 
 } // namespace
@@ -33,36 +68,61 @@ int note(DiskCalls::Call::Kind kind, const struct stat& file, const QString& pat
 // The program's own definitions come before those of the C library.
 extern "C" {
 int fsync(int fd) {
-    using Call = int (*)(int);
-    static const Call real = reinterpret_cast<Call>(dlsym(RTLD_NEXT, "fsync"));
-    if (!watching)
-        return real(fd);
-    struct stat file {};
-    (void)::fstat(fd, &file);
-    const QString path = QFileInfo(QStringLiteral("/proc/self/fd/%1").arg(fd)).symLinkTarget();
-    if (const int error = note(DiskCalls::Call::Kind::Sync, file, path, {})) {
-        errno = error;
-        return -1;
-    }
-    return real(fd);
+    static const auto call = real(&fsync, "fsync");
+    return synced(fd, call);
+}
+
+int fdatasync(int fd) {
+    static const auto call = real(&fdatasync, "fdatasync");
+    return synced(fd, call);
 }
 
 int rename(const char* from, const char* to) noexcept {
-    using Call = int (*)(const char*, const char*);
-    static const Call real = reinterpret_cast<Call>(dlsym(RTLD_NEXT, "rename"));
-    if (!watching)
-        return real(from, to);
-    struct stat file {};
-    (void)::stat(from, &file);
-    (void)note(DiskCalls::Call::Kind::Rename, file, {}, QFile::decodeName(to));
-    return real(from, to);
+    static const auto call = real(&rename, "rename");
+    if (watching) {
+        struct stat file {};
+        (void)::stat(from, &file);
+        if (note({.kind = Kind::Rename, .inode = file.st_ino, .size = file.st_size, .to = QFile::decodeName(to)}))
+            (void)::raise(SIGKILL);
+    }
+    return call(from, to);
 }
+
+ssize_t pwrite(int fd, const void* bytes, size_t size, off_t offset) {
+    static const auto call = real(&pwrite, "pwrite");
+    if (!watching)
+        return call(fd, bytes, size, offset);
+    const struct stat file = statOf(fd);
+    const QByteArray copy(static_cast<const char*>(bytes), qsizetype(size));
+    if (note({.kind = Kind::Write, .inode = file.st_ino, .size = file.st_size, .offset = offset, .bytes = copy})) {
+        (void)call(fd, bytes, size / 2, offset);
+        (void)::raise(SIGKILL);
+    }
+    return call(fd, bytes, size, offset);
+}
+
+int ftruncate(int fd, off_t length) noexcept {
+    static const auto call = real(&ftruncate, "ftruncate");
+    if (watching && note({.kind = Kind::Cut, .inode = statOf(fd).st_ino, .size = length}))
+        (void)::raise(SIGKILL);
+    return call(fd, length);
+}
+
+#ifndef __USE_FILE_OFFSET64
+ssize_t pwrite64(int fd, const void* bytes, size_t size, off64_t offset) {
+    return pwrite(fd, bytes, size, offset);
+}
+int ftruncate64(int fd, off64_t length) noexcept {
+    return ftruncate(fd, length);
+}
+#endif
 }
 
 DiskCalls::DiskCalls() {
     const std::lock_guard lock(mutex);
     seen.clear();
     syncError = 0;
+    killed = -1;
     watching = true;
 }
 
@@ -79,4 +139,9 @@ void DiskCalls::failSync(int error, std::function<bool(const QString&)> which) {
     const std::lock_guard lock(mutex);
     syncError = error;
     fails = std::move(which);
+}
+
+void DiskCalls::killIn(int call) {
+    const std::lock_guard lock(mutex);
+    killed = call;
 }

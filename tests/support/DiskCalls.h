@@ -7,18 +7,22 @@
 #include <thread>
 #include <vector>
 
+#include <QByteArray>
 #include <QString>
 
-/// Writes down what the program asks of the disk while it lives: every fsync() and every rename(). One at a time.
+/// Records what the program asks of the disk while it lives: every fsync(), fdatasync(), rename(), pwrite() and
+/// ftruncate(). One at a time.
 class DiskCalls {
 public:
     struct Call {
-        enum class Kind { Sync, Rename };
+        enum class Kind { Sync, Rename, Write, Cut };
         Kind kind = Kind::Sync;
         std::uint64_t inode = 0; ///< of the file or the folder, before a renaming
-        std::int64_t size = 0;
-        QString to; ///< of a renaming
-        std::thread::id thread;
+        std::int64_t size = 0;   ///< of the file before the call; after it for Cut
+        QString to{};            ///< of a renaming
+        std::thread::id thread{};
+        std::int64_t offset = 0; ///< of a Write
+        QByteArray bytes{};      ///< of a Write
     };
 
     DiskCalls();
@@ -26,6 +30,9 @@ public:
     DiskCalls(const DiskCalls&) = delete;
     DiskCalls& operator=(const DiskCalls&) = delete;
     [[nodiscard]] std::vector<Call> calls() const;
+    /// The process is killed in the call with this number, counted from 0: half of a Write is done then, and nothing of
+    /// another call. For a process that was forked for it.
+    void killIn(int call);
     /// fsync() fails with this errno for files whose path @p which accepts. A file without a name has a path like
     /// "/folder/#123 (deleted)".
     void failSync(int error, std::function<bool(const QString& path)> which);

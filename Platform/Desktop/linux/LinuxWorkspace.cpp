@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Desktop/linux/LinuxDesktop.h"
-#include "Platform/Media/BasicID3Change.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -34,7 +33,6 @@ public:
     explicit LinuxWorkspace(const QString& busAddress) : busAddress_(busAddress) {}
 
     bool selectFile(const QString& path) override {
-        BasicID3Change::restoreInterruptedSave(path); // the next to open it will be another program
         const QFileInfo file(path);
         const QString folder = file.absolutePath();
         if (!file.exists())
@@ -61,7 +59,6 @@ public:
         const QString file = QFileInfo(path).absoluteFilePath();
         if (!QFileInfo::exists(file))
             return false;
-        BasicID3Change::restoreInterruptedSave(file);
         if (application.isEmpty() || application == QStringLiteral("iTunes"))
             return openWithDefault(file);
         const QString program = QStandardPaths::findExecutable(application);

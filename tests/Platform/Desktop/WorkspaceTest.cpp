@@ -3,7 +3,6 @@
 #include "Platform/Desktop/linux/LinuxDesktop.h"
 
 #include "tests/support/Environment.h"
-#include "tests/support/Mpeg4Files.h"
 #include "tests/support/WaitFor.h"
 
 #include <gtest/gtest.h>
@@ -106,27 +105,6 @@ TEST_F(WorkspaceTest, OpensAFileInTheDefaultPlayerAndKeepsItsNameWhole) {
 TEST_F(WorkspaceTest, DoesNotOpenWhatIsNotThereOrWithWhatIsNotThere) {
     EXPECT_FALSE(workspace->openFile(dir.filePath(QStringLiteral("missing.m4a")), QStringLiteral("iTunes")));
     EXPECT_FALSE(workspace->openFile(make("a.m4a"), QStringLiteral("no-such-player")));
-}
-
-TEST_F(WorkspaceTest, HandsARecordingOnWholeThatACrashLeftTorn) {
-    const QString file = dir.filePath(QStringLiteral("a.m4a"));
-    // Longer than the copy that undoes the save, which must still be whole.
-    ASSERT_TRUE(Mpeg4Files::make(file, Mpeg4Files::Shape::IndexAtEnd, 10));
-    const QByteArray whole = Mpeg4Files::contentOf(file);
-    const auto tear = [&] {
-        // The kernel ends the program when a part of the new tags is written.
-        (void)runTool(QStringLiteral("prlimit"),
-                      {QStringLiteral("--core=0"), QStringLiteral("--fsize=%1").arg(whole.size() + 500),
-                       QStringLiteral(SONAPHEX_PROGRAM), QStringLiteral("tag"), file, QStringLiteral("--title"),
-                       QString(20000, u'x')});
-        ASSERT_NE(Mpeg4Files::contentOf(file), whole);
-    };
-    tear();
-    EXPECT_TRUE(workspace->openFile(file, QStringLiteral("iTunes")));
-    EXPECT_EQ(Mpeg4Files::contentOf(file), whole);
-    tear();
-    EXPECT_TRUE(Platform::createWorkspace(QStringLiteral("unix:path=/none"))->selectFile(file));
-    EXPECT_EQ(Mpeg4Files::contentOf(file), whole);
 }
 
 TEST_F(WorkspaceTest, OpensTheFolderWhenThereIsNoBus) {

@@ -4,10 +4,6 @@
 #include "Platform/Media/BasicID3Change.h"
 #include "tests/support/ChildProcess.h"
 #include "tests/support/Mpeg4Files.h"
-#include "tests/support/WaitFor.h"
-
-#include <atomic>
-#include <thread>
 
 #include <QDir>
 #include <QFileInfo>
@@ -44,34 +40,7 @@ protected:
         return 0;
     }
 
-    /// A file whose title was changed from "Before" to "After", and the copy that would undo that: what a crash leaves
-    /// between the last write and the removal of the copy.
-    void makeDoneSaveWithItsCopy() {
-        ASSERT_TRUE(Mpeg4Files::make(path(), Mpeg4Files::Shape::IndexAtEnd, 5));
-        ASSERT_EQ(BasicID3Change::writeTexts(path(), {.title = u"Before"_s}), QString());
-        before_ = Mpeg4Files::contentOf(path());
-        const QString copy = path(u".sonaphex-%1.undo"_s.arg(inodeOf(path()), 0, 16));
-        const QByteArray copyName = QFile::encodeName(copy);
-        const QByteArray secondName = QFile::encodeName(path(u"second"_s));
-        std::atomic<bool> taken{false};
-        std::atomic<bool> enough{false};
-        std::thread taker([&] {
-            while (!taken && !enough)
-                taken = ::link(copyName.constData(), secondName.constData()) == 0;
-        });
-        const bool caught = waitFor([&] {
-            EXPECT_TRUE(Mpeg4Files::write(path(), before_));
-            EXPECT_EQ(BasicID3Change::writeTexts(path(), {.title = u"After"_s}), QString());
-            return taken.load();
-        });
-        enough = true;
-        taker.join();
-        ASSERT_TRUE(caught);
-        ASSERT_TRUE(QFile::rename(path(u"second"_s), copy));
-    }
-
     QTemporaryDir folder_;
-    QByteArray before_;
 };
 
 } // namespace
@@ -89,7 +58,7 @@ TEST_F(InPlaceSave, WritesNoAudioOfAFileWithItsIndexAtTheEnd) {
     const qint64 before = bytesWritten();
     ASSERT_EQ(BasicID3Change::writeTexts(path(), {.title = QString(2000, u'x')}), QString());
     ASSERT_EQ(BasicID3Change::copyWithArtwork(path(), cover, path()), QString());
-    EXPECT_LT(bytesWritten() - before, size / 4) << "the index is written, and before it the copy of it";
+    EXPECT_LT(bytesWritten() - before, size / 4) << "only the index is written";
 
     EXPECT_EQ(BasicID3Change::read(path())->title.size(), 2000);
     EXPECT_EQ(BasicID3Change::read(path())->artwork, Mpeg4Files::contentOf(cover));
@@ -99,34 +68,6 @@ TEST_F(InPlaceSave, WritesNoAudioOfAFileWithItsIndexAtTheEnd) {
         char note[5] = {};
         EXPECT_EQ(::getxattr(QFile::encodeName(path()).constData(), "user.note", note, 4), 4);
     }
-    EXPECT_TRUE(hidden().isEmpty());
-}
-
-TEST_F(InPlaceSave, ThatWasDoneIsNotUndone) {
-    makeDoneSaveWithItsCopy();
-    EXPECT_FALSE(BasicID3Change::restoreInterruptedSave(path()));
-    EXPECT_EQ(BasicID3Change::read(path())->title, u"After"_s);
-    EXPECT_TRUE(hidden().isEmpty());
-}
-
-TEST_F(InPlaceSave, TakesNothingBackThatAnotherProgramWroteSince) {
-    makeDoneSaveWithItsCopy();
-    const QByteArray content = Mpeg4Files::contentOf(path());
-    QFile file(path());
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.seek(content.lastIndexOf("After")));
-    ASSERT_EQ(file.write("Later"), 5);
-    file.close();
-    EXPECT_EQ(BasicID3Change::read(path())->title, u"Later"_s);
-    EXPECT_TRUE(hidden().isEmpty());
-}
-
-TEST_F(InPlaceSave, TakesBackAFileThatAPowerCutLeftUnsound) {
-    makeDoneSaveWithItsCopy();
-    QByteArray content = Mpeg4Files::contentOf(path());
-    content.replace(content.lastIndexOf("\251nam") - 4, 12, QByteArray(12, '\xee'));
-    ASSERT_TRUE(Mpeg4Files::write(path(), content));
-    EXPECT_EQ(BasicID3Change::read(path())->title, u"Before"_s);
-    EXPECT_EQ(Mpeg4Files::contentOf(path()), before_);
     EXPECT_TRUE(hidden().isEmpty());
 }
 

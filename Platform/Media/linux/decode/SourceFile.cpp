@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/linux/decode/SourceFile.h"
 
-#include "Platform/Foundation/linux/Descriptor.h"
+#include "Platform/Foundation/linux/OpenFile.h"
 #include "Platform/Media/linux/encode/PacketFile.h"
-#include "Platform/Media/linux/tags/InPlaceSave.h"
 
 #include <QFile>
 
@@ -22,20 +21,13 @@ SourceFile::~SourceFile() {
 }
 
 MediaError SourceFile::open(const QString& path) {
-    // A tag save that a crash interrupted left the index torn, and with it the recording would be unreadable.
-    Media::restoreInterruptedSave(path);
-    fd_ = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-    if (fd_ < 0)
-        return errnoError(errno, path);
-    struct stat info = {};
-    if (::fstat(fd_, &info) < 0)
-        return errnoError(errno, path);
-    if (S_ISDIR(info.st_mode))
-        return makeError(MediaError::Kind::NotAFile, path, QStringLiteral("is a folder"));
-    if (!S_ISREG(info.st_mode))
-        return makeError(MediaError::Kind::NotAFile, path, QStringLiteral("not a regular file"));
-    if (info.st_size == 0)
+    OpenedFile opened = openFile(path);
+    if (!opened.file)
+        return opened.error != 0 ? errnoError(opened.error, path)
+                                 : makeError(MediaError::Kind::NotAFile, path, opened.why);
+    if (opened.status.st_size == 0)
         return makeError(MediaError::Kind::UnknownFormat, path, QStringLiteral("the file is empty"));
+    fd_ = opened.file.release();
     ::posix_fadvise(fd_, 0, 0, POSIX_FADV_SEQUENTIAL);
     return {};
 }
@@ -49,75 +41,13 @@ std::int64_t SourceFile::read(std::int64_t offset, std::span<std::uint8_t> out) 
     return readAllAt(fd_, out.data(), out.size(), offset);
 }
 
+bool SourceFile::readAll(std::int64_t offset, std::span<std::uint8_t> out) const {
+    return read(offset, out) == std::int64_t(out.size());
+}
+
 namespace {
 
-std::uint64_t bigEndian(const std::uint8_t* bytes, int size) {
-    std::uint64_t value = 0;
-    for (int i = 0; i < size; ++i)
-        value = (value << 8) | bytes[i];
-    return value;
-}
-
 constexpr double longestBelieved = 1e15; // frames
-
-struct Span {
-    std::int64_t from = 0;
-    std::int64_t to = 0;
-};
-
-/// Calls @p visit with the type and content of each box in a part of the file, until it answers false.
-template <typename Visit>
-void eachBox(const SourceFile& file, Span part, Visit visit) {
-    constexpr int mostBoxes = 1'000'000; // a damaged file does not keep us for long
-    std::int64_t at = part.from;
-    for (int i = 0; i < mostBoxes && part.to - at >= 8; ++i) {
-        std::uint8_t head[16];
-        if (!file.readAll(at, std::span(head, 8)))
-            return;
-        auto size = std::int64_t(bigEndian(head, 4));
-        std::int64_t headSize = 8;
-        if (size == 1) {
-            if (!file.readAll(at, head))
-                return;
-            size = std::int64_t(bigEndian(head + 8, 8));
-            headSize = 16;
-        } else if (size == 0) {
-            size = part.to - at;
-        }
-        if (size < headSize || size > part.to - at)
-            return;
-        if (!visit(std::uint32_t(bigEndian(head + 4, 4)), Span{at + headSize, at + size}))
-            return;
-        at += size;
-    }
-}
-
-std::optional<Span> findBox(const SourceFile& file, Span part, std::initializer_list<std::uint32_t> path) {
-    for (const std::uint32_t wanted : path) {
-        std::optional<Span> found;
-        eachBox(file, part, [&](std::uint32_t type, Span content) {
-            if (type == wanted)
-                found = content;
-            return !found;
-        });
-        if (!found)
-            return std::nullopt;
-        part = *found;
-    }
-    return part;
-}
-
-/// The content of a small box; empty when it is missing or too long to be believed.
-std::vector<std::uint8_t> boxBytes(const SourceFile& file, Span part, std::initializer_list<std::uint32_t> path) {
-    constexpr std::int64_t longest = 1 << 22;
-    const auto box = findBox(file, part, path);
-    if (!box || box->to - box->from > longest)
-        return {};
-    std::vector<std::uint8_t> bytes(std::size_t(box->to - box->from));
-    if (!file.readAll(box->from, bytes))
-        bytes.clear();
-    return bytes;
-}
 
 /// The time scale of a "mvhd" or "mdhd".
 std::int64_t timeScale(const std::vector<std::uint8_t>& bytes) {
@@ -161,7 +91,7 @@ ContainerFacts readMpeg4Facts(const SourceFile& file, int rate) {
     facts.fragmented = findBox(file, *movie, {fourCharCode("mvex")}).has_value();
     const std::int64_t movieScale = timeScale(boxBytes(file, *movie, {fourCharCode("mvhd")}));
     int soundTracks = 0;
-    eachBox(file, *movie, [&](std::uint32_t type, Span track) {
+    eachBox(file, *movie, [&](std::uint32_t type, ByteRange track) {
         if (type != fourCharCode("trak"))
             return true;
         const auto handler = boxBytes(file, track, {fourCharCode("mdia"), fourCharCode("hdlr")});

@@ -3,29 +3,26 @@
 #pragma once
 
 #include "Platform/Media/linux/MediaErrors.h"
+#include "Platform/Media/linux/mpeg4/Mpeg4Boxes.h"
 
 #include <optional>
 #include <span>
 
 namespace Platform {
 
-/// A regular file that is read. Opening never waits, whatever lies at the path, except for another process that saves
-/// tags into the file at that moment. Reads are from any thread.
-class SourceFile {
+/// A regular file that is read. Opening never waits, whatever lies at the path. Reads are from any thread.
+class SourceFile final : public ByteSource {
 public:
     SourceFile() = default;
-    ~SourceFile();
+    ~SourceFile() override;
     SourceFile(const SourceFile&) = delete;
     SourceFile& operator=(const SourceFile&) = delete;
 
-    /// Undoes an interrupted tag save first.
     [[nodiscard]] MediaError open(const QString& path);
-    [[nodiscard]] std::int64_t size() const;
+    [[nodiscard]] std::int64_t size() const override;
     /// @return bytes read, 0 at the end, negative errno on failure.
     std::int64_t read(std::int64_t offset, std::span<std::uint8_t> out) const;
-    [[nodiscard]] bool readAll(std::int64_t offset, std::span<std::uint8_t> out) const {
-        return read(offset, out) == std::int64_t(out.size());
-    }
+    [[nodiscard]] bool readAll(std::int64_t offset, std::span<std::uint8_t> out) const override;
 
 private:
     int fd_ = -1;

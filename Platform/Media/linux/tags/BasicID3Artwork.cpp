@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What looks into pictures stands apart: the recorder on the command line is linked without Qt Gui.
+// In a file of its own because of its pictures: the recorder on the command line is linked without Qt Gui.
 #include "Platform/Media/BasicID3Change.h"
 
 #include "Platform/Foundation/linux/OpenFile.h"
-#include "Platform/Media/linux/tags/InPlaceSave.h"
 #include "Platform/Media/linux/tags/Mpeg4Tags.h"
 
 #include <QBuffer>
@@ -17,8 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace Platform {
 namespace {
-
-using Media::PatchedFile;
 
 // Covers are shown on screens; a larger file is no cover.
 constexpr qint64 largestImage = qint64(64) << 20;
@@ -47,18 +44,12 @@ QString BasicID3Change::copyWithArtwork(const QString& source, const QString& im
     if (!format)
         return u"%1 is neither a JPEG nor a PNG image"_s.arg(image);
 
-    const auto edit = [&](PatchedFile& content, QString& reason) {
-        return Media::editTags(
-            content, {Media::artworkItem},
-            [&](TagLib::MP4::Tag& tag) {
-                TagLib::MP4::CoverArtList covers;
-                covers.append(
-                    {*format, TagLib::ByteVector(bytes->constData(), static_cast<unsigned int>(bytes->size()))});
-                tag.setItem(Media::artworkItem, covers);
-            },
-            reason);
-    };
-    // Onto itself it is a change like any other: the audio of an hour stays where it is.
+    const auto edit = Media::editOfTags({Media::artworkItem}, [&](TagLib::MP4::Tag& tag) {
+        TagLib::MP4::CoverArtList covers;
+        covers.append({*format, TagLib::ByteVector(bytes->constData(), static_cast<unsigned int>(bytes->size()))});
+        tag.setItem(Media::artworkItem, covers);
+    });
+    // When source and destination are one file, the audio stays where it is.
     const QString real = QFileInfo(source).canonicalFilePath();
     const bool ontoItself = !real.isEmpty() && real == QFileInfo(destination).canonicalFilePath();
     if (ontoItself ? Media::saveInPlace(real, edit, why) : Media::saveCopy(source, destination, edit, why))

@@ -3,27 +3,25 @@
 #include "Platform/Media/BasicID3Change.h"
 
 #include "Platform/Foundation/Dictionary.h"
-#include "Platform/Media/linux/tags/InPlaceSave.h"
+#include "Platform/Media/linux/mpeg4/Mpeg4Layout.h"
 #include "Platform/Media/linux/tags/Mpeg4TagList.h"
 #include "Platform/Media/linux/tags/Mpeg4Tags.h"
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <sys/stat.h>
+#include <cstring>
 
 #include <QLoggingCategory>
 
 #include <taglib/mp4coverart.h>
 #include <taglib/mp4file.h>
 #include <taglib/mp4tag.h>
+#include <taglib/tbytevectorstream.h>
 
 using namespace Qt::StringLiterals;
 
 namespace Platform {
 namespace {
-
-using Media::PatchedFile;
 
 Q_LOGGING_CATEGORY(log, "sonaphex.media")
 
@@ -34,37 +32,44 @@ constexpr const char* yearItem = "\251day";
 constexpr const char* genreItem = "\251gen";
 constexpr const char* numberedGenreItem = "gnre"; // read when there is no other
 
-/// A file in memory with nothing in it but tags. TagLib reads and writes items only there: what it does not know stays
-/// as it is in the file, and how a file is made of boxes is none of its business.
+/// A file in memory with nothing in it but tags. TagLib reads and writes items only there: items that it does not know
+/// stay in the real file as they are, and the boxes around them are written by this folder.
 class TagsInMemory {
 public:
-    explicit TagsInMemory(const QByteArray& items) { content_.replace(0, 0, Media::fileOfTags(items)); }
+    explicit TagsInMemory(const QByteArray& items)
+        : stream_(bytesOf(Media::fileOfTags(items))), file_(&stream_, false) {}
 
-    /// The items after an edit; nothing when TagLib refuses.
-    std::optional<QByteArray> edited(const std::function<void(TagLib::MP4::Tag&)>& edit) {
-        {
-            TagLib::MP4::File file(&content_, false);
-            if (!file.isValid() || !file.tag())
-                return std::nullopt;
-            edit(*file.tag());
-            if (!file.save())
-                return std::nullopt;
-        }
+    /// Null when TagLib refuses.
+    [[nodiscard]] TagLib::MP4::Tag* tag() const { return file_.isValid() ? file_.tag() : nullptr; }
+
+    /// The items after a change; nothing when TagLib refuses.
+    std::optional<QByteArray> saved() {
         QString why;
-        const auto atoms = Media::readMpeg4Atoms(content_, why);
-        if (!atoms)
+        if (!file_.save())
+            return std::nullopt;
+        const QByteArrayView content(stream_.data()->data(), qsizetype(stream_.data()->size()));
+        const MemoryBytes bytes(content);
+        const auto layout = readLayout(bytes, why);
+        if (!layout)
             return std::nullopt;
         QByteArray items;
-        for (const Media::TagItem& item : Media::tagItems(content_, *atoms))
+        for (const Media::TagItem& item : Media::tagItems(bytes, layout->moov()))
             items += item.bytes;
         return items;
     }
 
-    [[nodiscard]] PatchedFile& content() { return content_; }
-
 private:
-    PatchedFile content_{-1, 0};
+    static TagLib::ByteVector bytesOf(const QByteArray& bytes) {
+        return {bytes.constData(), static_cast<unsigned int>(bytes.size())};
+    }
+
+    TagLib::ByteVectorStream stream_;
+    TagLib::MP4::File file_;
 };
+
+std::uint32_t typeOf(const char* item) {
+    return std::uint32_t(bigEndian(item, 4));
+}
 
 void setText(TagLib::MP4::Tag& tag, const char* item, QString text) {
     text.remove(QChar(u'\0'));
@@ -78,25 +83,27 @@ QString text(const TagLib::String& string) {
 
 } // namespace
 
-bool Media::editTags(PatchedFile& content, const std::vector<const char*>& changed,
-                     const std::function<void(TagLib::MP4::Tag&)>& edit, QString& why) {
-    const auto atoms = Media::readMpeg4Atoms(content, why);
-    if (!atoms)
-        return false;
-    if (!atoms->complete) {
-        why = u"the file is cut off"_s;
-        return false;
-    }
-    QByteArray items;
-    for (const Media::TagItem& item : Media::tagItems(content, *atoms))
-        if (std::none_of(changed.begin(), changed.end(), [&](const char* one) { return item.name == one; }))
-            items += item.bytes;
-    const auto fresh = TagsInMemory({}).edited(edit);
-    if (!fresh) {
-        why = u"its tags cannot be written"_s;
-        return false;
-    }
-    return Media::replaceTagItems(content, *atoms, items + *fresh, why);
+Media::IndexEdit Media::editOfTags(const std::vector<const char*>& changed,
+                                   const std::function<void(TagLib::MP4::Tag&)>& edit) {
+    return [changed, edit](const QByteArray& index, QString& why) -> std::optional<QByteArray> {
+        const MemoryBytes bytes(index);
+        auto moov = readBoxHeader(bytes, 0, index.size());
+        if (!moov || !readBoxTree(bytes, *moov, why))
+            return std::nullopt;
+        QByteArray items;
+        for (const TagItem& item : tagItems(bytes, *moov))
+            if (std::ranges::none_of(changed, [&](const char* one) { return item.type == typeOf(one); }))
+                items += item.bytes;
+        TagsInMemory fresh({});
+        if (fresh.tag())
+            edit(*fresh.tag());
+        const auto added = fresh.tag() ? fresh.saved() : std::nullopt;
+        if (!added) {
+            why = u"its tags cannot be written"_s;
+            return std::nullopt;
+        }
+        return withTagItems(index, items + *added, why);
+    };
 }
 
 QString BasicID3Change::writeTexts(const QString& path, const Texts& texts) {
@@ -118,15 +125,10 @@ QString BasicID3Change::writeTexts(const QString& path, const Texts& texts) {
         changed.push_back(numberedGenreItem);
 
     QString why;
-    const auto edit = [&](PatchedFile& content, QString& reason) {
-        return Media::editTags(
-            content, changed,
-            [&](TagLib::MP4::Tag& tag) {
-                for (const auto& [item, value] : values)
-                    setText(tag, item, value);
-            },
-            reason);
-    };
+    const auto edit = Media::editOfTags(changed, [&values](TagLib::MP4::Tag& tag) {
+        for (const auto& [item, value] : values)
+            setText(tag, item, value);
+    });
     return Media::saveInPlace(path, edit, why) ? QString() : u"cannot write the tags of %1: %2"_s.arg(path, why);
 }
 
@@ -145,28 +147,22 @@ std::optional<BasicID3Change::Tags> BasicID3Change::read(const QString& path, QS
         return std::nullopt;
     };
     Descriptor file;
-    struct stat status {};
     QString why;
     if (!Media::openForReading(path, file, why))
         return refuse(why);
-    if (::fstat(file.get(), &status) != 0)
-        return refuse(qt_error_string(errno));
-    const PatchedFile content(file.get(), status.st_size);
-    static const std::array<QByteArray, 7> ours{titleItem, artistItem,        albumItem,         yearItem,
-                                                genreItem, numberedGenreItem, Media::artworkItem};
-    const auto atoms = Media::readMpeg4Atoms(content, why);
-    if (!atoms)
+    const FileBytes content(file.get());
+    const auto layout = readLayout(content, why);
+    if (!layout)
         return refuse(why);
+    static constexpr std::array shown{titleItem, artistItem,        albumItem,         yearItem,
+                                      genreItem, numberedGenreItem, Media::artworkItem};
     QByteArray items;
-    for (const Media::TagItem& item : Media::tagItems(content, *atoms))
-        if (std::find(ours.begin(), ours.end(), item.name) != ours.end())
+    for (const Media::TagItem& item : Media::tagItems(content, layout->moov()))
+        if (std::ranges::any_of(shown, [&](const char* one) { return item.type == typeOf(one); }))
             items += item.bytes;
-    if (content.failed())
-        return refuse(u"it cannot be read"_s);
-    TagsInMemory inMemory(items);
-    const TagLib::MP4::File mpeg4(&inMemory.content(), false);
-    const TagLib::MP4::Tag* const tag = mpeg4.tag();
-    if (!mpeg4.isValid() || !tag)
+    const TagsInMemory inMemory(items);
+    const TagLib::MP4::Tag* const tag = inMemory.tag();
+    if (!tag)
         return refuse(u"its tags cannot be read"_s);
 
     Tags tags{text(tag->title()), text(tag->artist()), text(tag->album()), text(tag->genre()), 0, {}};
@@ -179,10 +175,6 @@ std::optional<BasicID3Change::Tags> BasicID3Change::read(const QString& path, QS
                 QByteArray(covers.front().data().data(), static_cast<qsizetype>(covers.front().data().size()));
     }
     return tags;
-}
-
-bool BasicID3Change::restoreInterruptedSave(const QString& path) {
-    return Media::restoreInterruptedSave(path);
 }
 
 } // namespace Platform

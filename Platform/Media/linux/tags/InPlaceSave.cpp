@@ -1,443 +1,286 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+//
+// How a file gets a new index without a moment at which it has none:
+//
+//   ... [moov: old]                    before
+//   ... [moov: old][free: new]         appended and synced; nobody reads it
+//   ... [moov: old][moov: new]         four bytes of its type are overwritten; of two indexes the first one counts
+//   ... [free     ][moov: new]         four bytes of the old one's type are overwritten
+//
+// The next save uses the room that is free now:
+//
+//   ... [free: newer][moov: new]       written and synced
+//   ... [moov: newer][moov: new]       it is the first now, so it counts
+//   ... [moov: newer]                  the file is cut behind it
+//
+// A size field is only overwritten where it lies in one sector, so that a power cut leaves the old or the new value. A
+// type that is torn is an unknown box, which readers skip.
 #include "Platform/Media/linux/tags/InPlaceSave.h"
 
-#include "Platform/Media/linux/mpeg4/Mpeg4Atoms.h"
+#include "Platform/Foundation/ReplacementFile.h"
+#include "Platform/Foundation/linux/LockedFile.h"
+#include "Platform/Foundation/linux/OpenFile.h"
+#include "Platform/Media/linux/mpeg4/ByteWriter.h"
+#include "Platform/Media/linux/mpeg4/Mpeg4Layout.h"
+#include "Platform/Media/linux/mpeg4/Mpeg4Offsets.h"
+
+#include <QFileInfo>
 
 #include <algorithm>
 #include <cerrno>
-#include <chrono>
-#include <cstdio>
-#include <cstring>
-#include <fcntl.h>
-#include <linux/magic.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <sys/vfs.h>
-#include <thread>
+#include <limits>
 #include <unistd.h>
-
-#include <QCryptographicHash>
-#include <QDataStream>
-#include <QFile>
-#include <QFileInfo>
-#include <QLoggingCategory>
-#include <QRandomGenerator>
 
 using namespace Qt::StringLiterals;
 
 namespace Platform::Media {
 namespace {
 
-Q_LOGGING_CATEGORY(log, "sonaphex.media")
+constexpr auto savePatience = std::chrono::seconds(10);
+constexpr auto readPatience = std::chrono::seconds(2);
+constexpr std::int64_t largestIndex = std::int64_t(256) << 20; // two weeks of audio with a cover
+constexpr std::int64_t header = 8;
+constexpr std::int64_t sector = 512;
 
-// What is copied aside and rewritten on the spot; above it a whole new file is as fast and simpler.
-constexpr qint64 mostInPlace = qint64(32) << 20;
-constexpr auto lockPatience = std::chrono::seconds(10);
-constexpr auto readerPatience = std::chrono::seconds(2);
-constexpr quint64 undoMagic = 0x534e5058554e4433; // "SNPXUND3"
-constexpr qint64 longestWitness = qint64(64) << 10;
-
-/// Tells a file from every other in its folder, also from a later one that got its inode number. The number of the
-/// device is no part of it: after a power cut the same disk may come back under another one.
-struct Identity {
-    QByteArray name; ///< what the copy is called after
-    qint64 born = 0;
-    friend bool operator==(const Identity&, const Identity&) = default;
-};
-
-/// FAT makes inode numbers up anew each time that it is mounted; there a file goes by its name.
-bool hasInodeNumbers(int fd) {
-    constexpr decltype(statfs::f_type) exfat = 0x2011BAB0;
-    struct statfs system {};
-    return ::fstatfs(fd, &system) != 0 || (system.f_type != MSDOS_SUPER_MAGIC && system.f_type != exfat);
+bool isInOneSector(std::int64_t offset, std::int64_t length) {
+    return offset / sector == (offset + length - 1) / sector;
 }
 
-Identity identityOf(int fd, const QString& path) {
-    struct statx status {};
-    if (!hasInodeNumbers(fd) || ::statx(fd, "", AT_EMPTY_PATH, STATX_INO | STATX_BTIME, &status) != 0)
-        return {QCryptographicHash::hash(QFileInfo(path).fileName().toUtf8(), QCryptographicHash::Sha1).toHex(), 0};
-    const qint64 born = (status.stx_mask & STATX_BTIME)
-                            ? qint64(status.stx_btime.tv_sec) * 1'000'000'000 + status.stx_btime.tv_nsec
-                            : 0;
-    return {QByteArray::number(quint64(status.stx_ino), 16), born};
+QByteArray boxHeader(std::int64_t length, const char (&type)[5]) {
+    ByteWriter out;
+    out.u32(std::uint64_t(length)).code(type);
+    return {reinterpret_cast<const char*>(out.data().data()), header};
 }
 
-/// The copy goes by the file's inode number, so that it is found again when the file was renamed in its folder.
-QString undoPath(const QString& path, const Identity& identity) {
-    return QFileInfo(path).path() + "/.sonaphex-"_L1 + QLatin1StringView(identity.name) + ".undo"_L1;
-}
-
-/// Opens (@p access is O_RDONLY or O_RDWR) and takes the lock (@p kind is LOCK_EX or LOCK_SH); the file that is locked
-/// is the one that has the name. False leaves a file open that only is in use for longer than the patience.
-bool openLocked(const QString& path, int access, int kind, std::chrono::seconds patience, Descriptor& file,
-                QString& why) {
-    const auto deadline = std::chrono::steady_clock::now() + patience;
-    const QByteArray name = QFile::encodeName(path);
-    for (;;) {
-        file.reset(::open(name.constData(), access | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
-        struct stat opened {};
-        struct stat named {};
-        if (!file || ::fstat(file.get(), &opened) != 0) {
-            why = qt_error_string(errno);
-            file.reset(-1);
-            return false;
-        }
-        if (!S_ISREG(opened.st_mode)) {
-            file.reset(-1);
-            why = u"not a file"_s;
-            return false;
-        }
-        if (::flock(file.get(), kind | LOCK_NB) == 0) {
-            if (::stat(name.constData(), &named) == 0 && named.st_ino == opened.st_ino && named.st_dev == opened.st_dev)
-                return true;
-        } else if (errno != EWOULDBLOCK && errno != EINTR) {
-            return true; // a file system without locks
-        }
-        if (std::chrono::steady_clock::now() > deadline) {
-            why = u"another program is changing it"_s;
-            return false;
-        }
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
-    }
-}
-
-struct Undo {
-    Identity identity;
-    QByteArray witness; // what witnessOf() said
-    qint64 size = 0;    // of the whole file before
-    qint64 begin = 0;   // where the bytes belong
-    QByteArray before;  // what stood there, all of what the save overwrites
-    QByteArray after;   // what the save puts in its place
-    [[nodiscard]] qint64 newSize() const { return size + after.size() - before.size(); }
-};
-
-QByteArray hashOf(const QByteArray& bytes) {
-    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
-}
-
-/// A hash of what stands before @p begin and is not written to: the undo of one file never gets into another.
-QByteArray witnessOf(int fd, qint64 begin) {
-    QByteArray before(static_cast<qsizetype>(std::min(begin, longestWitness)), '\0');
-    const ssize_t got =
-        ::pread(fd, before.data(), static_cast<std::size_t>(before.size()), begin - static_cast<qint64>(before.size()));
-    before.truncate(std::max<ssize_t>(got, 0));
-    return hashOf(before);
-}
-
-QByteArray packed(const Undo& undo) {
-    QByteArray content;
-    QDataStream stream(&content, QIODevice::WriteOnly);
-    stream << undoMagic << undo.identity.name << undo.identity.born << undo.witness << undo.size << undo.begin
-           << undo.before << undo.after;
-    return content + hashOf(content);
-}
-
-bool unpack(const QByteArray& content, Undo& undo) {
-    constexpr qsizetype hashSize = 20;
-    const QByteArray body = content.chopped(std::min(hashSize, content.size()));
-    if (body.isEmpty() || hashOf(body) != content.right(hashSize))
-        return false;
-    QDataStream stream(body);
-    quint64 magic = 0;
-    stream >> magic >> undo.identity.name >> undo.identity.born >> undo.witness >> undo.size >> undo.begin >>
-        undo.before >> undo.after;
-    return stream.status() == QDataStream::Ok && magic == undoMagic && undo.begin >= 0 && undo.size >= undo.begin;
-}
-
-/// Writes a new file beside, synced, and gives it its name.
-bool writeBeside(const QString& path, const QByteArray& content) {
-    const QByteArray part = QFile::encodeName(path + ".part"_L1);
-    {
-        const Descriptor file(::open(part.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0600));
-        if (!file || !writeAllAt(file.get(), content, 0) || ::fsync(file.get()) != 0) {
-            const int error = errno;
-            ::unlink(part.constData());
-            errno = error;
-            return false;
-        }
-    }
-    if (std::rename(part.constData(), QFile::encodeName(path).constData()) != 0)
-        return false;
-    syncFolder(QFile::encodeName(QFileInfo(path).path()));
-    return true;
-}
-
-bool putBack(int fd, const Undo& undo) {
-    return writeAllAt(fd, undo.before, undo.begin) && ::ftruncate(fd, undo.size) == 0 && ::fsync(fd) == 0;
-}
-
-enum class Found { AllWritten, Torn, Foreign };
-
-/// What stands in the file: all of the save, some of it, or what somebody else has written since. A power cut leaves
-/// zeros where nothing had reached the disk.
-Found lookAt(int fd, const Undo& undo) {
-    struct stat status {};
-    if (::fstat(fd, &status) != 0)
-        return Found::Torn;
-    const PatchedFile content(fd, status.st_size);
-    const QByteArray there = content.read(undo.begin, std::max(undo.before.size(), undo.after.size()));
-    if (status.st_size == undo.newSize() && there.startsWith(undo.after))
-        return Found::AllWritten;
-    const auto [least, most] = std::minmax({undo.size, undo.newSize()});
-    bool ours = status.st_size >= least && status.st_size <= most;
-    for (qsizetype i = 0; ours && i < there.size(); ++i)
-        ours = there[i] == '\0' || (i < undo.before.size() && there[i] == undo.before[i]) ||
-               (i < undo.after.size() && there[i] == undo.after[i]);
-    return ours ? Found::Torn : Found::Foreign;
-}
-
-bool isSound(int fd) {
-    struct stat status {};
-    QString why;
-    return ::fstat(fd, &status) == 0 && readMpeg4Atoms(PatchedFile(fd, status.st_size), why).has_value();
-}
-
-enum class Restored { Yes, NothingToDo, Failed };
-
-/// The file is open and locked.
-Restored restoreLocked(int fd, const QString& file) {
-    const Identity identity = identityOf(fd, file);
-    const QString path = undoPath(file, identity);
-    QFile copy(path);
-    if (!copy.open(QIODevice::ReadOnly))
-        return copy.exists() ? Restored::Failed : Restored::NothingToDo;
-    Undo undo;
-    if (!unpack(copy.readAll(), undo)) {
-        qCWarning(log, "%s is damaged: the save that it would undo stays as it is", qUtf8Printable(path));
-        return Restored::NothingToDo;
-    }
-    if (undo.identity != identity || undo.witness != witnessOf(fd, undo.begin)) {
-        copy.remove(); // of a file that was deleted; this one only got its number or its name
-        return Restored::NothingToDo;
-    }
-    const Found found = lookAt(fd, undo);
-    if (found == Found::AllWritten || (found == Found::Foreign && isSound(fd))) {
-        if (::fsync(fd) == 0)
-            copy.remove();
-        return Restored::NothingToDo;
-    }
-    if (!putBack(fd, undo)) {
-        qCWarning(log, "cannot undo an interrupted save: %s", qUtf8Printable(qt_error_string(errno)));
-        return Restored::Failed; // the copy stays for the next time
-    }
-    qCInfo(log, "undid an interrupted save with %s", qUtf8Printable(path));
-    copy.remove();
-    return Restored::Yes;
-}
-
-bool writePiece(int out, qint64 at, int in, const PatchedFile::Piece& piece) {
-    if (piece.fileOffset < 0)
-        return writeAllAt(out, piece.bytes, at);
-    loff_t from = piece.fileOffset;
-    loff_t to = at;
-    for (qint64 left = piece.length; left > 0;) {
-        const ssize_t count = ::copy_file_range(in, &from, out, &to, static_cast<std::size_t>(left), 0);
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count <= 0)
-            break;
-        left -= count;
-    }
-    // Where the kernel does not copy by itself (between file systems, on old ones), through memory.
-    std::vector<char> buffer(std::size_t(1) << 20);
-    while (to < at + piece.length) {
-        const auto wanted = std::min<std::size_t>(buffer.size(), static_cast<std::size_t>(at + piece.length - to));
-        const ssize_t count = ::pread(in, buffer.data(), wanted, from);
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count == 0)
-            errno = EIO;
-        if (count <= 0 || !writeAllAt(out, QByteArrayView(buffer.data(), count), to))
-            return false;
-        from += count;
-        to += count;
-    }
-    return true;
-}
-
-/// A new file in a folder that has no name yet, so that a crash leaves nothing behind, or, where the file system knows
-/// no such files, a hidden name.
-class FileWithoutName {
-public:
-    explicit FileWithoutName(const QString& folder)
-        : hidden_(QFile::encodeName(folder + "/.sonaphex-"_L1 +
-                                    QString::number(QRandomGenerator::system()->generate64(), 16) + ".part"_L1)),
-          file_(::open(QFile::encodeName(folder).constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0600)) {
-        if (file_)
-            return;
-        file_.reset(::open(hidden_.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0600));
-        named_ = static_cast<bool>(file_);
-    }
-    ~FileWithoutName() {
-        if (named_)
-            ::unlink(hidden_.constData());
-    }
-    FileWithoutName(const FileWithoutName&) = delete;
-    FileWithoutName& operator=(const FileWithoutName&) = delete;
-    [[nodiscard]] int get() const { return file_.get(); }
-    explicit operator bool() const { return static_cast<bool>(file_); }
-
-    /// Gives it its name, in the place of a file that has it. @return false with errno.
-    bool rename(const QString& path) {
-        const QByteArray self = "/proc/self/fd/" + QByteArray::number(file_.get());
-        // A link cannot take another file's place, so it gets the hidden name for a moment.
-        if (!named_ && ::linkat(AT_FDCWD, self.constData(), AT_FDCWD, hidden_.constData(), AT_SYMLINK_FOLLOW) != 0)
-            return false;
-        named_ = true;
-        if (std::rename(hidden_.constData(), QFile::encodeName(path).constData()) != 0)
-            return false;
-        named_ = false;
+/// Opens and locks a file. False, with @p why, also when it is in use for longer than the patience; it is then open.
+bool openLockedFile(const QString& path, bool writable, LockKind kind, std::chrono::milliseconds patience,
+                    Descriptor& file, QString& why) {
+    const auto open = [&] {
+        OpenedFile opened = openFile(path, {.writable = writable});
+        why = opened.why;
+        errno = opened.error;
+        return std::move(opened.file);
+    };
+    switch (openLocked(path, open, kind, patience, file)) {
+    case FileLock::Result::Held:
         return true;
+    case FileLock::Result::Elsewhere:
+        why = u"another program is changing it"_s;
+        return false;
+    case FileLock::Result::Failed:
+        break;
+    }
+    if (file) // a file system without locks
+        return true;
+    if (why.isEmpty())
+        why = qt_error_string(errno);
+    return false;
+}
+
+/// Changes the index of an open file in place.
+class IndexWriter {
+public:
+    IndexWriter(int fd, const Mpeg4Layout& layout) : fd_(fd), layout_(layout), old_(layout.moov()) {}
+
+    /// Whether something can stand behind the last box.
+    [[nodiscard]] bool canAppend() const {
+        const Mpeg4Box& last = layout_.boxes.back();
+        return !last.openEnded || (last.length <= std::numeric_limits<std::uint32_t>::max() && last.header == header &&
+                                   isInOneSector(last.offset, 4));
+    }
+
+    /// @p index has a header of eight bytes. @return false with errno; the file then has the old index.
+    bool write(const QByteArray& index) {
+        if (!tidyUp())
+            return false;
+        const auto room = std::ranges::find_if(layout_.boxes, [&](const Mpeg4Box& box) {
+            const std::int64_t rest = box.length - index.size();
+            return isFree(box) && box.header == header && box.end() <= layout_.end && (rest == 0 || rest >= header);
+        });
+        if (room == layout_.boxes.end())
+            return append(index) && retire();
+        if (!fill(*room, index.mid(header), room->offset + header, index.first(4)))
+            return false;
+        return room->offset < old_.offset ? cutOff(*room, index.size()) : retire();
     }
 
 private:
-    const QByteArray hidden_;
-    Descriptor file_;
-    bool named_ = false;
-};
+    bool put(QByteArrayView bytes, std::int64_t offset) const { return writeAllAt(fd_, bytes, offset); }
+    bool sync() const { return ::fdatasync(fd_) == 0 || errno == EINVAL; }
 
-/// Makes a file of the edited content beside @p path and gives it that name when it is whole. The owner and the mode
-/// are those of the file that the content comes from.
-bool writeWhole(const QString& path, int source, const PatchedFile& content, QString& why) {
-    const QString folder = QFileInfo(path).path();
-    FileWithoutName out(folder);
-    const auto write = [&] {
-        struct stat status {};
-        if (!out || ::fstat(source, &status) != 0)
+    /// Takes away what an interrupted save left, so that no stale index ever becomes the first one.
+    bool tidyUp() {
+        if (FileBytes(fd_).size() > layout_.end && ::ftruncate(fd_, layout_.end) != 0)
             return false;
-        // Only root may give files away; for others the file is theirs anyway.
-        if (::fchown(out.get(), status.st_uid, status.st_gid) != 0 && errno != EPERM)
-            return false;
-        if (::fchmod(out.get(), status.st_mode & 07777) != 0)
-            return false;
-        qint64 at = 0;
-        for (const PatchedFile::Piece& piece : content.pieces()) {
-            if (!writePiece(out.get(), at, source, piece))
-                return false;
-            at += piece.length;
+        bool changed = false;
+        for (const Mpeg4Box& box : layout_.boxes) {
+            if (box.type == old_.type && box.offset > old_.offset && box.end() <= layout_.end) {
+                changed = true;
+                if (!put("free", box.offset + 4))
+                    return false;
+            }
         }
-        return ::fsync(out.get()) == 0 && out.rename(path);
-    };
-    if (!write()) {
-        why = qt_error_string(errno);
+        if (const Mpeg4Box& last = layout_.boxes.back(); last.openEnded) {
+            changed = true;
+            if (!put(boxHeader(last.length, "free").first(4), last.offset))
+                return false;
+        }
+        return !changed || sync();
+    }
+
+    bool append(const QByteArray& index) {
+        QByteArray bytes = boxHeader(index.size(), "free") + index.mid(header);
+        Mpeg4Box room{.offset = layout_.end, .length = index.size()};
+        if (!isInOneSector(room.offset, header)) {
+            room.offset += 2 * header;
+            bytes.prepend(boxHeader(2 * header, "free") + QByteArray(header, '\0'));
+        }
+        // The file grows first, in one step: some readers do not take a file that ends within the header of a box.
+        if (::ftruncate(fd_, room.end()) == 0 && fill(room, bytes, layout_.end, index.first(4)))
+            return true;
+        const int error = errno;
+        (void)::ftruncate(fd_, layout_.end);
+        errno = error;
         return false;
     }
-    syncFolder(QFile::encodeName(folder));
-    return true;
+
+    /// Writes @p content to an empty box and makes this an index of @p size. What is left of the room is a free box
+    /// inside of the index at first, and a box of its own when the index gets its true size.
+    bool fill(const Mpeg4Box& room, QByteArray content, std::int64_t at, const QByteArray& size) {
+        const std::int64_t rest = room.end() - (at + content.size());
+        if (rest > 0)
+            content += boxHeader(rest, "free");
+        if (!put(content, at) || !sync() || !put("moov", room.offset + 4))
+            return false;
+        isSplit_ = rest > 0 && isInOneSector(room.offset, 4);
+        return (!isSplit_ || put(size, room.offset)) && sync();
+    }
+
+    /// The new index stands in front of the old one and counts already.
+    bool cutOff(const Mpeg4Box& room, std::int64_t length) {
+        std::int64_t end = room.offset + (isSplit_ ? length : room.length);
+        for (const Mpeg4Box& box : layout_.boxes)
+            if (&box != &old_ && !isFree(box))
+                end = std::max(end, box.end());
+        return end < old_.end() ? ::ftruncate(fd_, end) == 0 : put("free", old_.offset + 4);
+    }
+
+    /// The new index stands behind the old one and counts when the old one is gone: as part of the empty box in front
+    /// of it, so that the next save finds one large room, or as an empty box.
+    bool retire() {
+        const Mpeg4Box* const before = layout_.index > 0 ? &layout_.boxes[layout_.index - 1] : nullptr;
+        const bool joins = before && isFree(*before) && before->header == header && isInOneSector(before->offset, 4) &&
+                           before->length + old_.length <= std::numeric_limits<std::uint32_t>::max();
+        return (joins ? put(boxHeader(before->length + old_.length, "free").first(4), before->offset)
+                      : put("free", old_.offset + 4)) &&
+               sync();
+    }
+
+    const int fd_;
+    const Mpeg4Layout& layout_;
+    const Mpeg4Box& old_;
+    bool isSplit_ = false;
+};
+
+/// Writes the file with another index in the old one's place, beside @p path first.
+bool makeAnew(const QString& path, int source, const Mpeg4Layout& layout, QByteArray index, QString& why) {
+    const Mpeg4Box& old = layout.moov();
+    const std::int64_t rest = std::max<std::int64_t>(0, layout.end - old.end());
+    const std::int64_t delta = index.size() - old.length;
+    if (rest > 0 && delta != 0) {
+        if (!moveChunkOffsets(index, old.end(), delta)) {
+            why = u"its index cannot hold more"_s;
+            return false;
+        }
+    }
+    ReplacementFile out(path);
+    int error = out.openLike(source);
+    if (error == 0 &&
+        !(copyBytes(source, 0, old.offset, out.descriptor(), 0) && writeAllAt(out.descriptor(), index, old.offset) &&
+          copyBytes(source, old.end(), rest, out.descriptor(), old.offset + index.size())))
+        error = errno;
+    for (std::size_t i = layout.index + 1; error == 0 && delta != 0 && i < layout.boxes.size(); ++i)
+        error = moveFragment(out.descriptor(), layout.boxes[i], old.end(), delta);
+    if (error == 0)
+        error = out.commit();
+    if (error != 0)
+        why = qt_error_string(error);
+    return error == 0;
+}
+
+/// The layout of an open file and its index after an edit, without a change when they are the same.
+struct Edited {
+    Mpeg4Layout layout;
+    QByteArray index;
+    bool isChanged = true;
+};
+
+std::optional<Edited> editIndex(int fd, const IndexEdit& edit, QString& why) {
+    const FileBytes file(fd);
+    auto layout = readLayout(file, why);
+    if (!layout)
+        return std::nullopt;
+    if (!layout->complete)
+        why = u"the file is cut off"_s;
+    else if (layout->moov().length > largestIndex)
+        why = u"its index is too large"_s;
+    if (!why.isEmpty())
+        return std::nullopt;
+    QByteArray index(qsizetype(layout->moov().length), Qt::Uninitialized);
+    if (!file.readAll(layout->moov().offset,
+                      {reinterpret_cast<std::uint8_t*>(index.data()), std::size_t(index.size())})) {
+        why = u"it cannot be read"_s;
+        return std::nullopt;
+    }
+    auto edited = edit(index, why);
+    if (!edited)
+        return std::nullopt;
+    const bool isChanged = *edited != index;
+    return Edited{std::move(*layout), std::move(*edited), isChanged};
 }
 
 } // namespace
 
-bool saveInPlace(const QString& givenPath, const std::function<bool(PatchedFile&, QString&)>& edit, QString& why) {
-    // Behind a link the file itself is changed, and the copy stands beside it.
+bool saveInPlace(const QString& givenPath, const IndexEdit& edit, QString& why) {
+    // Behind a link the file itself is changed.
     const QString real = QFileInfo(givenPath).canonicalFilePath();
     const QString path = real.isEmpty() ? givenPath : real;
     Descriptor file;
-    if (!openLocked(path, O_RDWR, LOCK_EX, lockPatience, file, why))
+    if (!openLockedFile(path, true, LockKind::Exclusive, savePatience, file, why))
         return false;
-    if (restoreLocked(file.get(), path) == Restored::Failed) {
-        // Another save would write its own copy over the one that is still needed.
-        why = u"an interrupted save cannot be undone"_s;
+    const auto edited = editIndex(file.get(), edit, why);
+    if (!edited)
         return false;
-    }
-
-    struct stat status {};
-    if (::fstat(file.get(), &status) != 0) {
-        why = qt_error_string(errno);
-        return false;
-    }
-    PatchedFile content(file.get(), status.st_size);
-    if (!edit(content, why))
-        return false;
-    const PatchedFile::Change change = content.change();
-    const QByteArray bytes = change.newEnd - change.begin <= mostInPlace
-                                 ? content.read(change.begin, change.newEnd - change.begin)
-                                 : QByteArray();
-    if (content.failed()) {
-        why = u"it cannot be read"_s;
-        return false;
-    }
-    if (change.newEnd == change.begin && change.oldEnd == change.begin)
+    if (!edited->isChanged)
         return true;
-    if (std::max(change.newEnd, change.oldEnd) - change.begin > mostInPlace)
-        return writeWhole(path, file.get(), content, why);
-
-    PatchedFile before(file.get(), status.st_size);
-    const Undo undo{.identity = identityOf(file.get(), path),
-                    .witness = witnessOf(file.get(), change.begin),
-                    .size = status.st_size,
-                    .begin = change.begin,
-                    .before = before.read(change.begin, change.oldEnd - change.begin),
-                    .after = bytes};
-    const QString undoFile = undoPath(path, undo.identity);
-    if (before.failed() || !writeBeside(undoFile, packed(undo))) {
-        why = qt_error_string(errno);
-        return false;
-    }
-    const bool written = writeAllAt(file.get(), undo.after, undo.begin) &&
-                         (undo.newSize() >= undo.size || ::ftruncate(file.get(), undo.newSize()) == 0) &&
-                         ::fsync(file.get()) == 0;
-    if (!written) {
-        why = qt_error_string(errno);
-        if (!putBack(file.get(), undo))
-            return false; // the copy stays: the next one who opens the file puts it back
-    }
-    ::unlink(QFile::encodeName(undoFile).constData());
-    syncFolder(QFile::encodeName(QFileInfo(path).path()));
-    return written;
+    IndexWriter writer(file.get(), edited->layout);
+    if (edited->layout.fragmented || !writer.canAppend())
+        return makeAnew(path, file.get(), edited->layout, edited->index, why);
+    if (writer.write(edited->index))
+        return true;
+    why = qt_error_string(errno);
+    return false;
 }
 
-bool saveCopy(const QString& source, const QString& destination,
-              const std::function<bool(PatchedFile&, QString&)>& edit, QString& why) {
-    restoreInterruptedSave(source);
-    // Locked although it is only read: a save in between would move what is still to be copied.
+bool saveCopy(const QString& source, const QString& destination, const IndexEdit& edit, QString& why) {
+    // Locked although it is only read: a save of another process would change it meanwhile.
     Descriptor file;
-    struct stat status {};
-    if (!openLocked(source, O_RDONLY, LOCK_EX, lockPatience, file, why))
+    if (!openLockedFile(source, false, LockKind::Exclusive, savePatience, file, why))
         return false;
-    if (::fstat(file.get(), &status) != 0) {
-        why = qt_error_string(errno);
+    const auto edited = editIndex(file.get(), edit, why);
+    if (!edited)
         return false;
-    }
-    PatchedFile content(file.get(), status.st_size);
-    if (!edit(content, why))
-        return false;
-    if (content.failed()) {
-        why = u"it cannot be read"_s;
-        return false;
-    }
-    // A link stays one: what it points to is replaced.
-    const QString real = QFileInfo(destination).isSymLink() ? QFileInfo(destination).canonicalFilePath() : QString();
     if (QFileInfo::exists(destination) && !QFileInfo(destination).isFile()) {
         why = u"something stands there that is no file"_s; // a device, a pipe, a folder
         return false;
     }
-    return writeWhole(real.isEmpty() ? destination : real, file.get(), content, why);
+    return makeAnew(destination, file.get(), edited->layout, edited->index, why);
 }
 
 bool openForReading(const QString& path, Descriptor& file, QString& why) {
-    restoreInterruptedSave(path);
-    // Who holds the file for longer may be no save of ours: better a look at it than none.
-    return openLocked(path, O_RDONLY, LOCK_SH, readerPatience, file, why) || file;
-}
-
-bool restoreInterruptedSave(const QString& givenPath) {
-    const QString path = QFileInfo(givenPath).canonicalFilePath();
-    if (path.isEmpty())
-        return false;
-    {
-        // A name is not opened for writing just to see that nothing is to be done.
-        const Descriptor found(::open(QFile::encodeName(path).constData(), O_PATH | O_CLOEXEC));
-        struct stat status {};
-        if (!found || ::fstat(found.get(), &status) != 0 || !S_ISREG(status.st_mode) ||
-            !QFileInfo::exists(undoPath(path, identityOf(found.get(), path))))
-            return false;
-    }
-    Descriptor file;
-    QString why;
-    return openLocked(path, O_RDWR, LOCK_EX, readerPatience, file, why) &&
-           restoreLocked(file.get(), path) == Restored::Yes;
+    // A program that holds the file for longer may be another one: reading beside it is better than not at all.
+    return openLockedFile(path, false, LockKind::Shared, readPatience, file, why) || file;
 }
 
 } // namespace Platform::Media

@@ -3,34 +3,31 @@
 #pragma once
 
 #include "Platform/Foundation/linux/Descriptor.h"
-#include "Platform/Media/linux/tags/PatchedFile.h"
 
 #include <functional>
+#include <optional>
 
+#include <QByteArray>
 #include <QString>
 
 namespace Platform::Media {
 
-/// Edits a file so that a crash at any moment costs nothing. What the save overwrites is first copied into a hidden
-/// file beside it and synced; restoreInterruptedSave() puts it back. When more than 32 MiB would have to move
-/// (the index stands in front of the audio), the whole file is made anew beside it and renamed.
+/// Makes a new index ("moov", header included) from the old one; nothing, with @p why, when it cannot.
+using IndexEdit = std::function<std::optional<QByteArray>(const QByteArray& index, QString& why)>;
+
+/// Gives an MPEG-4 file a new index, so that it holds a whole one at every moment: whatever interrupts the save, the
+/// file plays, with the old index or with the new one. The audio is neither moved nor written. Fragmented files are
+/// made anew beside and replaced.
 ///
-/// @p edit changes the content in memory and answers whether it is to be written. Blocks; other processes that save
-/// this way wait. @return false, with the reason in @p why, and the file as it was.
-[[nodiscard]] bool saveInPlace(const QString& path, const std::function<bool(PatchedFile&, QString& why)>& edit,
-                               QString& why);
+/// Blocks; other processes that save this way wait. @return false, with the reason in @p why, and the file as it was.
+[[nodiscard]] bool saveInPlace(const QString& path, const IndexEdit& edit, QString& why);
 
-/// Writes the edited content of @p source to @p destination, beside it first and renamed when it is whole and synced;
-/// the source is only read. @return false, with the reason in @p why, and nothing new at the destination.
-[[nodiscard]] bool saveCopy(const QString& source, const QString& destination,
-                            const std::function<bool(PatchedFile&, QString& why)>& edit, QString& why);
+/// Writes a copy of @p source with a new index to @p destination, which appears whole or not at all. @return false,
+/// with the reason in @p why, and nothing new at the destination.
+[[nodiscard]] bool saveCopy(const QString& source, const QString& destination, const IndexEdit& edit, QString& why);
 
-/// Opens a file whose tags are to be read, so that no save goes on meanwhile, and undoes one that a crash interrupted.
-/// @return false, with the reason in @p why, when it is no file that can be opened.
+/// Opens a file whose tags are to be read. Waits up to two seconds for a save of another process, which reuses the
+/// place of old indexes. @return false, with the reason in @p why, when it is no file that can be opened.
 [[nodiscard]] bool openForReading(const QString& path, Descriptor& file, QString& why);
-
-/// Undoes a save that a crash interrupted; a look at one name when there was none. @return whether something was put
-/// back.
-bool restoreInterruptedSave(const QString& path);
 
 } // namespace Platform::Media

@@ -2,157 +2,110 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/linux/tags/Mpeg4TagList.h"
 
-#include "Platform/Media/linux/tags/PatchedFile.h"
+#include "Platform/Media/linux/mpeg4/ByteWriter.h"
 
-#include <QtEndian>
-
-#include <algorithm>
-#include <limits>
+#include <iterator>
 
 using namespace Qt::StringLiterals;
 
 namespace Platform::Media {
 namespace {
 
-// Room behind a list that had to grow, so that the next texts fit without anything else being moved.
-constexpr qint64 room = 1024;
-// What a list that shrank may leave empty behind it; a large cover that went is not kept as zeros.
-constexpr qint64 mostEmpty = qint64(1) << 20;
-constexpr qint64 headerSize = 8;
-constexpr qint64 largestShortSize = std::numeric_limits<quint32>::max();
+constexpr std::int64_t mostTags = std::int64_t(80) << 20;
+constexpr char path[4][5] = {"moov", "udta", "meta", "ilst"};
 
-QByteArray bigEndian(quint32 number) {
-    QByteArray bytes(4, '\0');
-    qToBigEndian(number, bytes.data());
-    return bytes;
+std::span<const std::uint8_t> span(QByteArrayView bytes) {
+    return {reinterpret_cast<const std::uint8_t*>(bytes.data()), std::size_t(bytes.size())};
 }
 
-QByteArray box(const char* name, const QByteArray& body) {
-    return bigEndian(static_cast<quint32>(headerSize + body.size())) + QByteArray(name, 4) + body;
+QByteArray box(const char (&type)[5], QByteArrayView content) {
+    ByteWriter out;
+    out.box(type, [&] { out.bytes(span(content)); });
+    return {reinterpret_cast<const char*>(out.data().data()), qsizetype(out.size())};
 }
 
-QByteArray emptyBox(qint64 length) {
-    return box("free", QByteArray(length - headerSize, '\0'));
-}
-
-/// What must stand around the boxes of a tag list when only the first @p depth of "moov", "udta", "meta" are there.
+/// @p boxes inside those boxes of the path that are missing when only the first @p depth are there.
 QByteArray surrounded(QByteArray boxes, std::size_t depth) {
     const QByteArray version(4, '\0');
     const QByteArray handler = version + QByteArray(4, '\0') + "mdirappl" + QByteArray(9, '\0');
     if (depth < 3)
         boxes = box("meta", version + box("hdlr", handler) + boxes);
-    if (depth < 2)
-        boxes = box("udta", boxes);
-    return boxes;
+    return depth < 2 ? box("udta", boxes) : boxes;
 }
 
-/// Writes that a box is longer by @p more bytes. False: its size has no room for that.
-bool grow(PatchedFile& content, const Mpeg4Atom& atom, qint64 more) {
-    constexpr quint32 sizeIsBehindTheName = 1;
-    if (content.read(atom.offset, 4) == bigEndian(sizeIsBehindTheName)) {
-        QByteArray size(8, '\0');
-        qToBigEndian(static_cast<quint64>(atom.length + more), size.data());
-        content.overwrite(atom.offset + headerSize, size);
-        return true;
-    }
-    // Also in the place of a zero, which stands for "up to the end".
-    if (atom.length + more > largestShortSize)
-        return false;
-    content.overwrite(atom.offset, bigEndian(static_cast<quint32>(atom.length + more)));
-    return true;
-}
-
-/// Adds @p delta to those of @p count numbers that name a place from @p from on. False: one of them has no room for it.
-template <typename Number>
-bool moveNumbers(PatchedFile& content, qint64 at, qint64 count, qint64 from, qint64 delta) {
-    constexpr auto size = static_cast<qint64>(sizeof(Number));
-    QByteArray numbers = content.read(at, count * size);
-    bool changed = false;
-    for (qsizetype i = 0; i + size <= numbers.size(); i += size) {
-        const auto place = qFromBigEndian<Number>(numbers.constData() + i);
-        if (place < static_cast<quint64>(from))
+/// The boxes "moov", "udta", "meta", "ilst" inside one another, as far as they are there.
+std::vector<const Mpeg4Box*> pathToTags(const Mpeg4Box& index) {
+    std::vector<const Mpeg4Box*> longest{&index};
+    for (const Mpeg4Box& udta : index.children) {
+        if (udta.type != fourCharCode("udta"))
             continue;
-        const auto moved = static_cast<Number>(place + static_cast<Number>(delta));
-        if (delta > 0 && moved < place)
-            return false;
-        qToBigEndian(moved, numbers.data() + i);
-        changed = true;
+        if (longest.size() == 1)
+            longest.push_back(&udta);
+        for (const Mpeg4Box& meta : udta.children) {
+            // With a table of keys its items are numbered: another kind of list, which most players do not show.
+            if (meta.type != fourCharCode("meta") || meta.child(fourCharCode("keys")))
+                continue;
+            if (const Mpeg4Box* const list = meta.child(fourCharCode("ilst")))
+                return {&index, &udta, &meta, list};
+            if (longest.size() == 2)
+                longest = {&index, &udta, &meta};
+        }
     }
-    if (changed)
-        content.overwrite(at, numbers);
-    return true;
-}
-
-/// Corrects where the file says that its audio is, before what stands from @p from on moves by @p delta bytes.
-bool moveOffsets(PatchedFile& content, const std::vector<Mpeg4Atom>& atoms, qint64 from, qint64 delta) {
-    for (const Mpeg4Atom& atom : atoms) {
-        const auto count = [&] { return qFromBigEndian<quint32>(content.read(atom.content + 4, 4).constData()); };
-        bool good = true;
-        if (atom.name == "stco")
-            good = moveNumbers<quint32>(content, atom.content + 8, count(), from, delta);
-        else if (atom.name == "co64")
-            good = moveNumbers<quint64>(content, atom.content + 8, count(), from, delta);
-        else if (atom.name == "tfhd" && (content.read(atom.content, 4).at(3) & 1)) // it names the base of its runs
-            good = moveNumbers<quint64>(content, atom.content + 8, 1, from, delta);
-        if (!good || !moveOffsets(content, atom.children, from, delta))
-            return false;
-    }
-    return true;
+    return longest;
 }
 
 } // namespace
 
-std::vector<TagItem> tagItems(const PatchedFile& content, const Mpeg4Atoms& atoms) {
+std::vector<TagItem> tagItems(const ByteSource& source, const Mpeg4Box& index) {
     std::vector<TagItem> items;
-    if (const Mpeg4Atom* list = atoms.tagList())
-        for (const Mpeg4Atom& item : list->children)
-            items.push_back({item.name, content.read(item.offset, item.length)});
+    const auto boxes = pathToTags(index);
+    std::int64_t left = mostTags;
+    if (boxes.size() < std::size(path))
+        return items;
+    for (const Mpeg4Box& item : boxes.back()->children) {
+        if (item.length > left)
+            continue;
+        QByteArray bytes(qsizetype(item.length), Qt::Uninitialized);
+        if (!source.readAll(item.offset, {reinterpret_cast<std::uint8_t*>(bytes.data()), std::size_t(bytes.size())}))
+            continue;
+        left -= item.length;
+        items.push_back({item.type, bytes});
+    }
     return items;
 }
 
-bool replaceTagItems(PatchedFile& content, const Mpeg4Atoms& atoms, const QByteArray& items, QString& why) {
-    std::vector<const Mpeg4Atom*> parents = atoms.tagPath();
-    const std::size_t depth = parents.size();
-    const QByteArray list = box("ilst", items);
-    qint64 at = 0;
-    qint64 oldLength = 0; // the list and what is empty behind it
-    if (depth == 4) {
-        at = parents.back()->offset;
-        oldLength = parents.back()->length;
-        parents.pop_back();
-        for (const Mpeg4Atom& next : parents.back()->children)
-            if (next.name == "free" && next.offset == at + oldLength)
-                oldLength += next.length;
-    } else {
-        const Mpeg4Atom& inner = *parents.back();
-        at = inner.children.empty() ? inner.content : inner.children.back().offset + inner.children.back().length;
-    }
+std::optional<QByteArray> withTagItems(const QByteArray& index, const QByteArray& items, QString& why) {
+    const MemoryBytes bytes(index);
+    auto moov = readBoxHeader(bytes, 0, index.size());
+    if (!moov || !readBoxTree(bytes, *moov, why))
+        return std::nullopt;
+    const auto boxes = pathToTags(*moov);
+    const std::size_t depth = boxes.size();
 
-    QByteArray boxes = list;
-    if (const qint64 rest = oldLength - list.size(); rest >= headerSize && rest <= mostEmpty)
-        boxes += emptyBox(rest);
-    else if (rest != 0)
-        boxes += emptyBox(headerSize + room);
-    boxes = surrounded(boxes, depth);
-
-    if (const qint64 delta = boxes.size() - oldLength; delta != 0) {
-        const Mpeg4Atom& moov = *parents.front();
-        const qint64 behind = moov.offset + moov.length;
-        bool good = moveOffsets(content, atoms.top, behind, delta);
-        for (const Mpeg4Atom* parent : parents)
-            good = good && grow(content, *parent, delta);
-        if (!good) {
-            why = u"its index cannot hold more"_s;
-            return false;
+    // From the inside out: each box around the list is written anew around its changed child.
+    QByteArray changed = surrounded(box("ilst", items), depth);
+    const Mpeg4Box* replaced = depth == std::size(path) ? boxes.back() : nullptr;
+    for (std::size_t i = std::min(depth, std::size(path) - 1); i-- > 0;) {
+        const Mpeg4Box& around = *boxes[i];
+        const auto& children = around.children;
+        std::int64_t from = children.empty() ? around.inner : children.back().end();
+        std::int64_t to = from;
+        if (replaced) {
+            from = replaced->offset;
+            to = replaced->end();
+            // Other programs leave room behind the list; here nothing needs it.
+            for (const Mpeg4Box& next : children)
+                if (next.offset == to && next.type == fourCharCode("free") && i + 2 == std::size(path))
+                    to = next.end();
+        } else if (!children.empty() && children.back().openEnded) {
+            why = u"its last box has no size"_s;
+            return std::nullopt;
         }
-        // This table of where fragments begin is a mere help for seeking: players do without.
-        for (const Mpeg4Atom& atom : atoms.top)
-            if (atom.name == "mfra" && atom.offset >= behind)
-                content.overwrite(atom.offset + 4, "free");
+        const QByteArray before = index.mid(around.content(), from - around.content());
+        changed = box(path[i], before + changed + index.mid(to, around.end() - to));
+        replaced = &around;
     }
-    if (content.read(at, oldLength) != boxes)
-        content.replace(at, oldLength, boxes);
-    return true;
+    return changed;
 }
 
 QByteArray fileOfTags(const QByteArray& items) {

@@ -2,24 +2,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Platform/Media/linux/mpeg4/Mpeg4Atoms.h"
+#include "Platform/Media/linux/mpeg4/Mpeg4Boxes.h"
+
+#include <QByteArray>
 
 namespace Platform::Media {
 
 /// One item of a tag list as it stands in the file.
 struct TagItem {
-    QByteArray name;
+    std::uint32_t type = 0;
     QByteArray bytes; ///< header included
 };
 
-[[nodiscard]] std::vector<TagItem> tagItems(const PatchedFile& content, const Mpeg4Atoms& atoms);
+/// The items of the tag list in @p index, a "moov" whose tree was read. Items beyond 80 MiB in all are left out: a
+/// cover of that size is none.
+[[nodiscard]] std::vector<TagItem> tagItems(const ByteSource& source, const Mpeg4Box& index);
 
-/// Puts @p items, whole ones one behind the other, in the place of those of the tag list, which is made where it is
-/// missing: behind the tables of the audio, so that these are not written anew whenever the tags grow. Where audio
-/// moves for it, every table that says where it is follows. @return false, with the reason in @p why, when the result
-/// would be no sound file; the content is then of no use.
-[[nodiscard]] bool replaceTagItems(PatchedFile& content, const Mpeg4Atoms& atoms, const QByteArray& items,
-                                   QString& why);
+/// @p index, a whole "moov", with @p items, whole ones one after the other, as its tag list. The list is made where it
+/// is missing, behind the tables of the audio. Nothing, with @p why, when the index is damaged.
+[[nodiscard]] std::optional<QByteArray> withTagItems(const QByteArray& index, const QByteArray& items, QString& why);
 
 /// A file of nothing but tags.
 [[nodiscard]] QByteArray fileOfTags(const QByteArray& items);

@@ -2,20 +2,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Platform/Media/linux/tags/PatchedFile.h"
+#include "Platform/Media/linux/tags/InPlaceSave.h"
 
 #include <taglib/mp4tag.h>
 
-#include <functional>
 #include <vector>
 
 namespace Platform::Media {
 
-inline constexpr const char* artworkItem = "covr";
+inline constexpr const char (&artworkItem)[5] = "covr";
 
-/// Puts the tags that @p edit sets in the place of those that are named in @p changed; every other item stays to the
+/// The edit that replaces the items named in @p changed with those that @p edit sets; every other item stays to the
 /// byte.
-[[nodiscard]] bool editTags(PatchedFile& content, const std::vector<const char*>& changed,
-                            const std::function<void(TagLib::MP4::Tag&)>& edit, QString& why);
+[[nodiscard]] IndexEdit editOfTags(const std::vector<const char*>& changed,
+                                   const std::function<void(TagLib::MP4::Tag&)>& edit);
 
 } // namespace Platform::Media
