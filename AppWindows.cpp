@@ -5,6 +5,7 @@
 #include "Platform/Desktop/SleepInhibitor.h"
 #include "Platform/Foundation/Services.h"
 #include "Source/CDBurn/CDBurnWndController.h"
+#include "Source/Control/EditNote.h"
 #include "Source/HotKey/HotKeyRegister.h"
 #include "Source/HotKey/KeybordShortcutTextView.h"
 #include "Source/Model/MediaLibrary.h"
@@ -14,12 +15,16 @@
 #include "Source/View/QtPanels.h"
 #include "Source/View/Theme.h"
 #include "Source/WndController/ComputerAudioDevice.h"
+#include "Source/WndController/EditWindows.h"
+#include "Source/WndController/LibraryPresenter.h"
 #include "Source/WndController/MainMenus.h"
 #include "Source/WndController/MainWndController.h"
 #include "Source/WndController/PreferenceWndController.h"
 #include "Source/WndController/StatusBarItem.h"
 
 #include <QApplication>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace {
 
@@ -54,7 +59,9 @@ public:
                                                                          AppDelegate& application) override {
         record_ = std::make_unique<RecordStateController>();
         record_->awakeFromNib();
+        EditNote::recover(); // before the window shows what the library says
         auto window = std::make_unique<MainWndController>(*record_, MediaLibrary::shareLibrary());
+        new EditWindows(*window, window.get());
         if (Platform::services().discRecording) {
             window->commands().setOpener(WindowCommands::Window::CDBurn,
                                          [main = window.get()](const QVariantList& entries) {
@@ -111,8 +118,14 @@ public:
         static_cast<PreferenceWndController&>(preferences).insertTheSystemAudioRecordDevice();
     }
 
-    Platform::RunningProgram::Reply answer(AppDelegate::WindowController& /*mainWindow*/,
+    Platform::RunningProgram::Reply answer(AppDelegate::WindowController& mainWindow,
                                            const QByteArray& request) override {
+        const LibraryPresenter& library = static_cast<MainWndController&>(mainWindow).library();
+        if (request == "playing") // {"path": P}, of the file that the window plays now, if any
+            return "ok " +
+                   QJsonDocument(QJsonObject{{QStringLiteral("path"),
+                                              library.isPlaySoundPlaying() ? library.playingPath() : QString()}})
+                       .toJson(QJsonDocument::Compact);
         return ControlRequests(*record_).answer(request);
     }
 

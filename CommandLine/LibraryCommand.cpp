@@ -3,6 +3,7 @@
 #include "CommandLine/LibraryCommand.h"
 
 #include "CommandLine/Arguments.h"
+#include "Source/Control/EditNote.h"
 #include "Source/Control/ToolControl.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
@@ -64,6 +65,7 @@ void printCollection(const QString& title, const QVariantList& entries) {
 }
 
 int list(bool json) {
+    EditNote::recover();
     const MediaLibrary& library = MediaLibrary::shareLibrary();
     if (json) {
         const QJsonObject document{{u"records"_s, asJson(library.records())},

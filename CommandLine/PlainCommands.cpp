@@ -9,6 +9,7 @@
 #include "CommandLine/RecordCommand.h"
 #include "CommandLine/RingtoneCommand.h"
 #include "CommandLine/TagCommand.h"
+#include "CommandLine/TrimCommand.h"
 
 namespace CommandLine {
 
@@ -20,8 +21,9 @@ Commands byName(std::initializer_list<const Command*> commands) {
 }
 
 const Commands& plainCommands() {
-    static const Commands plain = byName({&controlCommand, &convertCommand, &devicesCommand, &driverCommand,
-                                          &libraryCommand, &recordCommand, &ringtoneCommand, &tagCommand});
+    static const Commands plain =
+        byName({&controlCommand, &convertCommand, &devicesCommand, &driverCommand, &libraryCommand, &recordCommand,
+                &ringtoneCommand, &tagCommand, &trimCommand});
     return plain;
 }
 

@@ -3,12 +3,15 @@
 #include "CommandLine/TagCommand.h"
 
 #include "CommandLine/Arguments.h"
+#include "CommandLine/LibraryChange.h"
 #include "Platform/Foundation/Bundle.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/Media/BasicID3Change.h"
+#include "Source/Control/EditNote.h"
+#include "Source/Control/RecordingRename.h"
 #include "Source/Model/AudioRecordEntry.h"
-#include "Source/ProcessRequests/MediaLibraryRequests.h"
 
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -59,19 +62,6 @@ void show(const QString& path, const BasicID3Change::Tags& tags, bool json) {
           (tags.artwork.isEmpty() ? u"none"_s : u"%1, %2 bytes"_s.arg(kindOf(tags.artwork)).arg(tags.artwork.size())));
 }
 
-/// The file may be one of the library, which shows what it was told. @return what went wrong; empty when nothing did
-QString tellLibrary(const QString& path, const Dictionary& changed) {
-    std::optional<bool> stored;
-    if (const auto answer = askWindow(MediaLibraryRequests::retagRequest(path, changed))) {
-        stored = MediaLibraryRequests::retaggingOf(*answer);
-        if (!stored)
-            return u"the tags are written, but the running program does not understand: it is of another version"_s;
-    } else {
-        stored = MediaLibraryRequests::retag(path, changed);
-    }
-    return *stored ? QString() : u"the tags are written, but the library could not be saved"_s;
-}
-
 /// Pictures are looked into by a program of its own: this one needs none of the desktop's libraries.
 /// @return what went wrong; empty when nothing did
 QString setArtwork(const QString& path, const QString& image) {
@@ -92,7 +82,7 @@ int run(const QStringList& given) {
         return wrongUsage(tagCommand, arguments.problem());
     if (arguments.positional().size() != 1)
         return wrongUsage(tagCommand, u"tag takes one file"_s);
-    const QString path = arguments.positional().first();
+    QString path = arguments.positional().first();
     bool isYear = true;
     const QString yearText = arguments.value(u"year"_s);
     const int year = yearText.isEmpty() ? 0 : yearText.toInt(&isYear);
@@ -124,37 +114,62 @@ int run(const QStringList& given) {
     if (hasArtwork)
         if (const QString problem = setArtwork(path, arguments.value(u"artwork"_s)); !problem.isEmpty())
             return fail(problem);
-    if (!changed.isEmpty()) {
-        if (const auto problem = BasicID3Change::writeTexts(path, texts); !problem.isEmpty())
-            return fail(problem);
-        if (const QString problem = tellLibrary(path, changed); !problem.isEmpty())
-            return fail(problem);
+    const bool rename = arguments.isSet(u"rename"_s);
+    QString kept; // why the file keeps its name
+    if (!changed.isEmpty() || rename) {
+        path = QFileInfo(path).absoluteFilePath();
+        EditNote::recover();
+        const QString title = texts.title.value_or(tags->title);
+        auto note = EditNote::begin(path, rename ? RecordingRename::pathForTitle(path, title) : path, {}, why);
+        if (!note)
+            return fail(why);
+        if (!changed.isEmpty())
+            if (const auto problem = BasicID3Change::writeTexts(path, texts); !problem.isEmpty()) {
+                note->end();
+                return fail(problem);
+            }
+        const QString before = path;
+        if (rename) {
+            const auto renamed = RecordingRename::rename(path, title);
+            path = renamed.path;
+            kept = renamed.notice;
+            if (path != before)
+                changed.insert(AudioRecordEntry::SavePath, path);
+        }
+        if (!changed.isEmpty())
+            if (const QString problem = tellLibrary(before, changed, u"the file is changed"_s); !problem.isEmpty())
+                return fail(problem);
+        note->end();
     }
 
     const bool json = arguments.isSet(u"json"_s);
-    if ((!changed.isEmpty() || hasArtwork) && !json)
-        return Done;
-    tags = BasicID3Change::read(path, &why);
-    if (!tags)
-        return fail(why);
-    show(path, *tags, json);
-    return Done;
+    const bool quiet = (!changed.isEmpty() || hasArtwork || rename) && !json;
+    if (!quiet) {
+        tags = BasicID3Change::read(path, &why);
+        if (!tags)
+            return fail(why);
+        show(path, *tags, json);
+    }
+    return kept.isEmpty() ? Done : fail(kept);
 }
 
 } // namespace
 
-const Command tagCommand{"tag",
-                         "FILE",
-                         "print or write the tags and the cover of an MPEG-4 audio file",
-                         {{"title", "T", "Write this title. An empty text removes the tag; so it does for all texts."},
-                          {"artist", "A", "Write this artist."},
-                          {"album", "B", "Write this album."},
-                          {"year", "Y", "Write this year; 0 removes the tag."},
-                          {"genre", "G", "Write this genre."},
-                          {"artwork", "IMAGE", "Take the cover from this picture file."},
-                          kJsonOption},
-                         {{"tag a.m4a", "Print the tags."},
-                          {"tag a.m4a --title \"Morning\" --artwork cover.jpg", "Write a title and a cover."}},
-                         run};
+const Command tagCommand{
+    "tag",
+    "FILE",
+    "print or write the tags and the cover of an MPEG-4 audio file",
+    {{"title", "T", "Write this title. An empty text removes the tag; so it does for all texts."},
+     {"artist", "A", "Write this artist."},
+     {"album", "B", "Write this album."},
+     {"year", "Y", "Write this year; 0 removes the tag."},
+     {"genre", "G", "Write this genre."},
+     {"artwork", "IMAGE", "Take the cover from this picture file."},
+     {"rename", "", "Name the file after its title. A name that is taken or impossible is not given."},
+     kJsonOption},
+    {{"tag a.m4a", "Print the tags."},
+     {"tag a.m4a --title \"Morning\" --artwork cover.jpg", "Write a title and a cover."},
+     {"tag a.m4a --title \"Morning\" --rename", "Write a title and name the file Morning.m4a."}},
+    run};
 
 } // namespace CommandLine

@@ -27,8 +27,17 @@ public:
     /// A modal panel that picks one existing file; the filter reads "Images (*.png *.jpg)".
     virtual std::optional<QString> chooseFile(QObject* window, const QString& title, const QString& startFolder,
                                               const QString& filter) = 0;
-    /// A modal panel that names a file to write; it asks before an existing one is taken.
-    virtual std::optional<QString> saveFile(QObject* window, const QString& title, const QString& startPath) = 0;
+    /// What the save panel does with the name of a file that exists.
+    enum class Existing {
+        Asked,  ///< it asks before the name is taken
+        Unasked ///< the name is taken: the caller decides
+    };
+    /// A modal panel that names a file to write.
+    virtual std::optional<QString> saveFile(QObject* window, const QString& title, const QString& startPath,
+                                            Existing existing) = 0;
+    std::optional<QString> saveFile(QObject* window, const QString& title, const QString& startPath) {
+        return saveFile(window, title, startPath, Existing::Asked);
+    }
 };
 
 } // namespace Platform

@@ -95,10 +95,16 @@ Removal remove(const QStringList& keys) {
 bool retag(const QString& path, const Dictionary& values) {
     const QString given = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
     const QFileInfo real(QFileInfo(path).canonicalFilePath());
+    const QFileInfo named(given);
+    const QString folder = QFileInfo(named.path()).canonicalFilePath();
     const auto isIt = [&](const QString& other) {
-        // The disk is asked only where the names agree: there may be a hundred thousand entries.
-        return other == given || (QFileInfo(other).fileName() == real.fileName() &&
-                                  QFileInfo(other).canonicalFilePath() == real.filePath());
+        if (other == given)
+            return true;
+        // The disk is asked only where the names agree: there may be a hundred thousand entries. A file that has just
+        // been renamed is found by its folder.
+        const QFileInfo info(other);
+        return (info.fileName() == real.fileName() && info.canonicalFilePath() == real.filePath()) ||
+               (info.fileName() == named.fileName() && QFileInfo(info.path()).canonicalFilePath() == folder);
     };
     MediaLibrary& library = MediaLibrary::shareLibrary();
     library.takeUpMediaLibraryList();

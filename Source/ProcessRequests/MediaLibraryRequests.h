@@ -25,7 +25,8 @@ struct Removal {
 [[nodiscard]] Removal remove(const QStringList& keys);
 
 /// Gives the entries of the file at @p path these values, by the keys of AudioRecordEntry, after they went into the
-/// file's tags. Paths that lead to the same file are the same. @return whether what changed, if anything did, is stored
+/// file. Paths that lead to the same file are the same. The file may be gone from the path: a new name is given with
+/// AudioRecordEntry::SavePath. @return whether what changed, if anything did, is stored
 [[nodiscard]] bool retag(const QString& path, const Dictionary& values);
 
 /// Adds a ringtone to the library of this process, as MediaLibrary::entryForFile() describes it. @return whether it is

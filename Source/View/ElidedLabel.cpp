@@ -6,7 +6,7 @@
 #include <QStyle>
 
 namespace {
-constexpr int kMargin = 8;
+constexpr int kLeading = 8;
 }
 
 ElidedLabel::ElidedLabel(QWidget* parent) : QWidget(parent) {
@@ -20,17 +20,23 @@ void ElidedLabel::setText(const QString& text) {
     update();
 }
 
+void ElidedLabel::setMargin(int points) {
+    margin_ = points;
+    updateGeometry();
+    update();
+}
+
 QSize ElidedLabel::sizeHint() const {
-    return {fontMetrics().horizontalAdvance(text_) + 2 * kMargin, fontMetrics().height() + kMargin};
+    return {fontMetrics().horizontalAdvance(text_) + 2 * margin_, fontMetrics().height() + kLeading};
 }
 
 QSize ElidedLabel::minimumSizeHint() const {
-    return {fontMetrics().averageCharWidth() * 4, fontMetrics().height() + kMargin};
+    return {fontMetrics().averageCharWidth() * 4, fontMetrics().height() + kLeading};
 }
 
 void ElidedLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QRect room = rect().adjusted(kMargin, 0, -kMargin, 0);
+    const QRect room = rect().adjusted(margin_, 0, -margin_, 0);
     const QString shown = fontMetrics().elidedText(text_, Qt::ElideMiddle, room.width());
     // Paths and sentences alike begin where the window begins.
     const Qt::Alignment edge = layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft;

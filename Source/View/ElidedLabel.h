@@ -12,6 +12,8 @@ public:
 
     [[nodiscard]] QString text() const { return text_; }
     void setText(const QString& text);
+    /// Room at both ends, in points; 8 unless set.
+    void setMargin(int points);
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -20,4 +22,5 @@ protected:
 
 private:
     QString text_;
+    int margin_ = 8;
 };

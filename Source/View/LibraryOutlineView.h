@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QPersistentModelIndex>
 #include <QTreeView>
 
-/// The outline of the library: what cannot be selected never takes the selection from the node that has it, also not
-/// when the pointer is let go over it.
+/// The outline of the library. A row that cannot be selected is the heading of a group: it never takes the selection
+/// from the node that has it, also not when the pointer is let go over it. A click on a heading hides or shows the
+/// nodes of its group; the left and right arrow keys do so for the group of the current node.
 class LibraryOutlineView : public QTreeView {
     Q_OBJECT
 public:
@@ -14,4 +16,15 @@ public:
 protected:
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent* event = nullptr) const override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+private:
+    /// The heading at a place of the viewport; invalid when there is none.
+    [[nodiscard]] QModelIndex headingAt(const QPoint& place) const;
+
+    QPersistentModelIndex pressed_; ///< the heading on which the left button went down
 };

@@ -90,11 +90,13 @@ std::optional<QString> QtPanels::chooseFile(QObject* window, const QString& titl
     return path ? std::optional(resolved(*path)) : std::nullopt;
 }
 
-std::optional<QString> QtPanels::saveFile(QObject* window, const QString& title, const QString& startPath) {
+std::optional<QString> QtPanels::saveFile(QObject* window, const QString& title, const QString& startPath,
+                                          Existing existing) {
     const QFileInfo start(startPath);
     QFileDialog dialog(parentFor(window), title, start.absolutePath());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, existing == Existing::Unasked);
     dialog.setDefaultSuffix(start.suffix());
     dialog.selectFile(start.fileName());
     return runModal(dialog);

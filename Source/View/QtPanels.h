@@ -12,5 +12,7 @@ public:
                                std::function<void(QStringList paths)> done) override;
     std::optional<QString> chooseFile(QObject* window, const QString& title, const QString& startFolder,
                                       const QString& filter) override;
-    std::optional<QString> saveFile(QObject* window, const QString& title, const QString& startPath) override;
+    using Panels::saveFile;
+    std::optional<QString> saveFile(QObject* window, const QString& title, const QString& startPath,
+                                    Existing existing) override;
 };

@@ -56,6 +56,8 @@ LibraryPresenter::LibraryPresenter(MediaLibrary& library, QTreeView& outline, QT
     });
     connect(tableModel_.get(), &QAbstractItemModel::dataChanged, this,
             [this] { Q_EMIT tableViewSelectionAudioChanged(); });
+    connect(&library_, &MediaLibrary::entryReplaced, this, &LibraryPresenter::followPlayingEntry);
+    connect(&library_, &MediaLibrary::leafReset, this, &LibraryPresenter::followPlayingEntry);
     if (auto* workspace = Platform::services().workspace)
         connect(workspace, &Platform::Workspace::fileSystemChanged, missing_.get(), &MissingFiles::forget);
 }
@@ -93,10 +95,13 @@ void LibraryPresenter::addRingtoneFile(const QString& path, const Dictionary& ta
 }
 
 void LibraryPresenter::updateFile(const QString& path, const Dictionary& tags) {
+    Dictionary stored = tags;
+    stored.remove(AudioRecordEntry::Artwork); // entries hold texts and numbers; the file has its cover
+    missing_->forget(path);
     if (isRingtone(path))
-        addRingtoneFile(path, tags);
+        addRingtoneFile(path, stored);
     else
-        addRecordFile(path, tags);
+        addRecordFile(path, stored);
 }
 
 void LibraryPresenter::removeMediaLibraryArray(const QVariantList& entries) {
@@ -230,6 +235,29 @@ CustomSound* LibraryPresenter::currentSound() const {
     return display_.playSound().get();
 }
 
+QString LibraryPresenter::playingPath() const {
+    const CustomSound* const sound = currentSound();
+    return sound ? sound->path() : QString();
+}
+
+void LibraryPresenter::followPlayingEntry() {
+    CustomSound* const sound = currentSound();
+    if (!sound || playingKey_.isEmpty())
+        return;
+    Dictionary entry = MediaLibrary::findAudioByKey(playingKey_, library_.records());
+    if (entry.isEmpty())
+        entry = MediaLibrary::findAudioByKey(playingKey_, library_.ringtones());
+    if (entry.isEmpty())
+        return;
+    display_.setTitle(AudioTags::audioTag(entry, QStringLiteral("title")).toString());
+    display_.setArtist(AudioTags::audioTag(entry, QStringLiteral("artist")).toString());
+    const QString path = Platform::stringForm(AudioTags::audioTag(entry, QStringLiteral("path")));
+    if (path == sound->path())
+        return;
+    sound->setPath(path); // it plays on: its file is open
+    tableModel_->setPlayingPath(path);
+}
+
 void LibraryPresenter::updateTableViewActionEnable() {
     Q_EMIT tableViewPlayEnableChanged();
     Q_EMIT tableViewShowEnableChanged();
@@ -256,6 +284,8 @@ void LibraryPresenter::updatePlaySoundButton() {
 void LibraryPresenter::playSoundFile(const Dictionary& entry) {
     if (CustomSound* sound = currentSound())
         sound->stop();
+    const QVariant key = AudioRecordEntry::keyOf(entry);
+    playingKey_ = key.isValid() ? Platform::stringForm(key) : QString();
     const QString path = Platform::stringForm(AudioTags::audioTag(entry, QStringLiteral("path")));
     display_.setTitle(AudioTags::audioTag(entry, QStringLiteral("title")).toString());
     display_.setArtist(AudioTags::audioTag(entry, QStringLiteral("artist")).toString());

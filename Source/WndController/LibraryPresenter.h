@@ -80,6 +80,8 @@ public:
     [[nodiscard]] bool libraryIsEmpty() const;
     [[nodiscard]] bool isPlaySoundButtonEnable() const;
     [[nodiscard]] bool isPlaySoundPlaying() const;
+    /// The file of the display's sound, also while it is paused or stopped; empty without a sound.
+    [[nodiscard]] QString playingPath() const;
     /// Only announces the two keys of playing; the value is the sound's own.
     void setIsPlaySoundPlaying(bool ignored);
 
@@ -121,6 +123,8 @@ private:
     [[nodiscard]] int selectedRow() const;
     [[nodiscard]] qsizetype selectedRowCount() const;
     [[nodiscard]] CustomSound* currentSound() const;
+    /// Brings path and titles of the sound in step with its entry: its file may have been renamed while it plays.
+    void followPlayingEntry();
     /// Says nothing of a sound that plays.
     void sayWhyNothingPlays(const CustomSound& sound);
 
@@ -130,6 +134,7 @@ private:
     AudioWaveViewController& display_;
     AudioFilterController& filter_;
     IsRecording isStateAudioRecord_;
+    QString playingKey_; ///< identity of the entry that the display's sound belongs to
     std::unique_ptr<MissingFiles> missing_;
     std::unique_ptr<LibraryOutlineModel> outlineModel_;
     std::unique_ptr<AudioTableModel> tableModel_;

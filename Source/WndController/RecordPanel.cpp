@@ -13,6 +13,10 @@
 #include <QLocale>
 #include <QSignalBlocker>
 
+namespace {
+constexpr int kShortConversionMs = 500; // one tick of the display's clock
+} // namespace
+
 RecordPanel::RecordPanel(Ui::MainWnd& ui, RecordStateController& record, AudioWaveViewController& display,
                          QObject* parent)
     : QObject(parent), ui_(ui), record_(record), display_(display),
@@ -43,6 +47,13 @@ RecordPanel::RecordPanel(Ui::MainWnd& ui, RecordStateController& record, AudioWa
     connect(&record_, &RecordStateController::devicesChanged, this, &RecordPanel::showDevices);
     connect(&record_, &RecordStateController::noticesChanged, this, &RecordPanel::showNotices);
     connect(&record_, &RecordStateController::queueChanged, this, &RecordPanel::showFileConvertTipView);
+
+    conversion_.setSingleShot(true);
+    conversion_.setInterval(kShortConversionMs);
+    connect(&conversion_, &QTimer::timeout, this, [this] {
+        conversionLasts_ = true;
+        showFileConvertTipView();
+    });
 
     initToopTip();
     showDevices();
@@ -135,6 +146,12 @@ void RecordPanel::showNotices() {
 }
 
 void RecordPanel::showFileConvertTipView() {
-    fileConvertingTipView_->showFileConvertTipView(record_.jobsInQueue() > 0, record_.fileConvertTip(),
-                                                   record_.jobProgress());
+    // A recording of one source is finished within a few frames of the animation: its notice would only flash.
+    if (record_.jobsInQueue() == 0) {
+        conversion_.stop();
+        conversionLasts_ = false;
+    } else if (!conversionLasts_ && !conversion_.isActive()) {
+        conversion_.start();
+    }
+    fileConvertingTipView_->showFileConvertTipView(conversionLasts_, record_.fileConvertTip(), record_.jobProgress());
 }

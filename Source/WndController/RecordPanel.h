@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 
 class AudioWaveViewController;
 class ConvertingTipView;
@@ -22,7 +23,8 @@ public:
 
     /// Tool tips of the four transport buttons before anything happens.
     void initToopTip();
-    /// Shows the converting notice while recordings wait, and hides it when none does. Follows the display's clock.
+    /// Shows the converting notice when recordings have been waiting for half a second, and hides it when none waits
+    /// any more. Called at each change of the queue and at each tick of the display's clock.
     void showFileConvertTipView();
     [[nodiscard]] ConvertingTipView& fileConvertingTipView() { return *fileConvertingTipView_; }
 
@@ -38,4 +40,6 @@ private:
     RecordStateController& record_;
     AudioWaveViewController& display_;
     ConvertingTipView* fileConvertingTipView_; ///< child of the library's pane
+    QTimer conversion_;                        ///< runs during the first half second of a conversion
+    bool conversionLasts_ = false;
 };

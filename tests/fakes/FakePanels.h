@@ -26,7 +26,8 @@ public:
         startFolders.append(startFolder);
         return answer;
     }
-    std::optional<QString> saveFile(QObject*, const QString& title, const QString& startPath) override {
+    using Panels::saveFile;
+    std::optional<QString> saveFile(QObject*, const QString& title, const QString& startPath, Existing) override {
         prompts.append(title);
         startFolders.append(startPath);
         return answer;

@@ -9,6 +9,7 @@
 #include "Source/WndController/AudioTableModel.h"
 #include "Source/WndController/WindowLayout.h"
 #include "tests/Source/WndController/WindowWorld.h"
+#include "tests/fakes/FakeRecordingFiles.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -24,6 +25,20 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// Counts how often a widget is shown.
+class ShowCounter : public QObject {
+public:
+    explicit ShowCounter(QWidget& widget) { widget.installEventFilter(this); }
+    [[nodiscard]] int count() const { return count_; }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        count_ += event->type() == QEvent::Show;
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    int count_ = 0;
+};
 
 class MainWindow : public testing::Test {
 protected:
@@ -278,6 +293,7 @@ TEST_F(MainWindow, HeadingsOfTheLibraryTakeNoSelection) {
         QTest::mouseClick(handle, Qt::LeftButton, {}, inWindow(nodes.index(group, 0)));
         EXPECT_EQ(selected(), u"all-record"_s);
         EXPECT_EQ(table().model()->rowCount(), 1) << "the list stays";
+        outline.expand(nodes.index(group, 0));
     }
     QTest::mousePress(handle, Qt::LeftButton, {}, inWindow(nodes.indexOfKey(u"all-record"_s)));
     QTest::mouseMove(handle, inWindow(nodes.index(1, 0)) - QPoint(0, 2));
@@ -467,6 +483,75 @@ TEST_F(MainWindow, TheConvertingNoticeSlidesInAndOut) {
     tip.showFileConvertTipView(false, text, -1);
     EXPECT_TRUE(waitFor([&] { return !tip.isVisible(); }));
     EXPECT_EQ(tip.y(), height);
+}
+
+TEST_F(MainWindow, TheConvertingNoticeDoesNotFlashAtAStopOfOneSource) {
+    MainWndController& controller = world.open();
+    ConvertingTipView& tip = controller.recordPanel().fileConvertingTipView();
+    ShowCounter shows(tip);
+    for (int i = 0; i < 3; ++i) {
+        world.click("btnSatrtRecord_");
+        feed(0.5F);
+        world.click("btnSatrtRecord_");
+        ASSERT_EQ(world.record->jobsInQueue(), 1);
+        ASSERT_TRUE(waitFor([&] { return world.record->jobsInQueue() == 0; }));
+    }
+    EXPECT_EQ(shows.count(), 0);
+}
+
+TEST_F(MainWindow, TheConvertingNoticeStaysForWorkThatLasts) {
+    FakeRecordingFiles files;
+    files.holdMix = true; // two sources: their mix takes its time
+    Platform::services().mediaFiles = &files;
+    PreferenceStore::setPreferenceValue(true, PreferenceStore::ChooseRecordComputerAudio);
+    MainWndController& controller = world.open();
+    ConvertingTipView& tip = controller.recordPanel().fileConvertingTipView();
+    world.click("btnSatrtRecord_");
+    feed(0.5F);
+    feed(0.5F, WindowWorld::kComputer);
+    world.click("btnSatrtRecord_");
+    const QString text = u"         Audio File Converting\n         Please Wait "_s;
+    EXPECT_TRUE(waitFor([&] { return tip.isVisible() && tip.text().startsWith(text); }));
+    files.holdMix = false;
+    EXPECT_TRUE(waitFor([&] { return world.record->jobsInQueue() == 0 && !tip.isVisible(); }));
+}
+
+TEST_F(MainWindow, AHeadingShowsAndHidesItsGroup) {
+    world.open();
+    auto& outline = world.outlet<QTreeView>("outlineLibraryView_");
+    const QModelIndex group = outline.model()->index(1, 0);
+    const QPoint heading = outline.viewport()->mapTo(world.controller->window(), outline.visualRect(group).center());
+    const auto click = [&](QPoint place) {
+        QTest::mouseClick(world.controller->window()->windowHandle(), Qt::LeftButton, {}, place);
+    };
+    ASSERT_TRUE(outline.isExpanded(group));
+    click(heading);
+    EXPECT_FALSE(outline.isExpanded(group));
+    EXPECT_EQ(world.controller->library().libraryViewSelectedNode()->key(), u"new-record"_s);
+    click(heading);
+    EXPECT_TRUE(outline.isExpanded(group));
+    // A press that is let go elsewhere means nothing.
+    QTest::mousePress(world.controller->window()->windowHandle(), Qt::LeftButton, {}, heading);
+    QTest::mouseRelease(world.controller->window()->windowHandle(), Qt::LeftButton, {}, heading + QPoint(0, 100));
+    EXPECT_TRUE(outline.isExpanded(group));
+}
+
+TEST_F(MainWindow, TheArrowKeysShowAndHideTheGroupOfTheSelection) {
+    world.open();
+    auto& outline = world.outlet<QTreeView>("outlineLibraryView_");
+    const QModelIndex group = outline.model()->index(0, 0);
+    outline.setFocus();
+    key(Qt::Key_Left);
+    EXPECT_FALSE(outline.isExpanded(group));
+    EXPECT_EQ(world.controller->library().libraryViewSelectedNode()->key(), u"new-record"_s)
+        << "still shown at the right";
+    key(Qt::Key_Right);
+    EXPECT_TRUE(outline.isExpanded(group));
+    key(Qt::Key_Left);
+    key(Qt::Key_Down);
+    EXPECT_FALSE(outline.isExpanded(group));
+    EXPECT_EQ(world.controller->library().libraryViewSelectedNode()->key(), u"new-ringtone"_s)
+        << "what is hidden is passed over";
 }
 
 TEST_F(MainWindow, LostFramesAndNoticesAreShown) {

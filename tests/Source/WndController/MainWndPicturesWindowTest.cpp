@@ -8,6 +8,7 @@
 #include "tests/support/Screenshot.h"
 
 #include <QTableView>
+#include <QTreeView>
 #include <cmath>
 #include <gtest/gtest.h>
 
@@ -126,6 +127,16 @@ TEST_F(Pictures, ArmedAndWaitingForTheFirstSound) {
     take(u"armed"_s);
     EXPECT_TRUE(world.record->isWaittingForSound());
     world.controller->startAndStopRecord();
+}
+
+TEST_F(Pictures, AGroupThatIsHidden) {
+    fill();
+    world.open();
+    showAll();
+    auto& outline = world.outlet<QTreeView>("outlineLibraryView_");
+    outline.collapse(outline.model()->index(1, 0));
+    take(u"group-hidden"_s);
+    take(u"group-hidden-2x"_s, 2);
 }
 
 TEST_F(Pictures, ConvertingWithANotice) {

@@ -1,0 +1,135 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/Control/AudioTrimSave.h"
+
+#include "Platform/Desktop/Workspace.h"
+#include "Platform/Foundation/FileManager.h"
+#include "Source/Control/ConverterAudioControl.h"
+#include "Source/Control/FileTags.h"
+#include "Source/Control/ID3ChangeControl.h"
+#include "Source/Preferences/PreferenceStore.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QScopeGuard>
+
+using namespace Qt::StringLiterals;
+namespace FileManager = Platform::FileManager;
+
+namespace AudioTrimSave {
+namespace {
+
+constexpr double kShareOfConversion = 0.97; ///< the rest is tagging and the disk
+
+QString text(const char* sentence) {
+    return QCoreApplication::translate("AudioTrimSave", sentence);
+}
+
+QString named(const char* sentence, const QString& path) {
+    return text(sentence).replace(u"%1"_s, QFileInfo(path).fileName());
+}
+
+/// Errors of the temporary file mean nothing to people: they know the recording.
+QString withoutTemporaryName(QString why, const QString& temporary, const QString& shown) {
+    return why.replace(temporary, shown);
+}
+
+/// Converts the range into @p temporary. @return why that failed; empty when it did not
+QString convert(ConverterAudioControl& converter, const Task& task, const QString& temporary,
+                const std::function<bool(double)>& progress) {
+    bool stopped = false;
+    converter.setProgress([&](double share) {
+        stopped = progress && !progress(share * kShareOfConversion);
+        return !stopped;
+    });
+    const auto forget = qScopeGuard([&] { converter.setProgress({}); });
+    if (!converter.createOutPutFile(temporary, 1))
+        return withoutTemporaryName(converter.exportError().text, temporary, text("the new file"));
+    const bool copied = converter.startConverterSource(task.source, task.from, task.to);
+    converter.closeExportFile();
+    if (stopped)
+        return text("It was stopped before the end.");
+    if (!copied)
+        return converter.sourceError().text;
+    if (const auto error = converter.exportError())
+        return withoutTemporaryName(error.text, temporary, text("the new file"));
+    // A damaged place is silence in the copy. The recording is kept: better tools may read more of it.
+    if (const auto damage = converter.sourceError(); damage && task.replace)
+        return damage.text;
+    return {};
+}
+
+} // namespace
+
+QString exportPath(const QString& path) {
+    const QFileInfo info(path);
+    const QString name = info.completeBaseName();
+    return info.path() + u'/' + (name.isEmpty() ? info.fileName() : name) + u".m4a"_s;
+}
+
+QString refusal(const QString& source, double from, double to) {
+    if (!QFileInfo(source).isFile())
+        return named(QT_TRANSLATE_NOOP("AudioTrimSave", "The file “%1” is no longer there."), source);
+    if (FileManager::isOpenForWriting(source))
+        return named(QT_TRANSLATE_NOOP("AudioTrimSave", "The file “%1” is still being recorded to."), source);
+    if (to - from < kShortestRange)
+        return text(QT_TRANSLATE_NOOP("AudioTrimSave", "The range is shorter than a tenth of a second."));
+    return {};
+}
+
+Result run(ConverterAudioControl& converter, const Task& task, const std::function<bool(double)>& progress) {
+    Result result;
+    result.problem = refusal(task.source, task.from, task.to);
+    if (!result.problem.isEmpty())
+        return result;
+    // A library may hold a link: the file that it leads to is replaced, and the link stays.
+    const QFileInfo place(task.exportPath);
+    const QString canonical = task.replace && place.isSymLink() ? place.canonicalFilePath() : QString();
+    const QString target = canonical.isEmpty() ? task.exportPath : canonical;
+
+    const QString temporary = g_strTmpPath + u"/TempExportTrimAudio.m4a"_s;
+    (void)FileManager::removeFile(temporary);
+    const auto removeTemporary = qScopeGuard([&] { (void)FileManager::removeFile(temporary); });
+    result.problem = convert(converter, task, temporary, progress);
+    if (!result.problem.isEmpty())
+        return result;
+
+    const QString hidden = FileManager::hiddenPathBeside(target);
+    QString why;
+    auto note = EditNote::begin(task.source, task.source, hidden, why);
+    if (!note) {
+        result.problem = why;
+        return result;
+    }
+    const QString ownArtwork = task.artworkPath.isEmpty() ? FileTags::artworkFile(task.source) : QString();
+    ID3ChangeControl::changeID3(temporary, hidden, task.entry,
+                                task.artworkPath.isEmpty() ? ownArtwork : task.artworkPath);
+    if (!ownArtwork.isEmpty())
+        (void)FileManager::removeFile(ownArtwork);
+
+    if (!FileTags::agree(hidden, task.entry)) {
+        const qint64 room = FileManager::availableBytes(target);
+        result.problem = room >= 0 && room < QFileInfo(temporary).size()
+                             ? text(QT_TRANSLATE_NOOP("AudioTrimSave", "There is no room left on the disk."))
+                             : text(QT_TRANSLATE_NOOP("AudioTrimSave", "The tags could not be written."));
+    } else if (task.replace) {
+        result.problem = FileManager::replace(hidden, target);
+    } else {
+        result.problem = FileManager::sync(hidden);
+        if (result.problem.isEmpty())
+            result.problem = FileManager::move(hidden, target);
+    }
+    if (!result.problem.isEmpty()) {
+        (void)FileManager::removeFile(hidden);
+        note->end();
+        return result;
+    }
+    Platform::noteFileSystemChanged(target);
+    result.note = std::move(note);
+    result.done = true;
+    if (progress)
+        (void)progress(1);
+    return result;
+}
+
+} // namespace AudioTrimSave

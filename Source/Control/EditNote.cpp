@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/Control/EditNote.h"
+
+#include "Platform/Foundation/Bundle.h"
+#include "Platform/Foundation/FileManager.h"
+#include "Platform/Foundation/Folders.h"
+#include "Platform/Foundation/Services.h"
+#include "Platform/Foundation/UserDefaults.h"
+#include "Platform/Media/BasicID3Change.h"
+#include "Platform/Media/ExtAudioFile.h"
+#include "Source/Model/AudioRecordEntry.h"
+#include "Source/ProcessRequests/MediaLibraryRequests.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLoggingCategory>
+#include <QRandomGenerator>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Q_LOGGING_CATEGORY(log, "sonaphex.control")
+
+constexpr qint64 kLongestNote = 1 << 16;
+const QString kEnding = u".edit"_s;
+
+QString notesFolder() {
+    const Platform::Bundle* const bundle = Platform::services().bundle;
+    return Platform::Folders::data() + u'/' + (bundle ? bundle->bundleIdentifier() : u"com.korvane.Sonaphex"_s) +
+           u"/Edits"_s;
+}
+
+/// What the file at @p path is, by the keys of an entry.
+Dictionary factsOf(const QString& path) {
+    Dictionary facts{{AudioRecordEntry::SavePath, path}};
+    if (const auto tags = Platform::BasicID3Change::read(path)) {
+        facts.insert(AudioRecordEntry::Title, tags->title);
+        facts.insert(AudioRecordEntry::Artist, tags->artist);
+        facts.insert(AudioRecordEntry::Album, tags->album);
+        facts.insert(AudioRecordEntry::Year, tags->year);
+        facts.insert(AudioRecordEntry::Genre, tags->genre);
+    }
+    Platform::AudioFileInfo info;
+    Platform::MediaError error;
+    auto* const files = Platform::services().mediaFiles;
+    if (files && files->info(path, info, error))
+        facts.insert(AudioRecordEntry::Length, float(info.seconds));
+    return facts;
+}
+
+/// @return whether the note is no longer needed
+bool settle(const QByteArray& content) {
+    const QJsonDocument note = QJsonDocument::fromJson(content);
+    const QString path = note[u"path"_s].toString();
+    if (path.isEmpty())
+        return true; // cut off while it was written: nothing had begun
+    const QString newPath = note[u"newPath"_s].toString();
+    const QString hidden = note[u"hidden"_s].toString();
+    if (QFileInfo(hidden).fileName().startsWith(u".sonaphex-"_s))
+        (void)Platform::FileManager::removeFile(hidden);
+    // A rename never overwrites. While the old name stands there it has not happened.
+    const QString now = QFileInfo::exists(path) || QFileInfo(path).isSymLink() ? path : newPath;
+    if (!QFileInfo::exists(now))
+        return true;
+    qCInfo(log, "an edit of %s was interrupted; its entry is brought in step", qUtf8Printable(now));
+    return MediaLibraryRequests::retag(path, factsOf(now));
+}
+
+} // namespace
+
+std::optional<EditNote> EditNote::begin(const QString& path, const QString& newPath, const QString& hidden,
+                                        QString& why) {
+    const QString folder = notesFolder();
+    if (!QDir().mkpath(folder)) {
+        why = u"%1: the folder cannot be made"_s.arg(folder);
+        return {};
+    }
+    Platform::FileLock lock;
+    const QString name = folder + u'/' + QString::number(QRandomGenerator::global()->generate64(), 36) + kEnding;
+    if (lock.take(name) != Platform::FileLock::Result::Held) {
+        why = lock.problem();
+        return {};
+    }
+    const QJsonObject note{{u"path"_s, path}, {u"newPath"_s, newPath}, {u"hidden"_s, hidden}};
+    QFile file(name);
+    const QByteArray content = QJsonDocument(note).toJson(QJsonDocument::Compact);
+    const bool written = file.open(QIODevice::WriteOnly | QIODevice::ExistingOnly) &&
+                         file.write(content) == content.size() && file.flush() &&
+                         Platform::FileManager::sync(name).isEmpty();
+    if (!written) {
+        why = u"%1: %2"_s.arg(name, file.errorString());
+        lock.removeAndRelease();
+        return {};
+    }
+    return EditNote(std::move(lock));
+}
+
+void EditNote::end() {
+    auto* const defaults = Platform::services().userDefaults;
+    if (!defaults || defaults->flush())
+        lock_.removeAndRelease();
+}
+
+void EditNote::recover() {
+    const QDir folder(notesFolder());
+    for (const QString& name : folder.entryList({u'*' + kEnding}, QDir::Files)) {
+        Platform::FileLock lock;
+        if (lock.take(folder.filePath(name)) != Platform::FileLock::Result::Held)
+            continue; // its process still works on it
+        QFile file(folder.filePath(name));
+        if (file.open(QIODevice::ReadOnly) && settle(file.read(kLongestNote)))
+            lock.removeAndRelease();
+    }
+}

@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/Control/ID3EditSave.h"
+
+#include "Platform/Foundation/FileManager.h"
+#include "Source/Control/FileTags.h"
+#include "Source/Control/ID3ChangeControl.h"
+#include "Source/Control/RecordingRename.h"
+#include "Source/Model/AudioRecordEntry.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+using namespace AudioRecordEntry;
+
+namespace ID3EditSave {
+namespace {
+
+constexpr int kDefaultYear = 2012;
+
+QString text(const Dictionary& entry, const QString& key) {
+    return Platform::stringForm(entry.value(key));
+}
+
+QString sentence(const char* words, const QString& path) {
+    return QCoreApplication::translate("ID3EditSave", words).replace(u"%1"_s, QFileInfo(path).fileName());
+}
+
+} // namespace
+
+QString yearText(const QString& typed) {
+    if (typed.size() < 4)
+        return {};
+    const int year = Platform::intValue(typed.left(4));
+    return QString::number(year < 1000 || year > 9999 ? kDefaultYear : year);
+}
+
+Result save(const Dictionary& before, const Dictionary& edited, const Artwork& artwork) {
+    const QString path = text(before, SavePath);
+    Result result{before, {}, {}};
+    if (!QFileInfo(path).isFile()) {
+        result.notice = sentence(QT_TRANSLATE_NOOP("ID3EditSave", "The file “%1” is no longer there."), path);
+        return result;
+    }
+    const QString title = text(edited, Title);
+    auto note = EditNote::begin(path, RecordingRename::pathForTitle(path, title), {}, result.notice);
+    if (!note)
+        return result;
+
+    QString picture = artwork.path;
+    QString own;
+    if (artwork.kind == Artwork::Kind::Keep)
+        picture = own = FileTags::artworkFile(path);
+    ID3ChangeControl::changeID3(path, path, edited, artwork.kind == Artwork::Kind::Default ? QString() : picture);
+    if (!own.isEmpty())
+        (void)Platform::FileManager::removeFile(own);
+
+    QString why;
+    if (!FileTags::agree(path, edited, &why)) {
+        result.notice = sentence(QT_TRANSLATE_NOOP("ID3EditSave", "The tags of “%1” could not be written"), path) +
+                        (why.isEmpty() ? u"."_s : u": "_s + why);
+        note->end();
+        return result;
+    }
+    const auto renamed = RecordingRename::rename(path, title);
+    result.entry = edited;
+    result.entry.insert(SavePath, renamed.path);
+    result.notice = renamed.notice;
+    result.note = std::move(note);
+    return result;
+}
+
+} // namespace ID3EditSave

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/Control/RecordingRename.h"
+
+#include "Platform/Desktop/Workspace.h"
+#include "Platform/Foundation/FileManager.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace RecordingRename {
+namespace {
+
+constexpr int kLongestName = 255;    ///< bytes, on every usual file system
+constexpr int kShownCharacters = 40; ///< of a name within a sentence
+
+QString shown(const QString& name) {
+    return name.size() <= kShownCharacters ? name : name.left(kShownCharacters - 1) + u'…';
+}
+
+QString text(const char* sentence) {
+    return QCoreApplication::translate("RecordingRename", sentence);
+}
+
+/// Why no file can have this name, as the end of a sentence; empty when nothing speaks against it.
+QString objection(const QString& title, const QString& fileName) {
+    if (title.isEmpty())
+        return text("the title is empty");
+    if (title.contains(u'/'))
+        return text("a file name cannot contain “/”");
+    if (title.contains(QChar(u'\0')) || QFile::decodeName(QFile::encodeName(fileName)) != fileName)
+        return text("the title has a character that no file name can contain");
+    if (QFile::encodeName(fileName).size() > kLongestName)
+        return text("the title is longer than a file name can be");
+    return {};
+}
+
+} // namespace
+
+QString pathForTitle(const QString& path, const QString& title) {
+    const QFileInfo info(path);
+    return info.path() + u'/' + title + u'.' + info.suffix();
+}
+
+Outcome rename(const QString& path, const QString& title) {
+    const QString target = pathForTitle(path, title);
+    if (target == path)
+        return {path, {}};
+    const QString name = title + u'.' + QFileInfo(path).suffix();
+    QString why = objection(title, name);
+    if (why.isEmpty() && (QFileInfo::exists(target) || QFileInfo(target).isSymLink()))
+        why = text("there is already a file named “%1” in its folder").replace(u"%1"_s, shown(name));
+    if (why.isEmpty()) {
+        why = Platform::FileManager::move(path, target); // refused too when another process was faster
+        if (why.isEmpty()) {
+            Platform::noteFileSystemChanged(path);
+            Platform::noteFileSystemChanged(target);
+            return {target, {}};
+        }
+    }
+    const QString sentence = text("The file keeps its name “%1”: ");
+    return {path, QString(sentence).replace(u"%1"_s, shown(QFileInfo(path).fileName())) + why + u'.'};
+}
+
+} // namespace RecordingRename

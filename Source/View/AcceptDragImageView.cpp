@@ -1,0 +1,209 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/View/AcceptDragImageView.h"
+
+#include "Source/View/NamedImages.h"
+
+#include <QApplication>
+#include <QDrag>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QPainter>
+#include <QPainterPath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double kShownPoints = 50;
+constexpr double kRadius = 6;
+/// Larger files are no covers.
+constexpr qint64 kLargestFile = qint64(64) << 20;
+
+/// A null image when the file is none. Pipes and devices are not even opened: they may never end.
+QImage loaded(const QString& path) {
+    const QFileInfo info(path);
+    if (!info.isFile() || info.size() > kLargestFile)
+        return {};
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    return reader.read();
+}
+
+QImage cover(const QImage& image) {
+    QImage square(AcceptDragImageView::kCoverSide, AcceptDragImageView::kCoverSide,
+                  QImage::Format_ARGB32_Premultiplied);
+    square.fill(Qt::transparent);
+    QPainter painter(&square);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(square.rect(), image.scaled(square.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    return square;
+}
+
+QStringList localFiles(const QMimeData& data) {
+    QStringList paths;
+    for (const QUrl& url : data.urls())
+        if (url.isLocalFile())
+            paths.append(url.toLocalFile());
+    return paths;
+}
+
+} // namespace
+
+AcceptDragImageView::AcceptDragImageView(QWidget* parent) : QWidget(parent) {
+    setAcceptDrops(true);
+    setFocusPolicy(Qt::TabFocus);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setAccessibleName(tr("Cover"));
+}
+
+void AcceptDragImageView::setImgShow(const QImage& image) {
+    imgShow_ = image;
+    if (!imgShow_.isNull())
+        imgShow_.setDevicePixelRatio(double(imgShow_.width()) / kShownPoints);
+    setAccessibleDescription(imgShow_.isNull() ? tr("No picture") : tr("A picture; Delete removes it"));
+    update();
+}
+
+void AcceptDragImageView::setStrImagePath(const QString& path) {
+    strImagePath_ = path;
+    if (path.isEmpty())
+        return;
+    const QImage image = loaded(path);
+    if (!image.isNull())
+        setImgShow(cover(image));
+}
+
+bool AcceptDragImageView::hasImageFile(const QStringList& paths) {
+    for (const QString& path : paths) {
+        const QImage image = loaded(path);
+        if (image.isNull())
+            continue;
+        strImagePath_ = path;
+        setImgShow(cover(image));
+        Q_EMIT imageChanged();
+        return true;
+    }
+    return false;
+}
+
+void AcceptDragImageView::takeImage(const QImage& image) {
+    if (image.isNull())
+        return;
+    strImagePath_.clear();
+    setImgShow(cover(image));
+    Q_EMIT imageChanged();
+}
+
+void AcceptDragImageView::removeImage() {
+    if (imgShow_.isNull())
+        return;
+    setImgShow({});
+    setStrImagePath({});
+    Q_EMIT imageChanged();
+}
+
+void AcceptDragImageView::dragEnterEvent(QDragEnterEvent* event) {
+    dragOver_ = event->source() != this;
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    update();
+}
+
+void AcceptDragImageView::dragMoveEvent(QDragMoveEvent* event) {
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+}
+
+void AcceptDragImageView::dragLeaveEvent(QDragLeaveEvent*) {
+    dragOver_ = false;
+    update();
+}
+
+void AcceptDragImageView::dropEvent(QDropEvent* event) {
+    dragOver_ = false;
+    update();
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    if (event->source() == this)
+        return; // back where it came from
+    const QMimeData& data = *event->mimeData();
+    // A browser gives the address of a picture and the picture: an address that is no file here is passed over.
+    if (!hasImageFile(localFiles(data)) && data.hasImage())
+        takeImage(qvariant_cast<QImage>(data.imageData()));
+}
+
+void AcceptDragImageView::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+    pressed_ = event->button() == Qt::LeftButton;
+    pressedAt_ = event->position().toPoint();
+}
+
+void AcceptDragImageView::mouseMoveEvent(QMouseEvent* event) {
+    event->accept();
+    const bool far = (event->position().toPoint() - pressedAt_).manhattanLength() >= QApplication::startDragDistance();
+    if (!pressed_ || !(event->buttons() & Qt::LeftButton) || !far || imgShow_.isNull())
+        return;
+    pressed_ = false;
+    startDrag();
+}
+
+void AcceptDragImageView::startDrag() {
+    QDrag drag(this);
+    auto* const data = new QMimeData;
+    QImage plain = imgShow_;
+    plain.setDevicePixelRatio(1);
+    data->setImageData(plain);
+    drag.setMimeData(data);
+    const QPixmap shown = QPixmap::fromImage(imgShow_);
+    drag.setPixmap(shown);
+    drag.setHotSpot(QRectF(QPointF(), shown.deviceIndependentSize()).center().toPoint());
+    // Where nothing takes the picture it disappears.
+    drag.setDragCursor(NamedImages::pixmap(u"delete"_s, {24, 24}, devicePixelRatioF()), Qt::IgnoreAction);
+    (void)drag.exec(Qt::CopyAction, Qt::CopyAction);
+    // Escape ends the drag with the button still down: the user thought better of it.
+    if (QGuiApplication::mouseButtons() & Qt::LeftButton)
+        return;
+    if (!rect().contains(mapFromGlobal(QCursor::pos())))
+        removeImage();
+}
+
+void AcceptDragImageView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace)
+        removeImage();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+QRectF AcceptDragImageView::wellRect() const {
+    const double side = std::min(width(), height()) - 2;
+    QRectF well(0, 0, side, side);
+    well.moveCenter(QRectF(rect()).center());
+    return well;
+}
+
+void AcceptDragImageView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    const QRectF well = wellRect();
+    QPainterPath shape;
+    shape.addRoundedRect(well, kRadius, kRadius);
+    painter.fillPath(shape, palette().color(QPalette::Base));
+    if (!imgShow_.isNull()) {
+        painter.save();
+        painter.setClipPath(shape);
+        painter.drawImage(well, imgShow_, QRectF(QPointF(), QSizeF(imgShow_.size())));
+        painter.restore();
+    }
+    QColor frame = palette().color(QPalette::Text);
+    frame.setAlphaF(0.35F);
+    QPen pen(frame, 1, imgShow_.isNull() ? Qt::DashLine : Qt::SolidLine);
+    if (dragOver_ || hasFocus())
+        pen = QPen(palette().color(QPalette::Highlight), 2);
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPath(shape);
+}

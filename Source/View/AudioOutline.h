@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QList>
+#include <QObject>
+
+#include <atomic>
+#include <memory>
+#include <thread>
+
+class QColor;
+class QPainter;
+class QRectF;
+
+/// Fetches the outline of an audio file on a thread of its own. Main thread; one file at a time.
+class AudioOutline : public QObject {
+    Q_OBJECT
+public:
+    explicit AudioOutline(QObject* parent = nullptr);
+    /// Stops the thread and waits for it: some milliseconds.
+    ~AudioOutline() override;
+
+    /// Forgets the values of the file before, and reads those of @p path.
+    void load(const QString& path);
+    void stop();
+    /// Ten values a second, -1 to 1; empty until they are there, and for a file that cannot be read.
+    [[nodiscard]] const QList<float>& values() const { return values_; }
+
+    /// Draws values over the whole of @p rect, centred on the middle of its height: one line for each point, as long as
+    /// the loudest of the values that fall into it.
+    static void draw(QPainter& painter, const QRectF& rect, const QList<float>& values, const QColor& color);
+
+Q_SIGNALS:
+    /// The values are there.
+    void loaded();
+
+private:
+    QList<float> values_;
+    std::shared_ptr<std::atomic<bool>> cancelled_;
+    std::thread worker_;
+};

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QList>
+#include <QWidget>
+
+#include <optional>
+
+/// Told where the user drags the handles of an AudioTrimEditView. Rates are fractions 0 to 1 of the file's duration.
+class AudioTrimEditViewDelegate {
+public:
+    virtual ~AudioTrimEditViewDelegate() = default;
+    virtual void seekPlay(float /*rate*/) {}
+    virtual void setLeftTrim(float /*rate*/) {}
+    virtual void setRightTrim(float /*rate*/) {}
+};
+
+/// The bar of the trim window: a seek strip with the play button along the top, the outline of the file with the range
+/// in its middle, and the two handles along the bottom. Left and Right move the handle that was used last. Main thread.
+class AudioTrimEditView : public QWidget {
+    Q_OBJECT
+public:
+    enum DragType { NoDrag = -1, Seek = 0, LeftHandle = 1, RightHandle = 2 };
+
+    explicit AudioTrimEditView(QWidget* parent = nullptr);
+
+    void setDelegate(AudioTrimEditViewDelegate* delegate) { delegate_ = delegate; }
+    [[nodiscard]] AudioTrimEditViewDelegate* delegate() const { return delegate_; }
+
+    [[nodiscard]] float leftTrimRate() const { return leftTrimRate_; }
+    [[nodiscard]] float rightTrimRate() const { return rightTrimRate_; }
+    [[nodiscard]] float playRate() const { return playRate_; }
+    /// Stored, but not above the right rate.
+    void setLeftTrimRate(float rate);
+    /// Stored, but not below the left rate.
+    void setRightTrimRate(float rate);
+    void setPlayRate(float rate);
+    [[nodiscard]] int dragType() const { return dragType_; }
+
+    /// Length of the file in seconds: for the time at the pointer and the steps of the keys.
+    void setDuration(double seconds);
+    /// The outline to draw; see AudioOutline.
+    void setOutline(const QList<float>& values);
+    /// Which handle the keys move.
+    void setLastHandle(DragType handle);
+    [[nodiscard]] DragType lastHandle() const { return lastHandle_; }
+
+    // ---- geometry, in points with the origin at the upper left corner
+    [[nodiscard]] QRectF seekStripRect() const;
+    [[nodiscard]] QRectF leftHandleRect() const;
+    [[nodiscard]] QRectF rightHandleRect() const;
+    [[nodiscard]] QRectF playButtonRect() const;
+    [[nodiscard]] QRectF backStripRect() const;
+    [[nodiscard]] QRectF rangeRect() const;
+    /// The rate at a place of the view, clamped to 0 to 1.
+    [[nodiscard]] float mousePointRate(const QPointF& place) const;
+    /// A press on the bar never drags the window.
+    [[nodiscard]] static bool mouseDownCanMoveWindow() { return false; }
+
+    // Forwarded to the delegate.
+    void seekPlay(float rate);
+    void setLeftTrim(float rate);
+    void setRightTrim(float rate);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    [[nodiscard]] double usableLength() const;
+    void nudge(double seconds);
+    void drawTime(QPainter& painter) const;
+
+    float leftTrimRate_ = 0;
+    float rightTrimRate_ = 1;
+    float playRate_ = 0;
+    int trimBtnHeight_;
+    int trimBackHeight_;
+    int trimAreaHeight_;
+    QSizeF btnSize_;
+    int dragType_ = NoDrag;
+    AudioTrimEditViewDelegate* delegate_ = nullptr;
+    double duration_ = 0;
+    QList<float> outline_;
+    DragType lastHandle_ = LeftHandle;
+    std::optional<double> dragX_; ///< where the pointer is during a drag
+};

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/WndController/EditWindows.h"
+
+#include "Source/Control/FileTags.h"
+#include "Source/Model/AudioRecordEntry.h"
+#include "Source/WndController/AudioTrimWndController.h"
+#include "Source/WndController/ID3EditWndController.h"
+#include "Source/WndController/LibraryPresenter.h"
+#include "Source/WndController/MainMenus.h"
+#include "Source/WndController/MainWndController.h"
+
+#include <QFileInfo>
+
+using Window = WindowCommands::Window;
+
+EditWindows::EditWindows(MainWndController& main, QObject* parent) : QObject(parent), main_(main) {
+    main_.commands().setOpener(Window::AudioTrim, [this](const QVariantList& entries) {
+        audioTrimWndController().setTrimAudioSourceData(entries.value(0).toMap());
+        audioTrimWndController().runModal();
+    });
+    main_.commands().setOpener(Window::ID3Edit, [this](const QVariantList& entries) {
+        Dictionary entry = entries.value(0).toMap();
+        // The library keeps no pictures: the file has its cover.
+        const QByteArray cover = FileTags::artwork(Platform::stringForm(entry.value(AudioRecordEntry::SavePath)));
+        if (!entry.contains(AudioRecordEntry::Artwork) && !cover.isEmpty())
+            entry.insert(AudioRecordEntry::Artwork, cover);
+        id3EditWndController().setID3EditDataSource(entry);
+        id3EditWndController().runModal();
+    });
+    main_.menus().update();
+}
+
+EditWindows::~EditWindows() = default;
+
+AudioTrimWndController& EditWindows::audioTrimWndController() {
+    if (!trim_) {
+        trim_ = std::make_unique<AudioTrimWndController>(main_.window());
+        trim_->setDelegate(this);
+    }
+    return *trim_;
+}
+
+ID3EditWndController& EditWindows::id3EditWndController() {
+    if (!tags_) {
+        tags_ = std::make_unique<ID3EditWndController>(main_.window());
+        tags_->setDelegate(this);
+    }
+    return *tags_;
+}
+
+void EditWindows::updateFile(const QString& path, const Dictionary& tags) {
+    main_.library().updateFile(path, tags);
+}
+
+bool EditWindows::isFilePlaying(const QString& path) {
+    return main_.library().isPlaySoundPlaying() &&
+           QFileInfo(main_.library().playingPath()) == QFileInfo(path); // also by another way to it
+}

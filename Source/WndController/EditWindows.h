@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Source/WndController/RecordingEditDelegate.h"
+
+#include <QObject>
+
+#include <memory>
+
+class AudioTrimWndController;
+class ID3EditWndController;
+class MainWndController;
+
+/// Opens the trim window and the tag window for the main window's commands and brings their results into the library.
+/// Main thread.
+class EditWindows : public QObject, public RecordingEditDelegate {
+    Q_OBJECT
+public:
+    /// @p main outlives it.
+    explicit EditWindows(MainWndController& main, QObject* parent = nullptr);
+    ~EditWindows() override;
+
+    /// Made when they are opened first.
+    [[nodiscard]] AudioTrimWndController& audioTrimWndController();
+    [[nodiscard]] ID3EditWndController& id3EditWndController();
+
+    void updateFile(const QString& path, const Dictionary& tags) override;
+    bool isFilePlaying(const QString& path) override;
+
+private:
+    MainWndController& main_;
+    std::unique_ptr<AudioTrimWndController> trim_;
+    std::unique_ptr<ID3EditWndController> tags_;
+};
