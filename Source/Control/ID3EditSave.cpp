@@ -52,7 +52,9 @@ Result save(const Dictionary& before, const Dictionary& edited, const Artwork& a
     QString own;
     if (artwork.kind == Artwork::Kind::Keep)
         picture = own = FileTags::artworkFile(path);
-    ID3ChangeControl::changeID3(path, path, edited, artwork.kind == Artwork::Kind::Default ? QString() : picture);
+    // Cover and texts are changed in place, and the name comes last: the recording never leaves its folder.
+    ID3ChangeControl::changeID3Artwork(path, path, artwork.kind == Artwork::Kind::Default ? QString() : picture);
+    (void)ID3ChangeControl::changeID3Info(path, edited);
     if (!own.isEmpty())
         (void)Platform::FileManager::removeFile(own);
 

@@ -23,6 +23,7 @@ public:
     ChildProcess& operator=(const ChildProcess&) = delete;
 
     [[nodiscard]] bool started() const { return pid_ > 0; }
+    [[nodiscard]] pid_t pid() const { return pid_; }
     /// Ends it without a chance to tidy up.
     void kill() {
         ::kill(pid_, SIGKILL);
