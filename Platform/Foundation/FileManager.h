@@ -27,15 +27,8 @@ using Problem = QString;
 /// Copies beside the target, syncs, renames; an existing target stays and fails the call unless @p replace.
 [[nodiscard]] Problem copy(const QString& from, const QString& to, bool replace = false);
 
-/// Gives the whole file @p from the name @p to, in place of a file that has it now: synced first, then renamed, so that
-/// one of the two stands there at every moment. Both lie in one folder. The mode of the replaced file is kept.
-[[nodiscard]] Problem replace(const QString& from, const QString& to);
-
 /// Returns when the content of a file, and its name, are on the disk.
 [[nodiscard]] Problem sync(const QString& path);
-
-/// A free hidden path beside @p target, with its ending: encoders and readers judge a file by it.
-[[nodiscard]] QString hiddenPathBeside(const QString& target);
 
 /// Whether some process has the file open for writing. False also when it cannot be told: another user's file, a file
 /// system without leases.

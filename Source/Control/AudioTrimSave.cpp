@@ -4,12 +4,14 @@
 
 #include "Platform/Desktop/Workspace.h"
 #include "Platform/Foundation/FileManager.h"
+#include "Platform/Foundation/ReplacementFile.h"
 #include "Source/Control/ConverterAudioControl.h"
 #include "Source/Control/FileTags.h"
 #include "Source/Control/ID3ChangeControl.h"
 #include "Source/Preferences/PreferenceStore.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QScopeGuard>
 
@@ -82,10 +84,9 @@ Result run(ConverterAudioControl& converter, const Task& task, const std::functi
     result.problem = refusal(task.source, task.from, task.to);
     if (!result.problem.isEmpty())
         return result;
-    // A library may hold a link: the file that it leads to is replaced, and the link stays.
-    const QFileInfo place(task.exportPath);
-    const QString canonical = task.replace && place.isSymLink() ? place.canonicalFilePath() : QString();
-    const QString target = canonical.isEmpty() ? task.exportPath : canonical;
+    using Platform::ReplacementFile;
+    ReplacementFile file(task.exportPath,
+                         task.replace ? ReplacementFile::Existing::Replaced : ReplacementFile::Existing::Kept);
 
     const QString temporary = g_strTmpPath + u"/TempExportTrimAudio.m4a"_s;
     (void)FileManager::removeFile(temporary);
@@ -94,7 +95,7 @@ Result run(ConverterAudioControl& converter, const Task& task, const std::functi
     if (!result.problem.isEmpty())
         return result;
 
-    const QString hidden = FileManager::hiddenPathBeside(target);
+    const QString& hidden = file.path();
     QString why;
     auto note = EditNote::begin(task.source, task.source, hidden, why);
     if (!note) {
@@ -108,23 +109,21 @@ Result run(ConverterAudioControl& converter, const Task& task, const std::functi
         (void)FileManager::removeFile(ownArtwork);
 
     if (!FileTags::agree(hidden, task.entry)) {
-        const qint64 room = FileManager::availableBytes(target);
+        const qint64 room = FileManager::availableBytes(file.target());
         result.problem = room >= 0 && room < QFileInfo(temporary).size()
                              ? text(QT_TRANSLATE_NOOP("AudioTrimSave", "There is no room left on the disk."))
                              : text(QT_TRANSLATE_NOOP("AudioTrimSave", "The tags could not be written."));
-    } else if (task.replace) {
-        result.problem = FileManager::replace(hidden, target);
     } else {
-        result.problem = FileManager::sync(hidden);
-        if (result.problem.isEmpty())
-            result.problem = FileManager::move(hidden, target);
+        if (task.replace && QFileInfo::exists(file.target()))
+            (void)QFile::setPermissions(hidden, QFile::permissions(file.target()));
+        if (const int error = file.commit(); error != 0)
+            result.problem = qt_error_string(error);
     }
     if (!result.problem.isEmpty()) {
-        (void)FileManager::removeFile(hidden);
         note->end();
         return result;
     }
-    Platform::noteFileSystemChanged(target);
+    Platform::noteFileSystemChanged(file.target());
     result.note = std::move(note);
     result.done = true;
     if (progress)

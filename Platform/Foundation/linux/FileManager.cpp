@@ -91,21 +91,6 @@ Problem copy(const QString& from, const QString& to, bool replace) {
                           replace ? ReplacementFile::Existing::Replaced : ReplacementFile::Existing::Kept));
 }
 
-Problem replace(const QString& from, const QString& to) {
-    const QByteArray source = QFile::encodeName(from);
-    const QByteArray target = QFile::encodeName(to);
-    const Descriptor file{::open(source.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NOCTTY)};
-    if (!file)
-        return words(errno);
-    struct stat there {};
-    if (stat(target.constData(), &there) == 0)
-        (void)fchmod(file.get(), there.st_mode & 07777);
-    if (fsync(file.get()) != 0 || rename(source.constData(), target.constData()) != 0)
-        return words(errno);
-    syncFolder(folderOf(target));
-    return {};
-}
-
 Problem sync(const QString& path) {
     const QByteArray name = QFile::encodeName(path);
     const Descriptor file{::open(name.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NOCTTY)};
@@ -113,12 +98,6 @@ Problem sync(const QString& path) {
         return words(errno);
     syncFolder(folderOf(name));
     return {};
-}
-
-QString hiddenPathBeside(const QString& target) {
-    const QFileInfo info(target);
-    const QString ending = info.suffix().isEmpty() ? QString() : u'.' + info.suffix();
-    return QFile::decodeName(hiddenNameIn(QFile::encodeName(info.path()))) + ending;
 }
 
 bool isOpenForWriting(const QString& path) {

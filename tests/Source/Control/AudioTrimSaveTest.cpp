@@ -95,9 +95,9 @@ TEST_F(TrimSave, CutsAtTheFramesOfTheRange) {
     };
     for (const int lag : {-2, -1, 1, 2})
         EXPECT_LT(differenceAt(0), differenceAt(lag)) << lag;
-    EXPECT_GT(MediaTest::signalToError(std::vector<float>(whole.rows[0].begin() + first + 4096,
-                                                          whole.rows[0].begin() + first + 140000),
-                                       std::vector<float>(cut.rows[0].begin() + 4096, cut.rows[0].begin() + 140000)),
+    EXPECT_GT(MediaTest::signalToError(
+                  std::vector<float>(whole.rows[0].begin() + first + 4096, whole.rows[0].begin() + first + 140000),
+                  std::vector<float>(cut.rows[0].begin() + 4096, cut.rows[0].begin() + 140000)),
               10);
 }
 
@@ -105,8 +105,7 @@ TEST_F(TrimSave, ReplacesTheRecordingWithItsTagsAndItsCover) {
     const Dictionary entry = recording(u"One"_s, 10);
     const QString cover = home_.filePath(u"cover.jpg"_s);
     ASSERT_TRUE(Mpeg4Files::noise(50).save(cover, "JPEG"));
-    ASSERT_TRUE(
-        Platform::BasicID3Change::copyWithArtwork(at(u"One.m4a"_s), cover, at(u"One.m4a"_s)).isEmpty());
+    ASSERT_TRUE(Platform::BasicID3Change::copyWithArtwork(at(u"One.m4a"_s), cover, at(u"One.m4a"_s)).isEmpty());
     ASSERT_TRUE(QFile::setPermissions(at(u"One.m4a"_s), QFile::ReadOwner | QFile::WriteOwner));
     auto result = save(task(entry, 2, 5));
     ASSERT_TRUE(result.done) << qPrintable(result.problem);
@@ -122,9 +121,10 @@ TEST_F(TrimSave, ReplacesTheRecordingWithItsTagsAndItsCover) {
 }
 
 TEST_F(TrimSave, WritesAnMp3BesideItselfInPlaceOfTheFileOfThatName) {
-    ASSERT_EQ(runTool(u"ffmpeg"_s, {u"-v"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine=d=10"_s, at(u"song.mp3"_s)})
-                  .status,
-              0);
+    ASSERT_EQ(
+        runTool(u"ffmpeg"_s, {u"-v"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine=d=10"_s, at(u"song.mp3"_s)})
+            .status,
+        0);
     const QByteArray before = Mpeg4Files::contentOf(at(u"song.mp3"_s));
     ASSERT_TRUE(Mpeg4Files::write(at(u"song.m4a"_s), "an older result"));
     const auto result = save(task(entryOf(at(u"song.mp3"_s), u"song"_s, 10), 2, 5));
@@ -160,8 +160,7 @@ TEST_F(TrimSave, FollowsALinkToTheFileThatItReplaces) {
 TEST_F(TrimSave, RefusesInOneSentence) {
     const Dictionary entry = recording(u"One"_s, 10);
     EXPECT_EQ(AudioTrimSave::refusal(at(u"gone.m4a"_s), 0, 5), u"The file “gone.m4a” is no longer there."_s);
-    EXPECT_EQ(AudioTrimSave::refusal(at(u"One.m4a"_s), 3, 3.05),
-              u"The range is shorter than a tenth of a second."_s);
+    EXPECT_EQ(AudioTrimSave::refusal(at(u"One.m4a"_s), 3, 3.05), u"The range is shorter than a tenth of a second."_s);
     EXPECT_EQ(AudioTrimSave::refusal(at(u"One.m4a"_s), 3, 5), QString());
     {
         QFile recorder(at(u"One.m4a"_s));

@@ -78,9 +78,8 @@ TEST_F(TagSave, KeepsTheCoverByteForByteOrReplacesItWithTheDefaultOne) {
 
 TEST_F(TagSave, AgreesInFileTagsAndEntryWhateverTheTitleIs) {
     Dictionary entry = recording(u"Track0"_s, 1);
-    for (const QString& title :
-         {u"$(touch x) `id` \"$HOME\""_s, u"%s%n%1%%"_s, u"a\\b'c"_s, u"a/b"_s, u"../../x"_s, u"שלום عليكم"_s,
-          QString(300, u'漢'), QString(83, u'漢'), u""_s, u"😀"_s}) {
+    for (const QString& title : {u"$(touch x) `id` \"$HOME\""_s, u"%s%n%1%%"_s, u"a\\b'c"_s, u"a/b"_s, u"../../x"_s,
+                                 u"שלום عليكم"_s, QString(300, u'漢'), QString(83, u'漢'), u""_s, u"😀"_s}) {
         auto result = ID3EditSave::save(entry, retitled(entry, title), {Kind::Keep, {}});
         entry = result.entry;
         const QString path = entry.value(AudioRecordEntry::SavePath).toString();
@@ -119,8 +118,9 @@ TEST_F(TagSave, SurvivesKillsAtAnyMoment) {
     Dictionary before = recording(u"Track0"_s, 20);
     const QByteArray sound = Mpeg4Files::audioOf(at(u"Track0.m4a"_s));
     const QString picture = cover();
-    const int longest =
-        timeOf([&] { return ID3EditSave::save(before, before, {Kind::Set, picture}).notice.isEmpty(); });
+    const int longest = timeOf([&] {
+        return ID3EditSave::save(before, before, {Kind::Set, picture}).notice.isEmpty();
+    });
     ASSERT_GT(longest, 0);
     startAnew();
     QRandomGenerator random(11);

@@ -33,10 +33,9 @@ TEST_F(Rename, GivesTheFileItsTitleAndKeepsTheEnding) {
 
 TEST_F(Rename, TakesTitlesThatAShellAFormatOrAPathCouldRead) {
     QString path = at(u"Track0.m4a"_s);
-    for (const QString& title :
-         {u"$(touch x) `id` $HOME"_s, u"%s%n %1 %2"_s, u"a\"b'c\\d"_s, u"; rm -rf . &"_s, u"..%2f..%2fx"_s, u"-rf"_s,
-          u"a\nb\tc"_s, u"*?[]{}~!#|<>^"_s, u"a:b"_s, u"."_s, u".."_s, u" "_s, u"שלום عليكم"_s, u"日本語 🎵"_s,
-          u"e\u0301"_s, QString(83, u'漢')}) {
+    for (const QString& title : {u"$(touch x) `id` $HOME"_s, u"%s%n %1 %2"_s, u"a\"b'c\\d"_s, u"; rm -rf . &"_s,
+                                 u"..%2f..%2fx"_s, u"-rf"_s, u"a\nb\tc"_s, u"*?[]{}~!#|<>^"_s, u"a:b"_s, u"."_s,
+                                 u".."_s, u" "_s, u"שלום عليكم"_s, u"日本語 🎵"_s, u"e\u0301"_s, QString(83, u'漢')}) {
         const auto renamed = RecordingRename::rename(path, title);
         EXPECT_EQ(renamed.notice, QString()) << qPrintable(title);
         EXPECT_EQ(renamed.path, folder_.path() + u'/' + title + u".m4a"_s) << qPrintable(title);
@@ -73,7 +72,8 @@ TEST_F(Rename, NeverTakesTheNameOfAnotherFile) {
     for (const QString& title : {u"Taken"_s, u"Link"_s}) {
         const auto renamed = RecordingRename::rename(at(u"Track0.m4a"_s), title);
         EXPECT_EQ(renamed.path, at(u"Track0.m4a"_s));
-        EXPECT_TRUE(renamed.notice.contains(u"there is already a file named “"_s + title)) << qPrintable(renamed.notice);
+        EXPECT_TRUE(renamed.notice.contains(u"there is already a file named “"_s + title))
+            << qPrintable(renamed.notice);
     }
     EXPECT_EQ(Mpeg4Files::contentOf(at(u"Taken.m4a"_s)), "another one");
     EXPECT_EQ(Mpeg4Files::contentOf(at(u"Track0.m4a"_s)), "the recording");
