@@ -117,8 +117,15 @@ bool BuildInAudioRecord::exchangeM4aFile(const QString& path, std::function<void
                                          std::int64_t framesBefore) {
     const Platform::CyclesHeld held(audioUnit_.get());
     finishCut();
-    if (!outputM4a_.writer)
-        return setOutPutAudioPath(path, 1);
+    if (!outputM4a_.writer) {
+        const QString oldPath = outputM4aFilePath();
+        if (!setOutPutAudioPath(path, 1))
+            return false;
+        // There is nothing to close, but the caller waits for the report.
+        if (closed)
+            closed(oldPath, noErr);
+        return true;
+    }
     auto writer = createWriter(path, 1);
     if (!writer)
         return false;
@@ -153,9 +160,10 @@ void BuildInAudioRecord::finishCut() {
         outputM4a_.clientFormat = actualOutputFormat_;
     }
     framesAccepted_ = 0;
-    if (!old)
-        return;
-    disposeLater(*old, cut.oldPath, std::move(cut.closed));
+    if (old)
+        disposeLater(*old, cut.oldPath, std::move(cut.closed));
+    else if (cut.closed)
+        cut.closed(cut.oldPath, noErr);
 }
 
 void BuildInAudioRecord::closeExportFile() {

@@ -418,6 +418,20 @@ TEST_F(BuildInAudioRecordTest, GoesOnIntoTheOldFileWhenTheNextCannotBeMade) {
     EXPECT_EQ(state().holds, 0);
 }
 
+TEST_F(BuildInAudioRecordTest, ReportsAnExchangeWithoutAnOldFileAsClosed) {
+    ASSERT_TRUE(engine.configureAudioUnit(7));
+    media.createFails = true;
+    EXPECT_FALSE(engine.setOutPutAudioPath(path(), 1));
+    media.createFails = false;
+    engine.startRecordAudio();
+    QStringList closed;
+    EXPECT_TRUE(engine.exchangeM4aFile(path("next.m4a"), [&](const QString& old, OSStatus) { closed << old; }));
+    EXPECT_EQ(closed, QStringList{path()}) << "who waits for it would wait for ever";
+    unit().feedValue(0.5F, 10);
+    EXPECT_EQ(media.last().path, path("next.m4a"));
+    EXPECT_EQ(media.last().framesAccepted, 10);
+}
+
 TEST_F(BuildInAudioRecordTest, MayExchangeItsFileInsideACycle) {
     struct Splitter : BuildInAudioRecordDelegate {
         BuildInAudioRecord* engine = nullptr;
