@@ -5,6 +5,7 @@
 void SilenceSplitter::measure(float level, std::uint64_t now, bool recording) {
     if (lastTime_ == 0 || now < lastTime_)
         lastTime_ = now;
+    isSilent_ = recording && !(level >= AudibleLevel);
     if (level >= AudibleLevel) {
         computerAudioNullTimeMs_ = 0;
     } else if (recording) {
@@ -29,7 +30,7 @@ bool SilenceSplitter::soundBegins(float level) {
 }
 
 bool SilenceSplitter::wantsCut(std::int32_t splitTimeMS, bool inputOn) const {
-    if (splitTimeMS < 0 || !isOnlyComputerAudioRecording_ || inputOn)
+    if (splitTimeMS < 0 || !isSilent_ || !isOnlyComputerAudioRecording_ || inputOn)
         return false;
     return computerAudioNullTimeMs_ >= std::int64_t{splitTimeMS};
 }

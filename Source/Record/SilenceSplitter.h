@@ -25,8 +25,8 @@ public:
     void measure(float level, std::uint64_t now, bool recording);
     /// Whether this level ends the waiting. From then on the silences of the recording count for cuts.
     bool soundBegins(float level);
-    /// Whether the silence so far asks for a cut. A negative time means that cuts are off; with the input device on
-    /// there are none either.
+    /// Whether the silence so far asks for a cut. Only a silent cycle of the recording is cut at, also with a time of
+    /// 0. A negative time means that cuts are off; with the input device on there are none either.
     [[nodiscard]] bool wantsCut(std::int32_t splitTimeMS, bool inputOn) const;
     /// The stream was interrupted: the time that went by was no silence.
     void restartClock() { lastTime_ = 0; }
@@ -35,6 +35,7 @@ public:
 private:
     std::uint64_t lastTime_ = 0;
     std::int64_t computerAudioNullTimeMs_ = 0;
+    bool isSilent_ = false; ///< the last cycle was recorded and silent
     bool isWaittingComputerAudioRecord_ = false;
     bool isOnlyComputerAudioRecording_ = false;
 };
