@@ -104,7 +104,7 @@ int run(const QStringList& given) {
         return fail(why);
     if (!takeSources(arguments, preferences, task, why))
         return fail(why);
-    const QString folder = preferences.value(PreferenceSavePathKey, defaultMusicFolder()).toString();
+    const QString folder = folderOf(preferences.value(PreferenceSavePathKey, defaultMusicFolder()));
     if (why = whyNotWritable(folder); !why.isEmpty())
         return fail(why);
     // Not the folder of the window: its next launch wipes that.

@@ -7,6 +7,8 @@
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/UserDefaults.h"
 
+#include <QDir>
+
 std::atomic<std::int32_t> g_SplitTimeMS{-1};
 QString g_strTmpPath;
 
@@ -23,6 +25,11 @@ void setPreferenceValue(const QVariant& object, const QString& key) {
 
 QString defaultMusicFolder() {
     return Platform::Folders::home() + QStringLiteral("/Music/%1").arg(Platform::services().bundle->bundleIdentifier());
+}
+
+QString folderOf(const QVariant& stored) {
+    const QString path = stored.typeId() == QMetaType::QString ? stored.toString() : QString();
+    return QDir::isAbsolutePath(path) ? path : defaultMusicFolder();
 }
 
 std::int32_t storedSplitTimeMS() {

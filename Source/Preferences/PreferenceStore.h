@@ -39,6 +39,9 @@ void setPreferenceValue(const QVariant& object, const QString& key);
 
 /// $HOME/Music/<bundle identifier>, evaluated afresh at each call.
 [[nodiscard]] QString defaultMusicFolder();
+/// The folder that a stored value names. A value that is no text, is empty or is no absolute path gives
+/// defaultMusicFolder(): a relative one would depend on where the program was started.
+[[nodiscard]] QString folderOf(const QVariant& stored);
 
 /// -1 when splitting is off, else the leading integer of the stored time: what g_SplitTimeMS is set to at launch.
 [[nodiscard]] std::int32_t storedSplitTimeMS();

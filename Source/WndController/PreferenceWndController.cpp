@@ -45,9 +45,7 @@ QString storedTime(const QString& key, const QString& defaultTime) {
 }
 
 QString storedFolder(const QString& key) {
-    const QVariant stored = preferenceValueForKey(key, defaultMusicFolder());
-    const bool usable = stored.typeId() == QMetaType::QString && !stored.toString().isEmpty();
-    return usable ? stored.toString() : defaultMusicFolder();
+    return folderOf(preferenceValueForKey(key, defaultMusicFolder()));
 }
 
 // Selects the item with this title. One that is not offered is put among the others by its number, so that closing the
