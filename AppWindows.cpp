@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AppWindows.h"
 
-#include "Platform/Desktop/SleepInhibitor.h"
 #include "Platform/Foundation/Services.h"
 #include "Source/CDBurn/CDBurnWndController.h"
 #include "Source/Control/EditNote.h"
@@ -39,7 +38,7 @@ struct ShortcutCommand {
 /// The real windows. Panels and alerts are dialogs from here on.
 class ProgramWindows : public AppDelegate::Windows {
 public:
-    ProgramWindows() : inhibitor_(Platform::createSleepInhibitor()) {
+    ProgramWindows() {
         auto& services = Platform::services();
         Theme::install(*qApp, services.colorScheme);
         services.alerts = &alerts_;
@@ -82,9 +81,6 @@ public:
         // Not quit(): that asks each window first, and the main window never closes.
         QObject::connect(window.get(), &MainWndController::terminateRequested, &application,
                          [] { QCoreApplication::exit(0); });
-        QObject::connect(record_.get(), &RecordStateController::stateChanged, window.get(), [this] {
-            inhibitor_->setInhibited(record_->isStateAudioRecord(), QObject::tr("A recording is running."));
-        });
         return window;
     }
 
@@ -136,7 +132,6 @@ private:
     QtAlerts alerts_;
     QtPanels panels_;
     QtFocusProbe focusProbe_;
-    std::unique_ptr<Platform::SleepInhibitor> inhibitor_;
     std::unique_ptr<RecordStateController> record_;
 };
 

@@ -5,6 +5,7 @@
 #include "Platform/Audio/AudioHardware.h"
 #include "Platform/Audio/IORegistry.h"
 #include "Platform/Audio/PrivateSession.h"
+#include "Platform/Desktop/SleepInhibitor.h"
 #include "Platform/Desktop/linux/LinuxAdminShell.h"
 #include "Platform/Desktop/linux/LinuxDesktop.h"
 #include "Platform/Desktop/linux/LinuxHotKeys.h"
@@ -33,6 +34,7 @@ struct LinuxServices::Private {
     std::unique_ptr<Workspace> workspace;
     std::unique_ptr<Alerts> alerts;
     std::unique_ptr<AdminShell> adminShell;
+    std::unique_ptr<SleepInhibitor> sleepInhibitor;
     std::unique_ptr<ColorScheme> colorScheme;
     std::unique_ptr<HotKeys> hotKeys;
     std::unique_ptr<AudioHardware> audioHardware;
@@ -54,6 +56,7 @@ void LinuxServices::install(Mode mode) {
     set.workspace = (d->workspace = createWorkspace()).get();
     set.alerts = (d->alerts = createCommandLineAlerts()).get();
     set.adminShell = (d->adminShell = createAdminShell()).get();
+    set.sleepInhibitor = (d->sleepInhibitor = createSleepInhibitor()).get(); // connects when something is recorded
     if (mode == Mode::CommandLine)
         return;
     set.colorScheme = (d->colorScheme = createColorScheme()).get();

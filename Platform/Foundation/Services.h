@@ -22,6 +22,7 @@ class ColorScheme;
 class FocusProbe;
 class DiscRecording;
 class DiskArbitration;
+class SleepInhibitor;
 
 /// The process's set of system services: the one global. main() installs the Linux set, a test puts its doubles in
 /// front with a ServicesScope. The members are not owned. Set up before any thread that uses it starts.
@@ -42,6 +43,7 @@ struct Services {
     FocusProbe* focusProbe = nullptr;
     DiscRecording* discRecording = nullptr;
     DiskArbitration* diskArbitration = nullptr;
+    SleepInhibitor* sleepInhibitor = nullptr;
 };
 
 [[nodiscard]] Services& services();
