@@ -3,6 +3,7 @@
 #include "Platform/Desktop/linux/LinuxDesktop.h"
 
 #include "tests/support/Environment.h"
+#include "tests/support/PrivateBus.h"
 #include "tests/support/WaitFor.h"
 
 #include <gtest/gtest.h>
@@ -42,27 +43,6 @@ struct WorkspaceTest : testing::Test {
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         return file.fileName();
     }
-};
-
-/// A bus of the test's own.
-class PrivateBus {
-public:
-    explicit PrivateBus(const QString& folder) {
-        daemon_.start(QStringLiteral("dbus-daemon"),
-                      {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address"),
-                       QStringLiteral("--address=unix:dir=") + folder});
-        if (waitFor([this] { return daemon_.canReadLine(); }))
-            address_ = QString::fromUtf8(daemon_.readLine().trimmed());
-    }
-    ~PrivateBus() {
-        daemon_.kill();
-        daemon_.waitForFinished();
-    }
-    [[nodiscard]] QString address() const { return address_; }
-
-private:
-    QProcess daemon_;
-    QString address_;
 };
 
 /// A file manager on the bus.
