@@ -11,7 +11,6 @@
 #include "Platform/Foundation/UserDefaults.h"
 #include "Source/Preferences/PreferenceStore.h"
 #include "Source/ProcessRequests/MediaLibraryRequests.h"
-#include "Source/Record/CutOffRecordings.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -55,7 +54,6 @@ bool AppDelegate::applicationDidFinishLaunching() {
 
     ToolControl::showWindowNib(*mainWndController_);
     setupSystemStatusBar();
-    CutOffRecordings::keepAtExit();
     if (!running_.listen([this](const QByteArray& request) { return answer(request); }))
         qWarning("commands and further launches cannot reach this window: %s", qUtf8Printable(running_.lastError()));
     return true;

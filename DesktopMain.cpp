@@ -13,6 +13,7 @@
 #include "Platform/Foundation/TerminationSignals.h"
 #include "Platform/LinuxServices.h"
 #include "Source/ProcessRequests/Launch.h"
+#include "Source/Record/CutOffRecordings.h"
 
 #include <QApplication>
 #include <QProgressDialog>
@@ -80,6 +81,8 @@ int runWindows(int argc, char** argv) {
         break;
     }
 
+    // Before the windows: they end the recording first, and the lock is released after both.
+    const CutOffRecordings::Keeper keepCutOffRecordings;
     const auto windows = createAppWindows();
     QString why;
     if (!services.startAudio(why, [waiting = std::make_shared<WaitingForServer>()] { return waiting->goOn(); }))

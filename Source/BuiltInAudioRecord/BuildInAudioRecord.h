@@ -106,10 +106,10 @@ public:
     [[nodiscard]] virtual Platform::MediaError writeError() const;
     /// Exchanges the M4A writer for a new one at @p path in the midst of a recording: no frame is lost or repeated
     /// between the two files. Returns at once; the old file is closed on its own thread, then @p closed is called there
-    /// with the old path and its status. @p framesBefore of the frames that come next still belong to the old file, so
-    /// that two devices can be cut at one time; framesAccepted() is 0 until they have come. Allowed on the engine's I/O
-    /// thread; cycles of other engines must be held by the caller. False when the new file could not be made: then
-    /// recording goes on into the old one.
+    /// with the old path and its status; when no file was open, it is called before this returns. @p framesBefore of
+    /// the frames that come next still belong to the old file, so that two devices can be cut at one time;
+    /// framesAccepted() is 0 until they have come. Allowed on the engine's I/O thread; cycles of other engines must be
+    /// held by the caller. False when the new file could not be made: then recording goes on into the old one.
     virtual bool exchangeM4aFile(const QString& path, std::function<void(QString oldPath, OSStatus)> closed,
                                  std::int64_t framesBefore = 0);
     /// The same at one capture time, which may fall inside a cycle: two devices pause together, though the answers and
@@ -217,4 +217,16 @@ private:
     /// waits. A cycle takes it only where a recording begins or a file is exchanged.
     mutable std::mutex mutex_;
     std::unique_ptr<Platform::InputUnit> audioUnit_; // closed first: until then cycles use the rest
+};
+
+/// Keeps one engine from beginning a cycle while it lives. Its unit must not be exchanged meanwhile.
+class HeldCycles {
+public:
+    explicit HeldCycles(BuildInAudioRecord& engine) : engine_(engine) { engine_.holdCycles(); }
+    ~HeldCycles() { engine_.releaseCycles(); }
+    HeldCycles(const HeldCycles&) = delete;
+    HeldCycles& operator=(const HeldCycles&) = delete;
+
+private:
+    BuildInAudioRecord& engine_;
 };

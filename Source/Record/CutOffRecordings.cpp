@@ -3,34 +3,75 @@
 #include "Source/Record/CutOffRecordings.h"
 
 #include "Platform/Foundation/MovedFiles.h"
-#include "Source/Preferences/PreferenceStore.h"
 
-#include <QDir>
+#include <QFileInfo>
+#include <QStringList>
 
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
-
-using namespace Qt::StringLiterals;
+#include <mutex>
 
 namespace CutOffRecordings {
 namespace {
 
-void keep() {
-    // The files may still grow: a writer that holds one goes on in it under its new name.
-    const QDir folder(g_strTmpPath);
-    for (const QFileInfo& file : folder.entryInfoList({u"BuiltInA*"_s, u"ComputerA*"_s}, QDir::Files)) {
-        if (file.size() == 0 || Platform::MovedFiles::isKept(file.filePath()))
-            continue;
-        const QString kept = Platform::MovedFiles::setAside(file.filePath(), file.fileName());
-        std::fprintf(stderr, "sonaphex: ended in the middle of a recording: it is kept in %s\n", qUtf8Printable(kept));
-    }
+struct Files {
+    std::mutex mutex;
+    QStringList paths;
+};
+
+/// Never destroyed: exit() may run keep() after the destructors of static objects.
+Files& files() {
+    static auto* const all = new Files;
+    return *all;
+}
+
+std::atomic<bool> keepsAtExit{false};
+
+void atExit() {
+    if (keepsAtExit)
+        keep();
 }
 
 } // namespace
 
-void keepAtExit() {
-    static const int registered = std::atexit(keep); // once, however often this is called
+void add(const QString& path) {
+    Files& all = files();
+    const std::scoped_lock lock(all.mutex);
+    if (!all.paths.contains(path))
+        all.paths.append(path);
+}
+
+void remove(const QString& path) {
+    Files& all = files();
+    const std::scoped_lock lock(all.mutex);
+    all.paths.removeAll(path);
+}
+
+void keep() {
+    QStringList paths;
+    {
+        Files& all = files();
+        const std::scoped_lock lock(all.mutex);
+        paths.swap(all.paths);
+    }
+    for (const QString& path : paths) {
+        if (!QFileInfo::exists(path))
+            continue;
+        const QString kept = Platform::MovedFiles::setAside(path, QFileInfo(path).fileName());
+        std::fprintf(stderr, "sonaphex: ended in the middle of a recording: it is kept in %s\n", qUtf8Printable(kept));
+    }
+}
+
+Keeper::Keeper() {
+    static const int registered = std::atexit(atExit);
     Q_UNUSED(registered)
+    keepsAtExit = true;
+}
+
+Keeper::~Keeper() {
+    keepsAtExit = false;
+    keep();
 }
 
 } // namespace CutOffRecordings

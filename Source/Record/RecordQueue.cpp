@@ -10,6 +10,7 @@
 #include "Source/Control/ID3ChangeControl.h"
 #include "Source/Control/ToolControl.h"
 #include "Source/Model/AudioRecordEntry.h"
+#include "Source/Record/CutOffRecordings.h"
 
 #include <QFileInfo>
 #include <QThread>
@@ -34,6 +35,13 @@ QString reason(const MediaError& error) {
     return error.text.isEmpty() ? u"the reason is unknown"_s : error.text;
 }
 
+/// Deletes a file whose sound another file holds by now.
+void removeTemporaryFile(const QString& path) {
+    CutOffRecordings::remove(path);
+    if (const auto problem = Platform::FileManager::removeFile(path); !problem.isEmpty())
+        qWarning("%s stays in the temporary folder: %s", qUtf8Printable(path), qUtf8Printable(problem));
+}
+
 /// Where files were kept, for a sentence.
 QString places(const QStringList& kept) {
     const QString folder = Platform::FileManager::unfinishedFolder();
@@ -47,14 +55,15 @@ QString places(const QStringList& kept) {
 
 ExportJob::Timing ExportJob::timing() const {
     Timing timing;
-    if (builtInSpan.firstHostTime == 0 || computerSpan.firstHostTime == 0)
+    const auto& [builtIn, computer] = timings;
+    if (builtIn.span.firstHostTime == 0 || computer.span.firstHostTime == 0)
         return timing;
-    const double later = (double(computerSpan.firstHostTime) - double(builtInSpan.firstHostTime)) / 1e9;
+    const double later = (double(computer.span.firstHostTime) - double(builtIn.span.firstHostTime)) / 1e9;
     (later > 0 ? timing.computerOffset : timing.builtInOffset) = std::abs(later);
-    if (builtInSpan.measuredRate > 0 && computerSpan.measuredRate > 0 && sampleRateBuiltIn > 0 &&
-        sampleRateComputer > 0) {
+    if (builtIn.span.measuredRate > 0 && computer.span.measuredRate > 0 && builtIn.sampleRate > 0 &&
+        computer.sampleRate > 0) {
         const double speed =
-            (computerSpan.measuredRate / sampleRateComputer) / (builtInSpan.measuredRate / sampleRateBuiltIn);
+            (computer.span.measuredRate / computer.sampleRate) / (builtIn.span.measuredRate / builtIn.sampleRate);
         if (std::abs(speed - 1) < LargestDrift)
             timing.computerSpeed = speed;
     }
@@ -80,6 +89,7 @@ RecordQueue::~RecordQueue() {
             const QString ending = key == ExportJob::OutPutWAVTempPath ? u".wav"_s : u".m4a"_s;
             qWarning("%s was not finished and is kept at %s", qUtf8Printable(name),
                      qUtf8Printable(Platform::MovedFiles::setAside(file, name + ending)));
+            CutOffRecordings::remove(file);
         }
     }
 }
@@ -181,6 +191,7 @@ bool RecordQueue::deliver(const std::shared_ptr<ExportJob>& job, const QString& 
             u"%1 could not be saved in %2: %3."_s.arg(QFileInfo(wished).fileName(), QFileInfo(wished).path(), problem));
         return false;
     }
+    CutOffRecordings::remove(file);
     if (landed != wished) {
         owner_.releaseName(wished);
         job->paths.insert(ExportJob::OutPutPath, landed);
@@ -216,6 +227,7 @@ void RecordQueue::openMovies(const std::shared_ptr<ExportJob>& job) {
         const QString good = first ? raws.at(0) : raws.at(1);
         if (QFileInfo(bad).size() > 0) {
             const QString kept = Platform::MovedFiles::setAside(bad, QFileInfo(bad).fileName());
+            CutOffRecordings::remove(bad);
             onMain([this, name, kept, why = reason(first ? secondError : firstError)] {
                 Q_EMIT noticed(
                     u"One source of %1 could not be read (%2). It is kept at %3."_s.arg(name, why, places({kept})));
@@ -262,6 +274,7 @@ void RecordQueue::converterMovie(const std::shared_ptr<ExportJob>& job) {
         setAside(job, raws, u"%1 could not be mixed: %2."_s.arg(name, reason(error)));
         return;
     }
+    CutOffRecordings::add(wave);
     if (damage)
         keepDamaged(*job, {ExportJob::BuiltInAudioTempPath, ExportJob::ComputerAudioTempPath}, damage);
     onMain([this, job] { startConverterAudio(job); });
@@ -271,8 +284,7 @@ void RecordQueue::startConverterAudio(const std::shared_ptr<ExportJob>& job) {
     // The WAVE is whole: the raw files have done their part, unless they were kept.
     for (const auto& key : {ExportJob::BuiltInAudioTempPath, ExportJob::ComputerAudioTempPath})
         if (const QString raw = job->path(key); !raw.isEmpty())
-            if (const auto problem = Platform::FileManager::removeFile(raw); !problem.isEmpty())
-                qWarning("%s stays in the temporary folder: %s", qUtf8Printable(raw), qUtf8Printable(problem));
+            removeTemporaryFile(raw);
     onWorker([this, job] { converterAudio(job); });
 }
 
@@ -298,10 +310,11 @@ void RecordQueue::converterAudio(const std::shared_ptr<ExportJob>& job) {
         setAside(job, {wave}, u"%1 could not be encoded: %2."_s.arg(name, reason(error ? error : damage)));
         return;
     }
+    CutOffRecordings::add(encoded);
     if (damage)
         keepDamaged(*job, {ExportJob::OutPutWAVTempPath}, damage);
-    else if (const auto problem = Platform::FileManager::removeFile(wave); !problem.isEmpty())
-        qWarning("%s stays in the temporary folder: %s", qUtf8Printable(wave), qUtf8Printable(problem));
+    else
+        removeTemporaryFile(wave);
     if (deliver(job, encoded))
         onMain([this, job] { finishConverter(*job); });
 }
@@ -322,6 +335,7 @@ QStringList RecordQueue::keepFiles(const ExportJob& job, const QStringList& file
         else
             name += u".m4a"_s;
         kept.append(Platform::MovedFiles::setAside(file, name));
+        CutOffRecordings::remove(file);
     }
     return kept;
 }
@@ -358,7 +372,7 @@ void RecordQueue::finishConverter(const ExportJob& job) {
     const QString finalPath = job.path(ExportJob::OutPutPath);
     const float length = ToolControl::getAudioLength(finalPath);
     Dictionary tags;
-    if (job.brokenOff || !owner_.filter().drops(length)) {
+    if (job.isKeptHoweverShort || !owner_.filter().drops(length)) {
         tags = initID3BasicInfoDic();
         tags.insert(AudioRecordEntry::Length, double(length));
         tags.insert(AudioRecordEntry::Title, QFileInfo(finalPath).completeBaseName());

@@ -10,6 +10,7 @@
 #include <QObject>
 #include <QThreadPool>
 
+#include <array>
 #include <atomic>
 #include <deque>
 #include <functional>
@@ -24,11 +25,14 @@ struct ExportJob {
     static inline const QString OutPutWAVTempPath = QStringLiteral("OutPutWAVTempPath");
 
     Dictionary paths; ///< under the keys above; a source that was off has none
-    BuildInAudioRecord::CaptureSpan builtInSpan;
-    BuildInAudioRecord::CaptureSpan computerSpan;
-    double sampleRateBuiltIn = 0;
-    double sampleRateComputer = 0;
-    bool brokenOff = false;        ///< a full disk ended it: however short, it is no recording that the user made short
+    /// Where the raw file of a source stands in time.
+    struct SourceTiming {
+        BuildInAudioRecord::CaptureSpan span;
+        double sampleRate = 0; ///< Hz
+    };
+    std::array<SourceTiming, 2> timings; ///< of the input device and of computer audio
+    /// A full disk or a lost device ended it: the filter does not measure what the user did not make short.
+    bool isKeptHoweverShort = false;
     std::atomic<int> openFiles{0}; ///< raw files that are still being closed; the job starts when there are none
 
     [[nodiscard]] QString path(const QString& key) const { return paths.value(key).toString(); }

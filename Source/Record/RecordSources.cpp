@@ -23,19 +23,6 @@ AudioObjectID idOf(const QVariant& device) {
     return device.toMap().value(BuildInAudioRecord::DeviceIDKey).toUInt();
 }
 
-/// No cut of the computer-audio recording begins: one uses the units of both engines, and may come while the window
-/// shows none running.
-class Held {
-public:
-    explicit Held(BuildInAudioRecord& engine) : engine_(engine) { engine_.holdCycles(); }
-    ~Held() { engine_.releaseCycles(); }
-    Held(const Held&) = delete;
-    Held& operator=(const Held&) = delete;
-
-private:
-    BuildInAudioRecord& engine_;
-};
-
 void warnOfUsbHeadset() {
     if (auto* alerts = Platform::services().alerts)
         alerts->runModal(u"Waring:"_s,
@@ -115,7 +102,8 @@ void RecordSources::configAudioDevice(int index) {
 }
 
 void RecordSources::bindChosen() {
-    const Held held(computerAudioRecord_);
+    // A cut of the computer-audio recording uses the units of both engines, and may come while the window shows none.
+    const HeldCycles held(computerAudioRecord_);
     const QVariant device = aryInputAudioDevice_.at(selected_);
     boundDevice_ = idOf(device);
     if (chosenDevice_ == 0)
@@ -189,7 +177,7 @@ void RecordSources::followDevices() {
         if (idOf(devices.at(i)) == chosenDevice_)
             selected_ = int(i);
     if (selected_ < 0) {
-        const Held held(computerAudioRecord_);
+        const HeldCycles held(computerAudioRecord_);
         boundDevice_ = 0;
         buildInAudioRecord_.cleanUp();
     } else if (idOf(devices.at(selected_)) != boundDevice_) {

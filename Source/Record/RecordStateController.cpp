@@ -3,6 +3,7 @@
 #include "Source/Record/RecordStateController.h"
 
 #include "Platform/Desktop/Alerts.h"
+#include "Platform/Desktop/SleepInhibitor.h"
 #include "Platform/Foundation/Clock.h"
 #include "Platform/Foundation/MainQueue.h"
 #include "Platform/Foundation/Services.h"
@@ -31,6 +32,7 @@ void RecordStateControllerDelegate::addRecordFile(const QString& path, const Dic
 
 RecordStateController::RecordStateController(EngineFactory factory, QObject* parent)
     : QObject(parent), d(std::make_unique<Private>(this)) {
+    d->namesWorker.setMaxThreadCount(1);
     const auto make = [&factory] { return factory ? factory() : std::make_unique<BuildInAudioRecord>(); };
     d->builtIn.engine = make();
     d->builtIn.label = u"The input device"_s;
@@ -43,10 +45,7 @@ RecordStateController::RecordStateController(EngineFactory factory, QObject* par
 
     RecordQueue::Owner owner;
     owner.nextFreeName = [this] { return getAudioRecordPath(); };
-    owner.releaseName = [this](const QString& path) {
-        const std::scoped_lock lock(d->mutex);
-        d->names.release(path);
-    };
+    owner.releaseName = [this](const QString& path) { d->names.release(path); };
     owner.addRecordFile = [this](const QString& path, const Dictionary& tags) {
         d->delegate->addRecordFile(path, tags);
     };
@@ -63,17 +62,21 @@ RecordStateController::RecordStateController(EngineFactory factory, QObject* par
 }
 
 RecordStateController::~RecordStateController() {
-    d->alive.reset();
     d->devices.reset();
-    // Cycles use the engines through our pointers: they must have ended before a pointer is null. What is still being
-    // recorded joins the queue, and what waits there is set aside.
-    if (d->anyEngineRecords())
-        d->stopRecord();
-    d->builtIn.engine->cleanUp();
+    // What is still being recorded joins the queue; what waits in the queue is set aside when it ends.
+    d->endWhatAStopLeft();
+    {
+        // A cut on the computer-audio engine's I/O thread holds the cycles of the other one, and so uses its unit.
+        const HeldCycles held(*d->computer.engine);
+        d->builtIn.engine->cleanUp();
+    }
     d->computer.engine->cleanUp();
-    d->builtIn.engine.reset();
-    d->computer.engine.reset();
+    // Cycles use the engines through these pointers: all of them have ended by now.
+    for (RecordSource& source : d->sources)
+        source.engine.reset();
     d->queue.reset();
+    if (auto* inhibitor = Platform::services().sleepInhibitor)
+        inhibitor->setInhibited(false, {});
 }
 
 void RecordStateController::setDelegate(RecordStateControllerDelegate* delegate) {
@@ -86,11 +89,11 @@ void RecordStateController::setPreferences(RecordPreferences* preferences) {
 
 void RecordStateController::awakeFromNib() {
     setIsRecordPause_(false);
-    for (RecordSource* source : {&d->builtIn, &d->computer}) {
-        source->engine->setDelegate(this);
-        source->engine->setIsecordComputerAudio_(source == &d->computer);
-        source->engine->setEventHandler(
-            [this, source](Platform::InputUnit::Event event) { d->deviceEvent(event, *source); });
+    d->computer.engine->setIsecordComputerAudio_(true);
+    for (RecordSource& source : d->sources) {
+        source.engine->setDelegate(this);
+        source.engine->setEventHandler(
+            [this, &source](Platform::InputUnit::Event event) { d->deviceEvent(event, source); });
     }
     d->devices = std::make_unique<RecordSources>(*d->builtIn.engine, *d->computer.engine);
     connect(d->devices.get(), &RecordSources::devicesChanged, this, &RecordStateController::devicesChanged);
@@ -119,7 +122,6 @@ void RecordStateController::refreshTheFace() {
     d->popUpEnabled_ = d->builtIn.checked;
     d->computer.checked = d->devices->computerAudioDeviceID() != 0 &&
                           Platform::boolValue(d->preferences->value(ChooseRecordComputerAudio, false));
-    d->startEnabled_ = canRecord();
     d->changed();
 }
 
@@ -128,7 +130,6 @@ void RecordStateController::chooseRecordBuiltIn(bool on) {
     d->builtIn.off = false;
     d->popUpEnabled_ = on;
     d->preferences->setValue(on, ChooseRecordBuiltIn);
-    d->startEnabled_ = canRecord();
     d->changed();
 }
 
@@ -149,7 +150,6 @@ void RecordStateController::chooseRecordComputerAudio(bool on) {
     d->computer.checked = on && present;
     d->computer.off = false;
     d->preferences->setValue(bool(d->computer.checked), ChooseRecordComputerAudio);
-    d->startEnabled_ = canRecord();
     d->changed();
 }
 
@@ -173,16 +173,20 @@ int RecordStateController::recordState_() const {
     return d->computer.takesPart() ? d->computer.engine->recordStatus() : 0;
 }
 
+RecordState RecordStateController::state() const {
+    return d->state;
+}
+
 bool RecordStateController::isStateAudioCanStartRecord() const {
-    return d->startEnabled_ && !d->finishing_;
+    return canRecord() && d->state != RecordState::Finishing;
 }
 
 bool RecordStateController::isStateAudioRecord() const {
-    return d->active_;
+    return d->isActive();
 }
 
 bool RecordStateController::isStateAudioRecordPause() const {
-    return d->active_;
+    return d->isActive();
 }
 
 bool RecordStateController::isRecordPause_() const {
@@ -216,11 +220,11 @@ bool RecordStateController::isShowWaveRecordFullTime() const {
 }
 
 bool RecordStateController::splitEnabled() const {
-    return d->active_;
+    return d->isActive();
 }
 
 bool RecordStateController::sourcesEnabled() const {
-    return !d->active_;
+    return !d->isActive();
 }
 
 bool RecordStateController::popUpEnabled() const {
@@ -236,19 +240,19 @@ bool RecordStateController::computerAudioChecked() const {
 }
 
 QString RecordStateController::startToolTip() const {
-    return d->stopShown_ ? u"Stop Record"_s : u"Start Record"_s;
+    return d->isActive() ? u"Stop Record"_s : u"Start Record"_s;
 }
 
 QString RecordStateController::startImage() const {
-    return d->stopShown_ ? u"RecorderStop.png"_s : u"RecorderStart.png"_s;
+    return d->isActive() ? u"RecorderStop.png"_s : u"RecorderStart.png"_s;
 }
 
 QString RecordStateController::startPressedImage() const {
-    return d->stopShown_ ? u"RecorderStopDown.png"_s : u"RecorderStartDown.png"_s;
+    return d->isActive() ? u"RecorderStopDown.png"_s : u"RecorderStartDown.png"_s;
 }
 
 QString RecordStateController::pauseToolTip() const {
-    return d->resumeTip_ ? u"Resume Record"_s : u"Pause Record"_s;
+    return d->isRecordPause_ ? u"Resume Record"_s : u"Pause Record"_s;
 }
 
 QString RecordStateController::pauseImage() const {
@@ -354,7 +358,16 @@ void RecordStateController::Private::onMain(std::function<void()> work) {
 }
 
 void RecordStateController::Private::changed() {
-    onMain([this] { Q_EMIT q->stateChanged(); });
+    onMain([this] {
+        keepAwake();
+        Q_EMIT q->stateChanged();
+    });
+}
+
+/// The machine must not sleep while an engine records, whatever the buttons show, nor while a wait for sound is on.
+void RecordStateController::Private::keepAwake() {
+    if (auto* inhibitor = Platform::services().sleepInhibitor)
+        inhibitor->setInhibited(isActive() || anyEngineRecords(), tr("A recording is running."));
 }
 
 /// Always later: it is also said with the mutex locked, and who hears of it asks for the state.
@@ -374,21 +387,31 @@ void RecordStateController::Private::notice(const QString& text, const QString& 
     });
 }
 
-void RecordStateController::Private::deviceEvent(Platform::InputUnit::Event event, const RecordSource& source) {
+void RecordStateController::Private::deviceEvent(Platform::InputUnit::Event event, RecordSource& source) {
     using Event = Platform::InputUnit::Event;
-    const bool records = source.engine->recordStatus() != 0;
-    if (event == Event::DeviceLost || event == Event::ServerLost) {
-        if (!records)
-            return;
-        notice(event == Event::DeviceLost
-                   ? u"%1 went away. What was recorded so far is kept; the recording goes on when it is back."_s.arg(
-                         source.label)
-                   : u"The sound server went away. What was recorded so far is kept; the recording goes on when it "
-                     u"is back."_s);
-    } else if (event == Event::DeviceReturned || event == Event::ServerReturned) {
-        if (records)
-            notice(u"%1 is back."_s.arg(source.label));
+    const bool isLoss = event == Event::DeviceLost || event == Event::ServerLost;
+    if (!isLoss && event != Event::DeviceReturned && event != Event::ServerReturned)
+        return;
+    bool records = false;
+    bool waits = false;
+    {
+        const std::scoped_lock lock(mutex);
+        records = source.engine->recordStatus() != 0;
+        waits = !records && state == RecordState::Armed && source.takesPart();
+        source.away = isLoss;
+        if (isLoss && records)
+            source.wasAway = true;
     }
+    if (!records && !waits)
+        return;
+    if (!isLoss) {
+        notice(u"%1 is back."_s.arg(source.label));
+        return;
+    }
+    const QString what = event == Event::DeviceLost ? source.label : u"The sound server"_s;
+    notice(waits
+               ? u"%1 went away. The wait for the first sound goes on when it is back."_s.arg(what)
+               : u"%1 went away. What was recorded so far is kept; the recording goes on when it is back."_s.arg(what));
 }
 
 void RecordStateController::Private::showLosses() {

@@ -12,6 +12,10 @@
 #include <functional>
 #include <memory>
 
+/// What the user's recording does. Armed waits for the first sound of computer audio; Finishing turns the last raw
+/// files into recordings while the program ends.
+enum class RecordState { Idle, Armed, Recording, Paused, Finishing };
+
 /// What the recording side asks of those around it. All calls on the main thread.
 class RecordStateControllerDelegate {
 public:
@@ -86,6 +90,9 @@ public:
     void setDisplayClockRunning(bool running);
 
     // The state.
+    /// As the buttons show it. A wait for sound that a stop has left may record while this is Idle: recordState_()
+    /// tells.
+    [[nodiscard]] RecordState state() const;
     /// 0 nothing is recorded, 1 it is, 2 it is paused.
     [[nodiscard]] int recordState_() const;
     [[nodiscard]] bool isStateAudioCanStartRecord() const;
@@ -121,7 +128,8 @@ public:
     [[nodiscard]] int jobsInQueue() const;
     /// Share of the job at hand, 0 to 1; below 0 when there is none.
     [[nodiscard]] double jobProgress() const;
-    /// Seconds of frames written since the start, over all files of splits; with two sources, of the shorter one.
+    /// Seconds of frames written since the start, over all files of splits; with two sources, of the shorter one. A
+    /// source whose device is lost does not count beside one that delivers.
     [[nodiscard]] double recordedSeconds() const;
     /// Ends the writing of each source with the cycle in which it reaches this many seconds since the start, over all
     /// files of splits: never fewer, and no cycle more. 0 is no limit. Before a start; holds until it is changed.

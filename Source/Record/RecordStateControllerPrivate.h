@@ -9,8 +9,10 @@
 #include "Source/Record/RecordingNames.h"
 #include "Source/Record/SilenceSplitter.h"
 
+#include <QThreadPool>
 #include <QTimer>
 
+#include <array>
 #include <mutex>
 
 /// One of the two things that can be recorded, with its engine.
@@ -21,30 +23,17 @@ struct RecordSource {
     QString jobKey;                   ///< under which a job carries the raw file
     std::atomic<bool> checked{false}; ///< the check box
     std::atomic<bool> off{false};     ///< its engine did not start: this recording goes without it
-    std::atomic<bool> hasFile{false}; ///< the engine writes to a raw file
+    std::atomic<bool> hasFile{false}; ///< the engine has a raw file to write to
+    std::atomic<bool> heard{false};   ///< the raw file holds at least one frame
     std::int64_t framesBefore = 0;    ///< frames to come that still belong to the file of before a cut
+    bool away = false;                ///< the device or the server is lost at present; guarded by the mutex
+    bool wasAway = false;             ///< it was lost while the file at hand was recorded; guarded by the mutex
 
     [[nodiscard]] bool takesPart() const { return checked && !off; }
-};
-
-/// Keeps both engines from beginning a cycle. Taken before the mutex, never while it is held: an I/O thread that is
-/// waited for may want the mutex.
-class CycleHold {
-public:
-    CycleHold(BuildInAudioRecord& one, BuildInAudioRecord& other) : one_(one), other_(other) {
-        one_.holdCycles();
-        other_.holdCycles();
-    }
-    ~CycleHold() {
-        other_.releaseCycles();
-        one_.releaseCycles();
-    }
-    CycleHold(const CycleHold&) = delete;
-    CycleHold& operator=(const CycleHold&) = delete;
-
-private:
-    BuildInAudioRecord& one_;
-    BuildInAudioRecord& other_;
+    /// Whether the engine records or is paused, and has a file.
+    [[nodiscard]] bool writes() const { return hasFile && engine->recordStatus() != 0; }
+    /// Of the file at hand.
+    [[nodiscard]] double seconds() const;
 };
 
 /// What a recording lacks.
@@ -56,6 +45,9 @@ struct RecordLosses {
 struct RecordStateController::Private {
     explicit Private(RecordStateController* controller) : q(controller) {}
 
+    /// Numbers the raw files; never begins anew in a process. Changed under a controller's mutex.
+    static inline std::atomic<int> recordNum{0};
+
     RecordStateController* q;
     RecordStateControllerDelegate defaultDelegate;
     RecordStateControllerDelegate* delegate = &defaultDelegate;
@@ -63,33 +55,31 @@ struct RecordStateController::Private {
     RecordPreferences* preferences = &storedPreferences;
 
     std::unique_ptr<RecordQueue> queue; ///< outlives the engines: their files report to it
-    RecordSource builtIn;
-    RecordSource computer;
+    std::array<RecordSource, 2> sources;
+    RecordSource& builtIn = sources[0];
+    RecordSource& computer = sources[1];
     std::unique_ptr<RecordSources> devices;
     QTimer recordTimerForTime_;
-    std::shared_ptr<int> alive = std::make_shared<int>(0);
+    /// Posted work asks whether it expired. I/O threads copy it, so it changes only with the whole object.
+    const std::shared_ptr<int> alive = std::make_shared<int>(0);
 
+    std::atomic<RecordState> state{RecordState::Idle};
+    std::atomic<bool> isRecordPause_{false};
     std::atomic<float> builtInLevelValue_{0};
     std::atomic<float> computerLevelValue_{0};
     std::atomic<float> fRecordTime_{0};
-    std::atomic<bool> isRecordPause_{false};
-    std::atomic<bool> resumeTip_{false}; ///< the pause button's tool tip offers to resume
-    std::atomic<bool> active_{false};    ///< the pause button's enabled state
     std::atomic<int> dropped_{0};
     std::atomic<double> closedSeconds_{0}; ///< of the files that splits have closed
     std::atomic<double> limit_{0};         ///< seconds of a recording, 0 without end
-
-    std::mutex mutex; ///< guards the next four; never held while an I/O thread is waited for
-    SilenceSplitter splitter;
-    RecordLosses lostBefore_; ///< of the recording that ended last
-    QString audioRecordPath_;
     RecordingNames names;
 
+    std::mutex mutex; ///< guards the next three; never held while an I/O thread is waited for
+    SilenceSplitter splitter;
+    RecordLosses lostBefore_; ///< of the recording that ended last
+    QString audioRecordPath_; ///< of the recording at hand; empty when a job has taken it over
+
     // Main thread only.
-    bool startEnabled_ = false;
     bool popUpEnabled_ = true;
-    bool finishing_ = false; ///< the program is ending: what would begin now would be cut off
-    bool stopShown_ = false; ///< the start button shows "Stop Record"
     RecordDisplay display_;
     QString convertTip_;
     QStringList notices_;
@@ -101,33 +91,46 @@ struct RecordStateController::Private {
     void changed();
     /// @param replaces the notice that this one brings up to date, if any
     void notice(const QString& text, const QString& replaces = {});
-    void deviceEvent(Platform::InputUnit::Event event, const RecordSource& source);
+    void deviceEvent(Platform::InputUnit::Event event, RecordSource& source);
     void showLosses();
+    void keepAwake();
 
-    void setFinishing(bool finishing);
+    /// Whether the buttons show a recording: it is armed, recording or paused.
+    [[nodiscard]] bool isActive() const;
+    void changeState(RecordState from, RecordState to);
     void isRecordingFlushTheFace(bool recording);
     void startRecord();
     void stopRecord();
     void leaveUnheardRecording();
     void forgetLeftWait();
+    void endWhatAStopLeft();
+    void forgetWait();
     void pauseRecord();
     void resumeRecord();
     void setPaused(bool paused);
     void cut(bool automatic);
     [[nodiscard]] bool anyEngineRecords() const;
+    [[nodiscard]] double secondsAtHand() const;
     [[nodiscard]] RecordLosses engineLosses() const;
-    void keepToLimit(RecordSource& source);
+    void followCycle(RecordSource& source);
 
+    /// How the file of one source ends.
+    struct FileEnding {
+        bool tooShort = false; ///< the filter drops the recording because of it
+        bool unheard = false;  ///< it has no frame, and the recording goes without it
+        [[nodiscard]] bool isDeleted() const { return tooShort || unheard; }
+    };
     /// What a stop or a cut leaves behind.
     struct Ending {
         std::shared_ptr<ExportJob> job;
-        bool builtInTooShort = false;
-        bool computerTooShort = false;
-        [[nodiscard]] bool drops() const { return builtInTooShort || computerTooShort; }
+        std::array<FileEnding, 2> files; ///< in the order of the sources
+        [[nodiscard]] bool drops() const;
+        /// Whether no source had a file.
+        [[nodiscard]] bool isEmpty() const;
     };
 
+    [[nodiscard]] QString recordFolder() const;
     // With cycles held and the mutex locked.
-    [[nodiscard]] QString reserveName();
     [[nodiscard]] static QString rawPath(const RecordSource& source);
     void beginFile(RecordSource& source, bool record);
     [[nodiscard]] Ending describeEnding();
@@ -137,4 +140,18 @@ struct RecordStateController::Private {
     bool exchangeFiles(Ending& ending);
     void armAnew();
     void endFiles(const Ending& ending, std::unique_lock<std::mutex>& lock);
+    void nameNextFile();
+
+    QThreadPool namesWorker; ///< destroyed first: waits for the search at hand
+};
+
+/// Keeps both engines from beginning a cycle. Taken before the mutex, never while it is held: an I/O thread that is
+/// waited for may want the mutex.
+class CycleHold {
+public:
+    explicit CycleHold(std::array<RecordSource, 2>& sources) : one_(*sources[0].engine), other_(*sources[1].engine) {}
+
+private:
+    HeldCycles one_;
+    HeldCycles other_;
 };

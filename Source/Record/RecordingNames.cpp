@@ -10,6 +10,10 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <charconv>
+#include <filesystem>
+#include <set>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -22,6 +26,29 @@ bool isTaken(const QString& path) {
 
 QString inFolder(const QString& folder, const QString& name) {
     return folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
+}
+
+QString trackPath(const QString& folder, int number) {
+    return inFolder(folder, u"Track%1.m4a"_s.arg(number));
+}
+
+/// The numbers of all tracks in a folder, from one reading of it: to ask for each name in turn takes seconds for
+/// thousands of tracks on a share.
+std::set<int> numbersTaken(const QString& folder) {
+    std::set<int> numbers;
+    std::error_code error;
+    std::filesystem::directory_iterator entry(QFile::encodeName(folder).toStdString(), error);
+    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+        const std::string name = entry->path().filename().string();
+        if (!name.starts_with("Track") || !name.ends_with(".m4a"))
+            continue;
+        int number = 0;
+        const char* const end = name.data() + name.size() - 4;
+        const auto parsed = std::from_chars(name.data() + 5, end, number);
+        if (parsed.ec == std::errc() && parsed.ptr == end)
+            numbers.insert(number);
+    }
+    return numbers;
 }
 
 /// Where the markers of a user's processes lie. Not beside the recordings: a crash would leave litter there.
@@ -42,40 +69,80 @@ RecordingNames::~RecordingNames() {
         marker.removeAndRelease();
 }
 
-QString RecordingNames::getAudioRecordPath(const QString& folder) {
+QString RecordingNames::getAudioRecordPath(const QString& folder, const QString& own) {
     QDir().mkpath(folder);
-    const QString base = inFolder(folder, u"Track"_s);
-    for (int n = 0;; ++n) {
-        const QString candidate = base + QString::number(n) + u".m4a"_s;
-        if (!isTaken(candidate) && reserve(candidate))
-            return candidate;
+    const std::set<int> taken = numbersTaken(folder);
+    for (int number = 0;; ++number) {
+        const QString candidate = trackPath(folder, number);
+        const bool isOwn = candidate == own;
+        if (taken.contains(number) || (!isOwn && !reserve(candidate)))
+            continue;
+        // The reading may be old by now, and names that differ in case only may be one file.
+        if (isTaken(candidate)) {
+            if (!isOwn)
+                release(candidate);
+            continue;
+        }
+        const std::scoped_lock lock(mutex_);
+        nextFolder_ = folder;
+        nextNumber_ = number + 1;
+        return candidate;
     }
 }
 
+QString RecordingNames::nextAudioRecordPath(const QString& folder) {
+    int number = 0;
+    {
+        const std::scoped_lock lock(mutex_);
+        if (nextFolder_ == folder)
+            number = nextNumber_;
+    }
+    QString path = trackPath(folder, number);
+    while (!reserve(path))
+        path = trackPath(folder, ++number);
+    const std::scoped_lock lock(mutex_);
+    nextFolder_ = folder;
+    nextNumber_ = number + 1;
+    return path;
+}
+
 bool RecordingNames::reserve(const QString& path) {
+    const std::scoped_lock lock(mutex_);
     if (reserved_.contains(path))
         return false;
     Platform::FileLock marker;
     // When no marker can be made, the list of this process has to do.
     if (marker.take(markerFor(path)) == Platform::FileLock::Result::Elsewhere)
         return false;
-    // Another process may have finished its recording of this name before the marker was ours.
-    if (isTaken(path)) {
-        marker.removeAndRelease();
-        return false;
-    }
     reserved_.emplace(path, std::move(marker));
     return true;
 }
 
 void RecordingNames::release(const QString& path) {
-    if (const auto found = reserved_.find(path); found != reserved_.end()) {
-        found->second.removeAndRelease();
-        reserved_.erase(found);
-    }
+    const std::scoped_lock lock(mutex_);
+    (void)end(path);
+}
+
+bool RecordingNames::end(const QString& path) {
+    const auto found = reserved_.find(path);
+    if (found == reserved_.end())
+        return false;
+    found->second.removeAndRelease();
+    reserved_.erase(found);
+    return true;
+}
+
+void RecordingNames::giveBack(const QString& path) {
+    const std::scoped_lock lock(mutex_);
+    if (!end(path))
+        return;
+    for (int number = 0; number < nextNumber_; ++number)
+        if (trackPath(nextFolder_, number) == path)
+            nextNumber_ = number;
 }
 
 QStringList RecordingNames::aryForRecordedAudioPath() const {
+    const std::scoped_lock lock(mutex_);
     QStringList paths;
     for (const auto& [path, marker] : reserved_)
         paths.append(path);

@@ -8,9 +8,11 @@
 #include <QStringList>
 
 #include <map>
+#include <mutex>
 
 /// Hands out names for new files. A recording's name is reserved until it is released: within this object by a list,
-/// against other processes of the user by a marker file, which ends with its process. No lock of its own.
+/// against other processes of the user by a marker file, which ends with its process. Any thread. No lock is held while
+/// the folder is read, so a folder on a slow share keeps only the caller waiting.
 class RecordingNames {
 public:
     RecordingNames();
@@ -19,10 +21,17 @@ public:
     RecordingNames& operator=(const RecordingNames&) = delete;
 
     /// The first of Track0.m4a, Track1.m4a, … in @p folder that neither exists nor is reserved; reserved from now on.
-    /// The folder is made when it is missing; one that cannot be made does not fail the call.
-    [[nodiscard]] QString getAudioRecordPath(const QString& folder);
-    /// Gives a reserved name back; others are left alone.
+    /// The folder is made when it is missing; one that cannot be made does not fail the call. A reserved name @p own
+    /// counts as free: when it is the first free one, it is the answer.
+    [[nodiscard]] QString getAudioRecordPath(const QString& folder, const QString& own = {});
+    /// A reserved name without a look at the folder, for a thread that must not wait for a disk: the next number after
+    /// those that getAudioRecordPath() found taken. A file may have that name by now; getAudioRecordPath() with the
+    /// name as @p own tells.
+    [[nodiscard]] QString nextAudioRecordPath(const QString& folder);
+    /// Ends a reservation, when its file is there or goes elsewhere. Other names are left alone.
     void release(const QString& path);
+    /// release() for a name that got no file: nextAudioRecordPath() may hand it out again.
+    void giveBack(const QString& path);
     [[nodiscard]] QStringList aryForRecordedAudioPath() const;
 
     /// The first of Ringtone.m4r, Ringtone1.m4r, … in @p folder that does not exist. Not reserved.
@@ -30,6 +39,11 @@ public:
 
 private:
     [[nodiscard]] bool reserve(const QString& path);
+    /// Ends a reservation with the mutex locked. False when there is none.
+    [[nodiscard]] bool end(const QString& path);
 
+    mutable std::mutex mutex_; ///< guards what follows
+    QString nextFolder_;       ///< the folder of nextNumber_
+    int nextNumber_ = 0;       ///< all numbers below were taken or reserved when they were looked at last
     std::map<QString, Platform::FileLock> reserved_; ///< with their markers; not held when none could be made
 };

@@ -4,10 +4,36 @@
 // Recordings of computer audio alone: the wait for the first sound and the cuts at silences.
 #include "tests/Source/Record/RecordFixture.h"
 
+#include <sys/stat.h>
+#include <thread>
+
 using namespace Qt::StringLiterals;
 
 namespace {
-class ArmedRecordTest : public RecordFixture {};
+
+class ArmedRecordTest : public RecordFixture {
+protected:
+    /// Frames in all raw files, and in those of them that became recordings.
+    [[nodiscard]] std::int64_t framesWritten() const {
+        std::int64_t frames = 0;
+        for (const auto& file : media.files)
+            frames += file->framesAccepted;
+        return frames;
+    }
+    [[nodiscard]] std::int64_t framesInRecordings() const {
+        std::int64_t frames = 0;
+        for (const QString& path : delegate.paths) {
+            struct stat status {};
+            if (::stat(QFile::encodeName(path).constData(), &status) != 0)
+                continue;
+            for (const auto& file : media.files)
+                if (file->inode == status.st_ino)
+                    frames += file->framesAccepted;
+        }
+        return frames;
+    }
+};
+
 } // namespace
 
 TEST_F(ArmedRecordTest, TheFileBeginsWithTheCycleOfTheFirstSound) {
@@ -199,6 +225,44 @@ TEST_F(ArmedRecordTest, SilenceClosesTheFileAndBeginsTheNextAtOnce) {
     EXPECT_TRUE(waitFor([this] { return rawFiles().isEmpty(); }));
 }
 
+TEST_F(ArmedRecordTest, APartThatASilenceBeginsIsNamedWithoutAWait) {
+    beginWithComputerAudioOnly();
+    setFilter(false);
+    g_SplitTimeMS = 300;
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0.25F, 1);
+    // Somebody else makes a file of the name that the next part would have.
+    QDir().mkpath(folder());
+    QFile(track(1)).open(QIODevice::WriteOnly);
+    play(ComputerAudio, 0, 0.3);
+    play(ComputerAudio, 0.25F, 1);
+    play(ComputerAudio, 0, 0.3);
+    controller->startAndStopRecord();
+    ASSERT_TRUE(queueDone());
+    // The parts follow each other so fast here that a later one may be named first.
+    ASSERT_EQ(delegate.paths.size(), 3);
+    EXPECT_EQ(delegate.paths.front(), track(0));
+    EXPECT_NE(delegate.paths.at(1), delegate.paths.at(2));
+    EXPECT_FALSE(delegate.paths.contains(track(1))) << "the other file stays";
+    EXPECT_EQ(framesInRecordings(), framesWritten());
+}
+
+TEST_F(ArmedRecordTest, ThePartAfterADroppedOneKeepsItsReservedName) {
+    beginWithComputerAudioOnly();
+    setFilter(true, u"1"_s);
+    g_SplitTimeMS = 300;
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0.25F, 0.1);
+    play(ComputerAudio, 0, 0.3);
+    ASSERT_EQ(media.files.size(), 2U);
+    EXPECT_EQ(controller->droppedRecordings(), 1);
+    EXPECT_EQ(controller->getAudioRecordPath(), track(1)) << "the part that is recorded has the first name";
+    play(ComputerAudio, 0.25F, 2);
+    controller->startAndStopRecord();
+    ASSERT_TRUE(queueDone());
+    EXPECT_EQ(delegate.paths, QStringList{track(0)});
+}
+
 TEST_F(ArmedRecordTest, EverySilenceBetweenSongsIsCutOnce) {
     beginWithComputerAudioOnly();
     g_SplitTimeMS = 300;
@@ -299,4 +363,126 @@ TEST_F(ArmedRecordTest, ACutThatFailsGoesOnInTheOldFileAndTriesOnceASilence) {
     EXPECT_EQ(media.files.size(), 2U);
     ASSERT_TRUE(queueDone());
     EXPECT_EQ(delegate.paths, QStringList{track(0)});
+}
+
+TEST_F(ArmedRecordTest, ASplitTimeOfZeroCutsNoSound) {
+    beginWithComputerAudioOnly();
+    g_SplitTimeMS = 0;
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0.25F, 1);
+    EXPECT_EQ(media.files.size(), 1U);
+    play(ComputerAudio, 0, 0.01);
+    EXPECT_EQ(media.files.size(), 2U) << "the first silent cycle cuts";
+    play(ComputerAudio, 0, 1);
+    EXPECT_EQ(media.files.size(), 2U) << "one silence is cut once";
+    play(ComputerAudio, 0.25F, 1);
+    EXPECT_EQ(media.files.size(), 2U);
+}
+
+TEST_F(ArmedRecordTest, AStoredSplitTimeThatIsNoNumberCutsNoSound) {
+    defaults.setObject(PreferenceStore::PreferenceSplitKey, 1);
+    defaults.setObject(PreferenceStore::PreferenceSplitTimeMSKey, u"soon"_s);
+    beginWithComputerAudioOnly();
+    g_SplitTimeMS = PreferenceStore::storedSplitTimeMS();
+    ASSERT_EQ(g_SplitTimeMS, 0);
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0.25F, 1);
+    EXPECT_EQ(media.files.size(), 1U);
+}
+
+TEST_F(ArmedRecordTest, APauseIsNotEndedByASplitTimeOfZero) {
+    beginWithComputerAudioOnly();
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0.25F, 1);
+    controller->pauseAndResumeRecord();
+    g_SplitTimeMS = 0;
+    play(ComputerAudio, 0, 1);
+    EXPECT_EQ(controller->recordState_(), 2);
+    EXPECT_EQ(media.files.size(), 1U);
+}
+
+namespace {
+
+/// Hears something at the moment in which its cycles are to be held.
+struct HeardAtTheHold : BuildInAudioRecord {
+    void holdCycles() override {
+        if (sound)
+            std::exchange(sound, {})();
+        BuildInAudioRecord::holdCycles();
+    }
+    std::function<void()> sound;
+};
+
+} // namespace
+
+TEST_F(ArmedRecordTest, ASoundInTheMomentOfTheNextStartHasAnOwner) {
+    addComputerAudio();
+    setFilter(false);
+    defaults.setObject(PreferenceStore::ChooseRecordBuiltIn, false);
+    defaults.setObject(PreferenceStore::ChooseRecordComputerAudio, true);
+    HeardAtTheHold* computer = nullptr;
+    controller = std::make_unique<RecordStateController>([&computer] {
+        auto engine = std::make_unique<HeardAtTheHold>();
+        computer = engine.get();
+        return engine;
+    });
+    controller->setDelegate(&delegate);
+    controller->awakeFromNib();
+    controller->setDisplayClockRunning(false);
+    controller->startAndStopRecord();
+    controller->startAndStopRecord();
+    computer->sound = [this] { play(ComputerAudio, 0.25F, 1); };
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0.25F, 2);
+    controller->startAndStopRecord();
+    ASSERT_TRUE(queueDone());
+    // Either the wait had ended, or what it recorded is a recording of its own: no file holds sound without an owner.
+    EXPECT_EQ(framesInRecordings(), framesWritten());
+    EXPECT_EQ(delegate.paths.value(0), track(0)) << "no name is lost";
+    EXPECT_TRUE(rawFiles().isEmpty());
+    controller.reset();
+}
+
+TEST_F(ArmedRecordTest, ASoundInTheMomentOfTheEndIsFinished) {
+    addComputerAudio();
+    setFilter(false);
+    defaults.setObject(PreferenceStore::ChooseRecordBuiltIn, false);
+    defaults.setObject(PreferenceStore::ChooseRecordComputerAudio, true);
+    /// Hears a sound when it was just asked whether it records.
+    struct Engine : BuildInAudioRecord {
+        [[nodiscard]] int recordStatus() const override {
+            const int status = BuildInAudioRecord::recordStatus();
+            if (status == 0 && sound)
+                std::exchange(sound, {})();
+            return status;
+        }
+        mutable std::function<void()> sound;
+    };
+    Engine* computer = nullptr;
+    controller = std::make_unique<RecordStateController>([&computer] {
+        auto engine = std::make_unique<Engine>();
+        computer = engine.get();
+        return engine;
+    });
+    controller->setDelegate(&delegate);
+    controller->awakeFromNib();
+    controller->setDisplayClockRunning(false);
+    controller->startAndStopRecord();
+    std::thread hearing;
+    // From another thread, as an I/O thread is one: it may have to wait until the question is settled.
+    std::atomic<bool> heard{false};
+    computer->sound = [this, &hearing, &heard] {
+        hearing = std::thread([this, &heard] {
+            play(ComputerAudio, 0.25F, 1);
+            heard = true;
+        });
+        for (int waits = 0; waits < 100 && !heard; ++waits)
+            QThread::msleep(1);
+    };
+    controller->finishAll();
+    ASSERT_TRUE(hearing.joinable());
+    hearing.join();
+    EXPECT_EQ(framesInRecordings(), framesWritten());
+    EXPECT_EQ(controller->recordState_(), 0) << "nothing is left that the end cuts off";
+    controller.reset();
 }

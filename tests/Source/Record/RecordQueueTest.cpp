@@ -85,29 +85,29 @@ TEST_F(RecordQueueTest, SourcesAreLaidOverEachOtherByTheirCaptureTimes) {
 
 TEST(ExportJobTiming, TheSourceThatBeganLaterPlaysLater) {
     ExportJob job;
-    job.builtInSpan = {2'500'000'000, 0};
-    job.computerSpan = {2'000'000'000, 0};
+    job.timings[0].span = {2'500'000'000, 0};
+    job.timings[1].span = {2'000'000'000, 0};
     EXPECT_DOUBLE_EQ(job.timing().builtInOffset, 0.5);
     EXPECT_DOUBLE_EQ(job.timing().computerOffset, 0);
 }
 
 TEST(ExportJobTiming, ClocksThatDifferAreMadeToAgree) {
     ExportJob job;
-    job.builtInSpan = {1'000'000'000, 48000.0};
-    job.computerSpan = {1'000'000'000, 44100.0 * (1 + 1e-4)};
-    job.sampleRateBuiltIn = 48000;
-    job.sampleRateComputer = 44100;
+    job.timings[0].span = {1'000'000'000, 48000.0};
+    job.timings[1].span = {1'000'000'000, 44100.0 * (1 + 1e-4)};
+    job.timings[0].sampleRate = 48000;
+    job.timings[1].sampleRate = 44100;
     EXPECT_NEAR(job.timing().computerSpeed, 1 + 1e-4, 1e-12);
 }
 
 TEST(ExportJobTiming, AMeasurementThatCannotBeTrueIsNotUsed) {
     ExportJob job;
-    job.builtInSpan = {1'000'000'000, 48000.0};
-    job.computerSpan = {1'000'000'000, 50000.0};
-    job.sampleRateBuiltIn = 48000;
-    job.sampleRateComputer = 48000;
+    job.timings[0].span = {1'000'000'000, 48000.0};
+    job.timings[1].span = {1'000'000'000, 50000.0};
+    job.timings[0].sampleRate = 48000;
+    job.timings[1].sampleRate = 48000;
     EXPECT_DOUBLE_EQ(job.timing().computerSpeed, 1);
-    job.computerSpan = {};
+    job.timings[1].span = {};
     EXPECT_DOUBLE_EQ(job.timing().computerOffset, 0);
     EXPECT_DOUBLE_EQ(job.timing().builtInOffset, 0);
 }

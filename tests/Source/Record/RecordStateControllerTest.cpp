@@ -316,6 +316,20 @@ TEST_F(RecordStateControllerTest, TheDefaultFolderIsTheMusicFolder) {
     EXPECT_EQ(controller->getAudioRecordPath(), home.filePath(u"Music/com.korvane.Sonaphex/Track0.m4a"_s));
 }
 
+TEST_F(RecordStateControllerTest, AStoredFolderThatIsNoFolderGivesTheMusicFolder) {
+    addMicrophone();
+    begin();
+    for (const QVariant& stored : {QVariant(u""_s), QVariant(12), QVariant(QByteArray("x")), QVariant(QVariantList{1}),
+                                   QVariant(u"relative/folder"_s)}) {
+        defaults.setObject(PreferenceStore::PreferenceSavePathKey, stored);
+        defaults.setObject(PreferenceStore::PreferenceRingtoneSavePathKey, stored);
+        const QString music = home.filePath(u"Music/com.korvane.Sonaphex"_s);
+        EXPECT_TRUE(controller->getAudioRecordPath().startsWith(music + u"/Track"_s)) << stored.typeName();
+        EXPECT_EQ(controller->nextRingtoneMakerFilePath(), music + u"/Ringtone.m4r"_s) << stored.typeName();
+    }
+    EXPECT_FALSE(QFileInfo::exists(u"/Track0.m4a"_s));
+}
+
 TEST_F(RecordStateControllerTest, TheMeterAlternatesBetweenTwoSources) {
     beginWithBoth();
     controller->clientRecievedBuiltInAudioData(0.25F);

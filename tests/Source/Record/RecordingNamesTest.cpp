@@ -76,6 +76,49 @@ TEST_F(RecordingNamesTest, GivesANameEvenWhenTheFolderCannotBeMade) {
     EXPECT_EQ(names.getAudioRecordPath(within), within + QStringLiteral("/Track0.m4a"));
 }
 
+TEST_F(RecordingNamesTest, GivesTheNextNameWithoutALookAtTheFolder) {
+    RecordingNames names;
+    EXPECT_EQ(names.getAudioRecordPath(folder()), track(0));
+    make(track(1));
+    EXPECT_EQ(names.nextAudioRecordPath(folder()), track(1)) << "a look would have found the file";
+    EXPECT_EQ(names.nextAudioRecordPath(folder()), track(2));
+    const QString other = home.filePath(QStringLiteral("other"));
+    EXPECT_EQ(names.nextAudioRecordPath(other), other + QStringLiteral("/Track0.m4a"));
+    EXPECT_FALSE(QFileInfo::exists(other));
+}
+
+TEST_F(RecordingNamesTest, ANameOfOurOwnIsTheAnswerWhenItIsTheFirstFreeOne) {
+    RecordingNames names;
+    EXPECT_EQ(names.getAudioRecordPath(folder()), track(0));
+    const QString own = names.nextAudioRecordPath(folder());
+    EXPECT_EQ(names.getAudioRecordPath(folder(), own), own);
+    make(own);
+    EXPECT_EQ(names.getAudioRecordPath(folder(), own), track(2)) << "a file came to stand there";
+    names.release(track(0));
+    EXPECT_EQ(names.getAudioRecordPath(folder(), own), track(0)) << "a freed number comes first";
+}
+
+TEST_F(RecordingNamesTest, ANameThatGotNoFileIsNextAgain) {
+    RecordingNames names;
+    const QString first = names.getAudioRecordPath(folder());
+    const QString second = names.nextAudioRecordPath(folder());
+    names.giveBack(first);
+    EXPECT_EQ(names.nextAudioRecordPath(folder()), first);
+    EXPECT_EQ(names.nextAudioRecordPath(folder()), track(2)) << second.toStdString() << " is still reserved";
+    names.giveBack(track(7));
+    EXPECT_EQ(names.nextAudioRecordPath(folder()), track(3));
+}
+
+TEST_F(RecordingNamesTest, OnlyNumbersAsTheyAreWrittenHereAreTaken) {
+    for (const char* name : {"Track0.m4a", "Track02.m4a", "Track1x.m4a", "Track1.m4r", "Track-1.m4a", "Track.m4a",
+                             "Track99999999999999999999.m4a"})
+        make(folder() + u'/' + QString::fromLatin1(name));
+    QDir().mkpath(track(2));
+    RecordingNames names;
+    EXPECT_EQ(names.getAudioRecordPath(folder()), track(1));
+    EXPECT_EQ(names.getAudioRecordPath(folder()), track(3)) << "a folder takes its name as well";
+}
+
 TEST_F(RecordingNamesTest, NumbersRingtonesFromTheSecondOn) {
     EXPECT_EQ(RecordingNames::nextRingtoneMakerFilePath(folder()), folder() + QStringLiteral("/Ringtone.m4r"));
     make(folder() + QStringLiteral("/Ringtone.m4r"));

@@ -1,0 +1,276 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The raw files of a recording: how they begin, are cut and end. Here it is decided which recordings the filter drops.
+#include "Platform/Foundation/FileManager.h"
+#include "Source/Record/CutOffRecordings.h"
+#include "Source/Record/RecordStateControllerPrivate.h"
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+using Platform::FileManager::removeFile;
+
+namespace {
+
+/// Nanoseconds that one of two devices may be behind the other at a cut.
+constexpr std::uint64_t FurthestBehind = 250'000'000;
+
+} // namespace
+
+double RecordSource::seconds() const {
+    const double rate = engine->sampleRate();
+    return rate > 0 ? double(engine->framesAccepted() + framesBefore) / rate : 0;
+}
+
+bool RecordStateController::Private::Ending::drops() const {
+    return std::ranges::any_of(files, &FileEnding::tooShort);
+}
+
+bool RecordStateController::Private::Ending::isEmpty() const {
+    return !job->paths.contains(ExportJob::OutPutWAVTempPath);
+}
+
+QString RecordStateController::Private::recordFolder() const {
+    return PreferenceStore::folderOf(
+        preferences->value(PreferenceStore::PreferenceSavePathKey, PreferenceStore::defaultMusicFolder()));
+}
+
+QString RecordStateController::Private::rawPath(const RecordSource& source) {
+    return g_strTmpPath + source.rawName + QString::number(recordNum) + u".m4a"_s;
+}
+
+/// Opens the next raw file of a source and, with @p record, begins to write to it.
+void RecordStateController::Private::beginFile(RecordSource& source, bool record) {
+    source.hasFile = false;
+    source.heard = false;
+    if (!source.engine->isRunning()) {
+        source.off = true;
+        const QString why = source.engine->lastError();
+        notice(u"%1 is off: it did not start%2. This recording goes without it."_s.arg(
+            source.label, why.isEmpty() ? QString() : u" (%1)"_s.arg(why)));
+        return;
+    }
+    const QString path = rawPath(source);
+    (void)removeFile(path);
+    source.hasFile = source.engine->setOutPutAudioPath(path, 1);
+    if (!source.hasFile)
+        notice(u"%1 is not being recorded: %2."_s.arg(source.label, source.engine->lastError()));
+    if (record)
+        source.engine->startRecordAudio();
+}
+
+/// The files at hand as a job, and how each of them ends. The filter does not measure a source whose device was lost
+/// during the recording, or that never gave a frame: what the others gave becomes the recording.
+RecordStateController::Private::Ending RecordStateController::Private::describeEnding() {
+    const RecordFilter filter = RecordFilter::read(*preferences);
+    const bool anyHeard = std::ranges::any_of(
+        sources, [](const RecordSource& source) { return source.writes() && source.seconds() > 0; });
+    Ending ending;
+    ending.job = std::make_shared<ExportJob>();
+    ending.job->paths.insert(ExportJob::OutPutPath, audioRecordPath_);
+    bool brokenOff = false;
+    bool anyMeasured = false;
+    for (std::size_t i = 0; i < sources.size(); ++i) {
+        const RecordSource& source = sources[i];
+        if (!source.writes())
+            continue;
+        const double seconds = source.seconds();
+        ending.files[i].unheard = anyHeard && seconds <= 0;
+        if (ending.files[i].unheard)
+            continue;
+        const BuildInAudioRecord& engine = *source.engine;
+        const QString raw = engine.outPutFilePath();
+        ending.job->paths.insert(source.jobKey, raw);
+        ending.job->paths.insert(ExportJob::OutPutWAVTempPath, raw + u"temp"_s);
+        ending.job->timings[i] = {engine.captureSpan(), engine.sampleRate()};
+        brokenOff |= bool(engine.writeError());
+        if (anyHeard && source.wasAway)
+            continue;
+        anyMeasured = true;
+        ending.files[i].tooShort = filter.drops(static_cast<float>(seconds));
+    }
+    if (brokenOff)
+        for (FileEnding& file : ending.files)
+            file.tooShort = false;
+    ending.job->isKeptHoweverShort = brokenOff || !anyMeasured;
+    return ending;
+}
+
+/// What happens when the file's own thread has closed it.
+std::function<void(QString, OSStatus)> RecordStateController::Private::whenClosed(const std::shared_ptr<ExportJob>& job,
+                                                                                  bool remove) {
+    ++job->openFiles;
+    return [guard = queue->guard(), job, remove](const QString& path, OSStatus status) {
+        if (remove)
+            if (const auto problem = removeFile(path); !problem.isEmpty())
+                qWarning("%s stays in the temporary folder: %s", qUtf8Printable(path), qUtf8Printable(problem));
+        RecordQueue::rawFileClosed(guard, job, path, status);
+    };
+}
+
+void RecordStateController::Private::stopRecord() {
+    const CycleHold hold(sources);
+    std::unique_lock lock(mutex);
+    splitter.clear();
+    const Ending ending = describeEnding();
+    if (ending.isEmpty() || ending.drops())
+        names.giveBack(audioRecordPath_);
+    audioRecordPath_.clear();
+    closedSeconds_ = closedSeconds_ + secondsAtHand();
+    const RecordLosses losses = engineLosses();
+    lostBefore_.frames += losses.frames;
+    lostBefore_.seconds += losses.seconds;
+    for (std::size_t i = 0; i < sources.size(); ++i) {
+        RecordSource& source = sources[i];
+        if (!source.writes())
+            source.engine->stopRecordAudio();
+        else if (!source.engine->stopRecordAudioLater(whenClosed(ending.job, ending.files[i].isDeleted())))
+            --ending.job->openFiles;
+        source.hasFile = false;
+    }
+    endFiles(ending, lock);
+}
+
+/// Hands the job on, or forgets it when the filter drops it. The mutex is released first: the queue emits signals.
+void RecordStateController::Private::endFiles(const Ending& ending, std::unique_lock<std::mutex>& lock) {
+    lock.unlock();
+    setPaused(false);
+    if (ending.isEmpty())
+        return;
+    if (ending.drops()) {
+        for (const RecordSource& source : sources)
+            CutOffRecordings::remove(ending.job->path(source.jobKey));
+        ++dropped_;
+        onMain([this, path = ending.job->path(ExportJob::OutPutPath)] { Q_EMIT q->recordingFinished(path, {}); });
+        return;
+    }
+    queue->append(ending.job);
+}
+
+/// Ends the files at hand and goes on in new ones. No cycle is under way meanwhile, but for the caller's own when a
+/// silence cuts.
+void RecordStateController::Private::cut(bool automatic) {
+    const CycleHold hold(sources);
+    std::unique_lock lock(mutex);
+    if (automatic && !splitter.wantsCut(g_SplitTimeMS, builtIn.takesPart()))
+        return;
+    if (!builtIn.writes() && !computer.writes()) {
+        if (state != RecordState::Armed)
+            return;
+        armAnew();
+        lock.unlock();
+        setPaused(false);
+        return;
+    }
+    alignCut();
+    const double seconds = secondsAtHand();
+    Ending ending = describeEnding();
+    const bool exchanged = exchangeFiles(ending);
+    for (RecordSource& source : sources)
+        source.framesBefore = 0;
+    if (!exchanged) {
+        // Without this a silence would try again with every cycle.
+        if (automatic) {
+            splitter.clear();
+            splitter.arm();
+        }
+        return;
+    }
+    ++recordNum;
+    closedSeconds_ = closedSeconds_ + seconds;
+    fRecordTime_ = 0;
+    splitter.clear();
+    // The new part is already being written; the next sound makes its silences count again.
+    if (!builtIn.takesPart())
+        splitter.arm();
+    for (RecordSource& source : sources) {
+        source.wasAway = source.away;
+        source.engine->resumeRecordAudio();
+    }
+    if (ending.drops())
+        names.giveBack(audioRecordPath_);
+    nameNextFile();
+    endFiles(ending, lock);
+}
+
+/// The name of the part that begins. A cut runs on an I/O thread as well, which must not wait for a folder on a slow
+/// share: it takes the next number, and a worker then looks for the first free one.
+void RecordStateController::Private::nameNextFile() {
+    const QString folder = recordFolder();
+    const QString atOnce = names.nextAudioRecordPath(folder);
+    audioRecordPath_ = atOnce;
+    namesWorker.start([this, folder, atOnce] {
+        const QString firstFree = names.getAudioRecordPath(folder, atOnce);
+        if (firstFree == atOnce)
+            return;
+        const std::scoped_lock lock(mutex);
+        // When the part has ended by now, its job delivers it under the next free name.
+        const bool ended = audioRecordPath_ != atOnce;
+        if (!ended)
+            audioRecordPath_ = firstFree;
+        names.giveBack(ended ? firstFree : atOnce);
+    });
+}
+
+/// The capture time to which the device has come that is ahead of the other. 0 when not both write, or when one stands
+/// still: what it will give is not of this time.
+std::uint64_t RecordStateController::Private::commonTime() const {
+    if (!builtIn.writes() || !computer.writes())
+        return 0;
+    const std::uint64_t builtInNext = builtIn.engine->nextHostTime();
+    const std::uint64_t computerNext = computer.engine->nextHostTime();
+    const std::uint64_t ahead = std::max(builtInNext, computerNext);
+    const std::uint64_t behind = std::min(builtInNext, computerNext);
+    return behind != 0 && ahead - behind < FurthestBehind ? ahead : 0;
+}
+
+/// Cycles of two devices do not end together: the one that is behind still has some frames to give to the old files.
+void RecordStateController::Private::alignCut() {
+    const std::uint64_t cutTime = commonTime();
+    for (RecordSource& source : sources) {
+        source.framesBefore = 0;
+        if (cutTime != 0 && source.engine->recordStatus() == 1)
+            source.framesBefore =
+                std::llround(double(cutTime - source.engine->nextHostTime()) * 1e-9 * source.engine->sampleRate());
+    }
+}
+
+/// Gives every writing engine its next raw file. A source that cannot have one goes on in its old file, which then
+/// belongs to the next job; when that is so for the first one, nothing is cut at all.
+bool RecordStateController::Private::exchangeFiles(Ending& ending) {
+    bool exchanged = false;
+    for (std::size_t i = 0; i < sources.size(); ++i) {
+        RecordSource& source = sources[i];
+        if (!source.writes())
+            continue;
+        const QString path = rawPath(source);
+        (void)removeFile(path);
+        if (source.engine->exchangeM4aFile(path, whenClosed(ending.job, ending.files[i].isDeleted()),
+                                           source.framesBefore)) {
+            source.heard = false;
+            exchanged = true;
+            continue;
+        }
+        --ending.job->openFiles;
+        notice(
+            u"The recording could not be split (%1). It goes on in the same file."_s.arg(source.engine->lastError()));
+        if (!exchanged)
+            return false;
+        ending.job->paths.remove(source.jobKey);
+    }
+    return true;
+}
+
+/// A cut before the first sound: the wait goes on with a new file and name.
+void RecordStateController::Private::armAnew() {
+    const QString unused = computer.engine->outPutFilePath();
+    names.giveBack(audioRecordPath_);
+    fRecordTime_ = 0;
+    nameNextFile();
+    beginFile(computer, false);
+    ++recordNum;
+    if (computer.hasFile && unused != computer.engine->outPutFilePath())
+        (void)removeFile(unused);
+}
