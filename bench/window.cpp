@@ -74,10 +74,13 @@ int main(int argc, char** argv) {
     timer.start();
     program.start(arguments.first(), arguments.mid(1));
     while (!isPainted(QGuiApplication::primaryScreen()->grabWindow(0).toImage())) {
-        if (timer.elapsed() > 60000)
+        if (timer.elapsed() > 60000 || program.state() == QProcess::NotRunning) {
+            std::fprintf(stderr, "%s painted no window\n", qUtf8Printable(arguments.first()));
             return 1;
+        }
         // Looking costs the X server and a core as much as painting does: more often would measure the looking.
         QThread::msleep(10);
+        QCoreApplication::processEvents(); // tells when the program ends
     }
     const double painted = static_cast<double>(timer.nsecsElapsed()) / 1e6;
     double percent = 0;
@@ -86,6 +89,10 @@ int main(int argc, char** argv) {
         const double before = processorSeconds(program.processId());
         QThread::sleep(static_cast<unsigned long>(idle));
         percent = 100 * (processorSeconds(program.processId()) - before) / idle;
+    }
+    if (program.state() == QProcess::NotRunning) {
+        std::fprintf(stderr, "%s ended while it should idle\n", qUtf8Printable(arguments.first()));
+        return 1;
     }
     const double memory = megabytes(program.processId());
     program.terminate();

@@ -5,6 +5,7 @@
 # time of an idle window with its engines running, and memory; qmmp, a player with Qt windows and an empty list, beside it.
 # The sound server runs already, as on a desktop: a first program without a window keeps the private one for the others.
 set -euo pipefail
+. "${LIB:?run this through scripts/bench}/bench.sh"
 
 entries=10000
 runs=${RUNS:-7}
@@ -47,6 +48,8 @@ awk -v n="$entries" 'BEGIN {
     print "</array></dict></dict></plist>"
 }' >"$XDG_CONFIG_HOME/com.korvane.Sonaphex.plist"
 
+listed=$("$BUILD/bin/sonaphex" library --json | grep -o /nowhere/Track | wc -l)
+
 median() { sort -n | awk '{ v[NR] = $1 } END { print v[int((NR + 1) / 2)] }'; }
 
 # The two take turns, so that a machine that is busy for a while is busy for both.
@@ -57,13 +60,14 @@ done
 "$BUILD/bin/bench_window" --idle "$idle" "$BUILD/bin/sonaphex" >"$SCRATCH/ours.idle"
 "$BUILD/bin/bench_window" --idle "$idle" qmmp >"$SCRATCH/peer.idle"
 
-report() { # name, ours, peer, unit, aim
-    awk -v name="$1" -v a="$2" -v b="$3" -v unit="$4" -v aim="$5" \
-        'BEGIN { printf "%s: ours %.1f %s, peer %.1f %s, ratio %s (aim %s)\n", name, a, unit, b, unit, (b > 0 ? sprintf("%.2f", a / b) : "-"), aim }'
-}
 read -r _ ours_cpu ours_mb <"$SCRATCH/ours.idle"
 read -r _ peer_cpu peer_mb <"$SCRATCH/peer.idle"
-report "window, start to painted, $entries recordings, beside qmmp" \
-    "$(median <"$SCRATCH/ours")" "$(median <"$SCRATCH/peer")" ms "under 300 ms"
-report "window, idle with both engines running, beside qmmp at rest" "$ours_cpu" "$peer_cpu" "% of a core" "under 2 %"
-report "window, memory, $entries recordings, beside qmmp" "$ours_mb" "$peer_mb" MB "-"
+ours=$(median <"$SCRATCH/ours")
+peer=$(median <"$SCRATCH/peer")
+report "window, start to painted, $entries recordings (qmmp)" "$ours" "$peer" ms "under 300 ms"
+report "window, idle (qmmp)" "$ours_cpu" "$peer_cpu" "% of a core" "under 2 %"
+report "window, memory, $entries recordings (qmmp)" "$ours_mb" "$peer_mb" MB "-"
+holds "the library that is shown has $entries recordings" test "$listed" -ge "$entries"
+equal "runs that ended with a painted window" "$(wc -l <"$SCRATCH/ours")" "$(wc -l <"$SCRATCH/peer")"
+not_equal "ours lists $entries recordings, the peer nothing"
+not_equal "ours runs both its engines and its level display while idle, the peer is at rest"
