@@ -16,9 +16,9 @@ namespace {
 /// A measuring script of these lines. It prints "reached" when it came to its end.
 ToolResult bench(const QString& lines) {
     const QTemporaryDir scratch;
-    return runTool(u"bash"_s, {u"-c"_s, u"set -euo pipefail; SCRATCH=%1; . %2; %3\necho reached"_s.arg(
-                                            scratch.path(), QStringLiteral(SONAPHEX_SOURCE_DIR "/scripts/lib/bench.sh"),
-                                            lines)});
+    return runTool(u"bash"_s,
+                   {u"-c"_s, u"set -euo pipefail; SCRATCH=%1; . %2; %3\necho reached"_s.arg(
+                                 scratch.path(), QStringLiteral(SONAPHEX_SOURCE_DIR "/scripts/lib/bench.sh"), lines)});
 }
 
 void expectStopped(const QString& lines, const QByteArray& why) {
