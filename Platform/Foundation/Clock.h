@@ -7,7 +7,7 @@
 
 namespace Platform {
 
-/// The three clocks of the program behind one door, so that tests can drive them. Callable from any thread.
+/// The three clocks of the program behind one interface, so that tests can drive them. Callable from any thread.
 class Clock {
 public:
     virtual ~Clock() = default;
@@ -28,7 +28,7 @@ public:
     ~HostTimeScope();
     HostTimeScope(const HostTimeScope&) = delete;
     HostTimeScope& operator=(const HostTimeScope&) = delete;
-    /// The time that is in force on this thread, 0 when none is.
+    /// The time that applies on this thread; 0 when none was set.
     [[nodiscard]] static std::uint64_t current() noexcept;
 
 private:

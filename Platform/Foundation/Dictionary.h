@@ -11,7 +11,7 @@ using Dictionary = QVariantMap;
 
 namespace Platform {
 
-/// Whether a stored object is a number; a truth value is none.
+/// Whether a stored object is a number; a boolean is not.
 [[nodiscard]] bool isNumber(const QVariant& object);
 
 /// The integer that a stored object stands for: a number truncated towards zero, the leading digits of a text

@@ -24,7 +24,7 @@ using Problem = QString;
 [[nodiscard]] Problem moveToFreeName(const QString& from, const QString& to,
                                      const std::function<QString(const QString& taken)>& nextName, QString& landed);
 
-/// Copies beside the target, syncs, renames; an existing target stays and fails the call unless @p replace.
+/// Copies beside the target, syncs, renames; with an existing target the call fails unless @p replace.
 [[nodiscard]] Problem copy(const QString& from, const QString& to, bool replace = false);
 
 /// Returns when the content of a file, and its name, are on the disk.
@@ -48,15 +48,15 @@ using Problem = QString;
 /// existing parent); -1 when it cannot be told.
 [[nodiscard]] qint64 availableBytes(const QString& path);
 
-/// The place for what could not be finished: $XDG_DATA_HOME/<bundle id>/Unfinished, made when missing.
+/// The folder for recordings that could not be finished: $XDG_DATA_HOME/<bundle id>/Unfinished, made when missing.
 [[nodiscard]] QString unfinishedFolder();
 
 /// Moves @p path into @p folder under a free name made from @p wishedName. @p landed receives the path used.
 [[nodiscard]] Problem moveIntoFolder(const QString& path, const QString& folder, const QString& wishedName,
                                      QString& landed);
 
-/// moveIntoFolder() with unfinishedFolder(). @return where the file is; the old path when it could not be moved. What
-/// lies in a temporary folder needs MovedFiles::setAside(), or it goes with the folder.
+/// moveIntoFolder() with unfinishedFolder(). @return where the file is; the old path when it could not be moved. A file
+/// in a temporary folder needs MovedFiles::setAside(), or it is removed with the folder.
 [[nodiscard]] QString setAside(const QString& path, const QString& wishedName);
 
 } // namespace FileManager

@@ -11,7 +11,7 @@ namespace Platform::MainQueue {
 /// audio thread (it allocates).
 void post(std::function<void()> work);
 
-/// post() whose work is forgotten when @p context is destroyed before its turn. @p context lives on the main thread.
+/// post() whose work is dropped when @p context is destroyed before it runs. @p context lives on the main thread.
 void post(QObject* context, std::function<void()> work);
 
 } // namespace Platform::MainQueue

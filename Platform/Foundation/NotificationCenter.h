@@ -9,13 +9,13 @@
 
 namespace Platform {
 
-/// Named notifications with a dictionary each, delivered at once on the poster's thread to every observer in the order
-/// in which they came. Main thread only.
+/// Named notifications with a dictionary each, delivered at once on the poster's thread to every observer, in the order
+/// in which the observers were added. Main thread only.
 class NotificationCenter {
 public:
     using Handler = std::function<void(const QString& name, const Dictionary& userInfo)>;
 
-    /// Ends an observation when it goes. May outlive the centre.
+    /// Ends the observation when it is destroyed. May outlive the centre.
     class Observation {
     public:
         virtual ~Observation() = default;

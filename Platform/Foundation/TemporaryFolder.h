@@ -8,15 +8,15 @@
 
 namespace Platform {
 
-/// A folder below the user's temporary folder that belongs to one process and goes with this object. What processes
-/// that were killed left behind is removed by the next one that makes such a folder.
+/// A folder below the user's temporary folder that belongs to one process and is removed with this object. Folders of
+/// killed processes are removed by the next process that makes such a folder.
 class TemporaryFolder {
 public:
     /// @param kind tells the folders of different purposes apart; part of the folder's name.
     /// @return nothing when there is no place for it; @p why then says so.
     [[nodiscard]] static std::optional<TemporaryFolder> create(const QString& kind, QString& why);
-    /// Removes a folder whole, and a link as a link; never what a link points to. Errors are ignored. Files of the user
-    /// that a crash left in it go home first (MovedFiles); one that cannot stays, and the folder with it.
+    /// Removes a folder with its content; a link is removed, not followed. Errors are ignored. Files of the user that a
+    /// crash left in it are moved back first (MovedFiles); where that fails, the file and the folder stay.
     static void removeWhole(const QString& path);
 
     ~TemporaryFolder();

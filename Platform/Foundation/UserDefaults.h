@@ -26,8 +26,8 @@ public:
     virtual void removeObject(const QString& key) = 0;
     /// Returns when everything set so far is on the disk (true) or could not be written (false).
     virtual bool flush() = 0;
-    /// A value with parts that two processes may change separately names how they are joined. Without it the value
-    /// that was set last wins as a whole.
+    /// Sets how a value with parts that two processes may change separately is joined. Without it the value that was
+    /// set last wins as a whole.
     virtual void setMergeForKey(const QString& /*key*/, Merge /*merge*/) {}
     /// Lets objectForKey() see what other processes have stored under a key since it was read, joined with what this
     /// process set. Without it a value that is joined keeps the view of this process, even when it is saved. Waits for

@@ -28,14 +28,14 @@ unsigned artworkCounter = 0;
 
 QString temporaryPath(QLatin1StringView prefix, unsigned& counter, QLatin1StringView ending) {
     for (;;) {
-        // What a crash left there and nobody could bring back is not to be taken for the file at hand.
+        // A file may still be there from a crash: it must not be taken for the one that is being changed.
         const QString path = g_strTmpPath + u'/' + prefix + QString::number(counter++) + ending;
         if (!QFileInfo::exists(path) && !QFileInfo(path).isSymLink())
             return path;
     }
 }
 
-/// A library may hold a link: what it points to is changed, and the link stays.
+/// The file behind a link in the library: that file is changed, and the link stays.
 QString behindLink(const QString& path) {
     const QString real = QFileInfo(path).isSymLink() ? QFileInfo(path).canonicalFilePath() : QString();
     return real.isEmpty() ? path : real;

@@ -8,26 +8,25 @@
 
 /// Writes text tags and artwork into MPEG-4 audio files. Synchronous on the caller's thread, one thread at a time: the
 /// names in the temporary folder (g_strTmpPath) are counted, not reserved. The keys of a tag dictionary are those of
-/// AudioRecordEntry. Nothing is shown and errors of the file system are not told; a file is never lost.
+/// AudioRecordEntry. Nothing is shown and errors of the file system are not reported; a file is never lost.
 namespace ID3ChangeControl {
 
 /// Renders an image to a new file in the temporary folder: JPEG data, although the name ends in ".png".
 [[nodiscard]] QString createPathForImage(const QImage& image);
-/// Artwork and text tags; from one path to another it is a move. A null artwork path means the default artwork. When
-/// the artwork tool fails, the source is where it was. Another file at the destination is set aside
+/// Writes artwork and text tags. With two different paths this moves the file. A null artwork path means the default
+/// artwork. When the artwork tool fails, the source stays at its path. Another file at the destination is set aside
 /// (FileManager::setAside), not overwritten.
 void changeID3(const QString& source, const QString& destAudioPath, const Dictionary& ID3Info,
                const QString& artworkPath);
-/// Text tags in place.
+/// Writes text tags in place.
 bool changeID3BasicInfo(const QString& path, const Dictionary& ID3Info);
-/// Artwork in place.
+/// Writes artwork in place.
 void changeID3ArtworkInfo(const QString& path, const QString& artworkPath);
 bool changeID3Info(const QString& path, const Dictionary& ID3Info);
 /// Runs the artwork tool; whether the destination exists afterwards says whether it worked.
 void changeID3Artwork(const QString& source, const QString& destPath, const QString& artworkPath);
 
-/// The shell's line that runs the artwork tool. What a shell interprets inside double quotes is escaped, so that a path
-/// is only ever a path.
+/// The shell command that runs the artwork tool. Characters that a shell interprets inside double quotes are escaped.
 [[nodiscard]] QString artworkCommandLine(const QString& tool, const QString& source, const QString& artwork,
                                          const QString& destination);
 

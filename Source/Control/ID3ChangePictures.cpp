@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What draws stands apart: the recorder on the command line is linked without Qt Gui.
+// In a file of its own because it draws: the recorder on the command line is linked without Qt Gui.
 #include "Source/Control/ID3ChangeControl.h"
 
 #include "Platform/Foundation/FileManager.h"
@@ -21,7 +21,7 @@ Q_LOGGING_CATEGORY(log, "sonaphex.control")
 unsigned imageCounter = 0;
 
 QByteArray jpegOf(const QImage& image) {
-    // JPEG has no transparency: what shows through is white, not whatever colour lies beneath.
+    // JPEG has no transparency: transparent parts become white instead of an undefined colour.
     QImage opaque(image.size(), QImage::Format_RGB32);
     opaque.fill(Qt::white);
     QPainter(&opaque).drawImage(0, 0, image);

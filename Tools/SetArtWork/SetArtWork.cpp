@@ -25,7 +25,7 @@ int main(int argc, char** argv) {
         std::fputs(usage, stderr);
         return 2;
     }
-    // Qt looks for its reader of JPEG files through the application.
+    // Qt finds the plugin that reads JPEG files through the application object.
     const QCoreApplication application(argc, argv);
     const QString problem = Platform::BasicID3Change::copyWithArtwork(
         QFile::decodeName(argv[1]), QFile::decodeName(argv[2]), QFile::decodeName(argv[3]));

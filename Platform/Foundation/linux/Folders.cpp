@@ -34,7 +34,7 @@ QString whyNotPrivate(const QString& path) {
     return {};
 }
 
-/// Makes @p path with mode 0700 when it is missing and closes one of our own to others.
+/// Makes @p path with mode 0700 when it is missing; an existing folder of this user gets that mode.
 QString makePrivate(const QString& path) {
     QDir().mkpath(QFileInfo(path).path());
     const QByteArray name = QFile::encodeName(path);

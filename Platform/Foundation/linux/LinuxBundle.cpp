@@ -25,7 +25,7 @@ private:
 } // namespace
 
 std::unique_ptr<Bundle> createBundle() {
-    // Not from argv: the program may have been started by a bare name, through a link or from another folder.
+    // Not from argv[0], which may be a bare name, a link or a relative path.
     return createBundle(QFileInfo(QFileInfo(QStringLiteral("/proc/self/exe")).symLinkTarget()).path());
 }
 

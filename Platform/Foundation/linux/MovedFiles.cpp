@@ -39,7 +39,7 @@ QString setAside(const QString& path, const QString& wishedName) {
         forget(path); // it may have been kept before
         return at;
     }
-    // Its own name may be taken again by the next recording, which begins with an empty file.
+    // The next recording may reuse its own name, and begins with an empty file.
     if (QString landed; FileManager::moveIntoFolder(path, QFileInfo(path).path(), wishedName, landed).isEmpty())
         at = landed;
     const QString home = FileManager::unfinishedFolder() + u'/' + QFileInfo(at).fileName();

@@ -25,7 +25,7 @@ struct FreeMemory {
 using NodePtr = std::unique_ptr<void, FreePlist>;
 using TextPtr = std::unique_ptr<char, FreeMemory>;
 
-/// libplist prints and reads reals by the locale of the thread: a decimal comma would cost every fraction.
+/// libplist prints and reads reals by the locale of the thread: with a decimal comma every fraction would be lost.
 class CNumbers {
 public:
     CNumbers() : c_(newlocale(LC_NUMERIC_MASK, "C", duplocale(uselocale(nullptr)))), before_(uselocale(c_)) {}
@@ -41,7 +41,8 @@ private:
     locale_t before_;
 };
 
-// libplist recurses and trusts the depth of its input (2.2.0 runs out of stack). Lists of ours are five levels deep.
+// libplist recurses and trusts the depth of its input (2.2.0 runs out of stack). The lists that this program stores are
+// five levels deep.
 constexpr int deepestNesting = 200;
 constexpr std::size_t worthTwoThreads = 2000;
 
@@ -202,7 +203,7 @@ private:
                 break;
             children.push_back(child);
         }
-        // A library of thousands of entries is what a launch waits for: two threads share it. The list is only read.
+        // The launch waits for a library of thousands of entries, so two threads share the work. The list is only read.
         const std::span<const plist_t> all(children);
         if (all.size() < worthTwoThreads)
             return objects(all);

@@ -27,7 +27,8 @@ class PropertyListDefaults final : public UserDefaults {
 public:
     /// The worker reads the file; the first objectForKey() waits for it.
     explicit PropertyListDefaults(const QString& path);
-    /// Writes what is pending; a file that cannot be written is tried once more and then given up with a log line.
+    /// Writes what is pending; a file that cannot be written is tried once more; then a log line says that it was given
+    /// up.
     ~PropertyListDefaults() override;
     PropertyListDefaults(const PropertyListDefaults&) = delete;
     PropertyListDefaults& operator=(const PropertyListDefaults&) = delete;
@@ -59,7 +60,7 @@ private:
 
     [[nodiscard]] static Version versionOf(const struct stat& status);
     /// Reads the file if it is another version than the one known. False when it exists and cannot be read; a damaged
-    /// one counts as unreadable until it may be set aside (which needs the lock).
+    /// file counts as unreadable until it may be set aside, which needs the lock.
     bool readAgain(Damage damage);
     bool save(const Changes& changes, const QHash<QString, Merge>& merges);
     bool replaceFile(const QByteArray& content);
@@ -86,7 +87,7 @@ private:
     bool loaded_ = false;
     bool stopping_ = false;
 
-    // The worker's own.
+    // Used by the worker only.
     Version version_;
     Dictionary onDisk_;           // the file's content as of version_
     Dictionary ours_;             // what this process read or set itself, the base of a merge

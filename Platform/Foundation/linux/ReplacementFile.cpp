@@ -26,7 +26,7 @@ ReplacementFile::ReplacementFile(const QString& target, Existing existing, Link 
     // The hidden name is not made from the target's, which may already be as long as a name can be.
     const QString suffix = QFileInfo(target_).suffix();
     path_ = QFile::decodeName(folderOf(QFile::encodeName(target_))) + "/.sonaphex-"_L1 +
-            QString::number(QRandomGenerator::global()->generate64(), 36) + ".part"_L1 +
+            QString::number(QRandomGenerator::system()->generate64(), 36) + ".part"_L1 +
             (suffix.isEmpty() || suffix.size() > 8 ? QString() : u'.' + suffix);
 }
 

@@ -9,6 +9,7 @@
 #include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -398,6 +399,12 @@ TEST_F(Tags, RefuseAnImageThatIsNone) {
         EXPECT_NE(BasicID3Change::copyWithArtwork(path(), image, path(u"out.m4a"_s)), QString());
         EXPECT_FALSE(QFile::exists(path(u"out.m4a"_s)));
     }
+    ASSERT_TRUE(Mpeg4Files::write(image, png));
+    ASSERT_EQ(::truncate(QFile::encodeName(image).constData(), off_t(200) << 30), 0); // sparse
+    EXPECT_TRUE(BasicID3Change::copyWithArtwork(path(), image, path(u"out.m4a"_s)).contains(u"larger than"_s));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path(u"pipe.png"_s)).constData(), 0600), 0);
+    EXPECT_NE(BasicID3Change::copyWithArtwork(path(), path(u"pipe.png"_s), path(u"out.m4a"_s)), QString());
+    ASSERT_TRUE(Mpeg4Files::write(image, png));
     EXPECT_NE(BasicID3Change::copyWithArtwork(path(), path(u"missing.png"_s), path(u"out.m4a"_s)), QString());
     EXPECT_NE(BasicID3Change::copyWithArtwork(path(), folder_.path(), path(u"out.m4a"_s)), QString());
     EXPECT_NE(BasicID3Change::copyWithArtwork(path(u"missing"_s), image, path(u"out.m4a"_s)), QString());

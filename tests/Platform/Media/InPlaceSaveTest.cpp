@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What a save of tags touches on the disk, and what it leaves alone.
 #include "Platform/Media/BasicID3Change.h"
+#include "Platform/Media/linux/MediaFilesLinux.h"
 #include "tests/support/ChildProcess.h"
 #include "tests/support/Mpeg4Files.h"
 
@@ -96,4 +97,25 @@ TEST_F(InPlaceSave, PutsNoFileInThePlaceOfSomethingElse) {
     struct stat status {};
     ASSERT_EQ(::stat(QFile::encodeName(pipe).constData(), &status), 0);
     EXPECT_TRUE(S_ISFIFO(status.st_mode));
+}
+
+TEST_F(InPlaceSave, PaysNoAttentionToHiddenFilesBesideTheRecording) {
+    ASSERT_TRUE(Mpeg4Files::make(path(), Mpeg4Files::Shape::IndexAtEnd, 2));
+    ASSERT_EQ(BasicID3Change::writeTexts(path(), {.title = u"Before"_s}), QString());
+    const QByteArray before = Mpeg4Files::contentOf(path());
+    // Names that an early version used, made by somebody who may write to the folder: a pipe, and any content.
+    const QString undo = path(u".sonaphex-%1.undo"_s.arg(inodeOf(path()), 0, 16));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(undo).constData(), 0666), 0);
+    const auto media = Platform::createMediaFiles();
+    Platform::AudioFileInfo info;
+    Platform::MediaError error;
+    EXPECT_EQ(BasicID3Change::read(path())->title, u"Before"_s);
+    EXPECT_TRUE(media->info(path(), info, error)) << qPrintable(error.text);
+    EXPECT_EQ(Mpeg4Files::contentOf(path()), before);
+    EXPECT_EQ(BasicID3Change::writeTexts(path(), {.title = u"After"_s}), QString());
+    EXPECT_EQ(BasicID3Change::read(path())->title, u"After"_s);
+    ASSERT_TRUE(QFile::remove(undo));
+    ASSERT_TRUE(Mpeg4Files::write(undo, before));
+    EXPECT_EQ(BasicID3Change::read(path())->title, u"After"_s);
+    EXPECT_EQ(Mpeg4Files::contentOf(undo), before) << "a file of somebody else is not removed either";
 }

@@ -55,7 +55,7 @@ std::set<QByteArray> statesOfAKill(QByteArray content, const Calls& calls) {
     for (const auto& call : calls) {
         if (call.kind == Kind::Write) {
             const qsizetype size = call.bytes.size();
-            for (const qsizetype part : {qsizetype(4), qsizetype(7), qsizetype(12)})
+            for (const qsizetype part : {qsizetype(4), qsizetype(12)})
                 if (part < size)
                     states.insert(after(content, call, part));
             // Four bytes of a size lie in one sector and are written whole.
@@ -82,7 +82,7 @@ std::set<QByteArray> statesOfAPowerCut(QByteArray content, const Calls& calls) {
                 if ((chosen >> i & 1) == 0)
                     continue;
                 if (call.kind == Kind::Write && call.bytes.size() > 512) {
-                    for (const qsizetype written : {qsizetype(0), qsizetype(512), call.bytes.size() / 2}) {
+                    for (const qsizetype written : {qsizetype(0), call.bytes.size() / 2}) {
                         DiskCalls::Call zeros = call;
                         std::fill(zeros.bytes.begin() + std::min(written, zeros.bytes.size()), zeros.bytes.end(), '\0');
                         states.insert(after(state, zeros));
@@ -103,7 +103,7 @@ std::set<QByteArray> statesOfAPowerCut(QByteArray content, const Calls& calls) {
     return states;
 }
 
-struct SaveBoundaries : testing::TestWithParam<Shape> {
+struct SaveBoundaries : testing::Test {
     QTemporaryDir folder;
     QString path = folder.filePath(u"a.m4a"_s);
     QString cover = folder.filePath(u"cover.png"_s);
@@ -151,6 +151,8 @@ struct SaveBoundaries : testing::TestWithParam<Shape> {
                 told.contains(before) ? told.mid(at, told.indexOf(u'\n', at) - at) : QString()};
     }
 
+    void leaveAFileThatEveryProgramReads(Shape shape);
+
     /// Saves while every call to the file is recorded.
     Calls recorded(const std::function<bool()>& save) const {
         const DiskCalls disk;
@@ -158,6 +160,11 @@ struct SaveBoundaries : testing::TestWithParam<Shape> {
         return disk.calls();
     }
 };
+
+// Suites of their own, so that they run beside each other.
+struct SaveWithItsIndexAtTheEnd : SaveBoundaries {};
+struct SaveWithItsIndexInFront : SaveBoundaries {};
+struct KilledSaves : SaveBoundaries, testing::WithParamInterface<Shape> {};
 
 /// A recording of an hour by its index; its packets are short.
 void makeAnHour(const QString& path) {
@@ -174,20 +181,19 @@ void makeAnHour(const QString& path) {
 
 } // namespace
 
-TEST_P(SaveBoundaries, LeaveAFileThatEveryProgramReads) {
-    ASSERT_TRUE(Mpeg4Files::make(path, GetParam(), 2));
+void SaveBoundaries::leaveAFileThatEveryProgramReads(Shape shape) {
+    ASSERT_TRUE(Mpeg4Files::make(path, shape, 2));
     ASSERT_TRUE(Mpeg4Files::noise(60).save(cover));
     const Audio audio = audioOf(path);
     ASSERT_FALSE(audio.decoded.isEmpty());
     ASSERT_FALSE(audio.packets.isEmpty());
     ASSERT_FALSE(audio.otherDecoded.isEmpty());
     QString old;
-    // Into a new place, into the room of the first index, into a new place because it is larger, and after that.
+    // Into a new place, into the room of the first index, into a new place because it is larger.
     const std::vector<std::pair<QString, std::function<bool()>>> saves{
         {u"one"_s, [&] { return tag(path, u"one"_s); }},
         {u"two"_s, [&] { return tag(path, u"two"_s); }},
         {u"two"_s, [&] { return BasicID3Change::copyWithArtwork(path, cover, path).isEmpty(); }},
-        {u"three"_s, [&] { return tag(path, u"three"_s); }},
     };
     std::size_t count = 0;
     for (const auto& [title, save] : saves) {
@@ -215,7 +221,6 @@ TEST_P(SaveBoundaries, LeaveAFileThatEveryProgramReads) {
                 ASSERT_TRUE(tag(path, next));
                 ASSERT_EQ(BasicID3Change::read(path)->title, next);
             }
-            ASSERT_EQ(Mpeg4Files::probe(path)[u"title"_s].toString(), u"the last"_s);
             ASSERT_EQ(Mpeg4Files::audioOf(path), audio.decoded);
             if (HasFailure())
                 FAIL() << "in the save of " << qPrintable(title);
@@ -224,15 +229,23 @@ TEST_P(SaveBoundaries, LeaveAFileThatEveryProgramReads) {
         old = title;
     }
     std::printf("%zu states\n", count);
-    EXPECT_GT(count, 60U);
+    EXPECT_GT(count, 25U);
     EXPECT_TRUE(QDir(folder.path()).entryList({u".*"_s}, QDir::Hidden | QDir::Files).isEmpty());
 }
 
-TEST_P(SaveBoundaries, OfAKilledProcessLeaveAFileThatIsRead) {
+TEST_F(SaveWithItsIndexAtTheEnd, LeavesAFileThatEveryProgramReads) {
+    leaveAFileThatEveryProgramReads(Shape::IndexAtEnd);
+}
+
+TEST_F(SaveWithItsIndexInFront, LeavesAFileThatEveryProgramReads) {
+    leaveAFileThatEveryProgramReads(Shape::IndexInFront);
+}
+
+TEST_P(KilledSaves, LeaveAFileThatIsRead) {
     ASSERT_TRUE(Mpeg4Files::make(path, GetParam(), 2));
     const QByteArray audio = Mpeg4Files::audioOf(path);
     QString old;
-    for (const QString& title : {u"one"_s, u"two"_s, QString(9000, u'x'), u"four"_s}) {
+    for (const QString& title : {u"one"_s, u"two"_s, QString(9000, u'x')}) {
         const QByteArray before = Mpeg4Files::contentOf(path);
         const QByteArray finished = [&] {
             EXPECT_TRUE(tag(path, title));
@@ -259,14 +272,17 @@ TEST_P(SaveBoundaries, OfAKilledProcessLeaveAFileThatIsRead) {
         }
         EXPECT_GE(kills, 4) << "the kills did not reach the save";
         EXPECT_EQ(Mpeg4Files::contentOf(path), finished);
+        if (GetParam() != Shape::Fragmented) { // made anew; killed at its very end, a hidden file stays
+            EXPECT_TRUE(QDir(folder.path()).entryList({u".*"_s}, QDir::Hidden | QDir::Files).isEmpty());
+        }
         old = title;
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(All, SaveBoundaries, testing::Values(Shape::IndexAtEnd, Shape::IndexInFront));
+INSTANTIATE_TEST_SUITE_P(All, KilledSaves, testing::Values(Shape::IndexAtEnd, Shape::IndexInFront, Shape::Fragmented));
 
 namespace {
-struct ManySaves : SaveBoundaries {};
+struct ManySaves : SaveBoundaries, testing::WithParamInterface<Shape> {};
 struct SaveOfAnHour : testing::Test {
     QTemporaryDir folder;
     QString path = folder.filePath(u"a.m4a"_s);

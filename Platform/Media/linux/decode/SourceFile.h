@@ -28,7 +28,7 @@ private:
     int fd_ = -1;
 };
 
-/// What a container says that libavformat does not hand on exactly.
+/// Facts of a container that libavformat does not report exactly.
 struct ContainerFacts {
     std::optional<std::int64_t> validFrames; ///< length, priming and padding taken off
     std::int64_t primingFrames = 0;          ///< to skip where libavformat does not (CAF)
@@ -39,8 +39,8 @@ struct ContainerFacts {
 /// Of an MPEG-4 file's first sound track; @p rate: its sample rate.
 [[nodiscard]] ContainerFacts readMpeg4Facts(const SourceFile& file, int rate);
 [[nodiscard]] ContainerFacts readCafFacts(const SourceFile& file);
-/// What there is to say of a whole MPEG-4 file that we wrote; nothing of any other. libavformat would say the same, but
-/// who has just made a recording need not load it for that.
+/// Describes a whole MPEG-4 file that this program wrote; nothing for any other file. libavformat would say the same,
+/// but it takes longer to load.
 [[nodiscard]] std::optional<AudioFileInfo> readOwnRecording(const SourceFile& file);
 
 } // namespace Platform

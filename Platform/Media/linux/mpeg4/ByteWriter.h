@@ -9,7 +9,7 @@
 
 namespace Platform {
 
-/// Collects the bytes of file headers, big-endian, and of nested boxes whose size is known at their end.
+/// Builds file headers, big-endian, and nested boxes, whose sizes are filled in when they end.
 class ByteWriter {
 public:
     ByteWriter& u8(std::uint32_t value) {

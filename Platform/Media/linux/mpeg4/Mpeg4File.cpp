@@ -12,7 +12,7 @@ namespace {
 constexpr std::uint64_t shortBox = 0xffffffff; // longest box whose size is told in 32 bits
 constexpr std::size_t copyBytes = 1 << 20;
 
-/// The file's clocks start in 1904.
+/// MPEG-4 times count from 1904.
 constexpr std::uint64_t secondsFrom1904To1970 = 2082844800;
 
 class Mpeg4File final : public PacketFile {
@@ -57,7 +57,7 @@ private:
         std::uint32_t packets;
     };
 
-    /// The same packets in one piece, as all readers know it.
+    /// Writes the packets without fragments, a form that every reader knows.
     void writePlain(OutputFile& plain, std::int64_t validFrames) {
         std::uint64_t mediaBytes = 0;
         for (const std::uint32_t size : sizes_)
@@ -92,7 +92,7 @@ private:
         out_.clear();
     }
 
-    /// Where there is no room for a second copy: all fragments become the inside of one media box.
+    /// For a disk without room for a second copy: one media box is put around all fragments.
     void indexInPlace(std::int64_t validFrames) {
         const std::int64_t end = file_.size();
         writeIndex(validFrames, false);
@@ -152,16 +152,17 @@ private:
         return written;
     }
 
-    /// The movie box: without packets and with the announcement of fragments while the file grows, else complete.
+    /// Writes the movie box: while the file grows without packets and with "mvex", else complete.
     void writeIndex(std::int64_t validFrames, bool growing) {
         const auto rate = std::uint32_t(info_.sampleRate);
         const auto mediaFrames = std::uint64_t(packetsWritten_) * std::uint64_t(info_.framesPerPacket);
         const auto heard = std::uint64_t(validFrames);
-        // Long numbers only where they are needed: some readers know the short form alone.
+        // 64-bit numbers only where they are needed: some readers know the 32-bit form only.
         const std::uint32_t version = std::max({mediaFrames, heard, created_}) > 0xffffffff ? 1 : 0;
         const auto number = [&](std::uint64_t value) { version ? out_.u64(value) : out_.u32(value); };
         out_.box("moov", [&] {
-            // The movie counts in frames too: with a coarser scale the edit list below could not say the exact length.
+            // The movie time scale is the sample rate: with a coarser one the edit list could not hold the exact
+            // length.
             out_.fullBox("mvhd", version, 0, [&] {
                 number(created_);
                 number(created_);
@@ -260,7 +261,7 @@ private:
         };
         wide ? out_.fullBox("co64", 0, 0, offsets) : out_.fullBox("stco", 0, 0, offsets);
         if (packets) {
-            // A decoder that starts in the middle needs the packet before: roll distance -1 for all packets.
+            // A decoder that starts in the middle needs one packet of preroll: roll distance -1 for all packets.
             out_.fullBox("sgpd", 1, 0, [&] { out_.code("roll").u32(2).u32(1).u16(0xffff); });
             out_.fullBox("sbgp", 0, 0, [&] { out_.code("roll").u32(1).u32(packets).u32(1); });
         }
@@ -271,7 +272,7 @@ private:
     OutputFile& file_;
     AacStreamInfo info_;
     ByteWriter out_;
-    std::vector<std::uint8_t> media_;  // packets of the fragment that is being collected
+    std::vector<std::uint8_t> media_;  // packets of the fragment that is not written yet
     std::vector<std::uint32_t> sizes_; // of all packets
     std::vector<Chunk> chunks_;
     std::size_t packetsWritten_ = 0;
@@ -288,7 +289,7 @@ std::unique_ptr<PacketFile> createMpeg4File(OutputFile& file) {
 
 std::vector<std::uint8_t> elementaryStreamDescriptor(const AacStreamInfo& info) {
     ByteWriter out;
-    // Lengths take four bytes: libavformat's CAF reader finds its way in no other form.
+    // Lengths take four bytes: libavformat's CAF reader understands no other form.
     const auto descriptor = [&](std::uint32_t tag, std::size_t length) {
         out.u8(tag).u24(0x808080).u8(std::uint32_t(length));
     };
