@@ -5,6 +5,7 @@
 #include "FilterAudio/AudioFilterController.h"
 #include "Platform/Desktop/Workspace.h"
 #include "Platform/Foundation/Clock.h"
+#include "Platform/Foundation/MainQueue.h"
 #include "Platform/Foundation/Services.h"
 #include "RingtoneMaker/CustomSound.h"
 #include "Source/AudioWaveViewController/AudioWaveViewController.h"
@@ -17,6 +18,7 @@
 
 #include <QFileInfo>
 #include <QItemSelectionModel>
+#include <QScopedValueRollback>
 #include <QTableView>
 #include <QTreeView>
 
@@ -57,6 +59,7 @@ LibraryPresenter::LibraryPresenter(MediaLibrary& library, QTreeView& outline, QT
     connect(tableModel_.get(), &QAbstractItemModel::dataChanged, this,
             [this] { Q_EMIT tableViewSelectionAudioChanged(); });
     connect(&library_, &MediaLibrary::entryReplaced, this, &LibraryPresenter::followPlayingEntry);
+    connect(&library_, &MediaLibrary::entryRemoved, this, &LibraryPresenter::followPlayingEntry);
     connect(&library_, &MediaLibrary::leafReset, this, &LibraryPresenter::followPlayingEntry);
     if (auto* workspace = Platform::services().workspace)
         connect(workspace, &Platform::Workspace::fileSystemChanged, missing_.get(), &MissingFiles::forget);
@@ -247,8 +250,10 @@ void LibraryPresenter::followPlayingEntry() {
     Dictionary entry = MediaLibrary::findAudioByKey(playingKey_, library_.records());
     if (entry.isEmpty())
         entry = MediaLibrary::findAudioByKey(playingKey_, library_.ringtones());
-    if (entry.isEmpty())
+    if (entry.isEmpty()) {
+        letSoundGo(); // a recording that was deleted is not played on
         return;
+    }
     display_.setTitle(AudioTags::audioTag(entry, QStringLiteral("title")).toString());
     display_.setArtist(AudioTags::audioTag(entry, QStringLiteral("artist")).toString());
     const QString path = Platform::stringForm(AudioTags::audioTag(entry, QStringLiteral("path")));
@@ -281,9 +286,40 @@ void LibraryPresenter::updatePlaySoundButton() {
     QMetaObject::invokeMethod(this, &LibraryPresenter::updatePlaySoundState);
 }
 
-void LibraryPresenter::playSoundFile(const Dictionary& entry) {
+void LibraryPresenter::letSoundGo() {
+    stopSound();
+    playingKey_.clear();
+    display_.setPlaySound(nullptr);
+    display_.setTitle({});
+    display_.setArtist({});
+    tableModel_->setPlayingPath({});
+    updatePlaySoundState();
+}
+
+void LibraryPresenter::watchForTheEnd(const std::shared_ptr<CustomSound>& sound) {
+    if (!sound->sound())
+        return;
+    connect(sound->sound(), &Platform::Sound::finished, this, [this, watched = std::weak_ptr(sound)] {
+        const auto ended = watched.lock();
+        // One that the sound server left behind can be tried again.
+        if (stopping_ || !ended || !ended->sound()->lastError().isEmpty())
+            return;
+        Platform::MainQueue::post(this, [this, watched] {
+            const auto still = watched.lock();
+            if (still && still == display_.playSound() && still->isStop())
+                letSoundGo();
+        });
+    });
+}
+
+void LibraryPresenter::stopSound() {
+    const QScopedValueRollback stopping(stopping_, true);
     if (CustomSound* sound = currentSound())
         sound->stop();
+}
+
+void LibraryPresenter::playSoundFile(const Dictionary& entry) {
+    stopSound();
     const QVariant key = AudioRecordEntry::keyOf(entry);
     playingKey_ = key.isValid() ? Platform::stringForm(key) : QString();
     const QString path = Platform::stringForm(AudioTags::audioTag(entry, QStringLiteral("path")));
@@ -291,12 +327,15 @@ void LibraryPresenter::playSoundFile(const Dictionary& entry) {
     display_.setArtist(AudioTags::audioTag(entry, QStringLiteral("artist")).toString());
     auto sound = std::make_shared<CustomSound>(path);
     display_.setPlaySound(sound);
+    watchForTheEnd(sound);
     sound->play();
     tableModel_->setPlayingPath(path);
     updatePlaySoundState();
-    if (sound->duration() <= 0)
-        missing_->forget(path);
     sayWhyNothingPlays(*sound);
+    if (sound->duration() > 0)
+        return;
+    missing_->forget(path);
+    letSoundGo();
 }
 
 void LibraryPresenter::sayWhyNothingPlays(const CustomSound& sound) {
@@ -323,6 +362,13 @@ void LibraryPresenter::playSoundButtonAction() {
         updatePlaySoundState();
         return;
     }
+    // It may have been paused, or stopped by a recording, and its file deleted since.
+    if (sound->isStop() && !QFileInfo::exists(sound->path())) {
+        missing_->forget(sound->path());
+        sayWhyNothingPlays(*sound);
+        letSoundGo();
+        return;
+    }
     sound->play();
     updatePlaySoundState();
     sayWhyNothingPlays(*sound);
@@ -336,8 +382,7 @@ void LibraryPresenter::tableViewDoubleAction() {
 }
 
 void LibraryPresenter::stopSoundPlaying() {
-    if (CustomSound* sound = currentSound())
-        sound->stop();
+    stopSound();
     QMetaObject::invokeMethod(this, &LibraryPresenter::updatePlaySoundState, Qt::QueuedConnection);
 }
 

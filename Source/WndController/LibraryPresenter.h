@@ -125,6 +125,12 @@ private:
     [[nodiscard]] CustomSound* currentSound() const;
     /// Brings path and titles of the sound in step with its entry: its file may have been renamed while it plays.
     void followPlayingEntry();
+    /// The sound is no longer the current one, so that Play follows the selection again.
+    void letSoundGo();
+    /// Lets a sound go when it has come to its end, later on: it is still telling so.
+    void watchForTheEnd(const std::shared_ptr<CustomSound>& sound);
+    /// Ends the current sound by hand; it stays the current one.
+    void stopSound();
     /// Says nothing of a sound that plays.
     void sayWhyNothingPlays(const CustomSound& sound);
 
@@ -134,6 +140,7 @@ private:
     AudioWaveViewController& display_;
     AudioFilterController& filter_;
     IsRecording isStateAudioRecord_;
+    bool stopping_ = false; ///< the sound ends by hand, not at its end
     QString playingKey_; ///< identity of the entry that the display's sound belongs to
     std::unique_ptr<MissingFiles> missing_;
     std::unique_ptr<LibraryOutlineModel> outlineModel_;

@@ -171,8 +171,67 @@ TEST_F(Presenter, IsPlaySoundButtonEnableWantsASoundWithLengthOrASelection) {
     select({});
     EXPECT_TRUE(value("isPlaySoundButtonEnable")) << "the current sound can be played again";
     presenter.playSoundFile(LibraryWorld::entry(u"k"_s, u"gone"_s, u"/gone.m4a"_s));
+    EXPECT_FALSE(value("isPlaySoundButtonEnable")) << "neither a sound nor a selection";
     select({0});
-    EXPECT_FALSE(value("isPlaySoundButtonEnable")) << "the current sound has no length";
+    EXPECT_TRUE(value("isPlaySoundButtonEnable")) << "a sound without length is not kept";
+}
+
+TEST_F(Presenter, ASoundAtItsEndIsLetGoAndPlayFollowsTheSelection) {
+    select({1});
+    presenter.playSoundButtonAction();
+    select({0});
+    presenter.playSoundButtonAction();
+    EXPECT_EQ(display.title(), u"Two"_s) << "a sound that plays is paused, whatever is selected";
+    presenter.playSoundButtonAction();
+    sound().end();
+    ASSERT_TRUE(waitFor([&] { return !display.playSound(); }));
+    EXPECT_EQ(display.title(), QString());
+    EXPECT_EQ(iconOf(1), QString());
+    presenter.playSoundButtonAction();
+    EXPECT_EQ(display.title(), u"Three"_s);
+    EXPECT_EQ(iconOf(0), u"audio-playing-icon"_s);
+}
+
+TEST_F(Presenter, ASoundThatARecordingStoppedStays) {
+    select({1});
+    presenter.playSoundButtonAction();
+    presenter.stopSoundPlaying();
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(display.playSound());
+    presenter.playSoundButtonAction();
+    EXPECT_TRUE(value("isPlaySoundPlaying"));
+    EXPECT_EQ(display.title(), u"Two"_s);
+}
+
+TEST_F(Presenter, AMissingOrBrokenFileIsLetGo) {
+    presenter.playSoundFile(LibraryWorld::entry(u"k"_s, u"gone"_s, u"/gone.m4a"_s));
+    EXPECT_FALSE(display.playSound());
+    select({0});
+    presenter.playSoundButtonAction();
+    EXPECT_EQ(display.title(), u"Three"_s);
+    // Deleted by someone else, after a recording has stopped it.
+    presenter.stopSoundPlaying();
+    ASSERT_TRUE(QFile::remove(display.playSound()->path()));
+    QSignalSpy problem(&presenter, &LibraryPresenter::problem);
+    presenter.playSoundButtonAction();
+    EXPECT_EQ(problem.count(), 1);
+    EXPECT_FALSE(display.playSound());
+}
+
+TEST_F(Presenter, ADeletedRecordingStops) {
+    select({1});
+    presenter.playSoundButtonAction();
+    const auto playing = display.playSound();
+    select({0});
+    presenter.removeMediaLibraryArray(presenter.tableViewSelectionAudioArray());
+    EXPECT_TRUE(playing->isPlaying()) << "another one was deleted";
+    select({0});
+    ASSERT_EQ(presenter.tableViewSelectionAudioPath(), playing->path());
+    presenter.removeMediaLibraryArray(presenter.tableViewSelectionAudioArray());
+    EXPECT_TRUE(playing->isStop());
+    EXPECT_FALSE(display.playSound());
+    EXPECT_FALSE(value("isPlaySoundPlaying"));
 }
 
 TEST_F(Presenter, IsPlaySoundPlayingFollowsTheSound) {
