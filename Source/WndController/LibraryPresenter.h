@@ -141,7 +141,7 @@ private:
     AudioFilterController& filter_;
     IsRecording isStateAudioRecord_;
     bool stopping_ = false; ///< the sound ends by hand, not at its end
-    QString playingKey_; ///< identity of the entry that the display's sound belongs to
+    QString playingKey_;    ///< identity of the entry that the display's sound belongs to
     std::unique_ptr<MissingFiles> missing_;
     std::unique_ptr<LibraryOutlineModel> outlineModel_;
     std::unique_ptr<AudioTableModel> tableModel_;
