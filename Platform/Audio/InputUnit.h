@@ -23,7 +23,8 @@ public:
                                         std::uint32_t busNumber, std::uint32_t frames, AudioBufferList* data);
 
     /// What happens to the device while the unit runs; delivered on the main thread.
-    enum class Event { DeviceLost, DeviceReturned, ServerLost, ServerReturned, FramesLost };
+    /// NothingComes: the device is there and has delivered nothing for a while; its next cycle ends that.
+    enum class Event { DeviceLost, DeviceReturned, ServerLost, ServerReturned, FramesLost, NothingComes };
     using EventHandler = std::function<void(Event)>;
 
     /// Stops and closes: when the destructor returns, no callback runs or will run.

@@ -28,7 +28,7 @@ void RecordStateController::startAndStopRecord() {
         d->isRecordingFlushTheFace(false);
     } else {
         d->startRecord();
-        d->isRecordingFlushTheFace(true);
+        d->isRecordingFlushTheFace(d->isActive());
     }
     d->delegate->updateRecordStateAction();
 }
@@ -184,9 +184,13 @@ void RecordStateController::Private::startRecord() {
     for (RecordSource& source : sources)
         source.engine->setFillLostFrames(both);
     ++recordNum;
-    state = splitter.isWaitting() ? RecordState::Armed : RecordState::Recording;
-    if (!builtIn.takesPart() && !computer.takesPart())
-        notice(u"Nothing is being recorded: there is no source."_s);
+    if (builtIn.takesPart() || computer.takesPart()) {
+        state = splitter.isWaitting() ? RecordState::Armed : RecordState::Recording;
+        return;
+    }
+    // Nothing may look like a recording.
+    names.giveBack(audioRecordPath_);
+    notice(u"Nothing is being recorded: there is no source."_s);
 }
 
 /// A stop before the first sound: the wait stays, and with it the name and the open file. A recording that never had a

@@ -15,6 +15,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int RetryMilliseconds = 500;
+
 QString nameOf(const QVariant& device) {
     return device.toMap().value(BuildInAudioRecord::DeviceNameKey).toString();
 }
@@ -37,6 +39,9 @@ void warnOfUsbHeadset() {
 RecordSources::RecordSources(BuildInAudioRecord& buildInAudioRecord, BuildInAudioRecord& computerAudioRecord,
                              QObject* parent)
     : QObject(parent), buildInAudioRecord_(buildInAudioRecord), computerAudioRecord_(computerAudioRecord) {
+    retry_.setSingleShot(true);
+    retry_.setInterval(RetryMilliseconds);
+    connect(&retry_, &QTimer::timeout, this, &RecordSources::openAgain);
 }
 
 void RecordSources::awakeFromNib() {
@@ -120,8 +125,27 @@ void RecordSources::bind(BuildInAudioRecord& engine, AudioObjectID device, const
     if (!engine.records(device))
         return;
     BuildInAudioRecord::setMaxVolume(device);
-    if (!engine.configureAudioUnit(device))
-        Q_EMIT noticed(u"%1 cannot be opened: %2"_s.arg(name, engine.lastError()));
+    if (engine.configureAudioUnit(device)) {
+        unopened_.removeAll(device);
+        return;
+    }
+    // A device that has just come may not be ready, and nothing tells when it is.
+    retry_.start();
+    if (unopened_.contains(device))
+        return;
+    unopened_.append(device);
+    Q_EMIT noticed(u"%1 cannot be opened: %2"_s.arg(name, engine.lastError()));
+}
+
+void RecordSources::openAgain() {
+    if (recording_ || walking_) {
+        retry_.start();
+        return;
+    }
+    if (selected_ >= 0 && !buildInAudioRecord_.isRunning())
+        bindChosen();
+    if (computerAudioDeviceID_ != 0 && !computerAudioRecord_.isRunning())
+        configComputerRecordAudioDevice();
 }
 
 void RecordSources::findComputerAudioDevice() {

@@ -6,6 +6,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 #include <QVariantList>
 
 /// The devices behind the two recorder engines: the list to choose an input device from, and the computer-audio device.
@@ -50,6 +51,7 @@ private:
     void followDevices();
     void bindChosen();
     void bind(BuildInAudioRecord& engine, AudioObjectID device, const QString& name);
+    void openAgain();
 
     BuildInAudioRecord& buildInAudioRecord_;
     BuildInAudioRecord& computerAudioRecord_;
@@ -58,6 +60,8 @@ private:
     AudioObjectID chosenDevice_ = 0; ///< stays while the device is away, so that it is chosen again
     AudioObjectID boundDevice_ = 0;  ///< the one that the input engine is on
     int selected_ = -1;
+    QTimer retry_;                  ///< a device that cannot be opened is tried again until it can
+    QList<AudioObjectID> unopened_; ///< of which the user knows that they cannot be opened
     bool recording_ = false;
     bool walking_ = false; ///< an alert may spin the event loop in the midst of a walk
     bool followsDeviceEvent_ = false;

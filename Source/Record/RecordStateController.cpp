@@ -203,14 +203,17 @@ bool RecordStateController::canRecord() const {
 }
 
 float RecordStateController::getAudioWaveLevelValue() const {
+    // An engine without a device keeps the level of the last cycle.
+    const float builtIn = d->builtIn.engine->isRunning() ? d->builtInLevelValue_.load() : 0;
+    const float computer = d->computer.engine->isRunning() ? d->computerLevelValue_.load() : 0;
     float level = 0;
     if (d->builtIn.checked)
-        level = d->builtInLevelValue_;
+        level = builtIn;
     if (d->computer.checked)
-        level = d->computerLevelValue_;
+        level = computer;
     if (d->builtIn.checked && d->computer.checked) {
         const double t = Platform::services().clock->timeIntervalSinceReferenceDate();
-        level = static_cast<std::uint64_t>(t * 10) % 2 == 0 ? d->builtInLevelValue_ : d->computerLevelValue_;
+        level = static_cast<std::uint64_t>(t * 10) % 2 == 0 ? builtIn : computer;
     }
     return level;
 }
@@ -390,6 +393,9 @@ void RecordStateController::Private::notice(const QString& text, const QString& 
 void RecordStateController::Private::deviceEvent(Platform::InputUnit::Event event, RecordSource& source) {
     using Event = Platform::InputUnit::Event;
     const bool isLoss = event == Event::DeviceLost || event == Event::ServerLost;
+    // The level of the last cycle would stand for as long as none follows.
+    if (isLoss || event == Event::NothingComes)
+        (&source == &builtIn ? builtInLevelValue_ : computerLevelValue_) = 0;
     if (!isLoss && event != Event::DeviceReturned && event != Event::ServerReturned)
         return;
     bool records = false;

@@ -47,6 +47,8 @@ RecordPanel::RecordPanel(Ui::MainWnd& ui, RecordStateController& record, AudioWa
     connect(&record_, &RecordStateController::devicesChanged, this, &RecordPanel::showDevices);
     connect(&record_, &RecordStateController::noticesChanged, this, &RecordPanel::showNotices);
     connect(&record_, &RecordStateController::queueChanged, this, &RecordPanel::showFileConvertTipView);
+    if (const auto* hardware = Platform::services().audioHardware)
+        connect(hardware, &Platform::AudioHardware::connectedChanged, this, &RecordPanel::showHealth);
 
     conversion_.setSingleShot(true);
     conversion_.setInterval(kShortConversionMs);
@@ -111,12 +113,16 @@ void RecordPanel::showHealth() {
     // Without a sound server nothing of this machine is heard. A recording of that must not look like another.
     const auto* hardware = Platform::services().audioHardware;
     const bool testTone = hardware && hardware->isTestTone();
-    ui_.lblLostFrames_->setText(lost > 0   ? tr("%1 frames lost").arg(QLocale().toString(lost))
-                                : armed    ? tr("Waiting for sound …")
-                                : testTone ? tr("No sound server: a test tone is recorded")
-                                           : tr("No frames lost"));
-    ui_.lblLostFrames_->setForegroundRole(lost > 0 || armed || testTone ? QPalette::WindowText
-                                                                        : QPalette::PlaceholderText);
+    const QString missing = hardware && !hardware->connected()                            ? tr("No sound server")
+                            : record_.builtInChecked() && record_.deviceNames().isEmpty() ? tr("No input device")
+                                                                                          : QString();
+    ui_.lblLostFrames_->setText(lost > 0             ? tr("%1 frames lost").arg(QLocale().toString(lost))
+                                : !missing.isEmpty() ? missing
+                                : armed              ? tr("Waiting for sound …")
+                                : testTone           ? tr("No sound server: a test tone is recorded")
+                                                     : tr("No frames lost"));
+    ui_.lblLostFrames_->setForegroundRole(
+        lost > 0 || armed || testTone || !missing.isEmpty() ? QPalette::WindowText : QPalette::PlaceholderText);
 }
 
 void RecordPanel::showDevices() {
@@ -129,6 +135,7 @@ void RecordPanel::showDevices() {
     }
     ui_.popBuiltInDevice_->setCurrentIndex(record_.selectedDevice());
     showDeviceToolTip();
+    showHealth();
 }
 
 void RecordPanel::showDeviceToolTip() {

@@ -23,6 +23,8 @@ constexpr int openMs = 1000;
 /// A stream that is linked and delivers nothing for so long is dead, though nobody said so: that happens when the
 /// session manager alone ends.
 constexpr auto dryAfter = 2s;
+/// What was heard last is not shown for longer than this, when nothing follows.
+constexpr auto silentAfter = 100ms;
 
 } // namespace
 
@@ -231,7 +233,15 @@ void PipeWireInputUnit::watch(std::uint64_t& seenBlocks, std::uint64_t& toldLost
     if (const auto blocks = stream_->blocks(); blocks != seenBlocks) {
         seenBlocks = blocks;
         lastBlockAt_ = now;
-    } else if (now - lastBlockAt_ > dryAfter) {
+        toldNothingComes_ = false;
+        return;
+    }
+    const auto cycle = std::chrono::duration<double>(double(target_.cycleFrames) / target_.sampleRate);
+    if (!toldNothingComes_ && now - lastBlockAt_ > std::max<std::chrono::duration<double>>(silentAfter, 2 * cycle)) {
+        toldNothingComes_ = true;
+        tell(Event::NothingComes);
+    }
+    if (now - lastBlockAt_ > dryAfter) {
         lastBlockAt_ = now;
         stream_->revive();
     }

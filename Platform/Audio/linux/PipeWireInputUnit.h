@@ -70,6 +70,7 @@ private:
     const CycleAssembler* current_ = nullptr;
     std::uint32_t currentFrames_ = 0;
     std::chrono::steady_clock::time_point lastBlockAt_;
+    bool toldNothingComes_ = false;
 
     // Shut down in this order: the thread, the stream, the ring.
     std::unique_ptr<CaptureRing> ring_;

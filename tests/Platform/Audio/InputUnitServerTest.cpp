@@ -11,6 +11,7 @@
 #include <atomic>
 #include <chrono>
 #include <cmath>
+#include <csignal>
 #include <thread>
 
 using namespace Platform;
@@ -238,6 +239,20 @@ TEST_F(InputUnitTest, GoesOnWhenTheServerCameBack) {
     std::size_t secondAt = 0;
     expectTwoRamps(samples, secondAt);
     EXPECT_TRUE(isUnbrokenRamp({samples.begin() + std::ptrdiff_t(secondAt), samples.end()}, 0));
+}
+
+TEST_F(InputUnitTest, SaysThatNothingComesWhileTheServerStandsStill) {
+    TestSource source({.description = "Standing still"});
+    UnitCapture capture(*hardware_, add(source));
+    ASSERT_TRUE(capture.start());
+    ASSERT_TRUE(captured(capture, 0.3));
+    EXPECT_FALSE(capture.heard(Event::DeviceLost));
+    ASSERT_EQ(kill(session_.serverProcess(), SIGSTOP), 0);
+    const bool told = waitFor([&] { return capture.heard(Event::NothingComes); });
+    ASSERT_EQ(kill(session_.serverProcess(), SIGCONT), 0);
+    EXPECT_TRUE(told);
+    const auto frames = capture.frames();
+    EXPECT_TRUE(waitFor([&] { return capture.frames() > frames + 4800; }));
 }
 
 TEST_F(InputUnitTest, KeepsItsRateWhenADeviceReturnsWithAnother) {

@@ -162,6 +162,59 @@ TEST_F(RecordSourcesTest, ADeviceThatCannotBeOpenedIsTold) {
     EXPECT_TRUE(noticed(u"Microphone cannot be opened"_s));
 }
 
+TEST_F(RecordSourcesTest, ADeviceThatCannotBeOpenedIsTriedAgainUntilItCan) {
+    addMicrophone();
+    addComputerAudio();
+    int tries = 0;
+    hardware.onOpen = [&] { ++tries; };
+    hardware.unitOpens = false;
+    begin();
+    // Each is tried more than once, and told once.
+    ASSERT_TRUE(waitFor([&] { return tries >= 6; }));
+    EXPECT_EQ(controller->notices().filter(u"Microphone cannot be opened"_s).size(), 1);
+    hardware.unitOpens = true;
+    ASSERT_TRUE(waitFor([&] { return hardware.unitOf(Microphone) && hardware.unitOf(ComputerAudio); }));
+    controller->startAndStopRecord();
+    EXPECT_EQ(controller->recordState_(), 1);
+    play(Microphone, 0.5F, 0.1);
+    controller->startAndStopRecord();
+}
+
+TEST_F(RecordSourcesTest, NothingIsHeardFromADeviceThatDeliversNothing) {
+    using Event = Platform::InputUnit::Event;
+    addMicrophone();
+    addHeadset();
+    begin();
+    for (const Event event : {Event::NothingComes, Event::DeviceLost, Event::ServerLost}) {
+        play(Microphone, 0.5F, 0.1);
+        ASSERT_GT(controller->getAudioWaveLevelValue(), 0);
+        hardware.unitOf(Microphone)->tell(event);
+        EXPECT_EQ(controller->getAudioWaveLevelValue(), 0);
+    }
+    play(Microphone, 0.5F, 0.1);
+    ASSERT_GT(controller->getAudioWaveLevelValue(), 0);
+    hardware.remove(Headset);
+    hardware.remove(Microphone);
+    EXPECT_EQ(controller->getAudioWaveLevelValue(), 0);
+}
+
+TEST_F(RecordSourcesTest, AStartWithoutASourceStaysIdleAndSaysSo) {
+    begin();
+    ASSERT_TRUE(controller->builtInChecked());
+    controller->startAndStopRecord();
+    EXPECT_TRUE(noticed(u"there is no source"_s));
+    EXPECT_FALSE(controller->isStateAudioRecord());
+    EXPECT_FALSE(controller->splitEnabled());
+    EXPECT_EQ(controller->startToolTip(), u"Start Record"_s);
+    EXPECT_TRUE(controller->sourcesEnabled());
+    EXPECT_FALSE(QFile::exists(track(0)));
+    // With a device the next start records, under the first name.
+    addMicrophone();
+    record(Microphone, 0.5F, 6);
+    ASSERT_TRUE(queueDone());
+    EXPECT_EQ(delegate.paths, QStringList{track(0)});
+}
+
 TEST_F(RecordSourcesTest, TheDriverIsToldWhatTheUserListensTo) {
     engine = registry.add(u"com_Korvane_driver_CaptureEngine"_s, u"IOService:/VIRTUAL/driver"_s);
     addOutput(Speakers, u"speakers"_s, u"PCI"_s);

@@ -604,6 +604,20 @@ TEST_F(MainWindow, SaysThatItRecordsATestToneOnAMachineWithoutASoundServer) {
     world.click("btnSatrtRecord_");
 }
 
+TEST_F(MainWindow, SaysWhyNothingCanBeHeard) {
+    world.open();
+    auto& health = world.outlet<QLabel>("lblLostFrames_");
+    while (!world.hardware.list.empty())
+        world.hardware.remove(world.hardware.list.back().id);
+    EXPECT_TRUE(waitFor([&] { return health.text() == u"No input device"_s; })) << qPrintable(health.text());
+    world.click("btnSatrtRecord_");
+    EXPECT_FALSE(world.record->isStateAudioRecord());
+    EXPECT_FALSE(button("btnPauseRecord_").isEnabled());
+    world.hardware.isConnected = false;
+    Q_EMIT world.hardware.connectedChanged(false);
+    EXPECT_EQ(health.text(), u"No sound server"_s);
+}
+
 TEST_F(MainWindow, RemembersItsSizeAndColumnsAndIsCentred) {
     world.open({840, 560});
     table().horizontalHeader()->resizeSection(AudioTableModel::Artist, 133);
