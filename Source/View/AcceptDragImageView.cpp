@@ -5,6 +5,7 @@
 #include "Source/View/NamedImages.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QDrag>
 #include <QFileInfo>
 #include <QImageReader>

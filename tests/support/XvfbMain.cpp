@@ -1,12 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/DefaultSignals.h"
+#include "tests/support/DragClient.h"
 #include "tests/support/XvfbSession.h"
 
 #include <QApplication>
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
+    if (const int status = DragClient::run(argc, argv); status >= 0)
+        return status; // a second program on the display of the first
     defaultSignals();
     testing::InitGoogleTest(&argc, argv);
     XvfbSession session;

@@ -38,6 +38,10 @@ protected:
     [[nodiscard]] QStringList temporaries() const { return QDir(g_strTmpPath).entryList(QDir::Files | QDir::Hidden); }
 };
 
+// Suites of their own: each takes its time.
+class TrimSaveOnAFullDisk : public TrimSave {};
+class TrimSaveWithKills : public TrimSave {};
+
 /// No file of this process, and of those that it starts, may become larger.
 class FullDisk {
 public:
@@ -211,7 +215,7 @@ TEST_F(TrimSave, SyncsTheWholeResultBeforeItTakesTheName) {
     EXPECT_TRUE(named);
 }
 
-TEST_F(TrimSave, OnAFullDiskKeepsTheRecordingWhereverTheRoomEnds) {
+TEST_F(TrimSaveOnAFullDisk, KeepsTheRecordingWhereverTheRoomEnds) {
     const Dictionary entry = recording(u"One"_s, 20);
     const QByteArray before = Mpeg4Files::contentOf(at(u"One.m4a"_s));
     int saved = 0;
@@ -241,7 +245,7 @@ TEST_F(TrimSave, OnAFullDiskKeepsTheRecordingWhereverTheRoomEnds) {
     EXPECT_GT(refused, 4);
 }
 
-TEST_F(TrimSave, SurvivesKillsAtAnyMoment) {
+TEST_F(TrimSaveWithKills, LosesNothingAtAnyMoment) {
     const Dictionary entry = recording(u"One"_s, 60);
     const QByteArray before = Mpeg4Files::contentOf(at(u"One.m4a"_s));
     const int longest = timeOf([&] { return save(task(entry, 10, 40)).done; });

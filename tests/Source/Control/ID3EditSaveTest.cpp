@@ -29,6 +29,8 @@ protected:
     }
 };
 
+class TagSaveWithKills : public TagSave {}; // a suite of its own: it takes its time
+
 } // namespace
 
 TEST(TagYear, IsFourDigitsOrNothing) {
@@ -114,7 +116,7 @@ TEST_F(TagSave, LeavesAFileAloneThatTakesNoTags) {
     EXPECT_TRUE(notes().isEmpty());
 }
 
-TEST_F(TagSave, SurvivesKillsAtAnyMoment) {
+TEST_F(TagSaveWithKills, LosesNothingAtAnyMoment) {
     Dictionary before = recording(u"Track0"_s, 20);
     const QByteArray sound = Mpeg4Files::audioOf(at(u"Track0.m4a"_s));
     const QString picture = cover();
