@@ -13,6 +13,7 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QPainterPath>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -51,6 +52,27 @@ QStringList localFiles(const QMimeData& data) {
             paths.append(url.toLocalFile());
     return paths;
 }
+
+/// Notices Escape during a drag. Qt's drag keeps the key to itself and tells a cancelled drag and one that nobody took
+/// alike.
+class EscapeWatch : public QObject {
+public:
+    EscapeWatch() {
+        // The filter that was installed last is asked first: Qt installs its own when the drag begins.
+        QTimer::singleShot(0, this, [this] { qApp->installEventFilter(this); });
+    }
+    [[nodiscard]] bool wasPressed() const { return pressed_; }
+
+protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
+            pressed_ = true;
+        return false;
+    }
+
+private:
+    bool pressed_ = false;
+};
 
 } // namespace
 
@@ -153,21 +175,22 @@ void AcceptDragImageView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void AcceptDragImageView::startDrag() {
-    QDrag drag(this);
+    // Qt deletes it when the other program has fetched the picture, which may be after exec() has returned.
+    auto* const drag = new QDrag(this);
     auto* const data = new QMimeData;
     QImage plain = imgShow_;
     plain.setDevicePixelRatio(1);
     data->setImageData(plain);
-    drag.setMimeData(data);
+    drag->setMimeData(data);
     const QPixmap shown = QPixmap::fromImage(imgShow_);
-    drag.setPixmap(shown);
-    drag.setHotSpot(QRectF(QPointF(), shown.deviceIndependentSize()).center().toPoint());
+    drag->setPixmap(shown);
+    drag->setHotSpot(QRectF(QPointF(), shown.deviceIndependentSize()).center().toPoint());
     // Where nothing takes the picture it disappears.
-    drag.setDragCursor(NamedImages::pixmap(u"delete"_s, {24, 24}, devicePixelRatioF()), Qt::IgnoreAction);
-    (void)drag.exec(Qt::CopyAction, Qt::CopyAction);
-    // Escape ends the drag with the button still down: the user thought better of it.
-    if (QGuiApplication::mouseButtons() & Qt::LeftButton)
-        return;
+    drag->setDragCursor(NamedImages::pixmap(u"delete"_s, {24, 24}, devicePixelRatioF()), Qt::IgnoreAction);
+    EscapeWatch escape;
+    (void)drag->exec(Qt::CopyAction, Qt::CopyAction);
+    if (escape.wasPressed())
+        return; // the user thought better of it
     if (!rect().contains(mapFromGlobal(QCursor::pos())))
         removeImage();
 }

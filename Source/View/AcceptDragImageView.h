@@ -27,6 +27,8 @@ public:
     bool hasImageFile(const QStringList& paths);
     /// Takes a picture that has no file.
     void takeImage(const QImage& image);
+    /// Whether something is being dragged over it.
+    [[nodiscard]] bool isDragOver() const { return dragOver_; }
     /// Empties the well.
     void removeImage();
 

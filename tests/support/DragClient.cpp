@@ -43,11 +43,14 @@ protected:
         } else {
             data->setUrls({QUrl(gives_)});
         }
-        QDrag drag(this);
-        drag.setMimeData(data);
-        (void)drag.exec(Qt::CopyAction);
+        auto* const drag = new QDrag(this); // Qt deletes it
+        drag->setMimeData(data);
+        (void)drag->exec(Qt::CopyAction);
     }
-    void dragEnterEvent(QDragEnterEvent* event) override { event->acceptProposedAction(); }
+    void dragEnterEvent(QDragEnterEvent* event) override {
+        event->acceptProposedAction();
+        say("entered");
+    }
     void dropEvent(QDropEvent* event) override {
         const QMimeData& data = *event->mimeData();
         if (data.hasImage()) {

@@ -14,6 +14,7 @@
 
 #include <QApplication>
 #include <QProcess>
+#include <QTimer>
 #include <QWindow>
 #include <gtest/gtest.h>
 
@@ -31,25 +32,37 @@ protected:
         return waitFor([&] { return window.windowHandle() && window.windowHandle()->isExposed(); }) &&
                waitFor([&] { return window.isActiveWindow(); });
     }
-    /// Drags from one place of the screen to another in steps, while this program's events go on. With @p cancel,
-    /// Escape is pressed before the button is let go.
-    [[nodiscard]] static bool drag(QPoint from, QPoint to, bool cancel = false) {
-        QStringList moves{
-            u"mousemove"_s, QString::number(from.x()), QString::number(from.y()), u"sleep"_s, u"0.1"_s, u"mousedown"_s,
-            u"1"_s};
+    /// Drags from one place of the screen to another in steps, while this program's events go on, also those of a drag
+    /// of its own. The button is let go when @p ready says so; meanwhile the pointer trembles, as a hand does. With
+    /// @p cancel, Escape is pressed before.
+    [[nodiscard]] static bool drag(
+        QPoint from, QPoint to, const std::function<bool()>& ready = [] { return true; }, bool cancel = false) {
+        const auto at = [](QPoint place) {
+            return QStringList{u"mousemove"_s, QString::number(place.x()), QString::number(place.y())};
+        };
+        QStringList moves = at(from) + QStringList{u"sleep"_s, u"0.1"_s, u"mousedown"_s, u"1"_s};
         constexpr int steps = 8;
-        for (int i = 1; i <= steps; ++i) {
-            const QPoint place = from + (to - from) * i / steps;
-            moves << u"sleep"_s << u"0.05"_s << u"mousemove"_s << QString::number(place.x())
-                  << QString::number(place.y());
-        }
-        moves << u"sleep"_s << u"0.3"_s;
-        if (cancel)
-            moves << u"key"_s << u"Escape"_s << u"sleep"_s << u"0.3"_s;
-        moves << u"mouseup"_s << u"1"_s;
+        for (int i = 1; i <= steps; ++i)
+            moves += QStringList{u"sleep"_s, u"0.05"_s} + at(from + (to - from) * i / steps);
         QProcess pointer;
         pointer.start(u"xdotool"_s, moves);
-        return waitFor([&] { return pointer.state() == QProcess::NotRunning; }) && pointer.exitCode() == 0;
+        int turn = 0;
+        bool released = false;
+        QTimer hand;
+        QObject::connect(&hand, &QTimer::timeout, &hand, [&] {
+            if (released || pointer.state() != QProcess::NotRunning)
+                return;
+            if (!ready() && ++turn < 300) {
+                pointer.start(u"xdotool"_s, at(to + QPoint(turn % 2, 0)));
+                return;
+            }
+            released = true;
+            pointer.start(u"xdotool"_s,
+                          cancel ? QStringList{u"key"_s, u"Escape"_s, u"sleep"_s, u"0.2"_s, u"mouseup"_s, u"1"_s}
+                                 : QStringList{u"mouseup"_s, u"1"_s});
+        });
+        hand.start(40);
+        return waitFor([&] { return released && pointer.state() == QProcess::NotRunning; }, 60000) && turn < 300;
     }
     static QPoint onScreen(const QWidget& widget, QPointF place) { return widget.mapToGlobal(place.toPoint()); }
 
@@ -191,7 +204,7 @@ TEST_F(TrimWindowOnADesktop, PreviewIsHeardFromTheLeftEndToTheRightEnd) {
 TEST_F(TagWindowOnADesktop, TakesAFileOfAnotherProgram) {
     open();
     startClient(QUrl::fromLocalFile(picture()).toString(QUrl::FullyEncoded));
-    ASSERT_TRUE(drag(kClient, middleOfWell()));
+    ASSERT_TRUE(drag(kClient, middleOfWell(), [this] { return well().isDragOver(); }));
     ASSERT_TRUE(waitFor([&] { return !well().imgShow().isNull(); }));
     EXPECT_EQ(well().imgShow().size(), QSize(300, 300));
     EXPECT_EQ(well().imgShow().pixelColor(150, 150), QColor(Qt::red));
@@ -201,7 +214,7 @@ TEST_F(TagWindowOnADesktop, TakesAFileOfAnotherProgram) {
 TEST_F(TagWindowOnADesktop, TakesAPictureOfAnotherProgram) {
     open();
     startClient(u"image"_s);
-    ASSERT_TRUE(drag(kClient, middleOfWell()));
+    ASSERT_TRUE(drag(kClient, middleOfWell(), [this] { return well().isDragOver(); }));
     ASSERT_TRUE(waitFor([&] { return !well().imgShow().isNull(); }));
     EXPECT_EQ(well().imgShow().pixelColor(150, 150), QColor(Qt::green));
 }
@@ -210,7 +223,7 @@ TEST_F(TagWindowOnADesktop, GivesItsPictureToAnotherProgramAndLosesIt) {
     open();
     ASSERT_TRUE(well().hasImageFile({picture()}));
     startClient(u"image"_s);
-    ASSERT_TRUE(drag(middleOfWell(), kClient));
+    ASSERT_TRUE(drag(middleOfWell(), kClient, [this] { return said().contains("entered"); }));
     ASSERT_TRUE(waitFor([&] { return said().contains("dropped"); })) << "the other program got nothing";
     EXPECT_TRUE(said().contains("dropped image 300x300")) << said().constData();
     EXPECT_TRUE(waitFor([&] { return well().imgShow().isNull(); }));
@@ -221,7 +234,8 @@ TEST_F(TagWindowOnADesktop, LosesAPictureThatIsDraggedOutAndKeepsOneThatComesBac
     ASSERT_TRUE(well().hasImageFile({picture()}));
     ASSERT_TRUE(drag(middleOfWell(), middleOfWell() + QPoint(20, 20)));
     EXPECT_FALSE(well().imgShow().isNull()) << "it was let go inside the well";
-    ASSERT_TRUE(drag(middleOfWell(), QPoint(2, 2), true));
+    ASSERT_TRUE(drag(
+        middleOfWell(), QPoint(2, 2), [] { return true; }, true));
     EXPECT_FALSE(well().imgShow().isNull()) << "Escape calls the drag back";
     ASSERT_TRUE(drag(middleOfWell(), QPoint(2, 2)));
     EXPECT_TRUE(waitFor([&] { return well().imgShow().isNull(); }));
