@@ -52,7 +52,7 @@ private:
 
 RecordingRun::RecordingRun(RecordPreferences& preferences, const RecordingTask& task)
     : task_(task), controller_([&task] { return std::make_unique<AskedEngine>(task); }) {
-    // What the log would say is said above the meter.
+    // The notices are printed above the meter; the log would print them twice.
     QLoggingCategory::setFilterRules(u"sonaphex.record=false"_s);
     controller_.setDelegate(this);
     controller_.setPreferences(&preferences);
@@ -94,7 +94,7 @@ QString RecordingRun::begin() {
     if (task_.wantsComputerAudio && !controller_.hasComputerAudioDevice() &&
         (task_.computerAudioNamed || !task_.wantsInput))
         return u"computer audio: its driver is not installed (see sonaphex driver install)"_s;
-    // The first of the list is open already; to choose it would open it a second time.
+    // The first device of the list is already open. Choosing it would open it again.
     if (const int index = controller_.indexOfDevice(task_.device);
         task_.device != 0 && index != controller_.selectedDevice())
         controller_.chooseBuiltInDevice(index);
@@ -119,7 +119,7 @@ QString RecordingRun::state() const {
 
 void RecordingRun::recordUntilTheEnd() {
     QEventLoop loop;
-    // Held until all is finished: a second signal must not cut the files off.
+    // Caught until all files are finished: a second signal must not cut them off.
     const Platform::TerminationSignals ending([&](int) { loop.quit(); });
     armed_.start();
     QTimer timer;
@@ -163,15 +163,15 @@ void RecordingRun::tellNotices() {
     const QStringList notices = controller_.notices();
     for (; told_ < notices.size(); ++told_)
         meter_.say(notices.at(told_));
-    // The list is bounded; what has been told is not needed any more.
+    // The list is bounded: remove what was printed, so that nothing falls out unread.
     controller_.dismissNotices();
     told_ = 0;
 }
 
-/// The window's library changes through the window; without one it changes here.
+/// Adds the recording through the running window, which holds the library in memory, else directly.
 void RecordingRun::addRecordFile(const QString& path, const Dictionary& tags) {
-    // The identity comes first: a window that is too late to answer still does what it was asked, and then adds this
-    // very entry once more, not another one.
+    // Make the entry and its identity first. A window that answers too late adds it all the same; with the same
+    // identity the library then holds it once.
     const Dictionary entry = MediaLibrary::entryForFile(path, tags);
     QByteArray rest;
     if (const auto answer = askWindow(ControlRequests::libraryAdd(path, entry));

@@ -8,8 +8,8 @@
 #include <cstdint>
 
 /// The times at which a pause begins and ends inside the cycles of one device. Cycles of two devices do not end
-/// together: without it each pause would move one source against the other by up to a cycle. Times other than 0 are set
-/// while cycles are held; the I/O thread asks.
+/// together: without these times each pause would shift one source against the other by up to a cycle. Set times other
+/// than 0 while cycles are held. The I/O thread calls of().
 class PauseSpan {
 public:
     /// What is captured before @p hostTime is still written. 0 is at once.

@@ -45,7 +45,7 @@ void RecordStateController::splitTheRecord() {
 }
 
 double RecordStateController::recordedSeconds() const {
-    const std::scoped_lock lock(d->mutex); // not in the midst of a cut
+    const std::scoped_lock lock(d->mutex); // a cut moves seconds from the files to closedSeconds_
     return d->closedSeconds_ + d->secondsAtHand();
 }
 
@@ -84,10 +84,11 @@ void RecordStateController::finishAll() {
     if (d->isActive())
         d->isRecordingFlushTheFace(false);
     d->showLosses();
-    // Hot keys and other processes are still heard while the files are finished. What they begin would be cut off.
+    // Hot keys and requests of other processes still arrive while the files are finished. They must not start a
+    // recording: it would be cut off.
     d->state = RecordState::Finishing;
     d->changed();
-    // Not an event loop of its own: that would end at once when the program is quitting already.
+    // A QEventLoop would return at once when the program is already quitting.
     while (d->queue->count() > 0)
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
     d->state = RecordState::Idle;
@@ -157,8 +158,8 @@ void RecordStateController::Private::isRecordingFlushTheFace(bool recording) {
 
 void RecordStateController::Private::startRecord() {
     endWhatAStopLeft();
-    devices->setRecording(false); // the device of what was left may have gone meanwhile
-    // The search may take long on a slow share: before cycles are held.
+    devices->setRecording(false); // handles devices that went while an armed wait was still recording
+    // Before cycles are held: the search may take long on a slow share.
     const QString path = names.getAudioRecordPath(recordFolder());
     const CycleHold hold(sources);
     const std::scoped_lock lock(mutex);
@@ -179,7 +180,7 @@ void RecordStateController::Private::startRecord() {
         if (!builtIn.takesPart() && computer.takesPart())
             splitter.arm();
     }
-    // Two sources are laid over each other later: what one of them loses must not move what follows it.
+    // Two sources are mixed later. Silence in place of lost frames keeps them aligned.
     const bool both = builtIn.takesPart() && computer.takesPart();
     for (RecordSource& source : sources)
         source.engine->setFillLostFrames(both);
@@ -193,19 +194,19 @@ void RecordStateController::Private::startRecord() {
     notice(u"Nothing is being recorded: there is no source."_s);
 }
 
-/// A stop before the first sound: the wait stays, and with it the name and the open file. A recording that never had a
+/// A stop before the first sound: the wait goes on and keeps its name and its open file. A recording that never had a
 /// source gives its name back.
 void RecordStateController::Private::leaveUnheardRecording() {
     {
         const std::scoped_lock lock(mutex);
-        // The first sound may come at this very moment.
+        // Without the lock the first sound could begin the recording between the two questions.
         if (!splitter.isWaitting() && !anyEngineRecords())
             names.giveBack(audioRecordPath_);
     }
     setPaused(false);
 }
 
-/// A wait that a stop has left ends with its device: the engine's file went with that.
+/// A wait that a stop left running ends when its device goes: closing the engine also closes its file.
 void RecordStateController::Private::forgetLeftWait() {
     const std::scoped_lock lock(mutex);
     if (!isActive() && !anyEngineRecords())

@@ -171,7 +171,7 @@ void RecordStateController::Private::cut(bool automatic) {
     for (RecordSource& source : sources)
         source.framesBefore = 0;
     if (!exchanged) {
-        // Without this a silence would try again with every cycle.
+        // Otherwise every cycle of this silence would try again.
         if (automatic) {
             splitter.clear();
             splitter.arm();
@@ -214,8 +214,8 @@ void RecordStateController::Private::nameNextFile() {
     });
 }
 
-/// The capture time to which the device has come that is ahead of the other. 0 when not both write, or when one stands
-/// still: what it will give is not of this time.
+/// The capture time that the device ahead of the other has reached. 0 when not both write, or when one device stands
+/// still: its next frames will be from a later time.
 std::uint64_t RecordStateController::Private::commonTime() const {
     if (!builtIn.writes() || !computer.writes())
         return 0;
@@ -226,7 +226,8 @@ std::uint64_t RecordStateController::Private::commonTime() const {
     return behind != 0 && ahead - behind < FurthestBehind ? ahead : 0;
 }
 
-/// Cycles of two devices do not end together: the one that is behind still has some frames to give to the old files.
+/// Cycles of two devices do not end together: the first frames that the device behind gives after the cut still belong
+/// to its old file.
 void RecordStateController::Private::alignCut() {
     const std::uint64_t cutTime = commonTime();
     for (RecordSource& source : sources) {
@@ -237,8 +238,8 @@ void RecordStateController::Private::alignCut() {
     }
 }
 
-/// Gives every writing engine its next raw file. A source that cannot have one goes on in its old file, which then
-/// belongs to the next job; when that is so for the first one, nothing is cut at all.
+/// Gives every writing engine its next raw file. When a file cannot be made, that source goes on in its old file, which
+/// then belongs to the next job. When the first one cannot be made, nothing is cut: the answer is false.
 bool RecordStateController::Private::exchangeFiles(Ending& ending) {
     bool exchanged = false;
     for (std::size_t i = 0; i < sources.size(); ++i) {

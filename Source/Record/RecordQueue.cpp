@@ -78,7 +78,7 @@ RecordQueue::RecordQueue(Owner owner, QObject* parent)
 RecordQueue::~RecordQueue() {
     cancelled_ = true;
     worker_.waitForDone();
-    self_.reset(); // only now: the step at hand may still have been taking a guard
+    self_.reset(); // after the worker: its step may copy self_
     for (const auto& job : aryForExportDataInfo_) {
         const QString name = QFileInfo(job->path(ExportJob::OutPutPath)).completeBaseName();
         for (const auto& key :
@@ -222,7 +222,7 @@ void RecordQueue::openMovies(const std::shared_ptr<ExportJob>& job) {
         return;
     }
     if (!first || !second) {
-        // One half is lost: the other one becomes the recording, and what is left of the first is kept.
+        // One raw file cannot be read: the other one becomes the recording, and the bad one is kept.
         const QString bad = first ? raws.at(1) : raws.at(0);
         const QString good = first ? raws.at(0) : raws.at(1);
         if (QFileInfo(bad).size() > 0) {
@@ -281,7 +281,7 @@ void RecordQueue::converterMovie(const std::shared_ptr<ExportJob>& job) {
 }
 
 void RecordQueue::startConverterAudio(const std::shared_ptr<ExportJob>& job) {
-    // The WAVE is whole: the raw files have done their part, unless they were kept.
+    // The WAVE is whole, so the raw files are not needed any more. keepDamaged() may have taken them out of the job.
     for (const auto& key : {ExportJob::BuiltInAudioTempPath, ExportJob::ComputerAudioTempPath})
         if (const QString raw = job->path(key); !raw.isEmpty())
             removeTemporaryFile(raw);
@@ -291,7 +291,7 @@ void RecordQueue::startConverterAudio(const std::shared_ptr<ExportJob>& job) {
 void RecordQueue::converterAudio(const std::shared_ptr<ExportJob>& job) {
     const QString wave = job->path(ExportJob::OutPutWAVTempPath);
     const QString name = QFileInfo(job->path(ExportJob::OutPutPath)).fileName();
-    // Encoded beside the WAVE and then moved: whatever stands under the final name by now is not overwritten.
+    // Encode beside the WAVE and move the result: another file may have taken the final name meanwhile.
     const QString encoded = wave + u".m4a"_s;
     converterAudioControl_.setProgress([this](double share) {
         setProgress(MixShare + share * (1 - MixShare));
@@ -347,7 +347,7 @@ void RecordQueue::keepDamaged(ExportJob& job, const QStringList& keys, const Med
         files.append(job.path(key));
     const QStringList kept = keepFiles(job, files);
     for (const QString& key : keys)
-        job.paths.remove(key); // no longer the job's to delete
+        job.paths.remove(key); // so that the job does not delete it
     const QString name = QFileInfo(job.path(ExportJob::OutPutPath)).fileName();
     const QString text =
         u"A part of %1 could not be read (%2) and is missing in it. What it was made from is kept at %3."_s.arg(

@@ -17,7 +17,7 @@
 #include <memory>
 #include <mutex>
 
-/// A finished recording on its way from the raw files of the engines to one tagged file.
+/// One finished recording that waits to become a tagged file: its raw files and what is known about them.
 struct ExportJob {
     static inline const QString OutPutPath = QStringLiteral("OutPutPath");
     static inline const QString BuiltInAudioTempPath = QStringLiteral("BuiltInAudioTempPath");
@@ -47,12 +47,12 @@ struct ExportJob {
 };
 
 /// Turns finished recordings into tagged files, one at a time in the order in which they came: one source is moved, two
-/// are mixed and encoded. The work runs on a worker; what cannot be finished is set aside and told. Main thread, but
-/// for append() and rawFileClosed().
+/// are mixed and encoded. The work runs on a worker. Files of a job that fails are set aside, and a notice says where.
+/// Main thread only, except for append() and rawFileClosed().
 class RecordQueue : public QObject {
     Q_OBJECT
 public:
-    /// What the queue needs of its owner. The first two are called on a worker.
+    /// What the queue needs from its owner. The first two are called on a worker.
     struct Owner {
         /// Reserves the next free name for a recording whose own name is taken by now.
         std::function<QString()> nextFreeName;
@@ -62,13 +62,13 @@ public:
     };
 
     explicit RecordQueue(Owner owner, QObject* parent = nullptr);
-    /// Stops the job at hand; what is left in the queue is set aside.
+    /// Stops the current job and sets the files of all jobs aside.
     ~RecordQueue() override;
 
     /// Any thread.
     void append(std::shared_ptr<ExportJob> job);
-    /// Tells that one raw file of the job is closed, with the first error of its life. Any thread, also after the queue
-    /// is gone: hence the guard, which is taken while the queue lives.
+    /// Reports that one raw file of the job is closed, and the first error that writing it met. Any thread. A writer
+    /// may call this after the queue is destroyed: the guard, taken while the queue lives, then makes it do nothing.
     using Guard = std::weak_ptr<RecordQueue*>;
     [[nodiscard]] Guard guard() const { return self_; }
     static void rawFileClosed(const Guard& guard, const std::shared_ptr<ExportJob>& job, const QString& path,

@@ -51,7 +51,7 @@ void RecordSources::awakeFromNib() {
         if (nameOf(aryInputAudioDevice_.at(i)) != ComputerAudioName)
             continue;
         adoptComputerAudio(idOf(aryInputAudioDevice_.at(i)));
-        // The entry that moves into this place is not looked at: there is only one such device.
+        // The entry that moves into this place is skipped: there is only one such device.
         aryInputAudioDevice_.removeAt(i);
     }
     selected_ = aryInputAudioDevice_.isEmpty() ? -1 : 0;
@@ -61,12 +61,12 @@ void RecordSources::awakeFromNib() {
 
     if (auto* hardware = Platform::services().audioHardware) {
         connect(hardware, &Platform::AudioHardware::devicesChanged, this, &RecordSources::followDevices);
-        // The driver listens where it was told to: a new default output must be told again, during a recording too.
+        // The driver does not follow the default output by itself. Steer it again, also during a recording.
         connect(hardware, &Platform::AudioHardware::defaultOutputDeviceChanged, this, [this] {
             if (computerAudioDeviceID_ != 0 && computerAudioRecord_.records(computerAudioDeviceID_))
                 CaptureComputerAudio::startCaptureComputerAudio();
         });
-        // The driver ends with its server. A recording waits for the device, so it must come back with the next one.
+        // The driver ends with its server. Load it again: a recording may wait for its device.
         connect(hardware, &Platform::AudioHardware::connectedChanged, this, [](bool connected) {
             if (connected && !KextInstallControl::isBusy())
                 KextInstallControl::loadIfInstalled();
@@ -182,7 +182,7 @@ void RecordSources::followDevices() {
 
     if (computerAudio != computerAudioDeviceID_) {
         if (computerAudioRecord_.recordStatus() != 0) {
-            changedMeanwhile_ = true; // a wait for sound that was left by a stop may record: it waits for its device
+            changedMeanwhile_ = true; // an armed wait that a stop left running records: keep its device until it ends
         } else if (computerAudio != 0) {
             adoptComputerAudio(computerAudio);
         } else {

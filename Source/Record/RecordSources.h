@@ -10,7 +10,7 @@
 #include <QVariantList>
 
 /// The devices behind the two recorder engines: the list to choose an input device from, and the computer-audio device.
-/// Outside a recording the list follows the machine. Main thread.
+/// The list follows the machine while nothing is recorded. Main thread.
 class RecordSources : public QObject {
     Q_OBJECT
 public:
@@ -28,9 +28,9 @@ public:
     /// Binds the input engine to the chosen entry. @p index is only checked for its range.
     void configAudioDevice(int index);
     void configComputerRecordAudioDevice();
-    /// Looks for the computer-audio device anew; the input list stays as it is.
+    /// Looks for the computer-audio device again. The input list does not change.
     void findComputerAudioDevice();
-    /// While a recording runs the list stands still; what came and went meanwhile is taken in at its end.
+    /// The list does not change during a recording. Devices that came or went meanwhile are handled at its end.
     void setRecording(bool recording);
 
     [[nodiscard]] QStringList deviceNames() const;

@@ -19,7 +19,7 @@ using namespace PreferenceStore;
 
 namespace {
 
-/// More would only push the newest out of sight.
+/// The display has no room for more, and the newest must stay visible.
 constexpr qsizetype MostNotices = 20;
 
 Q_LOGGING_CATEGORY(recordLog, "sonaphex.record")
@@ -158,8 +158,7 @@ void RecordStateController::chooseBuiltInDevice(int index) {
 }
 
 bool RecordStateController::windowShouldClose() {
-    // What a left wait for sound records although the choices say otherwise is no reason to stay: it is kept at the
-    // end.
+    // An armed wait that a stop left running may still record. Closing does not wait for it: finishAll() saves it.
     if (recordState_() == 0)
         d->delegate->terminate();
     else
@@ -373,7 +372,7 @@ void RecordStateController::Private::keepAwake() {
         inhibitor->setInhibited(isActive() || anyEngineRecords(), tr("A recording is running."));
 }
 
-/// Always later: it is also said with the mutex locked, and who hears of it asks for the state.
+/// Always posted: callers may hold the mutex, and the receivers of noticesChanged() read the state, which takes it.
 void RecordStateController::Private::notice(const QString& text, const QString& replaces) {
     Platform::MainQueue::post([this, guard = std::weak_ptr<int>(alive), text, replaces] {
         if (guard.expired())

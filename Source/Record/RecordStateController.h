@@ -16,7 +16,7 @@
 /// files into recordings while the program ends.
 enum class RecordState { Idle, Armed, Recording, Paused, Finishing };
 
-/// What the recording side asks of those around it. All calls on the main thread.
+/// What the controller needs from the program around it. All calls come on the main thread.
 class RecordStateControllerDelegate {
 public:
     virtual ~RecordStateControllerDelegate() = default;
@@ -34,10 +34,11 @@ public:
 /// The recording side of the main window without the window: two engines, start, stop, pause, split, the display's
 /// clock, and the queue that turns raw files into tagged recordings of the library. A window binds to its properties.
 ///
-/// Main thread, but for the level callbacks (I/O threads), which begin an armed recording and split at silences.
+/// Main thread only, except for the level callbacks: they come on I/O threads, start an armed recording and split at
+/// silences.
 class RecordStateController : public QObject, public BuildInAudioRecordDelegate {
     Q_OBJECT
-    // One property for each thing that a window shows; each changes on the main thread with stateChanged().
+    // One property for each thing that a window shows. The notify signals come on the main thread.
     Q_PROPERTY(bool startEnabled READ isStateAudioCanStartRecord NOTIFY stateChanged)
     Q_PROPERTY(bool pauseEnabled READ isStateAudioRecord NOTIFY stateChanged)
     Q_PROPERTY(bool splitEnabled READ splitEnabled NOTIFY stateChanged)
@@ -82,7 +83,7 @@ public:
     void chooseBuiltInDevice(int index);
     /// Shows the stored choices again, as far as their devices are there.
     void refreshTheFace();
-    /// Whether the window may close: never; while nothing records the program ends, else an alert is shown.
+    /// Always false: the window never closes. Ends the program when nothing records, else shows an alert.
     bool windowShouldClose();
 
     /// One tick of the display's clock: 0.5 s. The clock runs from awakeFromNib() on; tests stop it and tick.
@@ -93,7 +94,7 @@ public:
     /// As the buttons show it. A wait for sound that a stop has left may record while this is Idle: recordState_()
     /// tells.
     [[nodiscard]] RecordState state() const;
-    /// 0 nothing is recorded, 1 it is, 2 it is paused.
+    /// Status of the engine of the checked source: 0 stopped, 1 recording, 2 paused.
     [[nodiscard]] int recordState_() const;
     [[nodiscard]] bool isStateAudioCanStartRecord() const;
     [[nodiscard]] bool isStateAudioRecord() const;
@@ -134,9 +135,9 @@ public:
     /// Ends the writing of each source with the cycle in which it reaches this many seconds since the start, over all
     /// files of splits: never fewer, and no cycle more. 0 is no limit. Before a start; holds until it is changed.
     void setRecordLimit(double seconds);
-    /// Whether a recording has a file to write to, be it that it still waits for its first sound.
+    /// Whether a source has a raw file to write to. Also true while it waits for its first sound.
     [[nodiscard]] bool hasFile() const;
-    /// Why the files at hand cannot be written any more; empty while they can.
+    /// Why the current files cannot be written any more; empty while they can.
     [[nodiscard]] QString writeProblem() const;
     /// The place of a device in the list, -1 when it is not there.
     [[nodiscard]] int indexOfDevice(AudioObjectID device) const;
@@ -144,7 +145,7 @@ public:
     [[nodiscard]] bool hasComputerAudioDevice() const;
     /// Recordings that the filter has thrown away in this process.
     [[nodiscard]] int droppedRecordings() const;
-    /// Frames lost in the recording at hand (or the last one), both sources, over all files of splits.
+    /// Frames lost in the current recording, or in the last one: both sources, over all files of splits.
     [[nodiscard]] std::uint64_t lostFrames() const;
     /// What the user should know, in plain words, newest last: lost frames, a device that went away, a source that is
     /// off, a disk that fills up, where an unfinished recording was kept.

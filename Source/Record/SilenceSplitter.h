@@ -11,7 +11,7 @@ public:
     /// Digital silence lies below this level.
     static constexpr float AudibleLevel = 1e-6F;
 
-    /// Forgets the waiting and the cutting: what a start and a stop begin with.
+    /// Ends the wait and switches cuts off. A start and a stop begin with it.
     void clear() {
         isWaittingComputerAudioRecord_ = false;
         isOnlyComputerAudioRecording_ = false;
@@ -28,7 +28,7 @@ public:
     /// Whether the silence so far asks for a cut. Only a silent cycle of the recording is cut at, also with a time of
     /// 0. A negative time means that cuts are off; with the input device on there are none either.
     [[nodiscard]] bool wantsCut(std::int32_t splitTimeMS, bool inputOn) const;
-    /// The stream was interrupted: the time that went by was no silence.
+    /// After the stream was interrupted: the time without it does not count as silence.
     void restartClock() { lastTime_ = 0; }
     [[nodiscard]] std::int64_t computerAudioNullTimeMs() const { return computerAudioNullTimeMs_; }
 
