@@ -13,6 +13,7 @@
 #include "tests/fakes/FakeBundle.h"
 #include "tests/support/CallersThings.h"
 #include "tests/support/PrivateAudioSession.h"
+#include "tests/support/RunTool.h"
 #include "tests/support/ServerWatch.h"
 #include "tests/support/TestCapture.h"
 #include "tests/support/TestCard.h"
@@ -74,13 +75,14 @@ protected:
         return name;
     }
     /// A second output, which does not become the default by itself.
-    void addSecondOutput(const QByteArray& properties = {}) {
-        second.start(u"pw-cli"_s, QStringList());
-        second.write("create-node adapter { factory.name=support.null-audio-sink node.name=test.second "
-                     "node.description=\"Second Output\" media.class=Audio/Sink audio.position=[FL FR] "
-                     "priority.session=1 " +
-                     properties + " }\n");
-        ASSERT_TRUE(waitFor([&] { return deviceNamed(u"Second Output"_s) != 0; }));
+    void addSecondOutput(const QByteArray& properties = {}) { addOutput("test.second", "Second Output", properties); }
+    void addOutput(const std::string& name, const std::string& description, const QByteArray& properties = {}) {
+        if (second.state() == QProcess::NotRunning)
+            second.start(u"pw-cli"_s, QStringList());
+        second.write("create-node adapter { factory.name=support.null-audio-sink node.name=" +
+                     QByteArray::fromStdString(name) + " node.description=\"" + QByteArray::fromStdString(description) +
+                     "\" media.class=Audio/Sink audio.position=[FL FR] priority.session=1 " + properties + " }\n");
+        ASSERT_TRUE(waitFor([&] { return deviceNamed(QString::fromStdString(description)) != 0; }));
     }
     void setDefaultOutput(const std::string& nodeName) {
         (void)Platform::DeviceRegistry::shared()->setMetadata(0, "default.configured.audio.sink", "Spa:String:JSON",
@@ -196,14 +198,24 @@ TEST_F(ComputerAudio, CarriesOnlyTheOutputItWasToldOf) {
 
 TEST_F(ComputerAudio, FollowsTheDefaultOutputWithoutAGap) {
     load();
-    addSecondOutput();
-    // A program that plays to wherever the default is: the session manager takes it along.
-    TestPlayer player(playing(0.5F, "test.one", ""));
-    ASSERT_TRUE(player.start());
-    TestCapture first({.target = "sonaphex.output", .monitor = true});
-    TestCapture other({.target = "test.second", .monitor = true});
-    ASSERT_TRUE(first.start());
-    ASSERT_TRUE(other.start());
+    // Each output is heard before and after it is the default, by a source that the session manager does not move: a
+    // silence can only come from the change between them.
+    const auto soundOn = [](const std::string& name, const std::string& output) {
+        auto options = playing(0.5F, name, "");
+        options.description = name;
+        options.ownClock = false;
+        auto source = std::make_unique<TestSource>(options);
+        EXPECT_TRUE(source->start());
+        for (const std::string channel : {"FL", "FR"})
+            EXPECT_TRUE(waitFor([&] {
+                return runTool(u"pw-link"_s, {QString::fromStdString(name + ":capture_" + channel),
+                                              QString::fromStdString(output + ":playback_" + channel)})
+                           .status == 0;
+            }));
+        return source;
+    };
+    std::vector<std::unique_ptr<TestSource>> sources;
+    sources.push_back(soundOn("test.sound", "sonaphex.output"));
     CaptureComputerAudio::startCaptureComputerAudio();
     QObject::connect(hardware.get(), &Platform::AudioHardware::defaultOutputDeviceChanged, hardware.get(),
                      [] { CaptureComputerAudio::startCaptureComputerAudio(); });
@@ -212,32 +224,29 @@ TEST_F(ComputerAudio, FollowsTheDefaultOutputWithoutAGap) {
     ASSERT_TRUE(waitFor([&] { return capture.recentPeak(480) == 0.5F; }));
     ServerWatch server;
     ASSERT_TRUE(server.start());
-    const auto fedBy = [&](const std::string& output) {
-        return waitFor([&] { return server.feedersOf("korvane.system-audio") == std::set<std::string>{output}; });
-    };
-    ASSERT_TRUE(fedBy("sonaphex.output"));
-    const auto begin = std::size_t(capture.frames() * 2);
-    for (int i = 0; i < 3; ++i) {
-        setDefaultOutput("test.second");
-        ASSERT_TRUE(fedBy("test.second"));
-        ASSERT_TRUE(waitFor([&] { return other.recentPeak(480) == 0.5F && first.recentPeak(480) == 0; }));
+    // The outputs have clocks of their own, and the server is silent for one cycle of 1024 frames when a node changes
+    // its clock. A machine that misses a source's cycle makes it silent too; then another change counts. A gap of the
+    // driver's own would be heard at each change.
+    constexpr std::size_t cycle = 1024;
+    std::size_t silent = cycle + 1;
+    for (int number = 1; number <= 10 && silent > cycle; ++number) {
+        const std::string output = "test.output" + std::to_string(number);
+        addOutput(output, "Output " + std::to_string(number));
+        TestCapture heard({.target = output, .monitor = true});
+        ASSERT_TRUE(heard.start());
+        sources.push_back(soundOn("test.sound" + std::to_string(number), output));
+        ASSERT_TRUE(waitFor([&] { return heard.recentPeak(480) == 0.5F; }));
+        const auto begin = std::size_t(capture.frames() * 2);
+        setDefaultOutput(output);
+        ASSERT_TRUE(waitFor([&] { return server.feedersOf("korvane.system-audio") == std::set<std::string>{output}; }));
+        const auto enough = capture.frames() + 8192;
+        ASSERT_TRUE(waitFor([&] { return capture.frames() > enough; }));
         ASSERT_TRUE(waitFor([&] { return capture.recentPeak(480) == 0.5F; })) << capture.recentPeak(480);
-        setDefaultOutput("sonaphex.output");
-        ASSERT_TRUE(fedBy("sonaphex.output"));
-        ASSERT_TRUE(waitFor([&] { return first.recentPeak(480) == 0.5F && other.recentPeak(480) == 0; }));
-        ASSERT_TRUE(waitFor([&] { return capture.recentPeak(480) == 0.5F; })) << capture.recentPeak(480);
+        const auto samples = capture.interleaved();
+        silent = std::size_t(std::count(samples.begin() + std::ptrdiff_t(begin), samples.end(), 0.0F)) / 2;
     }
-    // How long it is silent meanwhile is up to the session manager, which takes the player along, and to the machine.
-    // Ours is that each side hears the new output before the old one is let go.
+    EXPECT_LE(silent, cycle);
     EXPECT_EQ(server.timesCutOff("korvane.system-audio"), 0);
-    const auto samples = capture.interleaved();
-    std::size_t longest = 0;
-    std::size_t silent = 0;
-    for (std::size_t i = begin; i < samples.size(); i += 2) {
-        silent = samples[i] == 0 ? silent + 1 : 0;
-        longest = std::max(longest, silent);
-    }
-    RecordProperty("longestSilenceInFrames", int(longest));
 }
 
 TEST_F(ComputerAudio, FallsBackToTheDefaultOutputWhenItsOwnIsPulledOut) {

@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-/// The frames that a capture of a ramp names, in their order; silence is left out.
+/// The frames that a capture of a ramp names, in their order. Silence is left out of them and counted on its own.
 ///
 /// A machine that is busy with other things loses whole cycles of the server, on the way to the capture too. Those can
 /// be told from faults of the one who plays or carries: they are multiples of the cycle.
@@ -20,12 +20,18 @@ struct HeardFrames {
     std::size_t lostCycles = 0;
     testing::AssertionResult exact = testing::AssertionSuccess(); ///< but for whole cycles
     std::size_t longestRun = 0;                                   ///< frames without any loss
+    std::size_t silentWithin = 0; ///< frames of silence between the first and the last frame that was heard
 
     explicit HeardFrames(const std::vector<float>& stereo) {
         std::size_t run = 0;
+        std::size_t silent = 0;
         for (std::size_t i = 0; i + 1 < stereo.size(); i += 2) {
-            if (stereo[i] == 0 && stereo[i + 1] == 0)
+            if (stereo[i] == 0 && stereo[i + 1] == 0) {
+                ++silent;
                 continue;
+            }
+            silentWithin += frames.empty() ? 0 : silent;
+            silent = 0;
             const std::int64_t frame = Signal::rampFrame(stereo[i], 0);
             if (Signal::rampFrame(stereo[i + 1], 1) != std::uint32_t(frame))
                 exact = testing::AssertionFailure() << "the channels differ at frame " << frame;

@@ -64,6 +64,10 @@ protected:
                 controller->splitTheRecord();
             }
             ASSERT_TRUE(recorded(at + 0.4));
+            // All that the source played so far has to be in the files: a second later it was written long ago.
+            const auto played = computer.position();
+            playedUntil = double(played) / 48000;
+            ASSERT_TRUE(waitFor([&] { return computer.position() > played + 48000; }));
             g_SplitTimeMS = -1;
             controller->startAndStopRecord();
             delivered = controller->recordedSeconds();
@@ -97,6 +101,8 @@ protected:
         };
         const double start = whereItBegan(sound, all);
         ASSERT_GE(start, 0);
+        EXPECT_LE(start, startedAt + 0.2) << "from the start, by the source's count";
+        EXPECT_GE(start + double(all.size()) / 44100, playedUntil) << "to the end, by the source's count";
         int checked = 0;
         for (std::size_t i = 0; i + 1 < ends.size(); ++i)
             for (const std::ptrdiff_t offset : {-3000, 500}) {
@@ -161,6 +167,7 @@ protected:
     PrivateAudioSession& session = PrivateAudioSession::shared();
     std::unique_ptr<Platform::AudioHardware> hardware = Platform::createAudioHardware();
     std::unique_ptr<Platform::IORegistry> registry = Platform::createIORegistry();
-    double delivered = 0; ///< seconds, by the engine's count
-    double startedAt = 0; ///< of the sound, roughly
+    double delivered = 0;   ///< seconds, by the engine's count
+    double startedAt = 0;   ///< of the sound, roughly
+    double playedUntil = 0; ///< seconds of the sound that must be in the files
 };
