@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <span>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -18,8 +19,8 @@ Q_LOGGING_CATEGORY(waveLog, "sonaphex.wave")
 
 constexpr int kValuesPerSecond = 10;
 constexpr int kBlocksPerReport = 256;
-/// Values fetched at once where a file need not be read in full: ten minutes of sound.
-constexpr std::size_t kValuesAtOnce = 6000;
+/// Values fetched at once where a file need not be read in full: a hundred seconds of sound.
+constexpr std::size_t kValuesAtOnce = 1000;
 
 /// The frames at which blocks begin in which a tenth of a second becomes full.
 std::vector<std::int64_t> framesOfPoints(std::int64_t length, double rate) {
@@ -71,6 +72,7 @@ QList<float> AudioExtractWave::extractSamplePoint() {
     ClientBlock block;
     int counter = 0;
     std::int64_t position = 0;
+    qsizetype told = 0;
     for (int blocks = 1;; ++blocks) {
         auto frames = block.prepare(actualOutputFormat_);
         if (infile_->read(frames, block.list()) != noErr)
@@ -83,11 +85,19 @@ QList<float> AudioExtractWave::extractSamplePoint() {
             counter = static_cast<int>(counter - rate / kValuesPerSecond);
             points.append(block.firstSample());
         }
-        if (progress_ && blocks % kBlocksPerReport == 0 &&
-            !progress_(std::min(1.0, double(position) / std::max(total, 1.0))))
+        if (blocks % kBlocksPerReport != 0)
+            continue;
+        tell(points, std::exchange(told, points.size()));
+        if (progress_ && !progress_(std::min(1.0, double(position) / std::max(total, 1.0))))
             break;
     }
+    tell(points, told);
     return points;
+}
+
+void AudioExtractWave::tell(const QList<float>& points, qsizetype first) const {
+    if (points_ && first < points.size())
+        points_(first, std::span(points.constData() + first, std::size_t(points.size() - first)));
 }
 
 /// Fetches the values alone where the file allows it. False: read it in full.
@@ -103,6 +113,8 @@ bool AudioExtractWave::extractSparse(const std::vector<std::int64_t>& frames, QL
             points.clear();
             return false;
         }
+        if (points_)
+            points_(qsizetype(begin), std::span<const float>(points.constData() + begin, count));
     }
     return true;
 }

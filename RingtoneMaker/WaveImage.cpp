@@ -22,22 +22,27 @@ QImage drawOn(const QList<float>& values, const QColor& ground) {
     if (picture.isNull())
         return {};
     picture.fill(ground);
-    constexpr double middle = kHeight / 2.0;
     for (int begin = 0; begin < picture.width(); begin += kTile) {
         const int width = std::min(kTile, picture.width() - begin);
         QImage tile(picture.bits() + qsizetype(begin) * 4, width, kHeight, picture.bytesPerLine(), picture.format());
         QPainter painter(&tile);
         painter.setRenderHint(QPainter::Antialiasing);
-        for (int i = 0; i < width; ++i) {
-            const auto value = values[begin + i];
-            const double half = std::isfinite(value) ? std::min(1.0, std::fabs(double(value))) * middle : 0;
-            painter.fillRect(QRectF(i, middle - half, 1, 2 * half), QColor(255, 0, 0));
-        }
+        painter.translate(-begin, 0);
+        paint(painter, values, begin, begin + width);
     }
     return picture;
 }
 
 } // namespace
+
+void paint(QPainter& painter, const QList<float>& values, qsizetype begin, qsizetype end) {
+    constexpr double middle = kHeight / 2.0;
+    for (qsizetype i = begin; i < std::min(end, values.size()); ++i) {
+        const auto value = values[i];
+        const double half = std::isfinite(value) ? std::min(1.0, std::fabs(double(value))) * middle : 0;
+        painter.fillRect(QRectF(double(i), middle - half, 1, 2 * half), QColor(255, 0, 0));
+    }
+}
 
 QImage draw(const QList<float>& values) {
     return drawOn(values, Qt::transparent);

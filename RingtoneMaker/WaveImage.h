@@ -5,6 +5,8 @@
 #include <QImage>
 #include <QList>
 
+class QPainter;
+
 namespace WaveImage {
 
 inline constexpr int kHeight = 200;         ///< points
@@ -17,5 +19,9 @@ inline constexpr int kFewestValues = 11;    ///< below that there is no picture
 
 /// The same on the grey of the waveform strip.
 [[nodiscard]] QImage drawOnStrip(const QList<float>& values);
+
+/// Draws the values from the number @p begin up to @p end, each at its own number from the painter's left. Clear
+/// ground.
+void paint(QPainter& painter, const QList<float>& values, qsizetype begin, qsizetype end);
 
 } // namespace WaveImage

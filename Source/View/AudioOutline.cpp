@@ -5,10 +5,18 @@
 #include "Platform/Foundation/MainQueue.h"
 #include "RingtoneMaker/AudioExtractWave.h"
 
+#include <QElapsedTimer>
 #include <QPainter>
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
+#include <span>
+#include <utility>
+
+namespace {
+constexpr int kMillisecondsBetween = 50; ///< two announcements of new values
+}
 
 AudioOutline::AudioOutline(QObject* parent) : QObject(parent) {
 }
@@ -27,20 +35,55 @@ void AudioOutline::stop() {
 void AudioOutline::load(const QString& path) {
     stop();
     values_.clear();
+    problem_.clear();
     cancelled_ = std::make_shared<std::atomic<bool>>(false);
     worker_ = std::thread([this, path, cancelled = cancelled_] {
+        const auto post = [this, &cancelled](std::function<void()> work) {
+            Platform::MainQueue::post(this, [cancelled, work = std::move(work)] {
+                if (!*cancelled)
+                    work();
+            });
+        };
+        // Values that have not been told yet: a window that is told of each second of ten hours does nothing else.
+        QList<float> pending;
+        qsizetype first = 0;
+        QElapsedTimer sinceTold;
+        const auto tell = [&] {
+            if (!pending.isEmpty())
+                post([this, first, values = std::exchange(pending, {})] { take(first, values); });
+            sinceTold.start();
+        };
         AudioExtractWave wave;
         wave.setProgress([&](double) { return !*cancelled; });
-        if (!wave.openFile(path))
-            return;
-        const QList<float> values = wave.extractSamplePoint();
-        Platform::MainQueue::post(this, [this, values, cancelled] {
-            if (*cancelled)
-                return;
-            values_ = values;
-            Q_EMIT loaded();
+        wave.setPoints([&](qsizetype number, std::span<const float> values) {
+            if (number != first + pending.size())
+                tell();
+            if (pending.isEmpty())
+                first = number;
+            pending.append(QList<float>(values.begin(), values.end()));
+            if (!sinceTold.isValid() || sinceTold.elapsed() >= kMillisecondsBetween)
+                tell();
         });
+        if (wave.openFile(path)) {
+            const QList<float> values = wave.extractSamplePoint();
+            tell();
+            post([this, values] {
+                values_ = values;
+                Q_EMIT loaded();
+            });
+        } else {
+            post([this, why = wave.error().text] {
+                problem_ = why;
+                Q_EMIT loaded();
+            });
+        }
     });
+}
+
+void AudioOutline::take(qsizetype first, const QList<float>& values) {
+    values_.resize(first);
+    values_.append(values);
+    Q_EMIT grew(first);
 }
 
 void AudioOutline::draw(QPainter& painter, const QRectF& rect, const QList<float>& values, const QColor& color) {

@@ -46,6 +46,7 @@ MainWndController::MainWndController(RecordStateController& record, MediaLibrary
                                                   *filter_, [this] { return record_.isStateAudioRecord(); });
     commands_ = std::make_unique<WindowCommands>(*library_);
     panel_ = std::make_unique<RecordPanel>(*ui_, record_, *display_);
+    bindWindows();
     menus_ = std::make_unique<MainMenus>(*ui_, *this);
     layout_ = std::make_unique<WindowLayout>(*window_, *ui_->librarySplitter_, *ui_->audioTableView_);
     bindLibrary();
@@ -132,6 +133,25 @@ void MainWndController::bindLibrary() {
     showEmptyText();
     showSelection();
     ui_->audioTableView_->setFocus();
+}
+
+void MainWndController::bindWindows() {
+    commands_->setOpener(WindowCommands::Window::RingtoneMaker, [this](const QVariantList& entries) {
+        const Dictionary entry = entries.value(0).toMap();
+        auto& maker = RingtoneMakerViewController::shareController();
+        maker.setDelegate(this);
+        maker.openFile(Platform::stringForm(entry.value(AudioRecordEntry::SavePath)), entry);
+        maker.showWindow(window_.get());
+        maker.setDelegate(nullptr);
+    });
+}
+
+QString MainWndController::nextRingtoneMakerFilePath() {
+    return record_.nextRingtoneMakerFilePath();
+}
+
+void MainWndController::addRingtoneFile(const QString& path, const Dictionary& tags) {
+    library_->addRingtoneFile(path, tags);
 }
 
 bool MainWndController::isWindowVisible() const {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "RingtoneMaker/RingtoneMakerViewController.h"
 #include "Source/AudioWaveViewController/AudioWaveViewController.h"
 #include "Source/Control/ToolControl.h"
 #include "Source/Record/RecordStateController.h"
@@ -30,7 +31,8 @@ class MainWndController : public QObject,
                           public ToolControl::WindowShower,
                           public RecordStateControllerDelegate,
                           public AudioWaveViewControllerDelegate,
-                          public MediaNodeListTableViewDelegate {
+                          public MediaNodeListTableViewDelegate,
+                          public RingtoneMakerViewControllerDelegate {
     Q_OBJECT
 public:
     /// Name of an action's property that holds the command which it sends ("startAndStopRecord:").
@@ -96,6 +98,10 @@ public:
     void updateAudioWaveRecordState() override;
     void updatePlaySoundButton() override;
 
+    // ---- asked by the ringtone maker
+    [[nodiscard]] QString nextRingtoneMakerFilePath() override;
+    void addRingtoneFile(const QString& path, const Dictionary& tags) override;
+
     // ---- asked by the table
     QMenu* menuForEvent(QContextMenuEvent& event) override;
 
@@ -113,6 +119,7 @@ protected:
 private:
     void setUpViews();
     void bindLibrary();
+    void bindWindows();
     void recordingFinished(const QString& path, const Dictionary& entry);
     void showSelection();
     /// The selected node and rows, to be compared: its key, then the paths.
