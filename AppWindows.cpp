@@ -70,6 +70,7 @@ public:
                                          });
             window->menus().update();
         }
+        window->bindWindows();
         QObject::connect(window.get(), &MainWndController::perference, &application,
                          [&application] { application.perference(); });
         QObject::connect(window.get(), &MainWndController::support, &application,

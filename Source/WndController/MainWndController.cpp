@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/WndController/MainWndController.h"
 
-#include "FilterAudio/AudioFilterController.h"
 #include "Platform/Desktop/Activation.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
@@ -46,7 +45,6 @@ MainWndController::MainWndController(RecordStateController& record, MediaLibrary
                                                   *filter_, [this] { return record_.isStateAudioRecord(); });
     commands_ = std::make_unique<WindowCommands>(*library_);
     panel_ = std::make_unique<RecordPanel>(*ui_, record_, *display_);
-    bindWindows();
     menus_ = std::make_unique<MainMenus>(*ui_, *this);
     layout_ = std::make_unique<WindowLayout>(*window_, *ui_->librarySplitter_, *ui_->audioTableView_);
     bindLibrary();
@@ -144,6 +142,16 @@ void MainWndController::bindWindows() {
         maker.showWindow(window_.get());
         maker.setDelegate(nullptr);
     });
+    filter_->setDelegate(this);
+    commands_->setOpener(WindowCommands::Window::Filter, [this](const QVariantList& entries) {
+        filter_->setAudioArray(entries);
+        filter_->showWindow(window_.get());
+    });
+    menus_->update();
+}
+
+void MainWndController::removeMediaLibraryArray(const QVariantList& entries) {
+    library_->removeMediaLibraryArray(entries);
 }
 
 QString MainWndController::nextRingtoneMakerFilePath() {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "FilterAudio/AudioFilterController.h"
 #include "RingtoneMaker/RingtoneMakerViewController.h"
 #include "Source/AudioWaveViewController/AudioWaveViewController.h"
 #include "Source/Control/ToolControl.h"
@@ -14,7 +15,6 @@
 
 #include <optional>
 
-class AudioFilterController;
 class LibraryPresenter;
 class MainMenus;
 class MediaLibrary;
@@ -32,7 +32,8 @@ class MainWndController : public QObject,
                           public RecordStateControllerDelegate,
                           public AudioWaveViewControllerDelegate,
                           public MediaNodeListTableViewDelegate,
-                          public RingtoneMakerViewControllerDelegate {
+                          public RingtoneMakerViewControllerDelegate,
+                          public AudioFilterControllerDelegate {
     Q_OBJECT
 public:
     /// Name of an action's property that holds the command which it sends ("startAndStopRecord:").
@@ -50,6 +51,9 @@ public:
     [[nodiscard]] MainMenus& menus() const { return *menus_; }
     [[nodiscard]] RecordPanel& recordPanel() const { return *panel_; }
     [[nodiscard]] AudioFilterController& filter() const { return *filter_; }
+
+    /// Lets the commands open the ringtone maker and the short-recording filter, and takes what they bring.
+    void bindWindows();
 
     // ---- the window, as ToolControl shows it
     [[nodiscard]] bool isWindowVisible() const override;
@@ -102,6 +106,9 @@ public:
     [[nodiscard]] QString nextRingtoneMakerFilePath() override;
     void addRingtoneFile(const QString& path, const Dictionary& tags) override;
 
+    // ---- asked by the short-recording filter
+    void removeMediaLibraryArray(const QVariantList& entries) override;
+
     // ---- asked by the table
     QMenu* menuForEvent(QContextMenuEvent& event) override;
 
@@ -119,7 +126,6 @@ protected:
 private:
     void setUpViews();
     void bindLibrary();
-    void bindWindows();
     void recordingFinished(const QString& path, const Dictionary& entry);
     void showSelection();
     /// The selected node and rows, to be compared: its key, then the paths.

@@ -426,9 +426,9 @@ TEST_F(RingtoneMaker, IsReachableByKeyboard) {
         reached.insert(window->focusWidget());
         QTest::keyClick(window->windowHandle(), Qt::Key_Tab);
     }
-    for (const char* each : {"audioWaveTrimView", "audioEditTimeView", "btnPlay", "btnPreview", "fromField", "toField",
-                             "fadeInBox", "fadeInField", "fadeOutBox", "fadeOutField", "transferBox", "cancelButton",
-                             "makeButton"})
+    for (const char* each :
+         {"audioWaveTrimView", "audioEditTimeView", "btnPlay", "btnPreview", "fromField", "toField", "fadeInBox",
+          "fadeInField", "fadeOutBox", "fadeOutField", "transferBox", "cancelButton", "makeButton"})
         EXPECT_TRUE(reached.contains(&world.outlet(each))) << each;
     QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
     EXPECT_FALSE(window->isVisible());
