@@ -10,6 +10,7 @@
 #include "Platform/Desktop/linux/LinuxDesktop.h"
 #include "Platform/Desktop/linux/LinuxHotKeys.h"
 #include "Platform/Desktop/linux/PortalColorScheme.h"
+#include "Platform/Disc/linux/LinuxDiscRecording.h"
 #include "Platform/Foundation/Bundle.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/linux/LinuxFoundation.h"
@@ -35,6 +36,8 @@ struct LinuxServices::Private {
     std::unique_ptr<Alerts> alerts;
     std::unique_ptr<AdminShell> adminShell;
     std::unique_ptr<SleepInhibitor> sleepInhibitor;
+    std::unique_ptr<DiscRecording> discRecording; // a burn that runs reads through mediaFiles
+    std::unique_ptr<DiskArbitration> diskArbitration;
     std::unique_ptr<ColorScheme> colorScheme;
     std::unique_ptr<HotKeys> hotKeys;
     std::unique_ptr<AudioHardware> audioHardware;
@@ -57,6 +60,9 @@ void LinuxServices::install(Mode mode) {
     set.alerts = (d->alerts = createCommandLineAlerts()).get();
     set.adminShell = (d->adminShell = createAdminShell()).get();
     set.sleepInhibitor = (d->sleepInhibitor = createSleepInhibitor()).get(); // connects when something is recorded
+    d->discRecording = std::make_unique<LinuxDiscRecording>(*set.mediaFiles); // looks for drives when it is asked
+    set.discRecording = d->discRecording.get();
+    set.diskArbitration = (d->diskArbitration = createDiskArbitration()).get();
     if (mode == Mode::CommandLine)
         return;
     set.colorScheme = (d->colorScheme = createColorScheme()).get();

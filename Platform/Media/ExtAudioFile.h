@@ -92,6 +92,8 @@ public:
         return false;
     }
     [[nodiscard]] virtual MediaError firstError() const = 0;
+    /// What the file says of itself under a key ("title", "artist"); empty when it says nothing.
+    [[nodiscard]] virtual QString metadata(const QString& /*key*/) const { return {}; }
 };
 
 /// What a file is, without decoding it.

@@ -18,6 +18,7 @@ public:
     OSStatus read(std::uint32_t& frames, AudioBufferList* data) override;
     [[nodiscard]] bool sparseSamples(std::span<const std::int64_t> frames, std::span<float> out) override;
     [[nodiscard]] MediaError firstError() const override { return firstError_; }
+    [[nodiscard]] QString metadata(const QString& key) const override { return input_->metadata(key); }
 
     /// For readers of our own that take rows as they come: up to all that is decoded, valid until the next call.
     struct Rows {

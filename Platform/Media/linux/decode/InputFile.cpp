@@ -308,6 +308,9 @@ AudioStreamBasicDescription InputFile::dataFormat() const {
             format.mFormatID = (format.mFormatID << 8) | std::uint8_t(letter);
         }
         format.mFramesPerPacket = std::uint32_t(std::max(0, parameters.frame_size));
+        const AVCodecDescriptor* descriptor = avcodec_descriptor_get(parameters.codec_id);
+        if (descriptor && (descriptor->props & AV_CODEC_PROP_LOSSLESS) && !(descriptor->props & AV_CODEC_PROP_LOSSY))
+            format.mBitsPerChannel = std::uint32_t(std::max(0, parameters.bits_per_raw_sample));
     }
     return format;
 }
@@ -326,6 +329,15 @@ std::int64_t InputFile::packetCount() {
         }
     }
     return std::max<std::int64_t>(0, packets_);
+}
+
+QString InputFile::metadata(const QString& key) const {
+    const QByteArray name = key.toUtf8();
+    // Some containers keep the tags with the file, some with the stream.
+    for (const AVDictionary* tags : {format_->metadata, stream_->metadata})
+        if (const AVDictionaryEntry* entry = av_dict_get(tags, name.constData(), nullptr, 0))
+            return QString::fromUtf8(entry->value).trimmed();
+    return {};
 }
 
 void InputFile::setOutputChannels(int channels) {

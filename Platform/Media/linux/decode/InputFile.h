@@ -26,6 +26,8 @@ public:
     [[nodiscard]] std::int64_t lengthFrames();
     [[nodiscard]] AudioStreamBasicDescription dataFormat() const;
     [[nodiscard]] std::int64_t packetCount();
+    /// See ExtAudioFileReader::metadata().
+    [[nodiscard]] QString metadata(const QString& key) const;
 
     /// What next() gives shall have this many channels.
     void setOutputChannels(int channels);

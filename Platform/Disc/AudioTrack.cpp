@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Disc/AudioTrack.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace Platform {
+
+std::unique_ptr<ExtAudioFileReader> AudioTrack::openReader(MediaError& error) {
+    auto reader = files_.openReader(path_, error);
+    if (reader && reader->setClientDataFormat(planarFloatFormat(CDFormat::kRate, 2)) != noErr) {
+        error = {MediaError::Kind::UnknownFormat, path_ + QStringLiteral(": its rate cannot be converted")};
+        reader.reset();
+    }
+    return reader;
+}
+
+std::shared_ptr<AudioTrack> AudioTrack::open(MediaFiles& files, const QString& path, QString& why) {
+    std::shared_ptr<AudioTrack> track(new AudioTrack(files, path));
+    MediaError error;
+    track->opened_ = track->openReader(error);
+    if (!track->opened_) {
+        why = error.text.isEmpty() ? path + QStringLiteral(": cannot be read") : error.text;
+        return nullptr;
+    }
+    const ExtAudioFileReader& reader = *track->opened_;
+    const AudioStreamBasicDescription format = reader.fileDataFormat();
+    const std::int64_t length = reader.fileLengthFrames();
+    if (length <= 0 || format.mSampleRate <= 0) {
+        why = path + QStringLiteral(": holds no sound");
+        return nullptr;
+    }
+    const auto rate = std::int64_t(format.mSampleRate);
+    track->frames_ = rate == CDFormat::kRate ? length : (length * CDFormat::kRate + rate / 2) / rate;
+    track->sectors_ = std::max(CDFormat::kShortestTrack,
+                               (track->frames_ + CDFormat::kFramesPerSector - 1) / CDFormat::kFramesPerSector);
+    const bool isInteger = format.mBitsPerChannel > 0 && !(format.mFormatFlags & kAudioFormatFlagIsFloat);
+    track->exact_ =
+        rate == CDFormat::kRate && format.mChannelsPerFrame <= 2 && isInteger && format.mBitsPerChannel <= 16;
+    track->divisible_ = format.mFormatID == kAudioFormatLinearPCM || format.mFormatID == kAudioFormatMPEG4AAC;
+    track->title_ = reader.metadata(QStringLiteral("title"));
+    track->artist_ = reader.metadata(QStringLiteral("artist"));
+    return track;
+}
+
+std::unique_ptr<SectorRenderer> AudioTrack::renderer(MediaError& error) {
+    std::unique_ptr<ExtAudioFileReader> reader;
+    {
+        const std::lock_guard lock(mutex_);
+        reader = std::move(opened_);
+    }
+    if (!reader)
+        reader = openReader(error);
+    if (!reader)
+        return nullptr;
+    return std::make_unique<SectorRenderer>(std::move(reader), path_, frames_, exact_);
+}
+
+} // namespace Platform

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Disc/DiscRecording.h"
+#include "Platform/Disc/SectorRenderer.h"
+
+#include <mutex>
+
+namespace Platform {
+
+/// A track of an audio CD that is made from a sound file of any kind. The file stays open from the moment when it is
+/// measured, so that one which is deleted afterwards is still burned.
+class AudioTrack final : public DRTrack {
+public:
+    /// Opens and measures the file. @return null when it cannot be read; @p why then names it and says why
+    [[nodiscard]] static std::shared_ptr<AudioTrack> open(MediaFiles& files, const QString& path, QString& why);
+
+    [[nodiscard]] DRTrackProperties properties() const override { return properties_; }
+    void setProperties(const DRTrackProperties& properties) override { properties_ = properties; }
+    [[nodiscard]] QString path() const override { return path_; }
+    [[nodiscard]] std::int64_t sectors() const override { return sectors_; }
+    [[nodiscard]] QString title() const override { return title_; }
+    [[nodiscard]] QString artist() const override { return artist_; }
+
+    /// The samples of the file are those of the disc: no dither is added.
+    [[nodiscard]] bool isExact() const { return exact_; }
+    /// Whether the file can be read from any place as if it had been read from its beginning.
+    [[nodiscard]] bool canBeDivided() const { return divisible_; }
+    /// A source of the track's sectors, at its beginning. Any thread. @return null when the file cannot be opened
+    /// again, or has changed since it was measured
+    [[nodiscard]] std::unique_ptr<SectorRenderer> renderer(MediaError& error);
+
+private:
+    explicit AudioTrack(MediaFiles& files, QString path) : files_(files), path_(std::move(path)) {}
+    [[nodiscard]] std::unique_ptr<ExtAudioFileReader> openReader(MediaError& error);
+
+    MediaFiles& files_;
+    QString path_;
+    DRTrackProperties properties_;
+    std::int64_t frames_ = 0;
+    std::int64_t sectors_ = 0;
+    QString title_;
+    QString artist_;
+    bool exact_ = false;
+    bool divisible_ = false;
+
+    std::mutex mutex_;
+    std::unique_ptr<ExtAudioFileReader> opened_; // guarded by mutex_: the reader that measured, for its first user
+};
+
+} // namespace Platform

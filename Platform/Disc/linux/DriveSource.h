@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Disc/DiscRecording.h"
+#include "Platform/Disc/DiskArbitration.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace Platform {
+
+/// One drive that can write discs, as the system's device database knows it.
+struct FoundDrive {
+    QString path;   ///< "/dev/sr0", or another address that libburn takes
+    QString device; ///< "sr0"
+    QString name;   ///< maker and model
+    DRDeviceMediaState media = DRDeviceMediaStateNone;
+    bool mediaIsBlank = false;      ///< as the device database has it: taken when the drive cannot be opened
+    bool mediaIsRewritable = false; ///< likewise
+    int mediaChanges = 0;           ///< grows with each change of the disc that the system noticed
+};
+
+/// Where drives are found and watched. Main thread, but for openError().
+class DriveSource {
+public:
+    virtual ~DriveSource() = default;
+    [[nodiscard]] virtual std::vector<FoundDrive> drives() = 0;
+    /// Why the drive cannot be opened for writing: an errno, 0 when it can. Any thread.
+    [[nodiscard]] virtual int openError(const QString& path) = 0;
+    /// While a drive is quiet it is not looked at: a look can disturb a burn.
+    virtual void setQuiet(const QString& path, bool quiet) = 0;
+};
+
+/// Finds drives with udev. @p changed is called on the main thread when drives or discs may have changed: at events of
+/// the kernel, and after looking every two seconds, for kernels that do not watch their drives.
+[[nodiscard]] std::unique_ptr<DriveSource> createDriveSource(std::function<void()> changed);
+/// Describes block devices with udev, and the drive that writes images.
+[[nodiscard]] std::unique_ptr<DiskArbitration> createDiskArbitration();
+
+} // namespace Platform

@@ -1,0 +1,174 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Disc/linux/ImageWriter.h"
+
+#include "Platform/Disc/CueSheet.h"
+#include "Platform/Foundation/FileManager.h"
+#include "Platform/Foundation/ReplacementFile.h"
+#include "Platform/Foundation/linux/Descriptor.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <condition_variable>
+#include <fcntl.h>
+#include <thread>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Platform {
+
+namespace {
+
+constexpr std::int64_t kStretchSectors = 120 * CDFormat::kSectorsPerSecond;
+constexpr std::int64_t kBlockSectors = 75;
+constexpr unsigned kMostThreads = 8;
+constexpr auto kBetweenReports = std::chrono::milliseconds(100);
+
+QString megabytes(std::int64_t bytes) {
+    return QString::number((bytes + 999'999) / 1'000'000) + u" MB"_s;
+}
+
+} // namespace
+
+ImageWriter::ImageWriter(DRLayout layout, QString cue, QString bin, const std::atomic<bool>& aborted)
+    : layout_(std::move(layout)), cue_(std::move(cue)), bin_(std::move(bin)), aborted_(aborted) {
+    divide();
+}
+
+/// Long tracks are divided where their kind allows it, so that one long file keeps all processors busy.
+void ImageWriter::divide() {
+    for (std::size_t i = 0; i < layout_.size(); ++i) {
+        total_ += layout_[i]->properties().preGapLength;
+        const auto track = std::dynamic_pointer_cast<AudioTrack>(layout_[i]);
+        const std::int64_t sectors = layout_[i]->sectors();
+        const std::int64_t most = track && track->canBeDivided() ? kStretchSectors : sectors;
+        for (std::int64_t first = 0; first < sectors; first += most)
+            stretches_.push_back({i, first, std::min(most, sectors - first), total_ + first});
+        total_ += sectors;
+        audio_ += sectors;
+    }
+}
+
+double ImageWriter::share() const {
+    return audio_ > 0 ? double(done_) / double(audio_) : 0;
+}
+
+void ImageWriter::stop(const QString& problem) {
+    const std::lock_guard lock(mutex_);
+    if (problem_.isEmpty())
+        problem_ = problem;
+    stopped_ = true;
+}
+
+QString ImageWriter::inWords(int error) const {
+    if (error == ENOSPC || error == EDQUOT)
+        return u"%1: the disk is full: the image needs %2, %3 are free"_s.arg(
+            bin_, megabytes(total_ * CDFormat::kBytesPerSector), megabytes(FileManager::availableBytes(bin_)));
+    if (error == EEXIST)
+        return u"%1: exists already, and an image replaces no file; choose another name"_s.arg(bin_);
+    return u"%1: cannot be written: %2"_s.arg(bin_, qt_error_string(error));
+}
+
+QString ImageWriter::render(const Stretch& stretch, std::unique_ptr<SectorRenderer>& renderer,
+                            std::vector<std::byte>& memory) {
+    const QString& path = layout_[stretch.track]->path();
+    if (!renderer->seek(stretch.first))
+        return path + u": cannot be read"_s;
+    for (std::int64_t done = 0; done < stretch.sectors;) {
+        if (aborted_ || stopped_)
+            return {};
+        const auto sectors = std::min(kBlockSectors, stretch.sectors - done);
+        const auto block = std::span(memory).first(std::size_t(sectors * CDFormat::kBytesPerSector));
+        if (const MediaError error = renderer->render(block))
+            return error.text.isEmpty() ? path + u": cannot be read"_s : error.text;
+        const std::int64_t at = (stretch.place + done) * CDFormat::kBytesPerSector;
+        if (!writeAllAt(file_, QByteArrayView(block.data(), qsizetype(block.size())), at))
+            return inWords(errno);
+        // The disk begins to write at once: at the end little is left to wait for.
+        (void)::sync_file_range(file_, at, off_t(block.size()), SYNC_FILE_RANGE_WRITE);
+        done += sectors;
+        done_ += sectors;
+    }
+    return {};
+}
+
+void ImageWriter::work() {
+    std::vector<std::byte> memory(std::size_t(kBlockSectors * CDFormat::kBytesPerSector));
+    std::unique_ptr<SectorRenderer> renderer;
+    std::size_t track = layout_.size();
+    for (std::size_t i = next_++; i < stretches_.size() && !stopped_ && !aborted_; i = next_++) {
+        const Stretch& stretch = stretches_[i];
+        if (stretch.track != track) {
+            track = stretch.track;
+            MediaError error;
+            const auto audio = std::dynamic_pointer_cast<AudioTrack>(layout_[track]);
+            renderer = audio ? audio->renderer(error) : nullptr;
+            if (!renderer)
+                return stop(error.text.isEmpty() ? layout_[track]->path() + u": is no sound file"_s : error.text);
+        }
+        if (const QString problem = render(stretch, renderer, memory); !problem.isEmpty())
+            return stop(problem);
+    }
+}
+
+QString ImageWriter::write(const Progress& progress) {
+    const std::int64_t bytes = total_ * CDFormat::kBytesPerSector;
+    ReplacementFile data(bin_, ReplacementFile::Existing::Kept);
+    ReplacementFile sheet(cue_, ReplacementFile::Existing::Kept);
+    if (const int error = data.open(); error != 0)
+        return inWords(error);
+    file_ = data.descriptor();
+    // Where the file system can, the room is taken now: a full disk is known before the work.
+    if (::fallocate(file_, 0, 0, bytes) != 0) {
+        if (errno == ENOSPC || errno == EDQUOT)
+            return inWords(errno);
+        if (::ftruncate(file_, bytes) != 0)
+            return inWords(errno);
+    }
+    if (const int error = sheet.open(); error != 0)
+        return inWords(error);
+    if (!writeAll(sheet.descriptor(), cueSheet(layout_, QFileInfo(bin_).fileName())))
+        return inWords(errno);
+
+    std::condition_variable ended;
+    std::mutex endedMutex;
+    const unsigned count = std::clamp(std::thread::hardware_concurrency(), 1U, kMostThreads);
+    unsigned running = count;
+    std::vector<std::thread> threads;
+    for (unsigned i = 0; i < count; ++i)
+        threads.emplace_back([&] {
+            work();
+            const std::lock_guard lock(endedMutex);
+            --running;
+            ended.notify_one();
+        });
+    {
+        std::unique_lock lock(endedMutex);
+        while (!ended.wait_for(lock, kBetweenReports, [&] { return running == 0; }))
+            progress(share(), false);
+    }
+    for (std::thread& thread : threads)
+        thread.join();
+
+    if (!problem_.isEmpty())
+        return problem_;
+    if (!aborted_)
+        progress(share(), true);
+    // The disk may take long; it can still be stopped meanwhile.
+    if (!aborted_ && ::fdatasync(file_) != 0)
+        return inWords(errno);
+    if (aborted_)
+        return u"it was stopped before the end: nothing was written"_s;
+    if (const int error = data.commit(); error != 0)
+        return inWords(error);
+    if (const int error = sheet.commit(); error != 0) {
+        (void)FileManager::removeFile(bin_); // ours: an image without its table of contents is none
+        return inWords(error);
+    }
+    return {};
+}
+
+} // namespace Platform

@@ -1,0 +1,157 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Disc/linux/OpticalDrive.h"
+
+#include "Platform/Disc/linux/LibBurn.h"
+#include "Platform/Foundation/MainQueue.h"
+
+#include <QLoggingCategory>
+
+#include <cerrno>
+
+using namespace Qt::StringLiterals;
+
+namespace Platform {
+
+namespace {
+
+Q_LOGGING_CATEGORY(discLog, "sonaphex.disc")
+
+QString inWords(const QString& path, int error) {
+    switch (error) {
+    case 0:
+        return {};
+    case EACCES:
+    case EPERM:
+        return u"no right to use %1: join the group that owns it (often \"cdrom\") and log in again"_s.arg(path);
+    case EBUSY:
+        return u"another program uses the drive, or its disc is mounted"_s;
+    case ENOENT:
+    case ENODEV:
+    case ENXIO:
+        return u"the drive is gone"_s;
+    default:
+        return u"%1 cannot be opened: %2"_s.arg(path, qt_error_string(error));
+    }
+}
+
+} // namespace
+
+DRDeviceStatus OpticalDrive::status() const {
+    DRDeviceStatus status;
+    status.isBusy = isBusy_;
+    status.mediaState = mediaState_;
+    status.problem = facts_.problem;
+    if (mediaState_ != DRDeviceMediaStateMediaPresent)
+        return status;
+    status.maximumWriteSpeed = facts_.maximumWriteSpeed;
+    status.mediaBlocksFree = facts_.blocksFree;
+    status.mediaKind = facts_.kind;
+    return status;
+}
+
+bool OpticalDrive::mediaIsBlank() const {
+    return mediaState_ == DRDeviceMediaStateMediaPresent &&
+           (facts_.problem.isEmpty() ? facts_.isBlank : found_.mediaIsBlank);
+}
+
+bool OpticalDrive::mediaIsErasable() const {
+    return mediaState_ == DRDeviceMediaStateMediaPresent &&
+           (facts_.problem.isEmpty() ? facts_.isErasable : found_.mediaIsRewritable);
+}
+
+QString OpticalDrive::bsdName() const {
+    return mediaState_ == DRDeviceMediaStateMediaPresent ? found_.device : QString();
+}
+
+bool OpticalDrive::ejectMedia() {
+    if (isBusy_ || isLooking_)
+        return false;
+    library_.post([path = found_.path](const std::stop_token&) {
+        if (const QString problem = LibBurn::eject(path); !problem.isEmpty())
+            qCWarning(discLog, "%s: the disc cannot be put out: %s", qUtf8Printable(path), qUtf8Printable(problem));
+    });
+    return true;
+}
+
+void OpticalDrive::told() {
+    if (const auto center = center_.lock())
+        center->deliver({DRDeviceStatusChangedNotification, shared_from_this()});
+}
+
+void OpticalDrive::update(const FoundDrive& found) {
+    const bool hasChanged = !wasFound_ || found.media != found_.media || found.mediaChanges != found_.mediaChanges;
+    wasFound_ = true;
+    found_ = found;
+    if (!hasChanged || isBusy_)
+        return;
+    if (found.media == DRDeviceMediaStateMediaPresent) {
+        look();
+        return;
+    }
+    mediaState_ = found.media;
+    facts_ = {};
+    lookAgain_ = false;
+    told();
+}
+
+/// Asks the drive about its disc. Until it has answered, the disc is going in.
+void OpticalDrive::look() {
+    if (mediaState_ != DRDeviceMediaStateInTransition) {
+        mediaState_ = DRDeviceMediaStateInTransition;
+        facts_ = {};
+        told();
+    }
+    lookAgain_ = isLooking_;
+    if (isLooking_)
+        return;
+    isLooking_ = true;
+    const QString why = whyNotOpened();
+    library_.post([self = shared_from_this(), path = found_.path, why](const std::stop_token& stop) {
+        MediaFacts facts;
+        if (why.isEmpty())
+            facts = LibBurn::lookAt(path, stop);
+        else
+            facts.problem = why;
+        MainQueue::post([self, facts] {
+            self->isLooking_ = false;
+            if (self->center_.expired())
+                return; // the services are gone, and with them all that a drive speaks to
+            if (std::exchange(self->lookAgain_, false)) {
+                self->look();
+                return;
+            }
+            if (self->found_.media != DRDeviceMediaStateMediaPresent)
+                return; // it went out meanwhile, and that was told
+            // Where the drive could not be asked, the system says that a disc is in.
+            const bool isPresent = facts.isPresent || !facts.problem.isEmpty();
+            self->facts_ = facts;
+            self->mediaState_ = isPresent ? DRDeviceMediaStateMediaPresent : DRDeviceMediaStateNone;
+            self->told();
+        });
+    });
+}
+
+QString OpticalDrive::whyNotOpened() const {
+    return inWords(found_.path, source_.openError(found_.path));
+}
+
+void OpticalDrive::setBusy(bool busy) {
+    if (center_.expired())
+        return;
+    isBusy_ = busy;
+    source_.setQuiet(found_.path, busy);
+    told();
+    if (!busy)
+        look(); // the disc is another one now
+}
+
+OpticalTarget OpticalDrive::target() {
+    return {.path = found_.path,
+            .name = found_.name,
+            .maximumWriteSpeed = facts_.maximumWriteSpeed,
+            .whyNotOpened = [&source = source_, path = found_.path] { return inWords(path, source.openError(path)); },
+            .setBusy = [self = shared_from_this()](bool busy) { self->setBusy(busy); }};
+}
+
+} // namespace Platform
