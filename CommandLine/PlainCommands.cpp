@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "CommandLine/BurnCommand.h"
 #include "CommandLine/CommandLine.h"
 #include "CommandLine/ControlCommand.h"
 #include "CommandLine/ConvertCommand.h"
 #include "CommandLine/DevicesCommand.h"
 #include "CommandLine/DriverCommand.h"
+#include "CommandLine/DrivesCommand.h"
 #include "CommandLine/LibraryCommand.h"
 #include "CommandLine/RecordCommand.h"
 #include "CommandLine/RingtoneCommand.h"
@@ -21,9 +23,9 @@ Commands byName(std::initializer_list<const Command*> commands) {
 }
 
 const Commands& plainCommands() {
-    static const Commands plain =
-        byName({&controlCommand, &convertCommand, &devicesCommand, &driverCommand, &libraryCommand, &recordCommand,
-                &ringtoneCommand, &tagCommand, &trimCommand});
+    static const Commands plain = byName({&burnCommand, &controlCommand, &convertCommand, &devicesCommand,
+                                          &driverCommand, &drivesCommand, &libraryCommand, &recordCommand,
+                                          &ringtoneCommand, &tagCommand, &trimCommand});
     return plain;
 }
 

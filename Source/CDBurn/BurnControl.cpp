@@ -206,7 +206,9 @@ void BurnControl::burnMusicToCD(const QList<Dictionary>& entries, bool ejectDisc
     DRBurnProperties properties = burn->properties();
     properties.completionAction = ejectDisc ? DRBurnCompletionActionEject : DRBurnCompletionActionMount;
     burn->setProperties(properties);
-    burn->writeLayout(createLayoutForCDBurn(entries));
+    const auto layout = createLayoutForCDBurn(entries);
+    layout_ = layout.value_or(DRLayout());
+    burn->writeLayout(layout);
     keep(std::exchange(burn_, burn));
 }
 

@@ -80,6 +80,8 @@ public:
     [[nodiscard]] QString failureReason() const;
     /// What is wrong with the chosen drive, in words; empty when nothing is.
     [[nodiscard]] QString deviceProblem() const;
+    /// The tracks of the last burn.
+    [[nodiscard]] const Platform::DRLayout& layout() const { return layout_; }
     /// The last burn; null before the first one.
     [[nodiscard]] std::shared_ptr<Platform::DRBurn> burn() const { return burn_; }
 
@@ -101,4 +103,5 @@ private:
     std::shared_ptr<Platform::DRDevice> watched_;              ///< the drive at recordNum_ when it was chosen
     std::vector<std::shared_ptr<Platform::DRObject>> earlier_; ///< burns and erases of before: never torn down here
     QString layoutProblem_;
+    Platform::DRLayout layout_;
 };

@@ -17,9 +17,11 @@ public:
 
     [[nodiscard]] QString displayName() const override { return QStringLiteral("Disc Image (CUE/BIN)"); }
     [[nodiscard]] DRDeviceStatus status() const override {
-        return {.mediaState = DRDeviceMediaStateMediaPresent,
-                .mediaBlocksFree = CDFormat::kSectorsOf80Minutes,
-                .mediaKind = QStringLiteral("disc image")};
+        DRDeviceStatus status;
+        status.mediaState = DRDeviceMediaStateMediaPresent;
+        status.mediaBlocksFree = CDFormat::kSectorsOf80Minutes;
+        status.mediaKind = QStringLiteral("disc image");
+        return status;
     }
     [[nodiscard]] bool mediaIsBlank() const override { return true; }
     [[nodiscard]] bool mediaIsErasable() const override { return false; }
