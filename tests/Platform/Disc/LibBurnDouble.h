@@ -46,6 +46,10 @@ public:
         const std::lock_guard lock(mutex_);
         return calls_;
     }
+    void forgetCalls() {
+        const std::lock_guard lock(mutex_);
+        calls_.clear();
+    }
     QByteArray written() {
         const std::lock_guard lock(mutex_);
         return written_;
@@ -64,9 +68,17 @@ public:
         const std::lock_guard lock(mutex_);
         sources_.push_back(source);
     }
-    void write(bool reads) {
+    void beginLayout() {
+        const std::lock_guard lock(mutex_);
+        sources_.clear();
+        written_.clear();
+        cancelled_ = false;
+    }
+    void write() {
+        if (writer_.joinable())
+            writer_.join();
         status_ = burn::BURN_DRIVE_SPAWNING;
-        writer_ = std::thread([this, reads] {
+        writer_ = std::thread([this] {
             status_ = burn::BURN_DRIVE_WRITING_LEADIN;
             std::vector<burn::burn_source*> sources;
             {
@@ -74,7 +86,7 @@ public:
                 sources = sources_;
             }
             status_ = burn::BURN_DRIVE_WRITING;
-            for (std::size_t i = 0; reads && i < sources.size(); ++i) {
+            for (std::size_t i = 0; i < sources.size(); ++i) {
                 track_ = int(i);
                 sector_ = 0;
                 std::vector<unsigned char> sector(2352);
@@ -91,13 +103,13 @@ public:
                     ++sector_;
                 }
             }
-            while (!reads && holdsWriting && !cancelled_)
-                std::this_thread::yield();
             status_ = burn::BURN_DRIVE_WRITING_LEADOUT;
             status_ = burn::BURN_DRIVE_IDLE;
         });
     }
     void erase() {
+        if (writer_.joinable())
+            writer_.join();
         status_ = burn::BURN_DRIVE_ERASING;
         writer_ = std::thread([this] {
             for (sector_ = 0; sector_ < 0x10000; sector_ = sector_ + 0x4000)
@@ -204,6 +216,7 @@ int burn_drive_get_write_speed(burn_drive*) {
 }
 burn_disc* burn_disc_create(void) {
     burner().note(QStringLiteral("disc"));
+    burner().beginLayout();
     return burner().failsAt("disc") ? nullptr : REAL(burn_disc_create)();
 }
 burn_session* burn_session_create(void) {
@@ -272,7 +285,7 @@ void burn_drive_set_speed(burn_drive*, int read, int write) {
 }
 void burn_disc_write(burn_write_opts*, burn_disc*) {
     burner().note(QStringLiteral("write"));
-    burner().write(true);
+    burner().write();
 }
 burn_drive_status burn_drive_get_status(burn_drive*, burn_progress* progress) {
     return burner().status(progress);

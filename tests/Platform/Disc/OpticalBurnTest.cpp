@@ -43,6 +43,7 @@ protected:
     }
     ~OpticalBurnTest() override {
         burner.holdsWriting = false;
+        watch.reset();
         discs.reset(); // before the double goes
     }
 
@@ -158,6 +159,7 @@ TEST_F(OpticalBurnTest, NamesEveryFailureAndGivesTheDriveBack) {
              {u"profile"_s, u"ACME Writer: an audio CD needs a CD-R or a CD-RW, this is a disc of another kind"_s},
              {u"well?"_s, u"ACME Writer: the burn failed: the drive gave no reason"_s}}) {
         drive();
+        burner.forgetCalls();
         burner.fails = {call};
         const DRStatus status = burned();
         EXPECT_EQ(status.state, DRStatusStateFailed) << qPrintable(call);

@@ -37,13 +37,19 @@ private:
     std::vector<std::unique_ptr<NotificationCenter::Observation>> observations_;
 };
 
-class BurnControlTest : public testing::Test {
-protected:
-    BurnControlTest() {
+/// The doubles are in their place before the engine is made.
+struct Doubles {
+    Doubles() {
         services().discRecording = &discs;
         services().diskArbitration = &disks;
     }
+    ServicesScope scope;
+    FakeDiscRecording discs;
+    FakeDiskArbitration disks;
+};
 
+class BurnControlTest : public testing::Test, protected Doubles {
+protected:
     static Dictionary entry(const QString& path, bool ticked = true) {
         return {{TrackEntry::FilePath, path}, {TrackEntry::ChooseTheAudio, ticked}};
     }
@@ -60,9 +66,6 @@ protected:
         return all;
     }
 
-    ServicesScope scope;
-    FakeDiscRecording discs;
-    FakeDiskArbitration disks;
     std::shared_ptr<FakeDrive> drive = discs.addDrive(u"Writer A"_s);
     std::shared_ptr<FakeDrive> second = discs.addDrive(u"Writer B"_s);
     Posted posted;
