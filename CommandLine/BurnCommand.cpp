@@ -47,9 +47,8 @@ int chosen(const Drives& drives, const Task& task, QString& why) {
     });
     if (found != drives.end())
         return int(found - drives.begin());
-    why = task.drive.isEmpty()
-              ? u"there is no drive that writes discs (--image FILE writes a disc image)"_s
-              : u"%1: there is no such drive (\"sonaphex drives\" lists them)"_s.arg(task.drive);
+    why = task.drive.isEmpty() ? u"there is no drive that writes discs (--image FILE writes a disc image)"_s
+                               : u"%1: there is no such drive (\"sonaphex drives\" lists them)"_s.arg(task.drive);
     return -1;
 }
 
@@ -63,9 +62,9 @@ QString discProblem(const Platform::DRDevice& drive) {
     if (status.mediaState != Platform::DRDeviceMediaStateMediaPresent)
         return u"%1: there is no disc in the drive"_s.arg(drive.displayName());
     if (!drive.mediaIsBlank())
-        return u"%1: the disc is not blank%2"_s.arg(
-            drive.displayName(), drive.mediaIsErasable() ? u": erase it, or put another one in"_s
-                                                         : u": put another one in"_s);
+        return u"%1: the disc is not blank%2"_s.arg(drive.displayName(), drive.mediaIsErasable()
+                                                                             ? u": erase it, or put another one in"_s
+                                                                             : u": put another one in"_s);
     return {};
 }
 
@@ -93,9 +92,10 @@ bool waitForTheEnd(BurnControl& control) {
     enum class End { NotYet, Done, Failed } end = End::NotYet;
     double share = -1;
     auto& center = NotificationCenter::defaultCenter();
-    const auto progress = center.addObserver(BurnControlBurnProgressNotification, [&](const QString&, const Dictionary& info) {
-        share = Platform::doubleValue(info.value(kBurnProgressKey));
-    });
+    const auto progress =
+        center.addObserver(BurnControlBurnProgressNotification, [&](const QString&, const Dictionary& info) {
+            share = Platform::doubleValue(info.value(kBurnProgressKey));
+        });
     const auto finished = center.addObserver(BurnControlBurnDidFininshNotification,
                                              [&](const QString&, const Dictionary&) { end = End::Done; });
     const auto failed = center.addObserver(BurnControlBurnDidFailedNotification,

@@ -121,8 +121,7 @@ void ImageBurn::writeLayout(const std::optional<DRLayout>& layout) {
             ImageWriter writer(layout, paths.cue, paths.bin, self->aborted_);
             self->status_.report(self, {DRStatusStateTrackWrite, 0, {}});
             const QString problem = writer.write([&](double share, bool closing) {
-                self->status_.report(self,
-                                     {closing ? DRStatusStateSessionClose : DRStatusStateTrackWrite, share, {}});
+                self->status_.report(self, {closing ? DRStatusStateSessionClose : DRStatusStateTrackWrite, share, {}});
             });
             if (problem.isEmpty())
                 self->status_.report(self, {DRStatusStateDone, 1, {}});

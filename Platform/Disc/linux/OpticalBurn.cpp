@@ -177,7 +177,7 @@ QString OpticalBurn::run(const DRLayout& layout, const std::stop_token& stop) {
     const int profile = drive.profile(&kind);
     if (isAudio && profile != LibBurn::kProfileCDR && profile != LibBurn::kProfileCDRW)
         return u"%1: an audio CD needs a CD-R or a CD-RW, this is a %2"_s.arg(target_.name,
-                                                                            firstOf(kind, u"disc of another kind"_s));
+                                                                              firstOf(kind, u"disc of another kind"_s));
     const auto leading = std::min<std::int64_t>(layout.front()->properties().preGapLength, kFirstGapBeforeTheDisc);
     if (const QString why = layoutProblem(layout, LibBurn::freeBlocks(drive.get(), profile), leading); !why.isEmpty())
         return why;

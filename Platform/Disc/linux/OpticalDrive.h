@@ -41,7 +41,7 @@ private:
     DRDeviceMediaState mediaState_ = DRDeviceMediaStateNone;
     MediaFacts facts_;
     bool wasFound_ = false;
-    bool isBusy_ = false;   ///< a burn or an erase has it
+    bool isBusy_ = false; ///< a burn or an erase has it
     bool isLooking_ = false;
     bool lookAgain_ = false; ///< the disc changed during the look
 };

@@ -90,8 +90,7 @@ public:
             return found;
         udev_list_entry* entry = nullptr;
         udev_list_entry_foreach(entry, udev_enumerate_get_list_entry(list.get())) {
-            const UdevDevicePtr device(
-                udev_device_new_from_syspath(udev_.get(), udev_list_entry_get_name(entry)));
+            const UdevDevicePtr device(udev_device_new_from_syspath(udev_.get(), udev_list_entry_get_name(entry)));
             if (device && udev_device_get_devnode(device.get()) && writesDiscs(device.get()))
                 found.push_back(describe(device.get()));
         }
@@ -125,9 +124,8 @@ private:
         if (drive.name.isEmpty())
             drive.name = drive.device;
         drive.mediaIsBlank = qstrcmp(udev_device_get_property_value(device, "ID_CDROM_MEDIA_STATE"), "blank") == 0;
-        drive.mediaIsRewritable =
-            isSet(device, "ID_CDROM_MEDIA_CD_RW") || isSet(device, "ID_CDROM_MEDIA_DVD_RW") ||
-            isSet(device, "ID_CDROM_MEDIA_DVD_PLUS_RW");
+        drive.mediaIsRewritable = isSet(device, "ID_CDROM_MEDIA_CD_RW") || isSet(device, "ID_CDROM_MEDIA_DVD_RW") ||
+                                  isSet(device, "ID_CDROM_MEDIA_DVD_PLUS_RW");
         drive.mediaChanges = changes_.value(drive.path);
         DRDeviceMediaState& seen = seen_[drive.path];
         if (!quiet_.contains(drive.path))
@@ -182,8 +180,7 @@ public:
             return std::make_unique<Disk>(true);
         if (name.isEmpty() || name.contains('/')) // no block device has such a name, and none is looked for
             return std::make_unique<Disk>(false);
-        const UdevDevicePtr device(
-            udev_device_new_from_subsystem_sysname(udev_.get(), "block", name.constData()));
+        const UdevDevicePtr device(udev_device_new_from_subsystem_sysname(udev_.get(), "block", name.constData()));
         if (!device)
             return std::make_unique<Disk>(false);
         const bool isDrive = isSet(device.get(), "ID_CDROM");

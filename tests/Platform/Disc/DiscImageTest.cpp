@@ -68,8 +68,8 @@ TEST_F(DiscImageTest, IsTheLastDriveWithABlankDiscOf80Minutes) {
     EXPECT_EQ(drives[0]->status().mediaBlocksFree, 360'000);
     EXPECT_TRUE(drives[0]->mediaIsBlank());
     EXPECT_FALSE(drives[0]->mediaIsErasable());
-    const auto disk = createDiskArbitration()->createSession()->createDiskFromBSDName(
-        "/dev/" + drives[0]->bsdName().toUtf8());
+    const auto disk =
+        createDiskArbitration()->createSession()->createDiskFromBSDName("/dev/" + drives[0]->bsdName().toUtf8());
     ASSERT_TRUE(disk);
     EXPECT_TRUE(disk->hasDescription());
     EXPECT_FALSE(createDiskArbitration()->createSession()->createDiskFromBSDName("/dev/")->hasDescription());
@@ -79,11 +79,16 @@ TEST_F(DiscImageTest, IsTheLastDriveWithABlankDiscOf80Minutes) {
 // Ten tracks of many kinds, compared with what sox makes of the same files and read by two other programs.
 TEST_F(DiscImageTest, HoldsTheSoundOfTenKindsOfFiles) {
     QStringList paths;
-    paths << tones(u"01.wav"_s, u"-r 44100 -b 16 -c 2"_s, u"4.5"_s) << tones(u"02.wav"_s, u"-r 22050 -b 16 -c 1"_s, u"5.1"_s)
-          << tones(u"03.wav"_s, u"-r 96000 -b 24 -c 2"_s, u"4.2"_s) << tones(u"04.flac"_s, u"-r 48000 -b 24 -c 2"_s, u"6"_s)
-          << tones(u"05.flac"_s, u"-r 44100 -b 16 -c 2"_s, u"4.01"_s) << tones(u"06.aiff"_s, u"-r 44100 -b 24 -c 2"_s, u"4.7"_s)
-          << tones(u"07.wav"_s, u"-r 8000 -b 16 -c 1"_s, u"4.4"_s) << tones(u"08.wav"_s, u"-r 44100 -b 8 -c 1"_s, u"4.3"_s)
-          << tones(u"09.wav"_s, u"-r 192000 -b 32 -c 2"_s, u"4.1"_s) << tones(u"10.wav"_s, u"-r 44100 -b 16 -c 2"_s, u"2.5"_s);
+    paths << tones(u"01.wav"_s, u"-r 44100 -b 16 -c 2"_s, u"4.5"_s)
+          << tones(u"02.wav"_s, u"-r 22050 -b 16 -c 1"_s, u"5.1"_s)
+          << tones(u"03.wav"_s, u"-r 96000 -b 24 -c 2"_s, u"4.2"_s)
+          << tones(u"04.flac"_s, u"-r 48000 -b 24 -c 2"_s, u"6"_s)
+          << tones(u"05.flac"_s, u"-r 44100 -b 16 -c 2"_s, u"4.01"_s)
+          << tones(u"06.aiff"_s, u"-r 44100 -b 24 -c 2"_s, u"4.7"_s)
+          << tones(u"07.wav"_s, u"-r 8000 -b 16 -c 1"_s, u"4.4"_s)
+          << tones(u"08.wav"_s, u"-r 44100 -b 8 -c 1"_s, u"4.3"_s)
+          << tones(u"09.wav"_s, u"-r 192000 -b 32 -c 2"_s, u"4.1"_s)
+          << tones(u"10.wav"_s, u"-r 44100 -b 16 -c 2"_s, u"2.5"_s);
     discs.setImagePath(at(u"disc.cue"_s));
     const DRLayout layout = layoutOf(paths);
     const DRStatus status = burn(layout);
@@ -97,14 +102,17 @@ TEST_F(DiscImageTest, HoldsTheSoundOfTenKindsOfFiles) {
         sectors += 75;
         starts << QString::number(sectors);
         const QString raw = at(u"reference.raw"_s);
-        sox({paths[qsizetype(i)], u"-r"_s, u"44100"_s, u"-c"_s, u"2"_s, u"-b"_s, u"16"_s, u"-e"_s, u"signed"_s, raw, u"rate"_s, u"-v"_s});
+        sox({paths[qsizetype(i)], u"-r"_s, u"44100"_s, u"-c"_s, u"2"_s, u"-b"_s, u"16"_s, u"-e"_s, u"signed"_s, raw,
+             u"rate"_s, u"-v"_s});
         const auto reference = samplesOf(contentOf(raw));
         const auto ours = samplesOf(bin.mid(qsizetype(sectors * 2352), qsizetype(layout[i]->sectors() * 2352)));
         ASSERT_GE(ours.size(), reference.size()) << i;
-        EXPECT_LT(ours.size() - reference.size(), std::max<std::size_t>(1176 + 4, 300 * 1176 - reference.size() + 4)) << i;
+        EXPECT_LT(ours.size() - reference.size(), std::max<std::size_t>(1176 + 4, 300 * 1176 - reference.size() + 4))
+            << i;
         // The first and last hundredth of a second of a resampled file depend on how the filter begins.
         const std::size_t margin = 882;
-        const std::vector<std::int16_t> a(ours.begin() + margin, ours.begin() + std::ptrdiff_t(reference.size() - margin));
+        const std::vector<std::int16_t> a(ours.begin() + margin,
+                                          ours.begin() + std::ptrdiff_t(reference.size() - margin));
         const std::vector<std::int16_t> b(reference.begin() + margin, reference.end() - margin);
         // Two dithers of half a step each, independent of one another.
         EXPECT_LT(difference(a, b, a.size()), 0.85) << i;
@@ -122,7 +130,7 @@ TEST_F(DiscImageTest, HoldsTheSoundOfTenKindsOfFiles) {
     EXPECT_EQ(bin.mid(qsizetype(starts[7].toLongLong() * 2352), eighth.size()), eighth);
 
     const auto info = runTool(u"cd-info"_s, {u"--no-header"_s, u"--no-device-info"_s, u"--no-analyze"_s, u"--no-cddb"_s,
-                                            u"--cue-file"_s, at(u"disc.cue"_s)});
+                                             u"--cue-file"_s, at(u"disc.cue"_s)});
     ASSERT_EQ(info.status, 0) << info.errors.data();
     QStringList read;
     auto lines = QRegularExpression(u"^ *\\d+: \\d\\d:\\d\\d:\\d\\d +(\\d+) (audio|leadout)"_s,
@@ -171,8 +179,10 @@ TEST_F(DiscImageTest, LetsThePartsOfOneRecordingFollowWithoutAClick) {
 TEST_F(DiscImageTest, WritesTitlesAndArtistsIntoTheCueSheet) {
     tones(u"plain name.wav"_s, u"-r 44100 -b 16 -c 2"_s, u"4"_s);
     tones(u"b.wav"_s, u"-r 44100 -b 16 -c 2"_s, u"4"_s);
-    ASSERT_EQ(runTool(u"ffmpeg"_s, {u"-v"_s, u"error"_s, u"-i"_s, at(u"b.wav"_s), u"-metadata"_s, u"title=Sæson \"7\""_s,
-                                    u"-metadata"_s, u"artist=The\nBand"_s, at(u"b.m4a"_s)}).status, 0);
+    ASSERT_EQ(runTool(u"ffmpeg"_s, {u"-v"_s, u"error"_s, u"-i"_s, at(u"b.wav"_s), u"-metadata"_s,
+                                    u"title=Sæson \"7\""_s, u"-metadata"_s, u"artist=The\nBand"_s, at(u"b.m4a"_s)})
+                  .status,
+              0);
     discs.setImagePath(at(u"x.bin"_s));
     ASSERT_EQ(burn(layoutOf({at(u"plain name.wav"_s), at(u"b.m4a"_s)})).state, DRStatusStateDone);
     EXPECT_EQ(contentOf(at(u"x.cue"_s)), "FILE \"x.bin\" BINARY\r\n"
@@ -221,8 +231,9 @@ TEST_F(DiscImageTest, FailsBeforeItBeginsWithoutTracksOrRoom) {
     const auto tooLong = other.trackForAudioFile(u"/two hours"_s, why);
     ASSERT_TRUE(tooLong);
     tooLong->setProperties({75});
-    EXPECT_EQ(burn(DRLayout{tooLong}).reason,
-              u"there is not enough room on the disc: the tracks need 120:01 minutes (540075 sectors), 80:00 minutes (360000 sectors) are free"_s);
+    EXPECT_EQ(
+        burn(DRLayout{tooLong}).reason,
+        u"there is not enough room on the disc: the tracks need 120:01 minutes (540075 sectors), 80:00 minutes (360000 sectors) are free"_s);
     EXPECT_EQ(everything(), QStringList{u"a.wav"_s});
 }
 

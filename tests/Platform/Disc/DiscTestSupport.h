@@ -61,10 +61,9 @@ inline std::unique_ptr<Platform::DriveSource> noDrives(std::function<void()>) {
 class BurnWatch {
 public:
     BurnWatch(Platform::DRNotificationCenter& center, const std::shared_ptr<Platform::DRBurn>& burn) : center_(center) {
-        center_.addObserver(this, Platform::DRBurnStatusChangedNotification, burn,
-                            [this, burn = burn.get()](const Platform::DRNotification&) {
-                                statuses.push_back(burn->status());
-                            });
+        center_.addObserver(
+            this, Platform::DRBurnStatusChangedNotification, burn,
+            [this, burn = burn.get()](const Platform::DRNotification&) { statuses.push_back(burn->status()); });
     }
     ~BurnWatch() { center_.removeObserver(this); }
     BurnWatch(const BurnWatch&) = delete;

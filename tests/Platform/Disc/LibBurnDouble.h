@@ -37,8 +37,8 @@ public:
     std::atomic<int> profile{0x09};
     std::atomic<int> lastBlock{359'849};
     std::atomic<bool> erasable{false};
-    QSet<QString> fails;       ///< names of calls that fail as their documentation says
-    QByteArray says;           ///< a message that the library has to tell
+    QSet<QString> fails;                   ///< names of calls that fail as their documentation says
+    QByteArray says;                       ///< a message that the library has to tell
     std::atomic<bool> holdsWriting{false}; ///< writes no further than the first second while this is true
 
     // ---- seen by the test
@@ -194,7 +194,11 @@ burn_disc_status burn_disc_get_status(burn_drive*) {
 }
 int burn_disc_get_profile(burn_drive*, int* number, char name[80]) {
     *number = burner().profile;
-    qstrncpy(name, burner().profile == 0x09 ? "CD-R" : burner().profile == 0x0a ? "CD-RW" : "DVD-R sequential recording", 80);
+    qstrncpy(name,
+             burner().profile == 0x09   ? "CD-R"
+             : burner().profile == 0x0a ? "CD-RW"
+                                        : "DVD-R sequential recording",
+             80);
     return burner().failsAt("profile") ? 0 : 1;
 }
 int burn_disc_read_atip(burn_drive*) {
@@ -232,9 +236,13 @@ burn_track* burn_track_create(void) {
     return burner().failsAt("track") ? nullptr : REAL(burn_track_create)();
 }
 void burn_track_define_data(burn_track* t, int offset, int tail, int pad, int mode) {
-    burner().note(QStringLiteral("define %1 %2 %3 %4").arg(offset).arg(tail).arg(pad).arg(mode == BURN_AUDIO   ? QStringLiteral("audio")
-                                                                                         : mode == BURN_MODE1 ? QStringLiteral("data")
-                                                                                                              : QStringLiteral("?")));
+    burner().note(QStringLiteral("define %1 %2 %3 %4")
+                      .arg(offset)
+                      .arg(tail)
+                      .arg(pad)
+                      .arg(mode == BURN_AUDIO   ? QStringLiteral("audio")
+                           : mode == BURN_MODE1 ? QStringLiteral("data")
+                                                : QStringLiteral("?")));
     REAL(burn_track_define_data)(t, offset, tail, pad, mode);
 }
 int burn_track_set_pregap_size(burn_track* t, int size, int flag) {
@@ -267,7 +275,8 @@ int burn_write_opts_set_underrun_proof(burn_write_opts*, int on) {
     return burner().failsAt("underrun proof") ? 0 : 1; // some drives cannot: that stops nothing
 }
 int burn_write_opts_set_write_type(burn_write_opts*, burn_write_types type, int block) {
-    burner().note(type == BURN_WRITE_SAO && block == BURN_BLOCK_SAO ? QStringLiteral("type SAO") : QStringLiteral("type ?"));
+    burner().note(type == BURN_WRITE_SAO && block == BURN_BLOCK_SAO ? QStringLiteral("type SAO")
+                                                                    : QStringLiteral("type ?"));
     return burner().failsAt("type") ? 0 : 1;
 }
 burn_write_types burn_write_opts_auto_write_type(burn_write_opts*, burn_disc*, char reasons[BURN_REASONS_LEN], int) {

@@ -20,7 +20,9 @@ public:
     explicit TestDrives(std::function<void()> changed) : changed(std::move(changed)) {}
     std::vector<FoundDrive> drives() override { return found; }
     int openError(const QString&) override { return error; }
-    void setQuiet(const QString& path, bool quiet) override { quieted.append(path + (quiet ? u" quiet"_s : u" looked at"_s)); }
+    void setQuiet(const QString& path, bool quiet) override {
+        quieted.append(path + (quiet ? u" quiet"_s : u" looked at"_s));
+    }
 
     std::function<void()> changed;
     std::atomic<int> error{0};
@@ -31,8 +33,11 @@ public:
 class OpticalBurnTest : public testing::Test {
 protected:
     OpticalBurnTest() {
-        TestDrives::found = {{u"/dev/sr0"_s, u"sr0"_s, u"ACME Writer"_s, DRDeviceMediaStateMediaPresent, true, false, 0}};
-        const auto ramp = [](int channel, std::int64_t frame) { return float((frame * (channel + 1)) % 20000) / 32768; };
+        TestDrives::found = {
+            {u"/dev/sr0"_s, u"sr0"_s, u"ACME Writer"_s, DRDeviceMediaStateMediaPresent, true, false, 0}};
+        const auto ramp = [](int channel, std::int64_t frame) {
+            return float((frame * (channel + 1)) % 20000) / 32768;
+        };
         files.addSource(u"/one"_s, 8, ramp);
         files.addSource(u"/two"_s, 5, ramp);
         discs = std::make_unique<LinuxDiscRecording>(files, [this](std::function<void()> changed) {
@@ -61,7 +66,8 @@ protected:
         }
         return made;
     }
-    std::shared_ptr<DRBurn> started(const std::optional<DRLayout>& given, DRBurnCompletionAction action = DRBurnCompletionActionMount) {
+    std::shared_ptr<DRBurn> started(const std::optional<DRLayout>& given,
+                                    DRBurnCompletionAction action = DRBurnCompletionActionMount) {
         const auto burn = discs->burnWithDevice(drive());
         burn->setRequestedBurnSpeed(8467);
         auto properties = burn->properties();
@@ -109,12 +115,30 @@ TEST_F(OpticalBurnTest, LooksAtTheDiscThatIsInAndStandsBeforeTheImageDrive) {
 TEST_F(OpticalBurnTest, WritesAnAudioDiscInTheLibrarysOrder) {
     const DRStatus status = burned();
     ASSERT_EQ(status.state, DRStatusStateDone) << qPrintable(status.reason);
-    EXPECT_EQ(callsOfTheBurn(),
-              (QStringList{u"grab /dev/sr0 1"_s, u"options"_s, u"disc"_s, u"session"_s, u"add session"_s, u"track"_s,
-                           u"define 0 0 1 audio"_s, u"pre-gap 75"_s, u"source 1411200"_s, u"add track"_s, u"track"_s,
-                           u"define 0 0 1 audio"_s, u"pre-gap 75"_s, u"source 882000"_s, u"add track"_s, u"multi 0"_s,
-                           u"underrun proof 1"_s, u"type SAO"_s, u"check"_s, u"speed 0 8467"_s, u"write"_s, u"well?"_s,
-                           u"free options"_s, u"release 0"_s}));
+    EXPECT_EQ(callsOfTheBurn(), (QStringList{u"grab /dev/sr0 1"_s,
+                                             u"options"_s,
+                                             u"disc"_s,
+                                             u"session"_s,
+                                             u"add session"_s,
+                                             u"track"_s,
+                                             u"define 0 0 1 audio"_s,
+                                             u"pre-gap 75"_s,
+                                             u"source 1411200"_s,
+                                             u"add track"_s,
+                                             u"track"_s,
+                                             u"define 0 0 1 audio"_s,
+                                             u"pre-gap 75"_s,
+                                             u"source 882000"_s,
+                                             u"add track"_s,
+                                             u"multi 0"_s,
+                                             u"underrun proof 1"_s,
+                                             u"type SAO"_s,
+                                             u"check"_s,
+                                             u"speed 0 8467"_s,
+                                             u"write"_s,
+                                             u"well?"_s,
+                                             u"free options"_s,
+                                             u"release 0"_s}));
     EXPECT_EQ(burner.holds, 0);
     const auto samples = samplesOf(burner.written());
     ASSERT_EQ(samples.size(), (1411200U + 882000U) / 2);
@@ -207,8 +231,9 @@ TEST_F(OpticalBurnTest, CountsTheRoomWithoutTheFirstPreGap) {
     burner.lastBlock = 600 + 75 + 375; // 8 s, a pre-gap, 5 s
     EXPECT_EQ(burned().state, DRStatusStateDone);
     burner.lastBlock = 600 + 75 + 374;
-    EXPECT_EQ(burned().reason,
-              u"there is not enough room on the disc: the tracks need 0:14 minutes (1050 sectors), 0:14 minutes (1049 sectors) are free"_s);
+    EXPECT_EQ(
+        burned().reason,
+        u"there is not enough room on the disc: the tracks need 0:14 minutes (1050 sectors), 0:14 minutes (1049 sectors) are free"_s);
 }
 
 TEST_F(OpticalBurnTest, NamesAnotherProgramAndMissingRights) {
@@ -217,8 +242,9 @@ TEST_F(OpticalBurnTest, NamesAnotherProgramAndMissingRights) {
     drives->error = EBUSY;
     EXPECT_EQ(burned().reason, u"ACME Writer: another program uses the drive, or its disc is mounted"_s);
     drives->error = EACCES;
-    EXPECT_EQ(burned().reason,
-              u"ACME Writer: no right to use /dev/sr0: join the group that owns it (often \"cdrom\") and log in again"_s);
+    EXPECT_EQ(
+        burned().reason,
+        u"ACME Writer: no right to use /dev/sr0: join the group that owns it (often \"cdrom\") and log in again"_s);
     EXPECT_EQ(drive()->status().problem,
               u"no right to use /dev/sr0: join the group that owns it (often \"cdrom\") and log in again"_s);
     EXPECT_TRUE(drive()->mediaIsBlank()); // as the system's database has it
@@ -280,9 +306,9 @@ TEST_F(OpticalBurnTest, ErasesQuicklyAndTellsTheProgress) {
     ASSERT_TRUE(drive()->mediaIsErasable());
     const auto erase = discs->eraseWithDevice(drive());
     std::vector<double> shares;
-    discs->currentRunLoopCenter().addObserver(this, DREraseStatusChangedNotification, erase, [&](const DRNotification&) {
-        shares.push_back(erase->status().percentComplete);
-    });
+    discs->currentRunLoopCenter().addObserver(
+        this, DREraseStatusChangedNotification, erase,
+        [&](const DRNotification&) { shares.push_back(erase->status().percentComplete); });
     erase->setEraseType(DREraseTypeQuick);
     erase->start();
     ASSERT_TRUE(waitFor([&] { return erase->status().state == DRStatusStateDone; }));
@@ -319,7 +345,8 @@ TEST_F(OpticalBurnTest, TellsOfDiscsAndDrivesThatComeAndGo) {
     drives->changed(); // nothing new
     TestDrives::found[0].media = DRDeviceMediaStateNone;
     drives->changed();
-    EXPECT_EQ(states, (std::vector{DRDeviceMediaStateInTransition, DRDeviceMediaStateMediaPresent, DRDeviceMediaStateNone}));
+    EXPECT_EQ(states,
+              (std::vector{DRDeviceMediaStateInTransition, DRDeviceMediaStateMediaPresent, DRDeviceMediaStateNone}));
     EXPECT_EQ(lists, 0);
     TestDrives::found.push_back({u"/dev/sr1"_s, u"sr1"_s, u"Other"_s, DRDeviceMediaStateNone, false, false, 0});
     drives->changed();

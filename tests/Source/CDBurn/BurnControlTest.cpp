@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/CDBurn/BurnControl.h"
 #include "Platform/Foundation/NotificationCenter.h"
 #include "Platform/Foundation/Services.h"
-#include "Source/CDBurn/BurnControl.h"
 #include "tests/fakes/FakeDiscRecording.h"
 #include "tests/support/LogCatcher.h"
 
@@ -110,9 +110,9 @@ TEST_F(BurnControlTest, TellsADiscThatSettlesThenIsInThenGoes) {
     EXPECT_EQ(posted.take(), QStringList{u"DvdOut"_s});
     disc(DRDeviceMediaStateMediaPresent);
     EXPECT_EQ(posted.take(), QStringList{u"DvdIn"_s});
-    EXPECT_EQ(log.lines().mid(2),
-              (QStringList{u"cd  insert to  the CD -ROM"_s, u"cd  insert to  the CD -ROM"_s,
-                           u"cd  into to  the CD -ROM"_s, u"cd  out to  the CD -ROM"_s, u"cd  into to  the CD -ROM"_s}));
+    EXPECT_EQ(log.lines().mid(2), (QStringList{u"cd  insert to  the CD -ROM"_s, u"cd  insert to  the CD -ROM"_s,
+                                               u"cd  into to  the CD -ROM"_s, u"cd  out to  the CD -ROM"_s,
+                                               u"cd  into to  the CD -ROM"_s}));
 }
 
 TEST_F(BurnControlTest, IgnoresABusyDriveEntirely) {
@@ -205,11 +205,10 @@ TEST_F(BurnControlTest, PostsEachChangeAndTheEndOfABurn) {
     burn->reach(DRStatusStateDone, 1);
     EXPECT_EQ(posted.take(),
               (QStringList{u"BurnProcess -1"_s, u"BurnProcess 0.25"_s, u"BurnProcess 1"_s, u"BurnFinish"_s}));
-    EXPECT_EQ(log.lines(),
-              (QStringList{u"                    BurndValue  =  -1.000000"_s,
-                           u"                    BurndValue  =  0.250000"_s,
-                           u"                    BurndValue  =  1.000000"_s, u"Burn is end"_s,
-                           u"          the   Burn  is    end\n  "_s}));
+    EXPECT_EQ(log.lines(), (QStringList{u"                    BurndValue  =  -1.000000"_s,
+                                        u"                    BurndValue  =  0.250000"_s,
+                                        u"                    BurndValue  =  1.000000"_s, u"Burn is end"_s,
+                                        u"          the   Burn  is    end\n  "_s}));
     burn->reach(DRStatusStateDone, 1); // no longer observed
     EXPECT_EQ(posted.take(), QStringList());
 }
