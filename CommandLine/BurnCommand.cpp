@@ -10,7 +10,6 @@
 #include "Platform/Foundation/Services.h"
 #include "Source/CDBurn/BurnControl.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -104,7 +103,7 @@ bool waitForTheEnd(BurnControl& control) {
     bool stopping = false;
     const auto burn = control.burn();
     while (end == End::NotYet && burn) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);
+        turnTheEventLoop();
         bar.show(std::max(0.0, share));
         if (!Interrupt::requested())
             continue;

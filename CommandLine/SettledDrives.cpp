@@ -5,12 +5,19 @@
 #include "CommandLine/Interrupt.h"
 #include "Platform/Foundation/Services.h"
 
-#include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QEventLoop>
+#include <QTimer>
 
 #include <algorithm>
 
 namespace CommandLine {
+
+void turnTheEventLoop() {
+    QEventLoop loop;
+    QTimer::singleShot(50, &loop, &QEventLoop::quit);
+    loop.exec();
+}
 
 std::vector<std::shared_ptr<Platform::DRDevice>> settledDrives() {
     constexpr int kPatienceMs = 30000;
@@ -24,7 +31,7 @@ std::vector<std::shared_ptr<Platform::DRDevice>> settledDrives() {
         });
         if (isSettled || waited.elapsed() > kPatienceMs || Interrupt::requested())
             return drives;
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);
+        turnTheEventLoop();
     }
 }
 

@@ -46,8 +46,14 @@ public:
     /// descriptor stays open.
     [[nodiscard]] int commit();
 
+    /// commit() for two files that are of no use alone: both are synced first, so that between the one name and the
+    /// other lies a single system call. Both keep existing files. On failure neither has its name.
+    [[nodiscard]] static int commitTogether(ReplacementFile& first, ReplacementFile& second);
+
 private:
     int give(const QByteArray& name);
+    int sync();
+    int takeName();
 
     QString target_;
     QString path_;

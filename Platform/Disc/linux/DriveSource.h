@@ -31,6 +31,8 @@ public:
     [[nodiscard]] virtual int openError(const QString& path) = 0;
     /// While a drive is quiet it is not looked at: a look can disturb a burn.
     virtual void setQuiet(const QString& path, bool quiet) = 0;
+    /// Asks the desktop's disk service to look at the disc and to mount it when it holds files.
+    virtual void mount(const QString& /*path*/) {}
 };
 
 /// Finds drives with udev. @p changed is called on the main thread when drives or discs may have changed: at events of

@@ -162,13 +162,8 @@ QString ImageWriter::write(const Progress& progress) {
         return inWords(errno);
     if (aborted_)
         return u"it was stopped before the end: nothing was written"_s;
-    if (const int error = data.commit(); error != 0)
-        return inWords(error);
-    if (const int error = sheet.commit(); error != 0) {
-        (void)FileManager::removeFile(bin_); // ours: an image without its table of contents is none
-        return inWords(error);
-    }
-    return {};
+    const int error = ReplacementFile::commitTogether(data, sheet);
+    return error == 0 ? QString() : inWords(error);
 }
 
 } // namespace Platform

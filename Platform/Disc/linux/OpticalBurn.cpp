@@ -98,7 +98,8 @@ QString prepare(burn_write_opts* options, burn_disc* disc, bool isAudio, DRBurnS
     if (!isAudio && burn_write_opts_auto_write_type(options, disc, reasons.data(), 0) != BURN_WRITE_NONE)
         return {};
     return u"the disc cannot be written like this: %1"_s.arg(
-        firstOf(QString::fromLatin1(reasons.data()).simplified(), LibBurn::message()));
+        firstOf(firstOf(QString::fromLatin1(reasons.data()).simplified(), LibBurn::message()),
+                u"the drive gave no reason"_s));
 }
 
 /// How much of the layout is written, from 0 to 1.
@@ -147,10 +148,11 @@ void OpticalBurn::writeLayout(const std::optional<DRLayout>& layout) {
     library_.post([self = shared_from_this(), layout = *layout](const std::stop_token& stop) {
         const QString problem = self->run(layout, stop);
         tell(self->target_, false);
-        if (problem.isEmpty())
-            self->report(DRStatusStateDone, 1);
-        else
-            self->report(DRStatusStateFailed, 0, problem);
+        if (!problem.isEmpty())
+            return self->report(DRStatusStateFailed, 0, problem);
+        if (self->target_.mount && self->properties_.completionAction == DRBurnCompletionActionMount)
+            MainQueue::post(self->target_.mount);
+        self->report(DRStatusStateDone, 1);
     });
 }
 

@@ -19,6 +19,8 @@ struct OpticalTarget {
     std::function<QString()> whyNotOpened;
     /// Told on the main thread when the drive begins and stops to be used.
     std::function<void(bool busy)> setBusy;
+    /// Has the finished disc mounted. Main thread.
+    std::function<void()> mount;
 };
 
 /// Writes a layout to a real disc with libburn: sound tracks as one session of an audio CD, an image file as the one

@@ -151,7 +151,12 @@ OpticalTarget OpticalDrive::target() {
             .name = found_.name,
             .maximumWriteSpeed = facts_.maximumWriteSpeed,
             .whyNotOpened = [&source = source_, path = found_.path] { return inWords(path, source.openError(path)); },
-            .setBusy = [self = shared_from_this()](bool busy) { self->setBusy(busy); }};
+            .setBusy = [self = shared_from_this()](bool busy) { self->setBusy(busy); },
+            .mount =
+                [self = shared_from_this()] {
+                    if (!self->center_.expired())
+                        self->source_.mount(self->found_.path);
+                }};
 }
 
 } // namespace Platform

@@ -4,7 +4,11 @@
 #include "Platform/Disc/linux/ImageDrive.h"
 #include "Platform/Foundation/linux/Descriptor.h"
 
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCall>
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <QSet>
 #include <QSocketNotifier>
@@ -108,6 +112,20 @@ public:
             quiet_.insert(path);
         else
             quiet_.remove(path);
+    }
+
+    void mount(const QString& path) override {
+        const auto bus = QDBusConnection::systemBus();
+        const QString object = u"/org/freedesktop/UDisks2/block_devices/"_s + QFileInfo(path).fileName();
+        // One after the other on the bus; a machine without the service mounts by itself or not at all.
+        for (const auto& [interface, call] :
+             {std::pair(u"org.freedesktop.UDisks2.Block"_s, u"Rescan"_s),
+              std::pair(u"org.freedesktop.UDisks2.Filesystem"_s, u"Mount"_s)}) {
+            auto message = QDBusMessage::createMethodCall(u"org.freedesktop.UDisks2"_s, object, interface, call);
+            message << QVariantMap();
+            if (bus.isConnected())
+                bus.asyncCall(message);
+        }
     }
 
 private:

@@ -64,13 +64,15 @@ int ReplacementFile::give(const QByteArray& name) {
     return ::linkat(AT_FDCWD, self.constData(), AT_FDCWD, name.constData(), AT_SYMLINK_FOLLOW) == 0 ? 0 : errno;
 }
 
-int ReplacementFile::commit() {
+int ReplacementFile::sync() {
+    if (descriptor_ < 0)
+        descriptor_ = ::open(QFile::encodeName(path_).constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW);
+    return descriptor_ >= 0 && syncFile(descriptor_) ? 0 : errno;
+}
+
+int ReplacementFile::takeName() {
     const QByteArray hidden = QFile::encodeName(path_);
     const QByteArray target = QFile::encodeName(target_);
-    if (descriptor_ < 0)
-        descriptor_ = ::open(hidden.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW);
-    if (descriptor_ < 0 || !syncFile(descriptor_))
-        return errno;
     // linkat() cannot replace a file, so a file without a name takes the hidden name for a moment.
     const bool linkToTarget = !hasName_ && existing_ == Existing::Kept;
     if (const int error = hasName_ ? 0 : give(linkToTarget ? target : hidden); error != 0)
@@ -85,7 +87,30 @@ int ReplacementFile::commit() {
         }
     }
     done_ = true;
-    syncFolder(folderOf(target));
+    return 0;
+}
+
+int ReplacementFile::commit() {
+    if (const int error = sync(); error != 0)
+        return error;
+    if (const int error = takeName(); error != 0)
+        return error;
+    syncFolder(folderOf(QFile::encodeName(target_)));
+    return 0;
+}
+
+int ReplacementFile::commitTogether(ReplacementFile& first, ReplacementFile& second) {
+    for (ReplacementFile* file : {&first, &second})
+        if (const int error = file->sync(); error != 0)
+            return error;
+    if (const int error = first.takeName(); error != 0)
+        return error;
+    if (const int error = second.takeName(); error != 0) {
+        (void)::unlink(QFile::encodeName(first.target_).constData());
+        return error;
+    }
+    for (const ReplacementFile* file : {&first, &second})
+        syncFolder(folderOf(QFile::encodeName(file->target_)));
     return 0;
 }
 

@@ -24,7 +24,10 @@ public:
         quieted.append(path + (quiet ? u" quiet"_s : u" looked at"_s));
     }
 
+    void mount(const QString& path) override { mounted.append(path); }
+
     std::function<void()> changed;
+    QStringList mounted;
     std::atomic<int> error{0};
     QStringList quieted;
     static inline std::vector<FoundDrive> found; // there before the first look
@@ -140,6 +143,7 @@ TEST_F(OpticalBurnTest, WritesAnAudioDiscInTheLibrarysOrder) {
                                              u"free options"_s,
                                              u"release 0"_s}));
     EXPECT_EQ(burner.holds, 0);
+    EXPECT_EQ(drives->mounted, QStringList{u"/dev/sr0"_s});
     const auto samples = samplesOf(burner.written());
     ASSERT_EQ(samples.size(), (1411200U + 882000U) / 2);
     for (const auto& [from, frames] : {std::pair<std::size_t, std::size_t>{0, 8 * 44100}, {8 * 44100, 5 * 44100}})
@@ -152,6 +156,7 @@ TEST_F(OpticalBurnTest, WritesAnAudioDiscInTheLibrarysOrder) {
 TEST_F(OpticalBurnTest, PutsTheDiscOutWhenThatIsWanted) {
     EXPECT_EQ(burned(DRBurnCompletionActionEject).state, DRStatusStateDone);
     EXPECT_EQ(callsOfTheBurn().last(), u"release 1"_s);
+    EXPECT_EQ(drives->mounted, QStringList());
 }
 
 TEST_F(OpticalBurnTest, IsBusyWhileItBurnsAndLooksAtTheDiscAfterwards) {
@@ -177,9 +182,9 @@ TEST_F(OpticalBurnTest, NamesEveryFailureAndGivesTheDriveBack) {
              {u"source"_s, u"the layout of the disc could not be made"_s},
              {u"add track"_s, u"the layout of the disc could not be made"_s},
              {u"options"_s, u"the layout of the disc could not be made"_s},
-             {u"type"_s, u"ACME Writer: the disc cannot be written like this: "_s},
+             {u"type"_s, u"ACME Writer: the disc cannot be written like this: the drive gave no reason"_s},
              {u"check"_s, u"ACME Writer: the disc cannot be written like this: SAO: cannot"_s},
-             {u"check: no media"_s, u"ACME Writer: the disc cannot be written like this: "_s},
+             {u"check: no media"_s, u"ACME Writer: the disc cannot be written like this: the drive gave no reason"_s},
              {u"profile"_s, u"ACME Writer: an audio CD needs a CD-R or a CD-RW, this is a disc of another kind"_s},
              {u"well?"_s, u"ACME Writer: the burn failed: the drive gave no reason"_s}}) {
         drive();

@@ -169,3 +169,22 @@ TEST_F(ReplacementFile, OfAKilledProcessIsNotSeen) {
     EXPECT_EQ(get(target), "old");
     EXPECT_EQ(names(), QStringList(u"a.m4a"_s));
 }
+
+TEST_P(ReplacementFileWritten, TakesItsNameTogetherWithAnotherOrNotAtAll) {
+    const QString second = folder.filePath(u"b.cue"_s);
+    const auto commit = [&] {
+        Platform::ReplacementFile one(target, Existing::Kept);
+        Platform::ReplacementFile two(second, Existing::Kept);
+        write(one, "one");
+        write(two, "two");
+        return Platform::ReplacementFile::commitTogether(one, two);
+    };
+    put(second, "old");
+    EXPECT_EQ(commit(), EEXIST);
+    EXPECT_EQ(names(), QStringList(u"b.cue"_s));
+    EXPECT_EQ(get(second), "old");
+    ASSERT_TRUE(QFile::remove(second));
+    EXPECT_EQ(commit(), 0);
+    EXPECT_EQ(names(), (QStringList{u"a.m4a"_s, u"b.cue"_s}));
+    EXPECT_EQ(get(target) + get(second), "onetwo");
+}
