@@ -173,8 +173,9 @@ TEST_F(BurnCommandTest, WaitsForTheDriveAfterAnInterrupt) {
 class BurnImageProgram : public testing::Test {
 protected:
     BurnImageProgram() {
-        const auto made = runTool(u"sox"_s, {u"-R"_s, u"-n"_s, u"-r"_s, u"44100"_s, u"-b"_s, u"24"_s, u"-c"_s, u"2"_s,
-                                             at(u"a.flac"_s), u"synth"_s, u"240"_s, u"sine"_s, u"997"_s, u"vol"_s, u"0.5"_s});
+        const auto made =
+            runTool(u"sox"_s, {u"-R"_s, u"-n"_s, u"-r"_s, u"44100"_s, u"-b"_s, u"24"_s, u"-c"_s, u"2"_s,
+                               at(u"a.flac"_s), u"synth"_s, u"120"_s, u"sine"_s, u"997"_s, u"vol"_s, u"0.5"_s});
         EXPECT_EQ(made.status, 0) << made.errors.data();
     }
     [[nodiscard]] QString at(const QString& name) const { return folder.filePath(name); }
@@ -202,7 +203,7 @@ TEST_F(BurnImageProgram, LeavesAWholeImageOrNothingWhenItIsKilled) {
     ASSERT_EQ(whole.status, 0) << whole.errors.data();
     const auto lasts = int(timer.elapsed());
     const QByteArray bin = contentOf(at(u"whole.bin"_s));
-    ASSERT_EQ(bin.size(), 2 * (75 + 240 * 75) * 2352);
+    ASSERT_EQ(bin.size(), 2 * (75 + 120 * 75) * 2352);
     int missing = 0;
     for (int i = 0; i < 20; ++i) {
         QProcess process;
@@ -235,7 +236,8 @@ TEST_F(BurnImageProgram, StopsAtAnInterruptAndLeavesNothing) {
     const QString files = u"/proc/%1/fd"_s.arg(process.processId());
     const auto grows = [&] {
         const auto all = QDir(files).entryInfoList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
-        return std::any_of(all.begin(), all.end(), [&](const QFileInfo& file) { return file.symLinkTarget().startsWith(images); });
+        return std::any_of(all.begin(), all.end(),
+                           [&](const QFileInfo& file) { return file.symLinkTarget().startsWith(images); });
     };
     while (!grows() && !process.waitForFinished(1))
         continue;
@@ -269,7 +271,7 @@ TEST_F(BurnImageProgram, SaysThatTheDiskIsFullAndLeavesNothing) {
     EXPECT_EQ(said.count('\n'), 1) << said.data();
     EXPECT_TRUE(said.startsWith("sonaphex: " + mountPoint + "/disc.bin: ")) << said.data();
     if (mounted) {
-        EXPECT_TRUE(said.contains("the disk is full: the image needs 86 MB, ")) << said.data();
+        EXPECT_TRUE(said.contains("the disk is full: the image needs 43 MB, ")) << said.data();
     }
     EXPECT_EQ(everything(images), QStringList());
     if (mounted) {

@@ -97,9 +97,8 @@ QString prepare(burn_write_opts* options, burn_disc* disc, bool isAudio, DRBurnS
         return {};
     if (!isAudio && burn_write_opts_auto_write_type(options, disc, reasons.data(), 0) != BURN_WRITE_NONE)
         return {};
-    return u"the disc cannot be written like this: %1"_s.arg(
-        firstOf(firstOf(QString::fromLatin1(reasons.data()).simplified(), LibBurn::message()),
-                u"the drive gave no reason"_s));
+    return u"the disc cannot be written like this: %1"_s.arg(firstOf(
+        firstOf(QString::fromLatin1(reasons.data()).simplified(), LibBurn::message()), u"the drive gave no reason"_s));
 }
 
 /// How much of the layout is written, from 0 to 1.

@@ -118,9 +118,8 @@ public:
         const auto bus = QDBusConnection::systemBus();
         const QString object = u"/org/freedesktop/UDisks2/block_devices/"_s + QFileInfo(path).fileName();
         // One after the other on the bus; a machine without the service mounts by itself or not at all.
-        for (const auto& [interface, call] :
-             {std::pair(u"org.freedesktop.UDisks2.Block"_s, u"Rescan"_s),
-              std::pair(u"org.freedesktop.UDisks2.Filesystem"_s, u"Mount"_s)}) {
+        for (const auto& [interface, call] : {std::pair(u"org.freedesktop.UDisks2.Block"_s, u"Rescan"_s),
+                                              std::pair(u"org.freedesktop.UDisks2.Filesystem"_s, u"Mount"_s)}) {
             auto message = QDBusMessage::createMethodCall(u"org.freedesktop.UDisks2"_s, object, interface, call);
             message << QVariantMap();
             if (bus.isConnected())

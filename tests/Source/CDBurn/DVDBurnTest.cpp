@@ -44,8 +44,8 @@ protected:
             file.write(image);
     }
     static std::unique_ptr<NotificationCenter::Observation> count(const QString& name, int& times) {
-        return NotificationCenter::defaultCenter().addObserver(name,
-                                                               [&times](const QString&, const Dictionary&) { ++times; });
+        return NotificationCenter::defaultCenter().addObserver(
+            name, [&times](const QString&, const Dictionary&) { ++times; });
     }
 
     ServicesScope scope;
@@ -66,9 +66,7 @@ TEST_F(DVDBurnTest, WritesTheImageFileByteForByte) {
     const auto three = count(BurnControlBurnProgressNotification, progress);
     BurnControl control;
     control.setUseCDRom(0);
-    ASSERT_TRUE(waitFor([&] {
-        return discs.devices()[0]->status().mediaState == DRDeviceMediaStateMediaPresent;
-    }));
+    ASSERT_TRUE(waitFor([&] { return discs.devices()[0]->status().mediaState == DRDeviceMediaStateMediaPresent; }));
     control.beginDVDMediaBurn(folder.filePath(u"image.iso"_s));
     ASSERT_TRUE(waitFor([&] { return finished + failed > 0; }));
     EXPECT_EQ(finished, 1) << qPrintable(control.failureReason());
