@@ -23,9 +23,9 @@ Commands byName(std::initializer_list<const Command*> commands) {
 }
 
 const Commands& plainCommands() {
-    static const Commands plain = byName({&burnCommand, &controlCommand, &convertCommand, &devicesCommand,
-                                          &driverCommand, &drivesCommand, &libraryCommand, &recordCommand,
-                                          &ringtoneCommand, &tagCommand, &trimCommand});
+    static const Commands plain =
+        byName({&burnCommand, &controlCommand, &convertCommand, &devicesCommand, &driverCommand, &drivesCommand,
+                &libraryCommand, &recordCommand, &ringtoneCommand, &tagCommand, &trimCommand});
     return plain;
 }
 

@@ -59,7 +59,7 @@ void LinuxServices::install(Mode mode) {
     set.workspace = (d->workspace = createWorkspace()).get();
     set.alerts = (d->alerts = createCommandLineAlerts()).get();
     set.adminShell = (d->adminShell = createAdminShell()).get();
-    set.sleepInhibitor = (d->sleepInhibitor = createSleepInhibitor()).get(); // connects when something is recorded
+    set.sleepInhibitor = (d->sleepInhibitor = createSleepInhibitor()).get();  // connects when something is recorded
     d->discRecording = std::make_unique<LinuxDiscRecording>(*set.mediaFiles); // looks for drives when it is asked
     set.discRecording = d->discRecording.get();
     set.diskArbitration = (d->diskArbitration = createDiskArbitration()).get();
