@@ -188,8 +188,9 @@ void SaveBoundaries::leaveAFileThatEveryProgramReads(Shape shape) {
     ASSERT_FALSE(audio.decoded.isEmpty());
     ASSERT_FALSE(audio.packets.isEmpty());
     ASSERT_FALSE(audio.otherDecoded.isEmpty());
-    QString old;
-    // Into a new place, into the room of the first index, into a new place because it is larger.
+    QString old = u"nil"_s;
+    ASSERT_TRUE(tag(path, old));
+    // Into a new place, into the room of the indexes before, into a new place because it is larger.
     const std::vector<std::pair<QString, std::function<bool()>>> saves{
         {u"one"_s, [&] { return tag(path, u"one"_s); }},
         {u"two"_s, [&] { return tag(path, u"two"_s); }},
@@ -244,7 +245,8 @@ TEST_F(SaveWithItsIndexInFront, LeavesAFileThatEveryProgramReads) {
 TEST_P(KilledSaves, LeaveAFileThatIsRead) {
     ASSERT_TRUE(Mpeg4Files::make(path, GetParam(), 2));
     const QByteArray audio = Mpeg4Files::audioOf(path);
-    QString old;
+    QString old = u"nil"_s;
+    ASSERT_TRUE(tag(path, old));
     for (const QString& title : {u"one"_s, u"two"_s, QString(9000, u'x')}) {
         const QByteArray before = Mpeg4Files::contentOf(path);
         const QByteArray finished = [&] {
