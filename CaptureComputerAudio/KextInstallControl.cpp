@@ -111,7 +111,7 @@ QString installedBundlePath() {
 
 QString resourceBundlePath() {
     const auto* bundle = Platform::services().bundle;
-    return bundle ? bundle->pathForResource(kBundleName) : kBundleName;
+    return bundle ? bundle->pathForTool(kBundleName) : kBundleName;
 }
 
 bool isExist() {

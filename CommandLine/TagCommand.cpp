@@ -66,7 +66,7 @@ void show(const QString& path, const BasicID3Change::Tags& tags, bool json) {
 /// @return what went wrong; empty when nothing did
 QString setArtwork(const QString& path, const QString& image) {
     QProcess tool;
-    tool.start(Platform::services().bundle->pathForResource(u"SetArtWork"_s), {path, image, path});
+    tool.start(Platform::services().bundle->pathForTool(u"SetArtWork"_s), {path, image, path});
     if (!tool.waitForFinished(-1))
         return u"%1: %2"_s.arg(tool.program(), tool.errorString());
     if (tool.exitStatus() == QProcess::NormalExit && tool.exitCode() == 0)

@@ -1,15 +1,43 @@
 # SPDX-FileCopyrightText: 2026 The Sonaphex authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Where things go on a system: the program to bin, its resources and helpers to share/sonaphex, where it looks for them.
-include(GNUInstallDirs)
+# Where things go on a system: the program to bin, data to share/sonaphex, and what is made for one kind of processor (the
+# module with the windows, the helpers, the driver bundle) to lib/sonaphex. The program finds all of it from its own place.
+set(resources_out ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Resources)
+set(tools_dir ${CMAKE_INSTALL_LIBDIR}/sonaphex)
+set(desktop_id com.korvane.Sonaphex)
+
 install(TARGETS sonaphex RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Resources/ DESTINATION ${CMAKE_INSTALL_DATADIR}/sonaphex
-    USE_SOURCE_PERMISSIONS PATTERN "*.ui" EXCLUDE PATTERN "*.qrc" EXCLUDE PATTERN "images" EXCLUDE)
-if(EXISTS ${CMAKE_SOURCE_DIR}/Resources/com.korvane.Sonaphex.desktop)
-    install(FILES ${CMAKE_SOURCE_DIR}/Resources/com.korvane.Sonaphex.desktop
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(TARGETS sonaphex_desktop LIBRARY DESTINATION ${tools_dir})
+install(TARGETS AudioSessionKeeper SetArtWork ToneSource RUNTIME DESTINATION ${tools_dir})
+install(TARGETS CaptureDriver RUNTIME DESTINATION ${tools_dir}/ComputerAudioCapture.kext)
+install(FILES ${CMAKE_SOURCE_DIR}/Resources/ComputerAudioCapture.kext/driver.conf
+    DESTINATION ${tools_dir}/ComputerAudioCapture.kext)
+install(DIRECTORY ${CMAKE_SOURCE_DIR}/Resources/AudioSession DESTINATION ${CMAKE_INSTALL_DATADIR}/sonaphex)
+install(FILES ${CMAKE_SOURCE_DIR}/Resources/AudioArtwork.png ${CMAKE_SOURCE_DIR}/Resources/computer-audio.html
+    ${CMAKE_SOURCE_DIR}/Resources/support.html DESTINATION ${CMAKE_INSTALL_DATADIR}/sonaphex)
+
+install(FILES ${CMAKE_SOURCE_DIR}/Resources/${desktop_id}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES ${CMAKE_SOURCE_DIR}/Resources/${desktop_id}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+install(DIRECTORY ${CMAKE_SOURCE_DIR}/Resources/icons/hicolor DESTINATION ${CMAKE_INSTALL_DATADIR}/icons)
+
+# The manual page and the completions are printed by the program itself, from the declarations of its options.
+set(manual ${CMAKE_BINARY_DIR}/manual)
+set(manual_files)
+function(sonaphex_printed file)
+    add_custom_command(OUTPUT ${manual}/${file}
+        COMMAND ${CMAKE_COMMAND} -E make_directory ${manual}
+        COMMAND ${CMAKE_COMMAND} -E env LC_ALL=C.UTF-8 $<TARGET_FILE:sonaphex> ${ARGN} > ${manual}/${file}
+        DEPENDS sonaphex sonaphex_desktop VERBATIM)
+    set(manual_files ${manual_files} ${manual}/${file} PARENT_SCOPE)
+endfunction()
+sonaphex_printed(sonaphex.1 manual)
+sonaphex_printed(sonaphex completions bash)
+sonaphex_printed(_sonaphex completions zsh)
+sonaphex_printed(sonaphex.fish completions fish)
+if(NOT SONAPHEX_SANITIZE) # a sanitizer would report what other libraries leave behind
+    add_custom_target(sonaphex_manual ALL DEPENDS ${manual_files})
 endif()
-if(EXISTS ${CMAKE_SOURCE_DIR}/Resources/icons/hicolor/scalable/apps/com.korvane.Sonaphex.svg)
-    install(FILES ${CMAKE_SOURCE_DIR}/Resources/icons/hicolor/scalable/apps/com.korvane.Sonaphex.svg
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
-endif()
+install(FILES ${manual}/sonaphex.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES ${manual}/sonaphex DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+install(FILES ${manual}/_sonaphex DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions)
+install(FILES ${manual}/sonaphex.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)

@@ -17,6 +17,11 @@ public:
     [[nodiscard]] virtual QString resourcePath() const = 0;
     /// A resource by its name; the answer does not say that it exists.
     [[nodiscard]] QString pathForResource(const QString& name) const { return resourcePath() + u'/' + name; }
+    /// The folder of the helper programs, the module with the windows and the driver bundle: the folder of the
+    /// resources in a build tree, under lib/ when installed, since these files are made for one kind of processor.
+    [[nodiscard]] virtual QString toolsPath() const { return resourcePath(); }
+    /// A helper program, module or bundle by its name; the answer does not say that it exists.
+    [[nodiscard]] QString pathForTool(const QString& name) const { return toolsPath() + u'/' + name; }
 };
 
 } // namespace Platform

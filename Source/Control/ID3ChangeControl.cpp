@@ -82,7 +82,7 @@ QString artworkCommandLine(const QString& tool, const QString& source, const QSt
 
 void changeID3Artwork(const QString& source, const QString& destPath, const QString& artworkPath) {
     const Platform::Bundle* const bundle = Platform::services().bundle;
-    const QString tool = bundle->pathForResource(u"SetArtWork"_s);
+    const QString tool = bundle->pathForTool(u"SetArtWork"_s);
     QString artwork = artworkPath;
     if (artwork.isEmpty()) {
         artwork = g_strTmpPath + u"/AudioImageSource.png"_s;

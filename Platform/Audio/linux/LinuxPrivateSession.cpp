@@ -30,11 +30,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString resourceFolder() {
-    if (const auto* bundle = services().bundle)
-        return bundle->resourcePath();
-    const QString beside = QCoreApplication::applicationDirPath() + u"/Resources"_s;
-    return QFileInfo::exists(beside) ? beside : QCoreApplication::applicationDirPath() + u"/../share/sonaphex"_s;
+/// The process's bundle; one of our own where no services are installed.
+const Bundle& bundle() {
+    static const std::unique_ptr<Bundle> own = createBundle();
+    return services().bundle ? *services().bundle : *own;
 }
 
 /// The address of a socket holds 107 characters: a long folder is of no use.
@@ -74,17 +73,17 @@ bool PrivateSession::serverAnswers() {
 }
 
 std::unique_ptr<PrivateSession> PrivateSession::start(QString& why) {
-    const QString resources = resourceFolder();
     LinuxPrivateSession::Options options;
-    options.programs = {resources + u"/ToneSource"_s, resources + u"/ComputerAudioCapture.kext/CaptureDriver"_s};
+    options.programs = {bundle().pathForTool(u"ToneSource"_s),
+                        bundle().pathForTool(u"ComputerAudioCapture.kext/CaptureDriver"_s)};
     options.expectedSource = "sonaphex.tone";
     return LinuxPrivateSession::start(options, why);
 }
 
 std::unique_ptr<LinuxPrivateSession> LinuxPrivateSession::start(const Options& options, QString& why) {
-    const QString resources = resourceFolder();
-    const QString keeper = resources + u"/AudioSessionKeeper"_s;
-    QStringList arguments = {keeper, QString::number(getpid()), baseFolder(), resources + u"/AudioSession"_s};
+    const QString keeper = bundle().pathForTool(u"AudioSessionKeeper"_s);
+    QStringList arguments = {keeper, QString::number(getpid()), baseFolder(),
+                             bundle().pathForResource(u"AudioSession"_s)};
     for (const QString& name : {u"pipewire"_s, u"wireplumber"_s}) {
         const QString path = QStandardPaths::findExecutable(name);
         if (path.isEmpty()) {

@@ -12,14 +12,19 @@ class LinuxBundle final : public Bundle {
 public:
     explicit LinuxBundle(const QString& programFolder) {
         const QString beside = programFolder + QStringLiteral("/Resources");
+        const bool installed = !QFileInfo(beside).isDir();
+        // Relative to the program, so that an installation may be moved as a whole.
         resources_ =
-            QFileInfo(beside).isDir() ? beside : QDir::cleanPath(programFolder + QStringLiteral("/../share/sonaphex"));
+            installed ? QDir::cleanPath(programFolder + QStringLiteral("/" SONAPHEX_RESOURCES_FROM_BIN)) : beside;
+        tools_ = installed ? QDir::cleanPath(programFolder + QStringLiteral("/" SONAPHEX_TOOLS_FROM_BIN)) : beside;
     }
     QString bundleIdentifier() const override { return QStringLiteral("com.korvane.Sonaphex"); }
     QString resourcePath() const override { return resources_; }
+    QString toolsPath() const override { return tools_; }
 
 private:
     QString resources_;
+    QString tools_;
 };
 
 } // namespace

@@ -11,7 +11,7 @@
 namespace Platform {
 
 void* loadModuleFunction(const QString& file, const char* name, QString& why) {
-    const QString path = createBundle()->pathForResource(file);
+    const QString path = createBundle()->pathForTool(file);
     void* const module = dlopen(QFile::encodeName(path).constData(), RTLD_LAZY | RTLD_LOCAL);
     void* const function = module ? dlsym(module, name) : nullptr;
     if (!function)

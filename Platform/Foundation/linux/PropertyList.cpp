@@ -70,7 +70,7 @@ bool isTooDeep(const QByteArray& xml) {
 }
 
 const QDateTime& referenceDate() {
-    static const QDateTime date(QDate(2001, 1, 1), QTime(0, 0), Qt::UTC);
+    static const QDateTime date(QDate(2001, 1, 1), QTime(0, 0), QTimeZone::utc());
     return date;
 }
 

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QTemporaryDir>
+#include <QTimeZone>
 
 #include <chrono>
 
@@ -13,11 +14,15 @@ TEST(Bundle, FindsItsResourcesBesideTheProgramFirst) {
     QTemporaryDir dir;
     QDir(dir.path()).mkpath(QStringLiteral("bin"));
     const QString bin = dir.filePath(QStringLiteral("bin"));
-    EXPECT_EQ(Platform::createBundle(bin)->resourcePath(), dir.filePath(QStringLiteral("share/sonaphex")));
+    const auto installed = Platform::createBundle(bin);
+    EXPECT_EQ(installed->resourcePath(), dir.filePath(QStringLiteral("share/sonaphex")));
+    EXPECT_TRUE(installed->toolsPath().startsWith(dir.filePath(QStringLiteral("lib"))))
+        << qPrintable(installed->toolsPath());
+    EXPECT_TRUE(installed->toolsPath().endsWith(QStringLiteral("/sonaphex"))) << qPrintable(installed->toolsPath());
     QDir(bin).mkpath(QStringLiteral("Resources"));
     const auto bundle = Platform::createBundle(bin);
     EXPECT_EQ(bundle->resourcePath(), bin + QStringLiteral("/Resources"));
-    EXPECT_EQ(bundle->pathForResource(QStringLiteral("SetArtWork")), bin + QStringLiteral("/Resources/SetArtWork"));
+    EXPECT_EQ(bundle->pathForTool(QStringLiteral("SetArtWork")), bin + QStringLiteral("/Resources/SetArtWork"));
     EXPECT_EQ(bundle->bundleIdentifier(), QStringLiteral("com.korvane.Sonaphex"));
 }
 
@@ -27,7 +32,7 @@ TEST(Bundle, KnowsTheFolderOfTheRunningProgram) {
 
 TEST(Clock, CountsFromTheFirstDayOfTwoThousandAndOne) {
     const auto clock = Platform::createClock();
-    const QDateTime reference(QDate(2001, 1, 1), QTime(0, 0), Qt::UTC);
+    const QDateTime reference(QDate(2001, 1, 1), QTime(0, 0), QTimeZone::utc());
     const QDateTime before = QDateTime::currentDateTimeUtc();
     const double seconds = clock->timeIntervalSinceReferenceDate();
     const QDateTime now = clock->now();

@@ -3,6 +3,7 @@
 #include "Platform/Foundation/linux/PropertyList.h"
 
 #include <QDateTime>
+#include <QTimeZone>
 #include <clocale>
 #include <gtest/gtest.h>
 
@@ -27,7 +28,7 @@ TEST(PropertyList, GivesEveryKindOfObjectBack) {
         {u"yes"_s, true},
         {u"no"_s, false},
         {u"data"_s, QByteArray("\0\1\xff", 3)},
-        {u"date"_s, QDateTime(QDate(2026, 2, 3), QTime(4, 5, 6), Qt::UTC)},
+        {u"date"_s, QDateTime(QDate(2026, 2, 3), QTime(4, 5, 6), QTimeZone::utc())},
         {u"list"_s, QVariantList{u"a"_s, qlonglong(1), QVariantList{}, QVariantMap{{u"deep"_s, 1.5}}}},
         {u"<&\"'>]]>"_s, u"<&\"'>]]>&amp;&#65;"_s},
     };
