@@ -4,6 +4,7 @@
 
 #include "Platform/Audio/linux/ServerProbe.h"
 #include "Platform/Foundation/Bundle.h"
+#include "Platform/Foundation/linux/LinuxFoundation.h"
 #include "Platform/Foundation/Services.h"
 
 #include <algorithm>
