@@ -3,6 +3,7 @@
 #include "AppDelegate.h"
 
 #include "Platform/Desktop/Activation.h"
+#include "Platform/Desktop/Alerts.h"
 #include "Platform/Desktop/Workspace.h"
 #include "Platform/Foundation/Bundle.h"
 #include "Platform/Foundation/Folders.h"
@@ -15,6 +16,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QUrl>
 
 #include <cerrno>
 #include <sys/stat.h>
@@ -89,11 +91,21 @@ void AppDelegate::terminate() {
 Platform::RunningProgram::Reply AppDelegate::answer(const QByteArray& request) {
     if (const auto answer = MediaLibraryRequests::answer(request))
         return *answer;
+    if (request.startsWith("open ")) {
+        const QString path = QUrl::fromPercentEncoding(request.mid(5));
+        return {"ok", [this, path] { openFile(path); }}; // the window is modal: the caller must not wait for its end
+    }
     if (request != "show" && !request.startsWith("show "))
         return windows_.answer(*mainWndController_, request);
     Platform::Activation::setToken(request.mid(5));
     ToolControl::showWindowNib(*mainWndController_);
     return QByteArray("ok");
+}
+
+void AppDelegate::openFile(const QString& path) {
+    ToolControl::showWindowNib(*mainWndController_);
+    if (const QString why = windows_.openFile(*mainWndController_, path); !why.isEmpty())
+        (void)Platform::services().alerts->runModal(tr("The file cannot be opened."), why, {tr("OK")});
 }
 
 void AppDelegate::perference(QObject*) {

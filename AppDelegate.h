@@ -28,6 +28,9 @@ public:
         /// Answers a request of another process, but for "show" and what concerns the library.
         [[nodiscard]] virtual Platform::RunningProgram::Reply answer(WindowController& mainWindow,
                                                                      const QByteArray& request) = 0;
+        /// Opens an audio file that the desktop or another launch hands over. @return why it cannot be opened; empty
+        /// when it was, after its window is closed.
+        [[nodiscard]] virtual QString openFile(WindowController& mainWindow, const QString& path) = 0;
         /// Ends a running recording and waits for its files: the program is about to quit.
         virtual void finishRecording(WindowController& mainWindow) = 0;
     };
@@ -39,6 +42,9 @@ public:
     /// @return false when there is no temporary folder of this user's own, or another program uses it; nothing has been
     /// wiped or shown then, and lastError() says why.
     [[nodiscard]] bool applicationDidFinishLaunching();
+    /// Shows the main window and opens an audio file, as "Open with" of a file manager asks for. An alert says why it
+    /// cannot be opened. Returns when the file's window is closed.
+    void openFile(const QString& path);
     /// Ends what must not be cut off: a recording under way, settings not yet written.
     void applicationWillTerminate();
     /// Ends the program. The recording is finished before this returns and before any event loop ends: a dialog or a

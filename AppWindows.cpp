@@ -60,7 +60,7 @@ public:
         record_->awakeFromNib();
         EditNote::recover(); // before the window shows what the library says
         auto window = std::make_unique<MainWndController>(*record_, MediaLibrary::shareLibrary());
-        new EditWindows(*window, window.get());
+        editWindows_ = new EditWindows(*window, window.get());
         if (Platform::services().discRecording) {
             window->commands().setOpener(WindowCommands::Window::CDBurn,
                                          [main = window.get()](const QVariantList& entries) {
@@ -126,6 +126,10 @@ public:
         return ControlRequests(*record_).answer(request);
     }
 
+    QString openFile(AppDelegate::WindowController& /*mainWindow*/, const QString& path) override {
+        return editWindows_->openFile(path);
+    }
+
     void finishRecording(AppDelegate::WindowController& /*mainWindow*/) override { record_->finishAll(); }
 
 private:
@@ -134,6 +138,7 @@ private:
     QtPanels panels_;
     QtFocusProbe focusProbe_;
     std::unique_ptr<RecordStateController> record_;
+    EditWindows* editWindows_ = nullptr; ///< a child of the main window's controller
 };
 
 } // namespace

@@ -16,8 +16,11 @@
 #include "Source/Record/CutOffRecordings.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QProgressDialog>
 #include <QSessionManager>
+#include <QTimer>
+#include <QUrl>
 
 #include <memory>
 
@@ -58,7 +61,22 @@ private:
     std::unique_ptr<QProgressDialog> dialog_;
 };
 
+/// The file that the arguments name, absolute; empty when they name none.
+QString fileToOpen(int argc, char** argv) {
+    if (argc < 2 || argv[1][0] == '-')
+        return {};
+    return QFileInfo(QFile::decodeName(argv[1])).absoluteFilePath();
+}
+
+int openInRunningProgram(Platform::RunningProgram& running, const QString& file) {
+    QByteArray answer;
+    if (running.ask("open " + QUrl::toPercentEncoding(file), answer) && answer == "ok")
+        return CommandLine::Done;
+    return CommandLine::fail(QStringLiteral("%1 was not opened: the running program does not answer").arg(file));
+}
+
 int runWindows(int argc, char** argv) {
+    const QString file = fileToOpen(argc, argv);
     const QByteArray launchToken = Platform::Activation::launchToken();
     QApplication application(argc, argv);
     // It is not the last window that ends the program: all of them may be closed but the main one.
@@ -73,7 +91,7 @@ int runWindows(int argc, char** argv) {
     const auto running = Platform::RunningProgram::create(Platform::services().bundle->bundleIdentifier());
     switch (Launch::begin(*running, launchToken)) {
     case Launch::Outcome::Raised:
-        return CommandLine::Done;
+        return file.isEmpty() ? CommandLine::Done : openInRunningProgram(*running, file);
     case Launch::Outcome::NobodyAnswers:
         return CommandLine::fail(QStringLiteral("it is already running, but does not answer"));
     case Launch::Outcome::First:
@@ -100,6 +118,8 @@ int runWindows(int argc, char** argv) {
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &delegate, &AppDelegate::applicationWillTerminate);
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &delegate,
                      &AppDelegate::applicationWillTerminate, Qt::DirectConnection);
+    if (!file.isEmpty())
+        QTimer::singleShot(0, &delegate, [&delegate, file] { delegate.openFile(file); });
     return QApplication::exec();
 }
 

@@ -5,6 +5,8 @@
 #include "CommandLine/ManualCommand.h"
 #include "CommandLine/WaveformCommand.h"
 
+#include <QFileInfo>
+
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -34,9 +36,9 @@ std::optional<int> runCommand(int argc, char** argv) {
     }
     if (const auto status = runOneOf(allCommands(), argc, argv))
         return status;
-    if (name.startsWith(u'-'))
+    if (name.startsWith(u'-') || QFileInfo(QFile::decodeName(argv[1])).isFile())
         return {};
-    std::fprintf(stderr, "sonaphex: %s: no such command (see sonaphex help)\n", argv[1]);
+    std::fprintf(stderr, "sonaphex: %s: no such command and no such file (see sonaphex help)\n", argv[1]);
     return WrongUsage;
 }
 

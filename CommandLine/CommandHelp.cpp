@@ -71,7 +71,7 @@ QString whole(const Command& command) {
 
 QString overview(const Commands& commands) {
     QString text =
-        u"usage: sonaphex            open the window\n       sonaphex COMMAND    do one thing and end\n\ncommands:\n"_s;
+        u"usage: sonaphex            open the window\n       sonaphex FILE       open the window and trim an audio file\n       sonaphex COMMAND    do one thing and end\n\ncommands:\n"_s;
     for (const auto& [name, command] : commands)
         text += u"  %1 %2\n"_s.arg(name.leftJustified(12), QString::fromUtf8(command->summary));
     return text +

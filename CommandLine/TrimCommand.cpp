@@ -9,9 +9,9 @@
 #include "Platform/Foundation/Bundle.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/TemporaryFolder.h"
-#include "Platform/Media/BasicID3Change.h"
 #include "Source/Control/AudioTrimSave.h"
 #include "Source/Control/ConverterAudioControl.h"
+#include "Source/Control/FileTags.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Preferences/PreferenceStore.h"
 #include "Source/ProcessRequests/ControlRequests.h"
@@ -26,17 +26,6 @@ using namespace Qt::StringLiterals;
 
 namespace CommandLine {
 namespace {
-
-/// The tags that the result gets: those of the file. One of another kind has none that are known here, and a title is
-/// made of its name.
-Dictionary tagsOf(const QString& path) {
-    using namespace AudioRecordEntry;
-    const auto tags = Platform::BasicID3Change::read(path);
-    if (!tags)
-        return {{Title, QFileInfo(path).completeBaseName()}};
-    return {
-        {Title, tags->title}, {Artist, tags->artist}, {Album, tags->album}, {Year, tags->year}, {Genre, tags->genre}};
-}
 
 /// Whether the running window plays the file.
 bool isPlayed(const QString& path) {
@@ -67,7 +56,7 @@ int trim(const QString& source, double from, double to, const QString& saveAs, b
     task.exportPath = AudioTrimSave::exportPath(task.replace ? source : QFileInfo(saveAs).absoluteFilePath());
     task.from = float(from);
     task.to = float(to);
-    task.entry = tagsOf(source);
+    task.entry = FileTags::texts(source);
     if (!task.replace && (QFileInfo::exists(task.exportPath) || QFileInfo(task.exportPath).isSymLink()))
         return fail(u"%1: This path exists, please change the path or name."_s.arg(task.exportPath));
     if (task.replace && isPlayed(source))

@@ -10,12 +10,14 @@
 #include "Source/Preferences/PreferenceStore.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <atomic>
 
 using namespace Qt::StringLiterals;
 
 namespace FileTags {
+
 namespace {
 
 /// As a file keeps it: half a character becomes a replacement character.
@@ -25,6 +27,14 @@ QString kept(const QVariant& value) {
 
 } // namespace
 
+Dictionary texts(const QString& path) {
+    using namespace AudioRecordEntry;
+    const auto tags = Platform::BasicID3Change::read(path);
+    if (!tags)
+        return {{Title, QFileInfo(path).completeBaseName()}};
+    return {
+        {Title, tags->title}, {Artist, tags->artist}, {Album, tags->album}, {Year, tags->year}, {Genre, tags->genre}};
+}
 QByteArray artwork(const QString& path) {
     const auto tags = Platform::BasicID3Change::read(path);
     if (!tags || tags->artwork.isEmpty())

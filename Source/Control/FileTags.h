@@ -9,6 +9,10 @@
 /// What a recording's file says of itself, read from the file. Any thread, blocking.
 namespace FileTags {
 
+/// The five text tags by the keys of an audio record entry. A file of another kind has none that are known here: its
+/// title is then made of its name.
+[[nodiscard]] Dictionary texts(const QString& path);
+
 /// The cover as it stands in the file. Empty when there is none, and for the default one, which stands for none.
 [[nodiscard]] QByteArray artwork(const QString& path);
 

@@ -2,14 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/WndController/EditWindows.h"
 
+#include "Platform/Foundation/Services.h"
+#include "Platform/Media/ExtAudioFile.h"
 #include "Source/Control/FileTags.h"
 #include "Source/Model/AudioRecordEntry.h"
+#include "Source/Model/MediaLibrary.h"
 #include "Source/WndController/AudioTrimWndController.h"
 #include "Source/WndController/ID3EditWndController.h"
 #include "Source/WndController/LibraryPresenter.h"
 #include "Source/WndController/MainMenus.h"
 #include "Source/WndController/MainWndController.h"
 
+#include <QApplication>
 #include <QFileInfo>
 
 using Window = WindowCommands::Window;
@@ -32,6 +36,19 @@ EditWindows::EditWindows(MainWndController& main, QObject* parent) : QObject(par
 }
 
 EditWindows::~EditWindows() = default;
+
+QString EditWindows::openFile(const QString& path) {
+    if (QApplication::activeModalWidget())
+        return tr("%1 cannot be opened: close the open dialog first.").arg(path);
+    Platform::AudioFileInfo info;
+    Platform::MediaError error;
+    if (!Platform::services().mediaFiles->info(path, info, error))
+        return error.text;
+    main_.library().stopSoundPlaying();
+    audioTrimWndController().setTrimAudioSourceData(MediaLibrary::entryForFile(path, FileTags::texts(path)));
+    audioTrimWndController().runModal();
+    return {};
+}
 
 AudioTrimWndController& EditWindows::audioTrimWndController() {
     if (!trim_) {

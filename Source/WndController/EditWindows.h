@@ -21,6 +21,10 @@ public:
     explicit EditWindows(MainWndController& main, QObject* parent = nullptr);
     ~EditWindows() override;
 
+    /// Opens the trim window on a file that need not be in the library; nothing is added to it. @return why it cannot
+    /// be opened; empty when it could, after the window is closed
+    [[nodiscard]] QString openFile(const QString& path);
+
     /// Made when they are opened first.
     [[nodiscard]] AudioTrimWndController& audioTrimWndController();
     [[nodiscard]] ID3EditWndController& id3EditWndController();

@@ -5,6 +5,7 @@
 #include "Platform/Foundation/MainQueue.h"
 #include "Platform/Foundation/Services.h"
 #include "Source/Preferences/PreferenceStore.h"
+#include "tests/fakes/FakeAlerts.h"
 #include "tests/fakes/FakeBundle.h"
 #include "tests/fakes/FakeUserDefaults.h"
 #include "tests/fakes/FakeWorkspace.h"
@@ -81,6 +82,11 @@ struct FakeWindows : AppDelegate::Windows {
     }
     Platform::RunningProgram::Reply answer(AppDelegate::WindowController&, const QByteArray& request) override {
         return QByteArray("window heard " + request);
+    }
+    QString whyNotOpened;
+    QString openFile(AppDelegate::WindowController&, const QString& path) override {
+        log << u"open "_s + path;
+        return whyNotOpened;
     }
     void finishRecording(AppDelegate::WindowController&) override { log << u"finish"_s; }
 };
@@ -281,6 +287,25 @@ TEST_F(AppDelegateTest, RaisesItsWindowWhenASecondLaunchAsks) {
     EXPECT_EQ(running.handler("show").line, "ok");
     EXPECT_EQ(windows.log, (QStringList{u"MainWnd: showWindow"_s, u"MainWnd: center"_s}));
     EXPECT_EQ(running.handler("split").line, "window heard split");
+}
+
+TEST_F(AppDelegateTest, AnswersBeforeItOpensAFileAndSaysWhyItCannot) {
+    FakeAlerts alerts;
+    Platform::services().alerts = &alerts;
+    ASSERT_TRUE(delegate.applicationDidFinishLaunching());
+    windows.log.clear();
+    const auto reply = running.handler("open " + QUrl::toPercentEncoding(u"/tmp/a b%\n日.m4a"_s));
+    EXPECT_EQ(reply.line, "ok");
+    EXPECT_TRUE(windows.log.isEmpty()) << "the trim window is modal: the caller would wait for its end";
+    ASSERT_TRUE(reply.afterwards);
+    reply.afterwards();
+    EXPECT_EQ(windows.log.value(windows.log.size() - 1), u"open /tmp/a b%\n日.m4a"_s);
+    EXPECT_TRUE(alerts.shown.isEmpty());
+
+    windows.whyNotOpened = u"it is no sound file"_s;
+    delegate.openFile(u"/etc/passwd"_s);
+    ASSERT_EQ(alerts.shown.size(), 1);
+    EXPECT_EQ(alerts.shown[0].text, u"it is no sound file"_s);
 }
 
 TEST_F(AppDelegateTest, FinishesARecordingBeforeADialogOrAPromptIsLeft) {

@@ -40,8 +40,8 @@ public:
     DesktopProgram& operator=(const DesktopProgram&) = delete;
 
     /// Returns when its window is set up.
-    [[nodiscard]] bool start() {
-        process_.start(QStringLiteral(SONAPHEX_PROGRAM), QStringList());
+    [[nodiscard]] bool start(const QStringList& arguments = {}) {
+        process_.start(QStringLiteral(SONAPHEX_PROGRAM), arguments);
         return waitFor([this] { return state() == u"idle"_s; }, 60000);
     }
     /// Ends it in good order, if it still runs.

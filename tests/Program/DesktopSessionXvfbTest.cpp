@@ -180,6 +180,24 @@ TEST_F(ProgramOnADesktop, ASecondLaunchBringsTheCoveredWindowToTheFront) {
     EXPECT_EQ(program.process().state(), QProcess::Running);
 }
 
+TEST_F(ProgramOnADesktop, AFileIsOpenedInTheTrimWindowAtTheLaunchAndByASecondLaunch) {
+    const QString file = user.folder.filePath(u"a song.wav"_s);
+    ASSERT_EQ(runTool(u"sox"_s, {u"-n"_s, file, u"synth"_s, u"3"_s, u"sine"_s, u"440"_s}).status, 0);
+    const auto trimWindows = [] {
+        return desktop().xdotool({u"search"_s, u"--onlyvisible"_s, u"--name"_s, u"^Trim"_s});
+    };
+    ASSERT_TRUE(program.start({file}));
+    EXPECT_TRUE(waitFor(trimWindows, 20000)) << "at the launch";
+    ASSERT_TRUE(desktop().xdotool({u"search"_s, u"--onlyvisible"_s, u"--name"_s, u"^Trim"_s, u"windowactivate"_s,
+                                   u"--sync"_s, u"key"_s, u"Escape"_s}));
+    ASSERT_TRUE(waitFor([&] { return !trimWindows(); }, 20000));
+    const auto second = runTool(QStringLiteral(SONAPHEX_PROGRAM), {file}, 20000);
+    EXPECT_EQ(second.status, 0) << second.errors.toStdString();
+    EXPECT_TRUE(waitFor(trimWindows, 20000)) << "by a second launch, which does not wait for its end";
+    const auto library = runTool(QStringLiteral(SONAPHEX_PROGRAM), {u"library"_s});
+    EXPECT_FALSE(library.output.contains("a song")) << "a file that is opened is not added to the library";
+}
+
 TEST_F(ProgramOnADesktop, ASecondLaunchHandsItsLaunchersTokenOn) {
     ASSERT_TRUE(program.start());
     RootMessages messages;

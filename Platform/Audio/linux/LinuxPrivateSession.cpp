@@ -4,8 +4,8 @@
 
 #include "Platform/Audio/linux/ServerProbe.h"
 #include "Platform/Foundation/Bundle.h"
-#include "Platform/Foundation/linux/LinuxFoundation.h"
 #include "Platform/Foundation/Services.h"
+#include "Platform/Foundation/linux/LinuxFoundation.h"
 
 #include <algorithm>
 #include <cerrno>
