@@ -93,9 +93,10 @@ protected:
         if (number == 4)
             kind = QStringList{u"-ac"_s, u"2"_s, u"-ar"_s, u"96000"_s, u"-sample_fmt"_s, u"s32"_s};
         const ToolResult made = runTool(
-            u"ffmpeg"_s, QStringList{u"-v"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s,
-                                     u"sine=frequency=%1:sample_rate=44100:duration=%2"_s.arg(220 * (number + 1)).arg(kSeconds)} +
-                             kind + QStringList{sound(number)});
+            u"ffmpeg"_s,
+            QStringList{u"-v"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s,
+                        u"sine=frequency=%1:sample_rate=44100:duration=%2"_s.arg(220 * (number + 1)).arg(kSeconds)} +
+                kind + QStringList{sound(number)});
         ASSERT_EQ(made.status, 0) << made.errors.constData();
     }
     static bool xdotool(const QStringList& arguments) { return XvfbSession::current()->xdotool(arguments); }
@@ -128,7 +129,8 @@ protected:
     template <typename W>
     [[nodiscard]] static W* activeModal(const QString& name = {}) {
         auto* widget = qobject_cast<W*>(QApplication::activeModalWidget());
-        return widget && widget->isActiveWindow() && (name.isEmpty() || widget->objectName() == name) ? widget : nullptr;
+        return widget && widget->isActiveWindow() && (name.isEmpty() || widget->objectName() == name) ? widget
+                                                                                                      : nullptr;
     }
     [[nodiscard]] static QDialog* burnWindow() { return activeModal<QDialog>(u"CDBurnWnd"_s); }
     [[nodiscard]] static QDialog* sheet() { return activeModal<QDialog>(u"ProcessWnd"_s); }
@@ -152,7 +154,8 @@ protected:
             },
             [] {
                 QDialog* window = burnWindow();
-                if (!window || window->findChild<QComboBox*>(u"popDrives_"_s)->currentText() != u"Disc Image (CUE/BIN)"_s)
+                if (!window ||
+                    window->findChild<QComboBox*>(u"popDrives_"_s)->currentText() != u"Disc Image (CUE/BIN)"_s)
                     return false;
                 EXPECT_EQ(window->findChild<QLabel*>(u"lblSummary_"_s)->text(), u" 10 Items     Size: 325 MB"_s);
                 EXPECT_EQ(window->findChild<QLabel*>(u"lblState_"_s)->text(), u"Ready to burn"_s);
@@ -200,10 +203,11 @@ TEST_F(BurnsFromTheLibrary, TenRecordingsBecomeAnImage) {
     QList<Step> steps = burnInto(images() + u"/My disc.cue"_s);
     steps.append([&] {
         clock.start();
-        QObject::connect(sheet()->findChild<QProgressBar*>(u"progressBar_"_s), &QProgressBar::valueChanged, [&](int value) {
-            shown.append(value);
-            moments.append(clock.elapsed());
-        });
+        QObject::connect(sheet()->findChild<QProgressBar*>(u"progressBar_"_s), &QProgressBar::valueChanged,
+                         [&](int value) {
+                             shown.append(value);
+                             moments.append(clock.elapsed());
+                         });
         return true;
     });
     steps.append([] { return !QApplication::activeModalWidget(); }); // the sheet went, and took the window along
