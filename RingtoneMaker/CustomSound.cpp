@@ -41,6 +41,10 @@ void CustomSound::setVolume(float volume) {
         sound_->setVolume(volume);
 }
 
+double CustomSound::volumeDelay() const {
+    return sound_ ? sound_->volumeDelay() : 0;
+}
+
 bool CustomSound::isPlaying() const {
     return sound_ && sound_->isPlaying() && !pauseState_;
 }

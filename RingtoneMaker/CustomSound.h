@@ -17,6 +17,8 @@ public:
     void setCurrentTime(double seconds);
     [[nodiscard]] float volume() const;
     void setVolume(float volume);
+    /// Seconds of the file behind currentTime() at which a volume that is set now is reached.
+    [[nodiscard]] double volumeDelay() const;
     [[nodiscard]] bool isPlaying() const;
     [[nodiscard]] bool isPause() const;
     [[nodiscard]] bool isStop() const;

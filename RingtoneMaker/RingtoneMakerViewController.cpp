@@ -394,7 +394,9 @@ void RingtoneMakerViewController::updatePlaySoundVolume() {
     if (!sound_)
         return;
     const AudioWaveTrimView& selection = *ui_->audioWaveTrimView;
-    const double now = sound_->currentTime();
+    // The player reaches the volume a little later: it is the one of that moment. Otherwise each fade is heard late,
+    // which is most of a decibel where it is quiet.
+    const double now = sound_->currentTime() + sound_->volumeDelay();
     double gain = 1;
     const auto fade = [&gain](bool enabled, double length, double distance) {
         if (!enabled || length <= double(0.1F))

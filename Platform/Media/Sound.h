@@ -20,6 +20,8 @@ public:
     virtual void setCurrentTime(double seconds) = 0;
     [[nodiscard]] virtual float volume() const = 0;
     virtual void setVolume(float volume) = 0;
+    /// Seconds of the file behind currentTime() at which a volume that is set now is reached.
+    [[nodiscard]] virtual double volumeDelay() const { return 0; }
     [[nodiscard]] virtual bool isPlaying() const = 0;
     virtual bool play() = 0;
     virtual bool pause() = 0;

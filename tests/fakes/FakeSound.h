@@ -15,6 +15,7 @@ public:
     double seconds = 10;
     double time = 0;
     float gain = 1;
+    double delay = 0; ///< of the volume, in seconds
     bool playing = false;
     bool paused = false;
     bool playFails = false;
@@ -27,6 +28,7 @@ public:
     }
     float volume() const override { return gain; }
     void setVolume(float volume) override { gain = volume; }
+    double volumeDelay() const override { return delay; }
     bool isPlaying() const override { return playing; }
     bool play() override {
         calls.append(QStringLiteral("play"));

@@ -9,16 +9,18 @@
 #include "tests/Source/WndController/EditWorld.h"
 #include "tests/fakes/FakeSourceFiles.h"
 #include "tests/support/PrivateAudioSession.h"
+#include "tests/support/RealPointer.h"
 #include "tests/support/TestCapture.h"
 #include "tests/support/XvfbSession.h"
 
 #include <QApplication>
 #include <QProcess>
-#include <QTimer>
-#include <QWindow>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
+using RealPointer::drag;
+using RealPointer::onScreen;
+using RealPointer::shown;
 
 namespace {
 
@@ -28,43 +30,6 @@ protected:
     RealDrags() { Theme::install(*qApp, nullptr); }
 
     static XvfbSession& desktop() { return *XvfbSession::current(); }
-    [[nodiscard]] static bool shown(QWidget& window) {
-        return waitFor([&] { return window.windowHandle() && window.windowHandle()->isExposed(); }) &&
-               waitFor([&] { return window.isActiveWindow(); });
-    }
-    /// Drags from one place of the screen to another in steps, while this program's events go on, also those of a drag
-    /// of its own. The button is let go when @p ready says so; meanwhile the pointer trembles, as a hand does. With
-    /// @p cancel, Escape is pressed before.
-    [[nodiscard]] static bool drag(
-        QPoint from, QPoint to, const std::function<bool()>& ready = [] { return true; }, bool cancel = false) {
-        const auto at = [](QPoint place) {
-            return QStringList{u"mousemove"_s, QString::number(place.x()), QString::number(place.y())};
-        };
-        QStringList moves = at(from) + QStringList{u"sleep"_s, u"0.1"_s, u"mousedown"_s, u"1"_s};
-        constexpr int steps = 8;
-        for (int i = 1; i <= steps; ++i)
-            moves += QStringList{u"sleep"_s, u"0.05"_s} + at(from + (to - from) * i / steps);
-        QProcess pointer;
-        pointer.start(u"xdotool"_s, moves);
-        int turn = 0;
-        bool released = false;
-        QTimer hand;
-        QObject::connect(&hand, &QTimer::timeout, &hand, [&] {
-            if (released || pointer.state() != QProcess::NotRunning)
-                return;
-            if (!ready() && ++turn < 300) {
-                pointer.start(u"xdotool"_s, at(to + QPoint(turn % 2, 0)));
-                return;
-            }
-            released = true;
-            pointer.start(u"xdotool"_s,
-                          cancel ? QStringList{u"key"_s, u"Escape"_s, u"sleep"_s, u"0.2"_s, u"mouseup"_s, u"1"_s}
-                                 : QStringList{u"mouseup"_s, u"1"_s});
-        });
-        hand.start(40);
-        return waitFor([&] { return released && pointer.state() == QProcess::NotRunning; }, 60000) && turn < 300;
-    }
-    static QPoint onScreen(const QWidget& widget, QPointF place) { return widget.mapToGlobal(place.toPoint()); }
 
     EditWorld world;
 };

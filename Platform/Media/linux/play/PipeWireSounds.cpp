@@ -56,6 +56,9 @@ public:
         if (player_)
             player_->setVolume(volume_);
     }
+    double volumeDelay() const override {
+        return player_ && reader_ ? double(player_->volumeDelay()) / format_.mSampleRate : 0;
+    }
     bool isPlaying() const override { return player_ && !player_->ended() && !player_->lost(); }
     bool play() override {
         if (!reader_ || isPlaying())

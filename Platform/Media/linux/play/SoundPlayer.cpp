@@ -215,6 +215,7 @@ void SoundPlayer::seek(std::int64_t frame) {
 void SoundPlayer::processRt(float* interleaved, std::uint32_t frames) noexcept {
     const auto channels = format_.mChannelsPerFrame;
     const std::span out(interleaved, std::size_t(frames) * channels);
+    cycleFrames_.store(frames, std::memory_order_relaxed);
     if (paused_.load(std::memory_order_relaxed)) {
         std::fill(out.begin(), out.end(), 0.0F);
         return;

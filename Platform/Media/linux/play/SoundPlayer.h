@@ -27,6 +27,8 @@ public:
     [[nodiscard]] bool start(std::int64_t frame, QString& why);
     void setPaused(bool paused) { paused_.store(paused, std::memory_order_relaxed); }
     void setVolume(float volume) { volume_.store(volume, std::memory_order_relaxed); }
+    /// Frames until a volume that is set now is reached: one cycle of the server.
+    [[nodiscard]] std::uint32_t volumeDelay() const { return cycleFrames_.load(std::memory_order_relaxed); }
     void seek(std::int64_t frame);
     [[nodiscard]] std::int64_t position() const { return ring_.position(); }
     /// Whether the last frame was heard, its way through the server included.
@@ -48,6 +50,7 @@ private:
     std::atomic<bool> ended_{false};
     std::atomic<bool> lost_{false};
     std::atomic<std::uint64_t> lateFrames_{0};
+    std::atomic<std::uint32_t> cycleFrames_{0};
     float heardVolume_ = -1; ///< audio thread; below 0 before the first cycle
     int silentCycles_ = 0;   ///< audio thread; since the last frame
 

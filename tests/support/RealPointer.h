@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "tests/support/WaitFor.h"
+
+#include <QPoint>
+#include <QProcess>
+#include <QTimer>
+#include <QWidget>
+#include <QWindow>
+#include <functional>
+
+/// The pointer of the X server in tests with a display (XvfbSession). This program's events go on while xdotool runs.
+namespace RealPointer {
+
+/// Whether the window manager shows @p window and has made it the active one.
+[[nodiscard]] inline bool shown(QWidget& window) {
+    return waitFor([&] { return window.windowHandle() && window.windowHandle()->isExposed(); }) &&
+           waitFor([&] { return window.isActiveWindow(); });
+}
+
+/// A place of @p widget on the screen.
+[[nodiscard]] inline QPoint onScreen(const QWidget& widget, QPointF place) {
+    return widget.mapToGlobal(place.toPoint());
+}
+
+/// The words of xdotool that move the pointer there.
+[[nodiscard]] inline QStringList moveTo(QPoint place) {
+    return {QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y())};
+}
+
+/// Runs xdotool with @p words.
+[[nodiscard]] inline bool run(const QStringList& words) {
+    QProcess pointer;
+    pointer.start(QStringLiteral("xdotool"), words);
+    return waitFor([&] { return pointer.state() == QProcess::NotRunning; }, 60000) && pointer.exitCode() == 0;
+}
+
+/// The words that press the left button at @p from and move in steps to @p to. The button stays down.
+[[nodiscard]] inline QStringList pressWords(QPoint from, QPoint to) {
+    using namespace Qt::StringLiterals;
+    QStringList words = moveTo(from) + QStringList{u"sleep"_s, u"0.1"_s, u"mousedown"_s, u"1"_s};
+    constexpr int steps = 8;
+    for (int i = 1; i <= steps; ++i)
+        words += QStringList{u"sleep"_s, u"0.05"_s} + moveTo(from + (to - from) * i / steps);
+    return words;
+}
+
+/// Drags from one place of the screen to another in steps, while this program's events go on, also those of a drag's own
+/// event loop, in which this function does not return before the button is let go. That happens when @p ready says so;
+/// meanwhile the pointer trembles, as a hand does. With @p cancel, Escape is pressed before.
+[[nodiscard]] inline bool drag(
+    QPoint from, QPoint to, const std::function<bool()>& ready = [] { return true; }, bool cancel = false) {
+    using namespace Qt::StringLiterals;
+    QProcess pointer;
+    pointer.start(u"xdotool"_s, pressWords(from, to));
+    int turn = 0;
+    bool released = false;
+    QTimer hand;
+    QObject::connect(&hand, &QTimer::timeout, &hand, [&] {
+        if (released || pointer.state() != QProcess::NotRunning)
+            return;
+        if (!ready() && ++turn < 300) {
+            pointer.start(u"xdotool"_s, moveTo(to + QPoint(turn % 2, 0)));
+            return;
+        }
+        released = true;
+        pointer.start(u"xdotool"_s, cancel
+                                        ? QStringList{u"key"_s, u"Escape"_s, u"sleep"_s, u"0.2"_s, u"mouseup"_s, u"1"_s}
+                                        : QStringList{u"mouseup"_s, u"1"_s});
+    });
+    hand.start(40);
+    return waitFor([&] { return released && pointer.state() == QProcess::NotRunning; }, 60000) && turn < 300;
+}
+
+} // namespace RealPointer
