@@ -134,10 +134,8 @@ TEST_F(RingtoneMakerOnADesktop, ADragOnTheOutlineDrawsASelectionOfAnyLength) {
 TEST_F(RingtoneMakerOnADesktop, APressWithoutAMoveChangesNothing) {
     withWindow(200, [this] {
         select(10, 30);
-        const QList<std::pair<QWidget*, QPoint>> places{{&wave(), at(60)},
-                                                        {&selection(), leftHandle()},
-                                                        {&selection(), middle()},
-                                                        {&selection(), rightHandle()}};
+        const QList<std::pair<QWidget*, QPoint>> places{
+            {&wave(), at(60)}, {&selection(), leftHandle()}, {&selection(), middle()}, {&selection(), rightHandle()}};
         for (const auto& [view, place] : places) {
             Buttons buttons(*view);
             ASSERT_TRUE(RealPointer::run(RealPointer::moveTo(place) + QStringList{u"click"_s, u"1"_s}));

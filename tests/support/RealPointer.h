@@ -47,9 +47,9 @@ namespace RealPointer {
     return words;
 }
 
-/// Drags from one place of the screen to another in steps, while this program's events go on, also those of a drag's own
-/// event loop, in which this function does not return before the button is let go. That happens when @p ready says so;
-/// meanwhile the pointer trembles, as a hand does. With @p cancel, Escape is pressed before.
+/// Drags from one place of the screen to another in steps, while this program's events go on, also those of a drag's
+/// own event loop, in which this function does not return before the button is let go. That happens when @p ready says
+/// so; meanwhile the pointer trembles, as a hand does. With @p cancel, Escape is pressed before.
 [[nodiscard]] inline bool drag(
     QPoint from, QPoint to, const std::function<bool()>& ready = [] { return true; }, bool cancel = false) {
     using namespace Qt::StringLiterals;
