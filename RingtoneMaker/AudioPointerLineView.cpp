@@ -47,6 +47,7 @@ QString AudioPointerLineView::spokenValue() const {
 
 RingtoneMakerBackgroundView::RingtoneMakerBackgroundView(QWidget* parent) : QWidget(parent) {
     setFocusPolicy(Qt::ClickFocus);
+    setAccessibleName(tr("Ringtone"));
 }
 
 void RingtoneMakerBackgroundView::paintEvent(QPaintEvent*) {

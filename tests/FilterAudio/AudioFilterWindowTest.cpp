@@ -5,6 +5,7 @@
 #include "Source/View/EditDialog.h"
 #include "Source/View/Theme.h"
 #include "tests/Source/WndController/LibraryWorld.h"
+#include "tests/support/ScreenReader.h"
 #include "tests/support/Screenshot.h"
 
 #include <QAbstractItemModelTester>
@@ -199,6 +200,7 @@ TEST_F(AudioFilterWindow, TellsAScreenReaderEachPart) {
         auto* const spoken = QAccessible::queryAccessibleInterface(&outlet(each));
         EXPECT_FALSE(spoken->text(QAccessible::Name).isEmpty()) << each;
     }
+    EXPECT_EQ(ScreenReader::namelessControls(*filter.window()), "");
     EXPECT_EQ(model().index(0, FilteredAudioModel::Tick).data(Qt::AccessibleTextRole).toString(), u"a"_s);
 }
 

@@ -8,12 +8,11 @@
 #include "tests/Source/Control/EditFixture.h"
 #include "tests/support/ChildProcess.h"
 #include "tests/support/DiskCalls.h"
+#include "tests/support/FullDisk.h"
 
 #include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QThread>
-#include <csignal>
-#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -41,26 +40,6 @@ protected:
 // Suites of their own: each takes its time.
 class TrimSaveOnAFullDisk : public TrimSave {};
 class TrimSaveWithKills : public TrimSave {};
-
-/// No file of this process, and of those that it starts, may become larger.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit tight{bytes, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &tight);
-    }
-    ~FullDisk() {
-        setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, handler_);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit before_{};
-    void (*handler_)(int);
-};
 
 } // namespace
 
