@@ -4,18 +4,12 @@
 # A disc of 79:59 written as an image, from one AAC file and from ten, beside ffmpeg decoding the same files to the same
 # samples. ROUNDS sets how often each runs; the better run counts.
 set -euo pipefail
+. "${LIB:?run this through scripts/bench}/bench.sh"
 
 work=${SCRATCH:?}/disc
 ours=$BUILD/bin/sonaphex
 mkdir -p "$work"
 cd "$work"
-
-# Runs a command; sets wall (seconds) and memory (MiB at its peak).
-measure() {
-    /usr/bin/time -o figures -f "%e %M" "$@" >/dev/null 2>errors || { cat errors >&2; return 1; }
-    read -r wall kib < <(tail -1 figures)
-    memory=$((kib / 1024))
-}
 
 ffmpeg -v error -f lavfi -i "aevalsrc='0.2*sin(2*PI*(220+60*sin(2*PI*0.3*t))*t)|0.2*sin(2*PI*330*t)':s=44100:d=60" \
     -f lavfi -i "anoisesrc=color=pink:a=0.08:d=60:r=44100" -filter_complex "[0][1]amix=inputs=2:normalize=0" \
@@ -36,24 +30,28 @@ decodeAll() {
 export -f decodeAll
 
 compare() {
-    local name=$1 best=999999 peer=999999 ourMemory=0 base
+    local name=$1 best=999999 peer=999999 ourMemory=0 base ourFrames peerFrames
     shift
-    measure "$ours" --version
+    timed "$ours" --version
     base=$memory
     for ((i = 0; i < ${ROUNDS:-3}; ++i)); do
         rm -f disc.cue disc.bin
-        measure "$ours" burn "$@" --image disc
+        timed "$ours" burn "$@" --image disc
         best=$(awk "BEGIN { print (($wall < $best) ? $wall : $best) }")
-        ourMemory=$((memory > ourMemory ? memory : ourMemory))
+        ourMemory=$(awk "BEGIN { print (($memory > $ourMemory) ? $memory : $ourMemory) }")
         rm -f -- *.raw
-        measure bash -c 'decodeAll "$@"' decode "$@"
+        timed bash -c 'decodeAll "$@"' decode "$@"
         peer=$(awk "BEGIN { print (($wall < $peer) ? $wall : $peer) }")
     done
-    awk -v name="$name" -v ours="$best" -v peer="$peer" \
-        'BEGIN { printf "image of 79:59 from %s, wall time: ours %s s, peer %s s, ratio %.2f (aim 0.6)\n", name, ours, peer, ours / peer }'
-    printf 'image of 79:59 from %s, peak memory: ours %d MiB, idle %d MiB, more %d MiB (aim 64)\n' \
-        "$name" "$ourMemory" "$base" "$((ourMemory - base))"
+    # Four bytes a frame; each track begins with 75 sectors of 588 frames of silence and fills its last sector.
+    ourFrames=$(($(stat -c %s disc.bin) / 4 - $# * 75 * 588))
+    peerFrames=$(($(cat -- *.raw | wc -c) / 4))
+    equal "frames of $name" "$ourFrames" "$peerFrames" $(($# * 2048))
+    report "image of 79:59 from $name, wall time" "$best" "$peer" s 0.6
+    report "image of 79:59 from $name, memory beyond an idle program" \
+        "$(awk "BEGIN { printf \"%.0f\", $ourMemory - $base }")" - MiB 64
 }
 
+not_equal "the image is synced to the disk and dithered where bits are taken away; ffmpeg's files are neither"
 compare "one file" long.m4a
 compare "ten files" "${parts[@]}"

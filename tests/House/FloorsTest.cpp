@@ -116,7 +116,7 @@ TEST(Floors, AreSortedAsTheBuildSortsThem) {
     EXPECT_EQ(floorOf(u"Source/CDBurn/BurnControl.cpp"_s), Core);
     EXPECT_EQ(floorOf(u"Source/CDBurn/AudioDataSourceView.cpp"_s), Windows);
     EXPECT_EQ(floorOf(u"Source/View/Theme.cpp"_s), Windows);
-    EXPECT_EQ(floorOf(u"RingtoneMaker/RingtoneMakerController.h"_s), Windows);
+    EXPECT_EQ(floorOf(u"RingtoneMaker/RingtoneMakerViewController.h"_s), Windows);
     EXPECT_EQ(floorOf(u"RingtoneMaker/CustomSound.h"_s), Core);
     EXPECT_EQ(floorOf(u"CommandLine/CommandLine.h"_s), Program);
     EXPECT_EQ(floorOf(u"main.cpp"_s), Program);

@@ -208,6 +208,10 @@ void SignalSource::Connection::onStateChanged(pw_stream_state state, const char*
 }
 
 void SignalSource::Connection::armTimerRt(std::uint64_t nsec) {
+    // pw_stream_trigger_process() runs the work that other threads have queued for this one, inside our own callback.
+    // The end of the connection is such work: it destroys the timer.
+    if (!timer.get())
+        return;
     timespec when = {};
     when.tv_sec = time_t(nsec / SPA_NSEC_PER_SEC);
     when.tv_nsec = long(nsec % SPA_NSEC_PER_SEC);
