@@ -77,3 +77,9 @@ report "waveform of an AAC file, wall time" "$ourWall" "$peerWall" s 0.3
 must "$ours" waveform our.m4a
 holds "ten values a second" test "$(wc -l <"$SCRATCH/output")" -ge $((minutes * 600 - 1))
 not_equal "the peer decodes every packet and makes no values; ours decodes what its values need"
+
+# The ringtone maker's outline, when the file's pages are in memory: the middle of five runs.
+outline() { for _ in 1 2 3 4 5; do must "$BUILD/bin/bench_outline" our.m4a; cat "$SCRATCH/output"; done; }
+outlines=$(outline)
+report "outline of an AAC file in the window, first part" "$(sort -n <<<"$outlines" | sed -n 3p | cut -d ' ' -f 1)" - ms 200
+report "outline of an AAC file in the window, whole" "$(sort -n -k 2 <<<"$outlines" | sed -n 3p | cut -d ' ' -f 2)" - ms 1500
