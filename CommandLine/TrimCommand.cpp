@@ -27,6 +27,8 @@ using namespace Qt::StringLiterals;
 namespace CommandLine {
 namespace {
 
+constexpr double kRounding = 0.001; ///< seconds: a length that a person copied from a printed one
+
 /// Whether the running window plays the file.
 bool isPlayed(const QString& path) {
     const auto answer = askWindow("playing");
@@ -47,6 +49,9 @@ int trim(const QString& source, double from, double to, const QString& saveAs, b
     if (from >= info.seconds)
         return fail(u"%1: it ends at second %2, there is nothing from second %3 on"_s.arg(
             source, QString::number(info.seconds), QString::number(from)));
+    if (to > info.seconds + kRounding)
+        return fail(
+            u"%1: it ends at second %2, --to is %3"_s.arg(source, QString::number(info.seconds), QString::number(to)));
     if (to <= 0 || to > info.seconds)
         to = info.seconds;
 
@@ -59,6 +64,8 @@ int trim(const QString& source, double from, double to, const QString& saveAs, b
     task.entry = FileTags::texts(source);
     if (!task.replace && (QFileInfo::exists(task.exportPath) || QFileInfo(task.exportPath).isSymLink()))
         return fail(u"%1: This path exists, please change the path or name."_s.arg(task.exportPath));
+    if (const QString into = QFileInfo(task.exportPath).path(); !QFileInfo(into).isDir())
+        return fail(u"%1: there is no such folder"_s.arg(into));
     if (task.replace && isPlayed(source))
         return fail(u"%1: the file is being played"_s.arg(source));
 

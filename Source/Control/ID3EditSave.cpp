@@ -9,6 +9,7 @@
 #include "Source/Model/AudioRecordEntry.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -25,6 +26,12 @@ QString text(const Dictionary& entry, const QString& key) {
 
 QString sentence(const char* words, const QString& path) {
     return QCoreApplication::translate("ID3EditSave", words).replace(u"%1"_s, QFileInfo(path).fileName());
+}
+
+/// Whether the recording has the picture of a file as its cover, byte for byte.
+bool hasPicture(const QString& path, const QString& picture) {
+    QFile file(picture);
+    return file.open(QIODevice::ReadOnly) && FileTags::artwork(path) == file.readAll();
 }
 
 } // namespace
@@ -54,11 +61,17 @@ Result save(const Dictionary& before, const Dictionary& edited, const Artwork& a
         picture = own = FileTags::artworkFile(path);
     // Cover and texts are changed in place, and the name comes last: the recording never leaves its folder.
     ID3ChangeControl::changeID3Artwork(path, path, artwork.kind == Artwork::Kind::Default ? QString() : picture);
-    (void)ID3ChangeControl::changeID3Info(path, edited);
     if (!own.isEmpty())
         (void)Platform::FileManager::removeFile(own);
+    if (artwork.kind == Artwork::Kind::Set && !hasPicture(path, artwork.path)) {
+        // The disk is full, for one. Nothing is changed yet, and the user can try again.
+        result.notice = sentence(QT_TRANSLATE_NOOP("ID3EditSave", "The cover of “%1” could not be written."), path);
+        note->end();
+        return result;
+    }
 
     QString why;
+    (void)ID3ChangeControl::changeID3Info(path, edited);
     if (!FileTags::agree(path, edited, &why)) {
         result.notice = sentence(QT_TRANSLATE_NOOP("ID3EditSave", "The tags of “%1” could not be written"), path) +
                         (why.isEmpty() ? u"."_s : u": "_s + why);

@@ -54,6 +54,8 @@ AudioTrimWndController::~AudioTrimWndController() {
 
 void AudioTrimWndController::awakeFromNib() {
     ui_->audioTrimEditView_->setDelegate(this);
+    ui_->rangeTimesView_->setUp(ui_->audioTrimEditView_, ui_->lblLeftTrimTime_, ui_->lblTrimAudiolength_,
+                                ui_->lblRightTrimTime_);
     ui_->lblEditAudioName_->setMargin(0);
     using Self = AudioTrimWndController;
     connect(ui_->btnPlay_, &QPushButton::clicked, this, &Self::togglePlayAudio);
@@ -210,6 +212,7 @@ void AudioTrimWndController::showRange() {
     ui_->lblLeftTrimTime_->setText(time(left));
     ui_->lblRightTrimTime_->setText(time(right));
     ui_->lblTrimAudiolength_->setText(time(right - left));
+    ui_->rangeTimesView_->place();
     const bool longEnough = double(right - left) * duration() >= AudioTrimSave::kShortestRange;
     for (QPushButton* button : {ui_->btnSave_, ui_->btnSaveAs_}) {
         button->setEnabled(longEnough);

@@ -1,9 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Foundation/linux/PropertyListDefaults.h"
 #include "Platform/Media/BasicID3Change.h"
+#include "Source/Model/AudioRecordEntry.h"
+#include "Source/Model/MediaLibraryStore.h"
+#include "Source/Preferences/PreferenceStore.h"
+#include "tests/support/Environment.h"
 #include "tests/support/Mpeg4Files.h"
 
 #include <QDir>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -22,6 +28,43 @@ protected:
     static QJsonObject json(const ToolResult& result) { return QJsonDocument::fromJson(result.output).object(); }
 
     QTemporaryDir folder_;
+};
+
+/// With a library of its own that lists the file.
+class TagRename : public TagCommand {
+protected:
+    TagRename() {
+        for (const char* name : {"XDG_CONFIG_HOME", "XDG_RUNTIME_DIR", "XDG_DATA_HOME", "XDG_CACHE_HOME", "HOME"})
+            environment_.push_back(std::make_unique<EnvironmentScope>(name, home_.path().toUtf8()));
+        const auto defaults = Platform::createUserDefaults(identifier());
+        const Dictionary entry{{AudioRecordEntry::NodeDataKey, u"the key"_s},
+                               {AudioRecordEntry::SavePath, path()},
+                               {AudioRecordEntry::Title, u"a"_s},
+                               {AudioRecordEntry::Length, 3.0}};
+        defaults->setObject(PreferenceStore::kMediaLibrarySavedKey, MediaLibraryStore::value({entry}, {}));
+        EXPECT_TRUE(defaults->flush());
+    }
+    static QString identifier() { return u"com.korvane.Sonaphex"_s; }
+    static QJsonObject listed() {
+        const auto told = runTool(QStringLiteral(SONAPHEX_PROGRAM), {u"library"_s, u"--json"_s});
+        return QJsonDocument::fromJson(told.output)[u"records"_s].toArray().at(0).toObject();
+    }
+    [[nodiscard]] QStringList files() const {
+        return QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
+    }
+    /// Notes about unfinished edits.
+    [[nodiscard]] QStringList notes() const {
+        return QDir(home_.filePath(identifier() + u"/Edits"_s)).entryList(QDir::Files);
+    }
+    static void expectKept(const ToolResult& result, const QByteArray& why) {
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(result.errors.count('\n'), 1) << result.errors.constData();
+        EXPECT_TRUE(result.errors.startsWith("sonaphex: The file keeps its name ")) << result.errors.constData();
+        EXPECT_TRUE(result.errors.contains(why)) << result.errors.constData();
+    }
+
+    QTemporaryDir home_;
+    std::vector<std::unique_ptr<EnvironmentScope>> environment_;
 };
 
 } // namespace
@@ -79,4 +122,74 @@ TEST_F(TagCommand, RefusesWrongUsageWithTheRightOne) {
         EXPECT_EQ(result.status, 2);
         EXPECT_TRUE(result.errors.contains("usage: sonaphex tag FILE")) << result.errors.constData();
     }
+}
+
+TEST_F(TagRename, NamesTheFileAfterItsTitleAndTheEntryFollows) {
+    const QByteArray sound = Mpeg4Files::audioOf(path());
+    const ToolResult result = tag({path(), u"--title"_s, u"Morning"_s, u"--rename"_s});
+    EXPECT_EQ(result.status, 0) << result.errors.constData();
+    EXPECT_TRUE(result.output.isEmpty());
+    EXPECT_EQ(files(), QStringList{u"Morning.m4a"_s});
+    EXPECT_EQ(Mpeg4Files::audioOf(path(u"Morning.m4a"_s)), sound);
+    EXPECT_EQ(listed()[u"path"_s].toString(), path(u"Morning.m4a"_s));
+    EXPECT_EQ(listed()[u"title"_s].toString(), u"Morning"_s);
+    EXPECT_EQ(listed()[u"seconds"_s].toDouble(), 3);
+    EXPECT_TRUE(notes().isEmpty());
+}
+
+TEST_F(TagRename, TakesTheTitleThatTheFileHasAndLeavesAFileOfThatNameAlone) {
+    ASSERT_EQ(tag({path(), u"--title"_s, u"Rain"_s}).status, 0);
+    EXPECT_EQ(files(), QStringList{u"a.m4a"_s});
+    EXPECT_EQ(json(tag({path(), u"--rename"_s, u"--json"_s}))[u"title"_s], u"Rain"_s);
+    EXPECT_EQ(files(), QStringList{u"Rain.m4a"_s});
+    EXPECT_EQ(listed()[u"path"_s].toString(), path(u"Rain.m4a"_s));
+    EXPECT_EQ(tag({path(u"Rain.m4a"_s), u"--rename"_s}).status, 0);
+    EXPECT_EQ(files(), QStringList{u"Rain.m4a"_s});
+}
+
+TEST_F(TagRename, AgreesInFileTagsAndEntryWhateverTheTitleIs) {
+    QString now = path();
+    for (const QString& title :
+         {u"$(touch x) `id` \"$HOME\""_s, u"%s%n%1%%"_s, u"a\\b'c;d&e|f>g"_s, u"..."_s, u".hidden"_s, u"~"_s,
+          u"*?[a]"_s, u"שלום عليكم"_s, u"😀"_s, QString(83, u'漢'), u"back"_s}) {
+        const ToolResult result = tag({now, u"--title"_s, title, u"--rename"_s});
+        EXPECT_EQ(result.status, 0) << result.errors.constData();
+        now = path(title + u".m4a"_s);
+        EXPECT_EQ(files(), QStringList{title + u".m4a"_s});
+        EXPECT_EQ(Mpeg4Files::probe(now)[u"title"_s].toString(), title);
+        EXPECT_EQ(listed()[u"path"_s].toString(), now);
+        EXPECT_EQ(listed()[u"title"_s].toString(), title);
+    }
+    EXPECT_TRUE(notes().isEmpty());
+}
+
+TEST_F(TagRename, KeepsTheNameWhereTheTitleCanBeNone) {
+    const QByteArray sound = Mpeg4Files::audioOf(path());
+    for (const auto& [title, why] : {std::pair<QString, QByteArray>{u"AC/DC"_s, "cannot contain"},
+                                     {u"../a"_s, "cannot contain"},
+                                     {u"/tmp/x"_s, "cannot contain"},
+                                     {u""_s, "the title is empty"},
+                                     {QString(300, u'漢'), "longer than a file name"},
+                                     {QString(252, u'x'), "longer than a file name"}}) {
+        expectKept(tag({path(), u"--title"_s, title, u"--rename"_s}), why);
+        EXPECT_EQ(files(), QStringList{u"a.m4a"_s});
+        EXPECT_EQ(json(tag({path(), u"--json"_s}))[u"title"_s].toString(), title) << "the tag is written all the same";
+        EXPECT_EQ(listed()[u"path"_s].toString(), path());
+        EXPECT_EQ(listed()[u"title"_s].toString(), title);
+    }
+    EXPECT_EQ(Mpeg4Files::audioOf(path()), sound);
+    EXPECT_TRUE(notes().isEmpty());
+}
+
+TEST_F(TagRename, NeverTakesTheNameOfAnotherFile) {
+    ASSERT_TRUE(Mpeg4Files::write(path(u"Taken.m4a"_s), "another"));
+    ASSERT_TRUE(QFile::link(u"/nowhere/at/all"_s, path(u"Link.m4a"_s)));
+    for (const QString& title : {u"Taken"_s, u"Link"_s}) {
+        expectKept(tag({path(), u"--title"_s, title, u"--rename"_s}), "there is already a file named");
+        EXPECT_EQ(Mpeg4Files::probe(path())[u"title"_s].toString(), title);
+        EXPECT_EQ(listed()[u"path"_s].toString(), path());
+    }
+    EXPECT_EQ(files(), (QStringList{u"Link.m4a"_s, u"Taken.m4a"_s, u"a.m4a"_s}));
+    EXPECT_EQ(Mpeg4Files::contentOf(path(u"Taken.m4a"_s)), "another");
+    EXPECT_TRUE(notes().isEmpty());
 }

@@ -6,6 +6,7 @@
 #include "Source/Control/ID3ChangeControl.h"
 #include "tests/Source/Control/EditFixture.h"
 #include "tests/support/ChildProcess.h"
+#include "tests/support/FullDisk.h"
 
 #include <QRandomGenerator>
 #include <QRegularExpression>
@@ -29,7 +30,8 @@ protected:
     }
 };
 
-class TagSaveWithKills : public TagSave {}; // a suite of its own: it takes its time
+class TagSaveOnAFullDisk : public TagSave {};
+class TagSaveWithKills : public TagSave {}; // suites of their own: each takes its time
 
 } // namespace
 
@@ -114,6 +116,47 @@ TEST_F(TagSave, LeavesAFileAloneThatTakesNoTags) {
     EXPECT_EQ(Mpeg4Files::contentOf(path), "no audio at all");
     EXPECT_EQ(files(), QStringList{u"odd.m4a"_s});
     EXPECT_TRUE(notes().isEmpty());
+}
+
+TEST_F(TagSaveOnAFullDisk, KeepsTheRecordingWhereverTheRoomEnds) {
+    const Dictionary before = recording(u"Track0"_s, 5);
+    const QString path = at(u"Track0.m4a"_s);
+    const QByteArray whole = Mpeg4Files::contentOf(path);
+    const QByteArray sound = Mpeg4Files::audioOf(path);
+    const QString picture = cover();
+    const auto needed = rlim_t(whole.size() + QFileInfo(picture).size());
+    Dictionary edited = retitled(before, QString(80, u'漢'));
+    edited.insert(AudioRecordEntry::Album, QString(3000, u'b'));
+    int saved = 0;
+    int refused = 0;
+    for (rlim_t room = 0; room <= 4 * needed; room += needed / 8) {
+        ID3EditSave::Result result;
+        {
+            const FullDisk full(room);
+            result = ID3EditSave::save(before, edited, {Kind::Set, picture});
+        }
+        const QString now = result.entry.value(AudioRecordEntry::SavePath).toString();
+        EXPECT_EQ(files(), QStringList{QFileInfo(now).fileName()}) << room;
+        EXPECT_EQ(Mpeg4Files::audioOf(now), sound) << room;
+        // All of the edit or an explanation; what the entry says is what the file has.
+        EXPECT_TRUE(FileTags::agree(now, result.entry)) << room;
+        if (result.notice.isEmpty()) {
+            ++saved;
+            EXPECT_EQ(result.entry.value(AudioRecordEntry::Title), edited.value(AudioRecordEntry::Title));
+            EXPECT_EQ(FileTags::artwork(now), Mpeg4Files::contentOf(picture)) << room;
+            if (result.note)
+                result.note->end();
+            ASSERT_TRUE(QFile::remove(now));
+        } else {
+            ++refused;
+            EXPECT_EQ(result.notice.count(u'\n'), 0);
+            EXPECT_EQ(result.entry, before) << room;
+        }
+        EXPECT_TRUE(notes().isEmpty()) << room;
+        ASSERT_TRUE(Mpeg4Files::write(path, whole));
+    }
+    EXPECT_GT(saved, 0);
+    EXPECT_GT(refused, 4);
 }
 
 TEST_F(TagSaveWithKills, LosesNothingAtAnyMoment) {

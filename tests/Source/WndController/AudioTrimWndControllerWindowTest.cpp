@@ -81,6 +81,38 @@ TEST_F(TrimWindow, ShowsARecordingAsAWhole) {
         }
 }
 
+TEST_F(TrimWindow, ShowsTheTimesUnderTheirHandles) {
+    open(world.recording(u"One"_s, 3), 100);
+    const auto place = [this](const char* name) {
+        auto* const found = trim.window()->findChild<TabularLabel*>(QString::fromLatin1(name));
+        return QRect(found->mapTo(trim.window(), QPoint()), found->size());
+    };
+    const auto handle = [this](const QRectF& rect) { return bar().mapTo(trim.window(), rect.center().toPoint()).x(); };
+    for (const QSize& size : {QSize(720, 320), QSize(560, 300), QSize(1200, 400)}) {
+        trim.window()->resize(size);
+        ASSERT_TRUE(waitFor([&] { return trim.window()->size() == size && bar().width() == size.width() - 32; }));
+        for (const auto& [left, right] :
+             {std::pair{0.0F, 1.0F}, {0.25F, 0.75F}, {0.4F, 0.45F}, {0.0F, 0.0F}, {1.0F, 1.0F}, {0.95F, 1.0F}}) {
+            trim.setLeftTrim(0);
+            trim.setRightTrim(right);
+            trim.setLeftTrim(left);
+            const QRect begin = place("lblLeftTrimTime_");
+            const QRect length = place("lblTrimAudiolength_");
+            const QRect end = place("lblRightTrimTime_");
+            EXPECT_GE(begin.left(), 16);
+            EXPECT_LT(begin.right(), length.left());
+            EXPECT_LT(length.right(), end.left());
+            EXPECT_LE(end.right(), size.width() - 16);
+            EXPECT_GT(begin.top(), bar().mapTo(trim.window(), QPoint(0, bar().height() - 1)).y());
+            if (left == 0.25F) { // room enough: each in the middle under its handle
+                EXPECT_NEAR(begin.center().x(), handle(bar().leftHandleRect()), 2);
+                EXPECT_NEAR(end.center().x(), handle(bar().rightHandleRect()), 2);
+                EXPECT_NEAR(length.center().x(), (begin.center().x() + end.center().x()) / 2, 2);
+            }
+        }
+    }
+}
+
 TEST_F(TrimWindow, PlaysAndPausesByButtonAndSpace) {
     open(world.recording(u"One"_s, 3), 100);
     click("btnPlay_");
