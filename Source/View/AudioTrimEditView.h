@@ -42,6 +42,7 @@ public:
     void setDuration(double seconds);
     /// The outline to draw; see AudioOutline.
     void setOutline(const QList<float>& values);
+    [[nodiscard]] const QList<float>& outline() const { return outline_; }
     /// Which handle the keys move.
     void setLastHandle(DragType handle);
     [[nodiscard]] DragType lastHandle() const { return lastHandle_; }

@@ -63,13 +63,13 @@ protected:
 TEST_F(EditPictures, TheTrimWindow) {
     const Dictionary entry = world.recording(u"Interview with Ada, part 1"_s, 3);
     world.sounds.lengths[entry.value(AudioRecordEntry::SavePath).toString()] = 754;
-    Platform::services().mediaFiles = nullptr; // the outline below stands for the file's
     AudioTrimWndController trim;
     trim.setTrimAudioSourceData(entry);
     trim.window()->resize(720, 320);
     ToolControl::showWindowNib(trim);
     auto& bar = *trim.window()->findChild<AudioTrimEditView*>();
-    bar.setOutline(speech(7540));
+    ASSERT_TRUE(waitFor([&] { return !bar.outline().isEmpty(); }));
+    bar.setOutline(speech(7540)); // stands for the file's tone, which is loaded now and comes no more
     take(*trim.window(), u"trim-opened"_s);
     trim.setLeftTrim(0.22F);
     trim.setRightTrim(0.71F);
