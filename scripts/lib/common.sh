@@ -12,10 +12,10 @@ apt_run="pipewire pipewire-bin wireplumber libspa-0.2-modules libqt6svg6 qt6-ima
   fonts-droid-fallback file findutils xdg-utils"
 apt_test="libgtest-dev libgmock-dev xvfb xauth x11-utils x11-xkb-utils dbus dbus-daemon xdotool openbox trayer ffmpeg faad
   mediainfo atomicparsley sox libsox-fmt-all gstreamer1.0-tools gstreamer1.0-plugins-base gstreamer1.0-plugins-good
-  gstreamer1.0-plugins-bad gstreamer1.0-libav pipewire-pulse procps libcdio-utils bchunk groff-base zsh fish"
+  gstreamer1.0-plugins-bad gstreamer1.0-libav pipewire-pulse procps libcdio-utils bchunk groff-base zsh fish time"
 apt_package="debhelper dpkg-dev lintian appstream desktop-file-utils git"
 apt_check="clang-format clang-tidy git"
-apt_bench="$apt_test time qmmp"
+apt_bench="$apt_test qmmp"
 
 dnf_build="cmake ninja-build gcc-c++ ccache pkgconf qt6-qtbase-devel qt6-qtsvg-devel pipewire-devel ffmpeg-free-devel
   taglib-devel libplist-devel libxcb-devel xcb-util-keysyms-devel libburn-devel systemd-devel"
