@@ -271,9 +271,11 @@ TEST_F(TagLayouts, WithACoverOf200GigabytesTakeNoMemory) {
     const QString image = path(u"cover.png"_s);
     ASSERT_TRUE(Mpeg4Files::noise(20).save(image));
     ChildProcess child([&] {
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__) // their own tables are larger than this limit
         const rlimit limit{rlim_t(1) << 30, rlim_t(1) << 30};
         if (::setrlimit(RLIMIT_AS, &limit) != 0)
             return 1;
+#endif
         const auto tags = BasicID3Change::read(path());
         if (!tags || tags->title != u"Title"_s || !tags->artwork.isEmpty())
             return 2;
