@@ -4,6 +4,7 @@
 
 #include <csignal>
 #include <functional>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -30,9 +31,15 @@ public:
         (void)wait();
     }
     /// kill() for it and the programs that it started, after it made itself the leader of a group.
+    /// Returns when all of them are gone: a program that had just been forked still holds the locks of its parent.
     void killGroup() {
-        ::kill(-pid_, SIGKILL);
+        const pid_t group = pid_;
+        ::prctl(PR_SET_CHILD_SUBREAPER, 1); // what the dead process started becomes a child of this one
+        ::kill(-group, SIGKILL);
         (void)wait();
+        while (::waitpid(-group, nullptr, 0) > 0) {
+        }
+        ::prctl(PR_SET_CHILD_SUBREAPER, 0);
     }
     /// The exit status, -1 when a signal ended it.
     [[nodiscard]] int wait() {
