@@ -308,8 +308,8 @@ void KeybordShortcutTextView::finishCapture() {
     saveCapture();
 }
 
-// The desktop answers some time after the combination was typed. One that was loaded stays: another program may have
-// taken it for now.
+// The desktop answers some time after the combination was typed. One that was loaded stays: another program may hold
+// it and give it back later.
 void KeybordShortcutTextView::combinationRefused() {
     if (!captured_)
         return;
