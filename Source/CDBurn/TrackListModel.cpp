@@ -20,7 +20,7 @@ const QString kTime = QStringLiteral("Time");
 void tidy(QList<int>& rows, qsizetype count) {
     rows.removeIf([count](int row) { return row < 0 || row >= count; });
     std::ranges::sort(rows);
-    rows.erase(std::ranges::unique(rows).begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
 }
 
 } // namespace

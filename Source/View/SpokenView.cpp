@@ -3,6 +3,7 @@
 #include "Source/View/SpokenView.h"
 
 #include <QAccessibleWidget>
+#include <QWidget>
 
 namespace {
 

@@ -3,6 +3,7 @@
 #include "Platform/Foundation/StandardStreams.h"
 
 #include <csignal>
+#include <initializer_list>
 #include <fcntl.h>
 #include <unistd.h>
 
