@@ -3,8 +3,8 @@
 #include "Platform/Foundation/StandardStreams.h"
 
 #include <csignal>
-#include <initializer_list>
 #include <fcntl.h>
+#include <initializer_list>
 #include <unistd.h>
 
 namespace Platform {
