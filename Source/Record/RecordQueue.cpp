@@ -174,9 +174,8 @@ void RecordQueue::converterTherecordAudio() {
 }
 
 void RecordQueue::moveRawFile(const std::shared_ptr<ExportJob>& job, const QString& rawPath) {
-    if (!deliver(job, rawPath))
-        return;
-    onMain([this, job] { finishConverter(*job); });
+    if (deliver(job, rawPath))
+        tagFile(*job);
 }
 
 /// Moves the finished file to its final name, or to the next free one when another file has come to stand there.
@@ -281,14 +280,14 @@ void RecordQueue::converterMovie(const std::shared_ptr<ExportJob>& job) {
 }
 
 void RecordQueue::startConverterAudio(const std::shared_ptr<ExportJob>& job) {
-    // The WAVE is whole, so the raw files are not needed any more. keepDamaged() may have taken them out of the job.
-    for (const auto& key : {ExportJob::BuiltInAudioTempPath, ExportJob::ComputerAudioTempPath})
-        if (const QString raw = job->path(key); !raw.isEmpty())
-            removeTemporaryFile(raw);
     onWorker([this, job] { converterAudio(job); });
 }
 
 void RecordQueue::converterAudio(const std::shared_ptr<ExportJob>& job) {
+    // The WAVE is whole, so the raw files are not needed any more. keepDamaged() may have taken them out of the job.
+    for (const auto& key : {ExportJob::BuiltInAudioTempPath, ExportJob::ComputerAudioTempPath})
+        if (const QString raw = job->path(key); !raw.isEmpty())
+            removeTemporaryFile(raw);
     const QString wave = job->path(ExportJob::OutPutWAVTempPath);
     const QString name = QFileInfo(job->path(ExportJob::OutPutPath)).fileName();
     // Encode beside the WAVE and move the result: another file may have taken the final name meanwhile.
@@ -316,7 +315,7 @@ void RecordQueue::converterAudio(const std::shared_ptr<ExportJob>& job) {
     else
         removeTemporaryFile(wave);
     if (deliver(job, encoded))
-        onMain([this, job] { finishConverter(*job); });
+        tagFile(*job);
 }
 
 /// Brings files of a job to safety. @return where each one is now
@@ -368,21 +367,31 @@ void RecordQueue::setAside(const std::shared_ptr<ExportJob>& job, const QStringL
     });
 }
 
-void RecordQueue::finishConverter(const ExportJob& job) {
+/// Measures and tags the file at its final name, unless it is too short for the library, and hands over the result.
+void RecordQueue::tagFile(const ExportJob& job) {
     const QString finalPath = job.path(ExportJob::OutPutPath);
     const float length = ToolControl::getAudioLength(finalPath);
     Dictionary tags;
+    bool tagged = true;
     if (job.isKeptHoweverShort || !owner_.filter().drops(length)) {
         tags = initID3BasicInfoDic();
         tags.insert(AudioRecordEntry::Length, double(length));
         tags.insert(AudioRecordEntry::Title, QFileInfo(finalPath).completeBaseName());
         tags.insert(AudioRecordEntry::SavePath, finalPath);
-        if (!ID3ChangeControl::changeID3BasicInfo(finalPath, tags))
-            Q_EMIT noticed(u"%1 could not be tagged."_s.arg(QFileInfo(finalPath).fileName()));
+        tagged = ID3ChangeControl::changeID3BasicInfo(finalPath, tags);
         tags.insert(AudioRecordEntry::IsNew, true);
-        owner_.addRecordFile(finalPath, tags);
     }
-    Q_EMIT recordingFinished(finalPath, tags);
+    onMain([this, finalPath, tags, tagged] {
+        if (!tagged)
+            Q_EMIT noticed(u"%1 could not be tagged."_s.arg(QFileInfo(finalPath).fileName()));
+        finishConverter(finalPath, tags);
+    });
+}
+
+void RecordQueue::finishConverter(const QString& finalPath, const Dictionary& entry) {
+    if (!entry.isEmpty())
+        owner_.addRecordFile(finalPath, entry);
+    Q_EMIT recordingFinished(finalPath, entry);
     endJob(finalPath);
 }
 

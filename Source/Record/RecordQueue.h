@@ -47,12 +47,14 @@ struct ExportJob {
 };
 
 /// Turns finished recordings into tagged files, one at a time in the order in which they came: one source is moved, two
-/// are mixed and encoded. The work runs on a worker. Files of a job that fails are set aside, and a notice says where.
+/// are mixed and encoded. Whatever touches a file runs on a worker: mixing, encoding, moving, measuring, tagging and
+/// deleting. Files of a job that fails are set aside, and a notice says where.
 /// Main thread only, except for append() and rawFileClosed().
 class RecordQueue : public QObject {
     Q_OBJECT
 public:
-    /// What the queue needs from its owner. The first two are called on a worker.
+    /// What the queue needs from its owner. All but addRecordFile, which is for the main thread, are called on a
+    /// worker; releaseName on both.
     struct Owner {
         /// Reserves the next free name for a recording whose own name is taken by now.
         std::function<QString()> nextFreeName;
@@ -106,7 +108,10 @@ private:
     void setAside(const std::shared_ptr<ExportJob>& job, const QStringList& files, const QString& why);
     QStringList keepFiles(const ExportJob& job, const QStringList& files);
     void keepDamaged(ExportJob& job, const QStringList& keys, const Platform::MediaError& damage);
-    void finishConverter(const ExportJob& job);
+    void tagFile(const ExportJob& job);
+    /// Takes the result of a job into the library and goes on with the next one. @p entry is empty when the filter
+    /// keeps the file out of the library.
+    void finishConverter(const QString& finalPath, const Dictionary& entry);
     void endJob(const QString& reservedPath);
     void setProgress(double share);
 

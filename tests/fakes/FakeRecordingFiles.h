@@ -6,8 +6,10 @@
 
 #include <algorithm>
 #include <atomic>
+#include <chrono>
 #include <mutex>
 #include <set>
+#include <thread>
 
 #include <QFile>
 #include <QFileInfo>
@@ -31,6 +33,8 @@ public:
     Platform::MediaError readError;    ///< what a reader meets
     std::atomic<bool> holdMix{false};  ///< a mix waits while this is set
     std::atomic<int> mixesStarted{0};
+    std::atomic<bool> holdInfo{false}; ///< whoever measures a file waits while this is set; for 30 s at most
+    std::atomic<int> infosStarted{0};
 
     [[nodiscard]] std::vector<Mix> mixes() const {
         const std::scoped_lock lock(mutex_);
@@ -38,6 +42,9 @@ public:
     }
 
     bool info(const QString& path, Platform::AudioFileInfo& info, Platform::MediaError& error) override {
+        ++infosStarted;
+        for (int i = 0; i < 30000 && holdInfo; ++i)
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
         if (!QFileInfo::exists(path)) {
             error = {Platform::MediaError::Kind::NotFound, path};
             return false;

@@ -3,6 +3,8 @@
 //
 // Two sources whose clocks differ, with real encoders and the real mix: how far are they apart in the finished file?
 #include "tests/support/RecordMix.h"
+#include "Source/Model/AudioRecordEntry.h"
+#include "tests/support/DiskCalls.h"
 
 TEST_F(RecordMix, SourcesStayTogetherThoughTheirClocksDiffer) {
     expectTogether(40);
@@ -39,4 +41,26 @@ TEST_F(RecordMix, PartsOfTwoSourcesFitEndToEnd) {
             EXPECT_LE(std::fabs(bestLag(expected, channel, cuts[i] - 6000, 4000, 60)), 3) << "before cut " << i;
             EXPECT_LE(std::fabs(bestLag(expected, channel, cuts[i] + 2000, 4000, 60)), 3) << "after cut " << i;
         }
+}
+
+TEST_F(RecordMix, NoFileOfAFinishedRecordingIsTouchedOnTheMainThread) {
+    for (const bool both : {false, true}) {
+        begin(true, both);
+        Ear input{Microphone, 0, Rate, 0.0};
+        Ear computer{ComputerAudio, 1, Rate, 0.0};
+        controller->startAndStopRecord();
+        hearBoth(input, computer, 2);
+        const DiskCalls disk;
+        controller->startAndStopRecord();
+        ASSERT_TRUE(waitFor([this] { return controller->jobsInQueue() == 0; }, 120000));
+        const auto calls = disk.calls();
+        EXPECT_TRUE(std::ranges::any_of(calls, [](const auto& call) {
+            return call.kind == DiskCalls::Call::Kind::Write;
+        })) << "the tags are written in place";
+        for (const auto& call : calls)
+            EXPECT_NE(call.thread, std::this_thread::get_id()) << "call " << int(call.kind) << " waits for the disk";
+        ASSERT_EQ(delegate.paths.size(), both ? 2 : 1);
+        EXPECT_EQ(delegate.entries.back().value(AudioRecordEntry::Title).toString(),
+                  QFileInfo(delegate.paths.back()).completeBaseName());
+    }
 }

@@ -147,6 +147,34 @@ TEST_F(RecordQueueTest, AFinishedFileBelowTheFilterTimeStaysButIsNotListed) {
     EXPECT_FALSE(listed);
 }
 
+TEST_F(RecordQueueTest, ClosingTheProgramWaitsUntilEachRecordingIsInTheLibrary) {
+    addMicrophone();
+    begin();
+    record();
+    record();
+    record();
+    controller->finishAll();
+    EXPECT_EQ(delegate.paths, (QStringList{track(0), track(1), track(2)})) << "in the order of their making";
+    EXPECT_TRUE(rawFiles().isEmpty());
+}
+
+TEST_F(RecordQueueTest, TheWindowAnswersWhileAFinishedFileIsMeasured) {
+    addMicrophone();
+    begin();
+    media.holdInfo = true;
+    record();
+    ASSERT_TRUE(waitFor([this] { return media.infosStarted > 0; }));
+    bool answered = false;
+    QMetaObject::invokeMethod(
+        controller.get(), [&] { answered = true; }, Qt::QueuedConnection);
+    EXPECT_TRUE(waitFor([&] { return answered; }));
+    EXPECT_EQ(controller->jobsInQueue(), 1);
+    EXPECT_TRUE(delegate.paths.isEmpty());
+    media.holdInfo = false;
+    ASSERT_TRUE(queueDone());
+    EXPECT_EQ(delegate.paths, QStringList{track(0)});
+}
+
 TEST_F(RecordQueueTest, AFileThatAppearedUnderTheNameIsNotOverwritten) {
     addMicrophone();
     begin();
