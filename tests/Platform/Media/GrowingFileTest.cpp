@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/Platform/Media/MediaTestSupport.h"
+#include "tests/support/WaitFor.h"
 
 #include <sys/mount.h>
 #include <sys/resource.h>
@@ -59,6 +60,18 @@ int statusOf(pid_t child) {
 }
 
 } // namespace
+
+TEST_F(GrowingFiles, OneThreadEncodesAndWritesALiveFile) {
+    const auto threads = [] { return QDir(u"/proc/self/task"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(); };
+    const auto before = threads();
+    const QString path = at(u"live.m4a"_s);
+    Samples sound = tones(5 * 44100);
+    auto writer = newWriter(path, kAudioFileM4AType, aacFormat(), clientFormat());
+    writeAll(*writer, sound, 1024, true);
+    ASSERT_TRUE(waitFor([&] { return fragmentsOf(path) >= 4; }));
+    EXPECT_EQ(threads(), before + 1);
+    EXPECT_EQ(writer->dispose(), noErr);
+}
 
 TEST_F(GrowingFiles, AKilledRecordingPlaysUpToAboutItsLastSecond) {
     const QString path = at(u"killed.m4a"_s);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/linux/encode/StretchEncoder.h"
+#include "Platform/Media/linux/encode/SerialEncoder.h"
 #include "tests/Platform/Media/MediaTestSupport.h"
 
 using namespace MediaTest;
@@ -8,21 +9,31 @@ using namespace Platform;
 
 namespace {
 
+/// @p step: frames of one call.
+template <typename Encoder>
+std::vector<AacEncoder::Packet> encodedBy(const Samples& rows, const AacSettings& settings, std::size_t step) {
+    Encoder encoder(settings);
+    std::vector<AacEncoder::Packet> packets;
+    const std::size_t frames = rows[0].size();
+    for (std::size_t at = 0; at < frames; at += step) {
+        const std::array<const float*, 2> from = {rows[0].data() + at, rows[1].data() + at};
+        encoder.append(from.data(), std::min(step, frames - at), packets);
+    }
+    encoder.finish(packets);
+    EXPECT_TRUE(encoder.valid());
+    return packets;
+}
+
 std::vector<AacEncoder::Packet> encoded(const Samples& rows, int workers, std::int64_t stretchPackets) {
     AacSettings settings;
     settings.rowOf = {0, 1};
     settings.workers = workers;
     settings.stretchPackets = stretchPackets;
-    StretchEncoder encoder(settings);
-    std::vector<AacEncoder::Packet> packets;
-    const std::size_t frames = rows[0].size();
-    for (std::size_t at = 0; at < frames; at += 700) {
-        const std::array<const float*, 2> from = {rows[0].data() + at, rows[1].data() + at};
-        encoder.append(from.data(), std::min<std::size_t>(700, frames - at), packets);
-    }
-    encoder.finish(packets);
-    EXPECT_TRUE(encoder.valid());
-    return packets;
+    return encodedBy<StretchEncoder>(rows, settings, 700);
+}
+
+std::vector<AacEncoder::Packet> encodedInOneRun(const Samples& rows, std::size_t step = 700) {
+    return encodedBy<SerialEncoder>(rows, {.rowOf = {0, 1}}, step);
 }
 
 /// Decodes without a container; one frame of 1024 a packet.
@@ -65,7 +76,7 @@ Samples strokes(std::size_t frames) {
 
 TEST(StretchEncoder, OneStretchGivesTheBytesOfOneRun) {
     const Samples sound = strokes(1024 * 500 + 77);
-    EXPECT_EQ(encoded(sound, 1, 0), encoded(sound, 2, 600));
+    EXPECT_EQ(encodedInOneRun(sound), encoded(sound, 2, 600));
 }
 
 TEST(StretchEncoder, GivesAsManyPacketsAsOneRunWhereverTheFileEnds) {
@@ -74,7 +85,7 @@ TEST(StretchEncoder, GivesAsManyPacketsAsOneRunWhereverTheFileEnds) {
                                        stretch + 17, stretch + 40, 2 * stretch - 256, 2 * stretch}) {
         for (const int rest : {0, 1, 1023}) {
             Samples sound(2, std::vector<float>(std::size_t(packets) * 1024 + std::size_t(rest)));
-            EXPECT_EQ(encoded(sound, 3, stretch).size(), encoded(sound, 1, 0).size()) << packets << " " << rest;
+            EXPECT_EQ(encoded(sound, 3, stretch).size(), encodedInOneRun(sound).size()) << packets << " " << rest;
         }
     }
 }
@@ -82,7 +93,7 @@ TEST(StretchEncoder, GivesAsManyPacketsAsOneRunWhereverTheFileEnds) {
 TEST(StretchEncoder, ASeamHasNoLargerErrorThanItsSurroundings) {
     constexpr std::int64_t stretch = 512;
     const Samples sound = strokes(1024 * stretch * 4);
-    const auto serial = decoded(encoded(sound, 1, 0));
+    const auto serial = decoded(encodedInOneRun(sound));
     const auto parallel = decoded(encoded(sound, 2, stretch));
     ASSERT_EQ(parallel.size(), serial.size());
     const auto quality = [&](const std::vector<float>& what, std::size_t from, std::size_t to) {
@@ -143,4 +154,28 @@ TEST(StretchEncoder, MayBeDestroyedBeforeTheEnd) {
     const std::array<const float*, 2> rows = {sound[0].data(), sound[1].data()};
     encoder.append(rows.data(), sound[0].size(), packets);
     EXPECT_LT(packets.size(), 800u);
+}
+
+TEST(SerialEncoder, GivesTheSamePacketsHoweverTheFramesArrive) {
+    const Samples sound = strokes(1024 * 40 + 77);
+    const auto atOnce = encodedInOneRun(sound, sound[0].size());
+    EXPECT_EQ(atOnce.size(), 42U) << "40 whole packets, the rest, and the encoder's delay";
+    for (const std::size_t step : {std::size_t(1), std::size_t(480), std::size_t(1024), std::size_t(1500)})
+        EXPECT_EQ(encodedInOneRun(sound, step), atOnce) << step;
+}
+
+TEST(SerialEncoder, HasEachPacketAsSoonAsItsFramesAreThere) {
+    SerialEncoder encoder({.rowOf = {0, 1}});
+    const std::vector<float> frames(1024, 0.1F);
+    const std::array<const float*, 2> rows = {frames.data(), frames.data()};
+    std::vector<AacEncoder::Packet> packets;
+    for (std::size_t i = 1; i <= 20; ++i) {
+        encoder.append(rows.data(), frames.size(), packets);
+        EXPECT_GE(packets.size() + 2, i) << "a growing file lacks at most the encoder's own delay";
+    }
+}
+
+TEST(SerialEncoder, RefusesAShapeThatCannotBeEncoded) {
+    EXPECT_FALSE(SerialEncoder({.rate = 12345, .rowOf = {0, 1}}).valid());
+    EXPECT_FALSE(StretchEncoder({.rate = 12345, .rowOf = {0, 1}, .workers = 2}).valid());
 }

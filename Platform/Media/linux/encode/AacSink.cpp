@@ -2,12 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/linux/encode/AacEncoder.h"
 #include "Platform/Media/linux/encode/FrameSink.h"
+#include "Platform/Media/linux/encode/SerialEncoder.h"
 #include "Platform/Media/linux/encode/StretchEncoder.h"
 
 namespace Platform {
 
 namespace {
 
+/// @p Encoder: SerialEncoder or StretchEncoder.
+template <typename Encoder>
 class AacSink final : public FrameSink {
 public:
     AacSink(OutputFile& file, std::unique_ptr<PacketFile> container, const AacSettings& settings)
@@ -48,19 +51,26 @@ private:
 
     OutputFile& file_;
     std::unique_ptr<PacketFile> container_;
-    StretchEncoder encoder_;
+    Encoder encoder_;
     std::vector<AacEncoder::Packet> packets_;
     std::int64_t frames_ = 0;
 };
+
+template <typename Encoder>
+std::unique_ptr<FrameSink> createSink(OutputFile& file, std::unique_ptr<PacketFile> container,
+                                      const AacSettings& settings) {
+    auto sink = std::make_unique<AacSink<Encoder>>(file, std::move(container), settings);
+    if (!sink->valid())
+        return nullptr;
+    return sink;
+}
 
 } // namespace
 
 std::unique_ptr<FrameSink> createAacSink(OutputFile& file, std::unique_ptr<PacketFile> container,
                                          const AacSettings& settings) {
-    auto sink = std::make_unique<AacSink>(file, std::move(container), settings);
-    if (!sink->valid())
-        return nullptr;
-    return sink;
+    const auto create = settings.workers > 1 ? createSink<StretchEncoder> : createSink<SerialEncoder>;
+    return create(file, std::move(container), settings);
 }
 
 } // namespace Platform

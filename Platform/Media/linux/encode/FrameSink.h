@@ -30,9 +30,10 @@ struct AacSettings {
     int channels = 2;
     /// Which rows differ: file channel c is row rowOf[c]. Rows that are the same are kept once.
     std::vector<std::size_t> rowOf;
-    /// Threads that encode stretches of the file beside each other; 1 encodes on the calling thread.
+    /// Threads that encode stretches of the file beside each other. 1 encodes on the calling thread, in one run: the
+    /// packets of a recording must not wait for each other.
     int workers = 1;
-    /// Shortest stretch that a thread is given, in packets of 1024 frames.
+    /// Shortest stretch that a thread is given, in packets of 1024 frames; for several workers.
     std::int64_t stretchPackets = 0;
 };
 

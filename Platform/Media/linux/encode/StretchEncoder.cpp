@@ -34,8 +34,9 @@ int windowOf(const AacEncoder::Packet& packet) {
 
 } // namespace
 
-StretchEncoder::StretchEncoder(const AacSettings& settings)
-    : settings_(settings), first_(settings.rate, settings.channels) {
+StretchEncoder::StretchEncoder(const AacSettings& settings) : settings_(settings) {
+    if (const AacEncoder describing(settings.rate, settings.channels); describing.valid())
+        info_ = describing.streamInfo();
     settings_.rowOf.resize(std::size_t(settings.channels), 0);
     for (const std::size_t row : settings_.rowOf)
         distinctRows_ = std::max(distinctRows_, row + 1);
@@ -69,11 +70,6 @@ void StretchEncoder::append(const float* const* channels, std::size_t frames, st
         done += count;
         if (filling_->frames < AacEncoder::packetFrames)
             continue;
-        if (settings_.workers <= 1) {
-            encodeSerial(*filling_, out);
-            filling_->frames = 0;
-            continue;
-        }
         pushBlock();
         std::unique_lock lock(mutex_);
         collect(out);
@@ -83,15 +79,7 @@ void StretchEncoder::append(const float* const* channels, std::size_t frames, st
 }
 
 void StretchEncoder::finish(std::vector<Packet>& out) {
-    const bool rest = filling_ && filling_->frames > 0;
-    if (settings_.workers <= 1) {
-        if (rest)
-            encodeSerial(*filling_, out);
-        if (!first_.flush(out))
-            failed_ = true;
-        return;
-    }
-    if (rest)
+    if (filling_ && filling_->frames > 0)
         pushBlock();
     std::unique_lock lock(mutex_);
     Stretch* final = nullptr;
@@ -113,11 +101,6 @@ void StretchEncoder::finish(std::vector<Packet>& out) {
         collect(out);
         return stretches_.empty() || failed_;
     });
-}
-
-void StretchEncoder::encodeSerial(const Block& block, std::vector<Packet>& out) {
-    if (!first_.encode(rowsOf(block).data(), block.frames, out))
-        failed_ = true;
 }
 
 std::vector<const float*> StretchEncoder::rowsOf(const Block& block) const {

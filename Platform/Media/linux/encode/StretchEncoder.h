@@ -6,14 +6,17 @@
 #include "Platform/Media/linux/encode/FrameSink.h"
 
 #include <array>
+#include <atomic>
 #include <condition_variable>
 #include <deque>
 #include <mutex>
+#include <optional>
 #include <thread>
 
 namespace Platform {
 
-/// AAC encoding in one run, or in stretches on several threads.
+/// AAC encoding of a file whose sound is there already, in stretches on several threads. SerialEncoder is for a file
+/// that is written while its sound arrives.
 ///
 /// A stretch begins on a packet border. Its encoder is warmed up with the packets before it, until its rate control has
 /// settled, and runs on into the next stretch with the real samples, so that the last packet it keeps overlaps with
@@ -31,8 +34,9 @@ public:
     StretchEncoder(const StretchEncoder&) = delete;
     StretchEncoder& operator=(const StretchEncoder&) = delete;
 
-    [[nodiscard]] bool valid() const { return first_.valid() && !failed_.load(std::memory_order_relaxed); }
-    [[nodiscard]] AacStreamInfo streamInfo() const { return first_.streamInfo(); }
+    [[nodiscard]] bool valid() const { return info_ && !failed_.load(std::memory_order_relaxed); }
+    /// Only while valid().
+    [[nodiscard]] const AacStreamInfo& streamInfo() const { return *info_; }
 
     /// Appends to @p out the packets that are ready, in order. Waits while too many samples wait.
     void append(const float* const* channels, std::size_t frames, std::vector<Packet>& out);
@@ -64,7 +68,6 @@ private:
     };
 
     void pushBlock();
-    void encodeSerial(const Block& block, std::vector<Packet>& out);
     void collect(std::vector<Packet>& out); // with the mutex held
     bool laySeam(Stretch& before, Stretch& after);
     void work();
@@ -73,7 +76,7 @@ private:
     AacSettings settings_;
     std::size_t distinctRows_ = 1;
     std::int64_t budget_ = 0;
-    AacEncoder first_; // encodes all of the file when there is one thread; else only describes the stream
+    std::optional<AacStreamInfo> info_; // nothing when this rate or channel count cannot be encoded
     std::atomic<bool> failed_{false};
 
     BlockPtr filling_;
