@@ -39,8 +39,9 @@ void AudioPlayProgressView::paintEvent(QPaintEvent*) {
     NamedImages::draw(painter, point, u"progress-bar-point"_s);
     if (hasFocus()) {
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 1.5));
-        painter.drawEllipse(point.adjusted(-1, -1, 1, 1));
+        // Inside the point: at the ends of the bar there is no room around it.
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.drawEllipse(point.adjusted(1, 1, -1, -1));
     }
 }
 

@@ -31,7 +31,11 @@ void AudioRecordWaveView::drawColumn(QPainter& painter, int index) const {
     // A damaged sample must not stop the drawing of all others.
     const double v = std::isfinite(level) ? std::max(double(level), 0.02) : 0.02;
     const double middle = height() / 2.0;
-    painter.fillRect(QRectF(index, (1 - v) * middle, 1, 2 * v * middle), Theme::Glass::level());
+    // A column's sides lie between whole pixels, also at 1.5 pixels a point: then it is one pixel wide, or two.
+    const qreal ratio = painter.device()->devicePixelRatioF();
+    const qreal left = std::round(index * ratio) / ratio;
+    const qreal right = std::round((index + 1) * ratio) / ratio;
+    painter.fillRect(QRectF(left, (1 - v) * middle, right - left, 2 * v * middle), Theme::Glass::level());
 }
 
 void AudioRecordWaveView::redrawAll() {

@@ -59,10 +59,9 @@ void setElided(QLabel* label, const QString& text) {
 }
 
 void setGlassIcon(QToolButton* button, const QString& name) {
-    const qreal ratio = button->devicePixelRatioF();
-    QIcon icon(NamedImages::pixmap(name, {20, 20}, std::max(ratio, 2.0), Theme::Glass::dimText()));
-    icon.addPixmap(NamedImages::pixmap(name, {20, 20}, std::max(ratio, 2.0), Theme::Glass::text()), QIcon::Active);
-    button->setIcon(icon);
+    button->setIcon(NamedImages::icon(name, [](QIcon::Mode mode) {
+        return mode == QIcon::Active ? Theme::Glass::text() : Theme::Glass::dimText();
+    }));
     button->setIconSize({20, 20});
 }
 

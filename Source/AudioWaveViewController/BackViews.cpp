@@ -5,6 +5,7 @@
 #include "Source/View/NamedImages.h"
 #include "Source/View/Theme.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -15,6 +16,8 @@ AudioWaveformBackView::AudioWaveformBackView(QWidget* parent) : QWidget(parent) 
     QPalette glass = palette();
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         glass.setColor(role, Theme::Glass::text());
+    // The pictures on its buttons are light too, so a button under the pointer stays dark.
+    glass.setColor(QPalette::Button, Theme::Glass::button());
     setPalette(glass);
 }
 
@@ -35,6 +38,27 @@ void LibaryBackView::paintEvent(QPaintEvent*) {
     NamedImages::draw(painter, rect(), u"LibaryBackImage.png"_s, palette().color(QPalette::WindowText));
 }
 
+AdditionalControlBackView::AdditionalControlBackView(QWidget* parent) : QWidget(parent) {
+    takeColors();
+}
+
+void AdditionalControlBackView::takeColors() {
+    if (palette().color(QPalette::Active, QPalette::ButtonText) == Theme::Strip::text(true))
+        return;
+    QPalette colors;
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        colors.setColor(role, Theme::Strip::text(true));
+        colors.setColor(QPalette::Disabled, role, Theme::Strip::text(false));
+    }
+    setPalette(colors);
+}
+
+bool AdditionalControlBackView::event(QEvent* event) {
+    if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::PaletteChange)
+        takeColors();
+    return QWidget::event(event);
+}
+
 void AdditionalControlBackView::paintEvent(QPaintEvent*) {
-    QPainter(this).fillRect(rect(), QColor::fromRgbF(0.78F, 0.78F, 0.78F));
+    QPainter(this).fillRect(rect(), Theme::Strip::ground());
 }

@@ -24,12 +24,16 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-/// The plain strip behind further controls.
+/// The plain strip behind further controls. What stands on it takes the strip's colours from its palette.
 class AdditionalControlBackView : public QWidget {
     Q_OBJECT
 public:
-    using QWidget::QWidget;
+    explicit AdditionalControlBackView(QWidget* parent = nullptr);
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    void takeColors();
 };

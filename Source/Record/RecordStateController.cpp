@@ -141,7 +141,7 @@ void RecordStateController::chooseRecordComputerAudio(bool on) {
         const int button = Platform::services().alerts->runModal(
             u"Add-on required to record the system audio."_s,
             u"KorvanAudioDevice is easy to use, it simply accept system audio data, allowing any audio application to "
-            u"send and receive audio with no other support needed. KorvanAudioDevice is free, and runs on Mac Intel "
+            u"send and receive audio with no other support needed. KorvanAudioDevice is free, and runs on Linux "
             u"computers. This driver will only be used by Sonaphex."_s,
             {u"Install"_s, u"Cancel"_s});
         if (button == 0)

@@ -43,6 +43,23 @@ QMenu* MediaNodeListTableView::menuForEvent(QContextMenuEvent& event) {
     return delegate_ ? delegate_->menuForEvent(event) : nullptr;
 }
 
+void MediaNodeListTableView::keyboardSearch(const QString& search) {
+    // The base class looks in the column of the current cell.
+    const QModelIndex current = currentIndex();
+    if (current.isValid() && current.column() != searchColumn_)
+        selectionModel()->setCurrentIndex(current.siblingAtColumn(searchColumn_), QItemSelectionModel::NoUpdate);
+    QTableView::keyboardSearch(search);
+}
+
+QModelIndex MediaNodeListTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    if (action != MoveHome && action != MoveEnd)
+        return QTableView::moveCursor(action, modifiers);
+    // Rows are what is selected, so that the first and the last cell of a row mean nothing.
+    const QModelIndex row = QTableView::moveCursor(action, modifiers | Qt::ControlModifier);
+    return row.isValid() ? row.siblingAtColumn(currentIndex().isValid() ? currentIndex().column() : searchColumn_)
+                         : row;
+}
+
 void MediaNodeListTableView::contextMenuEvent(QContextMenuEvent* event) {
     if (QMenu* menu = menuForEvent(*event)) {
         Q_EMIT menu->aboutToShow();

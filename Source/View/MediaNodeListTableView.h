@@ -28,7 +28,13 @@ public:
     /// Settles the selection for a context click and answers the menu to show.
     QMenu* menuForEvent(QContextMenuEvent& event);
 
+    /// The column that typed letters are looked for in, whichever cell was clicked last.
+    void setSearchColumn(int column) { searchColumn_ = column; }
+    void keyboardSearch(const QString& search) override;
+
 protected:
+    /// Home and End go to the first and the last row.
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -37,4 +43,5 @@ private:
     MediaNodeListTableViewDelegate* delegate_ = nullptr;
     QString emptyText_;
     QString emptyImage_;
+    int searchColumn_ = 0;
 };

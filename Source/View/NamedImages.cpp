@@ -95,18 +95,21 @@ QPixmap faded(const QPixmap& pixmap, const QColor& towards) {
 
 class DrawingEngine : public QIconEngine {
 public:
-    explicit DrawingEngine(QString name) : name_(std::move(name)) {}
+    explicit DrawingEngine(QString name, NamedImages::ColorOf colorOf = {})
+        : name_(std::move(name)), colorOf_(std::move(colorOf)) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
         const qreal ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1;
-        QPixmap picture = pixmap(rect.size() * ratio, mode, state);
+        QPixmap picture = pixmap((QSizeF(rect.size()) * ratio).toSize(), mode, state);
         picture.setDevicePixelRatio(ratio);
-        painter->drawPixmap(rect, picture);
+        painter->drawPixmap(NamedImages::onWholePixels(*painter, rect.topLeft()), picture);
     }
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
         const QSize fitted = NamedImages::naturalSize(name_).scaled(size, Qt::KeepAspectRatio);
         if (fitted.isEmpty())
             return {};
+        if (colorOf_)
+            return rendered(name_, fitted, colorOf_(mode));
         const QPalette palette = QGuiApplication::palette();
         switch (mode) {
         case QIcon::Disabled:
@@ -120,13 +123,14 @@ public:
     QSize actualSize(const QSize& size, QIcon::Mode, QIcon::State) override {
         return NamedImages::naturalSize(name_).scaled(size, Qt::KeepAspectRatio);
     }
-    QIconEngine* clone() const override { return new DrawingEngine(name_); }
+    QIconEngine* clone() const override { return new DrawingEngine(name_, colorOf_); }
     QString key() const override { return u"sonaphex-drawing"_s; }
     QString iconName() override { return name_; }
     bool isNull() override { return !NamedImages::exists(name_); }
 
 private:
     QString name_;
+    NamedImages::ColorOf colorOf_; ///< empty: the palette's colours
 };
 
 } // namespace
@@ -143,6 +147,10 @@ bool exists(const QString& name) {
 
 QIcon icon(const QString& name) {
     return exists(name) ? QIcon(new DrawingEngine(name)) : QIcon();
+}
+
+QIcon icon(const QString& name, ColorOf colorOf) {
+    return exists(name) ? QIcon(new DrawingEngine(name, std::move(colorOf))) : QIcon();
 }
 
 QSize naturalSize(const QString& name) {
@@ -166,6 +174,11 @@ QPixmap pixmap(const QString& name, QSize size, qreal ratio, const QColor& color
 void draw(QPainter& painter, const QRectF& rect, const QString& name, const QColor& color) {
     if (exists(name))
         render(painter, rect, name, color.isValid() ? color : textColor());
+}
+
+QPointF onWholePixels(const QPainter& painter, QPointF place) {
+    const QTransform toDevice = painter.deviceTransform();
+    return toDevice.inverted().map(QPointF(toDevice.map(place).toPoint()));
 }
 
 } // namespace NamedImages

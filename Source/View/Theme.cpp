@@ -111,6 +111,13 @@ public:
         QProxyStyle::drawControl(element, &elided, painter, widget);
     }
 
+    // A picture keeps its edges at 1.5 pixels a point.
+    void drawItemPixmap(QPainter* painter, const QRect& rect, int alignment, const QPixmap& pixmap) const override {
+        const QSize size = pixmap.deviceIndependentSize().toSize();
+        const QRect place = alignedRect(painter->layoutDirection(), Qt::Alignment(alignment), size, rect);
+        painter->drawPixmap(NamedImages::onWholePixels(*painter, place.topLeft()), pixmap);
+    }
+
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* more) const override {
         if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
@@ -121,12 +128,8 @@ public:
     QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override {
         if (which != SP_MessageBoxWarning)
             return QProxyStyle::standardIcon(which, option, widget);
-        const int side = pixelMetric(PM_MessageBoxIconSize, option, widget);
         const QColor amber = currentShade == Theme::Shade::Dark ? QColor(0xffc857) : QColor(0xc97a00);
-        QIcon icon;
-        for (const qreal ratio : {1.0, 2.0})
-            icon.addPixmap(NamedImages::pixmap(u"warning"_s, {side, side}, ratio, amber));
-        return icon;
+        return NamedImages::icon(u"warning"_s, [amber](QIcon::Mode) { return amber; });
     }
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
@@ -239,6 +242,20 @@ QColor dimText() {
 QColor level() {
     return QColor::fromRgbF(78.0F / 255, 242.0F / 255, 1.0F);
 }
+QColor button() {
+    return QColor(0x2c3f4d);
+}
 } // namespace Glass
+
+namespace Strip {
+QColor ground() {
+    return currentShade == Shade::Dark ? QColor(0x31353a) : QColor::fromRgbF(0.78F, 0.78F, 0.78F);
+}
+QColor text(bool enabled) {
+    if (currentShade == Shade::Dark)
+        return palette(Shade::Dark).color(enabled ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText);
+    return enabled ? QColor(0x1f242a) : QColor(0x80, 0x83, 0x88);
+}
+} // namespace Strip
 
 } // namespace Theme

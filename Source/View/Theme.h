@@ -29,6 +29,14 @@ namespace Glass {
 [[nodiscard]] QColor text();
 [[nodiscard]] QColor dimText();
 [[nodiscard]] QColor level();
+/// Ground of a button under the pointer.
+[[nodiscard]] QColor button();
 } // namespace Glass
+
+/// Colours of the strip below the library.
+namespace Strip {
+[[nodiscard]] QColor ground();
+[[nodiscard]] QColor text(bool enabled);
+} // namespace Strip
 
 } // namespace Theme

@@ -13,7 +13,8 @@ constexpr int kMargin = 4; ///< room for the ring of the keyboard focus
 }
 
 TransportButton::TransportButton(QWidget* parent) : QAbstractButton(parent) {
-    setFocusPolicy(Qt::StrongFocus);
+    // A click leaves the focus where it is: the keys after it are meant for the list.
+    setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setAttribute(Qt::WA_Hover);
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/WndController/LibraryRowDelegates.h"
 
+#include "Source/View/NamedImages.h"
 #include "Source/WndController/AudioTableModel.h"
 #include "Source/WndController/LibraryOutlineModel.h"
 
@@ -49,8 +50,9 @@ void OutlineRowDelegate::initStyleOption(QStyleOptionViewItem* option, const QMo
         option->rect.adjust(mirrored ? 0 : kInset, 0, mirrored ? -kInset : 0, 0);
         option->palette.setColor(QPalette::Text, option->palette.color(QPalette::Active, QPalette::PlaceholderText));
     }
-    option->icon =
-        QIcon(option->icon.pixmap(option->decorationSize, option->widget->devicePixelRatioF(), markMode(*option)));
+    const auto colors = markMode(*option) == QIcon::Selected ? QPalette::HighlightedText : QPalette::ButtonText;
+    option->icon = NamedImages::icon(option->icon.name(), [color = option->palette.color(QPalette::Active, colors)](
+                                                              QIcon::Mode) { return color; });
 }
 
 int AudioRowDelegate::rowHeight(const QTableView& table) {

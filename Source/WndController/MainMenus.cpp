@@ -16,11 +16,6 @@
 
 using Window = WindowCommands::Window;
 
-namespace {
-const QColor kStripText(0x1f, 0x24, 0x2a);
-const QColor kStripDisabled(0x80, 0x83, 0x88);
-} // namespace
-
 MainMenus::MainMenus(Ui::MainWnd& ui, MainWndController& controller, QObject* parent)
     : QObject(parent), ui_(ui), controller_(controller) {
     makeRecordMenu();
@@ -97,7 +92,7 @@ void MainMenus::makeEditMenu() {
     menu->addSeparator();
     remove_ = add(menu, tr("&Delete"), QStringLiteral("delete"), tr("Delete the selected recordings and their files"),
                   &MainWndController::deleteAudioFile, {QKeySequence(Qt::Key_Delete)});
-    // Delete and Space belong to other widgets too: they act on the library while it has the focus.
+    // Delete belongs to other widgets too: it acts on the library while that has the focus.
     remove_->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     ui_.audioTableView_->addAction(remove_);
     QAction* all = add(menu, tr("Select &All"), {}, {}, nullptr, {QKeySequence::SelectAll});
@@ -117,11 +112,10 @@ void MainMenus::makeLibraryMenu() {
     playSelected_ =
         add(menu, tr("Play the &Selected Recording"), {}, tr("Play from its beginning"),
             &MainWndController::tableViewDoubleAction, {QKeySequence(Qt::Key_Return), QKeySequence(Qt::Key_Enter)});
-    for (QAction* action : {play_, playSelected_}) {
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        ui_.audioTableView_->addAction(action);
-    }
-    ui_.outlineLibraryView_->addAction(play_);
+    playSelected_->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    ui_.audioTableView_->addAction(playSelected_);
+    // Space is only shown here: WindowKeys takes it, also while nothing can be played.
+    play_->setShortcutContext(Qt::WidgetShortcut);
     menu->addSeparator();
     show_ = add(menu, tr("S&how in Folder"), QStringLiteral("show"), tr("Show the file in the file manager"),
                 &MainWndController::revealInFinder, {QKeySequence(Qt::CTRL | Qt::Key_E)});
@@ -179,10 +173,6 @@ void MainMenus::makeContextMenu() {
 }
 
 void MainMenus::makeStrip() {
-    // The strip's grey is the same in both shades, and so are its words and icons.
-    QPalette colors = Theme::palette(Theme::Shade::Light);
-    colors.setColor(QPalette::Disabled, QPalette::ButtonText, kStripDisabled);
-    ui_.additionalControlView_->setPalette(colors);
     place(ui_.btnTrim_, window(Window::AudioTrim), QStringLiteral("trim"), tr("Trim"));
     place(ui_.btnRingtone_, window(Window::RingtoneMaker), QStringLiteral("ringtone"), tr("Ringtone"));
     place(ui_.btnEditTags_, window(Window::ID3Edit), QStringLiteral("tags"), tr("Edit Tags"));
@@ -195,18 +185,14 @@ void MainMenus::makeStrip() {
 
 void MainMenus::place(QToolButton* button, QAction* action, const QString& icon, const QString& words) {
     constexpr QSize size(16, 16);
-    QIcon drawn;
-    for (const qreal ratio : {1.0, 2.0}) {
-        drawn.addPixmap(NamedImages::pixmap(icon, size, ratio, kStripText));
-        drawn.addPixmap(NamedImages::pixmap(icon, size, ratio, kStripDisabled), QIcon::Disabled);
-    }
-    button->setIcon(drawn);
+    button->setIcon(
+        NamedImages::icon(icon, [](QIcon::Mode mode) { return Theme::Strip::text(mode != QIcon::Disabled); }));
     button->setIconSize(size);
     button->setText(words);
     button->setAccessibleName(words);
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::StrongFocus);
+    button->setFocusPolicy(Qt::TabFocus);
     // Not the button's default action: that would bring the menu's own icon and words along.
     const auto follow = [button, action, words] {
         button->setEnabled(action->isEnabled());

@@ -14,6 +14,7 @@
 #include "Source/WndController/LibraryRowDelegates.h"
 #include "Source/WndController/MainMenus.h"
 #include "Source/WndController/RecordPanel.h"
+#include "Source/WndController/WindowKeys.h"
 #include "Source/WndController/WindowLayout.h"
 #include "ui_MainWnd.h"
 
@@ -47,6 +48,7 @@ MainWndController::MainWndController(RecordStateController& record, MediaLibrary
     panel_ = std::make_unique<RecordPanel>(*ui_, record_, *display_);
     menus_ = std::make_unique<MainMenus>(*ui_, *this);
     layout_ = std::make_unique<WindowLayout>(*window_, *ui_->librarySplitter_, *ui_->audioTableView_);
+    keys_ = std::make_unique<WindowKeys>(*window_, *menus_->play());
     bindLibrary();
 
     display_->setDelegate(this);
@@ -80,6 +82,7 @@ void MainWndController::setUpViews() {
 
     MediaNodeListTableView* table = ui_->audioTableView_;
     table->setMenuDelegate(this);
+    table->setSearchColumn(AudioTableModel::Title);
     table->setItemDelegate(new AudioRowDelegate(table));
     table->setSortingEnabled(false); // on after the columns are there: it sorts at once
 }

@@ -20,6 +20,7 @@ class MainMenus;
 class MediaLibrary;
 class QAction;
 class RecordPanel;
+class WindowKeys;
 class WindowLayout;
 namespace Ui {
 class MainWnd;
@@ -143,6 +144,7 @@ private:
     std::unique_ptr<RecordPanel> panel_;
     std::unique_ptr<MainMenus> menus_;
     std::unique_ptr<WindowLayout> layout_;
+    std::unique_ptr<WindowKeys> keys_;
     std::optional<QStringList> selectionAtStop_; ///< of the last start or stop, or as a finished file has set it since
     std::optional<QString> shownSelection_;      ///< path that the status line showed last for a selection
 };

@@ -233,6 +233,27 @@ TEST_F(LiveDisplay, TheBarIsFilledUpToTheCurrentTime) {
     EXPECT_GT(qRed(image.pixel(55, 10)), 220) << "the point stands on the border";
 }
 
+TEST_F(LiveDisplay, ThePointIsWholeAtBothEnds) {
+    AudioPlayProgressView bar;
+    bar.resize(110, 20);
+    bar.setDuration(10);
+    const auto widthOfPoint = [&](double time, qreal ratio) {
+        bar.setCurrentTime(time);
+        const QImage image = Screenshot::take(bar, u"progress-%1"_s.arg(time), ratio);
+        int pixels = 0;
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor color = image.pixelColor(x, image.height() / 2);
+            pixels += color.red() > 200 && color.alpha() > 200;
+        }
+        return pixels / ratio;
+    };
+    for (const qreal ratio : {1.0, 1.5, 2.0}) {
+        EXPECT_GE(widthOfPoint(5, ratio), 7) << ratio;
+        EXPECT_NEAR(widthOfPoint(0, ratio), widthOfPoint(5, ratio), 0.7) << ratio;
+        EXPECT_NEAR(widthOfPoint(10, ratio), widthOfPoint(5, ratio), 0.7) << ratio;
+    }
+}
+
 TEST_F(LiveDisplay, AVeryShortSoundShowsAsComplete) {
     AudioPlayProgressView bar;
     bar.resize(110, 20);
@@ -329,6 +350,43 @@ TEST(BackViews, FillTheirWholeBounds) {
     AudioWaveformBackView glass;
     glass.resize(200, 60);
     EXPECT_LT(qGray(Screenshot::take(glass, u"glass"_s).pixel(100, 30)), 60);
+}
+
+TEST(BackViews, TheStripHasADarkCounterpart) {
+    const QPalette before = QApplication::palette();
+    AdditionalControlBackView strip;
+    strip.resize(20, 20);
+    strip.show();
+    Theme::apply(Theme::Shade::Dark);
+    QCoreApplication::processEvents();
+    EXPECT_LT(qGray(Screenshot::take(strip, u"strip-dark"_s).pixel(10, 10)), 80);
+    EXPECT_GT(strip.palette().color(QPalette::ButtonText).lightness(), 200);
+    Theme::apply(Theme::Shade::Light);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Screenshot::take(strip, u"strip-light"_s).pixel(10, 10), QColor::fromRgbF(0.78F, 0.78F, 0.78F).rgba());
+    EXPECT_LT(strip.palette().color(QPalette::ButtonText).lightness(), 60);
+    QApplication::setPalette(before);
+}
+
+TEST_F(LiveDisplay, APictureUnderThePointerStaysVisible) {
+    auto* button = field<QToolButton>("changeTabViewButton");
+    for (const auto shade : {Theme::Shade::Light, Theme::Shade::Dark}) {
+        Theme::apply(shade);
+        QCoreApplication::processEvents();
+        QTest::mouseMove(panel->windowHandle(), button->mapTo(panel, button->rect().center()));
+        ASSERT_TRUE(waitFor([&] { return button->underMouse(); }));
+        const QImage image = Screenshot::take(*panel, u"hover"_s)
+                                 .copy(QRect(button->mapTo(panel, QPoint()), button->size()).adjusted(2, 2, -2, -2));
+        int light = 0;
+        int dark = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                ++(qGray(image.pixel(x, y)) > 160 ? light : dark);
+        EXPECT_GT(light, 10) << "the picture";
+        EXPECT_GT(dark, 3 * light) << "on its ground";
+        QTest::mouseMove(panel->windowHandle(), QPoint(1, 1));
+    }
+    Theme::apply(Theme::Shade::Light);
 }
 
 TEST_F(LiveDisplay, StateTextKeepsItsColorAndBlackBecomesThePanelsOwn) {

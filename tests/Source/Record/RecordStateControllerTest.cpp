@@ -386,7 +386,7 @@ TEST_F(RecordStateControllerTest, ComputerAudioWithoutItsDeviceOffersTheAddOn) {
     EXPECT_EQ(
         alerts.shown.at(0).text,
         u"KorvanAudioDevice is easy to use, it simply accept system audio data, allowing any audio application to "
-        u"send and receive audio with no other support needed. KorvanAudioDevice is free, and runs on Mac Intel "
+        u"send and receive audio with no other support needed. KorvanAudioDevice is free, and runs on Linux "
         u"computers. This driver will only be used by Sonaphex."_s);
     EXPECT_EQ(alerts.shown.at(0).buttons, (QStringList{u"Install"_s, u"Cancel"_s}));
     EXPECT_EQ(delegate.installs, 0);

@@ -99,6 +99,38 @@ TEST(NamedImages, TwoPixelsAPointGiveTwiceThePixels) {
     EXPECT_EQ(sharp.devicePixelRatio(), 2.0);
 }
 
+TEST(NamedImages, APictureIsSharpAtOneAndAHalfPixelsAPoint) {
+    // At an odd place a point begins in the middle of a pixel.
+    const QIcon icon = NamedImages::icon(u"stop"_s, [](QIcon::Mode) { return QColor(Qt::black); });
+    const auto drawn = [&](QPoint place) {
+        QImage image(90, 90, QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(1.5);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        icon.paint(&painter, QRect(place, QSize(24, 24)));
+        painter.end();
+        return image;
+    };
+    const QImage even = drawn({4, 4});
+    EXPECT_GT(Screenshot::coverage(even, QColor(Qt::white).rgba()), 0.01);
+    const QImage odd = drawn({5, 5});
+    EXPECT_EQ(odd.copy(8, 8, 36, 36), even.copy(6, 6, 36, 36)) << "the same pixels, at a whole pixel";
+}
+
+TEST(NamedImages, AnIconOnAGroundOfItsOwnAsksForItsColorEachTime) {
+    QColor color = Qt::green;
+    const QIcon icon = NamedImages::icon(u"trim"_s, [&](QIcon::Mode) { return color; });
+    EXPECT_TRUE(contains(icon.pixmap(QSize(48, 48), 1.0).toImage(), Qt::green));
+    color = Qt::magenta;
+    EXPECT_TRUE(contains(icon.pixmap(QSize(48, 48), 1.0).toImage(), Qt::magenta));
+}
+
+TEST(NamedImages, RecordingAndPlayingDoNotShareOnePauseSymbol) {
+    const QImage record = picture(u"RecorderPause.png"_s, Qt::black);
+    EXPECT_TRUE(contains(record, QColor(0xe5383b))) << "the dot of a recording";
+    EXPECT_FALSE(contains(picture(u"Pause.png"_s, Qt::black), QColor(0xe5383b)));
+}
+
 TEST(NamedImages, DisabledIconsLookDisabled) {
     const QIcon icon = NamedImages::icon(u"RecorderStart.png"_s);
     const QImage on = icon.pixmap(QSize(48, 48), 1.0, QIcon::Normal).toImage();

@@ -67,6 +67,7 @@ protected:
     void take(const QString& name, qreal ratio = 1) {
         for (const auto shade : {Theme::Shade::Light, Theme::Shade::Dark}) {
             Theme::apply(shade);
+            QCoreApplication::processEvents(); // the palette reaches the windows by an event
             ASSERT_TRUE(waitFor([this] { return filesAreKnown(); }));
             const QString full = name + (shade == Theme::Shade::Dark ? u"-dark"_s : u"-light"_s);
             const QImage image = Screenshot::take(*world.controller->window(), full, ratio);
