@@ -59,9 +59,8 @@ void setElided(QLabel* label, const QString& text) {
 }
 
 void setGlassIcon(QToolButton* button, const QString& name) {
-    button->setIcon(NamedImages::icon(name, [](QIcon::Mode mode) {
-        return mode == QIcon::Active ? Theme::Glass::text() : Theme::Glass::dimText();
-    }));
+    button->setIcon(NamedImages::icon(
+        name, [](QIcon::Mode mode) { return mode == QIcon::Active ? Theme::Glass::text() : Theme::Glass::dimText(); }));
     button->setIconSize({20, 20});
 }
 

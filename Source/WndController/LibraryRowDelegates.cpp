@@ -51,8 +51,8 @@ void OutlineRowDelegate::initStyleOption(QStyleOptionViewItem* option, const QMo
         option->palette.setColor(QPalette::Text, option->palette.color(QPalette::Active, QPalette::PlaceholderText));
     }
     const auto colors = markMode(*option) == QIcon::Selected ? QPalette::HighlightedText : QPalette::ButtonText;
-    option->icon = NamedImages::icon(option->icon.name(), [color = option->palette.color(QPalette::Active, colors)](
-                                                              QIcon::Mode) { return color; });
+    option->icon = NamedImages::icon(
+        option->icon.name(), [color = option->palette.color(QPalette::Active, colors)](QIcon::Mode) { return color; });
 }
 
 int AudioRowDelegate::rowHeight(const QTableView& table) {
