@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AppWindows.h"
 
+#include "Platform/Desktop/MediaPlayer.h"
+#include "Platform/Foundation/Bundle.h"
+#include "Platform/Foundation/Folders.h"
 #include "Platform/Foundation/Services.h"
 #include "Source/CDBurn/CDBurnWndController.h"
 #include "Source/Control/EditNote.h"
@@ -15,6 +18,7 @@
 #include "Source/View/Theme.h"
 #include "Source/WndController/ComputerAudioDevice.h"
 #include "Source/WndController/EditWindows.h"
+#include "Source/WndController/LibraryPlayer.h"
 #include "Source/WndController/LibraryPresenter.h"
 #include "Source/WndController/MainMenus.h"
 #include "Source/WndController/MainWndController.h"
@@ -90,7 +94,10 @@ public:
         auto& preferences = static_cast<PreferenceWndController&>(*application.preferenceWndController());
         QObject::connect(record_.get(), &RecordStateController::stateChanged, &preferences,
                          &PreferenceWndController::flushExistSystemAudioRecordDevice);
-        // A child of the window's controller: it goes first.
+        // Children of the window's controller: they go first.
+        const QString identifier = Platform::services().bundle->bundleIdentifier();
+        new LibraryPlayer(window, Platform::MediaPlayer::create(QStringLiteral("sonaphex"), identifier),
+                          Platform::Folders::cache() + u'/' + identifier + QStringLiteral("/cover"), &window);
         auto* item = new StatusBarItem(window, &window);
         const ShortcutCommand commands[] = {
             {preferences.startStopShortcut(), item->startStopMenu(), &MainWndController::startAndStopRecord,

@@ -241,6 +241,8 @@ void AudioWaveViewController::setAudioPosition(float seconds) {
     if (playSound_)
         playSound_->setCurrentTime(position);
     updatePlaySoundProgress();
+    if (playSound_)
+        Q_EMIT audioPositionSet(double(position));
 }
 
 void AudioWaveViewController::setNotices(const QStringList& notices) {

@@ -117,6 +117,8 @@ Q_SIGNALS:
     void stateColorChanged();
     void changeTabViewButtonStateChanged();
     void playSoundProgressChanged();
+    /// Somebody moved the position of the sound; seconds.
+    void audioPositionSet(double seconds);
     /// The user has seen the notices.
     void noticesDismissed();
 

@@ -254,13 +254,15 @@ void LibraryPresenter::followPlayingEntry() {
         letSoundGo(); // a recording that was deleted is not played on
         return;
     }
+    playingEntry_ = entry;
     display_.setTitle(AudioTags::audioTag(entry, QStringLiteral("title")).toString());
     display_.setArtist(AudioTags::audioTag(entry, QStringLiteral("artist")).toString());
     const QString path = Platform::stringForm(AudioTags::audioTag(entry, QStringLiteral("path")));
-    if (path == sound->path())
-        return;
-    sound->setPath(path); // it plays on: its file is open
-    tableModel_->setPlayingPath(path);
+    if (path != sound->path()) {
+        sound->setPath(path); // it plays on: its file is open
+        tableModel_->setPlayingPath(path);
+    }
+    Q_EMIT playbackChanged();
 }
 
 void LibraryPresenter::updateTableViewActionEnable() {
@@ -286,14 +288,20 @@ void LibraryPresenter::updatePlaySoundButton() {
     QMetaObject::invokeMethod(this, &LibraryPresenter::updatePlaySoundState);
 }
 
+void LibraryPresenter::playbackDidChange() {
+    updatePlaySoundState();
+    Q_EMIT playbackChanged();
+}
+
 void LibraryPresenter::letSoundGo() {
     stopSound();
     playingKey_.clear();
+    playingEntry_.clear();
     display_.setPlaySound(nullptr);
     display_.setTitle({});
     display_.setArtist({});
     tableModel_->setPlayingPath({});
-    updatePlaySoundState();
+    playbackDidChange();
 }
 
 void LibraryPresenter::watchForTheEnd(const std::shared_ptr<CustomSound>& sound) {
@@ -301,13 +309,17 @@ void LibraryPresenter::watchForTheEnd(const std::shared_ptr<CustomSound>& sound)
         return;
     connect(sound->sound(), &Platform::Sound::finished, this, [this, watched = std::weak_ptr(sound)] {
         const auto ended = watched.lock();
-        // One that the sound server left behind can be tried again.
-        if (stopping_ || !ended || !ended->sound()->lastError().isEmpty())
+        if (stopping_ || !ended)
             return;
         Platform::MainQueue::post(this, [this, watched] {
             const auto still = watched.lock();
-            if (still && still == display_.playSound() && still->isStop())
+            if (!still || still != display_.playSound() || !still->isStop())
+                return;
+            // One that the sound server left behind can be tried again.
+            if (still->sound()->lastError().isEmpty())
                 letSoundGo();
+            else
+                playbackDidChange();
         });
     });
 }
@@ -318,8 +330,9 @@ void LibraryPresenter::stopSound() {
         sound->stop();
 }
 
-void LibraryPresenter::playSoundFile(const Dictionary& entry) {
+void LibraryPresenter::takeUp(const Dictionary& entry) {
     stopSound();
+    playingEntry_ = entry;
     const QVariant key = AudioRecordEntry::keyOf(entry);
     playingKey_ = key.isValid() ? Platform::stringForm(key) : QString();
     const QString path = Platform::stringForm(AudioTags::audioTag(entry, QStringLiteral("path")));
@@ -328,14 +341,24 @@ void LibraryPresenter::playSoundFile(const Dictionary& entry) {
     auto sound = std::make_shared<CustomSound>(path);
     display_.setPlaySound(sound);
     watchForTheEnd(sound);
-    sound->play();
     tableModel_->setPlayingPath(path);
-    updatePlaySoundState();
+}
+
+void LibraryPresenter::playSoundFile(const Dictionary& entry) {
+    takeUp(entry);
+    const auto sound = display_.playSound();
+    sound->play();
+    playbackDidChange();
     sayWhyNothingPlays(*sound);
     if (sound->duration() > 0)
         return;
-    missing_->forget(path);
+    missing_->forget(sound->path());
     letSoundGo();
+}
+
+void LibraryPresenter::takeUpSoundFile(const Dictionary& entry) {
+    takeUp(entry);
+    playbackDidChange();
 }
 
 void LibraryPresenter::sayWhyNothingPlays(const CustomSound& sound) {
@@ -359,7 +382,7 @@ void LibraryPresenter::playSoundButtonAction() {
     }
     if (sound->isPlaying()) {
         sound->pause();
-        updatePlaySoundState();
+        playbackDidChange();
         return;
     }
     // It may have been paused, or stopped by a recording, and its file deleted since.
@@ -370,7 +393,7 @@ void LibraryPresenter::playSoundButtonAction() {
         return;
     }
     sound->play();
-    updatePlaySoundState();
+    playbackDidChange();
     sayWhyNothingPlays(*sound);
 }
 
@@ -383,7 +406,7 @@ void LibraryPresenter::tableViewDoubleAction() {
 
 void LibraryPresenter::stopSoundPlaying() {
     stopSound();
-    QMetaObject::invokeMethod(this, &LibraryPresenter::updatePlaySoundState, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &LibraryPresenter::playbackDidChange, Qt::QueuedConnection);
 }
 
 void LibraryPresenter::deleteAudioFile() {

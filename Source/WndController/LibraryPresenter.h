@@ -82,6 +82,8 @@ public:
     [[nodiscard]] bool isPlaySoundPlaying() const;
     /// The file of the display's sound, also while it is paused or stopped; empty without a sound.
     [[nodiscard]] QString playingPath() const;
+    /// The entry that the display's sound was made of, as the library has it now; empty without a sound.
+    [[nodiscard]] Dictionary playingEntry() const { return playingEntry_; }
     /// Only announces the two keys of playing; the value is the sound's own.
     void setIsPlaySoundPlaying(bool ignored);
 
@@ -93,7 +95,10 @@ public:
     void updatePlaySoundButton();
 
     // ---- actions ----------------------------------------------------------------------------------------------------
+    /// Makes the entry's file the display's sound and plays it.
     void playSoundFile(const Dictionary& entry);
+    /// The same without playing it: it begins with the next playSoundButtonAction().
+    void takeUpSoundFile(const Dictionary& entry);
     void playSoundButtonAction();
     void tableViewDoubleAction();
     void stopSoundPlaying();
@@ -114,6 +119,9 @@ Q_SIGNALS:
     void canFilterAudioChanged();
     void isPlaySoundButtonEnableChanged();
     void isPlaySoundPlayingChanged();
+    /// There is another sound, it began, paused, went on or ended, or its entry changed. Unlike
+    /// isPlaySoundPlayingChanged() never without a cause.
+    void playbackChanged();
     /// Something that the user asked for could not be done; one sentence.
     void problem(const QString& text);
 
@@ -125,6 +133,9 @@ private:
     [[nodiscard]] CustomSound* currentSound() const;
     /// Brings path and titles of the sound in step with its entry: its file may have been renamed while it plays.
     void followPlayingEntry();
+    void takeUp(const Dictionary& entry);
+    /// updatePlaySoundState() and playbackChanged().
+    void playbackDidChange();
     /// The sound is no longer the current one, so that Play follows the selection again.
     void letSoundGo();
     /// Lets a sound go when it has come to its end, later on: it is still telling so.
@@ -141,7 +152,8 @@ private:
     AudioFilterController& filter_;
     IsRecording isStateAudioRecord_;
     bool stopping_ = false; ///< the sound ends by hand, not at its end
-    QString playingKey_;    ///< identity of the entry that the display's sound belongs to
+    Dictionary playingEntry_;
+    QString playingKey_; ///< identity of the entry that the display's sound belongs to
     std::unique_ptr<MissingFiles> missing_;
     std::unique_ptr<LibraryOutlineModel> outlineModel_;
     std::unique_ptr<AudioTableModel> tableModel_;
