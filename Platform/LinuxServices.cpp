@@ -23,8 +23,8 @@
 namespace Platform {
 
 struct LinuxServices::Private {
-    ServicesScope before;                    // destroyed last: until then everyone finds the services
-    std::unique_ptr<PrivateSession> session; // outlives all that speaks with it
+    ServicesScope before;                    // destroyed last: the services stay available until then
+    std::unique_ptr<PrivateSession> session; // outlives everything that is connected to it
     bool audioStarted = false;
     bool audioWorks = false;
     std::unique_ptr<Bundle> bundle;
@@ -36,7 +36,7 @@ struct LinuxServices::Private {
     std::unique_ptr<Alerts> alerts;
     std::unique_ptr<AdminShell> adminShell;
     std::unique_ptr<SleepInhibitor> sleepInhibitor;
-    std::unique_ptr<DiscRecording> discRecording; // a burn that runs reads through mediaFiles
+    std::unique_ptr<DiscRecording> discRecording; // a running burn reads through mediaFiles
     std::unique_ptr<DiskArbitration> diskArbitration;
     std::unique_ptr<ColorScheme> colorScheme;
     std::unique_ptr<HotKeys> hotKeys;
@@ -55,12 +55,12 @@ void LinuxServices::install(Mode mode) {
     set.clock = (d->clock = createClock()).get();
     set.userDefaults = (d->userDefaults = createUserDefaults(set.bundle->bundleIdentifier())).get();
     set.mediaFiles = (d->mediaFiles = createMediaFiles()).get();
-    set.sounds = (d->sounds = createSounds(*set.mediaFiles)).get(); // connects when something plays
+    set.sounds = (d->sounds = createSounds(*set.mediaFiles)).get(); // connects when something is played
     set.workspace = (d->workspace = createWorkspace()).get();
     set.alerts = (d->alerts = createCommandLineAlerts()).get();
     set.adminShell = (d->adminShell = createAdminShell()).get();
     set.sleepInhibitor = (d->sleepInhibitor = createSleepInhibitor()).get();  // connects when something is recorded
-    d->discRecording = std::make_unique<LinuxDiscRecording>(*set.mediaFiles); // looks for drives when it is asked
+    d->discRecording = std::make_unique<LinuxDiscRecording>(*set.mediaFiles); // looks for drives when it is first asked
     set.discRecording = d->discRecording.get();
     set.diskArbitration = (d->diskArbitration = createDiskArbitration()).get();
     if (mode == Mode::CommandLine)

@@ -9,26 +9,26 @@
 
 namespace Platform {
 
-/// Makes the Linux side of the platform's services and puts it behind Platform::services() for as long as it lives.
-/// Main thread; one at a time. Needs a QCoreApplication.
+/// Creates the Linux implementations of the platform's services and installs them in Platform::services() while it
+/// lives. Main thread; one at a time. Needs a QCoreApplication.
 class LinuxServices {
 public:
-    /// Which program asks: subcommands speak through standard error and take no hot keys.
+    /// The kind of program: subcommands report on standard error and grab no hot keys.
     enum class Mode { CommandLine, Window };
 
     LinuxServices();
-    /// Ends the services, those that use others first, and with them a private session.
+    /// Destroys the services in the reverse order of their dependencies, then a private session.
     ~LinuxServices();
     LinuxServices(const LinuxServices&) = delete;
     LinuxServices& operator=(const LinuxServices&) = delete;
 
-    /// All services that need no sound server. Cheap: a subcommand that only reads a file pays for nothing else.
+    /// Installs all services that need no sound server. Cheap: a subcommand that only reads a file starts nothing else.
     void install(Mode mode);
-    /// Connects to the sound server and adds the services that speak with it. A server that is slow to answer is waited
-    /// for, up to 30 seconds. On a machine without one a private session is started first. One line on standard error
-    /// says either. A second call does nothing.
-    /// @p whileWaiting is called about fifty times a second while a server is waited for; false gives up.
-    /// @return false when no server answers and none can be started; @p why then says what is wrong.
+    /// Connects to the sound server and installs the services that use it. Waits up to 30 seconds for a slow server. On
+    /// a machine without a server a private session is started first. One line on standard error reports either case. A
+    /// second call does nothing.
+    /// @p whileWaiting is called about fifty times a second while it waits for a server; when it returns false, the
+    /// wait ends. @return false when no server answers and none can be started, with the reason in @p why.
     [[nodiscard]] bool startAudio(QString& why, const std::function<bool()>& whileWaiting = {});
 
 private:

@@ -13,8 +13,8 @@
 
 namespace Platform {
 
-/// The audio devices of the machine as an object model: numbered devices with properties. Main thread; the answers come
-/// from a picture that the sound server keeps up to date, so no call waits long.
+/// The audio devices of the machine as an object model: numbered devices with properties. Main thread. A thread of the
+/// sound server keeps the data current, so no call waits long.
 class AudioHardware : public QObject {
     Q_OBJECT
 public:
@@ -39,12 +39,14 @@ public:
     /// Rate in Hz and channels of the input side.
     virtual OSStatus getInputFormat(AudioObjectID device, double& sampleRate, std::uint32_t& channels) = 0;
 
-    /// Finds and opens the hardware output unit: null when there is none (@p found false) or it does not open.
+    /// Finds and opens the hardware output unit. Null when there is none (@p found is false) or when it cannot be
+    /// opened.
     [[nodiscard]] virtual std::unique_ptr<InputUnit> openOutputUnit(bool& found) = 0;
 
-    /// Whether the sound server is our own, for a machine without one: its input device is a test tone.
+    /// Whether the sound server is the private one that this program starts on a machine without one: its input device
+    /// is a test tone.
     [[nodiscard]] virtual bool isTestTone() const { return false; }
-    /// Whether a sound server answers, and why not.
+    /// Whether a sound server answers; lastError() says why not.
     [[nodiscard]] virtual bool connected() const = 0;
     [[nodiscard]] virtual QString lastError() const = 0;
 
@@ -55,8 +57,8 @@ Q_SIGNALS:
     void connectedChanged(bool connected);
 };
 
-/// The Linux side. Begins to connect at once; goes on trying while there is no server. Main thread. @p testTone says
-/// that the server is a private session of this process.
+/// Makes the Linux implementation. It connects at once and keeps trying while there is no server. Main thread. @p
+/// testTone says that the server is a private session of this process.
 [[nodiscard]] std::unique_ptr<AudioHardware> createAudioHardware(bool testTone = false);
 
 } // namespace Platform

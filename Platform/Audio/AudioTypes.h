@@ -41,9 +41,9 @@ struct AudioStreamBasicDescription {
     double mSampleRate = 0;            ///< frames a second
     std::uint32_t mFormatID = 0;       ///< four letters: "lpcm", "aac "
     std::uint32_t mFormatFlags = 0;    ///< of the format
-    std::uint32_t mBytesPerPacket = 0; ///< 0 when packets vary
+    std::uint32_t mBytesPerPacket = 0; ///< 0 when the size varies from packet to packet
     std::uint32_t mFramesPerPacket = 0;
-    std::uint32_t mBytesPerFrame = 0; ///< of one channel when not interleaved
+    std::uint32_t mBytesPerFrame = 0; ///< of one channel when each channel has its own buffer
     std::uint32_t mChannelsPerFrame = 0;
     std::uint32_t mBitsPerChannel = 0;
     std::uint32_t mReserved = 0;
@@ -81,5 +81,5 @@ struct AudioBufferList {
 struct AudioTimeStamp {
     std::uint64_t mHostTime = 0; ///< nanoseconds of the steady clock, of the first frame
     double mSampleTime = 0;      ///< frames since the unit started, lost ones included
-    bool mStartsAnew = false;    ///< the first cycle of a connection: of the time before it nothing is known
+    bool mStartsAnew = false;    ///< first cycle of a connection: it does not follow any earlier cycle
 };

@@ -14,7 +14,8 @@ ClientBlock::ClientBlock() {
 }
 
 std::uint32_t ClientBlock::prepare(const AudioStreamBasicDescription& format) {
-    // The first buffer is labelled with the channels of the format although it holds one, as it has always been.
+    // The first buffer states the channel count of the format although it holds one channel. Readers of the list expect
+    // this.
     list_.head.mBuffers[0] = {format.mChannelsPerFrame, kBytes, left_.data()};
     list_.second = {1, kBytes, right_.data()};
     return kBytes / format.mBytesPerFrame;

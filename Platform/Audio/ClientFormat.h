@@ -7,10 +7,10 @@
 #include <array>
 #include <cstdint>
 
-/// The format in which sound is edited: 44100 Hz, two channels of 32-bit float, one buffer a channel.
+/// The format in which audio is edited: 44100 Hz, two channels of 32-bit float, one buffer per channel.
 [[nodiscard]] AudioStreamBasicDescription clientFormat();
 
-/// 512 frames of sound in the client format, used again for every pass of a copy. The memory is part of the object.
+/// 512 frames of audio in the client format, reused for every pass of a copy. The samples are members of the object.
 class ClientBlock {
 public:
     static constexpr std::uint32_t kBytes = 2048;
@@ -20,15 +20,15 @@ public:
     ClientBlock(const ClientBlock&) = delete;
     ClientBlock& operator=(const ClientBlock&) = delete;
 
-    /// Makes the block ready to be filled. @return the frames to ask for
+    /// Resets sizes and pointers so that a reader can fill the block. @return the number of frames to ask for
     [[nodiscard]] std::uint32_t prepare(const AudioStreamBasicDescription& format);
     [[nodiscard]] AudioBufferList* list() { return &list_.head; }
     [[nodiscard]] float firstSample() const { return left_[0]; }
-    /// Multiplies all samples of both channels, also those behind the frames that were read.
+    /// Multiplies all samples of both channels, including those behind the frames that were read.
     void scale(float gain);
 
 private:
-    // The list type ends in an array of one buffer; the second buffer follows it in memory.
+    // AudioBufferList ends in an array of one buffer; the second buffer follows it in memory.
     struct TwoBuffers {
         AudioBufferList head;
         AudioBuffer second;

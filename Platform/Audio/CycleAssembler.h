@@ -14,20 +14,20 @@ struct CaptureCycle {
     std::uint32_t frames = 0;
     std::uint64_t hostTime = 0;   ///< capture time of the first frame, steady nanoseconds
     std::uint64_t sampleTime = 0; ///< frames since the start, lost ones included
-    bool startsAnew = false;      ///< begins with the first frame of a connection; never where holes are filled
+    bool startsAnew = false; ///< starts with the first frame of a connection; never set where lost frames are filled
 };
 
-/// Cuts what the ring holds into cycles of one size. It belongs to the I/O thread.
-///
-/// Frames are neither dropped nor repeated. Where frames were lost, a cycle ends early, so that none spans the hole;
-/// or, when holes are to be filled, silence of equal length takes their place and the cycles keep their size.
+/// Cuts the ring's content into cycles of one size. Used by the I/O thread only.
+/// No frame is dropped or repeated. Where frames were lost, the cycle ends early, so that no cycle spans the gap. When
+/// gaps are to be filled, silence of the same length is inserted and the cycles keep their size.
 class CycleAssembler {
 public:
     CycleAssembler(CaptureRing& ring, double sampleRate, std::uint32_t cycleFrames);
 
-    /// Makes the next cycle. False when the ring holds too little for one; with @p flush also a part is a cycle.
+    /// Makes the next cycle. False when the ring does not hold enough frames for one; with @p flush a shorter cycle is
+    /// made from the rest.
     [[nodiscard]] bool next(CaptureCycle& cycle, bool fillLost, bool flush = false);
-    /// The samples of the cycle that next() made last.
+    /// The samples of the cycle that the last next() made.
     [[nodiscard]] const float* channel(std::uint32_t index) const { return buffer_.data() + index * cycleFrames_; }
 
 private:
@@ -42,10 +42,10 @@ private:
     std::vector<float> buffer_; ///< cycleFrames_ samples a channel
     std::vector<float*> destinations_;
     std::uint32_t filled_ = 0;
-    std::uint64_t hostTime_ = 0; ///< of the first frame in buffer_
+    std::uint64_t hostTime_ = 0; ///< capture time of the first frame in buffer_
     std::uint64_t sampleTime_ = 0;
-    bool startsAnew_ = false; ///< as of the cycle to come
-    bool holePassed_ = false; ///< the hole before the ring's front was dealt with
+    bool startsAnew_ = false; ///< value for the next cycle
+    bool holePassed_ = false; ///< the lost frames before the ring's front were already handled
     std::uint64_t silenceLeft_ = 0;
 };
 

@@ -10,24 +10,24 @@
 
 namespace Platform {
 
-/// A hardware output unit that is used for input only: it captures one device and calls back once a cycle.
-///
+/// A hardware output unit that is used for input only: it captures one device and calls back once per cycle.
 /// Each step that can fail is a method of its own. The steps before start() may come in any sensible order and run on
 /// the main thread. The callback runs on the unit's own I/O thread (not the sound server's data thread), so it may take
-/// a lock or wait for a writer; what arrives meanwhile waits in the unit's ring. The unit keeps the rate, channel count
-/// and buffer size that were read at configuration: a device that comes back with others is converted on the way in.
+/// a lock or wait for a writer; meanwhile the unit's ring collects the audio. The unit keeps the rate, channel count
+/// and buffer size that were read at configuration: if the device returns with other values, its audio is converted.
 class InputUnit {
 public:
-    /// Told once a cycle. @p refCon is what was set with it. The data is fetched with render().
+    /// Called once per cycle. @p refCon is the pointer that was set with it. The callback fetches the data with
+    /// render().
     using RenderCallback = OSStatus (*)(void* refCon, std::uint32_t* actionFlags, const AudioTimeStamp* timeStamp,
                                         std::uint32_t busNumber, std::uint32_t frames, AudioBufferList* data);
 
-    /// What happens to the device while the unit runs; delivered on the main thread.
-    /// NothingComes: the device is there and has delivered nothing for a while; its next cycle ends that.
+    /// Changes of the device while the unit runs; delivered on the main thread.
+    /// NothingComes: the device exists but has delivered nothing for a while; its next cycle ends this state.
     enum class Event { DeviceLost, DeviceReturned, ServerLost, ServerReturned, FramesLost, NothingComes };
     using EventHandler = std::function<void(Event)>;
 
-    /// Stops and closes: when the destructor returns, no callback runs or will run.
+    /// Stops and closes. When the destructor returns, no callback runs and none will.
     virtual ~InputUnit() = default;
 
     virtual OSStatus setEnableInput(bool on) = 0;
@@ -45,32 +45,33 @@ public:
     /// After it returns no callback runs. May be started again.
     virtual OSStatus stop() = 0;
 
-    /// Fetches the frames of the cycle at hand into @p data; only inside the callback. Sets each buffer's byte size.
+    /// Copies the frames of the current cycle into @p data; only inside the callback. Sets each buffer's byte size.
     virtual OSStatus render(std::uint32_t* actionFlags, const AudioTimeStamp* timeStamp, std::uint32_t busNumber,
                             std::uint32_t frames, AudioBufferList* data) = 0;
 
-    /// While held, the I/O thread begins no new cycle (what arrives waits in the ring). Nestable, from any thread,
-    /// the unit's own callback included; returns once no cycle of *another* thread is under way.
+    /// While held, the I/O thread starts no new cycle; the ring collects the audio. Nestable. Any thread, also inside
+    /// the unit's own callback. Returns when no cycle is running on *another* thread.
     virtual void holdCycles() = 0;
     virtual void releaseCycles() = 0;
 
-    /// Frames that were lost before the ring since start(): the only place where audio may be lost. Also what the
-    /// device would have delivered while it or the server was away, once it is back. Any thread.
+    /// Frames lost before the ring since start(), the only place where audio may be lost. Includes the time during
+    /// which the device or the server was away, once it is back. Any thread.
     [[nodiscard]] virtual std::uint64_t lostFrames() const = 0;
-    /// Those of them that our own ring had no room for, because the I/O thread was kept from running or held for longer
-    /// than the ring is deep. The others never reached us: the server missed a cycle, or the device was away.
+    /// The part of lostFrames() that our own ring had no room for, because the I/O thread did not run or was held for
+    /// longer than the ring is deep. All other losses happened before the ring: the server missed a cycle, or the
+    /// device was away.
     [[nodiscard]] virtual std::uint64_t overrunFrames() const { return 0; }
-    /// Whether a lost stretch becomes silence of equal length (needed where two sources must stay together) instead of
-    /// being left out. Any thread, at any time; holds for the holes that are met from then on. The time without a
-    /// device or server counts as lost too.
+    /// Whether lost frames are replaced by silence of the same length (two sources that must stay aligned need this) or
+    /// left out. Any thread, at any time; applies to gaps found from then on. The time without a device or server
+    /// counts as lost, too.
     virtual void setFillLostFrames(bool /*on*/) {}
     /// Main thread; before start().
     virtual void setEventHandler(EventHandler handler) = 0;
-    /// Why the last step failed, for people and the log. Empty when nothing did.
+    /// Why the last step failed, for the user and the log. Empty when nothing failed.
     [[nodiscard]] virtual QString lastError() const = 0;
 };
 
-/// Keeps a unit's I/O thread from beginning a cycle while it lives. Without a unit there is nothing to keep.
+/// Keeps a unit's I/O thread from starting a cycle while this object lives. Does nothing when there is no unit.
 class CyclesHeld {
 public:
     explicit CyclesHeld(InputUnit* unit) : unit_(unit) {

@@ -24,7 +24,7 @@ constexpr std::array places = {
     Place{"FC", {minus3dB, minus3dB}},
     Place{"LFE", {minus6dB, minus6dB}},
     Place{"LFE2", {minus6dB, minus6dB}},
-    // One rear channel stands for two surrounds: 3 dB lower for its place and 3 dB for being heard on both sides.
+    // One rear channel replaces two surround channels: 3 dB lower for its position and 3 dB because both sides play it.
     Place{"RC", {minus6dB, minus6dB}},
     Place{"TC", {minus6dB, minus6dB}},
     Place{"TFC", {minus6dB, minus6dB}},
@@ -32,7 +32,7 @@ constexpr std::array places = {
     Place{"BC", {minus6dB, minus6dB}},
 };
 
-/// "SL", "RL", "FLC", "TFL", "RLC" and their right counterparts: the side is the last L or R of the name's place.
+/// "SL", "RL", "FLC", "TFL", "RLC" and their right counterparts: the last L or R of the name is the side.
 StereoGains sideOf(std::string_view channel) {
     if (channel.ends_with('C') || channel.ends_with('W') || channel.ends_with('H'))
         channel.remove_suffix(1);

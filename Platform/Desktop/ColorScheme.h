@@ -6,8 +6,8 @@
 
 namespace Platform {
 
-/// Whether the desktop wants light or dark windows. Main thread. Starts with NoPreference and tells the answer later:
-/// a program that waited for it would open its window late on a busy desktop.
+/// Whether the desktop wants light or dark windows. Main thread. Starts with NoPreference and signals the answer later:
+/// waiting for it would delay the first window on a busy desktop.
 class ColorScheme : public QObject {
     Q_OBJECT
 public:

@@ -4,11 +4,11 @@
 
 namespace Platform {
 
-/// Says what the user is typing into, for code that knows no widgets. Main thread.
+/// Tells which kind of control has the focus, for code that does not use widgets. Main thread.
 class FocusProbe {
 public:
     virtual ~FocusProbe() = default;
-    /// Whether the field with the focus captures a key combination: hot keys rest while one is being chosen.
+    /// Whether the focused field captures a key combination. Hot keys are disabled while the user chooses one.
     [[nodiscard]] virtual bool isEditKeybordShortcutControl() const = 0;
 };
 

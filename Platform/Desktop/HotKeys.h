@@ -18,27 +18,28 @@ public:
         std::uint32_t signature = 0;
         std::uint32_t id = 0;
     };
-    /// Called on the main thread for each press of a registered combination; a held key calls it once.
+    /// Called on the main thread once per press of a registered combination; auto-repeat does not call it again.
     using Handler = std::function<void(Id)>;
 
-    /// How combinations are taken on this desktop.
+    /// How combinations are grabbed on this desktop.
     enum class Way { None, X11Grab, Portal };
 
     virtual ~HotKeys() = default;
     [[nodiscard]] virtual Way way() const = 0;
     /// Called when way() changed: a desktop portal answers some time after the start.
     virtual void setWayChangedHandler(std::function<void()> /*handler*/) {}
-    /// What a combination does, in words that a desktop may show when it asks the user for consent.
+    /// Describes a combination's action. A desktop may show this text when it asks the user for consent.
     virtual void describe(Id /*id*/, const QString& /*text*/) {}
     virtual void setHandler(Handler handler) = 0;
-    /// Called on the main thread when a combination that registerHotKey() took is refused afterwards: a desktop portal
-    /// answers later, and may ask the user first. The handle is no longer valid then.
+    /// Called on the main thread when a combination that registerHotKey() accepted is refused later: a desktop portal
+    /// answers asynchronously and may ask the user first. The handle is no longer valid then.
     using RefusedHandler = std::function<void(Handle)>;
     virtual void setRefusedHandler(RefusedHandler /*handler*/) {}
-    /// Takes a combination for the program.
+    /// Grabs a combination for the program.
     /// @param keyCode ANSI virtual key code of the physical key
     /// @param carbonModifiers 256 Command, 512 Shift, 2048 Option, 4096 Control
-    /// @return 0 when the system, another client or another of our own registrations holds it, or no way exists.
+    /// @return 0 when the system, another client or another registration of this process holds it, or when way() is
+    /// None.
     [[nodiscard]] virtual Handle registerHotKey(std::uint16_t keyCode, std::uint32_t carbonModifiers, Id id) = 0;
     virtual void unregisterHotKey(Handle handle) = 0;
 };

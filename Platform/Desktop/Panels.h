@@ -27,12 +27,12 @@ public:
     /// A modal panel that picks one existing file; the filter reads "Images (*.png *.jpg)".
     virtual std::optional<QString> chooseFile(QObject* window, const QString& title, const QString& startFolder,
                                               const QString& filter) = 0;
-    /// What the save panel does with the name of a file that exists.
+    /// What the save panel does when the chosen file exists.
     enum class Existing {
-        Asked,  ///< it asks before the name is taken
-        Unasked ///< the name is taken: the caller decides
+        Asked,  ///< the panel asks before it accepts the name
+        Unasked ///< the panel accepts the name; the caller decides
     };
-    /// A modal panel that names a file to write.
+    /// A modal panel that asks for the path of a file to write.
     virtual std::optional<QString> saveFile(QObject* window, const QString& title, const QString& startPath,
                                             Existing existing) = 0;
     std::optional<QString> saveFile(QObject* window, const QString& title, const QString& startPath) {

@@ -8,13 +8,13 @@
 
 namespace Platform {
 
-/// Keeps the machine awake while a recording runs. Main thread; nothing ever waits for the system's answer.
+/// Keeps the machine awake while a recording runs. Main thread; no call waits for the system's answer.
 class SleepInhibitor {
 public:
     virtual ~SleepInhibitor() = default;
     /// @param why one sentence that the system may show to the user
     virtual void setInhibited(bool inhibited, const QString& why) = 0;
-    /// Whether the system has granted it by now.
+    /// Whether the system has granted the request.
     [[nodiscard]] virtual bool isInhibited() const = 0;
 };
 

@@ -8,15 +8,15 @@
 
 namespace Platform {
 
-/// Whether the desktop has a status bar that takes items of programs. Main thread. Looks without waiting: at login a
-/// program may be up before the panel that holds its item.
+/// Whether the desktop has a status bar for program items. Main thread. Does not wait: at login the program may start
+/// before the panel.
 class StatusBars : public QObject {
     Q_OBJECT
 public:
     [[nodiscard]] static std::unique_ptr<StatusBars> create();
 
 Q_SIGNALS:
-    /// The first one is there.
+    /// The first status bar appeared.
     void appeared();
 };
 

@@ -8,8 +8,8 @@
 
 namespace Platform {
 
-/// The desktop around the program. A recording that a crash left torn is whole when it is handed on. Main thread, but
-/// for noteFileSystemChanged().
+/// The desktop around the program. A recording that a crash left incomplete is repaired before it is handed to another
+/// program. Main thread, except noteFileSystemChanged().
 class Workspace : public QObject {
     Q_OBJECT
 public:
@@ -18,14 +18,14 @@ public:
     /// Opens the file with the named application; "iTunes" stands for the desktop's default player of the file's type.
     virtual bool openFile(const QString& path, const QString& application) = 0;
     virtual bool openUrl(const QUrl& url) = 0;
-    /// Says that a file changed. From any thread but the audio thread; costs a queued signal, nothing more.
+    /// Signals that a file changed. Any thread but the audio thread; only queues a signal.
     void noteFileSystemChanged(const QString& path) { Q_EMIT fileSystemChanged(path); }
 
 Q_SIGNALS:
     void fileSystemChanged(const QString& path);
 };
 
-/// Workspace::noteFileSystemChanged() of the process's workspace, where there is one.
+/// Calls noteFileSystemChanged() of the process's workspace, if there is one.
 void noteFileSystemChanged(const QString& path);
 
 } // namespace Platform

@@ -9,11 +9,11 @@
 
 namespace Platform {
 
-/// A track of an audio CD that is made from a sound file of any kind. The file stays open from the moment when it is
-/// measured, so that one which is deleted afterwards is still burned.
+/// A track of an audio CD, made from an audio file of any format. The file stays open after it was measured, so that it
+/// can be burned even when it is deleted meanwhile.
 class AudioTrack final : public DRTrack {
 public:
-    /// Opens and measures the file. @return null when it cannot be read; @p why then names it and says why
+    /// Opens and measures the file. @return null when it cannot be read; @p why then names the file and the reason
     [[nodiscard]] static std::shared_ptr<AudioTrack> open(MediaFiles& files, const QString& path, QString& why);
 
     [[nodiscard]] DRTrackProperties properties() const override { return properties_; }
@@ -23,12 +23,12 @@ public:
     [[nodiscard]] QString title() const override { return title_; }
     [[nodiscard]] QString artist() const override { return artist_; }
 
-    /// The samples of the file are those of the disc: no dither is added.
+    /// The file already has the disc's sample format: no dither is added.
     [[nodiscard]] bool isExact() const { return exact_; }
-    /// Whether the file can be read from any place as if it had been read from its beginning.
+    /// Whether reading from any position gives the same samples as reading from the beginning.
     [[nodiscard]] bool canBeDivided() const { return divisible_; }
-    /// A source of the track's sectors, at its beginning. Any thread. @return null when the file cannot be opened
-    /// again, or has changed since it was measured
+    /// A source of the track's sectors, positioned at its beginning. Any thread. @return null when the file cannot be
+    /// reopened, or has changed since it was measured
     [[nodiscard]] std::unique_ptr<SectorRenderer> renderer(MediaError& error);
 
 private:
@@ -46,7 +46,8 @@ private:
     bool divisible_ = false;
 
     std::mutex mutex_;
-    std::unique_ptr<ExtAudioFileReader> opened_; // guarded by mutex_: the reader that measured, for its first user
+    std::unique_ptr<ExtAudioFileReader>
+        opened_; // guarded by mutex_: the reader that measured the file; the first renderer takes it
 };
 
 } // namespace Platform

@@ -25,7 +25,7 @@ void BurnJobs::start(std::function<void()> work, std::function<void()> abort) {
     job.abort = std::move(abort);
     job.thread = std::thread([&job, work = std::move(work)]() mutable {
         work();
-        work = nullptr; // lets go of the burn before the job counts as ended
+        work = nullptr; // releases the burn before the job counts as ended
         job.ended = true;
     });
 }

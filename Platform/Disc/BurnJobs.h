@@ -11,16 +11,16 @@
 
 namespace Platform {
 
-/// The threads of the burns and erases that run. Main thread.
+/// The threads of the running burns and erases. Main thread.
 class BurnJobs {
 public:
     BurnJobs() = default;
-    /// Aborts what runs and waits until it has ended.
+    /// Aborts running jobs and waits until they have ended.
     ~BurnJobs();
     BurnJobs(const BurnJobs&) = delete;
     BurnJobs& operator=(const BurnJobs&) = delete;
 
-    /// Runs @p work on a thread of its own. @p abort makes it end early; it is called on the main thread.
+    /// Runs @p work on a new thread. @p abort makes it end early; it is called on the main thread.
     void start(std::function<void()> work, std::function<void()> abort);
 
 private:
@@ -32,7 +32,7 @@ private:
     std::list<Job> jobs_;
 };
 
-/// The status of one burn or erase: set by its thread, seen by the main thread together with the notification of it.
+/// The status of one burn or erase. Its thread sets it; the main thread sees each value together with its notification.
 class ReportedStatus {
 public:
     ReportedStatus(std::weak_ptr<DRNotificationCenter> center, QString notification)
@@ -40,10 +40,10 @@ public:
 
     /// Main thread.
     [[nodiscard]] const DRStatus& shown() const { return shown_; }
-    /// Without a notification. Main thread.
+    /// Sets it without a notification. Main thread.
     void set(const DRStatus& status) { shown_ = status; }
-    /// Becomes shown() later on the main thread, where the observers are told at once. @p owner is the object that
-    /// holds this one. Any thread.
+    /// Later sets shown() on the main thread and notifies the observers at once. @p owner is the object that contains
+    /// this one. Any thread.
     void report(const std::shared_ptr<DRObject>& owner, const DRStatus& status);
 
 private:

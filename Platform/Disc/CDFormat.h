@@ -12,7 +12,7 @@ inline constexpr int kRate = 44100;
 inline constexpr int kFramesPerSector = 588; ///< 16 bit, two channels
 inline constexpr int kBytesPerSector = 2352;
 inline constexpr int kSectorsPerSecond = 75;
-inline constexpr std::int64_t kShortestTrack = 300; ///< sectors: players may pass over shorter ones
+inline constexpr std::int64_t kShortestTrack = 300; ///< sectors: players may skip shorter tracks
 inline constexpr int kMostTracks = 99;
 inline constexpr std::int64_t kSectorsOf80Minutes = 80 * 60 * kSectorsPerSecond;
 } // namespace CDFormat

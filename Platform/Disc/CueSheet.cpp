@@ -10,7 +10,7 @@ namespace Platform {
 
 namespace {
 
-/// A text between quotation marks. The format has no escapes: what it cannot hold is replaced.
+/// Puts a text in quotation marks. The format has no escapes, so characters that it cannot hold are replaced.
 QByteArray quoted(const QString& text) {
     QString clean;
     for (const QChar c : text)

@@ -9,11 +9,11 @@
 namespace Platform {
 
 /// The cue sheet of an image: the table of contents, with the titles and artists of the tracks as CD-TEXT. @p binName
-/// is the data file's name, without a folder; it holds no quotation mark. The pre-gap of a track is INDEX 00, its sound
-/// INDEX 01, both in the data file.
+/// is the data file's name without a folder; it must not contain a quotation mark. The pre-gap of a track is INDEX 00,
+/// its audio INDEX 01, both in the data file.
 [[nodiscard]] QByteArray cueSheet(const DRLayout& layout, const QString& binName);
 
-/// "mm:ss:ff" of a number of sectors.
+/// A number of sectors as "mm:ss:ff".
 [[nodiscard]] QByteArray msf(std::int64_t sectors);
 
 } // namespace Platform

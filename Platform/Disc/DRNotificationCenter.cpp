@@ -28,7 +28,7 @@ struct DRNotificationCenter::State {
         std::erase_if(entries, [&](const std::shared_ptr<Entry>& entry) {
             if (!matches(*entry))
                 return false;
-            entry->live = false; // a delivery under way holds a copy of the list
+            entry->live = false; // a running delivery uses a copy of the list
             return true;
         });
     }
@@ -63,7 +63,7 @@ std::size_t DRNotificationCenter::observations() const {
 }
 
 void DRNotificationCenter::deliver(const DRNotification& notification) {
-    const auto entries = state_->entries; // observers may come and go while it is delivered
+    const auto entries = state_->entries; // observers may be added or removed during delivery
     for (const auto& entry : entries)
         if (entry->live && entry->isFor(notification.name, notification.object))
             entry->handler(notification);

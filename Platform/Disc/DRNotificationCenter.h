@@ -10,7 +10,7 @@
 
 namespace Platform {
 
-/// Everything a disc notification can be about: a drive, a burn, an erase.
+/// Base of the objects that disc notifications are about: a drive, a burn, an erase.
 class DRObject {
 public:
     DRObject() = default;
@@ -21,7 +21,7 @@ public:
 
 /// The status of a drive changed. Object: the DRDevice.
 inline const QString DRDeviceStatusChangedNotification = QStringLiteral("DRDeviceStatusChangedNotification");
-/// A drive came or went: DiscRecording::devices() answers another list. No object.
+/// A drive was added or removed: DiscRecording::devices() returns another list. No object.
 inline const QString DRDeviceListChangedNotification = QStringLiteral("DRDeviceListChangedNotification");
 /// A burn made progress or ended. Object: the DRBurn.
 inline const QString DRBurnStatusChangedNotification = QStringLiteral("DRBurnStatusChangedNotification");
@@ -33,8 +33,8 @@ struct DRNotification {
     std::shared_ptr<DRObject> object;
 };
 
-/// Delivers disc notifications on the main thread. An observer is known by its address; observing the same name and
-/// object twice counts once.
+/// Delivers disc notifications on the main thread. An observer is identified by its address; observing the same name
+/// and object twice has no further effect.
 class DRNotificationCenter {
 public:
     using Handler = std::function<void(const DRNotification&)>;
@@ -44,21 +44,21 @@ public:
     DRNotificationCenter(const DRNotificationCenter&) = delete;
     DRNotificationCenter& operator=(const DRNotificationCenter&) = delete;
 
-    /// @p object: nothing else's notifications are delivered; null means those of every object. Keeps no reference to
-    /// it. Main thread.
+    /// @p object limits the notifications to this object; null means every object. No reference to it is kept. Main
+    /// thread.
     void addObserver(const void* observer, const QString& name, const std::shared_ptr<DRObject>& object,
                      Handler handler);
-    /// Ends what was begun with the same three; does nothing when there is no such observation. Main thread.
+    /// Removes the observation with the same three arguments; does nothing when there is none. Main thread.
     void removeObserver(const void* observer, const QString& name, const std::shared_ptr<DRObject>& object);
-    /// Ends all observations of @p observer. To be called before it is destroyed. Main thread.
+    /// Removes all observations of @p observer. Must be called before it is destroyed. Main thread.
     void removeObserver(const void* observer);
-    /// How many observations there are. Main thread.
+    /// The number of observations. Main thread.
     [[nodiscard]] std::size_t observations() const;
 
     /// Calls the observers at once. Observers that are removed meanwhile are not called. Main thread.
     void deliver(const DRNotification& notification);
-    /// deliver() later on the main thread, in the order of the posts. Any thread. What is under way when the centre is
-    /// destroyed is dropped.
+    /// Calls deliver() later on the main thread, in the order of the posts. Any thread. Notifications that are pending
+    /// when the centre is destroyed are dropped.
     void post(const QString& name, std::shared_ptr<DRObject> object);
 
 private:

@@ -13,53 +13,54 @@ namespace Platform {
 
 enum DRDeviceMediaState { DRDeviceMediaStateNone, DRDeviceMediaStateInTransition, DRDeviceMediaStateMediaPresent };
 
-/// What is known of a drive at one moment.
+/// The state of a drive at one moment.
 struct DRDeviceStatus {
-    bool isBusy = false; ///< it burns, erases or is being looked at
+    bool isBusy = false; ///< it burns, erases, or examines its disc
     DRDeviceMediaState mediaState = DRDeviceMediaStateNone;
-    float maximumWriteSpeed = 0;      ///< kilobytes (1000) a second with the disc that is in; 0: not known
-    std::int64_t mediaBlocksFree = 0; ///< blocks that can still be written to the disc
+    float maximumWriteSpeed = 0;      ///< kilobytes (1000 bytes) per second with the current disc; 0: unknown
+    std::int64_t mediaBlocksFree = 0; ///< free blocks on the disc
     QString mediaKind;                ///< "CD-R", "CD-RW"; empty without a disc
-    /// Why the drive cannot be used, in words ("another program uses the drive"); empty when nothing is wrong.
+    /// Why the drive cannot be used ("another program uses the drive"); empty when it can.
     QString problem;
 };
 
-/// A drive that writes discs. Cheap to ask: everything is answered from what was last seen, nothing waits for the
-/// drive. Main thread.
+/// A drive that writes discs. All queries are answered from the last known state; none waits for the drive. Main
+/// thread.
 class DRDevice : public DRObject {
 public:
-    /// Maker and model, as people know it.
+    /// Maker and model, for display.
     [[nodiscard]] virtual QString displayName() const = 0;
     [[nodiscard]] virtual DRDeviceStatus status() const = 0;
     [[nodiscard]] virtual bool mediaIsBlank() const = 0;
     [[nodiscard]] virtual bool mediaIsErasable() const = 0;
     /// The device's name under /dev ("sr0") while a disc is in it, else empty.
     [[nodiscard]] virtual QString bsdName() const = 0;
-    /// Where the drive is ("/dev/sr0"), with or without a disc; empty for the drive that writes images.
+    /// The drive's path ("/dev/sr0"), with or without a disc; empty for the drive that writes images.
     [[nodiscard]] virtual QString path() const = 0;
-    /// Starts to put the disc out. @return false when the drive is busy, cannot, or holds none
+    /// Starts to eject the disc. @return false when the drive is busy, cannot eject, or holds no disc
     virtual bool ejectMedia() = 0;
 };
 
 struct DRTrackProperties {
-    std::uint32_t preGapLength = 150; ///< sectors of silence before the track; 75 are a second
+    std::uint32_t preGapLength = 150; ///< sectors of silence before the track; 75 per second
 };
 
-/// One track to be written. Main thread; a burn reads it on its own thread and expects no changes meanwhile.
+/// One track to be written. Main thread; a burn reads it on its own thread and expects that it does not change
+/// meanwhile.
 class DRTrack : public DRObject {
 public:
     [[nodiscard]] virtual DRTrackProperties properties() const = 0;
     virtual void setProperties(const DRTrackProperties& properties) = 0;
-    /// The file that it is made from.
+    /// The source file.
     [[nodiscard]] virtual QString path() const = 0;
-    /// Length in sectors, without the pre-gap: 2352 bytes each for audio, 2048 for an image file.
+    /// Length in sectors, without the pre-gap: 2352 bytes per sector for audio, 2048 for an image file.
     [[nodiscard]] virtual std::int64_t sectors() const = 0;
-    /// The file's own tags; empty where it has none.
+    /// From the file's tags; empty where it has none.
     [[nodiscard]] virtual QString title() const { return {}; }
     [[nodiscard]] virtual QString artist() const { return {}; }
 };
 
-/// The tracks of a disc, in their order.
+/// The tracks of a disc, in order.
 using DRLayout = std::vector<std::shared_ptr<DRTrack>>;
 
 enum DRStatusState {
@@ -69,13 +70,13 @@ enum DRStatusState {
     DRStatusStateSessionClose,
     DRStatusStateErasing,
     DRStatusStateDone,
-    DRStatusStateFailed ///< also when it was aborted
+    DRStatusStateFailed ///< also after an abort
 };
 
 struct DRStatus {
     DRStatusState state = DRStatusStateNone;
-    double percentComplete = 0; ///< a share from 0 to 1; -1 while it is not known
-    QString reason;             ///< why it failed: what, and why; empty otherwise
+    double percentComplete = 0; ///< from 0 to 1; -1 while unknown
+    QString reason;             ///< why it failed; empty otherwise
 };
 
 enum DRBurnCompletionAction { DRBurnCompletionActionEject, DRBurnCompletionActionMount };
@@ -85,27 +86,27 @@ enum DRUDFVersion { DRUDFVersion102, DRUDFVersion150 };
 struct DRBurnProperties {
     DRBurnCompletionAction completionAction = DRBurnCompletionActionEject;
     DRBurnStrategy strategy = DRBurnStrategyAutomatic;
-    bool verifyDisc = true;                         ///< read an image file back and compare; audio is never read back
-    DRUDFVersion udfWriteVersion = DRUDFVersion102; ///< for file systems that are made; an image file keeps its own
+    bool verifyDisc = true;                         ///< read an image file back and compare; audio is never verified
+    DRUDFVersion udfWriteVersion = DRUDFVersion102; ///< for file systems that are created; an image file keeps its own
 };
 
-/// Writes one layout to the disc in one drive, on a thread of its own. Main thread. A burn that runs keeps itself
-/// alive until it has ended; destroying the last reference neither ends nor disturbs it.
+/// Writes one layout to the disc in one drive, on a thread of its own. Main thread. A running burn keeps itself alive
+/// until it has ended; releasing the last reference does not stop it.
 class DRBurn : public DRObject {
 public:
-    /// Kilobytes (1000) a second; 0: as fast as the drive can.
+    /// Kilobytes (1000 bytes) per second; 0: as fast as the drive can.
     virtual void setRequestedBurnSpeed(float speed) = 0;
     [[nodiscard]] virtual DRBurnProperties properties() const = 0;
     virtual void setProperties(const DRBurnProperties& properties) = 0;
     /// Starts to write and returns. From then on DRBurnStatusChangedNotification comes on the main thread, at least
-    /// four times a second while sectors are written, the last time with DRStatusStateDone or DRStatusStateFailed.
-    /// No layout, one without tracks, and one that has no room on the disc fail before anything is written.
+    /// four times a second while sectors are written; the last one has DRStatusStateDone or DRStatusStateFailed. A
+    /// missing layout, one without tracks, and one that does not fit on the disc fail before anything is written.
     virtual void writeLayout(const std::optional<DRLayout>& layout) = 0;
     [[nodiscard]] virtual DRStatus status() const = 0;
-    /// Ends the burn as soon as the drive lets it; the disc is spoilt, an image that was begun is removed. Returns at
-    /// once; DRStatusStateFailed follows.
+    /// Ends the burn as soon as the drive allows it. The disc is then unusable; an incomplete image is removed. Returns
+    /// at once; DRStatusStateFailed follows.
     virtual void abort() = 0;
-    /// The user was asked where to write and gave no answer: nothing was started, nothing will be told.
+    /// The user was asked for the target and cancelled: nothing was started, and no notification follows.
     [[nodiscard]] virtual bool wasDeclined() const { return false; }
 };
 
@@ -115,19 +116,19 @@ enum DREraseType { DREraseTypeQuick, DREraseTypeComplete };
 class DRErase : public DRObject {
 public:
     virtual void setEraseType(DREraseType type) = 0;
-    /// Starts and returns. DREraseStatusChangedNotification comes as with a burn.
+    /// Starts and returns. DREraseStatusChangedNotification comes as it does for a burn.
     virtual void start() = 0;
     [[nodiscard]] virtual DRStatus status() const = 0;
 };
 
-/// The door to everything that writes discs. Main thread; the objects are shared with whoever asks.
+/// The interface to all disc writing. Main thread; the objects are shared with the callers.
 class DiscRecording {
 public:
     virtual ~DiscRecording() = default;
-    /// The drives, in an order that stays while none comes or goes; last the one that writes an image.
+    /// The drives, in a stable order while none is added or removed; the drive that writes an image is last.
     [[nodiscard]] virtual std::vector<std::shared_ptr<DRDevice>> devices() = 0;
-    /// Opens the file and measures it: 44,100 Hz, 16 bit, stereo, in whole sectors.
-    /// @return null when it cannot be read; @p why then names the file and says why
+    /// Opens and measures the file: 44,100 Hz, 16 bit, stereo, in whole sectors.
+    /// @return null when it cannot be read; @p why then names the file and the reason
     [[nodiscard]] virtual std::shared_ptr<DRTrack> trackForAudioFile(const QString& path, QString& why) = 0;
     /// One data track with the content of an image file. @return nothing when it cannot be read
     [[nodiscard]] virtual std::optional<DRLayout> layoutForImageFile(const QString& path, QString& why) = 0;
@@ -136,8 +137,8 @@ public:
     /// @return null when no erase can be made with this drive
     [[nodiscard]] virtual std::shared_ptr<DRErase> eraseWithDevice(const std::shared_ptr<DRDevice>& device) = 0;
     [[nodiscard]] virtual DRNotificationCenter& currentRunLoopCenter() = 0;
-    /// Where the image drive writes its next image (the cue sheet or the data file; the other one stands beside it).
-    /// While this is empty, it asks with a save panel at the start of each burn.
+    /// Where the image drive writes its next image (the path of the cue sheet or of the data file; both stand side by
+    /// side). While this is empty, each burn asks with a save panel at its start.
     virtual void setImagePath(const QString& path) = 0;
 };
 

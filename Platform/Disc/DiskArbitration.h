@@ -12,14 +12,14 @@ namespace Platform {
 class DADisk {
 public:
     virtual ~DADisk() = default;
-    /// Whether the system can describe a medium in it: false for a drive without a disc.
+    /// Whether the system knows a medium in it: false for a drive without a disc.
     [[nodiscard]] virtual bool hasDescription() const = 0;
 };
 
 class DASession {
 public:
     virtual ~DASession() = default;
-    /// @p path as "/dev/sr0". @return null when no disk object can be made of it
+    /// @p path is like "/dev/sr0". @return null when there is no such device
     [[nodiscard]] virtual std::unique_ptr<DADisk> createDiskFromBSDName(const QByteArray& path) = 0;
 };
 

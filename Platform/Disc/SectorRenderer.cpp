@@ -12,8 +12,8 @@ namespace Platform {
 namespace {
 
 constexpr float kStep = 32768;
-/// A file may turn out shorter than its headers say by so many frames without being called damaged: some formats
-/// know their length by the packet only.
+/// A file may be shorter than its headers say by this many frames and not count as damaged: some formats store their
+/// length in packets only.
 constexpr std::int64_t kToleratedFrames = CDFormat::kRate / 10;
 
 struct TwoBuffers {
@@ -21,7 +21,7 @@ struct TwoBuffers {
     AudioBuffer second;
 };
 
-/// Rounds to the nearest without a branch, so that the compiler can do several at once.
+/// Rounds to the nearest without a branch, so that the compiler can vectorise it.
 std::int16_t rounded(float value) {
     value = std::min(std::max(value, -32768.0F), 32767.0F);
     return std::int16_t(std::int32_t(value + 32768.5F) - 32768);
@@ -50,7 +50,7 @@ void Dither::interleave(const float* left, const float* right, std::int16_t* out
         }
         return;
     }
-    // The difference of the halves of one random number is triangular, from -1 to 1 step.
+    // The difference of the two halves of one random number has a triangular distribution, from -1 to 1 step.
     const auto triangular = [](std::uint32_t random) {
         return float(std::int32_t(random >> 16) - std::int32_t(random & 0xffffU)) * (1.0F / 65536);
     };

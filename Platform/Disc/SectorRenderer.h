@@ -13,12 +13,13 @@
 
 namespace Platform {
 
-/// Turns float samples into 16-bit ones. Where bits are taken away it adds triangular noise of two steps' width, which
-/// makes the rounding error independent of the sound. The gain stays as it is; what is beyond full scale is clipped.
+/// Turns float samples into 16-bit samples. Where the resolution is reduced it adds triangular noise two steps wide,
+/// which makes the rounding error independent of the audio. The gain does not change; values beyond full scale are
+/// clipped.
 class Dither {
 public:
     explicit Dither(std::uint32_t seed);
-    /// Interleaves two channels. @p exact: the samples are 16-bit values already, nothing is added.
+    /// Interleaves two channels. @p exact: the samples are 16-bit values already, so no noise is added.
     void interleave(const float* left, const float* right, std::int16_t* out, std::size_t frames, bool exact);
 
 private:
@@ -31,14 +32,14 @@ private:
 /// Reads one audio file as sectors of an audio CD. One thread.
 class SectorRenderer {
 public:
-    /// @p reader is set to 44,100 Hz and two channels. @p frames: how many frames the file has at that rate; the rest
-    /// of its last sector is silence. @p exact: no bits are taken away.
+    /// @p reader is set to 44,100 Hz and two channels. @p frames: the file's length in frames at that rate; the rest of
+    /// its last sector is silence. @p exact: the samples are 16-bit values already.
     SectorRenderer(std::unique_ptr<ExtAudioFileReader> reader, QString path, std::int64_t frames, bool exact);
 
-    /// The next render() begins with this sector of the track. @return false when the file cannot be read there
+    /// The next render() starts with this sector of the track. @return false when the file cannot be read there
     [[nodiscard]] bool seek(std::int64_t sector);
-    /// Fills @p out, whole sectors, with what follows; behind the end of the file with silence.
-    /// @return what went wrong: the file is damaged, or shorter than it was when it was measured
+    /// Fills @p out, whole sectors, with the next samples; beyond the end of the file with silence.
+    /// @return the error: the file is damaged, or shorter than it was when it was measured
     [[nodiscard]] MediaError render(std::span<std::byte> out);
 
 private:

@@ -10,7 +10,7 @@ namespace Platform {
 namespace {
 
 constexpr std::int64_t kBlockSectors = 75;
-constexpr float kFastest = 52 * 176.4F; // kilobytes a second
+constexpr float kFastest = 52 * 176.4F; // kilobytes per second
 constexpr float kSecondsStalled = 5;
 constexpr float kMargin = 1.15F;
 constexpr std::size_t kLeast = std::size_t(8) << 20;

@@ -12,30 +12,30 @@
 
 namespace Platform {
 
-/// Decodes the tracks of a layout one after the other, ahead of the drive that burns them, into a ring of sectors. The
-/// drive draws from the ring while the disk that holds the sources stands still. One thread draws.
+/// Decodes the tracks of a layout one after the other into a ring of sectors, ahead of the drive that burns them. The
+/// ring keeps the drive supplied while the disk with the source files is slow. One reader thread.
 class TrackFeed {
 public:
-    /// How many bytes survive a source that stands still for five seconds at this speed (kilobytes of 1000 a second;
-    /// 0 is taken for the fastest CD drives).
+    /// The ring size that bridges five seconds without new data at this speed (kilobytes of 1000 bytes per second; 0
+    /// means the speed of the fastest CD drives).
     [[nodiscard]] static std::size_t bytesFor(float speed);
 
-    /// @p bytes: the ring's size at most.
+    /// @p bytes: the largest size of the ring.
     TrackFeed(DRLayout layout, std::size_t bytes);
     /// Ends the decoding thread.
     ~TrackFeed();
     TrackFeed(const TrackFeed&) = delete;
     TrackFeed& operator=(const TrackFeed&) = delete;
 
-    /// Starts to decode, and waits until the ring is full or everything is in it. @return false after an error or a
+    /// Starts to decode, and waits until the ring is full or everything is decoded. @return false after an error or a
     /// cancel()
     [[nodiscard]] bool fill();
-    /// Takes the next bytes, without the pre-gaps: all of @p out, or none after an error, a cancel() or the last
+    /// Takes the next bytes, without the pre-gaps: all of @p out, or nothing after an error, a cancel() or the last
     /// sector. Waits while the ring is empty.
     [[nodiscard]] bool take(std::span<std::byte> out);
-    /// Lets every waiting call return. Any thread.
+    /// Makes every waiting call return. Any thread.
     void cancel();
-    /// What went wrong with a source. Any thread.
+    /// The first error of a source. Any thread.
     [[nodiscard]] MediaError error() const;
     /// How often take() had to wait. Any thread.
     [[nodiscard]] std::size_t waits() const;
@@ -48,12 +48,12 @@ private:
     std::vector<std::byte> ring_;
     std::thread thread_;
 
-    mutable std::mutex mutex_; // guards what follows
+    mutable std::mutex mutex_; // guards the members below
     std::condition_variable changed_;
     std::size_t written_ = 0; ///< bytes since the beginning
     std::size_t taken_ = 0;
     std::size_t waits_ = 0;
-    bool ended_ = false; ///< nothing more comes into the ring
+    bool ended_ = false; ///< no more data will be written to the ring
     bool cancelled_ = false;
     MediaError error_;
 };

@@ -6,7 +6,7 @@
 
 namespace Platform {
 
-/// Where the program's own files are. Thread-safe: nothing changes after construction.
+/// The locations of the program's own files. Immutable after construction, any thread.
 class Bundle {
 public:
     virtual ~Bundle() = default;
@@ -15,12 +15,12 @@ public:
     /// The folder of the resources, absolute, without a slash at its end: beside the program in a build tree,
     /// under share/ when installed.
     [[nodiscard]] virtual QString resourcePath() const = 0;
-    /// A resource by its name; the answer does not say that it exists.
+    /// The path of a resource; the file may not exist.
     [[nodiscard]] QString pathForResource(const QString& name) const { return resourcePath() + u'/' + name; }
     /// The folder of the helper programs, the module with the windows and the driver bundle: the folder of the
-    /// resources in a build tree, under lib/ when installed, since these files are made for one kind of processor.
+    /// resources in a build tree, under lib/ when installed, because these files depend on the processor.
     [[nodiscard]] virtual QString toolsPath() const { return resourcePath(); }
-    /// A helper program, module or bundle by its name; the answer does not say that it exists.
+    /// The path of a helper program, module or bundle; the file may not exist.
     [[nodiscard]] QString pathForTool(const QString& name) const { return toolsPath() + u'/' + name; }
 };
 

@@ -7,28 +7,28 @@
 
 namespace Platform {
 
-/// The three clocks of the program behind one interface, so that tests can drive them. Callable from any thread.
+/// The three clocks of the program behind one interface, so that tests can control them. Any thread.
 class Clock {
 public:
     virtual ~Clock() = default;
     /// Seconds since 2001-01-01 00:00:00 UTC, with fractions.
     [[nodiscard]] virtual double timeIntervalSinceReferenceDate() const = 0;
-    /// Nanoseconds of the steady clock. Inside a render callback this is the capture time of the cycle at hand, not
-    /// the time of processing: a thread that was kept waiting must not look like silence.
+    /// Nanoseconds of the steady clock. Inside a render callback this is the capture time of the current cycle, not the
+    /// time of processing: a delayed thread must not look like silence.
     [[nodiscard]] virtual std::uint64_t hostTime() const = 0;
     /// Local date and time.
     [[nodiscard]] virtual QDateTime now() const = 0;
 };
 
-/// Makes hostTime() of the calling thread answer @p nanoseconds for the life of the object. The I/O threads of input
-/// units wrap each render callback in one.
+/// Makes hostTime() on the calling thread return @p nanoseconds while the object lives. The I/O threads of input units
+/// wrap each render callback in one.
 class HostTimeScope {
 public:
     explicit HostTimeScope(std::uint64_t nanoseconds) noexcept;
     ~HostTimeScope();
     HostTimeScope(const HostTimeScope&) = delete;
     HostTimeScope& operator=(const HostTimeScope&) = delete;
-    /// The time that applies on this thread; 0 when none was set.
+    /// The time that applies on this thread; 0 when none is set.
     [[nodiscard]] static std::uint64_t current() noexcept;
 
 private:

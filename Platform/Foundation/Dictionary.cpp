@@ -110,7 +110,7 @@ double doubleValue(const QVariant& object) {
     if (!isText(object))
         return object.canConvert<double>() ? object.toDouble() : 0.0;
     const QByteArray text = object.toString().trimmed().toUtf8();
-    // The longest beginning that reads as a number, in the C locale.
+    // The longest prefix that is a number in the C locale.
     for (qsizetype length = std::min<qsizetype>(text.size(), 64); length > 0; --length) {
         bool good = false;
         const double value = text.left(length).toDouble(&good);

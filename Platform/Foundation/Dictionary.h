@@ -6,7 +6,7 @@
 #include <QVariant>
 #include <QVariantMap>
 
-/// A dictionary with string keys and property-list values. Keys that a reader does not know survive every round trip.
+/// A dictionary with string keys and property-list values. Keys that a reader does not know are preserved.
 using Dictionary = QVariantMap;
 
 namespace Platform {
@@ -14,21 +14,22 @@ namespace Platform {
 /// Whether a stored object is a number; a boolean is not.
 [[nodiscard]] bool isNumber(const QVariant& object);
 
-/// The integer that a stored object stands for: a number truncated towards zero, the leading digits of a text
-/// (after blanks and a sign; "300ms" is 300, "abc" is 0), 0 for everything else. Saturates at the 32-bit limits.
+/// The integer value of a stored object: a number truncated towards zero, the leading digits of a text (after blanks
+/// and a sign; "300ms" is 300, "abc" is 0), 0 for everything else. Saturates at the 32-bit limits.
 [[nodiscard]] int intValue(const QVariant& object);
 
 /// intValue() without the 32-bit limits.
 [[nodiscard]] qint64 longLongValue(const QVariant& object);
 
-/// The truth value of a stored object: a number other than 0; a text that begins (after blanks, a sign and zeros) with
-/// a digit from 1 to 9 or with one of the letters Y, y, T, t; false for everything else.
+/// The boolean value of a stored object: true for a number other than 0 and for a text that begins (after blanks, a
+/// sign and zeros) with a digit from 1 to 9 or with one of the letters Y, y, T, t; false for everything else.
 [[nodiscard]] bool boolValue(const QVariant& object);
 
 /// A number as a double, a text by its leading number, 0 for everything else.
 [[nodiscard]] double doubleValue(const QVariant& object);
 
-/// What "%@" prints of an object: a text as it is, a number in its shortest form, nothing for an absent one "(null)".
+/// The text that "%@" prints for an object: a text as it is, a number in its shortest form, "(null)" for a missing
+/// object.
 [[nodiscard]] QString stringForm(const QVariant& object);
 
 } // namespace Platform

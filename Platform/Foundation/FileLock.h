@@ -9,9 +9,8 @@
 
 namespace Platform {
 
-/// A kernel lock on a file, which is made when it is missing. The lock ends with the process that holds it, however the
-/// process ends, and programs that the process starts do not inherit it. Any thread; one object by one thread at a
-/// time.
+/// A kernel lock on a file, which is created when it is missing. The lock ends with the process that holds it, however
+/// the process ends; child processes do not inherit it. Any thread; one object by one thread at a time.
 class FileLock {
 public:
     enum class Result {
@@ -21,7 +20,7 @@ public:
     };
 
     FileLock() = default;
-    /// Releases the lock; the file stays.
+    /// Releases the lock; the file is kept.
     ~FileLock() { release(); }
     FileLock(FileLock&& other) noexcept
         : descriptor_(std::exchange(other.descriptor_, -1)), path_(std::move(other.path_)) {}
@@ -32,12 +31,12 @@ public:
         return *this;
     }
 
-    /// Takes the lock; waits for another holder at most as long as @p patience. The file at @p path is made when it is
-    /// missing; a link is not followed.
+    /// Takes the lock; waits for another holder at most @p patience. The file at @p path is created when it is missing;
+    /// a link is not followed.
     [[nodiscard]] Result take(const QString& path, std::chrono::milliseconds patience = {});
     [[nodiscard]] bool isHeld() const { return descriptor_ >= 0; }
     [[nodiscard]] QString path() const { return path_; }
-    /// Why take() failed, for people.
+    /// Why take() failed, for the user.
     [[nodiscard]] QString problem() const { return problem_; }
     void release();
     /// Removes the file, then releases the lock.

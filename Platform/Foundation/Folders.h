@@ -6,11 +6,12 @@
 
 namespace Platform::Folders {
 
-/// $HOME, else the user database's entry. Without a slash at its end.
+/// $HOME, else the home folder from the user database. Without a trailing slash.
 [[nodiscard]] QString home();
 
 /// The system's temporary folder of this user: $TMPDIR when it is set and private to the user, else
-/// $XDG_CACHE_HOME/tmp, made with mode 0700 and refused (empty answer, @p why filled) when it is a link or another's.
+/// $XDG_CACHE_HOME/tmp. The latter is created with mode 0700; the answer is empty, with @p why, when it is a link or
+/// belongs to another user.
 [[nodiscard]] QString temporary(QString* why = nullptr);
 
 /// $XDG_CONFIG_HOME, $XDG_CACHE_HOME, $XDG_DATA_HOME, $XDG_RUNTIME_DIR or their defaults below home().

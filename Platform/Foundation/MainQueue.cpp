@@ -13,10 +13,10 @@ namespace {
 
 std::atomic<unsigned> handedOver{0};
 
-/// Work on its way through Qt's queue. The queue keeps the order of the two threads by a futex inside Qt, which no tool
-/// that watches for races sees; the counter says the same in the language's own words. It is written when the work has
-/// been moved to the place in the queue from which it is called, and read before it is touched there; and once more
-/// between the call and the end of the work, which comes on the posting thread when that lets go last.
+/// A posted function on its way through Qt's event queue. ThreadSanitizer cannot see the futex inside Qt that orders
+/// the two threads; this release/acquire counter makes the hand-over visible to it. The counter is written when the
+/// function was moved into the event and read before the function is used there; and again between the call and the
+/// destruction, which happens on the posting thread when it releases the event last.
 class Handed {
 public:
     explicit Handed(std::function<void()> work) : work_(std::move(work)) {}

@@ -7,11 +7,12 @@
 
 namespace Platform::MainQueue {
 
-/// Runs @p work later on the main thread, in the order of the posts; also inside modal loops. From any thread but the
-/// audio thread (it allocates).
+/// Runs @p work later on the main thread, in the order of the posts, also inside modal loops. Any thread but the audio
+/// thread (it allocates).
 void post(std::function<void()> work);
 
-/// post() whose work is dropped when @p context is destroyed before it runs. @p context lives on the main thread.
+/// Like post(), but @p work is dropped when @p context is destroyed before it runs. @p context lives on the main
+/// thread.
 void post(QObject* context, std::function<void()> work);
 
 } // namespace Platform::MainQueue

@@ -6,8 +6,8 @@
 
 namespace Platform {
 
-/// The function @p name of the module @p file among the program's resources, which stays loaded. Null when it cannot be
-/// loaded; @p why then says so.
+/// The function @p name in the module @p file, one of the program's own files. The module stays loaded. Null when it
+/// cannot be loaded, with the reason in @p why.
 [[nodiscard]] void* loadModuleFunction(const QString& file, const char* name, QString& why);
 
 template <typename Function>

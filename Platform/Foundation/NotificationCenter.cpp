@@ -43,7 +43,7 @@ std::unique_ptr<NotificationCenter::Observation> NotificationCenter::addObserver
 }
 
 void NotificationCenter::post(const QString& name, const Dictionary& userInfo) {
-    const auto entries = state_->entries; // observers may come and go while the post is under way
+    const auto entries = state_->entries; // observers may be added or removed during the post
     for (const auto& entry : entries)
         if (entry->live && entry->name == name)
             entry->handler(name, userInfo);

@@ -9,7 +9,7 @@
 
 namespace Platform {
 
-/// Named notifications with a dictionary each, delivered at once on the poster's thread to every observer, in the order
+/// Named notifications, each with a dictionary, delivered at once on the poster's thread to every observer in the order
 /// in which the observers were added. Main thread only.
 class NotificationCenter {
 public:
@@ -27,7 +27,7 @@ public:
     NotificationCenter();
     ~NotificationCenter();
     [[nodiscard]] std::unique_ptr<Observation> addObserver(const QString& name, Handler handler);
-    /// Observers that are added or removed during a post neither break it nor are called by it.
+    /// An observer that is added or removed during a post is not called by that post.
     void post(const QString& name, const Dictionary& userInfo = {});
 
 private:

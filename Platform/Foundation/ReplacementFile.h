@@ -6,13 +6,11 @@
 
 namespace Platform {
 
-/// A file that is made whole under a hidden name beside its target, is synced, and then takes the target's name in one
-/// step. Until commit() the target stays as it was, whatever ends the process. Without commit() the hidden file goes
-/// with the object.
-///
+/// A file that is written completely under a hidden name beside its target, is synced, and then takes the target's name
+/// in one step. Until commit() the target does not change, even when the process is killed. Without commit() the
+/// destructor removes the hidden file.
 /// There are two ways to write it: let any writer write to path(), or call open() and write to descriptor(). The second
-/// way leaves nothing behind when the process is killed (on file systems that know files without a name).
-///
+/// way leaves no file behind when the process is killed (on file systems that support files without a name).
 /// Any thread, one at a time. Blocks on the disk. Failures are errno values; 0 means success.
 class ReplacementFile {
 public:
@@ -21,8 +19,8 @@ public:
         Kept      ///< commit() fails with EEXIST when something stands at the target
     };
     enum class Link {
-        Followed, ///< a link at the target stays, and the file that it points to is replaced
-        Replaced  ///< a link at the target is replaced by the file
+        Followed, ///< a symbolic link stays, and the file that it points to is replaced
+        Replaced  ///< a symbolic link is replaced by the file
     };
 
     explicit ReplacementFile(const QString& target, Existing existing = Existing::Replaced, Link link = Link::Followed);
@@ -30,24 +28,24 @@ public:
     ReplacementFile(const ReplacementFile&) = delete;
     ReplacementFile& operator=(const ReplacementFile&) = delete;
 
-    /// The file that commit() makes or replaces.
+    /// The file that commit() creates or replaces.
     [[nodiscard]] const QString& target() const { return target_; }
-    /// The hidden name. It has the target's ending, because writers judge a file by it.
+    /// The hidden path. It has the target's extension, because writers choose the format by it.
     [[nodiscard]] const QString& path() const { return path_; }
 
-    /// Makes the file and opens it for reading and writing. The umask applies to @p mode.
+    /// Creates the file and opens it for reading and writing. The umask applies to @p mode.
     [[nodiscard]] int open(int mode = 0666);
     /// open() with the owner and the mode of @p model, an open file.
     [[nodiscard]] int openLike(int model);
-    /// The file that open() made. It stays this object's.
+    /// The descriptor that open() made. It remains owned by this object.
     [[nodiscard]] int descriptor() const { return descriptor_; }
 
-    /// Syncs the file, gives it the target's name and syncs the folder. On failure the target is as it was. The
+    /// Syncs the file, gives it the target's name and syncs the folder. On failure the target is unchanged. The
     /// descriptor stays open.
     [[nodiscard]] int commit();
 
-    /// commit() for two files that are of no use alone: both are synced first, so that between the one name and the
-    /// other lies a single system call. Both keep existing files. On failure neither has its name.
+    /// commit() for two files that are only useful together: both are synced first, so that only one system call lies
+    /// between the two renames. Existing files are kept. On failure neither file gets its name.
     [[nodiscard]] static int commitTogether(ReplacementFile& first, ReplacementFile& second);
 
 private:

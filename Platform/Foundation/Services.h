@@ -24,8 +24,8 @@ class DiscRecording;
 class DiskArbitration;
 class SleepInhibitor;
 
-/// The process's set of system services: the one global. main() installs the Linux set, a test puts its doubles in
-/// front with a ServicesScope. The members are not owned. Set up before any thread that uses it starts.
+/// The process's set of system services: the one global. main() installs the Linux set; a test installs its doubles
+/// with a ServicesScope. The members are not owned. Set them up before any thread that uses them starts.
 struct Services {
     AudioHardware* audioHardware = nullptr;
     IORegistry* ioRegistry = nullptr;
@@ -48,7 +48,7 @@ struct Services {
 
 [[nodiscard]] Services& services();
 
-/// Puts the services of before back when it goes.
+/// Restores the previous services when it is destroyed.
 class ServicesScope {
 public:
     ServicesScope() : saved_(services()) {}

@@ -4,12 +4,11 @@
 
 namespace Platform {
 
-/// Makes sure that no standard stream can end the process or harm a file. To be called first of all, before a file is
-/// opened and before a thread starts.
-///
-/// Ignores SIGPIPE: a write to a pipe whose reader is gone fails with EPIPE instead of ending a recording. Programs
-/// that QProcess starts get the default action back. Opens /dev/null for each of the three streams that is closed:
-/// otherwise the next file that is opened would get its number, and messages would be written into a recording.
+/// Makes sure that no standard stream can end the process or damage a file. Call it first, before any file is opened
+/// and any thread starts.
+/// Ignores SIGPIPE: a write to a pipe without a reader fails with EPIPE instead of ending a recording. Programs that
+/// QProcess starts get the default action back. Opens /dev/null for each of the three streams that is closed: otherwise
+/// the next opened file would get its number, and messages would be written into a recording.
 void secureStandardStreams();
 
 } // namespace Platform

@@ -8,15 +8,15 @@
 
 namespace Platform {
 
-/// A folder below the user's temporary folder that belongs to one process and is removed with this object. Folders of
-/// killed processes are removed by the next process that makes such a folder.
+/// A folder below the user's temporary folder that belongs to one process; the destructor removes it. Folders of killed
+/// processes are removed by the next process that creates such a folder.
 class TemporaryFolder {
 public:
-    /// @param kind tells the folders of different purposes apart; part of the folder's name.
-    /// @return nothing when there is no place for it; @p why then says so.
+    /// @param kind is part of the folder's name, one per purpose.
+    /// @return nothing when it cannot be created, with the reason in @p why.
     [[nodiscard]] static std::optional<TemporaryFolder> create(const QString& kind, QString& why);
     /// Removes a folder with its content; a link is removed, not followed. Errors are ignored. Files of the user that a
-    /// crash left in it are moved back first (MovedFiles); where that fails, the file and the folder stay.
+    /// crash left in it are moved back first (MovedFiles); where that fails, the file and the folder are kept.
     static void removeWhole(const QString& path);
 
     ~TemporaryFolder();
@@ -26,7 +26,7 @@ public:
 
 private:
     TemporaryFolder(FileLock lock, const QString& path) : lock_(std::move(lock)), path_(path) {}
-    FileLock lock_; // beside the folder, held as long as the folder is in use
+    FileLock lock_; // lies beside the folder; held while the folder is in use
     QString path_;
 };
 

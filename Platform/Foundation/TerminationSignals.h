@@ -9,8 +9,8 @@
 
 namespace Platform {
 
-/// Installs a handler for SIGINT, SIGTERM and SIGHUP while it lives and puts the former dispositions back afterwards.
-/// A signal that was ignored stays ignored: nohup and the shell's background jobs rely on it.
+/// Installs a handler for SIGINT, SIGTERM and SIGHUP while it lives, then restores the previous dispositions. A signal
+/// that was ignored stays ignored: nohup and the shell's background jobs rely on it.
 class TerminationHandler {
 public:
     /// @param handler runs on any thread and must be async-signal-safe.
@@ -24,12 +24,12 @@ private:
     std::array<struct sigaction, signals.size()> before_{};
 };
 
-/// Turns SIGINT, SIGTERM and SIGHUP into a call on the main thread, so that a recording ends as a whole file. While it
-/// lives these signals no longer end the process; those that were ignored before stay ignored. One object at a time.
-/// Main thread, with an event loop.
+/// Turns SIGINT, SIGTERM and SIGHUP into a call on the main thread, so that a recording ends with a complete file.
+/// While it lives these signals do not end the process; those that were ignored before stay ignored. One object at a
+/// time. Main thread, with an event loop.
 class TerminationSignals {
 public:
-    /// @param handler is called with the signal's number, once for each that arrives.
+    /// @param handler is called with the signal's number, once per signal.
     explicit TerminationSignals(std::function<void(int signal)> handler);
     ~TerminationSignals();
     TerminationSignals(const TerminationSignals&) = delete;

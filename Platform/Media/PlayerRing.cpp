@@ -18,7 +18,7 @@ void PlayerRing::requestJump(std::int64_t frame) {
 }
 
 std::int64_t PlayerRing::position() const {
-    // Nothing was heard of the last jump: its target is the position, however long the decoder takes.
+    // Nothing was played since the last jump: its target is the position, however long the decoder takes.
     if (heardSegment_.load(std::memory_order_acquire) != jumpsRequested_.load(std::memory_order_relaxed))
         return jumpTo_.load(std::memory_order_relaxed);
     return position_.load(std::memory_order_relaxed);
@@ -34,7 +34,7 @@ bool PlayerRing::takeJump(std::int64_t& frame) {
     if (requested == jumpTaken_)
         return false;
     jumpTaken_ = requested;
-    // A later request may have changed the target already; its own turn comes at the next call.
+    // A later request may already have changed the target; takeJump() returns that one at its next call.
     takenFrame_ = frame = jumpTo_.load(std::memory_order_relaxed);
     return true;
 }
@@ -73,7 +73,7 @@ bool PlayerRing::enterSegmentRt() noexcept {
     const auto& segment = segments_[latest % segments_.size()];
     const auto begin = segment.begin.load(std::memory_order_relaxed);
     const auto firstFrame = segment.firstFrame.load(std::memory_order_relaxed);
-    // Seven jumps later the entry is written again: then what was read may be half of each.
+    // The slot may be overwritten while it is read: after seven more jumps the decoder reuses it. Try again then.
     if (segment_.load(std::memory_order_acquire) - latest >= segments_.size() - 1)
         return false;
     read_.store(begin, std::memory_order_release);
@@ -91,7 +91,7 @@ std::size_t PlayerRing::popRt(std::span<float> out) noexcept {
         heardSegment_.load(std::memory_order_relaxed) == jumpsRequested_.load(std::memory_order_relaxed);
     if (entered && current) {
         const auto read = read_.load(std::memory_order_relaxed);
-        // The end before what was written: a frame that came after the end was read would be missed otherwise.
+        // Load the end before the write index: otherwise a frame written between the two loads would be missed.
         const auto end = end_.load(std::memory_order_acquire);
         const auto written = written_.load(std::memory_order_acquire);
         frames = std::size_t(std::min<std::uint64_t>(written - read, out.size() / channels_));

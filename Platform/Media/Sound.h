@@ -14,13 +14,13 @@ class Sound : public QObject {
     Q_OBJECT
 public:
     ~Sound() override = default;
-    /// Exact length in seconds; 0 for a file that cannot be played.
+    /// Exact length in seconds; 0 when the file cannot be played.
     [[nodiscard]] virtual double duration() const = 0;
     [[nodiscard]] virtual double currentTime() const = 0;
     virtual void setCurrentTime(double seconds) = 0;
     [[nodiscard]] virtual float volume() const = 0;
     virtual void setVolume(float volume) = 0;
-    /// Seconds of the file behind currentTime() at which a volume that is set now is reached.
+    /// Delay, in seconds of the file after currentTime(), until a new volume takes effect.
     [[nodiscard]] virtual double volumeDelay() const { return 0; }
     [[nodiscard]] virtual bool isPlaying() const = 0;
     virtual bool play() = 0;
@@ -31,7 +31,7 @@ public:
     [[nodiscard]] virtual QString lastError() const = 0;
 
 Q_SIGNALS:
-    /// It ended: by itself, by stop(), or because the sound server went away.
+    /// Playback ended: at the end of the file, by stop(), or because the sound server went away.
     void finished();
 };
 
@@ -39,7 +39,7 @@ Q_SIGNALS:
 class Sounds {
 public:
     virtual ~Sounds() = default;
-    /// Never null; a file that cannot be read gives a sound of length 0 that does not play.
+    /// Never null; for an unreadable file the sound has length 0 and does not play.
     [[nodiscard]] virtual std::unique_ptr<Sound> open(const QString& path) = 0;
 };
 

@@ -55,7 +55,7 @@ bool CaptureStream::open(int milliseconds, QString& why) {
         why = QString::fromStdString(error_);
         return false;
     }
-    return true; // still connecting on a very busy machine: it will come
+    return true; // still connecting on a very busy machine: the stream starts later
 }
 
 bool CaptureStream::connectStream(const AudioDeviceInfo& device) {
@@ -64,8 +64,8 @@ bool CaptureStream::connectStream(const AudioDeviceInfo& device) {
     if (!core)
         return false;
     static std::atomic<int> units{0};
-    // The session manager restores volumes by role, then by application id: a role of ours or an id that was used
-    // before could bring back a gain that somebody once gave another stream.
+    // The session manager restores volumes by role, then by application id. A role, or an id that was used before,
+    // could restore a gain that the user once set for another stream.
     const std::string applicationId =
         "com.korvane.Sonaphex." + std::to_string(QCoreApplication::applicationPid()) + '.' + std::to_string(++units);
     auto* properties = pw_properties_new(PW_KEY_MEDIA_TYPE, "Audio", PW_KEY_MEDIA_CATEGORY, "Capture", PW_KEY_APP_ID,
@@ -147,7 +147,7 @@ void CaptureStream::onStateChanged(pw_stream_state state, const char* error) {
     case PW_STREAM_STATE_CONNECTING:
         break;
     }
-    // Controls and the end of a stream are no matter for its own callback (the library crashes).
+    // Controls and the end of a stream must not be handled inside its own callback: the library crashes.
     pw_loop_signal_event(registry_->connection()->loop(), work_.get());
 }
 
@@ -156,7 +156,7 @@ void CaptureStream::onWork() {
         gone_ = false;
         closeStream();
         lose(Change::DeviceLost);
-        // The device may be there still, or again: then the news of its appearance has come already.
+        // The device may still exist, or exist again; then its deviceAppeared() was already delivered.
         if (const auto device = registry_->device(target_.device); device && revive_.exchange(false))
             connectStream(*device);
         return;
@@ -228,7 +228,7 @@ std::uint64_t CaptureStream::lostBeforeRt(const spa_io_clock& clock, std::uint64
             lost = std::uint64_t(
                 std::llround(double(clock.position - expectedPosition_) / clockRate * target_.sampleRate));
         } else if (target_.hardware && clock.position == expectedPosition_ && clock.nsec > expectedNsec_) {
-            // After an overrun a sound card's driver counts on as if nothing had happened, but the time has moved.
+            // After an overrun a sound card's driver continues its frame count without a gap, although time has passed.
             const double late = double(clock.nsec - expectedNsec_) * 1e-9;
             if (late > std::max(0.05, 2 * double(clock.duration) / clockRate))
                 lost = std::uint64_t(std::llround(late * target_.sampleRate));
@@ -259,7 +259,7 @@ void CaptureStream::processRt() noexcept {
             for (const float* each : pointers_)
                 silent = silent && (!each || std::all_of(each, each + frames, [](float value) { return value == 0; }));
         }
-        // The first quantum of a stream is often the silence from before the link; it is not the device's.
+        // The first quantum of a stream is often silence from before the link was made, not audio of the device.
         if (frames > 0 && position && !(begins && mayBeSilentStart_ && silent)) {
             const auto duration = std::uint64_t(double(frames) * 1e9 / target_.sampleRate);
             CaptureBlock block;

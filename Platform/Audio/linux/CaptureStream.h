@@ -14,36 +14,36 @@
 
 namespace Platform {
 
-/// Captures one device into a ring, and again when the device or the server was away and came back. This is the part of
-/// an input unit that lives on the server's threads.
+/// Captures one device into a ring, and again after the device or the server was away and returned. This is the part of
+/// an input unit that runs on the server's threads.
 class CaptureStream final : private DeviceRegistry::Listener {
 public:
     struct Target {
         AudioObjectID device = 0;
-        std::uint32_t sampleRate = 0; ///< Hz; another rate of the device is converted to it on the way in
+        std::uint32_t sampleRate = 0; ///< Hz; a device with another rate is converted to it
         std::uint32_t channels = 0;
         std::vector<std::uint32_t> positions;
         std::uint32_t cycleFrames = 0;
-        bool hardware = false; ///< a hole in time is a hole in the audio: it has a clock of its own
+        bool hardware = false; ///< the device has a clock of its own: a gap in its times is a gap in the audio
     };
     enum class Change { DeviceLost, DeviceReturned, ServerLost, ServerReturned };
     /// Called on the server's loop thread.
     using Observer = std::function<void(Change)>;
 
     CaptureStream(std::shared_ptr<DeviceRegistry> registry, Target target, CaptureRing& ring, Observer observer);
-    /// Nothing is pushed or told any more when it returns.
+    /// When it returns, nothing more is pushed and the observer is not called again.
     ~CaptureStream() override;
     CaptureStream(const CaptureStream&) = delete;
     CaptureStream& operator=(const CaptureStream&) = delete;
 
-    /// Connects to the device and waits, at most @p milliseconds, until it is linked. False with @p why when it is not
-    /// there or refuses; it is captured all the same once it comes.
+    /// Connects to the device and waits until it is linked, at most @p milliseconds. False with @p why when the device
+    /// does not exist or refuses; it is still captured when it appears later.
     [[nodiscard]] bool open(int milliseconds, QString& why);
-    /// Blocks pushed so far, to notice a stream that runs dry. Any thread.
+    /// Blocks pushed so far; used to notice a stream that stopped delivering. Any thread.
     [[nodiscard]] std::uint64_t blocks() const { return blocks_.load(std::memory_order_relaxed); }
     /// Whether the stream is linked and should deliver. Any thread.
     [[nodiscard]] bool streaming() const { return state_ == State::Streaming; }
-    /// Begins anew with a stream that delivers nothing though its device is there. Any thread but an audio thread.
+    /// Reconnects a stream that delivers nothing although its device exists. Any thread but an audio thread.
     void revive();
 
 private:
@@ -73,7 +73,7 @@ private:
     // On the loop's thread.
     enum class Missing { Nothing, Device, Server };
     Missing missing_ = Missing::Nothing;
-    bool gone_ = false; ///< the stream lost its device and waits to be closed outside its own callback
+    bool gone_ = false; ///< the stream lost its device and must be closed outside its own callback
     bool setVolume_ = false;
     std::atomic<bool> revive_{false};
 
@@ -82,7 +82,7 @@ private:
     std::condition_variable stateChanged_;
     std::string error_;
 
-    // On the data thread; at rest between two streams.
+    // Data thread; changed elsewhere only while no stream runs.
     std::atomic<const spa_io_position*> position_{nullptr};
     std::vector<const float*> pointers_;
     std::atomic<bool> begins_{true}; ///< the next block is the first of its stream
@@ -94,7 +94,7 @@ private:
     std::uint64_t endOfLast_ = 0; ///< host time at which the last block ended; 0 before the first
     std::atomic<std::uint64_t> blocks_{0};
 
-    // Destroyed from the bottom up.
+    // Destroyed in reverse order.
     PipeWire::LoopSource work_;
     PipeWire::StreamPtr stream_;
     PipeWire::Hook listener_;

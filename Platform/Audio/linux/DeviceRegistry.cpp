@@ -197,7 +197,8 @@ void DeviceRegistry::onDone(int sequence) {
     if (sequence == globalsSequence_) {
         knownSequence_ = pw_core_sync(connection_->core(), PW_ID_CORE, 0);
     } else if (sequence == knownSequence_ && !routesAsked_ && !cards_.empty()) {
-        // Cards that told about themselves were asked for their routes. The answers come before that of this call.
+        // Every card that described itself was asked for its routes. Their answers arrive before the answer to this
+        // call.
         routesAsked_ = true;
         knownSequence_ = pw_core_sync(connection_->core(), PW_ID_CORE, 0);
     } else if (sequence == knownSequence_) {
@@ -262,7 +263,7 @@ void DeviceRegistry::publish(const Node& node) {
     }
     if (info.hasVolume)
         info.volumes.resize(info.channels, 1.0f);
-    // The session manager makes a device's ports a moment after the device itself.
+    // The session manager creates a device's ports shortly after the device itself.
     if (captures && info.captureStreams == 0)
         info.captureStreams = info.channels;
     if (plays && info.playbackStreams == 0)
@@ -333,7 +334,7 @@ void DeviceRegistry::onMetadata(Metadata& metadata, std::uint32_t subject, const
             forcedQuantum_ = number;
         return;
     }
-    // No key at all: everything about the subject is removed.
+    // No key: all metadata of the subject is removed.
     if (key && strcmp(key, "default.audio.sink") != 0)
         return;
     {
@@ -380,7 +381,7 @@ AudioObjectID DeviceRegistry::defaultOutput() const {
 std::uint32_t DeviceRegistry::cycleFrames(double sampleRate) const {
     std::lock_guard guard(mutex_);
     const auto quantum = forcedQuantum_ ? forcedQuantum_ : quantum_;
-    // At a multiple of the server's rate a cycle lasts as long and so holds more frames.
+    // At a multiple of the server's rate a cycle takes the same time and so holds more frames.
     return std::clamp(std::uint32_t(quantum * std::max(1.0, std::floor(sampleRate / clockRate_))), 64u, 8192u);
 }
 

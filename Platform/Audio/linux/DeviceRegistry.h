@@ -17,42 +17,42 @@ namespace Platform {
 
 struct DeviceRoute;
 
-/// A node of the sound server that is a device, as it is known at one moment.
+/// A node of the sound server that is a device, with its state at one moment.
 struct AudioDeviceInfo {
     AudioObjectID id = 0;
-    std::uint32_t nodeId = 0; ///< recycled by the server: good for one call only
-    std::uint64_t serial = 0; ///< never recycled by one server
+    std::uint32_t nodeId = 0; ///< recycled by the server: valid for one call only
+    std::uint64_t serial = 0; ///< never recycled during the life of a server
     std::string nodeName;
     std::string description;
     std::string mediaClass;
-    std::map<std::string, std::string> properties; ///< all of the node's, and what it lacks of its card's
-    std::uint32_t captureStreams = 0;              ///< ports that deliver and are no monitor
-    std::uint32_t playbackStreams = 0;             ///< ports that take
+    std::map<std::string, std::string> properties; ///< all properties of the node, completed with those of its card
+    std::uint32_t captureStreams = 0;              ///< output ports that are no monitor
+    std::uint32_t playbackStreams = 0;             ///< input ports
     double sampleRate = 0;
     std::uint32_t channels = 0;
-    std::vector<std::uint32_t> channelPositions; ///< SPA_AUDIO_CHANNEL_...; as many as channels
+    std::vector<std::uint32_t> channelPositions; ///< SPA_AUDIO_CHANNEL_...; one per channel
     bool hasVolume = false;                      ///< has a volume control
-    std::vector<float> volumes;                  ///< linear, one a channel while it has one
+    std::vector<float> volumes;                  ///< linear, one per channel while the node has one
     bool muted = false;
 
-    /// "<node name>:<8 hex digits of its hash>": a name that is the beginning of another stays distinct.
+    /// "<node name>:<8 hex digits of its hash>": the hash keeps a name distinct from one that begins with it.
     [[nodiscard]] QString uid() const;
 };
 
-/// The picture of the server's devices that its own thread keeps up to date. Shared by the hardware's object model, the
-/// input units and the I/O registry. Queries may come from any thread and take no lock of the server's loop.
+/// The list of the server's devices, kept current by the connection's thread. Shared by the hardware's object model,
+/// the input units and the I/O registry. Queries may come from any thread and do not take the server loop's lock.
 class DeviceRegistry final : public PipeWireConnection::Client {
 public:
-    /// All on the loop's thread.
+    /// All functions are called on the loop's thread.
     class Listener {
     public:
         virtual ~Listener() = default;
         virtual void deviceAppeared(const AudioDeviceInfo& /*device*/) {}
         virtual void deviceGone(AudioObjectID /*device*/) {}
         virtual void defaultSinkChanged() {}
-        /// The server is gone and with it every device; deviceGone() is not called for each.
+        /// The server is gone with all its devices; deviceGone() is not called for each of them.
         virtual void serverGone() {}
-        /// All devices of a server that has (re)appeared are known.
+        /// All devices of a server that (re)appeared are known.
         virtual void devicesKnown() {}
     };
 
@@ -66,7 +66,7 @@ public:
     void add(Listener& listener);
     void remove(Listener& listener);
 
-    /// Waits until all devices are known or there is no server to know them; at most @p milliseconds.
+    /// Waits until all devices are known or there is no server; at most @p milliseconds.
     bool waitUntilKnown(int milliseconds) const;
     /// In the order of their first appearance.
     [[nodiscard]] std::vector<AudioDeviceInfo> devices() const;
@@ -76,11 +76,12 @@ public:
     /// Frames in one cycle of a device that runs at @p sampleRate.
     [[nodiscard]] std::uint32_t cycleFrames(double sampleRate) const;
 
-    /// Volume of one channel, or mute, of a device: of its card's route where the card has one, else of the node.
-    /// Takes the loop's lock.
+    /// Sets the volume of one channel, or mute: on the card's route where the card has one, else on the node. Takes the
+    /// loop's lock.
     OSStatus setVolume(AudioObjectID device, std::uint32_t element, float volume);
     OSStatus setMute(AudioObjectID device, bool mute);
-    /// Sets or (empty @p value) removes a key of the server's metadata "default" for an object. Takes the loop's lock.
+    /// Sets a key of the server's metadata "default" for an object, or removes it when @p value is empty. Takes the
+    /// loop's lock.
     OSStatus setMetadata(std::uint32_t subject, const std::string& key, const std::string& type,
                          const std::string& value);
 
@@ -108,7 +109,7 @@ private:
     void publish(const Node& node);
     [[nodiscard]] AudioObjectID numberFor(const std::string& nodeName);
     [[nodiscard]] Node* find(AudioObjectID device);
-    /// The card and the route that carry the node's volume; null where the node carries it itself.
+    /// The card and the route that control the node's volume; null where the node controls it itself.
     [[nodiscard]] std::pair<Card*, DeviceRoute*> routeOf(const Node& node);
 
     std::shared_ptr<PipeWireConnection> connection_;
@@ -120,14 +121,15 @@ private:
     std::map<std::uint32_t, std::unique_ptr<Card>> cards_; ///< by the server's id, as are the next two
     std::map<std::uint32_t, Port> ports_;
     std::map<std::uint32_t, std::unique_ptr<Metadata>> metadata_;
-    int globalsSequence_ = -1; ///< answered when all that existed at connecting was named
+    int globalsSequence_ =
+        -1; ///< sync number; its answer comes after all objects that existed at connecting were announced
     bool routesAsked_ = false;
-    int knownSequence_ = -1; ///< answered when all of that told about itself
+    int knownSequence_ = -1; ///< sync number; its answer comes after all those objects described themselves
 
-    /// Numbers ever given under a name, oldest first. Kept for the life of the process, beyond that of any registry.
+    /// All numbers ever given to a name, oldest first. Lives as long as the process, longer than any registry.
     static std::unordered_map<std::string, std::vector<AudioObjectID>>& numbers();
 
-    mutable std::mutex mutex_; ///< guards the picture below; never held while anyone is called
+    mutable std::mutex mutex_; ///< guards the members below; never held while a listener is called
     mutable std::condition_variable changed_;
     bool known_ = false;
     std::map<AudioObjectID, AudioDeviceInfo> picture_;

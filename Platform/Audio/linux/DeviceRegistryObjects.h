@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The server's objects as the device registry keeps them; for its own sources only. All on the loop's thread.
+// The server's objects as the device registry stores them; included by its own sources only. Loop's thread.
 #pragma once
 
 #include "Platform/Audio/linux/DeviceRegistry.h"
@@ -21,15 +21,15 @@ struct DeviceRegistry::Node {
     DeviceRegistry& owner;
     std::uint32_t nodeId;
     AudioDeviceInfo info;
-    NodeFormat offered; ///< what it could do
-    NodeFormat chosen;  ///< what it does since it was opened; may be unknown
-    int sequence = -1;  ///< answered when it told about itself
+    NodeFormat offered; ///< the formats it offers
+    NodeFormat chosen;  ///< the format it uses since it was opened; may be unknown
+    int sequence = -1;  ///< sync number; its answer comes after the node described itself
     bool announced = false;
     PipeWire::NodePtr proxy;
     PipeWire::Hook listener;
 };
 
-/// The hardware that nodes belong to: a sound card, a headset. Of its bus a card's node says nothing itself.
+/// The hardware of a node: a sound card, a headset. A card's node does not name its bus; the card does.
 struct DeviceRegistry::Card {
     Card(DeviceRegistry& r, std::uint32_t i) : owner(r), deviceId(std::to_string(i)) {}
 
@@ -37,15 +37,15 @@ struct DeviceRegistry::Card {
     void askForRoutes(std::span<const spa_param_info> params);
     void onRoute(std::uint32_t number, const spa_pod* pod);
     [[nodiscard]] bool has(const AudioDeviceInfo& node) const;
-    /// The route that this node of the card uses; null when it has none.
+    /// The route that this node of the card uses; null when there is none.
     [[nodiscard]] DeviceRoute* routeOf(const AudioDeviceInfo& node);
     void publishNodes();
 
     DeviceRegistry& owner;
     std::string deviceId;
     std::map<std::string, std::string> properties;
-    std::uint32_t routeFlags = 0;               ///< they differ after each change of the routes
-    std::map<std::int32_t, DeviceRoute> routes; ///< the active ones, by the card's own number of the device
+    std::uint32_t routeFlags = 0;               ///< toggles with each change of the routes
+    std::map<std::int32_t, DeviceRoute> routes; ///< the active routes, by the card's own device number
     PipeWire::DevicePtr proxy;
     PipeWire::Hook listener;
 };
@@ -59,7 +59,7 @@ struct DeviceRegistry::Metadata {
     PipeWire::Hook listener;
 };
 
-/// A value of a dictionary of the server; empty when there is none.
+/// A value of a server dictionary; empty when the key is missing.
 [[nodiscard]] inline std::string lookup(const spa_dict* properties, const char* key) {
     const char* value = properties ? spa_dict_lookup(properties, key) : nullptr;
     return value ? value : "";

@@ -10,18 +10,18 @@
 
 namespace Platform {
 
-/// The way from a device of a sound card to its socket or microphone. A card that has routes obeys the volume and mute
-/// of the route, not those of the node.
+/// The path from a device of a sound card to its socket or microphone. When a card has routes, its volume and mute are
+/// those of the route, not those of the node.
 struct DeviceRoute {
     std::int32_t index = 0;
     std::int32_t device = 0; ///< the node's card.profile.device
     bool hasVolume = false;
-    std::vector<float> volumes; ///< linear, one a channel
+    std::vector<float> volumes; ///< linear, one per channel
     bool muted = false;
 
-    /// Of a Route parameter; nothing when it names no route.
+    /// Reads a Route parameter; nothing when it describes no route.
     [[nodiscard]] static std::optional<DeviceRoute> read(const spa_pod* pod);
-    /// Parameters that set the volumes, or mute, of this route, and let the session manager remember them.
+    /// Parameters that set the volumes, or mute, of this route and let the session manager store them.
     [[nodiscard]] PodPtr withVolumes(const std::vector<float>& volumes) const;
     [[nodiscard]] PodPtr withMute(bool mute) const;
 };

@@ -36,8 +36,8 @@ void DeviceRegistry::Card::onInfo(const pw_device_info* update) {
     publishNodes();
 }
 
-/// Asks again at each change. A subscription is no help: server 0.3.65 does not pass on what a card of another process
-/// answers to one.
+/// Asks again at each change. A subscription does not work: server 0.3.65 does not forward the answers of a card that
+/// lives in another process.
 void DeviceRegistry::Card::askForRoutes(std::span<const spa_param_info> params) {
     for (const auto& each : params) {
         if (each.id != SPA_PARAM_Route || each.flags == routeFlags)
@@ -48,7 +48,7 @@ void DeviceRegistry::Card::askForRoutes(std::span<const spa_param_info> params) 
     }
 }
 
-/// @p number counts the routes of one answer: with the first one, those told before are out of date.
+/// @p number counts the routes of one answer. The first route makes all earlier answers invalid.
 void DeviceRegistry::Card::onRoute(std::uint32_t number, const spa_pod* pod) {
     if (number == 0)
         routes.clear();

@@ -31,13 +31,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The process's bundle; one of our own where no services are installed.
+/// The process's bundle; a new one where no services are installed.
 const Bundle& bundle() {
     static const std::unique_ptr<Bundle> own = createBundle();
     return services().bundle ? *services().bundle : *own;
 }
 
-/// The address of a socket holds 107 characters: a long folder is of no use.
+/// A socket address holds at most 107 characters, so a long folder cannot be used.
 QString baseFolder() {
     for (const QString& each : {qEnvironmentVariable("XDG_RUNTIME_DIR"), qEnvironmentVariable("TMPDIR"), u"/tmp"_s}) {
         const QFileInfo info(each);
@@ -112,7 +112,7 @@ std::unique_ptr<LinuxPrivateSession> LinuxPrivateSession::start(const Options& o
     session->hadRuntimeFolder_ = qEnvironmentVariableIsSet("PIPEWIRE_RUNTIME_DIR");
     session->previousRuntimeFolder_ = qgetenv("PIPEWIRE_RUNTIME_DIR");
     qputenv("PIPEWIRE_RUNTIME_DIR", line.mid(6));
-    // A remote named by the user would be looked for in our folder.
+    // If the user set a remote name, it would be looked up in the private folder.
     qunsetenv("PIPEWIRE_REMOTE");
     if (!PipeWire::serverIsThere(8000, true, options.expectedSource)) {
         why = u"the private sound server came up without its devices"_s;

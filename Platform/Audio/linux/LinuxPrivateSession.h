@@ -10,13 +10,15 @@
 
 namespace Platform {
 
-/// The owner's end of the session keeper, a helper process that runs the server and ends with us. Main thread.
+/// Starts and controls the session keeper, a helper process that runs the server and ends with this process. Main
+/// thread.
 class LinuxPrivateSession final : public PrivateSession {
 public:
     struct Options {
-        /// Programs beside the server and its manager, each with the path of its file; a missing file is left out.
+        /// Further programs to start beside the server and its manager, each with the path of its file; a missing file
+        /// is skipped.
         QStringList programs;
-        /// The input device to wait for, by node.name; empty waits for the output alone.
+        /// node.name of the input device to wait for; when empty, only the output is waited for.
         QByteArray expectedSource;
     };
 
@@ -28,7 +30,7 @@ public:
     [[nodiscard]] static std::unique_ptr<LinuxPrivateSession> start(const Options& options, QString& why);
 
     [[nodiscard]] QString runtimeFolder() const override { return runtimeFolder_; }
-    /// Takes the server down, and up again in the same folder: what a crash or an upgrade of it looks like.
+    /// Stops the server, and startServer() starts it again in the same folder. Simulates a crash or an upgrade.
     bool stopServer();
     bool startServer();
     [[nodiscard]] pid_t keeper() const { return keeper_; }
@@ -36,7 +38,7 @@ public:
 private:
     LinuxPrivateSession() = default;
     bool spawnKeeper(const QStringList& arguments, QString& why);
-    /// The keeper's next line; empty when none came in time.
+    /// The keeper's next line; empty when none arrives in time.
     [[nodiscard]] QByteArray readLine(int deadlineMs);
 
     pid_t keeper_ = -1;

@@ -10,7 +10,7 @@ namespace Platform {
 
 namespace {
 
-/// The value of a property, or the first of the values to choose from, when it is an integer.
+/// The value of an integer property, or the first value when it is a choice.
 std::uint32_t firstInt(const spa_pod* object, std::uint32_t key) {
     const spa_pod_prop* property = spa_pod_find_prop(object, nullptr, key);
     if (!property)

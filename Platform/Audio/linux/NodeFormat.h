@@ -18,7 +18,8 @@ struct NodeFormat {
     std::vector<std::uint32_t> positions; ///< SPA_AUDIO_CHANNEL_...
 
     [[nodiscard]] bool known() const { return rate > 0 || channels > 0; }
-    /// Of a format parameter: its values, or the first of each where it offers several. Unknown unless it is raw audio.
+    /// Reads a format parameter: its values, or the first of each where it offers several. All unknown unless it is raw
+    /// audio.
     [[nodiscard]] static NodeFormat read(const spa_pod* pod);
 };
 
@@ -30,12 +31,12 @@ using PodPtr = std::unique_ptr<spa_pod, FreePod>;
 /// Mono, front left and right, or numbered places beyond two channels.
 [[nodiscard]] std::vector<std::uint32_t> defaultChannelPositions(std::uint32_t channels);
 
-/// What a stream asks for: raw audio of 32-bit float at a format's rate, interleaved or one buffer a channel.
+/// The format that a stream requests: raw 32-bit float at the given rate, interleaved or one buffer per channel.
 [[nodiscard]] PodPtr interleavedFloatPod(const NodeFormat& format);
 [[nodiscard]] PodPtr planarFloatPod(const NodeFormat& format);
 
-/// Takes over what a Props parameter says of volumes (linear) and mute; what it does not say stays. A device that was
-/// never opened has the property without values yet. Answers whether there is a volume control.
+/// Takes volumes (linear) and mute from a Props parameter; values that it does not contain stay as they are. The
+/// property of a device that was never opened has no values yet. Returns whether there is a volume control.
 bool readVolumes(const spa_pod* pod, std::vector<float>& volumes, bool& muted);
 [[nodiscard]] PodPtr volumesPod(const std::vector<float>& volumes);
 [[nodiscard]] PodPtr mutePod(bool mute);

@@ -8,7 +8,7 @@
 namespace Platform {
 
 namespace {
-/// The first picture takes some 10 ms; a server that takes longer is answered for as if it had no devices yet.
+/// The first device list takes about 10 ms. When the server takes longer than this, the answer is an empty list.
 constexpr int settleMs = 1000;
 } // namespace
 
@@ -150,7 +150,7 @@ QString PipeWireAudioHardware::lastError() const {
 
 void PipeWireAudioHardware::deviceAppeared(const AudioDeviceInfo&) {
     postDevicesChanged();
-    postDefaultOutputChanged(); // the default may have been named before the device was there
+    postDefaultOutputChanged(); // the default may have been announced before its device existed
 }
 
 void PipeWireAudioHardware::deviceGone(AudioObjectID) {

@@ -42,8 +42,8 @@ private:
     void postDevicesChanged();
     void postDefaultOutputChanged();
     void postConnected();
-    /// Gives a server that is just being asked a moment to answer, once for each connection: later calls would each
-    /// hold up the window as long.
+    /// Waits a moment for a server that is still describing its devices, once per connection: if each call waited, the
+    /// window would stop responding.
     void settle() const;
     OSStatus find(AudioObjectID device, AudioDeviceInfo& info) const;
     OSStatus findInputElement(AudioObjectID device, std::uint32_t element, AudioDeviceInfo& info) const;
@@ -53,7 +53,7 @@ private:
     std::atomic<bool> defaultPosted_{false};
     bool toldConnected_ = false; ///< main thread
     const bool testTone_;
-    mutable std::atomic<bool> patient_{true}; ///< settle() waits still
+    mutable std::atomic<bool> patient_{true}; ///< settle() still waits
 };
 
 } // namespace Platform

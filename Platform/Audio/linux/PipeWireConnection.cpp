@@ -79,8 +79,8 @@ void PipeWireConnection::connect() {
 }
 
 void PipeWireConnection::onCoreError(std::uint32_t id, int result) {
-    // A vanished target makes a burst of other errors on the same id; only a broken pipe means the server. The core
-    // cannot be ended inside its own callback.
+    // A target that vanished causes many other errors on the same id; only a broken pipe means that the server is gone.
+    // The core must not be destroyed inside its own callback.
     if (id == PW_ID_CORE && result == -EPIPE)
         pw_loop_signal_event(loop(), goneEvent_.get());
 }

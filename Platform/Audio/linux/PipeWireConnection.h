@@ -12,25 +12,25 @@
 
 namespace Platform {
 
-/// The process's connection to the sound server, with a thread loop of its own and a real-time data thread. When the
-/// server goes away it tries again every 250 ms until it is back. Devices, input units and players share it.
-///
-/// Streams, proxies and everything else that hangs on the connection are made, used and destroyed with a
-/// PipeWire::LoopLock on loop() held, or on the loop's own thread; when serverLost() comes, they must go.
+/// The process's connection to the sound server, with its own thread loop and a real-time data thread. When the server
+/// goes away, it tries to reconnect every 250 ms. Devices, input units and players share it.
+/// Streams, proxies and all other objects of the connection are created, used and destroyed with a PipeWire::LoopLock
+/// on loop() held, or on the loop's own thread. They must be destroyed in serverLost().
 class PipeWireConnection {
 public:
-    /// Told what becomes of the server; on the loop's thread, or on the caller's with the lock held inside add().
+    /// Informed when the server appears or disappears; on the loop's thread, or inside add() on the caller's thread
+    /// with the lock held.
     class Client {
     public:
         virtual ~Client() = default;
-        /// core() is there.
+        /// core() is valid.
         virtual void serverConnected() = 0;
-        /// The server is gone: destroy what belongs to it. core() is still valid during the call.
+        /// The server is gone: destroy all objects that belong to it. core() is still valid during the call.
         virtual void serverLost() = 0;
     };
 
-    /// The connection of this process, made at the first call and ended with its last holder. Any thread that holds no
-    /// loop's lock.
+    /// The connection of this process, created by the first call and closed by its last owner. Any thread that holds no
+    /// loop lock.
     static std::shared_ptr<PipeWireConnection> shared();
     ~PipeWireConnection();
     PipeWireConnection(const PipeWireConnection&) = delete;
@@ -38,18 +38,18 @@ public:
 
     [[nodiscard]] pw_thread_loop* threadLoop() const { return loop_.get(); }
     [[nodiscard]] pw_loop* loop() const { return pw_thread_loop_get_loop(loop_.get()); }
-    /// Null while no server answers. Under the lock.
+    /// Null while no server answers. Needs the lock.
     [[nodiscard]] pw_core* core() const { return core_.get(); }
     [[nodiscard]] pw_context* context() const { return context_.get(); }
 
-    /// Takes the lock itself. A client that comes while the server is there hears serverConnected() at once. Clients
-    /// are told in the order in which they came, of a loss in the opposite order.
+    /// Takes the lock itself. If the server is connected, the client's serverConnected() is called at once. Clients are
+    /// called in the order in which they were added, and in reverse order when the server is lost.
     void add(Client& client);
-    /// After it returns the client hears nothing more.
+    /// After it returns, the client is not called any more.
     void remove(Client& client);
 
     [[nodiscard]] bool connected() const { return connected_; }
-    /// Why there is no connection, for people. Takes the lock.
+    /// Why there is no connection, for the user. Takes the lock.
     [[nodiscard]] QString lastError() const;
 
 private:
@@ -63,7 +63,7 @@ private:
     QString lastError_;
     std::atomic<bool> connected_{false};
 
-    // Destroyed from the bottom up.
+    // Destroyed in reverse order.
     PipeWire::ThreadLoopPtr loop_;
     PipeWire::LoopSource retryTimer_;
     PipeWire::LoopSource goneEvent_;

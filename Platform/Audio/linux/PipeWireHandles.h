@@ -8,7 +8,7 @@
 #include <mutex>
 #include <utility>
 
-// C headers that compare enums of different types and leave members out of initialisers.
+// These C headers compare enums of different types and omit members in initialisers.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wpedantic"
 #pragma GCC diagnostic ignored "-Wmissing-field-initializers"
@@ -24,10 +24,10 @@
 #include <spa/utils/json.h>
 #include <spa/utils/result.h>
 #pragma GCC diagnostic pop
-// The library's tables of callbacks are filled by name with the ones that are wanted.
+// The library's callback tables are filled with designated initialisers; unused callbacks stay null.
 #pragma GCC diagnostic ignored "-Wmissing-field-initializers"
 
-/// Owners of PipeWire's objects. What belongs to a loop is made, used and destroyed with a LoopLock held, or on the
+/// Owners of PipeWire's objects. An object of a loop is created, used and destroyed with a LoopLock held, or on the
 /// loop's own thread.
 namespace Platform::PipeWire {
 
@@ -57,7 +57,7 @@ using NodePtr = std::unique_ptr<pw_node, FreeProxy>;
 using DevicePtr = std::unique_ptr<pw_device, FreeProxy>;
 using ProxyPtr = std::unique_ptr<pw_proxy, FreeProxy>;
 
-/// A listener that unhooks itself.
+/// A listener that removes itself.
 class Hook {
 public:
     Hook() = default;
@@ -77,10 +77,9 @@ private:
     spa_hook hook_ = {};
 };
 
-/// Unhooks a stream whose process callback runs on the data thread. To be called before the stream, or anything that
-/// the callback uses, is touched. The library takes the callback away on whichever thread asks and waits for nobody:
-/// asked beside a running cycle, that cycle would find a stream that is gone. So the data thread does it itself,
-/// between two cycles.
+/// Unhooks a stream whose process callback runs on the data thread. Call this before the stream, or anything that the
+/// callback uses, is destroyed. The library removes the callback on the calling thread without waiting for a running
+/// cycle, which would then use a destroyed stream. So the removal runs on the data thread, between two cycles.
 inline void unhookFromDataThread(pw_context* context, Hook& listener) {
     pw_data_loop_invoke(
         pw_context_get_data_loop(context),
@@ -91,7 +90,7 @@ inline void unhookFromDataThread(pw_context* context, Hook& listener) {
         0, nullptr, 0, true, &listener);
 }
 
-/// Holds a thread loop still.
+/// Locks a thread loop.
 class LoopLock {
 public:
     explicit LoopLock(pw_thread_loop* loop) : loop_(loop) { pw_thread_loop_lock(loop_); }
@@ -128,8 +127,8 @@ private:
     spa_source* source_ = nullptr;
 };
 
-/// Starts the library once in a process. Never shut down: other parts of the process may use it, and its plug-ins stay
-/// loaded anyway.
+/// Initialises the library once per process. It is never shut down: other parts of the process may use it, and its
+/// plug-ins stay loaded anyway.
 inline void initialiseLibrary() {
     static std::once_flag once;
     std::call_once(once, [] { pw_init(nullptr, nullptr); });

@@ -9,7 +9,7 @@ namespace Platform {
 
 namespace {
 
-/// A server that is just being asked gets this long to answer.
+/// How long to wait for a server that is still describing its devices.
 constexpr int kSettleMs = 1000;
 constexpr char kEngineClassProperty[] = "korvane.engine.class";
 constexpr OSStatus kNoSuchService = -1;
@@ -19,7 +19,7 @@ std::string propertyOf(const AudioDeviceInfo& device, const char* key) {
     return found != device.properties.end() ? found->second : std::string();
 }
 
-/// The hardware that a node belongs to, as far as the node knows it.
+/// The hardware of a node, as far as the node's properties say.
 std::string hardwareOf(const AudioDeviceInfo& device) {
     for (const char* key : {"device.name", "alsa.card_name", "api.bluez5.address", "api.alsa.path"})
         if (auto name = propertyOf(device, key); !name.empty())

@@ -11,8 +11,8 @@ namespace Platform {
 
 class DeviceRegistry;
 
-/// The sound server's devices as services. A handle is the device's number, which is never given to another one, so
-/// there is nothing to hold it by. Main thread.
+/// The sound server's devices as services. A handle is the device's number, which is never reused, so retaining does
+/// nothing. Main thread.
 class PipeWireIORegistry final : public IORegistry {
 public:
     PipeWireIORegistry();
@@ -22,9 +22,9 @@ public:
     void retain(Object object) override;
     void release(Object object) override;
     QString path(Object object) override;
-    /// A property of the node, else what this process set. Numbers and truth values come back as texts.
+    /// A property of the node, else the value that this process set. Numbers and booleans are returned as texts.
     QVariant property(Object object, const QString& key) override;
-    /// Goes to the server's metadata of the node, as text.
+    /// Written to the server's metadata of the node, as text.
     OSStatus setProperty(Object object, const QString& key, const QVariant& value) override;
 
 private:

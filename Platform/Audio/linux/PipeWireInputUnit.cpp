@@ -18,12 +18,12 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr double ringSeconds = 10;
-/// Linking takes some 10 ms; on a machine that is too busy for a second it may finish later.
+/// Linking takes about 10 ms; on an overloaded machine it may finish after this time.
 constexpr int openMs = 1000;
-/// A stream that is linked and delivers nothing for so long is dead, though nobody said so: that happens when the
-/// session manager alone ends.
+/// A linked stream that delivers nothing for this long is dead although no event said so. This happens when only the
+/// session manager ends.
 constexpr auto dryAfter = 2s;
-/// What was heard last is not shown for longer than this, when nothing follows.
+/// When no cycle follows, the last level is shown for this long at most.
 constexpr auto silentAfter = 100ms;
 
 } // namespace
@@ -176,7 +176,7 @@ std::uint64_t PipeWireInputUnit::overrunFrames() const {
 
 void PipeWireInputUnit::runCycles() {
     CycleAssembler assembler(*ring_, target_.sampleRate, target_.cycleFrames);
-    // Nobody wakes this thread: waking is a system call, and the data thread makes none.
+    // The data thread cannot wake this thread: that would be a system call. So this thread polls.
     const auto look =
         std::chrono::milliseconds(std::clamp(int(500.0 * target_.cycleFrames / target_.sampleRate), 2, 10));
     std::uint64_t seenBlocks = 0;
@@ -184,7 +184,7 @@ void PipeWireInputUnit::runCycles() {
     lastBlockAt_ = std::chrono::steady_clock::now();
     for (;;) {
         CaptureCycle cycle;
-        // What was begun when the device left is delivered as it is: the rest will not come.
+        // The device is gone: deliver the incomplete cycle, the rest will not arrive.
         const bool ended = !stream_->streaming();
         while (assembler.next(cycle, fillLost_, ended)) {
             if (!runCycle(assembler, cycle))
@@ -257,7 +257,7 @@ OSStatus PipeWireInputUnit::render(std::uint32_t*, const AudioTimeStamp*, std::u
         buffer.mDataByteSize = frames * std::uint32_t(sizeof(float));
         if (!buffer.mData)
             continue;
-        // A mono device is heard on every channel asked for; others are silent where they have none.
+        // A mono device fills every requested channel; of other devices, missing channels are silent.
         const std::uint32_t source = target_.channels == 1 ? 0 : i;
         if (source < target_.channels)
             std::memcpy(buffer.mData, current_->channel(source), buffer.mDataByteSize);

@@ -15,7 +15,7 @@ namespace Platform {
 class CycleAssembler;
 struct CaptureCycle;
 
-/// An input unit on the sound server: a stream fills a ring, a thread of the unit's own empties it cycle by cycle.
+/// An input unit on the sound server: a stream fills a ring, and a thread of the unit empties it cycle by cycle.
 class PipeWireInputUnit final : public InputUnit {
 public:
     explicit PipeWireInputUnit(std::shared_ptr<DeviceRegistry> registry);
@@ -66,7 +66,7 @@ private:
     bool stopping_ = false;
     std::thread::id ioThreadId_;
 
-    // The cycle at hand; I/O thread.
+    // The current cycle; I/O thread.
     const CycleAssembler* current_ = nullptr;
     std::uint32_t currentFrames_ = 0;
     std::chrono::steady_clock::time_point lastBlockAt_;
@@ -76,7 +76,7 @@ private:
     std::unique_ptr<CaptureRing> ring_;
     std::unique_ptr<CaptureStream> stream_;
     std::thread ioThread_;
-    /// What events are posted to; they are forgotten with it. Main thread.
+    /// Receiver of posted events; destroying it drops those that are pending. Main thread.
     std::unique_ptr<QObject> mailbox_ = std::make_unique<QObject>();
 };
 

@@ -6,14 +6,14 @@
 #include <string>
 #include <string_view>
 
-/// How nodes of the sound server are named in the registry of devices. Without state, any thread.
+/// How nodes of the sound server are named in the device registry. Pure functions, any thread.
 namespace Platform::RegistryPath {
 
-/// "/", ":", "@", "%" and control characters as %XX: what separates the parts of a path cannot come from a name.
+/// Escapes "/", ":", "@", "%" and control characters as %XX, so that a name cannot contain a path separator.
 [[nodiscard]] std::string escaped(std::string_view name);
 [[nodiscard]] std::string unescaped(std::string_view name);
 
-/// 8 hex digits that tell apart names of which one is the beginning of another.
+/// 8 hex digits that keep a name distinct from one that begins with it.
 [[nodiscard]] std::string hash(std::string_view nodeName);
 /// "<node name>:<hash>"
 [[nodiscard]] std::string uniqueID(std::string_view nodeName);
@@ -22,7 +22,7 @@ namespace Platform::RegistryPath {
 [[nodiscard]] std::string bus(std::string_view deviceBus);
 /// "IOService:/<bus>/<device>/<node>@<hash>"
 [[nodiscard]] std::string path(std::string_view deviceBus, std::string_view deviceName, std::string_view nodeName);
-/// The node that a path ends with; empty when it is no such path.
+/// The node name at the end of a path; empty when the path is malformed.
 [[nodiscard]] std::string nodeNameOf(std::string_view path);
 
 } // namespace Platform::RegistryPath

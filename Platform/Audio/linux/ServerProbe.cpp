@@ -16,7 +16,7 @@ namespace {
 
 using MainLoopPtr = std::unique_ptr<pw_main_loop, FreeBy<pw_main_loop_destroy>>;
 
-/// Runs on the caller's thread: the loop is turned by hand.
+/// Runs its loop on the caller's thread.
 struct Probe {
     Probe(bool wantSink, const QByteArray& wantSource) : sinkWanted(wantSink), source(wantSource) {}
 
@@ -116,12 +116,12 @@ void Probe::run(int deadlineMs, const std::function<bool()>& goOn) {
 } // namespace
 
 PrivateSession::Server lookForServer(int deadlineMs, const std::function<bool()>& goOn) {
-    // The library connects at once or not at all: with a server that stands still the kernel accepts for it.
+    // The library connects at once or fails; when the server is stopped, the kernel still accepts the connection.
     Probe probe(false, {});
     if (!probe.connect())
         return PrivateSession::Server::Absent;
     probe.run(deadlineMs, goOn);
-    // A server that ended meanwhile leaves a machine without one.
+    // When the server ended meanwhile, the machine has no server.
     return probe.failed     ? PrivateSession::Server::Absent
            : probe.answered ? PrivateSession::Server::Answering
                             : PrivateSession::Server::Silent;

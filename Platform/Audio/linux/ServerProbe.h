@@ -11,8 +11,8 @@ namespace Platform::PipeWire {
 /// See PrivateSession::lookForServer().
 [[nodiscard]] PrivateSession::Server lookForServer(int deadlineMs, const std::function<bool()>& goOn = {});
 
-/// Connects with a connection of its own and waits until the server answered; with @p sink also until there is a
-/// default output, with a @p source named also until that node has a port. False when @p deadlineMs went by first.
+/// Opens its own connection and waits until the server answered; with @p sink also until there is a default output;
+/// with a @p source name also until that node has a port. False when @p deadlineMs passes first.
 [[nodiscard]] bool serverIsThere(int deadlineMs, bool sink = false, const QByteArray& source = {});
 
 } // namespace Platform::PipeWire

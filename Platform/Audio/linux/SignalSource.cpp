@@ -25,7 +25,7 @@ std::uint64_t steadyNanoseconds() {
 
 } // namespace
 
-/// What the callbacks may touch. Members are destroyed from the bottom up: the listeners first, the loop last.
+/// Everything that the callbacks may use. Members are destroyed in reverse order: the listeners first, the loop last.
 struct SignalSource::Connection {
     Connection(const Options& o, const GeneratorRt& g) : options(o), generator(g) {}
     ~Connection() {
@@ -78,13 +78,13 @@ struct SignalSource::Connection {
     std::string error;
     std::atomic<spa_io_position*> area{nullptr};
     std::atomic<std::uint64_t> frames{0};
-    // Data thread. The clock ticks there: a tick that came late from an ordinary thread would catch up with two cycles
-    // at once, and whoever captures would miss the first.
-    std::uint64_t nextNsec = 0; ///< when the own clock ticks next
+    // Data thread, where the clock's timer runs. On an ordinary thread a late tick would trigger two cycles at once,
+    // and a recorder would miss the first.
+    std::uint64_t nextNsec = 0; ///< when the source's own clock ticks next
     std::uint64_t lastDuration = 0;
     std::uint64_t lastTrigger = 0;
-    std::atomic<bool> underWay{false}; ///< the graph still works at the cycle begun last
-    std::atomic<bool> tellsEnd{false}; ///< the library says when it is done
+    std::atomic<bool> underWay{false}; ///< the graph is still processing the last cycle
+    std::atomic<bool> tellsEnd{false}; ///< the library reports when a cycle is done
 };
 
 bool SignalSource::Connection::start(std::string& why) {
@@ -208,8 +208,8 @@ void SignalSource::Connection::onStateChanged(pw_stream_state state, const char*
 }
 
 void SignalSource::Connection::armTimerRt(std::uint64_t nsec) {
-    // pw_stream_trigger_process() runs the work that other threads have queued for this one, inside our own callback.
-    // The end of the connection is such work: it destroys the timer.
+    // pw_stream_trigger_process() runs the work that other threads queued for this thread, inside our own callback.
+    // Closing the connection is such work: it destroys the timer.
     if (!timer.get())
         return;
     timespec when = {};
@@ -226,8 +226,7 @@ void SignalSource::Connection::onTimerRt() {
     if (position && pw_stream_is_driving(stream.get())) {
         if (position->clock.rate.denom > 0 && position->clock.duration > 0)
             seconds = double(position->clock.duration) / position->clock.rate.denom;
-        // On a machine that is kept from running, the cycle before may still be under way; another one now would be
-        // heard by nobody.
+        // On an overloaded machine the previous cycle may still be running; nothing would record another cycle now.
         const bool waits =
             tellsEnd && underWay && now < lastTrigger + std::uint64_t(options.patienceMs) * SPA_NSEC_PER_MSEC;
         if (waits) {

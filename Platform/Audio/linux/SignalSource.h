@@ -10,8 +10,8 @@
 
 namespace Platform {
 
-/// An input device, or a playing program, whose samples a function computes. The private session's tone is one.
-/// It has a connection and threads of its own. All methods belong to the thread that made it.
+/// An input device, or a playing program, whose samples a function computes. The private session's tone is one. It has
+/// its own connection and threads. All methods must be called on the thread that created it.
 class SignalSource {
 public:
     /// Fills @p frames of @p channels interleaved samples. @p position counts the frames since start(). Runs on the
@@ -28,17 +28,18 @@ public:
         std::string target{};
         std::uint32_t rate = 48000; ///< Hz
         std::uint32_t channels = 2;
-        /// SPA_AUDIO_CHANNEL_..., one a channel; empty is mono, front left and right, or numbered places.
+        /// SPA_AUDIO_CHANNEL_..., one per channel; empty means mono, front left and right, or numbered positions.
         std::vector<std::uint32_t> positions{};
-        std::uint32_t cycle = 1024; ///< frames it asks to be called for at a time
-        /// Keeps its own time like a sound card, instead of the server's: needed for two devices whose clocks differ.
+        std::uint32_t cycle = 1024; ///< requested frames per call
+        /// Uses its own clock, like a sound card, instead of the server's. Needed to test two devices whose clocks
+        /// differ.
         bool ownClock = false;
-        /// How much faster than it says that clock runs, in millionths.
+        /// How much faster than nominal that clock runs, in parts per million.
         double clockErrorPpm = 0;
-        /// How long that clock waits with a cycle until the one before was heard. A listener that left in the midst of
-        /// one holds the source up for as long.
+        /// How long that clock waits for the previous cycle to be processed. A listener that disconnects in the middle
+        /// of a cycle delays the source by this much.
         int patienceMs = 500;
-        int sessionPriority = 0; ///< the highest becomes the default device
+        int sessionPriority = 0; ///< the source with the highest value becomes the default device
     };
 
     SignalSource(Options options, GeneratorRt generator);
@@ -46,9 +47,9 @@ public:
     SignalSource(const SignalSource&) = delete;
     SignalSource& operator=(const SignalSource&) = delete;
 
-    /// Connects and waits, at most five seconds, until the server knows the node. On failure @p why says the reason.
+    /// Connects and waits until the server knows the node, at most five seconds. On failure @p why holds the reason.
     [[nodiscard]] bool start(std::string& why);
-    /// Takes the device away. May be started again: the count of frames begins anew.
+    /// Removes the device. start() may be called again: the frame count starts from 0.
     void stop();
     /// Whether the server is still there since start().
     [[nodiscard]] bool alive() const;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Apart from what moves windows: commands hand their token on, and the command line is linked without Qt Gui.
+// A file of its own: subcommands pass their token on, and the command line is linked without Qt Gui, which the code
+// that moves windows needs.
 #include "Platform/Desktop/Activation.h"
 
 namespace Platform::Activation {

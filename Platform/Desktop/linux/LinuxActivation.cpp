@@ -19,12 +19,12 @@ constexpr const char* waylandToken = "XDG_ACTIVATION_TOKEN";
 
 QByteArray token;
 
-/// A short visit to the X server; the windows' own connection belongs to Qt.
+/// A short connection to the X server, separate from Qt's connection.
 class Visit {
 public:
     Visit() : connection_(xcb_connect(nullptr, &screen_)) {}
     ~Visit() {
-        // Everything has arrived when a question behind it is answered.
+        // A round trip: when the reply arrives, the server has processed all earlier requests.
         std::free(xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
         xcb_disconnect(connection_);
     }
@@ -55,27 +55,27 @@ private:
     xcb_connection_t* connection_;
 };
 
-/// The time of the click that started the process, in the server's milliseconds; 0 when the token does not tell.
+/// The time of the click that started the process, in the server's milliseconds; 0 when the token does not contain it.
 std::uint32_t timeOf(const QByteArray& id) {
     const qsizetype at = id.lastIndexOf("_TIME");
     return at < 0 ? 0 : id.mid(at + 5).toUInt();
 }
 
-/// Asks the window manager as a task bar would. It refuses what a program asks for itself while the user is busy with
-/// another one, and whoever has just launched something is.
+/// Sends the request that a task bar sends. Window managers refuse a program's own request while the user works with
+/// another program.
 void activate(const Visit& server, xcb_window_t window, std::uint32_t time) {
     xcb_client_message_event_t message{};
     message.response_type = XCB_CLIENT_MESSAGE;
     message.format = 32;
     message.window = window;
     message.type = server.atom("_NET_ACTIVE_WINDOW");
-    message.data.data32[0] = 2; // on behalf of the user
+    message.data.data32[0] = 2; // source indication: a pager, on behalf of the user
     message.data.data32[1] = time;
     server.tellRoot(message, XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT);
 }
 
-/// Tells the launcher that what it started is there: its pointer would turn for seconds otherwise, for the process that
-/// asked shows no window.
+/// Tells the launcher that startup is complete. This process shows no window, so the busy pointer would otherwise stay
+/// for seconds.
 void endLaunch(const Visit& server, const QByteArray& id) {
     const QByteArray text = "remove: ID=\"" + QByteArray(id).replace('\\', "\\\\").replace('"', "\\\"") + '"';
     const xcb_window_t sender = xcb_generate_id(server.connection());
@@ -87,7 +87,7 @@ void endLaunch(const Visit& server, const QByteArray& id) {
     message.window = sender;
     message.type = server.atom("_NET_STARTUP_INFO_BEGIN");
     constexpr qsizetype piece = sizeof message.data;
-    for (qsizetype at = 0; at <= text.size(); at += piece) { // the zero at the end belongs to the text
+    for (qsizetype at = 0; at <= text.size(); at += piece) { // the terminating zero is part of the message
         std::memset(message.data.data8, 0, piece);
         std::memcpy(message.data.data8, text.constData() + at,
                     static_cast<std::size_t>(std::min(piece, text.size() - at)));

@@ -15,7 +15,7 @@ namespace Platform {
 namespace {
 
 const auto kCancelled = u"the password prompt was cancelled"_s;
-/// How long a request to interrupt may go unnoticed.
+/// How often the worker checks for an interruption request.
 constexpr int kLookMs = 100;
 
 class LinuxAdminShell final : public AdminShell {
@@ -38,12 +38,12 @@ public:
         process.start();
         if (!process.waitForStarted(-1))
             return process.errorString();
-        // No limit: a password prompt may stand for as long as the user likes.
+        // No time limit: the user may leave the password prompt open.
         bool isCancelled = false;
         while (process.state() != QProcess::NotRunning && !process.waitForFinished(kLookMs)) {
             if (haveRights_ || isCancelled || !QThread::currentThread()->isInterruptionRequested())
                 continue;
-            // Reaches the helper while it asks. The command that it starts afterwards belongs to root.
+            // Ends the helper while it prompts. The command that it starts afterwards runs as root and is not affected.
             process.terminate();
             isCancelled = true;
         }
@@ -56,7 +56,7 @@ private:
     [[nodiscard]] std::optional<QString> problemOf(QProcess& process) const {
         if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
             return {};
-        // What pkexec says of itself; a command may end with the same numbers only through it.
+        // 126 and 127 are exit codes of pkexec itself, so they only count when the command ran through it.
         if (!haveRights_ && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 126)
             return kCancelled;
         if (!haveRights_ && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 127)

@@ -10,7 +10,7 @@ namespace Platform {
 
 /// Runs commands directly when the process has administrator rights, else through pkexec, found in PATH at each call.
 [[nodiscard]] std::unique_ptr<AdminShell> createAdminShell();
-/// The same with the answer to the question who we are, for tests.
+/// As above, with a fixed answer to whether the process has the rights; for tests.
 [[nodiscard]] std::unique_ptr<AdminShell> createAdminShell(bool haveRights);
 
 } // namespace Platform

@@ -9,11 +9,11 @@
 
 namespace Platform {
 
-/// The desktop through the session bus and xdg-open. Nothing of it blocks.
-/// @param busAddress another bus than the session's; empty for the session's.
+/// The desktop through the session bus and xdg-open. No call blocks.
+/// @param busAddress a bus other than the session's; empty for the session's.
 [[nodiscard]] std::unique_ptr<Workspace> createWorkspace(const QString& busAddress = {});
 
-/// Alerts of a program without windows: a line on standard error, and the default answer.
+/// Alerts for a program without windows: prints a line on standard error and returns the default answer.
 [[nodiscard]] std::unique_ptr<Alerts> createCommandLineAlerts();
 
 } // namespace Platform

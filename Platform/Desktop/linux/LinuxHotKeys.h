@@ -8,14 +8,14 @@
 
 namespace Platform {
 
-/// The way of this session: the desktop portal under Wayland, grabs under X11, else none. Under Wayland grabs are never
-/// used, also with DISPLAY set: they would reach the windows of other X programs only, and look as if they worked.
+/// The implementation for this session: the desktop portal under Wayland, grabs under X11, else none. Under Wayland
+/// grabs are not used even when DISPLAY is set: they would only work while an X program has the focus.
 [[nodiscard]] std::unique_ptr<HotKeys> createHotKeys();
 
 /// Grabs on the X server of DISPLAY; null when there is none.
 [[nodiscard]] std::unique_ptr<HotKeys> createXcbHotKeys();
 
-/// The portal's global shortcuts, asked on the session bus.
+/// The portal's global shortcuts over the session bus.
 [[nodiscard]] std::unique_ptr<HotKeys> createPortalHotKeys();
 
 } // namespace Platform

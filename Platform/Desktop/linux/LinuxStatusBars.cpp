@@ -28,7 +28,7 @@ struct Free {
     void operator()(void* memory) const { std::free(memory); }
 };
 
-// A bar of the session bus announces itself there by its name, one of the X server by owning a selection.
+// A bar on the session bus announces itself by its bus name, one on the X server by owning a selection.
 class LinuxStatusBars : public StatusBars {
     Q_OBJECT
 public:
@@ -45,7 +45,7 @@ private Q_SLOTS:
             return;
         seen_ = true;
         names_.reset();
-        // Not from within the server's own notifier.
+        // Queued: this must not run inside the server's own notifier.
         QMetaObject::invokeMethod(
             this,
             [this] {
@@ -68,7 +68,7 @@ private:
         askForAHost();
     }
 
-    // The name says that items are kept in a list; only with a host does somebody show them, and Qt looks at that.
+    // The name says that a list of items exists; items are only shown when a host is registered, and Qt checks for one.
     void askForAHost() {
         auto question = QDBusMessage::createMethodCall(notifierWatcher, watcherPath,
                                                        u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
@@ -93,7 +93,7 @@ private:
         auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection_));
         for (int i = number; i > 0 && screens.rem > 1; --i)
             xcb_screen_next(&screens);
-        // First the news, then the state: nothing falls between them.
+        // Subscribe first, then read the state: otherwise a change between the two would be missed.
         const std::uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
         xcb_change_window_attributes(connection_, screens.data->root, XCB_CW_EVENT_MASK, &events);
         manager_ = atom("MANAGER");
@@ -106,7 +106,8 @@ private:
         }
         notifier_ = std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(connection_), QSocketNotifier::Read);
         connect(notifier_.get(), &QSocketNotifier::activated, this, &LinuxStatusBars::readEvents);
-        // While a reply was awaited, events may have moved into the library's queue, where no socket announces them.
+        // While a reply was awaited, events may have moved into the library's queue; the socket notifier does not fire
+        // for those.
         QMetaObject::invokeMethod(this, &LinuxStatusBars::readEvents, Qt::QueuedConnection);
     }
 

@@ -23,7 +23,8 @@ bool start(const QString& program, const QString& argument) {
     return process.startDetached();
 }
 
-/// The desktop's own choice for a file, folder or address. Absolute, so that it never looks like an option.
+/// Opens a file, folder or address with the desktop's default program. The path is absolute, so it never looks like an
+/// option.
 bool openWithDefault(const QString& target) {
     return start(QStringLiteral("xdg-open"), target);
 }
@@ -41,7 +42,7 @@ public:
                                                           : QDBusConnection::connectToBus(busAddress_, busAddress_);
         if (!bus.isConnected())
             return openWithDefault(folder);
-        // A call by hand, not through an interface object: that one asks the other side first, and waits.
+        // A plain method call, not a QDBusInterface: that one introspects the service first and blocks.
         QDBusMessage call = QDBusMessage::createMethodCall(
             QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("/org/freedesktop/FileManager1"),
             QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("ShowItems"));

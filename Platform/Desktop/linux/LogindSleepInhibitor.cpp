@@ -12,8 +12,8 @@
 namespace Platform {
 namespace {
 
-/// The login manager holds sleep off for as long as the descriptor that it hands out is open, so that a crash lets the
-/// machine sleep again.
+/// The login manager blocks sleep as long as the descriptor that it returns is open. A crash closes the descriptor, so
+/// the machine can sleep again.
 class LogindSleepInhibitor : public SleepInhibitor {
 public:
     void setInhibited(bool inhibited, const QString& why) override {
@@ -37,7 +37,7 @@ private:
         QObject::connect(watcher, &QDBusPendingCallWatcher::finished, &context_, [this, watcher, request] {
             const QDBusPendingReply<QDBusUnixFileDescriptor> reply = *watcher;
             watcher->deleteLater();
-            // An answer to a request that was taken back closes its descriptor at once.
+            // When the request was withdrawn meanwhile, the descriptor in the answer is closed at once.
             if (reply.isValid() && wanted_ && request == requests_)
                 held_ = reply.value();
         });
@@ -46,7 +46,7 @@ private:
     bool wanted_ = false;
     int requests_ = 0;
     QDBusUnixFileDescriptor held_;
-    QObject context_; ///< last member: no answer arrives once it is gone
+    QObject context_; ///< last member: replies are not delivered after it is destroyed
 };
 
 } // namespace

@@ -53,7 +53,7 @@ private Q_SLOTS:
 
 private:
     void take(QVariant value) {
-        // Older portals wrap the answer of Read in a second variant.
+        // Older portals wrap the result of Read in a second variant.
         while (value.canConvert<QDBusVariant>() && value.metaType() == QMetaType::fromType<QDBusVariant>())
             value = value.value<QDBusVariant>().variant();
         const uint code = value.toUInt();

@@ -55,7 +55,7 @@ const auto service = u"org.freedesktop.portal.Desktop"_s;
 const auto desktopPath = u"/org/freedesktop/portal/desktop"_s;
 const auto shortcutsInterface = u"org.freedesktop.portal.GlobalShortcuts"_s;
 
-// The four letters of a signature; the desktop remembers its keys under them.
+// The four letters of a signature; the desktop stores its key assignments under this name.
 QString nameOf(HotKeys::Id id) {
     QString name;
     for (int shift = 24; shift >= 0; shift -= 8) {
@@ -78,18 +78,18 @@ QString trigger(std::uint16_t keyCode, std::uint32_t carbonModifiers) {
     return text + KeyCodes::keysymName(keyCode);
 }
 
-// A session binds its shortcuts once and for all; a change needs a new session. Everything is asked without waiting: a
-// portal that hangs must not hang the program.
+// A session binds its shortcuts only once, so a change needs a new session. All calls are asynchronous: a portal that
+// hangs must not block the program.
 class PortalHotKeys : public QObject, public HotKeys {
     Q_OBJECT
 public:
     PortalHotKeys() : bus_(QDBusConnection::sessionBus()) {
-        // A slot is found by the names of its types, and this one is known by name only when somebody said so.
+        // Qt matches the slot by type name, and this type must be registered by name first.
         qRegisterMetaType<QDBusObjectPath>();
         qDBusRegisterMetaType<Shortcut>();
         qDBusRegisterMetaType<QList<Shortcut>>();
         rebind_.setSingleShot(true);
-        rebind_.setInterval(100); // three fields register one after the other
+        rebind_.setInterval(100); // joins the registrations of three fields
         connect(&rebind_, &QTimer::timeout, this, [this] { openSession(); });
         if (!bus_.isConnected()) {
             answered_ = true;
@@ -166,11 +166,11 @@ private Q_SLOTS:
             refuseWhatWasAsked();
             return;
         }
-        // A portal that lists nothing granted everything.
+        // A portal that returns no list granted every shortcut.
         const QVariant listed = results.value(u"shortcuts"_s);
         std::set<QString> granted;
         for (const auto& shortcut : qdbus_cast<QList<Shortcut>>(listed)) {
-            // Without a trigger the desktop knows the shortcut, but gave its combination to nobody.
+            // Without a trigger the desktop knows the shortcut but assigned no combination to it.
             const QVariant keys = shortcut.properties.value(u"trigger_description"_s);
             if (!keys.isValid() || !keys.toString().isEmpty())
                 granted.insert(shortcut.id);
@@ -192,7 +192,7 @@ private:
         std::uint16_t keyCode;
         std::uint32_t carbonModifiers;
         Id id;
-        bool granted = false; ///< by an answer of the portal
+        bool granted = false; ///< granted by the portal
     };
     using Handles = std::set<Handle>;
 
@@ -205,13 +205,13 @@ private:
     void refuse(const Handles& refused) {
         for (const Handle handle : refused)
             registrations_.erase(handle);
-        const auto told = refusedHandler_; // whoever hears of it may register another combination
+        const auto told = refusedHandler_; // the handler may register another combination
         for (const Handle handle : refused)
             if (told)
                 told(handle);
     }
-    /// The portal bound nothing. The new combinations were the cause; those that it had granted before are tried again
-    /// without them.
+    /// The portal bound nothing because of the new combinations. Bind those that it granted before again, without the
+    /// new ones.
     void refuseWhatWasAsked() {
         Handles refused;
         for (const Handle handle : asked_)
@@ -240,7 +240,7 @@ private:
         });
     }
 
-    // The answer of a request may come before the call returns, so its path is known and listened to beforehand.
+    // The response may arrive before the call returns, so subscribe to its path first.
     QString expectRequest(const char* slot) {
         for (const char* waiting : {SLOT(sessionResponse(uint, QVariantMap)), SLOT(bindResponse(uint, QVariantMap))})
             forgetRequest(waiting);
@@ -294,7 +294,7 @@ private:
     QDBusConnection bus_;
     QTimer rebind_;
     std::map<Handle, Registration> registrations_;
-    Handles asked_; ///< those of the request that the portal is answering
+    Handles asked_; ///< the handles of the request that the portal is answering
     std::map<std::uint32_t, QString> descriptions_;
     Handle lastHandle_ = 0;
     QString session_;

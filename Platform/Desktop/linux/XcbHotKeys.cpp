@@ -25,7 +25,7 @@ struct Free {
 template <typename T>
 using Reply = std::unique_ptr<T, Free>;
 
-// A connection of its own: grabs work whatever the windows run on, and no event of theirs is touched.
+// Uses a separate connection: grabs work whatever platform the windows use, and Qt's events are not touched.
 class XcbHotKeys : public QObject, public HotKeys {
 public:
     static std::unique_ptr<XcbHotKeys> connectToServer() {
@@ -41,7 +41,7 @@ public:
     ~XcbHotKeys() override {
         notifier_.reset();
         xcb_key_symbols_free(symbols_);
-        xcb_disconnect(connection_); // the server lets go of all grabs
+        xcb_disconnect(connection_); // releases all grabs
     }
 
     Way way() const override { return lost_ ? Way::None : Way::X11Grab; }
@@ -52,7 +52,7 @@ public:
         const auto physical = KeyCodes::physicalKey(keyCode);
         if (lost_ || !physical)
             return 0;
-        // The server lets one client grab a combination twice; the user would not know which of the two acts.
+        // The server lets one client grab a combination twice; both actions would run.
         for (const auto& [handle, taken] : registrations_)
             if (taken.keyCode == keyCode && taken.carbonModifiers == carbonModifiers)
                 return 0;
@@ -93,7 +93,7 @@ private:
         connect(notifier_.get(), &QSocketNotifier::activated, this, [this] { readEvents(); });
     }
 
-    // Which modifier bit stands for Num Lock, Super and Alt is a matter of the keymap.
+    // The keymap decides which modifier bits are Num Lock, Super and Alt.
     void readModifiers() {
         numLockMask_ = modifierOf({numLock}, XCB_MOD_MASK_2);
         commandMask_ = modifierOf({superLeft, superRight}, XCB_MOD_MASK_4);
@@ -126,7 +126,7 @@ private:
         return mask;
     }
 
-    // A grab answers to its exact state of the keyboard, the locks included.
+    // A grab matches the exact modifier state, including the locks.
     std::array<std::uint16_t, 4> lockVariants() const {
         return {std::uint16_t(0), numLockMask_, std::uint16_t(XCB_MOD_MASK_LOCK),
                 static_cast<std::uint16_t>(numLockMask_ | XCB_MOD_MASK_LOCK)};
@@ -166,7 +166,8 @@ private:
         readLater();
     }
 
-    // While a reply was awaited, events may have moved into the library's queue, where no socket announces them.
+    // While a reply was awaited, events may have moved into the library's queue; the socket notifier does not fire for
+    // those.
     void readLater() {
         QMetaObject::invokeMethod(
             this, [this] { readEvents(); }, Qt::QueuedConnection);
@@ -204,7 +205,7 @@ private:
     }
 
     void pressed(const xcb_key_press_event_t& event) {
-        // The server repeats a held key as release and press of one and the same moment.
+        // The server reports auto-repeat as release and press with the same time.
         if (released_.valid && released_.key == event.detail && released_.time == event.time)
             return;
         const std::uint16_t relevant = XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_CONTROL | optionMask_ | commandMask_;

@@ -60,8 +60,8 @@ bool initialise() {
         static char queued[] = "SORRY";
         static char never[] = "NEVER";
         static char prefix[] = "sonaphex: ";
-        burn::burn_msgs_set_severities(queued, never, prefix); // we tell people ourselves
-        burn::burn_preset_device_open(1, 0, 0);                // alone, and without waiting for the drive to open
+        burn::burn_msgs_set_severities(queued, never, prefix); // errors are shown by the program itself
+        burn::burn_preset_device_open(1, 0, 0);                // exclusive, and without waiting for the drive to open
     }
     return initialised;
 }
@@ -82,7 +82,7 @@ QString message() {
 HeldDrive::HeldDrive(const QString& path, bool load) {
     if (!initialise())
         return;
-    (void)message(); // what is said from here on belongs to this drive
+    (void)message(); // drops older messages: later ones are about this drive
     QByteArray address = QFile::encodeName(path);
     if (burn::burn_drive_scan_and_grab(&infos_, address.data(), load ? 1 : 0) == 1)
         drive_ = infos_[0].drive;
@@ -96,7 +96,7 @@ HeldDrive::~HeldDrive() {
 }
 
 burn::burn_disc_status HeldDrive::discStatus(const std::stop_token& stop) const {
-    constexpr int kLooks = 300; // of a tenth of a second: a drive may take long to recognise a disc
+    constexpr int kLooks = 300; // polls of a tenth of a second: a drive may take long to recognise a disc
     auto status = burn::burn_disc_get_status(drive_);
     for (int i = 0; i < kLooks && status == burn::BURN_DISC_UNREADY && !stop.stop_requested(); ++i) {
         std::this_thread::sleep_for(std::chrono::milliseconds(100));

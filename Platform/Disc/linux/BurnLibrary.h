@@ -15,30 +15,30 @@
 
 namespace Platform {
 
-/// What a look at the disc in a drive found.
+/// What was found out about the disc in a drive.
 struct MediaFacts {
     bool isPresent = false;
     bool isBlank = false;
     bool isErasable = false;
     std::int64_t blocksFree = 0;
-    float maximumWriteSpeed = 0; ///< kilobytes (1000) a second
+    float maximumWriteSpeed = 0; ///< kilobytes (1000 bytes) per second
     QString kind;                ///< "CD-R"
-    QString problem;             ///< why the drive could not be looked at; empty otherwise
+    QString problem;             ///< why the drive could not be examined; empty otherwise
 };
 
-/// The one thread that calls libburn: the library keeps one list of drives for the whole process, and its calls wait
-/// for the drive. It is initialised by the first piece of work and closed with this object.
+/// The only thread that calls libburn: the library keeps one list of drives per process, and its calls wait for the
+/// drive. The first piece of work initialises the library; the destructor closes it.
 class BurnLibrary {
 public:
     using Work = std::function<void(const std::stop_token& stop)>;
 
     BurnLibrary();
-    /// Asks the work that runs to stop, drops what waits, and ends the thread when it has.
+    /// Asks the running work to stop, drops the pending work, and joins the thread.
     ~BurnLibrary();
     BurnLibrary(const BurnLibrary&) = delete;
     BurnLibrary& operator=(const BurnLibrary&) = delete;
 
-    /// Runs @p work after all that was posted before. Any thread.
+    /// Runs @p work after all work that was posted earlier. Any thread.
     void post(Work work);
 
 private:
@@ -47,7 +47,7 @@ private:
     std::mutex mutex_;
     std::condition_variable_any changed_;
     std::deque<Work> waiting_; // guarded by mutex_
-    std::jthread thread_;      // last: it uses what stands above
+    std::jthread thread_;      // last: it uses the members above
 };
 
 } // namespace Platform

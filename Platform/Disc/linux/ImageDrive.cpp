@@ -73,7 +73,7 @@ void ImageBurn::fail(const QString& reason) {
     status_.report(shared_from_this(), {DRStatusStateFailed, 0, reason});
 }
 
-/// Asks until there is a place that can be written to. @return false when the user gave up
+/// Asks until a writable path is given. @return false when the user cancelled
 bool ImageBurn::askForPath() {
     Panels* panels = services().panels;
     if (!panels)
@@ -101,7 +101,7 @@ bool ImageBurn::askForPath() {
 void ImageBurn::writeLayout(const std::optional<DRLayout>& layout) {
     if (status_.shown().state != DRStatusStateNone)
         return;
-    // The whole file counts, the first pre-gap too.
+    // The whole file counts, including the first pre-gap.
     if (const QString problem = layoutProblem(layout, CDFormat::kSectorsOf80Minutes, 0); !problem.isEmpty())
         return fail(problem);
     if (path_.isEmpty() && !askForPath()) {

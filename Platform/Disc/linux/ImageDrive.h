@@ -9,8 +9,8 @@
 
 namespace Platform {
 
-/// A drive that is always there. A blank disc of 80 minutes is always in it, and what is burned becomes two files: the
-/// sectors (.bin) and their table of contents (.cue).
+/// A drive that always exists and always holds a blank disc of 80 minutes. A burn writes two files: the sectors (.bin)
+/// and their table of contents (.cue).
 class ImageDrive final : public DRDevice {
 public:
     [[nodiscard]] static QString deviceName() { return QStringLiteral("disc-image"); }
@@ -30,15 +30,15 @@ public:
     bool ejectMedia() override { return false; }
 };
 
-/// Writes a layout as a disc image. Both files appear whole under their names, or not at all; files that exist are
+/// Writes a layout as a disc image. Both files appear complete under their names, or not at all; existing files are
 /// never replaced.
 class ImageBurn final : public DRBurn, public std::enable_shared_from_this<ImageBurn> {
 public:
-    /// @p path: where the image goes; empty: the user is asked. @p jobs outlives the burn's thread.
+    /// @p path: the image's path; when empty, the user is asked. @p jobs outlives the burn's thread.
     ImageBurn(std::weak_ptr<DRNotificationCenter> center, BurnJobs& jobs, QString path)
         : status_(std::move(center), DRBurnStatusChangedNotification), jobs_(jobs), path_(std::move(path)) {}
 
-    void setRequestedBurnSpeed(float) override {} // a disk has one speed
+    void setRequestedBurnSpeed(float) override {} // an image has no speed
     [[nodiscard]] DRBurnProperties properties() const override { return properties_; }
     void setProperties(const DRBurnProperties& properties) override { properties_ = properties; }
     void writeLayout(const std::optional<DRLayout>& layout) override;
@@ -59,16 +59,16 @@ private:
     std::atomic<bool> aborted_{false};
 };
 
-/// The two files of an image that is named by one of them, or by their common name without an ending.
+/// The two files of an image, from the path of either file or from their common name without an extension.
 struct ImagePaths {
     explicit ImagePaths(const QString& named);
     QString cue;
     QString bin;
-    /// Why no image can be written there; empty when nothing stands in the way.
+    /// Why no image can be written there; empty when it can.
     [[nodiscard]] QString problem() const;
 };
 
-/// "1 h 02 min 03 s" of a number of sectors.
+/// A number of sectors as "1 h 02 min 03 s".
 [[nodiscard]] QString playingTime(std::int64_t sectors);
 /// Why these tracks cannot be burned to a disc with this many free sectors; empty when they can. @p leadingGap: sectors
 /// of the first pre-gap that lie before the disc's first free sector.

@@ -38,7 +38,7 @@ ImageWriter::ImageWriter(DRLayout layout, QString cue, QString bin, const std::a
     divide();
 }
 
-/// Long tracks are divided where their kind allows it, so that one long file keeps all processors busy.
+/// Divides long tracks where their format allows it, so that one long file uses all processors.
 void ImageWriter::divide() {
     for (std::size_t i = 0; i < layout_.size(); ++i) {
         total_ += layout_[i]->properties().preGapLength;
@@ -87,7 +87,7 @@ QString ImageWriter::render(const Stretch& stretch, std::unique_ptr<SectorRender
         const std::int64_t at = (stretch.place + done) * CDFormat::kBytesPerSector;
         if (!writeAllAt(file_, QByteArrayView(block.data(), qsizetype(block.size())), at))
             return inWords(errno);
-        // The disk begins to write at once: at the end little is left to wait for.
+        // Starts the write-back at once, so that little is left to wait for at the end.
         (void)::sync_file_range(file_, at, off_t(block.size()), SYNC_FILE_RANGE_WRITE);
         done += sectors;
         done_ += sectors;
@@ -121,7 +121,7 @@ QString ImageWriter::write(const Progress& progress) {
     if (const int error = data.open(); error != 0)
         return inWords(error);
     file_ = data.descriptor();
-    // Where the file system can, the room is taken now: a full disk is known before the work.
+    // Reserves the space first where the file system can: a full disk is then reported before the work.
     if (::fallocate(file_, 0, 0, bytes) != 0) {
         if (errno == ENOSPC || errno == EDQUOT)
             return inWords(errno);
@@ -157,7 +157,7 @@ QString ImageWriter::write(const Progress& progress) {
         return problem_;
     if (!aborted_)
         progress(share(), true);
-    // The disk may take long; it can still be stopped meanwhile.
+    // The sync may take long; an abort is still possible before it.
     if (!aborted_ && ::fdatasync(file_) != 0)
         return inWords(errno);
     if (aborted_)

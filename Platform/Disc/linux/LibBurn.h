@@ -31,22 +31,23 @@ using WriteOptionsPtr = std::unique_ptr<burn::burn_write_opts, FreeBy<burn::burn
 /// False when the library cannot be initialised. The thread of BurnLibrary.
 [[nodiscard]] bool initialise();
 
-/// The library's oldest message that tells of a failure, empty when there is none; older and milder ones are dropped.
+/// The library's oldest message about a failure, empty when there is none. Drops all older messages and those of lower
+/// severity.
 [[nodiscard]] QString message();
 
-/// A drive that this process holds alone, from here to the end of the object. The thread of BurnLibrary.
+/// A drive that this process holds exclusively while the object lives. The thread of BurnLibrary.
 class HeldDrive {
 public:
     /// @p path: "/dev/sr0". @p load: close the tray first.
     HeldDrive(const QString& path, bool load);
-    /// Gives the drive back, with its disc in or out.
+    /// Releases the drive, with its disc inside or ejected.
     ~HeldDrive();
     HeldDrive(const HeldDrive&) = delete;
     HeldDrive& operator=(const HeldDrive&) = delete;
 
-    /// Null when the drive could not be had.
+    /// Null when the drive could not be grabbed.
     [[nodiscard]] burn::burn_drive* get() const { return drive_; }
-    /// What is in the drive, after it has calmed down (at most half a minute).
+    /// The state of the disc, once the drive is ready (waits at most half a minute).
     [[nodiscard]] burn::burn_disc_status discStatus(const std::stop_token& stop) const;
     /// The profile number of the disc ("CD-R" is 0x09); 0 without one. @p name receives its name.
     [[nodiscard]] int profile(QString* name = nullptr) const;
@@ -60,14 +61,14 @@ private:
 
 inline constexpr int kProfileCDR = 0x09;
 inline constexpr int kProfileCDRW = 0x0a;
-inline constexpr int kProfileFile = 0xffff; ///< libburn's own: a file that is used like a drive
+inline constexpr int kProfileFile = 0xffff; ///< libburn's own number for a file that is used like a drive
 
-/// How many blocks can still be written to the disc.
+/// Free blocks on the disc.
 [[nodiscard]] std::int64_t freeBlocks(burn::burn_drive* drive, int profile);
 
-/// Looks at the disc. The thread of BurnLibrary.
+/// Examines the disc. The thread of BurnLibrary.
 [[nodiscard]] MediaFacts lookAt(const QString& path, const std::stop_token& stop);
-/// Puts the disc out. @return what went wrong; empty when nothing did
+/// Ejects the disc. @return the error; empty on success
 [[nodiscard]] QString eject(const QString& path);
 
 } // namespace Platform::LibBurn

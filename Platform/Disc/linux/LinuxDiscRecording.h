@@ -12,14 +12,14 @@ namespace Platform {
 
 class MediaFiles;
 
-/// Drives of the system, found when they are first asked for, and the drive that writes images.
+/// The system's drives, searched when they are first asked for, and the drive that writes images.
 class LinuxDiscRecording final : public DiscRecording {
 public:
     using MakeSource = std::function<std::unique_ptr<DriveSource>(std::function<void()> changed)>;
 
     /// @p files opens the sources and outlives this object.
     explicit LinuxDiscRecording(MediaFiles& files, MakeSource makeSource = createDriveSource);
-    /// Aborts what runs, and waits for it.
+    /// Aborts running jobs and waits for them.
     ~LinuxDiscRecording() override;
 
     std::vector<std::shared_ptr<DRDevice>> devices() override;
@@ -40,7 +40,7 @@ private:
     QString imagePath_;
     std::vector<std::shared_ptr<OpticalDrive>> drives_;
     std::unique_ptr<DriveSource> source_;  // null until the drives are first asked for
-    std::unique_ptr<BurnLibrary> library_; // likewise
+    std::unique_ptr<BurnLibrary> library_; // null until the drives are first asked for
     BurnJobs jobs_;
 };
 

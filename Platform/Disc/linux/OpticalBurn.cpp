@@ -21,9 +21,9 @@ namespace Platform {
 namespace {
 
 constexpr auto kBetweenLooks = std::chrono::milliseconds(200);
-constexpr int kFirstGapBeforeTheDisc = 150; // sectors: a disc's first block comes after two seconds of pre-gap
+constexpr int kFirstGapBeforeTheDisc = 150; // sectors: a disc's first block follows two seconds of pre-gap
 
-/// The first of these that says something.
+/// The first text that is not empty.
 QString firstOf(const QString& first, const QString& otherwise) {
     return first.isEmpty() ? otherwise : first;
 }
@@ -33,7 +33,7 @@ QString whyNotHeld(const OpticalTarget& target) {
     return u"%1: %2"_s.arg(target.name, firstOf(firstOf(why, LibBurn::message()), u"the drive cannot be opened"_s));
 }
 
-/// Why a disc in this state cannot be written to; empty when it can.
+/// Why a disc in this state cannot be written; empty when it can.
 QString whyNotBlank(const OpticalTarget& target, burn_disc_status status) {
     switch (status) {
     case BURN_DISC_BLANK:
@@ -50,7 +50,7 @@ QString whyNotBlank(const OpticalTarget& target, burn_disc_status status) {
     }
 }
 
-/// The layout as libburn has it. What stands first is freed last.
+/// The layout as libburn objects. Members are destroyed in reverse order.
 struct Composed {
     LibBurn::DiscPtr disc;
     LibBurn::SessionPtr session;
@@ -84,13 +84,13 @@ bool compose(const DRLayout& layout, TrackFeed* feed, Composed& made) {
     return true;
 }
 
-/// Chooses how to write. @return why it cannot be written; empty when it can
+/// Sets the write mode. @return why the layout cannot be written; empty when it can
 QString prepare(burn_write_opts* options, burn_disc* disc, bool isAudio, DRBurnStrategy strategy) {
     burn_write_opts_set_perform_opc(options, 1);
     burn_write_opts_set_multi(options, 0);
     (void)burn_write_opts_set_underrun_proof(options, 1);
     std::array<char, BURN_REASONS_LEN> reasons{};
-    // The pre-gaps of an audio CD are written in this mode only.
+    // Only this mode writes the pre-gaps of an audio CD.
     const bool atOnce = isAudio || strategy == DRBurnStrategyDVDDAO;
     if (atOnce && burn_write_opts_set_write_type(options, BURN_WRITE_SAO, BURN_BLOCK_SAO) == 1 &&
         burn_precheck_write(options, disc, reasons.data(), 0) == 1)
@@ -101,7 +101,7 @@ QString prepare(burn_write_opts* options, burn_disc* disc, bool isAudio, DRBurnS
         firstOf(QString::fromLatin1(reasons.data()).simplified(), LibBurn::message()), u"the drive gave no reason"_s));
 }
 
-/// How much of the layout is written, from 0 to 1.
+/// The written part of the layout, from 0 to 1.
 double shareOf(const DRLayout& layout, const burn_progress& progress) {
     double before = 0;
     double total = 0;
@@ -140,7 +140,7 @@ void OpticalBurn::writeLayout(const std::optional<DRLayout>& layout) {
     if (status_.shown().state != DRStatusStateNone)
         return;
     status_.set({DRStatusStatePreparing, -1, {}});
-    // Whether it fits is known when the drive has looked at its disc.
+    // The free space is known only after the drive has examined its disc.
     if (const QString problem = layoutProblem(layout, std::numeric_limits<std::int64_t>::max(), 0); !problem.isEmpty())
         return report(DRStatusStateFailed, 0, problem);
     tell(target_, true);
@@ -256,7 +256,7 @@ QString OpticalErase::run(const std::stop_token& stop) {
     if (burn_disc_erasable(drive.get()) == 0)
         return u"%1: this disc cannot be erased"_s.arg(target_.name);
     burn_disc_erase(drive.get(), type_ == DREraseTypeQuick ? 1 : 0);
-    // An erase cannot be interrupted without harm to the disc: the end of the program waits for it.
+    // Interrupting an erase would damage the disc: the end of the program waits for it.
     for (;;) {
         burn_progress progress{};
         if (burn_drive_get_status(drive.get(), &progress) == BURN_DRIVE_IDLE)

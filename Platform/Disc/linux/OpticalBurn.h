@@ -10,20 +10,20 @@
 
 namespace Platform {
 
-/// What a burn or an erase needs of its drive. Copied to the thread of BurnLibrary.
+/// What a burn or an erase needs from its drive. Copied to the thread of BurnLibrary.
 struct OpticalTarget {
     QString path;
     QString name;
     float maximumWriteSpeed = 0;
-    /// Why the drive cannot be opened, in words; empty when it can. Any thread.
+    /// Why the drive cannot be opened; empty when it can. Any thread.
     std::function<QString()> whyNotOpened;
-    /// Told on the main thread when the drive begins and stops to be used.
+    /// Called on the main thread when the drive starts and stops being used.
     std::function<void(bool busy)> setBusy;
-    /// Has the finished disc mounted. Main thread.
+    /// Asks the desktop to mount the finished disc. Main thread.
     std::function<void()> mount;
 };
 
-/// Writes a layout to a real disc with libburn: sound tracks as one session of an audio CD, an image file as the one
+/// Writes a layout to a real disc with libburn: audio tracks as one session of an audio CD, an image file as the one
 /// track of a data disc.
 class OpticalBurn final : public DRBurn, public std::enable_shared_from_this<OpticalBurn> {
 public:

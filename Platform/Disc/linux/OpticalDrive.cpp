@@ -95,7 +95,7 @@ void OpticalDrive::update(const FoundDrive& found) {
     told();
 }
 
-/// Asks the drive about its disc. Until it has answered, the disc is going in.
+/// Examines the disc. Until the drive has answered, the state is "inserting".
 void OpticalDrive::look() {
     if (mediaState_ != DRDeviceMediaStateInTransition) {
         mediaState_ = DRDeviceMediaStateInTransition;
@@ -116,14 +116,14 @@ void OpticalDrive::look() {
         MainQueue::post([self, facts] {
             self->isLooking_ = false;
             if (self->center_.expired())
-                return; // the services are gone, and with them all that a drive speaks to
+                return; // the services are destroyed, and with them everything that a drive uses
             if (std::exchange(self->lookAgain_, false)) {
                 self->look();
                 return;
             }
             if (self->found_.media != DRDeviceMediaStateMediaPresent)
-                return; // it went out meanwhile, and that was told
-            // Where the drive could not be asked, the system says that a disc is in.
+                return; // it was ejected meanwhile, and that was already announced
+            // When the drive could not be examined, trust the system, which reports a disc.
             const bool isPresent = facts.isPresent || !facts.problem.isEmpty();
             self->facts_ = facts;
             self->mediaState_ = isPresent ? DRDeviceMediaStateMediaPresent : DRDeviceMediaStateNone;
@@ -143,7 +143,7 @@ void OpticalDrive::setBusy(bool busy) {
     source_.setQuiet(found_.path, busy);
     told();
     if (!busy)
-        look(); // the disc is another one now
+        look(); // another disc is in the drive now
 }
 
 OpticalTarget OpticalDrive::target() {

@@ -8,7 +8,7 @@
 
 namespace Platform {
 
-/// A drive of the system. Answers from what was last seen; a disc that came in is looked at on the library's thread.
+/// A drive of the system. Answers from the last known state; a new disc is examined on the library's thread.
 class OpticalDrive final : public DRDevice, public std::enable_shared_from_this<OpticalDrive> {
 public:
     /// @p source and @p library outlive the drive's work.
@@ -23,9 +23,9 @@ public:
     [[nodiscard]] QString path() const override { return found_.path; }
     bool ejectMedia() override;
 
-    /// What the system knows of the drive now. Tells the observers what changed.
+    /// Takes the system's current data about the drive. Notifies the observers of changes.
     void update(const FoundDrive& found);
-    /// For a burn or an erase with this drive.
+    /// Used for a burn or an erase with this drive.
     [[nodiscard]] OpticalTarget target();
 
 private:
@@ -41,9 +41,9 @@ private:
     DRDeviceMediaState mediaState_ = DRDeviceMediaStateNone;
     MediaFacts facts_;
     bool wasFound_ = false;
-    bool isBusy_ = false; ///< a burn or an erase has it
+    bool isBusy_ = false; ///< a burn or an erase uses it
     bool isLooking_ = false;
-    bool lookAgain_ = false; ///< the disc changed during the look
+    bool lookAgain_ = false; ///< the disc changed while it was being examined
 };
 
 } // namespace Platform

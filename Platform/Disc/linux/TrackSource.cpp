@@ -12,7 +12,7 @@ namespace {
 
 struct Drawn {
     TrackFeed* feed;
-    std::int64_t left; ///< bytes of the track that were not drawn yet
+    std::int64_t left; ///< bytes of the track that were not taken yet
     std::int64_t size;
 };
 
@@ -20,7 +20,7 @@ Drawn& drawnOf(burn::burn_source* source) {
     return *static_cast<Drawn*>(source->data);
 }
 
-/// As read(2): the whole buffer, 0 at the end, -1 after a failure.
+/// Like read(2): fills the whole buffer, 0 at the end, -1 after a failure.
 int readSectors(burn::burn_source* source, unsigned char* buffer, int size) {
     Drawn& drawn = drawnOf(source);
     const auto wanted = std::min<std::int64_t>(size, drawn.left);
@@ -37,7 +37,7 @@ off_t sizeOf(burn::burn_source* source) {
 }
 
 int keepSize(burn::burn_source*, off_t) {
-    return 1; // the size was measured and stays
+    return 1; // the size was measured and does not change
 }
 
 void freeDrawn(burn::burn_source* source) {
@@ -45,7 +45,7 @@ void freeDrawn(burn::burn_source* source) {
 }
 
 int cancelled(burn::burn_source* source) {
-    if (drawnOf(source).left > 0) // a track that was drawn to its end disturbs none of those behind it
+    if (drawnOf(source).left > 0) // a track that was read completely must not cancel the tracks behind it
         drawnOf(source).feed->cancel();
     return 1;
 }
@@ -53,7 +53,7 @@ int cancelled(burn::burn_source* source) {
 } // namespace
 
 LibBurn::SourcePtr feedSource(TrackFeed& feed, std::int64_t bytes) {
-    // libburn ends it with free().
+    // libburn releases it with free().
     auto* source = static_cast<burn::burn_source*>(std::calloc(1, sizeof(burn::burn_source)));
     if (!source)
         return nullptr;

@@ -7,14 +7,14 @@
 
 namespace Platform {
 
-/// A source of libburn that draws one track's @p bytes from the feed. The feed outlives the source.
-/// @return null when there is no memory
+/// A libburn source that takes one track's @p bytes from the feed. The feed outlives the source. @return null when
+/// there is no memory
 [[nodiscard]] LibBurn::SourcePtr feedSource(TrackFeed& feed, std::int64_t bytes);
 
-/// An image file that becomes the one track of a data disc.
+/// An image file that is written as the one track of a data disc.
 class ImageFileTrack final : public DRTrack {
 public:
-    /// @return null when the file cannot be read; @p why then names it and says why
+    /// @return null when the file cannot be read; @p why then names the file and the reason
     [[nodiscard]] static std::shared_ptr<ImageFileTrack> open(const QString& path, QString& why);
 
     [[nodiscard]] DRTrackProperties properties() const override { return properties_; }

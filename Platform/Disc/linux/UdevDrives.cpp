@@ -49,7 +49,7 @@ QString text(udev_device* device, const char* attribute) {
     return QString::fromUtf8(udev_device_get_sysattr_value(device, attribute)).simplified();
 }
 
-/// What the drive itself says of its disc; the database's word when it cannot be asked.
+/// Asks the drive about its disc; falls back to the device database when the drive cannot be opened.
 DRDeviceMediaState mediaState(const QString& path, udev_device* device) {
     const Descriptor drive(::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     const int status = drive ? ::ioctl(drive.get(), CDROM_DRIVE_STATUS, CDSL_CURRENT) : -1;
@@ -78,7 +78,7 @@ public:
             QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] { receive(); });
         }
         QObject::connect(&look_, &QTimer::timeout, &look_, [this] {
-            if (hasDrives_) // without a drive there is nothing to look at; a new one sends an event
+            if (hasDrives_) // without a drive nothing is polled; a new drive sends an event
                 changed_();
         });
         look_.start(kLookEveryMs);
@@ -117,7 +117,7 @@ public:
     void mount(const QString& path) override {
         const auto bus = QDBusConnection::systemBus();
         const QString object = u"/org/freedesktop/UDisks2/block_devices/"_s + QFileInfo(path).fileName();
-        // One after the other on the bus; a machine without the service mounts by itself or not at all.
+        // One after the other on the bus. A machine without the service mounts discs by other means or not at all.
         for (const auto& [interface, call] : {std::pair(u"org.freedesktop.UDisks2.Block"_s, u"Rescan"_s),
                                               std::pair(u"org.freedesktop.UDisks2.Filesystem"_s, u"Mount"_s)}) {
             auto message = QDBusMessage::createMethodCall(u"org.freedesktop.UDisks2"_s, object, interface, call);
@@ -167,7 +167,7 @@ private:
     std::function<void()> changed_;
     UdevPtr udev_;
     UdevMonitorPtr monitor_;
-    QHash<QString, DRDeviceMediaState> seen_; // the last state of each drive's disc
+    QHash<QString, DRDeviceMediaState> seen_; // the last disc state of each drive
     bool hasDrives_ = false;
     QHash<QString, int> changes_;
     QSet<QString> quiet_;
@@ -195,7 +195,7 @@ public:
         const QByteArray name = path.mid(prefix.size());
         if (name == ImageDrive::deviceName().toUtf8())
             return std::make_unique<Disk>(true);
-        if (name.isEmpty() || name.contains('/')) // no block device has such a name, and none is looked for
+        if (name.isEmpty() || name.contains('/')) // such a name is no block device, so udev is not asked
             return std::make_unique<Disk>(false);
         const UdevDevicePtr device(udev_device_new_from_subsystem_sysname(udev_.get(), "block", name.constData()));
         if (!device)

@@ -70,7 +70,7 @@ bool copyBytes(int from, std::int64_t fromOffset, std::int64_t length, int to, s
         if (count < 0 && errno == EINTR)
             continue;
         if (count <= 0)
-            break; // between these file systems the kernel does not copy, or an older kernel does not
+            break; // the kernel cannot copy between these file systems
     }
     std::vector<char> buffer(std::size_t(std::clamp<std::int64_t>(end - source, 0, 1 << 20)));
     while (source < end) {
@@ -112,7 +112,7 @@ int renameWithoutOverwriting(const QByteArray& from, const QByteArray& to) {
         return ::unlink(from.constData()) == 0 ? 0 : errno;
     if (errno != EPERM && errno != EOPNOTSUPP && errno != EMLINK && errno != ENOSYS)
         return errno;
-    // It has no hard links: an empty file reserves the name, and the rename replaces it.
+    // It has no hard links either: an empty file reserves the name, and the rename replaces it.
     const Descriptor held{::open(to.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600)};
     if (!held)
         return errno;

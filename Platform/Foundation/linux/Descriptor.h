@@ -11,7 +11,7 @@
 
 namespace Platform {
 
-/// An open file that is closed at the end of its scope.
+/// Owns a file descriptor and closes it.
 class Descriptor {
 public:
     Descriptor() = default;
@@ -28,29 +28,29 @@ public:
         close();
         fd_ = fd;
     }
-    /// Hands the file to the caller, who must close it.
+    /// Passes the descriptor to the caller, who must close it.
     [[nodiscard]] int release() { return std::exchange(fd_, -1); }
-    /// Some file systems report a full disk only here. @return 0 or an errno
+    /// Some file systems report a full disk only at close. @return 0 or an errno
     int close();
 
 private:
     int fd_ = -1;
 };
 
-/// Writes all of @p bytes, in as many calls as it takes: at the current position, or at an offset. On failure the
-/// answer is false, errno says why, and a part may have been written.
+/// Writes all of @p bytes, with as many calls as needed: at the current position, or at an offset. On failure it
+/// returns false with errno set, and a part may have been written.
 [[nodiscard]] bool writeAll(int fd, QByteArrayView bytes);
 [[nodiscard]] bool writeAllAt(int fd, QByteArrayView bytes, std::int64_t offset);
 
-/// Reads @p size bytes at an offset, in as many calls as it takes; fewer at the end of the file.
-/// @return the bytes read, or an errno below zero
+/// Reads @p size bytes at an offset, with as many calls as needed; fewer at the end of the file.
+/// @return the bytes read, or a negative errno
 [[nodiscard]] std::int64_t readAllAt(int fd, void* to, std::size_t size, std::int64_t offset);
 
-/// Copies a part of a file to another one at an offset. Uses the kernel's own copy where both file systems allow it.
-/// On failure the answer is false and errno says why; EIO when the source ends early.
+/// Copies a part of a file to an offset of another file. Uses the kernel's copy where both file systems support it. On
+/// failure it returns false with errno set; EIO when the source ends early.
 [[nodiscard]] bool copyBytes(int from, std::int64_t fromOffset, std::int64_t length, int to, std::int64_t toOffset);
 
-/// Waits until the content of a file is on the disk. A file system that cannot sync counts as synced.
+/// Waits until the content of a file is on the disk. Returns true when the file system does not support syncing.
 /// @return false with errno
 [[nodiscard]] bool syncFile(int fd);
 
@@ -60,7 +60,7 @@ void syncFolder(const QByteArray& folder);
 /// The folder of a path; "." when the path has none.
 [[nodiscard]] QByteArray folderOf(const QByteArray& path);
 
-/// rename() that never overwrites. @return 0 or an errno; EEXIST when something stands at the target.
+/// rename() that never overwrites. @return 0 or an errno; EEXIST when the target exists.
 [[nodiscard]] int renameWithoutOverwriting(const QByteArray& from, const QByteArray& to);
 
 } // namespace Platform

@@ -19,7 +19,7 @@ FileLock::Result openLocked(const QString& path, const std::function<Descriptor(
                             std::chrono::milliseconds patience, Descriptor& file) {
     const auto deadline = std::chrono::steady_clock::now() + patience;
     const QByteArray name = QFile::encodeName(path);
-    int replaced = 0; // how often the file lost its name before it was locked
+    int replaced = 0; // how often the file was unlinked before it was locked
     for (;;) {
         file = open();
         if (!file)

@@ -25,8 +25,8 @@ Problem words(int error) {
     return error == 0 ? Problem() : qt_error_string(error);
 }
 
-/// Copies a regular file to @p target through a hidden neighbour of that name. @return 0 or an errno; nothing is left
-/// on failure.
+/// Copies a regular file to @p target through a hidden file beside it. @return 0 or an errno; on failure nothing is
+/// left.
 int copyFile(const QByteArray& from, const QByteArray& target, ReplacementFile::Existing existing) {
     const OpenedFile source = openFile(QFile::decodeName(from));
     if (!source.file)
@@ -43,7 +43,7 @@ int copyFile(const QByteArray& from, const QByteArray& target, ReplacementFile::
     return copy.commit();
 }
 
-/// @return 0 or an errno; EEXIST when something stands at the target.
+/// @return 0 or an errno; EEXIST when the target exists.
 int moveFile(const QByteArray& from, const QByteArray& to) {
     int error = renameWithoutOverwriting(from, to);
     if (error == 0) {
@@ -54,7 +54,7 @@ int moveFile(const QByteArray& from, const QByteArray& to) {
         return error;
     struct stat there {};
     if (lstat(to.constData(), &there) == 0)
-        return EEXIST; // known before the copy is paid for
+        return EEXIST; // checked before the copy, which may take long
     if ((error = copyFile(from, to, ReplacementFile::Existing::Kept)) != 0)
         return error;
     return unlink(from.constData()) == 0 ? 0 : errno;
@@ -103,7 +103,7 @@ Problem sync(const QString& path) {
 bool isOpenForWriting(const QString& path) {
     const Descriptor file{
         ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW | O_NOCTTY)};
-    // A read lease is refused exactly while somebody could write. It is given back when the file is closed.
+    // The kernel refuses a read lease exactly while the file is open for writing. Closing the file returns the lease.
     return file && fcntl(file.get(), F_SETLEASE, F_RDLCK) != 0 && errno == EAGAIN;
 }
 

@@ -12,13 +12,13 @@
 namespace Platform::Folders {
 namespace {
 
-/// A folder from the environment: absolute, else @p fallback; without a slash at its end.
+/// A folder from the environment when it is absolute, else @p fallback; without a trailing slash.
 QString fromEnvironment(const char* name, const QString& fallback) {
     const QString value = QFile::decodeName(qgetenv(name));
     return value.startsWith(u'/') ? QDir::cleanPath(value) : fallback;
 }
 
-/// Why @p path is no folder that only this user can enter; empty when it is one.
+/// Why @p path is not a folder that only this user can enter; empty when it is.
 QString whyNotPrivate(const QString& path) {
     struct stat is {};
     if (lstat(QFile::encodeName(path).constData(), &is) != 0)
@@ -34,7 +34,7 @@ QString whyNotPrivate(const QString& path) {
     return {};
 }
 
-/// Makes @p path with mode 0700 when it is missing; an existing folder of this user gets that mode.
+/// Creates @p path with mode 0700 when it is missing; an existing folder of this user gets that mode.
 QString makePrivate(const QString& path) {
     QDir().mkpath(QFileInfo(path).path());
     const QByteArray name = QFile::encodeName(path);

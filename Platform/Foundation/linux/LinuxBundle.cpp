@@ -13,7 +13,7 @@ public:
     explicit LinuxBundle(const QString& programFolder) {
         const QString beside = programFolder + QStringLiteral("/Resources");
         const bool installed = !QFileInfo(beside).isDir();
-        // Relative to the program, so that an installation may be moved as a whole.
+        // Relative to the program, so that an installation can be moved as a whole.
         resources_ =
             installed ? QDir::cleanPath(programFolder + QStringLiteral("/" SONAPHEX_RESOURCES_FROM_BIN)) : beside;
         tools_ = installed ? QDir::cleanPath(programFolder + QStringLiteral("/" SONAPHEX_TOOLS_FROM_BIN)) : beside;

@@ -9,12 +9,12 @@
 
 namespace Platform {
 
-/// The clocks of the system. hostTime() honours a HostTimeScope of the calling thread.
+/// The system's clocks. hostTime() honours a HostTimeScope of the calling thread.
 [[nodiscard]] std::unique_ptr<Clock> createClock();
 
 /// The bundle of the running program: its resources lie beside it in a build tree, under share/sonaphex when installed.
 [[nodiscard]] std::unique_ptr<Bundle> createBundle();
-/// The same for a program in another folder.
+/// As above, for a program in another folder.
 [[nodiscard]] std::unique_ptr<Bundle> createBundle(const QString& programFolder);
 
 } // namespace Platform

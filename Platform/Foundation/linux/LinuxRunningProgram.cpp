@@ -16,7 +16,7 @@
 namespace Platform {
 namespace {
 
-// A request may hold the keys of a whole library in one line.
+// A request may contain the keys of a whole library in one line.
 constexpr qsizetype longestLine = 1 << 24;
 
 class LinuxRunningProgram final : public RunningProgram {
@@ -30,8 +30,8 @@ public:
         if (lock_.isHeld())
             return true;
         lastError_.clear();
-        // Beside the folder that a launch wipes: two programs that would wipe the same folder then always meet the same
-        // lock, even when their environments differ.
+        // The lock lies beside the folder that a launch empties: two programs that would empty the same folder then use
+        // the same lock, even when their environments differ.
         QString why;
         const QString folder = Folders::temporary(&why);
         if (folder.isEmpty()) {
@@ -96,7 +96,7 @@ public:
 private:
     QString socketPath() const { return Folders::runtime() + u'/' + identifier_ + QStringLiteral(".socket"); }
 
-    /// Removes the socket that a killed program left. Anything else at @p path stays.
+    /// Removes the socket of a killed program. Anything else at @p path is kept.
     bool removeDeadSocket(const QString& path) {
         struct stat status {};
         const QByteArray name = QFile::encodeName(path);
@@ -112,14 +112,14 @@ private:
     void serve(QLocalSocket* client) {
         QObject::connect(client, &QLocalSocket::disconnected, client, &QObject::deleteLater);
         QObject::connect(client, &QLocalSocket::readyRead, client, [this, client] { answerLines(client); });
-        answerLines(client); // what came before the connection of the signal
+        answerLines(client); // for data that arrived before the signal was connected
     }
 
-    // The socket may be deleted whenever the event loop turns, so nothing here may turn it. The work that follows an
-    // answer runs from the loop: it may open a dialog, whose own loop handles this socket again.
+    // The event loop may delete the socket, so this function must not run one. The work that follows an answer is
+    // queued: it may open a dialog, whose loop handles this socket again.
     void answerLines(QLocalSocket* client) {
         if (!client->canReadLine() && client->bytesAvailable() > longestLine)
-            client->abort(); // a line without end
+            client->abort(); // the line is too long
         while (client->canReadLine()) {
             if (workToBegin_ > 0) {
                 MainQueue::post(client, [this, client] { answerLines(client); });
@@ -142,7 +142,7 @@ private:
     QString lastError_;
     FileLock lock_;
     Handler handler_;
-    int workToBegin_ = 0; ///< answered requests whose work has not begun
+    int workToBegin_ = 0; ///< answered requests whose work has not started
     std::unique_ptr<QLocalServer> server_;
 };
 

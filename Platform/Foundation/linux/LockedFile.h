@@ -11,10 +11,9 @@ namespace Platform {
 
 enum class LockKind { Shared, Exclusive };
 
-/// Opens a file with @p open and takes the kernel's lock on it; every lock on a file is taken here. When the file loses
-/// its name @p path between the two steps, both are repeated: a lock on a file without a name protects nothing. Waits
-/// for other holders at most as long as @p patience.
-///
+/// Opens a file with @p open and takes the kernel's lock on it; the only function that locks files. When the file at @p
+/// path is unlinked or replaced between the two steps, both are repeated: a lock on a file without a name protects
+/// nothing. Waits for other holders at most @p patience.
 /// @return Held; Elsewhere when another process holds the lock (the file is then open, without the lock); Failed with
 /// errno when the file cannot be opened or locked.
 [[nodiscard]] FileLock::Result openLocked(const QString& path, const std::function<Descriptor()>& open, LockKind kind,

@@ -17,13 +17,13 @@ namespace {
 Q_LOGGING_CATEGORY(log, "sonaphex.foundation")
 
 const QString noteEnding = u".origin"_s;
-// A note says where a file is moved to, so nobody else may have written it.
+// A note decides where a file is moved to, so notes of other users are refused.
 const FileRules noteRules{.ownUser = true, .noLink = true, .largest = 65536};
 
 } // namespace
 
 FileManager::Problem moveAway(const QString& from, const QString& to) {
-    // The note is written first: without it a crash after the move would leave a file that nobody can assign.
+    // The note is written first: without it a crash after the move would leave a file of unknown origin.
     if (const auto problem = FileManager::writeAtomically(to + noteEnding, QFile::encodeName(from), 0600);
         !problem.isEmpty())
         return problem;
@@ -36,16 +36,16 @@ FileManager::Problem moveAway(const QString& from, const QString& to) {
 QString setAside(const QString& path, const QString& wishedName) {
     QString at = FileManager::setAside(path, wishedName);
     if (at != path || !QFileInfo::exists(path)) {
-        forget(path); // it may have been kept before
+        forget(path); // it may have had a note before
         return at;
     }
-    // The next recording may reuse its own name, and begins with an empty file.
+    // The next recording may reuse the file's name and would empty it.
     if (QString landed; FileManager::moveIntoFolder(path, QFileInfo(path).path(), wishedName, landed).isEmpty())
         at = landed;
     const QString home = FileManager::unfinishedFolder() + u'/' + QFileInfo(at).fileName();
     if (FileManager::writeAtomically(at + noteEnding, QFile::encodeName(home), 0600).isEmpty())
         return at;
-    // An empty note needs no room on a full disk and stands for the same place.
+    // An empty note needs no space on a full disk and also keeps the file.
     if (QFile note(at + noteEnding); !note.open(QIODevice::WriteOnly))
         qCWarning(log, "%s goes with its temporary folder: %s", qUtf8Printable(at), qUtf8Printable(note.errorString()));
     return at;

@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::int64_t largestWithoutLimit = std::int64_t(64) << 20;
 
-/// Why the rules refuse the file; empty when they do not.
+/// Why the rules refuse the file; empty when they accept it.
 QString refusal(const struct stat& status, const FileRules& rules) {
     if (S_ISLNK(status.st_mode))
         return u"is a link"_s;
@@ -42,7 +42,7 @@ OpenedFile openFile(const QString& path, const FileRules& rules) {
         return std::move(opened);
     };
     const QByteArray name = QFile::encodeName(path);
-    // The look comes first: to open a pipe or a device can change it, even when it is closed again at once.
+    // Check before opening: opening a pipe or a device can change it, even when it is closed at once.
     const auto look = rules.noLink ? ::lstat : ::stat;
     if (look(name.constData(), &opened.status) != 0)
         return fail(errno, qt_error_string(errno));
@@ -52,7 +52,7 @@ OpenedFile openFile(const QString& path, const FileRules& rules) {
                                                    O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
     if (!opened.file || ::fstat(opened.file.get(), &opened.status) != 0)
         return fail(errno, qt_error_string(errno));
-    // The name may have changed its file since.
+    // The name may refer to another file by now.
     if (const QString why = refusal(opened.status, rules); !why.isEmpty())
         return fail(0, why);
     return opened;
@@ -72,7 +72,7 @@ std::optional<QByteArray> readFile(const QString& path, const FileRules& rules, 
         why = qt_error_string(int(-count));
         return std::nullopt;
     }
-    content.truncate(qsizetype(count)); // it may have been cut since it was opened
+    content.truncate(qsizetype(count)); // the file may have been truncated since it was opened
     return content;
 }
 

@@ -25,7 +25,7 @@ struct FreeMemory {
 using NodePtr = std::unique_ptr<void, FreePlist>;
 using TextPtr = std::unique_ptr<char, FreeMemory>;
 
-/// libplist prints and reads reals by the locale of the thread: with a decimal comma every fraction would be lost.
+/// libplist prints and reads reals in the locale of the thread: with a decimal comma every fraction would be lost.
 class CNumbers {
 public:
     CNumbers() : c_(newlocale(LC_NUMERIC_MASK, "C", duplocale(uselocale(nullptr)))), before_(uselocale(c_)) {}
@@ -41,8 +41,8 @@ private:
     locale_t before_;
 };
 
-// libplist recurses and trusts the depth of its input (2.2.0 runs out of stack). The lists that this program stores are
-// five levels deep.
+// libplist recurses without a limit (2.2.0 overflows the stack). The lists that this program stores are five levels
+// deep.
 constexpr int deepestNesting = 200;
 constexpr std::size_t worthTwoThreads = 2000;
 
@@ -131,7 +131,7 @@ plist_t nodeFrom(const QVariant& object) {
     }
 }
 
-/// Reads a parsed list. Keys repeat from entry to entry, so each spelling is made a QString once and then shared.
+/// Converts a parsed list. Keys repeat from entry to entry, so each key is converted to a QString once and then shared.
 class Reader {
 public:
     QVariant object(plist_t node) {
@@ -185,7 +185,7 @@ public:
             const TextPtr keyOwner(key);
             if (!child)
                 return result;
-            result.insert(result.cend(), keyNamed(key), object(child)); // files of ours are in order
+            result.insert(result.cend(), keyNamed(key), object(child)); // keys in our own files are sorted
         }
     }
 
@@ -203,7 +203,7 @@ private:
                 break;
             children.push_back(child);
         }
-        // The launch waits for a library of thousands of entries, so two threads share the work. The list is only read.
+        // The launch waits for a library of thousands of entries, so two threads convert it. The list is only read.
         const std::span<const plist_t> all(children);
         if (all.size() < worthTwoThreads)
             return objects(all);

@@ -10,12 +10,13 @@
 
 namespace Platform::PropertyList {
 
-/// The XML form of a dictionary. What a property list cannot hold (an invalid QVariant, an unknown type) is left out.
+/// The XML form of a dictionary. Values that a property list cannot hold (an invalid QVariant, an unknown type) are
+/// omitted.
 [[nodiscard]] QByteArray toXml(const Dictionary& dictionary);
 
-/// The dictionary of an XML property list; nothing when the data is no such list or is nested too deeply.
-/// @param spent takes the parsed form, which the caller frees when nobody waits any more: to free the small pieces of
-/// a long library takes a sixth of the time of reading it.
+/// The dictionary of an XML property list; nothing when the data is not such a list or is nested too deeply. @param
+/// spent receives the parsed form, which the caller frees when nothing waits: freeing the many small nodes of a long
+/// library takes a sixth of the time of reading it.
 [[nodiscard]] std::optional<Dictionary> fromXml(const QByteArray& xml, std::shared_ptr<void>* spent = nullptr);
 
 } // namespace Platform::PropertyList

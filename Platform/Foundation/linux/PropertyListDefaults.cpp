@@ -28,16 +28,17 @@ namespace {
 Q_LOGGING_CATEGORY(log, "sonaphex.foundation")
 
 constexpr auto retryAfter = std::chrono::seconds(5);
-constexpr auto lockPatience = std::chrono::seconds(10);     // a stopped process may hold the lock for good
-constexpr std::int64_t largestFile = std::int64_t(1) << 30; // a library of two million recordings
+constexpr auto lockPatience = std::chrono::seconds(10);     // a stopped process may hold the lock forever
+constexpr std::int64_t largestFile = std::int64_t(1) << 30; // enough for a library of two million recordings
 
-/// The hidden file whose lock a writer of the settings holds.
+/// The hidden lock file of the settings; a process that writes holds it.
 QString lockPath(const QString& path) {
     const QFileInfo info(path);
     return info.path() + "/."_L1 + info.fileName() + ".lock"_L1;
 }
 
-/// The file behind a symbolic link: replacing the link itself would detach the settings from where the user keeps them.
+/// The target of a symbolic link: replacing the link itself would move the settings away from where the user keeps
+/// them.
 QString behindLinks(const QString& path) {
     const QString real = QFileInfo(path).canonicalFilePath();
     return real.isEmpty() ? path : real;
@@ -96,7 +97,7 @@ void PropertyListDefaults::change(const QString& key, const QVariant& object) {
 bool PropertyListDefaults::flush() {
     std::unique_lock lock(mutex_);
     const quint64 wanted = lastChange_;
-    failedChange_ = 0; // what failed before is tried again now
+    failedChange_ = 0; // changes that failed before are tried again
     work_.notify_one();
     done_.wait(lock, [&] { return savedChange_ >= wanted || failedChange_ >= wanted; });
     return savedChange_ >= wanted;
@@ -139,12 +140,12 @@ void PropertyListDefaults::takeUpFromDisk(const QString& key) {
     overlay({{key, joined}}, values_);
     if (set != pending_.end())
         *set = joined;
-    ours_.insert(key, theirs); // what is here is now a change of that
+    ours_.insert(key, theirs); // the value here is now a change relative to theirs
 }
 
 void PropertyListDefaults::load() {
     if (!readAgain(Damage::Leave)) {
-        // Moving a damaged file away needs the lock: another process may just have put a good one in its place.
+        // Moving a damaged file away needs the lock: another process may just have written a good one in its place.
         FileLock lock;
         if (lock.take(lockPath(path_), lockPatience) == FileLock::Result::Held)
             readAgain(Damage::SetAside);
@@ -153,7 +154,7 @@ void PropertyListDefaults::load() {
     {
         const std::lock_guard guard(mutex_);
         values_ = onDisk_;
-        overlay(pending_, values_); // set while the file was read
+        overlay(pending_, values_); // values set while the file was read
         loaded_ = true;
     }
     done_.notify_all();
@@ -229,7 +230,7 @@ bool PropertyListDefaults::readAgain(Damage damage) {
     const OpenedFile opened = openFile(path_, {.largest = largestFile});
     if (!opened.file) {
         if (opened.error == ENOENT || opened.error == ENOTDIR)
-            return true; // a file that was taken away comes back whole with the next save
+            return true; // a file that was removed is written again completely by the next save
         qCWarning(log, "cannot read %s: %s", qUtf8Printable(path_), qUtf8Printable(opened.why));
         errno = opened.error != 0 ? opened.error : EINVAL;
         return false;
@@ -261,7 +262,7 @@ void PropertyListDefaults::setAsideDamaged() {
                                      QFile::encodeName(target).constData(), RENAME_NOREPLACE) != 0;
          ++number) {
         if (errno != EEXIST || number > 1000)
-            return; // gone already (another process did the same), or the folder is not ours to change
+            return; // already gone (another process moved it), or the folder is not writable
         target = name + u'-' + QString::number(number);
     }
     qCWarning(log, "%s is damaged; it was kept as %s", qUtf8Printable(path_), qUtf8Printable(target));
@@ -306,7 +307,7 @@ bool PropertyListDefaults::save(const Changes& changes, const QHash<QString, Mer
 bool PropertyListDefaults::replaceFile(const QByteArray& content) {
     const QByteArray path = QFile::encodeName(path_);
     struct stat status {};
-    // A damaged file that could not be moved away is not overwritten either.
+    // A damaged file that could not be moved away must not be overwritten either.
     const bool exists = ::stat(path.constData(), &status) == 0;
     if (exists && static_cast<quint64>(status.st_ino) != version_.inode) {
         errno = EEXIST;

@@ -19,16 +19,15 @@ namespace Platform {
 [[nodiscard]] std::unique_ptr<UserDefaults> createUserDefaults(const QString& bundleIdentifier);
 
 /// User defaults in one XML property list.
-///
 /// The file is replaced as a whole (new file, sync, rename), so it is complete at every moment. A lock file beside it
-/// keeps other processes out from reading it until replacing it; it is only ever held for one save. A damaged file is
-/// moved to "<file>.damaged-<date>"; one that cannot be read (permissions, a bad disk) is never replaced.
+/// keeps other processes out from reading it until replacing it; it is only held during a save. A damaged file is moved
+/// to "<file>.damaged-<date>"; one that cannot be read (permissions, a bad disk) is never replaced.
 class PropertyListDefaults final : public UserDefaults {
 public:
-    /// The worker reads the file; the first objectForKey() waits for it.
+    /// Starts the worker, which reads the file; the first objectForKey() waits for it.
     explicit PropertyListDefaults(const QString& path);
-    /// Writes what is pending; a file that cannot be written is tried once more; then a log line says that it was given
-    /// up.
+    /// Writes pending changes. When the file cannot be written, it tries once more and then logs that the changes were
+    /// given up.
     ~PropertyListDefaults() override;
     PropertyListDefaults(const PropertyListDefaults&) = delete;
     PropertyListDefaults& operator=(const PropertyListDefaults&) = delete;
@@ -43,7 +42,7 @@ public:
 private:
     using Changes = QHash<QString, QVariant>; // an invalid value removes the key
 
-    /// Tells one version of the file from another.
+    /// Identifies one version of the file.
     struct Version {
         quint64 device = 0, inode = 0;
         qint64 size = -1, modified = 0, changed = 0;
@@ -59,8 +58,8 @@ private:
     enum class Damage { Leave, SetAside };
 
     [[nodiscard]] static Version versionOf(const struct stat& status);
-    /// Reads the file if it is another version than the one known. False when it exists and cannot be read; a damaged
-    /// file counts as unreadable until it may be set aside, which needs the lock.
+    /// Reads the file if its version changed. False when it exists and cannot be read; a damaged file counts as
+    /// unreadable until it may be set aside, which needs the lock.
     bool readAgain(Damage damage);
     bool save(const Changes& changes, const QHash<QString, Merge>& merges);
     bool replaceFile(const QByteArray& content);
@@ -75,9 +74,9 @@ private:
     Changes pending_;
     QHash<QString, Merge> merges_;
     quint64 lastChange_ = 0;   // number of the newest change
-    quint64 savedChange_ = 0;  // the newest one that is on the disk
-    quint64 failedChange_ = 0; // the newest one that a failed save contained
-    /// A call of takeUp() that waits for the worker.
+    quint64 savedChange_ = 0;  // number of the newest change on the disk
+    quint64 failedChange_ = 0; // number of the newest change in a failed save
+    /// A takeUp() call that waits for the worker.
     struct TakeUp {
         QString key;
         bool isDone = false;
@@ -90,11 +89,11 @@ private:
     // Used by the worker only.
     Version version_;
     Dictionary onDisk_;           // the file's content as of version_
-    Dictionary ours_;             // what this process read or set itself, the base of a merge
-    std::shared_ptr<void> spent_; // left over from reading, freed when nobody waits for what was read
+    Dictionary ours_;             // values that this process read or set itself, the base of a merge
+    std::shared_ptr<void> spent_; // the parsed form of the file, freed when nothing waits for the values
     bool problemTold_ = false;
 
-    std::thread worker_; // last: it uses everything above
+    std::thread worker_; // last: it uses the members above
 };
 
 } // namespace Platform

@@ -23,7 +23,7 @@ ReplacementFile::ReplacementFile(const QString& target, Existing existing, Link 
     if (existing == Existing::Replaced && link == Link::Followed)
         if (const QFileInfo info(target); info.isSymLink() && info.exists())
             target_ = info.canonicalFilePath();
-    // The hidden name is not made from the target's, which may already be as long as a name can be.
+    // The hidden name does not contain the target's name, which may already have the maximum length.
     const QString suffix = QFileInfo(target_).suffix();
     path_ = QFile::decodeName(folderOf(QFile::encodeName(target_))) + "/.sonaphex-"_L1 +
             QString::number(QRandomGenerator::system()->generate64(), 36) + ".part"_L1 +
@@ -52,13 +52,13 @@ int ReplacementFile::openLike(int model) {
         return errno;
     if (const int error = open(0600); error != 0)
         return error;
-    // Only root may give files away; for other users the file is theirs anyway.
+    // Only root can change the owner; for other users the file already belongs to them.
     if (::fchown(descriptor_, status.st_uid, status.st_gid) != 0 && errno != EPERM)
         return errno;
     return ::fchmod(descriptor_, status.st_mode & 07777) == 0 ? 0 : errno;
 }
 
-/// Gives the open file without a name one; never in the place of another file.
+/// Links the nameless open file to @p name; fails when the name exists.
 int ReplacementFile::give(const QByteArray& name) {
     const QByteArray self = "/proc/self/fd/" + QByteArray::number(descriptor_);
     return ::linkat(AT_FDCWD, self.constData(), AT_FDCWD, name.constData(), AT_SYMLINK_FOLLOW) == 0 ? 0 : errno;
@@ -73,7 +73,7 @@ int ReplacementFile::sync() {
 int ReplacementFile::takeName() {
     const QByteArray hidden = QFile::encodeName(path_);
     const QByteArray target = QFile::encodeName(target_);
-    // linkat() cannot replace a file, so a file without a name takes the hidden name for a moment.
+    // linkat() cannot replace a file, so a nameless file first takes the hidden name.
     const bool linkToTarget = !hasName_ && existing_ == Existing::Kept;
     if (const int error = hasName_ ? 0 : give(linkToTarget ? target : hidden); error != 0)
         return error;

@@ -13,7 +13,7 @@ void secureStandardStreams() {
     (void)std::signal(SIGPIPE, SIG_IGN);
     for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
         if (fcntl(stream, F_GETFD) < 0)
-            (void)open("/dev/null", O_RDWR); // takes the lowest free number, which is this one
+            (void)open("/dev/null", O_RDWR); // gets the lowest free number, which is this one
 }
 
 } // namespace Platform

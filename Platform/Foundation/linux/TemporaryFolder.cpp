@@ -19,7 +19,7 @@ namespace {
 
 const QString lockEnding = QStringLiteral(".lock");
 
-/// A folder that must stay keeps its lock file, so that a later process finds the folder by it.
+/// A folder that is kept also keeps its lock file, by which a later process finds the folder.
 void removeWithLock(const QString& path, FileLock& lock) {
     TemporaryFolder::removeWhole(path);
     if (QFileInfo::exists(path))
@@ -28,7 +28,7 @@ void removeWithLock(const QString& path, FileLock& lock) {
         lock.removeAndRelease();
 }
 
-/// Every folder has a lock file as long as it exists: the lock is made before the folder and removed after it.
+/// Every folder has a lock file as long as it exists: the lock is created before the folder and removed after it.
 void removeOfDeadOwners(const QString& parent, const QString& prefix) {
     const auto names = QDir(parent).entryList({prefix + u'*' + lockEnding}, QDir::Files | QDir::Hidden);
     for (const QString& name : names) {

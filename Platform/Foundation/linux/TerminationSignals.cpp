@@ -12,7 +12,7 @@
 namespace Platform {
 namespace {
 
-/// The end of the pipe that a signal handler may write to.
+/// The write end of the pipe, for the signal handler.
 volatile std::sig_atomic_t writeEnd = -1;
 
 void note(int signal) {

@@ -12,7 +12,7 @@ extern "C" {
 #include <libswresample/swresample.h>
 }
 
-/// Owners of libav's objects. Nothing of this leaves the folder.
+/// Owners of libav's objects. No libav type leaves this folder.
 namespace Av {
 
 template <auto Free>
@@ -28,7 +28,7 @@ using FramePtr = std::unique_ptr<AVFrame, FreeByAddress<av_frame_free>>;
 using PacketPtr = std::unique_ptr<AVPacket, FreeByAddress<av_packet_free>>;
 using ResamplerPtr = std::unique_ptr<SwrContext, FreeByAddress<swr_free>>;
 
-/// What libav says about @p code.
+/// libav's text for the error @p code.
 inline std::string text(int code) {
     char buffer[AV_ERROR_MAX_STRING_SIZE] = {};
     av_strerror(code, buffer, sizeof buffer);

@@ -10,12 +10,12 @@ namespace {
 
 struct Loaded {
     FormatLibrary library = {};
-    std::string why; // it cannot be used; empty when it can
+    std::string why; // why it cannot be used; empty when it can
 };
 
 Loaded load() {
     Loaded loaded;
-    // The version that the headers are of: it belongs to the libavcodec that this program is linked with.
+    // The version of the headers: it matches the libavcodec that this program is linked with.
     constexpr const char* name = "libavformat.so." AV_STRINGIFY(LIBAVFORMAT_VERSION_MAJOR);
     void* const handle = dlopen(name, RTLD_LAZY | RTLD_LOCAL);
     const auto complain = [&] {

@@ -10,9 +10,9 @@ extern "C" {
 
 namespace Av {
 
-/// What we call of libavformat, which is loaded when the first sound file is read. Forty libraries come with it
-/// (network protocols, module players, disc readers) and occupy 10 MB; who only records never needs them, for our files
-/// are written without it.
+/// The functions of libavformat that are used here. The library is loaded when the first audio file is read: forty
+/// libraries come with it (network protocols, module players, disc readers) and occupy 10 MB. A process that only
+/// records never needs them, because its files are written without libavformat.
 struct FormatLibrary {
     decltype(&::avio_alloc_context) allocIo;
     decltype(&::avio_context_free) freeIo;
@@ -28,7 +28,7 @@ struct FormatLibrary {
     decltype(&::avformat_index_get_entry) indexEntry;
 };
 
-/// Null when the library is missing; @p why then says so. Once loaded it stays. Any thread.
+/// Null when the library is missing, with the reason in @p why. Once loaded it stays loaded. Any thread.
 [[nodiscard]] const FormatLibrary* formatLibrary(std::string* why = nullptr);
 
 struct CloseFormat {
@@ -37,7 +37,7 @@ struct CloseFormat {
 
 struct FreeIo {
     void operator()(AVIOContext* io) const noexcept {
-        // The buffer may have been exchanged by libavformat: free the one that is there now.
+        // libavformat may have replaced the buffer: free the current one.
         av_freep(&io->buffer);
         formatLibrary()->freeIo(&io);
     }
@@ -46,7 +46,7 @@ struct FreeIo {
 using FormatPtr = std::unique_ptr<AVFormatContext, CloseFormat>;
 using IoPtr = std::unique_ptr<AVIOContext, FreeIo>;
 
-/// A decoder for the stream, still closed; nothing when there is none or no memory.
+/// A decoder for the stream, not yet opened; null when there is none or no memory.
 inline CodecPtr createDecoder(const AVStream& stream) {
     const AVCodec* codec = avcodec_find_decoder(stream.codecpar->codec_id);
     CodecPtr context(codec ? avcodec_alloc_context3(codec) : nullptr);

@@ -6,13 +6,13 @@
 
 namespace Platform {
 
-inline constexpr OSStatus kMediaInvalidPropertyError = -66563; ///< a format or map that does not fit
-inline constexpr OSStatus kMediaInvalidStateError = -66567;    ///< too late or too early for this call
+inline constexpr OSStatus kMediaInvalidPropertyError = -66563; ///< a format or channel map that does not fit
+inline constexpr OSStatus kMediaInvalidStateError = -66567;    ///< the call came too late or too early
 
-/// The status that stands for an error of this kind; noErr for none.
+/// The status code for an error; noErr for none.
 [[nodiscard]] OSStatus statusOf(const MediaError& error);
 
-/// What @p code of errno means for the file at @p path: "<path>: No space left on device".
+/// The error for @p code of errno and the file at @p path: "<path>: No space left on device".
 [[nodiscard]] MediaError errnoError(int code, const QString& path);
 
 [[nodiscard]] MediaError makeError(MediaError::Kind kind, const QString& path, const QString& what);

@@ -10,7 +10,7 @@ namespace Platform {
 
 namespace {
 
-/// Whether a file of this type can hold sound of this format.
+/// Whether a file of this type can hold audio in this format.
 bool canBeWritten(std::uint32_t type, const AudioStreamBasicDescription& format) {
     const double rate = format.mSampleRate;
     if (!(rate >= 1000 && rate <= 1'000'000) || format.mChannelsPerFrame < 1 || format.mChannelsPerFrame > 8)
@@ -27,7 +27,7 @@ bool canBeWritten(std::uint32_t type, const AudioStreamBasicDescription& format)
 
 class MediaFilesLinux final : public MediaFiles {
 public:
-    // What libav would print of damaged files is told by our errors.
+    // Damaged files are reported by our own errors, so libav prints nothing.
     MediaFilesLinux() { av_log_set_level(AV_LOG_QUIET); }
 
     std::unique_ptr<ExtAudioFileWriter> createWriter(const QString& path, std::uint32_t fileType,

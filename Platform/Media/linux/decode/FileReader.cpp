@@ -10,7 +10,7 @@ namespace Platform {
 
 namespace {
 
-/// Source frames that the converter has seen before the first one that counts: its filter has settled.
+/// Source frames to feed before the first wanted one, so that the converter's filter has settled.
 constexpr std::int64_t settleFrames = 8192;
 
 } // namespace
@@ -47,7 +47,7 @@ OSStatus FileReader::seek(std::int64_t clientFrame) {
         converter_ = std::make_unique<ConversionStream>(client_.mChannelsPerFrame, int(rate), int(clientRate));
         if (!converter_->valid())
             return kMediaInvalidPropertyError;
-        // Begin where a source frame and a client frame fall together.
+        // Start where a source frame and a client frame coincide.
         const std::int64_t common = std::gcd(rate, clientRate);
         const std::int64_t step = rate / common;
         const std::int64_t steps =
@@ -70,7 +70,7 @@ OSStatus FileReader::seek(std::int64_t clientFrame) {
     return noErr;
 }
 
-/// Decodes more; false at the end.
+/// Decodes the next block; false at the end.
 bool FileReader::fill(OSStatus& status) {
     while (waiting_ == 0 && !ended_) {
         atStart_ = false;

@@ -20,7 +20,8 @@ public:
     [[nodiscard]] MediaError firstError() const override { return firstError_; }
     [[nodiscard]] QString metadata(const QString& key) const override { return input_->metadata(key); }
 
-    /// For readers of our own that take rows as they come: up to all that is decoded, valid until the next call.
+    /// For callers inside this folder that can use rows directly: all frames that are decoded, valid until the next
+    /// call.
     struct Rows {
         const float* const* rows = nullptr;
         std::size_t frames = 0;
@@ -35,7 +36,7 @@ private:
     AudioStreamBasicDescription client_;
     std::unique_ptr<ConversionStream> converter_; // null when the rates are equal
     Planes converted_;
-    std::vector<const float*> rows_; // what is decoded and not yet given out
+    std::vector<const float*> rows_; // frames that are decoded and not yet returned
     std::size_t waiting_ = 0;
     std::int64_t drop_ = 0; // converted frames before a seek's target
     bool ended_ = false;

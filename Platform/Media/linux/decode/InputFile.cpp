@@ -7,11 +7,11 @@ namespace Platform {
 namespace {
 
 constexpr int ioBufferBytes = 1 << 16;
-constexpr std::int64_t prerollFrames = 16384; // decoded before a seek's target, for decoders that remember
+constexpr std::int64_t prerollFrames = 16384; // decoded before a seek's target, for decoders with state
 constexpr int mostFailuresInARow = 10000;
 constexpr int mostRate = 3'000'000;
 
-/// libavformat's view of a SourceFile. It sees no path and can open no other file.
+/// libavformat's access to a SourceFile. It sees no path and can open no other file.
 struct Reading {
     const SourceFile* file;
     std::int64_t at = 0;
@@ -58,7 +58,7 @@ bool formatIs(const AVFormatContext& format, const char* name) {
     return names.find(std::string(",") + name + ",") != std::string::npos;
 }
 
-/// Frames that libavcodec takes off the beginning and the end of what a packet gives.
+/// Frames that libavcodec removes from the beginning and the end of a packet's output.
 struct TakenOff {
     std::int64_t front = 0;
     std::int64_t back = 0;
@@ -124,7 +124,7 @@ bool InputFile::openContainer(MediaError& error) {
     }
     context->pb = io_.get();
     context->io_open = openNothing;
-    // On failure the context is freed.
+    // On failure libavformat frees the context.
     int code = av_->openInput(&context, "", nullptr, nullptr);
     if (code < 0) {
         const bool unknown = code == AVERROR_INVALIDDATA || code == AVERROR_EOF;
@@ -172,7 +172,7 @@ bool InputFile::openDecoder(MediaError& error) {
     target_ = 0;
     draining_ = timeFromFrames_ = frameIsWaiting_ = false;
     silence_ = packetTime_ = origin_ = 0;
-    // Only a decoded frame tells the rate and channels for sure: some headers know but half of it.
+    // Only a decoded frame gives the rate and channels reliably: some headers are incomplete.
     std::optional<MediaError> ignored;
     Got got = Got::Silence;
     for (int i = 0; i < 64 && got == Got::Silence; ++i)
@@ -184,7 +184,7 @@ bool InputFile::openDecoder(MediaError& error) {
             facts_.validFrames.reset();
         }
         channels_ = std::max(1, frame_->ch_layout.nb_channels);
-        // What lies before time 0 is priming that libavformat only marked.
+        // Frames before time 0 are priming that libavformat marked but did not remove.
         if (frame_->pts != AV_NOPTS_VALUE && frame_->pts < 0)
             position_ += inFrames(frame_->pts);
         else if (frame_->pts != AV_NOPTS_VALUE)
@@ -221,7 +221,7 @@ std::int64_t InputFile::durationOf(const AVPacket& packet) const {
     if (packet.duration > 0)
         return packet.duration;
     const AVCodecParameters& parameters = *stream_->codecpar;
-    // libavformat does not know how long the first packet of a CAF file is.
+    // libavformat does not know the duration of the first packet of a CAF file.
     if (parameters.codec_id != AV_CODEC_ID_AAC || parameters.frame_size <= 0 || parameters.sample_rate <= 0)
         return 0;
     return av_rescale_q(parameters.frame_size, AVRational{1, parameters.sample_rate}, stream_->time_base);
@@ -248,7 +248,7 @@ void InputFile::findLength() {
         countPackets();
 }
 
-/// Counts what the packets of the file will give, without decoding them.
+/// Counts the frames of all packets of the file, without decoding them.
 void InputFile::countPackets() {
     length_ = 0;
     packets_ = 0;
@@ -269,7 +269,7 @@ void InputFile::countPackets() {
                 begin = std::max<std::int64_t>(0, time + counter->inStreamTime(taken.front));
             }
             end = std::max(end, time + duration);
-            // Some containers shorten the last duration by what is taken off, some do not.
+            // Some containers reduce the last duration by the padding, others do not.
             off = duration + counter->inStreamTime(taken.back) <= usual ? 0 : taken.back;
             usual = std::max(usual, duration);
         }
@@ -301,7 +301,7 @@ AudioStreamBasicDescription InputFile::dataFormat() const {
         format.mFormatID = kAudioFormatMPEG4AAC;
         format.mFramesPerPacket = std::uint32_t(parameters.frame_size > 0 ? parameters.frame_size : 1024);
     } else {
-        // Four letters of the codec's name.
+        // The first four letters of the codec's name.
         const char* name = avcodec_get_name(parameters.codec_id);
         for (int i = 0; i < 4; ++i) {
             const char letter = *name ? *name++ : ' ';
@@ -333,7 +333,7 @@ std::int64_t InputFile::packetCount() {
 
 QString InputFile::metadata(const QString& key) const {
     const QByteArray name = key.toUtf8();
-    // Some containers keep the tags with the file, some with the stream.
+    // Some containers store the tags in the file's dictionary, some in the stream's.
     for (const AVDictionary* tags : {format_->metadata, stream_->metadata})
         if (const AVDictionaryEntry* entry = av_dict_get(tags, name.constData(), nullptr, 0))
             return QString::fromUtf8(entry->value).trimmed();
@@ -345,7 +345,7 @@ void InputFile::setOutputChannels(int channels) {
     mixer_.reset();
 }
 
-/// Brings the next frame, or the length of the silence that stands for a damaged one.
+/// Decodes the next frame, or gives the length of the silence that replaces a damaged one.
 InputFile::Got InputFile::decodeOne(std::optional<MediaError>& error) {
     const auto damaged = [&](int code) {
         error = makeError(
@@ -403,7 +403,7 @@ InputFile::Got InputFile::decodeOne(std::optional<MediaError>& error) {
 
 InputFile::Block InputFile::next() {
     Block block;
-    // A header that lies about the length cuts nothing off but the padding of codecs that pad.
+    // A wrong length in a header must only remove the padding of codecs that pad.
     const bool cut = facts_.validFrames.has_value();
     for (;;) {
         if (cut && position_ >= *facts_.validFrames)
@@ -446,7 +446,7 @@ InputFile::Block InputFile::next() {
     }
 }
 
-/// The samples of frame_ in the output's shape.
+/// Converts the samples of frame_ to the output's layout.
 InputFile::Block InputFile::convert(std::int64_t skip, std::int64_t most) {
     Block block;
     const int have = frame_->ch_layout.nb_channels;
@@ -459,7 +459,7 @@ InputFile::Block InputFile::convert(std::int64_t skip, std::int64_t most) {
         block.rows = rows_.data();
         return block;
     }
-    // One channel fills all; where a layout is unknown, or has fewer channels, the first ones are taken.
+    // One channel fills all; where the layout is unknown, or has fewer channels, the first ones are used.
     const auto frames = std::size_t(frame_->nb_samples);
     const std::size_t made = have == 1 ? 1 : width;
     if (!mixer_ || swr_is_initialized(mixer_.get()) == 0 || mixerFormat_ != frame_->format || mixerChannels_ != have) {
@@ -524,13 +524,13 @@ bool InputFile::seek(std::int64_t frame) {
             return true;
         }
     }
-    // From the beginning, as if it had just been opened.
+    // Starts over, as if the file had just been opened.
     if (!openContainer(error) || !openDecoder(error))
         return false;
     target_ = frame;
     if (frame <= 2 * prerollFrames || !timesAreFine())
         return true;
-    // Far ahead the packets before the place are passed over, not decoded.
+    // When the target is far ahead, the packets before it are skipped without decoding.
     const std::int64_t origin = origin_;
     if (!openContainer(error))
         return false;

@@ -11,31 +11,31 @@
 
 namespace Platform {
 
-/// One audio file being decoded: its best sound stream as rows of float samples at the file's own rate, each frame with
-/// its number, priming and padding taken off. One thread.
+/// Decodes one audio file: its best audio stream as rows of float samples at the file's own rate, each frame with its
+/// number, priming and padding removed. One thread.
 class InputFile {
 public:
-    /// @p decode: false only describes the file.
+    /// @p decode: false when the file is only described.
     [[nodiscard]] static std::unique_ptr<InputFile> open(const QString& path, bool decode, MediaError& error);
     ~InputFile();
 
     [[nodiscard]] int rate() const { return rate_; }
     [[nodiscard]] int channels() const { return channels_; }
     [[nodiscard]] const QString& path() const { return path_; }
-    /// Exact where the container tells; else all packets are counted, once.
+    /// Exact where the container stores it; else all packets are counted, once.
     [[nodiscard]] std::int64_t lengthFrames();
     [[nodiscard]] AudioStreamBasicDescription dataFormat() const;
     [[nodiscard]] std::int64_t packetCount();
     /// See ExtAudioFileReader::metadata().
     [[nodiscard]] QString metadata(const QString& key) const;
 
-    /// What next() gives shall have this many channels.
+    /// Sets the number of channels that next() returns.
     void setOutputChannels(int channels);
 
     struct Block {
         const float* const* rows = nullptr; ///< valid until the next call
         std::size_t frames = 0;             ///< 0 at the end
-        std::optional<MediaError> error;    ///< these frames stand for damaged ones
+        std::optional<MediaError> error;    ///< set when these frames replace damaged ones
     };
     [[nodiscard]] Block next();
     /// The next block begins with this frame (or at the end).
@@ -66,10 +66,10 @@ private:
     Av::IoPtr io_;
     Av::FormatPtr format_;
     Av::CodecPtr codec_;
-    AVStream* stream_ = nullptr; // of format_
+    AVStream* stream_ = nullptr; // owned by format_
     Av::FramePtr frame_;
     Av::PacketPtr packet_;
-    Av::ResamplerPtr mixer_; // sample format and channels, where they differ
+    Av::ResamplerPtr mixer_; // converts sample format and channels where they differ
     int mixerFormat_ = -1;
     int mixerChannels_ = 0;
     std::vector<std::vector<float>> mixed_;
@@ -84,11 +84,11 @@ private:
 
     std::int64_t position_ = 0;   // number of the next frame that the decoder gives
     std::int64_t target_ = 0;     // frames before this one are dropped
-    bool frameIsWaiting_ = false; // the first one, decoded when the file was opened
-    bool timeFromFrames_ = false; // after a seek, until the first frame told where it lies
-    std::int64_t packetTime_ = 0; // in the stream's time, of the next packet if it has none of its own
-    std::int64_t origin_ = 0;     // in the stream's time, of the first frame
-    std::int64_t silence_ = 0;    // frames of silence that stand for a damaged packet
+    bool frameIsWaiting_ = false; // the first frame, which was decoded when the file was opened
+    bool timeFromFrames_ = false; // after a seek, until the first frame gives its position
+    std::int64_t packetTime_ = 0; // in the stream's time base: of the next packet if it has no time of its own
+    std::int64_t origin_ = 0;     // in the stream's time base: of the first frame
+    std::int64_t silence_ = 0;    // frames of silence that replace a damaged packet
     bool draining_ = false;
     int failuresInARow_ = 0;
 };

@@ -33,7 +33,7 @@ bool InputFile::sparseSamples(std::span<const std::int64_t> frames, std::span<fl
         const AVIndexEntry* entry = av_->indexEntry(stream_, int(i));
         places[i] = {entry->pos, entry->size};
     }
-    // A packet's frame hangs together with the packet before it and with no other.
+    // AAC overlap-add: decoding a packet needs only its predecessor.
     const auto part = [&](std::size_t from, std::size_t to) {
         Av::CodecPtr codec = Av::createDecoder(*stream_);
         const Av::FramePtr frame(av_frame_alloc());
@@ -43,7 +43,7 @@ bool InputFile::sparseSamples(std::span<const std::int64_t> frames, std::span<fl
         codec->flags2 |= AV_CODEC_FLAG2_SKIP_MANUAL;
         if (avcodec_open2(codec.get(), nullptr, nullptr) < 0)
             return false;
-        // One buffer for all packets: the decoder is done with one before the next is read.
+        // One buffer for all packets: the decoder has consumed one before the next is read.
         if (av_new_packet(packet.get(), mostPacketBytes) < 0)
             return false;
         std::int64_t decoded = -2;

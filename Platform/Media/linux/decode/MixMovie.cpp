@@ -17,7 +17,7 @@ namespace {
 constexpr int mixRate = 44100;
 constexpr std::size_t mixChannels = 2;
 constexpr std::size_t chunkFrames = 1 << 16;
-/// A speed is a ratio of two rates; this many times the real ones, so that a hundredth of a millionth counts.
+/// A speed is expressed as a ratio of two rates. They are scaled by this factor so that a change of 1e-8 has an effect.
 constexpr double speedScale = 10000;
 
 AudioStreamBasicDescription waveFormat() {
@@ -39,7 +39,7 @@ struct Track {
     [[nodiscard]] double end() const { return timing.offset + seconds / timing.speed; }
 };
 
-/// One track as the mix hears it: at the mix's rate, shifted and stretched.
+/// One track as input of the mix: at the mix's rate, shifted and resampled.
 class TrackReader {
 public:
     TrackReader(std::unique_ptr<InputFile> input, Movie::TrackTiming timing)
@@ -53,7 +53,7 @@ public:
                 mixChannels, int(std::llround(mixRate * speedScale * timing.speed)), int(mixRate * speedScale));
     }
 
-    /// Adds the next @p frames frames to @p sums, fewer at the end of the track. @return how many there were.
+    /// Adds the next @p frames frames to @p sums, fewer at the end of the track. @return the number added.
     std::size_t addTo(Planes& sums, std::size_t frames) {
         std::size_t done = std::size_t(std::min<std::int64_t>(silence_, std::int64_t(frames)));
         silence_ -= std::int64_t(done);
@@ -169,7 +169,7 @@ MediaError MixMovie::writeWave(const QString& path, const std::function<bool(dou
     alignas(AudioBufferList) std::byte memory[sizeof(AudioBufferList) + sizeof(AudioBuffer)];
     auto* list = new (memory) AudioBufferList{};
     for (double written = 0; !error;) {
-        // Each track is decoded on a thread of its own.
+        // Each track is decoded on its own thread.
         const auto readTrack = [&](std::size_t i) {
             sums[i].clear();
             sums[i].resize(chunkFrames);

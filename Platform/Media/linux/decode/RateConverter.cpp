@@ -102,7 +102,7 @@ void RateConverter::run(const std::uint8_t** in, std::size_t frames, Planes& out
         out.resize(at + std::size_t(std::max(0, got)));
         if (got < int(room))
             return;
-        frames = 0; // the input went in at once; what found no room follows
+        frames = 0; // the whole input is consumed by the first call; the loop only drains
     }
 }
 
@@ -136,7 +136,7 @@ void ConversionStream::pass(std::size_t frames) {
 void ConversionStream::cut(std::shared_ptr<CutTail> tail) {
     const std::lock_guard lock(mutex_);
     segments_.push_back({std::max(produced_, converter_.outputFrames(fed_)), std::move(tail)});
-    distribute(fresh_); // with equal rates nothing is missing
+    distribute(fresh_); // with equal rates nothing is held back
 }
 
 void ConversionStream::finish(Planes& out) {
@@ -151,8 +151,8 @@ void ConversionStream::completeTails() {
     if (segments_.empty())
         return;
     flushToEnd();
-    distribute(fresh_); // what lies behind the last cut stays for the file that goes on
-    // The new converter begins where the positions of input and output fall together, shortly before this place.
+    distribute(fresh_); // frames behind the last cut stay for the next file
+    // The new converter starts shortly before this position, where input and output positions coincide.
     converter_.reset();
     const std::int64_t start = fed_ / converter_.period() * converter_.period();
     skip_ = converter_.outputFrames(fed_) - converter_.outputFrames(start);
@@ -166,7 +166,7 @@ void ConversionStream::completeTails() {
     skipFrom(at);
 }
 
-/// Everything that was fed comes out, as long as it was fed.
+/// Drains the converter until the output has the length of the input.
 void ConversionStream::flushToEnd() {
     const std::size_t at = fresh_.frames();
     converter_.flush(fresh_);
@@ -174,7 +174,7 @@ void ConversionStream::flushToEnd() {
     fresh_.resize(std::size_t(std::max<std::int64_t>(0, converter_.outputFrames(fed_) - produced_)));
 }
 
-/// Of what the converter gave from @p at on, takes away what lies before the place where it was started anew.
+/// Removes from the output, from @p at on, the frames before the position at which the converter was restarted.
 void ConversionStream::skipFrom(std::size_t at) {
     const auto count = std::min<std::size_t>(std::size_t(skip_), fresh_.frames() - at);
     fresh_.erase(at, count);

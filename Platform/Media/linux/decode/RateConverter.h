@@ -11,7 +11,7 @@
 
 namespace Platform {
 
-/// Samples of several channels, one row each, all of one length.
+/// Samples of several channels, one row per channel, all of one length.
 class Planes {
 public:
     explicit Planes(std::size_t channels = 0) : rows_(channels) {}
@@ -38,7 +38,8 @@ private:
     std::vector<std::vector<float>> rows_;
 };
 
-/// Changes the rate of a stream of samples; output frame k lies at input frame k * in / out. Equal rates pass through.
+/// Changes the rate of a stream of samples; output frame k lies at input frame k * in / out. Equal rates pass the
+/// samples through.
 class RateConverter {
 public:
     RateConverter(std::size_t channels, int inRate, int outRate);
@@ -46,15 +47,15 @@ public:
     /// False when no converter could be made for these rates.
     [[nodiscard]] bool valid() const;
     [[nodiscard]] bool passesThrough() const { return inRate_ == outRate_; }
-    /// Appends to @p out what these frames bring forth; the last ones are held back until more follow.
+    /// Appends the converted frames to @p out; the last ones are held back until more input follows.
     void feed(const float* const* rows, std::size_t frames, Planes& out);
-    /// Appends what was held back, as if silence followed.
+    /// Appends the frames that were held back, as if silence followed.
     void flush(Planes& out);
-    /// Forgets everything.
+    /// Resets all state.
     void reset();
     /// After this many input frames (and a whole number of output frames) the pattern of positions repeats.
     [[nodiscard]] std::int64_t period() const { return period_; }
-    /// How many output frames belong to @p inputFrames input frames, rounded to the nearest.
+    /// The number of output frames for @p inputFrames input frames, rounded to the nearest.
     [[nodiscard]] std::int64_t outputFrames(std::int64_t inputFrames) const;
 
 private:
@@ -68,7 +69,7 @@ private:
     std::int64_t period_ = 1;
 };
 
-/// The last frames of a file that was cut: they come out of the converter only when frames from behind the cut go in.
+/// The last frames of a file that was cut: the converter outputs them only after frames from behind the cut were fed.
 struct CutTail {
     std::mutex mutex;
     std::condition_variable changed;
@@ -76,24 +77,24 @@ struct CutTail {
     bool complete = false;
 };
 
-/// One stream of samples through a converter, laid into one file after the other without losing or repeating a frame.
-/// The writer whose turn it is feeds it; what still belongs to an earlier file goes to that file's tail.
+/// One stream of samples through a converter, written to one file after the other without losing or repeating a frame.
+/// The writer of the current file feeds it; output that still belongs to an earlier file goes to that file's tail.
 class ConversionStream {
 public:
     ConversionStream(std::size_t channels, int inRate, int outRate);
     [[nodiscard]] bool valid() const { return converter_.valid(); }
 
-    /// @p out becomes what belongs to the feeding writer's own file.
+    /// @p out receives the frames of the feeding writer's own file.
     void feed(const float* const* rows, std::size_t frames, Planes& out);
-    /// With equal rates nothing needs to go through: frames that the writer stores itself are only counted.
+    /// Whether the rates are equal. Then the writer stores the frames itself, and they are only counted here.
     [[nodiscard]] bool passesThrough() const { return converter_.passesThrough(); }
     void pass(std::size_t frames);
-    /// The file of @p tail ends with the frames fed so far.
+    /// The file of @p tail ends after the frames fed so far.
     void cut(std::shared_ptr<CutTail> tail);
-    /// No more frames: @p out becomes the rest, so that all files together hold outputFrames(fed).
+    /// Ends the stream: @p out receives the rest, so that all files together hold outputFrames(fed).
     void finish(Planes& out);
-    /// Completes all tails now, although nothing was fed behind the cut; what is fed later starts out of silence, at
-    /// the right position.
+    /// Completes all tails now, although nothing was fed behind the cut. Frames that are fed later start after silence,
+    /// at the right position.
     void completeTails();
 
 private:
@@ -111,8 +112,8 @@ private:
     Planes fresh_;
     std::deque<Segment> segments_;
     std::int64_t fed_ = 0;
-    std::int64_t produced_ = 0; // frames handed out, to tails and to the current file
-    std::int64_t skip_ = 0;     // frames that a converter started anew gives too early
+    std::int64_t produced_ = 0; // frames returned so far, to tails and to the current file
+    std::int64_t skip_ = 0;     // frames before the wanted position that a restarted converter gives
 };
 
 } // namespace Platform

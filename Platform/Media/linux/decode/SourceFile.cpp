@@ -47,7 +47,7 @@ bool SourceFile::readAll(std::int64_t offset, std::span<std::uint8_t> out) const
 
 namespace {
 
-constexpr double longestBelieved = 1e15; // frames
+constexpr double longestBelieved = 1e15; // frames; a larger length is not believed
 
 /// The time scale of a "mvhd" or "mdhd".
 std::int64_t timeScale(const std::vector<std::uint8_t>& bytes) {
@@ -60,7 +60,7 @@ struct Edit {
     std::int64_t start = 0;
 };
 
-/// The one edit that a sound track has as a rule; nothing when there are more, which libavformat sorts out.
+/// The single edit that an audio track normally has; nothing when there are several, which libavformat handles.
 std::optional<Edit> onlyEdit(const std::vector<std::uint8_t>& bytes) {
     if (bytes.size() < 8 || bigEndian(bytes.data() + 4, 4) != 1)
         return std::nullopt;
@@ -98,7 +98,7 @@ ContainerFacts readMpeg4Facts(const SourceFile& file, int rate) {
         if (handler.size() < 12 || bigEndian(handler.data() + 8, 4) != fourCharCode("soun"))
             return true;
         if (++soundTracks > 1) {
-            facts = {}; // which of them is read is libavformat's choice
+            facts = {}; // libavformat decides which of them is read
             return false;
         }
         facts.ownEncoder = handler.size() >= 24 + std::strlen(mpeg4HandlerName) &&
@@ -109,7 +109,7 @@ ContainerFacts readMpeg4Facts(const SourceFile& file, int rate) {
             file, track, {fourCharCode("mdia"), fourCharCode("minf"), fourCharCode("stbl"), fourCharCode("stts")}));
         if (facts.fragmented || scale != rate || movieScale <= 0 || media <= 0 || !edit || edit->start > media)
             return true;
-        // A movie that counts in milliseconds cannot name the exact frame: within its rounding the media decides.
+        // A time scale of milliseconds cannot express the exact frame: within the rounding the media duration is used.
         const std::int64_t left = media - edit->start;
         const double edited = double(edit->duration) * rate / double(movieScale);
         if (!(edited >= 0 && edited < longestBelieved))
@@ -134,7 +134,7 @@ std::optional<AudioFileInfo> readOwnRecording(const SourceFile& file) {
     const auto description = boxBytes(file, *table, {fourCharCode("stsd")});
     const auto sizes = findBox(file, *table, {fourCharCode("stsz")});
     constexpr std::size_t channelsAt =
-        8 + 8 + 16; // behind the table's head, the entry's head, and what all entries have
+        8 + 8 + 16; // the table's header, the entry's header, and the fields of every entry
     std::uint8_t head[12];
     if (!facts.ownEncoder || facts.fragmented || !facts.validFrames || description.size() < channelsAt + 2 ||
         bigEndian(description.data() + 12, 4) != fourCharCode("mp4a") || !sizes || sizes->to - sizes->from < 12 ||

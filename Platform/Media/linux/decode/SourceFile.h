@@ -10,7 +10,7 @@
 
 namespace Platform {
 
-/// A regular file that is read. Opening never waits, whatever lies at the path. Reads are from any thread.
+/// A regular file for reading. Opening never blocks, whatever the path refers to. Reads from any thread.
 class SourceFile final : public ByteSource {
 public:
     SourceFile() = default;
@@ -28,19 +28,19 @@ private:
     int fd_ = -1;
 };
 
-/// Facts of a container that libavformat does not report exactly.
+/// Properties of a container that libavformat does not report exactly.
 struct ContainerFacts {
-    std::optional<std::int64_t> validFrames; ///< length, priming and padding taken off
-    std::int64_t primingFrames = 0;          ///< to skip where libavformat does not (CAF)
-    bool ownEncoder = false;                 ///< one of our MPEG-4 files
+    std::optional<std::int64_t> validFrames; ///< length without priming and padding
+    std::int64_t primingFrames = 0;          ///< frames to skip where libavformat does not (CAF)
+    bool ownEncoder = false;                 ///< written by this program
     bool fragmented = false;
 };
 
-/// Of an MPEG-4 file's first sound track; @p rate: its sample rate.
+/// Reads the properties of an MPEG-4 file's first audio track; @p rate: its sample rate.
 [[nodiscard]] ContainerFacts readMpeg4Facts(const SourceFile& file, int rate);
 [[nodiscard]] ContainerFacts readCafFacts(const SourceFile& file);
-/// Describes a whole MPEG-4 file that this program wrote; nothing for any other file. libavformat would say the same,
-/// but it takes longer to load.
+/// Describes a complete MPEG-4 file that this program wrote; nothing for any other file. libavformat would give the
+/// same answer, but takes longer to load.
 [[nodiscard]] std::optional<AudioFileInfo> readOwnRecording(const SourceFile& file);
 
 } // namespace Platform

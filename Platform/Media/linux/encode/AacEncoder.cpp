@@ -46,7 +46,7 @@ bool AacEncoder::encode(const float* const* channels, int frames, std::vector<Pa
         return false;
     frame_->nb_samples = frames;
     frame_->pts = position_;
-    // The encoder gives up on what is no number; a broken sample of a device must not end a recording.
+    // The encoder fails on NaN and infinity; a bad sample from a device must not end a recording.
     constexpr float loudest = 1e6f;
     for (int c = 0; c < context_->ch_layout.nb_channels; ++c) {
         auto* out = reinterpret_cast<float*>(frame_->extended_data[c]);

@@ -20,9 +20,9 @@ public:
     [[nodiscard]] bool valid() const { return bool(context_); }
     [[nodiscard]] AacStreamInfo streamInfo() const;
 
-    /// Encodes 1024 frames, or fewer at the very end; appends the packets that are ready.
+    /// Encodes 1024 frames, or fewer at the end of the file; appends the packets that are ready.
     bool encode(const float* const* channels, int frames, std::vector<Packet>& out);
-    /// The rest. Nothing can be encoded afterwards.
+    /// Appends the remaining packets. Nothing can be encoded afterwards.
     bool flush(std::vector<Packet>& out);
 
 private:

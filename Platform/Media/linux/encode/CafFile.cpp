@@ -21,7 +21,7 @@ public:
         out.u32(std::uint32_t(info.framesPerPacket)).u32(std::uint32_t(info.channels)).u32(0);
         const auto cookie = elementaryStreamDescriptor(info);
         out.code("kuki").u64(cookie.size()).bytes(cookie);
-        // A size of -1 means "up to the end of the file", which is the truth until the file is closed.
+        // A size of -1 means "up to the end of the file", which is right until the file is closed.
         out.code("data");
         dataSizeAt_ = std::int64_t(out.size());
         out.u64(~std::uint64_t(0)).u32(0);
@@ -33,7 +33,7 @@ public:
         pending_.insert(pending_.end(), packet.begin(), packet.end());
         if (pending_.size() >= pendingLimit && !flush())
             return false;
-        // Seven bits a byte, all but the last with the high bit set.
+        // Seven bits per byte; the high bit is set in all but the last.
         const auto size = std::uint32_t(packet.size());
         for (int shift = 28; shift > 0; shift -= 7) {
             if (size >> shift)
@@ -71,7 +71,7 @@ private:
 
     OutputFile& file_;
     AacStreamInfo info_;
-    ByteWriter table_; // sizes of all packets, as the packet table wants them
+    ByteWriter table_; // sizes of all packets in the format of the packet table
     std::vector<std::uint8_t> pending_;
     std::int64_t packets_ = 0;
     std::int64_t dataSizeAt_ = 0;

@@ -18,21 +18,21 @@ namespace {
 
 constexpr std::size_t ringSeconds = 4;
 constexpr std::size_t framesAtOnce = 8192;
-/// Waiting samples of a parallel encoding stay below this, whatever the length of the file.
+/// Limit of the samples that wait in a parallel encoding, whatever the length of the file.
 constexpr std::int64_t stretchBytes = 64'000'000;
 constexpr int shortestStretchSeconds = 120;
 
 using namespace std::chrono_literals;
 
-/// Where a writer leaves its conversion stream for the one that goes on behind the cut.
+/// Where a writer leaves its conversion stream for the writer of the next file.
 struct Handover {
     std::mutex mutex;
     std::condition_variable ready;
-    std::shared_ptr<ConversionStream> stream;  // set when all frames before the cut are in it
-    std::atomic<std::int64_t> framesBehind{0}; // that the successor has accepted
+    std::shared_ptr<ConversionStream> stream;  // set when it contains all frames before the cut
+    std::atomic<std::int64_t> framesBehind{0}; // frames that the successor has accepted
 };
 
-/// A counter to sleep on: no system call unless the other side sleeps.
+/// A counter to wait on: no system call unless the other side waits.
 class Signal {
 public:
     [[nodiscard]] std::uint32_t now() const { return count_.load(std::memory_order_acquire); }
@@ -67,17 +67,17 @@ struct FileWriter::Core {
     std::unique_ptr<PlaneRing> ring;
     std::thread thread;
     bool started = false;
-    bool disposed = false;       // by the owner
-    std::size_t quietFrames = 0; // pushed since the thread was woken
+    bool disposed = false;       // used by the owner
+    std::size_t quietFrames = 0; // frames pushed since the thread was woken
 
     Signal toThread, toCaller;
     std::atomic<std::int64_t> accepted{0};
     std::atomic<bool> closing{false};
     bool mayWaitLong = false;             // set before closing
     std::function<void(OSStatus)> closed; // set before closing
-    std::shared_ptr<Handover> from;       // of the predecessor; set before the thread starts
+    std::shared_ptr<Handover> from;       // from the predecessor; set before the thread starts
     std::shared_ptr<Handover> handTo;     // set before sealed
-    std::atomic<bool> sealed{false};      // a successor goes on behind this file
+    std::atomic<bool> sealed{false};      // a successor continues this file
 };
 
 FileWriter::FileWriter(const QString& path, std::uint32_t fileType, const AudioStreamBasicDescription& format)
@@ -129,7 +129,7 @@ OSStatus FileWriter::continueFrom(ExtAudioFileWriter& predecessor) {
         core_->format.mChannelsPerFrame != other.format.mChannelsPerFrame)
         return kMediaInvalidPropertyError;
     before->start(false);
-    // The rows in the converter are those of the predecessor's channel map.
+    // The rows in the converter are in the order of the predecessor's channel map.
     core_->map = other.map;
     core_->from = std::make_shared<Handover>();
     other.handTo = core_->from;
@@ -138,13 +138,13 @@ OSStatus FileWriter::continueFrom(ExtAudioFileWriter& predecessor) {
     return noErr;
 }
 
-/// Makes ring, encoder and thread. @p parallel: the frames are there already, so several threads may encode.
+/// Creates ring, encoder and thread. @p parallel: all frames exist already, so several threads may encode.
 void FileWriter::start(bool parallel) {
     Core& core = *core_;
     if (core.started)
         return;
     const std::size_t width = core.format.mChannelsPerFrame;
-    // A stream that nobody has described has the file's own shape; it can only be closed.
+    // Without a client format the stream has the file's own layout; it can only be closed.
     const auto clientChannels = core.client ? std::int32_t(core.client->mChannelsPerFrame) : std::int32_t(width);
     const int clientRate = int(std::lround(core.client ? core.client->mSampleRate : core.format.mSampleRate));
     for (std::size_t c = 0; c < width; ++c) {
@@ -167,7 +167,7 @@ void FileWriter::start(bool parallel) {
         const auto affordable = std::max<std::int64_t>(1, stretchBytes / (shortest * packetBytes) + 1);
         const auto cores = std::int64_t(std::max(1u, std::thread::hardware_concurrency()));
         settings.workers = parallel ? int(std::min(cores, affordable)) : 1;
-        // Few threads get longer stretches: each costs a warm-up.
+        // Few threads get longer stretches, because each stretch costs a warm-up.
         const std::int64_t longest = stretchBytes * 2 / 3 / (packetBytes * std::max(1, settings.workers - 1));
         settings.stretchPackets = std::max(shortest, longest);
         core.sink = createAacSink(
@@ -199,8 +199,8 @@ OSStatus FileWriter::writeAsync(std::uint32_t frames, const AudioBufferList* dat
     return push(frames, data, 1);
 }
 
-/// @p wakeAfter: the file's thread is woken when so many frames wait for it. Waking it for each small block would cost
-/// more than the copy.
+/// @p wakeAfter: the file's thread is woken when this many frames wait. Waking it for each small block would cost more
+/// than the copy.
 OSStatus FileWriter::push(std::uint32_t frames, const AudioBufferList* data, std::size_t wakeAfter) {
     Core& core = *core_;
     if (frames == 0)
@@ -208,7 +208,7 @@ OSStatus FileWriter::push(std::uint32_t frames, const AudioBufferList* data, std
     if (!data)
         return kMediaInvalidPropertyError;
     if (core.sealed)
-        return kMediaInvalidStateError; // what is behind the cut belongs to the successor
+        return kMediaInvalidStateError; // frames behind the cut belong to the successor
     const bool apart = core.client->mFormatFlags & kAudioFormatFlagIsNonInterleaved;
     const std::size_t stride = apart ? 1 : core.client->mChannelsPerFrame;
     const auto listed = std::span(data->mBuffers, data->mNumberBuffers);
@@ -348,8 +348,8 @@ void FileWriter::Core::store(const float* const* rows, std::size_t frames) {
     sink->append(of.data(), frames);
 }
 
-/// With a successor the last frames wait for what comes behind the cut. When nothing comes (the recording is paused, or
-/// ended there) they end in silence.
+/// With a successor, the last frames wait for input from behind the cut. When none comes (the recording is paused, or
+/// ended there), silence is used instead.
 void FileWriter::Core::closeFile(ConversionStream& stream, const std::shared_ptr<CutTail>& tail) {
     if (tail) {
         const auto grace = mayWaitLong ? 2s : 200ms;
@@ -373,7 +373,7 @@ void FileWriter::Core::closeFile(ConversionStream& stream, const std::shared_ptr
     }
     if (sink)
         sink->finish();
-    // Who is told that the file is closed may delete what it was made from.
+    // The callback may delete the sources of the file, so the file must be on the disk first.
     file.sync();
     file.close();
 }

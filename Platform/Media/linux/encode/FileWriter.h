@@ -8,12 +8,12 @@
 
 namespace Platform {
 
-/// The system's writer: an encoder behind a ring, on a thread of its own.
+/// The writer implementation: an encoder behind a ring, on a thread of its own.
 class FileWriter final : public ExtAudioFileWriter {
 public:
     FileWriter(const QString& path, std::uint32_t fileType, const AudioStreamBasicDescription& format);
     ~FileWriter() override;
-    /// Creates the file. Once.
+    /// Creates the file. Call once.
     [[nodiscard]] MediaError open(bool overwrite);
 
     OSStatus setClientDataFormat(const AudioStreamBasicDescription& format) override;

@@ -11,13 +11,13 @@
 
 namespace Platform {
 
-/// Takes the frames of a file at the file's rate and stores them in its format. The file's own thread.
+/// Takes frames at the file's rate and stores them in the file's format. The file's own thread.
 class FrameSink {
 public:
     virtual ~FrameSink() = default;
-    /// @p channels: one row for each channel of the file (rows may be the same memory).
+    /// @p channels: one row per channel of the file (two rows may be the same memory).
     virtual void append(const float* const* channels, std::size_t frames) = 0;
-    /// Stores what is left and makes the file whole.
+    /// Stores the rest and completes the file.
     virtual void finish() = 0;
 };
 
@@ -28,7 +28,7 @@ public:
 struct AacSettings {
     int rate = 44100;
     int channels = 2;
-    /// Which rows differ: file channel c is row rowOf[c]. Rows that are the same are kept once.
+    /// Maps file channels to rows: file channel c is row rowOf[c]. Identical rows are stored once.
     std::vector<std::size_t> rowOf;
     /// Threads that encode stretches of the file beside each other. 1 encodes on the calling thread, in one run: the
     /// packets of a recording must not wait for each other.

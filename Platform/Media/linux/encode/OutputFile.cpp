@@ -20,7 +20,7 @@ OutputFile::~OutputFile() {
 MediaError OutputFile::create(const QString& path, bool overwrite) {
     path_ = path;
     const QByteArray name = QFile::encodeName(path);
-    // Truncated only after it is known to be a regular file.
+    // Truncated later, after it is known to be a regular file.
     const int flags = O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK | (overwrite ? 0 : O_EXCL);
     fd_ = ::open(name.constData(), flags, 0666);
     if (fd_ < 0)
@@ -102,7 +102,7 @@ void OutputFile::sync() {
 void OutputFile::close() {
     if (fd_ < 0)
         return;
-    // Some file systems report a full disk only here.
+    // Some file systems report a full disk only at close.
     if (::close(fd_) < 0 && errno != EINTR)
         fail(errnoError(errno, path_));
     fd_ = -1;

@@ -12,8 +12,8 @@
 
 namespace Platform {
 
-/// A file that grows at its end and whose beginning may be patched. It keeps its first error; after one, nothing more
-/// is appended, so that what stands in the file stays whole. One thread writes, firstError() is for any.
+/// A file that grows at its end and whose beginning may be patched. It keeps its first error; after an error nothing
+/// more is appended, so that the existing content stays readable. One thread writes; firstError() is for any thread.
 class OutputFile {
 public:
     OutputFile() = default;
@@ -21,24 +21,24 @@ public:
     OutputFile(const OutputFile&) = delete;
     OutputFile& operator=(const OutputFile&) = delete;
 
-    /// Creates the file; an existing one is emptied when @p overwrite, else it is kept and the call fails. Never waits
-    /// for a FIFO or a device.
+    /// Creates the file. An existing file is truncated when @p overwrite, else it is kept and the call fails. Never
+    /// blocks on a FIFO or a device.
     [[nodiscard]] MediaError create(const QString& path, bool overwrite);
 
-    /// Appends all of @p bytes, or nothing: a part that went in before an error is cut off again.
+    /// Appends all of @p bytes, or nothing: a part that was written before an error is removed again.
     bool append(std::span<const std::uint8_t> bytes);
     bool patch(std::int64_t offset, std::span<const std::uint8_t> bytes);
     bool readBack(std::int64_t offset, std::span<std::uint8_t> bytes) const;
     [[nodiscard]] std::int64_t size() const { return size_; }
 
-    /// Begins a second form of this file, which has no name yet; false when it cannot be made, or when this file no
-    /// longer lies at its path. A failure is never this file's error.
+    /// Starts a second version of this file under no name yet; false when it cannot be created, or when this file is no
+    /// longer at its path. A failure does not become this file's error.
     [[nodiscard]] bool beginReplacement(OutputFile& replacement) const;
-    /// Syncs the @p replacement, puts it in this file's place in one step, and goes on with it; a failed one is
-    /// discarded. A power cut leaves the one form or the other, never an empty file.
+    /// Syncs @p replacement, renames it over this file in one step, and continues with it; a failed one is discarded. A
+    /// power cut leaves one version or the other, never an empty file.
     bool replaceWith(OutputFile& replacement);
 
-    /// Waits until the file and its name are on the disk; an error of the disk is told here, if anywhere.
+    /// Waits until the file and its name are on the disk. Some disk errors are only reported here.
     void sync();
     void close();
     void fail(const MediaError& error);

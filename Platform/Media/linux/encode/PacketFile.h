@@ -11,12 +11,12 @@
 
 namespace Platform {
 
-/// What a container must know of the AAC packets it is going to hold.
+/// Parameters of the AAC packets for a container.
 struct AacStreamInfo {
     int sampleRate = 44100;
     int channels = 2;
     int framesPerPacket = 1024;
-    int primingFrames = 1024; ///< frames at the beginning of the decoded stream that belong to the encoder
+    int primingFrames = 1024; ///< frames at the beginning of the decoded stream that the encoder added
     int bitRate = 0;
     std::vector<std::uint8_t> config; ///< AudioSpecificConfig
 };
@@ -25,28 +25,28 @@ struct AacStreamInfo {
 class PacketFile {
 public:
     virtual ~PacketFile() = default;
-    /// False when readers take a file without packets for a broken one.
+    /// False when readers treat a file without packets as damaged.
     [[nodiscard]] virtual bool mayBeEmpty() const { return true; }
     virtual bool begin(const AacStreamInfo& info) = 0;
     virtual bool add(std::span<const std::uint8_t> packet) = 0;
-    /// @p validFrames: how many frames the listener shall hear, priming and padding taken off.
+    /// @p validFrames: length without priming and padding, in frames.
     virtual void finish(std::int64_t validFrames) = 0;
 };
 
-/// MPEG-4. While it grows the file is a row of fragments of about a second, each written at once, so whatever ends the
-/// process leaves a file that plays; finish() makes it a plain file with its index at the end. The plain form is made
-/// beside it and takes its place at once; without room for that the index goes behind the fragments, and one write of a
-/// few bytes makes them the inside of the media box. On a full disk the fragments stay.
+/// MPEG-4. While the file grows it consists of fragments of about a second, each written at once, so that a file whose
+/// process was killed still plays. finish() turns it into a plain file with its index at the end: the plain version is
+/// made beside it and replaces it in one step. Without room for that, the index is appended behind the fragments, and
+/// one write of a few bytes turns them into the content of one media box. On a full disk the fragments stay.
 [[nodiscard]] std::unique_ptr<PacketFile> createMpeg4File(OutputFile& file);
 
-/// Says in our MPEG-4 files who wrote them: our encoder uses no noise substitution, so any packet decodes to the same
-/// samples whatever was decoded before.
+/// The handler name that marks our MPEG-4 files: our encoder uses no noise substitution, so a packet always decodes to
+/// the same samples, whatever was decoded before.
 inline constexpr const char* mpeg4HandlerName = "Sonaphex Sound";
 
 /// CAF, with priming and padding in its packet table.
 [[nodiscard]] std::unique_ptr<PacketFile> createCafFile(OutputFile& file);
 
-/// The descriptor that MPEG-4 and CAF keep the decoder's configuration in.
+/// The descriptor in which MPEG-4 and CAF store the decoder's configuration.
 [[nodiscard]] std::vector<std::uint8_t> elementaryStreamDescriptor(const AacStreamInfo& info);
 
 } // namespace Platform

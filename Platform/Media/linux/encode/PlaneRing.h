@@ -12,10 +12,10 @@
 
 namespace Platform {
 
-/// Carries frames from the thread that captures to the thread that encodes: one row a channel, one producer, one
-/// consumer, no lock. A side that has nothing to do sleeps on a counter that the other one raises.
-///
-/// An empty ring begins anew at the start of its rows: pages further behind are touched only when that much waits.
+/// Carries frames from the capturing thread to the encoding thread: one row per channel, one producer, one consumer, no
+/// lock. An idle side sleeps on a counter that the other side increments.
+/// When the ring is empty, it starts again at the beginning of its rows. So later pages are touched only when that many
+/// frames wait.
 class PlaneRing {
 public:
     PlaneRing(std::size_t channels, std::size_t frames) : capacity_(std::bit_ceil(frames)), rows_(channels) {
@@ -24,11 +24,11 @@ public:
     }
 
     /// Producer: copies as many of @p frames as there is room for, from rows whose samples are @p stride apart; a null
-    /// row is silence. @return how many went in.
+    /// row is silence. @return the number copied.
     std::size_t push(const float* const* rows, std::size_t stride, std::size_t frames) {
         const auto written = written_.load(std::memory_order_relaxed);
         const auto read = read_.load(std::memory_order_acquire);
-        if (read == written) // the consumer holds nothing, and sees this with the frames that follow
+        if (read == written) // the consumer holds nothing; it sees the new start with the next frames
             first_.store(written, std::memory_order_relaxed);
         const auto room = capacity_ - std::size_t(written - read);
         const std::size_t count = std::min(frames, room);
@@ -43,7 +43,7 @@ public:
         return count;
     }
 
-    /// Consumer: up to @p most frames that lie in one piece. They stay until release().
+    /// Consumer: up to @p most contiguous frames. They stay in the ring until release().
     std::size_t peek(std::vector<const float*>& rows, std::size_t most) const {
         const auto read = read_.load(std::memory_order_relaxed);
         const auto filled = std::size_t(written_.load(std::memory_order_acquire) - read);
@@ -75,8 +75,8 @@ private:
 
     std::size_t capacity_;
     std::vector<std::unique_ptr<float[]>> rows_;
-    std::atomic<std::uint64_t> first_{
-        0}; // the frame at the start of the rows; changed by the producer, while all is read
+    // The frame at the start of the rows; the producer changes it while the ring is empty.
+    std::atomic<std::uint64_t> first_{0};
     alignas(64) std::atomic<std::uint64_t> written_{0}; // changed by the producer only
     alignas(64) std::atomic<std::uint64_t> read_{0};    // changed by the consumer only
 };

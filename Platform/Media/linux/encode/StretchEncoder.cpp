@@ -8,10 +8,10 @@ namespace Platform {
 
 namespace {
 
-/// Blocks: who waits for room is woken when there is some, not for each block.
+/// Blocks: a waiting caller is woken when this much room is free, not for each block.
 constexpr std::int64_t roomToWaitFor = 128;
 
-/// The window of a packet (how its samples overlap with those of its neighbours), or -1 where that takes decoding.
+/// The window of a packet (how its samples overlap with those of its neighbours), or -1 where only decoding would tell.
 int windowOf(const AacEncoder::Packet& packet) {
     std::size_t position = 0;
     const auto bits = [&](int count) {
@@ -52,7 +52,7 @@ StretchEncoder::~StretchEncoder() {
     }
     for (auto& thread : threads_)
         thread.join();
-    // The counter that blocks report to must outlive them.
+    // The counter must outlive the blocks that decrement it.
     stretches_.clear();
     filling_.reset();
 }
@@ -129,7 +129,7 @@ void StretchEncoder::pushBlock() {
         if (stretch->complete || number < stretch->fedFrom)
             continue;
         stretch->blocks.push_back(filling_);
-        // A packet comes out when the one behind it has gone in.
+        // The encoder outputs a packet after it got the next one.
         stretch->complete = number >= stretch->keepTo + seamPackets + 1;
     }
     filling_.reset();
@@ -198,7 +198,7 @@ void StretchEncoder::collect(std::vector<Packet>& out) {
         }
         if (!front.done)
             return;
-        // A cancelled stretch is no neighbour.
+        // There is no seam towards a cancelled stretch.
         if (!front.cancelled && stretches_.size() > 1 && !stretches_[1]->cancelled && !laySeam(front, *stretches_[1]))
             return;
         while (!front.cancelled && !front.packets.empty() && front.packetsFrom < front.keepTo) {
@@ -210,7 +210,7 @@ void StretchEncoder::collect(std::vector<Packet>& out) {
     }
 }
 
-/// False while packets are missing that decide it.
+/// False while packets that it needs are missing.
 bool StretchEncoder::laySeam(Stretch& before, Stretch& after) {
     const std::int64_t wanted = after.keepFrom;
     const auto packetOf = [](const Stretch& stretch, std::int64_t number) -> const Packet* {

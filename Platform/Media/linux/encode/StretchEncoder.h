@@ -38,12 +38,12 @@ public:
     /// Only while valid().
     [[nodiscard]] const AacStreamInfo& streamInfo() const { return *info_; }
 
-    /// Appends to @p out the packets that are ready, in order. Waits while too many samples wait.
+    /// Appends to @p out the packets that are ready, in order. Blocks while too many samples wait.
     void append(const float* const* channels, std::size_t frames, std::vector<Packet>& out);
     void finish(std::vector<Packet>& out);
 
 private:
-    /// 1024 frames of the rows that differ; counts itself.
+    /// 1024 frames of the distinct rows; counts the blocks in memory.
     struct Block {
         Block(std::atomic<std::int64_t>& counter, std::size_t rows) : live(counter), samples(rows) { ++live; }
         ~Block() { --live; }
@@ -54,21 +54,21 @@ private:
     using BlockPtr = std::shared_ptr<Block>;
 
     struct Stretch {
-        std::int64_t fedFrom = 0;  // packet that the first block is
-        std::int64_t keepFrom = 0; // first packet that is kept, before the seam is laid
-        std::int64_t keepTo = 0;   // packet behind the last
+        std::int64_t fedFrom = 0;  // packet number of the first block
+        std::int64_t keepFrom = 0; // first packet to keep, before the seam is placed
+        std::int64_t keepTo = 0;   // packet after the last one
         std::deque<BlockPtr> blocks;
-        bool complete = false;  // no more blocks come
-        bool last = false;      // the end of the file: flush
-        bool taken = false;     // by a thread
-        bool done = false;      // all packets are there
-        bool cancelled = false; // the file ended before it began
+        bool complete = false;  // no more blocks follow
+        bool last = false;      // the stretch ends with the file: flush the encoder
+        bool taken = false;     // a thread works on it
+        bool done = false;      // all packets are encoded
+        bool cancelled = false; // the file ended before the stretch began
         std::deque<Packet> packets;
-        std::int64_t packetsFrom = 0; // number of packets.front()
+        std::int64_t packetsFrom = 0; // packet number of packets.front()
     };
 
     void pushBlock();
-    void collect(std::vector<Packet>& out); // with the mutex held
+    void collect(std::vector<Packet>& out); // needs the mutex
     bool laySeam(Stretch& before, Stretch& after);
     void work();
     std::vector<const float*> rowsOf(const Block& block) const;
@@ -80,13 +80,13 @@ private:
     std::atomic<bool> failed_{false};
 
     BlockPtr filling_;
-    std::int64_t blocks_ = 0; // so far
+    std::int64_t blocks_ = 0; // number of blocks so far
     std::atomic<std::int64_t> live_{0};
 
-    std::mutex mutex_;                               // guards what follows
-    std::condition_variable changed_;                // for the threads: blocks, stretches, the end
-    std::condition_variable progress_;               // for the caller: room, packets
-    std::deque<std::unique_ptr<Stretch>> stretches_; // those not wholly collected
+    std::mutex mutex_;                               // guards the members below
+    std::condition_variable changed_;                // wakes the threads: blocks, stretches, the end
+    std::condition_variable progress_;               // wakes the caller: room, packets
+    std::deque<std::unique_ptr<Stretch>> stretches_; // stretches with packets that were not collected yet
     std::int64_t stretchesMade_ = 0;
     bool stopping_ = false;
     std::vector<std::thread> threads_;

@@ -32,7 +32,7 @@ private:
     std::vector<std::uint8_t> bytes_;
 };
 
-/// Full scale is 2^31; what lies above is held at the edge, what is no number becomes silence.
+/// Full scale is 2^31; larger values are clipped, NaN becomes silence.
 inline std::int32_t toInt32(float sample) {
     const float scaled = sample * 2147483648.0f;
     if (scaled >= 2147483648.0f)
@@ -110,7 +110,7 @@ private:
         const bool written = file_.append(buffer_);
         dataBytes_ += written ? buffer_.size() : 0;
         buffer_.clear();
-        // About each second the header tells the truth, so a file whose program was killed still plays.
+        // The header is updated about once a second, so that a file whose program was killed still plays.
         sincePatch_ += bufferBytes;
         if (written && sincePatch_ >= 2 * bufferBytes) {
             sincePatch_ = 0;
@@ -118,7 +118,7 @@ private:
         }
     }
 
-    /// RIFF with room for the 64-bit sizes, which turn it into RF64 once the file outgrows 4 GiB.
+    /// RIFF with room for the 64-bit sizes that turn it into RF64 once the file exceeds 4 GiB.
     std::vector<std::uint8_t> header() const {
         const std::uint64_t riffBytes = headerBytes - 8 + dataBytes_ + dataBytes_ % 2;
         const bool big = riffBytes > waveLimit - 1;

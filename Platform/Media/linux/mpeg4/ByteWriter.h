@@ -9,7 +9,7 @@
 
 namespace Platform {
 
-/// Builds file headers, big-endian, and nested boxes, whose sizes are filled in when they end.
+/// Writes file headers, big-endian, and nested boxes; the size of a box is filled in when it ends.
 class ByteWriter {
 public:
     ByteWriter& u8(std::uint32_t value) {
@@ -43,7 +43,7 @@ public:
         return *this;
     }
 
-    /// Writes a box around what @p content writes.
+    /// Writes a box around the output of @p content.
     template <typename Content>
     ByteWriter& box(const char (&type)[5], Content content) {
         const std::size_t start = bytes_.size();
@@ -52,7 +52,7 @@ public:
         setU32(start, std::uint32_t(bytes_.size() - start));
         return *this;
     }
-    /// The same with the version and flags of a "full box".
+    /// Like box(), with the version and flags of a "full box".
     template <typename Content>
     ByteWriter& fullBox(const char (&type)[5], std::uint32_t version, std::uint32_t flags, Content content) {
         return box(type, [&] {

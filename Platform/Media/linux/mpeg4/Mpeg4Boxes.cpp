@@ -14,7 +14,7 @@ namespace Platform {
 namespace {
 
 constexpr int deepestTree = 16;
-constexpr int mostBoxes = 1'000'000; // about a day of fragments; bounds the time that a damaged file can take
+constexpr int mostBoxes = 1'000'000; // about a day of fragments; limits the time that a damaged file can take
 
 constexpr bool isOneOf(std::uint32_t type, std::span<const std::uint32_t> types) {
     return std::ranges::find(types, type) != types.end();
@@ -60,7 +60,7 @@ private:
         return false;
     }
 
-    /// Tables that are rewritten when audio moves: a wrong count would be followed far beyond the box.
+    /// Tables that are rewritten when audio moves: with a wrong count the rewrite would go beyond the box.
     bool tableFits(const Mpeg4Box& box) {
         const std::int64_t length = box.length - box.header;
         const std::int64_t entry = box.type == fourCharCode("stco") ? 4 : box.type == fourCharCode("co64") ? 8 : 0;
@@ -72,7 +72,7 @@ private:
         return true;
     }
 
-    /// Some "meta" boxes have version and flags before their first child, some have not.
+    /// Some "meta" boxes have version and flags before their first child, others do not.
     [[nodiscard]] bool isFullBox(std::int64_t at) const {
         static constexpr std::array children{fourCharCode("hdlr"), fourCharCode("ilst"), fourCharCode("mhdr"),
                                              fourCharCode("ctry"), fourCharCode("lang")};

@@ -9,7 +9,7 @@ namespace Platform {
 
 namespace {
 
-constexpr std::uint64_t shortBox = 0xffffffff; // longest box whose size is told in 32 bits
+constexpr std::uint64_t shortBox = 0xffffffff; // largest box whose size fits in 32 bits
 constexpr std::size_t copyBytes = 1 << 20;
 
 /// MPEG-4 times count from 1904.
@@ -41,7 +41,7 @@ public:
         if (sizes_.size() > packetsWritten_)
             writeFragment();
         if (file_.failed())
-            return; // on a full disk the fragments stay as they are: they play
+            return; // on a full disk the fragments stay; the file plays
         OutputFile plain;
         if (file_.beginReplacement(plain))
             writePlain(plain, validFrames);
@@ -57,7 +57,7 @@ private:
         std::uint32_t packets;
     };
 
-    /// Writes the packets without fragments, a form that every reader knows.
+    /// Writes the packets without fragments, a layout that every reader supports.
     void writePlain(OutputFile& plain, std::int64_t validFrames) {
         std::uint64_t mediaBytes = 0;
         for (const std::uint32_t size : sizes_)
@@ -92,7 +92,7 @@ private:
         out_.clear();
     }
 
-    /// For a disk without room for a second copy: one media box is put around all fragments.
+    /// When the disk has no room for a second copy: puts one media box around all fragments.
     void indexInPlace(std::int64_t validFrames) {
         const std::int64_t end = file_.size();
         writeIndex(validFrames, false);
@@ -123,7 +123,7 @@ private:
         out_.box("moof", [&] {
             out_.fullBox("mfhd", 0, 0, [&] { out_.u32(chunks_.size() + 1); });
             out_.box("traf", [&] {
-                // 0x020000: offsets count from this moof; 0x28: duration and flags hold for all packets.
+                // 0x020000: offsets are relative to this moof; 0x28: duration and flags apply to all packets.
                 out_.fullBox("tfhd", 0, 0x020028,
                              [&] { out_.u32(1).u32(std::uint32_t(info_.framesPerPacket)).u32(0x02000000); });
                 out_.fullBox("tfdt", 1, 0, [&] { out_.u64(packetsWritten_ * std::uint64_t(info_.framesPerPacket)); });
@@ -152,12 +152,12 @@ private:
         return written;
     }
 
-    /// Writes the movie box: while the file grows without packets and with "mvex", else complete.
+    /// Writes the movie box: without packets and with "mvex" while the file grows, else complete.
     void writeIndex(std::int64_t validFrames, bool growing) {
         const auto rate = std::uint32_t(info_.sampleRate);
         const auto mediaFrames = std::uint64_t(packetsWritten_) * std::uint64_t(info_.framesPerPacket);
         const auto heard = std::uint64_t(validFrames);
-        // 64-bit numbers only where they are needed: some readers know the 32-bit form only.
+        // 64-bit numbers only where they are needed: some readers support only the 32-bit form.
         const std::uint32_t version = std::max({mediaFrames, heard, created_}) > 0xffffffff ? 1 : 0;
         const auto number = [&](std::uint64_t value) { version ? out_.u64(value) : out_.u32(value); };
         out_.box("moov", [&] {
@@ -272,12 +272,12 @@ private:
     OutputFile& file_;
     AacStreamInfo info_;
     ByteWriter out_;
-    std::vector<std::uint8_t> media_;  // packets of the fragment that is not written yet
+    std::vector<std::uint8_t> media_;  // packets of the current fragment
     std::vector<std::uint32_t> sizes_; // of all packets
     std::vector<Chunk> chunks_;
     std::size_t packetsWritten_ = 0;
     std::size_t packetsPerFragment_ = 40;
-    std::int64_t growingStart_ = 0; // where the index of the growing file begins, and later the media box
+    std::int64_t growingStart_ = 0; // offset of the growing file's index, later of the media box
     std::uint64_t created_ = 0;
 };
 
@@ -289,7 +289,7 @@ std::unique_ptr<PacketFile> createMpeg4File(OutputFile& file) {
 
 std::vector<std::uint8_t> elementaryStreamDescriptor(const AacStreamInfo& info) {
     ByteWriter out;
-    // Lengths take four bytes: libavformat's CAF reader understands no other form.
+    // Lengths take four bytes: libavformat's CAF reader supports no other form.
     const auto descriptor = [&](std::uint32_t tag, std::size_t length) {
         out.u8(tag).u24(0x808080).u8(std::uint32_t(length));
     };

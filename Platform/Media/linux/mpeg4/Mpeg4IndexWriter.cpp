@@ -1,18 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// How a file gets a new index without a moment at which it has none:
+// Replaces the index of a file so that the file has a whole index at every moment:
 //
 //   ... [moov: old]                    before
-//   ... [moov: old][free: new]         appended and synced; nobody reads it
-//   ... [moov: old][moov: new]         four bytes of its type are overwritten; of two indexes the first one counts
+//   ... [moov: old][free: new]         appended and synced; readers skip it
+//   ... [moov: old][moov: new]         four bytes of its type are overwritten; readers use the first of two indexes
 //   ... [free     ][moov: new]         four bytes of the old one's type are overwritten
 //
-// The next save uses the room that is free now:
+// The next save uses the free room:
 //
 //   ... [free: newer][moov: new]       written and synced
-//   ... [moov: newer][moov: new]       it is the first now, so it counts
-//   ... [moov: newer]                  the file is cut behind it
+//   ... [moov: newer][moov: new]       it is the first now, so readers use it
+//   ... [moov: newer]                  the file is truncated behind it
 //
 // A size field is only overwritten where it lies in one sector, so that a power cut leaves the old or the new value. A
 // type that is torn is an unknown box, which readers skip.
@@ -42,7 +42,7 @@ QByteArray boxHeader(std::int64_t length, const char (&type)[5]) {
     return {reinterpret_cast<const char*>(out.data().data()), header};
 }
 
-/// Changes the index of an open file in place.
+/// Replaces the index of an open file in place.
 class IndexWriter {
 public:
     IndexWriter(int fd, const Mpeg4Layout& layout) : fd_(fd), layout_(layout), old_(layout.moov()) {}
@@ -65,7 +65,7 @@ private:
     bool put(QByteArrayView bytes, std::int64_t offset) const { return writeAllAt(fd_, bytes, offset); }
     bool sync() const { return ::fdatasync(fd_) == 0 || errno == EINVAL; }
 
-    /// Takes away what an interrupted save left, so that no stale index ever becomes the first one.
+    /// Removes the rest of an interrupted save, so that no stale index can become the first one.
     bool tidyUp() {
         if (FileBytes(fd_).size() > layout_.end && ::ftruncate(fd_, layout_.end) != 0)
             return false;
@@ -92,7 +92,7 @@ private:
             room.offset += 2 * header;
             bytes.prepend(boxHeader(2 * header, "free") + QByteArray(header, '\0'));
         }
-        // The file grows first, in one step: some readers do not take a file that ends within the header of a box.
+        // Extends the file first, in one step: some readers reject a file that ends within a box header.
         if (::ftruncate(fd_, room.end()) == 0 && fill(room, bytes, layout_.end, index.first(4)))
             return true;
         const int error = errno;
@@ -101,8 +101,8 @@ private:
         return false;
     }
 
-    /// Writes @p content to an empty box and makes this an index of @p size. What is left of the room is a free box
-    /// inside of the index at first, and a box of its own when the index gets its true size.
+    /// Writes @p content to an empty box and makes this an index of @p size. The rest of the room is first a free box
+    /// inside the index, and a box of its own once the index gets its true size.
     bool fill(const Mpeg4Box& room, QByteArray content, std::int64_t at, const QByteArray& size) {
         const std::int64_t rest = room.end() - (at + content.size());
         if (rest > 0)
@@ -113,7 +113,7 @@ private:
         return (!isSplit_ || put(size, room.offset)) && sync();
     }
 
-    /// Removes the old index when the new one stands in front of it and counts already.
+    /// Removes the old index when the new one stands in front of it and is already in use.
     bool cutOff(const Mpeg4Box& room, std::int64_t length) {
         std::int64_t end = room.offset + (isSplit_ ? length : room.length);
         for (const Mpeg4Box& box : layout_.boxes)
@@ -122,7 +122,7 @@ private:
         return end < old_.end() ? ::ftruncate(fd_, end) == 0 : put("free", old_.offset + 4);
     }
 
-    /// Removes the old index when the new one stands behind it. The old one becomes part of the empty box in front of
+    /// Removes the old index when the new one stands behind it. The old one is merged into the empty box in front of
     /// it, so that the next save finds one large room; without such a box it becomes an empty box.
     bool retire() {
         const Mpeg4Box* const before = layout_.index > 0 ? &layout_.boxes[layout_.index - 1] : nullptr;

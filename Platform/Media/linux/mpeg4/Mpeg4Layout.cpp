@@ -9,8 +9,8 @@ namespace {
 
 constexpr std::size_t mostBoxes = 2'000'000;
 
-/// Whether the end of the file behind its index is part of an index that a save did not finish: cut off, or zeros
-/// where a power cut came before the content.
+/// Whether the data behind the index is part of an index that an interrupted save left: truncated, or zeros where a
+/// power cut came before the content.
 bool isUnfinished(const std::optional<Mpeg4Box>& box, std::int64_t left) {
     if (!box)
         return left < 8;

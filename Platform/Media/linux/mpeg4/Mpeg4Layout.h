@@ -6,22 +6,22 @@
 
 namespace Platform {
 
-/// The outermost boxes of an MPEG-4 file. Of several indexes ("moov") the first one counts, for every reader; later
-/// ones, also parts of one, are what an interrupted save left.
+/// The top-level boxes of an MPEG-4 file. Every reader uses the first of several indexes ("moov"); later ones, complete
+/// or not, are left by interrupted saves.
 struct Mpeg4Layout {
     std::vector<Mpeg4Box> boxes;
-    std::size_t index = 0;   ///< of the "moov" that counts, with its tree
-    std::int64_t end = 0;    ///< of the last box that is needed
+    std::size_t index = 0;   ///< position in boxes of the "moov" in use, whose tree is read
+    std::int64_t end = 0;    ///< end of the last box that is needed
     bool complete = true;    ///< false: the file ends within its last box
-    bool fragmented = false; ///< the audio is described in "moof" boxes too
+    bool fragmented = false; ///< "moof" boxes describe audio, too
 
     [[nodiscard]] const Mpeg4Box& moov() const { return boxes[index]; }
 };
 
-/// Nothing, with @p why, when the file is no MPEG-4 file with sound and a whole index.
+/// Nothing, with @p why, when the file is not an MPEG-4 file with audio and a complete index.
 [[nodiscard]] std::optional<Mpeg4Layout> readLayout(const ByteSource& file, QString& why);
 
-/// Whether a box holds nothing, as "free" says, or a type of zeros, which a power cut can leave.
+/// Whether a box is empty: of type "free", or of a type of zeros, which a power cut can leave.
 [[nodiscard]] bool isFree(const Mpeg4Box& box);
 
 } // namespace Platform

@@ -11,8 +11,8 @@
 namespace Platform {
 namespace {
 
-/// Adds @p delta to those of @p count numbers of @p size bytes that are at least @p from. False: one of them would
-/// become too large.
+/// Adds @p delta to those of @p count numbers of @p size bytes that are at least @p from. False when one would become
+/// too large.
 bool moveNumbers(char* numbers, std::uint64_t count, int size, std::int64_t from, std::int64_t delta) {
     for (; count > 0; --count, numbers += size) {
         const std::uint64_t place = bigEndian(numbers, size);
@@ -30,7 +30,7 @@ bool moveNumbers(char* numbers, std::uint64_t count, int size, std::int64_t from
 bool moveTables(QByteArray& index, const Mpeg4Box& box, std::int64_t from, std::int64_t delta) {
     const int size = box.type == fourCharCode("stco") ? 4 : box.type == fourCharCode("co64") ? 8 : 0;
     if (size > 0) {
-        char* const table = index.data() + box.content(); // readBoxTree() checked its count
+        char* const table = index.data() + box.content(); // readBoxTree() checked the count
         return moveNumbers(table + 8, bigEndian(table + 4, 4), size, from, delta);
     }
     return std::ranges::all_of(box.children,
@@ -51,7 +51,7 @@ int moveFragment(int fd, Mpeg4Box box, std::int64_t from, std::int64_t delta) {
     box.offset += delta;
     box.inner += delta;
     QString why;
-    if (box.type == fourCharCode("mfra")) // a help for seeking, which holds absolute places; players do without
+    if (box.type == fourCharCode("mfra")) // optional seek index with absolute offsets; players do not need it
         return writeAllAt(fd, "free", box.offset + 4) ? 0 : errno;
     if (box.type != fourCharCode("moof"))
         return 0;
@@ -60,7 +60,7 @@ int moveFragment(int fd, Mpeg4Box box, std::int64_t from, std::int64_t delta) {
     for (const Mpeg4Box& part : box.children) {
         const Mpeg4Box* const head = part.child(fourCharCode("tfhd"));
         if (!head || (numberAt(bytes, head->content(), 4) & 1) == 0)
-            continue; // its audio is placed relative to the fragment
+            continue; // its audio is addressed relative to the fragment
         char place[8];
         if (!bytes.readAll(head->content() + 8, {reinterpret_cast<std::uint8_t*>(place), sizeof place}) ||
             !moveNumbers(place, 1, sizeof place, from, delta) ||

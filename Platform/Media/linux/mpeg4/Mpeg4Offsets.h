@@ -6,16 +6,16 @@
 
 #include <QByteArray>
 
-// Where an MPEG-4 file says at which place its audio is. All of it changes when audio moves.
+// The places in an MPEG-4 file that store offsets of audio. All of them change when audio moves.
 
 namespace Platform {
 
-/// Adds @p delta to the chunk offsets in @p index, a whole "moov", that point to @p from or behind it. False when the
+/// Adds @p delta to the chunk offsets in @p index, a complete "moov", that point to @p from or beyond. False when the
 /// index is damaged or an offset has no room for its new value.
 [[nodiscard]] bool moveChunkOffsets(QByteArray& index, std::int64_t from, std::int64_t delta);
 
-/// Corrects what @p box, a box of the outermost level, says of places from @p from on, in a file in which it stands
-/// @p delta bytes further than @p box says. @return 0 or an errno
+/// Corrects the offsets from @p from on in @p box, a top-level box, after the box was copied to a place @p delta bytes
+/// further back in the file. @return 0 or an errno
 [[nodiscard]] int moveFragment(int fd, Mpeg4Box box, std::int64_t from, std::int64_t delta);
 
 } // namespace Platform

@@ -17,7 +17,7 @@ namespace {
 
 Q_LOGGING_CATEGORY(soundLog, "sonaphex.sound")
 
-/// How often an end is looked for while something plays.
+/// How often to check for the end of playback.
 constexpr int kLookEveryMs = 20;
 
 class PipeWireSound final : public Sound {
@@ -131,7 +131,7 @@ private:
     std::unique_ptr<ExtAudioFileReader> reader_;
     AudioStreamBasicDescription format_;
     std::int64_t length_ = 0;
-    std::int64_t position_ = 0; ///< where the next play() begins
+    std::int64_t position_ = 0; ///< where the next play() starts
     float volume_ = 1;
     bool paused_ = false;
     QTimer timer_;

@@ -8,7 +8,7 @@ namespace Platform {
 
 class MediaFiles;
 
-/// Sounds that are read through @p files, which must outlive them, and played through the sound server.
+/// Sounds that are read through @p files, which must outlive them, and played on the sound server.
 [[nodiscard]] std::unique_ptr<Sounds> createSounds(MediaFiles& files);
 
 } // namespace Platform

@@ -21,9 +21,9 @@ namespace {
 
 constexpr double kRingSeconds = 0.75;
 constexpr std::size_t kBlock = 2048;
-/// Cycles of silence after the last frame: until they are taken the last frames may still wait in the server.
+/// Silent cycles after the last frame: until they are consumed the last frames may still wait in the server.
 constexpr int kCyclesBehindTheEnd = 3;
-/// Damaged places in a row after which a file counts as over.
+/// After this many damaged places in a row the file counts as ended.
 constexpr int kPatience = 1000;
 
 } // namespace
@@ -50,7 +50,8 @@ struct SoundPlayer::Decoder {
             } else if (!atEnd && target.room() >= kBlock) {
                 decodeBlock();
             } else {
-                // The audio thread wakes nobody: the ring is looked at often enough to never run dry.
+                // The audio thread must not wake this one, so it polls the ring, often enough to keep it from running
+                // dry.
                 std::unique_lock lock(mutex);
                 changed.wait_for(lock, stop, 20ms, [this] { return woken; });
                 woken = false;
@@ -68,7 +69,7 @@ struct SoundPlayer::Decoder {
         list.second = {1, sizeof planes[1], planes[1].data()};
         std::uint32_t frames = kBlock;
         if (reader.read(frames, &list.head) != noErr && frames == 0 && ++failures < kPatience)
-            return; // a damaged place; the reader goes on behind it
+            return; // a damaged place; the reader continues behind it
         if (frames == 0) {
             target.endSegment();
             atEnd = true;
@@ -94,7 +95,7 @@ struct SoundPlayer::Decoder {
     std::jthread thread; // destroyed first: asks the thread to stop and waits for it
 };
 
-/// The stream and its loop. The player that the callbacks use outlives it.
+/// The stream and its loop. The player, which the callbacks use, outlives it.
 struct SoundPlayer::Connection {
     explicit Connection(SoundPlayer& p) : player(p) {}
     ~Connection() {
@@ -165,7 +166,7 @@ bool SoundPlayer::Connection::start(QString& why) {
 
     const auto& format = player.format_;
     const auto rate = std::uint32_t(format.mSampleRate);
-    // No role: the session manager would give the stream a volume that was set for others of that role.
+    // No role: the session manager would restore a volume that was set for other streams of that role.
     auto* properties =
         pw_properties_new(PW_KEY_MEDIA_TYPE, "Audio", PW_KEY_MEDIA_CATEGORY, "Playback", PW_KEY_APP_NAME, "Sonaphex",
                           PW_KEY_APP_ID, "com.korvane.Sonaphex.player", PW_KEY_NODE_NAME, "sonaphex.player", nullptr);
@@ -175,7 +176,7 @@ bool SoundPlayer::Connection::start(QString& why) {
         .version = PW_VERSION_STREAM_EVENTS,
         .state_changed =
             [](void* data, pw_stream_state before, pw_stream_state now, const char*) {
-                // A stream begins unconnected; later it means that it was thrown out.
+                // A stream starts unconnected; becoming unconnected later means that the server removed it.
                 if (now == PW_STREAM_STATE_ERROR || (now == PW_STREAM_STATE_UNCONNECTED && before > now))
                     static_cast<Connection*>(data)->player.lost_.store(true, std::memory_order_release);
             },
@@ -231,7 +232,7 @@ void SoundPlayer::processRt(float* interleaved, std::uint32_t frames) noexcept {
     heardVolume_ = volume;
     if (from == 1 && volume == 1)
         return;
-    // A change is spread over one cycle: a step would click.
+    // A volume change is spread over one cycle, because a step would click.
     for (std::uint32_t i = 0; i < frames; ++i) {
         const float gain = from + (volume - from) * float(i + 1) / float(frames);
         for (std::uint32_t c = 0; c < channels; ++c)

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// In a file of its own because of its pictures: the recorder on the command line is linked without Qt Gui.
+// A file of its own because it uses images: the recorder on the command line is linked without Qt Gui.
 #include "Platform/Media/BasicID3Change.h"
 
 #include "Platform/Foundation/linux/OpenFile.h"
@@ -17,10 +17,10 @@ using namespace Qt::StringLiterals;
 namespace Platform {
 namespace {
 
-// Covers are shown on screens; a larger file is no cover.
+// Covers are shown on screens; a larger file is refused.
 constexpr qint64 largestImage = qint64(64) << 20;
 
-/// The kind of picture by its content, nothing when it is no whole JPEG or PNG file.
+/// The image format by content; nothing when the file is not a complete JPEG or PNG.
 std::optional<TagLib::MP4::CoverArt::Format> formatOf(QByteArray& image) {
     const bool isJpeg = image.startsWith("\xff\xd8\xff") && image.contains("\xff\xd9");
     const bool isPng = image.startsWith("\x89PNG\r\n\x1a\n") && image.contains("IEND");
@@ -49,7 +49,7 @@ QString BasicID3Change::copyWithArtwork(const QString& source, const QString& im
         covers.append({*format, TagLib::ByteVector(bytes->constData(), static_cast<unsigned int>(bytes->size()))});
         tag.setItem(Media::artworkItem, covers);
     });
-    // When source and destination are one file, the audio stays where it is.
+    // When source and destination are the same file, the audio stays in place.
     const QString real = QFileInfo(source).canonicalFilePath();
     const bool ontoItself = !real.isEmpty() && real == QFileInfo(destination).canonicalFilePath();
     if (ontoItself ? Media::saveInPlace(real, edit, why) : Media::saveCopy(source, destination, edit, why))

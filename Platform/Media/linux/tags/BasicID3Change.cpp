@@ -30,19 +30,19 @@ constexpr const char* artistItem = "\251ART";
 constexpr const char* albumItem = "\251alb";
 constexpr const char* yearItem = "\251day";
 constexpr const char* genreItem = "\251gen";
-constexpr const char* numberedGenreItem = "gnre"; // read when there is no other
+constexpr const char* numberedGenreItem = "gnre"; // used when the text genre is missing
 
-/// A file in memory with nothing in it but tags. TagLib reads and writes items only there: items that it does not know
-/// stay in the real file as they are, and the boxes around them are written by this folder.
+/// An in-memory file that contains only tags. TagLib reads and writes items only there: items that it does not know
+/// stay unchanged in the real file, and this folder writes the boxes around them.
 class TagsInMemory {
 public:
     explicit TagsInMemory(const QByteArray& items)
         : stream_(bytesOf(Media::fileOfTags(items))), file_(&stream_, false) {}
 
-    /// Null when TagLib refuses.
+    /// Null when TagLib rejects the file.
     [[nodiscard]] TagLib::MP4::Tag* tag() const { return file_.isValid() ? file_.tag() : nullptr; }
 
-    /// The items after a change; nothing when TagLib refuses.
+    /// The items after a change; nothing when TagLib fails.
     std::optional<QByteArray> saved() {
         QString why;
         if (!file_.save())

@@ -22,7 +22,8 @@ constexpr auto savePatience = std::chrono::seconds(10);
 constexpr auto readPatience = std::chrono::seconds(2);
 constexpr std::int64_t largestIndex = std::int64_t(256) << 20; // two weeks of audio with a cover
 
-/// Opens and locks a file. False, with @p why, also when it is in use for longer than the patience; it is then open.
+/// Opens and locks a file. False, with @p why; also false when another process holds the lock for longer than the
+/// patience, but then the file is open.
 bool openLockedFile(const QString& path, bool writable, LockKind kind, std::chrono::milliseconds patience,
                     Descriptor& file, QString& why) {
     const auto open = [&] {
@@ -40,14 +41,14 @@ bool openLockedFile(const QString& path, bool writable, LockKind kind, std::chro
     case FileLock::Result::Failed:
         break;
     }
-    if (file) // a file system without locks
+    if (file) // a file system that does not support locks
         return true;
     if (why.isEmpty())
         why = qt_error_string(errno);
     return false;
 }
 
-/// Writes the file with another index in the old one's place, beside @p path first.
+/// Writes a copy of the file with the new index beside @p path, then replaces the file.
 bool makeAnew(const QString& path, int source, const Mpeg4Layout& layout, QByteArray index, QString& why) {
     const Mpeg4Box& old = layout.moov();
     const std::int64_t rest = std::max<std::int64_t>(0, layout.end - old.end());
@@ -73,7 +74,7 @@ bool makeAnew(const QString& path, int source, const Mpeg4Layout& layout, QByteA
     return error == 0;
 }
 
-/// The layout of an open file and its index after an edit, without a change when they are the same.
+/// The layout of an open file and its edited index; without a change the two are the same.
 struct Edited {
     Mpeg4Layout layout;
     QByteArray index;
@@ -107,7 +108,7 @@ std::optional<Edited> editIndex(int fd, const IndexEdit& edit, QString& why) {
 } // namespace
 
 bool saveInPlace(const QString& givenPath, const IndexEdit& edit, QString& why) {
-    // Behind a link the file itself is changed.
+    // Changes the target of a symbolic link, not the link.
     const QString real = QFileInfo(givenPath).canonicalFilePath();
     const QString path = real.isEmpty() ? givenPath : real;
     Descriptor file;
@@ -127,7 +128,7 @@ bool saveInPlace(const QString& givenPath, const IndexEdit& edit, QString& why) 
 }
 
 bool saveCopy(const QString& source, const QString& destination, const IndexEdit& edit, QString& why) {
-    // Locked although it is only read: a save of another process would change it meanwhile.
+    // A read needs the lock too: a save of another process would change the file meanwhile.
     Descriptor file;
     if (!openLockedFile(source, false, LockKind::Exclusive, savePatience, file, why))
         return false;
@@ -142,7 +143,7 @@ bool saveCopy(const QString& source, const QString& destination, const IndexEdit
 }
 
 bool openForReading(const QString& path, Descriptor& file, QString& why) {
-    // A program that holds the file for longer may be another one: reading beside it is better than not at all.
+    // The lock may belong to another program: reading without it is better than failing.
     return openLockedFile(path, false, LockKind::Shared, readPatience, file, why) || file;
 }
 

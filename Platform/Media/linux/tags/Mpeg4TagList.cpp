@@ -24,7 +24,7 @@ QByteArray box(const char (&type)[5], QByteArrayView content) {
     return {reinterpret_cast<const char*>(out.data().data()), qsizetype(out.size())};
 }
 
-/// @p boxes inside those boxes of the path that are missing when only the first @p depth are there.
+/// Wraps @p boxes in those boxes of the path that are missing when only the first @p depth exist.
 QByteArray surrounded(QByteArray boxes, std::size_t depth) {
     const QByteArray version(4, '\0');
     const QByteArray handler = version + QByteArray(4, '\0') + "mdirappl" + QByteArray(9, '\0');
@@ -33,7 +33,7 @@ QByteArray surrounded(QByteArray boxes, std::size_t depth) {
     return depth < 2 ? box("udta", boxes) : boxes;
 }
 
-/// The boxes "moov", "udta", "meta", "ilst" inside one another, as far as they are there.
+/// The boxes "moov", "udta", "meta", "ilst", each inside the one before, as far as they exist.
 std::vector<const Mpeg4Box*> pathToTags(const Mpeg4Box& index) {
     std::vector<const Mpeg4Box*> longest{&index};
     for (const Mpeg4Box& udta : index.children) {
@@ -42,7 +42,7 @@ std::vector<const Mpeg4Box*> pathToTags(const Mpeg4Box& index) {
         if (longest.size() == 1)
             longest.push_back(&udta);
         for (const Mpeg4Box& meta : udta.children) {
-            // With a table of keys its items are numbered: another kind of list, which most players do not show.
+            // A "keys" box means that the items are numbered, a different kind of list that most players do not show.
             if (meta.type != fourCharCode("meta") || meta.child(fourCharCode("keys")))
                 continue;
             if (const Mpeg4Box* const list = meta.child(fourCharCode("ilst")))
@@ -82,7 +82,7 @@ std::optional<QByteArray> withTagItems(const QByteArray& index, const QByteArray
     const auto boxes = pathToTags(*moov);
     const std::size_t depth = boxes.size();
 
-    // From the inside out: each box around the list is written anew around its changed child.
+    // From the innermost box outwards: each box around the list is rewritten around its changed child.
     QByteArray changed = surrounded(box("ilst", items), depth);
     const Mpeg4Box* replaced = depth == std::size(path) ? boxes.back() : nullptr;
     for (std::size_t i = std::min(depth, std::size(path) - 1); i-- > 0;) {
@@ -93,7 +93,7 @@ std::optional<QByteArray> withTagItems(const QByteArray& index, const QByteArray
         if (replaced) {
             from = replaced->offset;
             to = replaced->end();
-            // Other programs leave room behind the list; here nothing needs it.
+            // Other programs leave padding behind the list; it is not needed here.
             for (const Mpeg4Box& next : children)
                 if (next.offset == to && next.type == fourCharCode("free") && i + 2 == std::size(path))
                     to = next.end();

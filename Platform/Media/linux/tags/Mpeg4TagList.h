@@ -8,21 +8,21 @@
 
 namespace Platform::Media {
 
-/// One item of a tag list as it stands in the file.
+/// One item of a tag list, as stored in the file.
 struct TagItem {
     std::uint32_t type = 0;
-    QByteArray bytes; ///< header included
+    QByteArray bytes; ///< including the header
 };
 
-/// The items of the tag list in @p index, a "moov" whose tree was read. Items beyond 80 MiB in all are left out: a
-/// cover of that size is none.
+/// The items of the tag list in @p index, a "moov" whose tree was read. Items beyond a total of 80 MiB are omitted: no
+/// real cover is that large.
 [[nodiscard]] std::vector<TagItem> tagItems(const ByteSource& source, const Mpeg4Box& index);
 
-/// @p index, a whole "moov", with @p items, whole ones one after the other, as its tag list. The list is made where it
-/// is missing, behind the tables of the audio. Nothing, with @p why, when the index is damaged.
+/// @p index, a complete "moov", with @p items, the concatenated item boxes, as its tag list. A missing list is created
+/// behind the tables of the audio. Nothing, with @p why, when the index is damaged.
 [[nodiscard]] std::optional<QByteArray> withTagItems(const QByteArray& index, const QByteArray& items, QString& why);
 
-/// A file of nothing but tags.
+/// A file that contains only tags.
 [[nodiscard]] QByteArray fileOfTags(const QByteArray& items);
 
 } // namespace Platform::Media
