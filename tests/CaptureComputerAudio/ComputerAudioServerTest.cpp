@@ -29,7 +29,7 @@ namespace {
 
 const QString kBundle = QStringLiteral(SONAPHEX_BIN_DIR "/Resources/ComputerAudioCapture.kext");
 
-/// The real driver in a private session, steered as the program does it.
+/// The real driver in a private session, controlled in the same way as by the program.
 class ComputerAudio : public testing::Test {
 protected:
     ComputerAudio() {
@@ -50,7 +50,7 @@ protected:
         QString why;
         ASSERT_TRUE(CaptureDriver::load(kBundle, why, 10000)) << qPrintable(why);
     }
-    /// The driver of this session.
+    /// The driver process of this session.
     [[nodiscard]] pid_t driverProcess() const {
         const QByteArray ours = "PIPEWIRE_RUNTIME_DIR=" + session.runtimeFolder().toLocal8Bit();
         for (const QString& pid : QDir(u"/proc"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
@@ -74,7 +74,7 @@ protected:
             (void)hardware->getDeviceName(device->audioDeviceID(), name);
         return name;
     }
-    /// A second output, which does not become the default by itself.
+    /// A second output, which does not automatically become the default.
     void addSecondOutput(const QByteArray& properties = {}) { addOutput("test.second", "Second Output", properties); }
     void addOutput(const std::string& name, const std::string& description, const QByteArray& properties = {}) {
         if (second.state() == QProcess::NotRunning)
@@ -198,7 +198,7 @@ TEST_F(ComputerAudio, CarriesOnlyTheOutputItWasToldOf) {
 
 TEST_F(ComputerAudio, FollowsTheDefaultOutputWithoutAGap) {
     load();
-    // Each output is heard before and after it is the default, by a source that the session manager does not move: a
+    // Each output plays before and after it is the default, from a source that the session manager does not move:
     // silence can only come from the change between them.
     const auto soundOn = [](const std::string& name, const std::string& output) {
         auto options = playing(0.5F, name, "");
@@ -224,9 +224,9 @@ TEST_F(ComputerAudio, FollowsTheDefaultOutputWithoutAGap) {
     ASSERT_TRUE(waitFor([&] { return capture.recentPeak(480) == 0.5F; }));
     ServerWatch server;
     ASSERT_TRUE(server.start());
-    // The outputs have clocks of their own, and the server is silent for one cycle of 1024 frames when a node changes
-    // its clock. A machine that misses a source's cycle makes it silent too; then another change counts. A gap of the
-    // driver's own would be heard at each change.
+    // The outputs have different clocks, and the server is silent for one cycle of 1024 frames when a node changes its
+    // clock. An overloaded machine that misses a source's cycle makes it silent, too; then the change is repeated. A
+    // gap caused by the driver would appear at each change.
     constexpr std::size_t cycle = 1024;
     std::size_t silent = cycle + 1;
     for (int number = 1; number <= 10 && silent > cycle; ++number) {
@@ -295,10 +295,10 @@ TEST_F(ComputerAudio, IsInstalledLoadedAndRemovedWithTheRealDriver) {
     EXPECT_FALSE(KextInstallControl::isExist());
     testing::internal::GetCapturedStdout();
 
-    // What is installed and not running comes up with the program.
+    // A driver that is installed but not running is started with the program.
     ASSERT_TRUE(KextInstallControl::install());
     ASSERT_TRUE(CaptureDriver::unload(20000));
-    KextInstallControl::loadIfInstalled(); // on a busy machine it comes after the launch
+    KextInstallControl::loadIfInstalled(); // on a busy machine it appears only after the launch
     EXPECT_TRUE(waitFor([&] { return CaptureDriver::isLoaded(); }));
     EXPECT_NE(deviceNamed(u"Korvane System Audio"_s), 0U);
 }

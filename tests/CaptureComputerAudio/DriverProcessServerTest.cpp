@@ -21,7 +21,7 @@ namespace {
 
 const QString kDriver = QStringLiteral(SONAPHEX_BIN_DIR "/Resources/ComputerAudioCapture.kext/CaptureDriver");
 
-/// The driver's process by itself, in a session that has nothing but an output.
+/// The driver's process alone, in a session that contains only an output.
 class DriverProcess : public testing::Test {
 protected:
     void SetUp() override {
@@ -38,7 +38,7 @@ protected:
         driver_.waitForFinished();
     }
 
-    /// A second output, "test.second". It goes with the test.
+    /// A second output, "test.second". It is removed with the test.
     void addSecondOutput(const QByteArray& positions) {
         second_.start(u"pw-cli"_s, QStringList());
         second_.write("create-node adapter { factory.name=support.null-audio-sink node.name=test.second "
@@ -57,7 +57,7 @@ protected:
         process.start(program, arguments);
         return process.waitForFinished() ? process.exitCode() : -1;
     }
-    /// Processor time that the driver has used, in seconds.
+    /// Processor time used by the driver, in seconds.
     [[nodiscard]] double processorSeconds() const {
         QFile file(u"/proc/%1/stat"_s.arg(driver_.processId()));
         if (!file.open(QIODevice::ReadOnly))
@@ -76,7 +76,7 @@ protected:
         options.sample = [values = std::move(values)](std::uint64_t, std::uint32_t channel) { return values[channel]; };
         return options;
     }
-    /// Waits until the last frame that was captured has these values.
+    /// Waits until the last captured frame has these values.
     static testing::AssertionResult ends(const TestCapture& capture, double left, double right) {
         std::vector<float> samples;
         const auto arrived = [&] {
@@ -101,7 +101,7 @@ TEST_F(DriverProcess, CarriesWhatTheDefaultOutputPlaysSampleForSample) {
     ASSERT_TRUE(capture.start());
     TestPlayer player;
     ASSERT_TRUE(player.start());
-    // Half a second without the loss of a cycle comes soon even on a busy machine.
+    // Even a busy machine soon has half a second without a lost cycle.
     EXPECT_TRUE(waitFor([&] { return HeardFrames(capture.interleaved()).longestRun > 24000; }, 30000));
     EXPECT_TRUE(HeardFrames(capture.interleaved()).exact);
 }
@@ -163,7 +163,7 @@ TEST_F(DriverProcess, FlowsAgainAfterALongRest) {
         TestCapture capture({.target = "korvane.system-audio", .monitor = false});
         ASSERT_TRUE(capture.start());
     }
-    // The session manager puts an output that is idle to sleep after some seconds; the driver's node rests awake.
+    // The session manager suspends an idle output after some seconds; the driver's node is idle but not suspended.
     ServerWatch server;
     ASSERT_TRUE(server.start());
     ASSERT_TRUE(waitFor([&] { return server.stateOf("sonaphex.output") == "suspended"; }, 60000))
@@ -206,8 +206,8 @@ TEST_F(DriverProcess, ChangesBetweenAStereoOutputAndOneWithSixChannelsWithoutBei
     addSecondOutput("FL FR FC LFE RL RR");
     TestCapture capture({.target = "korvane.system-audio", .monitor = false});
     ASSERT_TRUE(capture.start());
-    // The player goes where the default output is. On the stereo output the server mixes its channels down; the mix of
-    // the driver must be the same.
+    // The player follows the default output. The server downmixes its channels for the stereo output; the driver's mix
+    // must be the same.
     TestPlayer player(constant("", {0.1F, 0.2F, 0.3F, 0.0F, 0.15F, 0.25F},
                                {SPA_AUDIO_CHANNEL_FL, SPA_AUDIO_CHANNEL_FR, SPA_AUDIO_CHANNEL_FC, SPA_AUDIO_CHANNEL_LFE,
                                 SPA_AUDIO_CHANNEL_RL, SPA_AUDIO_CHANNEL_RR}));
@@ -245,7 +245,7 @@ TEST_F(DriverProcess, RestsWhenAPatchbayMadeItsLinkBefore) {
     const auto frames = capture.frames();
     ASSERT_TRUE(waitFor([&] { return capture.frames() > frames + 96000; }));
     EXPECT_LT(processorSeconds() - before, 0.1) << "of two seconds";
-    // The other one's link goes; the driver sees to it that both sides arrive.
+    // The link of another program is removed; the driver makes sure that both sides arrive.
     ASSERT_EQ(run(u"pw-link"_s, {u"-d"_s, u"test.second:monitor_FL"_s, u"korvane.system-audio:input_FL"_s}), 0);
     EXPECT_TRUE(ends(capture, 0.5, 0.25));
 }

@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A registry in which the driver appears once its program has run, and goes when it is asked to.
+/// A registry in which the driver appears after its program ran, and disappears when it is asked to end.
 class DriverRegistry : public FakeIORegistry {
 public:
     explicit DriverRegistry(QString marker) : marker_(std::move(marker)) {
@@ -43,7 +43,7 @@ public:
         return FakeIORegistry::servicesOfClass(className);
     }
     int unloads = 0;
-    int looks = 0; ///< how often somebody asked what is there
+    int looks = 0; ///< how often the services were listed
 
 private:
     QString marker_;
@@ -59,7 +59,7 @@ protected:
         makeBundle(bundle.resources, "new");
     }
 
-    /// A bundle whose driver only leaves a mark.
+    /// A bundle whose driver only creates a marker file.
     void makeBundle(const QString& parent, const QByteArray& version) {
         const auto path = parent + u"/ComputerAudioCapture.kext"_s;
         ASSERT_TRUE(QDir().mkpath(path));
@@ -127,7 +127,7 @@ TEST_F(KextInstallControlTest, ReplacesAnOlderBundleWithOnePromptAndUnloadsItsDr
 }
 
 TEST_F(KextInstallControlTest, KeepsTheOldDriverWhicheverStepFails) {
-    // A command of this name in front of the system's fails at its first, second ... call.
+    // A command of this name, earlier in PATH than the system's, that fails at its first, second ... call.
     const QString tools = folder.filePath(u"tools"_s);
     const QByteArray path = qgetenv("PATH");
     QDir().mkpath(tools);
@@ -180,7 +180,7 @@ TEST_F(KextInstallControlTest, CanBeRunByEveryoneWhateverTheUmask) {
     for (const QString& each : {QFileInfo(extensions).path(), extensions, path, path + u"/CaptureDriver"_s})
         EXPECT_EQ(modeOf(each), 0755U) << qPrintable(each);
     EXPECT_EQ(modeOf(path + u"/version"_s), 0644U);
-    // One that was installed so before is mended.
+    // An installation with these wrong permissions is repaired.
     ASSERT_TRUE(QFile::setPermissions(extensions, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     ASSERT_TRUE(KextInstallControl::install());
     EXPECT_EQ(modeOf(extensions), 0755U);
@@ -253,7 +253,7 @@ TEST_F(KextInstallControlTest, LoadsAnInstalledDriverAtLaunchWhenItIsMissing) {
     EXPECT_FALSE(KextInstallControl::loadIfInstalled());
     EXPECT_FALSE(QFile::exists(marker));
     makeBundle(extensions, "new");
-    (void)KextInstallControl::loadIfInstalled(); // on a busy machine the driver comes after the launch
+    (void)KextInstallControl::loadIfInstalled(); // on a busy machine the driver appears only after the launch
     EXPECT_TRUE(waitFor([this] { return QFile::exists(marker); }));
     EXPECT_TRUE(KextInstallControl::loadIfInstalled());
 }
@@ -265,7 +265,7 @@ TEST_F(KextInstallControlTest, WaitsNoLongerThanItsPatienceForADriverThatDoesNot
     timer.start();
     EXPECT_FALSE(KextInstallControl::loadIfInstalled());
     EXPECT_GE(timer.elapsed(), 1000);
-    // Two milliseconds or more lie between two looks. A slow machine takes longer and looks less often.
+    // At least two milliseconds lie between two queries. A slow machine queries less often.
     EXPECT_LE(registry.looks, 1000 / 2 + 3);
 }
 
@@ -286,7 +286,7 @@ TEST_F(KextInstallControlTest, AProgramThatEndsDoesNotWaitForThePrompt) {
     EXPECT_EQ(shell.commands.size(), 1);
 }
 
-/// The shell behind pkexec, with a pkexec of the test in PATH.
+/// The AdminShell that uses pkexec, with a test version of pkexec in PATH.
 class AdminShellTest : public testing::Test {
 protected:
     AdminShellTest() { qputenv("PATH", folder.path().toLocal8Bit()); }

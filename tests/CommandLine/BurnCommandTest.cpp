@@ -35,7 +35,7 @@ protected:
         services().diskArbitration = &disks;
     }
     static CommandRun burn(const QStringList& arguments) { return {CommandLine::burnCommand, arguments}; }
-    /// The command with these arguments ends with this line and exit status 1.
+    /// Expects this line and exit status 1 from the command with these arguments.
     static void expectFailure(const QStringList& arguments, const QString& line) {
         const CommandRun ran = burn(arguments);
         EXPECT_EQ(ran.status, CommandLine::Failed);
@@ -58,7 +58,7 @@ protected:
         image->insertBlankDisc();
         discs.drives.push_back(image);
     }
-    /// Runs @p act in the event loop of the command, once a burn has begun.
+    /// Runs @p act in the command's event loop once a burn has begun.
     void whenBurning(std::function<void(FakeBurn&)> act) {
         QTimer::singleShot(0, [this, act = std::move(act)] {
             if (discs.burns.empty() || discs.lastBurn()->state.state == DRStatusStateNone)
@@ -169,7 +169,7 @@ TEST_F(BurnCommandTest, WaitsForTheDriveAfterAnInterrupt) {
     EXPECT_EQ(discs.lastBurn()->aborts, 1);
 }
 
-/// The program itself, with real files.
+/// The real program with real files.
 class BurnImageProgram : public testing::Test {
 protected:
     BurnImageProgram() {
@@ -209,7 +209,7 @@ TEST_F(BurnImageProgram, LeavesAWholeImageOrNothingWhenItIsKilled) {
         QProcess process;
         process.start(QStringLiteral(SONAPHEX_PROGRAM), burnInto(images + u"/disc"_s));
         ASSERT_TRUE(process.waitForStarted());
-        // The moment is left to chance on purpose: each of them must be harmless.
+        // A random moment, on purpose: every moment must be harmless.
         (void)process.waitForFinished(QRandomGenerator::global()->bounded(lasts + 1));
         process.kill();
         ASSERT_TRUE(process.state() == QProcess::NotRunning || process.waitForFinished());
@@ -232,7 +232,7 @@ TEST_F(BurnImageProgram, StopsAtAnInterruptAndLeavesNothing) {
     QProcess process;
     process.start(QStringLiteral(SONAPHEX_PROGRAM), burnInto(images + u"/disc"_s));
     ASSERT_TRUE(process.waitForStarted());
-    // The image has no name while it grows; that it grows is seen in the program's open files.
+    // The image has no name while it grows; it is visible among the program's open files.
     const QString files = u"/proc/%1/fd"_s.arg(process.processId());
     const auto grows = [&] {
         const auto all = QDir(files).entryInfoList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
@@ -243,7 +243,7 @@ TEST_F(BurnImageProgram, StopsAtAnInterruptAndLeavesNothing) {
         continue;
     ::kill(pid_t(process.processId()), SIGINT);
     ASSERT_TRUE(process.waitForFinished(60000));
-    if (process.exitCode() == 0) { // it was quicker than the signal
+    if (process.exitCode() == 0) { // it ended before the signal arrived
         EXPECT_EQ(everything(images), (QStringList{u"disc.bin"_s, u"disc.cue"_s}));
         return;
     }
@@ -257,7 +257,7 @@ TEST_F(BurnImageProgram, SaysThatTheDiskIsFullAndLeavesNothing) {
     const QByteArray mountPoint = QFile::encodeName(images);
     const bool mounted = ::mount("tmpfs", mountPoint.constData(), "tmpfs", 0, "size=4m") == 0;
     QProcess process;
-    // Without the right to mount, a limit on the length of files ends the writing.
+    // When mounting is not permitted, a limit on the file size ends the writing instead.
     if (!mounted)
         process.setChildProcessModifier([] {
             std::signal(SIGXFSZ, SIG_IGN);

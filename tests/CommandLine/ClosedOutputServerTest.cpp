@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Terminals that close, readers that leave, signals that the caller ignores: none of them may end a recording.
+// Terminals that close, readers that exit, signals that the caller ignores: none of them may end a recording.
 #include "tests/CommandLine/RecordServerFixture.h"
 
 #include <fcntl.h>
@@ -8,8 +8,7 @@
 
 namespace {
 
-/// A pipe whose reading end is closed when the test says so. Closing a channel of QProcess would only discard what
-/// comes.
+/// A pipe whose reading end the test can close. Closing a channel of QProcess would only discard the data.
 class Reader {
 public:
     Reader() { EXPECT_EQ(pipe2(ends_, O_CLOEXEC), 0); }
@@ -36,7 +35,7 @@ private:
 
 class ClosedOutputServer : public RecordServer {
 protected:
-    /// The program, started by a shell that runs @p before first.
+    /// Starts the program from a shell that runs @p before first.
     void startAfter(const QString& before, const QStringList& more = {}) {
         process_.start(u"sh"_s,
                        QStringList{u"-c"_s, before + u"; exec \"$@\""_s, u"sh"_s, QStringLiteral(SONAPHEX_PROGRAM)} +
@@ -45,7 +44,7 @@ protected:
         raw_ = rawFile(20000);
         ASSERT_FALSE(raw_.isEmpty());
     }
-    /// Whether the recording goes on: its raw file takes in another second or so.
+    /// Whether the recording continues: its raw file grows by about another second.
     [[nodiscard]] bool goesOn() {
         const qint64 before = QFileInfo(raw_).size();
         return waitFor(
@@ -54,10 +53,10 @@ protected:
                process_.state() == QProcess::Running;
     }
     void signal(int number) {
-        ASSERT_GT(process_.processId(), 0) << "it ended already"; // kill(0) would end the test itself
+        ASSERT_GT(process_.processId(), 0) << "it ended already"; // kill(0) would kill the test itself
         ASSERT_EQ(::kill(pid_t(process_.processId()), number), 0);
     }
-    /// Ends the recording; it must be whole.
+    /// Ends the recording; its file must be complete.
     void endsWithAWholeFile() {
         ASSERT_NO_FATAL_FAILURE(signal(SIGTERM));
         ASSERT_TRUE(process_.waitForFinished());
@@ -80,7 +79,7 @@ TEST_F(ClosedOutputServer, GoesOnWhenTheReaderOfItsErrorsLeaves) {
     reader.attachTo(process_, STDERR_FILENO);
     startAfter(u":"_s);
     reader.leave();
-    // The loss of the device is told on standard error, and so is its return.
+    // The loss of the device and its return are both reported on standard error.
     source.remove();
     ASSERT_TRUE(source.start());
     EXPECT_TRUE(goesOn());

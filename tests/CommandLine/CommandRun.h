@@ -8,7 +8,7 @@
 
 #include <QStringList>
 
-/// A subcommand that ran inside this process: its exit status and what it printed.
+/// The exit status and output of a subcommand that ran inside this process.
 struct CommandRun {
     CommandRun(const CommandLine::Command& command, const QStringList& arguments) {
         testing::internal::CaptureStdout();

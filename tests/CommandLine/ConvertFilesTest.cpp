@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The program itself with files that are not what they seem.
+/// The real program with malformed and special files.
 class ConvertFiles : public testing::Test {
 protected:
     [[nodiscard]] QString at(const QString& name) const { return folder.filePath(name); }
@@ -35,7 +35,7 @@ protected:
         QFile file(at(name));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-    /// An hour of silence that takes no room on the disk.
+    /// An hour of silence in a sparse file.
     void writeLongWave(const QString& name) const {
         MediaTest::Samples rows(2, std::vector<float>(512));
         MediaTest::writeFile(at(name), kAudioFileWAVEType, rows);
@@ -88,7 +88,8 @@ TEST_F(ConvertFiles, SaysThatTheDiskIsFullAndKeepsAnExistingTarget) {
     rlimit before{};
     ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
     const rlimit small{2 << 20, before.rlim_max};
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN); // inherited by the program: a full disk is an error, no signal
+    const auto handler =
+        std::signal(SIGXFSZ, SIG_IGN); // inherited by the program: a full disk gives an error instead of a signal
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
     const auto result =
         sonaphex({u"convert"_s, at(u"long.wav"_s), at(u"target.wav"_s), u"--overwrite"_s, u"--to"_s, u"60"_s});

@@ -157,7 +157,7 @@ TEST_F(LibraryCommand, ShowsTheTagsThatWereWrittenIntoItsFiles) {
         EXPECT_EQ(told[u"added"_s], u"2026/11/21"_s);
     }
 
-    // What was not written is not told to the library.
+    // When the file was not written, the library entry does not change either.
     EXPECT_EQ(tag({other.value(AudioRecordEntry::SavePath).toString(), u"--title"_s, u"x"_s}).status, 1);
     EXPECT_EQ(listed(), document);
 }
@@ -187,7 +187,7 @@ TEST_F(LibraryCommand, KeepsWhatSeveralTagAtOnce) {
     }
 }
 
-/// What the window's process does.
+/// This process plays the role of the window's process.
 class LibraryCommandBesideAWindow : public LibraryCommand {
 protected:
     void open(const QVariantList& records) {
@@ -200,7 +200,7 @@ protected:
         ASSERT_TRUE(running_->listen(
             [](const QByteArray& request) { return MediaLibraryRequests::answer(request).value_or("what?"); }));
     }
-    /// Starts the program, to which this process answers meanwhile.
+    /// Runs the program while this process answers its requests.
     static QByteArray ask(const QStringList& arguments) {
         QProcess process;
         process.start(QStringLiteral(SONAPHEX_PROGRAM), arguments);
@@ -209,7 +209,7 @@ protected:
         return process.readAllStandardOutput();
     }
 
-    /// What a subcommand does that does not reach the window.
+    /// Changes the library as a subcommand does when it cannot reach the window.
     void addBesideTheWindow(const Dictionary& entry) {
         const auto defaults = Platform::createUserDefaults(identifier);
         Platform::services().userDefaults = defaults.get();

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The manual page and the completions are made from the commands' declarations; the programs that read them accept
-// them.
+// The manual page and the completions are generated from the commands' declarations; man and the shells accept them.
 #include "CommandLine/CommandHelp.h"
 #include "tests/support/RunTool.h"
 
@@ -25,7 +24,7 @@ protected:
         return out.fileName();
     }
 
-    /// What bash offers for the last of these words.
+    /// The completions that bash offers for the last of these words.
     [[nodiscard]] QStringList bashOffers(const QString& completions, const QStringList& words) const {
         QString script = u"source \"$1\"; shift; COMP_WORDS=(\"$@\"); COMP_CWORD=$(($# - 1)); _sonaphex; "
                          "printf '%s\\n' \"${COMPREPLY[@]}\""_s;

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program's way in: what it answers before it does anything.
+// Options and errors that the program handles before it runs a subcommand.
 #include "tests/support/Environment.h"
 #include "tests/support/Mpeg4Files.h"
 #include "tests/support/RunTool.h"
@@ -54,7 +54,7 @@ TEST(Program, FailsWhenItsAnswerCannotBeWritten) {
                   "sonaphex: standard output could not be written: No space left on device\n")
             << qPrintable(arguments);
     }
-    // What says why it failed already says no more, and what has nothing to say did all that it was asked.
+    // When the failure was already reported, nothing more is printed; when there is no output, the command succeeded.
     for (const auto& [arguments, status] : std::map<QStringList, int>{
              {{u"tag"_s, u"missing"_s}, 1}, {{u"tag"_s}, 2}, {{u"tag"_s, file, u"--title"_s, u"x"_s}, 0}}) {
         QProcess process;

@@ -55,7 +55,7 @@ struct RecordCommandTest : testing::Test {
     QString out;
     QString err;
     QString folder = dir.filePath(u"recordings"_s);
-    QTimer cycles; ///< the device's I/O thread
+    QTimer cycles; ///< plays the device's I/O thread
     float level = 0.5F;
     std::function<void()> eachCycle = [] {};
     std::function<void()> afterCycle = [] {};
@@ -84,7 +84,7 @@ struct RecordCommandTest : testing::Test {
             for (int i = 0; i < 50; ++i) {
                 eachCycle();
                 clock.advance(0.01);
-                // Both devices give their cycles; one is enough where only one is there.
+                // Both devices deliver cycles; when only one exists, one is enough.
                 for (const AudioObjectID device : std::set{AudioObjectID(9), hardware.opened.back()->device})
                     if (auto* each = hardware.unitOf(device); each && (device == 9 || each == unit))
                         (void)each->feedValue(level, 480, clock.hostTime());
@@ -105,7 +105,7 @@ struct RecordCommandTest : testing::Test {
         const CommandRun ran(command, arguments);
         out = ran.out;
         err = ran.err;
-        // The double's files hold no sound, so that they cannot carry tags.
+        // The double's files contain no audio, so they cannot carry tags.
         err.remove(QRegularExpression(u"sonaphex(: Track[0-9]+\\.m4a could not be tagged\\.|\\.media: .*)\n"_s));
         return ran.status;
     }
@@ -256,7 +256,7 @@ TEST_F(RecordCommandTest, ARecordingThatNoPlaceTakesIsStillWhereItSays) {
     const QString kept = out.trimmed();
     EXPECT_TRUE(kept.endsWith(u"/Track0.m4a"_s)) << qPrintable(out);
     EXPECT_TRUE(QFile::exists(kept));
-    // The next recording that finds room takes it to where it is looked for.
+    // The next recording that finds room moves it to the folder of unfinished recordings.
     ASSERT_TRUE(inTheWay.remove());
     afterCycle = [] {};
     EXPECT_EQ(record({u"--for"_s, u"6"_s}), CommandLine::Done) << qPrintable(err);
@@ -348,7 +348,7 @@ TEST_F(RecordCommandTest, ASignalWhileWaitingIsNoFailure) {
 }
 
 TEST_F(RecordCommandTest, SplitsAtSilences) {
-    // A second of sound, then half a second of silence, and so on.
+    // Alternates between a second of sound and half a second of silence.
     int cycles = 0;
     eachCycle = [&] { level = cycles++ / 50 % 3 < 2 ? 0.5F : 0; };
     EXPECT_EQ(

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-//
-// What the program says and does in a terminal while computer audio is recorded, lost and silent.
+// Output and behaviour in a terminal while computer audio is recorded, lost and silent.
 #include "tests/support/AudioCheck.h"
 #include "tests/support/Environment.h"
 #include "tests/support/LoginManager.h"
@@ -25,7 +24,7 @@ namespace {
 
 class RecordLossServer : public testing::Test {
 protected:
-    /// A source that looks like the capture driver's. A tone, or silence.
+    /// A source that looks like the capture driver's. Plays a tone or silence.
     [[nodiscard]] bool startComputerAudio(bool sounds) {
         source_ = std::make_unique<TestSource>(
             TestSource::Options{.name = "test.computer",

@@ -23,7 +23,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// The program as a process of its own on a private sound server, with folders of its own.
+/// The program as a separate process on a private sound server, with its own folders.
 class RecordServer : public testing::Test {
 protected:
     RecordServer() {
@@ -38,7 +38,7 @@ protected:
                                                                    .frequency = 440,
                                                                    .ownClock = true});
         EXPECT_TRUE(source_->start());
-        // The program does not wait for a session manager that is late with the ports of a device.
+        // The program does not wait for a session manager that creates a device's ports late.
         EXPECT_TRUE(Platform::PipeWire::serverIsThere(30000, true, "test.tone"));
         return *source_;
     }
@@ -56,7 +56,7 @@ protected:
             all << tree.next();
         return all;
     }
-    /// The raw file of a recording under way, as soon as there is sound in it.
+    /// The raw file of the running recording, as soon as it contains audio.
     [[nodiscard]] QString rawFile(qint64 bytes) const {
         QString raw;
         (void)waitFor(

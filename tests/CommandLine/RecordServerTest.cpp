@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program itself, on a sound server, as somebody in a terminal meets it.
+// The real program on a sound server, as a terminal user runs it.
 #include "tests/CommandLine/RecordServerFixture.h"
 
 TEST_F(RecordServer, RecordsFiveSecondsOfAToneThatOtherProgramsRead) {
     tone();
-    // A machine that is too busy for the sound server loses frames before they reach us, and is told so: once more
-    // then.
+    // A machine too busy for the sound server loses frames before they reach the program, which reports it. Then the
+    // test repeats.
     QJsonObject document;
     for (int attempt = 0; attempt < 6; ++attempt) {
         QDir(folder_).removeRecursively();
@@ -81,7 +81,7 @@ TEST_F(RecordServer, LeavesADeviceAloneThatItDoesNotRecord) {
     const QByteArray untouched = propsOf(u"test.left.alone"_s);
     EXPECT_TRUE(untouched.contains("\"channelVolumes\": [ 0.250000, 0.250000 ]")) << untouched.toStdString();
     EXPECT_TRUE(untouched.contains("\"mute\": true"));
-    // Computer audio is off: the driver is not told which output to take.
+    // Computer audio is off: the driver gets no output path.
     EXPECT_FALSE(runTool(u"pw-metadata"_s, {}).output.contains("kCaptureDriverPathKey"));
 
     ASSERT_EQ(runTool(u"pw-cli"_s, {u"set-param"_s, u"test.tone"_s, u"Props"_s, quiet}).status, 0);
@@ -150,7 +150,7 @@ TEST_F(RecordServer, LosesAboutTheLastSecondWhenItIsKilled) {
     ASSERT_FALSE(raw.isEmpty());
     const auto begin = source.position();
     ASSERT_TRUE(waitFor([&] { return source.position() > begin + 3 * 48000; }, 60000));
-    // With the device at rest, what was played can be compared with what is on the disk.
+    // The device is paused, so that the played frames can be compared with those on the disk.
     const double played = double(source.position() - begin) / 48000;
     source.remove();
     QByteArray said;
@@ -169,7 +169,7 @@ TEST_F(RecordServer, LosesAboutTheLastSecondWhenItIsKilled) {
     EXPECT_GT(secondsOnDisk(), played - 1.5);
 }
 
-/// What the thread sanitizer takes of $TMPDIR for itself before the program begins.
+/// Files that ThreadSanitizer itself puts into $TMPDIR before the program starts.
 #ifdef __SANITIZE_THREAD__
 constexpr int kSanitizersKb = 512;
 #else
@@ -178,8 +178,8 @@ constexpr int kSanitizersKb = 0;
 
 TEST_F(RecordServer, KeepsWhatItHasWhenTheDiskFillsUp) {
     tone();
-    // The raw file lies on a file system of 100 kB, in a mount namespace of the program's own; where those are not
-    // allowed, files may grow to 100 kB only.
+    // The raw file is on a file system of 100 kB, in a mount namespace of the program; where mounting is not permitted,
+    // the file size is limited to 100 kB instead.
     const bool mounts = runTool(u"unshare"_s, {u"-Urm"_s, u"true"_s}).status == 0;
     const QString script =
         mounts ? u"mount -t tmpfs -o size=%1k,mode=0700 tmpfs \"$TMPDIR\" && exec \"$@\""_s.arg(100 + kSanitizersKb)

@@ -25,7 +25,7 @@ namespace {
 
 const QString identifier = u"com.korvane.Sonaphex"_s;
 
-/// The program itself, with a home of its own.
+/// The real program with its own home folder.
 class RingtoneCommand : public testing::Test {
 protected:
     RingtoneCommand() {
@@ -137,7 +137,7 @@ TEST_F(RingtoneCommand, PutsTheFadesOfTheRuleIntoTheFile) {
                                 AudioCheck::decodedByFaad(folder() + u"/Ringtone.m4r"_s)}) {
         ASSERT_EQ(decoded.size(), 2U);
         ASSERT_GE(decoded[0].size(), 882000U);
-        // The rule, written down a second time: frame by frame, with a gain for each block of 512.
+        // The fade rule, implemented independently: frame by frame, with a gain for each block of 512.
         std::vector<float> expected;
         std::size_t position = 441000;
         while (expected.size() < 882000) {
@@ -153,18 +153,18 @@ TEST_F(RingtoneCommand, PutsTheFadesOfTheRuleIntoTheFile) {
                 expected.push_back(float(gain) * original[0][position + i]);
             position += 512;
             if (double(position) >= double(30.0F - 0.1) * 44100)
-                position = 441000; // the last tenth of a second plays the begin again
+                position = 441000; // the last tenth of a second repeats the beginning
         }
         EXPECT_EQ(AudioCheck::framesByFfprobe(folder() + u"/Ringtone.m4r"_s), std::int64_t(expected.size()));
         double error = 0;
         double power = 0;
         for (std::size_t i = 0; i < 882000; ++i)
-            for (const auto& channel : decoded) { // both carry the left one
+            for (const auto& channel : decoded) { // both channels contain the left one
                 error += std::pow(double(channel[i]) - double(expected[i]), 2);
                 power += std::pow(double(expected[i]), 2);
             }
         EXPECT_LT(10 * std::log10(error / power), -30);
-        // Each fade at ten points, as the gain that fits best around it.
+        // Checks each fade at ten points: the gain that fits best there.
         for (int point = 1; point <= 10; ++point)
             for (const double second : {0.4 * point - 0.2, 19.9 - 0.6 * point + 0.3}) {
                 const auto begin = std::size_t(second * 44100) / 512 * 512;
@@ -186,7 +186,7 @@ TEST_F(RingtoneCommand, MakesWhatPhonesTake) {
                                                u"stream=codec_name,profile,sample_rate,channels:format=format_name"_s,
                                                u"-of"_s, u"default=nw=1:nk=1"_s, path});
     EXPECT_EQ(probed.output, "aac\nLC\n44100\n2\nmov,mp4,m4a,3gp,3g2,mj2\n");
-    // Forty seconds to the block of 512 frames, which the AAC frame of 1024 holds.
+    // Forty seconds, rounded up to blocks of 512 frames and to the AAC frame of 1024.
     EXPECT_NEAR(double(AudioCheck::framesByFfprobe(path)), 40.0 * 44100, 1024);
     EXPECT_GE(AudioCheck::framesByFfprobe(path), 40 * 44100);
     const auto parsley = runTool(u"AtomicParsley"_s, {path, u"-t"_s});
@@ -229,7 +229,7 @@ TEST_F(RingtoneCommand, SaysThatTheFolderCannotBeWritten) {
     const QString path = source(u"whole.m4a"_s, 12);
     QFile inTheWay(at(u"file"_s));
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
-    // Also for root, whom no permission keeps out: no folder is ever made below a file, or in /proc.
+    // Paths that even root cannot create: below a regular file, or in /proc.
     for (const QString& closed : {at(u"file"_s), u"/proc/self/fdinfo"_s}) {
         store({}, closed);
         expectOneLine(ringtone({path, u"--from"_s, u"1"_s, u"--to"_s, u"9"_s}), closed.toUtf8());
@@ -243,7 +243,8 @@ TEST_F(RingtoneCommand, SaysThatTheDiskIsFull) {
     rlimit before{};
     ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
     const rlimit small{100000, before.rlim_max};
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN); // inherited by the program: a full disk is an error, no signal
+    const auto handler =
+        std::signal(SIGXFSZ, SIG_IGN); // inherited by the program: a full disk gives an error instead of a signal
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
     const auto result = ringtone({path, u"--from"_s, u"1"_s, u"--to"_s, u"40"_s});
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
@@ -255,7 +256,7 @@ TEST_F(RingtoneCommand, SaysThatTheDiskIsFull) {
 }
 
 TEST_F(RingtoneCommand, StopsAtAnInterruptWithoutAHalfFile) {
-    // An hour, so that the signal finds it at work.
+    // An hour, so that the signal arrives while it works.
     ASSERT_EQ(runTool(u"ffmpeg"_s, {u"-v"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine=d=3600"_s, u"-c:a"_s,
                                     u"pcm_s16le"_s, at(u"long.wav"_s)})
                   .status,

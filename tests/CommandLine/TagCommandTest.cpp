@@ -30,7 +30,7 @@ protected:
     QTemporaryDir folder_;
 };
 
-/// With a library of its own that lists the file.
+/// Uses a separate library that lists the file.
 class TagRename : public TagCommand {
 protected:
     TagRename() {

@@ -25,7 +25,7 @@ namespace {
 
 const QString identifier = u"com.korvane.Sonaphex"_s;
 
-/// The program itself, with a home of its own.
+/// The real program with its own home folder.
 class TrimCommand : public testing::Test {
 protected:
     TrimCommand() {
@@ -40,11 +40,11 @@ protected:
         return runTool(QStringLiteral(SONAPHEX_PROGRAM), QStringList{u"trim"_s} + arguments);
     }
     [[nodiscard]] QString at(const QString& name) const { return home_.filePath(u"music/"_s + name); }
-    /// Everything in the recordings' folder, hidden files too.
+    /// All files in the recordings' folder, including hidden ones.
     [[nodiscard]] QStringList files() const {
         return QDir(at({})).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
     }
-    /// What a command left behind in the temporary folder, and the notes about unfinished edits.
+    /// Files that a command left in the temporary folder, and the notes about unfinished edits.
     [[nodiscard]] QStringList leftovers() const {
         return QDir(home_.filePath(u"tmp"_s)).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden) +
                QDir(home_.filePath(identifier + u"/Edits"_s)).entryList(QDir::Files);
@@ -178,7 +178,7 @@ TEST_F(TrimCommand, RefusesAFileThatTheRunningWindowPlays) {
     const QString path = recording(u"One.m4a"_s);
     const QByteArray before = Mpeg4Files::contentOf(path);
     ASSERT_TRUE(QFile::link(path, at(u"Link.m4a"_s)));
-    // A window that plays the file. It answers in this thread, so the commands run beside it.
+    // A window process that plays the file. It answers in this thread, so the commands run on others.
     const auto window = Platform::RunningProgram::create(identifier);
     ASSERT_TRUE(window->acquire());
     QString played = path;
@@ -196,7 +196,7 @@ TEST_F(TrimCommand, RefusesAFileThatTheRunningWindowPlays) {
     for (const QString& name : {u"One.m4a"_s, u"Link.m4a"_s})
         expectOneLine(beside({at(name), u"--from"_s, u"1"_s}), "the file is being played");
     EXPECT_EQ(Mpeg4Files::contentOf(path), before);
-    // A copy takes nothing away from the player, and neither does a cut of another file.
+    // A copy does not interrupt the player; neither does trimming another file.
     EXPECT_EQ(beside({path, u"--from"_s, u"1"_s, u"--save-as"_s, at(u"Two.m4a"_s)}).status, 0);
     EXPECT_EQ(files(), (QStringList{u"Link.m4a"_s, u"One.m4a"_s, u"Two.m4a"_s}));
     EXPECT_TRUE(leftovers().isEmpty());

@@ -183,7 +183,7 @@ TEST_F(AudioFilterWindow, AThousandRecordingsFollowTheThresholdWithoutAStutter) 
     QImage frame(filter.window()->size(), QImage::Format_ARGB32_Premultiplied);
     auto& field = outlet<QSpinBox>("lessThanSecondField");
     for (int seconds = 0; seconds <= 3600; seconds += 20) {
-        const std::clock_t begin = std::clock(); // processor time: other programs do not lengthen it
+        const std::clock_t begin = std::clock(); // processor time: the load of other programs does not change it
         field.setValue(seconds);
         filter.window()->render(&frame);
         times.push_back(double(std::clock() - begin) * 1000 / CLOCKS_PER_SEC);
@@ -204,7 +204,7 @@ TEST_F(AudioFilterWindow, TellsAScreenReaderEachPart) {
     EXPECT_EQ(model().index(0, FilteredAudioModel::Tick).data(Qt::AccessibleTextRole).toString(), u"a"_s);
 }
 
-/// With SONAPHEX_SCREENSHOTS set to a folder the pictures are kept there.
+/// When SONAPHEX_SCREENSHOTS names a folder, the pictures are saved there.
 TEST_F(AudioFilterWindow, ItsPictures) {
     QVariantList entries;
     for (int i = 0; i < 9; ++i)

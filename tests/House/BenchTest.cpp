@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the measuring scripts share: a program that fails is not timed, and unequal work is not compared.
+// Rules of all benches: a program that fails is not timed, and programs that do unequal work are not compared.
 #include "tests/support/RunTool.h"
 
 #include <gtest/gtest.h>
@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A measuring script of these lines. It prints "reached" when it came to its end.
+/// A bench script of these lines. It prints "reached" at its end.
 ToolResult bench(const QString& lines) {
     const QTemporaryDir scratch;
     return runTool(u"bash"_s,

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The house has floors: the platform, the core, the windows, the program. A floor includes nothing of a higher one, and
-// only the platform's Linux side speaks to the system's libraries.
+// The code has four layers: the platform, the core, the windows, the program. A layer includes nothing of a higher one,
+// and only the Linux side of the platform includes the system's libraries.
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -17,7 +17,7 @@ namespace {
 
 enum Floor { Platform = 1, Core, Windows, Program, Tools, Tests };
 
-/// The list by which the build sorts sources into the core and the windows' floor.
+/// The list by which the build sorts sources into the core and the windows' library.
 const QStringList& windowFloor() {
     static const QStringList entries = [] {
         QFile file(QStringLiteral(SONAPHEX_SOURCE_DIR "/cmake/WindowFloor.txt"));
@@ -45,7 +45,7 @@ Floor floorOf(const QString& path) {
     return windowFloor().contains(folder) || windowFloor().contains(stem) ? Windows : Core;
 }
 
-/// Includes of the system's libraries, which one door leads to.
+/// Whether this header belongs to a system library that only one folder may include.
 bool isOfASystemLibrary(const QString& include) {
     static const QRegularExpression libraries(
         u"^(pipewire|spa|libavcodec|libavformat|libavutil|libswresample|libavfilter|taglib|libburn|plist|xcb|X11)/"
@@ -58,7 +58,7 @@ bool mayUseSystemLibraries(const QString& path) {
     return path.contains(linuxSide) || floorOf(path) == Tests || floorOf(path) == Tools;
 }
 
-/// What is wrong with the includes of one file, one line each.
+/// The forbidden includes of one file, one line each.
 QStringList faults(const QString& root, const QString& path) {
     static const QRegularExpression includeLine(u"^\\s*#\\s*include\\s*([<\"])([^>\"]+)[>\"]"_s,
                                                 QRegularExpression::MultilineOption);
@@ -88,7 +88,7 @@ QStringList faults(const QString& root, const QString& path) {
     return found;
 }
 
-/// All faults of a tree, in the order of the paths.
+/// The faults of all files of a tree, in the order of the paths.
 QStringList faultsOf(const QString& root) {
     QStringList paths;
     QDirIterator tree(root, {u"*.h"_s, u"*.cpp"_s}, QDir::Files, QDirIterator::Subdirectories);

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The version stands in CMakeLists.txt. What packages and software centres read must say the same.
+// CMakeLists.txt defines the version. The files that packages and software centres read must state the same.
 #include <gtest/gtest.h>
 
 #include <QFile>

@@ -45,7 +45,7 @@ struct FakeRunning : Platform::RunningProgram {
     bool ask(const QByteArray&, QByteArray&, int) override { return false; }
 };
 
-/// Windows that write down what happens to them, and in which order.
+/// Windows that record their calls in order.
 struct FakeWindows : AppDelegate::Windows {
     struct Window : AppDelegate::WindowController {
         Window(QStringList& log, const QString& name) : log(log), name(name) {}
@@ -311,7 +311,7 @@ TEST_F(AppDelegateTest, AnswersBeforeItOpensAFileAndSaysWhyItCannot) {
 TEST_F(AppDelegateTest, FinishesARecordingBeforeADialogOrAPromptIsLeft) {
     ASSERT_TRUE(delegate.applicationDidFinishLaunching());
     windows.log.clear();
-    // The code behind the loop of a prompt may wait for as long as the prompt likes.
+    // The code behind a prompt's loop waits until the prompt is closed.
     Platform::MainQueue::post([this] {
         QEventLoop prompt;
         Platform::MainQueue::post([this] {

@@ -59,7 +59,7 @@ protected:
                                       {AudioRecordEntry::SavePath, path},
                                       {AudioRecordEntry::Length, double(kSeconds)}});
         }
-        // The one library of the process outlives each test's folders.
+        // The process's only library lives longer than each test's folders.
         auto& library = MediaLibrary::shareLibrary();
         library.setRecords(records);
         library.setRingtones({});
@@ -85,7 +85,7 @@ protected:
     [[nodiscard]] static QString sound(int number) {
         return sounds->filePath(u"Track %1.%2"_s.arg(number).arg(number == 4 ? u"flac"_s : u"wav"_s));
     }
-    /// A sound of its own kind: most as a disc wants them, one mono, one of many bits.
+    /// An audio file: most in the disc's format, one mono, one with more bits.
     static void makeSound(int number) {
         QStringList kind{u"-ac"_s, u"2"_s};
         if (number == 2)
@@ -101,7 +101,7 @@ protected:
     }
     static bool xdotool(const QStringList& arguments) { return XvfbSession::current()->xdotool(arguments); }
     static void keys(const QString& combination) { EXPECT_TRUE(xdotool({u"key"_s, combination})); }
-    /// Whether the pointer was on the widget and has clicked.
+    /// Whether the pointer is on the widget and has clicked it.
     static bool click(const QWidget& widget) {
         const QPoint place = widget.mapToGlobal(widget.rect().center());
         EXPECT_TRUE(xdotool({u"mousemove"_s, QString::number(place.x()), QString::number(place.y())}));
@@ -109,8 +109,8 @@ protected:
     }
 
     using Step = std::function<bool()>;
-    /// Takes one step after the other, each again and again until it answers true. The windows run loops of their own;
-    /// the steps go on inside of them.
+    /// Runs the steps in order, each repeatedly until it returns true. The windows run their own loops; the steps
+    /// continue inside them.
     void run(const QList<Step>& steps) {
         qsizetype at = 0;
         bool busy = false;
@@ -135,7 +135,7 @@ protected:
     [[nodiscard]] static QDialog* burnWindow() { return activeModal<QDialog>(u"CDBurnWnd"_s); }
     [[nodiscard]] static QDialog* sheet() { return activeModal<QDialog>(u"ProcessWnd"_s); }
 
-    /// Opens the burn window, chooses the image drive, and names the image; the sheet is up afterwards.
+    /// Opens the burn window, chooses the image drive, and names the image; afterwards the sheet is open.
     [[nodiscard]] QList<Step> burnInto(const QString& image) {
         return {
             [] {
@@ -210,7 +210,7 @@ TEST_F(BurnsFromTheLibrary, TenRecordingsBecomeAnImage) {
                          });
         return true;
     });
-    steps.append([] { return !QApplication::activeModalWidget(); }); // the sheet went, and took the window along
+    steps.append([] { return !QApplication::activeModalWidget(); }); // the sheet closed, and the window with it
     run(steps);
     EXPECT_EQ(imageFiles(), (QStringList{u"My disc.bin"_s, u"My disc.cue"_s}));
     const auto sectors = kTracks * (kSeconds + 1) * Platform::CDFormat::kSectorsPerSecond; // a second of pre-gap each

@@ -15,7 +15,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// A user's folders, empty, for as long as a test runs.
+/// Empty user folders for the duration of a test.
 struct Home {
     QTemporaryDir folder;
     EnvironmentScope home{"HOME", QFile::encodeName(folder.path())};
@@ -31,7 +31,7 @@ struct Home {
     }
 };
 
-/// The program in a process of its own, with its window on the display of the test.
+/// The program in a separate process, with its window on the test's display.
 class DesktopProgram {
 public:
     DesktopProgram() { process_.setProcessChannelMode(QProcess::ForwardedChannels); }
@@ -39,12 +39,12 @@ public:
     DesktopProgram(const DesktopProgram&) = delete;
     DesktopProgram& operator=(const DesktopProgram&) = delete;
 
-    /// Returns when its window is set up.
+    /// Returns when its window is ready.
     [[nodiscard]] bool start(const QStringList& arguments = {}) {
         process_.start(QStringLiteral(SONAPHEX_PROGRAM), arguments);
         return waitFor([this] { return state() == u"idle"_s; }, 60000);
     }
-    /// Ends it in good order, if it still runs.
+    /// Ends it normally, if it still runs.
     void end() {
         if (process_.state() == QProcess::NotRunning)
             return;
@@ -54,7 +54,7 @@ public:
         process_.kill();
         process_.waitForFinished();
     }
-    /// What another launch of it says.
+    /// The output of another launch.
     [[nodiscard]] static ToolResult launchAgain() { return runTool(QStringLiteral(SONAPHEX_PROGRAM), {}, 20000); }
     [[nodiscard]] static bool control(const QString& command) {
         return runTool(QStringLiteral(SONAPHEX_PROGRAM), {u"control"_s, command}, 20000).status == 0;
@@ -64,8 +64,8 @@ public:
         return said.status == 0 ? QJsonDocument::fromJson(said.output).object() : QJsonObject();
     }
     [[nodiscard]] static QString state() { return status().value(u"state"_s).toString(); }
-    /// Starts a recording and waits until it is so long that the filter keeps it: the clock counts from the start, what
-    /// lies on the disk is recorded.
+    /// Starts a recording and waits until it is longer than the filter's limit: the clock counts from the start, but
+    /// the length on the disk counts.
     [[nodiscard]] static bool recordForAWhile() {
         const auto recorded = [] {
             QDirIterator files(QDir::homePath(), {u"BuiltInA*.m4a"_s}, QDir::Files | QDir::Hidden,
@@ -79,7 +79,7 @@ public:
                waitFor([&] { return recorded() > 120000 && state() == u"recording"_s; }, 60000); // seven seconds
     }
     [[nodiscard]] QProcess& process() { return process_; }
-    /// Whether it ended by itself and in good order.
+    /// Whether it ended by itself with exit status 0.
     [[nodiscard]] bool endsWell() {
         return waitFor([this] { return process_.state() == QProcess::NotRunning; }, 60000) &&
                process_.exitStatus() == QProcess::NormalExit && process_.exitCode() == 0;

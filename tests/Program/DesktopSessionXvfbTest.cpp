@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program as one of many on a desktop: launched twice, covered by other windows, shown in a status bar, and ended
-// together with the session.
+// The program among others on a desktop: launched twice, covered by other windows, shown in a status bar, and ended
+// with the session.
 #include "tests/Program/DesktopProgram.h"
 #include "tests/support/AudioCheck.h"
 #include "tests/support/SessionManager.h"
@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What programs tell the desktop by way of the root window.
+/// Messages that programs send to the desktop through the root window.
 class RootMessages {
 public:
     RootMessages() {
@@ -33,7 +33,7 @@ public:
     RootMessages(const RootMessages&) = delete;
     RootMessages& operator=(const RootMessages&) = delete;
 
-    /// Takes in what came since; the text of launches, and for each wish to be active on whose behalf and of when.
+    /// Reads the new messages: the text of launches, and for each request to become active its source and time.
     void read() {
         while (auto* event = xcb_poll_for_event(connection_)) {
             const auto& message = *reinterpret_cast<const xcb_client_message_event_t*>(event);
@@ -86,7 +86,7 @@ protected:
         ASSERT_TRUE(program.start());
         ASSERT_TRUE(waitFor([this] { return manager.settledPrograms() == 1; }));
     }
-    void TearDown() override { program.end(); } // while there is a session
+    void TearDown() override { program.end(); } // while the session still exists
     SessionManager manager{user.folder.filePath(u"session"_s)};
 };
 
@@ -118,7 +118,7 @@ TEST_F(ProgramInASession, ALogoutFinishesTheRecordingBeforeItGoesOn) {
     ASSERT_TRUE(program.recordForAWhile());
     manager.askToSaveForTheEnd();
     ASSERT_TRUE(waitFor([this] { return manager.allSaved(); }, 60000));
-    expectAWholeRecording(); // by now: the session may end the program in any way it likes
+    expectAWholeRecording(); // from here on the session may end the program in any way
     EXPECT_EQ(program.process().state(), QProcess::Running) << "it is not told to end yet";
     manager.tellToDie();
     EXPECT_TRUE(program.endsWell());
@@ -166,7 +166,7 @@ TEST_F(ProgramOnADesktop, ASecondLaunchBringsTheCoveredWindowToTheFront) {
             ASSERT_TRUE(desktop().xdotool({u"windowactivate"_s, QString::number(covers.front())}));
             ASSERT_TRUE(waitFor([&] { return active() == covers && top() == covers.front(); }));
         }
-        // The user is busy in the other window: a window manager lets no program come between on its own.
+        // The user works in the other window: a window manager lets no program take the focus on its own.
         int clicks = 0;
         const auto counted = QObject::connect(&cover, &QPushButton::clicked, [&] { ++clicks; });
         ASSERT_TRUE(desktop().xdotool({u"mousemove"_s, u"640"_s, u"500"_s, u"click"_s, u"1"_s}));
@@ -188,7 +188,7 @@ TEST_F(ProgramOnADesktop, AFileIsOpenedInTheTrimWindowAtTheLaunchAndByASecondLau
     };
     ASSERT_TRUE(program.start({file}));
     EXPECT_TRUE(waitFor(trimWindows, 20000)) << "at the launch";
-    // The modal window gets the keyboard when the window manager has made it the active one.
+    // The modal window gets the keyboard once the window manager has made it active.
     const auto isActive = [] {
         const QString trim = desktop().xdotoolOutput({u"search"_s, u"--onlyvisible"_s, u"--name"_s, u"^Trim"_s});
         return desktop().windowsOfRoot("_NET_ACTIVE_WINDOW") == QList<quint32>{trim.toUInt()};

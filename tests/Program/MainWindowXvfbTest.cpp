@@ -38,8 +38,8 @@ TEST_F(MainWindowOnADesktop, RecordsFromTheToneWithTheButtons) {
 }
 
 TEST_F(MainWindowOnADesktop, ADoubleClickPlaysAndTheBarSeeks) {
-    makeRecording(6); // longer than a busy machine takes from the beginning to the key that pauses
-    // Two clicks are one double click, however late the second one is.
+    makeRecording(6); // longer than a busy machine needs from the start to the key that pauses
+    // Two clicks count as a double click, even when the second one is delivered late.
     const int interval = QApplication::doubleClickInterval();
     QApplication::setDoubleClickInterval(30000);
     clickAt(rowPlace(0), 1, 2);
@@ -136,7 +136,7 @@ TEST_F(MainWindowOnADesktop, HotKeysWorkWhileTheWindowIsMinimisedAndObeyTheirGua
     keys(u"ctrl+super+s"_s);
     ASSERT_TRUE(waitFor([&] { return !record().isStateAudioRecord(); }));
     record().chooseRecordBuiltIn(false);
-    // Every press of a hot key is told; by the second one the first has done all that it does.
+    // Every press of a hot key is reported; when the second one arrives, the first has been handled.
     int arrived = 0;
     const auto presses = Platform::NotificationCenter::defaultCenter().addObserver(
         HotKeyRegister::HotKeyRegisterNotification, [&](const QString&, const Dictionary&) { ++arrived; });
@@ -156,7 +156,7 @@ TEST_F(MainWindowOnADesktop, TheStatusBarItemShowsTheTitlesOfTheState) {
             return each->inherits("QSystemTrayIconSys") && each->windowHandle() && each->windowHandle()->isExposed();
         });
     };
-    // A tray moves its icons about while it makes room for them: a click may miss.
+    // A tray moves its icons while it makes room for them, so a click may miss.
     const auto opensItsMenu = [&] {
         const auto isOpen = [&] { return item->systemBarMenu()->isVisible(); };
         return waitFor([&] {
@@ -169,7 +169,7 @@ TEST_F(MainWindowOnADesktop, TheStatusBarItemShowsTheTitlesOfTheState) {
     controller->startAndStopRecord();
     ASSERT_TRUE(waitFor([&] { return record().recordedSeconds() > 0.2; }, 60000));
     controller->pauseAndResumeRecord();
-    // Trays keep copies of the menus: the titles are right before the menu opens.
+    // Trays keep copies of the menus, so the titles must be right before the menu opens.
     EXPECT_EQ(item->startStopMenu()->text(), u"Stop Record"_s);
     EXPECT_EQ(item->pauseResumeMenu()->text(), u"Resume Record"_s);
     EXPECT_TRUE(item->startNewRecordMenu()->isEnabled());

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program with its window, as a process: launched twice, spoken to, and ended by a signal.
+// The program with its window, as a process: launched twice, sent requests, and ended by a signal.
 #include "Platform/Audio/linux/ServerProbe.h"
 #include "tests/support/AudioCheck.h"
 #include "tests/support/Environment.h"
@@ -96,7 +96,7 @@ TEST_F(RunningWindow, FinishesItsRecordingWhenItIsAskedToEnd) {
     ASSERT_TRUE(waitFor(
         [this] {
             return QFileInfo(tmp_ + u"/com.korvane.Sonaphex/BuiltInA0.m4a"_s).size() >
-                   120000; // seven seconds: no filter
+                   120000; // seven seconds: long enough for the filter
         },
         40000));
     ::kill(pid_t(window_.processId()), SIGTERM);
@@ -115,7 +115,8 @@ TEST_F(RunningWindow, EntersARecordingOnceHoweverLateItAnswers) {
         runTool(QStringLiteral(SONAPHEX_PROGRAM), {u"record"_s, u"--for"_s, u"1"_s, u"--filter"_s, u"off"_s});
     EXPECT_EQ(recorded.status, 0) << recorded.errors.constData();
     ASSERT_EQ(::kill(pid_t(window_.processId()), SIGCONT), 0);
-    ASSERT_TRUE(waitFor([this] { return control(u"status"_s).startsWith("idle"); }, 30000)); // it asked later
+    ASSERT_TRUE(
+        waitFor([this] { return control(u"status"_s).startsWith("idle"); }, 30000)); // this request came later
     ::kill(pid_t(window_.processId()), SIGTERM);
     ASSERT_TRUE(waitFor([this] { return window_.state() == QProcess::NotRunning; }, 30000));
     const auto listed = runTool(QStringLiteral(SONAPHEX_PROGRAM), {u"library"_s});

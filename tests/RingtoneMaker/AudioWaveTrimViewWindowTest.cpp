@@ -77,7 +77,7 @@ TEST_F(Selection, ATypedBeginKeepsTheEndWhereTheLimitsAllowIt) {
     select(10, 30);
     seconds = 200;
     select(60, 90);
-    view.setAudioFromTime(10); // would be 80 seconds: the length stays and the end moves
+    view.setAudioFromTime(10); // would give 80 seconds: the length stays and the end moves
     expect(10, 40);
     view.setAudioFromTime(-3);
     expect(0, 40);

@@ -51,7 +51,7 @@ TEST_F(RingtoneFileTest, IsMpeg4WithFadesAndTheLengthOfTheStretch) {
     EXPECT_EQ(result.problem + result.damage, QString());
     EXPECT_EQ(files.last().type, kAudioFileM4AType);
     const auto& samples = files.last().samples.at(0);
-    EXPECT_EQ(samples.size(), 862U * 512); // ten seconds, in whole blocks
+    EXPECT_EQ(samples.size(), 862U * 512); // ten seconds, rounded up to whole blocks
     EXPECT_EQ(samples[0], 0);
     EXPECT_NEAR(samples[44100 * 5 / 2], 0.25, 0.001);
     EXPECT_NEAR(samples[441000 - 4410 - 44100 * 5 / 2], 0.25, 0.001);

@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// While it lives, permissions of files hold for root as well: on this thread, and on those that it starts.
+/// While it lives, file permissions also apply to root: on this thread, and on threads that it starts.
 class PermissionsHold {
 public:
     PermissionsHold() {
@@ -37,7 +37,7 @@ private:
     __user_cap_data_struct before_[2]{};
 };
 
-/// The ringtone maker's window over real files and the real encoder.
+/// The ringtone maker's window with real files and the real encoder.
 class RingtoneMakerOnADisk : public testing::Test {
 protected:
     RingtoneMakerOnADisk() : media(Platform::createMediaFiles()) {
@@ -62,7 +62,7 @@ protected:
         QTest::mouseClick(&button, Qt::LeftButton);
         ASSERT_TRUE(waitFor([&] { return !world.maker.isWriting() && !world.maker.window()->isVisible(); }));
     }
-    /// One alert with one line that names @p place; the recording is as it was, and nothing else is left.
+    /// Expects one alert with one line that names @p place, the recording unchanged, and no other file left.
     void expectFailure(const QString& place) const {
         ASSERT_EQ(world.alerts.shown.size(), 1);
         EXPECT_EQ(world.alerts.shown[0].title, u"The ringtone could not be made."_s);
@@ -110,7 +110,7 @@ TEST_F(RingtoneMakerOnADisk, WritesWhenNothingIsInTheWay) {
     EXPECT_EQ(read(source), content);
 }
 
-/// Bytes that this process holds now, those of its files left out.
+/// Memory of this process, without mapped files.
 qint64 ownMemory() {
     ::malloc_trim(0);
     QFile file(u"/proc/self/status"_s);
@@ -122,7 +122,7 @@ qint64 ownMemory() {
     return -1;
 }
 
-/// Ten hours of silence in one channel of 16 bits: the file holds its head and else nothing.
+/// Ten hours of silence, mono, 16 bits: a sparse file with only a header.
 void makeTenHours(const QString& path) {
     constexpr quint32 rate = 44100;
     constexpr quint32 bytes = 36000 * rate * 2;
@@ -147,7 +147,7 @@ void makeTenHours(const QString& path) {
 }
 
 TEST_F(RingtoneMakerOnADisk, TenHoursTakeLittleMemory) {
-    open(5); // the window has been up once, as a program's window has
+    open(5); // opens the window once first, as in a running program
     ASSERT_TRUE(world.outlineDone());
     const qint64 before = ownMemory();
     ASSERT_GT(before, 0);

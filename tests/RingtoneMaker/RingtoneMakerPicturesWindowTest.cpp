@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What people see. With SONAPHEX_SCREENSHOTS set to a folder the pictures are kept there.
+/// Pictures of the window. When SONAPHEX_SCREENSHOTS names a folder, they are saved there.
 class RingtonePictures : public testing::Test {
 protected:
     void take(const QString& name, qreal ratio = 1) {

@@ -74,7 +74,7 @@ TEST_F(RingtoneMaker, ShowsAnOutlineOfMoreThanTenValuesOnly) {
 
 TEST_F(RingtoneMaker, ClosingOrOpeningAnotherFileDiscardsTheOutlineUnderWay) {
     const QString slow = world.recording(u"slow.m4a"_s, 36000);
-    world.media.sources[slow].sparse = false; // read from begin to end
+    world.media.sources[slow].sparse = false; // must be read from begin to end
     world.maker.openFile(slow, {});
     world.open(12);
     ASSERT_TRUE(world.outlineDone());
@@ -324,7 +324,7 @@ TEST_F(RingtoneMaker, StaysUpAndPaintsWhileItWrites) {
         seen = world.maker.window()->isVisible() && world.outlet("progressBar").isVisible() &&
                !world.outlet("makeButton").isEnabled() && !world.outlet("audioEditScrollView").isEnabled() &&
                !world.outlet("fadeInField").isEnabled() && world.outlet("cancelButton").isEnabled();
-        world.maker.converterAudio(); // a second one is refused
+        world.maker.converterAudio(); // a second call is refused
         QTest::keyClick(world.maker.window(), Qt::Key_Escape);
         look.stop();
     });
@@ -371,7 +371,7 @@ TEST_F(RingtoneMaker, ServesTenHoursWithoutAStutter) {
     for (int x = 20; x < 800; ++x)
         red += frame.pixelColor(x, 140).red() > 200 && frame.pixelColor(x, 140).green() < 100 ? 1 : 0;
     EXPECT_GT(red, 300) << "the end of the file has its outline";
-    // Processor time, which other programs of the machine do not lengthen: the median of many frames.
+    // Processor time, which the load of other programs does not change: the median of many frames.
     std::vector<double> times;
     for (int i = 0; i < 60; ++i) {
         bar().setValue(1000 + i * 300);

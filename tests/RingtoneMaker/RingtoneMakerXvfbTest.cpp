@@ -28,12 +28,12 @@ protected:
     }
 };
 
-/// The ringtone maker's window under a real window manager, with the pointer of an X server.
+/// The ringtone maker's window under a real window manager, with the X server's pointer.
 class RingtoneMakerOnADesktop : public testing::Test {
 protected:
-    /// A test that failed may leave the button down.
+    /// A failed test may leave the button pressed.
     void TearDown() override { (void)RealPointer::run({u"mouseup"_s, u"1"_s}); }
-    /// Runs @p test while the window is up, as modally as in the program.
+    /// Runs @p test while the window is open, modal as in the program.
     void withWindow(double seconds, const std::function<void()>& test) {
         world.open(seconds);
         bool ran = false;
@@ -56,7 +56,7 @@ protected:
         selection().setAudioLength((to - from) * 10);
         QCoreApplication::processEvents();
     }
-    /// A place of the outline on the screen, in seconds of the recording.
+    /// The screen position of a point of the outline, in seconds of the recording.
     [[nodiscard]] QPoint at(double seconds) const { return RealPointer::onScreen(wave(), {seconds * 10, 90}); }
     [[nodiscard]] QPoint leftHandle() const { return RealPointer::onScreen(selection(), {4, 90}); }
     [[nodiscard]] QPoint rightHandle() const {
@@ -69,7 +69,7 @@ protected:
         EXPECT_NEAR(selection().audioFromTime(), from, 0.01);
         EXPECT_NEAR(selection().audioToTime(), to, 0.01);
     }
-    /// Waits until a scrolling timer, had it gone on, would have moved the bar a few times.
+    /// Waits so long that a scrolling timer, if it still ran, would have moved the bar a few times.
     [[nodiscard]] static bool severalTurns() {
         int turns = 0;
         QTimer timer;
@@ -157,7 +157,7 @@ TEST_F(RingtoneMakerOnADesktop, APointerAtRestBesideTheEdgeScrollsOnWhileASelect
         ASSERT_TRUE(waitFor([&] { return buttons.releases == 1; }));
         const int stopped = bar().value();
         EXPECT_NEAR(selection().audioFromTime(), 50, 0.01);
-        // The selection's end is below the pointer, wherever the scrolling brought it.
+        // The selection's end is below the pointer, wherever the view scrolled to.
         EXPECT_NEAR(selection().audioToTime(), wave().mapFromGlobal(outside).x() / 10.0, 0.01);
         ASSERT_TRUE(severalTurns());
         EXPECT_EQ(bar().value(), stopped);

@@ -19,10 +19,10 @@ constexpr int kRate = 48000;
 constexpr double kSeconds = 100;
 constexpr double kLevel = 0.5;
 
-/// What the output played, read back from a recording whose left channel tells the time and whose right one is steady:
-/// their ratio is the place in the file, the right one alone is the volume.
+/// What the output played, computed from a recording whose left channel encodes the time and whose right channel is
+/// constant: their ratio gives the position in the file, the right one alone the volume.
 struct Heard {
-    double place = 0; ///< seconds of the file
+    double place = 0; ///< position in the file, in seconds
     double gain = 0;
 };
 
@@ -34,11 +34,11 @@ std::vector<Heard> heard(const std::vector<float>& interleaved) {
     return all;
 }
 
-/// One run through the selection: frames whose places grow.
+/// One pass through the selection: frames with increasing positions.
 std::vector<std::vector<Heard>> passes(const std::vector<Heard>& all) {
     std::vector<std::vector<Heard>> found;
     for (const Heard& each : all) {
-        // Near silence a float's last digits move the ratio by less than this.
+        // Near silence, rounding of the float samples changes the ratio by less than this.
         if (found.empty() || each.place < found.back().back().place - 1)
             found.emplace_back();
         found.back().push_back(each);
@@ -116,7 +116,7 @@ TEST_F(RingtonePreview, LoopsOverTheSelectionWithItsFades) {
     for (int point = 0; point < 20; ++point) {
         const double rule = (point % 10 + 0.5) / 10;
         const double place = point < 10 ? from + rule * fade : to - rule * fade;
-        // A busy machine may be late with the volume once; a wrong rule is heard in each pass.
+        // A busy machine may apply the volume late once; a wrong rule would show in each pass.
         double off = 100;
         for (std::size_t pass = 0; pass < 2; ++pass) {
             const auto at = std::lower_bound(runs[pass].begin(), runs[pass].end(), place,

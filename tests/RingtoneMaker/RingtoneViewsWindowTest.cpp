@@ -55,7 +55,7 @@ TEST(AudioEditTimeView, IsDrawnAnewForAnotherWidthOnly) {
 }
 
 TEST(AudioEditTimeView, LooksTheSameAcrossTheBordersOfItsTiles) {
-    // The label of 00:01:40, which begins at 1005, reaches over the border at 1024.
+    // The label of 00:01:40, which begins at 1005, crosses the boundary at 1024.
     Theme::install(*qApp, nullptr);
     AudioEditTimeView ruler;
     ruler.resize(1200, 32);

@@ -16,7 +16,7 @@
 
 #include <cmath>
 
-/// The ringtone maker's window over recordings that are functions, and an owner that notes what it is given.
+/// The ringtone maker's window with recordings that are computed by functions, and an owner that records its calls.
 struct RingtoneWorld : LibraryWorld, RingtoneMakerViewControllerDelegate {
     RingtoneWorld() {
         Platform::services().mediaFiles = &media;
@@ -36,7 +36,7 @@ struct RingtoneWorld : LibraryWorld, RingtoneMakerViewControllerDelegate {
         entries.append(tags);
     }
 
-    /// A recording of this many seconds: swelling and fading noise of speech.
+    /// A recording of this many seconds that sounds like speech: noise that swells and fades.
     QString recording(const QString& name, double seconds) {
         const QString path = folder.filePath(name);
         auto& source = media.addSource(path, seconds, [](int, std::int64_t frame) {
@@ -65,7 +65,7 @@ struct RingtoneWorld : LibraryWorld, RingtoneMakerViewControllerDelegate {
     [[nodiscard]] W& outlet(const char* name) const {
         return *maker.window()->findChild<W*>(QString::fromLatin1(name));
     }
-    /// Mouse events in points of a view, sent to the window as the desktop does.
+    /// Sends mouse events, in view coordinates, to the window as the desktop does.
     void press(QWidget& view, QPoint at) const { mouse(&QTest::mousePress, view, at); }
     void release(QWidget& view, QPoint at) const { mouse(&QTest::mouseRelease, view, at); }
     void moveTo(QWidget& view, QPoint at) const {
@@ -73,7 +73,7 @@ struct RingtoneWorld : LibraryWorld, RingtoneMakerViewControllerDelegate {
         QCoreApplication::processEvents();
     }
     void drag(QWidget& view, QPoint from, QPoint to) const {
-        const QPoint global = view.mapTo(view.window(), QPoint(0, 0)); // the view may move meanwhile
+        const QPoint global = view.mapTo(view.window(), QPoint(0, 0)); // the view may move between the two events
         auto* const window = view.window()->windowHandle();
         QTest::mousePress(window, Qt::LeftButton, {}, global + from);
         for (const double share : {0.3, 0.7, 1.0})

@@ -9,12 +9,12 @@
 
 #include <functional>
 
-/// Notes the commands it is given and runs them with the rights of the test, unless it is told to refuse.
+/// Records its commands and runs them with the test's own rights, unless it is set to refuse.
 class FakeAdminShell : public Platform::AdminShell {
 public:
     QStringList commands;
     std::optional<QString> refusal;
-    /// Called on the worker before a command runs.
+    /// Called on the worker before each command.
     std::function<void()> before;
 
     std::optional<QString> executeShellStringWithAdmin(const QString& command) override {

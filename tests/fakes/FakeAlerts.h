@@ -7,7 +7,7 @@
 #include <QList>
 #include <functional>
 
-/// Answers alerts from a script and keeps what they said. Without a script the default button (0) is taken.
+/// Answers alerts from a script and keeps their texts. Without a script it chooses the default button (0).
 class FakeAlerts : public Platform::Alerts {
 public:
     struct Shown {
@@ -23,7 +23,7 @@ public:
         return answers.isEmpty() ? 0 : answers.takeFirst();
     }
 
-    QList<int> answers; ///< the next ones first
+    QList<int> answers; ///< for the next alerts, in order
     QList<Shown> shown;
-    std::function<void()> whileShown; ///< runs while an alert is up
+    std::function<void()> whileShown; ///< runs while an alert is open
 };

@@ -33,7 +33,7 @@ OSStatus FakeInputUnit::feedValue(float value, std::uint32_t frames, std::uint64
 
 OSStatus FakeInputUnit::render(std::uint32_t*, const AudioTimeStamp*, std::uint32_t, std::uint32_t frames,
                                AudioBufferList* data) {
-    // No step(): a cycle must not allocate, and a test counts.
+    // Does not call step(): a cycle must not allocate, and a test counts allocations.
     if (state_->fails.contains(Step::Render))
         return -1;
     for (std::uint32_t i = 0; i < data->mNumberBuffers; ++i) {

@@ -8,7 +8,7 @@
 #include <set>
 #include <vector>
 
-/// An input unit whose I/O thread is the test: feed() is one cycle. Every step can be told to fail.
+/// An input unit whose I/O thread is the test: feed() runs one cycle. Every step can be made to fail.
 class FakeInputUnit final : public Platform::InputUnit {
 public:
     enum class Step {
@@ -24,10 +24,10 @@ public:
         Render
     };
 
-    /// What the unit does and what was done to it. Shared, so that a test reads it after the unit is gone.
+    /// The unit's settings and a record of its calls. Shared, so that a test can read it after the unit is destroyed.
     struct State {
         std::set<Step> fails;
-        std::vector<Step> steps; ///< in the order of the calls
+        std::vector<Step> steps; ///< in call order
         double sampleRate = 48000;
         std::uint32_t channels = 2;
         std::uint32_t bufferFrames = 512;
@@ -40,7 +40,7 @@ public:
         std::uint64_t lost = 0;
         bool fillsLost = false;
         bool startsAnew = false;       ///< the next cycle is the first of a new connection
-        FakeInputUnit* unit = nullptr; ///< null once closed
+        FakeInputUnit* unit = nullptr; ///< null once it is destroyed
     };
 
     explicit FakeInputUnit(std::shared_ptr<State> state) : state_(std::move(state)) { state_->unit = this; }
@@ -50,12 +50,12 @@ public:
         state_->running = false;
     }
 
-    /// One cycle with these samples, one vector a channel. A missing channel of the client format is silent.
-    /// @return what the callback answered
+    /// Runs one cycle with these samples, one vector per channel. A missing channel of the client format is silent.
+    /// @return the callback's result
     OSStatus feed(const std::vector<std::vector<float>>& channels, std::uint64_t hostTime = 0);
-    /// One cycle of the same sample in every channel.
+    /// Runs one cycle with the same sample in every channel.
     OSStatus feedValue(float value, std::uint32_t frames, std::uint64_t hostTime = 0);
-    /// Tells the event handler.
+    /// Calls the event handler.
     void tell(Event event) {
         if (handler_)
             handler_(event);
@@ -115,7 +115,7 @@ private:
     double sampleTime_ = 0;
 };
 
-/// A machine's devices as a list that the test writes.
+/// The test defines the list of devices.
 class FakeAudioHardware : public Platform::AudioHardware {
 public:
     struct Element {
@@ -129,7 +129,7 @@ public:
         AudioObjectID id = 0;
         QString name;
         QString uid;
-        std::uint32_t inputChannels = 2; ///< 0: it only plays
+        std::uint32_t inputChannels = 2; ///< 0: an output only
         std::uint32_t outputChannels = 0;
         double sampleRate = 48000;
         bool nameFails = false;
@@ -143,13 +143,13 @@ public:
     bool unitOpens = true;
     bool isConnected = true;
     bool testTone = false;
-    /// How units of a device behave; "the next unit" when a device has no entry. Made at need.
+    /// How units of a device behave; nextUnit is used for a device without an entry. Created on demand.
     std::shared_ptr<FakeInputUnit::State> nextUnit = std::make_shared<FakeInputUnit::State>();
     std::function<void()> onOpen; ///< called before a unit is opened
-    /// States of all units that were opened, oldest first.
+    /// The states of all opened units, oldest first.
     std::vector<std::shared_ptr<FakeInputUnit::State>> opened;
 
-    /// Adds a device and says so.
+    /// Adds a device and emits devicesChanged().
     void add(Device device) {
         list.push_back(std::move(device));
         Q_EMIT devicesChanged();
@@ -164,14 +164,14 @@ public:
                 return &device;
         return nullptr;
     }
-    /// The unit that was opened last, null when it is closed or there is none.
+    /// The unit that was opened last; null when it is closed or there is none.
     [[nodiscard]] FakeInputUnit* unit() const { return opened.empty() ? nullptr : opened.back()->unit; }
     /// The open unit on this device.
     [[nodiscard]] FakeInputUnit* unitOf(AudioObjectID id) const {
         const auto state = stateOf(id);
         return state ? state->unit : nullptr;
     }
-    /// And its state.
+    /// The state of that unit.
     [[nodiscard]] std::shared_ptr<FakeInputUnit::State> stateOf(AudioObjectID id) const {
         for (auto state = opened.rbegin(); state != opened.rend(); ++state)
             if ((*state)->device == id && (*state)->unit)

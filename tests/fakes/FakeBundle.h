@@ -4,7 +4,7 @@
 
 #include "Platform/Foundation/Bundle.h"
 
-/// A bundle with any identifier and any folder of resources; by default the real ones of the build.
+/// A bundle with any identifier and any resource folder; the build's own by default.
 class FakeBundle : public Platform::Bundle {
 public:
     [[nodiscard]] QString bundleIdentifier() const override { return identifier; }

@@ -8,8 +8,8 @@
 
 #include <QTimeZone>
 
-/// A clock that stands until the test moves it. Callable from any thread. A HostTimeScope wins over its host time, as
-/// with the real clock.
+/// A clock that only moves when the test advances it. Any thread. A HostTimeScope overrides its host time, as with the
+/// real clock.
 class FakeClock : public Platform::Clock {
 public:
     [[nodiscard]] double timeIntervalSinceReferenceDate() const override { return seconds_; }
@@ -17,7 +17,7 @@ public:
         const std::uint64_t ofCycle = Platform::HostTimeScope::current();
         return ofCycle != 0 ? ofCycle : nanoseconds_.load();
     }
-    /// The reference date plus the seconds, in UTC: tests do not depend on where they run.
+    /// The reference date plus the seconds, in UTC: tests do not depend on the machine's time zone.
     [[nodiscard]] QDateTime now() const override {
         return QDateTime(QDate(2001, 1, 1), QTime(0, 0), Qt::UTC).addMSecs(static_cast<qint64>(seconds_ * 1000));
     }

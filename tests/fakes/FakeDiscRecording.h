@@ -27,7 +27,7 @@ public:
         return ejectWorks;
     }
 
-    /// A blank disc with this many free blocks is in.
+    /// Inserts a blank disc with this many free blocks.
     void insertBlankDisc(std::int64_t freeBlocks = 360'000) {
         state.mediaState = Platform::DRDeviceMediaStateMediaPresent;
         state.mediaBlocksFree = freeBlocks;
@@ -63,7 +63,7 @@ private:
     Platform::DRTrackProperties properties_;
 };
 
-/// A burn that notes what it is told, in the order of the calls, and makes progress when the test says so.
+/// A burn that records its calls in order and makes progress when the test says so.
 class FakeBurn : public Platform::DRBurn, public std::enable_shared_from_this<FakeBurn> {
 public:
     explicit FakeBurn(Platform::DRNotificationCenter& center) : center_(center) {}
@@ -90,7 +90,7 @@ public:
     }
     bool wasDeclined() const override { return declined; }
 
-    /// The burn reaches this state; its observers are told at once.
+    /// Moves the burn to this state and notifies its observers at once.
     void reach(Platform::DRStatusState reached, double share, const QString& reason = {}) {
         state = {reached, share, reason};
         center_.deliver({Platform::DRBurnStatusChangedNotification, shared_from_this()});
@@ -127,7 +127,7 @@ private:
     Platform::DRNotificationCenter& center_;
 };
 
-/// Drives, burns and erases that a test drives by hand.
+/// Drives, burns and erases that the test controls.
 class FakeDiscRecording : public Platform::DiscRecording {
 public:
     std::vector<std::shared_ptr<Platform::DRDevice>> devices() override { return drives; }
@@ -168,11 +168,11 @@ public:
         drives.push_back(drive);
         return drive;
     }
-    /// Tells the observers of a drive that its status changed, at once.
+    /// Notifies the observers of a drive at once that its status changed.
     void statusChanged(const std::shared_ptr<Platform::DRDevice>& drive) {
         center.deliver({Platform::DRDeviceStatusChangedNotification, drive});
     }
-    /// Tells everyone that a drive came or went, at once.
+    /// Notifies all observers at once that a drive was added or removed.
     void listChanged() { center.deliver({Platform::DRDeviceListChangedNotification, nullptr}); }
     [[nodiscard]] std::shared_ptr<FakeBurn> lastBurn() const { return burns.empty() ? nullptr : burns.back(); }
 
@@ -180,7 +180,7 @@ public:
     std::vector<std::shared_ptr<Platform::DRDevice>> drives;
     std::vector<std::shared_ptr<FakeBurn>> burns;
     std::vector<std::shared_ptr<FakeErase>> erases;
-    QSet<QString> unreadable; ///< paths that no track can be made of
+    QSet<QString> unreadable; ///< paths for which no track can be created
     QString imagePath;
     bool refusesBurns = false;
     bool declinesBurns = false;

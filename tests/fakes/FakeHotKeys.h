@@ -8,7 +8,7 @@
 #include <set>
 #include <utility>
 
-/// Hot keys without a keyboard: refuses what the test says others hold, and presses what it is told to.
+/// Hot keys without a keyboard: the test says which combinations others hold, and presses combinations.
 class FakeHotKeys : public Platform::HotKeys {
 public:
     struct Registration {
@@ -32,7 +32,7 @@ public:
     }
     void unregisterHotKey(Handle handle) override { registrations.erase(handle); }
 
-    /// The user presses the combination; false when nobody registered it.
+    /// Simulates a press of the combination; false when it is not registered.
     bool press(std::uint16_t keyCode, std::uint32_t carbonModifiers) {
         for (const auto& [handle, taken] : registrations) {
             if (taken.keyCode == keyCode && taken.carbonModifiers == carbonModifiers) {
@@ -42,7 +42,7 @@ public:
         }
         return false;
     }
-    /// The desktop refuses a combination that it had taken.
+    /// Simulates a desktop that refuses a combination it had accepted before.
     void refuse(std::uint16_t keyCode, std::uint32_t carbonModifiers) {
         for (const auto& [handle, taken] : registrations) {
             if (taken.keyCode != keyCode || taken.carbonModifiers != carbonModifiers)

@@ -6,7 +6,8 @@
 
 #include <map>
 
-/// A registry whose entries the test writes. Counts holds, so that a test sees what was not given back.
+/// A registry whose entries the test defines. Counts retained objects, so that a test finds those that were not
+/// released.
 class FakeIORegistry : public Platform::IORegistry {
 public:
     struct Entry {

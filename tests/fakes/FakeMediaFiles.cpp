@@ -104,7 +104,7 @@ std::unique_ptr<Platform::ExtAudioFileReader> FakeMediaFiles::openReader(const Q
 
 bool FakeMediaFiles::info(const QString& path, Platform::AudioFileInfo& info, Platform::MediaError& error) {
     if (knowsItsFiles)
-        // The newest first: a file that is gone has left its number to a later one.
+        // Newest first: a removed file's inode number may have been reused by a later file.
         for (auto file = files.rbegin(); file != files.rend(); ++file)
             if ((*file)->inode == inodeOf(path)) {
                 info.dataFormat = (*file)->format;

@@ -9,24 +9,24 @@
 
 #include <QMap>
 
-/// Writers that keep what they are given in memory, in the client format. A file of the same name is really made, so
-/// that names count as taken; it holds nothing.
+/// Writers that keep their frames in memory, in the client format. An empty file of the same name is created, so that
+/// the name counts as taken.
 class FakeMediaFiles : public Platform::MediaFiles {
 public:
-    /// One file that was created, for as long as the test looks at it.
+    /// One created file, for as long as the test refers to it.
     struct File {
         QString path;
-        std::uint64_t inode = 0; ///< of the real file, which keeps it when it is moved
+        std::uint64_t inode = 0; ///< of the real file; it stays the same when the file is moved
         std::uint32_t type = 0;
         std::uint32_t flags = 0;
         AudioStreamBasicDescription format;
         AudioStreamBasicDescription clientFormat;
         std::vector<std::int32_t> channelMap;
-        std::vector<std::vector<float>> samples; ///< one vector a client channel
+        std::vector<std::vector<float>> samples; ///< one vector per client channel
         std::int64_t framesAccepted = 0;
         bool primed = false;
         bool disposed = false;
-        bool keepSamples = true; ///< off: a cycle costs no memory
+        bool keepSamples = true; ///< false: a cycle uses no memory
         const File* predecessor = nullptr;
         OSStatus clientFormatStatus = noErr;
         OSStatus channelMapStatus = noErr;
@@ -43,11 +43,11 @@ public:
     OSStatus channelMapStatus = noErr;
     OSStatus primeStatus = noErr;
     bool hasConverter = true;
-    /// Oldest first.
+    /// All created files, oldest first.
     std::vector<std::shared_ptr<File>> files;
-    /// Whether info() also knows the files that were created, by their frames, wherever they were moved to.
+    /// Whether info() also describes the created files by their frames, wherever they were moved to.
     bool knowsItsFiles = false;
-    /// What info() answers of a path; other paths are unknown.
+    /// What info() returns for a path; other paths are unknown.
     QMap<QString, Platform::AudioFileInfo> infos;
 
     [[nodiscard]] File& last() { return *files.back(); }

@@ -6,7 +6,7 @@
 
 #include <QStringList>
 
-/// Answers panels from a script and keeps what they asked.
+/// Answers panels from a script and keeps their questions.
 class FakePanels : public Platform::Panels {
 public:
     void chooseFolder(QObject*, const QString& prompt, const QString& startFolder, Chosen done) override {
@@ -33,8 +33,8 @@ public:
         return answer;
     }
 
-    std::optional<QString> answer; ///< nothing is Cancel
-    QStringList answers;           ///< of a panel that picks any number
+    std::optional<QString> answer; ///< empty means Cancel
+    QStringList answers;           ///< for panels that pick any number
     QStringList prompts;
     QStringList startFolders;
 };

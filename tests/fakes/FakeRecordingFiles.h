@@ -14,8 +14,8 @@
 #include <QFile>
 #include <QFileInfo>
 
-/// Files of recordings without their sound: writers as FakeMediaFiles has them, every file that exists has a length,
-/// and movies and readers that do their part of a mix.
+/// Recordings without audio: the writers of FakeMediaFiles, a length for every existing file, and movies and readers
+/// that are sufficient for a mix.
 class FakeRecordingFiles : public FakeMediaFiles {
 public:
     struct Mix {
@@ -27,10 +27,10 @@ public:
 
     double seconds = 10; ///< the length of every file that exists
     QMap<QString, double> secondsOf;
-    std::set<QString> unreadable; ///< movies that do not open
+    std::set<QString> unreadable; ///< movies that cannot be opened
     Platform::MediaError mixError;
-    Platform::MediaError mixReadError; ///< what a mix could not read of its tracks
-    Platform::MediaError readError;    ///< what a reader meets
+    Platform::MediaError mixReadError; ///< the read error of a mix
+    Platform::MediaError readError;    ///< the error of a reader
     std::atomic<bool> holdMix{false};  ///< a mix waits while this is set
     std::atomic<int> mixesStarted{0};
     std::atomic<bool> holdInfo{false}; ///< whoever measures a file waits while this is set; for 30 s at most

@@ -4,7 +4,7 @@
 
 #include "Platform/Desktop/SleepInhibitor.h"
 
-/// Notes whether sleep is held off.
+/// Records whether sleep is inhibited.
 struct FakeSleepInhibitor : Platform::SleepInhibitor {
     void setInhibited(bool on, const QString& reason) override {
         inhibited = on;

@@ -7,7 +7,7 @@
 #include <QMap>
 #include <QStringList>
 
-/// A player that notes what it is told and plays nothing. A paused sound counts as playing, as with the real one.
+/// A player that records its calls and plays nothing. A paused sound counts as playing, as with the real one.
 class FakeSound : public Platform::Sound {
 public:
     explicit FakeSound(const QString& path) : path_(path) {}
@@ -15,7 +15,7 @@ public:
     double seconds = 10;
     double time = 0;
     float gain = 1;
-    double delay = 0; ///< of the volume, in seconds
+    double delay = 0; ///< until a new volume takes effect, in seconds
     bool playing = false;
     bool paused = false;
     bool playFails = false;
@@ -50,7 +50,7 @@ public:
         end();
         return true;
     }
-    /// The end of the file.
+    /// Simulates the end of the file.
     void end() {
         playing = false;
         paused = false;
@@ -64,12 +64,12 @@ private:
     QString path_;
 };
 
-/// Opens FakeSounds; the one opened last is there for the test as long as its owner keeps it.
+/// Opens FakeSounds; the last one is available to the test as long as its owner keeps it.
 class FakeSounds : public Platform::Sounds {
 public:
     FakeSound* last = nullptr;
-    QMap<QString, double> lengths; ///< of the paths that are known
-    double otherLength = 10;       ///< of all others; 0 for files that cannot be played
+    QMap<QString, double> lengths; ///< of the known paths
+    double otherLength = 10;       ///< of all others; 0 means that the file cannot be played
     bool playFails = false;        ///< as without a sound server
     std::unique_ptr<Platform::Sound> open(const QString& path) override {
         auto sound = std::make_unique<FakeSound>(path);

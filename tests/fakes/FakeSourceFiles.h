@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-/// FakeMediaFiles that can also be read: each source is a function of channel and frame, at the client rate.
+/// A FakeMediaFiles that can also be read: each source is a function of channel and frame, at the client rate.
 class FakeSourceFiles : public FakeMediaFiles {
 public:
     using Signal = std::function<float(int channel, std::int64_t frame)>;
@@ -15,18 +15,18 @@ public:
         Signal signal;
         std::int64_t frames = 0;
         OSStatus clientFormatStatus = noErr;
-        int failingRead = -1; ///< the number of the read that answers an error with its frames
+        int failingRead = -1; ///< number of the read that returns an error with its frames
         std::vector<std::int64_t> seeks;
         std::vector<std::uint32_t> asked;
-        AudioBufferList firstList{}; ///< as it came with the first read
+        AudioBufferList firstList{}; ///< as passed to the first read
         std::uint32_t bytesOfBuffers[2] = {};
         AudioStreamBasicDescription clientFormat;
         double rate = 44100;
-        bool sparse = false; ///< whether single values may be fetched
+        bool sparse = false; ///< whether sparseSamples() works
         int sparseCalls = 0;
     };
 
-    /// A file of two channels. An empty one is made on the disk, so that it exists.
+    /// A file of two channels. Creates an empty file on the disk, so that it exists.
     Source& addSource(const QString& path, double seconds, Signal signal) {
         QFile(path).open(QIODevice::WriteOnly);
         auto& source = sources[path];

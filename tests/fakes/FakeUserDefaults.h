@@ -6,7 +6,7 @@
 
 #include <mutex>
 
-/// Defaults that live in memory only. Callable from any thread.
+/// Defaults that are kept in memory only. Any thread.
 class FakeUserDefaults : public Platform::UserDefaults {
 public:
     [[nodiscard]] QVariant objectForKey(const QString& key) const override {
@@ -26,7 +26,7 @@ public:
     bool flush() override { return !flushFails; }
     bool flushFails = false;
 
-    /// Everything stored.
+    /// All stored values.
     [[nodiscard]] Dictionary values() const {
         const std::lock_guard guard(mutex_);
         return values_;

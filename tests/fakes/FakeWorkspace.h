@@ -8,7 +8,7 @@
 #include <QPair>
 #include <QStringList>
 
-/// Records what the desktop was asked for; answers as told.
+/// Records the desktop requests and returns the configured results.
 class FakeWorkspace : public Platform::Workspace {
 public:
     bool selectFile(const QString& path) override {

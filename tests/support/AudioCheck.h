@@ -14,10 +14,10 @@
 #include <QFile>
 #include <QString>
 
-/// Looks at recorded files with eyes that are not ours.
+/// Examines recorded files with other programs, independently of the code under test.
 namespace AudioCheck {
 
-/// One vector a channel.
+/// One vector per channel.
 using Channels = std::vector<std::vector<float>>;
 
 inline Channels channelsOf(const QByteArray& interleaved, std::size_t channels) {
@@ -32,7 +32,7 @@ inline Channels channelsOf(const QByteArray& interleaved, std::size_t channels) 
     return result;
 }
 
-/// What ffmpeg decodes of a stereo file; no channels when it cannot.
+/// ffmpeg's decoded samples of a stereo file; no channels when it fails.
 inline Channels decodedByFfmpeg(const QString& path) {
     const auto result =
         runTool(QStringLiteral("ffmpeg"),
@@ -41,7 +41,7 @@ inline Channels decodedByFfmpeg(const QString& path) {
     return result.status == 0 ? channelsOf(result.output, 2) : Channels();
 }
 
-/// What faad decodes of a stereo file, as 32-bit float.
+/// faad's decoded samples of a stereo file, as 32-bit float.
 inline Channels decodedByFaad(const QString& path) {
     const auto result =
         runTool(QStringLiteral("faad"), {QStringLiteral("-q"), QStringLiteral("-f"), QStringLiteral("2"),
@@ -49,7 +49,7 @@ inline Channels decodedByFaad(const QString& path) {
     return result.status == 0 ? channelsOf(result.output, 2) : Channels();
 }
 
-/// Length of the file's stream in its own frames, as ffprobe reads it; -1 when it cannot.
+/// Length of the file's stream in its own frames, as ffprobe reads it; -1 when it fails.
 inline std::int64_t framesByFfprobe(const QString& path) {
     const auto result =
         runTool(QStringLiteral("ffprobe"),
@@ -60,7 +60,7 @@ inline std::int64_t framesByFfprobe(const QString& path) {
     return result.status == 0 && good ? frames : -1;
 }
 
-/// The samples of a WAVE file of 32-bit integers, two channels; no channels when it is none.
+/// The samples of a WAVE file of 32-bit integers, two channels; no channels for any other file.
 inline Channels waveSamples(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -79,7 +79,7 @@ inline Channels waveSamples(const QString& path) {
     return result;
 }
 
-/// Pitch in Hz of a tone louder than -40 dB, by counting where it rises through zero from well below.
+/// Pitch in Hz of a tone louder than -40 dB, by counting its upward zero crossings.
 inline double pitchOf(const std::vector<float>& samples, double rate) {
     double first = 0;
     double last = 0;
@@ -105,8 +105,8 @@ inline double levelOf(const std::vector<float>& samples) {
     return samples.empty() ? 0 : std::sqrt(sum / double(samples.size()));
 }
 
-/// The largest step by which a tone of this pitch departs from what its two samples before promise: a click, a hole
-/// and a repetition all show here.
+/// The largest difference between a sample and the value that a tone of this pitch would have after the two samples
+/// before it: a click, a gap and a repetition all show here.
 inline double worstClick(const std::vector<float>& samples, double pitch, double rate) {
     const double factor = 2 * std::cos(2 * std::numbers::pi * pitch / rate);
     double worst = 0;

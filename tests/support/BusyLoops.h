@@ -6,7 +6,7 @@
 #include <thread>
 #include <vector>
 
-/// Keeps processors busy as long as it lives.
+/// Keeps processors busy while it lives.
 class BusyLoops {
 public:
     explicit BusyLoops(int count) {

@@ -14,7 +14,7 @@ thread_local long allocated = 0;
 thread_local long locked = 0;
 } // namespace
 
-// The program's own definitions come before those of the C library, for all that it links.
+// Definitions in the program take precedence over those of the C library, also for calls from other libraries.
 extern "C" {
 void* __libc_malloc(std::size_t);
 void* __libc_calloc(std::size_t, std::size_t);

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-/// 0 under a sanitizer, which has its own heap and mutexes: what rests on a CallCounter is not built there.
+/// 0 under a sanitizer, which replaces the heap and the mutexes: tests that use a CallCounter are not built then.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 #define SONAPHEX_COUNTS_CALLS 0
 #else
@@ -10,7 +10,7 @@
 #endif
 
 #if SONAPHEX_COUNTS_CALLS
-/// Counts what the calling thread asks of the heap and of mutexes while it lives.
+/// Counts the calling thread's heap and mutex calls while it lives.
 class CallCounter {
 public:
     CallCounter();

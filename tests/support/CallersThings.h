@@ -13,12 +13,12 @@
 #include <sys/file.h>
 #include <unistd.h>
 
-/// What a shell may have when it starts the program: a lock on an inherited descriptor (exec 9>lock; flock 9), a signal
-/// that is ignored (nohup) and one that is blocked. A process that outlives the program must keep none of it.
+/// State that a shell may pass to the program: a lock on an inherited descriptor (exec 9>lock; flock 9), an ignored
+/// signal (nohup) and a blocked one. A process that outlives the program must keep none of it.
 class CallersThings {
 public:
     CallersThings() {
-        lock_ = open(path(), O_RDWR | O_CREAT, 0600); // no O_CLOEXEC: as a shell does it
+        lock_ = open(path(), O_RDWR | O_CREAT, 0600); // no O_CLOEXEC, like a shell
         locked_ = flock(lock_, LOCK_EX | LOCK_NB) == 0;
         before_ = std::signal(SIGHUP, SIG_IGN);
         sigset_t blocked;
@@ -35,7 +35,7 @@ public:
     CallersThings(const CallersThings&) = delete;
     CallersThings& operator=(const CallersThings&) = delete;
 
-    /// Of a process that runs. It may hold descriptors of its own, and block signals that it reads.
+    /// Checks a running process. It may hold descriptors of its own, and block signals that it reads.
     [[nodiscard]] testing::AssertionResult areNotOf(pid_t process) const {
         const QString folder = QStringLiteral("/proc/%1/").arg(process);
         for (const QString& each : QDir(folder + QStringLiteral("fd")).entryList(QDir::AllEntries | QDir::System))

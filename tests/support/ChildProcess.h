@@ -8,8 +8,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-/// Runs a function in a forked process, for tests about processes that die or that write at once. Start it while this
-/// process has one thread.
+/// Runs a function in a forked process, for tests in which processes are killed or write at the same time. Start it
+/// while this process has only one thread.
 class ChildProcess {
 public:
     explicit ChildProcess(const std::function<int()>& work) : pid_(::fork()) {
@@ -25,23 +25,23 @@ public:
 
     [[nodiscard]] bool started() const { return pid_ > 0; }
     [[nodiscard]] pid_t pid() const { return pid_; }
-    /// Ends it without a chance to tidy up.
+    /// Kills it with SIGKILL.
     void kill() {
         ::kill(pid_, SIGKILL);
         (void)wait();
     }
-    /// kill() for it and the programs that it started, after it made itself the leader of a group.
-    /// Returns when all of them are gone: a program that had just been forked still holds the locks of its parent.
+    /// Kills it and the programs that it started, after it became the leader of a process group. Returns when all of
+    /// them are gone: a program that was just forked still holds its parent's locks.
     void killGroup() {
         const pid_t group = pid_;
-        ::prctl(PR_SET_CHILD_SUBREAPER, 1); // what the dead process started becomes a child of this one
+        ::prctl(PR_SET_CHILD_SUBREAPER, 1); // orphans of the killed process become children of this one
         ::kill(-group, SIGKILL);
         (void)wait();
         while (::waitpid(-group, nullptr, 0) > 0) {
         }
         ::prctl(PR_SET_CHILD_SUBREAPER, 0);
     }
-    /// The exit status, -1 when a signal ended it.
+    /// The exit status; -1 when a signal ended it.
     [[nodiscard]] int wait() {
         int status = 0;
         if (pid_ <= 0 || ::waitpid(pid_, &status, 0) != pid_)

@@ -4,8 +4,8 @@
 
 #include "Platform/Audio/linux/PipeWireHandles.h"
 
-/// A connection of its own to the sound server, on a loop thread of its own: a test's view from outside the program.
-/// What is derived from it hears of its objects on that thread, and touches them elsewhere under a LoopLock only.
+/// A separate connection to the sound server with its own loop thread: a test's view from outside the program. Derived
+/// classes get the events of their objects on that thread, and use the objects elsewhere only under a LoopLock.
 class ClientConnection {
 public:
     ClientConnection(const ClientConnection&) = delete;
@@ -19,7 +19,7 @@ protected:
     ClientConnection() = default;
     ~ClientConnection() = default;
 
-    /// Connects; then @p setUp makes the objects, with the loop held, and answers whether it could.
+    /// Connects; then @p setUp creates the objects with the loop locked, and returns whether it succeeded.
     template <typename SetUp>
     [[nodiscard]] bool connect(const char* name, SetUp setUp) {
         using namespace Platform::PipeWire;
@@ -32,7 +32,7 @@ protected:
         core.reset(pw_context_connect(context.get(), nullptr, 0));
         return core && setUp();
     }
-    /// To be called by the destructor of each derived class: @p release lets go of its objects, with the loop held.
+    /// Must be called by the destructor of each derived class: @p release destroys its objects with the loop locked.
     template <typename Release>
     void disconnect(Release release) {
         if (!loop)

@@ -4,8 +4,8 @@
 
 #include <csignal>
 
-/// Gives the signals that end a recording their default action. The tests may run in the background or under nohup; the
-/// programs that they start would inherit the ignored signals and keep them ignored.
+/// Gives the signals that end a recording their default action. When the tests run in the background or under nohup,
+/// the programs that they start would inherit the ignored signals and keep them ignored.
 inline void defaultSignals() {
     for (const int signal : {SIGINT, SIGTERM, SIGHUP})
         (void)std::signal(signal, SIG_DFL);

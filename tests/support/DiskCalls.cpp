@@ -20,7 +20,7 @@ namespace {
 using Kind = DiskCalls::Call::Kind;
 
 std::atomic<bool> watching{false};
-std::mutex mutex; // guards what follows
+std::mutex mutex; // guards the variables below
 std::vector<DiskCalls::Call> seen;
 int syncError = 0;
 std::function<bool(const QString&)> fails;
@@ -38,8 +38,8 @@ struct stat statOf(int fd) {
     return file;
 }
 
-/// Only while somebody watches: a child that was forked in the midst of it must not find the mutex locked.
-/// @return whether the process is to be killed in this call
+/// Only while calls are recorded: a child that is forked meanwhile must not inherit a locked mutex. @return whether the
+/// process is to be killed in this call
 bool note(DiskCalls::Call call) {
     const std::lock_guard lock(mutex);
     call.thread = std::this_thread::get_id();
@@ -65,7 +65,7 @@ int synced(int fd, Sync sync) {
 
 } // namespace
 
-// The program's own definitions come before those of the C library.
+// Definitions in the program take precedence over those of the C library.
 extern "C" {
 int fsync(int fd) {
     static const auto call = real(&fsync, "fsync");

@@ -10,16 +10,16 @@
 #include <QByteArray>
 #include <QString>
 
-/// Records what the program asks of the disk while it lives: every fsync(), fdatasync(), rename(), pwrite() and
-/// ftruncate(). One at a time.
+/// Records the program's disk calls while it lives: every fsync(), fdatasync(), rename(), pwrite() and ftruncate(). One
+/// object at a time.
 class DiskCalls {
 public:
     struct Call {
         enum class Kind { Sync, Rename, Write, Cut };
         Kind kind = Kind::Sync;
-        std::uint64_t inode = 0; ///< of the file or the folder, before a renaming
+        std::uint64_t inode = 0; ///< of the file or the folder, before a rename
         std::int64_t size = 0;   ///< of the file before the call; after it for Cut
-        QString to{};            ///< of a renaming
+        QString to{};            ///< of a rename
         std::thread::id thread{};
         std::int64_t offset = 0; ///< of a Write
         QByteArray bytes{};      ///< of a Write
@@ -30,10 +30,10 @@ public:
     DiskCalls(const DiskCalls&) = delete;
     DiskCalls& operator=(const DiskCalls&) = delete;
     [[nodiscard]] std::vector<Call> calls() const;
-    /// The process is killed in the call with this number, counted from 0: half of a Write is done then, and nothing of
-    /// another call. For a process that was forked for it.
+    /// Kills the process in the call with this number, counted from 0: a Write is then half done, any other call not
+    /// done at all. For use in a forked process.
     void killIn(int call);
-    /// fsync() fails with this errno for files whose path @p which accepts. A file without a name has a path like
+    /// Makes fsync() fail with this errno for files whose path @p which accepts. A file without a name has a path like
     /// "/folder/#123 (deleted)".
     void failSync(int error, std::function<bool(const QString& path)> which);
 };

@@ -13,7 +13,7 @@
 
 #include <QTemporaryDir>
 
-/// The real engine on the private sound server, with the real files.
+/// The real engine on the private sound server, with real files.
 class EngineRecording : public testing::Test {
 protected:
     EngineRecording() {
@@ -25,7 +25,7 @@ protected:
     }
     ~EngineRecording() override { engine_.cleanUp(); }
 
-    /// Brings the engine onto a test device.
+    /// Configures the engine for a test device.
     [[nodiscard]] testing::AssertionResult configure(TestSource& source) {
         if (const auto started = source.start(); !started)
             return started;
@@ -35,12 +35,12 @@ protected:
             return testing::AssertionFailure() << qPrintable(engine_.lastError());
         return testing::AssertionSuccess();
     }
-    /// Begins a file of this type (0 WAVE, 1 M4A).
+    /// Starts a file of this type (0 WAVE, 1 M4A).
     [[nodiscard]] bool begin(int type) {
         path_ = folder_.filePath(type == 0 ? QStringLiteral("raw.wav") : QStringLiteral("raw.m4a"));
         return engine_.setOutPutAudioPath(path_, type) && engine_.startRecordAudio();
     }
-    /// Waits until the open M4A file took this much.
+    /// Waits until the open M4A file has this length.
     [[nodiscard]] bool recorded(double seconds) {
         return waitFor([&] { return double(engine_.framesAccepted()) >= seconds * engine_.sampleRate(); },
                        int(seconds * 1000) + 20000);

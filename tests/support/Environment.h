@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-/// Sets an environment variable and puts its old value back at the end of the scope.
+/// Sets an environment variable and restores its old value at the end of the scope.
 class EnvironmentScope {
 public:
     EnvironmentScope(const char* name, const QByteArray& value) : name_(name) {
@@ -15,7 +15,7 @@ public:
             before_ = qgetenv(name);
         qputenv(name, value);
     }
-    /// Takes the variable away.
+    /// Unsets the variable.
     explicit EnvironmentScope(const char* name) : EnvironmentScope(name, QByteArray()) { qunsetenv(name); }
     ~EnvironmentScope() {
         if (before_)

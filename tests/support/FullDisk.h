@@ -5,7 +5,7 @@
 #include <csignal>
 #include <sys/resource.h>
 
-/// While it lives, no file of this process, and of those that it starts, may become larger than @p bytes: writing more
+/// While it lives, no file of this process and of its child processes may become larger than @p bytes: writing more
 /// fails with an error, as on a full disk.
 class FullDisk {
 public:

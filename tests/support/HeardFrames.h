@@ -9,16 +9,15 @@
 
 #include <gtest/gtest.h>
 
-/// The frames that a capture of a ramp names, in their order. Silence is left out of them and counted on its own.
-///
-/// A machine that is busy with other things loses whole cycles of the server, on the way to the capture too. Those can
-/// be told from faults of the one who plays or carries: they are multiples of the cycle.
+/// The frame numbers that a captured ramp encodes, in order. Silence is left out and counted separately.
+/// A busy machine loses whole cycles of the server, also on the way to the capture. Those losses are multiples of the
+/// cycle, so they can be distinguished from errors of the code under test.
 struct HeardFrames {
     static constexpr std::int64_t cycle = 1024;
 
     std::vector<std::int64_t> frames;
     std::size_t lostCycles = 0;
-    testing::AssertionResult exact = testing::AssertionSuccess(); ///< but for whole cycles
+    testing::AssertionResult exact = testing::AssertionSuccess(); ///< except for whole cycles
     std::size_t longestRun = 0;                                   ///< frames without any loss
     std::size_t silentWithin = 0; ///< frames of silence between the first and the last frame that was heard
 

@@ -4,8 +4,7 @@
 
 #include <QStringList>
 
-/// Keeps the lines that are logged while it lives, from this thread and others, instead of printing them. One at a
-/// time.
+/// Keeps the lines that are logged while it lives, on any thread, instead of printing them. One object at a time.
 class LogCatcher {
 public:
     LogCatcher();

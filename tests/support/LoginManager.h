@@ -12,8 +12,8 @@
 #include <poll.h>
 #include <unistd.h>
 
-/// A login manager on a bus, there while the object lives. It hands out one end of a pipe to who holds sleep off; the
-/// other end tells whether that is still held.
+/// A login manager on a bus, present while the object lives. It gives one end of a pipe to a program that inhibits
+/// sleep; the other end tells whether that end is still open.
 class LoginManager : public QDBusVirtualObject {
 public:
     explicit LoginManager(const QDBusConnection& bus) : bus_(bus) {

@@ -10,10 +10,10 @@
 #include <QJsonObject>
 #include <QRandomGenerator>
 
-/// MPEG-4 audio files for tests, made and examined by other programs than ours.
+/// MPEG-4 audio files for tests, made and examined by other programs.
 namespace Mpeg4Files {
 
-/// The fragments of FragmentedWithPlaces say where in the file they are, those of Fragmented do not.
+/// The fragments of FragmentedWithPlaces contain their absolute offset in the file, those of Fragmented do not.
 enum class Shape { IndexAtEnd, IndexInFront, Fragmented, FragmentedWithPlaces, Ringtone };
 
 /// A few seconds of a tone.
@@ -42,7 +42,7 @@ inline bool make(const QString& path, Shape shape = Shape::IndexAtEnd, int secon
     return runTool(QStringLiteral("ffmpeg"), arguments).status == 0;
 }
 
-/// A fingerprint of the decoded audio; empty when it cannot be decoded without an error.
+/// A hash of the decoded audio; empty when decoding fails.
 inline QByteArray audioOf(const QString& path) {
     const ToolResult result =
         runTool(QStringLiteral("ffmpeg"),
@@ -51,7 +51,7 @@ inline QByteArray audioOf(const QString& path) {
     return result.status == 0 && result.errors.isEmpty() ? result.output : QByteArray();
 }
 
-/// The tags that ffprobe sees, by its names.
+/// The tags that ffprobe reads, under its names.
 inline QJsonObject probe(const QString& path) {
     const ToolResult result = runTool(QStringLiteral("ffprobe"),
                                       {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-show_format"),
@@ -59,7 +59,7 @@ inline QJsonObject probe(const QString& path) {
     return QJsonDocument::fromJson(result.output)[QStringLiteral("format")][QStringLiteral("tags")].toObject();
 }
 
-/// The bytes of the artwork that ffmpeg finds.
+/// The bytes of the artwork that ffmpeg reads.
 inline QByteArray artworkOf(const QString& path) {
     return runTool(QStringLiteral("ffmpeg"),
                    {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-i"), path, QStringLiteral("-map"),
@@ -78,7 +78,7 @@ inline bool write(const QString& path, const QByteArray& content) {
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
 }
 
-/// A picture of noise, which no format makes small.
+/// A picture of noise, which does not compress well.
 inline QImage noise(int side) {
     QImage image(side, side, QImage::Format_RGB32);
     QRandomGenerator random(7);

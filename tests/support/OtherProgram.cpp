@@ -35,7 +35,7 @@ struct OtherProgram::Private {
         return reply ? reply->focus : 0;
     }
     void readEvents() {
-        // A round trip: what the server sent before it has arrived now.
+        // A round trip: everything that the server sent before it has arrived.
         focus();
         while (auto event = owned(xcb_poll_for_event(connection))) {
             if ((event->response_type & 0x7F) == XCB_KEY_PRESS) {
@@ -67,8 +67,8 @@ bool OtherProgram::takeFocus() {
         xcb_map_window(d->connection, d->window);
         xcb_flush(d->connection);
     }
-    // The window manager gives the focus to new windows itself, and takes its time. Asked again too soon, it would see
-    // its own answer as the focus moving about.
+    // The window manager gives the focus to new windows after a delay. A second request too soon would make it move the
+    // focus back and forth.
     QElapsedTimer sinceAsked;
     return waitFor([this, &sinceAsked] {
         if (d->focus() == d->window)
@@ -95,7 +95,7 @@ std::uint32_t OtherProgram::timeOfLastPress() const {
 }
 
 std::uint32_t OtherProgram::serverTime() {
-    // Nothing is added to the title; the server tells that the property changed, and when.
+    // Appends nothing to the title; the server reports that the property changed, and when.
     xcb_change_property(d->connection, XCB_PROP_MODE_APPEND, d->window, XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8, 0, "");
     d->readEvents();
     return d->lastChange;

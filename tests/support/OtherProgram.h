@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <memory>
 
-/// Another X client: a window that takes the focus and counts the keys that reach it, and that grabs combinations.
+/// Another X client: a window that takes the focus, counts its key presses, and grabs combinations.
 class OtherProgram {
 public:
     OtherProgram();
@@ -17,18 +17,18 @@ public:
 
     /// Shows its window and waits until it has the focus.
     [[nodiscard]] bool takeFocus();
-    /// Key presses that arrived since the last call.
+    /// Key presses received since the last call.
     [[nodiscard]] int presses();
-    /// The X server's time of the last of them, in milliseconds.
+    /// The X server's time of the last key press, in milliseconds.
     [[nodiscard]] std::uint32_t timeOfLastPress() const;
-    /// The X server's time now. Its answer comes after all that it had to do until then.
+    /// The X server's current time. Its answer comes after all earlier events.
     [[nodiscard]] std::uint32_t serverTime();
-    /// Whether the server repeats a key that is held. In tests it does not, unless one asks for it, until the end of
-    /// this program.
+    /// Whether the server auto-repeats a held key. In tests it does not, unless one enables it; the setting lasts until
+    /// the end of this program.
     void letKeysRepeat(bool repeat);
-    /// Takes a combination as any program may. @p modifiers as in X11.
+    /// Grabs a combination like any other program. @p modifiers as in X11.
     [[nodiscard]] bool grab(std::uint8_t xKeyCode, std::uint16_t modifiers);
-    /// Makes the keymap's modifier bit @p from (0 to 7) empty and gives its keys to @p to.
+    /// Moves the keys of the keymap's modifier bit @p from (0 to 7) to @p to and clears @p from.
     [[nodiscard]] bool moveModifier(int from, int to);
 
 private:

@@ -7,8 +7,8 @@
 #include <memory>
 
 /// A sound server for the tests of one process, without hardware. It starts at the first use in about 50 ms, sets
-/// PIPEWIRE_RUNTIME_DIR of this process, and goes with the process. It has the output "Silent Output" (node.name
-/// "sonaphex.output", the default output) and, as only input device, what the test adds with TestSource.
+/// PIPEWIRE_RUNTIME_DIR of this process, and ends with the process. It has the output "Silent Output" (node.name
+/// "sonaphex.output", the default output); the only input devices are those that the test adds with TestSource.
 ///
 ///     class MyTest : public testing::Test {
 ///     protected:
@@ -18,12 +18,12 @@
 /// Only for files that end in ServerTest.cpp (or Soak, Xvfb): those run one at a time.
 class PrivateAudioSession {
 public:
-    /// The session of this process; a server that a test took down is brought up again.
+    /// The session of this process; a server that a test stopped is started again.
     static PrivateAudioSession& shared();
     /// Ends the shared session, for tests that need a machine without a sound server. shared() starts a new one.
     static void end();
 
-    /// Takes the server down; every client loses it. False when that failed.
+    /// Stops the server; every client loses it. False on failure.
     [[nodiscard]] bool stopServer();
     [[nodiscard]] bool startServer();
     [[nodiscard]] QString runtimeFolder() const { return session_->runtimeFolder(); }

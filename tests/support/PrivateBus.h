@@ -6,7 +6,7 @@
 
 #include <QProcess>
 
-/// A message bus of the test's own, which nothing of the machine is on.
+/// A message bus that only the test uses.
 class PrivateBus {
 public:
     /// @param folder for the bus's socket

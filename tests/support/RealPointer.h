@@ -11,7 +11,8 @@
 #include <QWindow>
 #include <functional>
 
-/// The pointer of the X server in tests with a display (XvfbSession). This program's events go on while xdotool runs.
+/// Controls the pointer of the X server in tests with a display (XvfbSession). This program's event loop continues
+/// while xdotool runs.
 namespace RealPointer {
 
 /// Whether the window manager shows @p window and has made it the active one.
@@ -20,24 +21,24 @@ namespace RealPointer {
            waitFor([&] { return window.isActiveWindow(); });
 }
 
-/// A place of @p widget on the screen.
+/// The screen position of a point of @p widget.
 [[nodiscard]] inline QPoint onScreen(const QWidget& widget, QPointF place) {
     return widget.mapToGlobal(place.toPoint());
 }
 
-/// The words of xdotool that move the pointer there.
+/// The xdotool arguments that move the pointer there.
 [[nodiscard]] inline QStringList moveTo(QPoint place) {
     return {QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y())};
 }
 
-/// Runs xdotool with @p words.
+/// Runs xdotool with these arguments.
 [[nodiscard]] inline bool run(const QStringList& words) {
     QProcess pointer;
     pointer.start(QStringLiteral("xdotool"), words);
     return waitFor([&] { return pointer.state() == QProcess::NotRunning; }, 60000) && pointer.exitCode() == 0;
 }
 
-/// The words that press the left button at @p from and move in steps to @p to. The button stays down.
+/// The arguments that press the left button at @p from and move in steps to @p to. The button stays pressed.
 [[nodiscard]] inline QStringList pressWords(QPoint from, QPoint to) {
     using namespace Qt::StringLiterals;
     QStringList words = moveTo(from) + QStringList{u"sleep"_s, u"0.1"_s, u"mousedown"_s, u"1"_s};
@@ -47,9 +48,9 @@ namespace RealPointer {
     return words;
 }
 
-/// Drags from one place of the screen to another in steps, while this program's events go on, also those of a drag's
-/// own event loop, in which this function does not return before the button is let go. That happens when @p ready says
-/// so; meanwhile the pointer trembles, as a hand does. With @p cancel, Escape is pressed before.
+/// Drags from one screen position to another in steps, while this program's event loop continues, also inside a drag's
+/// own loop, in which this function does not return before the button is released. It is released when @p ready returns
+/// true; until then the pointer moves slightly, like a hand. With @p cancel, Escape is pressed first.
 [[nodiscard]] inline bool drag(
     QPoint from, QPoint to, const std::function<bool()>& ready = [] { return true; }, bool cancel = false) {
     using namespace Qt::StringLiterals;

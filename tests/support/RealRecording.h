@@ -21,18 +21,19 @@
 
 #include <QTemporaryDir>
 
-/// A sound that is known at every moment: tones all over the range of hearing, so that two pieces of it fit
-/// at one place only, and that the encoder keeps.
+/// A known sound: tones over the whole audible range, so that two excerpts match at one position only; the encoder
+/// preserves them.
 class KnownSound {
 public:
     explicit KnownSound(std::size_t tones = 60) : tones_(tones), gain_(0.2 / std::sqrt(double(tones))) {
         std::mt19937 random(7);
-        std::uniform_int_distribution<int> halfHertz(300, 18000); // so that it repeats every two seconds
+        std::uniform_int_distribution<int> halfHertz(
+            300, 18000); // multiples of half a hertz, so that the sum repeats every two seconds
         std::uniform_real_distribution<double> phase(0, 2 * std::numbers::pi);
         for (auto& tone : tones_)
             tone = {std::numbers::pi * halfHertz(random), phase(random)};
     }
-    /// Seconds after which it begins anew.
+    /// Period in seconds.
     static constexpr double Period = 2;
     [[nodiscard]] float at(double seconds) const {
         double sum = 0;
@@ -50,8 +51,7 @@ private:
     double gain_;
 };
 
-/// The whole way from the engines to the library, with real engines and real files. Who derives from it says where the
-/// sound comes from.
+/// The whole path from the engines to the library, with real engines and real files. Derived classes supply the audio.
 class RealRecording : public testing::Test {
 protected:
     struct Delegate : RecordStateControllerDelegate {
@@ -89,11 +89,11 @@ protected:
         controller->setDelegate(&delegate);
         controller->awakeFromNib();
     }
-    /// Waits until this much is recorded since the start.
+    /// Waits until the recording has this length.
     [[nodiscard]] bool recorded(double seconds) {
         return waitFor([&] { return controller->recordedSeconds() >= seconds; }, int(seconds * 1000) + 30000);
     }
-    /// What ffmpeg decodes, without the padding of the last packet, which other decoders do not cut off.
+    /// ffmpeg's decoded samples, without the padding of the last packet, which other decoders do not remove.
     [[nodiscard]] static AudioCheck::Channels decoded(const QString& path) {
         auto channels = AudioCheck::decodedByFfmpeg(path);
         const auto frames = AudioCheck::framesByFfprobe(path);
@@ -103,7 +103,7 @@ protected:
         return channels;
     }
 
-    /// How alike two stretches are, from -1 to 1.
+    /// Correlation of two excerpts, from -1 to 1.
     [[nodiscard]] static double likeness(const float* one, const float* other, std::size_t frames) {
         double product = 0;
         double first = 0;
@@ -115,7 +115,8 @@ protected:
         }
         return product / std::sqrt(std::max(1e-30, first * second));
     }
-    /// The lag, within @p most frames, at which @p other fits @p one best around a place; NaN when it fits nowhere.
+    /// The lag, within @p most frames, at which @p other matches @p one best around a position; NaN when it matches
+    /// nowhere.
     [[nodiscard]] static double bestLag(const std::vector<float>& one, const std::vector<float>& other,
                                         std::size_t place, std::size_t frames, int most) {
         if (place < std::size_t(most) || place + frames + std::size_t(most) >= std::min(one.size(), other.size()))

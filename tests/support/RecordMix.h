@@ -6,8 +6,8 @@
 #include "tests/fakes/FakeIORegistry.h"
 #include "tests/support/RealRecording.h"
 
-/// Two devices that hear one known sound, the input device on the left channel and computer audio on the right one, so
-/// that the finished mix tells how far they are apart.
+/// Two devices that receive the same known sound, the input device on the left channel and computer audio on the right
+/// one, so that the finished mix shows how far they are apart.
 class RecordMix : public RealRecording {
 protected:
     static constexpr AudioObjectID Microphone = 11;
@@ -29,12 +29,12 @@ protected:
         hardware.add(device);
     }
 
-    /// One device that hears the sound on one channel. Its clock is wrong by some parts in a million.
+    /// One device that receives the sound on one channel. Its clock is wrong by some parts per million.
     struct Ear {
         AudioObjectID device;
         std::size_t channel;
-        double rate;   ///< frames it really gives in a second
-        double begins; ///< when it gives its first one, in seconds
+        double rate;   ///< frames that it really delivers per second
+        double begins; ///< time of its first frame, in seconds
         std::int64_t frames = 0;
         [[nodiscard]] double next() const { return begins + double(frames) / rate; }
     };
@@ -46,19 +46,19 @@ protected:
         hardware.unitOf(ear.device)->feed(samples, 1'000'000'000'000 + std::uint64_t(std::llround(start * 1e9)));
         ear.frames += Cycle;
     }
-    /// Both hear the same; whoever is behind comes next, as on a machine.
+    /// Feeds both; the one that is behind gets the next cycle.
     void hearBoth(Ear& one, Ear& other, double until) {
         while (one.next() < until || other.next() < until)
             hear(one.next() <= other.next() ? one : other);
     }
 
-    /// Records for a while with a computer-audio clock that is wrong by 100 parts in a million, and shows that the two
-    /// are together at both ends of the mix.
+    /// Records for a while with a computer-audio clock that is wrong by 100 parts per million, and checks that both are
+    /// aligned at both ends of the mix.
     void expectTogether(double seconds) {
         begin(true, true);
         Ear input{Microphone, 0, Rate, 0.0};
         Ear computer{ComputerAudio, 1, Rate * (1 + 100e-6), 0.0073};
-        // The clocks are known well before the recording, as in a program that has run for a while.
+        // The clock rates are known before the recording, as in a program that has run for a while.
         silent = true;
         hearBoth(input, computer, 65);
         silent = false;
@@ -71,7 +71,7 @@ protected:
         ASSERT_EQ(mixed.size(), 2U);
         const std::size_t end = mixed[0].size();
         EXPECT_NEAR(double(end) / 44100, seconds, 0.05);
-        // In frames of 44100 Hz; without the correction the end would be off by 4.4 for each second.
+        // In frames of 44100 Hz; without the correction the end would be off by 4.4 per second.
         const double atStart = bestLag(mixed[0], mixed[1], 22050, 4096, 400);
         const double atEnd = bestLag(mixed[0], mixed[1], end - 44100, 4096, 400);
         RecordProperty("lag_at_start_ms", std::to_string(atStart / 44.1));

@@ -7,7 +7,7 @@
 #include "tests/support/TestSource.h"
 #include "tests/support/UnitCapture.h"
 
-/// Recordings of what streams play on the private sound server.
+/// Recordings of streams that play on the private sound server.
 class RecordOnServer : public RealRecording {
 protected:
     RecordOnServer() {
@@ -38,11 +38,11 @@ protected:
         return 2 * std::hypot(sine, cosine) / double(samples.size());
     }
 
-    /// Records a known sound with many cuts, by hand and at silences, and shows that the files laid end to end are the
-    /// sound: at lag 0 before and after each cut, and as long as what was delivered.
+    /// Records a known sound with many cuts, by hand and at silences, and checks that the joined files equal the sound:
+    /// at lag 0 before and after each cut, and as long as what was delivered.
     void expectExactCuts(int cuts) {
         KnownSound sound;
-        // Some cuts come by themselves, in a gap of 60 ms every 2 s. Computed before: the source must not be late.
+        // Automatic cuts happen in a gap of 60 ms every 2 s. Computed in advance: the source must not be late.
         std::vector<float> played(std::size_t(KnownSound::Period * 48000));
         for (std::size_t i = 2880; i < played.size(); ++i)
             played[i] = sound.at(double(i) / 48000);
@@ -51,8 +51,8 @@ protected:
         ASSERT_TRUE(computer.start());
         ASSERT_TRUE(deviceIsThere(RecordSources::ComputerAudioName));
         begin(false, true);
-        // A machine that does not let the sound server run in time loses frames before they reach us, and says so. Such
-        // a run proves nothing about cuts and is repeated.
+        // A machine that does not run the sound server in time loses frames before they reach the program, which
+        // reports it. Such a run says nothing about cuts and is repeated.
         for (int attempt = 0; attempt < 8; ++attempt) {
             delegate.paths.clear();
             g_SplitTimeMS = 20;
@@ -64,7 +64,7 @@ protected:
                 controller->splitTheRecord();
             }
             ASSERT_TRUE(recorded(at + 0.4));
-            // All that the source played so far has to be in the files: a second later it was written long ago.
+            // Everything that the source has played must be in the files: after another second it is written.
             const auto played = computer.position();
             playedUntil = double(played) / 48000;
             ASSERT_TRUE(waitFor([&] { return computer.position() > played + 48000; }));
@@ -90,7 +90,7 @@ protected:
             ends.push_back(all.size());
         }
         EXPECT_NEAR(double(all.size()), delivered * 44100, 1.0) << "all lengths add up to what was delivered";
-        // Where in the sound the recording began: the gaps tell the second, the tones the frame.
+        // Finds the position in the sound at which the recording began: the gaps give the second, the tones the frame.
         const auto heard = [&](double start, std::size_t from, std::size_t frames) {
             std::vector<float> expected(frames);
             for (std::size_t i = 0; i < frames; ++i) {
@@ -126,8 +126,8 @@ protected:
         EXPECT_GE(checked, int(ends.size()) - 2);
     }
 
-    /// Seconds of the sound at which the recording's first frame stands, to a fraction of a frame; below 0 when it is
-    /// not found.
+    /// The position in the sound of the recording's first frame, in seconds, to a fraction of a frame; negative when it
+    /// is not found.
     [[nodiscard]] double whereItBegan(const KnownSound& sound, const std::vector<float>& all) const {
         constexpr std::size_t frames = 1200;
         constexpr std::size_t place = 4410;
@@ -150,7 +150,7 @@ protected:
             }
         if (found < 0)
             return -1;
-        // Then to a hundredth of a frame, so that rounding does not add up to a whole one later.
+        // Refined to a hundredth of a frame, so that rounding does not add up to a whole frame later.
         best = 0;
         for (int step = -100; step <= 100; ++step) {
             const double start = earliest + (double(near) + step / 100.0) / 44100;
@@ -167,7 +167,7 @@ protected:
     PrivateAudioSession& session = PrivateAudioSession::shared();
     std::unique_ptr<Platform::AudioHardware> hardware = Platform::createAudioHardware();
     std::unique_ptr<Platform::IORegistry> registry = Platform::createIORegistry();
-    double delivered = 0;   ///< seconds, by the engine's count
-    double startedAt = 0;   ///< of the sound, roughly
+    double delivered = 0;   ///< seconds, as counted by the engine
+    double startedAt = 0;   ///< position in the sound, approximate
     double playedUntil = 0; ///< seconds of the sound that must be in the files
 };

@@ -5,14 +5,14 @@
 #include <QProcess>
 #include <QStringList>
 
-/// What a program said and how it ended.
+/// The output and exit status of a program.
 struct ToolResult {
-    int status = -1; ///< -1: it could not be started, or a signal ended it
+    int status = -1; ///< -1: it could not be started, or it was killed by a signal
     QByteArray output;
     QByteArray errors;
 };
 
-/// Runs a program to its end, without a shell.
+/// Runs a program and waits for its end, without a shell.
 inline ToolResult runTool(const QString& program, const QStringList& arguments, int deadlineMs = 60000) {
     QProcess process;
     process.setStandardInputFile(QProcess::nullDevice());

@@ -9,15 +9,15 @@
 #include <QWidget>
 #include <string>
 
-/// What a screen reader would say.
+/// Checks the names that a screen reader would speak.
 namespace ScreenReader {
 
-/// The controls below @p window, shown or hidden, that can have the focus and have no name to be spoken: class and
-/// object name of each, or nothing.
+/// The controls below @p window, shown or hidden, that can have the focus but have no accessible name: class and object
+/// name of each, or nothing.
 inline std::string namelessControls(const QWidget& window) {
     QStringList nameless;
     for (QWidget* each : window.findChildren<QWidget*>()) {
-        // The editor inside such a box is spoken as the box.
+        // The editor inside such a box is spoken with the box's name.
         const QWidget* parent = each->parentWidget();
         if (each->focusPolicy() == Qt::NoFocus || qobject_cast<const QAbstractSpinBox*>(parent) ||
             qobject_cast<const QComboBox*>(parent))

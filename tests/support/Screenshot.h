@@ -9,11 +9,11 @@ class QWidget;
 
 namespace Screenshot {
 
-/// What a widget looks like at @p ratio pixels a point, drawn without a screen. With SONAPHEX_SCREENSHOTS set to a
-/// folder, also written there as <name>.png for people to look at.
+/// A picture of a widget at @p ratio pixels per point, drawn without a screen. When SONAPHEX_SCREENSHOTS names a
+/// folder, it is also written there as <name>.png.
 QImage take(QWidget& widget, const QString& name, qreal ratio = 1);
 
-/// Share of pixels that differ from @p background, 0 to 1: an empty picture gives 0.
+/// The share of pixels that differ from @p background, 0 to 1: an empty picture gives 0.
 [[nodiscard]] double coverage(const QImage& image, QRgb background = 0);
 
 } // namespace Screenshot

@@ -62,7 +62,7 @@ struct ServerWatch::Connection : ClientConnection {
     }
 
     void onDone() {
-        // The first answer came after the names of all that is there, the second after what the nodes told.
+        // The first answer comes after the names of all objects, the second after the state of the nodes.
         std::lock_guard guard(mutex);
         if (++answers == 1)
             pw_core_sync(core.get(), PW_ID_CORE, 0);
@@ -121,9 +121,9 @@ struct ServerWatch::Connection : ClientConnection {
         return nullptr;
     }
 
-    mutable std::mutex mutex; ///< guards the four below
+    mutable std::mutex mutex; ///< guards the four members below
     int answers = 0;
-    std::map<std::uint32_t, Node> nodes; ///< by the server's id, as are the links
+    std::map<std::uint32_t, Node> nodes; ///< by the server's id, like the links
     std::map<std::uint32_t, Link> links;
     Hook coreListener;
     RegistryPtr registry;

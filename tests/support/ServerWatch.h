@@ -8,8 +8,8 @@
 
 #include <gtest/gtest.h>
 
-/// What the sound server says of its nodes and of the links between them, in the order in which it happened, seen
-/// through a connection of its own. Any thread may ask.
+/// The sound server's events about its nodes and the links between them, in order, received through a separate
+/// connection. Queries from any thread.
 class ServerWatch {
 public:
     ServerWatch();
@@ -17,13 +17,13 @@ public:
     ServerWatch(const ServerWatch&) = delete;
     ServerWatch& operator=(const ServerWatch&) = delete;
 
-    /// Waits until all that is there is known.
+    /// Waits until all existing objects are known.
     [[nodiscard]] testing::AssertionResult start();
-    /// "creating", "suspended", "idle", "running" or "error"; empty for a node (node.name) that there is not.
+    /// "creating", "suspended", "idle", "running" or "error"; empty when no node has this node.name.
     [[nodiscard]] std::string stateOf(const std::string& node) const;
-    /// The nodes whose ports are linked to inputs of this one now.
+    /// The nodes whose ports are now linked to inputs of this one.
     [[nodiscard]] std::set<std::string> feedersOf(const std::string& node) const;
-    /// How often the last link to an input port of this node went while no other one was there.
+    /// How often this node's last link to an input port was removed, so that it had none.
     [[nodiscard]] int timesCutOff(const std::string& node) const;
 
 private:

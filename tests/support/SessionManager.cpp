@@ -11,7 +11,8 @@
 
 namespace {
 
-// The first byte of a message tells the protocol: 0 is ICE itself, ours for the session is 1. The second is its kind.
+// The first byte of a message selects the protocol: 0 is ICE itself, 1 is the number chosen here for the session
+// protocol. The second byte is the kind.
 constexpr unsigned char ice = 0, session = 1;
 enum IceMessage : unsigned char {
     ByteOrder = 1,
@@ -29,7 +30,7 @@ enum SessionMessage : unsigned char {
     ShutdownCancelled = 10,
     SaveComplete = 18
 };
-constexpr qsizetype header = 8; ///< and all that follows is counted in blocks of this size
+constexpr qsizetype header = 8; ///< the unit of all further lengths
 
 template <typename Number>
 QByteArray bytes(Number number) {
@@ -104,10 +105,10 @@ void SessionManager::askToSave(QLocalSocket* socket, Program& program, bool ever
     program.saving = true;
     program.saved = false;
     QByteArray body;
-    body.append(everything ? 2 : 1); // 1: where its windows are; 2: also what the user made
+    body.append(everything ? 2 : 1); // 1: window positions; 2: also user data
     body.append(end ? 1 : 0);
-    body.append(end ? 2 : 0); // whether it may ask the user: anything, or nothing
-    body.append('\0');        // not in a hurry
+    body.append(end ? 2 : 0); // whether it may ask the user: 2 anything, 0 nothing
+    body.append('\0');        // not urgent
     socket->write(message(session, SaveYourself, body));
     socket->flush();
 }
@@ -151,7 +152,7 @@ void SessionManager::answer(QLocalSocket* socket, Program& program, const QByteA
         program.registered = true;
         const QByteArray name = "2" + QByteArray::number(reinterpret_cast<quintptr>(socket), 16);
         socket->write(message(session, RegisterClientReply, bytes(static_cast<quint32>(name.size())) + name));
-        askToSave(socket, program, false, false); // what every new program is asked, so that its state is known
+        askToSave(socket, program, false, false); // sent to every new program, to learn its state
     } else if (protocol == session && kind == SaveYourselfDone) {
         program.saved = program.saving && whole[2] != 0;
         program.saving = false;

@@ -8,25 +8,25 @@
 
 class QLocalSocket;
 
-/// A desktop's session manager as its programs see it: it speaks the X session management protocol (XSMP over ICE,
-/// version 1.0 of both), so that a test can log out. Runs in the event loop of the test.
+/// A desktop's session manager as its programs see it: it implements the X session management protocol (XSMP over ICE,
+/// version 1.0 of both), so that a test can log out. Runs in the test's event loop.
 class SessionManager {
 public:
-    /// Listens on a socket with this path, and sets SESSION_MANAGER for the programs that are started from now on.
+    /// Listens on a socket with this path, and sets SESSION_MANAGER for all programs that are started later.
     explicit SessionManager(const QString& socket);
     ~SessionManager();
     SessionManager(const SessionManager&) = delete;
     SessionManager& operator=(const SessionManager&) = delete;
 
-    /// Programs that are registered and have answered the question for their state that follows a registration.
+    /// The number of programs that are registered and have answered the first request for their state.
     [[nodiscard]] int settledPrograms() const;
-    /// The user logs out: every program is to save what it has.
+    /// Simulates a logout: asks every program to save its data.
     void askToSaveForTheEnd();
-    /// Whether every program has saved since then, and says that it could.
+    /// Whether every program has saved since then, and reported success.
     [[nodiscard]] bool allSaved() const;
-    /// The user thinks better of it.
+    /// Simulates a cancelled logout.
     void cancelTheEnd();
-    /// The second half of a logout: every program is to end.
+    /// The second half of a logout: asks every program to end.
     void tellToDie();
 
 private:
@@ -45,5 +45,5 @@ private:
 
     QMap<QLocalSocket*, Program> programs_;
     QByteArray before_;
-    QLocalServer server_; // destroyed first: its sockets tell of their end
+    QLocalServer server_; // destroyed first: its sockets signal their end
 };

@@ -16,7 +16,7 @@
 
 #include <gtest/gtest.h>
 
-/// Records a device that plays as fast as the engine takes it, into a real file.
+/// Records into a real file from a device that plays as fast as the engine takes it.
 struct SimulatedHours : testing::Test {
     Platform::ServicesScope scope;
     QTemporaryDir dir;
@@ -37,7 +37,7 @@ struct SimulatedHours : testing::Test {
         return info.uordblks + info.hblkhd;
     }
 
-    /// Waits until the file's thread has taken what it was given: all but what no fragment is made of yet.
+    /// Waits until the file's thread has processed its input: everything except an incomplete fragment.
     void drain(const QString& path, std::int64_t given) {
         const auto written = [&] {
             Platform::AudioFileInfo info;
@@ -49,7 +49,7 @@ struct SimulatedHours : testing::Test {
         EXPECT_TRUE(waitFor([&] { return written() >= expected; }, 600'000)) << written() << " of " << expected;
     }
 
-    /// @param kept receives how many bytes of heap grew between the first and the last tenth.
+    /// @param kept receives the growth of the heap in bytes between the first and the last tenth.
     void record(double seconds, std::int64_t& kept) {
         const QString path = dir.filePath(QStringLiteral("hour.m4a"));
         EXPECT_TRUE(engine.configureAudioUnit(7));

@@ -46,7 +46,7 @@ void StatusNotifierBar::showItems() {
 
 bool StatusNotifierBar::handleMessage(const QDBusMessage& message, const QDBusConnection& bus) {
     if (message.member() == u"RegisterStatusNotifierItem") {
-        // Named by the sender, whichever of its names it gave.
+        // Identified by the sender's unique name, whichever name it registered.
         items_ << message.service();
         bus.send(message.createReply());
         return true;

@@ -6,24 +6,24 @@
 #include <QDBusVirtualObject>
 #include <QStringList>
 
-/// A panel with a status bar, as programs find it on the session bus: there while the object lives. It asks the items
-/// for their menus like a panel does. For items of other processes: it waits for their answers.
+/// A panel with a status bar on the session bus, present while the object lives. It asks the items for their menus as
+/// panels do. Only for items of other processes, because it waits for their answers.
 class StatusNotifierBar : public QDBusVirtualObject {
 public:
-    /// @param withHost whether the items are shown at once; some panels keep the list before they draw.
+    /// @param withHost whether the items are shown at once; some panels register the watcher before they show items.
     explicit StatusNotifierBar(bool withHost = true);
     ~StatusNotifierBar() override;
 
     void showItems();
-    /// Whether a program looked at whether the items are shown.
+    /// Whether a program asked if items are shown.
     [[nodiscard]] bool wasAsked() const { return asked_; }
-    /// The items that registered with this bar, by the name of their process on the bus.
+    /// The registered items, by the bus name of their process.
     [[nodiscard]] QStringList items() const { return items_; }
-    /// Titles of an item's menu as of now, without separators; those that are disabled in brackets.
+    /// The current titles of an item's menu, without separators; disabled ones in brackets.
     [[nodiscard]] QStringList menu(const QString& item);
-    /// Chooses from the menu.
+    /// Activates an item of the menu.
     [[nodiscard]] bool choose(const QString& item, const QString& title);
-    /// One of the item's properties; invalid when it has none of that name.
+    /// One of the item's properties; invalid when it does not exist.
     [[nodiscard]] QVariant property(const QString& item, const QString& name);
 
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override;

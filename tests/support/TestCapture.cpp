@@ -36,7 +36,7 @@ struct TestCapture::Connection : ClientConnection {
         if (options.monitor)
             pw_properties_set(properties, PW_KEY_STREAM_CAPTURE_SINK, "true");
         stream.reset(pw_stream_new(core.get(), "test capture", properties));
-        // Not in real time, so it may lock: the process callback comes on the loop's thread.
+        // Not in real time, so it may lock: the process callback runs on the loop's thread.
         static constexpr pw_stream_events events = {
             .version = PW_VERSION_STREAM_EVENTS,
             .process = [](void* data) { static_cast<Connection*>(data)->process(); },

@@ -9,14 +9,14 @@
 
 #include <gtest/gtest.h>
 
-/// Captures what an output plays (its monitor) or what a device delivers, independently of the program under test.
+/// Captures the monitor of an output, or an input device, independently of the program under test.
 ///
 ///     TestCapture capture({.target = "sonaphex.output", .monitor = true});
 ///     ASSERT_TRUE(capture.start());
 ///     ... let something play ...
 ///     const std::vector<float> samples = capture.interleaved();
 ///
-/// An output that nobody plays into delivers silence all the same.
+/// An output without a player delivers silence.
 class TestCapture {
 public:
     struct Options {
@@ -31,11 +31,11 @@ public:
     TestCapture(const TestCapture&) = delete;
     TestCapture& operator=(const TestCapture&) = delete;
 
-    /// Waits until data flows.
+    /// Waits until data arrives.
     [[nodiscard]] testing::AssertionResult start();
     void stop();
     [[nodiscard]] std::uint64_t frames() const;
-    /// All that was captured since start(). Any time.
+    /// All samples captured since start(). Any time.
     [[nodiscard]] std::vector<float> interleaved() const;
     /// The largest absolute value among the last @p frames frames.
     [[nodiscard]] float recentPeak(std::size_t frames = 4800) const;

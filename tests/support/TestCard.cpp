@@ -84,7 +84,7 @@ struct TestCard::Connection : ClientConnection {
         info.n_params = 1;
     }
 
-    /// Tells the one route that there is.
+    /// Announces the only route.
     int name(int sequence, std::uint32_t id, std::uint32_t start) {
         if (id != SPA_PARAM_Route || !route)
             return -ENOENT;
@@ -142,7 +142,7 @@ struct TestCard::Connection : ClientConnection {
         spa_device_emit_info(&hooks, &info);
     }
 
-    std::mutex mutex; ///< guards the route against the test's thread
+    std::mutex mutex; ///< guards the route, which the test's thread also uses
     std::optional<Route> route;
     spa_param_info param = SPA_PARAM_INFO(SPA_PARAM_Route, SPA_PARAM_INFO_READWRITE);
 

@@ -11,15 +11,15 @@
 
 #include <gtest/gtest.h>
 
-/// A sound card of the private session: the hardware object behind nodes, which name it with "device.id". It has
-/// properties, nothing to play, and as an option one route with a volume, which it obeys as real cards do.
+/// A sound card of the private session: the hardware object behind nodes, which refer to it with "device.id". It has
+/// properties, plays nothing, and can have one route with a volume, which can be set as on real cards.
 class TestCard {
 public:
-    /// The active way to one of the card's devices, whose nodes say "card.profile.device".
+    /// The active route of one of the card's devices, whose nodes say "card.profile.device".
     struct Route {
         int index = 0;
         int device = 0;
-        std::vector<float> volumes{}; ///< linear; empty is a route without a volume
+        std::vector<float> volumes{}; ///< linear; empty means a route without a volume
         bool muted = false;
     };
 
@@ -29,9 +29,9 @@ public:
     [[nodiscard]] testing::AssertionResult start();
     /// The server's number of the card.
     [[nodiscard]] std::uint32_t id() const;
-    /// The route as the last one who set something left it. Any thread.
+    /// The route as it was last set. Any thread.
     [[nodiscard]] Route route() const;
-    /// Somebody turns the knob of the card.
+    /// Simulates a turn of the card's volume knob.
     void turn(std::vector<float> volumes);
 
 private:

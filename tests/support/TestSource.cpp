@@ -15,7 +15,7 @@ Platform::SignalSource::Options sourceOptions(const TestSource::Options& options
             .cycle = options.cycle,
             .ownClock = options.ownClock,
             .clockErrorPpm = options.clockErrorPpm,
-            .patienceMs = 5000, // a server that is kept from running for seconds loses nothing
+            .patienceMs = 5000, // even when the server does not run for seconds, nothing is lost
             .sessionPriority = options.sessionPriority};
 }
 

@@ -14,18 +14,18 @@
 
 #include <gtest/gtest.h>
 
-/// What test devices and players play. Every value is a function of the frame's index, so that a capture can be checked
-/// sample by sample without the source at hand.
+/// The signals of test devices and players. Every value is a function of the frame's index, so that a capture can be
+/// checked sample by sample without the source.
 namespace Signal {
 
 inline constexpr std::uint32_t rampMask = 0xFFFFFF; ///< the ramp repeats after 2^24 frames (380 s at 44.1 kHz)
 
-/// A value that names its frame: exact in 32-bit float and in 24 or 32-bit integers, in [-1, 1).
+/// A value that encodes its frame number: exact in 32-bit float and in 24 or 32-bit integers, in [-1, 1).
 [[nodiscard]] inline float ramp(std::uint64_t frame, std::uint32_t channel) noexcept {
     const auto code = std::int32_t((frame + channel * 4096u) & rampMask) - 0x800000;
     return float(code) / 0x800000;
 }
-/// The index (modulo 2^24) of the frame that a ramp's value names.
+/// The frame number (modulo 2^24) that a ramp's value encodes.
 [[nodiscard]] inline std::uint32_t rampFrame(float value, std::uint32_t channel) noexcept {
     return (std::uint32_t(std::int32_t(std::lround(double(value) * 0x800000)) + 0x800000) - channel * 4096u) & rampMask;
 }
@@ -43,19 +43,20 @@ inline constexpr std::uint32_t rampMask = 0xFFFFFF; ///< the ramp repeats after 
 
 } // namespace Signal
 
-/// An input device of the private session ("Audio/Source"), in this process, that a test steers.
+/// An input device of the private session ("Audio/Source"), in this process, which the test controls.
 ///
-///     TestSource source({.name = "test.ramp", .description = "Test Ramp", .rate = 44100});   // content: Ramp
-///     ASSERT_TRUE(source.start());     // the device is there (its ports and the device list follow within
-///     milliseconds) source.setContent(TestSource::Content::Silence); source.remove();                 // pulled out
-///     ASSERT_TRUE(source.start());     // back under the same name, from frame 0
+///     TestSource source({.name = "test.ramp", .description = "Test Ramp", .rate = 44100}); // content: Ramp
+///     ASSERT_TRUE(source.start()); // ports and the device list follow within milliseconds
+///     source.setContent(TestSource::Content::Silence);
+///     source.remove();             // unplugged
+///     ASSERT_TRUE(source.start()); // back under the same name, from frame 0
 ///
-/// Several may run at once. A source keeps its own time like a sound card, .clockErrorPpm faster than it says; two of
-/// those drift against each other. It waits with a cycle until the one before was heard, so that a machine that is kept
-/// from running loses nothing. With .ownClock = false it follows the server's clock, and on a busy machine cycles may
-/// be missed (and counted by who captures). A source at 44.1 kHz is exact at its own rate: the private session allows
-/// it. With .mediaClass = "Stream/Output/Audio" it is a program that plays into the output named .target (node.name;
-/// empty: the default output); see TestPlayer.
+/// Several may run at once. A source has its own clock like a sound card, which runs .clockErrorPpm faster than
+/// nominal; two such sources drift apart. It waits with a cycle until the previous one was processed, so that nothing
+/// is lost on an overloaded machine. With .ownClock = false it follows the server's clock, and on a busy machine cycles
+/// may be lost (the recording side counts them). A source at 44.1 kHz is exact at its own rate: the private session
+/// allows it. With .mediaClass = "Stream/Output/Audio" it is a program that plays into the output named .target
+/// (node.name; empty: the default output); see TestPlayer.
 class TestSource {
 public:
     enum class Content { Ramp, Noise, Tone, Silence };
@@ -64,7 +65,7 @@ public:
         std::string description = "Test Source";
         std::uint32_t rate = 48000;
         std::uint32_t channels = 2;
-        std::vector<std::uint32_t> positions{}; ///< SPA_AUDIO_CHANNEL_..., one a channel
+        std::vector<std::uint32_t> positions{}; ///< SPA_AUDIO_CHANNEL_..., one per channel
         Content content = Content::Ramp;
         double frequency = 440;  ///< of the tone, Hz
         double amplitude = 0.25; ///< of the tone
@@ -74,7 +75,7 @@ public:
         std::string mediaClass = "Audio/Source";
         std::string target{};
         int sessionPriority = 0;
-        /// Instead of the content: one sample of a channel, by the frame's index. Runs on the data thread.
+        /// Replaces the content: one sample of a channel, by the frame's index. Runs on the data thread.
         std::function<float(std::uint64_t frame, std::uint32_t channel)> sample{};
     };
 
@@ -82,7 +83,7 @@ public:
 
     [[nodiscard]] testing::AssertionResult start();
     void remove() { source_.stop(); }
-    /// From the next cycle on. The frame count goes on.
+    /// Takes effect with the next cycle. The frame count continues.
     void setContent(Content content) { content_ = content; }
     /// Frames played since start().
     [[nodiscard]] std::uint64_t position() const { return source_.position(); }
@@ -98,7 +99,7 @@ private:
 };
 
 /// A program that plays into an output of the private session. position() counts from the first frame played; playing
-/// starts when the session manager linked it, some 10 ms after start().
+/// starts when the session manager has linked it, about 10 ms after start().
 class TestPlayer : public TestSource {
 public:
     explicit TestPlayer(Options options = {}) : TestSource(asPlayer(std::move(options))) {}

@@ -18,7 +18,7 @@ UnitCapture::UnitCapture(AudioHardware& hardware, AudioObjectID device, std::uin
 
 UnitCapture::~UnitCapture() {
     if (unit_)
-        unit_->stop(); // the callback uses unit_, which is null before its reset() destroys anything
+        unit_->stop(); // the callback uses unit_, which reset() sets to null before it destroys the unit
 }
 
 testing::AssertionResult UnitCapture::start() {

@@ -13,7 +13,7 @@
 #include <QString>
 #include <gtest/gtest.h>
 
-/// Runs an input unit through all its steps and keeps what it delivers.
+/// Runs an input unit through all its steps and stores what it delivers.
 class UnitCapture {
 public:
     struct Cycle {
@@ -21,10 +21,11 @@ public:
         std::uint64_t scopeTime = 0; ///< HostTimeScope::current() inside the callback
         double sampleTime = 0;
         std::uint32_t frames = 0;
-        std::uint64_t firstFrame = 0; ///< where it lies in samples()
+        std::uint64_t firstFrame = 0; ///< its index in samples()
     };
 
-    /// @p channels is what the client asks for; 0 is as many as the device has. @p keep false counts frames only.
+    /// @p channels is the requested number; 0 means all channels of the device. With @p keep false frames are only
+    /// counted.
     UnitCapture(Platform::AudioHardware& hardware, AudioObjectID device, std::uint32_t channels = 0, bool keep = true);
     ~UnitCapture();
     UnitCapture(const UnitCapture&) = delete;
@@ -38,11 +39,11 @@ public:
     [[nodiscard]] std::uint64_t frames() const;
     [[nodiscard]] std::vector<float> samples(std::uint32_t channel) const;
     [[nodiscard]] std::vector<Cycle> cycles() const;
-    /// Hands out all samples so far, one list a channel, and forgets them and the cycles; for long runs.
+    /// Returns all samples so far, one list per channel, and deletes them and the cycles; for long runs.
     [[nodiscard]] std::vector<std::vector<float>> takeAll();
     [[nodiscard]] std::vector<Platform::InputUnit::Event> events() const { return events_; }
     [[nodiscard]] bool heard(Platform::InputUnit::Event event) const;
-    /// Called in each cycle, on the I/O thread, after its frames were fetched.
+    /// Called in each cycle, on the I/O thread, after its frames were copied.
     std::function<void()> inCycle;
 
 private:
@@ -64,10 +65,10 @@ private:
     std::vector<Platform::InputUnit::Event> events_; ///< main thread
 };
 
-/// The device of that name, 0 when there is none.
+/// The device with that name, 0 when there is none.
 [[nodiscard]] AudioObjectID deviceNamed(Platform::AudioHardware& hardware, const QString& name);
-/// deviceNamed() that waits until it is there.
+/// deviceNamed(), but waits until the device exists.
 [[nodiscard]] AudioObjectID waitForDevice(Platform::AudioHardware& hardware, const QString& name);
 
-/// Whether the samples of one channel count up without a step, apart from silence at the very start.
+/// Whether the samples of one channel count up without a step, except for silence at the very start.
 [[nodiscard]] testing::AssertionResult isUnbrokenRamp(const std::vector<float>& samples, std::uint32_t channel);

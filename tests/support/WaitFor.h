@@ -6,8 +6,8 @@
 #include <QElapsedTimer>
 #include <QThread>
 
-/// Turns the event loop until @p condition holds; false when @p deadlineMs went by first. The deadline is there for a
-/// useful message before ctest gives up; no test passes or fails by how fast the machine is.
+/// Runs the event loop until @p condition is true; false when @p deadlineMs passes first. The deadline only gives a
+/// useful message before ctest's timeout; no test result depends on the machine's speed.
 template <typename Condition>
 [[nodiscard]] bool waitFor(Condition condition, int deadlineMs = 30000) {
     QElapsedTimer timer;

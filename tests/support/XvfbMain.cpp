@@ -9,7 +9,7 @@
 
 int main(int argc, char** argv) {
     if (const int status = DragClient::run(argc, argv); status >= 0)
-        return status; // a second program on the display of the first
+        return status; // runs as a second program on the first one's display
     defaultSignals();
     testing::InitGoogleTest(&argc, argv);
     XvfbSession session;

@@ -22,7 +22,7 @@ namespace {
 
 XvfbSession* session = nullptr;
 
-// Answers once the file descriptor brought a whole line, or with nothing after the deadline.
+// Returns a whole line from the file descriptor, or nothing after the deadline.
 QByteArray readLine(int descriptor, int deadlineMs) {
     QByteArray line;
     QElapsedTimer timer;
@@ -41,7 +41,7 @@ QByteArray readLine(int descriptor, int deadlineMs) {
     return {};
 }
 
-// Whether the X server has this property on its root window or an owner of the selection of that name.
+// Whether the X server has this property on its root window, or an owner of the selection of that name.
 bool rootHas(const QByteArray& display, const char* name, bool selection) {
     xcb_connection_t* connection = xcb_connect(display.constData(), nullptr);
     bool found = false;
@@ -65,8 +65,8 @@ bool rootHas(const QByteArray& display, const char* name, bool selection) {
     return found;
 }
 
-// A window manager that has just taken the screen may lose what is asked of it before it listens: only a window that it
-// really shows proves that it is there.
+// A window manager that has just started may lose requests before it listens: only a window that it really shows proves
+// that it works.
 bool windowsAreShown(const QByteArray& display) {
     xcb_connection_t* connection = xcb_connect(display.constData(), nullptr);
     bool shown = false;
@@ -113,12 +113,12 @@ struct XvfbSession::Private {
     QTemporaryDir folder;
     QByteArray display;
     QString problem;
-    std::vector<std::unique_ptr<QProcess>> processes; // in the order of their start
+    std::vector<std::unique_ptr<QProcess>> processes; // in starting order
 
     QProcess* start(const QString& program, const QStringList& arguments) {
         auto process = std::make_unique<QProcess>();
         process->setStandardErrorFile(folder.filePath(program + u".log"_s));
-        // A test that crashes leaves nothing running behind it.
+        // When a test crashes, these processes end with it.
         process->setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
         process->start(program, arguments);
         if (!process->waitForStarted(10000)) {
@@ -135,7 +135,8 @@ struct XvfbSession::Private {
             return false;
         auto* server = start(u"Xvfb"_s, {u"-displayfd"_s, QString::number(ends[1]), u"-screen"_s, u"0"_s,
                                          u"1280x1000x24"_s, u"-nolisten"_s, u"tcp"_s, u"-noreset"_s,
-                                         // A key is not repeated when the machine is slow to let go of it.
+                                         // No auto-repeat, so that a slow machine, which releases a key late, does not
+                                         // repeat it.
                                          u"-r"_s});
         close(ends[1]);
         if (server)
@@ -151,7 +152,7 @@ struct XvfbSession::Private {
         QFile file(config);
         if (!file.open(QIODevice::WriteOnly))
             return false;
-        // No folders of services: nothing of the machine's own desktop is started into the tests.
+        // No service folders: no service of the machine's own desktop is started.
         file.write("<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\" "
                    "\"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\"><busconfig><type>session</type>"
                    "<listen>unix:dir=" +

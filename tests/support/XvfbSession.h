@@ -7,9 +7,9 @@
 
 #include <memory>
 
-/// A desktop of its own for tests with real keys and real windows: an X server without a screen, a session bus and a
-/// window manager, each in a private folder, and each ended by its process id when the object goes (or when the test
-/// dies, however it dies). The constructor sets DISPLAY, QT_QPA_PLATFORM and DBUS_SESSION_BUS_ADDRESS, so it stands
+/// A separate desktop for tests with real keys and real windows: an X server without a screen, a session bus and a
+/// window manager, each in a private folder. Each is ended by its process id when the object is destroyed, or when the
+/// test dies for any reason. The constructor sets DISPLAY, QT_QPA_PLATFORM and DBUS_SESSION_BUS_ADDRESS, so create it
 /// before the QApplication.
 class XvfbSession {
 public:
@@ -18,22 +18,22 @@ public:
     XvfbSession(const XvfbSession&) = delete;
     XvfbSession& operator=(const XvfbSession&) = delete;
 
-    /// The session that runs now; null outside of tests with a display.
+    /// The running session; null in tests without a display.
     static XvfbSession* current();
 
-    /// Why there is no session; empty when there is one.
+    /// Why there is no session; empty on success.
     [[nodiscard]] QString problem() const;
-    [[nodiscard]] QString display() const; ///< ":7"
+    [[nodiscard]] QString display() const; ///< for example ":7"
     /// A system tray; returns when it owns the tray selection.
     [[nodiscard]] bool startTray();
     /// Ends the tray; returns when the selection is free again.
     void stopTray();
-    /// The windows that a property of the root window lists ("_NET_ACTIVE_WINDOW", "_NET_CLIENT_LIST_STACKING" with the
-    /// lowest first).
+    /// The windows that a root window property lists ("_NET_ACTIVE_WINDOW", "_NET_CLIENT_LIST_STACKING" with the lowest
+    /// first).
     [[nodiscard]] QList<quint32> windowsOfRoot(const QByteArray& property) const;
     /// Runs xdotool with @p arguments and waits for it.
     bool xdotool(const QStringList& arguments) const;
-    /// What it prints, trimmed.
+    /// Its output, trimmed.
     [[nodiscard]] QString xdotoolOutput(const QStringList& arguments) const;
 
 private:

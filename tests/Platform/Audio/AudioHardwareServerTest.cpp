@@ -29,7 +29,7 @@ QString uidOf(AudioHardware& hardware, AudioObjectID device) {
     return uid;
 }
 
-/// What the server itself says, asked with a tool of its own.
+/// Asks the server with one of its own tools.
 QByteArray asked(const QString& program, const QStringList& arguments) {
     QProcess process;
     process.start(program, arguments);
@@ -81,7 +81,7 @@ TEST_F(AudioHardwareTest, GivesAReturningNameItsNumberBackAndNobodyElses) {
     const auto one = waitForDevice(*hardware_, u"Return One"_s);
     first.remove();
     ASSERT_TRUE(waitFor([&] { return deviceNamed(*hardware_, u"Return One"_s) == 0; }));
-    // The server gives the next node the number of the one that left.
+    // The server reuses the id of the node that left for the next node.
     TestSource second({.name = "test.return.two", .description = "Return Two"});
     ASSERT_TRUE(second.start());
     const auto two = waitForDevice(*hardware_, u"Return Two"_s);
@@ -124,7 +124,7 @@ TEST_F(AudioHardwareTest, CountsCapturePortsButNoMonitors) {
         EXPECT_EQ(hardware_->getStreamsDataSize(device, scope, bytes), noErr);
         return bytes;
     };
-    // The session manager makes the ports one by one.
+    // The session manager creates the ports one by one.
     EXPECT_TRUE(waitFor([&] { return sizeOf(input, AudioHardware::Scope::Input) == 16; }));
     EXPECT_EQ(sizeOf(input, AudioHardware::Scope::Output), 0u);
     EXPECT_TRUE(waitFor([&] { return sizeOf(output, AudioHardware::Scope::Output) == 8; }));
@@ -162,7 +162,7 @@ TEST_F(AudioHardwareTest, SetsVolumeAndMuteOfTheDeviceItself) {
     ASSERT_EQ(hardware_->setMute(device, 2, true), noErr);
     EXPECT_NE(hardware_->setVolumeScalar(device, 3, 1.0f), noErr);
     EXPECT_NE(hardware_->setVolumeScalar(device, 0, 1.0f), noErr);
-    // Another look at the server must find them there.
+    // A second connection to the server must find them there.
     EXPECT_TRUE(waitFor([&] {
         const QByteArray props = asked(u"pw-dump"_s, {u"test.volume"_s}).simplified();
         return props.contains("\"channelVolumes\": [ 0.250000, 0.500000 ]") && props.contains("\"mute\": true");
@@ -184,7 +184,7 @@ TEST_F(AudioHardwareTest, SeesAVolumeThatSomebodyElseSet) {
 
 namespace {
 
-/// The microphone of a sound card.
+/// A microphone node of a sound card.
 class CardNode {
 public:
     CardNode(const TestCard& card, int device) {
@@ -212,7 +212,7 @@ TEST_F(AudioHardwareTest, SetsVolumeAndMuteOnTheRouteOfACard) {
     ASSERT_TRUE(card.start());
     const CardNode node(card, 7);
     const auto device = waitForDevice(*hardware_, u"Card Microphone"_s);
-    // What the card has is told, not what its node says.
+    // The card's values are reported, not those of its node.
     float volume = 0;
     bool mute = false;
     ASSERT_TRUE(waitFor([&] { return hardware_->getVolumeScalar(device, 2, volume) == noErr && volume == 0.2f; }));
@@ -224,7 +224,7 @@ TEST_F(AudioHardwareTest, SetsVolumeAndMuteOnTheRouteOfACard) {
         const auto route = card.route();
         return route.volumes == std::vector{1.0f, 0.5f} && !route.muted;
     })) << testing::PrintToString(card.route().volumes);
-    // A program that has just begun knows the route when it first asks.
+    // A program that has just started knows the route when it first asks.
     hardware_.reset();
     hardware_ = createAudioHardware();
     (void)hardware_->devices();

@@ -28,7 +28,7 @@ TEST(CaptureHour, UsesNoMoreMemoryAtItsEndThanAtItsBeginning) {
     const std::size_t before = heapInUse();
     std::uint64_t pushed = 0;
     std::uint64_t received = 0;
-    // Quanta of changing size, a lost one now and then, and a reader that sleeps for a while every minute.
+    // Quanta of changing size, an occasional lost one, and a reader that sleeps for a while every minute.
     for (std::uint32_t size = 512; pushed < std::uint64_t(3600 * rate); size = size == 2048 ? 480 : size + 8) {
         const std::uint64_t lost = pushed % 1000 == 0 ? 100 : 0;
         (void)ring.pushRt(pointers, {.hostTime = pushed, .lostBefore = lost, .frames = size});
@@ -42,7 +42,7 @@ TEST(CaptureHour, UsesNoMoreMemoryAtItsEndThanAtItsBeginning) {
     while (assembler.next(cycle, true, true))
         received += cycle.frames;
     EXPECT_EQ(heapInUse(), before);
-    // Every frame came out, as it was or as silence; what was lost on top was put in as silence too.
+    // Every frame came out, either unchanged or as silence; the lost frames were replaced by silence.
     EXPECT_GT(ring.lostFrames(), 0u);
     EXPECT_GE(received, pushed - 12 * 48000);
 }

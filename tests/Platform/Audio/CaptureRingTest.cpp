@@ -23,7 +23,7 @@ using namespace Platform;
 
 namespace {
 
-/// Plays a ramp into a ring, block by block; the test is its audio thread.
+/// Writes a ramp into a ring, block by block; the test plays the role of the audio thread.
 class Producer {
 public:
     explicit Producer(CaptureRing& ring) : ring_(ring), samples_(ring.channels()), pointers_(ring.channels()) {}
@@ -47,20 +47,20 @@ private:
     CaptureRing& ring_;
     std::vector<std::vector<float>> samples_;
     std::vector<const float*> pointers_;
-    std::uint64_t position_ = 1000; // so that the first values are not taken for silence
+    std::uint64_t position_ = 1000; // does not start at 0, so that the first values differ from silence
 };
 
-/// At a million frames a second a frame lasts a microsecond: host times read as frame numbers.
+/// At a million frames per second a frame lasts a microsecond, so host times can be read as frame numbers.
 constexpr double rate = 1e6;
 
 std::vector<float> copyOf(const CycleAssembler& assembler, const CaptureCycle& cycle, std::uint32_t channel = 0) {
     return {assembler.channel(channel), assembler.channel(channel) + cycle.frames};
 }
 
-/// A stretch of addresses, the end not included.
+/// An address range; the end is not included.
 using Stretch = std::pair<std::uintptr_t, std::uintptr_t>;
 
-/// What this process has taken from the system and may write to, in order.
+/// The writable memory mappings of this process, in order.
 std::vector<Stretch> memoryTaken() {
     std::vector<Stretch> all;
     std::ifstream maps("/proc/self/maps");
@@ -76,7 +76,7 @@ std::vector<Stretch> memoryTaken() {
     return all;
 }
 
-/// The parts of @p all that lie outside of @p others.
+/// The parts of @p all that lie outside @p others.
 std::vector<Stretch> without(const std::vector<Stretch>& all, const std::vector<Stretch>& others) {
     std::vector<Stretch> left;
     for (auto [begin, end] : all) {
@@ -100,7 +100,7 @@ std::size_t sizeOf(const std::vector<Stretch>& stretches) {
     return sum;
 }
 
-/// Bytes of these stretches that lie in pages which exist.
+/// Bytes of these ranges whose pages are resident.
 std::size_t occupied(const std::vector<Stretch>& stretches) {
     const auto page = std::size_t(sysconf(_SC_PAGESIZE));
     std::size_t pages = 0;
@@ -211,7 +211,7 @@ TEST(CaptureRing, LosesAndRepeatsNothingBetweenTwoThreads) {
         Producer producer(ring);
         std::uint64_t pushed = 0;
         for (std::uint32_t size = 1; pushed < total; size = size % 700 + 13) {
-            // A real source keeps its pace; here the reader sets it, so that nothing may be lost.
+            // A real source runs at its own rate; here it waits for the reader, so that nothing may be lost.
             while (pushed + size > consumed.load(std::memory_order_acquire) + 4096)
                 std::this_thread::yield();
             ASSERT_TRUE(producer.push(size));

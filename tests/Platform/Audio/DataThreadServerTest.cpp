@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Counts what the sound server's data threads of this process do that an audio thread must not, and what the process
-// keeps: every allocation, release and lock passes through here, the libraries' own included. The sanitizers bring
-// their own allocator and locks: what rests on the counts is not built with them.
+// Counts allocations, releases and locks on the sound server's data threads of this process, where none may happen, and
+// the memory that the process keeps. All calls pass through here, including those of the libraries. Sanitizers replace
+// the allocator and the locks, so these tests are not built with them.
 
 #include "Platform/Audio/linux/PipeWireHandles.h"
 #include "tests/support/PrivateAudioSession.h"
@@ -34,7 +34,7 @@ namespace {
 std::atomic<bool> counting{false};
 std::atomic<std::uint64_t> allocations{0};
 std::atomic<std::uint64_t> locks{0};
-std::atomic<std::int64_t> bytesInUse{0}; ///< of the heap, by the whole process
+std::atomic<std::int64_t> bytesInUse{0}; ///< on the heap, of the whole process
 
 thread_local bool onDataThread = false;
 
@@ -96,7 +96,7 @@ int pthread_mutex_lock(pthread_mutex_t* mutex) {
     count(locks);
     return real(mutex);
 }
-// Who fetches a buffer in real time is a data thread from then on.
+// The thread that dequeues a buffer in real time is a data thread.
 pw_buffer* pw_stream_dequeue_buffer(pw_stream* stream) {
     using Dequeue = pw_buffer* (*)(pw_stream*);
     static const Dequeue real = reinterpret_cast<Dequeue>(dlsym(RTLD_NEXT, "pw_stream_dequeue_buffer"));
@@ -129,7 +129,7 @@ TEST_F(DataThread, AllocatesNothingAndTakesNoLockWhileItCaptures) {
     counting = true;
     const auto before = capture.frames();
     ASSERT_TRUE(waitFor([&] { return capture.frames() > before + 2 * 48000; }));
-    // A full ring must not change that.
+    // A full ring must not change the result.
     capture.unit().holdCycles();
     ASSERT_TRUE(waitFor([&] { return capture.unit().lostFrames() > 4800; }, 40000));
     capture.unit().releaseCycles();
@@ -139,7 +139,7 @@ TEST_F(DataThread, AllocatesNothingAndTakesNoLockWhileItCaptures) {
 }
 
 TEST_F(DataThread, IsCountedWhenItAllocates) {
-    // The counter itself: a source whose sample function allocates is noticed.
+    // Checks the counter: a source whose sample function allocates is detected.
     TestSource source(
         {.name = "test.bad", .description = "Allocating", .sample = [](std::uint64_t frame, std::uint32_t) {
              return float(std::string(64, char('a' + frame % 2)).size()) / 128;
@@ -173,8 +173,8 @@ TEST_F(DataThread, ComesAndGoesWithItsUnitAHundredTimesWithoutGrowth) {
     [[maybe_unused]] const auto bytes = bytesInUse.load();
     for (int i = 0; i < 80; ++i)
         round();
-    // The server gives back what belonged to the last units in its own time. What each round kept would be there 80
-    // times; what the process occupies is no measure of it, since the heap keeps pages as it likes.
+    // The server releases the objects of the last units after a delay. Objects that each round leaks would exist 80
+    // times. The resident size is no measure, because the heap keeps free pages.
     EXPECT_TRUE(waitFor([&] { return entries("/proc/self/fd") < files + 40; })) << "files at first: " << files;
     EXPECT_TRUE(waitFor([&] { return entries("/proc/self/task") < threads + 40; })) << "threads at first: " << threads;
 #if COUNTS_CALLS

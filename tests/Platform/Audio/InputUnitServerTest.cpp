@@ -35,7 +35,7 @@ protected:
     std::unique_ptr<AudioHardware> hardware_ = createAudioHardware();
 };
 
-/// The ramp in two pieces, with a step where the hole is.
+/// Expects the ramp in two pieces, with a step at the gap.
 void expectTwoRamps(const std::vector<float>& samples, std::size_t& secondAt) {
     secondAt = 0;
     for (std::size_t i = 1; i < samples.size() && secondAt == 0; ++i)
@@ -65,7 +65,7 @@ TEST_F(InputUnitTest, DeliversOrCountsEverySampleOfADeviceOnTheServersClock) {
     ASSERT_TRUE(capture.start());
     ASSERT_TRUE(captured(capture, 1));
     capture.stop();
-    // The server's clock does not wait for a machine that is kept from running; what it cost must be counted.
+    // The server's clock does not wait for an overloaded machine; the frames lost by that must be counted.
     const auto samples = capture.samples(0);
     const auto first = std::ranges::find_if(samples, [](float value) { return value != 0; });
     const auto played = Signal::rampFrame(samples.back(), 0) - Signal::rampFrame(*first, 0) + 1;
@@ -102,7 +102,7 @@ TEST_F(InputUnitTest, StampsEachCycleWithTheTimeOfItsCapture) {
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());
     ASSERT_TRUE(captured(capture, 1));
-    // A stall of the I/O thread must not show in the times.
+    // A stall of the I/O thread must not appear in the times.
     capture.unit().holdCycles();
     const auto before = source.position();
     ASSERT_TRUE(waitFor([&] { return source.position() > before + 24000; }));
@@ -174,7 +174,7 @@ TEST_F(InputUnitTest, FillsInWhatWasLostBetweenLosingADeviceAndItsReturn) {
     ASSERT_TRUE(waitFor([&] { return capture.heard(Event::DeviceLost); }));
     const auto framesBefore = capture.frames();
     {
-        // Another device's frames tell how long it is away.
+        // Another device measures how long this one is away.
         TestSource beside({.name = "test.beside", .description = "Beside"});
         UnitCapture meanwhile(*hardware_, add(beside));
         ASSERT_TRUE(meanwhile.start());
@@ -190,7 +190,7 @@ TEST_F(InputUnitTest, FillsInWhatWasLostBetweenLosingADeviceAndItsReturn) {
     std::size_t secondAt = 0;
     expectTwoRamps(samples, secondAt);
     EXPECT_TRUE(isUnbrokenRamp({samples.begin() + std::ptrdiff_t(secondAt), samples.end()}, 0));
-    // Both the count of lost frames and the capture times tell how long it was away.
+    // Both the count of lost frames and the capture times must match the time that the device was away.
     const double lost = double(capture.unit().lostFrames()) / capture.sampleRate();
     EXPECT_GT(lost, 0.3);
     const auto cycles = capture.cycles();
@@ -275,7 +275,7 @@ TEST_F(InputUnitTest, KeepsItsRateWhenADeviceReturnsWithAnother) {
     ASSERT_TRUE(source->start());
     ASSERT_TRUE(waitFor([&] { return capture.frames() > before + 48000; }));
     capture.stop();
-    // A tone of 1000 Hz crosses zero 2000 times in the last 48000 frames only when they are a second long.
+    // A 1000 Hz tone crosses zero 2000 times in the last 48000 frames only if these are exactly one second.
     const auto samples = capture.samples(0);
     int crossings = 0;
     for (std::size_t i = samples.size() - 40000; i < samples.size(); ++i)
@@ -297,7 +297,7 @@ TEST_F(InputUnitTest, FollowsItsDeviceAndNotTheOneThatTookItsPlace) {
                       .content = TestSource::Content::Tone,
                       .sessionPriority = 9000});
     const auto stranger = add(other);
-    // The stranger runs, so a cycle of it would have come.
+    // The other device runs, so one of its cycles would have arrived.
     UnitCapture its(*hardware_, stranger);
     ASSERT_TRUE(its.start());
     ASSERT_TRUE(captured(its, 0.3));
@@ -412,7 +412,7 @@ TEST_F(InputUnitTest, DoesNotStartOnADeviceThatLeft) {
 }
 
 TEST_F(InputUnitTest, KeepsUnityGainWhateverWasRemembered) {
-    // A device at full scale arrives at full scale: nothing between it and the unit has a volume.
+    // A device at full scale arrives at full scale: no volume control lies between it and the unit.
     TestSource source({.description = "Full scale",
                        .sample = [](std::uint64_t, std::uint32_t channel) { return channel == 0 ? 1.0f : -1.0f; }});
     UnitCapture capture(*hardware_, add(source));

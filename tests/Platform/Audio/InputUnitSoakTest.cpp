@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Captures a ramp for that long and holds every frame against the one before it, without keeping them.
+/// Captures a ramp for this long and compares every frame with the one before it, without storing them.
 void captureExactly(std::uint32_t rate, double seconds, int busyLoops) {
     PrivateAudioSession::shared();
     const auto hardware = createAudioHardware();

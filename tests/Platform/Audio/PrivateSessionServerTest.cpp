@@ -27,7 +27,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Processes whose command line names the folder of a session or that have it in their environment.
+/// Processes that have the folder of a session in their command line or their environment.
 QStringList processesOf(const QString& runtimeFolder) {
     QStringList found;
     const QByteArray needle = "PIPEWIRE_RUNTIME_DIR=" + runtimeFolder.toLocal8Bit();
@@ -68,7 +68,7 @@ TEST(PrivateSession, LeavesNothingWhenItIsClosed) {
 
 TEST(PrivateSession, EndsWithItsOwnerThatIsKilled) {
     PrivateAudioSession::end();
-    // The program itself, recording on a machine without a sound server.
+    // The real program records on a machine without a sound server.
     const QTemporaryDir home;
     auto environment = QProcessEnvironment::systemEnvironment();
     for (const char* name : {"HOME", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME", "TMPDIR"})
@@ -111,9 +111,9 @@ TEST(PrivateSession, KeepsNothingOfItsCaller) {
 
 namespace {
 
-/// Starts a keeper and does to its folder what another one may do that begins beside it: between the moment when the
-/// folder has its lock file and the one when the lock is held, it takes the folder for a deserted one. Returns what the
-/// keeper says in the end. Its server ends at once, so all that it does is to make its folder.
+/// Starts a keeper and removes its folder, as another starting keeper could: between the creation of the lock file and
+/// the moment when the lock is held, the folder looks abandoned. Returns the keeper's last output. Its server exits at
+/// once, so it does nothing but create its folder.
 QByteArray keeperWhoseFolderIsRemoved(const QString& base, bool& removed) {
     const QByteArray path = QByteArrayLiteral(SONAPHEX_BIN_DIR "/Resources/AudioSessionKeeper");
     const QByteArray owner = QByteArray::number(getpid());
@@ -132,7 +132,7 @@ QByteArray keeperWhoseFolderIsRemoved(const QString& base, bool& removed) {
     close(output[1]);
     removed = false;
     int status = 0;
-    // It stops at each of its system calls, until the lock file is there for the first time.
+    // The keeper is stopped at each of its system calls until the lock file exists.
     while (!removed && waitpid(keeper, &status, 0) == keeper && WIFSTOPPED(status)) {
         for (const QString& each : QDir(base).entryList({u"sonaphex-audio-*"_s}, QDir::Dirs)) {
             const int lock = open(QFile::encodeName(base + u'/' + each + u"/lock"_s).constData(), O_RDONLY | O_CLOEXEC);
@@ -196,7 +196,7 @@ TEST(PrivateSession, HearsNoServerWhereThereIsNone) {
 
 namespace {
 
-/// The server stands still, as on a machine that is busy with other things, for as long as it lives.
+/// Stops the server's process while this object lives, as on an overloaded machine.
 class StoodStill {
 public:
     explicit StoodStill(pid_t process) : process_(process) { kill(process_, SIGSTOP); }
@@ -234,7 +234,7 @@ TEST(PrivateSession, WaitsForAServerThatStandsStillAndSaysSoOnce) {
     EXPECT_EQ(PrivateSession::waitForServer({}, 1500), PrivateSession::Server::Silent);
     EXPECT_EQ(testing::internal::GetCapturedStderr(),
               "sonaphex: the sound server does not answer: waiting for it, at most 1 seconds\n");
-    // It wakes up while it is waited for.
+    // The server continues while the program waits for it.
     testing::internal::CaptureStderr();
     EXPECT_EQ(PrivateSession::waitForServer([&] {
                   still.reset();

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Captures of a device that waits for nobody: it follows the server's own clock, as a sound card's does. A machine that
-// does not let the server run in time loses cycles before they reach us; those are told apart from what we lose.
+// Captures a device that does not wait for its listeners: it follows the server's own clock, like a sound card. A
+// machine that does not run the server in time loses cycles before they reach the program; these tests distinguish them
+// from frames that the program loses.
 #include "tests/support/BusyLoops.h"
 #include "tests/support/PrivateAudioSession.h"
 #include "tests/support/TestSource.h"
@@ -30,14 +31,14 @@ protected:
         lost_ = unit.unit().lostFrames();
         overrun_ = unit.unit().overrunFrames();
         left_ = unit.samples(0);
-        // Each frame that was played since the first one arrived or was counted.
+        // Each frame that was played since the first one either arrived or was counted as lost.
         const auto first = std::ranges::find_if(left_, [](float value) { return value != 0; });
         ASSERT_NE(first, left_.end());
         const auto played = Signal::rampFrame(left_.back(), 0) - Signal::rampFrame(*first, 0) + 1;
         EXPECT_EQ(std::uint64_t(left_.end() - first) + lost_, played) << "lost without being counted";
     }
 
-    /// Captures until one attempt was not hit by the server. What is ours must be right in every one.
+    /// Captures until one attempt has no loss in the server. The program's own part must be right in every attempt.
     void expectNothingOfOursIsLost(std::uint32_t rate) {
         constexpr int attempts = 12;
         int costByTheServer = 0;
@@ -80,11 +81,11 @@ TEST_F(ServerClock, CountsWhatOurRingHadNoRoomForApartFromTheRest) {
     UnitCapture unit(*hardware_, waitForDevice(*hardware_, u"Overrun"_s), 0, false);
     ASSERT_TRUE(unit.start());
     ASSERT_TRUE(waitFor([&] { return unit.frames() > 0; }));
-    unit.unit().holdCycles(); // for longer than the ring is deep
+    unit.unit().holdCycles(); // longer than the ring can hold
     ASSERT_TRUE(waitFor([&] { return unit.unit().overrunFrames() > 0; }, 60000));
     EXPECT_LE(unit.unit().overrunFrames(), unit.unit().lostFrames());
     unit.unit().releaseCycles();
-    // A device that goes is no fault of the ring.
+    // A device that leaves does not count as an overrun of the ring.
     const auto overrun = unit.unit().overrunFrames();
     ASSERT_TRUE(waitFor([&, before = unit.frames()] { return unit.frames() > before + 48000 * 11; }, 60000));
     source.remove();

@@ -108,7 +108,7 @@ TEST_F(GrabbedKeys, AHeldKeyActsOnce) {
     ASSERT_NE(hotKeys->registerHotKey(1, command, {2, 1}), 0U);
     auto* session = XvfbSession::current();
     other.letKeysRepeat(true);
-    // The same key without the modifier repeats into the other window: the server does repeat here.
+    // The same key without the modifier auto-repeats in the other window: the server does repeat here.
     ASSERT_TRUE(session->xdotool({u"keydown"_s, u"g"_s}));
     int presses = 0;
     ASSERT_TRUE(waitFor([&] { return (presses += other.presses()) >= 1; }));
@@ -116,14 +116,14 @@ TEST_F(GrabbedKeys, AHeldKeyActsOnce) {
     ASSERT_TRUE(waitFor([&] { return (presses += other.presses()) >= 5; }));
     const auto repeating = other.timeOfLastPress() - first;
     ASSERT_TRUE(session->xdotool({u"keyup"_s, u"g"_s}));
-    // Held with it, it acts once while twice as much of the server's own time goes by.
+    // Held with the modifier, it acts once, while twice as much of the server's time passes.
     ASSERT_TRUE(session->xdotool({u"keydown"_s, u"super"_s, u"keydown"_s, u"g"_s}));
     EXPECT_TRUE(waitFor([&] { return !pressed.isEmpty(); }));
     const auto held = other.serverTime();
     EXPECT_TRUE(waitFor([&] { return other.serverTime() - held > 2 * std::max(repeating, 700U); }));
     ASSERT_TRUE(session->xdotool({u"keyup"_s, u"g"_s, u"keyup"_s, u"super"_s}));
     other.letKeysRepeat(false);
-    // Another key comes after all that the server sent of this one.
+    // Another key arrives after all events of this one.
     type(u"super+s"_s);
     EXPECT_TRUE(waitFor([&] { return pressed.contains(2U); }));
     EXPECT_EQ(pressed, (QList<std::uint32_t>{1, 2}));
@@ -132,7 +132,7 @@ TEST_F(GrabbedKeys, AHeldKeyActsOnce) {
 
 TEST_F(GrabbedKeys, FollowAChangeOfTheKeymap) {
     ASSERT_NE(hotKeys->registerHotKey(5, command, {1, 1}), 0U);
-    // Num Lock moves from the second modifier bit to the third.
+    // Moves Num Lock from the second modifier bit to the third.
     ASSERT_TRUE(other.moveModifier(4, 5));
     QCoreApplication::processEvents();
     type(u"Num_Lock"_s);

@@ -10,7 +10,7 @@ TEST(KeyCodes, LettersOfTheDefaultShortcutsHaveTheirPlaces) {
     EXPECT_EQ(physicalKey(1), 31);  // S
     EXPECT_EQ(physicalKey(35), 25); // P
     EXPECT_EQ(physicalKey(45), 49); // N
-    EXPECT_EQ(physicalKey(0), 30);  // A, whose code is no "none"
+    EXPECT_EQ(physicalKey(0), 30);  // A, whose code 0 does not mean "none"
 }
 
 TEST(KeyCodes, EveryKeyComesBackAsItself) {

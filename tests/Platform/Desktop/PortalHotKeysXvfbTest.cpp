@@ -42,7 +42,7 @@ struct ListedShortcut {
     return argument;
 }
 
-// A desktop portal on the private bus: it answers like one, and its user presses what the test says.
+// A desktop portal on the private bus; the test decides its answers and the keys that its user presses.
 class Portal : public QDBusVirtualObject {
 public:
     Portal() : bus_(QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), u"portal"_s)) {
@@ -105,10 +105,10 @@ public:
     }
 
     bool hasShortcuts = true;
-    bool lists = false;        ///< an answer lists the shortcuts that were bound
-    QStringList refused;       ///< not in that list
+    bool lists = false;        ///< the response lists the bound shortcuts
+    QStringList refused;       ///< missing from that list
     QStringList withoutKeys;   ///< in that list, but without a combination
-    QStringList refusesAllFor; ///< with one of these it binds nothing
+    QStringList refusesAllFor; ///< if one of these is requested, it binds nothing
     uint scheme = 1;
     QString session;
     QMap<QString, QVariantMap> bound;
@@ -131,7 +131,7 @@ private:
         sender.replace(u'.', u'_');
         const QString request =
             portalPath + u"/request/"_s + sender + u'/' + options.value(u"handle_token"_s).toString();
-        // A portal may answer the request before the call: the program must be listening by then.
+        // A portal may send the response before the call returns: the program must already be subscribed.
         auto response = QDBusMessage::createSignal(request, u"org.freedesktop.portal.Request"_s, u"Response"_s);
         response << answer << results;
         bus_.send(response);

@@ -11,7 +11,7 @@
 using namespace Qt::StringLiterals;
 
 TEST(SleepInhibitor, HoldsSleepOffOnlyWhileItIsAskedTo) {
-    // The private session bus of the tests plays the system's.
+    // The tests' private session bus replaces the system bus.
     const EnvironmentScope bus("DBUS_SYSTEM_BUS_ADDRESS", qgetenv("DBUS_SESSION_BUS_ADDRESS"));
     LoginManager manager(QDBusConnection::sessionBus());
     ASSERT_TRUE(manager.isRegistered());

@@ -18,7 +18,7 @@
 
 namespace {
 
-/// A desktop whose xdg-open writes down what it was asked for.
+/// A desktop whose xdg-open records its arguments.
 struct WorkspaceTest : testing::Test {
     QTemporaryDir dir;
     EnvironmentScope path{"PATH", dir.path().toUtf8() + ":" + qgetenv("PATH")};

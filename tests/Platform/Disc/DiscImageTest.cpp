@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The drive that writes images, with real sound files, checked by other programs.
+// The drive that writes images, with real audio files; other programs check the result.
 #include "Platform/Disc/CueSheet.h"
 #include "Platform/Foundation/Services.h"
 #include "tests/Platform/Disc/DiscTestSupport.h"
@@ -22,7 +22,7 @@ protected:
     [[nodiscard]] QStringList everything() const {
         return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
     }
-    /// A sound file of two tones, made by sox: @p format as "-r 48000 -b 24 -c 2".
+    /// An audio file of two tones, made by sox: @p format like "-r 48000 -b 24 -c 2".
     QString tones(const QString& name, const QString& format, const QString& seconds, const QString& vol = u"0.5"_s) {
         const QString path = at(name);
         sox(QStringList{u"-n"_s} + format.split(u' ') +
@@ -76,7 +76,7 @@ TEST_F(DiscImageTest, IsTheLastDriveWithABlankDiscOf80Minutes) {
     EXPECT_FALSE(createDiskArbitration()->createSession()->createDiskFromBSDName("/dev/sr99")->hasDescription());
 }
 
-// Ten tracks of many kinds, compared with what sox makes of the same files and read by two other programs.
+// Ten tracks of different formats, compared with what sox makes of the same files and read by two other programs.
 TEST_F(DiscImageTest, HoldsTheSoundOfTenKindsOfFiles) {
     QStringList paths;
     paths << tones(u"01.wav"_s, u"-r 44100 -b 16 -c 2"_s, u"4.5"_s)
@@ -109,17 +109,17 @@ TEST_F(DiscImageTest, HoldsTheSoundOfTenKindsOfFiles) {
         ASSERT_GE(ours.size(), reference.size()) << i;
         EXPECT_LT(ours.size() - reference.size(), std::max<std::size_t>(1176 + 4, 300 * 1176 - reference.size() + 4))
             << i;
-        // The first and last hundredth of a second of a resampled file depend on how the filter begins.
+        // The first and last hundredth of a second of a resampled file depend on how the filter starts.
         const std::size_t margin = 882;
         const std::vector<std::int16_t> a(ours.begin() + margin,
                                           ours.begin() + std::ptrdiff_t(reference.size() - margin));
         const std::vector<std::int16_t> b(reference.begin() + margin, reference.end() - margin);
-        // Two dithers of half a step each, independent of one another.
+        // Two independent dithers of half a step each.
         EXPECT_LT(difference(a, b, a.size()), 0.85) << i;
         sectors += layout[i]->sectors();
     }
     EXPECT_EQ(bin.size(), sectors * 2352);
-    // Files of 16 bits at the disc's own rate are on it bit for bit.
+    // Files of 16 bits at the disc's own rate are copied bit for bit.
     const auto bits = [&](int number) {
         const QString raw = at(u"bits.raw"_s);
         sox({u"-D"_s, paths[number], u"-e"_s, u"signed"_s, u"-b"_s, u"16"_s, u"-c"_s, u"2"_s, raw});
@@ -153,7 +153,7 @@ TEST_F(DiscImageTest, HoldsTheSoundOfTenKindsOfFiles) {
 
 TEST_F(DiscImageTest, LetsThePartsOfOneRecordingFollowWithoutAClick) {
     const QString whole = tones(u"whole.wav"_s, u"-r 44100 -b 16 -c 2"_s, u"18"_s);
-    // Not at borders of sectors.
+    // Not at sector boundaries.
     sox({whole, at(u"a.wav"_s), u"trim"_s, u"0s"_s, u"200001s"_s});
     sox({whole, at(u"b.wav"_s), u"trim"_s, u"200001s"_s, u"250037s"_s});
     sox({whole, at(u"c.wav"_s), u"trim"_s, u"450038s"_s});

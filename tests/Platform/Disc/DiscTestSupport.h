@@ -35,7 +35,7 @@ inline void sox(const QStringList& arguments) {
     ASSERT_EQ(ran.status, 0) << ran.errors.data();
 }
 
-/// Root mean square of the differences, in steps of 16 bit.
+/// Root mean square of the differences, in 16-bit steps.
 inline double difference(const std::vector<std::int16_t>& a, const std::vector<std::int16_t>& b, std::size_t count) {
     double sum = 0;
     for (std::size_t i = 0; i < count; ++i) {
@@ -45,7 +45,7 @@ inline double difference(const std::vector<std::int16_t>& a, const std::vector<s
     return std::sqrt(sum / double(count));
 }
 
-/// No drives of the system: tests must not depend on the machine.
+/// No real drives: tests must not depend on the machine.
 class NoDrives final : public Platform::DriveSource {
 public:
     std::vector<Platform::FoundDrive> drives() override { return {}; }
@@ -57,7 +57,7 @@ inline std::unique_ptr<Platform::DriveSource> noDrives(std::function<void()>) {
     return std::make_unique<NoDrives>();
 }
 
-/// Notes every status that a burn reports.
+/// Records every status that a burn reports.
 class BurnWatch {
 public:
     BurnWatch(Platform::DRNotificationCenter& center, const std::shared_ptr<Platform::DRBurn>& burn) : center_(center) {

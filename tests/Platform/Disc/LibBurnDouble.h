@@ -15,10 +15,10 @@
 #include <thread>
 #include <vector>
 
-// Definitions of libburn's functions in front of the library's own: what has to do with a drive is answered by a burner
-// that a test sets up, what only makes up a layout goes on to the real library. To be included by one test file.
+// Replacements for libburn's functions: those that use a drive are answered by a burner that the test sets up; those
+// that only build a layout call the real library. Include this in one test file only.
 
-/// The burner, and what was asked of it.
+/// The burner, and a record of the calls.
 class LibBurnDouble {
 public:
     LibBurnDouble() { current = this; }
@@ -32,16 +32,16 @@ public:
 
     static inline LibBurnDouble* current = nullptr;
 
-    // ---- set up by the test
+    // ---- set by the test
     std::atomic<burn::burn_disc_status> disc{burn::BURN_DISC_BLANK};
     std::atomic<int> profile{0x09};
     std::atomic<int> lastBlock{359'849};
     std::atomic<bool> erasable{false};
-    QSet<QString> fails;                   ///< names of calls that fail as their documentation says
-    QByteArray says;                       ///< a message that the library has to tell
-    std::atomic<bool> holdsWriting{false}; ///< writes no further than the first second while this is true
+    QSet<QString> fails;                   ///< names of calls that fail as documented
+    QByteArray says;                       ///< a message for the library to report
+    std::atomic<bool> holdsWriting{false}; ///< while true, writing stops after the first second
 
-    // ---- seen by the test
+    // ---- read by the test
     QStringList calls() {
         const std::lock_guard lock(mutex_);
         return calls_;
@@ -56,7 +56,7 @@ public:
     }
     std::atomic<int> cancels{0};
     std::atomic<int> cancelsAtTheWrongTime{0};
-    std::atomic<int> holds{0}; ///< drives that are held now
+    std::atomic<int> holds{0}; ///< number of drives that are grabbed now
 
     // ---- called by the functions below
     void note(const QString& call) {
@@ -99,7 +99,7 @@ public:
                     if (got > 0)
                         written_.append(reinterpret_cast<const char*>(sector.data()), got);
                     else
-                        written_.append(2352, '\0'); // the library fills up what a source does not give
+                        written_.append(2352, '\0'); // the library pads a source that ends early
                     ++sector_;
                 }
             }
@@ -135,7 +135,7 @@ public:
     burn::burn_drive* drive() { return reinterpret_cast<burn::burn_drive*>(this); }
 
 private:
-    std::mutex mutex_; // guards what follows
+    std::mutex mutex_; // guards the members below
     QStringList calls_;
     QByteArray written_;
     std::vector<burn::burn_source*> sources_;
@@ -272,7 +272,7 @@ void burn_write_opts_set_multi(burn_write_opts*, int multi) {
 }
 int burn_write_opts_set_underrun_proof(burn_write_opts*, int on) {
     burner().note(QStringLiteral("underrun proof %1").arg(on));
-    return burner().failsAt("underrun proof") ? 0 : 1; // some drives cannot: that stops nothing
+    return burner().failsAt("underrun proof") ? 0 : 1; // some drives do not support this; the burn continues
 }
 int burn_write_opts_set_write_type(burn_write_opts*, burn_write_types type, int block) {
     burner().note(type == BURN_WRITE_SAO && block == BURN_BLOCK_SAO ? QStringLiteral("type SAO")

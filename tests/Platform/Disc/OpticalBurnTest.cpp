@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Drives of the system, against a double of libburn that stands in front of the library.
+// Drives of the system, with a double in place of libburn.
 #include "tests/Platform/Disc/LibBurnDouble.h"
 
 #include "tests/Platform/Disc/DiscTestSupport.h"
@@ -14,7 +14,7 @@ using namespace DiscTest;
 
 namespace {
 
-/// The drives that a test plugs in, and the discs that it puts in.
+/// The drives and discs that a test inserts.
 class TestDrives final : public DriveSource {
 public:
     explicit TestDrives(std::function<void()> changed) : changed(std::move(changed)) {}
@@ -30,7 +30,7 @@ public:
     QStringList mounted;
     std::atomic<int> error{0};
     QStringList quieted;
-    static inline std::vector<FoundDrive> found; // there before the first look
+    static inline std::vector<FoundDrive> found; // exists before the first poll
 };
 
 class OpticalBurnTest : public testing::Test {
@@ -52,7 +52,7 @@ protected:
     ~OpticalBurnTest() override {
         burner.holdsWriting = false;
         watch.reset();
-        discs.reset(); // before the double goes
+        discs.reset(); // before the double is destroyed
     }
 
     std::shared_ptr<DRDevice> drive() {
@@ -85,7 +85,7 @@ protected:
         EXPECT_TRUE(waitFor([&] { return watch->ended(); }));
         return burn->status();
     }
-    /// The calls of the burn, without those of the looks at the disc before and after it.
+    /// The calls of the burn itself, without those that examine the disc before and after it.
     QStringList callsOfTheBurn() {
         QStringList calls = burner.calls();
         const auto from = calls.indexOf(u"grab /dev/sr0 1"_s);
@@ -252,7 +252,7 @@ TEST_F(OpticalBurnTest, NamesAnotherProgramAndMissingRights) {
         u"ACME Writer: no right to use /dev/sr0: join the group that owns it (often \"cdrom\") and log in again"_s);
     EXPECT_EQ(drive()->status().problem,
               u"no right to use /dev/sr0: join the group that owns it (often \"cdrom\") and log in again"_s);
-    EXPECT_TRUE(drive()->mediaIsBlank()); // as the system's database has it
+    EXPECT_TRUE(drive()->mediaIsBlank()); // the value of the system's database
     drives->error = 0;
     EXPECT_EQ(burned().reason, u"ACME Writer: the drive cannot be opened"_s);
 }
@@ -273,7 +273,7 @@ TEST_F(OpticalBurnTest, AbortsOnceAndOnlyWhileItWrites) {
 TEST_F(OpticalBurnTest, StopsWhenASourceFailsAndNamesIt) {
     drive();
     files.sources[u"/two"_s].failingRead = 3;
-    // More than the ring holds, so that the failure comes while the disc is written.
+    // Longer than the ring, so that the failure comes while the disc is being written.
     files.addSource(u"/one"_s, 400, [](int, std::int64_t) { return 0.25F; });
     const DRStatus status = burned();
     EXPECT_EQ(status.state, DRStatusStateFailed);
@@ -347,7 +347,7 @@ TEST_F(OpticalBurnTest, TellsOfDiscsAndDrivesThatComeAndGo) {
     TestDrives::found[0].media = DRDeviceMediaStateMediaPresent;
     drives->changed();
     ASSERT_TRUE(waitFor([&] { return first->status().mediaState == DRDeviceMediaStateMediaPresent; }));
-    drives->changed(); // nothing new
+    drives->changed(); // nothing changed
     TestDrives::found[0].media = DRDeviceMediaStateNone;
     drives->changed();
     EXPECT_EQ(states,

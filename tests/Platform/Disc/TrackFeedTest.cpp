@@ -14,7 +14,7 @@ namespace {
 class TrackFeedTest : public testing::Test {
 protected:
     ~TrackFeedTest() override { stalled = false; }
-    /// A source that stops giving frames while stalled is true, from a frame on.
+    /// A source that stops delivering frames, from a given frame on, while stalled is true.
     std::shared_ptr<DRTrack> track(const QString& path, double seconds, std::int64_t stallsAt = INT64_MAX) {
         files.addSource(path, seconds, [this, stallsAt](int, std::int64_t frame) {
             while (frame >= stallsAt && stalled)
@@ -44,7 +44,7 @@ TEST_F(TrackFeedTest, GivesTheTracksOneAfterTheOtherInWholeSectors) {
     for (std::size_t at = 0; at < bytes.size(); at += 2352)
         ASSERT_TRUE(feed.take(std::span(bytes).subspan(at, 2352)));
     std::byte more[2352];
-    EXPECT_FALSE(feed.take(more)); // that was all
+    EXPECT_FALSE(feed.take(more)); // nothing follows
     EXPECT_FALSE(feed.error());
     const auto samples =
         DiscTest::samplesOf(QByteArray(reinterpret_cast<const char*>(bytes.data()), qsizetype(bytes.size())));
@@ -54,7 +54,7 @@ TEST_F(TrackFeedTest, GivesTheTracksOneAfterTheOtherInWholeSectors) {
         ASSERT_NEAR(samples[(301U * 588 + i) * 2], double(i % 1000), 2) << i;
 }
 
-// What the fastest drive draws in five seconds comes out of the ring while the sources give nothing.
+// The ring supplies the fastest drive for five seconds while the sources deliver nothing.
 TEST_F(TrackFeedTest, LastsFiveSecondsWithoutTheDiskThatHoldsTheSources) {
     for (const auto& [speed, times] : {std::pair(0.F, 52), std::pair(8467.F, 48), std::pair(706.F, 4)}) {
         stalled = true;
@@ -64,7 +64,7 @@ TEST_F(TrackFeedTest, LastsFiveSecondsWithoutTheDiskThatHoldsTheSources) {
         EXPECT_TRUE(takeSectors(feed, std::int64_t(times) * 75 * 5));
         EXPECT_EQ(feed.waits(), 0U) << times;
         stalled = false;
-        EXPECT_TRUE(takeSectors(feed, 1000)); // and it goes on
+        EXPECT_TRUE(takeSectors(feed, 1000)); // and the feed continues
     }
     EXPECT_LE(TrackFeed::bytesFor(0), std::size_t(56) << 20);
 }
@@ -102,9 +102,9 @@ TEST(DitherTest, AddsTriangularNoiseThatHidesTheRounding) {
             squares += left * left;
             together += left * (out[2 * i + 1] - double(level));
         }
-        EXPECT_NEAR(sum / frames, 0, 0.005) << level;       // the mean is the sound's, whatever lies between two steps
-        EXPECT_NEAR(squares / frames, 0.25, 0.01) << level; // as is the noise: a quarter of a squared step
-        EXPECT_NEAR(together / frames, 0, 0.005) << level;  // each channel has a noise of its own
+        EXPECT_NEAR(sum / frames, 0, 0.005) << level;       // the mean is that of the audio, also between two steps
+        EXPECT_NEAR(squares / frames, 0.25, 0.01) << level; // and so is the noise: a quarter of a squared step
+        EXPECT_NEAR(together / frames, 0, 0.005) << level;  // the noise of the channels is independent
     }
 }
 

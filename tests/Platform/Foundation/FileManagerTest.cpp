@@ -20,7 +20,7 @@ namespace {
 
 struct FileManager : testing::Test {
     QTemporaryDir dir;
-    /// Another file system, so that a move is a copy. Null where the machine has none.
+    /// A folder on another file system, so that a move becomes a copy. Null when the machine has none.
     QTemporaryDir elsewhere{QStringLiteral("/dev/shm/sonaphex-test-XXXXXX")};
     EnvironmentScope data{"XDG_DATA_HOME", dir.filePath(QStringLiteral("share")).toUtf8()};
 

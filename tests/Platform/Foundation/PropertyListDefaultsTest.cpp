@@ -152,7 +152,7 @@ TEST_F(DefaultsFile, WritesBehindALinkInsteadOfCuttingIt) {
 }
 
 TEST_F(DefaultsFile, SaysThatItCouldNotBeWrittenAndTriesAgain) {
-    // A folder in the place of the file cannot be replaced, whoever runs the test.
+    // A folder in place of the file cannot be replaced, even by root.
     ASSERT_TRUE(QDir().mkpath(path()));
     PropertyListDefaults defaults(path());
     defaults.setObject(u"a"_s, 1);

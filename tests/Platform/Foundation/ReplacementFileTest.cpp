@@ -39,7 +39,7 @@ struct ReplacementFile : testing::Test {
 };
 
 struct ReplacementFileWritten : ReplacementFile, testing::WithParamInterface<bool> {
-    /// Writes in the way of this run: through the descriptor, or by name.
+    /// Writes in the way that this run tests: through the descriptor, or by name.
     static void write(Platform::ReplacementFile& file, const QByteArray& content) {
         if (!GetParam())
             return put(file.path(), content);

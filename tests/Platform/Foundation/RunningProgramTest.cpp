@@ -32,7 +32,7 @@ struct RunningProgramTest : testing::Test {
     std::unique_ptr<RunningProgram> second = RunningProgram::create(QStringLiteral("org.example.Test"));
 };
 
-/// Asks from a thread of its own, for the answer comes from this one's event loop.
+/// Asks on a separate thread, because this thread's event loop answers.
 QByteArray askMeanwhile(RunningProgram& who, const QByteArray& request) {
     QByteArray answer;
     std::atomic<bool> done{false};
@@ -119,7 +119,7 @@ TEST_F(RunningProgramTest, CarriesTheKeysOfAWholeLibrary) {
         ++requests;
         return request;
     }));
-    const QByteArray keys(2 << 20, 'k'); // what a command line holds
+    const QByteArray keys(2 << 20, 'k'); // as long as a command line can be
     EXPECT_TRUE(askMeanwhile(*second, keys) == keys);
     EXPECT_EQ(requests, 1);
 }
@@ -151,7 +151,7 @@ TEST_F(RunningProgramTest, AnswersBeforeItDoesWhatTurnsTheEventLoop) {
     bool done = false;
     ASSERT_TRUE(first->listen([&](const QByteArray&) {
         return RunningProgram::Reply("ok", [&] {
-            // A dialog: it stands until the caller has its answer and has hung up.
+            // Simulates a dialog: it stays open until the caller has its answer and has disconnected.
             EXPECT_TRUE(waitFor([&] { return answered; }, 10000));
             done = true;
         });
@@ -180,7 +180,7 @@ TEST_F(RunningProgramTest, DoesWhatItAnsweredBeforeTheNextRequest) {
         QLocalSocket socket;
         socket.connectToServer(dir.filePath(QStringLiteral("org.example.Test.socket")));
         EXPECT_TRUE(socket.waitForConnected());
-        socket.write("a\nb\nc\n"); // all at once
+        socket.write("a\nb\nc\n"); // in one packet
         socket.waitForBytesWritten();
         while (answers.size() < 3 && (socket.canReadLine() || socket.waitForReadyRead(10000)))
             while (socket.canReadLine())

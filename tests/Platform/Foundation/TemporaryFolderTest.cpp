@@ -138,7 +138,7 @@ TEST_F(TemporaryFolderTest, StaysWithWhatCouldNotBeSetAside) {
         kept += MovedFiles::setAside(folder + QStringLiteral("/raw"), QStringLiteral("a.m4a"));
     }
     EXPECT_EQ(kept, (QStringList{folder + QStringLiteral("/a.m4a"), folder + QStringLiteral("/a 2.m4a")}));
-    // An empty note, as on a disk without room for a word, does as well.
+    // An empty note, as written on a full disk, keeps the file, too.
     ASSERT_TRUE(QFile::resize(kept.at(1) + QStringLiteral(".origin"), 0));
     make(folder + QStringLiteral("/raw"));
     TemporaryFolder::removeWhole(folder);
@@ -166,7 +166,7 @@ TEST_F(TemporaryFolderTest, ThatHadToStayIsFoundAgain) {
         const auto folder = TemporaryFolder::create(QStringLiteral("test"), why);
         ASSERT_TRUE(folder) << qPrintable(why);
         ASSERT_EQ(MovedFiles::moveAway(home, folder->path() + QStringLiteral("/1.m4a")), QString());
-        make(home); // its place is taken
+        make(home); // its original path is taken
     }
     EXPECT_EQ(all().size(), 4) << "the folder and its lock stay";
     ASSERT_TRUE(QFile::remove(home));

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Sets what a signal does and puts it back afterwards.
+/// Sets a signal's disposition and restores it afterwards.
 class Disposition {
 public:
     Disposition(int signal, void (*action)(int)) : signal_(signal), before_(std::signal(signal, action)) {}

@@ -31,7 +31,7 @@ bool tag(const QString& path, const QString& title, const QString& artist = u"Ar
 class Tags : public testing::Test {
 protected:
     [[nodiscard]] QString path(const QString& name = u"a.m4a"_s) const { return folder_.filePath(name); }
-    /// Files that a save left beside those of the test.
+    /// Files that a save left beside the test's own files.
     [[nodiscard]] QStringList leftOver() const {
         return QDir(folder_.path()).entryList({u".sonaphex*"_s}, QDir::Hidden | QDir::Files);
     }
@@ -50,7 +50,7 @@ QString mediainfo(const QString& path, const QString& field) {
     return QString::fromUtf8(found.output).trimmed();
 }
 
-/// Takes all tags from a file that ends with them, as those of recorders do before they are tagged.
+/// Removes all tags from a file that ends with them, like a recording that was never tagged.
 void stripTags(const QString& path) {
     QByteArray content = Mpeg4Files::contentOf(path);
     const auto tags = content.lastIndexOf("udta") - 4;
@@ -61,7 +61,7 @@ void stripTags(const QString& path) {
     ASSERT_TRUE(Mpeg4Files::write(path, content));
 }
 
-/// Puts an item at the end of the tag list of a file that ends with its index, and that with its list.
+/// Appends an item to the tag list of a file whose index is at its end, with the list at the end of the index.
 void insertItem(const QString& path, const QByteArray& item) {
     QByteArray content = Mpeg4Files::contentOf(path);
     for (const char* const box : {"moov", "udta", "meta", "ilst"}) {
@@ -133,7 +133,7 @@ TEST_P(TagsOfShape, CarryACoverOfAMegabyte) {
     EXPECT_EQ(mediainfo(copy, u"Cover"_s), u"Yes"_s);
     EXPECT_TRUE(parsley(copy).contains(u"\"covr\" contains: 1 piece of artwork"_s)) << qPrintable(parsley(copy));
     EXPECT_EQ(Mpeg4Files::audioOf(copy), Mpeg4Files::audioOf(file));
-    // Text tags leave it alone.
+    // Saving text tags does not change it.
     ASSERT_TRUE(tag(copy, u"Title"_s));
     EXPECT_EQ(BasicID3Change::read(copy)->artwork, Mpeg4Files::contentOf(cover));
     EXPECT_EQ(Mpeg4Files::audioOf(copy), Mpeg4Files::audioOf(file));
@@ -173,7 +173,7 @@ TEST_F(Tags, OfAnotherProgramAreReadTheSame) {
     EXPECT_EQ(tags->year, 2004);
     EXPECT_EQ(tags->genre, u"Jazz"_s);
     EXPECT_EQ(tags->artwork, Mpeg4Files::contentOf(cover));
-    // The numbered genre goes when a text comes.
+    // The numbered genre is removed when a text genre is set.
     ASSERT_TRUE(tag(path(), u"t"_s, u"a"_s, u"b"_s, 1, u"Own"_s));
     EXPECT_EQ(BasicID3Change::read(path())->genre, u"Own"_s);
     EXPECT_EQ(BasicID3Change::read(path())->artwork, Mpeg4Files::contentOf(cover));
@@ -183,11 +183,11 @@ TEST_F(Tags, LeaveThoseOfOtherKindsAlone) {
     ASSERT_TRUE(Mpeg4Files::make(path()));
     const QByteArray audio = Mpeg4Files::audioOf(path());
     ASSERT_TRUE(tag(path(), u"x"_s));
-    // An item whose type TagLib does not know: a number where it expects a text.
+    // An item with a type that TagLib does not expect: a number where it expects a text.
     const QByteArray odd = QByteArray::fromHex("0000001c636d494400000014646174610000001500000000000004d2");
     insertItem(path(), odd);
     for (const bool inFront : {false, true}) {
-        if (inFront) { // that program puts the index in front, and many tags of its own into it
+        if (inFront) { // this program writes the index in front, with many tags of its own
             ASSERT_EQ(runTool(u"AtomicParsley"_s,
                               {path(), u"--composer"_s, u"Composer"_s, u"--comment"_s, u"Comment"_s, u"--tracknum"_s,
                                u"3/9"_s, u"--disk"_s, u"1/2"_s, u"--bpm"_s, u"120"_s, u"--compilation"_s, u"true"_s,
@@ -196,7 +196,7 @@ TEST_F(Tags, LeaveThoseOfOtherKindsAlone) {
                       0);
         }
         const QStringList before = parsley(path()).split(u'\n');
-        // The second is more than the padding behind the list can give.
+        // The second is larger than the padding behind the list.
         for (const QString& title : {u"New title"_s, QString(30000, u'n')}) {
             ASSERT_TRUE(tag(path(), title));
             const QString after = parsley(path());
@@ -227,7 +227,7 @@ TEST_F(Tags, StandBehindTheTablesOfTheAudio) {
     for (const int length : {20, 5000, 100}) {
         ASSERT_TRUE(tag(path(), QString(length, u'x')));
         const QByteArray after = Mpeg4Files::contentOf(path());
-        // All of the index but its size is as it was, and the audio in front of it.
+        // Except for its size, the index is unchanged, and so is the audio in front of it.
         const auto tables = indexOf(before).size();
         EXPECT_EQ(after.left(before.size() - tables), before.left(before.size() - tables));
         EXPECT_EQ(indexOf(after).mid(4, tables - 4), indexOf(before).mid(4));
@@ -257,7 +257,7 @@ TEST_F(Tags, GoIntoAnIndexWithALargeSize) {
         EXPECT_EQ(Mpeg4Files::audioOf(path()), audio);
         EXPECT_TRUE(Mpeg4Files::contentOf(path()).contains(odd));
     }
-    // And into one that has no tags yet.
+    // Also into a file that has no tags yet.
     ASSERT_TRUE(Mpeg4Files::make(path(), Shape::IndexAtEnd, 5));
     stripTags(path());
     ASSERT_TRUE(enlarge());
@@ -319,7 +319,7 @@ TEST_F(Tags, RefuseEveryTruncationAndLeaveItAsItWas) {
             (void)BasicID3Change::read(path());
             if (!tag(path(), u"Other"_s))
                 ASSERT_EQ(Mpeg4Files::contentOf(path()), cut);
-            else // the cut fell between two boxes: what is left is a sound file
+            else // the cut was between two boxes: the rest is an audio file
                 ASSERT_EQ(BasicID3Change::read(path())->title, u"Other"_s);
         }
     }
@@ -356,7 +356,7 @@ TEST_F(Tags, LiveWithHostileTables) {
     ASSERT_TRUE(Mpeg4Files::write(path(), hostile));
     EXPECT_FALSE(tag(path(), u"x"_s));
     EXPECT_EQ(Mpeg4Files::contentOf(path()), hostile);
-    // Boxes in boxes, deeper than any stack.
+    // Boxes nested deeper than any stack.
     QByteArray nested;
     for (quint32 depth = 1; depth <= 100000; ++depth) {
         QByteArray header(8, '\0');
@@ -415,7 +415,7 @@ TEST_F(Tags, AreAsBeforeWhenTheDiskIsFullInTheMiddleOfASave) {
     ASSERT_TRUE(tag(path(), u"Before"_s));
     const QByteArray before = Mpeg4Files::contentOf(path());
     ChildProcess child([&] {
-        // No file may grow beyond this: the save has written a part when it learns.
+        // A limit on the file size: the save has written a part when it fails.
         const rlimit limit{static_cast<rlim_t>(before.size() + 500), RLIM_INFINITY};
         std::signal(SIGXFSZ, SIG_IGN);
         ::setrlimit(RLIMIT_FSIZE, &limit);

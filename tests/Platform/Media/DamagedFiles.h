@@ -9,7 +9,7 @@
 
 namespace MediaTest {
 
-/// Seconds of processors that this process has used: what others do on the machine does not count.
+/// Processor seconds used by this process, independent of the machine's load.
 [[nodiscard]] inline double secondsOfWork() {
     timespec used = {};
     clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &used);
@@ -17,7 +17,7 @@ namespace MediaTest {
 }
 
 /// Reads @p count randomly damaged files of several formats: none may crash the reader, make it hang, or give endless
-/// sound.
+/// audio.
 inline void readDamagedFiles(int count, unsigned seed) {
     const QTemporaryDir folder;
     std::vector<QByteArray> originals;
@@ -83,7 +83,7 @@ inline void readDamagedFiles(int count, unsigned seed) {
         Platform::AudioFileInfo info;
         Platform::MediaError error;
         (void)media().info(damaged, info, error);
-        constexpr std::size_t most = 5'000'000; // of silence that a damaged length may claim
+        constexpr std::size_t most = 5'000'000; // frames of silence that a wrong length may cause
         const auto back = readFile(damaged, 44100, 2, random() % 3 ? 0 : std::int64_t(below(70000)), most, 4096);
         EXPECT_TRUE(back.openError ? !back.openError.text.isEmpty() : true);
         EXPECT_LT(secondsOfWork() - before, 30);

@@ -27,7 +27,7 @@ TEST_F(WrittenFiles, WaveHoldsTheSamplesExactlyAtOddLengths) {
             float worst = 0;
             for (std::size_t i = 0; i < frames; ++i)
                 worst = std::max(worst, std::fabs(back.rows[c][i] - source[c][i]));
-            EXPECT_LE(worst, 1.0f / 2147483648.0f); // the rounding to a 32-bit integer
+            EXPECT_LE(worst, 1.0f / 2147483648.0f); // rounding to a 32-bit integer
         }
     }
 }
@@ -136,7 +136,7 @@ TEST_F(WrittenFiles, OtherRatesAreConvertedInPlaceAndLength) {
         const auto back = readFile(at(u"a.wav"_s));
         EXPECT_NEAR(double(back.length), double(frames) * 44100 / rate, 0.5);
         if (rate < 12000)
-            continue; // the upper tone is at its edge
+            continue; // the upper tone is at the edge of its band
         const Samples expected = sweep(back.rows[0].size(), 44100);
         EXPECT_GT(signalToError(expected[0], back.rows[0], 1000, back.rows[0].size() - 1000), 90) << rate;
         EXPECT_GT(signalToError(expected[1], back.rows[1], 1000, back.rows[0].size() - 1000), 90) << rate;
@@ -222,7 +222,7 @@ TEST_F(WrittenFiles, OtherProgramsReadOurFiles) {
     EXPECT_TRUE(probed.err.isEmpty()) << probed.err.toStdString();
     ASSERT_EQ(tool(u"faad"_s, {u"-o"_s, at(u"faad.wav"_s), at(u"a.m4a"_s)}).status, 0);
     const auto faad = readFile(at(u"faad.wav"_s));
-    // faad keeps the encoder's first packet or not, depending on its version; the sound is there either way.
+    // Whether faad keeps the encoder's first packet depends on its version; the audio is there in both cases.
     ASSERT_GE(faad.rows[0].size(), 441000u);
     const std::size_t shift = faad.rows[0].size() >= 441000 + 1024 + 1024 ? 1024 : 0;
     std::vector<float> aligned(faad.rows[0].begin() + std::ptrdiff_t(shift), faad.rows[0].end());

@@ -18,11 +18,11 @@ struct GrowingFiles : testing::Test {
     QTemporaryDir folder;
     QString at(const QString& name) const { return folder.filePath(name); }
 
-    /// Seconds that GStreamer's demultiplexer and decoder get out of a file; negative when they fail.
+    /// Seconds that GStreamer's demultiplexer and decoder get from a file; negative when they fail.
     double secondsOfGStreamer(const QString& path) const {
         const QString out = at(u"gst.wav"_s);
         QFile::remove(out);
-        // Arguments of their own: the path is not part of a pipeline description.
+        // Separate arguments: the path is not part of a pipeline description.
         const auto run = tool(u"gst-launch-1.0"_s, {u"-q"_s, u"filesrc"_s, u"location="_s + path, u"!"_s, u"qtdemux"_s,
                                                     u"!"_s, u"avdec_aac"_s, u"!"_s, u"audioconvert"_s, u"!"_s,
                                                     u"wavenc"_s, u"!"_s, u"filesink"_s, u"location="_s + out});
@@ -38,7 +38,7 @@ struct GrowingFiles : testing::Test {
     }
 };
 
-/// Runs @p body in a child process; what it answers becomes the exit status.
+/// Runs @p body in a child process; its result becomes the exit status.
 template <typename Body>
 pid_t inChild(Body body) {
     const pid_t child = ::fork();
@@ -47,7 +47,7 @@ pid_t inChild(Body body) {
     return child;
 }
 
-/// Each holds a second.
+/// Each fragment holds a second.
 qsizetype fragmentsOf(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll().count("moof") : 0;
@@ -85,7 +85,7 @@ TEST_F(GrowingFiles, AKilledRecordingPlaysUpToAboutItsLastSecond) {
         if (!writer || writer->setClientDataFormat(clientFormat()) != noErr)
             return 1;
         writeAll(*writer, sound, 512, true);
-        // The file's thread has taken all when the last whole second is in it and it stops growing.
+        // The file's thread is done when the last whole second is in the file and the file stops growing.
         for (qint64 size = -1, still = 0, waited = 0; waited < 60'000 && (still < 20 || fragmentsOf(path) < 7);) {
             ::usleep(20000);
             waited += 20;
@@ -111,9 +111,9 @@ TEST_F(GrowingFiles, AKilledRecordingPlaysUpToAboutItsLastSecond) {
     EXPECT_EQ(back.length, std::int64_t(back.rows[0].size()));
     EXPECT_GT(double(back.length) / 44100, seconds - 1.1);
     const Samples sound = tones(back.rows[0].size());
-    EXPECT_GT(signalToError(sound[0], back.rows[0]), 20); // in place: the priming is taken off
+    EXPECT_GT(signalToError(sound[0], back.rows[0]), 20); // in the right place: the priming is removed
 
-    // A place anywhere in the last fragment: what was written half plays too.
+    // Cuts anywhere inside the last fragment: a half-written fragment plays, too.
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::ReadWrite));
     ASSERT_TRUE(file.resize(file.size() - 5000));
@@ -135,7 +135,7 @@ TEST_F(GrowingFiles, AClosedFileIsPlainWithItsIndexAtTheEndAndNothingBesideIt) {
 }
 
 TEST_F(GrowingFiles, AFileWithoutRoomForASecondCopyGetsItsIndexInPlace) {
-    // The folder takes no new file, so the plain form cannot be made beside the growing one.
+    // The folder is read-only, so the plain version cannot be made beside the growing one.
     const QString path = at(u"a.m4a"_s);
     const pid_t child = inChild([&] {
         Samples sound = tones(500000);
@@ -165,7 +165,7 @@ TEST_F(GrowingFiles, AFullDiskKeepsWhatWasRecordedAndSaysSo) {
     ASSERT_TRUE(QDir().mkdir(at(u"disk"_s)));
     const bool mounted = ::mount("tmpfs", mountPoint.constData(), "tmpfs", 0, "size=128k") == 0;
     const QString target = mounted ? at(u"disk/full.m4a"_s) : path;
-    // Without the right to mount, a limit on the length of files ends the writing at the same place.
+    // When mounting is not permitted, a limit on the file size ends the writing at the same place.
     const pid_t child = inChild([&] {
         if (!mounted) {
             ::signal(SIGXFSZ, SIG_IGN);
@@ -194,7 +194,7 @@ TEST_F(GrowingFiles, AFullDiskKeepsWhatWasRecordedAndSaysSo) {
 }
 
 TEST_F(GrowingFiles, AnHourHasTheIndexOfAnHour) {
-    // Of silence, which is encoded sooner: the index has as many packets.
+    // Silence encodes faster, and the index has as many packets.
     Samples silence(2, std::vector<float>(44100 * 60));
     auto writer = newWriter(at(u"hour.m4a"_s), kAudioFileM4AType, aacFormat(), clientFormat());
     for (int minute = 0; minute < 60; ++minute)
@@ -209,7 +209,7 @@ TEST_F(GrowingFiles, AnHourHasTheIndexOfAnHour) {
 namespace {
 
 struct Cuts : GrowingFiles {
-    /// Writes @p sound cut at @p places into WAVE files, each new writer made while the one before is still busy.
+    /// Writes @p sound, cut at @p places, into WAVE files. Each new writer is created while the one before still works.
     QStringList writeCut(Samples& sound, double rate, const std::vector<std::size_t>& places, bool later) {
         QStringList paths;
         std::vector<std::future<OSStatus>> closed;
@@ -316,7 +316,7 @@ TEST_F(Cuts, AFileThatEndsWhileAFewFramesFollowedKeepsThemInTheNext) {
     put(*first, 0, 40000);
     auto second = newWriter(at(u"2.wav"_s), kAudioFileWAVEType, waveFormat(), clientFormat(48000));
     EXPECT_EQ(second->continueFrom(*first), noErr);
-    put(*second, 40000, 40200); // too few for the converter to give the end of the first
+    put(*second, 40000, 40200); // too few for the converter to output the end of the first file
     EXPECT_EQ(first->dispose(), noErr);
     put(*second, 40200, 96000);
     EXPECT_EQ(second->dispose(), noErr);
@@ -340,7 +340,7 @@ TEST_F(Cuts, RefuseAFormatOfAnotherKindAndASecondSuccessor) {
     auto third = newWriter(at(u"4.wav"_s), kAudioFileWAVEType, waveFormat(), clientFormat());
     EXPECT_NE(third->continueFrom(*first), noErr);
     BufferList list(sound, 0, 100);
-    EXPECT_NE(first->writeAsync(100, list.get()), noErr); // its frames belong to the successor now
+    EXPECT_NE(first->writeAsync(100, list.get()), noErr); // its frames go to the successor now
 }
 
 namespace {
@@ -387,8 +387,8 @@ TEST_F(Mixes, NeverWrapAround) {
 }
 
 TEST_F(Mixes, ShiftAndStretchATrackThatRanOnAnotherClock) {
-    // The second source's clock was 100 ppm fast and it began 0.25 s late: its file holds more frames than time went
-    // by.
+    // The second source's clock ran 100 ppm fast and started 0.25 s late: its file has more frames than the elapsed
+    // time.
     constexpr double speed = 1.0001;
     const std::size_t frames = 44100 * 20;
     Samples silence(2, std::vector<float>(1000));

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a save of tags touches on the disk, and what it leaves alone.
+// What a save of tags writes to the disk, and what it does not touch.
 #include "Platform/Media/BasicID3Change.h"
 #include "Platform/Media/linux/MediaFilesLinux.h"
 #include "tests/support/ChildProcess.h"
@@ -30,7 +30,7 @@ protected:
         EXPECT_EQ(::stat(QFile::encodeName(file).constData(), &status), 0);
         return status.st_ino;
     }
-    /// Bytes that this process has handed to the kernel to write.
+    /// Bytes that this process has passed to the kernel for writing.
     static qint64 bytesWritten() {
         QFile io(u"/proc/self/io"_s);
         EXPECT_TRUE(io.open(QIODevice::ReadOnly));
@@ -103,7 +103,8 @@ TEST_F(InPlaceSave, PaysNoAttentionToHiddenFilesBesideTheRecording) {
     ASSERT_TRUE(Mpeg4Files::make(path(), Mpeg4Files::Shape::IndexAtEnd, 2));
     ASSERT_EQ(BasicID3Change::writeTexts(path(), {.title = u"Before"_s}), QString());
     const QByteArray before = Mpeg4Files::contentOf(path());
-    // Names that an early version used, made by somebody who may write to the folder: a pipe, and any content.
+    // File names of an early version, created by another user who may write to the folder: a pipe, and arbitrary
+    // content.
     const QString undo = path(u".sonaphex-%1.undo"_s.arg(inodeOf(path()), 0, 16));
     ASSERT_EQ(::mkfifo(QFile::encodeName(undo).constData(), 0666), 0);
     const auto media = Platform::createMediaFiles();

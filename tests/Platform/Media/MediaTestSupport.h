@@ -20,7 +20,7 @@
 
 namespace MediaTest {
 
-using Samples = std::vector<std::vector<float>>; // one row a channel
+using Samples = std::vector<std::vector<float>>; // one row per channel
 
 inline Platform::MediaFiles& media() {
     static const auto files = Platform::createMediaFiles();
@@ -39,7 +39,7 @@ inline AudioStreamBasicDescription aacFormat(double rate = 44100, std::uint32_t 
     return {rate, kAudioFormatMPEG4AAC, 0, 0, 1024, 0, channels, 0, 0};
 }
 
-/// A buffer list on rows, from a frame on.
+/// A buffer list that points to rows, from a frame on.
 class BufferList {
 public:
     BufferList(Samples& rows, std::size_t from, std::size_t frames)
@@ -56,7 +56,7 @@ private:
     AudioBufferList* list_;
 };
 
-/// Sounds with little noise and a different pitch in each channel.
+/// Low-noise tones with a different pitch in each channel.
 inline Samples tones(std::size_t frames, double rate = 44100, std::size_t channels = 2) {
     Samples rows(channels, std::vector<float>(frames));
     std::uint32_t seed = 1;
@@ -71,7 +71,7 @@ inline Samples tones(std::size_t frames, double rate = 44100, std::size_t channe
     return rows;
 }
 
-/// A band of frequencies, without an edge at either end of the spectrum: what a converter of rates must keep.
+/// A sweep without an edge at either end of the spectrum; a rate converter must preserve it.
 inline Samples sweep(std::size_t frames, double rate, std::size_t channels = 2) {
     Samples rows(channels, std::vector<float>(frames));
     for (std::size_t i = 0; i < frames; ++i) {
@@ -107,7 +107,7 @@ inline std::unique_ptr<Platform::ExtAudioFileWriter> newWriter(const QString& pa
     return writer;
 }
 
-/// Writes a whole file.
+/// Writes a complete file.
 inline void writeFile(const QString& path, std::uint32_t type, Samples rows, double rate = 44100,
                       std::size_t block = 512) {
     const auto channels = std::uint32_t(rows.size());
@@ -125,7 +125,7 @@ struct ReadResult {
     std::int64_t length = -1;
 };
 
-/// All frames of a file in a client format; at most @p most, from @p from on.
+/// All frames of a file in a client format; at most @p most, starting at @p from.
 inline ReadResult readFile(const QString& path, double rate = 44100, std::uint32_t channels = 2, std::int64_t from = 0,
                            std::size_t most = std::size_t(1) << 40, std::uint32_t block = 512) {
     ReadResult result;
@@ -152,7 +152,7 @@ inline ReadResult readFile(const QString& path, double rate = 44100, std::uint32
     return result;
 }
 
-/// How far @p b is from @p a, in dB below a's own level (positive: better).
+/// How much @p b differs from @p a, in dB below a's own level (larger is better).
 inline double signalToError(const std::vector<float>& a, const std::vector<float>& b, std::size_t from = 0,
                             std::size_t to = std::size_t(-1)) {
     double signal = 1e-30;

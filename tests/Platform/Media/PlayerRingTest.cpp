@@ -16,7 +16,7 @@ std::vector<float> ramp(int from, std::size_t count) {
     return values;
 }
 
-/// A ring whose decoder works when it is told.
+/// A ring whose decoder runs step by step under the test's control.
 class PlayerRingTest : public testing::Test {
 protected:
     void decode(std::int64_t upTo = 1 << 20) {

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-//
-// A save of tags that ends at any moment: by SIGKILL, by a full copy of a file that is just being saved, by a power cut
-// that keeps any of the writes since the last sync. Every program still reads the old tags or the new ones and all of
-// the audio.
+// A save of tags that is interrupted at any moment: by SIGKILL, by copying the file during the save, by a power cut
+// that keeps any subset of the writes since the last sync. Every program still reads the old tags or the new ones and
+// all of the audio.
 #include "Platform/Media/BasicID3Change.h"
 #include "Platform/Media/linux/MediaFilesLinux.h"
 #include "Platform/Media/linux/encode/PacketFile.h"
@@ -31,7 +30,7 @@ namespace {
 
 using Calls = std::vector<DiskCalls::Call>;
 
-/// Does a call to a file's content; of a Write only the first @p count bytes.
+/// Applies a call to a file's content; of a Write only the first @p count bytes.
 QByteArray after(QByteArray content, const DiskCalls::Call& call, qsizetype count = -1) {
     if (call.kind == Kind::Cut) {
         const qsizetype size = content.size();
@@ -49,7 +48,7 @@ QByteArray after(QByteArray content, const DiskCalls::Call& call, qsizetype coun
     return content;
 }
 
-/// What the file can be like when the process ends in the middle of these calls.
+/// All states of the file when the process is killed during these calls.
 std::set<QByteArray> statesOfAKill(QByteArray content, const Calls& calls) {
     std::set<QByteArray> states{content};
     for (const auto& call : calls) {
@@ -58,7 +57,7 @@ std::set<QByteArray> statesOfAKill(QByteArray content, const Calls& calls) {
             for (const qsizetype part : {qsizetype(4), qsizetype(12)})
                 if (part < size)
                     states.insert(after(content, call, part));
-            // Four bytes of a size lie in one sector and are written whole.
+            // The four bytes of a size lie in one sector and are written completely.
             if (size > 4 || std::isalpha(call.bytes[0]))
                 states.insert(after(content, call, size / 2));
         }
@@ -68,8 +67,8 @@ std::set<QByteArray> statesOfAKill(QByteArray content, const Calls& calls) {
     return states;
 }
 
-/// What the file can be like when the power fails: of the calls since the last sync any may be on the disk, and where
-/// the file grew there may be zeros.
+/// All states of the file after a power cut: any of the calls since the last sync may be on the disk, and where the
+/// file grew there may be zeros.
 std::set<QByteArray> statesOfAPowerCut(QByteArray content, const Calls& calls) {
     std::set<QByteArray> states;
     for (auto begin = calls.begin(); begin != calls.end();) {
@@ -86,7 +85,7 @@ std::set<QByteArray> statesOfAPowerCut(QByteArray content, const Calls& calls) {
                         DiskCalls::Call zeros = call;
                         std::fill(zeros.bytes.begin() + std::min(written, zeros.bytes.size()), zeros.bytes.end(), '\0');
                         states.insert(after(state, zeros));
-                        DiskCalls::Call late = call; // the beginning is missing
+                        DiskCalls::Call late = call; // the beginning was not written
                         std::fill(late.bytes.begin(), late.bytes.begin() + std::min(written, late.bytes.size()), '\0');
                         states.insert(after(state, late));
                     }
@@ -115,7 +114,7 @@ struct SaveBoundaries : testing::Test {
         return BasicID3Change::setMpeg4ID3Information(file, title, u"Artist"_s, u"Album"_s, 2012, u"Genre"_s);
     }
 
-    /// What two other demuxers give out: the packets that one finds, and what the other decodes.
+    /// The output of two other demuxers: the packets of one, and the decoded audio of the other.
     QByteArray packetsOf(const QString& file) const {
         const auto result =
             runTool(u"gst-launch-1.0"_s, {u"-q"_s, u"filesrc"_s, u"location="_s + file, u"!"_s, u"qtdemux"_s, u"!"_s,
@@ -139,8 +138,8 @@ struct SaveBoundaries : testing::Test {
         return {Mpeg4Files::audioOf(file), packetsOf(file), decodedBy(file), info.frameCount};
     }
 
-    /// The title that each reader finds; null where one cannot read the file. While two indexes are there, a reader
-    /// that looks for tags in both may find the new ones before the others do.
+    /// The title that each reader finds; null where it cannot read the file. While there are two indexes, a reader that
+    /// searches both for tags may find the new ones before the others do.
     QStringList titles() const {
         const auto own = BasicID3Change::read(path);
         const QString told = QString::fromUtf8(runTool(u"AtomicParsley"_s, {path, u"-t"_s}).output);
@@ -153,7 +152,7 @@ struct SaveBoundaries : testing::Test {
 
     void leaveAFileThatEveryProgramReads(Shape shape);
 
-    /// Saves while every call to the file is recorded.
+    /// Runs a save and records every call to the file.
     Calls recorded(const std::function<bool()>& save) const {
         const DiskCalls disk;
         EXPECT_TRUE(save());
@@ -161,12 +160,12 @@ struct SaveBoundaries : testing::Test {
     }
 };
 
-// Suites of their own, so that they run beside each other.
+// Separate suites, so that they can run in parallel.
 struct SaveWithItsIndexAtTheEnd : SaveBoundaries {};
 struct SaveWithItsIndexInFront : SaveBoundaries {};
 struct KilledSaves : SaveBoundaries, testing::WithParamInterface<Shape> {};
 
-/// A recording of an hour by its index; its packets are short.
+/// A recording with the index of a whole hour; its packets are short.
 void makeAnHour(const QString& path) {
     Platform::OutputFile file;
     ASSERT_FALSE(bool(file.create(path, false)));
@@ -190,7 +189,7 @@ void SaveBoundaries::leaveAFileThatEveryProgramReads(Shape shape) {
     ASSERT_FALSE(audio.otherDecoded.isEmpty());
     QString old = u"nil"_s;
     ASSERT_TRUE(tag(path, old));
-    // Into a new place, into the room of the indexes before, into a new place because it is larger.
+    // Into a new place, into the room of earlier indexes, into a new place because it is larger.
     const std::vector<std::pair<QString, std::function<bool()>>> saves{
         {u"one"_s, [&] { return tag(path, u"one"_s); }},
         {u"two"_s, [&] { return tag(path, u"two"_s); }},
@@ -217,7 +216,7 @@ void SaveBoundaries::leaveAFileThatEveryProgramReads(Shape shape) {
             EXPECT_EQ(found[0], found[1]);
             EXPECT_EQ(found[0], found[2]);
             ASSERT_EQ(audioOf(path), audio);
-            // What the next save makes of it.
+            // The file after the next save.
             for (const QString& next : {u"a later one"_s, u"the last"_s}) {
                 ASSERT_TRUE(tag(path, next));
                 ASSERT_EQ(BasicID3Change::read(path)->title, next);
@@ -274,7 +273,7 @@ TEST_P(KilledSaves, LeaveAFileThatIsRead) {
         }
         EXPECT_GE(kills, 4) << "the kills did not reach the save";
         EXPECT_EQ(Mpeg4Files::contentOf(path), finished);
-        if (GetParam() != Shape::Fragmented) { // made anew; killed at its very end, a hidden file stays
+        if (GetParam() != Shape::Fragmented) { // rewritten; when killed at the very end, a hidden file stays
             EXPECT_TRUE(QDir(folder.path()).entryList({u".*"_s}, QDir::Hidden | QDir::Files).isEmpty());
         }
         old = title;
@@ -302,17 +301,17 @@ TEST_P(ManySaves, DoNotLetTheFileGrow) {
     for (int i = 0; i < 1000; ++i)
         save(1 + i % 7 * 400);
     const qint64 afterAThousand = QFileInfo(path).size();
-    // Beside the audio there are at most three indexes: that in use, and the room of two.
+    // Beside the audio there are at most three indexes: the one in use, and the room of two.
     const qint64 index = 3 * (qint64(1024) * 4 + 3000);
     EXPECT_LT(afterAThousand, size + index);
     for (int i = 0; i < 200; ++i)
-        save(1 + i); // each is a byte longer than the room of the one before
+        save(1 + i); // each is a byte larger than the room of the previous one
     EXPECT_LT(QFileInfo(path).size(), size + index);
     for (int i = 0; i < 200; ++i)
         save(random.bounded(1, 3000));
     EXPECT_LT(QFileInfo(path).size(), size + index);
     EXPECT_EQ(Mpeg4Files::audioOf(path), audio);
-    // A large cover that goes does not stay as empty room for ever.
+    // A large cover that is removed does not leave its room in the file.
     ASSERT_TRUE(Mpeg4Files::noise(400).save(cover));
     ASSERT_EQ(BasicID3Change::copyWithArtwork(path, cover, path), QString());
     ASSERT_GT(QFileInfo(path).size(), size + 400'000);
@@ -345,6 +344,6 @@ TEST_F(SaveOfAnHour, TakeUnder15Milliseconds) {
     std::ranges::sort(work);
     std::ranges::sort(passed);
     std::printf("one hour: %.2f ms of work, %.2f ms with the disk (medians of 21 saves)\n", work[10], passed[10]);
-    // The disk's own time is the machine's; what the save computes and copies is ours.
+    // Only the save's own computing and copying counts; the disk's time depends on the machine.
     EXPECT_LT(work[10], 15);
 }

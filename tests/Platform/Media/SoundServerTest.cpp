@@ -21,7 +21,7 @@ namespace {
 constexpr std::uint32_t kRate = 48000;
 constexpr double kSeconds = 20;
 
-/// Plays files whose samples name their own frames into the session's output, and listens at that output.
+/// Plays files whose samples encode their own frame number into the session's output, and captures that output.
 class SoundTest : public testing::Test {
 protected:
     SoundTest() {
@@ -34,7 +34,7 @@ protected:
     void SetUp() override { ASSERT_TRUE(capture.start()); }
 
     HeardFrames heardFrames() { return HeardFrames(capture.interleaved()); }
-    /// The frames of the file that were heard, in their order.
+    /// The frames of the file that were played, in order.
     std::vector<std::int64_t> heard() { return heardFrames().frames; }
     void listenAnew() {
         capture.stop();
@@ -56,7 +56,7 @@ TEST_F(SoundTest, PlaysEveryFrameOnceAtVolumeOne) {
     EXPECT_EQ(sound->duration(), 0.5);
     int finished = 0;
     QObject::connect(sound.get(), &Platform::Sound::finished, [&] { ++finished; });
-    // A busy machine loses cycles: those turns are played again, all others count.
+    // A busy machine loses cycles: such rounds are repeated, all others count.
     for (int turn = 1; turn <= 20; ++turn) {
         listenAnew();
         ASSERT_TRUE(sound->play());
@@ -81,8 +81,8 @@ TEST_F(SoundTest, PlaysLongerThanItsRingWithoutSilence) {
     constexpr std::size_t length = 3 * kRate; // the ring holds 0.75 s
     files.sources[path].frames = length;
     auto sound = sounds->open(path);
-    // Cycles that the machine lost are silent or missing as a whole; then it is played again. A decoder that is late
-    // would be heard in each turn, and says so itself.
+    // Cycles that the machine lost are silent or missing as a whole; then the round is repeated. A late decoder would
+    // show in each round, and is reported in lateFrames().
     for (int turn = 0; turn < 10; ++turn) {
         listenAnew();
         const LogCatcher log;
@@ -149,7 +149,7 @@ TEST_F(SoundTest, GoesOnAtTheFrameWhereItPaused) {
         const auto paused = heard();
         EXPECT_TRUE(sound->resume());
         ASSERT_TRUE(waitFor([&] { return heard().size() > paused.size() + 2000; }));
-        // The last and the first cycle around the pause may be lost on a busy machine; then another round counts.
+        // A busy machine may lose the last and the first cycle around the pause; then another round counts.
         exactRounds += paused.back() + 1 == time && heard()[paused.size()] == time;
     }
     EXPECT_EQ(exactRounds, 5);
@@ -173,7 +173,7 @@ TEST_F(SoundTest, LandsOnTheFrameOfASeek) {
         ASSERT_TRUE(waitFor([&] { return heard().size() > 5000; }));
         const auto all = heardFrames();
         ASSERT_TRUE(all.exact);
-        // The first cycle may be lost on a busy machine, never a part of one.
+        // The first cycle may be lost on a busy machine, but never a part of one.
         ASSERT_EQ((all.frames.front() - wanted) % HeardFrames::cycle, 0) << all.frames.front();
         landed = all.frames.front() == wanted;
     }

@@ -15,7 +15,7 @@ struct Source {
     const char* arguments; // for ffmpeg, between input and output
     double rate;
     int channels;
-    double quality; // dB against the sound that went in
+    double quality; // dB relative to the source audio
     bool exactLength;
 };
 
@@ -27,7 +27,7 @@ struct SourceFormats : testing::TestWithParam<Source> {
     QTemporaryDir folder;
     static constexpr std::size_t seconds = 4;
 
-    /// The sound as a 32-bit float WAVE, written by hand so that nothing of ours is needed to make it.
+    /// The audio as a 32-bit float WAVE, written here so that no code under test is needed to make it.
     QString original(const Samples& rows, double rate) const {
         const QString path = folder.filePath(u"original.raw"_s);
         QFile raw(path);
@@ -67,7 +67,7 @@ TEST_P(SourceFormats, AreReadWithTheRightLengthRateAndSoundAndSeekExactly) {
 
     const auto own = readFile(path, source.rate, std::uint32_t(source.channels));
     EXPECT_EQ(own.errors, 0);
-    // Matroska counts in milliseconds.
+    // Matroska stores times in milliseconds.
     const double unsure = path.endsWith(u".mka") ? source.rate / 500 : 0;
     EXPECT_NEAR(double(own.length), double(own.rows[0].size()), unsure);
     EXPECT_EQ(info.frameCount, own.length);
@@ -82,7 +82,7 @@ TEST_P(SourceFormats, AreReadWithTheRightLengthRateAndSoundAndSeekExactly) {
         const auto part = readFile(path, source.rate, std::uint32_t(source.channels), from, 2000);
         ASSERT_EQ(part.rows[0].size(), 2000u);
         const std::vector<float> expected(own.rows[0].begin() + from, own.rows[0].begin() + from + 2000);
-        // Decoders that remember long round differently after a jump; the place must be the same.
+        // Decoders with a long history round differently after a jump; the position must be the same.
         EXPECT_GT(signalToError(expected, part.rows[0]), 60) << from;
     }
 

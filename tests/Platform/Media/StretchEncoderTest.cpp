@@ -36,7 +36,7 @@ std::vector<AacEncoder::Packet> encodedInOneRun(const Samples& rows, std::size_t
     return encodedBy<SerialEncoder>(rows, {.rowOf = {0, 1}}, step);
 }
 
-/// Decodes without a container; one frame of 1024 a packet.
+/// Decodes without a container; one frame of 1024 per packet.
 std::vector<float> decoded(const std::vector<AacEncoder::Packet>& packets) {
     const AacEncoder describing(44100, 2);
     const auto config = describing.streamInfo().config;
@@ -61,7 +61,7 @@ std::vector<float> decoded(const std::vector<AacEncoder::Packet>& packets) {
     return samples;
 }
 
-/// Music-like: tones that come and go, and strokes that make the encoder change its windows.
+/// Music-like: tones that fade in and out, and strokes that make the encoder switch its windows.
 Samples strokes(std::size_t frames) {
     Samples rows = sweep(frames, 44100);
     const Samples noise = tones(frames);
@@ -100,8 +100,7 @@ TEST(StretchEncoder, ASeamHasNoLargerErrorThanItsSurroundings) {
         return signalToError(sound[0], what, from, to);
     };
     EXPECT_GT(quality(parallel, 2048, sound[0].size()), quality(serial, 2048, sound[0].size()) - 0.2);
-    // The encoder's quality goes up and down by some dB; at a seam it must not leave that range. A window holds one
-    // stroke.
+    // The encoder's quality varies by some dB; at a seam it must stay within that range. A window holds one stroke.
     constexpr std::size_t window = 9 * 1024;
     double lowest = 1000;
     float worst = 0;
@@ -111,7 +110,7 @@ TEST(StretchEncoder, ASeamHasNoLargerErrorThanItsSurroundings) {
             worst = std::max(worst, std::fabs(serial[i] - sound[0][i]));
     }
     for (std::size_t seam = 1; seam < 4; ++seam) {
-        // The seam may lie up to 16 packets behind the border.
+        // The seam may lie up to 16 packets behind the boundary.
         const std::size_t border = seam * stretch * 1024;
         for (std::size_t at = border - window; at < border + 4 * window; at += 1024)
             EXPECT_GT(quality(parallel, at, at + window), lowest - 1.0);
@@ -121,7 +120,8 @@ TEST(StretchEncoder, ASeamHasNoLargerErrorThanItsSurroundings) {
 }
 
 TEST(StretchEncoder, MemoryIsBoundByTheStretchesAndNotByTheFile) {
-    // A producer far ahead of the encoders waits: what was appended and has not come out stays below the bound.
+    // A producer far ahead of the encoders has to wait: the amount that was appended and has not come out stays below
+    // the bound.
     AacSettings settings;
     settings.rowOf = {0, 0};
     settings.workers = 2;
@@ -136,7 +136,7 @@ TEST(StretchEncoder, MemoryIsBoundByTheStretchesAndNotByTheFile) {
         out += packets.size();
         packets.clear();
         const double in = double(i + 1) * 44100 / 1024;
-        // Packets of a stretch that is ahead of its turn wait, too; they are small.
+        // Finished packets of a later stretch also wait; they are small.
         EXPECT_LT(in - double(out), 3 * 512 + 256 + 128);
     }
     encoder.finish(packets);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-//
-// What a power cut must not take: whoever hears that a file is closed deletes what it was made from.
+// A file must be on the disk before it is reported closed: its owner then deletes its sources, and a power cut must not
+// lose both.
 #include "tests/Platform/Media/MediaTestSupport.h"
 #include "tests/support/DiskCalls.h"
 
@@ -25,7 +25,7 @@ struct SyncedFiles : testing::Test {
         return status;
     }
 
-    /// What had been asked of the disk when the file was reported closed.
+    /// The disk calls made until the file was reported closed.
     std::vector<DiskCalls::Call> callsUntilClosed(std::uint32_t type) const {
         const DiskCalls disk;
         Samples sound = tones(100000);

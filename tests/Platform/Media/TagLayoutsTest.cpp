@@ -40,7 +40,7 @@ QByteArray box(const char* name, const QByteArray& body, Size size = Size::Short
 const QByteArray zeros(4, '\0');
 const QByteArray name = box("name", "x");
 
-/// What begins a list of tags, or another kind of list.
+/// The header of a list of tags, or of another kind of list.
 QByteArray handler(const char* kind = "mdir") {
     return box("hdlr", zeros + zeros + QByteArray(kind, 4) + QByteArray(13, '\0'));
 }
@@ -57,7 +57,7 @@ class TagLayouts : public testing::Test {
 protected:
     [[nodiscard]] QString path(const QString& file = u"a.m4a"_s) const { return folder_.filePath(file); }
 
-    /// A file whose index is at its end, with @p tail as the last in it instead of tags.
+    /// A file whose index is at its end, with @p tail as the last box inside it instead of tags.
     void makeWith(const QByteArray& tail, Size size = Size::Short) const {
         static const QByteArray plain = [this] {
             EXPECT_TRUE(Mpeg4Files::make(path(), Mpeg4Files::Shape::IndexAtEnd, 2));
@@ -69,7 +69,7 @@ protected:
         ASSERT_TRUE(Mpeg4Files::write(path(), plain.left(index) + box("moov", moov, size)));
     }
 
-    /// Texts and a cover go into a file of makeWith(), other programs read them, and the sound is the same.
+    /// Writes texts and a cover into a file of makeWith(); other programs read them, and the audio is unchanged.
     void expectTagsGoIn() const {
         static const QByteArray audio = Mpeg4Files::audioOf(path());
         static const QByteArray cover = [this] {
@@ -93,7 +93,7 @@ protected:
         EXPECT_EQ(Mpeg4Files::audioOf(path()), audio);
     }
 
-    /// The index that counts, which is the last box of these files.
+    /// The index in use, which is the last box of these files.
     [[nodiscard]] QByteArray index() const {
         const QByteArray content = Mpeg4Files::contentOf(path());
         return content.mid(content.lastIndexOf("moov") - 4);
@@ -241,7 +241,7 @@ TEST_F(TagLayouts, AreCopiedWhenASaveOfAnotherProcessIsDone) {
 }
 
 TEST_F(TagLayouts, WithACoverOf200GigabytesTakeNoMemory) {
-    // A sparse file of a few blocks whose cover, and all boxes around it, claim to be that long.
+    // A sparse file of a few blocks whose cover, and all boxes around it, claim this length.
     constexpr qint64 length = qint64(200) << 30;
     ASSERT_TRUE(Mpeg4Files::make(path(), Mpeg4Files::Shape::IndexAtEnd, 2));
     ASSERT_TRUE(BasicID3Change::setMpeg4ID3Information(path(), u"Title"_s, u"A"_s, u"B"_s, 1999, u"G"_s));
@@ -271,7 +271,7 @@ TEST_F(TagLayouts, WithACoverOf200GigabytesTakeNoMemory) {
     const QString image = path(u"cover.png"_s);
     ASSERT_TRUE(Mpeg4Files::noise(20).save(image));
     ChildProcess child([&] {
-#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__) // their own tables are larger than this limit
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__) // the sanitizers' own tables exceed this limit
         const rlimit limit{rlim_t(1) << 30, rlim_t(1) << 30};
         if (::setrlimit(RLIMIT_AS, &limit) != 0)
             return 1;

@@ -45,7 +45,7 @@ protected:
 TEST_F(AudioDeviceTest, StopsNarrowingWhenTheFirstPartNamesOneEngine) {
     registry.add(u"IOAudioEngine"_s, u"IOService:/PCI/card/speakers@aaaa0001"_s);
     registry.add(u"IOAudioEngine"_s, u"IOService:/USB/headset/phones@aaaa0002"_s);
-    // The second part would name the other engine; it is not looked at.
+    // The second part would match the other engine; it must not be used.
     EXPECT_EQ(addOutput(7, u"speakers:aaaa0002"_s).path(), u"IOService:/PCI/card/speakers@aaaa0001"_s);
 }
 
@@ -84,7 +84,7 @@ TEST_F(AudioDeviceTest, RecognisesItselfInAPath) {
     EXPECT_TRUE(device.sameDeviceWithPath(u"IOService:/PCI/card/speakers@aaaa0001"_s));
     EXPECT_FALSE(device.sameDeviceWithPath(u"IOService:/PCI/card/speakers@aaaa0002"_s));
     EXPECT_FALSE(device.sameDeviceWithPath(u"IOService:/PCI/card/phones@aaaa0001"_s));
-    // One part fewer: the last one of the device is lent to the path.
+    // One part fewer: the device's last part is appended to the path.
     EXPECT_TRUE(device.sameDeviceWithPath(u"IOService:/PCI/card/speakers"_s));
     EXPECT_FALSE(device.sameDeviceWithPath(u"IOService:/PCI/card/a@b@speakers"_s));
 }

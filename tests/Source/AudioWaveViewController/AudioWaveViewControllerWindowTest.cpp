@@ -25,7 +25,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A sound of ten seconds that stands where it is put.
+// A sound of ten seconds whose position only changes when the test sets it.
 class StillSound : public Platform::Sound {
 public:
     double duration() const override { return 10; }
@@ -72,7 +72,7 @@ protected:
         Platform::services().sounds = &sounds;
         Theme::install(*qApp, nullptr);
         controller.setDelegate(&delegate);
-        controller.destroyDudioPlayUpdateTimer(); // the tests are its clock
+        controller.destroyDudioPlayUpdateTimer(); // the test replaces the timer
         panel->resize(480, 104);
         panel->show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(panel, 30000));
@@ -114,7 +114,7 @@ TEST_F(LiveDisplay, WakesUpOnItsRecordingSideWithATimerAndBlackState) {
 TEST_F(LiveDisplay, TheTimerFetchesALevelTenTimesASecond) {
     auto* history = controller.audioRecordWaveView();
     QElapsedTimer timer;
-    timer.start(); // before: a machine that stands still here must not make the levels seem fast
+    timer.start(); // started before: if the machine stalls here, the levels must not seem too fast
     controller.createDudioPlayUpdateTimer();
     ASSERT_TRUE(waitFor([&] { return history->audioLevelArray().size() >= 5; }));
     EXPECT_GE(timer.elapsed(), 400);
@@ -200,7 +200,7 @@ TEST_F(LiveDisplay, ADragSeeksAllAlongAndEndsAtTheRelease) {
     QTest::mouseMove(bar.windowHandle(), {20, 10});
     EXPECT_EQ(asked.asked.size(), during);
     ASSERT_GE(during, 2);
-    // The width without the insets counts, the position is not moved by them.
+    // Only the width without the insets counts; the insets do not shift the position.
     EXPECT_FLOAT_EQ(asked.asked.first(), 5.0F);
     EXPECT_FLOAT_EQ(asked.asked.last(), 7.0F);
 }
@@ -325,7 +325,7 @@ TEST(LevelHistory, AMovedPictureEqualsADrawnOne) {
     moved.resize(64, 40);
     for (int i = 0; i < 80; ++i) {
         moved.addCurrentLevel(level(i));
-        moved.grab(); // draws, so that the next level moves the picture
+        moved.grab(); // draws once, so that the next level scrolls the picture
     }
     AudioRecordWaveView drawn;
     drawn.resize(64, 40);

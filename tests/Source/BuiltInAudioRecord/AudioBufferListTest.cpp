@@ -22,7 +22,7 @@ TEST(AudioBufferListTest, HasOneZeroedBufferAChannel) {
     BuildInAudioRecord::destroyAudioBufferList(nullptr);
 }
 
-// A sanitizer's own tables alone are larger than the memory that is left here.
+// A sanitizer's own tables exceed the memory limit that is set here.
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
 namespace {
 [[noreturn]] void allocateMoreThanThereIs() {

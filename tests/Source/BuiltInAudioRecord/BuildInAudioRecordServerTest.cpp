@@ -10,13 +10,13 @@ namespace {
 
 class EngineServer : public EngineRecording {
 protected:
-    /// Both files at once: the M4A's count says how far the recording is.
+    /// Writes both files; the M4A's frame count tells how long the recording is.
     [[nodiscard]] bool beginBoth() {
         wave_ = folder_.filePath(u"raw.wav"_s);
         return engine_.setOutPutAudioPath(wave_, 0) && begin(1);
     }
-    /// A machine that does not let the sound server run in time loses frames before they reach us, and says so. Such a
-    /// run proves nothing and is repeated; one without a reported loss must be exact.
+    /// A machine that does not run the sound server in time loses frames before they reach the engine, which reports
+    /// it. Such a run is repeated; a run without a reported loss must be exact.
     template <typename Begin>
     [[nodiscard]] bool recordWithoutLoss(Begin begin, double seconds) {
         return recordWithoutLoss(begin, [&] { return recorded(seconds); });
@@ -33,13 +33,13 @@ protected:
         }
         return false;
     }
-    /// A short stretch of what the device played, undamaged.
+    /// Expects a short part of the played ramp, without errors.
     static void expectRampAt(const std::vector<float>& samples, std::size_t at) {
         ASSERT_GT(samples.size(), at + 500);
         EXPECT_GT(
             AudioCheck::levelOf({samples.begin() + std::ptrdiff_t(at), samples.begin() + std::ptrdiff_t(at) + 500}),
             0.01);
-        int steps = 0; // a cycle that the machine lost is one
+        int steps = 0; // a cycle that the machine lost is one step
         for (std::size_t i = at + 1; i < at + 500; ++i)
             steps += Signal::rampFrame(samples[i], 0) != Signal::rampFrame(samples[i - 1], 0) + 1;
         EXPECT_LE(steps, 1);
@@ -53,7 +53,7 @@ TEST_F(EngineServer, WritesEveryFrameAsItWasPlayed) {
     TestSource source({.name = "exact", .description = "Exact", .rate = 44100, .ownClock = true});
     ASSERT_TRUE(configure(source));
     EXPECT_EQ(engine_.sampleRate(), 44100);
-    // What has to be in the file is counted by the source: all that it plays between the two looks at its position.
+    // The source counts what must be in the file: everything it plays between the two queries of its position.
     std::uint64_t begun = 0;
     std::uint64_t played = 0;
     ASSERT_TRUE(recordWithoutLoss(
@@ -66,7 +66,7 @@ TEST_F(EngineServer, WritesEveryFrameAsItWasPlayed) {
             if (!waitFor([&] { return source.position() > begun + 3 * 44100; }))
                 return false;
             played = source.position();
-            // It was captured and written long before the source has gone on for a second.
+            // By the time the source has played for another second, it was captured and written.
             return waitFor([&] { return source.position() > played + 44100; });
         }));
     EXPECT_EQ(engine_.lostFrames(), 0U);
@@ -74,7 +74,7 @@ TEST_F(EngineServer, WritesEveryFrameAsItWasPlayed) {
     ASSERT_EQ(samples.size(), 2U);
     EXPECT_TRUE(isUnbrokenRamp(samples[0], 0));
     EXPECT_TRUE(isUnbrokenRamp(samples[1], 1));
-    // The cycle that was under way at the start is not recorded, nor the rest of the device's buffer.
+    // The cycle that was running at the start is not recorded, nor the rest of the device's buffer.
     EXPECT_LE(Signal::rampFrame(samples[0].front(), 0), begun + 4 * 1024);
     EXPECT_GE(Signal::rampFrame(samples[0].back(), 0) + 1, played);
     EXPECT_EQ(AudioCheck::framesByFfprobe(path_), std::int64_t(samples[0].size())) << "both files hold the same";
@@ -155,7 +155,7 @@ TEST_F(EngineServer, LosesNothingBetweenTwoFiles) {
     const double expected = double(before + engine_.framesAccepted()) * 44100 / 48000;
     const auto frames = AudioCheck::framesByFfprobe(first);
     EXPECT_NEAR(double(frames + AudioCheck::framesByFfprobe(second)), expected, 1.0);
-    // The tone runs on across the cut; what both encoders start up and pad with is cut off.
+    // The tone continues across the cut; the encoders' priming and padding are removed.
     auto samples = AudioCheck::decodedByFfmpeg(first).at(0);
     samples.resize(std::size_t(frames));
     const auto rest = AudioCheck::decodedByFfmpeg(second).at(0);
@@ -218,7 +218,8 @@ TEST_F(EngineServer, TellsWhenItsFirstFrameWasCaptured) {
     const auto stamp = std::int64_t(engine_.captureSpan().firstHostTime);
     EXPECT_LT(stamp, now());
     engine_.stopRecordAudio();
-    // The first frame names its place, and with it its time on the source's clock, which began between the two looks.
+    // The first frame encodes its position, and so its time on the source's clock, which started between the two
+    // queries.
     const auto samples = AudioCheck::waveSamples(wave_);
     ASSERT_EQ(samples.size(), 2U);
     const auto first = std::ranges::find_if(samples[0], [](float sample) { return sample != 0; });

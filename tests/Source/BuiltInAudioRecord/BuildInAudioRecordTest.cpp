@@ -48,14 +48,14 @@ struct BuildInAudioRecordTest : testing::Test {
     [[nodiscard]] QString path(const char* name = "raw.m4a") const { return dir.filePath(QString::fromUtf8(name)); }
     [[nodiscard]] FakeInputUnit& unit() const { return *hardware.unit(); }
     [[nodiscard]] FakeInputUnit::State& state() const { return *hardware.opened.back(); }
-    /// An engine that runs and has an M4A file at hand.
+    /// An engine that is set up, with an M4A file.
     void prepare() {
         ASSERT_TRUE(engine.configureAudioUnit(7));
         ASSERT_TRUE(engine.setOutPutAudioPath(path(), 1));
     }
 };
 
-/// Each step of the set-up that ends it, with those that must have come before.
+/// Each set-up step whose failure ends the set-up, with the steps that must come before it.
 struct FailingStep : BuildInAudioRecordTest, testing::WithParamInterface<Step> {};
 
 } // namespace
@@ -542,7 +542,7 @@ TEST_F(BuildInAudioRecordTest, CountsLostFramesOfTheRecordingAtHand) {
 TEST_F(BuildInAudioRecordTest, MeasuresTheDevicesClock) {
     prepare();
     engine.startRecordAudio();
-    // 100 ppm fast: 512 frames take a little less than at 48000 Hz.
+    // A clock 100 ppm fast: 512 frames take a little less time than at 48000 Hz.
     const double cycle = 512 / 48004.8 * 1e9;
     double time = 5e9;
     const std::vector<std::vector<float>> block(2, std::vector<float>(512));

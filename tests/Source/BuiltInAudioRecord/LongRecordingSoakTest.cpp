@@ -7,6 +7,6 @@ using LongRecordingSoak = SimulatedHours;
 TEST_F(LongRecordingSoak, GrowsNoMemoryInAnHour) {
     std::int64_t kept = 0;
     record(3600, kept);
-    // A packet's size and place in the file take some bytes; an hour has 155,000 packets.
+    // The size and position of each packet take some bytes; an hour has 155,000 packets.
     EXPECT_LT(kept, 8 * 1024 * 1024);
 }

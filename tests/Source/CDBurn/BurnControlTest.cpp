@@ -13,7 +13,7 @@ using namespace Platform;
 
 namespace {
 
-/// Everything that is posted, one line each: the name, and the progress where there is one.
+/// All posted notifications, one line each: the name, and the progress where there is one.
 class Posted {
 public:
     Posted() {
@@ -29,7 +29,7 @@ public:
                                       : posted);
                 }));
     }
-    /// Since the last call.
+    /// The lines since the last call.
     QStringList take() { return std::exchange(lines_, {}); }
 
 private:
@@ -37,7 +37,7 @@ private:
     std::vector<std::unique_ptr<NotificationCenter::Observation>> observations_;
 };
 
-/// The doubles are in their place before the engine is made.
+/// Installs the doubles before the engine is created.
 struct Doubles {
     Doubles() {
         services().discRecording = &discs;
@@ -53,7 +53,7 @@ protected:
     static Dictionary entry(const QString& path, bool ticked = true) {
         return {{TrackEntry::FilePath, path}, {TrackEntry::ChooseTheAudio, ticked}};
     }
-    /// The drive tells of a change of its disc.
+    /// The drive reports a change of its disc.
     void disc(DRDeviceMediaState state, bool busy = false) {
         drive->state.mediaState = state;
         drive->state.isBusy = busy;
@@ -89,7 +89,7 @@ TEST_F(BurnControlTest, ChoosesADriveAndIgnoresAnIndexBeyondTheList) {
     EXPECT_EQ(log.lines().size(), 2);
     second->insertBlankDisc();
     discs.statusChanged(second);
-    discs.statusChanged(drive); // no longer watched
+    discs.statusChanged(drive); // not observed any more
     EXPECT_EQ(posted.take(), QStringList{u"DvdIn"_s});
 }
 
@@ -103,7 +103,7 @@ TEST_F(BurnControlTest, TellsADiscThatSettlesThenIsInThenGoes) {
     EXPECT_EQ(posted.take(), (QStringList{u"DvdInsert"_s, u"DvdInsert"_s}));
     disc(DRDeviceMediaStateMediaPresent);
     disc(DRDeviceMediaStateMediaPresent);
-    disc(DRDeviceMediaStateInTransition); // a disc that is in and moves is no new one
+    disc(DRDeviceMediaStateInTransition); // a loaded disc in transition is not a new disc
     EXPECT_EQ(posted.take(), QStringList{u"DvdIn"_s});
     disc(DRDeviceMediaStateNone);
     disc(DRDeviceMediaStateNone);
@@ -178,7 +178,7 @@ TEST_F(BurnControlTest, HandsOnALayoutThatCouldNotBeMade) {
     EXPECT_FALSE(discs.lastBurn()->layout);
     discs.lastBurn()->reach(DRStatusStateFailed, 0, u"no layout"_s);
     EXPECT_EQ(posted.take(), (QStringList{u"BurnProcess 0"_s, u"BurnFailed"_s}));
-    EXPECT_EQ(control.failureReason(), u"a: cannot be read"_s); // the file, not what followed from it
+    EXPECT_EQ(control.failureReason(), u"a: cannot be read"_s); // the failed file, not a consequence of it
 }
 
 TEST_F(BurnControlTest, DoesNothingWithoutADriveOrABurn) {
@@ -209,7 +209,7 @@ TEST_F(BurnControlTest, PostsEachChangeAndTheEndOfABurn) {
                                         u"                    BurndValue  =  0.250000"_s,
                                         u"                    BurndValue  =  1.000000"_s, u"Burn is end"_s,
                                         u"          the   Burn  is    end\n  "_s}));
-    burn->reach(DRStatusStateDone, 1); // no longer observed
+    burn->reach(DRStatusStateDone, 1); // not observed any more
     EXPECT_EQ(posted.take(), QStringList());
 }
 
@@ -272,7 +272,7 @@ TEST_F(BurnControlTest, KeepsObservingAnEraseAfterItsEnd) {
     erase->reach(DRStatusStateDone, 1);
     EXPECT_EQ(posted.take(), (QStringList{u"EraseProcess 0.1"_s, u"EraseProcess 1"_s, u"EraseFininsh"_s}));
     erase->reach(DRStatusStateFailed, 0);
-    EXPECT_EQ(posted.take(), QStringList{u"EraseProcess 0"_s}); // no failure is told, and it is still observed
+    EXPECT_EQ(posted.take(), QStringList{u"EraseProcess 0"_s}); // no failure is reported, and it is still observed
     EXPECT_EQ(log.lines(),
               (QStringList{u"    value  =  0.100000"_s, u"    value  =  1.000000"_s, u"     the erase   end !!!  "_s,
                            u"    value  =  0.000000"_s, u"           the   erase  is  Failed"_s}));
@@ -346,7 +346,7 @@ TEST_F(BurnControlTest, LeavesNoObserverBehind) {
         other.burnMusicToCD({entry(u"a"_s)}, false);
         other.eraseDVD();
     }
-    EXPECT_EQ(discs.center.observations(), 1U); // the list of drives, by the test's own control
+    EXPECT_EQ(discs.center.observations(), 1U); // the list of drives, observed by the test's own control
     discs.lastBurn()->reach(DRStatusStateDone, 1);
     EXPECT_EQ(posted.take(), QStringList());
 }

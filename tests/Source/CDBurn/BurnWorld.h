@@ -22,7 +22,7 @@
 
 #include <memory>
 
-/// The burn window over two drives whose discs the test puts in and out.
+/// The burn window with two drives; the test inserts and removes their discs.
 struct BurnWorld {
     BurnWorld() {
         auto& services = Platform::services();
@@ -36,7 +36,7 @@ struct BurnWorld {
         other = recording.addDrive(QStringLiteral("Disc Image (CUE/BIN)"));
     }
 
-    /// The window over what the world holds by then, in front.
+    /// Opens the window with the current doubles and brings it to the front.
     CDBurnWndController& open(const QVariantList& records = {}) {
         controller = std::make_unique<CDBurnWndController>(nullptr);
         controller->setAudioDataForCDBurn(records);
@@ -54,10 +54,10 @@ struct BurnWorld {
                 record(QStringLiteral("Choir.m4a"), 639), record(QStringLiteral("Lecture 7.m4a"), 719),
                 record(QStringLiteral("Encore.m4a"), 749)};
     }
-    /// Free blocks of a disc that the window counts as @p megabytes.
+    /// Free blocks of a disc that the window shows as @p megabytes.
     static std::int64_t blocksOf(int megabytes) { return std::int64_t((megabytes + 0.5) / 1000 * 1024 * 1024 / 2); }
 
-    /// A disc is in the drive and known to the system; observers are told.
+    /// Inserts a disc that the system knows, and notifies the observers.
     void insert(FakeDrive& into, std::int64_t freeBlocks = blocksOf(686)) {
         into.insertBlankDisc(freeBlocks);
         arbitration.described.insert(into.path());
@@ -85,9 +85,9 @@ struct BurnWorld {
     static void clickIn(QWidget& widget, const QPoint& place) {
         QTest::mouseClick(widget.window()->windowHandle(), Qt::LeftButton, {}, widget.mapTo(widget.window(), place));
     }
-    /// A real click of the mouse in the middle of a widget.
+    /// A real mouse click in the middle of a widget.
     static void click(QWidget& widget) { clickIn(widget, widget.rect().center()); }
-    /// A real click on the tick of a row.
+    /// A real click on a row's check box.
     void clickTick(int row) const {
         AudioDataSourceView& list = controller->trackList();
         const QRect cell = list.visualRect(list.model()->index(row, TrackListModel::Choose));

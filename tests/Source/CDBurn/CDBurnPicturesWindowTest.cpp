@@ -14,13 +14,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The burn window in each of its states. With SONAPHEX_SCREENSHOTS set to a folder the pictures are kept there.
+/// The burn window in each of its states. When SONAPHEX_SCREENSHOTS names a folder, the pictures are saved there.
 class BurnPictures : public testing::Test {
 protected:
     BurnPictures() { Theme::install(*qApp, nullptr); }
     ~BurnPictures() override { Theme::apply(Theme::Shade::Light); }
 
-    /// Files that exist, but for the last one.
+    /// Files that exist, except the last one.
     QVariantList records() {
         QVariantList result;
         for (const QVariant& each : BurnWorld::records()) {
@@ -35,7 +35,7 @@ protected:
         }
         return result;
     }
-    /// In both shades, at one and two pixels a point.
+    /// In both themes, at one and two pixels per point.
     void take(QWidget& window, const QString& name, const QString& state) {
         for (const auto shade : {Theme::Shade::Light, Theme::Shade::Dark}) {
             Theme::apply(shade);
@@ -50,7 +50,7 @@ protected:
         EXPECT_EQ(world.stateText(), state);
     }
     void takeWindow(const QString& name, const QString& state) {
-        // The look at the disk is a worker's.
+        // A worker looks at the disk.
         auto& tracks = world.controller->trackList().tracks();
         const auto known = [&tracks] {
             for (int row = 0; row < tracks.rowCount(); ++row) {

@@ -25,7 +25,7 @@ class BurnWindow : public testing::Test {
 protected:
     BurnWindow() { Theme::install(*qApp, nullptr); }
 
-    /// What a state shows besides its words.
+    /// What a state shows, apart from its text.
     void expectState(const QString& message, bool ready) {
         auto& label = world.outlet<QLabel>("lblState_");
         auto& burn = world.outlet<QPushButton>("btnBurn_");
@@ -45,7 +45,7 @@ protected:
         EXPECT_EQ(eject.isEnabled(), possible);
         EXPECT_EQ(eject.icon().name(), possible ? u"EjectDisc1.png"_s : u"EjectDisc2.png"_s);
     }
-    /// A sound file as the doubles know it.
+    /// An audio file that the doubles know.
     QString file(const QString& name, double seconds) {
         Platform::AudioFileInfo info;
         info.dataFormat.mSampleRate = 44100;
@@ -63,7 +63,7 @@ protected:
             EXPECT_TRUE(QTest::qWaitForWindowExposed(world.controller->window(), 30000));
             act();
             ended = !world.controller->window()->isVisible();
-            world.controller->window()->hide(); // a failed test must not stay here
+            world.controller->window()->hide(); // after a failed test, the loop must still end
         });
         world.controller->runModal();
         EXPECT_TRUE(ended);
@@ -137,7 +137,7 @@ TEST_F(BurnWindow, DiscsAreSeenAsTheyComeAndGo) {
 TEST_F(BurnWindow, EachNotificationIsObservedWhoeverSendsIt) {
     world.open(BurnWorld::records());
     auto& center = Platform::NotificationCenter::defaultCenter();
-    // The system knows the disc, but no drive has told the engine.
+    // The system knows the disc, but no drive has reported it to the engine.
     world.drive->insertBlankDisc(BurnWorld::blocksOf(686));
     world.arbitration.described.insert(world.drive->path());
     center.post(u"DvdInsert"_s);

@@ -30,7 +30,7 @@ protected:
     static void pointTo(const QPoint& place) {
         EXPECT_TRUE(xdotool({u"mousemove"_s, QString::number(place.x()), QString::number(place.y())}));
     }
-    /// Clicks into a widget once the pointer is on it: the window manager may still be moving the window.
+    /// Clicks a widget once the pointer is on it: the window manager may still be moving the window.
     static void click(const QWidget& widget) {
         ASSERT_TRUE(waitFor([&] {
             pointTo(widget.mapToGlobal(widget.rect().center()));
@@ -48,7 +48,7 @@ protected:
     BurnWorld world;
 };
 
-/// Notes where a drag is over a widget.
+/// Records the positions of a drag over a widget.
 class DragWatch : public QObject {
 public:
     explicit DragWatch(QWidget& widget) { widget.installEventFilter(this); }
@@ -67,12 +67,12 @@ TEST_F(BurnWindowOnADesktop, ARowIsDraggedToAnotherPlace) {
     const QStringList before = world.names();
     AudioDataSourceView& list = world.controller->trackList();
     DragWatch watch(*list.viewport());
-    // The lower half of the fourth row: behind it.
+    // The lower half of the fourth row: drops behind it.
     const QPoint target = cell(3).center() + QPoint(0, 6);
-    click(list); // the pointer is known to be in the window
+    click(list); // now the pointer is in the window
     pointTo(cell(0).center());
     ASSERT_TRUE(xdotool({u"mousedown"_s, u"1"_s}));
-    // The drag runs a loop of its own, in which this timer goes on.
+    // The drag runs its own loop, in which this timer continues.
     QTimer hand;
     int step = 0;
     QObject::connect(&hand, &QTimer::timeout, [&] {

@@ -23,7 +23,7 @@ namespace {
 class TrackEntries : public testing::Test {
 protected:
     TrackEntries() { Platform::services().mediaFiles = &MediaTest::media(); }
-    /// A real sound file of @p seconds; its ending chooses codec and container.
+    /// A real audio file of @p seconds; its extension chooses codec and container.
     QString sound(const QString& name, double seconds, const QStringList& options = {}) {
         const QString path = folder.filePath(name);
         QStringList arguments{u"-v"_s, u"error"_s,
@@ -77,7 +77,7 @@ TEST_F(TrackEntries, TheLengthIsThatOfThePackets) {
     Platform::AudioFileInfo info;
     info.dataFormat.mSampleRate = 44100;
     info.dataFormat.mFramesPerPacket = 1024;
-    info.packetCount = 87; // 2.02 s of packets hold 1.98 s of sound
+    info.packetCount = 87; // 2.02 s of packets contain 1.98 s of audio
     info.frameCount = 87318;
     media.infos.insert(u"/a.m4a"_s, info);
     EXPECT_EQ(CAGetLengthOfAudioFile(u"/a.m4a"_s), 2U);

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// An image file is burned to a file that libburn uses like a drive: the real library, without a burner.
+// Burns an image file to a file that libburn uses like a drive: the real library, without a burner.
 #include "Platform/Disc/linux/LinuxDiscRecording.h"
 #include "Platform/Foundation/NotificationCenter.h"
 #include "Platform/Foundation/Services.h"

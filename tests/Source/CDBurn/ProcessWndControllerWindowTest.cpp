@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The sheet of a burn that has just begun.
+/// The sheet of a burn that has just started.
 class ProgressSheet : public testing::Test {
 protected:
     ProgressSheet() {
@@ -139,7 +139,7 @@ TEST_F(ProgressSheet, OkEndsTheBurnAndCloses) {
     clickCancel();
     EXPECT_EQ(burn->aborts, 1);
     EXPECT_TRUE(allClosed());
-    fail(); // what follows an abort reaches nobody
+    fail(); // notifications after an abort are not delivered
     EXPECT_TRUE(allClosed());
 }
 

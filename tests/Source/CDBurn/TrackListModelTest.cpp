@@ -119,7 +119,7 @@ TEST_F(TrackList, EveryMoveOfEverySelectionKeepsAllRows) {
             QString above, taken, below;
             for (int row = 0; row < 5; ++row) {
                 if (selection >> row & 1) {
-                    rows.prepend(row); // any order of the selection gives the same list
+                    rows.prepend(row); // the order of the selection does not change the list
                     taken += names.at(row);
                 } else {
                     (row < before ? above : below) += names.at(row);

@@ -37,7 +37,7 @@ protected:
     [[nodiscard]] QStringList temporaries() const { return QDir(g_strTmpPath).entryList(QDir::Files | QDir::Hidden); }
 };
 
-// Suites of their own: each takes its time.
+// Separate suites, because each takes long.
 class TrimSaveOnAFullDisk : public TrimSave {};
 class TrimSaveWithKills : public TrimSave {};
 
@@ -57,7 +57,7 @@ TEST_F(TrimSave, CutsAtTheFramesOfTheRange) {
     const double to = 6.25;
     const auto result = save(task(entryOf(path, u"tones"_s, 10), float(from), float(to), true));
     ASSERT_TRUE(result.done) << qPrintable(result.problem);
-    // The copy reads blocks of 512 frames from the first frame on, until the end of the range is reached.
+    // The copy reads blocks of 512 frames from the first frame on, up to the end of the range.
     const auto first = std::int64_t(from * 44100);
     const auto blocks = (std::int64_t(to * 44100) - first + 511) / 512;
     Platform::AudioFileInfo info;
@@ -241,7 +241,7 @@ TEST_F(TrimSaveWithKills, LosesNothingAtAnyMoment) {
                 return save(task(entry, 10, 40)).done ? 0 : 1;
             });
             ASSERT_TRUE(child.started());
-            ::setpgid(child.pid(), child.pid()); // whoever is first
+            ::setpgid(child.pid(), child.pid()); // parent or child, whichever runs first
             QThread::usleep(random.bounded(1, longest));
             child.killGroup();
         }

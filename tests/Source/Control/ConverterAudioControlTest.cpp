@@ -28,7 +28,7 @@ protected:
     ConverterAudioControlTest() { Platform::services().mediaFiles = &files; }
 
     [[nodiscard]] QString at(const QString& name) const { return folder.filePath(name); }
-    /// A source whose left sample is its frame number and whose right one is its negative.
+    /// A source whose left sample is its frame number and whose right sample is the negative of it.
     FakeSourceFiles::Source& addRamp(double seconds) {
         return files.addSource(source, seconds,
                                [](int channel, std::int64_t frame) { return channel ? -float(frame) : float(frame); });
@@ -172,7 +172,7 @@ TEST_F(ConverterAudioControlTest, CopiesWholeBlocksFromAnOddFrameOn) {
     ASSERT_TRUE(converter.createOutPutFile(target, 1));
     ASSERT_TRUE(converter.startConverterSource(source, 1.23457F, 3.21F));
     EXPECT_EQ(left().front(), 54444.0F);
-    // Whole blocks until 3.21 s (141561 frames) are reached.
+    // Whole blocks up to 3.21 s (141561 frames).
     EXPECT_EQ(left().size(), 171U * 512);
     EXPECT_EQ(files.sources[source].seeks, std::vector<std::int64_t>{54444});
 }
@@ -193,7 +193,7 @@ TEST_F(ConverterAudioControlTest, AsksForBlocksOf512FramesInTwoBuffersOf2048Byte
     EXPECT_EQ(ramp.firstList.mBuffers[0].mNumberChannels, 2U);
     EXPECT_EQ(ramp.bytesOfBuffers[0], 2048U);
     EXPECT_EQ(ramp.bytesOfBuffers[1], 2048U);
-    // 87 blocks and the read that finds the end; each asks for the full block.
+    // 87 blocks and the read that finds the end; each read asks for a full block.
     EXPECT_EQ(ramp.asked, std::vector<std::uint32_t>(88, 512));
     EXPECT_EQ(ramp.clientFormat, clientFormat());
 }
@@ -339,7 +339,7 @@ TEST_F(ConverterAudioControlTest, LogsAnEmptyReadAndAReadErrorOfTheFadingCopyAnd
     addOnes(1).failingRead = 2;
     ASSERT_TRUE(converter.createOutPutFile(target, 1));
     LogCatcher log;
-    // The file ends before the range does: no frame, no repetition.
+    // The file is shorter than the range: no more frames, no repetition.
     ASSERT_TRUE(converter.startFadeInFadeOutConverterSource(source, 0, 5, 0, 0, 5));
     EXPECT_EQ(left().size(), 44100U);
     EXPECT_EQ(log.lines(), (QStringList{u"read Audio Data Error"_s, u"numFrames  =  0"_s}));

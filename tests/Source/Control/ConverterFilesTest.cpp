@@ -14,14 +14,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The engine on real files.
+/// The engine with real files.
 class ConverterFiles : public testing::Test {
 protected:
     ConverterFiles() { Platform::services().mediaFiles = &MediaTest::media(); }
 
     [[nodiscard]] QString at(const QString& name) const { return folder.filePath(name); }
 
-    /// Values that are exact in 24 bits and name their frame; the right channel is something else.
+    /// Values that are exact in 24 bits and encode their frame number; the right channel differs.
     static MediaTest::Samples ramp(std::size_t frames) {
         MediaTest::Samples rows(2, std::vector<float>(frames));
         for (std::size_t i = 0; i < frames; ++i) {
@@ -30,7 +30,7 @@ protected:
         }
         return rows;
     }
-    /// The whole file in the client format.
+    /// All frames in the client format.
     static MediaTest::Samples read(const QString& path) {
         MediaTest::Samples rows(2);
         Platform::MediaError error;
@@ -87,7 +87,7 @@ TEST_F(ConverterFiles, KeepsLengthsToTheFrameForOddPlaces) {
         ASSERT_TRUE(convert(source, target + u".wav"_s, 0, from, to));
         const auto first = std::size_t(44100.0 * double(from));
         std::size_t end = rows[0].size();
-        if (to >= 0.1F) // whole blocks until the place is reached
+        if (to >= 0.1F) // whole blocks up to the end of the range
             end = first + (std::size_t(std::ceil(44100.0 * double(to))) - first + 511) / 512 * 512;
         const auto result = read(target + u".wav"_s);
         ASSERT_EQ(result[0].size(), end - first) << from << " to " << to;
@@ -126,7 +126,7 @@ TEST_F(ConverterFiles, PlaysTheLastTenthFromTheBeginOfTheRangeAgain) {
 }
 
 TEST_F(ConverterFiles, ReadsSourcesThatOtherProgramsMade) {
-    // Left and right differ, so that a mix-down would show.
+    // Left and right differ, so that a downmix would be noticed.
     const auto made = [this](const QString& name, const QStringList& options) {
         QStringList arguments{u"-v"_s,
                               u"error"_s,
@@ -164,7 +164,7 @@ TEST_F(ConverterFiles, ReadsSourcesThatOtherProgramsMade) {
             difference += std::pow(double(result[0][i]) - expected, 2);
             power += expected * expected;
         }
-        EXPECT_LT(std::sqrt(difference / power), 0.1) << qPrintable(name); // a mix of the channels would be 0.7
+        EXPECT_LT(std::sqrt(difference / power), 0.1) << qPrintable(name); // a downmix would give 0.7
     }
 }
 

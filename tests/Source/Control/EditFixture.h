@@ -23,7 +23,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-/// Real recordings, their library, and the folders that an edit uses.
+/// Real recordings, their library, and the folders used by an edit.
 class EditFixture : public testing::Test {
 protected:
     EditFixture() : tmpBefore_(g_strTmpPath), media_(Platform::createMediaFiles()) {
@@ -56,7 +56,7 @@ protected:
                 {AudioRecordEntry::Genre, QStringLiteral("Genre")},
                 {AudioRecordEntry::Length, seconds}};
     }
-    /// A recording of a tone, in the library with the tags that it has.
+    /// A recording of a tone, in the library with its tags.
     Dictionary recording(const QString& title, int seconds) {
         const QString path = at(title + QStringLiteral(".m4a"));
         EXPECT_TRUE(Mpeg4Files::make(path, Mpeg4Files::Shape::IndexAtEnd, seconds));
@@ -67,20 +67,20 @@ protected:
         return entry;
     }
     [[nodiscard]] Dictionary listed() const { return library().records().value(0).toMap(); }
-    /// Everything beside the recordings, hidden files too.
+    /// All files beside the recordings, including hidden ones.
     [[nodiscard]] QStringList files() const {
         return QDir(at({})).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
     }
     [[nodiscard]] QStringList notes() const {
         return QDir(home_.filePath(QStringLiteral("data/com.korvane.Sonaphex/Edits"))).entryList(QDir::Files);
     }
-    /// What the next start does before it shows the library.
+    /// The repairs that the next start makes before it shows the library.
     static void startAnew() {
         Platform::TemporaryFolder::removeWhole(g_strTmpPath);
         QDir().mkpath(g_strTmpPath);
         EditNote::recover();
     }
-    /// How long the work takes in a process of its own, with a fifth on top, in microseconds; 0 when it fails.
+    /// The duration of the work in a separate process, plus a fifth, in microseconds; 0 when it fails.
     [[nodiscard]] static int timeOf(const std::function<bool()>& work) {
         QElapsedTimer timer;
         timer.start();

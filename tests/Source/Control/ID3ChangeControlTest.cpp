@@ -220,7 +220,7 @@ TEST_F(ID3Change, NeverLetsTheShellReadAPath) {
                             u"#a"_s,           u"%s%n"_s,      u"\r\t\x01\x7f"_s, u"日本 🎵"_s, u"$"_s,
                             u"\\$(touch x)"_s, u"a  b   "_s,   u"\"\""_s,         u"\\n"_s,    u"$((1+1))"_s,
                             u"{a,b}"_s,        u"(a)"_s,       u"a=b"_s,          u"%@"_s};
-    QDir::setCurrent(music_.path()); // where a touch would leave its mark
+    QDir::setCurrent(music_.path()); // where a command "touch" would create its file
     int round = 0;
     for (const QString& name : names) {
         const QString source = path(name + u".m4a"_s);
@@ -249,7 +249,7 @@ TEST_F(ID3Change, KeepsTheFormOfTheCommandLineForOrdinaryPaths) {
 }
 
 TEST_F(ID3Change, GivesAFileBackThatACrashLeftInTheTemporaryFolder) {
-    // A tool that never ends stands for the moment of the crash.
+    // A tool that never ends simulates the moment of the crash.
     removeTool();
     const QString tool = resources_.filePath(u"SetArtWork"_s);
     ASSERT_TRUE(Mpeg4Files::write(tool, "#!/bin/sh\nexec sleep 600\n"));
@@ -271,7 +271,7 @@ TEST_F(ID3Change, GivesAFileBackThatACrashLeftInTheTemporaryFolder) {
 }
 
 TEST_F(ID3Change, AFileThatNoPlaceTakesBackStaysInTheTemporaryFolder) {
-    // The tool takes the folder away, and nothing can be set aside either.
+    // The tool removes the folder, and nothing can be set aside either.
     const QString data = resources_.filePath(u"data"_s);
     ASSERT_TRUE(Mpeg4Files::write(data, {}));
     const EnvironmentScope noData("XDG_DATA_HOME", data.toUtf8());
@@ -318,7 +318,7 @@ TEST(SetArtWork, MakesNothingWhenTheFolderIsMissingOrTheDiskFull) {
     ASSERT_TRUE(Mpeg4Files::noise(400).save(image));
     EXPECT_EQ(runTool(toolPath, {source, image, folder.filePath(u"no/out.m4a"_s)}).status, 1);
     const QString destination = folder.filePath(u"out.m4a"_s);
-    // The shell's limit of file sizes (in blocks of 512 bytes) stands for a full disk; the signal is ignored.
+    // The shell's file size limit (in blocks of 512 bytes) simulates a full disk; the signal is ignored.
     EXPECT_NE(runTool(u"/bin/sh"_s, {u"-c"_s, u"trap '' XFSZ; ulimit -f 100; exec \"$0\" \"$@\""_s, toolPath, source,
                                      image, destination})
                   .status,

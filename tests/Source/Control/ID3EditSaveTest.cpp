@@ -31,7 +31,7 @@ protected:
 };
 
 class TagSaveOnAFullDisk : public TagSave {};
-class TagSaveWithKills : public TagSave {}; // suites of their own: each takes its time
+class TagSaveWithKills : public TagSave {}; // separate suites, because each takes long
 
 } // namespace
 
@@ -138,7 +138,7 @@ TEST_F(TagSaveOnAFullDisk, KeepsTheRecordingWhereverTheRoomEnds) {
         const QString now = result.entry.value(AudioRecordEntry::SavePath).toString();
         EXPECT_EQ(files(), QStringList{QFileInfo(now).fileName()}) << room;
         EXPECT_EQ(Mpeg4Files::audioOf(now), sound) << room;
-        // All of the edit or an explanation; what the entry says is what the file has.
+        // Either the whole edit, or an explanation; the entry always matches the file.
         EXPECT_TRUE(FileTags::agree(now, result.entry)) << room;
         if (result.notice.isEmpty()) {
             ++saved;
@@ -179,7 +179,7 @@ TEST_F(TagSaveWithKills, LosesNothingAtAnyMoment) {
                 return 0;
             });
             ASSERT_TRUE(child.started());
-            ::setpgid(child.pid(), child.pid()); // whoever is first
+            ::setpgid(child.pid(), child.pid()); // parent or child, whichever runs first
             QThread::usleep(random.bounded(1, longest));
             child.killGroup();
         }

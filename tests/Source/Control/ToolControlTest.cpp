@@ -25,7 +25,7 @@ void writeFile(const QString& path, const QByteArray& content) {
     file.write(content);
 }
 
-/// An MPEG-4 file whose brand file(1) tells as made for a certain player.
+/// An MPEG-4 file whose brand makes file(1) report a protected format.
 const QByteArray protectedFile = QByteArray::fromHex("0000001c667479704d344120") +
                                  QByteArray::fromHex("000000004d344120") + QByteArray("mp42isom") +
                                  QByteArray(64, '\0');
@@ -100,7 +100,7 @@ TEST(ToolControl, AddsUpAFolderWithAllThatIsInIt) {
     ASSERT_TRUE(QDir(folder.path()).mkpath(u"deep/deeper"_s));
     writeFile(folder.filePath(u"deep/.hidden"_s), QByteArray(1'600'000, 'x'));
     writeFile(folder.filePath(u"deep/deeper/file"_s), QByteArray(1'600'000, 'x'));
-    // A link around in a circle counts as itself, not as what it leads to.
+    // A circular link counts as itself, not as its target.
     ASSERT_TRUE(QFile::link(folder.path(), folder.filePath(u"deep/circle"_s)));
     EXPECT_EQ(ToolControl::getDirectorySize(folder.path()), 3);
 }
@@ -110,7 +110,7 @@ TEST(ToolControl, TellsFreeSpaceInBinaryMegabytes) {
     ASSERT_EQ(::statfs("/tmp", &status), 0);
     const auto expected = static_cast<double>(status.f_bfree) * static_cast<double>(status.f_bsize) / 1048576.0;
     const auto told = static_cast<double>(ToolControl::getLocalSize(u"/tmp"_s));
-    EXPECT_NEAR(told, expected, expected / 20 + 2); // others write to the disk meanwhile
+    EXPECT_NEAR(told, expected, expected / 20 + 2); // other processes write to the disk, too
     EXPECT_EQ(ToolControl::getLocalSize(u"/no/such/folder"_s), 0);
 }
 
@@ -151,7 +151,7 @@ TEST(ToolControl, LooksForProtectionInFilesOfItsKindsOnly) {
 TEST(ToolControl, SeesProtectionAmongTheFirstTwentyThousandCharactersOnly) {
     QLoggingCategory::setFilterRules(u"sonaphex.control.info=false"_s); // the line is as long as the output
     const QTemporaryDir folder;
-    // Folders match the pattern too and are told before what is in them: the file comes last.
+    // Folders match the pattern, too, and are listed before their content: the file comes last.
     const auto protectedBelow = [&](int levels) {
         QString path = folder.path() + u'/' + QString::number(levels);
         for (int level = 0; level < levels; ++level)

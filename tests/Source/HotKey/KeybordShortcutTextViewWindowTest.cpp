@@ -206,7 +206,7 @@ TEST_F(ShortcutField, IsTakenWhenTheKeyIsUpAgain) {
     QTest::keyPress(field, Qt::Key_D, Qt::MetaModifier);
     EXPECT_EQ(field->text(), u"Command + D"_s);
     EXPECT_FALSE(defaults.objectForKey(saveKey).isValid());
-    // Another key in between belongs to nobody.
+    // Another key in between is not part of any combination.
     QTest::keyPress(field, Qt::Key_E, Qt::MetaModifier);
     EXPECT_EQ(field->text(), u"Command + D"_s);
     QTest::keyRelease(field, Qt::Key_D, Qt::MetaModifier);

@@ -26,7 +26,7 @@ QVariantList list(const char* words) {
     return entries;
 }
 
-/// "-2" for the third row that went, "+0" and "=0" for the first one that came or was replaced; "*" for too much.
+/// Result notation: "-2" removes the third row, "+0" inserts and "=0" replaces the first; "*" means too many changes.
 QString told(const QVariantList& before, const QVariantList& after) {
     const auto steps = LeafChanges::between(before, after);
     if (!steps)

@@ -54,7 +54,7 @@ protected:
     FakeUserDefaults defaults_;
 };
 
-/// Notes every signal as a line.
+/// Records every signal as a line.
 class Notes {
 public:
     explicit Notes(MediaLibrary& library) {
@@ -216,7 +216,7 @@ TEST_F(Library, DeletesTheFileOfEachGivenEntryEvenOfOnesItDoesNotHold) {
 }
 
 TEST_F(Library, RemovesTheEntryWhenTheFileCannotBeDeleted) {
-    const QTemporaryDir folder; // a folder in the place of the file
+    const QTemporaryDir folder; // a folder in place of the file
     MediaLibrary library;
     const Dictionary one = entry(u"a"_s, {}, folder.path());
     library.addRecordFile(one);
@@ -287,7 +287,7 @@ TEST_F(Library, TellsViewsExactlyWhichRowsChanged) {
     library.addRecordFile(newEntry(u"d"_s));
     EXPECT_EQ(notes.lines, (QStringList{u"+new-record 0"_s, u"+all-record 0"_s}));
     notes.lines.clear();
-    library.addRecordFile(newEntry(u"b"_s)); // now new: a row between d, c and a
+    library.addRecordFile(newEntry(u"b"_s)); // now it is new: a row between d, c and a
     EXPECT_EQ(notes.lines, (QStringList{u"+new-record 2"_s}));
     notes.lines.clear();
     library.addRecordFile(entry(u"c"_s, u"Title"_s));
@@ -371,13 +371,13 @@ TEST(MediaLibraryStore, KeepsWhatTwoProcessesChangedInOneEntry) {
         return values;
     };
     using Values = Dictionary;
-    // One side changed, added or took away a value, the other side another one.
+    // Each side changed, added or removed a different value.
     EXPECT_EQ(merged({{u"1"_s, 1}, {u"2"_s, 2}}, {{u"1"_s, 1}, {u"2"_s, u"b"_s}}, {{u"1"_s, u"a"_s}, {u"2"_s, 2}}),
               (Values{{u"1"_s, u"a"_s}, {u"2"_s, u"b"_s}}));
     EXPECT_EQ(merged({}, {{u"1"_s, 1}}, {{u"2"_s, 2}}), (Values{{u"1"_s, 1}, {u"2"_s, 2}}));
     EXPECT_EQ(merged({{u"1"_s, 1}, {u"2"_s, 2}}, {{u"2"_s, 2}}, {{u"1"_s, 1}}), Values{});
     EXPECT_EQ(merged({{u"1"_s, 1}, {u"2"_s, 2}}, {{u"1"_s, 1}}, {{u"1"_s, 3}, {u"2"_s, 2}}), (Values{{u"1"_s, 3}}));
-    // Both changed the same one.
+    // Both sides changed the same one.
     EXPECT_EQ(merged({{u"1"_s, 1}}, {{u"1"_s, 2}}, {{u"1"_s, 3}}), (Values{{u"1"_s, 3}}));
     EXPECT_EQ(merged({{u"1"_s, 1}}, {{u"1"_s, 2}}, {}), Values{});
     EXPECT_EQ(merged({{u"1"_s, 1}}, {}, {{u"1"_s, 3}}), (Values{{u"1"_s, 3}}));
@@ -398,7 +398,7 @@ TEST(MediaLibraryStore, KeepsOursWhenTheirsIsNoLibrary) {
     const QVariant ours = MediaLibraryStore::value({entry(u"a"_s)}, {});
     EXPECT_EQ(MediaLibraryStore::merge({}, {}, ours), ours);
     EXPECT_EQ(MediaLibraryStore::merge({}, u"odd"_s, ours), ours);
-    // Damage takes nothing away from a process that knows better.
+    // A damaged value does not remove entries that this process knows.
     const QVariant known = MediaLibraryStore::value({entry(u"a"_s)}, {entry(u"r"_s)});
     for (const QVariant& theirs :
          {QVariant(u"odd"_s), QVariant(Dictionary()), QVariant(Dictionary{{u"records"_s, 5}, {u"ringtones"_s, u"x"_s}}),
@@ -471,7 +471,7 @@ TEST(MediaLibraryStore, IsTakenUpRowByRowByALibraryBesideAnother) {
     window.takeUpMediaLibraryList();
     EXPECT_EQ(notes.lines, QStringList());
 
-    // What was taken up can go, and stays away.
+    // An entry adopted from another process can be removed, and does not return.
     window.removeMediaLibraryArray({entry(u"d"_s)});
     ASSERT_TRUE(one.flush());
     Platform::PropertyListDefaults fresh(path);

@@ -21,7 +21,7 @@ protected:
         requests = std::make_unique<ControlRequests>(*controller, library.get());
     }
 
-    /// The answer, after what follows it was done.
+    /// The answer; returns after the work behind it was done.
     QByteArray ask(const QByteArray& request) {
         const auto reply = requests->answer(request);
         if (reply.afterwards)

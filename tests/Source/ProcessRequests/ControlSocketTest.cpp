@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Requests of other processes through the real socket, while a device makes the program open a dialog.
+// Requests of other processes through the real socket, while a device change makes the program open a dialog.
 #include "Source/ProcessRequests/ControlRequests.h"
 #include "tests/Source/Record/RecordFixture.h"
 
@@ -13,7 +13,7 @@ namespace {
 
 class ControlSocketTest : public RecordFixture {
 protected:
-    /// An output on USB, and the device that carries what it plays: the user is warned of the headset.
+    /// A USB output, and the device that captures it: the user is warned about the headset.
     void addHeadsetOutput() {
         FakeAudioHardware::Device output;
         output.id = 21;
@@ -43,7 +43,7 @@ TEST_F(ControlSocketTest, AStopIsAnsweredAlthoughADeviceThatCameMeanwhileOpensAD
     controller->startAndStopRecord();
     play(Microphone, 0.5F, 1);
     addHeadsetOutput();
-    Q_EMIT hardware.devicesChanged(); // looked at when the recording ends
+    Q_EMIT hardware.devicesChanged(); // evaluated when the recording ends
 
     std::atomic<bool> hungUp{false};
     QByteArray answer;
@@ -53,7 +53,7 @@ TEST_F(ControlSocketTest, AStopIsAnsweredAlthoughADeviceThatCameMeanwhileOpensAD
             answer = "(nobody)";
         hungUp = true;
     });
-    // The dialog stands until the other process has gone and its socket was deleted.
+    // The dialog stays open until the other process has disconnected and its socket was deleted.
     alerts.whileShown = [&] { EXPECT_TRUE(waitFor([&] { return hungUp.load(); })); };
     EXPECT_TRUE(waitFor([this] { return alerts.shown.size() == 1; }));
     EXPECT_TRUE(waitFor([&] { return hungUp.load(); }));

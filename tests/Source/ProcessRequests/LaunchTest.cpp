@@ -26,7 +26,7 @@ protected:
         if (launching.joinable())
             launching.join();
     }
-    /// A second launch, on a thread of its own as the other process that it stands for.
+    /// A second launch, on a separate thread that plays the other process.
     void launchAgain(int patienceMs) {
         launching = std::thread([this, patienceMs] {
             const auto second = RunningProgram::create(u"org.example.Test"_s);
@@ -34,7 +34,7 @@ protected:
             done = true;
         });
     }
-    /// Whether the launch has asked for the lock, which is taken.
+    /// Whether the launch has asked for the lock, which is held.
     [[nodiscard]] bool waits() {
         return !waitFor([this] { return done.load(); }, 200);
     }

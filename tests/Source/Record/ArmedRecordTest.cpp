@@ -13,7 +13,7 @@ namespace {
 
 class ArmedRecordTest : public RecordFixture {
 protected:
-    /// Frames in all raw files, and in those of them that became recordings.
+    /// Frames in all raw files, and frames in those that became recordings.
     [[nodiscard]] std::int64_t framesWritten() const {
         std::int64_t frames = 0;
         for (const auto& file : media.files)
@@ -126,7 +126,7 @@ TEST_F(ArmedRecordTest, NoCutMeetsAnInputThatIsBeingExchanged) {
 }
 
 TEST_F(ArmedRecordTest, ASoundInTheMomentOfTheStopKeepsItsName) {
-    /// Hears a sound when it was just asked whether it records.
+    /// Delivers a sound right after it was asked whether it records.
     struct Engine : BuildInAudioRecord {
         [[nodiscard]] int recordStatus() const override {
             const int status = BuildInAudioRecord::recordStatus();
@@ -218,7 +218,7 @@ TEST_F(ArmedRecordTest, SilenceClosesTheFileAndBeginsTheNextAtOnce) {
     EXPECT_EQ(media.last().framesAccepted, 48000);
     ASSERT_TRUE(queueDone());
     EXPECT_EQ(delegate.paths, QStringList{track(0)});
-    // The silent rest is shorter than the filter time.
+    // The remaining silence is shorter than the filter time.
     controller->startAndStopRecord();
     EXPECT_EQ(controller->droppedRecordings(), 1);
     EXPECT_EQ(controller->jobsInQueue(), 0);
@@ -231,7 +231,7 @@ TEST_F(ArmedRecordTest, APartThatASilenceBeginsIsNamedWithoutAWait) {
     g_SplitTimeMS = 300;
     controller->startAndStopRecord();
     play(ComputerAudio, 0.25F, 1);
-    // Somebody else makes a file of the name that the next part would have.
+    // Another process creates a file with the next part's name.
     QDir().mkpath(folder());
     QFile(track(1)).open(QIODevice::WriteOnly);
     play(ComputerAudio, 0, 0.3);
@@ -239,7 +239,7 @@ TEST_F(ArmedRecordTest, APartThatASilenceBeginsIsNamedWithoutAWait) {
     play(ComputerAudio, 0, 0.3);
     controller->startAndStopRecord();
     ASSERT_TRUE(queueDone());
-    // The parts follow each other so fast here that a later one may be named first.
+    // Here the parts follow each other so quickly that a later one may be named first.
     ASSERT_EQ(delegate.paths.size(), 3);
     EXPECT_EQ(delegate.paths.front(), track(0));
     EXPECT_NE(delegate.paths.at(1), delegate.paths.at(2));
@@ -337,7 +337,7 @@ TEST_F(ArmedRecordTest, ATimeWithoutTheDeviceIsNotCut) {
     controller->startAndStopRecord();
     play(ComputerAudio, 0.25F, 1);
     play(ComputerAudio, 0, 0.1);
-    // The first cycle may come before the main thread hears that the device is back.
+    // The first cycle may arrive before the main thread learns that the device is back.
     hardware.stateOf(ComputerAudio)->startsAnew = true;
     clock.advance(5);
     play(ComputerAudio, 0, 0.1);
@@ -403,7 +403,7 @@ TEST_F(ArmedRecordTest, APauseIsNotEndedByASplitTimeOfZero) {
 
 namespace {
 
-/// Hears something at the moment in which its cycles are to be held.
+/// Delivers a sound at the moment when its cycles are about to be held.
 struct HeardAtTheHold : BuildInAudioRecord {
     void holdCycles() override {
         if (sound)
@@ -436,7 +436,7 @@ TEST_F(ArmedRecordTest, ASoundInTheMomentOfTheNextStartHasAnOwner) {
     play(ComputerAudio, 0.25F, 2);
     controller->startAndStopRecord();
     ASSERT_TRUE(queueDone());
-    // Either the wait had ended, or what it recorded is a recording of its own: no file holds sound without an owner.
+    // Either the wait had ended, or its audio is a recording of its own: no file with sound is left without an owner.
     EXPECT_EQ(framesInRecordings(), framesWritten());
     EXPECT_EQ(delegate.paths.value(0), track(0)) << "no name is lost";
     EXPECT_TRUE(rawFiles().isEmpty());
@@ -448,7 +448,7 @@ TEST_F(ArmedRecordTest, ASoundInTheMomentOfTheEndIsFinished) {
     setFilter(false);
     defaults.setObject(PreferenceStore::ChooseRecordBuiltIn, false);
     defaults.setObject(PreferenceStore::ChooseRecordComputerAudio, true);
-    /// Hears a sound when it was just asked whether it records.
+    /// Delivers a sound right after it was asked whether it records.
     struct Engine : BuildInAudioRecord {
         [[nodiscard]] int recordStatus() const override {
             const int status = BuildInAudioRecord::recordStatus();
@@ -469,7 +469,7 @@ TEST_F(ArmedRecordTest, ASoundInTheMomentOfTheEndIsFinished) {
     controller->setDisplayClockRunning(false);
     controller->startAndStopRecord();
     std::thread hearing;
-    // From another thread, as an I/O thread is one: it may have to wait until the question is settled.
+    // On another thread, like an I/O thread: it may have to wait until the question is decided.
     std::atomic<bool> heard{false};
     computer->sound = [this, &hearing, &heard] {
         hearing = std::thread([this, &heard] {

@@ -117,7 +117,8 @@ TEST_F(CutOffRecordingsTest, AKeeperKeepsWhenItGoes) {
 }
 
 TEST_F(CutOffRecordingsTest, AnExitKeepsAndTheNextLaunchCannotComeBetween) {
-    // exit() runs no destructor of the caller: what it holds, as the lock of the running program, lasts until the end.
+    // exit() does not run the caller's destructors: its objects, such as the lock of the running program, stay until
+    // the end.
     const QString raw = g_strTmpPath + u"/BuiltInA0.m4a"_s;
     QFile(raw).open(QIODevice::WriteOnly);
     EXPECT_EXIT(

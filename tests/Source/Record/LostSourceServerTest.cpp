@@ -71,7 +71,7 @@ TEST_F(LostSourceServer, AWaitForSoundTellsThatTheDriverIsLostAndGoesOnWhenItIsB
     computer.remove();
     EXPECT_TRUE(noticed(u"Computer audio went away. The wait for the first sound goes on when it is back."_s));
     EXPECT_EQ(controller->state(), RecordState::Armed);
-    // It returns under its name, and now it sounds.
+    // The device returns under the same name, and now it plays.
     TestSource again(highTone());
     ASSERT_TRUE(again.start());
     EXPECT_TRUE(noticed(u"Computer audio is back."_s));

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-//
-// Recordings in which a device or the sound server is lost: what there is becomes the recording, and the user is told.
+// Recordings in which a device or the sound server is lost: the audio so far becomes the recording, and the user is
+// informed.
 #include "tests/Source/Record/RecordFixture.h"
 
 using namespace Qt::StringLiterals;
@@ -177,7 +177,7 @@ TEST_F(LostSourceTest, NothingIsToldWhileNobodyRecords) {
     beginWithComputerAudioOnly();
     tell(ComputerAudio, Event::DeviceLost);
     tell(ComputerAudio, Event::DeviceReturned);
-    // A stop leaves the wait behind, and the window shows that nothing is recorded.
+    // Stop leaves the armed wait running, and the window shows that nothing is recorded.
     controller->startAndStopRecord();
     controller->startAndStopRecord();
     tell(ComputerAudio, Event::DeviceLost);

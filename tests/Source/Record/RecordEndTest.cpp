@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-//
-// The end of a controller while its I/O threads are at work.
+// Destroying a controller while its I/O threads are running.
 #include "tests/Source/Record/RecordFixture.h"
 
 #include <thread>
@@ -10,8 +9,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// An engine whose I/O thread still runs cycles while it is being closed, as a real one does. Two calls of the fake
-/// unit must not overlap, so the cycles run here one after the other.
+/// An engine whose I/O thread still runs cycles while it is being closed, like a real one. Two calls of the fake unit
+/// must not overlap, so the cycles run here one after the other.
 struct BusyToTheEnd : BuildInAudioRecord {
     void cleanUp() override {
         if (lastCycles)
@@ -39,7 +38,7 @@ protected:
     [[nodiscard]] static QStringList kept() {
         return QDir(Platform::FileManager::unfinishedFolder()).entryList(QDir::Files, QDir::Name);
     }
-    std::vector<BusyToTheEnd*> engines; ///< the input device's, then that of computer audio
+    std::vector<BusyToTheEnd*> engines; ///< the input device's engine, then that of computer audio
 };
 
 } // namespace
@@ -51,7 +50,7 @@ TEST_F(RecordEndTest, CyclesDuringTheEndMeetAWholeController) {
     g_SplitTimeMS = 0;
     controller->startAndStopRecord();
     play(ComputerAudio, 0.25F, 1);
-    // Sound, silences and cuts post to the main thread: they copy what the controller keeps for that.
+    // Sound, silences and cuts post to the main thread: they copy the controller's context object.
     std::atomic<bool> ends{false};
     std::thread ioThread([&] {
         while (!ends) {

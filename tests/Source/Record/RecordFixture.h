@@ -19,7 +19,7 @@
 
 #include <QTemporaryDir>
 
-/// A controller with real engines on devices of the test: cycles are fed by hand and time is driven.
+/// A controller with real engines on test devices: the test feeds cycles and moves the time.
 class RecordFixture : public testing::Test {
 protected:
     static constexpr AudioObjectID Microphone = 11;
@@ -80,7 +80,7 @@ protected:
         hardware.add(device);
     }
 
-    /// The controller as the program makes it, with the clock under the test's hand.
+    /// Creates the controller as the program does, with the test's clock.
     void begin() {
         controller = std::make_unique<RecordStateController>();
         controller->setDelegate(&delegate);
@@ -105,7 +105,7 @@ protected:
         defaults.setObject(PreferenceStore::PreferenceFilterTimeKey, seconds);
     }
 
-    /// Feeds one device for a while with one value, in cycles of 10 ms, and lets time pass.
+    /// Feeds a device with one value for a while, in cycles of 10 ms, and advances the time.
     void play(AudioObjectID device, float value, double seconds) {
         const int cycles = int(seconds * 100 + 0.5);
         for (int i = 0; i < cycles; ++i) {
@@ -122,7 +122,7 @@ protected:
         }
     }
 
-    /// A whole recording of what one device plays for a while.
+    /// A complete recording of a device that plays for a while.
     void record(AudioObjectID device, float value, double seconds) {
         controller->startAndStopRecord();
         play(device, value, seconds);

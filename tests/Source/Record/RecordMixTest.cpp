@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-//
-// Two sources whose clocks differ, with real encoders and the real mix: how far are they apart in the finished file?
+// Two sources with different clocks, the real encoders and the real mix: how far apart are they in the finished file?
 #include "tests/support/RecordMix.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "tests/support/DiskCalls.h"
@@ -37,7 +36,7 @@ TEST_F(RecordMix, PartsOfTwoSourcesFitEndToEnd) {
         expected[i] = sound.at(double(i) / 44100);
     for (std::size_t i = 0; i + 1 < cuts.size(); ++i)
         for (const auto& channel : all) {
-            // A cut rounds to a frame, and each part's length does.
+            // A cut is rounded to a frame, and so is each part's length.
             EXPECT_LE(std::fabs(bestLag(expected, channel, cuts[i] - 6000, 4000, 60)), 3) << "before cut " << i;
             EXPECT_LE(std::fabs(bestLag(expected, channel, cuts[i] + 2000, 4000, 60)), 3) << "after cut " << i;
         }

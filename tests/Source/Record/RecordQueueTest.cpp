@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-//
-// From the raw files of a recording to one file of the library, and what happens when that fails.
+// From the raw files of a recording to one file of the library, and the handling of failures on the way.
 #include "Source/Record/RecordQueue.h"
 
 #include "Platform/Foundation/MovedFiles.h"
@@ -201,14 +200,14 @@ TEST_F(RecordQueueTest, AVanishedFolderSetsTheRecordingAsideAndSaysWhere) {
     EXPECT_EQ(unfinished(), QStringList{u"Track0.m4a"_s});
     EXPECT_TRUE(noticed(Platform::FileManager::unfinishedFolder() + u"/Track0.m4a"_s));
     EXPECT_FALSE(QFileInfo::exists(folder())) << "a folder that was taken away is not made up again";
-    // The next recording works as ever.
+    // The next recording works normally.
     record();
     ASSERT_TRUE(queueDone());
     EXPECT_EQ(delegate.paths, QStringList{track(0)});
 }
 
 TEST_F(RecordQueueTest, AFolderWithoutPermissionSetsTheRecordingAside) {
-    // Where the folder should be stands a file: also an administrator cannot write into it.
+    // A file stands in place of the folder: even root cannot write into it.
     makeFile(folder(), "in the way");
     addMicrophone();
     begin();
@@ -219,7 +218,7 @@ TEST_F(RecordQueueTest, AFolderWithoutPermissionSetsTheRecordingAside) {
 }
 
 TEST_F(RecordQueueTest, ADiskThatTakesNoMoreSetsTheRecordingAside) {
-    // The recordings lie on another file system, so that the move has to write.
+    // The recordings are on another file system, so that the move has to copy.
     QTemporaryDir other(u"/dev/shm/sonaphex-XXXXXX"_s);
     ASSERT_TRUE(other.isValid());
     defaults.setObject(PreferenceStore::PreferenceSavePathKey, other.path());
@@ -270,7 +269,7 @@ TEST_F(RecordQueueTest, TwoRecordingsThatWereSetAsideDoNotMeet) {
 }
 
 TEST_F(RecordQueueTest, ARecordingThatNoPlaceTakesOutlivesItsTemporaryFolder) {
-    // Neither the recordings' folder nor the one for what is unfinished can be written.
+    // Neither the recordings' folder nor the folder for unfinished recordings can be written.
     makeFile(folder(), "in the way");
     makeFile(home.filePath(u"data"_s), "in the way");
     addMicrophone();

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-//
 // Recordings on a real sound server, from playing streams to files of the library.
 #include "CaptureComputerAudio/CaptureDriver.h"
 #include "CaptureComputerAudio/KextInstallControl.h"
@@ -59,8 +58,8 @@ TEST_F(RecordServer, SilencesBetweenSongsCutTheRecording) {
     defaults.setObject(PreferenceStore::PreferenceFilterKey, 1);
     defaults.setObject(PreferenceStore::PreferenceFilterTimeKey, u"1"_s);
     begin(false, true);
-    // A machine that does not let the sound server run in time loses frames before they reach us, and says so. Such a
-    // run proves nothing about lengths and is repeated.
+    // A machine that does not run the sound server in time loses frames before they reach the program, which reports
+    // it. Such a run says nothing about lengths and is repeated.
     for (int attempt = 0; attempt < 8; ++attempt) {
         delegate.paths.clear();
         begins = -1;
@@ -80,7 +79,7 @@ TEST_F(RecordServer, SilencesBetweenSongsCutTheRecording) {
         const auto samples = decoded(delegate.paths.at(i));
         ASSERT_EQ(samples.size(), 2U);
         seconds += double(samples[0].size()) / 44100;
-        // Each part holds its song whole, and begins with what was left of the silence before it.
+        // Each part contains its whole song, and begins with the rest of the silence before it.
         const auto loud = [](float sample) { return std::fabs(sample) > 0.05F; };
         const auto first = std::find_if(samples[0].begin(), samples[0].end(), loud);
         const auto last = std::find_if(samples[0].rbegin(), samples[0].rend(), loud).base();
@@ -157,7 +156,7 @@ TEST_F(RecordServer, TheRecordingFollowsTheUserToAnotherOutput) {
         });
     };
     ASSERT_TRUE(outputIsThere(u"Second Output"_s));
-    // Two programs play, each to its own output.
+    // Two programs play, each to a different output.
     const auto playing = [](const std::string& name, const std::string& target, double pitch) {
         TestSource::Options options;
         options.name = name;
@@ -182,8 +181,8 @@ TEST_F(RecordServer, TheRecordingFollowsTheUserToAnotherOutput) {
                                                           "{\"name\":\"test.second\"}");
     ASSERT_TRUE(
         waitFor([&] { return server.feedersOf("korvane.system-audio") == std::set<std::string>{"test.second"}; }));
-    // The device hears the new output before it lets go of the old one: no gap is of our making, however long the
-    // machine takes for the change.
+    // The device links the new output before it unlinks the old one: the driver causes no gap, however long the machine
+    // takes for the change.
     EXPECT_EQ(server.timesCutOff("korvane.system-audio"), 0);
     ASSERT_TRUE(recorded(controller->recordedSeconds() + 4));
     controller->finishAll();
@@ -199,7 +198,7 @@ TEST_F(RecordServer, TheRecordingFollowsTheUserToAnotherOutput) {
     const auto samples = decoded(delegate.paths.front());
     ASSERT_EQ(samples.size(), 2U);
     const auto& left = samples[0];
-    // By tenths of a second: a busy machine may silence a player for a while.
+    // In tenths of a second: a busy machine may silence a player for a while.
     const auto loudest = [](const std::vector<float>& samples, double pitch) {
         double most = 0;
         for (auto part = samples.begin(); samples.end() - part >= 4410; part += 4410)

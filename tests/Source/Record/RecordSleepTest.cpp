@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-//
-// The machine stays awake while an engine records, whatever the buttons show.
+// The machine stays awake while an engine records, whatever state the buttons show.
 #include "tests/Source/Record/RecordFixture.h"
 #include "tests/fakes/FakeSleepInhibitor.h"
 
@@ -17,7 +16,7 @@ protected:
         RecordFixture::SetUp();
         Platform::services().sleepInhibitor = &sleep;
     }
-    /// Feeds from another thread, as the engine's I/O thread does.
+    /// Feeds from another thread, like the engine's I/O thread.
     void hearFromAnotherThread(float value, double seconds) {
         std::thread([&] { play(ComputerAudio, value, seconds); }).join();
     }

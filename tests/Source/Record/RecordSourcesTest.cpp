@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-//
-// Devices that come and go while the program runs.
+// Devices that appear and disappear while the program runs.
 #include "tests/Source/Record/RecordFixture.h"
 
 using namespace Qt::StringLiterals;
@@ -12,7 +11,7 @@ class RecordSourcesTest : public RecordFixture {
 protected:
     static constexpr AudioObjectID Speakers = 21;
 
-    /// An output on a bus, as the default one.
+    /// Adds an output on a bus and makes it the default.
     void addOutput(AudioObjectID id, const QString& node, const QString& bus) {
         FakeAudioHardware::Device device;
         device.id = id;
@@ -27,7 +26,7 @@ protected:
     static QString pathOf(const QString& node, const QString& bus) {
         return u"IOService:/%1/card/%2@0a0b0c0d"_s.arg(bus, node);
     }
-    /// The property that steers the driver.
+    /// The property that controls the driver.
     [[nodiscard]] QString steeredTo() { return registry.property(engine, u"kCaptureDriverPathKey"_s).toString(); }
     FakeIORegistry::Object engine = 0;
 };
@@ -169,7 +168,7 @@ TEST_F(RecordSourcesTest, ADeviceThatCannotBeOpenedIsTriedAgainUntilItCan) {
     hardware.onOpen = [&] { ++tries; };
     hardware.unitOpens = false;
     begin();
-    // Each is tried more than once, and told once.
+    // Each is tried more than once, and reported once.
     ASSERT_TRUE(waitFor([&] { return tries >= 6; }));
     EXPECT_EQ(controller->notices().filter(u"Microphone cannot be opened"_s).size(), 1);
     hardware.unitOpens = true;
@@ -208,7 +207,7 @@ TEST_F(RecordSourcesTest, AStartWithoutASourceStaysIdleAndSaysSo) {
     EXPECT_EQ(controller->startToolTip(), u"Start Record"_s);
     EXPECT_TRUE(controller->sourcesEnabled());
     EXPECT_FALSE(QFile::exists(track(0)));
-    // With a device the next start records, under the first name.
+    // Once there is a device, the next start records, under the first name.
     addMicrophone();
     record(Microphone, 0.5F, 6);
     ASSERT_TRUE(queueDone());

@@ -507,7 +507,7 @@ TEST_F(RecordStateControllerTest, NoRecordingBeginsWhileTheLastFilesAreFinished)
     play(Microphone, 0.5F, 1);
     controller->startAndStopRecord();
     ASSERT_EQ(controller->jobsInQueue(), 1);
-    // Hot keys and other processes still reach a program that is ending.
+    // Hot keys and requests of other processes still reach a program that is ending.
     std::optional<bool> couldStart;
     QByteArray answer;
     Platform::MainQueue::post([&] {
@@ -520,7 +520,7 @@ TEST_F(RecordStateControllerTest, NoRecordingBeginsWhileTheLastFilesAreFinished)
     EXPECT_EQ(answer, "failed the program is ending");
     EXPECT_EQ(controller->recordState_(), 0) << "nothing is left that would be cut off";
     EXPECT_EQ(delegate.paths, QStringList{track(0)});
-    // A logout may be called off.
+    // A logout may be cancelled.
     expectControlsOfIdle();
     controller->startAndStopRecord();
     EXPECT_EQ(controller->recordState_(), 1);

@@ -55,7 +55,7 @@ TEST_F(ShortRecordingTest, OneShortSourceDropsTheWholeRecording) {
     controller->startAndStopRecord();
     EXPECT_EQ(controller->jobsInQueue(), 0);
     EXPECT_EQ(controller->droppedRecordings(), 1);
-    // The raw file of the source that was long enough stays until the next launch.
+    // The raw file of the source that was long enough is kept until the next launch.
     ASSERT_TRUE(waitFor([this] { return rawFiles().size() == 1; }));
     EXPECT_TRUE(rawFiles().front().startsWith(u"BuiltInA"_s));
     EXPECT_EQ(controller->getAudioRecordPath(), track(0));

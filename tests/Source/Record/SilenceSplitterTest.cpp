@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::uint64_t Millisecond = 1'000'000;
 
-/// A splitter that has heard the first sound, one millisecond after the epoch.
+/// A splitter that has received the first sound, one millisecond after the epoch.
 SilenceSplitter recordingSplitter() {
     SilenceSplitter splitter;
     splitter.arm();

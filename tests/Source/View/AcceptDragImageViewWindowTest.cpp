@@ -26,7 +26,7 @@ protected:
         EXPECT_TRUE(image.save(at(name), format));
         return at(name);
     }
-    /// As a drag of another program arrives.
+    /// Simulates a drop from another program.
     void drop(QMimeData& data) {
         QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
         QApplication::sendEvent(&well, &enter);

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The bar with a delegate that does what the window's controller does, and keeps what it was told.
+/// The bar with a delegate that behaves like the window's controller and records its calls.
 class TrimBar : public testing::Test, protected AudioTrimEditViewDelegate {
 protected:
     TrimBar() {
@@ -35,7 +35,7 @@ protected:
     void press(QPointF place) { QTest::mousePress(bar.windowHandle(), Qt::LeftButton, {}, place.toPoint()); }
     void move(double x) { QTest::mouseMove(bar.windowHandle(), QPoint(int(x), 10)); }
     void release(double x) { QTest::mouseRelease(bar.windowHandle(), Qt::LeftButton, {}, QPoint(int(x), 10)); }
-    /// The place at which the pointer means this rate.
+    /// The x position of the pointer that gives this rate.
     [[nodiscard]] double xOf(double rate) const { return 12 + 600 * rate; }
 
     AudioTrimEditView bar;

@@ -39,7 +39,7 @@ protected:
                                                     : QPoint(5, view.viewport()->height() - 5);
         const QPoint inWindow = view.viewport()->mapTo(view.window(), place);
         QTest::mouseClick(view.windowHandle(), Qt::RightButton, {}, inWindow);
-        // The offscreen platform makes no context event of a right click.
+        // The offscreen platform does not generate a context event from a right click.
         if (delegate.asked == 0) {
             QContextMenuEvent event(QContextMenuEvent::Mouse, place, view.viewport()->mapToGlobal(place));
             QCoreApplication::sendEvent(view.viewport(), &event);

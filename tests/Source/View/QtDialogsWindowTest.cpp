@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Does @p act with the dialog of type T as soon as there is one.
+// Calls @p act with the dialog of type T as soon as one is open.
 template <typename T>
 void whenShown(QObject* context, std::function<void(T*)> act) {
     auto* timer = new QTimer(context);
@@ -127,7 +127,7 @@ TEST_F(QtDialogs, FilesAndFoldersAreChosenTogether) {
             EXPECT_EQ(dialog->fileMode(), QFileDialog::ExistingFiles);
             auto* list = dialog->findChild<QAbstractItemView*>(u"listView"_s);
             list->setFocus();
-            // The rows come from a worker of the dialog's own.
+            // A worker of the dialog supplies the rows.
             EXPECT_TRUE(waitFor([&] { return list->model()->rowCount(list->rootIndex()) == 4; }));
             list->clearSelection();
             for (int row = 0; row < 4; ++row) {

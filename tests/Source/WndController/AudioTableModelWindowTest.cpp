@@ -34,7 +34,7 @@ protected:
         model.reload();
         return entry;
     }
-    /// A library with so many entries as a list of years would have, given to the library at once.
+    /// Adds a list of many entries to the library in one call.
     void fill(int count) {
         QVariantList many;
         many.reserve(count);
@@ -204,7 +204,7 @@ TEST_F(AudioTable, AFileThatIsGoneIsGreyWithABrokenLinkUntilItReturns) {
         return model.index(0, AudioTableModel::Title).data(AudioTableModel::MissingRole).toBool();
     };
     EXPECT_FALSE(gone());
-    // The first look starts the watch of the folder; what is removed from then on is noticed.
+    // The first query starts to watch the folder; removals after it are noticed.
     ASSERT_TRUE(QFile::remove(path));
     ASSERT_TRUE(waitFor([&] {
         missing.forget(path);

@@ -104,7 +104,7 @@ TEST_F(TrimWindow, ShowsTheTimesUnderTheirHandles) {
             EXPECT_LT(length.right(), end.left());
             EXPECT_LE(end.right(), size.width() - 16);
             EXPECT_GT(begin.top(), bar().mapTo(trim.window(), QPoint(0, bar().height() - 1)).y());
-            if (left == 0.25F) { // room enough: each in the middle under its handle
+            if (left == 0.25F) { // enough room: each is centred under its handle
                 EXPECT_NEAR(begin.center().x(), handle(bar().leftHandleRect()), 2);
                 EXPECT_NEAR(end.center().x(), handle(bar().rightHandleRect()), 2);
                 EXPECT_NEAR(length.center().x(), (begin.center().x() + end.center().x()) / 2, 2);
@@ -169,7 +169,7 @@ TEST_F(TrimWindow, LooksAgainExactlyAtTheEndOfAPreview) {
     trim.setRightTrim(0.5F);
     trim.previewEditAudio();
     playTo(49.99);     // 10 ms are left
-    sound().time = 50; // as it will be by then
+    sound().time = 50; // the value it will have by then
     EXPECT_TRUE(waitFor([&] { return trim.audioPlayControl()->isStop(); }));
 }
 

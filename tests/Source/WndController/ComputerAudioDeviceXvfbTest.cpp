@@ -31,7 +31,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The real window, the real driver and a real sound server; only the folder is one of the test.
+// The real window, the real driver and a real sound server; only the installation folder is the test's.
 class InstallingTheDevice : public testing::Test {
 protected:
     InstallingTheDevice() : session(PrivateAudioSession::shared()), hardware(Platform::createAudioHardware()) {
@@ -108,7 +108,7 @@ TEST_F(InstallingTheDevice, KeepsTheWindowAliveAndShowsThatItWorks) {
     QObject::connect(&look, &QTimer::timeout, &look, [&] {
         if (!waiting)
             return;
-        // The password prompt stands; this timer ticks, and a second installation is refused.
+        // The password prompt is open; this timer runs, and a second installation is refused.
         seen =
             find<QProgressBar>("deviceProgress")->isVisible() && !find<QPushButton>("insertDeviceButton")->isEnabled();
         controller->insertTheSystemAudioRecordDevice();

@@ -24,7 +24,7 @@ using RealPointer::shown;
 
 namespace {
 
-/// The editing windows under a real window manager, with the pointer and the keyboard of an X server.
+/// The editing windows under a real window manager, with the X server's pointer and keyboard.
 class RealDrags : public testing::Test {
 protected:
     RealDrags() { Theme::install(*qApp, nullptr); }
@@ -120,7 +120,7 @@ TEST_F(TrimWindowOnADesktop, PreviewIsHeardFromTheLeftEndToTheRightEnd) {
     constexpr int rate = 48000;
     FakeSourceFiles files;
     const QString path = world.at(u"ramp.wav"_s);
-    auto& source = files.addSource(path, 0, [](int, std::int64_t frame) { // a sample tells its own time
+    auto& source = files.addSource(path, 0, [](int, std::int64_t frame) { // each sample encodes its own time
         return float(double(frame) / (seconds * rate));
     });
     source.rate = rate;
@@ -154,7 +154,7 @@ TEST_F(TrimWindowOnADesktop, PreviewIsHeardFromTheLeftEndToTheRightEnd) {
             first = double(sample) * seconds;
         last = double(sample) * seconds;
     }
-    // A busy machine may lose the first cycle, of 1024 frames or fewer.
+    // A busy machine may lose the first cycle, of at most 1024 frames.
     EXPECT_GE(first, 25 - 0.001);
     EXPECT_LT(first, 25.1);
     EXPECT_GT(last, 49.8);

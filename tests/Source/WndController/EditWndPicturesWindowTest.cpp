@@ -18,8 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What people see of the editing windows in each state. With SONAPHEX_SCREENSHOTS set to a folder the pictures are
-/// kept there.
+/// The editing windows in each state. When SONAPHEX_SCREENSHOTS names a folder, the pictures are saved there.
 class EditPictures : public testing::Test {
 protected:
     EditPictures() { Theme::install(*qApp, nullptr); }
@@ -28,7 +27,7 @@ protected:
     static void take(QWidget& window, const QString& name) {
         for (const auto shade : {Theme::Shade::Light, Theme::Shade::Dark}) {
             Theme::apply(shade);
-            QCoreApplication::processEvents(); // the palette reaches the windows by an event
+            QCoreApplication::processEvents(); // an event carries the palette to the windows
             const QString full = name + (shade == Theme::Shade::Dark ? u"-dark"_s : u"-light"_s);
             const QImage image = Screenshot::take(window, full, 2);
             EXPECT_GT(Screenshot::coverage(image, image.pixel(4, 4)), 0.02);
@@ -69,7 +68,7 @@ TEST_F(EditPictures, TheTrimWindow) {
     ToolControl::showWindowNib(trim);
     auto& bar = *trim.window()->findChild<AudioTrimEditView*>();
     ASSERT_TRUE(waitFor([&] { return !bar.outline().isEmpty(); }));
-    bar.setOutline(speech(7540)); // stands for the file's tone, which is loaded now and comes no more
+    bar.setOutline(speech(7540)); // replaces the file's real outline, which is loaded already
     take(*trim.window(), u"trim-opened"_s);
     trim.setLeftTrim(0.22F);
     trim.setRightTrim(0.71F);
@@ -78,7 +77,7 @@ TEST_F(EditPictures, TheTrimWindow) {
     bar.setFocus();
     trim.audioPlayTrimAudioUpdateTimer();
     take(*trim.window(), u"trim-playing"_s);
-    // A handle that is dragged shows its time.
+    // A handle shows its time while it is dragged.
     const QPoint place = bar.leftHandleRect().center().toPoint();
     QTest::mousePress(&bar, Qt::LeftButton, {}, place);
     QTest::mouseMove(&bar, place + QPoint(60, 0));

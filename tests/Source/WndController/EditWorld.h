@@ -15,8 +15,8 @@
 #include <QDir>
 #include <QTest>
 
-/// What an editing window works on: real files and their real encoders, a player that notes what it is told, scripted
-/// alerts and panels, and a delegate that keeps what it is told.
+/// The environment of an editing window: real files and their real encoders, a player that records its calls, scripted
+/// alerts and panels, and a delegate that records its calls.
 struct EditWorld : LibraryWorld, RecordingEditDelegate {
     EditWorld() : tmpBefore(g_strTmpPath), media(Platform::createMediaFiles()) {
         auto& services = Platform::services();
@@ -38,7 +38,7 @@ struct EditWorld : LibraryWorld, RecordingEditDelegate {
         made.insert(AudioRecordEntry::Genre, QStringLiteral("NO General"));
         return made;
     }
-    /// Files that stand beside the recordings.
+    /// Files beside the recordings.
     [[nodiscard]] QStringList files() const {
         return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
     }

@@ -210,7 +210,7 @@ TEST_F(Presenter, AMissingOrBrokenFileIsLetGo) {
     select({0});
     presenter.playSoundButtonAction();
     EXPECT_EQ(display.title(), u"Three"_s);
-    // Deleted by someone else, after a recording has stopped it.
+    // Deleted by another owner, after playback was stopped.
     presenter.stopSoundPlaying();
     ASSERT_TRUE(QFile::remove(display.playSound()->path()));
     QSignalSpy problem(&presenter, &LibraryPresenter::problem);

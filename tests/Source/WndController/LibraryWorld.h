@@ -28,7 +28,7 @@ struct LibraryWorld {
         sounds.otherLength = 0;
     }
 
-    /// A file that exists, without any audio in it.
+    /// An existing file without audio.
     QString file(const QString& name) const {
         QFile made(folder.filePath(name));
         (void)made.open(QIODevice::WriteOnly);
@@ -43,7 +43,7 @@ struct LibraryWorld {
                 {AudioRecordEntry::AddDate, QStringLiteral("2026/11/21")},
                 {AudioRecordEntry::Length, seconds}};
     }
-    /// An entry with a file of its own, named like its title.
+    /// An entry with its own file, named after its title.
     Dictionary made(const QString& title, double seconds = 1, const QString& ending = QStringLiteral("m4a")) const {
         return entry(title, title, file(title + u'.' + ending), seconds);
     }

@@ -143,7 +143,7 @@ TEST_F(MainWindow, ARecordingThatIsFinishedLateLeavesWhatTheUserSelectedMeanwhil
     Q_EMIT world.record->recordingFinished(path, entry);
     EXPECT_EQ(controllerSelection(), 2) << "a Delete means these two";
     EXPECT_EQ(status(), path);
-    controller.updateRecordStateAction(); // a stop: nothing was selected since
+    controller.updateRecordStateAction(); // stopped: nothing was selected since
     Q_EMIT world.record->recordingFinished(path, entry);
     EXPECT_EQ(controllerSelection(), 1);
     EXPECT_EQ(controller.library().tableViewSelectionAudioPath(), path);
@@ -501,7 +501,7 @@ TEST_F(MainWindow, TheConvertingNoticeDoesNotFlashAtAStopOfOneSource) {
 
 TEST_F(MainWindow, TheConvertingNoticeStaysForWorkThatLasts) {
     FakeRecordingFiles files;
-    files.holdMix = true; // two sources: their mix takes its time
+    files.holdMix = true; // two sources: mixing takes a while
     Platform::services().mediaFiles = &files;
     PreferenceStore::setPreferenceValue(true, PreferenceStore::ChooseRecordComputerAudio);
     MainWndController& controller = world.open();
@@ -530,7 +530,7 @@ TEST_F(MainWindow, AHeadingShowsAndHidesItsGroup) {
     EXPECT_EQ(world.controller->library().libraryViewSelectedNode()->key(), u"new-record"_s);
     click(heading);
     EXPECT_TRUE(outline.isExpanded(group));
-    // A press that is let go elsewhere means nothing.
+    // A press that is released elsewhere has no effect.
     QTest::mousePress(world.controller->window()->windowHandle(), Qt::LeftButton, {}, heading);
     QTest::mouseRelease(world.controller->window()->windowHandle(), Qt::LeftButton, {}, heading + QPoint(0, 100));
     EXPECT_TRUE(outline.isExpanded(group));

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What people see in each state. With SONAPHEX_SCREENSHOTS set to a folder the pictures are kept there.
+/// The main window in each state. When SONAPHEX_SCREENSHOTS names a folder, the pictures are saved there.
 class Pictures : public testing::Test {
 protected:
     Pictures() { Theme::install(*qApp, nullptr); }
@@ -52,7 +52,7 @@ protected:
             world.controller->display().audioRecordWaveView()->addCurrentLevel(
                 static_cast<float>(0.15 + 0.55 * std::abs(std::sin(i * 0.045)) * std::abs(std::sin(i * 0.61))));
     }
-    /// Whether all rows show which files are gone: the look at the disk is a worker's.
+    /// Whether all rows know if their file exists: a worker looks at the disk.
     [[nodiscard]] bool filesAreKnown() const {
         const auto& model = world.controller->library().tableModel();
         for (int row = 0; row < model.rowCount(); ++row) {
@@ -63,7 +63,7 @@ protected:
         }
         return true;
     }
-    /// Takes the picture in both shades; the window must have something to show.
+    /// Takes the picture in both themes; the window must not be empty.
     void take(const QString& name, qreal ratio = 1) {
         for (const auto shade : {Theme::Shade::Light, Theme::Shade::Dark}) {
             Theme::apply(shade);

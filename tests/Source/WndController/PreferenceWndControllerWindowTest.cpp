@@ -34,7 +34,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The device as the test wants it.
+// A device that the test controls.
 struct ScriptedDevice {
     bool exists = false;
     bool works = true;
@@ -69,7 +69,7 @@ struct ScriptedDevice {
     }
 };
 
-// root may write anywhere; for its life, this process may not.
+// Drops root's right to write anywhere while it lives.
 class NoPrivileges {
 public:
     NoPrivileges() {

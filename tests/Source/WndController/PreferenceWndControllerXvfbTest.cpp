@@ -28,8 +28,7 @@ constexpr std::uint8_t xKeyG = 34 + 8;
 constexpr std::uint16_t superMask = 64;
 const auto startStopKey = u"PreferenceStartStopShortcutKey"_s;
 
-// Real keys, real grabs, a real settings file; of the program, the preferences window and what stands behind its
-// fields.
+// Real keys, real grabs, a real settings file, with only the preferences window and the objects behind its fields.
 class RealKeys : public testing::Test {
 protected:
     RealKeys() {
@@ -47,7 +46,7 @@ protected:
         defaults.reset();
         qunsetenv("XDG_CONFIG_HOME");
     }
-    // As a new start of the program: everything comes from the settings file.
+    // Simulates a new start of the program: everything is read from the settings file.
     void launch() {
         controller.reset();
         defaults.reset();
@@ -68,8 +67,7 @@ protected:
     void keys(const QStringList& arguments) { EXPECT_TRUE(XvfbSession::current()->xdotool(arguments)); }
     void type(const QString& combination) { keys({u"key"_s, combination}); }
     void click(QWidget* widget) {
-        // The window manager may still be moving the window to its place: the field itself tells when the pointer is on
-        // it.
+        // The window manager may still be moving the window: the field itself reports when the pointer is on it.
         EXPECT_TRUE(waitFor([&] {
             const QPoint at = widget->mapToGlobal(widget->rect().center());
             keys({u"mousemove"_s, QString::number(at.x()), QString::number(at.y())});
@@ -77,11 +75,11 @@ protected:
         }));
         keys({u"click"_s, u"1"_s});
         EXPECT_TRUE(waitFor([&] { return widget->hasFocus(); }));
-        // The keyboard is grabbed by a request that must have reached the server before the next key.
+        // The keyboard is grabbed by a request, which must reach the server before the next key.
         QCoreApplication::processEvents();
         settle();
     }
-    // A round trip through the server, for what was sent to it.
+    // A round trip to the server, so that it has handled the earlier requests.
     static void settle() { static_cast<void>(XvfbSession::current()->xdotoolOutput({u"getmouselocation"_s})); }
     bool acts(const QString& combination, const QString& what) {
         acted.clear();

@@ -13,8 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The main window with the ringtone maker and the short-recording filter behind its commands, as the program binds
-/// them: a library of two recordings and a ringtone.
+/// The main window with the ringtone maker and the short-recording filter behind its commands, connected as in the
+/// program: a library of two recordings and a ringtone.
 class WindowOpeners : public testing::Test {
 protected:
     using Window = WindowCommands::Window;
@@ -59,10 +59,10 @@ protected:
     }
     [[nodiscard]] QString ringtone() const { return offered(Window::RingtoneMaker, "btnRingtone_"); }
     [[nodiscard]] QString filter() const { return offered(Window::Filter, "btnFilter_"); }
-    /// Does @p open; answers the title of the modal window that came up, after closing it with Escape.
+    /// Calls @p open, closes the modal window that opens with Escape, and returns its title.
     [[nodiscard]] QString modalWindowAfter(const std::function<void()>& open) const {
         QMainWindow& window = *world.controller->window();
-        window.activateWindow(); // shortcuts are taken by the active window only
+        window.activateWindow(); // only the active window takes shortcuts
         EXPECT_TRUE(waitFor([&] { return window.isActiveWindow(); }));
         QString title;
         QTimer look;

@@ -17,7 +17,7 @@
 
 #include <QTest>
 
-/// The main window over real engines on devices that the test plays.
+/// The main window with real engines on test devices.
 struct WindowWorld : LibraryWorld {
     static constexpr AudioObjectID kMicrophone = 10;
     static constexpr AudioObjectID kComputer = 20;
@@ -36,7 +36,7 @@ struct WindowWorld : LibraryWorld {
         PreferenceStore::setPreferenceValue(0, PreferenceStore::PreferenceFilterKey);
         library = std::make_unique<MediaLibrary>();
     }
-    /// Builds recorder and window over what the world holds by then, and shows the window.
+    /// Creates recorder and window with the current doubles, and shows the window.
     MainWndController& open(QSize size = {900, 600}) {
         record = std::make_unique<RecordStateController>();
         record->awakeFromNib();
@@ -50,7 +50,7 @@ struct WindowWorld : LibraryWorld {
     [[nodiscard]] W& outlet(const char* name) const {
         return *controller->window()->findChild<W*>(QString::fromLatin1(name));
     }
-    /// A real click of the mouse in the middle of a widget.
+    /// A real mouse click in the middle of a widget.
     void click(const char* name, Qt::MouseButton button = Qt::LeftButton) const {
         QWidget& widget = outlet(name);
         QTest::mouseClick(widget.window()->windowHandle(), button, {},
