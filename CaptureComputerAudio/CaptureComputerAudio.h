@@ -4,22 +4,23 @@
 
 #include <QString>
 
-/// The switch to and from capturing what the computer plays. Main thread.
+/// Controls whether the capture driver carries the computer's audio. Main thread.
 namespace CaptureComputerAudio {
 
-/// The name of the device that carries what the computer plays.
+/// The name of the device that carries the computer's audio.
 inline const QString kDeviceName = QStringLiteral("Korvane System Audio");
 /// The registry class of the capture driver's engine.
 inline const QString kEngineClass = QStringLiteral("com_Korvane_driver_CaptureEngine");
-/// The engine's property that names the output to take: its registry path. The key itself as value takes nothing.
+/// The engine's property that selects the output to capture, by its registry path. The key itself as value selects no
+/// output.
 inline const QString kCaptureDriverPathKey = QStringLiteral("kCaptureDriverPathKey");
 
-/// Tells the capture driver to take what the default output plays. Nothing happens when there is no driver. Repeated
-/// by those who record whenever the default output changes.
+/// Makes the capture driver capture the default output. Does nothing without a driver. The recorder calls it again
+/// whenever the default output changes.
 void startCaptureComputerAudio();
-/// Tells it to take nothing: the device stays and is silent.
+/// Makes the driver capture nothing: the device remains and is silent.
 void stopCaptureComputerAudio();
-/// Whether the default output hangs on USB.
+/// Whether the default output is a USB device.
 [[nodiscard]] bool captureComputerAudioIsUSBDevice();
 
 } // namespace CaptureComputerAudio

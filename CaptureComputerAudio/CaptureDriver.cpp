@@ -19,7 +19,7 @@ namespace CaptureDriver {
 
 namespace {
 
-/// The engine's property that ends the driver: asked for by name, no process can be hit by mistake.
+/// The engine's property that ends the driver. It addresses the node, so it cannot end another process by mistake.
 const auto kQuitKey = u"korvane.driver.quit"_s;
 
 template <typename Condition>
@@ -87,7 +87,7 @@ bool load(const QString& bundlePath, QString& why, int patienceMs) {
 }
 
 bool unload(int patienceMs) {
-    // A value that was never said before: the server tells of changes only.
+    // A value that was never used before: the server only reports changes.
     const auto now = QDateTime::currentMSecsSinceEpoch();
     for (auto& engine : IOService::getServicesByClassName(CaptureComputerAudio::kEngineClass))
         engine.setProperty(now, kQuitKey);

@@ -22,12 +22,12 @@ namespace {
 
 const auto kBundleName = u"ComputerAudioCapture.kext"_s;
 QString extensionsFolder = u"/usr/local/lib/com.korvane.Sonaphex/Extensions"_s;
-/// How long a launch may be held up; a device that comes later is found when it comes.
+/// How long a launch may be delayed; a device that appears later is announced then.
 constexpr int kLaunchPatienceMs = 1000;
 QString whyFailed;
 bool busy = false;
 
-/// Busy for as long as it lives.
+/// Marks the module as busy while it lives.
 class Turn {
 public:
     Turn() { busy = true; }
@@ -36,7 +36,7 @@ public:
     Turn& operator=(const Turn&) = delete;
 };
 
-/// One word of a shell's command line, whatever its characters.
+/// Quotes a word for a shell command line, whatever characters it contains.
 QString quoted(QString word) {
     return u'\'' + word.replace(u'\'', u"'\\''"_s) + u'\'';
 }
@@ -47,7 +47,8 @@ bool refused() {
     return busy;
 }
 
-/// Runs the command on a worker, because a password prompt may stand for minutes, and turns the event loop meanwhile.
+/// Runs the command on a worker, because a password prompt may stay open for minutes, and runs the event loop
+/// meanwhile.
 bool runWithAdmin(const QString& command) {
     auto* shell = Platform::services().adminShell;
     if (!shell) {
@@ -61,15 +62,15 @@ bool runWithAdmin(const QString& command) {
     QObject::connect(worker.get(), &QThread::finished, &loop, &QEventLoop::quit);
     worker->start();
     loop.exec();
-    // The program may be ending while the prompt stands: nobody will answer it any more.
+    // The program may be ending while the prompt is open: then nobody will answer it.
     worker->requestInterruption();
     worker->wait();
     whyFailed = problem.value_or(QString());
     return !problem;
 }
 
-/// A prompt that was cancelled must not cost the user the device that he had: what ran before, and is installed still,
-/// runs again.
+/// A cancelled prompt must not cost the user the device: a driver that ran before and is still installed is started
+/// again.
 class RunsOn {
 public:
     RunsOn() = default;
@@ -85,16 +86,16 @@ private:
     const bool ran_ = CaptureDriver::isLoaded();
 };
 
-/// Copies the new bundle beside the installed one and puts it in its place. Whatever fails, one of them lies there
-/// whole: a full disk leaves no half driver that the next launch would load. Every user must be able to run it, also
-/// when the administrator's umask says otherwise.
+/// Copies the new bundle beside the installed one and swaps them. If a step fails, one complete bundle remains: a full
+/// disk must not leave an incomplete driver for the next launch. All users must be able to run it, whatever the
+/// administrator's umask.
 QString replaceCommand(const QString& source) {
     const auto bundle = installedBundlePath();
     const auto fresh = bundle + u".part"_s;
     const auto old = bundle + u".old"_s;
     const auto folder = QFileInfo(bundle).path();
     return u"umask 022; "
-           // An earlier replacement may have been cut off between its two moves.
+           // An earlier replacement may have been interrupted between its two moves.
            u"[ -e %1 ] || [ ! -e %3 ] || mv -T %3 %1; "
            u"mkdir -p %5 && chmod go+rx %6 %5 && rm -rf %2 %3 && cp -R %4 %2 && chmod -R u=rwX,go=rX %2 && "
            u"{ [ ! -e %1 ] || mv -T %1 %3; } && "
@@ -138,8 +139,8 @@ bool install() {
     whyFailed.clear();
     const Turn turn;
     const RunsOn runsOn;
-    // Everything that can be known without rights comes first, and the driver that is there runs until the new one lies
-    // in its place.
+    // Everything that can be checked without rights is checked first, and the old driver runs until the new one is in
+    // place.
     const auto source = resourceBundlePath();
     if (!QFileInfo(CaptureDriver::programIn(source)).isExecutable()) {
         whyFailed = u"%1: the driver is missing from the program's resources"_s.arg(source);

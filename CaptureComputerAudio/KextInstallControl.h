@@ -5,31 +5,31 @@
 #include <QString>
 
 /// Installs and removes the capture driver for the whole system. Main thread. Blocks its caller until the
-/// administrator's part is done, while a local event loop keeps windows alive.
+/// administrator's part is done; a local event loop keeps the windows responsive.
 namespace KextInstallControl {
 
-/// Whether the driver's bundle lies in the system's folder.
+/// Whether the driver's bundle is in the system's folder.
 [[nodiscard]] bool isExist();
-/// True when no bundle is left; without one at once, and nobody is asked for a password.
+/// True when no bundle is left. When none is installed, it returns at once without a password prompt.
 [[nodiscard]] bool uninstall();
-/// Puts the bundle of the program's resources in the place of what is installed, and loads its driver. Asks for one
-/// password. Whatever fails, a driver that was installed is installed still, and runs again if it ran.
+/// Replaces the installed bundle with the one from the program's resources and starts its driver. Asks for one
+/// password. On any failure a driver that was installed remains installed, and is started again if it was running.
 [[nodiscard]] bool install();
-/// Why the last of them failed, in one line; empty when it did not.
+/// Why the last install() or uninstall() failed, in one line; empty when it succeeded.
 [[nodiscard]] QString lastError();
-/// Whether an installation or removal is under way; a second one is refused.
+/// Whether an installation or removal is running; a second one is refused.
 [[nodiscard]] bool isBusy();
 
-/// Loads the installed driver when its device is missing, as at every launch before the devices are listed. Waits at
-/// most a second for the device; one that comes later is announced as any other. True when the device is there.
+/// Starts the installed driver when its device is missing, as at every launch before the devices are listed. Waits at
+/// most a second for the device; one that appears later is announced like any other. True when the device exists.
 bool loadIfInstalled();
 
-/// "ComputerAudioCapture.kext", with the folder it is installed into.
+/// The path of the installed "ComputerAudioCapture.kext".
 [[nodiscard]] QString installedBundlePath();
-/// "ComputerAudioCapture.kext" among the program's resources.
+/// The path of "ComputerAudioCapture.kext" among the program's resources.
 [[nodiscard]] QString resourceBundlePath();
 
-/// Puts another folder in the place of the system's for as long as it lives, for tests.
+/// Replaces the system's folder with another one while it lives, for tests.
 class ExtensionsFolderScope {
 public:
     explicit ExtensionsFolderScope(const QString& folder);

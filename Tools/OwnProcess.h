@@ -8,9 +8,9 @@
 #include <dirent.h>
 #include <unistd.h>
 
-/// For programs that outlive the one that started them, at the very beginning of main(), with one thread only. Closes
-/// every descriptor but the three standard ones, because a lock or a socket of the caller would stay with us. Gives
-/// all signals their default action and unblocks them, and leaves the caller's terminal and session.
+/// For programs that outlive the program that started them. Call it at the start of main(), with one thread only.
+/// Closes every descriptor except the three standard ones, because an inherited lock or socket of the caller would stay
+/// open. Resets all signals to their default action, unblocks them, and leaves the caller's terminal and session.
 inline void becomeAProcessOfItsOwn() {
     if (DIR* folder = opendir("/proc/self/fd")) {
         const int own = dirfd(folder);

@@ -51,7 +51,7 @@ std::unique_ptr<Platform::ExtAudioFileWriter> record(const QString& path, double
         (void)writer->writeAsync(Block, list);
     }
     BuildInAudioRecord::destroyAudioBufferList(list);
-    // A stop finds the writer's thread idle, as sound comes no faster than it is heard.
+    // In real use the writer's thread is idle at the stop, because audio arrives in real time.
     QThread::sleep(5);
     return writer;
 }

@@ -18,9 +18,9 @@
 
 namespace {
 
-constexpr int kGrid = 8; ///< every so many points of the screen one is looked at
+constexpr int kGrid = 8; ///< every n-th point of the screen is examined
 
-/// A window is painted when an area of its size is no longer black and holds more than a flat colour.
+/// A window counts as painted when an area of its size is no longer black and has more than one colour.
 bool isPainted(const QImage& screen) {
     QSet<QRgb> colours;
     int lit = 0;
@@ -78,14 +78,15 @@ int main(int argc, char** argv) {
             std::fprintf(stderr, "%s painted no window\n", qUtf8Printable(arguments.first()));
             return 1;
         }
-        // Looking costs the X server and a core as much as painting does: more often would measure the looking.
+        // A screenshot costs the X server and a core as much as painting does: a shorter interval would falsify the
+        // result.
         QThread::msleep(10);
-        QCoreApplication::processEvents(); // tells when the program ends
+        QCoreApplication::processEvents(); // delivers the end of the program
     }
     const double painted = static_cast<double>(timer.nsecsElapsed()) / 1e6;
     double percent = 0;
     if (idle > 0) {
-        QThread::sleep(3); // what follows a start is no idling
+        QThread::sleep(3); // work that follows the start does not count as idle
         const double before = processorSeconds(program.processId());
         QThread::sleep(static_cast<unsigned long>(idle));
         percent = 100 * (processorSeconds(program.processId()) - before) / idle;

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Belongs to every program that the thread sanitizer watches, and to no other.
+// Linked into every program that is built with ThreadSanitizer, and no other.
 //
-// QProcess starts programs by clone() with memory shared until exec, as vfork() does. GCC 12's thread sanitizer takes
-// every clone() for a fork: the child puts the state of "its" thread in order, and where memory is shared the parent
-// does so once more. The thread that started a program is not watched from then on: its locks are not seen, so that
-// whatever they guard is reported as a race, true races of it are not, and signals that it raises never arrive. A child
-// with memory of its own leaves the parent's state alone; the sanitizer itself turns vfork() into fork() for the same
+// QProcess starts programs by clone() with shared memory until exec, like vfork(). GCC 12's ThreadSanitizer treats
+// every clone() as a fork: the child resets the state of "its" thread, and because the memory is shared, the parent's
+// state is reset twice. From then on the thread that started a program is not tracked: its locks are not seen, so data
+// that they guard is reported as a race, real races are missed, and signals that it raises are not delivered. Giving
+// the child its own memory leaves the parent's state alone; the sanitizer itself turns vfork() into fork() for the same
 // reason.
 #ifndef __SANITIZE_THREAD__
 #error "this is of use only beside the thread sanitizer"

@@ -1,17 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Keeps a private sound server running for one program and takes it down with that program, however it ends.
+// Keeps a private sound server running for one program and stops it when that program ends, for whatever reason.
 //
 //   AudioSessionKeeper <owner pid> <folder to make the runtime folder in> <folder of the configuration>
 //                      <pipewire> <wireplumber> [<program to run in the session>...]
 //
-// Standard input is the owner's line: its end means the owner let go; 's' takes the server down, 'r' runs it again.
-// On standard output it says "ready <runtime folder>" once the server listens, or "failed <reason>".
+// The owner controls it through standard input: end of file ends the session, 's' stops the server, 'r' starts it
+// again. On standard output it prints "ready <runtime folder>" once the server listens, or "failed <reason>".
 //
-// It is a process of its own because the parent-death signal follows the *thread* that started a child: here there is
-// one thread only. The owner is watched through its process descriptor, so that even a killed owner leaves nothing
-// behind.
+// It is a separate process because the parent-death signal follows the *thread* that started a child: here there is
+// only one thread. The owner is watched through its process descriptor, so that nothing is left even when the owner is
+// killed.
 
 #include "Tools/OwnProcess.h"
 
@@ -53,7 +53,7 @@ void removeFolder(const std::string& folder) {
         FTW_DEPTH | FTW_PHYS | FTW_MOUNT);
 }
 
-/// Removes what keepers left that were killed themselves: a living one holds the lock of its folder.
+/// Removes the folders of keepers that were killed: a running keeper holds the lock of its folder.
 void removeDeserted(const std::string& base) {
     DIR* folder = opendir(base.c_str());
     if (!folder)
@@ -104,10 +104,10 @@ public:
         sigprocmask(SIG_BLOCK, &watched, &inherited_);
         const int signals = signalfd(-1, &watched, SFD_CLOEXEC | SFD_NONBLOCK);
         const int owner = int(syscall(SYS_pidfd_open, owner_, 0));
-        // The owner may have ended before its descriptor was open; its number may even be another's by now.
+        // The owner may have ended before its descriptor was opened; its pid may already be reused.
         if (owner < 0 || getppid() != owner_)
             return 1;
-        // What a child starts comes to us when the child ends.
+        // Processes that a child starts become ours when the child ends.
         prctl(PR_SET_CHILD_SUBREAPER, 1);
 
         if (!makeFolder())
@@ -145,7 +145,8 @@ public:
                 if (info.ssi_signo != SIGCHLD)
                     ending = true;
             }
-            // A session manager without its server hangs, and a server without it links nothing: both start anew.
+            // A session manager hangs without its server, and a server links nothing without a session manager: restart
+            // both.
             if (reap() && wanted && !ending && !restart())
                 break;
         }
@@ -158,7 +159,7 @@ private:
     static void say(const std::string& line) {
         const std::string whole = line + '\n';
         if (write(STDOUT_FILENO, whole.data(), whole.size()) < 0)
-            return; // the owner does not listen any more; its end is noticed elsewhere
+            return; // the owner does not read any more; its end is detected elsewhere
     }
 
     static int failed(const std::string& reason) {
@@ -168,7 +169,7 @@ private:
 
     bool makeFolder() {
         removeDeserted(base_);
-        // Another keeper may take the new folder for a deserted one until its lock is held.
+        // Until its lock is held, another keeper may consider the new folder abandoned.
         for (int attempt = 0; attempt < 100; ++attempt) {
             folder_ = base_ + '/' + folderPrefix + "XXXXXX";
             if (!mkdtemp(folder_.data()))
@@ -179,7 +180,7 @@ private:
         return false;
     }
 
-    /// False when another keeper holds the lock, or has removed the folder before we held it.
+    /// False when another keeper holds the lock, or removed the folder before the lock was taken.
     bool lockFolder() {
         const std::string path = folder_ + "/lock";
         lock_ = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
@@ -264,7 +265,7 @@ private:
         }
     }
 
-    /// Takes note of children that ended. True when the server or its manager is among them.
+    /// Collects children that ended. True when the server or its manager is among them.
     bool reap() {
         bool serverEnded = false;
         for (pid_t child; (child = waitpid(-1, nullptr, WNOHANG)) > 0;) {
@@ -274,7 +275,7 @@ private:
         return serverEnded;
     }
 
-    /// A server that falls again and again within a second is given up.
+    /// Gives up on a server that crashes repeatedly within a second.
     bool restart() {
         failures_ = SteadyClock::now() - started_ < Milliseconds(1000) ? failures_ + 1 : 0;
         stopServer();
@@ -284,7 +285,7 @@ private:
     pid_t owner_;
     std::string base_;
     std::string configuration_;
-    std::vector<std::string> programs_; ///< the server, its manager, then what runs beside them
+    std::vector<std::string> programs_; ///< the server, its manager, then the further programs
     std::string folder_;
     int lock_ = -1;
     sigset_t inherited_ = {};
@@ -301,7 +302,7 @@ int main(int argc, char** argv) {
         fprintf(stderr, "usage: AudioSessionKeeper OWNER BASE CONFIGURATION PIPEWIRE WIREPLUMBER [PROGRAM...]\n");
         return 2;
     }
-    // Also out of the terminal's job: Ctrl-C is for the recorder, which still has a file to finish.
+    // It also leaves the terminal's job: Ctrl-C is meant for the recorder, which must finish its file.
     becomeAProcessOfItsOwn();
     std::vector<std::string> programs(argv + 4, argv + argc);
     return Keeper(pid_t(atol(argv[1])), argv[2], argv[3], std::move(programs)).run();

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The computer-audio driver's program. It ends with the sound server, and when its engine is told to quit.
+// The computer-audio driver's program. It ends with the sound server, or when its engine gets the quit property.
 #include "Tools/CaptureDriver/Driver.h"
 #include "Tools/OwnProcess.h"
 
@@ -20,7 +20,7 @@ int main(int argc, char** argv) {
     if (!driver.start(configuration))
         return 1;
     if (argc > 1 && std::strcmp(argv[1], "--check") == 0)
-        return 0; // it could run; nothing was made
+        return 0; // check only: it can run, and nothing was created
     driver.run();
     return 0;
 }

@@ -23,7 +23,7 @@ std::uint32_t number(const spa_dict* properties, const char* key) {
     return std::uint32_t(atoi(text(properties, key).c_str()));
 }
 
-/// The "name" of {"name":"..."}.
+/// The value of "name" in {"name":"..."}.
 std::string nameIn(const char* json) {
     spa_json it[2];
     spa_json_init(&it[0], json, strlen(json));
@@ -60,12 +60,12 @@ bool Driver::start(const std::string& configuration) {
         return false;
     }
     pw_properties_set(properties_.get(), "factory.name", "support.null-audio-sink");
-    // The node goes when this process does.
+    // The server removes the node when this process ends.
     pw_properties_set(properties_.get(), "object.linger", "false");
 
     loop_.reset(pw_main_loop_new(nullptr));
     auto* loop = pw_main_loop_get_loop(loop_.get());
-    // The mixer needs a real-time data thread; the ordinary client configuration gives none.
+    // The mixer needs a real-time data thread, which the default client configuration does not provide.
     context_.reset(pw_context_new(loop, pw_properties_new(PW_KEY_CONFIG_NAME, "client-rt.conf", nullptr), 0));
     if (context_)
         core_.reset(pw_context_connect(context_.get(), nullptr, 0));
@@ -174,19 +174,19 @@ void Driver::bindMetadata(std::uint32_t id) {
 
 void Driver::onGlobalRemoved(std::uint32_t id) {
     if (id == metadataId_) {
-        // The session manager restarts; until it is back what we know stays true.
+        // The session manager restarts; until it is back, keep the last values.
         metadataListener_.remove();
         metadata_.reset();
         metadataId_ = SPA_ID_INVALID;
     }
-    // The number may become another port's, which was refused nothing.
+    // The id may be reused by another port, for which no link was refused.
     std::erase_if(refused_, [id](const auto& each) { return each.first.first == id || each.first.second == id; });
     if (nodes_.erase(id) + ports_.erase(id) + serverLinks_.erase(id) > 0)
         lookAgain();
 }
 
-/// Takes back what was said to this node: its number will be another's. What the number's former owner was told came
-/// before our node was made and is not listened to.
+/// Removes the metadata of this node: its id will be reused. Metadata of the id's previous owner was set before our
+/// node was created and is ignored.
 void Driver::leave() {
     leaving_ = true;
     if (metadata_ && ownId_ != SPA_ID_INVALID)
@@ -214,7 +214,7 @@ void Driver::onMetadata(std::uint32_t subject, const char* key, const char* valu
     if (subject == PW_ID_CORE && key && strcmp(key, "default.audio.sink") == 0) {
         defaultOutput_ = value ? nameIn(value) : "";
     } else if (key && (strcmp(key, kPathKey) == 0 || strcmp(key, kQuitKey) == 0)) {
-        // Until our node is made, all that is said is said to others, under a number that may become ours.
+        // Before our node is created, all metadata belongs to other nodes, whose id may become ours.
         if (!created_)
             stale_[{subject, key}] = value ? value : "";
         else if (subject == ownId_)

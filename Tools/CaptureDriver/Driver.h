@@ -14,12 +14,12 @@
 #include <utility>
 #include <vector>
 
-/// The computer-audio driver: makes a source in the sound server and feeds it from the monitor of an output, the
-/// default one until it is told another. Everything happens on the one thread of the main loop. Members are destroyed
-/// from the bottom up.
+/// The computer-audio driver: creates a source in the sound server and feeds it from the monitor of an output, the
+/// default one unless another is selected. Everything runs on the one thread of the main loop. Members are destroyed in
+/// reverse order.
 class Driver {
 public:
-    /// The metadata of our node that names the output to take; also the value that takes nothing.
+    /// The metadata key of our node that selects the output; as a value it selects no output.
     static constexpr char kPathKey[] = "kCaptureDriverPathKey";
 
     Driver() = default;
@@ -27,9 +27,9 @@ public:
     Driver(const Driver&) = delete;
     Driver& operator=(const Driver&) = delete;
 
-    /// @p configuration holds the properties of the node. Connects to the server; false without one.
+    /// @p configuration holds the properties of the node. Connects to the server; false when there is none.
     bool start(const std::string& configuration);
-    /// Runs until the server ends or the driver is told to quit.
+    /// Runs until the server ends or the driver gets the quit property.
     void run() { pw_main_loop_run(loop_.get()); }
 
 private:
@@ -48,7 +48,7 @@ private:
         bool monitor;
         std::string channel;
     };
-    /// One link that we made. The server may take it away at any time.
+    /// One link that the driver created. The server may remove it at any time.
     struct Link {
         ~Link() {
             infoListener.remove();
@@ -60,14 +60,14 @@ private:
         Platform::PipeWire::Hook proxyListener;
         SteadyClock::time_point madeAt;
         bool established = false;
-        bool refused = false; ///< the server could not make it
+        bool refused = false; ///< the server refused it
         bool gone = false;
     };
-    /// The links that carry the present output to us.
+    /// The links that carry the selected output to the driver's source.
     struct Wiring {
         std::set<Ports> links;
-        const Mixer* mixer = nullptr; ///< they go through it; null when they are direct
-        bool complete = true;         ///< false while a node or its ports are still to come
+        const Mixer* mixer = nullptr; ///< used when the links go through a mixer; null when they are direct
+        bool complete = true;         ///< false while a node or some of its ports are missing
     };
 
     void quit() { pw_main_loop_quit(loop_.get()); }
@@ -78,7 +78,7 @@ private:
     void onGlobal(std::uint32_t id, const char* type, const spa_dict* properties);
     void onGlobalRemoved(std::uint32_t id);
     void onMetadata(std::uint32_t subject, const char* key, const char* value);
-    /// reconcile() follows when the server has told all that happened so far.
+    /// Runs reconcile() after the server has reported all events so far.
     void lookAgain() { pendingSync_ = pw_core_sync(core_.get(), PW_ID_CORE, 0); }
     void reconcile();
     void forgetLostLinks();
@@ -117,12 +117,13 @@ private:
     bool leaving_ = false;
     std::map<std::uint32_t, Node> nodes_;
     std::map<std::uint32_t, Port> ports_;
-    std::map<std::uint32_t, Ports> serverLinks_; ///< all that there are, by the server's number
-    std::vector<std::unique_ptr<Mixer>> mixers_; ///< the present output's, and until it flows the one before
+    std::map<std::uint32_t, Ports> serverLinks_; ///< all links of the server, by its id
+    std::vector<std::unique_ptr<Mixer>>
+        mixers_; ///< the selected output's, and the previous one's until the new one delivers
     std::map<Ports, Link> links_;
-    std::map<Ports, SteadyClock::time_point> refused_; ///< when the server refused or removed a link of ours
+    std::map<Ports, SteadyClock::time_point> refused_; ///< when the server refused or removed a link of the driver
     SteadyClock::time_point mixerFailedAt_{};
-    std::map<std::pair<std::uint32_t, std::string>, std::string> stale_; ///< by number and key
+    std::map<std::pair<std::uint32_t, std::string>, std::string> stale_; ///< by id and key
     std::string defaultOutput_;
-    std::string steering_; ///< a registry path; the key itself takes nothing; empty follows the default output
+    std::string steering_; ///< a registry path; the key itself selects nothing; empty follows the default output
 };

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Which links the driver wants and how it keeps them.
+// Which links the driver needs, and how it maintains them.
 #include "Platform/Audio/linux/RegistryPath.h"
 #include "Tools/CaptureDriver/Driver.h"
 
@@ -11,8 +11,8 @@ using namespace Platform::PipeWire;
 using namespace std::chrono_literals;
 
 namespace {
-/// A link or mixer that the server refuses, or that somebody takes away at once, is tried again after this time only:
-/// without a pause we and the server would be busy with nothing else.
+/// A link or mixer that the server refuses, or that another program removes at once, is only retried after this time:
+/// otherwise the driver and the server would do nothing else.
 constexpr auto kRetryAfter = 1s;
 } // namespace
 
@@ -27,13 +27,13 @@ std::uint32_t Driver::target() const {
     if (steering_ == kPathKey)
         return SPA_ID_INVALID;
     auto id = steering_.empty() ? SPA_ID_INVALID : nodeNamed(RegistryPath::nodeNameOf(steering_));
-    // An output that was pulled out: what plays there has moved to the default one.
+    // The selected output was removed: its streams have moved to the default one.
     if (id == SPA_ID_INVALID && !defaultOutput_.empty())
         id = nodeNamed(defaultOutput_);
     return id == ownId_ ? SPA_ID_INVALID : id;
 }
 
-/// The node's ports of one kind, in the order of its channels.
+/// The node's ports of one kind, in channel order.
 std::vector<std::uint32_t> Driver::portsOf(std::uint32_t node, PortKind kind) const {
     std::map<std::uint32_t, std::uint32_t> byNumber;
     for (const auto& [id, port] : ports_) {
@@ -52,11 +52,11 @@ Driver::Wiring Driver::wiring() {
     if (node == SPA_ID_INVALID || ownId_ == SPA_ID_INVALID)
         return {};
     const auto from = portsOf(node, PortKind::Monitor);
-    // Direct links carry one or two channels bit for bit. More have to be mixed.
+    // One or two channels are linked directly, bit for bit. More channels need a mixer.
     return from.size() > 2 ? mixedLinks(from) : Wiring{directLinks(from), nullptr, true};
 }
 
-/// Left to left, right to right; one channel goes to both sides; channels without such names go by their order.
+/// Left to left, right to right; a single channel goes to both sides; other channels by their order.
 std::set<Driver::Ports> Driver::directLinks(const std::vector<std::uint32_t>& from) const {
     std::set<Ports> pairs;
     for (const auto to : portsOf(ownId_, PortKind::Input)) {
@@ -76,7 +76,7 @@ std::set<Driver::Ports> Driver::directLinks(const std::vector<std::uint32_t>& fr
     return pairs;
 }
 
-/// Each channel into the mixer, and its two sides to us.
+/// Each channel into the mixer, and the mixer's two outputs to the source.
 Driver::Wiring Driver::mixedLinks(const std::vector<std::uint32_t>& from) {
     std::vector<std::string> channels;
     for (const auto each : from)
@@ -97,7 +97,7 @@ Driver::Wiring Driver::mixedLinks(const std::vector<std::uint32_t>& from) {
     return result;
 }
 
-/// Null while none can be made.
+/// Null when none can be created.
 const Mixer* Driver::mixerFor(std::uint32_t output, const std::vector<std::string>& channels) {
     if (std::erase_if(mixers_, [](const auto& each) { return each->broken(); }) > 0)
         mixerFailedAt_ = SteadyClock::now();
@@ -112,7 +112,7 @@ const Mixer* Driver::mixerFor(std::uint32_t output, const std::vector<std::strin
     return mixers_.back().get();
 }
 
-/// A link is there once, whoever made it. The server refuses a second one between the same ports.
+/// A link exists once, whoever created it. The server refuses a second one between the same ports.
 bool Driver::isLinkedByOthers(Ports ports) const {
     return std::ranges::any_of(serverLinks_, [ports](const auto& each) { return each.second == ports; });
 }
@@ -123,7 +123,7 @@ void Driver::connect(Ports ports) {
     pw_properties_setf(properties.get(), PW_KEY_LINK_OUTPUT_PORT, "%u", ports.first);
     pw_properties_setf(properties.get(), PW_KEY_LINK_INPUT_NODE, "%u", ports_.at(ports.second).node);
     pw_properties_setf(properties.get(), PW_KEY_LINK_INPUT_PORT, "%u", ports.second);
-    // While nobody listens to us, an output that plays nothing may go to sleep.
+    // While nothing records from the driver, an idle output may be suspended.
     pw_properties_set(properties.get(), PW_KEY_LINK_PASSIVE, "true");
     pw_properties_set(properties.get(), "object.linger", "false");
     auto& link = links_[ports];
@@ -166,7 +166,8 @@ void Driver::connect(Ports ports) {
     pw_link_add_listener(reinterpret_cast<pw_link*>(link.proxy.get()), link.infoListener.get(), &linkEvents, &link);
 }
 
-/// Links that the server took away are made again at once, unless they lived only shortly: somebody may remove each.
+/// Links that the server removed are made again at once, unless they existed only for a short time: another program may
+/// be removing them.
 void Driver::forgetLostLinks() {
     const auto now = SteadyClock::now();
     for (const auto& [ports, link] : links_)
@@ -178,13 +179,13 @@ void Driver::forgetLostLinks() {
 
 void Driver::retryLater() {
     const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(kRetryAfter);
-    // A little later than what is waited for.
+    // Slightly later than the time that is waited for.
     timespec after = {.tv_sec = time_t(seconds.count()), .tv_nsec = 10'000'000};
     pw_loop_update_timer(pw_main_loop_get_loop(loop_.get()), retryTimer_.get(), &after, nullptr, false);
 }
 
-/// Runs when the server has told all that happened so far: the ports of a node come one by one, and links made from
-/// half of them would carry one side only.
+/// Runs after the server has reported all events so far: the ports of a node appear one by one, and links made from
+/// some of them would carry one side only.
 void Driver::reconcile() {
     if (!created_) {
         if (metadata_)
@@ -192,8 +193,8 @@ void Driver::reconcile() {
         return;
     }
     if (!listening_ && ownId_ != SPA_ID_INVALID) {
-        // The server tells nobody of an object that he does not know of yet, so what was said to our node in its first
-        // moments is lost. Asked now, it tells all.
+        // The server does not send metadata about an object that the client does not know yet, so values set on our
+        // node in its first moments are lost. Subscribing now delivers all of them.
         listening_ = true;
         if (metadataId_ != SPA_ID_INVALID)
             bindMetadata(metadataId_);
@@ -214,7 +215,7 @@ void Driver::reconcile() {
                 connect(each);
         }
     }
-    // The old output is let go when the new one flows.
+    // The old output is unlinked when the new one delivers.
     if (!complete)
         return;
     std::erase_if(links_, [&wanted](const auto& each) { return !wanted.links.contains(each.first); });

@@ -10,7 +10,7 @@ using namespace Platform::PipeWire;
 Mixer::Mixer(pw_context* context, pw_core* core, std::uint32_t output, std::vector<std::string> channels,
              std::function<void()> failed)
     : context_(context), output_(output), channels_(std::move(channels)), failed_(std::move(failed)) {
-    // No media class: the session manager links and suspends only nodes that have one.
+    // No media class: the session manager links and suspends only nodes that have a media class.
     filter_.reset(pw_filter_new(core, "Korvane System Audio Mix",
                                 pw_properties_new(PW_KEY_NODE_NAME, "korvane.system-audio.mix", PW_KEY_MEDIA_TYPE,
                                                   "Audio", PW_KEY_MEDIA_CATEGORY, "Filter", PW_KEY_MEDIA_ROLE, "DSP",

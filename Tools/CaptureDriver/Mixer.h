@@ -16,22 +16,22 @@
 
 /// Mixes the channels of one output down to two. It is a node of the sound server with an input port for each channel
 /// and two output ports; the driver links it. The samples stay 32-bit float, so a loud sum exceeds 1 instead of being
-/// limited. Belongs to the main loop's thread; the mixing runs on the data thread.
+/// limited. Used on the main loop's thread; the mixing runs on the data thread.
 class Mixer {
 public:
-    /// @p channels are the names of the output's channels in their order. @p failed is called when the server takes
-    /// the node away; the mixer may not be destroyed inside it.
+    /// @p channels are the names of the output's channels in order. @p failed is called when the server removes the
+    /// node; the mixer must not be destroyed inside that call.
     Mixer(pw_context* context, pw_core* core, std::uint32_t output, std::vector<std::string> channels,
           std::function<void()> failed);
     ~Mixer();
     Mixer(const Mixer&) = delete;
     Mixer& operator=(const Mixer&) = delete;
 
-    /// The output's number on the server.
+    /// The output's id on the server.
     [[nodiscard]] std::uint32_t output() const { return output_; }
     [[nodiscard]] const std::vector<std::string>& channels() const { return channels_; }
-    /// SPA_ID_INVALID until the server knows the node. Its ports count from 0: inputs in the order of the channels,
-    /// then the outputs left and right.
+    /// SPA_ID_INVALID until the server knows the node. Its ports are numbered from 0: inputs in channel order, then the
+    /// outputs left and right.
     [[nodiscard]] std::uint32_t node() const;
     [[nodiscard]] bool broken() const { return broken_; }
 
@@ -52,7 +52,7 @@ private:
     void* left_ = nullptr;
     void* right_ = nullptr;
 
-    // Destroyed from the bottom up.
+    // Destroyed in reverse order.
     std::unique_ptr<pw_filter, Platform::PipeWire::FreeBy<pw_filter_destroy>> filter_;
     Platform::PipeWire::Hook listener_;
 };

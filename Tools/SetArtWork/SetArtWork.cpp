@@ -15,7 +15,7 @@ constexpr const char* usage =
     "file, told by its content) as its cover. DESTINATION appears whole or not at all.\n";
 }
 
-/// @return 0 done, 1 failed (one line says why), 2 wrong usage
+/// @return 0 success, 1 failure (with the reason in one line), 2 wrong usage
 int main(int argc, char** argv) {
     if (argc == 2 && (std::strcmp(argv[1], "--help") == 0 || std::strcmp(argv[1], "-h") == 0)) {
         std::fputs(usage, stdout);
@@ -25,7 +25,7 @@ int main(int argc, char** argv) {
         std::fputs(usage, stderr);
         return 2;
     }
-    // Qt finds the plugin that reads JPEG files through the application object.
+    // Qt needs the application object to find the plugin that reads JPEG files.
     const QCoreApplication application(argc, argv);
     const QString problem = Platform::BasicID3Change::copyWithArtwork(
         QFile::decodeName(argv[1]), QFile::decodeName(argv[2]), QFile::decodeName(argv[3]));

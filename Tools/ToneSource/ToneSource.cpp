@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The input device of a machine without one: 440 Hz at -12 dBFS on both channels. Ends with the sound server or with
+// The input device on a machine without one: 440 Hz at -12 dBFS on both channels. Ends with the sound server or with
 // SIGTERM.
 
 #include "Platform/Audio/linux/SignalSource.h"
@@ -17,7 +17,8 @@ int main() {
     sigemptyset(&ending);
     for (const int each : {SIGTERM, SIGINT, SIGHUP})
         sigaddset(&ending, each);
-    sigprocmask(SIG_BLOCK, &ending, nullptr); // inherited by the server's threads: only the wait below takes them
+    sigprocmask(SIG_BLOCK, &ending,
+                nullptr); // inherited by the server's threads, so that only the wait below receives them
 
     constexpr double rate = 48000;
     constexpr double frequency = 440;
