@@ -44,7 +44,7 @@ bool AppDelegate::applicationDidFinishLaunching() {
 
     preferenceWndController_ = windows_.makePreferenceWndController(QStringLiteral("PreferenceWnd"));
 
-    // Made even when the user has chosen other folders.
+    // Created even when the user has chosen other folders.
     const QString music = PreferenceStore::defaultMusicFolder();
     if (!QFileInfo::exists(music))
         (void)QDir().mkpath(music);
@@ -62,7 +62,7 @@ bool AppDelegate::applicationDidFinishLaunching() {
 }
 
 bool AppDelegate::recreateTemporaryFolder() {
-    // Raw recordings of an earlier run are deleted on purpose, those of a program that still runs never.
+    // Raw recordings of an earlier run are deleted on purpose, but never those of a running program.
     if (!running_.acquire()) {
         lastError_ = running_.lastError().isEmpty() ? QStringLiteral("it is already running") : running_.lastError();
         return false;
@@ -72,7 +72,7 @@ bool AppDelegate::recreateTemporaryFolder() {
         return false;
     g_strTmpPath = temporary + u'/' + Platform::services().bundle->bundleIdentifier();
     Platform::TemporaryFolder::removeWhole(g_strTmpPath);
-    // What could not be removed, and is in the way, shows as a failure to write there.
+    // If something in the way could not be removed, the first write to the folder reports it.
     (void)::mkdir(QFile::encodeName(g_strTmpPath).constData(), 0700);
     return true;
 }
@@ -93,7 +93,8 @@ Platform::RunningProgram::Reply AppDelegate::answer(const QByteArray& request) {
         return *answer;
     if (request.startsWith("open ")) {
         const QString path = QUrl::fromPercentEncoding(request.mid(5));
-        return {"ok", [this, path] { openFile(path); }}; // the window is modal: the caller must not wait for its end
+        return {"ok",
+                [this, path] { openFile(path); }}; // the window is modal: the caller must not wait until it is closed
     }
     if (request != "show" && !request.startsWith("show "))
         return windows_.answer(*mainWndController_, request);

@@ -31,7 +31,7 @@
 
 namespace {
 
-/// A hot key's operation and what it asks first.
+/// A hot key's operation and its guard.
 struct ShortcutCommand {
     KeybordShortcutTextView* field;
     QAction* menuItem;
@@ -39,7 +39,7 @@ struct ShortcutCommand {
     bool (MainWndController::*guard)() const;
 };
 
-/// The real windows. Panels and alerts are dialogs from here on.
+/// The real windows. Panels and alerts are dialogs while it exists.
 class ProgramWindows : public AppDelegate::Windows {
 public:
     ProgramWindows() {
@@ -62,7 +62,7 @@ public:
                                                                          AppDelegate& application) override {
         record_ = std::make_unique<RecordStateController>();
         record_->awakeFromNib();
-        EditNote::recover(); // before the window shows what the library says
+        EditNote::recover(); // before the window shows the library
         auto window = std::make_unique<MainWndController>(*record_, MediaLibrary::shareLibrary());
         editWindows_ = new EditWindows(*window, window.get());
         if (Platform::services().discRecording) {
@@ -83,7 +83,7 @@ public:
                          [&application] { application.audioDevice(); });
         QObject::connect(window.get(), &MainWndController::requestSystemAudioRecordDevice, &application,
                          [&application] { application.insertTheSystemAudioRecordDevice(); });
-        // Not quit(): that asks each window first, and the main window never closes.
+        // Not quit(): it asks every window first, and the main window refuses to close.
         QObject::connect(window.get(), &MainWndController::terminateRequested, &application,
                          [] { QCoreApplication::exit(0); });
         return window;
@@ -109,7 +109,7 @@ public:
         };
         for (const ShortcutCommand& each : commands) {
             each.field->setMenuItem(each.menuItem);
-            // The delegate's window of the moment the key is pressed, not of now.
+            // Looks up the delegate's window when the key is pressed, not now.
             each.field->hotKeyRegister()->setOperation([&application, each] {
                 auto* target = static_cast<MainWndController*>(application.mainWndController());
                 if (target && (target->*each.guard)())
@@ -125,7 +125,7 @@ public:
     Platform::RunningProgram::Reply answer(AppDelegate::WindowController& mainWindow,
                                            const QByteArray& request) override {
         const LibraryPresenter& library = static_cast<MainWndController&>(mainWindow).library();
-        if (request == "playing") // {"path": P}, of the file that the window plays now, if any
+        if (request == "playing") // answers {"path": P}, the file that the window plays now, if any
             return "ok " +
                    QJsonDocument(QJsonObject{{QStringLiteral("path"),
                                               library.isPlaySoundPlaying() ? library.playingPath() : QString()}})
@@ -140,7 +140,7 @@ public:
     void finishRecording(AppDelegate::WindowController& /*mainWindow*/) override { record_->finishAll(); }
 
 private:
-    Platform::ServicesScope scope_; ///< the services of before are back when the windows are gone
+    Platform::ServicesScope scope_; ///< restores the previous services after the windows are destroyed
     QtAlerts alerts_;
     QtPanels panels_;
     QtFocusProbe focusProbe_;

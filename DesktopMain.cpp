@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The module that the program loads for all that shows, draws or looks into pictures: the windows, and the commands
-// that the program does not know itself.
+// The module that the program loads to show windows, draw or read images: the windows, and the commands that are not in
+// the program itself.
 #include "AppDelegate.h"
 #include "AppWindows.h"
 #include "CaptureComputerAudio/KextInstallControl.h"
@@ -26,8 +26,8 @@
 
 namespace {
 
-/// What the end of a session sends ends the program whatever it does. Qt would ask the windows first, and the main
-/// window never closes while something records.
+/// The end of the desktop session ends the program unconditionally. Qt would ask the windows first, and the main window
+/// refuses to close during a recording.
 class EndWithTheSession : public QObject {
 public:
     explicit EndWithTheSession(AppDelegate& delegate) : delegate_(delegate) {}
@@ -42,7 +42,7 @@ private:
     AppDelegate& delegate_;
 };
 
-/// Tells the user that the sound server is waited for, and lets him go on without it.
+/// Informs the user that the program waits for the sound server, and lets the user continue without it.
 class WaitingForServer {
 public:
     bool goOn() {
@@ -61,7 +61,7 @@ private:
     std::unique_ptr<QProgressDialog> dialog_;
 };
 
-/// The file that the arguments name, absolute; empty when they name none.
+/// The absolute path of the file argument; empty when there is none.
 QString fileToOpen(int argc, char** argv) {
     if (argc < 2 || argv[1][0] == '-')
         return {};
@@ -79,7 +79,7 @@ int runWindows(int argc, char** argv) {
     const QString file = fileToOpen(argc, argv);
     const QByteArray launchToken = Platform::Activation::launchToken();
     QApplication application(argc, argv);
-    // It is not the last window that ends the program: all of them may be closed but the main one.
+    // Closing the last visible window does not end the program: all windows but the main one may be closed.
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setApplicationName(QStringLiteral("Sonaphex"));
     Platform::LinuxServices services;
@@ -95,11 +95,11 @@ int runWindows(int argc, char** argv) {
     case Launch::Outcome::NobodyAnswers:
         return CommandLine::fail(QStringLiteral("it is already running, but does not answer"));
     case Launch::Outcome::First:
-    case Launch::Outcome::NoPlace: // the delegate says why
+    case Launch::Outcome::NoPlace: // the delegate reports the reason
         break;
     }
 
-    // Before the windows: they end the recording first, and the lock is released after both.
+    // Created before the windows: they end the recording first, and the lock is released after both.
     const CutOffRecordings::Keeper keepCutOffRecordings;
     const auto windows = createAppWindows();
     QString why;

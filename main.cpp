@@ -6,7 +6,8 @@
 
 int main(int argc, char** argv) {
     Platform::secureStandardStreams();
-    // The commands that need no window are in the program itself. The desktop's libraries are loaded with the module.
+    // The commands that need no window are in the program itself. Everything else loads the module, and the desktop's
+    // libraries with it.
     if (const auto status = CommandLine::runOneOf(CommandLine::plainCommands(), argc, argv))
         return *status;
     QString why;

@@ -23,7 +23,7 @@ double Arguments::seconds(const QString& option, double otherwise) {
         return otherwise;
     bool isNumber = false;
     const auto seconds = parser_.value(option).toDouble(&isNumber);
-    // Beyond 68 years nobody means a time, and the counters of milliseconds end.
+    // Longer than 68 years is a mistake, and millisecond counters would overflow.
     if (!isNumber || !(seconds >= 0 && seconds <= std::numeric_limits<std::int32_t>::max())) {
         problem_ = u"--%1: %2 is no time in seconds"_s.arg(option, parser_.value(option));
         return otherwise;

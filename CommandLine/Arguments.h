@@ -12,10 +12,10 @@ namespace CommandLine {
 /// The arguments of one subcommand.
 class Arguments {
 public:
-    /// @p arguments are parsed by the options that @p command declares.
+    /// Parses @p arguments by the options that @p command declares.
     Arguments(const QStringList& arguments, const Command& command);
 
-    /// Why the arguments make no sense; empty when they do. What reads a number may set it.
+    /// Why the arguments are invalid; empty when they are valid. The functions that read a number may set it.
     [[nodiscard]] QString problem() const { return problem_; }
     [[nodiscard]] QStringList positional() const { return parser_.positionalArguments(); }
     [[nodiscard]] bool isSet(const QString& option) const { return parser_.isSet(option); }

@@ -26,15 +26,15 @@ namespace {
 
 struct Task {
     QStringList files;
-    QString drive; ///< a name, or a path as /dev/sr0; empty: the first one
-    QString image; ///< empty: a real disc
+    QString drive; ///< a name, or a path like /dev/sr0; empty: the first drive
+    QString image; ///< empty: burn a real disc
     bool eject = false;
     bool json = false;
 };
 
 using Drives = std::vector<std::shared_ptr<Platform::DRDevice>>;
 
-/// The index of the wanted drive. @return -1 when there is none; @p why then says so
+/// The index of the requested drive. @return -1 with the reason in @p why when there is none
 int chosen(const Drives& drives, const Task& task, QString& why) {
     const auto isImage = [](const auto& drive) { return drive->path().isEmpty(); };
     const auto found = std::ranges::find_if(drives, [&](const auto& drive) {
@@ -51,7 +51,7 @@ int chosen(const Drives& drives, const Task& task, QString& why) {
     return -1;
 }
 
-/// Why nothing can be burned with this drive as it stands; empty when nothing is in the way.
+/// Why this drive cannot burn now; empty when it can.
 QString discProblem(const Platform::DRDevice& drive) {
     const Platform::DRDeviceStatus status = drive.status();
     if (!status.problem.isEmpty())
@@ -86,7 +86,7 @@ void printJson(const Platform::DRDevice& drive, const Task& task, const Platform
     print(QString::fromUtf8(QJsonDocument(all).toJson(QJsonDocument::Indented).trimmed()));
 }
 
-/// Turns the event loop until the burn has ended. @return whether it is done
+/// Runs the event loop until the burn has ended. @return whether it succeeded
 bool waitForTheEnd(BurnControl& control) {
     enum class End { NotYet, Done, Failed } end = End::NotYet;
     double share = -1;
@@ -107,7 +107,7 @@ bool waitForTheEnd(BurnControl& control) {
         bar.show(std::max(0.0, share));
         if (!Interrupt::requested())
             continue;
-        // From here on nothing is posted; the drive needs its time.
+        // After this the engine posts nothing until the drive has stopped.
         if (!stopping)
             control.stopBurn();
         stopping = true;
@@ -119,12 +119,12 @@ bool waitForTheEnd(BurnControl& control) {
 }
 
 int burn(const Task& task) {
-    // The engine's log is for the window's users; here the bar and one line say it.
+    // The engine's log is meant for the window; here the progress bar and one line report everything.
     QLoggingCategory::setFilterRules(u"sonaphex.burn.info=false\nsonaphex.burn.warning=false"_s);
     auto& recording = *Platform::services().discRecording;
     const Interrupt interrupt;
     recording.setImagePath(task.image);
-    // The image drive needs no look at the others.
+    // The image drive does not need the state of the other drives.
     const Drives drives = task.image.isEmpty() ? settledDrives() : recording.devices();
     QString why;
     const int index = chosen(drives, task, why);

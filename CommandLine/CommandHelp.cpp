@@ -15,7 +15,7 @@ QString shown(const Option& option) {
     return *option.value ? name + u' ' + QString::fromUtf8(option.value) : name;
 }
 
-/// Joins @p words with spaces and breaks the line before it grows too long.
+/// Joins @p words with spaces and wraps long lines.
 QString wrapped(const QString& first, const QStringList& words, qsizetype indent) {
     QString text = first;
     qsizetype column = first.size();
@@ -33,7 +33,7 @@ QString wrapped(const QString& first, const QStringList& words, qsizetype indent
     return text;
 }
 
-/// An option's sentence with its default in brackets.
+/// An option's sentence, with its default in brackets.
 QStringList explanation(const Option& option) {
     QString text = QString::fromUtf8(option.sentence);
     if (*option.byDefault)

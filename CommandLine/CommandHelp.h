@@ -4,14 +4,14 @@
 
 #include "CommandLine/CommandLine.h"
 
-/// What people read about the subcommands, made from their declarations.
+/// Help texts of the subcommands, generated from their declarations.
 namespace CommandHelp {
 
 /// "usage: sonaphex NAME OPERANDS [--option VALUE] ...", broken into lines of at most 100 characters.
 [[nodiscard]] QString usage(const CommandLine::Command& command);
 /// The usage, the summary, a line for each option with its sentence and default, and the examples.
 [[nodiscard]] QString whole(const CommandLine::Command& command);
-/// What the program does without a command, and the usage and summary of each command.
+/// The program's behaviour without a command, and the usage and summary of each command.
 [[nodiscard]] QString overview(const CommandLine::Commands& commands);
 
 /// The manual page sonaphex(1) in the man macros.

@@ -20,8 +20,8 @@ using namespace Qt::StringLiterals;
 namespace CommandLine {
 
 namespace {
-Platform::LinuxServices* installed = nullptr; // while runOneOf() runs one; tests bring services of their own
-int outputError = 0;                          // why something could not be printed
+Platform::LinuxServices* installed = nullptr; // set while runOneOf() runs a command; tests install their own services
+int outputError = 0;                          // errno of the first output that failed
 } // namespace
 
 std::optional<int> runOneOf(const Commands& known, int argc, char** argv) {
@@ -84,7 +84,7 @@ int ended(int status) {
         outputError = errno;
     if (status != Done || (outputError == 0 && std::ferror(stdout) == 0))
         return status;
-    // As with "sonaphex library | head -1": the reader has what it wanted.
+    // As with "sonaphex library | head -1": the reader closed the pipe on purpose.
     if (outputError == EPIPE)
         return Failed;
     return fail(u"standard output could not be written: "_s + qt_error_string(outputError));

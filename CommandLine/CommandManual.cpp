@@ -8,7 +8,7 @@ using namespace CommandLine;
 namespace CommandHelp {
 namespace {
 
-/// Text for the man macros: a hyphen that must stay one, and no character that the macros would read.
+/// Escapes a text for the man macros: hyphens stay hyphens, and no character is taken as a macro.
 QString roff(QString text) {
     text.replace(u'\\', u"\\e"_s).replace(u'-', u"\\-"_s);
     if (text.startsWith(u'.') || text.startsWith(u'\''))
@@ -20,7 +20,7 @@ QString roff(const char* text) {
     return roff(QString::fromUtf8(text));
 }
 
-/// One sentence with its full stop, as the manual page prints it.
+/// A sentence with its full stop, as in the manual page.
 QString sentence(const char* text) {
     QString whole = QString::fromUtf8(text);
     if (!whole.isEmpty())
@@ -28,7 +28,7 @@ QString sentence(const char* text) {
     return roff(whole.endsWith(u'.') ? whole : whole + u'.');
 }
 
-/// The words that a declaration offers: "wav|m4a" has two; "FILE" and "S" have none.
+/// The choices in a declaration: "wav|m4a" has two; "FILE" and "S" have none.
 QStringList choices(const char* declared) {
     QStringList words;
     for (QString word : QString::fromUtf8(declared).split(u'|')) {
@@ -52,7 +52,7 @@ QString long_(const Option& option) {
     return u"--"_s + QString::fromUtf8(option.name);
 }
 
-/// For single quotes of a shell.
+/// Quotes a text in a shell's single quotes.
 QString quoted(QString text) {
     return u'\'' + text.replace(u'\'', u"'\\''"_s) + u'\'';
 }

@@ -6,7 +6,7 @@
 
 namespace CommandLine {
 
-/// Acts on the running program.
+/// Controls the running program.
 extern const Command controlCommand;
 
 } // namespace CommandLine

@@ -36,13 +36,13 @@ struct Task {
     bool overwrite = false;
     bool fading = false;
     double from = 0;
-    double to = 0; ///< 0 is the end
+    double to = 0; ///< 0 means the end
     double fadeIn = 0;
     double fadeOut = 0;
-    double length = 0; ///< 0 is the length of the range
+    double length = 0; ///< 0 means the length of the range
 };
 
-/// What to say when a copy answered no.
+/// The message for a failed copy.
 QString failure(const ConverterAudioControl& converter, const QString& source) {
     if (Interrupt::requested())
         return u"stopped before the end: nothing was written"_s;
@@ -50,7 +50,7 @@ QString failure(const ConverterAudioControl& converter, const QString& source) {
     return error ? error.text : u"%1 cannot be converted"_s.arg(source);
 }
 
-/// Errors of the output speak of the hidden file that grows; people know the target.
+/// Output errors name the hidden file that is being written; the message must name the target.
 int failOutput(Platform::MediaError error, const PartFile& part, const QString& target) {
     return fail(error.text.replace(part.path(), target));
 }
@@ -127,7 +127,7 @@ int run(const QStringList& given) {
     if (!type)
         return wrongUsage(convertCommand, u"--type is wav, m4a or caf"_s);
     task.type = *type;
-    // The engine takes a shorter stretch from the beginning for "to the end".
+    // The engine treats a range shorter than this as "to the end".
     if (arguments.isSet(u"to"_s) && task.to < 0.1)
         return wrongUsage(convertCommand, u"--to is a tenth of a second or more"_s);
     if (arguments.isSet(u"to"_s) && task.to <= task.from)

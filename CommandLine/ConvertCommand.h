@@ -5,6 +5,6 @@
 #include "CommandLine/CommandLine.h"
 
 namespace CommandLine {
-/// Copies a stretch of an audio file into a new file of another type.
+/// Copies a range of an audio file into a new file of another type.
 extern const Command convertCommand;
 } // namespace CommandLine

@@ -20,8 +20,7 @@ using namespace Qt::StringLiterals;
 namespace CommandLine {
 namespace {
 
-/// The services of the sound server that runs, for as long as it lives. A private one is of no use here: the driver
-/// would go with it.
+/// The services of the running sound server. A private one is useless here: the driver would end with it.
 class RunningServer {
 public:
     RunningServer() {
@@ -59,7 +58,7 @@ int status(bool json) {
     return Done;
 }
 
-/// Whether the window records: its recording would lose its device for a moment, or for good.
+/// Whether the window is recording: its recording would lose its device, temporarily or for good.
 bool windowRecords() {
     const auto answer = askWindow("status");
     QByteArray rest;

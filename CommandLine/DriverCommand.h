@@ -5,6 +5,6 @@
 #include "CommandLine/CommandLine.h"
 
 namespace CommandLine {
-/// Tells of the computer-audio driver, installs and removes it.
+/// Reports on, installs and removes the computer-audio driver.
 extern const Command driverCommand;
 } // namespace CommandLine

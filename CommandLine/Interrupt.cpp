@@ -13,7 +13,7 @@ static_assert(std::atomic<bool>::is_always_lock_free, "written by a signal handl
 
 using Handler = void (*)(int);
 
-/// Forgets the signals of an earlier object before the handler is there, so that none is lost between the two.
+/// Clears the signals of an earlier object before the handler is installed, so that none is lost in between.
 Handler newHandler() {
     wasRequested = false;
     return [](int) { wasRequested = true; };

@@ -6,12 +6,12 @@
 
 namespace CommandLine {
 
-/// While it lives, SIGINT, SIGTERM and SIGHUP end nothing but are noted, so that the work at hand can stop cleanly.
-/// Those that were ignored before stay ignored. One at a time.
+/// While it lives, SIGINT, SIGTERM and SIGHUP are only recorded, so that the current work can stop cleanly. Signals
+/// that were ignored before stay ignored. One object at a time.
 class Interrupt {
 public:
     Interrupt();
-    /// Whether one of the signals came since the object was made. Any thread.
+    /// Whether one of the signals arrived since the object was created. Any thread.
     [[nodiscard]] static bool requested();
 
 private:

@@ -16,7 +16,7 @@ namespace CommandLine {
 namespace {
 constexpr int kWidth = 40;
 constexpr int kMillisecondsBetween = 100;
-constexpr double kQuietest = -60; // dB, the left end of the bar
+constexpr double kQuietest = -60; // dB at the left end of the bar
 } // namespace
 
 LevelMeter::LevelMeter() : terminal_(isatty(STDERR_FILENO) == 1) {

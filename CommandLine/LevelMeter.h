@@ -7,8 +7,8 @@
 
 namespace CommandLine {
 
-/// One line on standard error that shows the time and level of a recording; silent when that is no terminal. Gone
-/// without a trace at the end.
+/// One line on standard error that shows the time and level of a recording; prints nothing when that is not a terminal.
+/// Removed at the end.
 class LevelMeter {
 public:
     LevelMeter();
@@ -16,10 +16,10 @@ public:
     LevelMeter(const LevelMeter&) = delete;
     LevelMeter& operator=(const LevelMeter&) = delete;
 
-    /// @p level as the engine tells it: twelve times the mean of the samples' magnitudes. Draws ten times a second at
-    /// most. @p state is a word ("recording", "waiting for the first sound").
+    /// @p level is the engine's value: twelve times the mean of the samples' magnitudes. Draws at most ten times a
+    /// second. @p state is a word ("recording", "waiting for the first sound").
     void show(double seconds, float level, const QString& state);
-    /// A line above the meter, terminal or not.
+    /// Prints a line above the meter, also without a terminal.
     void say(const QString& line);
 
     /// The line that show() draws.

@@ -6,9 +6,9 @@
 
 namespace CommandLine {
 
-/// Gives the library's entries of a file new values, in the running window or else in the stored library. @p done is
-/// what has happened to the file, for the sentence of a failure ("the tags are written").
-/// @return what went wrong; empty when nothing did, also when the file is none of the library's
+/// Sets new values in the library's entries of a file, through the running window or else in the stored library. @p
+/// done says what has happened to the file, for the failure message ("the tags are written").
+/// @return the error; empty on success, also when the library has no entry for the file
 [[nodiscard]] QString tellLibrary(const QString& path, const Dictionary& changed, const QString& done);
 
 } // namespace CommandLine

@@ -79,7 +79,8 @@ int list(bool json) {
 }
 
 int remove(const QStringList& keys, bool json) {
-    // The running window does it itself: its views follow, and it deletes no file of an entry that it just changed.
+    // The running window removes them itself: it updates its views, and it keeps the file of an entry that it has just
+    // changed.
     MediaLibraryRequests::Removal removal;
     if (const auto answer = askWindow(MediaLibraryRequests::removeRequest(keys))) {
         const auto told = MediaLibraryRequests::removalOf(*answer);

@@ -6,9 +6,9 @@
 
 namespace CommandLine {
 
-/// Prints the manual page. Packages make sonaphex.1 with it.
+/// Prints the manual page. Packages generate sonaphex.1 with it.
 extern const Command manualCommand;
-/// Prints the completions of a shell. Packages make the files of bash, zsh and fish with it.
+/// Prints the completions for a shell. Packages generate the files for bash, zsh and fish with it.
 extern const Command completionsCommand;
 
 } // namespace CommandLine

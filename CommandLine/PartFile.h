@@ -6,17 +6,18 @@
 
 namespace CommandLine {
 
-/// A hidden file beside a target that takes the target's name when it is whole, and is removed when it is not.
+/// A hidden file beside a target. It takes the target's name when it is complete, and is removed otherwise.
 class PartFile {
 public:
-    /// @p overwrite lets it replace a file of that name at the end; otherwise such a file is kept and is a problem.
+    /// @p overwrite allows it to replace an existing target at the end; otherwise the existing file is kept and
+    /// problem() reports it.
     PartFile(const QString& target, bool overwrite);
 
-    /// Why nothing can be written to the target as things stand; empty when nothing stands in the way.
+    /// Why the target cannot be written now; empty when it can.
     [[nodiscard]] QString problem() const;
-    /// Where to write. Ends like the target, because writers judge a file by its ending.
+    /// The path to write to. It has the target's extension, because writers choose the format by it.
     [[nodiscard]] QString path() const { return file_.path(); }
-    /// Gives the written file its name. @return what went wrong, empty when nothing did
+    /// Gives the file its final name. @return the error; empty on success
     [[nodiscard]] QString commit();
 
 private:

@@ -7,14 +7,14 @@
 
 namespace CommandLine {
 
-/// A bar on standard error while something lasts; silent when that is no terminal. Gone without a trace at the end.
+/// A progress bar on standard error; prints nothing when that is not a terminal. Removed at the end.
 class ProgressBar {
 public:
     explicit ProgressBar(const QString& what);
     ~ProgressBar();
     ProgressBar(const ProgressBar&) = delete;
     ProgressBar& operator=(const ProgressBar&) = delete;
-    /// @p share from 0 to 1. Cheap: draws ten times a second at most.
+    /// @p share from 0 to 1. Cheap: draws at most ten times a second.
     void show(double share);
 
 private:

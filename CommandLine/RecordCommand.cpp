@@ -22,7 +22,7 @@ using namespace PreferenceStore;
 namespace CommandLine {
 namespace {
 
-/// Why nothing can be put into @p folder, which is made when missing; empty when something can.
+/// Why no file can be created in @p folder, which is created when missing; empty when one can.
 QString whyNotWritable(const QString& folder) {
     (void)QDir().mkpath(folder);
     if (!QFileInfo(folder).isDir())
@@ -32,7 +32,7 @@ QString whyNotWritable(const QString& folder) {
     return {};
 }
 
-/// Lays the options over the stored preferences. The problem is the arguments' own.
+/// Overrides the stored preferences with the options. Invalid values set the arguments' problem().
 void takeSettings(Arguments& arguments, OverriddenPreferences& preferences) {
     if (arguments.isSet(u"filter"_s)) {
         const bool off = arguments.value(u"filter"_s) == u"off"_s;
@@ -49,7 +49,7 @@ void takeSettings(Arguments& arguments, OverriddenPreferences& preferences) {
         g_SplitTimeMS = arguments.value(u"split"_s) == u"off"_s ? -1 : arguments.whole(u"split"_s, 0);
 }
 
-/// What is wrong with the options as a whole; empty when nothing is.
+/// Why the combination of options is invalid; empty when it is valid.
 QString whyWrong(const Arguments& arguments, const RecordingTask& task) {
     if (!arguments.problem().isEmpty())
         return arguments.problem();
@@ -64,7 +64,7 @@ QString whyWrong(const Arguments& arguments, const RecordingTask& task) {
     return {};
 }
 
-/// Finds the devices that are named and says which sources take part.
+/// Finds the named devices and decides which sources are recorded.
 bool takeSources(const Arguments& arguments, OverriddenPreferences& preferences, RecordingTask& task, QString& why) {
     const QString input = arguments.value(u"input"_s);
     bool computer = arguments.isSet(u"computer"_s);
@@ -81,7 +81,7 @@ bool takeSources(const Arguments& arguments, OverriddenPreferences& preferences,
         preferences.setValue(builtIn, ChooseRecordBuiltIn);
         preferences.setValue(computer, ChooseRecordComputerAudio);
     }
-    // Otherwise the stored choices hold, as far as their devices are there.
+    // Otherwise the stored choices apply, if their devices exist.
     task.wantsComputerAudio = Platform::boolValue(preferences.value(ChooseRecordComputerAudio, false));
     task.wantsInput = Platform::boolValue(preferences.value(ChooseRecordBuiltIn, true));
     task.computerAudioNamed = computer;
@@ -107,7 +107,7 @@ int run(const QStringList& given) {
     const QString folder = folderOf(preferences.value(PreferenceSavePathKey, defaultMusicFolder()));
     if (why = whyNotWritable(folder); !why.isEmpty())
         return fail(why);
-    // Not the folder of the window: its next launch wipes that.
+    // Not the window's folder: its next launch empties that one.
     const auto temporary =
         Platform::TemporaryFolder::create(Platform::services().bundle->bundleIdentifier() + u".record"_s, why);
     if (!temporary)

@@ -6,7 +6,7 @@
 
 namespace CommandLine {
 
-/// Records until a time is reached or a signal ends it.
+/// Records until a given time has passed or a signal ends it.
 extern const Command recordCommand;
 
 } // namespace CommandLine

@@ -34,8 +34,8 @@ QJsonObject described(const QString& path, double seconds) {
     return {{u"path"_s, path}, {u"title"_s, QFileInfo(path).completeBaseName()}, {u"seconds"_s, seconds}};
 }
 
-/// An engine that takes the asked device only: a source that is not recorded costs no stream and no ring, and its
-/// volume stays as it is.
+/// An engine that only opens the requested device: a source that is not recorded needs no stream and no ring, and its
+/// volume is not changed.
 class AskedEngine final : public BuildInAudioRecord {
 public:
     explicit AskedEngine(const RecordingTask& task) : task_(task) {}
@@ -89,12 +89,12 @@ int RecordingRun::run() {
     return report();
 }
 
-/// Chooses the device and starts. @return why nothing is recorded; empty when something is
+/// Chooses the device and starts. @return why nothing is recorded; empty on success
 QString RecordingRun::begin() {
     if (task_.wantsComputerAudio && !controller_.hasComputerAudioDevice() &&
         (task_.computerAudioNamed || !task_.wantsInput))
         return u"computer audio: its driver is not installed (see sonaphex driver install)"_s;
-    // The first device of the list is already open. Choosing it would open it again.
+    // The first device of the list is already open. Choosing it again would reopen it.
     if (const int index = controller_.indexOfDevice(task_.device);
         task_.device != 0 && index != controller_.selectedDevice())
         controller_.chooseBuiltInDevice(index);
@@ -104,7 +104,7 @@ QString RecordingRun::begin() {
         return u"there is no source to record: name one with --input or --computer"_s;
     controller_.setRecordLimit(task_.seconds);
     controller_.startAndStopRecord();
-    QCoreApplication::sendPostedEvents(); // brings the notices
+    QCoreApplication::sendPostedEvents(); // delivers the notices
     if (controller_.hasFile())
         return {};
     const QStringList notices = controller_.notices();
@@ -163,15 +163,15 @@ void RecordingRun::tellNotices() {
     const QStringList notices = controller_.notices();
     for (; told_ < notices.size(); ++told_)
         meter_.say(notices.at(told_));
-    // The list is bounded: remove what was printed, so that nothing falls out unread.
+    // The list is bounded: remove the printed notices, so that none is dropped before it is printed.
     controller_.dismissNotices();
     told_ = 0;
 }
 
 /// Adds the recording through the running window, which holds the library in memory, else directly.
 void RecordingRun::addRecordFile(const QString& path, const Dictionary& tags) {
-    // Make the entry and its identity first. A window that answers too late adds it all the same; with the same
-    // identity the library then holds it once.
+    // Create the entry and its identity first. A window that answers too late still adds it; with the same identity the
+    // library then contains it once.
     const Dictionary entry = MediaLibrary::entryForFile(path, tags);
     QByteArray rest;
     if (const auto answer = askWindow(ControlRequests::libraryAdd(path, entry));
@@ -202,7 +202,7 @@ int RecordingRun::report() {
     } else if (!paths_.isEmpty()) {
         printed = print(paths_.join(u'\n'));
     }
-    // The recording is whole, but its user has not been told where it is.
+    // The recording is complete, but its path could not be printed.
     if (!printed && problem_.isEmpty())
         problem_ = u"standard output could not be written: "_s + qt_error_string(errno);
     if (problem_.isEmpty())

@@ -11,14 +11,14 @@
 
 namespace CommandLine {
 
-/// What a recording of the command line is to do.
+/// The options of a recording from the command line.
 struct RecordingTask {
     AudioObjectID device = 0; ///< the input device; 0 for the first one
     bool wantsInput = true;
     bool wantsComputerAudio = false;
-    bool computerAudioNamed = false; ///< by an option: then it has to be there
-    double seconds = 0;              ///< 0: until a signal comes
-    double waitSeconds = -1;         ///< how long an armed recording waits for its first sound; below 0 without end
+    bool computerAudioNamed = false; ///< set by an option: then the device must exist
+    double seconds = 0;              ///< 0: until a signal arrives
+    double waitSeconds = -1; ///< how long an armed recording waits for the first sound; negative: without a limit
     bool json = false;
 };
 
@@ -44,9 +44,9 @@ private:
     QJsonArray recordings_;
     QStringList paths_;
     int dropped_ = 0;
-    QString problem_; ///< why it ended early, or was not put where it belongs
+    QString problem_; ///< why it ended early, or could not be moved to its folder
     qsizetype told_ = 0;
-    QElapsedTimer armed_; ///< since it began to wait for a sound
+    QElapsedTimer armed_; ///< since it started to wait for a sound
 };
 
 } // namespace CommandLine

@@ -36,7 +36,7 @@ Dictionary entryOf(const QString& path) {
         for (const QVariant& object : *entries) {
             const Dictionary entry = object.toMap();
             const QFileInfo file(entry.value(AudioRecordEntry::SavePath).toString());
-            // The disk is asked only where the names agree.
+            // The disk is queried only when the names match.
             if (file.filePath() == path ||
                 (file.fileName() == QFileInfo(real).fileName() && file.canonicalFilePath() == real))
                 return entry;
@@ -44,7 +44,7 @@ Dictionary entryOf(const QString& path) {
     return {};
 }
 
-/// What is known of a file that the library does not have: its own tags, its name, today.
+/// Tags for a file that is not in the library: from the file itself, its name, and today's date.
 Dictionary tagsOf(const QString& path) {
     const auto tags = Platform::BasicID3Change::read(path).value_or(Platform::BasicID3Change::Tags());
     const auto orElse = [](const QString& text, const QString& otherwise) { return text.isEmpty() ? otherwise : text; };
@@ -56,7 +56,7 @@ Dictionary tagsOf(const QString& path) {
             {AudioRecordEntry::AddDate, Platform::services().clock->now().toString(u"yyyy/MM/dd"_s)}};
 }
 
-/// @return what went wrong; empty when nothing did
+/// @return the error; empty on success
 QString tellLibrary(const QString& path, const Dictionary& tags) {
     std::optional<bool> stored;
     if (const auto answer = askWindow(MediaLibraryRequests::addRingtoneRequest(path, tags))) {

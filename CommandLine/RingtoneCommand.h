@@ -5,6 +5,6 @@
 #include "CommandLine/CommandLine.h"
 
 namespace CommandLine {
-/// Makes a ringtone of a stretch of a recording, as the ringtone maker's button does.
+/// Makes a ringtone from a range of a recording, like the ringtone maker's button.
 extern const Command ringtoneCommand;
 } // namespace CommandLine

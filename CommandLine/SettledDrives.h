@@ -9,11 +9,11 @@
 
 namespace CommandLine {
 
-/// Lets events come for a twentieth of a second.
+/// Runs the event loop for a twentieth of a second.
 void turnTheEventLoop();
 
-/// The drives, after each has said what is in it. Turns the event loop for half a minute at most, or until one of the
-/// signals of Interrupt comes.
+/// The drives, after each has reported its disc. Runs the event loop for at most half a minute, or until one of the
+/// signals of Interrupt arrives.
 [[nodiscard]] std::vector<std::shared_ptr<Platform::DRDevice>> settledDrives();
 
 } // namespace CommandLine

@@ -32,7 +32,7 @@ QString kindOf(const QByteArray& artwork) {
     return u"application/octet-stream"_s;
 }
 
-/// A tag on one line of a terminal, which must not take its control characters for orders.
+/// A tag as one line for a terminal; control characters are replaced, because the terminal would execute them.
 QString plain(QString text) {
     for (QChar& character : text)
         if (character.category() == QChar::Other_Control)
@@ -62,8 +62,8 @@ void show(const QString& path, const BasicID3Change::Tags& tags, bool json) {
           (tags.artwork.isEmpty() ? u"none"_s : u"%1, %2 bytes"_s.arg(kindOf(tags.artwork)).arg(tags.artwork.size())));
 }
 
-/// Pictures are looked into by a program of its own: this one needs none of the desktop's libraries.
-/// @return what went wrong; empty when nothing did
+/// A helper program reads the image, so that this one needs none of the desktop's libraries. @return the error; empty
+/// on success
 QString setArtwork(const QString& path, const QString& image) {
     QProcess tool;
     tool.start(Platform::services().bundle->pathForTool(u"SetArtWork"_s), {path, image, path});
@@ -94,7 +94,7 @@ int run(const QStringList& given) {
     if (!tags)
         return fail(why);
     BasicID3Change::Texts texts;
-    Dictionary changed; // as the library has it
+    Dictionary changed; // with the library's keys
     const auto take = [&](const QString& option, std::optional<QString>& text, const QString& key) {
         if (!arguments.isSet(option))
             return;
@@ -115,7 +115,7 @@ int run(const QStringList& given) {
         if (const QString problem = setArtwork(path, arguments.value(u"artwork"_s)); !problem.isEmpty())
             return fail(problem);
     const bool rename = arguments.isSet(u"rename"_s);
-    QString kept; // why the file keeps its name
+    QString kept; // why the file was not renamed
     if (!changed.isEmpty() || rename) {
         path = QFileInfo(path).absoluteFilePath();
         EditNote::recover();

@@ -27,7 +27,7 @@ using namespace Qt::StringLiterals;
 namespace CommandLine {
 namespace {
 
-constexpr double kRounding = 0.001; ///< seconds: a length that a person copied from a printed one
+constexpr double kRounding = 0.001; ///< seconds: tolerance for a length that was copied from printed output
 
 /// Whether the running window plays the file.
 bool isPlayed(const QString& path) {

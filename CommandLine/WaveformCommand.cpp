@@ -21,7 +21,7 @@ namespace CommandLine {
 
 namespace {
 
-/// As many digits as bring the same float back.
+/// The fewest digits that give the same float when they are read back.
 QString exact(float value) {
     return QString::number(double(value), 'g', 9);
 }
