@@ -111,7 +111,7 @@ bool AudioFilterController::eventFilter(QObject* watched, QEvent* event) {
         tableArrayControler_->toggle(ui_->audioTableView->selectionModel()->selectedRows());
         return true;
     }
-    // Return ends the typing of a number. It must not press Remove.
+    // Return completes a number and must not press Remove.
     if (watched == ui_->lessThanSecondField && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
         ui_->lessThanSecondField->interpretText();
         return true;
@@ -120,7 +120,7 @@ bool AudioFilterController::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool AudioFilterController::runRemoveAudioAlert() {
-    // "Cancel" is the default button, so that a stray Enter keeps the files.
+    // "Cancel" is the default button, so that an accidental Enter keeps the files.
     return Platform::services().alerts->runModal(QStringLiteral("Do you want to move these items to the trash?"), {},
                                                  {QStringLiteral("Cancel"), QStringLiteral("Remove")}) == 1;
 }

@@ -14,7 +14,7 @@ namespace Ui {
 class AudioFilterController;
 }
 
-/// What the short-recording filter needs of its owner.
+/// What the short-recording filter calls on its owner.
 class AudioFilterControllerDelegate {
 public:
     virtual ~AudioFilterControllerDelegate() = default;
@@ -22,8 +22,8 @@ public:
     virtual void removeMediaLibraryArray(const QVariantList& /*entries*/) {}
 };
 
-/// The window that shows the short ones of some recordings and removes those that are ticked, after a question. The
-/// window is made anew each time it is shown. Main thread.
+/// The window that lists short recordings and removes the ticked ones after a question. The window is created each time
+/// it is shown. Main thread.
 class AudioFilterController : public QObject {
     Q_OBJECT
     Q_PROPERTY(int lessThanSecond READ lessThanSecond WRITE setLessThanSecond NOTIFY lessThanSecondChanged)
@@ -35,26 +35,26 @@ public:
     [[nodiscard]] AudioFilterControllerDelegate* delegate() const { return delegate_; }
     void setDelegate(AudioFilterControllerDelegate* delegate) { delegate_ = delegate; }
 
-    /// The window works on copies of these.
+    /// The window works on copies of these entries.
     void setAudioArray(const QVariantList& entries);
     [[nodiscard]] int lessThanSecond() const { return lessThanSecond_; }
-    /// Shows the entries of at most that many whole seconds, below 1 all of them, and ticks what is shown.
+    /// Shows the entries of at most this many whole seconds (below 1: all entries) and ticks the shown ones.
     void setLessThanSecond(int seconds);
     [[nodiscard]] FilteredAudioModel& tableArrayControler() const { return *tableArrayControler_; }
 
     /// Runs the window above @p owner; returns when it closes.
     void showWindow(QWidget* owner = nullptr);
-    /// Makes the window without showing it.
+    /// Creates the window without showing it.
     EditDialog& makeWindow(QWidget* owner = nullptr);
-    /// Null while there is none.
+    /// Null while the window is closed.
     [[nodiscard]] EditDialog* window() const { return window_.get(); }
     void closeWindow();
 
-    /// Asks whether the items may go; true only when the user chose to remove them.
+    /// Asks whether to remove the entries; true only when the user chose to remove them.
     bool runRemoveAudioAlert();
     /// Asks, hands the ticked entries to the delegate, and closes the window.
     void removeAudio();
-    /// To the delegate.
+    /// Forwards to the delegate.
     void removeMediaLibraryArray(const QVariantList& entries);
 
 Q_SIGNALS:

@@ -56,7 +56,7 @@ QVariantList FilteredAudioModel::tickedEntries() const {
         if (!isTicked(row))
             continue;
         Dictionary entry = content_[shown_[row]];
-        entry.remove(AudioSelectedKey); // the library knows no such key
+        entry.remove(AudioSelectedKey); // library entries do not have this key
         entries.append(entry);
     }
     return entries;

@@ -12,17 +12,17 @@ class FilteredAudioModel : public QAbstractTableModel {
     Q_OBJECT
 public:
     enum Column { Tick, Title, Length, Date, ColumnCount };
-    /// The key that each copy has beside those of its entry: whether it is ticked.
+    /// The additional key of each copy: whether it is ticked.
     static inline const QString AudioSelectedKey = QStringLiteral("AudioSelectedKey");
 
     using QAbstractTableModel::QAbstractTableModel;
 
     void setContent(const QVariantList& entries);
-    /// Keeps entries of at most this many whole seconds, each of them below 1, and ticks what is shown.
+    /// Shows the entries of at most this many whole seconds (below 1: all entries) and ticks the shown ones.
     void setFilter(int seconds);
-    /// The copies that are shown, in the order of the entries.
+    /// The shown copies, in the order of the entries.
     [[nodiscard]] QVariantList arrangedObjects() const;
-    /// The shown entries that are ticked, as they were given.
+    /// The shown and ticked entries, unchanged.
     [[nodiscard]] QVariantList tickedEntries() const;
     [[nodiscard]] int tickedCount() const;
     [[nodiscard]] double tickedSeconds() const;

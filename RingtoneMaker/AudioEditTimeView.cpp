@@ -19,8 +19,8 @@ namespace {
 
 constexpr int kPoints = WaveImage::kPointsPerSecond;
 constexpr int kSecondsBetween = 2;
-constexpr double kLabelHeight = 15; ///< of the label's lower edge above the ruler's
-constexpr double kLabelWidth = 100; ///< more than any label takes: it belongs to the tile that it reaches into, too
+constexpr double kLabelHeight = 15; ///< distance of the label's lower edge from the ruler's
+constexpr double kLabelWidth = 100; ///< wider than any label: a label is also drawn into the tile that it extends into
 
 QString timeText(double seconds) {
     return AudioWaveTime2TimeStringTransformer().transformedValue(seconds).toString();

@@ -14,7 +14,7 @@ public:
     void updateImageCacheViewContent() override;
     /// A line from (x, 0) up to (x, height), measured from the lower edge.
     void drawLineAt(QPainter& painter, double x, double height) const;
-    /// The time as "hh:mm:ss", right of @p x.
+    /// The time as "hh:mm:ss", to the right of @p x.
     void drawSecondAt(QPainter& painter, double x, int second) const;
     /// Forwarded to the delegate.
     void setAudioPosition(float x);
@@ -23,7 +23,7 @@ public:
     struct Tick {
         double x;
         double height;
-        int labelledSecond; ///< -1 without a label
+        int labelledSecond; ///< -1 means no label
     };
     [[nodiscard]] QList<Tick> ticks(double from, double to) const;
 

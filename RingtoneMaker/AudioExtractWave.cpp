@@ -19,10 +19,10 @@ Q_LOGGING_CATEGORY(waveLog, "sonaphex.wave")
 
 constexpr int kValuesPerSecond = 10;
 constexpr int kBlocksPerReport = 256;
-/// Values fetched at once where a file need not be read in full: a hundred seconds of sound.
+/// Number of values to fetch per call when a file need not be read completely: a hundred seconds of audio.
 constexpr std::size_t kValuesAtOnce = 1000;
 
-/// The frames at which blocks begin in which a tenth of a second becomes full.
+/// The frames of the blocks in which a tenth of a second is completed.
 std::vector<std::int64_t> framesOfPoints(std::int64_t length, double rate) {
     constexpr auto block = std::int64_t(ClientBlock::kSamples);
     const auto step = std::int64_t(rate) / kValuesPerSecond;
@@ -100,7 +100,7 @@ void AudioExtractWave::tell(const QList<float>& points, qsizetype first) const {
         points_(first, std::span(points.constData() + first, std::size_t(points.size() - first)));
 }
 
-/// Fetches the values alone where the file allows it. False: read it in full.
+/// Fetches only the values where the file allows it. False: the whole file must be read.
 bool AudioExtractWave::extractSparse(const std::vector<std::int64_t>& frames, QList<float>& points) {
     points.resize(qsizetype(frames.size()));
     for (std::size_t begin = 0; begin < frames.size(); begin += kValuesAtOnce) {

@@ -11,8 +11,8 @@
 #include <span>
 #include <vector>
 
-/// Reads a whole audio file once and gives a coarse outline of it: ten signed samples a second. Used on one thread,
-/// which need not be the main one.
+/// Reads a whole audio file once and computes a coarse outline of it: ten signed samples per second. Used on one
+/// thread, which need not be the main one.
 class AudioExtractWave {
 public:
     AudioExtractWave();
@@ -20,23 +20,23 @@ public:
 
     /// False when the file cannot be read.
     [[nodiscard]] bool openFile(const QString& path);
-    /// One value for each whole tenth of a second, -1 to 1: the left channel's sample at the begin of the block of 512
-    /// frames in which the tenth is full. Needs an open file.
+    /// One value for each whole tenth of a second, -1 to 1: the left channel's first sample of the block of 512 frames
+    /// in which the tenth is completed. Needs an open file.
     [[nodiscard]] QList<float> extractSamplePoint();
 
-    /// Held for its owner; nothing is ever sent to it.
+    /// Stored for its owner; never called.
     [[nodiscard]] void* delegate() const { return delegate_; }
     void setDelegate(void* delegate) { delegate_ = delegate; }
 
-    /// Told the share done (0 to 1) now and then on the extracting thread; answers false to stop: what is there is
-    /// answered.
+    /// Called now and then on the extracting thread with the progress from 0 to 1. When it returns false, extraction
+    /// stops and returns the values so far.
     void setProgress(std::function<bool(double)> progress) { progress_ = std::move(progress); }
-    /// Told the values as they are found, on the extracting thread: those from the number @p first on. What is not
-    /// decided by single values is read anew from the begin and told again.
+    /// Called on the extracting thread with new values, starting at the number @p first. When fetching single values
+    /// fails, the file is read from the beginning and all values are reported again.
     void setPoints(std::function<void(qsizetype first, std::span<const float> values)> points) {
         points_ = std::move(points);
     }
-    /// Why openFile() failed, or what was damaged in the file.
+    /// Why openFile() failed, or the first damage found in the file.
     [[nodiscard]] Platform::MediaError error() const;
 
 private:

@@ -27,7 +27,7 @@ void AudioPointerLineView::setPosition(float x) {
 }
 
 void AudioPointerLineView::paintEvent(QPaintEvent*) {
-    // Dark grey and light grey are given; on the dark window they change places, or the line would not be seen.
+    // The dark grey and the light grey are fixed; in the dark theme they are swapped, or the line would be invisible.
     const bool dark = Theme::shade() == Theme::Shade::Dark;
     const QColor line = QColor::fromRgbF(dark ? 0.8F : 1 / 3.0F, dark ? 0.8F : 1 / 3.0F, dark ? 0.8F : 1 / 3.0F);
     const QColor light = QColor::fromRgbF(2 / 3.0F, 2 / 3.0F, 2 / 3.0F);

@@ -6,8 +6,8 @@
 
 #include <QWidget>
 
-/// The play pointer: a line with a triangle on top, its position the middle of its frame in points of its superview.
-/// Presses go to what lies below it. Main thread.
+/// The play pointer: a line with a triangle on top. Its position is the middle of its frame, in points of its
+/// superview. Presses go to the view below it. Main thread.
 class AudioPointerLineView : public QWidget, public SpokenView {
     Q_OBJECT
 public:
@@ -16,7 +16,7 @@ public:
     explicit AudioPointerLineView(QWidget* parent = nullptr);
 
     [[nodiscard]] float position() const { return float(x_ + kWidth / 2.0); }
-    /// Moves the frame from side to side so that its middle is at @p x.
+    /// Moves the frame horizontally so that its middle is at @p x.
     void setPosition(float x);
 
     [[nodiscard]] QAccessible::Role spokenRole() const override { return QAccessible::Indicator; }

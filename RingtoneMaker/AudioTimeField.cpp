@@ -53,7 +53,7 @@ void AudioTimeField::commit() {
     const int typed = seconds();
     setModified(false);
     if (textOf(float(typed)) == textOf(shown_))
-        setText(textOf(shown_)); // the same second: the tenths that the field does not show stay
+        setText(textOf(shown_)); // the same second: keep the tenths, which the field does not show
     else
         Q_EMIT secondsEdited(typed);
 }
@@ -73,7 +73,7 @@ bool AudioTimeField::overwrite(const QString& digit) {
         return false;
     changed.replace(at, 1, digit);
     if (!AudioTimeFormatter::isPartialStringValid(changed))
-        return true; // 75 minutes: the key does nothing
+        return true; // beyond the limit: the key does nothing
     setText(changed);
     setModified(true);
     setCursorPosition(at + 1);
@@ -85,7 +85,7 @@ void AudioTimeField::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        commit(); // and not the window's default button
+        commit(); // and do not press the window's default button
         return;
     case Qt::Key_Up:
         return step(1);

@@ -4,20 +4,20 @@
 
 #include <QLineEdit>
 
-/// A field for a time as "hh:mm:ss". Only what keeps this form can be typed; a digit typed into a full part replaces
-/// the next one. Main thread.
+/// A field for a time as "hh:mm:ss". Only text of this form can be typed; a digit typed into a full part replaces the
+/// next digit. Main thread.
 class AudioTimeField : public QLineEdit {
     Q_OBJECT
 public:
     explicit AudioTimeField(QWidget* parent = nullptr);
 
-    /// Seconds, whole ones.
+    /// The time in whole seconds.
     [[nodiscard]] int seconds() const;
-    /// Shows a time, unless the user is typing another one.
+    /// Shows a time, unless the user is typing one.
     void setSeconds(float seconds);
 
 Q_SIGNALS:
-    /// The user finished a time: Return, Tab, a click elsewhere, Up or Down.
+    /// The user completed a time: with Return, Tab, a click elsewhere, Up or Down.
     void secondsEdited(int seconds);
 
 protected:

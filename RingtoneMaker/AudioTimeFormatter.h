@@ -5,18 +5,18 @@
 #include <QString>
 #include <QVariant>
 
-/// Keeps the text of a time field in the form hh:mm:ss while it is typed. Without state.
+/// Keeps the text of a time field in the form hh:mm:ss while it is typed. Pure functions.
 class AudioTimeFormatter {
 public:
-    /// The text itself; a null string for anything that is no text.
+    /// The text itself; a null string for any other type.
     [[nodiscard]] static QString stringForObjectValue(const QVariant& object);
-    /// Makes "hh:mm:ss" of three parts, each between 00 and 59; what lies outside becomes 59, the hours too.
-    /// Always true; @p errorDescription stays as it is.
+    /// Makes "hh:mm:ss" of three parts, each between 00 and 59; other values become 59, also for the hours. Always
+    /// true; @p errorDescription is not changed.
     static bool getObjectValue(QString& object, const QString& string, QString* errorDescription = nullptr);
-    /// Whether there are decimal digits only; so has an empty text.
+    /// Whether the text has decimal digits only; true for an empty text.
     [[nodiscard]] static bool isIntStr(const QString& string);
-    /// Whether the text may stand in the field while it is typed: exactly three parts of at most two digits, none above
-    /// 59. Neither a replacement nor an error text is given.
+    /// Whether the text is allowed in the field while it is typed: exactly three parts of at most two digits, none
+    /// above 59. Gives neither a replacement nor an error text.
     [[nodiscard]] static bool isPartialStringValid(const QString& partialString, QString* newEditingString = nullptr,
                                                    QString* errorDescription = nullptr);
 };

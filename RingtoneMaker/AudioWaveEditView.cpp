@@ -10,7 +10,7 @@
 namespace {
 
 QColor ground() {
-    // The light grey is given; on the dark window a grey as far from it.
+    // The light grey is fixed; the dark theme uses a grey at the same distance from its background.
     const float grey = Theme::shade() == Theme::Shade::Dark ? 0.26F : 0.745098F;
     return QColor::fromRgbF(grey, grey, grey, 0.7F);
 }
@@ -22,7 +22,7 @@ AudioWaveEditView::AudioWaveEditView(QWidget* parent)
       scroll_(*this, [this](QPoint global) { trimAudioFromPoint(pressed_, QPointF(mapFromGlobal(global))); }) {
     setAccessibleName(tr("Outline"));
     setFocusPolicy(Qt::ClickFocus);
-    // Moves without a button are reported as well; nothing is done with them.
+    // Moves without a pressed button are also reported; they have no effect.
     setMouseTracking(true);
 }
 

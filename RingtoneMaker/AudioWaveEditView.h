@@ -5,7 +5,7 @@
 #include "RingtoneMaker/DragScroll.h"
 #include "RingtoneMaker/ImageCacheView.h"
 
-/// The waveform strip: the outline of the file, on which a selection is drawn by dragging. Main thread.
+/// The waveform strip: shows the outline of the file; dragging on it draws a selection. Main thread.
 class AudioWaveEditView : public ImageCacheView {
     Q_OBJECT
 public:
@@ -13,10 +13,10 @@ public:
 
     /// Forwarded to the delegate.
     void trimAudioFromPoint(QPointF from, QPointF to);
-    /// A line of text in the middle of what is seen; empty for none.
+    /// A line of text in the middle of the visible part; empty for none.
     [[nodiscard]] QString message() const { return message_; }
     void setMessage(const QString& message);
-    /// What a screen reader is told.
+    /// The description for screen readers.
     void setDescription(const QString& description) { description_ = description; }
 
     [[nodiscard]] QAccessible::Role spokenRole() const override { return QAccessible::Graphic; }

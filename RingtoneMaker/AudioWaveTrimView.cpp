@@ -40,7 +40,7 @@ void AudioWaveTrimView::setAudioLength(float width) {
 void AudioWaveTrimView::setFrame(const QRectF& frame) {
     frame_ = frame;
     setGeometry(frame.toAlignedRect());
-    update(); // a change of less than a pixel moves nothing but the drawn edge
+    update(); // a change of less than a pixel only repaints the edge
     if (flushQueued_)
         return;
     flushQueued_ = true;
@@ -72,7 +72,8 @@ void AudioWaveTrimView::setAudioFromTime(float seconds) {
 void AudioWaveTrimView::setAudioToTime(float seconds) {
     const float limit = soundDuration() * 10;
     float end = std::max(std::min(seconds * 10, limit), kShortest);
-    end = std::min(end, std::max(limit, 0.0F)); // a file of less than five seconds ends before the shortest selection
+    end =
+        std::min(end, std::max(limit, 0.0F)); // a file of less than five seconds is shorter than the shortest selection
     float length = end - audioFrom();
     if (length > kLongest || length < kShortest)
         length = audioLength();
@@ -148,7 +149,7 @@ void AudioWaveTrimView::mousePressEvent(QMouseEvent* event) {
         return;
     dragging_ = true;
     dragType_ = judgeDragType(event->position());
-    // Mapped by hand: the box moves below the pointer.
+    // Mapped explicitly, because the box moves below the pointer.
     dragged_ = parentWidget()->mapFromGlobal(event->globalPosition());
     if (dragType_ == Move)
         setCursor(Qt::ClosedHandCursor);

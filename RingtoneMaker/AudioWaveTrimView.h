@@ -5,11 +5,11 @@
 #include "RingtoneMaker/DragScroll.h"
 #include "RingtoneMaker/ImageCacheView.h"
 
-/// The selection: a translucent box over the outline, moved by its middle and resized by its edges. Its own frame is
-/// the selection; points, ten to a second. Main thread.
+/// The selection: a translucent box over the outline, moved by its middle and resized by its edges. Its frame is the
+/// selection, in points, ten per second. Main thread.
 ///
 /// Handles and time fields keep it between 5 and 40 seconds and inside the file. setAudioFrom() and setAudioLength()
-/// take any value.
+/// accept any value.
 class AudioWaveTrimView : public QWidget, public SpokenView {
     Q_OBJECT
     Q_PROPERTY(float audioFromTime READ audioFromTime WRITE setAudioFromTime NOTIFY audioFromTimeChanged)
@@ -28,31 +28,31 @@ public:
     void setAudioFrom(float x);
     [[nodiscard]] float audioLength() const { return float(frame_.width()); }
     void setAudioLength(float width);
-    /// The exact frame; the widget covers each pixel that it touches.
+    /// The exact frame; the widget covers every pixel that the frame touches.
     [[nodiscard]] QRectF frame() const { return frame_; }
     void setFrame(const QRectF& frame);
 
-    /// Announces both times. setFrame() queues it: fields follow after the event at hand.
+    /// Reports both times to the delegate. setFrame() queues this call: the fields are updated after the current event.
     void flushAudioTrimTime();
     /// Seconds.
     [[nodiscard]] float audioFromTime() const { return audioFrom() / 10; }
     [[nodiscard]] float audioToTime() const { return (audioFrom() + audioLength()) / 10; }
-    /// As typed by the user: keeps the end where the limits allow it.
+    /// For a time typed by the user: keeps the end where the limits allow it.
     void setAudioFromTime(float seconds);
-    /// As typed by the user: the end lands there; where the length had to be kept, the begin moves.
+    /// For a time typed by the user: moves the end there; when the length must be kept, the begin moves.
     void setAudioToTime(float seconds);
-    /// The delegate's, or 0.
+    /// The delegate's value, or 0.
     [[nodiscard]] float soundDuration() const;
 
-    /// Where a drag of that type begins, in the box's own points.
+    /// The area, in the box's own points, in which a drag of that type begins.
     [[nodiscard]] QRectF calcuateDragRect(DragType type) const;
     [[nodiscard]] DragType judgeDragType(QPointF point) const;
     /// One step of a drag.
     void doDragAction(DragType type, QPointF from, QPointF to);
-    /// One step and the scrolling that keeps what changed in sight: a drag's or a key's.
+    /// One step, and the scrolling that keeps the changed edge visible; for a drag or a key.
     void dragStep(DragType type, QPointF from, QPointF to);
-    /// Left and Right as the whole window has them: with Ctrl the begin, with Alt the end, else the box; 0.1 s, with
-    /// Shift 1 s. @return whether the key was one of them
+    /// Handles Left and Right for the whole window: with Ctrl they move the begin, with Alt the end, else the box; by
+    /// 0.1 s, with Shift by 1 s. @return whether the key was one of them
     bool moveByKey(const QKeyEvent& event);
 
     [[nodiscard]] QAccessible::Role spokenRole() const override { return QAccessible::Slider; }
@@ -80,7 +80,7 @@ private:
     RingtoneMakerViewDelegate* delegate_ = nullptr;
     DragScroll scroll_;
     DragType dragType_ = Move;
-    QPointF dragged_; ///< the drag's last point, in the superview's points
+    QPointF dragged_; ///< the last point of the drag, in the superview's points
     bool dragging_ = false;
     bool flushQueued_ = false;
 };

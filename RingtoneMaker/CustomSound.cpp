@@ -70,7 +70,7 @@ void CustomSound::play() {
 void CustomSound::pause() {
     if (isPlaying())
         sound_->pause();
-    // Also for a stopped sound: it still reads as stopped, and the next play() starts it.
+    // Also set for a stopped sound: it still reports stopped, and the next play() starts it.
     pauseState_ = true;
 }
 

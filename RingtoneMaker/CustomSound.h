@@ -6,7 +6,7 @@
 
 #include <memory>
 
-/// Plays one audio file and tells paused from playing by a flag of its own. Main thread.
+/// Plays one audio file and keeps its own flag to distinguish paused from playing. Main thread.
 class CustomSound {
 public:
     explicit CustomSound(const QString& file);
@@ -17,7 +17,7 @@ public:
     void setCurrentTime(double seconds);
     [[nodiscard]] float volume() const;
     void setVolume(float volume);
-    /// Seconds of the file behind currentTime() at which a volume that is set now is reached.
+    /// Delay, in seconds of the file after currentTime(), until a new volume takes effect.
     [[nodiscard]] double volumeDelay() const;
     [[nodiscard]] bool isPlaying() const;
     [[nodiscard]] bool isPause() const;

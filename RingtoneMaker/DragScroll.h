@@ -13,20 +13,20 @@ class QWidget;
 
 /// Scrolls the scroll area around a view. Main thread.
 namespace ScrollTo {
-/// The scroll area that @p view stands in; null when it stands in none.
+/// The scroll area that contains @p view; null when there is none.
 [[nodiscard]] QScrollArea* areaOf(const QWidget& view);
-/// Scrolls as little as brings @p rect, in points of @p view, into sight from side to side. Nothing moves when it is
-/// wider than the area and fills it already.
+/// Scrolls by the least amount that makes @p rect, in points of @p view, visible horizontally. Does not scroll when the
+/// rect is wider than the area and already fills it.
 void makeVisible(const QWidget& view, const QRectF& rect);
 } // namespace ScrollTo
 
-/// Keeps a drag going while the pointer is held beyond the left or right edge of the scroll area: no events come from a
-/// pointer at rest, so a timer scrolls and repeats the last step. Main thread.
+/// Continues a drag while the pointer is held beyond the left or right edge of the scroll area: a resting pointer sends
+/// no events, so a timer scrolls and repeats the last step. Main thread.
 class DragScroll {
 public:
-    /// @p step is called with the pointer's place on the screen after each scrolling.
+    /// @p step is called with the pointer's screen position after each scroll step.
     explicit DragScroll(QWidget& view, std::function<void(QPoint global)> step);
-    /// A drag's event: scrolls when the pointer is outside, and goes on until it is back or the drag ends.
+    /// Handles a drag event: scrolls while the pointer is outside, until it is back or the drag ends.
     void follow(QPoint global);
     void end() { timer_.stop(); }
 

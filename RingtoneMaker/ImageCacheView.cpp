@@ -26,7 +26,7 @@ void ImageCacheView::paintEvent(QPaintEvent* event) {
 void ImageCacheView::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (viewContentCache_ && (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)) {
-        viewContentCache_->forget(); // colours and letters of before
+        viewContentCache_->forget(); // drawn with the old colours and fonts
         update();
     }
 }

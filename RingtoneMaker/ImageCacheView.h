@@ -10,18 +10,18 @@
 
 #include <memory>
 
-/// What the views of the ringtone maker ask and tell their owner. Points are on their common scale: ten to a second of
-/// sound, 0 at the begin of the file.
+/// What the views of the ringtone maker call on their owner. Points are on their common scale: ten per second of audio,
+/// 0 at the beginning of the file.
 class RingtoneMakerViewDelegate {
 public:
     virtual ~RingtoneMakerViewDelegate() = default;
-    /// The user drew a selection on the outline; the points may lie in any order.
+    /// The user drew a selection on the outline; the points may be in either order.
     virtual void trimAudioFromPoint(QPointF /*from*/, QPointF /*to*/) {}
-    /// The user wants to hear this place.
+    /// The user wants to play from this position.
     virtual void setAudioPosition(float /*x*/) {}
-    /// Where the sound is, in points.
+    /// The current play position, in points.
     [[nodiscard]] virtual float audioPosition() const { return 0; }
-    /// Length of the sound in seconds.
+    /// Length of the audio in seconds.
     [[nodiscard]] virtual float soundDuration() const { return 0; }
 };
 
@@ -31,7 +31,7 @@ class ImageCacheView : public QWidget, public SpokenView {
 public:
     explicit ImageCacheView(QWidget* parent = nullptr);
 
-    /// Null: it is built when the view is next drawn.
+    /// Null: it is built when the view is next painted.
     [[nodiscard]] std::shared_ptr<ImageStrip> viewContentCache() const { return viewContentCache_; }
     void setViewContentCache(std::shared_ptr<ImageStrip> cache);
     /// Not owned.
@@ -44,7 +44,7 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
-    /// What is drawn below the cache.
+    /// Draws the part below the cache.
     virtual void drawGround(QPainter& painter, const QRect& dirty);
 
 private:

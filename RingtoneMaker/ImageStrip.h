@@ -11,26 +11,26 @@
 class QPainter;
 class QRectF;
 
-/// A picture of any width that is drawn in tiles when they are first seen. Only some megabytes of tiles are kept, so
-/// that hours of sound cost no more than minutes. Main thread.
+/// A picture of any width, drawn in tiles when they first become visible. Only some megabytes of tiles are kept, so
+/// that hours of audio cost no more than minutes. Main thread.
 class ImageStrip {
 public:
-    /// Draws what belongs into @p area, in the strip's own points. The painter is clipped to a tile that covers it.
+    /// Draws the content of @p area, in the strip's own points. The painter is clipped to a tile that covers it.
     using Draw = std::function<void(QPainter& painter, const QRectF& area)>;
 
     ImageStrip(QSizeF size, Draw draw) : size_(size), draw_(std::move(draw)) {}
 
     [[nodiscard]] QSizeF size() const { return size_; }
     void setSize(QSizeF size);
-    /// Draws the strip's part in @p area at the same place of the painter, for its device's scale.
+    /// Draws the strip's part in @p area at the same position of the painter, at its device's scale.
     void paint(QPainter& painter, const QRectF& area);
-    /// What lies from @p from on, in points, is drawn anew.
+    /// Invalidates everything from @p from on, in points.
     void forget(double from = 0);
-    /// Bytes of the tiles that are kept.
+    /// Memory of the kept tiles in bytes.
     [[nodiscard]] qint64 bytes() const { return bytes_; }
 
     static constexpr int kTileWidth = 512;           ///< points
-    static constexpr qint64 kMostBytes = 12LL << 20; ///< the tiles of a window 2500 points wide at two pixels a point
+    static constexpr qint64 kMostBytes = 12LL << 20; ///< enough for a window 2500 points wide at two pixels per point
 
 private:
     struct Tile {
@@ -41,7 +41,7 @@ private:
 
     QSizeF size_;
     Draw draw_;
-    double scale_ = 0; ///< of the tiles, pixels a point
+    double scale_ = 0; ///< of the tiles, pixels per point
     std::map<int, Tile> tiles_;
     qint64 uses_ = 0;
     qint64 bytes_ = 0;

@@ -22,12 +22,12 @@ bool exists(const QString& path) {
     return info.exists() || info.isSymLink();
 }
 
-/// @return what went wrong; empty when nothing did
+/// @return the error; empty on success
 QString land(const QString& temporary, const Task& task, bool replace, QString& landed) {
     if (task.target.isEmpty())
         return u"no place for ringtones is known"_s;
     if (replace) {
-        // Renamed over the old file: at no moment is there none.
+        // Renames over the old file, so that a file exists at every moment.
         if (const QString why = Platform::FileManager::copy(temporary, task.target, true); !why.isEmpty())
             return u"%1: %2"_s.arg(task.target, why);
         (void)Platform::FileManager::removeFile(temporary);
@@ -62,7 +62,7 @@ Result write(ConverterAudioControl& converter, const Task& task, const std::func
         converter.setProgress({});
     }
     const auto createError = converter.exportError();
-    converter.closeExportFile(); // a copy that failed leaves it open
+    converter.closeExportFile(); // a failed copy leaves it open
     if (!stopped) {
         if (!created)
             result.problem = createError ? createError.text : u"%1 cannot be written"_s.arg(temporary);

@@ -39,7 +39,7 @@ RingtoneMakerViewController& RingtoneMakerViewController::shareController() {
     auto& controller = instance();
     if (!controller) {
         controller = std::make_unique<RingtoneMakerViewController>();
-        qAddPostRoutine([] { instance().reset(); }); // no window outlives the application
+        qAddPostRoutine([] { instance().reset(); }); // the window must not outlive the application
     }
     return *controller;
 }
@@ -71,7 +71,7 @@ RingtoneMakerViewController::RingtoneMakerViewController()
 RingtoneMakerViewController::~RingtoneMakerViewController() {
     stopWriting_ = true;
     outline_->stop();
-    window_.reset(); // first: a window that is still shown moves its focus as it goes, and the fields report that here
+    window_.reset(); // first: a visible window moves its focus while it is destroyed, and the fields report that here
 }
 
 void RingtoneMakerViewController::layViews() {
@@ -212,7 +212,7 @@ void RingtoneMakerViewController::showWindow(QWidget* owner) {
     window_->center();
     ui_->audioWaveTrimView->setFocus();
     window_->exec();
-    // The owner may be destroyed before this window, which is used again.
+    // The owner may be destroyed before this window, which is reused.
     if (above)
         window_->setParent(nullptr, window_->windowFlags());
 }
@@ -324,7 +324,7 @@ void RingtoneMakerViewController::setSoundPlaying(bool play, bool preview) {
     wantsSound_ = play && sound_;
     showProblem({});
     if (wantsSound_) {
-        // As the first tick would: nothing beside the selection is heard, and nothing too loud.
+        // Like the first tick: nothing outside the selection is played, and nothing too loud.
         if (isPreview_)
             updatePlaySoundPreviewCurrentTime();
         updatePlaySoundVolume();
@@ -381,7 +381,8 @@ void RingtoneMakerViewController::updatePlaySoundPreviewCurrentTime() {
     const double from = double(selection.audioFromTime());
     if (now < from || now > double(selection.audioToTime()))
         sound_->setCurrentTime(from);
-    // A selection that reaches to the end of the file: the sound has ended by itself before the time was beyond it.
+    // A selection that reaches to the end of the file: the player has stopped by itself before the time went beyond the
+    // selection.
     if (wantsSound_ && sound_->isStop() && envelopeTimer_.isActive()) {
         sound_->setCurrentTime(from);
         sound_->play();
@@ -394,8 +395,8 @@ void RingtoneMakerViewController::updatePlaySoundVolume() {
     if (!sound_)
         return;
     const AudioWaveTrimView& selection = *ui_->audioWaveTrimView;
-    // The player reaches the volume a little later: it is the one of that moment. Otherwise each fade is heard late,
-    // which is most of a decibel where it is quiet.
+    // A new volume takes effect after a delay, so compute the volume for that time. Otherwise each fade would be late,
+    // an error of almost a decibel where it is quiet.
     const double now = sound_->currentTime() + sound_->volumeDelay();
     double gain = 1;
     const auto fade = [&gain](bool enabled, double length, double distance) {
@@ -420,7 +421,7 @@ void RingtoneMakerViewController::updatePlaySoundCurrentTime() {
     if (sound_->isPlaying())
         ScrollTo::makeVisible(pointer, QRectF(pointer.rect()));
     else if (wantsSound_ && !isPreview_ && sound_->isStop())
-        stopPlay(); // the file came to its end
+        stopPlay(); // the file ended
 }
 
 void RingtoneMakerViewController::setFadeIn(float seconds) {

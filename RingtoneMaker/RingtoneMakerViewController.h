@@ -22,18 +22,18 @@ namespace Ui {
 class RingtoneMakerViewController;
 }
 
-/// What the ringtone maker needs of its owner.
+/// What the ringtone maker calls on its owner.
 class RingtoneMakerViewControllerDelegate {
 public:
     virtual ~RingtoneMakerViewControllerDelegate() = default;
-    /// Where the next ringtone is written; a null path: nowhere.
+    /// The path of the next ringtone; a null path when there is none.
     [[nodiscard]] virtual QString nextRingtoneMakerFilePath() { return {}; }
-    /// Takes a finished ringtone into the library.
+    /// Adds a finished ringtone to the library.
     virtual void addRingtoneFile(const QString& /*path*/, const Dictionary& /*tags*/) {}
 };
 
-/// The modal window that cuts a ringtone out of a recording: outline, selection, listening, writing. One instance for
-/// the whole program. Main thread; the outline is read and the ringtone written by threads of their own.
+/// The modal window that cuts a ringtone out of a recording: outline, selection, playback, writing. One instance for
+/// the whole program. Main thread; separate threads read the outline and write the ringtone.
 class RingtoneMakerViewController : public QObject, public RingtoneMakerViewDelegate {
     Q_OBJECT
     Q_PROPERTY(bool playSound READ playSound WRITE setPlaySound NOTIFY playSoundChanged)
@@ -45,10 +45,10 @@ class RingtoneMakerViewController : public QObject, public RingtoneMakerViewDele
     Q_PROPERTY(bool transferToITunes READ transferToITunes WRITE setTransferToITunes NOTIFY transferToITunesChanged)
     Q_PROPERTY(bool generatingWave READ generatingWave NOTIFY generatingWaveChanged)
 public:
-    /// Points of the window on a second of sound.
+    /// Points of the window per second of audio.
     static constexpr float kPointsPerSecond = 10;
 
-    /// The one instance, made at the first call; it goes with the QApplication.
+    /// The only instance, created by the first call and destroyed with the QApplication.
     static RingtoneMakerViewController& shareController();
     RingtoneMakerViewController();
     ~RingtoneMakerViewController() override;
@@ -57,21 +57,21 @@ public:
     void setDelegate(RingtoneMakerViewControllerDelegate* delegate) { delegate_ = delegate; }
     [[nodiscard]] EditDialog* window() const { return window_.get(); }
 
-    /// Loads a recording and its entry of the library, which is copied. What was open before is discarded.
+    /// Loads a recording and copies its library entry. What was open before is discarded.
     void openFile(const QString& path, const Dictionary& tag);
     /// Runs the window above @p owner; returns when it closes.
     void showWindow(QWidget* owner = nullptr);
-    /// The close box and Cancel. While a ringtone is written, writing stops first.
+    /// The close box and Cancel. A running write is stopped first.
     void closeWindow();
 
-    // ---- asked by the views
+    // ---- called by the views
     [[nodiscard]] float soundDuration() const override;
     [[nodiscard]] float audioPosition() const override;
-    /// Any length; inside the file.
+    /// Any length, limited to the file.
     void trimAudioFromPoint(QPointF from, QPointF to) override;
     void setAudioPosition(float x) override;
 
-    // ---- listening
+    // ---- playback
     [[nodiscard]] bool playSound() const;
     void setPlaySound(bool play);
     [[nodiscard]] bool previewSound() const;
@@ -92,7 +92,7 @@ public:
 
     [[nodiscard]] const Dictionary& audioTag() const { return audioTag_; }
     void setAudioTag(const Dictionary& tag) { audioTag_ = tag; }
-    /// Null while nothing is open.
+    /// Null while no file is open.
     [[nodiscard]] CustomSound* sound() const { return sound_.get(); }
     [[nodiscard]] bool generatingWave() const { return generatingWave_; }
     [[nodiscard]] bool isWriting() const { return writing_; }
@@ -113,7 +113,7 @@ Q_SIGNALS:
     void fadesChanged();
     void transferToITunesChanged();
     void generatingWaveChanged();
-    /// The sound moved.
+    /// The play position changed.
     void currentTimeChanged();
 
 protected:
@@ -143,10 +143,10 @@ private:
     Dictionary audioTag_;
     std::unique_ptr<CustomSound> sound_;
     bool isPreview_ = false;
-    bool wantsSound_ = false; ///< the user pressed play: a preview that reached the file's end begins again
+    bool wantsSound_ = false; ///< the user pressed play: when a preview reached the file's end, it starts again
     bool generatingWave_ = false;
     QTimer audioPlayUpdateTimer_;
-    QTimer envelopeTimer_; ///< between the ticks, while sound is heard: fades without steps, jumps on time
+    QTimer envelopeTimer_; ///< runs between the ticks while audio plays: fades without steps, jumps on time
     float fadeIn_ = RingtoneFile::kFadeSeconds;
     float fadeOut_ = RingtoneFile::kFadeSeconds;
     bool fadeInEnable_ = false;

@@ -75,7 +75,7 @@ RingtoneFile::Result RingtoneMakerViewController::writeOnWorker(const RingtoneFi
     });
     loop.exec();
     if (!done)
-        stopWriting_ = true; // the program is ending, which leaves every event loop at once
+        stopWriting_ = true; // the program is ending, which ends every event loop
     worker.join();
     return result;
 }

@@ -49,7 +49,7 @@ QMetaType AudioWaveTime2TimeStringTransformer::transformedValueClass() const {
 
 QVariant AudioWaveTime2TimeStringTransformer::transformedValue(const QVariant& value) const {
     const auto number = static_cast<float>(Platform::doubleValue(value));
-    // A time that no integer holds (a damaged file's length) shows as nothing rather than as any number.
+    // A time outside the range of an integer (from a damaged file) is shown as empty.
     const bool fits = std::isfinite(number) && std::fabs(number) < float(std::numeric_limits<int>::max());
     const int seconds = fits ? static_cast<int>(number) : 0;
     return QString::asprintf("%02d:%02d:%02d", seconds / 3600, seconds / 60 % 60, seconds % 60);

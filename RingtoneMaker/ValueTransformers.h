@@ -6,31 +6,31 @@
 #include <QString>
 #include <QVariant>
 
-/// Turns a value of a model into what a window shows, and back where that makes sense. Without state.
+/// Converts a model's value to what a window shows, and back where possible. Stateless.
 class ValueTransformer {
 public:
     virtual ~ValueTransformer() = default;
-    /// The class that transformedValue() is declared to give.
+    /// The declared result type of transformedValue().
     [[nodiscard]] virtual QMetaType transformedValueClass() const = 0;
     [[nodiscard]] virtual QVariant transformedValue(const QVariant& value) const = 0;
-    /// An invalid value where there is no way back.
+    /// An invalid value when there is no reverse conversion.
     [[nodiscard]] virtual QVariant reverseTransformedValue(const QVariant& value) const;
 
     /// The transformer whose class has this name; null when there is none. Lives as long as the program.
     [[nodiscard]] static const ValueTransformer* valueTransformerForName(const QString& name);
 };
 
-/// Gives every value back as it is.
+/// Returns every value unchanged.
 class CustomValueTransformer : public ValueTransformer {
 public:
     [[nodiscard]] QMetaType transformedValueClass() const override;
     [[nodiscard]] QVariant transformedValue(const QVariant& value) const override;
 };
 
-/// Seconds to "hh:mm:ss" and back; the hours grow without limit.
+/// Seconds to "hh:mm:ss" and back; the hours have no limit.
 class AudioWaveTime2TimeStringTransformer : public ValueTransformer {
 public:
-    /// A number: what the way back gives.
+    /// A number: the result of the reverse conversion.
     [[nodiscard]] QMetaType transformedValueClass() const override;
     [[nodiscard]] QVariant transformedValue(const QVariant& value) const override;
     [[nodiscard]] QVariant reverseTransformedValue(const QVariant& value) const override;
@@ -38,7 +38,7 @@ public:
     [[nodiscard]] static int stringToSecond(const QString& string);
 };
 
-/// The same mapping under a second name, for play times.
+/// The same conversion under a second name, for play times.
 class Time2PlayTimeStringTransformer : public AudioWaveTime2TimeStringTransformer {};
 
 /// A path to the file's name without folder and extension.
@@ -48,7 +48,7 @@ public:
     [[nodiscard]] QVariant transformedValue(const QVariant& value) const override;
 };
 
-/// A whole number divided by ten, cut off towards zero.
+/// A whole number divided by ten, truncated towards zero.
 class IntegerDiv10Transformer : public ValueTransformer {
 public:
     [[nodiscard]] QMetaType transformedValueClass() const override;

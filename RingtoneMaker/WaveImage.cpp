@@ -12,7 +12,7 @@ namespace WaveImage {
 
 namespace {
 
-/// The painter's coordinates end at 32767, less than an hour of sound: longer pictures are painted tile by tile.
+/// The painter's coordinates end at 32767, less than an hour of audio: longer images are painted tile by tile.
 constexpr int kTile = 8192;
 
 QImage drawOn(const QList<float>& values, const QColor& ground) {
