@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-//
-// The commands of the record state controller, and what each cycle of the engines asks of it.
+// The commands of the record state controller, and its work in each cycle of the engines.
 #include "Platform/Foundation/Clock.h"
 #include "Platform/Foundation/FileManager.h"
 #include "Platform/Foundation/Services.h"
@@ -124,8 +123,8 @@ void RecordStateController::clientRecievedComputerAudioData(float level) {
     d->followCycle(d->computer);
 }
 
-/// Once a cycle, on the I/O thread of the source. No frame is written after the limit, however late the main thread
-/// comes to stop.
+/// Called once per cycle on the source's I/O thread. No frame is written after the limit, however late the main thread
+/// stops the recording.
 void RecordStateController::Private::followCycle(RecordSource& source) {
     if (!source.writes())
         return;
@@ -143,7 +142,7 @@ bool RecordStateController::Private::isActive() const {
     return now == RecordState::Armed || now == RecordState::Recording || now == RecordState::Paused;
 }
 
-/// Nothing happens in any other state than @p from.
+/// Does nothing in any state other than @p from.
 void RecordStateController::Private::changeState(RecordState from, RecordState to) {
     state.compare_exchange_strong(from, to);
 }
@@ -158,7 +157,7 @@ void RecordStateController::Private::isRecordingFlushTheFace(bool recording) {
 
 void RecordStateController::Private::startRecord() {
     endWhatAStopLeft();
-    devices->setRecording(false); // handles devices that went while an armed wait was still recording
+    devices->setRecording(false); // handles devices that left while an armed wait was still recording
     // Before cycles are held: the search may take long on a slow share.
     const QString path = names.getAudioRecordPath(recordFolder());
     const CycleHold hold(sources);
@@ -189,32 +188,32 @@ void RecordStateController::Private::startRecord() {
         state = splitter.isWaitting() ? RecordState::Armed : RecordState::Recording;
         return;
     }
-    // Nothing may look like a recording.
+    // The window must not show a recording.
     names.giveBack(audioRecordPath_);
     notice(u"Nothing is being recorded: there is no source."_s);
 }
 
-/// A stop before the first sound: the wait goes on and keeps its name and its open file. A recording that never had a
+/// A stop before the first sound: the wait continues and keeps its name and its open file. A recording that never had a
 /// source gives its name back.
 void RecordStateController::Private::leaveUnheardRecording() {
     {
         const std::scoped_lock lock(mutex);
-        // Without the lock the first sound could begin the recording between the two questions.
+        // Without the lock the first sound could start the recording between the two checks.
         if (!splitter.isWaitting() && !anyEngineRecords())
             names.giveBack(audioRecordPath_);
     }
     setPaused(false);
 }
 
-/// A wait that a stop left running ends when its device goes: closing the engine also closes its file.
+/// A wait that Stop left running ends when its device leaves: closing the engine also closes its file.
 void RecordStateController::Private::forgetLeftWait() {
     const std::scoped_lock lock(mutex);
     if (!isActive() && !anyEngineRecords())
         forgetWait();
 }
 
-/// Gives the name of a wait back and deletes its raw file, which holds no frame. With the mutex locked, while no engine
-/// records.
+/// Gives the name of a wait back and deletes its raw file, which contains no frame. With the mutex locked, while no
+/// engine records.
 void RecordStateController::Private::forgetWait() {
     if (splitter.isWaitting()) {
         names.giveBack(audioRecordPath_);
@@ -224,9 +223,9 @@ void RecordStateController::Private::forgetWait() {
     splitter.clear();
 }
 
-/// Ends every recording, also one that the window does not show: a wait for sound that a stop has left may have become
-/// a recording like others. A wait without sound is forgotten. The first sound may come at any moment; it begins to be
-/// recorded under the mutex, so after this no wait is left that could begin to record.
+/// Ends every recording, including one that the window does not show: an armed wait that Stop left running may have
+/// started to record. A wait without sound is discarded. The first sound may come at any moment; recording starts under
+/// the mutex, so after this no wait is left that could start to record.
 void RecordStateController::Private::endWhatAStopLeft() {
     {
         const std::scoped_lock lock(mutex);
@@ -256,7 +255,7 @@ void RecordStateController::Private::resumeRecord() {
     setPaused(false);
 }
 
-/// A pause of an armed recording pauses nothing, but the buttons show it.
+/// Pausing an armed recording pauses nothing, but the buttons show it.
 void RecordStateController::Private::setPaused(bool paused) {
     if (paused)
         changeState(RecordState::Recording, RecordState::Paused);
@@ -269,8 +268,8 @@ bool RecordStateController::Private::anyEngineRecords() const {
     return builtIn.engine->recordStatus() != 0 || computer.engine->recordStatus() != 0;
 }
 
-/// Seconds in the files at hand: of the shorter one when both sources write. A source that is lost at present, or that
-/// has no frame yet, does not count beside one that delivers: it may never come. With the mutex locked.
+/// Seconds in the current files: of the shorter one when both sources write. A source whose device is lost, or that has
+/// no frame yet, does not count beside one that delivers: it may never deliver again. With the mutex locked.
 double RecordStateController::Private::secondsAtHand() const {
     std::optional<double> delivered;
     double standing = 0;

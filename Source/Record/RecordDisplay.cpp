@@ -14,7 +14,7 @@ QString twoDigits(std::int64_t number) {
 
 RecordDisplay RecordDisplay::of(int recordState, float seconds, bool blinkOn) {
     const auto whole = static_cast<std::int64_t>(seconds);
-    // Hours are not shown: the minutes begin anew after 59.
+    // Hours are not shown: the minutes restart after 59.
     const QString minutes = twoDigits(whole / 60 % 60);
     const QString minutesAndSeconds = minutes + u':' + twoDigits(whole % 60);
     switch (recordState) {

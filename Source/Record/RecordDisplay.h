@@ -4,17 +4,17 @@
 
 #include <QString>
 
-/// What the live display says about a recording.
+/// What the live display shows about a recording.
 struct RecordDisplay {
     QString stateString;
     QString timeString;
     Qt::GlobalColor stateColor = Qt::black;
 
-    /// @p recordState 0 stopped, 1 recording, 2 paused; @p seconds of the file at hand.
+    /// @p recordState 0 stopped, 1 recording, 2 paused; @p seconds of the current file.
     [[nodiscard]] static RecordDisplay of(int recordState, float seconds, bool blinkOn);
-    /// The phase of everything that blinks: changes every half second.
+    /// The phase of everything that blinks; it changes every half second.
     [[nodiscard]] static bool blinkOn(double timeIntervalSinceReferenceDate);
-    /// The notice that slides in while recordings are being finished.
+    /// The notice shown while recordings are being finished.
     [[nodiscard]] static QString convertingTip(bool blinkOn);
     friend bool operator==(const RecordDisplay&, const RecordDisplay&) = default;
 };

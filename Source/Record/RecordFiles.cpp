@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-//
-// The raw files of a recording: how they begin, are cut and end. Here it is decided which recordings the filter drops.
+// The raw files of a recording: how they begin, are cut and end. Decides which recordings the filter drops.
 #include "Platform/Foundation/FileManager.h"
 #include "Source/Record/CutOffRecordings.h"
 #include "Source/Record/RecordStateControllerPrivate.h"
@@ -14,7 +13,7 @@ using Platform::FileManager::removeFile;
 
 namespace {
 
-/// Nanoseconds that one of two devices may be behind the other at a cut.
+/// The most nanoseconds by which one of two devices may lag at a cut.
 constexpr std::uint64_t FurthestBehind = 250'000'000;
 
 } // namespace
@@ -41,7 +40,7 @@ QString RecordStateController::Private::rawPath(const RecordSource& source) {
     return g_strTmpPath + source.rawName + QString::number(recordNum) + u".m4a"_s;
 }
 
-/// Opens the next raw file of a source and, with @p record, begins to write to it.
+/// Opens the next raw file of a source and, with @p record, starts to write to it.
 void RecordStateController::Private::beginFile(RecordSource& source, bool record) {
     source.hasFile = false;
     source.heard = false;
@@ -61,8 +60,8 @@ void RecordStateController::Private::beginFile(RecordSource& source, bool record
         source.engine->startRecordAudio();
 }
 
-/// The files at hand as a job, and how each of them ends. The filter does not measure a source whose device was lost
-/// during the recording, or that never gave a frame: what the others gave becomes the recording.
+/// The current files as a job, and how each of them ends. The filter does not measure a source whose device was lost
+/// during the recording, or that never delivered a frame: the audio of the other source becomes the recording.
 RecordStateController::Private::Ending RecordStateController::Private::describeEnding() {
     const RecordFilter filter = RecordFilter::read(*preferences);
     const bool anyHeard = std::ranges::any_of(
@@ -98,7 +97,7 @@ RecordStateController::Private::Ending RecordStateController::Private::describeE
     return ending;
 }
 
-/// What happens when the file's own thread has closed it.
+/// The callback for when the file's own thread has closed it.
 std::function<void(QString, OSStatus)> RecordStateController::Private::whenClosed(const std::shared_ptr<ExportJob>& job,
                                                                                   bool remove) {
     ++job->openFiles;
@@ -133,7 +132,8 @@ void RecordStateController::Private::stopRecord() {
     endFiles(ending, lock);
 }
 
-/// Hands the job on, or forgets it when the filter drops it. The mutex is released first: the queue emits signals.
+/// Passes the job to the queue, or drops it when the filter says so. The mutex is released first: the queue emits
+/// signals.
 void RecordStateController::Private::endFiles(const Ending& ending, std::unique_lock<std::mutex>& lock) {
     lock.unlock();
     setPaused(false);
@@ -149,8 +149,8 @@ void RecordStateController::Private::endFiles(const Ending& ending, std::unique_
     queue->append(ending.job);
 }
 
-/// Ends the files at hand and goes on in new ones. No cycle is under way meanwhile, but for the caller's own when a
-/// silence cuts.
+/// Ends the current files and continues in new ones. No cycle runs meanwhile, except the caller's own when a silence
+/// cuts.
 void RecordStateController::Private::cut(bool automatic) {
     const CycleHold hold(sources);
     std::unique_lock lock(mutex);
@@ -195,8 +195,8 @@ void RecordStateController::Private::cut(bool automatic) {
     endFiles(ending, lock);
 }
 
-/// The name of the part that begins. A cut runs on an I/O thread as well, which must not wait for a folder on a slow
-/// share: it takes the next number, and a worker then looks for the first free one.
+/// Names the new part. A cut also runs on an I/O thread, which must not wait for a folder on a slow share: it takes the
+/// next number, and a worker then looks for the first free one.
 void RecordStateController::Private::nameNextFile() {
     const QString folder = recordFolder();
     const QString atOnce = names.nextAudioRecordPath(folder);
@@ -214,8 +214,8 @@ void RecordStateController::Private::nameNextFile() {
     });
 }
 
-/// The capture time that the device ahead of the other has reached. 0 when not both write, or when one device stands
-/// still: its next frames will be from a later time.
+/// The capture time that the faster device has reached. 0 when not both write, or when one device delivers nothing: its
+/// next frames will be from a later time.
 std::uint64_t RecordStateController::Private::commonTime() const {
     if (!builtIn.writes() || !computer.writes())
         return 0;
@@ -226,8 +226,8 @@ std::uint64_t RecordStateController::Private::commonTime() const {
     return behind != 0 && ahead - behind < FurthestBehind ? ahead : 0;
 }
 
-/// Cycles of two devices do not end together: the first frames that the device behind gives after the cut still belong
-/// to its old file.
+/// The cycles of two devices do not end together: the first frames of the slower device after the cut still belong to
+/// its old file.
 void RecordStateController::Private::alignCut() {
     const std::uint64_t cutTime = commonTime();
     for (RecordSource& source : sources) {
@@ -238,8 +238,8 @@ void RecordStateController::Private::alignCut() {
     }
 }
 
-/// Gives every writing engine its next raw file. When a file cannot be made, that source goes on in its old file, which
-/// then belongs to the next job. When the first one cannot be made, nothing is cut: the answer is false.
+/// Gives every writing engine its next raw file. When a file cannot be created, that source continues in its old file,
+/// which then belongs to the next job. When the first one cannot be created, nothing is cut and the result is false.
 bool RecordStateController::Private::exchangeFiles(Ending& ending) {
     bool exchanged = false;
     for (std::size_t i = 0; i < sources.size(); ++i) {
@@ -264,7 +264,7 @@ bool RecordStateController::Private::exchangeFiles(Ending& ending) {
     return true;
 }
 
-/// A cut before the first sound: the wait goes on with a new file and name.
+/// A cut before the first sound: the wait continues with a new file and name.
 void RecordStateController::Private::armAnew() {
     const QString unused = computer.engine->outPutFilePath();
     names.giveBack(audioRecordPath_);

@@ -23,11 +23,11 @@ using Platform::MediaError;
 
 namespace {
 
-/// Bytes of the mix for each second: 44100 frames of two 32-bit samples, and a little for the header.
+/// Bytes of the mix per second: 44100 frames of two 32-bit samples, and some space for the header.
 constexpr double MixBytesPerSecond = 353000;
 /// Share of a two-source job's work that is the mixing; the rest is encoding.
 constexpr double MixShare = 0.3;
-/// Clocks of real devices differ by some hundred parts in a million. More is a measurement that went wrong.
+/// Clocks of real devices differ by some hundred parts per million. A larger value is a failed measurement.
 constexpr double LargestDrift = 2e-3;
 
 /// The error text of a failed step without its trailing full stop, so that it fits into a sentence.
@@ -35,14 +35,14 @@ QString reason(const MediaError& error) {
     return error.text.isEmpty() ? u"the reason is unknown"_s : error.text;
 }
 
-/// Deletes a file whose sound another file holds by now.
+/// Deletes a file whose audio is in another file by now.
 void removeTemporaryFile(const QString& path) {
     CutOffRecordings::remove(path);
     if (const auto problem = Platform::FileManager::removeFile(path); !problem.isEmpty())
         qWarning("%s stays in the temporary folder: %s", qUtf8Printable(path), qUtf8Printable(problem));
 }
 
-/// Where files were kept, for a sentence.
+/// A list of the places where files were kept, for a message.
 QString places(const QStringList& kept) {
     const QString folder = Platform::FileManager::unfinishedFolder();
     QString text = kept.join(u" and "_s);
@@ -78,7 +78,7 @@ RecordQueue::RecordQueue(Owner owner, QObject* parent)
 RecordQueue::~RecordQueue() {
     cancelled_ = true;
     worker_.waitForDone();
-    self_.reset(); // after the worker: its step may copy self_
+    self_.reset(); // after the worker: a running step may copy self_
     for (const auto& job : aryForExportDataInfo_) {
         const QString name = QFileInfo(job->path(ExportJob::OutPutPath)).completeBaseName();
         for (const auto& key :
@@ -178,7 +178,7 @@ void RecordQueue::moveRawFile(const std::shared_ptr<ExportJob>& job, const QStri
         tagFile(*job);
 }
 
-/// Moves the finished file to its final name, or to the next free one when another file has come to stand there.
+/// Moves the finished file to its final name, or to the next free one when another file has that name by now.
 bool RecordQueue::deliver(const std::shared_ptr<ExportJob>& job, const QString& file) {
     const QString wished = job->path(ExportJob::OutPutPath);
     QString landed;
@@ -221,7 +221,7 @@ void RecordQueue::openMovies(const std::shared_ptr<ExportJob>& job) {
         return;
     }
     if (!first || !second) {
-        // One raw file cannot be read: the other one becomes the recording, and the bad one is kept.
+        // One raw file cannot be read: the other one becomes the recording, and the unreadable one is kept.
         const QString bad = first ? raws.at(1) : raws.at(0);
         const QString good = first ? raws.at(0) : raws.at(1);
         if (QFileInfo(bad).size() > 0) {
@@ -284,7 +284,7 @@ void RecordQueue::startConverterAudio(const std::shared_ptr<ExportJob>& job) {
 }
 
 void RecordQueue::converterAudio(const std::shared_ptr<ExportJob>& job) {
-    // The WAVE is whole, so the raw files are not needed any more. keepDamaged() may have taken them out of the job.
+    // The WAVE is complete, so the raw files are not needed any more. keepDamaged() may have removed them from the job.
     for (const auto& key : {ExportJob::BuiltInAudioTempPath, ExportJob::ComputerAudioTempPath})
         if (const QString raw = job->path(key); !raw.isEmpty())
             removeTemporaryFile(raw);
@@ -318,7 +318,7 @@ void RecordQueue::converterAudio(const std::shared_ptr<ExportJob>& job) {
         tagFile(*job);
 }
 
-/// Brings files of a job to safety. @return where each one is now
+/// Moves the files of a job to a safe place. @return where each one is now
 QStringList RecordQueue::keepFiles(const ExportJob& job, const QStringList& files) {
     const QString wished = job.path(ExportJob::OutPutPath);
     QStringList kept;
@@ -339,7 +339,7 @@ QStringList RecordQueue::keepFiles(const ExportJob& job, const QStringList& file
     return kept;
 }
 
-/// Keeps the files under these keys, of which a part could not be read. The job goes on with what could.
+/// Keeps the files under these keys, which could not be read completely. The job continues with the readable parts.
 void RecordQueue::keepDamaged(ExportJob& job, const QStringList& keys, const MediaError& damage) {
     QStringList files;
     for (const QString& key : keys)

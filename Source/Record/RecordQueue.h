@@ -17,27 +17,27 @@
 #include <memory>
 #include <mutex>
 
-/// One finished recording that waits to become a tagged file: its raw files and what is known about them.
+/// One finished recording that waits to become a tagged file: its raw files and their timing.
 struct ExportJob {
     static inline const QString OutPutPath = QStringLiteral("OutPutPath");
     static inline const QString BuiltInAudioTempPath = QStringLiteral("BuiltInAudioTempPath");
     static inline const QString ComputerAudioTempPath = QStringLiteral("ComputerAudioTempPath");
     static inline const QString OutPutWAVTempPath = QStringLiteral("OutPutWAVTempPath");
 
-    Dictionary paths; ///< under the keys above; a source that was off has none
-    /// Where the raw file of a source stands in time.
+    Dictionary paths; ///< under the keys above; a source that was off has no file
+    /// The capture timing of a source's raw file.
     struct SourceTiming {
         BuildInAudioRecord::CaptureSpan span;
         double sampleRate = 0; ///< Hz
     };
     std::array<SourceTiming, 2> timings; ///< of the input device and of computer audio
-    /// A full disk or a lost device ended it: the filter does not measure what the user did not make short.
+    /// A full disk or a lost device ended it: the filter does not apply, because the user did not make it short.
     bool isKeptHoweverShort = false;
     std::atomic<int> openFiles{0}; ///< raw files that are still being closed; the job starts when there are none
 
     [[nodiscard]] QString path(const QString& key) const { return paths.value(key).toString(); }
-    /// How the computer-audio recording lies over the other one: how much later each begins, and how fast the former
-    /// must play because the clocks of the two devices differ.
+    /// How the computer-audio recording is aligned with the other one: how much later each starts, and the speed of the
+    /// former that compensates the different clocks of the two devices.
     struct Timing {
         double builtInOffset = 0;
         double computerOffset = 0;
@@ -56,7 +56,7 @@ public:
     /// What the queue needs from its owner. All but addRecordFile, which is for the main thread, are called on a
     /// worker; releaseName on both.
     struct Owner {
-        /// Reserves the next free name for a recording whose own name is taken by now.
+        /// Reserves the next free name for a recording whose own name was taken by another file.
         std::function<QString()> nextFreeName;
         std::function<void(const QString& path)> releaseName;
         std::function<void(const QString& path, const Dictionary& tags)> addRecordFile;
@@ -69,30 +69,30 @@ public:
 
     /// Any thread.
     void append(std::shared_ptr<ExportJob> job);
-    /// Reports that one raw file of the job is closed, and the first error that writing it met. Any thread. A writer
-    /// may call this after the queue is destroyed: the guard, taken while the queue lives, then makes it do nothing.
+    /// Reports that one raw file of the job is closed, and its first write error. Any thread. A writer may call this
+    /// after the queue is destroyed: the guard, obtained while the queue lives, then makes it do nothing.
     using Guard = std::weak_ptr<RecordQueue*>;
     [[nodiscard]] Guard guard() const { return self_; }
     static void rawFileClosed(const Guard& guard, const std::shared_ptr<ExportJob>& job, const QString& path,
                               OSStatus status);
 
-    /// Jobs that wait or are worked on.
+    /// Jobs that wait or are running.
     [[nodiscard]] int count() const;
-    /// Of the job at hand, 0 to 1; below 0 when there is none.
+    /// Progress of the current job, 0 to 1; negative when there is none.
     [[nodiscard]] double progress() const;
-    /// The tags that a new recording begins with.
+    /// The initial tags of a new recording.
     [[nodiscard]] static Dictionary initID3BasicInfoDic();
 
     // The steps of a job.
     void converterTherecordAudio();
-    /// Lays @p audio over @p movie; a missing movie takes the other's place. False when there is nothing to lay over.
+    /// Mixes @p audio into @p movie; a missing movie is replaced by the audio. False when there is no audio.
     static bool addAudioIntoMove(std::unique_ptr<Platform::Movie>& movie, std::unique_ptr<Platform::Movie> audio);
 
 Q_SIGNALS:
     void queueChanged();
-    /// A job came to its end. @p entry is empty when the filter kept it out of the library.
+    /// A job is done. @p entry is empty when the filter kept the recording out of the library.
     void recordingFinished(const QString& path, const Dictionary& entry);
-    /// A job could not be finished; its files were kept at @p kept.
+    /// A job failed; its files are now at @p kept.
     void recordingSetAside(const QString& path, const QStringList& kept);
     void noticed(const QString& text);
 
@@ -120,10 +120,10 @@ private:
     mutable std::mutex mutex_; ///< guards the list
     std::deque<std::shared_ptr<ExportJob>> aryForExportDataInfo_;
     bool isConverterTherecordAudio_ = false;
-    bool working_ = false; ///< the first job's raw files are closed and a step of it is under way
+    bool working_ = false; ///< the first job's raw files are closed and one of its steps is running
     std::atomic<double> progress_{-1};
     std::atomic<bool> cancelled_{false};
     std::unique_ptr<Platform::Movie> qtMovieForRecord_;
     ConverterAudioControl converterAudioControl_;
-    QThreadPool worker_; ///< destroyed first: waits for the step at hand
+    QThreadPool worker_; ///< destroyed first: waits for the running step
 };

@@ -51,7 +51,7 @@ void RecordSources::awakeFromNib() {
         if (nameOf(aryInputAudioDevice_.at(i)) != ComputerAudioName)
             continue;
         adoptComputerAudio(idOf(aryInputAudioDevice_.at(i)));
-        // The entry that moves into this place is skipped: there is only one such device.
+        // The entry that moves into this position is skipped: there is only one such device.
         aryInputAudioDevice_.removeAt(i);
     }
     selected_ = aryInputAudioDevice_.isEmpty() ? -1 : 0;
@@ -61,7 +61,7 @@ void RecordSources::awakeFromNib() {
 
     if (auto* hardware = Platform::services().audioHardware) {
         connect(hardware, &Platform::AudioHardware::devicesChanged, this, &RecordSources::followDevices);
-        // The driver does not follow the default output by itself. Steer it again, also during a recording.
+        // The driver does not follow the default output by itself. Select the new output, also during a recording.
         connect(hardware, &Platform::AudioHardware::defaultOutputDeviceChanged, this, [this] {
             if (computerAudioDeviceID_ != 0 && computerAudioRecord_.records(computerAudioDeviceID_))
                 CaptureComputerAudio::startCaptureComputerAudio();
@@ -81,7 +81,7 @@ void RecordSources::adoptComputerAudio(AudioObjectID device) {
     if (records)
         CaptureComputerAudio::startCaptureComputerAudio();
     if (records && CaptureComputerAudio::captureComputerAudioIsUSBDevice()) {
-        // A dialog turns the event loop. Inside a device event, that would handle the next event within this one.
+        // A dialog runs the event loop. Inside a device event, that would handle the next event within this one.
         if (followsDeviceEvent_)
             Platform::MainQueue::post(this, warnOfUsbHeadset);
         else
@@ -107,7 +107,8 @@ void RecordSources::configAudioDevice(int index) {
 }
 
 void RecordSources::bindChosen() {
-    // A cut of the computer-audio recording uses the units of both engines, and may come while the window shows none.
+    // A cut of the computer-audio recording uses the units of both engines, and may happen while the window shows no
+    // recording.
     const HeldCycles held(computerAudioRecord_);
     const QVariant device = aryInputAudioDevice_.at(selected_);
     boundDevice_ = idOf(device);
@@ -129,7 +130,7 @@ void RecordSources::bind(BuildInAudioRecord& engine, AudioObjectID device, const
         unopened_.removeAll(device);
         return;
     }
-    // A device that has just come may not be ready, and nothing tells when it is.
+    // A device that just appeared may not be ready, and no event says when it is.
     retry_.start();
     if (unopened_.contains(device))
         return;
@@ -182,7 +183,8 @@ void RecordSources::followDevices() {
 
     if (computerAudio != computerAudioDeviceID_) {
         if (computerAudioRecord_.recordStatus() != 0) {
-            changedMeanwhile_ = true; // an armed wait that a stop left running records: keep its device until it ends
+            changedMeanwhile_ =
+                true; // an armed wait that Stop left running is recording: keep its device until it ends
         } else if (computerAudio != 0) {
             adoptComputerAudio(computerAudio);
         } else {

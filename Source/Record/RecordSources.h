@@ -10,27 +10,27 @@
 #include <QVariantList>
 
 /// The devices behind the two recorder engines: the list to choose an input device from, and the computer-audio device.
-/// The list follows the machine while nothing is recorded. Main thread.
+/// The list is updated while nothing is recorded. Main thread.
 class RecordSources : public QObject {
     Q_OBJECT
 public:
-    /// The name under which the capture driver shows its device.
+    /// The device name of the capture driver.
     static inline const QString ComputerAudioName = QStringLiteral("Korvane System Audio");
 
-    /// The engines are not owned and outlive this object.
+    /// The engines are not owned and must outlive this object.
     RecordSources(BuildInAudioRecord& buildInAudioRecord, BuildInAudioRecord& computerAudioRecord,
                   QObject* parent = nullptr);
 
-    /// Walks the devices for the first time: takes the computer-audio device out of the list, binds both engines.
+    /// Lists the devices for the first time: removes the computer-audio device from the list and binds both engines.
     void awakeFromNib();
-    /// Chooses an entry of the list, as a pop-up does, and binds the input engine to it.
+    /// Chooses an entry of the list, like the pop-up button, and binds the input engine to it.
     void chooseBuiltInDevice(int index);
     /// Binds the input engine to the chosen entry. @p index is only checked for its range.
     void configAudioDevice(int index);
     void configComputerRecordAudioDevice();
     /// Looks for the computer-audio device again. The input list does not change.
     void findComputerAudioDevice();
-    /// The list does not change during a recording. Devices that came or went meanwhile are handled at its end.
+    /// The list does not change during a recording. Devices that appeared or left meanwhile are handled at its end.
     void setRecording(bool recording);
 
     [[nodiscard]] QStringList deviceNames() const;
@@ -41,9 +41,9 @@ public:
 
 Q_SIGNALS:
     void devicesChanged();
-    /// The computer-audio device came or went.
+    /// The computer-audio device appeared or left.
     void computerAudioDeviceChanged();
-    /// For the user, in plain words.
+    /// A message for the user.
     void noticed(const QString& text);
 
 private:
@@ -57,13 +57,13 @@ private:
     BuildInAudioRecord& computerAudioRecord_;
     QVariantList aryInputAudioDevice_; ///< without the computer-audio device
     AudioObjectID computerAudioDeviceID_ = 0;
-    AudioObjectID chosenDevice_ = 0; ///< stays while the device is away, so that it is chosen again
-    AudioObjectID boundDevice_ = 0;  ///< the one that the input engine is on
+    AudioObjectID chosenDevice_ = 0; ///< kept while the device is away, so that it is chosen again
+    AudioObjectID boundDevice_ = 0;  ///< the device of the input engine
     int selected_ = -1;
-    QTimer retry_;                  ///< a device that cannot be opened is tried again until it can
-    QList<AudioObjectID> unopened_; ///< of which the user knows that they cannot be opened
+    QTimer retry_;                  ///< retries a device that cannot be opened
+    QList<AudioObjectID> unopened_; ///< devices for which the user was already informed
     bool recording_ = false;
-    bool walking_ = false; ///< an alert may spin the event loop in the midst of a walk
+    bool walking_ = false; ///< an alert may run the event loop while the devices are being listed
     bool followsDeviceEvent_ = false;
     bool changedMeanwhile_ = false;
 };

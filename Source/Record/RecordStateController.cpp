@@ -63,7 +63,7 @@ RecordStateController::RecordStateController(EngineFactory factory, QObject* par
 
 RecordStateController::~RecordStateController() {
     d->devices.reset();
-    // What is still being recorded joins the queue; what waits in the queue is set aside when it ends.
+    // Recordings that still run are added to the queue; when the queue ends, it sets its waiting jobs aside.
     d->endWhatAStopLeft();
     {
         // A cut on the computer-audio engine's I/O thread holds the cycles of the other one, and so uses its unit.
@@ -71,7 +71,7 @@ RecordStateController::~RecordStateController() {
         d->builtIn.engine->cleanUp();
     }
     d->computer.engine->cleanUp();
-    // Cycles use the engines through these pointers: all of them have ended by now.
+    // Cycles use the engines through these pointers: all cycles have ended by now.
     for (RecordSource& source : d->sources)
         source.engine.reset();
     d->queue.reset();
@@ -366,7 +366,7 @@ void RecordStateController::Private::changed() {
     });
 }
 
-/// The machine must not sleep while an engine records, whatever the buttons show, nor while a wait for sound is on.
+/// The machine must not sleep while an engine records, whatever the buttons show, nor during an armed wait.
 void RecordStateController::Private::keepAwake() {
     if (auto* inhibitor = Platform::services().sleepInhibitor)
         inhibitor->setInhibited(isActive() || anyEngineRecords(), tr("A recording is running."));
@@ -392,7 +392,7 @@ void RecordStateController::Private::notice(const QString& text, const QString& 
 void RecordStateController::Private::deviceEvent(Platform::InputUnit::Event event, RecordSource& source) {
     using Event = Platform::InputUnit::Event;
     const bool isLoss = event == Event::DeviceLost || event == Event::ServerLost;
-    // The level of the last cycle would stand for as long as none follows.
+    // The last level would stay visible for as long as no cycle follows.
     if (isLoss || event == Event::NothingComes)
         (&source == &builtIn ? builtInLevelValue_ : computerLevelValue_) = 0;
     if (!isLoss && event != Event::DeviceReturned && event != Event::ServerReturned)

@@ -12,33 +12,33 @@
 #include <functional>
 #include <memory>
 
-/// What the user's recording does. Armed waits for the first sound of computer audio; Finishing turns the last raw
+/// The state of the user's recording. Armed waits for the first sound of computer audio; Finishing turns the last raw
 /// files into recordings while the program ends.
 enum class RecordState { Idle, Armed, Recording, Paused, Finishing };
 
-/// What the controller needs from the program around it. All calls come on the main thread.
+/// What the controller calls on the program around it. All calls are made on the main thread.
 class RecordStateControllerDelegate {
 public:
     virtual ~RecordStateControllerDelegate() = default;
     virtual void stopSoundPlaying() {}
     virtual void setTabViewShowWave(bool /*show*/) {}
     virtual void updateRecordStateAction() {}
-    /// The default makes the entry (identity, path) and puts it into the shared library.
+    /// The default creates the entry (identity, path) and adds it to the shared library.
     virtual void addRecordFile(const QString& path, const Dictionary& tags);
     /// The user accepted the add-on prompt.
     virtual void insertTheSystemAudioRecordDevice() {}
-    /// The user closed the window while nothing records.
+    /// The user closed the window while nothing is recorded.
     virtual void terminate() {}
 };
 
 /// The recording side of the main window without the window: two engines, start, stop, pause, split, the display's
 /// clock, and the queue that turns raw files into tagged recordings of the library. A window binds to its properties.
 ///
-/// Main thread only, except for the level callbacks: they come on I/O threads, start an armed recording and split at
+/// Main thread only, except for the level callbacks: they run on I/O threads, start an armed recording and split at
 /// silences.
 class RecordStateController : public QObject, public BuildInAudioRecordDelegate {
     Q_OBJECT
-    // One property for each thing that a window shows. The notify signals come on the main thread.
+    // One property for each value that a window shows. The notify signals are emitted on the main thread.
     Q_PROPERTY(bool startEnabled READ isStateAudioCanStartRecord NOTIFY stateChanged)
     Q_PROPERTY(bool pauseEnabled READ isStateAudioRecord NOTIFY stateChanged)
     Q_PROPERTY(bool splitEnabled READ splitEnabled NOTIFY stateChanged)
@@ -59,7 +59,7 @@ class RecordStateController : public QObject, public BuildInAudioRecordDelegate 
     Q_PROPERTY(int selectedDevice READ selectedDevice NOTIFY devicesChanged)
 
 public:
-    /// Makes an engine; tests hand in their own.
+    /// Creates an engine; tests supply their own.
     using EngineFactory = std::function<std::unique_ptr<BuildInAudioRecord>()>;
 
     explicit RecordStateController(EngineFactory factory = {}, QObject* parent = nullptr);
@@ -75,23 +75,23 @@ public:
     // The commands.
     void startAndStopRecord();
     void pauseAndResumeRecord();
-    /// Closes and queues the file in progress and goes on in a new one without a gap. Nothing happens while nothing
-    /// records.
+    /// Closes and queues the current file and continues in a new one without a gap. Does nothing when nothing is
+    /// recorded.
     void splitTheRecord();
     void chooseRecordBuiltIn(bool on);
     void chooseRecordComputerAudio(bool on);
     void chooseBuiltInDevice(int index);
-    /// Shows the stored choices again, as far as their devices are there.
+    /// Shows the stored choices again, if their devices exist.
     void refreshTheFace();
-    /// Always false: the window never closes. Ends the program when nothing records, else shows an alert.
+    /// Always false: the window never closes. Ends the program when nothing is recorded, else shows an alert.
     bool windowShouldClose();
 
-    /// One tick of the display's clock: 0.5 s. The clock runs from awakeFromNib() on; tests stop it and tick.
+    /// One tick of the display's clock: 0.5 s. The clock runs from awakeFromNib() on; tests stop it and call this.
     void recordFlushTime();
     void setDisplayClockRunning(bool running);
 
     // The state.
-    /// As the buttons show it. A wait for sound that a stop has left may record while this is Idle: recordState_()
+    /// As shown by the buttons. An armed wait that Stop left running may record while this is Idle: recordState_()
     /// tells.
     [[nodiscard]] RecordState state() const;
     /// Status of the engine of the checked source: 0 stopped, 1 recording, 2 paused.
@@ -117,48 +117,49 @@ public:
     [[nodiscard]] QString stateString() const;
     [[nodiscard]] QString timeString() const;
     [[nodiscard]] Qt::GlobalColor stateColor() const;
-    /// Text of the converting notice in its blink phase; empty until the first tick.
+    /// Text of the converting notice in its current blink phase; empty until the first tick.
     [[nodiscard]] QString fileConvertTip() const;
-    /// Seconds of the current file as the clock counts them.
+    /// Seconds of the current file, counted by the clock.
     [[nodiscard]] float fRecordTime() const;
     /// Whether a computer-audio recording waits for its first sound.
     [[nodiscard]] bool isWaittingForSound() const;
     [[nodiscard]] QStringList deviceNames() const;
     [[nodiscard]] int selectedDevice() const;
-    /// Jobs that wait or are being worked on; the converting notice shows while it is not 0.
+    /// Jobs that wait or are running; the converting notice is shown while it is not 0.
     [[nodiscard]] int jobsInQueue() const;
-    /// Share of the job at hand, 0 to 1; below 0 when there is none.
+    /// Progress of the current job, 0 to 1; negative when there is none.
     [[nodiscard]] double jobProgress() const;
     /// Seconds of frames written since the start, over all files of splits; with two sources, of the shorter one. A
     /// source whose device is lost does not count beside one that delivers.
     [[nodiscard]] double recordedSeconds() const;
-    /// Ends the writing of each source with the cycle in which it reaches this many seconds since the start, over all
-    /// files of splits: never fewer, and no cycle more. 0 is no limit. Before a start; holds until it is changed.
+    /// Stops writing each source with the cycle in which it reaches this many seconds since the start, over all files
+    /// of splits: never fewer, and at most one cycle more. 0 means no limit. Call it before a start; it applies until
+    /// it is changed.
     void setRecordLimit(double seconds);
-    /// Whether a source has a raw file to write to. Also true while it waits for its first sound.
+    /// Whether a source has a raw file. Also true while it waits for its first sound.
     [[nodiscard]] bool hasFile() const;
     /// Why the current files cannot be written any more; empty while they can.
     [[nodiscard]] QString writeProblem() const;
-    /// The place of a device in the list, -1 when it is not there.
+    /// The index of a device in the list, -1 when it is not there.
     [[nodiscard]] int indexOfDevice(AudioObjectID device) const;
-    /// Whether the computer-audio device is there.
+    /// Whether the computer-audio device exists.
     [[nodiscard]] bool hasComputerAudioDevice() const;
-    /// Recordings that the filter has thrown away in this process.
+    /// The number of recordings that the filter has dropped in this process.
     [[nodiscard]] int droppedRecordings() const;
     /// Frames lost in the current recording, or in the last one: both sources, over all files of splits.
     [[nodiscard]] std::uint64_t lostFrames() const;
-    /// What the user should know, in plain words, newest last: lost frames, a device that went away, a source that is
-    /// off, a disk that fills up, where an unfinished recording was kept.
+    /// Messages for the user, newest last: lost frames, a device that left, a source that is off, a disk that fills up,
+    /// where an unfinished recording was kept.
     [[nodiscard]] QStringList notices() const;
     void dismissNotices();
-    /// Ends a running recording and waits until all queued jobs are done or set aside (quitting, signals).
+    /// Ends a running recording and waits until all queued jobs are done or set aside (at quit or a signal).
     void finishAll();
 
     /// The next free name for a recording in the stored folder, reserved until its job is done. Any thread.
     [[nodiscard]] QString getAudioRecordPath();
     /// The first free name for a ringtone in the stored folder; not reserved.
     [[nodiscard]] QString nextRingtoneMakerFilePath();
-    /// The tags that a new recording begins with.
+    /// The initial tags of a new recording.
     [[nodiscard]] static Dictionary initID3BasicInfoDic();
 
     // Engine callbacks (I/O threads).
@@ -171,7 +172,7 @@ Q_SIGNALS:
     void devicesChanged();
     void queueChanged();
     void noticesChanged();
-    /// A finished recording reached the library (or was kept out by the filter: then @p entry is empty).
+    /// A finished recording was added to the library (or dropped by the filter: then @p entry is empty).
     void recordingFinished(const QString& path, const Dictionary& entry);
     /// A recording could not be finished and was kept elsewhere.
     void recordingSetAside(const QString& path, const QStringList& kept);

@@ -15,28 +15,28 @@
 #include <array>
 #include <mutex>
 
-/// One of the two things that can be recorded, with its engine.
+/// One of the two sources of a recording, with its engine.
 struct RecordSource {
     std::unique_ptr<BuildInAudioRecord> engine;
-    QString label;                    ///< for people
-    QString rawName;                  ///< of the raw files; the number and the ending follow
-    QString jobKey;                   ///< under which a job carries the raw file
-    std::atomic<bool> checked{false}; ///< the check box
-    std::atomic<bool> off{false};     ///< its engine did not start: this recording goes without it
-    std::atomic<bool> hasFile{false}; ///< the engine has a raw file to write to
-    std::atomic<bool> heard{false};   ///< the raw file holds at least one frame
-    std::int64_t framesBefore = 0;    ///< frames to come that still belong to the file of before a cut
-    bool away = false;                ///< the device or the server is lost at present; guarded by the mutex
-    bool wasAway = false;             ///< it was lost while the file at hand was recorded; guarded by the mutex
+    QString label;                    ///< for the user
+    QString rawName;                  ///< of the raw files; the number and the extension follow
+    QString jobKey;                   ///< key of the raw file in a job
+    std::atomic<bool> checked{false}; ///< state of the check box
+    std::atomic<bool> off{false};     ///< its engine did not start: this recording is made without it
+    std::atomic<bool> hasFile{false}; ///< the engine has a raw file
+    std::atomic<bool> heard{false};   ///< the raw file contains at least one frame
+    std::int64_t framesBefore = 0;    ///< frames to come that still belong to the file before a cut
+    bool away = false;                ///< the device or the server is lost now; guarded by the mutex
+    bool wasAway = false;             ///< it was lost during the current file; guarded by the mutex
 
     [[nodiscard]] bool takesPart() const { return checked && !off; }
-    /// Whether the engine records or is paused, and has a file.
+    /// Whether the engine is recording or paused, and has a file.
     [[nodiscard]] bool writes() const { return hasFile && engine->recordStatus() != 0; }
-    /// Of the file at hand.
+    /// Length of the current file.
     [[nodiscard]] double seconds() const;
 };
 
-/// What a recording lacks.
+/// The frames that a recording lost.
 struct RecordLosses {
     std::uint64_t frames = 0;
     double seconds = 0;
@@ -45,7 +45,7 @@ struct RecordLosses {
 struct RecordStateController::Private {
     explicit Private(RecordStateController* controller) : q(controller) {}
 
-    /// Numbers the raw files; never begins anew in a process. Changed under a controller's mutex.
+    /// Numbers the raw files; never restarts in a process. Changed under a controller's mutex.
     static inline std::atomic<int> recordNum{0};
 
     RecordStateController* q;
@@ -70,13 +70,13 @@ struct RecordStateController::Private {
     std::atomic<float> fRecordTime_{0};
     std::atomic<int> dropped_{0};
     std::atomic<double> closedSeconds_{0}; ///< of the files that splits have closed
-    std::atomic<double> limit_{0};         ///< seconds of a recording, 0 without end
+    std::atomic<double> limit_{0};         ///< seconds of a recording; 0 means no limit
     RecordingNames names;
 
-    std::mutex mutex; ///< guards the next three; never held while an I/O thread is waited for
+    std::mutex mutex; ///< guards the next three; never held while waiting for an I/O thread
     SilenceSplitter splitter;
-    RecordLosses lostBefore_; ///< of the recording that ended last
-    QString audioRecordPath_; ///< of the recording at hand; empty when a job has taken it over
+    RecordLosses lostBefore_; ///< of the last recording
+    QString audioRecordPath_; ///< of the current recording; empty when a job has taken it over
 
     // Main thread only.
     bool popUpEnabled_ = true;
@@ -84,12 +84,12 @@ struct RecordStateController::Private {
     QString convertTip_;
     QStringList notices_;
     std::uint64_t lostShown_ = 0;
-    QString lossNotice_; ///< of the recording at hand: a growing loss is one notice, not one each time
+    QString lossNotice_; ///< of the current recording: a growing loss updates one notice
     bool writeProblemShown_ = false;
 
     void onMain(std::function<void()> work);
     void changed();
-    /// @param replaces the notice that this one brings up to date, if any
+    /// @param replaces the notice that this one replaces, if any
     void notice(const QString& text, const QString& replaces = {});
     void deviceEvent(Platform::InputUnit::Event event, RecordSource& source);
     void showLosses();
@@ -116,14 +116,14 @@ struct RecordStateController::Private {
 
     /// How the file of one source ends.
     struct FileEnding {
-        bool tooShort = false; ///< the filter drops the recording because of it
-        bool unheard = false;  ///< it has no frame, and the recording goes without it
+        bool tooShort = false; ///< shorter than the filter allows
+        bool unheard = false;  ///< it contains no frame, and the recording is made without it
         [[nodiscard]] bool isDeleted() const { return tooShort || unheard; }
     };
-    /// What a stop or a cut leaves behind.
+    /// The files that a stop or a cut ends.
     struct Ending {
         std::shared_ptr<ExportJob> job;
-        std::array<FileEnding, 2> files; ///< in the order of the sources
+        std::array<FileEnding, 2> files; ///< in source order
         [[nodiscard]] bool drops() const;
         /// Whether no source had a file.
         [[nodiscard]] bool isEmpty() const;
@@ -142,11 +142,11 @@ struct RecordStateController::Private {
     void endFiles(const Ending& ending, std::unique_lock<std::mutex>& lock);
     void nameNextFile();
 
-    QThreadPool namesWorker; ///< destroyed first: waits for the search at hand
+    QThreadPool namesWorker; ///< destroyed first: waits for a running search
 };
 
-/// Keeps both engines from beginning a cycle. Taken before the mutex, never while it is held: an I/O thread that is
-/// waited for may want the mutex.
+/// Keeps both engines from starting a cycle. Take it before the mutex, never while holding the mutex: the I/O thread
+/// that it waits for may need the mutex.
 class CycleHold {
 public:
     explicit CycleHold(std::array<RecordSource, 2>& sources) : one_(*sources[0].engine), other_(*sources[1].engine) {}

@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A link that leads nowhere takes its name as well.
+/// A broken symbolic link also takes its name.
 bool isTaken(const QString& path) {
     const QFileInfo info(path);
     return info.exists() || info.isSymLink();
@@ -32,8 +32,8 @@ QString trackPath(const QString& folder, int number) {
     return inFolder(folder, u"Track%1.m4a"_s.arg(number));
 }
 
-/// The numbers of all tracks in a folder, from one reading of it: to ask for each name in turn takes seconds for
-/// thousands of tracks on a share.
+/// The numbers of all tracks in a folder, from one directory listing: checking each name takes seconds for thousands of
+/// tracks on a share.
 std::set<int> numbersTaken(const QString& folder) {
     std::set<int> numbers;
     std::error_code error;
@@ -51,7 +51,7 @@ std::set<int> numbersTaken(const QString& folder) {
     return numbers;
 }
 
-/// Where the markers of a user's processes lie. Not beside the recordings: a crash would leave litter there.
+/// The path of a marker. Markers of a user's processes are not beside the recordings: a crash would leave them there.
 QString markerFor(const QString& path) {
     const auto* bundle = Platform::services().bundle;
     const QString folder = Platform::Folders::runtime() + u'/' +
@@ -77,7 +77,7 @@ QString RecordingNames::getAudioRecordPath(const QString& folder, const QString&
         const bool isOwn = candidate == own;
         if (taken.contains(number) || (!isOwn && !reserve(candidate)))
             continue;
-        // The reading may be old by now, and names that differ in case only may be one file.
+        // The listing may be outdated, and names that differ only in case may be one file.
         if (isTaken(candidate)) {
             if (!isOwn)
                 release(candidate);
@@ -111,7 +111,7 @@ bool RecordingNames::reserve(const QString& path) {
     if (reserved_.contains(path))
         return false;
     Platform::FileLock marker;
-    // When no marker can be made, the list of this process has to do.
+    // When no marker can be created, the list of this process must do.
     if (marker.take(markerFor(path)) == Platform::FileLock::Result::Elsewhere)
         return false;
     reserved_.emplace(path, std::move(marker));

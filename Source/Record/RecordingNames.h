@@ -11,8 +11,8 @@
 #include <mutex>
 
 /// Hands out names for new files. A recording's name is reserved until it is released: within this object by a list,
-/// against other processes of the user by a marker file, which ends with its process. Any thread. No lock is held while
-/// the folder is read, so a folder on a slow share keeps only the caller waiting.
+/// against other processes of the user by a marker file, which is locked by its process. Any thread. No lock is held
+/// while the folder is read, so a folder on a slow share delays only the caller.
 class RecordingNames {
 public:
     RecordingNames();
@@ -20,17 +20,17 @@ public:
     RecordingNames(const RecordingNames&) = delete;
     RecordingNames& operator=(const RecordingNames&) = delete;
 
-    /// The first of Track0.m4a, Track1.m4a, … in @p folder that neither exists nor is reserved; reserved from now on.
-    /// The folder is made when it is missing; one that cannot be made does not fail the call. A reserved name @p own
-    /// counts as free: when it is the first free one, it is the answer.
+    /// The first of Track0.m4a, Track1.m4a, … in @p folder that neither exists nor is reserved; it is then reserved. A
+    /// missing folder is created; failing to create it does not fail the call. A reserved name @p own counts as free:
+    /// when it is the first free one, it is returned.
     [[nodiscard]] QString getAudioRecordPath(const QString& folder, const QString& own = {});
-    /// A reserved name without a look at the folder, for a thread that must not wait for a disk: the next number after
+    /// Reserves a name without reading the folder, for a thread that must not wait for a disk: the next number after
     /// those that getAudioRecordPath() found taken. A file may have that name by now; getAudioRecordPath() with the
-    /// name as @p own tells.
+    /// name as @p own checks that.
     [[nodiscard]] QString nextAudioRecordPath(const QString& folder);
-    /// Ends a reservation, when its file is there or goes elsewhere. Other names are left alone.
+    /// Ends a reservation when its file exists or was moved elsewhere. Ignores other names.
     void release(const QString& path);
-    /// release() for a name that got no file: nextAudioRecordPath() may hand it out again.
+    /// release() for a name that got no file: nextAudioRecordPath() may return it again.
     void giveBack(const QString& path);
     [[nodiscard]] QStringList aryForRecordedAudioPath() const;
 
@@ -42,8 +42,9 @@ private:
     /// Ends a reservation with the mutex locked. False when there is none.
     [[nodiscard]] bool end(const QString& path);
 
-    mutable std::mutex mutex_; ///< guards what follows
+    mutable std::mutex mutex_; ///< guards the members below
     QString nextFolder_;       ///< the folder of nextNumber_
-    int nextNumber_ = 0;       ///< all numbers below were taken or reserved when they were looked at last
-    std::map<QString, Platform::FileLock> reserved_; ///< with their markers; not held when none could be made
+    int nextNumber_ = 0;       ///< at the last listing all smaller numbers were taken or reserved
+    std::map<QString, Platform::FileLock>
+        reserved_; ///< with their markers; a marker is not held when it could not be created
 };

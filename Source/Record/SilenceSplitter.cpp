@@ -11,7 +11,7 @@ void SilenceSplitter::measure(float level, std::uint64_t now, bool recording) {
     } else if (recording) {
         const auto silence = static_cast<std::int64_t>(static_cast<double>(now - lastTime_) / 1e6 +
                                                        static_cast<double>(computerAudioNullTimeMs_));
-        // Only whole milliseconds are counted. lastTime_ stays, so that cycles shorter than a millisecond add up:
+        // Only whole milliseconds are counted. lastTime_ is kept, so that cycles shorter than a millisecond add up:
         // otherwise a device with very small buffers would never be silent.
         if (silence == computerAudioNullTimeMs_)
             return;

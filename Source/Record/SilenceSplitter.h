@@ -4,14 +4,14 @@
 
 #include <cstdint>
 
-/// Follows the level of the computer-audio source: says when the sound begins that a recording waits for, and when a
-/// silence has lasted long enough for a cut. Has no lock of its own; its owner guards it.
+/// Decides at which cycle of the computer-audio source an armed recording starts, and when a silence is long enough for
+/// a cut. Has no lock; its owner guards it.
 class SilenceSplitter {
 public:
     /// Digital silence lies below this level.
     static constexpr float AudibleLevel = 1e-6F;
 
-    /// Ends the wait and switches cuts off. A start and a stop begin with it.
+    /// Ends the wait and switches cuts off. Called first by each start and stop.
     void clear() {
         isWaittingComputerAudioRecord_ = false;
         isOnlyComputerAudioRecording_ = false;
@@ -21,14 +21,15 @@ public:
     [[nodiscard]] bool isWaitting() const { return isWaittingComputerAudioRecord_; }
     [[nodiscard]] bool isOnlyComputerAudioRecording() const { return isOnlyComputerAudioRecording_; }
 
-    /// Takes the level of one cycle. @p now is its capture time in nanoseconds; silence counts while @p recording.
+    /// Processes the level of one cycle. @p now is its capture time in nanoseconds; silence counts only while @p
+    /// recording.
     void measure(float level, std::uint64_t now, bool recording);
-    /// Whether this level ends the waiting. From then on the silences of the recording count for cuts.
+    /// Whether this level ends the wait. From then on silences in the recording count for cuts.
     bool soundBegins(float level);
-    /// Whether the silence so far asks for a cut. Only a silent cycle of the recording is cut at, also with a time of
-    /// 0. A negative time means that cuts are off; with the input device on there are none either.
+    /// Whether the silence is long enough for a cut. A cut only happens at a silent cycle of the recording, even with a
+    /// time of 0. A negative time switches cuts off, and so does the input device.
     [[nodiscard]] bool wantsCut(std::int32_t splitTimeMS, bool inputOn) const;
-    /// After the stream was interrupted: the time without it does not count as silence.
+    /// Call it after the stream was interrupted: the time without it does not count as silence.
     void restartClock() { lastTime_ = 0; }
     [[nodiscard]] std::int64_t computerAudioNullTimeMs() const { return computerAudioNullTimeMs_; }
 
