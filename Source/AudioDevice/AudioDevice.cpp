@@ -15,7 +15,7 @@ Platform::AudioHardware* hardware() {
     return Platform::services().audioHardware;
 }
 
-/// Both separators count: a path joins with "@" what a unique ID joins with ":".
+/// Both separators are needed: a path uses "@" where a unique ID uses ":".
 QStringList partsOf(QString text) {
     return text.replace(u'@', u':').split(u':');
 }

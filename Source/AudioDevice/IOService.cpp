@@ -53,7 +53,7 @@ std::vector<IOService> IOService::getServicesByClassName(const QString& classNam
         return services;
     for (const auto object : registry()->servicesOfClass(className)) {
         services.emplace_back(object);
-        registry()->release(object); // the list's hold; the service has one of its own
+        registry()->release(object); // releases the list's reference; the service has its own
     }
     return services;
 }

@@ -9,7 +9,7 @@
 
 #include <vector>
 
-/// One entry of the registry. Holds its entry for as long as it lives; copies hold it too. Main thread.
+/// One entry of the registry. Retains its entry while it lives, and so does each copy. Main thread.
 class IOService {
 public:
     explicit IOService(Platform::IORegistry::Object serviceID);
@@ -18,7 +18,7 @@ public:
     IOService& operator=(const IOService& other);
 
     [[nodiscard]] Platform::IORegistry::Object object() const { return serviceID_; }
-    /// Where the entry stands in the tree of services; null when it is gone.
+    /// The entry's path in the tree of services; null when the entry is gone.
     [[nodiscard]] QString path() const;
     /// An invalid value when the entry has no such property.
     [[nodiscard]] QVariant getProperty(const QString& key) const;

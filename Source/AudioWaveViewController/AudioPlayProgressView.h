@@ -4,11 +4,11 @@
 
 #include <QWidget>
 
-/// What the progress bar asks of its owner.
+/// What the progress bar calls on its owner.
 class AudioPlayProgressViewDelegate {
 public:
     virtual ~AudioPlayProgressViewDelegate() = default;
-    /// The user wants to hear this second; it may lie slightly beyond the end.
+    /// The user seeks to this second; it may lie slightly beyond the end.
     virtual void setAudioPosition(float /*seconds*/) {}
 };
 
@@ -25,9 +25,9 @@ public:
     [[nodiscard]] double currentTime() const { return currentTime_; }
     void setCurrentTime(double seconds) { currentTime_ = seconds; }
 
-    /// The view without 5 points at its left and right.
+    /// The view's rectangle without 5 points at the left and the right.
     [[nodiscard]] QRectF validProgressRect() const;
-    /// How much of it is filled, in points. Without a sound, or with a very short one, the bar shows as complete.
+    /// The filled width in points. Without a sound, or with a very short one, the bar is full.
     [[nodiscard]] double progressWidth() const;
     /// @p x in points from the view's left edge, not from the bar's.
     void setAudioPosition(double x);

@@ -28,7 +28,7 @@ void AudioRecordWaveView::addCurrentLevel(float level) {
 
 void AudioRecordWaveView::drawColumn(QPainter& painter, int index) const {
     const float level = audioLevelArray_.at(index);
-    // A damaged sample must not stop the drawing of all others.
+    // A NaN or infinite level must not break the drawing of the others.
     const double v = std::isfinite(level) ? std::max(double(level), 0.02) : 0.02;
     const double middle = height() / 2.0;
     // A column's sides lie between whole pixels, also at 1.5 pixels a point: then it is one pixel wide, or two.
@@ -53,7 +53,7 @@ void AudioRecordWaveView::redrawAll() {
 bool AudioRecordWaveView::scrollPicture() {
     const qreal ratio = devicePixelRatioF();
     const int step = int(ratio);
-    // With 1.25 pixels a point, columns fall between pixels and cannot be moved.
+    // At 1.25 pixels per point, columns are not aligned to pixels and cannot be moved.
     if (pictureIsOld_ || step != ratio || picture_.devicePixelRatio() != ratio || audioLevelArray_.isEmpty())
         return false;
     picture_.scroll(step, 0, picture_.rect());

@@ -16,9 +16,9 @@ public:
     explicit AudioRecordWaveView(QWidget* parent = nullptr);
 
     [[nodiscard]] bool isLeftToRight() const { return true; }
-    /// Newest first; never more than the view is wide in points.
+    /// Newest first; at most as many as the view is wide in points.
     [[nodiscard]] const QList<float>& audioLevelArray() const { return audioLevelArray_; }
-    /// Levels run from 0 to 1; greater ones reach beyond the view and are cut there.
+    /// Levels range from 0 to 1; greater ones are clipped at the view's edge.
     void addCurrentLevel(float level);
 
     [[nodiscard]] QSize sizeHint() const override { return {240, 64}; }
@@ -32,7 +32,7 @@ protected:
 private:
     void drawColumn(QPainter& painter, int index) const;
     void redrawAll();
-    /// Moves the picture and draws the newest column; false when the picture has to be drawn anew.
+    /// Moves the picture and draws the newest column; false when the picture must be redrawn.
     bool scrollPicture();
 
     QList<float> audioLevelArray_;

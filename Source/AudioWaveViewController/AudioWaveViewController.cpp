@@ -20,7 +20,7 @@ namespace {
 constexpr int tickMilliseconds = 100;
 constexpr qreal timePointSize = 28;
 
-// "3:07", "1:02:03"; the sign stands for time that is left.
+// "3:07", "1:02:03"; a minus sign marks remaining time.
 QString clockText(double seconds, bool left) {
     const auto whole = std::llround(std::floor(std::max(0.0, seconds)));
     const auto hours = whole / 3600;
@@ -38,7 +38,7 @@ QFont scaled(QFont font, qreal points, QFont::Weight weight = QFont::Normal) {
     return font;
 }
 
-/// The text in at most two lines, its end left out where it is too long: what matters stands at its beginning.
+/// The text in at most two lines, elided at the end, because the important part comes first.
 QString inTwoLines(const QString& text, const QFontMetrics& metrics, int room) {
     if (metrics.horizontalAdvance(text) <= room)
         return text;
@@ -71,7 +71,7 @@ AudioWaveViewController::AudioWaveViewController(QWidget* parent)
     auto* panel = new AudioWaveformBackView(parent);
     view_ = panel;
     ui_->setupUi(panel);
-    // Whoever goes first: the window takes its panel along, a panel without a window belongs to the controller.
+    // Either may be destroyed first: the window deletes its panel; a panel without a window belongs to the controller.
     connect(panel, &QObject::destroyed, this, [this] {
         view_ = nullptr;
         destroyDudioPlayUpdateTimer();
@@ -105,7 +105,7 @@ void AudioWaveViewController::awakeFromNib() {
     ui_->noticeMark->setPixmap(NamedImages::pixmap(u"warning"_s, {16, 16}, 2, QColor(0xffc857)));
     setGlassIcon(ui_->changeTabViewButton, u"switch-display"_s);
     setGlassIcon(ui_->dismissNoticeButton, u"close"_s);
-    // The line stands in the room below the time, and the panel keeps its height.
+    // The line uses free space below the time, so the panel keeps its height.
     ui_->noticeField->setFont(scaled(font, font.pointSizeF() - 1.5));
     ui_->noticeLine->setFixedHeight(2 * QFontMetrics(ui_->noticeField->font()).height());
     ui_->dismissNoticeButton->setIconSize({16, 16});
@@ -258,7 +258,7 @@ void AudioWaveViewController::showNotices() {
     ui_->noticeLine->setVisible(!notices_.isEmpty());
     if (notices_.isEmpty())
         return;
-    // The newest one in the line, all of them in its tool tip.
+    // The line shows the newest notice, the tool tip all of them.
     const QString newest = notices_.size() > 1
                                ? tr("%1 (and %n more)", nullptr, int(notices_.size()) - 1).arg(notices_.last())
                                : notices_.last();

@@ -17,20 +17,20 @@ namespace Ui {
 class AudioWaveViewController;
 }
 
-/// What the display asks of the main window. Main thread.
+/// What the display calls on the main window. Main thread.
 class AudioWaveViewControllerDelegate {
 public:
     virtual ~AudioWaveViewControllerDelegate() = default;
-    /// The level of the moment, 0 to 1.
+    /// The current level, 0 to 1.
     virtual float getAudioWaveLevelValue() { return 0; }
-    /// Time to compare the recording state with isRecording().
+    /// Compare the recording state with isRecording() now.
     virtual void updateAudioWaveRecordState() {}
-    /// Time to look at the state of the sound again.
+    /// Read the state of the sound again now.
     virtual void updatePlaySoundButton() {}
 };
 
-/// The display in the upper part of the main window: the level history with state and time of the recording, or title,
-/// artist and a seekable bar of the file that plays. Ten times a second it fetches the level and the position. Main
+/// The display in the upper part of the main window: the level history with the state and time of the recording, or
+/// title, artist and a seekable bar of the playing file. It reads the level and the position ten times a second. Main
 /// thread.
 class AudioWaveViewController : public QObject, public AudioPlayProgressViewDelegate {
     Q_OBJECT
@@ -48,7 +48,7 @@ class AudioWaveViewController : public QObject, public AudioPlayProgressViewDele
     Q_PROPERTY(float playLeftTime READ playLeftTime NOTIFY playSoundProgressChanged)
 
 public:
-    /// Builds the view below @p parent and wakes up.
+    /// Builds the view below @p parent and calls awakeFromNib().
     explicit AudioWaveViewController(QWidget* parent = nullptr);
     ~AudioWaveViewController() override;
 
@@ -59,7 +59,7 @@ public:
     [[nodiscard]] AudioPlayProgressView* audioPlayProgressView() const;
     [[nodiscard]] AudioRecordWaveView* audioRecordWaveView() const;
 
-    /// True: the recording side; false: the playback side.
+    /// True: the recording side is shown; false: the playback side.
     [[nodiscard]] bool tabViewShowWave() const { return tabViewShowWave_; }
     void setTabViewShowWave(bool show);
     [[nodiscard]] bool isRecording() const { return isRecording_; }
@@ -75,7 +75,7 @@ public:
     void setStateString(const QString& state);
     [[nodiscard]] QString timeString() const { return timeString_; }
     void setTimeString(const QString& time);
-    /// Black or red; black is painted in the panel's own text colour.
+    /// Black or red; black is drawn in the panel's own text colour.
     [[nodiscard]] QColor stateColor() const { return stateColor_; }
     void setStateColor(const QColor& color);
 
@@ -89,7 +89,7 @@ public:
     [[nodiscard]] float playLeftTime() const;
     void setAudioPosition(float seconds) override;
 
-    /// What the user should know, in plain words, newest last; stays until dismissed. An empty list hides the line.
+    /// Messages for the user, newest last; shown until dismissed. An empty list hides the line.
     void setNotices(const QStringList& notices);
     [[nodiscard]] QStringList notices() const { return notices_; }
 
@@ -119,7 +119,7 @@ Q_SIGNALS:
     void playSoundProgressChanged();
     /// Somebody moved the position of the sound; seconds.
     void audioPositionSet(double seconds);
-    /// The user has seen the notices.
+    /// The user dismissed the notices.
     void noticesDismissed();
 
 private:

@@ -12,7 +12,7 @@
 using namespace Qt::StringLiterals;
 
 AudioWaveformBackView::AudioWaveformBackView(QWidget* parent) : QWidget(parent) {
-    // Everything on the glass is light on dark, whatever the windows around it look like.
+    // Text on the dark glass is light in both themes.
     QPalette glass = palette();
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         glass.setColor(role, Theme::Glass::text());

@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-/// The dark glass behind the display.
+/// The dark background of the display.
 class AudioWaveformBackView : public QWidget {
     Q_OBJECT
 public:
@@ -14,7 +14,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-/// The panel behind the library.
+/// The background of the library.
 class LibaryBackView : public QWidget {
     Q_OBJECT
 public:

@@ -22,5 +22,5 @@ inline const QString UKAudioStreamBitsPerChannel = QStringLiteral("UKAudioStream
 void UKAudioStreamDescriptionFromDictionary(const Dictionary& dictionary, AudioStreamBasicDescription& description);
 /// The four bytes of the ID, highest first, read as Mac OS Roman text: "lpcm".
 [[nodiscard]] QString UKStringFromAudioStreamFormatID(std::uint32_t formatID);
-/// 0 unless the text is four characters that Mac OS Roman knows.
+/// 0 unless the text consists of four characters of Mac OS Roman.
 [[nodiscard]] std::uint32_t UKAudioStreamFormatIDFromString(const QString& text);

@@ -21,8 +21,8 @@ Q_LOGGING_CATEGORY(engineLog, "sonaphex.engine", QtInfoMsg)
 
 constexpr OSStatus parameterError = -50;
 
-/// When the first frame was captured, on the clock on the wall: with QT_LOGGING_RULES="sonaphex.engine.debug=true" one
-/// sees how long a start takes.
+/// Logs the wall-clock time at which the first frame was captured: with QT_LOGGING_RULES="sonaphex.engine.debug=true"
+/// it shows how long a start takes.
 void logFirstFrame(std::uint64_t hostTime) {
     if (hostTime == 0 || !engineLog().isDebugEnabled())
         return;
@@ -31,7 +31,7 @@ void logFirstFrame(std::uint64_t hostTime) {
     qCDebug(engineLog, "first frame captured at %.4f", double(QDateTime::currentMSecsSinceEpoch()) / 1000 - ago);
 }
 
-/// Every third sample of the first channel. Without samples the level is no number, and is passed on as it is.
+/// Uses every third sample of the first channel. Without samples the level is NaN, and is passed on.
 float levelOf(const AudioBufferList& list) {
     const auto* samples = static_cast<const float*>(list.mBuffers[0].mData);
     const std::uint32_t count = list.mBuffers[0].mDataByteSize / 4;
@@ -95,7 +95,7 @@ void BuildInAudioRecord::closeUnit() {
         closing = std::move(audioUnit_);
         isRunning_ = false;
     }
-    closing.reset(); // waits for the cycle under way, which still uses renderUnit_
+    closing.reset(); // waits for the running cycle, which still uses renderUnit_
     renderUnit_ = nullptr;
 }
 
@@ -118,7 +118,7 @@ bool BuildInAudioRecord::configureAudioUnit(AudioObjectID device) {
     unit.setEventHandler(eventHandler_);
     unit.setFillLostFrames(fillLostFrames_);
 
-    // A unit whose input cannot be switched on may still have it on.
+    // The input may be enabled although the unit refuses to enable it.
     if (unit.setEnableInput(true) == noErr && unit.setEnableOutput(false) != noErr)
         return fail("the unit's output cannot be switched off");
     if (unit.setCurrentDevice(device) != noErr)
@@ -161,7 +161,7 @@ OSStatus BuildInAudioRecord::AudioInputProc(void* refCon, std::uint32_t* actionF
 OSStatus BuildInAudioRecord::renderCycle(std::uint32_t* actionFlags, const AudioTimeStamp* timeStamp,
                                          std::uint32_t busNumber, std::uint32_t frames) {
     if (std::uint64_t(frames) * 4 > bufferSize_)
-        return parameterError; // more than the unit promised; it would not fit
+        return parameterError; // more than the unit announced; it would not fit
     const OSStatus status = renderUnit_->render(actionFlags, timeStamp, busNumber, frames, audioBuffer_.get());
     measureTime(*timeStamp, frames);
     cycleStartsAnew_ = timeStamp->mStartsAnew;
@@ -174,7 +174,7 @@ OSStatus BuildInAudioRecord::renderCycle(std::uint32_t* actionFlags, const Audio
         clientRecievedComputerAudioData(level);
     else
         clientRecievedBuiltInAudioData(level);
-    // The delegate may have begun the recording because of this very cycle: then it is its first one.
+    // The delegate may have started the recording because of this cycle, which is then its first one.
     if (!recording && recordStatus_ == 1)
         if (const OSStatus written = writeFiles(*timeStamp, frames); written != noErr)
             return written;
@@ -217,9 +217,9 @@ OSStatus BuildInAudioRecord::writeM4a(const AudioTimeStamp& timeStamp, std::uint
     return noErr;
 }
 
-/// Hands a part of the cycle to a file.
+/// Passes a part of the cycle to a file.
 OSStatus BuildInAudioRecord::writeCycle(Export& file, std::uint32_t first, std::uint32_t frames) {
-    // A file that was begun on another device expects other buffers.
+    // A file that was started on another device expects another format.
     if (file.clientFormat != actualOutputFormat_)
         return parameterError;
     AudioBufferList& list = *audioBuffer_;
@@ -240,7 +240,7 @@ void BuildInAudioRecord::measureTime(const AudioTimeStamp& timeStamp, std::uint3
     if (previousHostTime_ != 0 && timeStamp.mHostTime > previousHostTime_) {
         const double took = double(timeStamp.mHostTime - previousHostTime_);
         const double nominal = double(previousFrames_) / actualOutputFormat_.mSampleRate * 1e9;
-        // A longer gap is a device that was away, and says nothing about its clock.
+        // A longer gap means that the device was away; it says nothing about the clock.
         if (std::fabs(took - nominal) < 50e6) {
             measuredFrames_ += previousFrames_;
             measuredNanoseconds_ += timeStamp.mHostTime - previousHostTime_;
@@ -270,7 +270,7 @@ bool BuildInAudioRecord::startRecordAudio() {
     if (recordStatus_ != 0)
         return false;
     {
-        const std::lock_guard lock(mutex_); // a first sound may begin it while the unit is being closed
+        const std::lock_guard lock(mutex_); // the first sound may start it while the unit is being closed
         if (!audioUnit_)
             return false;
         lostBefore_ = -std::int64_t(audioUnit_->lostFrames());
@@ -375,7 +375,7 @@ BuildInAudioRecordDelegate* BuildInAudioRecord::delegate() const {
 }
 
 void BuildInAudioRecord::setDelegate(BuildInAudioRecordDelegate* delegate) {
-    const Platform::CyclesHeld held(audioUnit_.get()); // who goes hears nothing any more when this returns
+    const Platform::CyclesHeld held(audioUnit_.get()); // when this returns, the old delegate is not called any more
     delegate_ = delegate;
 }
 
@@ -408,7 +408,7 @@ Platform::MediaError BuildInAudioRecord::writeError() const {
 }
 
 BuildInAudioRecord::CaptureSpan BuildInAudioRecord::captureSpan() const {
-    // Single cycles are stamped with some milliseconds of play: over a minute that is less than clocks differ by.
+    // Single time stamps are off by some milliseconds: over a minute that is less than the difference of two clocks.
     constexpr std::uint64_t longEnough = 60'000'000'000;
     const std::uint64_t nanoseconds = measuredNanoseconds_;
     return {firstHostTime_, nanoseconds < longEnough ? 0.0 : double(measuredFrames_) * 1e9 / double(nanoseconds)};

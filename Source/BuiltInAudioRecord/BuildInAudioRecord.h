@@ -16,7 +16,7 @@
 
 #include <QVariantList>
 
-/// Receives one level a cycle, on the engine's I/O thread. Not owned by the engine.
+/// Receives one level per cycle, on the engine's I/O thread. Not owned by the engine.
 class BuildInAudioRecordDelegate {
 public:
     virtual ~BuildInAudioRecordDelegate() = default;
@@ -26,10 +26,10 @@ public:
     virtual void clientRecievedComputerAudioData(float /*level*/) {}
 };
 
-/// The recorder engine: captures one input device and, while it records, writes what it hears to one or two files.
+/// The recorder engine: captures one input device and, while it records, writes the audio to one or two files.
 ///
-/// The operations belong to the main thread, but for those that are named as allowed on the I/O thread. The render
-/// callback runs on the input unit's I/O thread.
+/// All operations belong to the main thread, except those marked as allowed on the I/O thread. The render callback runs
+/// on the input unit's I/O thread.
 class BuildInAudioRecord {
 public:
     /// Keys of a device descriptor.
@@ -41,33 +41,35 @@ public:
     BuildInAudioRecord(const BuildInAudioRecord&) = delete;
     BuildInAudioRecord& operator=(const BuildInAudioRecord&) = delete;
 
-    /// Descriptors (DeviceName, DeviceID) of all devices that can capture, in the system's order. A name that could
-    /// not be read is an invalid value.
+    /// Descriptors (DeviceName, DeviceID) of all input devices, in the system's order. A name that could not be read is
+    /// an invalid value.
     [[nodiscard]] static QVariantList getAudioInPutDeviceIDs();
     /// Null when the name cannot be read.
     [[nodiscard]] static QString getDeviceNameByDeviceID(AudioObjectID device);
-    /// A device whose streams cannot be asked for counts as an input device.
+    /// A device whose streams cannot be queried counts as an input device.
     [[nodiscard]] static bool isInputDeviceID(AudioObjectID device);
     /// Sets input channels 1 and 2 to full volume and clears the mute of those whose volume could be set.
     static void setMaxVolume(AudioObjectID device);
 
-    /// Opens, configures and starts the input unit on a device; from then on levels arrive, whatever is recorded. On an
-    /// engine that has a unit it moves to the other device. A unit that failed midway stays open and silent.
+    /// Opens, configures and starts the input unit on a device; from then on it delivers levels, recording or not. When
+    /// the engine already has a unit, it closes that one first. A unit whose configuration failed stays open and
+    /// silent.
     virtual bool configureAudioUnit(AudioObjectID device);
-    /// Whether this engine may record that device. Nothing of one that it does not record is changed.
+    /// Whether this engine may record that device. It does not change settings of a device that it does not record.
     [[nodiscard]] virtual bool records(AudioObjectID /*device*/) const { return true; }
     /// Creates the export file: type 0 WAVE, 1 (and 2) MPEG-4 AAC; an existing file is overwritten. It stays open until
-    /// it is recorded and stopped, replaced by another of its type, or cleaned up. False when it cannot be created.
+    /// its recording is stopped, another file of its type replaces it, or cleanUp() is called. False when it cannot be
+    /// created.
     virtual bool setOutPutAudioPath(const QString& path, int forType);
     /// Creates the writer of such a file, in the format of exportDescription(); null on failure.
     [[nodiscard]] std::unique_ptr<Platform::ExtAudioFileWriter> setOutAudioPath(const QString& path, int forType);
     /// The data format of export type 0 or 1; all zeros for any other.
     [[nodiscard]] AudioStreamBasicDescription exportDescription(int type) const;
-    /// Begins to write cycles. False while recording or paused, and without a unit.
+    /// Starts to write cycles. False while recording or paused, and without a unit.
     virtual bool startRecordAudio();
-    /// Ends the recording and closes its files; waits until they are whole. Always true.
+    /// Ends the recording and closes its files; waits until they are complete. Always true.
     virtual bool stopRecordAudio();
-    /// Both answer whether a recording is under way, paused or not.
+    /// Both return whether a recording is running, paused or not.
     virtual bool pauseRecordAudio();
     virtual bool resumeRecordAudio();
     /// 0 stopped, 1 recording, 2 paused. Any thread.
@@ -77,13 +79,13 @@ public:
     [[nodiscard]] QString outputM4aFilePath() const;
     [[nodiscard]] QString outputWAVFilePath() const;
     [[nodiscard]] virtual QString outPutFilePath() const;
-    /// Closes the open files, M4A first, waits, and lets file browsers know.
+    /// Closes the open files, M4A first, waits, and notifies file browsers.
     virtual void closeExportFile();
     /// Stops the recording and closes files and unit.
     virtual void cleanUp();
     [[nodiscard]] std::int64_t currMillisecond() const;
     [[nodiscard]] bool isRecordComputerAudio() const;
-    /// Says which of the delegate's operations hears the levels. Before the unit starts.
+    /// Selects which of the delegate's operations receives the levels. Before the unit starts.
     virtual void setIsecordComputerAudio_(bool on);
     [[nodiscard]] BuildInAudioRecordDelegate* delegate() const;
     virtual void setDelegate(BuildInAudioRecordDelegate* delegate);
@@ -92,49 +94,50 @@ public:
     [[nodiscard]] static AudioBufferList* allocateAudioBufferList(std::uint32_t numChannels, std::uint32_t size);
     static void destroyAudioBufferList(AudioBufferList* list);
 
-    /// Whether the unit runs: configureAudioUnit() came to its end.
+    /// Whether the unit runs: configureAudioUnit() succeeded.
     [[nodiscard]] virtual bool isRunning() const;
     /// Frames lost since the last startRecordAudio(). Any thread.
     [[nodiscard]] virtual std::uint64_t lostFrames() const;
-    /// Frames, at the device's rate, that the open M4A writer took. Any thread.
+    /// Frames that the open M4A writer accepted, at the device's rate. Any thread.
     [[nodiscard]] virtual std::int64_t framesAccepted() const;
-    /// The device's rate in Hz that was read at configuration, 0 before.
+    /// The device's rate in Hz, read at configuration; 0 before.
     [[nodiscard]] virtual double sampleRate() const;
-    /// Why configureAudioUnit() or setOutPutAudioPath() failed, for people.
+    /// Why configureAudioUnit() or setOutPutAudioPath() failed, for the user.
     [[nodiscard]] virtual QString lastError() const;
-    /// The first thing that went wrong in writing the open M4A file, or the one that was closed last. Any thread.
+    /// The first write error of the open M4A file, or of the one that was closed last. Any thread.
     [[nodiscard]] virtual Platform::MediaError writeError() const;
-    /// Exchanges the M4A writer for a new one at @p path in the midst of a recording: no frame is lost or repeated
-    /// between the two files. Returns at once; the old file is closed on its own thread, then @p closed is called there
-    /// with the old path and its status; when no file was open, it is called before this returns. @p framesBefore of
-    /// the frames that come next still belong to the old file, so that two devices can be cut at one time;
-    /// framesAccepted() is 0 until they have come. Allowed on the engine's I/O thread; cycles of other engines must be
-    /// held by the caller. False when the new file could not be made: then recording goes on into the old one.
+    /// Replaces the M4A writer with a new one at @p path during a recording: no frame is lost or repeated between the
+    /// two files. Returns at once. The old file is closed on its own thread, which then calls @p closed with the old
+    /// path and its status; when no file was open, it is called before this returns. The next @p framesBefore frames
+    /// still belong to the old file, so that two devices can be cut at the same time; framesAccepted() is 0 until they
+    /// have arrived. Allowed on the engine's I/O thread; the caller must hold the cycles of other engines. False when
+    /// the new file could not be created: then the recording continues in the old one.
     virtual bool exchangeM4aFile(const QString& path, std::function<void(QString oldPath, OSStatus)> closed,
                                  std::int64_t framesBefore = 0);
-    /// The same at one capture time, which may fall inside a cycle: two devices pause together, though the answers and
-    /// the status change at once. While cycles are held; 0 is with the next cycle.
+    /// Pauses at a capture time, which may fall inside a cycle, so that two devices pause together; the return value
+    /// and the status change at once. Call it while cycles are held; 0 means with the next cycle.
     bool pauseRecordAudioAt(std::uint64_t hostTime);
     bool resumeRecordAudioAt(std::uint64_t hostTime);
-    /// Capture time at which the next cycle begins, 0 when none has come yet. While cycles are held.
+    /// Capture time at which the next cycle begins, 0 before the first cycle. Call it while cycles are held.
     [[nodiscard]] virtual std::uint64_t nextHostTime() const;
-    /// Whether the cycle at hand is the first after a time without the device. Only inside a call of the delegate.
+    /// Whether the current cycle is the first one after the device was away. Only inside a call of the delegate.
     [[nodiscard]] bool cycleStartsAnew() const { return cycleStartsAnew_; }
-    /// stopRecordAudio() that does not wait for the M4A file: its own thread closes it, then calls @p closed there with
-    /// the path and the first error of the file's life. When there was nothing to close, @p closed is not called and
-    /// the answer is false.
+    /// stopRecordAudio() that does not wait for the M4A file: the file's own thread closes it, then calls @p closed
+    /// there with the path and the file's first error. When nothing had to be closed, @p closed is not called and the
+    /// result is false.
     virtual bool stopRecordAudioLater(std::function<void(QString path, OSStatus)> closed);
-    /// Where the M4A file at hand stands in time; from it two recordings are laid over each other.
+    /// The capture times of the current M4A file; used to align two recordings.
     struct CaptureSpan {
-        std::uint64_t firstHostTime = 0; ///< capture time of its first frame, 0 before that
-        double measuredRate = 0; ///< frames that the device gave in a second of the steady clock; 0 when not yet known
+        std::uint64_t firstHostTime = 0; ///< capture time of its first frame; 0 before the first frame
+        double measuredRate =
+            0; ///< frames per second of the steady clock that the device delivered; 0 when not yet known
     };
-    /// Any thread; best asked while cycles are held, or before the file is exchanged or closed.
+    /// Any thread; exact only while cycles are held, or before the file is exchanged or closed.
     [[nodiscard]] virtual CaptureSpan captureSpan() const;
-    /// See InputUnit::holdCycles(). The unit must not be exchanged between the two.
+    /// See InputUnit::holdCycles(). The unit must not be replaced between the two calls.
     virtual void holdCycles();
     virtual void releaseCycles();
-    /// See InputUnit::setFillLostFrames(); kept for the next device too. Main thread.
+    /// See InputUnit::setFillLostFrames(); also applied to the next device. Main thread.
     virtual void setFillLostFrames(bool on);
     /// Device and server events of the unit, on the main thread.
     virtual void setEventHandler(Platform::InputUnit::EventHandler handler);
@@ -157,7 +160,7 @@ private:
     void clientRecievedComputerAudioData(float level);
     bool openExport(Export& file, const QString& path, int type);
     [[nodiscard]] std::unique_ptr<Platform::ExtAudioFileWriter> takeWriter(Export& file);
-    /// closeExportFile() that leaves the M4A file to its writer's thread; see stopRecordAudioLater().
+    /// closeExportFile(), but the writer's thread closes the M4A file; see stopRecordAudioLater().
     bool closeExportFileLater(std::function<void(QString path, OSStatus)> closed);
     void noteClosed(const Platform::ExtAudioFileWriter& writer);
     void closeUnit();
@@ -166,8 +169,8 @@ private:
     struct BufferListDeleter {
         void operator()(AudioBufferList* list) const { destroyAudioBufferList(list); }
     };
-    /// One export file. The writer is exchanged on the unit's I/O thread or while that thread is held, and under the
-    /// mutex: the I/O thread itself reads it without.
+    /// One export file. The writer is replaced on the unit's I/O thread or while that thread is held, and under the
+    /// mutex: the I/O thread itself reads it without the mutex.
     struct Export {
         std::unique_ptr<Platform::ExtAudioFileWriter> writer;
         AudioStreamBasicDescription clientFormat;
@@ -176,10 +179,10 @@ private:
 
     std::unique_ptr<AudioBufferList, BufferListDeleter> audioBuffer_;
     std::uint32_t bufferSize_ = 0; // bytes of one channel in audioBuffer_
-    /// What the callback renders with: still valid while audioUnit_, already null, waits for its last cycle to end.
+    /// The unit that the callback uses: still valid while audioUnit_ is already null and waits for its last cycle.
     Platform::InputUnit* renderUnit_ = nullptr;
     Export outputM4a_;
-    /// A cut that waits for the last frames of the old file. Changed like a writer.
+    /// A cut that waits for the last frames of the old file. Changed under the same rules as a writer.
     struct Cut {
         std::unique_ptr<Platform::ExtAudioFileWriter> writer;
         std::function<void(QString, OSStatus)> closed;
@@ -201,10 +204,10 @@ private:
     Platform::MediaError writeError_;
     Platform::InputUnit::EventHandler eventHandler_;
     bool fillLostFrames_ = false;
-    std::atomic<std::int64_t> framesAccepted_{0}; // below 0 while a cut waits
-    std::int64_t lostBefore_ = 0;                 // what a unit's own count is off by, against that of the recording
+    std::atomic<std::int64_t> framesAccepted_{0}; // negative while a cut waits
+    std::int64_t lostBefore_ = 0;                 // subtracted from the unit's count to get that of the recording
 
-    // The device's clock against the steady one; written in the callback.
+    // Measures the device's clock against the steady clock; written in the callback.
     std::atomic<std::uint64_t> firstHostTime_{0};
     std::atomic<std::uint64_t> measuredFrames_{0};
     std::atomic<std::uint64_t> measuredNanoseconds_{0};
@@ -213,13 +216,13 @@ private:
     bool cycleStartsAnew_ = false;
     PauseSpan pause_;
 
-    /// Guards what other threads ask for: the unit, the writers, the paths and the errors. Never held while anything
-    /// waits. A cycle takes it only where a recording begins or a file is exchanged.
+    /// Guards members that other threads read: the unit, the writers, the paths and the errors. Never held while a
+    /// thread waits. A cycle only takes it when a recording starts or a file is exchanged.
     mutable std::mutex mutex_;
-    std::unique_ptr<Platform::InputUnit> audioUnit_; // closed first: until then cycles use the rest
+    std::unique_ptr<Platform::InputUnit> audioUnit_; // closed first: cycles use the other members until then
 };
 
-/// Keeps one engine from beginning a cycle while it lives. Its unit must not be exchanged meanwhile.
+/// Keeps one engine from starting a cycle while it lives. Its unit must not be replaced meanwhile.
 class HeldCycles {
 public:
     explicit HeldCycles(BuildInAudioRecord& engine) : engine_(engine) { engine_.holdCycles(); }

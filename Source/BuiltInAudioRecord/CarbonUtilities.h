@@ -7,22 +7,23 @@
 
 #include <cstdint>
 
-/// Paths that lead through aliases. An alias is a symbolic link. Any thread.
+/// Paths that contain aliases. An alias is a symbolic link. Any thread.
 namespace CarbonUtilities {
 
-/// One existing file, by what the system knows it as and by its path.
+/// One existing file: its identity on the system, and its path.
 struct FSRef {
     std::uint64_t device = 0;
     std::uint64_t inode = 0;
-    QByteArray path; ///< UTF-8, as it was given
+    QByteArray path; ///< UTF-8, unchanged
 };
 
-/// The path of a reference; null for no reference, one whose file has gone, and a path of more than 1024 bytes.
+/// The path of a reference; null for a null reference, for one whose file is gone, and for a path of more than 1024
+/// bytes.
 [[nodiscard]] QString stringWithFSRef(const FSRef* reference);
-/// Fills @p reference with the file at the path itself, be it an alias; false when there is none.
+/// Fills @p reference with the file at the path itself, even when it is an alias; false when there is none.
 [[nodiscard]] bool getFSRef(const QString& path, FSRef& reference);
-/// Where an alias leads in the end, through chains of them; the path itself when it is no alias; null when there is
-/// nothing at the path, or when the alias is broken or leads back to itself.
+/// The final target of an alias, through chains of aliases; the path itself when it is not an alias; null when nothing
+/// is at the path, or when the alias is broken or circular.
 [[nodiscard]] QString resolveAliasFile(const QString& path);
 
 } // namespace CarbonUtilities

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The engine's export files: how they are made, exchanged and closed. What is written to them is the engine's business.
+// The engine's export files: how they are created, exchanged and closed. BuildInAudioRecord.cpp writes the frames.
 #include "Source/BuiltInAudioRecord/BuildInAudioRecord.h"
 
 #include "Platform/Desktop/Workspace.h"
@@ -16,7 +16,7 @@ using Platform::ExtAudioFileWriter;
 
 namespace {
 
-/// Lets the writer's own thread close the file, tell file browsers, and report.
+/// Makes the writer's own thread close the file, notify file browsers, and report.
 void disposeLater(ExtAudioFileWriter& writer, const QString& path, std::function<void(QString, OSStatus)> closed) {
     writer.disposeLater([path, closed = std::move(closed)](OSStatus status) {
         Platform::MainQueue::post([path] { Platform::noteFileSystemChanged(path); });
@@ -33,7 +33,7 @@ AudioStreamBasicDescription BuildInAudioRecord::exportDescription(int type) cons
     return type == 0 ? waveExportFormat() : AudioStreamBasicDescription{};
 }
 
-/// The writer, not yet made ready for frames: until then it may continue another one.
+/// Creates the writer without preparing it for frames: until then it may continue another one.
 std::unique_ptr<ExtAudioFileWriter> BuildInAudioRecord::createWriter(const QString& path, int forType) {
     const std::uint32_t fileType = forType == 1 ? kAudioFileM4AType : forType == 0 ? kAudioFileWAVEType : 0;
     Platform::MediaError error;
@@ -121,7 +121,7 @@ bool BuildInAudioRecord::exchangeM4aFile(const QString& path, std::function<void
         const QString oldPath = outputM4aFilePath();
         if (!setOutPutAudioPath(path, 1))
             return false;
-        // There is nothing to close, but the caller waits for the report.
+        // Nothing has to be closed, but the caller waits for the report.
         if (closed)
             closed(oldPath, noErr);
         return true;
@@ -142,11 +142,11 @@ bool BuildInAudioRecord::exchangeM4aFile(const QString& path, std::function<void
     return true;
 }
 
-/// Exchanges the writers of a cut, now that the old file has its last frame. On the I/O thread or with cycles held.
+/// Swaps the writers of a cut once the old file has its last frame. On the I/O thread or with cycles held.
 void BuildInAudioRecord::finishCut() {
     if (!cut_)
         return;
-    // A writer that cannot continue the other begins anew: the resampler's phase is lost, no frame is.
+    // A writer that cannot continue the other starts anew: the resampler's state is lost, but no frame.
     if (outputM4a_.writer)
         (void)cut_->writer->continueFrom(*outputM4a_.writer);
     (void)cut_->writer->writeAsync(0, nullptr);
@@ -181,7 +181,7 @@ void BuildInAudioRecord::closeExportFile() {
 bool BuildInAudioRecord::closeExportFileLater(std::function<void(QString, OSStatus)> closed) {
     auto writer = takeWriter(outputM4a_);
     const QString path = outputM4aFilePath();
-    closeExportFile(); // what else is open
+    closeExportFile(); // closes the other files
     if (!writer)
         return false;
     noteClosed(*writer);

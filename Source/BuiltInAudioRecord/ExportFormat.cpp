@@ -11,8 +11,8 @@ AudioStreamBasicDescription waveExportFormat() {
     format.mFormatID = kAudioFormatLinearPCM;
     format.mFormatFlags = kAudioFormatFlagIsSignedInteger | kAudioFormatFlagIsPacked;
     format.mBytesPerPacket = 8;
-    // One packet of linear PCM holds one frame; who completes the description knows. Files of this program have always
-    // been described so, and the value is kept.
+    // One packet of linear PCM really holds one frame. Files of this program have always been described with this
+    // value, so it is kept.
     format.mFramesPerPacket = 1024;
     format.mBytesPerFrame = 8;
     format.mChannelsPerFrame = 2;

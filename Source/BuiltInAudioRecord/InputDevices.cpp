@@ -26,7 +26,7 @@ QString BuildInAudioRecord::getDeviceNameByDeviceID(AudioObjectID device) {
 }
 
 bool BuildInAudioRecord::isInputDeviceID(AudioObjectID device) {
-    // Not 0: a device that cannot be asked is offered rather than hidden.
+    // Not 0: a device that cannot be queried is listed rather than hidden.
     std::uint32_t size = 256;
     (void)Platform::services().audioHardware->getStreamsDataSize(device, Scope::Input, size);
     return size != 0;

@@ -7,20 +7,20 @@
 #include <cmath>
 #include <cstdint>
 
-/// The times at which a pause begins and ends inside the cycles of one device. Cycles of two devices do not end
-/// together: without these times each pause would shift one source against the other by up to a cycle. Set times other
-/// than 0 while cycles are held. The I/O thread calls of().
+/// The capture times at which a pause begins and ends inside the cycles of one device. The cycles of two devices do not
+/// end together: without these times each pause would shift one source against the other by up to a cycle. Set times
+/// other than 0 while cycles are held. The I/O thread calls of().
 class PauseSpan {
 public:
-    /// What is captured before @p hostTime is still written. 0 is at once.
+    /// Frames captured before @p hostTime are still written. 0 pauses at once.
     void begin(std::uint64_t hostTime) {
         begin_ = hostTime;
         end_ = 0;
     }
-    /// What is captured from @p hostTime on is written again. 0 is at once.
+    /// Frames captured from @p hostTime on are written again. 0 resumes at once.
     void end(std::uint64_t hostTime) { end_ = hostTime; }
 
-    /// The frames of a cycle to write: those in front of head and those from tail on.
+    /// The frames of a cycle to write: those before head and those from tail on.
     struct Parts {
         std::uint32_t head = 0;
         std::uint32_t tail = 0;
