@@ -22,7 +22,7 @@ constexpr int kRowHeight = 24;
 constexpr int kChooseWidth = 36;
 constexpr int kTimeWidth = 96;
 
-/// Rows without a ring around a single cell; a file that is gone is grey, with a mark.
+/// Draws rows without a focus ring around a single cell; a missing file is grey, with a mark.
 class TrackRowDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -110,14 +110,14 @@ void AudioDataSourceView::addDataFromRecordAudio(const QVariantList& records) {
         if (const Dictionary entry = CDTextControl::addRecordAudioInfoForDic(record.toMap()); !entry.isEmpty())
             entries.append(entry);
     tracks_.setEntries(std::move(entries));
-    updateActions(); // a reset clears the selection without saying so
+    updateActions(); // a reset clears the selection without a signal
     if (delegate_)
         delegate_->musicFileNumChange();
 }
 
 bool AudioDataSourceView::addFilesToDataAry(const QList<QUrl>& files) {
     QList<Dictionary> entries;
-    // A file on a slow disk takes a while to measure.
+    // Measuring a file on a slow disk takes a while.
     QApplication::setOverrideCursor(Qt::WaitCursor);
     for (const QUrl& file : files)
         if (const Dictionary entry = CDTextControl::setAudioInfoForDic(file.toLocalFile()); !entry.isEmpty())
@@ -147,7 +147,7 @@ void AudioDataSourceView::toggleSelected() {
     const QModelIndex current = currentIndex();
     if (!current.isValid())
         return;
-    // All rows follow the current one, so that a mixed selection becomes alike.
+    // All rows get the current row's state, so that a mixed selection becomes equal.
     const auto state = current.siblingAtColumn(TrackListModel::Choose).data(Qt::CheckStateRole) == Qt::Checked
                            ? Qt::Unchecked
                            : Qt::Checked;
@@ -181,7 +181,7 @@ void AudioDataSourceView::moveSelected(int step) {
 }
 
 void AudioDataSourceView::keyPressEvent(QKeyEvent* event) {
-    // The base class would take the space bar for the current cell alone, and letters typed after it for a search.
+    // The base class would apply the space bar to the current cell only, and use letters typed after it for a search.
     if (event->key() == Qt::Key_Space && !event->modifiers()) {
         toggleSelected();
         return;
@@ -195,7 +195,7 @@ void AudioDataSourceView::dragEnterEvent(QDragEnterEvent* event) {
         event->accept();
         return;
     }
-    // Rows of another window mean nothing here.
+    // Rows of another window cannot be dropped here.
     if (event->source() == this)
         QTreeView::dragEnterEvent(event);
     else
@@ -203,7 +203,7 @@ void AudioDataSourceView::dragEnterEvent(QDragEnterEvent* event) {
 }
 
 void AudioDataSourceView::dragMoveEvent(QDragMoveEvent* event) {
-    QTreeView::dragMoveEvent(event); // scrolls, and shows where the rows would go
+    QTreeView::dragMoveEvent(event); // scrolls, and shows the drop position
     if (event->source() == this) {
         event->setDropAction(Qt::MoveAction);
         event->accept();
@@ -234,7 +234,7 @@ void AudioDataSourceView::dropEvent(QDropEvent* event) {
             tracks_.move(rows, before);
         }
     }
-    // The rows are in their new places already: after a "move" the base class would remove the selected ones.
+    // The rows are already moved: after a "move" the base class would remove the selected ones.
     event->setDropAction(Qt::CopyAction);
     event->accept();
     stopAutoScroll();

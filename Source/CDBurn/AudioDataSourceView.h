@@ -7,19 +7,19 @@
 #include <QTreeView>
 #include <QUrl>
 
-/// Is told when the track list changes. Not owned by the list.
+/// Called when the track list changes. Not owned by the list.
 class AudioDataSourceViewDelegate {
 public:
     virtual ~AudioDataSourceViewDelegate() = default;
     /// The ticks changed.
     virtual void flushOtherInfo() {}
-    /// Entries came or went.
+    /// Entries were added or removed.
     virtual void musicFileNumChange() {}
 };
 
-/// The burn window's track list: a flat outline with a tick, a name and a time a row. Rows are ticked with the mouse or
-/// the space bar, dragged (or moved with Alt and an arrow key) into another order, and taken out with Delete; files
-/// that are dropped onto it are added. Main thread.
+/// The burn window's track list: a flat list with a check box, a name and a time in each row. Rows are ticked with the
+/// mouse or the space bar, reordered by dragging (or with Alt and an arrow key), and removed with Delete; files dropped
+/// onto it are added. Main thread.
 class AudioDataSourceView : public QTreeView {
     Q_OBJECT
 public:
@@ -30,10 +30,10 @@ public:
 
     /// All entries (see TrackEntry), ticked or not, in the order of the tracks.
     [[nodiscard]] const QList<Dictionary>& aryForAudioData_() const { return tracks_.entries(); }
-    /// Replaces the list by recordings of the library; those without a usable length are left out.
+    /// Replaces the list with recordings of the library, except those without a usable length.
     void addDataFromRecordAudio(const QVariantList& records);
-    /// Appends files; folders, unreadable and very short files are left out. Opens each file to measure it.
-    /// @return whether any was added
+    /// Appends files, except folders, unreadable and very short files. Opens each file to measure it. @return whether
+    /// any was added
     bool addFilesToDataAry(const QList<QUrl>& files);
 
     /// Whether there are no entries, ticked or not.
@@ -43,7 +43,7 @@ public:
 
     void flushOtherInfo();
 
-    // What the rows' menu and its keys do.
+    // Used by the rows' menu and keys.
     void toggleSelected();
     void removeSelected();
     void moveSelected(int step); ///< -1: up, 1: down

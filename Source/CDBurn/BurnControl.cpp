@@ -17,7 +17,7 @@ namespace {
 
 Q_LOGGING_CATEGORY(burnLog, "sonaphex.burn")
 
-const QString DRDeviceMediaStateBegin = QStringLiteral("DRDeviceMediaStateBegin"); // no disc seen yet, or it has gone
+const QString DRDeviceMediaStateBegin = QStringLiteral("DRDeviceMediaStateBegin"); // no disc yet, or it was removed
 const QString DRDeviceMediaStateEnd = QStringLiteral("DRDeviceMediaStateEnd");     // a disc is present
 
 constexpr std::uint32_t kPreGapSectors = 75;
@@ -43,7 +43,7 @@ BurnControl::BurnControl(QObject* parent) : QObject(parent), mediaStateMarker_(D
 
 BurnControl::~BurnControl() {
     destroyCDRom();
-    // The notifications of a burn or an erase that goes on must not find a destroyed observer.
+    // The notifications of a running burn or erase must not reach a destroyed observer.
     recording().currentRunLoopCenter().removeObserver(this);
 }
 
@@ -95,7 +95,7 @@ void BurnControl::setUseCDRom(std::uint32_t index) {
 }
 
 void BurnControl::destroyCDRom() {
-    // The drive that was chosen, not the one at its index: the list may have changed since.
+    // The chosen drive itself, not its index: the list may have changed since.
     if (watched_)
         recording().currentRunLoopCenter().removeObserver(this, DRDeviceStatusChangedNotification, watched_);
     watched_.reset();
@@ -106,7 +106,7 @@ void BurnControl::devicesDidChange() {
     const auto devices = recording().devices();
     const auto found = std::find(devices.begin(), devices.end(), watched_);
     if (watched_ && found != devices.end())
-        recordNum_ = std::uint32_t(found - devices.begin()); // a drive before it came or went
+        recordNum_ = std::uint32_t(found - devices.begin()); // a drive before it in the list was added or removed
     else if (!devices.empty())
         setUseCDRom(0);
     post(BurnControlDevicesDidChangeNotification);
@@ -294,8 +294,8 @@ void BurnControl::eraseNotification(const DRNotification& notification) {
     const auto value = float(status.percentComplete);
     qCInfo(burnLog, "    value  =  %f", double(value));
     post(EraseDVDProgressNotification, {{kBurnProgressKey, value}});
-    // The removals name the notification of burns, so the observer of an erase stays: what comes after the end of an
-    // erase is still posted.
+    // Only the observer of burns is removed; the observer of an erase stays, so notifications after the end of an erase
+    // are still posted.
     if (status.state == DRStatusStateFailed) {
         qCInfo(burnLog, "           the   erase  is  Failed");
         recording().currentRunLoopCenter().removeObserver(this, DRBurnStatusChangedNotification, erase);

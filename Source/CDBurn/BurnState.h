@@ -7,7 +7,7 @@
 /// Whether a burn may start, and why not.
 enum class BurnState { NoMusic, NoDisc, Erasable, NotBlank, NoRoom, Ready };
 
-/// What the state depends on.
+/// The values that determine the state.
 struct BurnConditions {
     bool listIsEmpty = true; ///< no entries at all, ticked or not
     bool mounted = false;    ///< the chosen drive holds a disc that the system knows
@@ -20,5 +20,5 @@ struct BurnConditions {
 /// The first reason that applies, in the order of the enumeration.
 [[nodiscard]] BurnState burnState(const BurnConditions& conditions);
 
-/// What the window says of a state.
+/// The window's message for a state.
 [[nodiscard]] QString burnStateMessage(BurnState state);

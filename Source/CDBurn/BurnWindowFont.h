@@ -6,8 +6,8 @@
 
 /// The typeface of the burn window's messages.
 namespace BurnWindowFont {
-/// @p points are of 1/72 inch at 100 % scale, so they are Qt's pixels. The house's own typeface stands in where this
-/// one is not installed.
+/// @p points are 1/72 inch at 100 % scale, so they equal Qt's pixels. Falls back to the program's own typeface where
+/// this one is not installed.
 [[nodiscard]] inline QFont ofSize(int points) {
     QFont font;
     font.setFamilies(QStringList{QStringLiteral("Lucida Grande")} + font.families());

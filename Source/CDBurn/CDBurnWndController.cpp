@@ -28,8 +28,8 @@ constexpr QSize kFirstSize(720, 480);
 constexpr int kBottomBorder = 30;
 constexpr int kWarningFont = 13;
 
-// What a free space of so many gigabytes is in the window's megabytes. The track list counts in its own, slightly
-// larger estimate, so the two go together as they are.
+// Converts gigabytes of free space to the window's megabytes. The track list uses its own, slightly larger estimate;
+// the two are compared without conversion.
 int megabytes(float gigabytes) {
     const float scaled = gigabytes * 1000;
     constexpr auto most = std::numeric_limits<int>::max();
@@ -71,7 +71,7 @@ void CDBurnWndController::awakeFromNib() {
 
     using Self = CDBurnWndController;
     connect(window_.get(), &EditDialog::cancelled, this, [this] {
-        if (!process_->window()->isVisible()) // a burn goes on until its sheet ends it
+        if (!process_->window()->isVisible()) // during a burn, its sheet ends the session
             windowShouldClose();
     });
     connect(ui_->popDrives_, &QComboBox::activated, this, &Self::chooseBurnDevice);
@@ -100,7 +100,8 @@ void CDBurnWndController::fillDrives() {
     const QStringList names = BurnControl::cdROMDisplayNames();
     if (names.isEmpty())
         return;
-    // Drives come and go while the window is open; the chosen one keeps its place in the list or has been replaced.
+    // Drives are added and removed while the window is open; the chosen one keeps its place in the list or has been
+    // replaced.
     ui_->popDrives_->clear();
     ui_->popDrives_->addItems(names);
     ui_->popDrives_->setCurrentIndex(int(burnControl_->recordNum()));
@@ -138,7 +139,7 @@ void CDBurnWndController::setAudioDataForCDBurn(const QVariantList& records) {
 }
 
 void CDBurnWndController::addFilesToData() {
-    // The sheet belongs to the window, which may be closed before it is answered.
+    // The sheet belongs to the window, which may be destroyed before it is answered.
     const QPointer<CDBurnWndController> self(this);
     Platform::services().panels->chooseFilesAndFolders(window_.get(), u"Select"_s, Platform::Folders::home(),
                                                        [self](const QStringList& paths) {
@@ -164,14 +165,14 @@ void CDBurnWndController::ejesctDisc() {
 void CDBurnWndController::startBurnCD() {
     if (ui_->trackList_->isNullForData())
         return;
-    // An empty layout would fail without a word, and the window would go with it.
+    // An empty layout would fail silently and close the window.
     if (ui_->trackList_->dataCountNum() == 0) {
         Platform::services().alerts->runModal(tr("There is nothing to burn."),
                                               tr("Tick the files that are to become tracks, then press Burn."),
                                               {tr("OK")});
         return;
     }
-    // The disc may have been taken out a moment ago. A burn that cannot start tells nothing, and its sheet would stay.
+    // The disc may just have been removed. A burn that cannot start sends no notification, and its sheet would stay.
     flushDVDStartinfo();
     if (!ui_->btnBurn_->isEnabled())
         return;

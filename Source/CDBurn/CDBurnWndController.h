@@ -18,12 +18,12 @@ namespace Ui {
 class CDBurnWnd;
 }
 
-/// The burn window: the track list, the choice of the drive, whether a burn can start and why not, and the start. A
-/// progress sheet stands on it while it burns; when that goes, the window goes. Main thread.
+/// The burn window: the track list, the choice of the drive, whether a burn can start and why not, and the start.
+/// During a burn a progress sheet covers it; the window closes with that sheet. Main thread.
 class CDBurnWndController : public QObject, public AudioDataSourceViewDelegate {
     Q_OBJECT
 public:
-    /// @p mainWindow is the one that the window stands in front of; may be null.
+    /// The window is centred in front of @p mainWindow, which may be null.
     explicit CDBurnWndController(QWidget* mainWindow);
     ~CDBurnWndController() override;
 
@@ -32,7 +32,7 @@ public:
     [[nodiscard]] ProcessWndController& processWndController() const { return *process_; }
     [[nodiscard]] AudioDataSourceView& trackList() const;
 
-    /// Before the window is shown: its size of last time, and the first track selected.
+    /// Call it before the window is shown: restores its last size and selects the first track.
     void prepareWindow();
     /// Shows the window and returns when it is closed.
     void runModal();
@@ -53,11 +53,11 @@ public:
 
     /// The track list's content changed.
     void musicFileNumChange() override;
-    /// Shows how much is ticked.
+    /// Shows the size of the ticked tracks.
     void flushOtherInfo() override;
-    /// Looks at the disc in the chosen drive.
+    /// Reads the state of the disc in the chosen drive.
     void flushDVDStartinfo();
-    /// Says whether a burn can start, and why not.
+    /// Shows whether a burn can start, and why not.
     void burnStateControl();
 
 private:
@@ -69,6 +69,6 @@ private:
     std::unique_ptr<Ui::CDBurnWnd> ui_;
     std::unique_ptr<BurnControl> burnControl_;
     std::unique_ptr<ProcessWndController> process_;
-    int discFreeSize_ = 0; ///< megabytes, each a thousandth of 1024 * 1024 * 1024 bytes
+    int discFreeSize_ = 0; ///< megabytes, each 1/1000 of 1024 * 1024 * 1024 bytes
     std::vector<std::unique_ptr<Platform::NotificationCenter::Observation>> observations_;
 };

@@ -35,8 +35,8 @@ OSStatus statusOf(Kind kind) {
     }
 }
 
-constexpr std::int64_t kLongestRefused = 2;        ///< an entry's seconds: those of the file plus one
-constexpr std::int64_t kLongest = 365 * 24 * 3600; ///< a damaged entry of the library may claim any length
+constexpr std::int64_t kLongestRefused = 2;        ///< an entry's seconds, which are those of the file plus one
+constexpr std::int64_t kLongest = 365 * 24 * 3600; ///< a damaged library entry may contain any length
 
 Dictionary entryOf(const QString& path, std::int64_t wholeSeconds) {
     const std::int64_t length = std::min(wholeSeconds, kLongest) + 1;
@@ -68,7 +68,7 @@ std::uint64_t CAGetLengthOfAudioFile(const QString& path) {
     const AudioStreamBasicDescription& format = file.dataFormat;
     if (!(format.mSampleRate > 0))
         return 0;
-    // Packets of changing length (Vorbis) have no number of frames; their file's own length stands in.
+    // Formats with packets of varying length (Vorbis) have no frame count per packet; use the file's own length.
     const double frames =
         format.mFramesPerPacket > 0 ? double(file.packetCount) * format.mFramesPerPacket : double(file.frameCount);
     const double seconds = frames / format.mSampleRate;

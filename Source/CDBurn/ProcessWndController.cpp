@@ -23,10 +23,10 @@ const QString kWaiting = QStringLiteral("Please waiting a moment ...");
 const QString kBurning = QStringLiteral("Burning Disc...");
 
 constexpr int kMostPercent = 99;      ///< the sheet never shows 100
-constexpr int kCancelFromPercent = 4; ///< a drive that has just begun does not like to be stopped
+constexpr int kCancelFromPercent = 4; ///< a drive that has just started should not be stopped
 constexpr int kUnknownPercent = -100;
 
-/// Escape and the close box ask what Cancel asks; the sheet never just goes.
+/// Escape and the close box ask the same question as Cancel; the sheet does not close by itself.
 class Sheet : public QDialog {
 public:
     Sheet(QWidget* parent, std::function<void()> rejected)
@@ -59,7 +59,7 @@ void ProcessWndController::awakeFromNib() {
     ui_->lblTitle_->setFont(BurnWindowFont::ofSize(20));
     ui_->lblPercent_->setFont(BurnWindowFont::ofSize(20));
     ui_->lblMessage_->setFont(BurnWindowFont::ofSize(16));
-    // As wide as its longest text, so that nothing moves while it counts.
+    // As wide as its longest text, so that the layout does not move.
     ui_->lblPercent_->setMinimumWidth(ui_->lblPercent_->fontMetrics().horizontalAdvance(u"99  %"_s));
     ui_->btnCancel_->setText(u"Cancel"_s);
     connect(ui_->btnCancel_, &QPushButton::clicked, this, &ProcessWndController::cancelBurn);
@@ -132,7 +132,7 @@ void ProcessWndController::burnProcess(const Dictionary& userInfo) {
         ui_->btnCancel_->setToolTip(tr("Stops the burn; the disc is spoilt."));
     }
     ui_->lblMessage_->setText(kBurning);
-    // Finer than the percentage: a whole disc moves it often enough to be seen.
+    // Finer than the percentage, so that the bar moves visibly for a whole disc.
     ui_->progressBar_->setValue(int(std::clamp(share, 0.0, kMostPercent / 100.0) * ui_->progressBar_->maximum()));
     setProcess(percent);
 }
@@ -142,7 +142,7 @@ void ProcessWndController::setProcess(int percent) {
 }
 
 void ProcessWndController::burnFinish() {
-    // From here on there is nothing left that could be stopped.
+    // After this point nothing can be stopped.
     finished_ = true;
     ui_->btnCancel_->setEnabled(false);
     ui_->btnCancel_->setToolTip({});
@@ -160,7 +160,7 @@ void ProcessWndController::burnError() {
 void ProcessWndController::cancelBurn() {
     const int answer = Platform::services().alerts->runModal(u"Warning:"_s, u"Are you sure to end the task?"_s,
                                                              {u"Cancel"_s, u"OK"_s});
-    // The burn may have ended while the question stood.
+    // The burn may have ended while the question was open.
     if (answer != 1 || finished_ || !didEnd_)
         return;
     engine_->stopBurn();

@@ -18,32 +18,32 @@ namespace Ui {
 class ProcessWnd;
 }
 
-/// The progress sheet of a burn: follows the engine's notifications, offers to cancel, and stays up for five seconds
-/// after a burn that went well. Main thread.
+/// The progress sheet of a burn: follows the engine's notifications, offers to cancel, and stays open for five seconds
+/// after a successful burn. Main thread.
 class ProcessWndController : public QObject {
     Q_OBJECT
 public:
     static constexpr int kLingerMs = 5000;
 
-    /// @p window is the one that the sheet stands on.
+    /// The sheet covers @p window.
     explicit ProcessWndController(QWidget& window);
     ~ProcessWndController() override;
 
-    /// The engine that cancelling stops; not owned.
+    /// The engine to stop on cancel; not owned.
     void senBurnControl(BurnControl* engine) { engine_ = engine; }
     [[nodiscard]] QDialog* window() const { return window_.get(); }
 
-    /// Back to the waiting state: no percentage known, nothing to cancel.
+    /// Resets to the waiting state: unknown percentage, nothing to cancel.
     void initProcessWnd();
-    /// Shows the sheet. @p didEnd is called once, when it has gone.
+    /// Shows the sheet. @p didEnd is called once, when it is closed.
     void beginSheet(std::function<void()> didEnd);
 
-    /// @p userInfo holds the share that is done, from 0 to 1, or -1 while it is not known.
+    /// @p userInfo holds the progress from 0 to 1, or -1 while unknown.
     void burnProcess(const Dictionary& userInfo);
     void burnFinish();
     void finishBurn();
     void burnError();
-    /// Asks, and stops the burn.
+    /// Asks, then stops the burn.
     void cancelBurn();
     void setProcess(int percent);
 
@@ -58,8 +58,8 @@ private:
     BurnControl* engine_ = nullptr;
     std::unique_ptr<QDialog> window_;
     std::unique_ptr<Ui::ProcessWnd> ui_;
-    std::function<void()> didEnd_; ///< set while the sheet is up
+    std::function<void()> didEnd_; ///< set while the sheet is open
     QTimer linger_;
-    bool finished_ = false; ///< the burn went well; the sheet lingers
+    bool finished_ = false; ///< the burn succeeded; the sheet stays open for a while
     std::vector<std::unique_ptr<Platform::NotificationCenter::Observation>> observations_;
 };

@@ -16,7 +16,7 @@ const QString kChoose = QStringLiteral("Choose");
 const QString kAudioName = QStringLiteral("Audio Name");
 const QString kTime = QStringLiteral("Time");
 
-// Ascending, each once, within the list.
+// Sorted, without duplicates, within the list.
 void tidy(QList<int>& rows, qsizetype count) {
     rows.removeIf([count](int row) { return row < 0 || row >= count; });
     std::ranges::sort(rows);
@@ -71,13 +71,13 @@ void TrackListModel::remove(QList<int> rows) {
 void TrackListModel::move(QList<int> rows, int before) {
     tidy(rows, entries_.size());
     before = std::clamp(before, 0, int(entries_.size()));
-    // Rows from above the target arrive there in reverse, each in front of the one that arrived last.
+    // Rows from above the target are moved in reverse order, each in front of the one moved before.
     const auto below = std::ranges::lower_bound(rows, before);
     int target = before;
     for (auto row = below; row != rows.begin();) {
         --row;
         --target;
-        // A row that is in its place already is no move, and Qt refuses to be told of one.
+        // A row that is already in place is not a move, and Qt does not allow announcing one.
         if (*row != target && beginMoveRows({}, *row, *row, {}, target + 1)) {
             entries_.move(*row, target);
             endMoveRows();
@@ -175,7 +175,7 @@ QVariant TrackListModel::data(const QModelIndex& index, int role) const {
     case MissingRole:
         return missing_.isMissing(child(index.row()).value(TrackEntry::FilePath).toString());
     case Qt::AccessibleTextRole:
-        // The cell with the box is read out alone when the row's tick changes.
+        // Only the cell with the check box is read by a screen reader when the row's tick changes.
         return index.column() == Choose ? objectValue(kAudioName, index.row()) : QVariant();
     case Qt::TextAlignmentRole:
         return index.column() == Time ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();

@@ -7,14 +7,14 @@
 
 #include <QAbstractTableModel>
 
-/// The files that are to become the tracks of a disc, in their order, each with a tick (see TrackEntry). A file may
-/// stand in the list more than once. Main thread.
+/// The files to be written as the tracks of a disc, in order, each with a tick (see TrackEntry). A file may be in the
+/// list more than once. Main thread.
 class TrackListModel : public QAbstractTableModel {
     Q_OBJECT
 public:
     enum Column { Choose, AudioName, Time };
     static constexpr int kColumns = 3;
-    static constexpr int MissingRole = Qt::UserRole; ///< bool: the file is gone from the disk
+    static constexpr int MissingRole = Qt::UserRole; ///< bool: the file does not exist any more
 
     explicit TrackListModel(QObject* parent = nullptr);
 
@@ -25,22 +25,22 @@ public:
     [[nodiscard]] const QList<Dictionary>& entries() const { return entries_; }
     void setEntries(QList<Dictionary> entries);
     void append(const QList<Dictionary>& entries);
-    /// Takes rows out of the list; the files stay.
+    /// Removes rows from the list; the files are kept.
     void remove(QList<int> rows);
-    /// Puts rows, in their order, in front of the row @p before (the number of rows: at the end).
+    /// Moves rows, in their order, in front of the row @p before (the number of rows: at the end).
     void move(QList<int> rows, int before);
 
-    /// The entry of a row, its "NumberForMusic" set to the row.
+    /// The entry of a row, with its "NumberForMusic" set to the row.
     [[nodiscard]] const Dictionary& child(int row) const;
-    /// What a column shows of a row: file name, time or tick; invalid for any other identifier.
+    /// A cell's value: file name, time or tick; invalid for any other identifier.
     [[nodiscard]] QVariant objectValue(const QString& identifier, int row) const;
-    /// Whether the column's cell may be edited. For "Choose" this is the edit: the tick changes.
+    /// Whether the column's cell may be edited. For "Choose" this call is the edit: it toggles the tick.
     bool shouldEdit(const QString& identifier, int row);
 
     [[nodiscard]] int tickedCount() const;
-    /// Estimated megabytes of the ticked entries: added in single precision, then truncated.
+    /// Estimated megabytes of the ticked entries: summed in single precision, then truncated.
     [[nodiscard]] int tickedSize() const;
-    /// Seconds of the ticked entries, as their rows show them.
+    /// Seconds of the ticked entries, as shown in their rows.
     [[nodiscard]] std::int64_t tickedSeconds() const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
@@ -58,6 +58,6 @@ private:
     template <typename Use>
     void forEachTicked(Use use) const;
 
-    mutable QList<Dictionary> entries_; ///< asking for a row stamps its number into it
-    mutable MissingFiles missing_;      ///< asking for a path makes a worker look at it
+    mutable QList<Dictionary> entries_; ///< reading a row writes its number into it
+    mutable MissingFiles missing_;      ///< reading a path starts a check on a worker
 };
