@@ -21,7 +21,7 @@ namespace FileManager = Platform::FileManager;
 namespace AudioTrimSave {
 namespace {
 
-constexpr double kShareOfConversion = 0.97; ///< the rest is tagging and the disk
+constexpr double kShareOfConversion = 0.97; ///< the rest is spent on tags and the disk
 
 QString text(const char* sentence) {
     return QCoreApplication::translate("AudioTrimSave", sentence);
@@ -31,12 +31,12 @@ QString named(const char* sentence, const QString& path) {
     return text(sentence).replace(u"%1"_s, QFileInfo(path).fileName());
 }
 
-/// Errors of the temporary file mean nothing to people: they know the recording.
+/// Replaces the temporary file's name in an error: the user knows the recording's name only.
 QString withoutTemporaryName(QString why, const QString& temporary, const QString& shown) {
     return why.replace(temporary, shown);
 }
 
-/// Converts the range into @p temporary. @return why that failed; empty when it did not
+/// Converts the range into @p temporary. @return the error; empty on success
 QString convert(ConverterAudioControl& converter, const Task& task, const QString& temporary,
                 const std::function<bool(double)>& progress) {
     bool stopped = false;
@@ -55,7 +55,7 @@ QString convert(ConverterAudioControl& converter, const Task& task, const QStrin
         return converter.sourceError().text;
     if (const auto error = converter.exportError())
         return withoutTemporaryName(error.text, temporary, text("the new file"));
-    // A damaged place is silence in the copy. The recording is kept: better tools may read more of it.
+    // A damaged part is silence in the copy. The recording is kept: other tools may recover more of it.
     if (const auto damage = converter.sourceError(); damage && task.replace)
         return damage.text;
     return {};

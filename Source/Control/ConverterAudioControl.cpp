@@ -20,7 +20,7 @@ namespace {
 
 Q_LOGGING_CATEGORY(converterLog, "sonaphex.converter")
 
-/// Blocks between two reports of progress: about three quarters of a second of sound.
+/// Blocks between two progress reports: about three quarters of a second of audio.
 constexpr int kBlocksPerReport = 64;
 
 std::uint32_t containerOf(int type) {
@@ -39,14 +39,14 @@ std::uint32_t containerOf(int type) {
 
 } // namespace
 
-/// A source that is being copied, and the block that travels from it to the output.
+/// A source that is being copied, and the block that carries its frames to the output.
 struct ConverterAudioControl::Source {
     std::unique_ptr<Platform::ExtAudioFileReader> file;
     double rate = 0;
     ClientBlock block;
     int blocks = 0;
 
-    /// Whole frames up to a time; what is left of a frame is cut off.
+    /// The number of whole frames up to a time, rounded down.
     [[nodiscard]] std::int64_t frameAt(double seconds) const { return static_cast<std::int64_t>(rate * seconds); }
     [[nodiscard]] bool timeToReport() { return ++blocks % kBlocksPerReport == 0; }
 };
@@ -84,14 +84,14 @@ bool ConverterAudioControl::createOutPutFile(const QString& path, int type) {
             exportError_ = {Platform::MediaError::Kind::Other, u"%1 cannot be written"_s.arg(path)};
         return false;
     }
-    // Kept from here on, also when the next step fails: the owner closes it or begins another.
+    // Kept from here on, even when the next step fails: the owner closes it or starts another one.
     outputAudioFile_ = std::move(file);
     if (outputAudioFile_->setClientDataFormat(actualOutputFormat_) != noErr) {
         exportError_ = outputAudioFile_->firstError();
         return false;
     }
     if (actualOutputFormat_.mChannelsPerFrame == 2 && outputAudioFile_->hasAudioConverter()) {
-        // Both channels of the file carry the first one of the source, on purpose.
+        // Both channels of the file get the first channel of the source, on purpose.
         constexpr std::array<std::int32_t, 2> firstChannelTwice{0, 0};
         outputAudioFile_->setConverterChannelMap(firstChannelTwice);
     }

@@ -6,15 +6,15 @@
 
 #include <functional>
 
-/// Told when a plain copy has ended, on the thread that ran it.
+/// Called when a plain copy has ended, on the thread that ran it.
 class ConverterAudioControlDelegate {
 public:
     virtual ~ConverterAudioControlDelegate() = default;
     virtual void converterFinish() {}
 };
 
-/// Copies a stretch of an audio file into a new file, decoding and encoding on the way. One output at a time; a copy
-/// blocks the calling thread.
+/// Copies a range of an audio file into a new file by decoding and encoding. One output at a time; a copy blocks the
+/// calling thread.
 class ConverterAudioControl {
 public:
     ConverterAudioControl();
@@ -26,20 +26,20 @@ public:
     /// Output types: 0 WAVE, 1 (and 3) MPEG-4 AAC, 2 CAF with AAC.
     [[nodiscard]] static AudioStreamBasicDescription exportDescription(int type);
     bool createOutPutFile(const QString& path, int type);
-    /// Plain copy of [trimFrom, trimTo) seconds; a trimTo below 0.1 means to the end.
+    /// Copies [trimFrom, trimTo) seconds; a trimTo below 0.1 means to the end.
     bool startConverterSource(const QString& source, float trimFrom, float trimTo);
-    /// Copy with linear fades that plays the range again when it runs out before converterLength seconds.
+    /// Copies with linear fades; repeats the range when it ends before converterLength seconds.
     bool startFadeInFadeOutConverterSource(const QString& source, float trimFrom, float trimTo, float fadeInTime,
                                            float fadeOutTime, float converterLength);
     void closeExportFile();
     void converterFinish();
 
-    /// The first error of the output that was written last: the copy itself ignores it, its caller must not.
+    /// The first error of the last output: the copy itself ignores it, its caller must check it.
     [[nodiscard]] Platform::MediaError exportError() const { return exportError_; }
-    /// Why the source of the last copy could not be opened, or the first thing that was damaged in it.
+    /// Why the source of the last copy could not be opened, or the first damage found in it.
     [[nodiscard]] Platform::MediaError sourceError() const { return sourceError_; }
-    /// Told the share done (0 to 1) now and then, on the copying thread. When it answers false the copy ends there: the
-    /// output is closed, converterFinish() is not sent, and the copy answers false.
+    /// Called now and then on the copying thread with the progress from 0 to 1. When it returns false the copy ends:
+    /// the output is closed, converterFinish() is not called, and the copy returns false.
     void setProgress(std::function<bool(double)> progress) { progress_ = std::move(progress); }
 
 private:
@@ -47,7 +47,7 @@ private:
     [[nodiscard]] bool openSource(const QString& path, Source& source);
     void writeBlock(Source& source, std::uint32_t frames);
     [[nodiscard]] bool goesOn(double share);
-    /// Closes both files. @return whether the copy came to its end
+    /// Closes both files. @return whether the copy was completed
     [[nodiscard]] bool finishCopy(Source& source, const QString& path, bool stopped);
 
     std::unique_ptr<Platform::ExtAudioFileWriter> outputAudioFile_;

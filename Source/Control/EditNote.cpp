@@ -37,7 +37,7 @@ QString notesFolder() {
            u"/Edits"_s;
 }
 
-/// What the file at @p path is, by the keys of an entry.
+/// The entry's keys with the values of the file at @p path.
 Dictionary factsOf(const QString& path) {
     Dictionary facts{{AudioRecordEntry::SavePath, path}};
     if (const auto tags = Platform::BasicID3Change::read(path)) {
@@ -55,17 +55,17 @@ Dictionary factsOf(const QString& path) {
     return facts;
 }
 
-/// @return whether the note is no longer needed
+/// @return whether the note can be removed
 bool settle(const QByteArray& content) {
     const QJsonDocument note = QJsonDocument::fromJson(content);
     const QString path = note[u"path"_s].toString();
     if (path.isEmpty())
-        return true; // cut off while it was written: nothing had begun
+        return true; // incomplete note: the change had not begun
     const QString newPath = note[u"newPath"_s].toString();
     const QString hidden = note[u"hidden"_s].toString();
     if (QFileInfo(hidden).fileName().startsWith(u".sonaphex-"_s))
         (void)Platform::FileManager::removeFile(hidden);
-    // A rename never overwrites. While the old name stands there it has not happened.
+    // A rename never overwrites. While a file has the old name, the rename has not happened.
     const QString now = QFileInfo::exists(path) || QFileInfo(path).isSymLink() ? path : newPath;
     if (!QFileInfo::exists(now))
         return true;
@@ -113,7 +113,7 @@ void EditNote::recover() {
     for (const QString& name : folder.entryList({u'*' + kEnding}, QDir::Files)) {
         Platform::FileLock lock;
         if (lock.take(folder.filePath(name)) != Platform::FileLock::Result::Held)
-            continue; // its process still works on it
+            continue; // its process is still running
         QFile file(folder.filePath(name));
         if (file.open(QIODevice::ReadOnly) && settle(file.read(kLongestNote)))
             lock.removeAndRelease();

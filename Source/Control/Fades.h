@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-/// Linear fades over a range that may be played more than once. All times in seconds.
+/// Linear fades over a range that may be repeated. All times in seconds.
 struct Fades {
     double rangeBegin;
     double rangeEnd;
@@ -10,6 +10,6 @@ struct Fades {
     double fadeOut;
     double length; ///< of the output
 
-    /// The gain of the block that begins at @p source in the file and at @p written in the output, 0 to 1.
+    /// The gain, 0 to 1, of the block that begins at @p source in the file and at @p written in the output.
     [[nodiscard]] double gainAt(double source, double written) const;
 };

@@ -20,7 +20,7 @@ namespace FileTags {
 
 namespace {
 
-/// As a file keeps it: half a character becomes a replacement character.
+/// As a file stores it: an unpaired surrogate becomes a replacement character.
 QString kept(const QVariant& value) {
     return QString::fromUtf8(Platform::stringForm(value).toUtf8());
 }

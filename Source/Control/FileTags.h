@@ -6,21 +6,21 @@
 
 #include <QByteArray>
 
-/// What a recording's file says of itself, read from the file. Any thread, blocking.
+/// A recording's tags, read from its file. Any thread, blocking.
 namespace FileTags {
 
-/// The five text tags by the keys of an audio record entry. A file of another kind has none that are known here: its
-/// title is then made of its name.
+/// The five text tags under the keys of an audio record entry. For other file types only a title is returned, made from
+/// the file name.
 [[nodiscard]] Dictionary texts(const QString& path);
 
-/// The cover as it stands in the file. Empty when there is none, and for the default one, which stands for none.
+/// The cover as stored in the file. Empty when there is none, and for the default cover.
 [[nodiscard]] QByteArray artwork(const QString& path);
 
-/// Writes artwork() to a new file in the temporary folder, so that another file can be given the same cover, byte for
-/// byte. @return its path, for the caller to remove; empty when there is no cover or no room
+/// Writes artwork() to a new file in the temporary folder, so that another file can get the same cover, byte for byte.
+/// @return its path, which the caller must remove; empty when there is no cover or no space
 [[nodiscard]] QString artworkFile(const QString& path);
 
-/// Whether the file has the five text tags of an entry. @p why tells a person when the file cannot be read.
+/// Whether the file has the five text tags of an entry. When the file cannot be read, @p why holds the reason.
 [[nodiscard]] bool agree(const QString& path, const Dictionary& entry, QString* why = nullptr);
 
 } // namespace FileTags

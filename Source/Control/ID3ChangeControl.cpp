@@ -28,14 +28,14 @@ unsigned artworkCounter = 0;
 
 QString temporaryPath(QLatin1StringView prefix, unsigned& counter, QLatin1StringView ending) {
     for (;;) {
-        // A file may still be there from a crash: it must not be taken for the one that is being changed.
+        // A crash may have left a file of this name: it must not be mistaken for the file being changed.
         const QString path = g_strTmpPath + u'/' + prefix + QString::number(counter++) + ending;
         if (!QFileInfo::exists(path) && !QFileInfo(path).isSymLink())
             return path;
     }
 }
 
-/// The file behind a link in the library: that file is changed, and the link stays.
+/// The target of a symbolic link in the library: the target is changed, and the link stays.
 QString behindLink(const QString& path) {
     const QString real = QFileInfo(path).isSymLink() ? QFileInfo(path).canonicalFilePath() : QString();
     return real.isEmpty() ? path : real;
@@ -54,13 +54,13 @@ bool moveAway(const QString& path, const QString& working) {
     return false;
 }
 
-/// Takes a file back from the temporary folder; when something else stands there by now, both are kept.
+/// Moves a file back from the temporary folder; when another file has its place by now, both are kept.
 void moveBack(const QString& from, const QString& to) {
     if (!FileManager::move(from, to).isEmpty() && QFileInfo::exists(from)) {
         const QString kept = FileManager::setAside(from, QFileInfo(to).fileName());
         qCWarning(log, "%s could not be put back; it is at %s", qUtf8Printable(to), qUtf8Printable(kept));
     }
-    if (!QFileInfo::exists(from)) // one that stays keeps its note: the next launch tries again
+    if (!QFileInfo::exists(from)) // a file that stays keeps its note: the next launch tries again
         MovedFiles::forget(from);
 }
 

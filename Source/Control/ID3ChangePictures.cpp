@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// In a file of its own because it draws: the recorder on the command line is linked without Qt Gui.
+// A file of its own because it draws: the recorder on the command line is linked without Qt Gui.
 #include "Source/Control/ID3ChangeControl.h"
 
 #include "Platform/Foundation/FileManager.h"

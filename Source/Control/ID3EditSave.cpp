@@ -28,7 +28,7 @@ QString sentence(const char* words, const QString& path) {
     return QCoreApplication::translate("ID3EditSave", words).replace(u"%1"_s, QFileInfo(path).fileName());
 }
 
-/// Whether the recording has the picture of a file as its cover, byte for byte.
+/// Whether the recording's cover equals an image file, byte for byte.
 bool hasPicture(const QString& path, const QString& picture) {
     QFile file(picture);
     return file.open(QIODevice::ReadOnly) && FileTags::artwork(path) == file.readAll();
@@ -59,12 +59,12 @@ Result save(const Dictionary& before, const Dictionary& edited, const Artwork& a
     QString own;
     if (artwork.kind == Artwork::Kind::Keep)
         picture = own = FileTags::artworkFile(path);
-    // Cover and texts are changed in place, and the name comes last: the recording never leaves its folder.
+    // Cover and texts are changed in place, and the rename comes last: the recording never leaves its folder.
     ID3ChangeControl::changeID3Artwork(path, path, artwork.kind == Artwork::Kind::Default ? QString() : picture);
     if (!own.isEmpty())
         (void)Platform::FileManager::removeFile(own);
     if (artwork.kind == Artwork::Kind::Set && !hasPicture(path, artwork.path)) {
-        // The disk is full, for one. Nothing is changed yet, and the user can try again.
+        // For example a full disk. Nothing is changed yet, and the user can try again.
         result.notice = sentence(QT_TRANSLATE_NOOP("ID3EditSave", "The cover of “%1” could not be written."), path);
         note->end();
         return result;

@@ -14,8 +14,8 @@ using namespace Qt::StringLiterals;
 namespace RecordingRename {
 namespace {
 
-constexpr int kLongestName = 255;    ///< bytes, on every usual file system
-constexpr int kShownCharacters = 40; ///< of a name within a sentence
+constexpr int kLongestName = 255;    ///< bytes, the limit of the usual file systems
+constexpr int kShownCharacters = 40; ///< of a name within a message
 
 QString shown(const QString& name) {
     return name.size() <= kShownCharacters ? name : name.left(kShownCharacters - 1) + u'…';
@@ -25,7 +25,7 @@ QString text(const char* sentence) {
     return QCoreApplication::translate("RecordingRename", sentence);
 }
 
-/// Why no file can have this name, as the end of a sentence; empty when nothing speaks against it.
+/// Why a file cannot have this name, as the end of a sentence; empty when it can.
 QString objection(const QString& title, const QString& fileName) {
     if (title.isEmpty())
         return text("the title is empty");
@@ -54,7 +54,7 @@ Outcome rename(const QString& path, const QString& title) {
     if (why.isEmpty() && (QFileInfo::exists(target) || QFileInfo(target).isSymLink()))
         why = text("there is already a file named “%1” in its folder").replace(u"%1"_s, shown(name));
     if (why.isEmpty()) {
-        why = Platform::FileManager::move(path, target); // refused too when another process was faster
+        why = Platform::FileManager::move(path, target); // also refused when another process created the name first
         if (why.isEmpty()) {
             Platform::noteFileSystemChanged(path);
             Platform::noteFileSystemChanged(target);

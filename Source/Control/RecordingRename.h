@@ -4,19 +4,19 @@
 
 #include <QString>
 
-/// Names a recording's file after its title. A rename never overwrites and never leaves the folder. Any thread,
+/// Renames a recording's file after its title. Never overwrites and never moves to another folder. Any thread,
 /// blocking.
 namespace RecordingRename {
 
-/// The file's path with the title in place of its name; folder and ending stay. The title is not checked.
+/// The file's path with the title as its name; folder and extension stay. The title is not checked.
 [[nodiscard]] QString pathForTitle(const QString& path, const QString& title);
 
 struct Outcome {
-    QString path;   ///< where the file is now
-    QString notice; ///< one sentence why the file kept its name; empty when it has its new one, or had it before
+    QString path;   ///< the file's present path
+    QString notice; ///< one sentence: why the file kept its name; empty when it has the new name
 };
-/// Renames the file at @p path. A title that no file can be named after, and a name that is taken, leave the file as it
-/// is. A link is renamed itself.
+/// Renames the file at @p path. When the title cannot be a file name, or the name is taken, the file stays as it is. A
+/// symbolic link itself is renamed.
 [[nodiscard]] Outcome rename(const QString& path, const QString& title);
 
 } // namespace RecordingRename

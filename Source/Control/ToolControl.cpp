@@ -34,7 +34,7 @@ QString lastPathComponent(const QString& path) {
     return path.left(end).section(u'/', -1);
 }
 
-/// What follows the last dot of the name; a hidden file's first dot starts no extension.
+/// The part of the name behind the last dot; the first dot of a hidden file does not count.
 QString pathExtension(const QString& path) {
     const QString name = lastPathComponent(path);
     const qsizetype dot = name.lastIndexOf(u'.');
@@ -50,7 +50,7 @@ qint64 sizeOfEntry(const QByteArray& path) {
     return ::lstat(path.constData(), &status) == 0 ? status.st_size : 0;
 }
 
-/// A relative path that begins like an option or an operator of find would be taken for one.
+/// A relative path that begins like an option or an operator of find would be interpreted as one.
 QString asOperand(const QString& path) {
     return path.startsWith(u'-') || path.startsWith(u'(') || path.startsWith(u'!') || path.startsWith(u')') ||
                    path.startsWith(u',')
@@ -124,7 +124,7 @@ bool isAvailable(const QString& fileName) {
 }
 
 bool findDRMForExtension(const QString& folder, const QString& extension) {
-    // Without a shell the backslash is a name of its own: file is asked about it too and finds nothing.
+    // Without a shell the backslash is passed as a file name: file(1) reports that it does not exist.
     const QString output = outputOf(u"/usr/bin/find"_s, {asOperand(folder), u"-name"_s, extension, u"-exec"_s,
                                                          u"/usr/bin/file"_s, u"{}"_s, u"\\"_s, u";"_s});
     qCInfo(log, "taskOutput    =   %s", qUtf8Printable(output));

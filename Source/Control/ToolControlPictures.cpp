@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What draws stands apart: the recorder on the command line is linked without Qt Gui.
+// A file of its own because it draws: the recorder on the command line is linked without Qt Gui.
 #include "Source/Control/ToolControl.h"
 
 #include <QPainter>

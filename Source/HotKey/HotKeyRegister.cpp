@@ -10,7 +10,7 @@ using Platform::NotificationCenter;
 
 namespace {
 
-// Every press of every combination of this process comes through here; the registers tell by its signature whose it is.
+// Receives every press of every combination of this process; the signature in the notification identifies the register.
 void HotKeyRegisterHandler(Platform::HotKeys::Id id) {
     NotificationCenter::defaultCenter().post(
         HotKeyRegister::HotKeyRegisterNotification,
@@ -80,7 +80,7 @@ void HotKeyRegister::hotKeyRegisterNotification(const Dictionary& userInfo) {
         return;
     if (isEditKeybordShortcutControl() || !operation_)
         return;
-    // Never inside the event handler: the operation may open a modal window.
+    // Not inside the event handler: the operation may open a modal window.
     Platform::MainQueue::post(operation_);
 }
 

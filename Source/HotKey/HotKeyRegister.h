@@ -8,14 +8,14 @@
 #include <functional>
 #include <memory>
 
-/// Owns one system-wide key combination and the operation that it starts. Main thread.
+/// Owns one system-wide key combination and its operation. Main thread.
 class HotKeyRegister {
 public:
-    /// Notification that every press posts, and the key of the signature in its dictionary.
+    /// The notification that every press posts, and the key of the signature in its dictionary.
     static inline const QString HotKeyRegisterNotification = QStringLiteral("HotKeyRegisterNotification");
     static inline const QString HotKeyRegisterSignatureKey = QStringLiteral("HotKeyRegisterSignatureKey");
 
-    /// Notification of a combination that was refused after it had been taken, and the key of its handle.
+    /// The notification about a combination that was refused after it had been accepted, and the key of its handle.
     static inline const QString HotKeyRegisterRefusedNotification = QStringLiteral("HotKeyRegisterRefusedNotification");
     static inline const QString HotKeyRegisterHandleKey = QStringLiteral("HotKeyRegisterHandleKey");
 
@@ -36,7 +36,7 @@ public:
     [[nodiscard]] const std::function<void()>& operation() const { return operation_; }
     void setOperation(std::function<void()> operation) { operation_ = std::move(operation); }
 
-    /// Called when the combination is refused after registerHotKey() took it. Nothing is registered any more then.
+    /// Called when the combination is refused after registerHotKey() accepted it. Nothing is registered any more then.
     void setRefused(std::function<void()> refused) { refused_ = std::move(refused); }
 
 private:

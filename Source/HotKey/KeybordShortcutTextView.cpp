@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// No key of the table has it, so no register accepts it.
+// Not in the key table, so every register refuses it.
 constexpr std::uint16_t noKeyCode = 0xFFFF;
 
 std::uint32_t flagOfModifierKey(int key) {
@@ -52,14 +52,14 @@ std::uint32_t flagsOf(Qt::KeyboardModifiers modifiers) {
     return flags;
 }
 
-// An event of a modifier key tells the state before itself.
+// An event of a modifier key contains the state before the event.
 std::uint32_t flagsAfter(const QKeyEvent& event) {
     const std::uint32_t before = flagsOf(event.QInputEvent::modifiers());
     const std::uint32_t own = flagOfModifierKey(event.key());
     return event.type() == QEvent::KeyPress ? before | own : before & ~own;
 }
 
-// What the key would type without modifiers but Shift; keys that type nothing go by their names.
+// The character of the key without modifiers but Shift; other keys are shown by name.
 QString charactersIgnoringModifiers(const QKeyEvent& event) {
     const int key = event.key();
     if (key > Qt::Key_Space && key < Qt::Key_Escape) {
@@ -80,7 +80,7 @@ std::uint16_t keyCodeOf(const QKeyEvent& event) {
     return Platform::KeyCodes::virtualKeyCodeOfSign(Qt::Key(event.key())).value_or(noKeyCode);
 }
 
-// A cleared shortcut is an empty dictionary. Anything else has all three values, or somebody else wrote it.
+// A cleared shortcut is an empty dictionary. Any other value without all three parts was not written by this program.
 bool isShortcut(const Dictionary& stored) {
     using View = KeybordShortcutTextView;
     return stored.isEmpty() || (stored.value(View::CharactersKey).typeId() == QMetaType::QString &&
@@ -178,7 +178,7 @@ void KeybordShortcutTextView::setMenuItem(QAction* item) {
     item->setShortcut(complete ? QKeySequence::fromString(keys + characters_.toUpper(), QKeySequence::PortableText)
                                : QKeySequence());
     item->setShortcutVisibleInContextMenu(true);
-    // It is shown there and acts through the hot key; as a shortcut of a window it would act twice.
+    // The item shows the shortcut, but the hot key triggers it; as a window shortcut it would trigger twice.
     item->setShortcutContext(Qt::WidgetShortcut);
     item->setData(QVariant::fromValue(static_cast<QObject*>(this)));
 }
@@ -186,11 +186,11 @@ void KeybordShortcutTextView::setMenuItem(QAction* item) {
 bool KeybordShortcutTextView::event(QEvent* event) {
     switch (event->type()) {
     case QEvent::ShortcutOverride:
-        // Escape, the menus' shortcuts and the mnemonics come here as plain keys first.
+        // Escape, menu shortcuts and mnemonics arrive here first, as plain keys.
         event->accept();
         return true;
     case QEvent::KeyPress:
-        // Tab would move on before keyPressEvent().
+        // Otherwise Tab would move the focus before keyPressEvent().
         keyPressEvent(static_cast<QKeyEvent*>(event));
         return true;
     case QEvent::KeyRelease:
@@ -203,7 +203,7 @@ bool KeybordShortcutTextView::event(QEvent* event) {
 
 void KeybordShortcutTextView::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
-    // The keys of the mnemonic that led here are still held; letting go of them is no input.
+    // The keys of the mnemonic that led here are still pressed; releasing them is not input.
     ignoresReleases_ = flagsOf(QGuiApplication::keyboardModifiers()) != 0;
     grabKeyboard();
     holdsKeyboard_ = true;
@@ -220,7 +220,7 @@ void KeybordShortcutTextView::focusOutEvent(QFocusEvent* event) {
 
 void KeybordShortcutTextView::hideEvent(QHideEvent* event) {
     letKeyboardGo();
-    // A window that is shown again gives the focus to whom it had: the next key would be taken for a shortcut.
+    // A window that is shown again restores its focus: the next key would be captured as a shortcut.
     clearFocus();
     QLineEdit::hideEvent(event);
 }
@@ -289,7 +289,7 @@ void KeybordShortcutTextView::flagsChanged(std::uint32_t flags) {
     updateShortcutValue();
 }
 
-// The rest follows when the key is up again: taken at once, the combination would fire while the finger is still on it.
+// The combination is stored when the key is released: earlier, it would trigger at once while the key is still pressed.
 void KeybordShortcutTextView::keyDown(const QKeyEvent& event) {
     characters_ = charactersIgnoringModifiers(event);
     modifierFlags_ = flagsOf(event.modifiers());
@@ -308,8 +308,8 @@ void KeybordShortcutTextView::finishCapture() {
     saveCapture();
 }
 
-// The desktop answers some time after the combination was typed. One that was loaded stays: another program may hold
-// it and give it back later.
+// The desktop refuses some time after the combination was typed. One that was loaded from the settings is kept: another
+// program may hold it only for a while.
 void KeybordShortcutTextView::combinationRefused() {
     if (!captured_)
         return;

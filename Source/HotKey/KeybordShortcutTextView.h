@@ -12,11 +12,12 @@
 
 class QAction;
 
-/// The field in which the user types a key combination. It shows it, stores it, takes it for the whole system through
-/// its register, and copies it to a menu item. Main thread.
+/// The field in which the user types a key combination. It shows it, stores it, registers it system-wide through its
+/// register, and copies it to a menu item. Main thread.
 ///
-/// With the focus it holds the keyboard: a combination that someone else took would never arrive here otherwise. It is
-/// left out of the Tab order, since Tab is a key like any other in it; a label's mnemonic or a click leads to it.
+/// While it has the focus it grabs the keyboard: otherwise a combination that another program has grabbed would never
+/// arrive here. It is not in the Tab order, since it captures Tab like any other key; a label's mnemonic or a click
+/// focuses it.
 class KeybordShortcutTextView : public QLineEdit {
     Q_OBJECT
 public:
@@ -48,19 +49,19 @@ public:
     /// The three values; an empty dictionary when there are no characters.
     [[nodiscard]] Dictionary data() const;
     void setData(const Dictionary& data);
-    /// Takes the stored shortcut, if there is one of the right shape, and shows what there is.
+    /// Loads the stored shortcut, if it has the right shape, and shows it.
     void loadUserDefault();
     void saveUserDefault();
     /// Reduces the flags to the four modifiers and shows the combination.
     void updateShortcutValue();
-    /// @return whether the combination is taken for the program now.
+    /// @return whether the combination is registered now.
     bool updateHotKeyRegister();
 
     [[nodiscard]] QAction* menuItem() const { return menuItem_; }
     /// Shows the combination at @p item, which is not owned, and makes this field its represented object.
     void setMenuItem(QAction* item);
 
-    /// What marks a field as one that captures combinations.
+    /// Marks a field that captures combinations.
     Q_INVOKABLE [[nodiscard]] bool isEditKeybordShortcutControl() const { return true; }
     [[nodiscard]] bool acceptsFirstResponder() const { return true; }
 
@@ -91,7 +92,7 @@ private:
     std::unique_ptr<HotKeyRegister> hotKeyRegister_;
     QPointer<QAction> menuItem_;
     bool awaitsRelease_ = false;
-    bool captured_ = false; ///< the combination was typed here, not loaded
+    bool captured_ = false; ///< the combination was typed, not loaded
     bool ignoresReleases_ = false;
     bool holdsKeyboard_ = false;
 };

@@ -6,9 +6,8 @@
 
 /// The dictionary that describes one audio file of the library, and its keys.
 namespace AudioRecordEntry {
-inline const QString NodeDataKey =
-    QStringLiteral("MediaLibraryNodeDataKey");                   ///< identity, made once, kept through edits
-inline const QString SavePath = QStringLiteral("AudioSavePath"); ///< full path
+inline const QString NodeDataKey = QStringLiteral("MediaLibraryNodeDataKey"); ///< identity, created once, kept by edits
+inline const QString SavePath = QStringLiteral("AudioSavePath");              ///< full path
 inline const QString Title = QStringLiteral("ID3TitleKey");
 inline const QString Artist = QStringLiteral("ID3ArtistKey");
 inline const QString Album = QStringLiteral("ID3AlbumKey");
@@ -19,8 +18,8 @@ inline const QString AddDate = QStringLiteral("AddAudioDate");    ///< "%Y/%m/%d
 inline const QString Length = QStringLiteral("AddAudioLength");   ///< float seconds
 inline const QString IsNew = QStringLiteral("ISNewAudioFileKey"); ///< transient, never stored
 
-/// The identity of an entry of a list; invalid when it has none. Looks at the map itself, without a copy: it is asked
-/// for each of ten thousand rows.
+/// The identity of an entry; invalid when it has none. Reads the map without copying it, because it is called for each
+/// of ten thousand rows.
 [[nodiscard]] inline QVariant keyOf(const QVariant& entry) {
     if (entry.typeId() != QMetaType::QVariantMap)
         return {};

@@ -15,7 +15,7 @@ using AudioRecordEntry::keyOf;
 namespace LeafChanges {
 namespace {
 
-// Beyond this a view is faster with a fresh list than with a row at a time.
+// For more steps than this a view is faster with a new list than row by row.
 constexpr qsizetype mostSteps = 64;
 
 bool isSameEntry(const QVariant& one, const QVariant& other) {
@@ -26,7 +26,7 @@ bool isSameEntry(const QVariant& one, const QVariant& other) {
 } // namespace
 
 std::optional<std::vector<Step>> between(const QVariantList& before, const QVariantList& after) {
-    // Lists of ten thousand differ in a few rows: the rest is passed over without a look at a key.
+    // Long lists usually differ in a few rows only: equal rows at both ends are skipped without looking at keys.
     const auto top = std::mismatch(before.cbegin(), before.cend(), after.cbegin(), after.cend());
     const auto first = top.first;
     const auto firstNow = top.second;
@@ -46,7 +46,7 @@ std::optional<std::vector<Step>> between(const QVariantList& before, const QVari
                              : std::find(firstNow, lastNow, entry) == lastNow;
     };
     std::vector<Step> steps;
-    QVariantList kept; // the last first
+    QVariantList kept; // in reverse order
     for (auto it = last; it != first;) {
         if (isGone(*--it))
             steps.push_back({Step::Kind::Removed, static_cast<int>(it - before.cbegin())});

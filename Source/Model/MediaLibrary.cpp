@@ -43,7 +43,7 @@ std::shared_ptr<MediaLibraryNode> makeNode(const QString& name, const QString& i
     return node;
 }
 
-/// Under a name of its own: what an earlier damage left may be all that remains of another list.
+/// Uses a new name each time: an earlier damaged value may be the only remains of another list.
 void keepAside(Platform::UserDefaults& defaults, const QVariant& stored) {
     QString key = kMediaLibrarySavedKey + u".damaged"_s;
     for (int number = 2;; ++number) {
@@ -252,7 +252,7 @@ void MediaLibrary::removeMediaLibraryArray(const QVariantList& entries) {
 }
 
 void MediaLibrary::updateLeavesAndStore() {
-    updateLeaves(); // first: once it is stored, the last owner of what is gone may be the worker that saves
+    updateLeaves(); // first: after the store, the saving worker may be the one that frees the removed entries
     store();
 }
 
@@ -272,11 +272,11 @@ void MediaLibrary::updateLeaf(MediaLibraryNode& leaf) {
         return;
     }
     if (steps->empty())
-        leaf.setLeafNode(after); // equal, but shared with the collection: looked through in no time
+        leaf.setLeafNode(after); // equal, but shared with the collection, so that the next comparison is fast
     QVariantList shown = before;
     for (std::size_t i = 0; i < steps->size(); ++i) {
         const auto [kind, index] = (*steps)[i];
-        // The last step leads to the new list itself: most often there is one step, and nothing is copied.
+        // The last step leads to the new list itself: usually there is one step, and nothing is copied.
         if (i + 1 == steps->size())
             shown = after;
         else if (kind == LeafChanges::Step::Kind::Removed)

@@ -11,48 +11,49 @@ namespace Platform {
 class UserDefaults;
 }
 
-/// The two collections of audio files that the program made, newest first, their tree, and their store. Every change is
-/// stored at once (in memory; the file follows behind) and shown in all leaves. Main thread only.
+/// The two collections of the program's audio files, newest first, their tree, and their store. Every change is stored
+/// at once (in memory; the file is written later) and shown in all leaves. Main thread only.
 class MediaLibrary : public QObject {
     Q_OBJECT
 public:
     enum class Collection { Records, Ringtones };
 
-    /// The one library of the process, made at the first call and never released.
+    /// The only library of the process, created by the first call and never released.
     static MediaLibrary& shareLibrary();
 
-    /// Loads what is stored and builds the tree.
+    /// Loads the stored collections and builds the tree.
     MediaLibrary();
-    /// Reads the stored collections. What is stored in another shape counts as empty; it is kept aside in the defaults
-    /// under the same key with the ending ".damaged", the next damaged one with ".damaged-2" and so on.
+    /// Reads the stored collections. A value of another shape counts as empty; it is kept in the defaults under the
+    /// same key with the suffix ".damaged", the next damaged one with ".damaged-2" and so on.
     void loadMediaLibraryList();
-    /// Takes over what other processes have stored since; views hear of each row. What cannot be read changes nothing.
+    /// Adopts the entries that other processes have stored since; views get a signal for each row. Unreadable values
+    /// change nothing.
     void takeUpMediaLibraryList();
-    /// Stores both collections and loads every leaf anew.
+    /// Stores both collections and reloads every leaf.
     void saveMediaLibraryList();
     void loadDefaultMediaLibrary();
     void loadMediaLibraryNode(MediaLibraryNode& node);
     void loadMediaLibraryNodeLeaf(MediaLibraryNode& leaf);
-    /// A copy of the entries; of the new ones only with @p isNew.
+    /// A copy of the entries; with @p isNew only of the new ones.
     [[nodiscard]] QVariantList mediaNodes(const QVariantList& entries, bool isNew) const;
-    /// The entry of a file: its tags, its path, and an identity made of path and time when they bring none.
+    /// The entry of a file: its tags, its path, and an identity made from path and time when the tags have none.
     [[nodiscard]] static Dictionary entryForFile(const QString& path, const Dictionary& tags);
-    /// Puts the entry on top, or in the place of the entry with its key.
+    /// Inserts the entry at the top, or replaces the entry with its key.
     void addRecordFile(const Dictionary& entry);
     void addRingtoneFile(const Dictionary& entry);
-    /// Changes the array only: nothing is stored, no leaf is refreshed.
+    /// Changes only the array: nothing is stored, no leaf is refreshed.
     void addAudio(const Dictionary& entry, QVariantList& toArray);
-    /// Takes every entry with the key of a given one out of the array; an entry without a key matches its equals.
+    /// Removes every entry whose key is among those of the given entries; an entry without a key matches equal entries.
     static void removeAudio(const QVariantList& entries, QVariantList& inArray);
     /// Removes the entries from both collections and deletes their files, not to the trash. Errors are ignored.
     void removeMediaLibraryArray(const QVariantList& entries);
     /// The last entry with that key; empty when there is none.
     [[nodiscard]] static Dictionary findAudioByKey(const QString& key, const QVariantList& inArray);
-    /// Each key once, in the order of the entries.
+    /// Each key once, in entry order.
     [[nodiscard]] static QStringList keyArrayFromAudioArray(const QVariantList& entries);
     [[nodiscard]] static QVariantList findAudioArrayByKeyArray(const QStringList& keys, const QVariantList& inArray);
 
-    // The setters change the field only; call saveMediaLibraryList() or loadMediaLibraryNode() to let it be seen.
+    // The setters change only the field; call saveMediaLibraryList() or loadMediaLibraryNode() to make it visible.
     [[nodiscard]] MediaLibraryNode& rootNode() const { return *rootNode_; }
     void setRootNode(std::shared_ptr<MediaLibraryNode> node) { rootNode_ = std::move(node); }
     [[nodiscard]] const QVariantList& records() const { return records_; }
@@ -64,13 +65,13 @@ public:
     void setCurrentNewArray(const QStringList& keys) { currentNewArray_ = keys; }
 
 Q_SIGNALS:
-    // What changed in a leaf, so that views need not load it again. Indexes are of the leaf's entries; the leaf has
-    // changed by just this one row when the signal comes. Several rows leave from the last to the first, and then come
+    // Changes of a leaf, so that views need not reload it. Indexes refer to the leaf's entries; the leaf has changed by
+    // exactly this row when the signal is emitted. Several rows are removed from the last to the first, then inserted
     // from the first to the last.
     void entryInserted(const QString& leafKey, int index);
     void entryReplaced(const QString& leafKey, int index);
     void entryRemoved(const QString& leafKey, int index);
-    /// The leaf was loaded anew as a whole, or changed in more rows at once than are worth a signal each.
+    /// The whole leaf was reloaded, or too many rows changed for single signals.
     void leafReset(const QString& leafKey);
 
 private:
@@ -79,7 +80,7 @@ private:
     void takeStored(Platform::UserDefaults& defaults);
     void updateLeaves();
     void updateLeavesAndStore();
-    /// Brings one leaf up to date with a signal for each row that differs.
+    /// Updates one leaf with a signal for each row that differs.
     void updateLeaf(MediaLibraryNode& leaf);
     [[nodiscard]] QVariantList contentOf(const QString& leafKey) const;
 

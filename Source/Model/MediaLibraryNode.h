@@ -9,7 +9,7 @@
 
 #include <QVariantList>
 
-/// One row of the library tree: a group with children, or a leaf with the entries that it shows.
+/// One row of the library tree: a group with children, or a leaf with the entries that it lists.
 class MediaLibraryNode {
 public:
     [[nodiscard]] bool isLeaf() const { return nonLeafNode_.empty(); }
@@ -19,7 +19,7 @@ public:
     void setNonLeafNode(std::vector<std::shared_ptr<MediaLibraryNode>> nodes) { nonLeafNode_ = std::move(nodes); }
     [[nodiscard]] QString name() const { return name_; }
     void setName(const QString& name) { name_ = name; }
-    /// Name of the icon's image; empty for none. The windows make the picture from it.
+    /// Name of the icon's image; empty for none. The windows load the image.
     [[nodiscard]] QString icon() const { return icon_; }
     void setIcon(const QString& icon) { icon_ = icon; }
     /// Which entries a leaf shows; null for groups.

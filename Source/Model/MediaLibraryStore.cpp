@@ -26,7 +26,7 @@ QHash<QString, QVariant> byKey(const QVariantList& entries) {
     return result;
 }
 
-/// What changed in one entry on either side; a value that both changed is ours.
+/// Merges the changes of one entry; when both sides changed a value, ours wins.
 Dictionary mergeValues(const Dictionary& base, const Dictionary& theirs, const Dictionary& ours) {
     const auto isUntouched = [&](const QString& name) { return ours.value(name) == base.value(name); };
     Dictionary result;
@@ -46,7 +46,7 @@ QVariantList mergeEntries(const QVariantList& base, const QVariantList& theirs, 
     const auto inTheirs = byKey(theirs);
     const auto inOurs = byKey(ours);
 
-    QVariantList added; // by them
+    QVariantList added; // added by the other process
     for (const QVariant& entry : theirs) {
         const QString key = keyOf(entry);
         const bool known =
@@ -57,7 +57,7 @@ QVariantList mergeEntries(const QVariantList& base, const QVariantList& theirs, 
 
     QVariantList result;
     result.reserve(ours.size() + added.size());
-    bool atTop = true; // the newest stand first: ours, then theirs, then what both knew
+    bool atTop = true; // new entries are first: ours, then theirs, then those that both knew
     for (const QVariant& entry : ours) {
         const QString key = keyOf(entry);
         const auto before = inBase.constFind(key);
@@ -114,7 +114,7 @@ QVariant merge(const QVariant& base, const QVariant& theirs, const QVariant& our
         bool isOld = false;
         const QVariantList known = entries(base, name, isOld);
         QVariantList others = entries(theirs, name, damaged);
-        // No process of ours stores another shape: what is not in it was lost, not removed.
+        // This program never stores another shape: entries missing from it were lost, not removed.
         if (damaged) {
             const auto there = byKey(others);
             for (const QVariant& entry : known)

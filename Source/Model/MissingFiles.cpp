@@ -7,7 +7,7 @@
 #include <utility>
 
 namespace {
-// A watch costs the kernel memory and the user's quota; recordings live in one or two folders.
+// Each watch costs kernel memory and counts against the user's limit; recordings are in one or two folders.
 constexpr int kWatchedFolders = 64;
 } // namespace
 
@@ -31,7 +31,7 @@ bool MissingFiles::isMissing(const QString& path) {
 }
 
 void MissingFiles::lookAt(const QString& path) {
-    // Until the answer arrives the file counts as present, so that painting asks once and not at every frame.
+    // Until the answer arrives the file counts as present, so that painting asks once and not in every frame.
     if (!stale_.remove(path))
         missing_.insert(path, false);
     wanted_.append(path);

@@ -8,22 +8,22 @@
 #include <QSet>
 #include <QThreadPool>
 
-/// Knows which files of the library are gone from the disk, without ever making the window wait for a disk: a path is
-/// looked at by a worker when it is first asked for, and again when its folder changes. Main thread.
+/// Knows which files of the library do not exist any more, without making the window wait for a disk: a worker checks a
+/// path when it is first asked for, and again when its folder changes. Main thread.
 class MissingFiles : public QObject {
     Q_OBJECT
 public:
     explicit MissingFiles(QObject* parent = nullptr);
     ~MissingFiles() override;
 
-    /// What is known so far; a path that nobody has looked at yet counts as present.
+    /// The last known state; a path that was not checked yet counts as present.
     [[nodiscard]] bool isMissing(const QString& path);
-    /// Forgets the answers for one path, or for all of them: they are looked at anew when they are asked for next.
+    /// Forgets the state of one path, or of all paths: they are checked again when they are next asked for.
     void forget(const QString& path);
     void forgetAll();
 
 Q_SIGNALS:
-    /// Some answers changed.
+    /// The state of some paths changed.
     void changed();
 
 private:
@@ -31,7 +31,7 @@ private:
     void forgetFolder(const QString& folder);
 
     QHash<QString, bool> missing_;
-    QSet<QString> stale_; ///< the last answer stands until the worker has a new one
+    QSet<QString> stale_; ///< the last answer is used until the worker has a new one
     QStringList wanted_;
     bool askScheduled_ = false;
     QFileSystemWatcher folders_;

@@ -11,12 +11,12 @@
 /// launch and when the preferences window closes), read on I/O threads.
 extern std::atomic<std::int32_t> g_SplitTimeMS;
 
-/// The private temporary folder of this program: the user's temporary folder and the bundle identifier. Raw recordings,
-/// mixes and the temporary files of conversion and tagging live here; every launch begins with an empty one.
-/// Set once at launch, before any other thread runs.
+/// The private temporary folder of this program: the user's temporary folder plus the bundle identifier. Contains raw
+/// recordings, mixes and the temporary files of conversion and tagging; every launch starts with an empty one. Set once
+/// at launch, before any other thread runs.
 extern QString g_strTmpPath;
 
-/// The one gate to the stored settings. The window that edits them forwards its operations here.
+/// All access to the stored settings. The preferences window forwards its operations here.
 namespace PreferenceStore {
 
 inline const QString PreferenceSplitKey = QStringLiteral("PreferenceSplitKey");
@@ -32,18 +32,18 @@ inline const QString PreferencePauseResumeShortcutKey = QStringLiteral("Preferen
 inline const QString PreferenceStartNewRecordShortcutKey = QStringLiteral("PreferenceStartNewRecordShortcutKey");
 inline const QString kMediaLibrarySavedKey = QStringLiteral("kMediaLibrarySavedKey");
 
-/// The stored object as it is, or @p defaultObject when there is none; nothing is written.
+/// The stored object, or @p defaultObject when there is none; nothing is written.
 [[nodiscard]] QVariant preferenceValueForKey(const QString& key, const QVariant& defaultObject);
-/// Stores the object exactly as given.
+/// Stores the object unchanged.
 void setPreferenceValue(const QVariant& object, const QString& key);
 
-/// $HOME/Music/<bundle identifier>, evaluated afresh at each call.
+/// $HOME/Music/<bundle identifier>, evaluated at each call.
 [[nodiscard]] QString defaultMusicFolder();
-/// The folder that a stored value names. A value that is no text, is empty or is no absolute path gives
-/// defaultMusicFolder(): a relative one would depend on where the program was started.
+/// The folder in a stored value. A value that is not a text, is empty or is not an absolute path gives
+/// defaultMusicFolder(): a relative one would depend on the working folder of the program.
 [[nodiscard]] QString folderOf(const QVariant& stored);
 
-/// -1 when splitting is off, else the leading integer of the stored time: what g_SplitTimeMS is set to at launch.
+/// -1 when splitting is off, else the leading integer of the stored time: the value of g_SplitTimeMS at launch.
 [[nodiscard]] std::int32_t storedSplitTimeMS();
 
 } // namespace PreferenceStore

@@ -7,7 +7,7 @@
 
 #include <mutex>
 
-/// The settings as a recording sees them: those of the preference store. Any thread.
+/// The settings as a recording reads them: those of the preference store. Any thread.
 class RecordPreferences {
 public:
     virtual ~RecordPreferences() = default;
@@ -19,7 +19,7 @@ public:
     }
 };
 
-/// Settings of one run, laid over the stored ones. What is set stays in here: the store is not changed.
+/// Settings of one run that override the stored ones. The stored settings are not changed.
 class OverriddenPreferences final : public RecordPreferences {
 public:
     [[nodiscard]] QVariant value(const QString& key, const QVariant& defaultObject) const override {
@@ -40,7 +40,7 @@ private:
     Dictionary overrides_;
 };
 
-/// The rule that throws away recordings which are too short. Read afresh wherever it is used.
+/// The rule that drops recordings which are too short. Read again for each recording.
 struct RecordFilter {
     bool on = false;
     int seconds = 0;

@@ -79,12 +79,12 @@ QByteArray ControlRequests::addToLibrary(const QByteArray& json) const {
     if (!QFileInfo(path).isAbsolute())
         return failed("there is no path");
     Dictionary entry = object.value(u"tags").toObject().toVariantMap();
-    // JSON has one kind of number.
+    // JSON has only one number type.
     entry.insert(AudioRecordEntry::Year, entry.value(AudioRecordEntry::Year).toInt());
     if (entry.value(AudioRecordEntry::NodeDataKey).toString().isEmpty())
         entry.remove(AudioRecordEntry::NodeDataKey);
     MediaLibrary& library = library_ ? *library_ : MediaLibrary::shareLibrary();
-    library.takeUpMediaLibraryList(); // others may be among it that were stored past this process
+    library.takeUpMediaLibraryList(); // entries that other processes stored without asking this one
     library.addRecordFile(MediaLibrary::entryForFile(path, entry));
     return Ok;
 }

@@ -18,7 +18,7 @@ Outcome begin(Platform::RunningProgram& running, const QByteArray& token, int pa
             return Outcome::First;
         if (!running.lastError().isEmpty())
             return Outcome::NoPlace;
-        // Fails at once while the other process does not listen yet.
+        // Fails at once when the other process does not listen yet.
         const auto left = int(std::max<qint64>(1, patienceMs - timer.elapsed()));
         QByteArray answer;
         if (running.ask(request, answer, left))

@@ -23,7 +23,7 @@ const QByteArray retagWord = "library-retag ";
 const QByteArray addRingtoneWord = "library-add-ringtone ";
 
 QByteArray line(const QJsonDocument& document) {
-    return document.toJson(QJsonDocument::Compact); // new-lines inside texts are escaped
+    return document.toJson(QJsonDocument::Compact); // newlines inside texts are escaped
 }
 
 QByteArray storedLine(bool stored) {
@@ -35,14 +35,14 @@ std::optional<bool> storedOf(const QByteArray& answer) {
     return stored.isBool() ? std::optional(stored.toBool()) : std::nullopt;
 }
 
-/// A file and its values, as retagRequest() and addRingtoneRequest() write them.
+/// A file and its values, in the format of retagRequest() and addRingtoneRequest().
 struct FileValues {
-    QString path; ///< empty when the request names no absolute one
+    QString path; ///< empty when the request contains no absolute path
     Dictionary values;
 };
 
 QByteArray fileRequest(const QByteArray& word, const QString& path, const Dictionary& values) {
-    // The window may have another working folder.
+    // Absolute, because the window may have another working folder.
     const QJsonObject object{{u"path"_s, QFileInfo(path).absoluteFilePath()},
                              {u"values"_s, QJsonObject::fromVariantMap(values)}};
     return word + line(QJsonDocument(object));
@@ -54,7 +54,7 @@ FileValues fileValuesOf(const QByteArray& document) {
     if (!QFileInfo(result.path).isAbsolute())
         result.path.clear();
     if (const auto year = result.values.find(AudioRecordEntry::Year); year != result.values.end())
-        *year = year->toInt(); // JSON has one kind of number
+        *year = year->toInt(); // JSON has only one number type
     return result;
 }
 
@@ -100,8 +100,8 @@ bool retag(const QString& path, const Dictionary& values) {
     const auto isIt = [&](const QString& other) {
         if (other == given)
             return true;
-        // The disk is asked only where the names agree: there may be a hundred thousand entries. A file that has just
-        // been renamed is found by its folder.
+        // The disk is queried only when the names match: there may be a hundred thousand entries. A file that was just
+        // renamed is found by its folder.
         const QFileInfo info(other);
         return (info.fileName() == real.fileName() && info.canonicalFilePath() == real.filePath()) ||
                (info.fileName() == named.fileName() && QFileInfo(info.path()).canonicalFilePath() == folder);
@@ -122,7 +122,7 @@ bool retag(const QString& path, const Dictionary& values) {
             changed = true;
         }
     };
-    // Copies: what is gone through changes meanwhile.
+    // Iterates over copies, because the lists change meanwhile.
     retagAll(QVariantList(library.records()), &MediaLibrary::addRecordFile);
     retagAll(QVariantList(library.ringtones()), &MediaLibrary::addRingtoneFile);
     return !changed || Platform::services().userDefaults->flush();

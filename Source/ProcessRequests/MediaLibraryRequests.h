@@ -9,43 +9,43 @@
 #include <QByteArray>
 #include <QStringList>
 
-/// Changes of the library that another process asks of the running window, so that its views follow at once. A request
-/// and its answer are single lines; they go over Platform::RunningProgram. What others stored past the window is taken
-/// up first: it can be asked for like all that the window shows.
+/// Library changes that another process requests from the running window, so that its views are updated at once. A
+/// request and its answer are single lines, sent through Platform::RunningProgram. Before each request the window
+/// adopts entries that other processes stored directly, so that a request can refer to them.
 namespace MediaLibraryRequests {
 
-/// What became of a removal. Nothing is removed when a key is unknown.
+/// The result of a removal. Nothing is removed when a key is unknown.
 struct Removal {
     QStringList removed;
     QStringList unknown;
-    bool stored = true; ///< false: it is done in memory, but the disk refused it
+    bool stored = true; ///< false: removed in memory, but saving failed
 };
 
 /// Removes the entries with these keys, and their files, from the library of this process.
 [[nodiscard]] Removal remove(const QStringList& keys);
 
-/// Gives the entries of the file at @p path these values, by the keys of AudioRecordEntry, after they went into the
-/// file. Paths that lead to the same file are the same. The file may be gone from the path: a new name is given with
-/// AudioRecordEntry::SavePath. @return whether what changed, if anything did, is stored
+/// Sets these values, by the keys of AudioRecordEntry, in the entries of the file at @p path after they were written
+/// into the file. Paths to the same file are equal. The file may no longer be at the path: AudioRecordEntry::SavePath
+/// then holds its new path. @return whether the change, if there was one, is stored
 [[nodiscard]] bool retag(const QString& path, const Dictionary& values);
 
-/// Adds a ringtone to the library of this process, as MediaLibrary::entryForFile() describes it. @return whether it is
+/// Adds a ringtone to the library of this process, as described by MediaLibrary::entryForFile(). @return whether it is
 /// stored
 [[nodiscard]] bool addRingtone(const QString& path, const Dictionary& tags);
 
 [[nodiscard]] QByteArray removeRequest(const QStringList& keys);
-/// The running window's answer to a removeRequest(); nothing when it is none.
+/// Parses the window's answer to a removeRequest(); nothing when it is malformed.
 [[nodiscard]] std::optional<Removal> removalOf(const QByteArray& answer);
 
 [[nodiscard]] QByteArray retagRequest(const QString& path, const Dictionary& values);
-/// The running window's answer to a retagRequest(), as retag() has it; nothing when it is none.
+/// Parses the window's answer to a retagRequest(), see retag(); nothing when it is malformed.
 [[nodiscard]] std::optional<bool> retaggingOf(const QByteArray& answer);
 
 [[nodiscard]] QByteArray addRingtoneRequest(const QString& path, const Dictionary& tags);
-/// The running window's answer to an addRingtoneRequest(), as addRingtone() has it; nothing when it is none.
+/// Parses the window's answer to an addRingtoneRequest(), see addRingtone(); nothing when it is malformed.
 [[nodiscard]] std::optional<bool> addingOf(const QByteArray& answer);
 
-/// Answers a request on the main thread of the window; nothing when it does not concern the library.
+/// Answers a request on the main thread of the window; nothing when it is not about the library.
 [[nodiscard]] std::optional<QByteArray> answer(const QByteArray& request);
 
 } // namespace MediaLibraryRequests
