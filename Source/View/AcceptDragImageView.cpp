@@ -21,10 +21,10 @@ namespace {
 
 constexpr double kShownPoints = 50;
 constexpr double kRadius = 6;
-/// Larger files are no covers.
+/// Larger files are refused.
 constexpr qint64 kLargestFile = qint64(64) << 20;
 
-/// A null image when the file is none. Pipes and devices are not even opened: they may never end.
+/// A null image when the file is not an image. Pipes and devices are not opened: reading them may never end.
 QImage loaded(const QString& path) {
     const QFileInfo info(path);
     if (!info.isFile() || info.size() > kLargestFile)
@@ -53,12 +53,12 @@ QStringList localFiles(const QMimeData& data) {
     return paths;
 }
 
-/// Notices Escape during a drag. Qt's drag keeps the key to itself and tells a cancelled drag and one that nobody took
-/// alike.
+/// Detects Escape during a drag. Qt's drag consumes the key and does not distinguish a cancelled drag from one that
+/// nobody accepted.
 class EscapeWatch : public QObject {
 public:
     EscapeWatch() {
-        // The filter that was installed last is asked first: Qt installs its own when the drag begins.
+        // The last installed filter is called first, and Qt installs its own when the drag begins.
         QTimer::singleShot(0, this, [this] { qApp->installEventFilter(this); });
     }
     [[nodiscard]] bool wasPressed() const { return pressed_; }
@@ -152,9 +152,9 @@ void AcceptDragImageView::dropEvent(QDropEvent* event) {
     event->setDropAction(Qt::CopyAction);
     event->accept();
     if (event->source() == this)
-        return; // back where it came from
+        return; // dropped back on its source
     const QMimeData& data = *event->mimeData();
-    // A browser gives the address of a picture and the picture: an address that is no file here is passed over.
+    // A browser supplies the address of a picture and the picture: an address that is not a local file is skipped.
     if (!hasImageFile(localFiles(data)) && data.hasImage())
         takeImage(qvariant_cast<QImage>(data.imageData()));
 }
@@ -175,7 +175,7 @@ void AcceptDragImageView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void AcceptDragImageView::startDrag() {
-    // Qt deletes it when the other program has fetched the picture, which may be after exec() has returned.
+    // Qt deletes it when the other program has fetched the picture, possibly after exec() has returned.
     auto* const drag = new QDrag(this);
     auto* const data = new QMimeData;
     QImage plain = imgShow_;
@@ -185,12 +185,12 @@ void AcceptDragImageView::startDrag() {
     const QPixmap shown = QPixmap::fromImage(imgShow_);
     drag->setPixmap(shown);
     drag->setHotSpot(QRectF(QPointF(), shown.deviceIndependentSize()).center().toPoint());
-    // Where nothing takes the picture it disappears.
+    // Where no program accepts the picture, it is removed.
     drag->setDragCursor(NamedImages::pixmap(u"delete"_s, {24, 24}, devicePixelRatioF()), Qt::IgnoreAction);
     EscapeWatch escape;
     (void)drag->exec(Qt::CopyAction, Qt::CopyAction);
     if (escape.wasPressed())
-        return; // the user thought better of it
+        return; // the user cancelled
     if (!rect().contains(mapFromGlobal(QCursor::pos())))
         removeImage();
 }

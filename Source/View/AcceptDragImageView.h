@@ -6,37 +6,37 @@
 #include <QStringList>
 #include <QWidget>
 
-/// The artwork well: shows a cover, takes one that is dropped on it (a file, or a picture itself) and gives it up when
-/// it is dragged out. Main thread.
+/// The artwork well: shows a cover, accepts a dropped one (a file, or a picture itself) and removes it when it is
+/// dragged out. Main thread.
 class AcceptDragImageView : public QWidget {
     Q_OBJECT
 public:
-    /// Side of a cover in pixels: pictures are stretched to a square of it.
+    /// Side of a cover in pixels: pictures are scaled to this square.
     static constexpr int kCoverSide = 300;
 
     explicit AcceptDragImageView(QWidget* parent = nullptr);
 
     /// The shown image; null when the well is empty.
     [[nodiscard]] const QImage& imgShow() const { return imgShow_; }
-    /// Keeps a copy, 50 × 50 points large, and shows it; null clears the well.
+    /// Keeps a copy of 50 × 50 points and shows it; null clears the well.
     void setImgShow(const QImage& image);
     [[nodiscard]] QString strImagePath() const { return strImagePath_; }
-    /// Keeps the path. A path that loads as an image becomes the cover.
+    /// Stores the path. If the file is an image, it becomes the cover.
     void setStrImagePath(const QString& path);
-    /// Takes the first of the files that loads as an image. @return whether there was one; else the well stays as it is
+    /// Takes the first file that loads as an image. @return whether there was one; otherwise the well does not change
     bool hasImageFile(const QStringList& paths);
-    /// Takes a picture that has no file.
+    /// Takes a picture without a file.
     void takeImage(const QImage& image);
     /// Whether something is being dragged over it.
     [[nodiscard]] bool isDragOver() const { return dragOver_; }
-    /// Empties the well.
+    /// Clears the well.
     void removeImage();
 
     [[nodiscard]] QSize sizeHint() const override { return {128, 128}; }
     [[nodiscard]] QSize minimumSizeHint() const override { return {96, 96}; }
 
 Q_SIGNALS:
-    /// The user changed what is in the well.
+    /// The user changed the picture.
     void imageChanged();
 
 protected:

@@ -15,7 +15,7 @@
 #include <utility>
 
 namespace {
-constexpr int kMillisecondsBetween = 50; ///< two announcements of new values
+constexpr int kMillisecondsBetween = 50; ///< between two grew() signals
 }
 
 AudioOutline::AudioOutline(QObject* parent) : QObject(parent) {
@@ -44,7 +44,7 @@ void AudioOutline::load(const QString& path) {
                     work();
             });
         };
-        // Values that have not been told yet: a window that is told of each second of ten hours does nothing else.
+        // Values that were not announced yet: announcing each second of ten hours would keep the window busy.
         QList<float> pending;
         qsizetype first = 0;
         QElapsedTimer sinceTold;

@@ -13,7 +13,7 @@ class QColor;
 class QPainter;
 class QRectF;
 
-/// Fetches the outline of an audio file on a thread of its own. Main thread; one file at a time.
+/// Reads the outline of an audio file on a thread of its own. Main thread; one file at a time.
 class AudioOutline : public QObject {
     Q_OBJECT
 public:
@@ -21,23 +21,23 @@ public:
     /// Stops the thread and waits for it: some milliseconds.
     ~AudioOutline() override;
 
-    /// Forgets the values of the file before, and reads those of @p path.
+    /// Clears the previous values, and reads those of @p path.
     void load(const QString& path);
-    /// Nothing is announced any more; the values that are there stay.
+    /// Stops reading; no further signals. The values so far are kept.
     void stop();
-    /// Ten values a second, -1 to 1; those that are there so far, none for a file that cannot be read.
+    /// Ten values per second, -1 to 1: those read so far; none for an unreadable file.
     [[nodiscard]] const QList<float>& values() const { return values_; }
-    /// Why the file cannot be read, for a person; empty when it can.
+    /// Why the file cannot be read, for the user; empty when it can.
     [[nodiscard]] QString problem() const { return problem_; }
 
-    /// Draws values over the whole of @p rect, centred on the middle of its height: one line for each point, as long as
-    /// the loudest of the values that fall into it.
+    /// Draws values over the whole of @p rect, centred vertically: one line per point, as long as the loudest of its
+    /// values.
     static void draw(QPainter& painter, const QRectF& rect, const QList<float>& values, const QColor& color);
 
 Q_SIGNALS:
-    /// Some of the values are there; those from the number @p first on are new.
+    /// New values have been read; they start at the number @p first.
     void grew(qsizetype first);
-    /// All values are there, or the file cannot be read.
+    /// All values are read, or the file cannot be read.
     void loaded();
 
 private:

@@ -132,7 +132,7 @@ void AudioTrimEditView::setRightTrim(float rate) {
 }
 
 void AudioTrimEditView::mousePressEvent(QMouseEvent* event) {
-    // Taken in any case: some styles drag the window by its empty places.
+    // Always accepted: some styles move the window when its empty areas are dragged.
     event->accept();
     if (event->button() != Qt::LeftButton)
         return;

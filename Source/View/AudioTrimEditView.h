@@ -7,7 +7,7 @@
 
 #include <optional>
 
-/// Told where the user drags the handles of an AudioTrimEditView. Rates are fractions 0 to 1 of the file's duration.
+/// Called when the user drags the handles of an AudioTrimEditView. Rates are fractions 0 to 1 of the file's duration.
 class AudioTrimEditViewDelegate {
 public:
     virtual ~AudioTrimEditViewDelegate() = default;
@@ -31,19 +31,19 @@ public:
     [[nodiscard]] float leftTrimRate() const { return leftTrimRate_; }
     [[nodiscard]] float rightTrimRate() const { return rightTrimRate_; }
     [[nodiscard]] float playRate() const { return playRate_; }
-    /// Stored, but not above the right rate.
+    /// Stores the rate, limited to the right rate.
     void setLeftTrimRate(float rate);
-    /// Stored, but not below the left rate.
+    /// Stores the rate, limited to the left rate.
     void setRightTrimRate(float rate);
     void setPlayRate(float rate);
     [[nodiscard]] int dragType() const { return dragType_; }
 
-    /// Length of the file in seconds: for the time at the pointer and the steps of the keys.
+    /// Length of the file in seconds: for the time at the pointer and the key steps.
     void setDuration(double seconds);
     /// The outline to draw; see AudioOutline.
     void setOutline(const QList<float>& values);
     [[nodiscard]] const QList<float>& outline() const { return outline_; }
-    /// Which handle the keys move.
+    /// Sets which handle the keys move.
     void setLastHandle(DragType handle);
     [[nodiscard]] DragType lastHandle() const { return lastHandle_; }
 
@@ -54,7 +54,7 @@ public:
     [[nodiscard]] QRectF playButtonRect() const;
     [[nodiscard]] QRectF backStripRect() const;
     [[nodiscard]] QRectF rangeRect() const;
-    /// The rate at a place of the view, clamped to 0 to 1.
+    /// The rate at a point of the view, limited to 0 to 1.
     [[nodiscard]] float mousePointRate(const QPointF& place) const;
     /// A press on the bar never drags the window.
     [[nodiscard]] static bool mouseDownCanMoveWindow() { return false; }
@@ -93,5 +93,5 @@ private:
     double duration_ = 0;
     QList<float> outline_;
     DragType lastHandle_ = LeftHandle;
-    std::optional<double> dragX_; ///< where the pointer is during a drag
+    std::optional<double> dragX_; ///< the pointer's position during a drag
 };

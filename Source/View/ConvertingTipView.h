@@ -6,14 +6,14 @@
 #include <QPropertyAnimation>
 
 /// The notice at the lower edge of its parent that finished recordings are being converted. It slides in when there is
-/// work and out when there is none; text and place follow showFileConvertTipView(), which its owner calls on each tick.
+/// work and out when there is none; its owner calls showFileConvertTipView() on each tick to update text and position.
 class ConvertingTipView : public QLabel {
     Q_OBJECT
 public:
     explicit ConvertingTipView(QWidget* parent);
 
     /// @param working whether a recording waits or is being converted
-    /// @param progress share done of the job at hand, below 0 for none
+    /// @param progress progress of the current job, negative for none
     void showFileConvertTipView(bool working, const QString& text, double progress);
 
 protected:

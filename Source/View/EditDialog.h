@@ -5,20 +5,20 @@
 #include <QDialog>
 
 /// A modal window of the main window. Remembers its size in the user's defaults, is centred whenever it is shown, and
-/// closes with Escape. Keys that no widget of it takes are announced. Main thread.
+/// closes with Escape. Emits keys that no widget in it handled. Main thread.
 class EditDialog : public QDialog {
     Q_OBJECT
 public:
-    /// @p key is the defaults' key of the dictionary with "width" and "height".
+    /// @p key is the defaults' key of the size dictionary ("width" and "height").
     EditDialog(const QString& key, QSize firstSize, QWidget* parent = nullptr);
 
-    /// The size of last time, or the first one.
+    /// Restores the last size, or uses the first one.
     void restoreSize();
-    /// In the middle of the window that it belongs to, or of the screen.
+    /// Centres it in its parent window, or on the screen.
     void center();
 
 Q_SIGNALS:
-    /// A key was pressed that nothing else took; whoever uses it accepts the event.
+    /// A key that no widget handled; a receiver that handles it accepts the event.
     void keyPressed(QKeyEvent* event);
     /// Escape or the close box. The dialog does not close by itself.
     void cancelled();

@@ -38,7 +38,7 @@ void ElidedLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const QRect room = rect().adjusted(margin_, 0, -margin_, 0);
     const QString shown = fontMetrics().elidedText(text_, Qt::ElideMiddle, room.width());
-    // Paths and sentences alike begin where the window begins.
+    // Paths and sentences are aligned to the leading edge of the window.
     const Qt::Alignment edge = layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft;
     style()->drawItemText(&painter, room, int(edge | Qt::AlignVCenter | Qt::AlignAbsolute), palette(), isEnabled(),
                           shown, foregroundRole());

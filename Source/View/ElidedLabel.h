@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-/// One line of text that is cut in its middle where it does not fit; the tool tip has the whole of it.
+/// One line of text that is elided in the middle where it does not fit; the tool tip shows the whole text.
 class ElidedLabel : public QWidget {
     Q_OBJECT
 public:
@@ -12,7 +12,7 @@ public:
 
     [[nodiscard]] QString text() const { return text_; }
     void setText(const QString& text);
-    /// Room at both ends, in points; 8 unless set.
+    /// Margin at both ends, in points; 8 by default.
     void setMargin(int points);
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;

@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr int kMarkInset = 14;     // from the edge of the pane to the middle of the mark
-constexpr qreal kMarkWidth = 8;    // of a mark that points down
+constexpr int kMarkInset = 14;     // from the edge of the pane to the middle of the arrow
+constexpr qreal kMarkWidth = 8;    // of an arrow that points down
 constexpr qreal kMarkStroke = 1.5; // of its line
 
 bool isHeading(const QModelIndex& index) {
@@ -36,7 +36,7 @@ void LibraryOutlineView::mousePressEvent(QMouseEvent* event) {
 }
 
 void LibraryOutlineView::mouseDoubleClickEvent(QMouseEvent* event) {
-    // The second of two quick clicks counts like the first.
+    // The second click of a double click counts like the first.
     pressed_ = event->button() == Qt::LeftButton ? headingAt(event->position().toPoint()) : QModelIndex();
     QTreeView::mouseDoubleClickEvent(event);
 }

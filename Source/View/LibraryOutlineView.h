@@ -5,9 +5,9 @@
 #include <QPersistentModelIndex>
 #include <QTreeView>
 
-/// The outline of the library. A row that cannot be selected is the heading of a group: it never takes the selection
-/// from the node that has it, also not when the pointer is let go over it. A click on a heading hides or shows the
-/// nodes of its group; the left and right arrow keys do so for the group of the current node.
+/// The outline of the library. A row that cannot be selected is the heading of a group: it never takes the selection,
+/// even when the pointer is released over it. A click on a heading hides or shows the nodes of its group; the left and
+/// right arrow keys do so for the group of the current node.
 class LibraryOutlineView : public QTreeView {
     Q_OBJECT
 public:
@@ -23,8 +23,8 @@ protected:
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 private:
-    /// The heading at a place of the viewport; invalid when there is none.
+    /// The heading at a point of the viewport; invalid when there is none.
     [[nodiscard]] QModelIndex headingAt(const QPoint& place) const;
 
-    QPersistentModelIndex pressed_; ///< the heading on which the left button went down
+    QPersistentModelIndex pressed_; ///< the heading on which the left button was pressed
 };

@@ -45,7 +45,7 @@ void MediaLibraryNodeSizeFieldCell::drawWithFrame(QPainter* painter, const QRect
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(Qt::NoPen);
     painter->setBrush(backgroundColor_);
-    // A radius beyond half the height is cut to it: that makes the ends fully round.
+    // The radius is limited to half the height, so that the ends are fully round.
     painter->drawRoundedRect(badge, qMin(kCornerX, badge.width() / 2), qMin(kCornerX, badge.height() / 2));
     painter->setPen(textColor_);
     painter->setFont(badgeFont(font));

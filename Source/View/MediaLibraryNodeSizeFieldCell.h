@@ -14,9 +14,9 @@ public:
     void setHighlighted(bool highlighted);
     [[nodiscard]] QColor textColor() const { return textColor_; }
     [[nodiscard]] QColor backgroundColor() const { return backgroundColor_; }
-    /// Draws the badge of @p text into @p frame: nothing for an empty text.
+    /// Draws the badge with @p text into @p frame: nothing for an empty text.
     void drawWithFrame(QPainter* painter, const QRect& frame, const QString& text, const QFont& font) const;
-    /// The place of the badge in a cell: no wider than its number needs, at the trailing end.
+    /// The badge's rectangle in a cell: no wider than its number needs, at the trailing end.
     [[nodiscard]] static QRect titleRect(const QRect& frame, const QString& text, const QFont& font,
                                          Qt::LayoutDirection direction);
 

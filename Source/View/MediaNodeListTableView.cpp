@@ -32,7 +32,7 @@ void MediaNodeListTableView::setEmptyText(const QString& text, const QString& im
 }
 
 QMenu* MediaNodeListTableView::menuForEvent(QContextMenuEvent& event) {
-    // The menu key asks for the rows that are selected, wherever the pointer happens to be.
+    // The menu key refers to the selected rows, wherever the pointer is.
     if (event.reason() != QContextMenuEvent::Keyboard) {
         const QModelIndex under = indexAt(viewport()->mapFromGlobal(event.globalPos()));
         if (!under.isValid())
@@ -64,7 +64,7 @@ void MediaNodeListTableView::contextMenuEvent(QContextMenuEvent* event) {
     if (QMenu* menu = menuForEvent(*event)) {
         Q_EMIT menu->aboutToShow();
         const QList<QAction*> items = menu->actions();
-        // A menu that hides all of its items is no menu to show.
+        // A menu without visible items is not shown.
         if (std::any_of(items.begin(), items.end(), [](const QAction* item) { return item->isVisible(); }))
             menu->popup(event->globalPos());
     }
@@ -72,7 +72,7 @@ void MediaNodeListTableView::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void MediaNodeListTableView::mousePressEvent(QMouseEvent* event) {
-    // The selection of a context click is settled in menuForEvent(); the base class would do it first, its own way.
+    // menuForEvent() sets the selection of a context click; the base class would change it before.
     if (event->button() == Qt::RightButton) {
         event->accept();
         return;
@@ -93,7 +93,7 @@ void MediaNodeListTableView::paintEvent(QPaintEvent* event) {
         return;
     QRect image(QPoint(), NamedImages::naturalSize(emptyImage_));
     image.moveCenter(area.center() - QPoint(0, image.height() / 2 + 2 * fontMetrics().height()));
-    // It points to the leading end of the window.
+    // Points to the leading edge of the window.
     if (isRightToLeft()) {
         painter.translate(image.center().x() * 2 + 1, 0);
         painter.scale(-1, 1);

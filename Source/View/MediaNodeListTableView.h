@@ -6,7 +6,7 @@
 
 class QMenu;
 
-/// Gives a table's context menu. Not owned by the table.
+/// Supplies a table's context menu. Not owned by the table.
 class MediaNodeListTableViewDelegate {
 public:
     virtual ~MediaNodeListTableViewDelegate() = default;
@@ -14,18 +14,18 @@ public:
     virtual QMenu* menuForEvent(QContextMenuEvent& /*event*/) { return nullptr; }
 };
 
-/// The table of the library: a context click outside the selection selects the row under the pointer alone before the
-/// menu is asked of the delegate.
+/// The table of the library: a context click outside the selection first selects only the row under the pointer, then
+/// asks the delegate for the menu.
 class MediaNodeListTableView : public QTableView {
     Q_OBJECT
 public:
     explicit MediaNodeListTableView(QWidget* parent = nullptr);
 
     void setMenuDelegate(MediaNodeListTableViewDelegate* delegate) { delegate_ = delegate; }
-    /// Sentence that is shown while the table has no rows, and the name of an image above it; empty for none.
+    /// The sentence shown while the table has no rows, and the name of an image above it; empty for none.
     void setEmptyText(const QString& text, const QString& image = {});
 
-    /// Settles the selection for a context click and answers the menu to show.
+    /// Sets the selection for a context click and returns the menu to show.
     QMenu* menuForEvent(QContextMenuEvent& event);
 
     /// The column that typed letters are looked for in, whichever cell was clicked last.

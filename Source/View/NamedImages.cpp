@@ -14,8 +14,8 @@
 
 using namespace Qt::StringLiterals;
 
-// Outside of any namespace, as the macro demands. Resources in a static library vanish from the program unless their
-// initialiser is called by name.
+// Outside any namespace, as the macro requires. The linker drops resources of a static library unless their initialiser
+// is called by name.
 static void initResources() {
     Q_INIT_RESOURCE(sonaphex);
 }
@@ -46,7 +46,7 @@ QColor textColor(QPalette::ColorGroup group = QPalette::Active) {
     return QGuiApplication::palette().color(group, QPalette::ButtonText);
 }
 
-// The colour is put into the text of the drawing: the renderer would take "currentColor" for black.
+// Inserts the colour into the text of the drawing: the renderer treats "currentColor" as black.
 QByteArray recolored(const QString& name, const QColor& color) {
     return QByteArray(source(name)).replace("currentColor", color.name(QColor::HexRgb).toLatin1());
 }
@@ -77,7 +77,7 @@ QPixmap rendered(const QString& name, QSize pixels, const QColor& color) {
     return pixmap;
 }
 
-// Colours that a drawing brings itself do not follow the palette's disabled group: they lose their colour instead.
+// A drawing's own colours do not follow the palette's disabled group, so they are desaturated.
 QPixmap faded(const QPixmap& pixmap, const QColor& towards) {
     QPixmap result(pixmap.size());
     result.setDevicePixelRatio(pixmap.devicePixelRatio());

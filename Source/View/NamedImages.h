@@ -12,16 +12,15 @@
 class QPainter;
 class QPointF;
 
-/// The program's pictures by the names that the code asks for ("RecorderStart.png", "all-record-node-icon", "trim").
-/// All of them are drawings: they stay crisp at every scale and take the palette's text colour where they name none of
-/// their own. Main thread.
+/// The program's images by name ("RecorderStart.png", "all-record-node-icon", "trim"). All are vector drawings: they
+/// are sharp at every scale and use the palette's text colour unless they define their own. Main thread.
 namespace NamedImages {
 
-/// Every name there is.
+/// All names.
 [[nodiscard]] QStringList names();
 [[nodiscard]] bool exists(const QString& name);
 
-/// An icon that follows the palette of the moment, also when the theme changes later. Null for an unknown name.
+/// An icon that follows the current palette, also when the theme changes later. Null for an unknown name.
 [[nodiscard]] QIcon icon(const QString& name);
 
 /// The colour of an icon that stands on a ground of its own. It is asked at each drawing, so that it may follow the
@@ -29,13 +28,13 @@ namespace NamedImages {
 using ColorOf = std::function<QColor(QIcon::Mode)>;
 [[nodiscard]] QIcon icon(const QString& name, ColorOf colorOf);
 
-/// The size that a picture was drawn for, in points.
+/// The image's design size in points.
 [[nodiscard]] QSize naturalSize(const QString& name);
 
-/// A picture of @p size points for a screen with @p ratio pixels a point, in @p color (invalid: the palette's text).
+/// An image of @p size points for a screen with @p ratio pixels per point, in @p color (invalid: the palette's text).
 [[nodiscard]] QPixmap pixmap(const QString& name, QSize size, qreal ratio, const QColor& color = {});
 
-/// Stretches a picture over @p rect.
+/// Draws an image scaled to @p rect.
 void draw(QPainter& painter, const QRectF& rect, const QString& name, const QColor& color = {});
 
 /// The place nearest to @p place that lies on whole pixels of the painter's device. A picture that is drawn between

@@ -10,7 +10,7 @@ int QtAlerts::runModal(const QString& title, const QString& text, const QStringL
     QMessageBox box(QApplication::activeWindow());
     box.setIcon(QMessageBox::Warning);
     box.setWindowTitle(QGuiApplication::applicationDisplayName());
-    // Names of files are part of what is said; none of them is markup.
+    // The text may contain file names, which must not be interpreted as markup.
     box.setTextFormat(Qt::PlainText);
     box.setText(title);
     box.setInformativeText(text);
@@ -19,7 +19,7 @@ int QtAlerts::runModal(const QString& title, const QString& text, const QStringL
     for (qsizetype i = 0; i < labels.size(); ++i)
         made.append(box.addButton(labels.at(i), i == 0 ? QMessageBox::AcceptRole : QMessageBox::RejectRole));
     box.setDefaultButton(made.first());
-    // Escape never does anything: where there is a Cancel it is that, wherever it stands.
+    // Escape must never trigger an action: it means Cancel where there is one.
     const auto cancel = labels.indexOf(QStringLiteral("Cancel"));
     const qsizetype escape = cancel >= 0 ? cancel : labels.size() - 1;
     box.setEscapeButton(made.at(escape));

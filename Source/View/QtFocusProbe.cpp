@@ -7,6 +7,6 @@
 
 bool QtFocusProbe::isEditKeybordShortcutControl() const {
     const QWidget* focus = QApplication::activeWindow() ? QApplication::activeWindow()->focusWidget() : nullptr;
-    // Any widget that answers to the name counts as one that is being edited; it is not called.
+    // Any widget with a method of this name counts as such a field; the method is not called.
     return focus && focus->hasFocus() && focus->metaObject()->indexOfMethod("isEditKeybordShortcutControl()") >= 0;
 }

@@ -4,7 +4,7 @@
 
 #include "Platform/Desktop/FocusProbe.h"
 
-/// Looks at the widget with the focus in the active window.
+/// Checks the focused widget of the active window.
 class QtFocusProbe : public Platform::FocusProbe {
 public:
     [[nodiscard]] bool isEditKeybordShortcutControl() const override;

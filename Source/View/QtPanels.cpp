@@ -26,7 +26,7 @@ std::optional<QString> runModal(QFileDialog& dialog) {
     return dialog.selectedFiles().first();
 }
 
-/// Takes folders as well as files. A folder's path that is typed is opened, as in any file dialog.
+/// Accepts folders as well as files. Typing a folder's path opens it, as in any file dialog.
 class FilesAndFoldersDialog : public QFileDialog {
 public:
     using QFileDialog::QFileDialog;
@@ -39,7 +39,7 @@ protected:
         const bool allThere = std::ranges::all_of(chosen, [](const QString& path) { return QFileInfo::exists(path); });
         if (chosen.isEmpty() || !allThere || (typed && chosen.size() == 1 && isFolder(chosen.first())) ||
             std::ranges::none_of(chosen, isFolder)) {
-            QFileDialog::accept(); // says what is not there, or closes
+            QFileDialog::accept(); // reports a missing file, or closes
             return;
         }
         QDialog::accept();

@@ -4,7 +4,7 @@
 
 #include "Platform/Desktop/Panels.h"
 
-/// Panels as file dialogs; those of the desktop where it has its own.
+/// Panels as file dialogs; uses the desktop's own where it has them.
 class QtPanels : public Platform::Panels {
 public:
     void chooseFolder(QObject* window, const QString& prompt, const QString& startFolder, Chosen done) override;

@@ -45,7 +45,8 @@ void RangeTimesView::place() {
     const double end = bar_->rightHandleRect().center().x();
     int leftAt = std::clamp(int(begin - left / 2.0), 0, std::max(0, width() - left));
     int rightAt = std::clamp(int(end - right / 2.0), 0, std::max(0, width() - right));
-    if (rightAt + right - leftAt < all) { // no room between the handles: side by side, around their middle
+    if (rightAt + right - leftAt <
+        all) { // not enough room between the handles: place them side by side, centred between the handles
         leftAt = std::clamp(int((begin + end - all) / 2), 0, std::max(0, width() - all));
         rightAt = leftAt + all - right;
     }

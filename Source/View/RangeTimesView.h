@@ -8,9 +8,9 @@
 class AudioTrimEditView;
 class TabularLabel;
 
-/// The row of times beneath the bar of the trim window: the begin of the range under the left handle, its end under the
-/// right one, its length between them. They move with the handles, never overlap, and never leave the row. Stands in
-/// the same column as the bar, with the same width. Main thread.
+/// The row of times below the bar of the trim window: the begin of the range under the left handle, its end under the
+/// right one, its length between them. They move with the handles, never overlap, and never leave the row. It has the
+/// same column and width as the bar. Main thread.
 class RangeTimesView : public QWidget {
     Q_OBJECT
 public:
@@ -18,7 +18,7 @@ public:
 
     /// The labels are children of this view.
     void setUp(AudioTrimEditView* bar, TabularLabel* left, TabularLabel* length, TabularLabel* right);
-    /// Puts the labels where the handles are now. Called by itself when the bar changes its size.
+    /// Moves the labels to the current handle positions. Called automatically when the bar is resized.
     void place();
 
     [[nodiscard]] QSize sizeHint() const override;

@@ -7,22 +7,22 @@
 
 class QWidget;
 
-/// What a drawn view tells a screen reader. A widget that derives from this as well is announced with its accessible
-/// name, this role and this value. Main thread.
+/// The screen-reader interface of a custom-drawn view. A widget that also derives from this class is announced with its
+/// accessible name, this role and this value. Main thread.
 class SpokenView {
 public:
     SpokenView();
     virtual ~SpokenView() = default;
     [[nodiscard]] virtual QAccessible::Role spokenRole() const = 0;
-    /// In words, for people.
+    /// The value as words for the user.
     [[nodiscard]] virtual QString spokenValue() const = 0;
 
-    /// The same as a number with its limits, for readers that move it; an invalid value: it has none.
+    /// The value as a number with its limits, for readers that can change it; an invalid value: it has none.
     [[nodiscard]] virtual QVariant spokenNumber() const { return {}; }
     [[nodiscard]] virtual QVariant spokenMaximum() const { return {}; }
     virtual void setSpokenNumber(const QVariant& /*number*/) {}
 
 protected:
-    /// Tells readers that the value of @p view, this object, changed.
+    /// Tells screen readers that the value of @p view, this object, changed.
     static void announceValue(QWidget& view);
 };

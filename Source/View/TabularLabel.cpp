@@ -32,7 +32,7 @@ qreal TabularLabel::advance(QChar letter) const {
     const QFontMetricsF metrics(font());
     if (!letter.isDigit())
         return metrics.horizontalAdvance(letter);
-    // "0" is not the widest digit of every typeface.
+    // In some typefaces "0" is not the widest digit.
     qreal widest = 0;
     for (char16_t digit = u'0'; digit <= u'9'; ++digit)
         widest = std::max(widest, metrics.horizontalAdvance(QChar(digit)));

@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-/// One line of digits that all take the same room, so that a running time does not tremble. Accessible as its text.
+/// One line of text with digits of equal width, so that a running time does not shift. Accessible as its text.
 class TabularLabel : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString text READ text WRITE setText)
@@ -15,7 +15,7 @@ public:
     void setText(const QString& text);
     [[nodiscard]] Qt::Alignment alignment() const { return alignment_; }
     void setAlignment(Qt::Alignment alignment);
-    /// Keeps room for this text too, so that a text that blinks moves nothing beside it.
+    /// Also reserves the width of this text, so that a blinking text does not move its neighbours.
     void setReserve(const QString& text);
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }

@@ -18,7 +18,8 @@ namespace {
 
 Theme::Shade currentShade = Theme::Shade::Light;
 
-// Fusion draws the outline of an empty check box as a darker shade of the window, which all but vanishes on a dark one.
+// Fusion draws the outline of an empty check box as a darker shade of the window, which is nearly invisible on a dark
+// one.
 class HouseStyle : public QProxyStyle {
 public:
     HouseStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
@@ -79,7 +80,7 @@ public:
         painter->restore();
     }
 
-    // Likewise the frame of a text field.
+    // The frame of a text field has the same problem.
     static void drawFieldFrame(const QStyleOption& option, QPainter& painter) {
         const bool enabled = option.state & State_Enabled;
         const auto group = enabled ? QPalette::Active : QPalette::Disabled;
@@ -95,7 +96,7 @@ public:
         painter.restore();
     }
 
-    // A name that is longer than its box keeps its beginning and its end; Qt 6.4 cuts it off.
+    // A name that is longer than its box is elided in the middle; Qt 6.4 would cut it off.
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
         const auto* box = qstyleoption_cast<const QStyleOptionComboBox*>(option);
@@ -197,7 +198,7 @@ QPalette palette(Shade shade) {
     p.setColor(QPalette::Disabled, QPalette::Base, c.window);
     p.setColor(QPalette::Disabled, QPalette::Highlight, c.disabled);
     p.setColor(QPalette::Disabled, QPalette::HighlightedText, c.window);
-    // A selection of a window in the background stays visible without shouting.
+    // A selection in an inactive window stays visible but less prominent.
     p.setColor(QPalette::Inactive, QPalette::Highlight, shade == Shade::Dark ? QColor(0x3d4a58) : QColor(0xcfdbe8));
     p.setColor(QPalette::Inactive, QPalette::HighlightedText, c.text);
     return p;

@@ -9,13 +9,13 @@ namespace Platform {
 class ColorScheme;
 }
 
-/// The look of all windows: one style, a light and a dark palette, one typeface. Main thread.
+/// The appearance of all windows: one style, a light and a dark palette, one typeface. Main thread.
 namespace Theme {
 
 enum class Shade { Light, Dark };
 
-/// Dresses the program and follows @p scheme (may be null: light). The application takes nothing over; @p scheme must
-/// outlive its windows.
+/// Applies the theme to the application and follows @p scheme (may be null: light). The application does not own @p
+/// scheme, which must outlive its windows.
 void install(QApplication& application, Platform::ColorScheme* scheme);
 
 /// Changes the palette of the whole program.
@@ -24,7 +24,7 @@ void apply(Shade shade);
 
 [[nodiscard]] QPalette palette(Shade shade);
 
-/// Colours of the display's dark glass, which is the same in both shades.
+/// Colours of the display's dark glass, the same in both themes.
 namespace Glass {
 [[nodiscard]] QColor text();
 [[nodiscard]] QColor dimText();

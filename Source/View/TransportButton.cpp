@@ -9,7 +9,7 @@
 #include <QToolTip>
 
 namespace {
-constexpr int kMargin = 4; ///< room for the ring of the keyboard focus
+constexpr int kMargin = 4; ///< room for the focus ring
 }
 
 TransportButton::TransportButton(QWidget* parent) : QAbstractButton(parent) {

@@ -4,7 +4,7 @@
 
 #include <QAbstractButton>
 
-/// A button that is a named image and nothing else, with another image while it is pressed.
+/// A button that consists only of a named image, with another image while it is pressed.
 class TransportButton : public QAbstractButton {
     Q_OBJECT
 public:
@@ -13,7 +13,7 @@ public:
     [[nodiscard]] QString image() const { return image_; }
     void setImage(const QString& name);
     [[nodiscard]] QString pressedImage() const { return pressedImage_; }
-    /// Empty: the image itself, a little smaller.
+    /// When empty, the image itself is used, slightly smaller.
     void setPressedImage(const QString& name);
     /// Side of the image in points.
     void setImageSize(int points);
