@@ -17,9 +17,9 @@
 
 namespace {
 
-// Sorting this many texts takes about 2 ms; longer lists go to the worker.
+// Sorting this many texts takes about 2 ms; longer lists are sorted by the worker.
 constexpr qsizetype kSortAtOnce = 2000;
-// So many stretches of removed rows at once are one reset: each costs the views a pass over all rows.
+// More separate ranges of removed rows than this become one reset: for each range the views go through all rows.
 constexpr std::size_t kMostSingleRemovals = 64;
 
 QString sortText(const Dictionary& entry, int column) {
@@ -27,7 +27,7 @@ QString sortText(const Dictionary& entry, int column) {
 }
 
 QCollator collator() {
-    // The "C" locale compares bytes; a list of names wants an alphabet all the same.
+    // The "C" locale compares bytes, so a list of names uses another one.
     const QLocale locale;
     QCollator result(locale.language() == QLocale::C ? QLocale(QLocale::English) : locale);
     result.setNumericMode(true);
@@ -96,7 +96,8 @@ void AudioTableModel::takeLeafAnew() {
 }
 
 void AudioTableModel::giveBack(QVariantList gone) {
-    // The allocator takes longer than a frame for many entries; for few, handing them over would be the longer way.
+    // Freeing many entries takes longer than a frame, so the worker does it; for few entries the hand-over would take
+    // longer.
     if (gone.size() > kSortAtOnce)
         worker_.start([gone = std::move(gone)]() mutable { gone.clear(); });
 }
@@ -104,8 +105,8 @@ void AudioTableModel::giveBack(QVariantList gone) {
 void AudioTableModel::note(const QString& leafKey, Change change) {
     if (!node_ || leafKey != node_->key())
         return;
-    // A removal of many entries arrives as many signals. They are taken over together when the event loop turns:
-    // row by row, a list of 100,000 would be moved 100,000 times.
+    // A removal of many entries arrives as many signals. They are applied together when the event loop runs: row by
+    // row, a list of 100,000 would be moved 100,000 times.
     changes_.push_back(std::move(change));
     if (!std::exchange(applyScheduled_, true))
         QMetaObject::invokeMethod(this, &AudioTableModel::reload, Qt::QueuedConnection);
@@ -121,7 +122,7 @@ void AudioTableModel::reload() {
 }
 
 void AudioTableModel::applyChanges(const std::vector<Change>& changes) {
-    // Removals come from the last row to the first: neighbours are joined to stretches.
+    // Removals are ordered from the last row to the first: adjacent rows are joined to ranges.
     struct Step {
         const Change* change;
         int first;
@@ -166,7 +167,8 @@ void AudioTableModel::insertEntry(int source, const QVariant& entry) {
         endInsertRows();
         return;
     }
-    // The row's place is found before the views are told, with the entry at the list's end, where it shifts nobody.
+    // The row's position is found before the views are notified, with the entry at the end of the list, where it shifts
+    // no other.
     entries_.append(entry);
     const int row = sortedPosition(static_cast<int>(entries_.size()) - 1);
     entries_.removeLast();
@@ -229,7 +231,7 @@ Dictionary AudioTableModel::entry(int row) const {
 }
 
 int AudioTableModel::rowOfPath(const QString& path) const {
-    // A new entry stands in front, so the search is short for the one case that matters.
+    // A new entry is at the front, so the search is short in the most frequent case.
     for (int source = 0; source < entries_.size(); ++source)
         if (entries_.at(source).toMap().value(AudioRecordEntry::SavePath).toString() == path)
             return rowOfSource(source);
@@ -238,7 +240,7 @@ int AudioTableModel::rowOfPath(const QString& path) const {
 
 void AudioTableModel::setPlayingPath(const QString& path) {
     playingPath_ = path;
-    // Finding the two rows would read every entry; the views draw only the rows that they show.
+    // Finding the two rows would read every entry; the views redraw only the visible rows.
     if (rowCount() > 0)
         Q_EMIT dataChanged(index(0, State), index(rowCount() - 1, State));
 }

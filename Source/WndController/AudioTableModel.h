@@ -15,8 +15,8 @@ class MediaLibraryNode;
 class MissingFiles;
 
 /// The audio record entries of one library node as rows. It keeps its own (shared) copy of the node's list and follows
-/// the library's signals, so that an entry that comes or goes is one row inserted or removed. No call takes longer than
-/// a frame of the screen, also with 100,000 entries: long lists are sorted by a worker. Main thread.
+/// the library's signals, so that an added or removed entry is one inserted or removed row. No call takes longer than a
+/// frame of the screen, even with 100,000 entries: a worker sorts long lists. Main thread.
 class AudioTableModel : public QAbstractTableModel {
     Q_OBJECT
 public:
@@ -31,13 +31,13 @@ public:
 
     /// Shows the entries of a leaf; null shows none.
     void setNode(std::shared_ptr<const MediaLibraryNode> node);
-    /// Takes over now what the library has told so far; the model does so by itself when the event loop turns.
+    /// Applies the library's changes now; otherwise the model does so when the event loop runs.
     void reload();
     /// An empty dictionary for a row that does not exist.
     [[nodiscard]] Dictionary entry(int row) const;
     /// The newest entry of a file; -1 when there is none.
     [[nodiscard]] int rowOfPath(const QString& path) const;
-    /// Path of the current sound: its row carries the playing icon.
+    /// The path of the current sound: its row shows the playing icon.
     void setPlayingPath(const QString& path);
     [[nodiscard]] bool isSorting() const { return sorting_; }
 
@@ -45,7 +45,7 @@ public:
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-    /// A column below 0 brings the library's own order back.
+    /// A negative column restores the library's own order.
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
 private:
@@ -78,13 +78,14 @@ private:
 
     MediaLibrary& library_;
     MissingFiles& missing_;
-    std::shared_ptr<const MediaLibraryNode> node_; ///< outlives a tree that the library has replaced
+    std::shared_ptr<const MediaLibraryNode> node_; ///< outlives the library's tree when that is replaced
     QVariantList entries_;                         ///< in the library's order
-    Order order_;     ///< row to place in entries_; empty while rows are in the library's order
-    Sorting applied_; ///< what order_ follows
-    Sorting wanted_;  ///< what the user asked for last
+    Order order_;     ///< row to index in entries_; empty while rows are in the library's order
+    Sorting applied_; ///< the sorting of order_
+    Sorting wanted_;  ///< the sorting that the user chose last
     bool sorting_ = false;
-    std::uint64_t generation_ = 0; ///< counts changes of entries_: an order sorted from older ones is of no use
+    std::uint64_t generation_ =
+        0; ///< counts changes of entries_: an order that was sorted from older entries is discarded
     std::vector<Change> changes_;
     bool leafWasReset_ = false;
     bool applyScheduled_ = false;

@@ -4,13 +4,13 @@
 
 #include "Platform/Foundation/Dictionary.h"
 
-/// How the columns of the library's table read an audio record entry.
+/// How the columns of the library's table read an entry. A new column starts here: key and value; then AudioTableModel.
 namespace AudioTags {
 
-/// The entry key that a column's identifier stands for; an identifier that is no column's is a key already.
+/// The entry key of a column's identifier; any other text is a key already.
 [[nodiscard]] QString audioTagKeyTranslate(const QString& identifier);
 
-/// The value that a column shows of an entry: the stored object, but for the length, which reads "hh:mm:ss".
+/// The value that a column shows: the stored object, but the length as "hh:mm:ss".
 [[nodiscard]] QVariant audioTag(const Dictionary& entry, const QString& objectForKey);
 
 /// The file's length as "hh:mm:ss", read from the file.

@@ -26,11 +26,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kTickMs = 100;
-constexpr double kEndOfFile = 0.1; ///< seconds before its end at which a file counts as played
+constexpr double kEndOfFile = 0.1; ///< the file counts as played this many seconds before its end
 constexpr auto kProgressEvery = std::chrono::milliseconds(100);
 constexpr QSize kFirstSize(720, 320);
 
-/// Texts with names in them: a name may itself contain "%1".
+/// Inserts a name into a text without arg(), because the name may contain "%1".
 QString quoted(const QString& before, const QString& path, const QString& after) {
     return before + path + after;
 }
@@ -69,7 +69,7 @@ void AudioTrimWndController::awakeFromNib() {
     connect(window_, &EditDialog::keyPressed, this, [this](QKeyEvent* event) { keyPressed(*event); });
     connect(outline_.get(), &AudioOutline::loaded, this,
             [this] { ui_->audioTrimEditView_->setOutline(outline_->values()); });
-    // A timer of this thread also runs while a dialog is modal or a handle is dragged.
+    // A timer of this thread also runs in modal dialogs and during drags.
     timerForPlay_.setInterval(kTickMs);
     connect(&timerForPlay_, &QTimer::timeout, this, &Self::audioPlayTrimAudioUpdateTimer);
     previewEnd_.setSingleShot(true);
@@ -94,7 +94,7 @@ void AudioTrimWndController::setTrimAudioSourceData(const Dictionary& entry) {
     AudioTrimEditView* const bar = ui_->audioTrimEditView_;
     bar->setDuration(duration());
     bar->setPlayRate(0);
-    // The right end first: neither end moves past the other.
+    // The right end first: neither end can be moved past the other.
     bar->setRightTrimRate(1);
     bar->setLeftTrimRate(0);
     bar->setLastHandle(AudioTrimEditView::LeftHandle);
@@ -157,7 +157,7 @@ void AudioTrimWndController::playAudio() {
     if (audioPlayControl_)
         audioPlayControl_->play();
     showPlayButton(true);
-    // The timer puts the button back when nothing plays.
+    // The timer resets the button when nothing plays.
 }
 
 void AudioTrimWndController::pauseAudio() {
@@ -321,7 +321,7 @@ void AudioTrimWndController::converterAudio() {
     task.to = float(double(ui_->audioTrimEditView_->rightTrimRate()) * duration());
     task.entry = trimAudioSourceDic_;
     task.replace = replaces_;
-    // Pictures are rendered here: their names are counted on the main thread.
+    // Images are encoded here: their file names are numbered on the main thread.
     const QImage artwork = QImage::fromData(trimAudioSourceDic_.value(AudioRecordEntry::Artwork).toByteArray());
     if (!artwork.isNull())
         task.artworkPath = ID3ChangeControl::createPathForImage(artwork);
@@ -363,7 +363,7 @@ void AudioTrimWndController::converterSheetDidEnd() {
         (void)Platform::services().alerts->runModal(tr("The recording was not saved."), result.problem, {u"OK"_s});
         return;
     }
-    // Nothing is left to be cancelled. The window goes on with what stands at the path now.
+    // Nothing is left to cancel. The window continues with the file that is at the path now.
     ui_->btnCancel_->setText(tr("Close"));
     if (replaces_)
         setTrimAudioSourceData(trimAudioSourceDic_);

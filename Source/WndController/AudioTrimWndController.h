@@ -25,7 +25,7 @@ class AudioTrimWnd;
 }
 
 /// The trim window: plays a recording, lets the user choose a range of it, and saves that range in place of the
-/// recording or into a new file. Made once and kept. Main thread; saving runs on a worker.
+/// recording or into a new file. Created once and reused. Main thread; saving runs on a worker.
 class AudioTrimWndController : public QObject,
                                public ToolControl::WindowShower,
                                public AudioTrimEditViewDelegate,
@@ -34,7 +34,7 @@ class AudioTrimWndController : public QObject,
 public:
     /// @p mainWindow may be null.
     explicit AudioTrimWndController(QWidget* mainWindow = nullptr, QObject* parent = nullptr);
-    /// A save that is under way is given up: the recording stays as it was.
+    /// Cancels a running save: the recording stays as it was.
     ~AudioTrimWndController() override;
 
     void setDelegate(RecordingEditDelegate* delegate) { delegate_ = delegate; }
@@ -54,7 +54,7 @@ public:
     void pauseAudio();
     void stopAudio();
 
-    // ---- asked by the bar
+    // ---- called by the bar
     void seekPlay(float rate) override;
     void setLeftTrim(float rate) override;
     void setRightTrim(float rate) override;
@@ -70,7 +70,7 @@ public:
     void converterSheetDidEnd();
     void updateFile(const QString& path, const Dictionary& tags);
 
-    // ---- how windows are shown
+    // ---- called to show the window
     [[nodiscard]] bool isWindowVisible() const override;
     void showWindow() override;
     void makeKeyAndOrderFront() override;
@@ -80,7 +80,7 @@ public Q_SLOTS:
     /// The play button: plays or pauses.
     void togglePlayAudio();
     void previewEditAudio();
-    /// Sets the left or right end to where the sound is.
+    /// Sets the left or right end to the play position.
     void leftTrim();
     void rightTrim();
     void saveAudio();
@@ -99,7 +99,7 @@ private:
     [[nodiscard]] double duration() const;
     [[nodiscard]] QString sourcePath() const;
 
-    QPointer<EditDialog> window_; // a child of the main window, which may go first
+    QPointer<EditDialog> window_; // a child of the main window, which may be destroyed first
     std::unique_ptr<Ui::AudioTrimWnd> ui_;
     Dictionary trimAudioSourceDic_;
     std::unique_ptr<CustomSound> audioPlayControl_;
@@ -108,9 +108,9 @@ private:
     std::unique_ptr<AudioOutline> outline_;
     bool isPreview_ = false;
     QString strExportAudioPath_;
-    bool replaces_ = false; ///< Save, not Save As
+    bool replaces_ = false; ///< true for Save, false for Save As
     QTimer timerForPlay_;
-    QTimer previewEnd_; ///< the last tick of a preview comes exactly at its end
+    QTimer previewEnd_; ///< gives a preview's last tick exactly at its end
     RecordingEditDelegate* delegate_ = nullptr;
     AudioTrimSave::Result result_;
     std::thread worker_;

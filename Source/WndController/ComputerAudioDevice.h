@@ -6,14 +6,15 @@
 
 #include <functional>
 
-/// Installing and removing the computer-audio device, as the preferences window sees it.
+/// Installs and removes the computer-audio device for the preferences window.
 struct ComputerAudioDevice {
     std::function<bool()> isExist;
-    std::function<bool()> install;   ///< blocks, while a local event loop keeps windows alive
-    std::function<bool()> uninstall; ///< likewise
+    std::function<bool()> install;   ///< blocks; a local event loop keeps the windows responsive
+    std::function<bool()> uninstall; ///< like install
     std::function<bool()> isBusy;
-    std::function<QString()> lastError; ///< one line; empty after a success
-    /// Why it stays as it is now, in a sentence for people; empty when it may change. None: it always may.
+    std::function<QString()> lastError; ///< one line; empty after success
+    /// Why the device cannot be changed now, as a sentence for the user; empty when it can. Without this function it
+    /// always can.
     std::function<QString()> whyNotNow{};
 
     /// The device of this system.

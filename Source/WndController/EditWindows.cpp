@@ -25,7 +25,7 @@ EditWindows::EditWindows(MainWndController& main, QObject* parent) : QObject(par
     });
     main_.commands().setOpener(Window::ID3Edit, [this](const QVariantList& entries) {
         Dictionary entry = entries.value(0).toMap();
-        // The library keeps no pictures: the file has its cover.
+        // The library stores no pictures: the cover is in the file.
         const QByteArray cover = FileTags::artwork(Platform::stringForm(entry.value(AudioRecordEntry::SavePath)));
         if (!entry.contains(AudioRecordEntry::Artwork) && !cover.isEmpty())
             entry.insert(AudioRecordEntry::Artwork, cover);
@@ -72,5 +72,5 @@ void EditWindows::updateFile(const QString& path, const Dictionary& tags) {
 
 bool EditWindows::isFilePlaying(const QString& path) {
     return main_.library().isPlaySoundPlaying() &&
-           QFileInfo(main_.library().playingPath()) == QFileInfo(path); // also by another way to it
+           QFileInfo(main_.library().playingPath()) == QFileInfo(path); // paths may differ for the same file
 }

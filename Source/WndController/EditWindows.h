@@ -12,7 +12,7 @@ class AudioTrimWndController;
 class ID3EditWndController;
 class MainWndController;
 
-/// Opens the trim window and the tag window for the main window's commands and brings their results into the library.
+/// Opens the trim window and the tag window for the main window's commands and updates the library with their results.
 /// Main thread.
 class EditWindows : public QObject, public RecordingEditDelegate {
     Q_OBJECT
@@ -21,11 +21,11 @@ public:
     explicit EditWindows(MainWndController& main, QObject* parent = nullptr);
     ~EditWindows() override;
 
-    /// Opens the trim window on a file that need not be in the library; nothing is added to it. @return why it cannot
-    /// be opened; empty when it could, after the window is closed
+    /// Opens the trim window with a file that need not be in the library; the library does not change. @return why it
+    /// cannot be opened; empty on success, after the window is closed
     [[nodiscard]] QString openFile(const QString& path);
 
-    /// Made when they are opened first.
+    /// Created when they are first opened.
     [[nodiscard]] AudioTrimWndController& audioTrimWndController();
     [[nodiscard]] ID3EditWndController& id3EditWndController();
 

@@ -22,7 +22,7 @@ namespace {
 
 constexpr QSize kFirstSize(520, 300);
 
-/// TIFF; PNG where Qt has no writer for it.
+/// Encodes as TIFF; as PNG where Qt has no TIFF writer.
 QByteArray dataOf(const QImage& image) {
     for (const char* format : {"TIFF", "PNG"}) {
         QByteArray data;

@@ -18,14 +18,14 @@ namespace Ui {
 class ID3EditWnd;
 }
 
-/// The window with the tags and the cover of one recording. Done writes them and names the file after the title. Made
-/// once and kept. Main thread; saving runs on a worker.
+/// The window with the tags and the cover of one recording. Done writes them and renames the file after the title.
+/// Created once and reused. Main thread; saving runs on a worker.
 class ID3EditWndController : public QObject, public ToolControl::WindowShower {
     Q_OBJECT
 public:
     /// @p mainWindow may be null.
     explicit ID3EditWndController(QWidget* mainWindow = nullptr, QObject* parent = nullptr);
-    /// Waits for a save that is under way.
+    /// Waits for a running save.
     ~ID3EditWndController() override;
 
     void setDelegate(RecordingEditDelegate* delegate) { delegate_ = delegate; }
@@ -33,13 +33,13 @@ public:
     [[nodiscard]] EditDialog* window() const { return window_; }
     [[nodiscard]] WaitWndController& waitWndController() const { return *waitWndController_; }
 
-    /// Fills the window from an entry, whose artwork key may hold the data of an image.
+    /// Fills the window from an entry, whose artwork key may hold image data.
     void setID3EditDataSource(const Dictionary& entry);
     [[nodiscard]] const Dictionary& ID3EditDataSource() const { return entry_; }
     /// Shows the window and returns when it is closed.
     void runModal();
 
-    /// Puts the year into the form that is saved.
+    /// Normalises the year to the form that is saved.
     void controlTextDidEndEditing();
     void startConverter();
     /// Reads the fields and starts the worker.
@@ -47,7 +47,7 @@ public:
     void converterSheetDidEnd();
     void updateFile(const QString& path, const Dictionary& tags);
 
-    // ---- how windows are shown
+    // ---- called to show the window
     [[nodiscard]] bool isWindowVisible() const override;
     void showWindow() override;
     void makeKeyAndOrderFront() override;
@@ -63,12 +63,12 @@ private:
     void written(ID3EditSave::Result result);
     void joinWorker();
 
-    QPointer<EditDialog> window_; // a child of the main window, which may go first
+    QPointer<EditDialog> window_; // a child of the main window, which may be destroyed first
     std::unique_ptr<Ui::ID3EditWnd> ui_;
     Dictionary entry_;
     std::unique_ptr<WaitWndController> waitWndController_;
     RecordingEditDelegate* delegate_ = nullptr;
-    bool imageChanged_ = false; ///< by the user; else the file keeps its cover byte for byte
+    bool imageChanged_ = false; ///< by the user; otherwise the file keeps its cover byte for byte
     QString notice_;
     std::thread worker_;
 };

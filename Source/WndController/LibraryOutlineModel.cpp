@@ -113,8 +113,8 @@ int LibraryOutlineModel::columnCount(const QModelIndex&) const {
 Qt::ItemFlags LibraryOutlineModel::flags(const QModelIndex& index) const {
     if (!index.isValid())
         return Qt::NoItemFlags;
-    // The arrow keys pass over what is not enabled. A heading that was only not selectable would stop them, and take
-    // the selection from the node that has it.
+    // The arrow keys skip disabled rows. A heading that is enabled but not selectable would stop them and take the
+    // selection.
     return isGroup(node(index)) ? Qt::NoItemFlags : Qt::ItemIsEnabled | Qt::ItemIsSelectable;
 }
 

@@ -12,7 +12,7 @@
 class MediaLibrary;
 class MediaLibraryNode;
 
-/// The library's tree as two columns: the title of a node and, for a leaf, the number of its entries. Entries are no
+/// The library's tree in two columns: the title of a node and, for a leaf, the number of its entries. Entries are not
 /// rows here. Main thread.
 class LibraryOutlineModel : public QAbstractItemModel {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
     enum Column { Name, Count, ColumnCount };
     enum Role { GroupRole = Qt::UserRole + 1, NodeKeyRole };
 
-    /// A text in its font and colour, with the icon that stands before it.
+    /// A text with its font and colour, and the icon in front of it.
     struct AttributedString {
         QString text;
         QFont font;
@@ -31,11 +31,11 @@ public:
 
     explicit LibraryOutlineModel(MediaLibrary& library, QObject* parent = nullptr);
 
-    /// Reads the tree anew. The model does so by itself when the library has built another one.
+    /// Reads the tree again. The model does so itself when the library has built a new tree.
     void reset();
     /// The invisible root for an invalid index.
     [[nodiscard]] const MediaLibraryNode* node(const QModelIndex& index) const;
-    /// The same with a share in its life; null for the root.
+    /// node() with shared ownership; null for the root.
     [[nodiscard]] std::shared_ptr<const MediaLibraryNode> sharedNode(const QModelIndex& index) const;
     [[nodiscard]] QModelIndex indexOf(const MediaLibraryNode* node, int column = Name) const;
     [[nodiscard]] QModelIndex indexOfKey(const QString& key) const;
@@ -58,7 +58,7 @@ private:
     void learnParents(const MediaLibraryNode& node);
 
     MediaLibrary& library_;
-    const MediaLibraryNode* root_ = nullptr; ///< only compared: whether the library still has the tree that is shown
-    std::vector<std::shared_ptr<MediaLibraryNode>> groups_; ///< keeps that tree alive while views point into it
+    const MediaLibraryNode* root_ = nullptr; ///< for comparison only: whether the library still has the shown tree
+    std::vector<std::shared_ptr<MediaLibraryNode>> groups_; ///< keeps that tree alive while views refer to it
     QHash<const MediaLibraryNode*, const MediaLibraryNode*> parents_;
 };

@@ -41,7 +41,7 @@ LibraryPresenter::LibraryPresenter(MediaLibrary& library, QTreeView& outline, QT
     table_.setModel(tableModel_.get());
     connect(outline_.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &LibraryPresenter::outlineSelectionDidChange);
-    // A tree that the library has built anew begins like the first one. No selection is told of a reset.
+    // A rebuilt tree gets the default expansion and selection. A reset sends no selection signal.
     connect(outlineModel_.get(), &QAbstractItemModel::modelReset, this, [this] {
         updateDefaultListStyle();
         outlineSelectionDidChange();
@@ -49,7 +49,7 @@ LibraryPresenter::LibraryPresenter(MediaLibrary& library, QTreeView& outline, QT
     connect(table_.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &LibraryPresenter::tableViewSelectionDidChange);
     connect(&table_, &QTableView::doubleClicked, this, &LibraryPresenter::tableViewDoubleAction);
-    // Rows that the model takes over by itself change what may be filtered, and may take selected rows away.
+    // Row changes by the model itself change what can be filtered, and may remove selected rows.
     for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
         connect(tableModel_.get(), signal, this, [this] { Q_EMIT canFilterAudioChanged(); });
     connect(tableModel_.get(), &QAbstractItemModel::modelReset, this, [this] {
@@ -66,7 +66,7 @@ LibraryPresenter::LibraryPresenter(MediaLibrary& library, QTreeView& outline, QT
 }
 
 LibraryPresenter::~LibraryPresenter() {
-    // The views may live longer than their models.
+    // The views may outlive their models.
     outline_.setModel(nullptr);
     table_.setModel(nullptr);
 }
@@ -99,7 +99,7 @@ void LibraryPresenter::addRingtoneFile(const QString& path, const Dictionary& ta
 
 void LibraryPresenter::updateFile(const QString& path, const Dictionary& tags) {
     Dictionary stored = tags;
-    stored.remove(AudioRecordEntry::Artwork); // entries hold texts and numbers; the file has its cover
+    stored.remove(AudioRecordEntry::Artwork); // entries contain texts and numbers only; the cover is in the file
     missing_->forget(path);
     if (isRingtone(path))
         addRingtoneFile(path, stored);
@@ -133,8 +133,8 @@ void LibraryPresenter::tableViewSelectionDidChange() {
 }
 
 qsizetype LibraryPresenter::selectedRowCount() const {
-    // Ranges, not rows: a selection of the whole of a long list must not be walked for each button. The table selects
-    // rows, so that ranges are as wide as the table and do not overlap.
+    // Uses ranges, not rows: the selection of a whole long list must not be iterated for each button. The table selects
+    // rows, so ranges span its width and do not overlap.
     qsizetype count = 0;
     for (const QItemSelectionRange& range : table_.selectionModel()->selection())
         count += range.height();
@@ -183,7 +183,7 @@ bool LibraryPresenter::selectFile(const QString& path) {
     }
     if (row < 0)
         return false;
-    // Not selectRow(): with a key held, as for a shortcut, that would add to the selection.
+    // Not selectRow(): while a modifier key is pressed, for example for a shortcut, it would extend the selection.
     const QModelIndex entry = tableModel_->index(row, AudioTableModel::Title);
     table_.selectionModel()->setCurrentIndex(entry, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     table_.scrollTo(entry);
@@ -251,7 +251,7 @@ void LibraryPresenter::followPlayingEntry() {
     if (entry.isEmpty())
         entry = MediaLibrary::findAudioByKey(playingKey_, library_.ringtones());
     if (entry.isEmpty()) {
-        letSoundGo(); // a recording that was deleted is not played on
+        letSoundGo(); // a deleted recording must not continue to play
         return;
     }
     playingEntry_ = entry;
@@ -259,7 +259,7 @@ void LibraryPresenter::followPlayingEntry() {
     display_.setArtist(AudioTags::audioTag(entry, QStringLiteral("artist")).toString());
     const QString path = Platform::stringForm(AudioTags::audioTag(entry, QStringLiteral("path")));
     if (path != sound->path()) {
-        sound->setPath(path); // it plays on: its file is open
+        sound->setPath(path); // it continues to play: its file is open
         tableModel_->setPlayingPath(path);
     }
     Q_EMIT playbackChanged();
@@ -315,7 +315,7 @@ void LibraryPresenter::watchForTheEnd(const std::shared_ptr<CustomSound>& sound)
             const auto still = watched.lock();
             if (!still || still != display_.playSound() || !still->isStop())
                 return;
-            // One that the sound server left behind can be tried again.
+            // A sound that ended because the sound server went away can be played again.
             if (still->sound()->lastError().isEmpty())
                 letSoundGo();
             else

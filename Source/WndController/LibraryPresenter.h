@@ -20,8 +20,8 @@ class QTableView;
 class QTreeView;
 
 /// The library side of the main window: what the two views show and select, what the selection allows, and the commands
-/// on it. Controls bind to the properties; each is announced when it may have changed, as the table of a binding wants
-/// it: the value is read afresh. Main thread.
+/// on it. Controls bind to the properties; each property is announced when it may have changed, and is then read again.
+/// Main thread.
 class LibraryPresenter : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool tableViewPlayEnable READ tableViewPlayEnable NOTIFY tableViewPlayEnableChanged)
@@ -38,23 +38,23 @@ class LibraryPresenter : public QObject {
         bool isPlaySoundPlaying READ isPlaySoundPlaying WRITE setIsPlaySoundPlaying NOTIFY isPlaySoundPlayingChanged)
 
 public:
-    /// Whether a recording is active: the recording side answers it.
+    /// Whether a recording is active; supplied by the recording side.
     using IsRecording = std::function<bool()>;
 
-    /// Takes the two views over: gives them their models and follows their selections.
+    /// Sets the models of the two views and follows their selections.
     LibraryPresenter(MediaLibrary& library, QTreeView& outline, QTableView& table, AudioWaveViewController& display,
                      AudioFilterController& filter, IsRecording isStateAudioRecord, QObject* parent = nullptr);
     ~LibraryPresenter() override;
 
-    /// Expands the groups and selects the first node inside the first group.
+    /// Expands the groups and selects the first node in the first group.
     void updateDefaultListStyle();
 
     // ---- changes of the library; each ends with reloadFromMediaLibrary() --------------------------------------------
-    /// A copy of the tags as an entry: with the path, and with an identity when it has none.
+    /// A copy of the tags as an entry: with the path, and with a new identity when it has none.
     [[nodiscard]] static Dictionary makeAudioLibraryDataByFile(const QString& path, const Dictionary& tags);
     void addRecordFile(const QString& path, const Dictionary& tags);
     void addRingtoneFile(const QString& path, const Dictionary& tags);
-    /// A ringtone by its ending, a recording else; the entry of the same identity is replaced.
+    /// Adds a ringtone (by extension) or a recording; an entry with the same identity is replaced.
     void updateFile(const QString& path, const Dictionary& tags);
     /// Removes the entries and deletes their files.
     void removeMediaLibraryArray(const QVariantList& entries);
@@ -64,10 +64,10 @@ public:
     /// Null when no node is selected.
     [[nodiscard]] const MediaLibraryNode* libraryViewSelectedNode() const;
     [[nodiscard]] QVariantList tableViewSelectionAudioArray() const;
-    /// Empty when the selected row is none of the node's.
+    /// Empty when the selected row does not belong to the node.
     [[nodiscard]] Dictionary tableViewSelectionAudio() const;
     [[nodiscard]] QString tableViewSelectionAudioPath() const;
-    /// Selects the entry of a file, in the node at hand or else in the one that lists all of its kind.
+    /// Selects the entry of a file, in the current node or else in the node that lists all files of its kind.
     bool selectFile(const QString& path);
 
     [[nodiscard]] bool tableViewPlayEnable() const;
@@ -76,7 +76,7 @@ public:
     [[nodiscard]] bool tableViewSelectionAudioIsRingtone() const;
     [[nodiscard]] bool tableViewCanEditSelectionAudioRecord() const;
     [[nodiscard]] bool canFilterAudio() const;
-    /// Whether there is neither a recording nor a ringtone.
+    /// Whether there are neither recordings nor ringtones.
     [[nodiscard]] bool libraryIsEmpty() const;
     [[nodiscard]] bool isPlaySoundButtonEnable() const;
     [[nodiscard]] bool isPlaySoundPlaying() const;
@@ -84,7 +84,7 @@ public:
     [[nodiscard]] QString playingPath() const;
     /// The entry that the display's sound was made of, as the library has it now; empty without a sound.
     [[nodiscard]] Dictionary playingEntry() const { return playingEntry_; }
-    /// Only announces the two keys of playing; the value is the sound's own.
+    /// Announces the two playing properties; the argument is ignored, the value is read from the sound.
     void setIsPlaySoundPlaying(bool ignored);
 
     // ---- announcements ----------------------------------------------------------------------------------------------
@@ -122,7 +122,7 @@ Q_SIGNALS:
     /// There is another sound, it began, paused, went on or ended, or its entry changed. Unlike
     /// isPlaySoundPlayingChanged() never without a cause.
     void playbackChanged();
-    /// Something that the user asked for could not be done; one sentence.
+    /// A request of the user failed; one sentence.
     void problem(const QString& text);
 
 private:
@@ -131,18 +131,18 @@ private:
     [[nodiscard]] int selectedRow() const;
     [[nodiscard]] qsizetype selectedRowCount() const;
     [[nodiscard]] CustomSound* currentSound() const;
-    /// Brings path and titles of the sound in step with its entry: its file may have been renamed while it plays.
+    /// Updates path and titles of the sound from its entry: its file may have been renamed during playback.
     void followPlayingEntry();
     void takeUp(const Dictionary& entry);
     /// updatePlaySoundState() and playbackChanged().
     void playbackDidChange();
-    /// The sound is no longer the current one, so that Play follows the selection again.
+    /// The sound stops being the current one, so that Play applies to the selection again.
     void letSoundGo();
-    /// Lets a sound go when it has come to its end, later on: it is still telling so.
+    /// Releases a sound after it has ended; not inside its own signal.
     void watchForTheEnd(const std::shared_ptr<CustomSound>& sound);
-    /// Ends the current sound by hand; it stays the current one.
+    /// Stops the current sound; it remains the current one.
     void stopSound();
-    /// Says nothing of a sound that plays.
+    /// Reports why a sound does not play; nothing when it does.
     void sayWhyNothingPlays(const CustomSound& sound);
 
     MediaLibrary& library_;
@@ -151,9 +151,9 @@ private:
     AudioWaveViewController& display_;
     AudioFilterController& filter_;
     IsRecording isStateAudioRecord_;
-    bool stopping_ = false; ///< the sound ends by hand, not at its end
+    bool stopping_ = false; ///< the sound was stopped by the user, it did not reach its end
     Dictionary playingEntry_;
-    QString playingKey_; ///< identity of the entry that the display's sound belongs to
+    QString playingKey_; ///< identity of the current sound's entry
     std::unique_ptr<MissingFiles> missing_;
     std::unique_ptr<LibraryOutlineModel> outlineModel_;
     std::unique_ptr<AudioTableModel> tableModel_;

@@ -12,7 +12,7 @@
 
 namespace {
 
-// A selection in a window at rest is pale: marks in the colour of selected text would vanish on it.
+// An inactive window draws a pale selection: marks in the colour of selected text would be invisible on it.
 QIcon::Mode markMode(const QStyleOptionViewItem& cell) {
     return cell.state.testFlag(QStyle::State_Selected) && cell.state.testFlag(QStyle::State_Active) ? QIcon::Selected
                                                                                                     : QIcon::Normal;
@@ -28,7 +28,7 @@ QSize OutlineRowDelegate::sizeHint(const QStyleOptionViewItem& option, const QMo
 
 void OutlineRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
     if (option.state.testFlag(QStyle::State_Selected) && option.widget) {
-        // The selection reaches the edge of the pane: the indentation belongs to the row.
+        // The selection extends to the edge of the pane: the indentation is part of the row.
         QRect indentation = option.rect;
         if (option.direction == Qt::RightToLeft)
             indentation.setCoords(option.rect.right() + 1, option.rect.top(), option.widget->width(),
@@ -45,7 +45,7 @@ void OutlineRowDelegate::initStyleOption(QStyleOptionViewItem* option, const QMo
     QStyledItemDelegate::initStyleOption(option, index);
     option->state &= ~QStyle::State_HasFocus;
     if (index.data(LibraryOutlineModel::GroupRole).toBool()) {
-        option->state &= ~QStyle::State_MouseOver; // a heading answers to nothing
+        option->state &= ~QStyle::State_MouseOver; // a heading does not react to the pointer
         const bool mirrored = option->direction == Qt::RightToLeft;
         option->rect.adjust(mirrored ? 0 : kInset, 0, mirrored ? -kInset : 0, 0);
         option->palette.setColor(QPalette::Text, option->palette.color(QPalette::Active, QPalette::PlaceholderText));
@@ -66,7 +66,7 @@ void AudioRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
         QStyledItemDelegate::paint(painter, cell, index);
         return;
     }
-    // The mark of the row stands in the middle of its narrow column.
+    // Centres the row's mark in its narrow column.
     initStyleOption(&cell, index);
     const QIcon icon = std::exchange(cell.icon, QIcon());
     cell.features &= ~QStyleOptionViewItem::HasDecoration;

@@ -13,7 +13,7 @@ public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
     static constexpr int kRowHeight = 24;
-    static constexpr int kInset = 8; ///< of a heading; a node stands twice as deep
+    static constexpr int kInset = 8; ///< of a heading; a node has twice this inset
     [[nodiscard]] static constexpr int groupRowHeight(int rowHeight) { return rowHeight * 12 / 10; }
 
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
@@ -23,7 +23,7 @@ protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 };
 
-/// Rows of the library's table: no ring around a single cell, since rows are what is selected.
+/// Rows of the library's table: no focus ring around a single cell, because whole rows are selected.
 class AudioRowDelegate : public QStyledItemDelegate {
     Q_OBJECT
 public:

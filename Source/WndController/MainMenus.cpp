@@ -35,7 +35,7 @@ QAction* MainMenus::add(QMenu* menu, const QString& text, const QString& icon, c
     action->setToolTip(toolTip);
     action->setData(toolTip);
     action->setShortcuts(keys);
-    // The place in the menus of some desktops is guessed from words; ours stands where it was put.
+    // Some desktops move menu items by guessing from their words; these items must stay where they are.
     action->setMenuRole(QAction::NoRole);
     if (slot)
         connect(action, &QAction::triggered, &controller_, slot);
@@ -154,7 +154,7 @@ void MainMenus::makeContextMenu() {
     audioTableViewMenu_ = new QMenu(ui_.audioTableView_);
     audioTableViewMenu_->setObjectName(QStringLiteral("audioTableViewMenu_"));
     audioTableViewMenu_->setToolTipsVisible(true);
-    // Items of its own: this menu hides all of them when nothing is selected, the menu bar never does.
+    // Separate items: this menu hides its items when nothing is selected, the menu bar does not.
     const auto item = [this](QAction* original) {
         QAction* copy = audioTableViewMenu_->addAction(original->icon(), original->text());
         connect(copy, &QAction::triggered, original, &QAction::trigger);
@@ -193,7 +193,7 @@ void MainMenus::place(QToolButton* button, QAction* action, const QString& icon,
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);
-    // Not the button's default action: that would bring the menu's own icon and words along.
+    // Not as the button's default action: that would show the menu's icon and text.
     const auto follow = [button, action, words] {
         button->setEnabled(action->isEnabled());
         button->setToolTip(action->toolTip().isEmpty() ? words : action->toolTip());
@@ -212,7 +212,7 @@ void MainMenus::setCompact(bool compact) {
 void MainMenus::update() {
     RecordStateController& record = controller_.record();
     LibraryPresenter& library = controller_.library();
-    // What is disabled says why, below what it does.
+    // The tool tip of a disabled command also says why it is disabled.
     const auto say = [](QAction* action, const QString& why) {
         QStringList lines{action->data().toString()};
         if (!action->isEnabled())

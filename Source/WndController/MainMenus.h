@@ -14,17 +14,17 @@ namespace Ui {
 class MainWnd;
 }
 
-/// The commands of the main window as actions, and where they are offered: the menu bar, the strip below the library,
+/// The main window's commands as actions, and the places that offer them: the menu bar, the strip below the library,
 /// the table's context menu. Main thread.
 class MainMenus : public QObject {
     Q_OBJECT
 public:
     MainMenus(Ui::MainWnd& ui, MainWndController& controller, QObject* parent = nullptr);
 
-    /// Brings titles and enabled states of all actions in step with recording and selection. Shortcuts of disabled
-    /// actions are dead, so this follows each change and does not wait for a menu to open.
+    /// Updates titles and enabled states of all actions from recording and selection. Shortcuts of disabled actions do
+    /// nothing, so call this at each change instead of when a menu opens.
     void update();
-    /// Icons without their words in the strip below the library: for narrow windows.
+    /// Shows only icons in the strip below the library, for narrow windows.
     void setCompact(bool compact);
 
     [[nodiscard]] QMenu* audioTableViewMenu() const { return audioTableViewMenu_; }
@@ -76,5 +76,5 @@ private:
     QAction* preferences_ = nullptr;
     QAction* about_ = nullptr;
     std::array<QAction*, WindowCommands::kWindows> windows_{};
-    QList<QPair<QAction*, QAction*>> contextItems_; ///< an item of the context menu and the action that it stands for
+    QList<QPair<QAction*, QAction*>> contextItems_; ///< an item of the context menu and its action
 };

@@ -26,7 +26,7 @@
 #include <QWindow>
 
 namespace {
-constexpr int kCompactBelow = 760; ///< width at which the strip's words no longer fit
+constexpr int kCompactBelow = 760; ///< below this width the strip's texts do not fit
 }
 
 MainWndController::MainWndController(RecordStateController& record, MediaLibrary& library, QObject* parent)
@@ -77,14 +77,14 @@ void MainWndController::setUpViews() {
     outline->setTextElideMode(Qt::ElideMiddle);
     outline->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 
-    // The pane's own picture shows through.
+    // Makes the pane's own background visible.
     outline->viewport()->setAutoFillBackground(false);
 
     MediaNodeListTableView* table = ui_->audioTableView_;
     table->setMenuDelegate(this);
     table->setSearchColumn(AudioTableModel::Title);
     table->setItemDelegate(new AudioRowDelegate(table));
-    table->setSortingEnabled(false); // on after the columns are there: it sorts at once
+    table->setSortingEnabled(false); // enabled once the columns exist, because it sorts at once
 }
 
 void MainWndController::bindLibrary() {
@@ -112,7 +112,7 @@ void MainWndController::bindLibrary() {
     connect(library, &LibraryPresenter::canFilterAudioChanged, this, &MainWndController::showEmptyText);
     connect(library, &LibraryPresenter::tableViewSelectionAudioChanged, this, &MainWndController::showSelection);
     connect(library, &LibraryPresenter::problem, this, &MainWndController::showStatus);
-    // Ten times a second while the display ticks: only what differs is touched.
+    // Called ten times a second while the display runs: only changed values are set.
     connect(library, &LibraryPresenter::isPlaySoundPlayingChanged, this, [this] {
         const bool playing = library_->isPlaySoundPlaying();
         const bool enabled = library_->isPlaySoundButtonEnable();
@@ -123,7 +123,7 @@ void MainWndController::bindLibrary() {
         ui_->btnPlayAudio_->setToolTip(playing ? QStringLiteral("Pause") : QStringLiteral("Play"));
         ui_->btnPlayAudio_->setEnabled(enabled);
         menus_->update();
-        if (playing) { // whatever went wrong is over
+        if (playing) { // earlier problems are over
             shownSelection_.reset();
             showSelection();
         }
@@ -196,7 +196,7 @@ void MainWndController::closeWindow() {
 bool MainWndController::eventFilter(QObject* watched, QEvent* event) {
     if (watched == window_.get()) {
         if (event->type() == QEvent::Close) {
-            // The window is never closed: the program ends as a whole, or the recording goes on.
+            // The window is never closed: either the whole program ends, or the recording continues.
             event->ignore();
             closeWindow();
             return true;
@@ -354,8 +354,8 @@ void MainWndController::recordingFinished(const QString& path, const Dictionary&
         showStatus(tr("“%1” was not added: it is shorter than %2 s.").arg(QFileInfo(path).completeBaseName(), seconds));
         return;
     }
-    // The user's own selection stays while the next recording runs, and when it is newer than the stop: two sources are
-    // finished minutes later, perhaps with a finger on the key that deletes.
+    // The user's own selection stays while the next recording runs, and when it was made after the stop: mixing two
+    // sources takes minutes, and the user may be about to press Delete.
     if (record_.isStateAudioRecord() || selectionAtStop_.value_or(selection()) != selection()) {
         showStatus(path);
     } else if (library_->selectFile(path)) {
@@ -374,7 +374,7 @@ QStringList MainWndController::selection() const {
 
 void MainWndController::showSelection() {
     const QString path = library_->tableViewSelectionAudioPath();
-    // The selection is also announced when its row only looks different, and what went wrong is to be read.
+    // The selection is also announced when its row was only redrawn, and then the error message must stay visible.
     if (std::exchange(shownSelection_, path) != path)
         showStatus(path);
 }

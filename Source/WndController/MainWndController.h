@@ -26,8 +26,8 @@ namespace Ui {
 class MainWnd;
 }
 
-/// The main window: recording side, library and menus behind one face. What it does is done by the recording side
-/// (RecordStateController), the library's presenter, the window's commands and its menus; here they meet. Main thread.
+/// The main window. It connects the recording side (RecordStateController), the library's presenter, the window
+/// commands and the menus, which do the work. Main thread.
 class MainWndController : public QObject,
                           public ToolControl::WindowShower,
                           public RecordStateControllerDelegate,
@@ -37,10 +37,10 @@ class MainWndController : public QObject,
                           public AudioFilterControllerDelegate {
     Q_OBJECT
 public:
-    /// Name of an action's property that holds the command which it sends ("startAndStopRecord:").
+    /// Name of an action's property with the command that it sends ("startAndStopRecord:").
     static constexpr const char* kActionProperty = "action";
 
-    /// Builds the window over a recording side that is already set up. Neither is owned; both must outlive it.
+    /// Builds the window for a recording side that is already set up. Neither is owned; both must outlive it.
     MainWndController(RecordStateController& record, MediaLibrary& library, QObject* parent = nullptr);
     ~MainWndController() override;
 
@@ -53,21 +53,21 @@ public:
     [[nodiscard]] RecordPanel& recordPanel() const { return *panel_; }
     [[nodiscard]] AudioFilterController& filter() const { return *filter_; }
 
-    /// Lets the commands open the ringtone maker and the short-recording filter, and takes what they bring.
+    /// Connects the commands to the ringtone maker and the short-recording filter, and handles their results.
     void bindWindows();
 
-    // ---- the window, as ToolControl shows it
+    // ---- called to show the window
     [[nodiscard]] bool isWindowVisible() const override;
     void showWindow() override;
     void makeKeyAndOrderFront() override;
     void center() override;
-    /// What the close box and Quit do: the program ends unless something records.
+    /// The close box and Quit: ends the program unless something is recorded.
     void closeWindow();
 
     // ---- menus ------------------------------------------------------------------------------------------------------
     [[nodiscard]] QString startStopMenuString() const;
     [[nodiscard]] QString pauseResumeMenuString() const;
-    /// Sets the item's title where the command has one that follows the state; answers whether it is enabled.
+    /// Sets the item's title where its command has one that depends on the state; returns whether it is enabled.
     bool validateMenuItem(QAction& item) const;
     /// Hides the items of the table's context menu while nothing is selected.
     void menuWillOpen(QMenu& menu);
@@ -90,7 +90,7 @@ public:
     void openFilterWindow();
     void openRingtoneMakerWindow();
 
-    // ---- asked by the recording side
+    // ---- called by the recording side
     void stopSoundPlaying() override;
     void setTabViewShowWave(bool show) override;
     void updateRecordStateAction() override;
@@ -98,23 +98,23 @@ public:
     void insertTheSystemAudioRecordDevice() override;
     void terminate() override;
 
-    // ---- asked by the display
+    // ---- called by the display
     float getAudioWaveLevelValue() override;
     void updateAudioWaveRecordState() override;
     void updatePlaySoundButton() override;
 
-    // ---- asked by the ringtone maker
+    // ---- called by the ringtone maker
     [[nodiscard]] QString nextRingtoneMakerFilePath() override;
     void addRingtoneFile(const QString& path, const Dictionary& tags) override;
 
-    // ---- asked by the short-recording filter
+    // ---- called by the short-recording filter
     void removeMediaLibraryArray(const QVariantList& entries) override;
 
-    // ---- asked by the table
+    // ---- called by the table
     QMenu* menuForEvent(QContextMenuEvent& event) override;
 
 Q_SIGNALS:
-    // What the application's delegate does.
+    // Forwarded to the application's delegate.
     void perference();
     void support();
     void audioDevice();
@@ -129,7 +129,7 @@ private:
     void bindLibrary();
     void recordingFinished(const QString& path, const Dictionary& entry);
     void showSelection();
-    /// The selected node and rows, to be compared: its key, then the paths.
+    /// The selected node's key and the selected paths, for comparison.
     [[nodiscard]] QStringList selection() const;
     void showStatus(const QString& text);
     void showEmptyText();
@@ -145,6 +145,6 @@ private:
     std::unique_ptr<MainMenus> menus_;
     std::unique_ptr<WindowLayout> layout_;
     std::unique_ptr<WindowKeys> keys_;
-    std::optional<QStringList> selectionAtStop_; ///< of the last start or stop, or as a finished file has set it since
-    std::optional<QString> shownSelection_;      ///< path that the status line showed last for a selection
+    std::optional<QStringList> selectionAtStop_; ///< at the last start or stop, or as changed for a finished file since
+    std::optional<QString> shownSelection_;      ///< the path that the status line last showed for a selection
 };

@@ -34,7 +34,7 @@ const QStringList filterTimes{u"1"_s, u"2"_s, u"3"_s, u"5"_s, u"10"_s, u"15"_s, 
 
 constexpr std::uint32_t commandAndControl = KeybordShortcutTextView::CommandFlag | KeybordShortcutTextView::ControlFlag;
 
-// Containers, data and dates have no place in a text field.
+// Containers, data and dates cannot be shown in a text field.
 bool isTextOrNumber(const QVariant& object) {
     return object.typeId() == QMetaType::QString || object.typeId() == QMetaType::Bool || Platform::isNumber(object);
 }
@@ -48,8 +48,8 @@ QString storedFolder(const QString& key) {
     return folderOf(preferenceValueForKey(key, defaultMusicFolder()));
 }
 
-// Selects the item with this title. One that is not offered is put among the others by its number, so that closing the
-// window stores it again.
+// Selects the item with this title. A value that is not offered is inserted by its number, so that closing the window
+// stores it again.
 void select(QComboBox* popUp, const QString& title) {
     int index = popUp->findText(title, Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (index < 0) {
@@ -184,7 +184,7 @@ bool PreferenceWndController::windowShouldClose() {
     setPreferenceValue(qlonglong(split), PreferenceSplitKey);
     setPreferenceValue(qlonglong(ui_->filterCheckBox->isChecked()), PreferenceFilterKey);
     const QString splitTime = ui_->splitTimePopUp->currentText();
-    // One store, not two: an I/O thread that read -1 in between would leave a silence uncut.
+    // A single store: if an I/O thread read a temporary -1, a silence would not be cut.
     g_SplitTimeMS = split ? Platform::intValue(splitTime) : -1;
     setPreferenceValue(splitTime, PreferenceSplitTimeMSKey);
     setPreferenceValue(ui_->filterTimePopUp->currentText(), PreferenceFilterTimeKey);
@@ -210,7 +210,7 @@ void PreferenceWndController::chooseFolder(QLineEdit* field) {
                 field->setText(*path);
                 return;
             }
-            // After the sheet is gone: an alert on top of a closing one would lose the focus.
+            // After the sheet is closed: an alert above a closing sheet would lose the focus.
             Platform::MainQueue::post(this, [] {
                 Platform::services().alerts->runModal(
                     u"Warning:"_s, u"You cannot save files in the folder. Read and write privilege is needed."_s,
@@ -291,7 +291,7 @@ void PreferenceWndController::unInsertTheSystemAudioRecordDevice() {
     flushLater();
 }
 
-// Widgets belong to the main thread; the work that is reported may run on another.
+// Widgets belong to the main thread; the reported work may run on another.
 void PreferenceWndController::showDeviceWork(const QString& work) {
     if (QThread::currentThread() != thread()) {
         Platform::MainQueue::post(this, [this, work] { showDeviceWork(work); });
@@ -343,7 +343,7 @@ void PreferenceWndController::showHotKeyWay() {
         fitHeight();
 }
 
-// Texts that wrap tell their height only for a width, which adjustSize() does not ask for.
+// Wrapped texts have a height only for a given width, which adjustSize() does not consider.
 void PreferenceWndController::fitHeight() {
     QLayout* layout = window_->layout();
     layout->activate();

@@ -18,15 +18,15 @@ namespace Ui {
 class PreferenceWnd;
 }
 
-/// The preferences window: folders, splitting, filtering, the computer-audio device, the three shortcuts. Made once and
-/// kept, since its shortcut fields own the hot keys. Closing it applies and stores everything. Main thread, but for
-/// installing and removing the device.
+/// The preferences window: folders, splitting, filtering, the computer-audio device, the three shortcuts. Created once
+/// and kept, because its shortcut fields own the hot keys. Closing it applies and stores everything. Main thread,
+/// except installing and removing the device.
 class PreferenceWndController : public QObject, public ToolControl::WindowShower {
     Q_OBJECT
     Q_PROPERTY(bool systemAudioRecordDeviceExist READ systemAudioRecordDeviceExist WRITE setSystemAudioRecordDeviceExist
                    NOTIFY systemAudioRecordDeviceExistChanged)
 public:
-    /// Loads the window and wakes up: shows the stored settings and takes the hot keys.
+    /// Loads the window, shows the stored settings and registers the hot keys.
     explicit PreferenceWndController(ComputerAudioDevice device, QObject* parent = nullptr);
     ~PreferenceWndController() override;
 
@@ -41,16 +41,16 @@ public:
 
     void initPerferceInterface();
     void setDefaultShortcut();
-    /// Stores what the window shows. @return true: it may close.
+    /// Stores the shown settings. @return true: the window may close.
     bool windowShouldClose();
 
-    /// Asked of the system at each call.
+    /// Queries the system at each call.
     [[nodiscard]] bool systemAudioRecordDeviceExist() const;
-    /// Looks again, whatever the argument says. From any thread.
+    /// Queries the system again; the argument is ignored. Any thread.
     void setSystemAudioRecordDeviceExist(bool exist);
     void flushExistSystemAudioRecordDevice();
 
-    // How windows are shown.
+    // Called to show the window.
     [[nodiscard]] bool isWindowVisible() const override;
     void showWindow() override;
     void makeKeyAndOrderFront() override;
@@ -63,9 +63,9 @@ public Q_SLOTS:
     void showOutRingtonePath();
     void chooseSplitEffect();
     void chooseFilterEffect();
-    void chooseSplitTime() {}  // taken when the window closes
-    void chooseFilterTime() {} // likewise
-    /// From any thread; return when the installation or removal is over.
+    void chooseSplitTime() {}  // stored when the window closes
+    void chooseFilterTime() {} // stored when the window closes
+    /// Any thread; return when the installation or removal is done.
     void insertTheSystemAudioRecordDevice();
     void unInsertTheSystemAudioRecordDevice();
 
@@ -85,7 +85,7 @@ private:
     [[nodiscard]] QString whyDeviceStays() const;
 
     ComputerAudioDevice device_;
-    QString installProblem_; ///< why the last installation failed; a failed removal shows nothing
+    QString installProblem_; ///< why the last installation failed; a failed removal shows no message
     std::unique_ptr<QWidget> window_;
     std::unique_ptr<Ui::PreferenceWnd> ui_;
 };

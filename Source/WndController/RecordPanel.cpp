@@ -30,7 +30,7 @@ RecordPanel::RecordPanel(Ui::MainWnd& ui, RecordStateController& record, AudioWa
     connect(ui_.btnSatrtRecord_, &QAbstractButton::clicked, &record_, &RecordStateController::startAndStopRecord);
     connect(ui_.btnPauseRecord_, &QAbstractButton::clicked, &record_, &RecordStateController::pauseAndResumeRecord);
     connect(ui_.btnSplitRecord_, &QAbstractButton::clicked, &record_, &RecordStateController::splitTheRecord);
-    // A box shows the recorder's answer, which may be no: without the device, "computer audio" goes off again.
+    // The box shows the recorder's state after the click: without the device, "computer audio" is switched off again.
     connect(ui_.btnBuiltInRecord_, &QCheckBox::clicked, this, [this](bool on) {
         record_.chooseRecordBuiltIn(on);
         showState();
@@ -108,9 +108,9 @@ void RecordPanel::showDisplay() {
 
 void RecordPanel::showHealth() {
     const auto lost = static_cast<qulonglong>(record_.lostFrames());
-    // An armed recording counts no time yet; it must not look like none.
+    // An armed recording has no time yet, but must be visible as a recording.
     const bool armed = record_.isStateAudioRecord() && record_.isWaittingForSound();
-    // Without a sound server nothing of this machine is heard. A recording of that must not look like another.
+    // Without a sound server only the test tone is recorded. The user must be able to see that.
     const auto* hardware = Platform::services().audioHardware;
     const bool testTone = hardware && hardware->isTestTone();
     const QString missing = hardware && !hardware->connected()                            ? tr("No sound server")

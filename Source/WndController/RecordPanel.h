@@ -13,18 +13,18 @@ namespace Ui {
 class MainWnd;
 }
 
-/// Binds the transport buttons, the two sources, the notices and the live display to the recording side: what the
-/// recorder says is shown, what the user does is forwarded. It decides nothing. Main thread.
+/// Connects the transport buttons, the two sources, the notices and the live display to the recording side: it shows
+/// the recorder's state and forwards the user's actions. It makes no decisions. Main thread.
 class RecordPanel : public QObject {
     Q_OBJECT
 public:
     RecordPanel(Ui::MainWnd& ui, RecordStateController& record, AudioWaveViewController& display,
                 QObject* parent = nullptr);
 
-    /// Tool tips of the four transport buttons before anything happens.
+    /// Initial tool tips of the four transport buttons.
     void initToopTip();
-    /// Shows the converting notice when recordings have been waiting for half a second, and hides it when none waits
-    /// any more. Called at each change of the queue and at each tick of the display's clock.
+    /// Shows the converting notice when recordings have been waiting for half a second, and hides it when none is left.
+    /// Called at each change of the queue and at each tick of the display's clock.
     void showFileConvertTipView();
     [[nodiscard]] ConvertingTipView& fileConvertingTipView() { return *fileConvertingTipView_; }
 
@@ -39,7 +39,7 @@ private:
     Ui::MainWnd& ui_;
     RecordStateController& record_;
     AudioWaveViewController& display_;
-    ConvertingTipView* fileConvertingTipView_; ///< child of the library's pane
+    ConvertingTipView* fileConvertingTipView_; ///< a child of the library's pane
     QTimer conversion_;                        ///< runs during the first half second of a conversion
     bool conversionLasts_ = false;
 };

@@ -4,12 +4,12 @@
 
 #include "Platform/Foundation/Dictionary.h"
 
-/// Told by the windows that edit a recording. Main thread.
+/// Called by the windows that edit a recording. Main thread.
 class RecordingEditDelegate {
 public:
     virtual ~RecordingEditDelegate() = default;
     /// The recording's file is at @p path now; @p tags is its entry.
     virtual void updateFile(const QString& /*path*/, const Dictionary& /*tags*/) {}
-    /// Whether the file is being played outside of the editing window.
+    /// Whether the file is being played outside the editing window.
     virtual bool isFilePlaying(const QString& /*path*/) { return false; }
 };

@@ -24,8 +24,8 @@ StatusBarItem::StatusBarItem(MainWndController& mainWndController, QObject* pare
     connect(&mainWndController_.record(), &RecordStateController::stateChanged, this, &StatusBarItem::validate);
     validate();
 
-    // Qt 6.4 decides once in a process, when the first icon is made, whether the session bus has a status bar, and
-    // never looks again: made before the bar is there, the icon would not be shown in it.
+    // Qt 6.4 checks once per process, when the first icon is created, whether the session bus has a status bar. An icon
+    // that is created before the bar exists would never be shown.
     bars_ = Platform::StatusBars::create();
     connect(bars_.get(), &Platform::StatusBars::appeared, this, &StatusBarItem::showIcon);
 }

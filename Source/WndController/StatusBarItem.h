@@ -11,8 +11,8 @@
 
 class MainWndController;
 
-/// The program's item in the desktop's status bar: an image and a menu with the three recording commands. Where the
-/// desktop has no such bar nothing is shown, until one appears; a bar that comes back has the item again. Main thread.
+/// The program's item in the desktop's status bar: an image and a menu with the three recording commands. Without a
+/// status bar nothing is shown until one appears; when a bar restarts, it gets the item again. Main thread.
 class StatusBarItem : public QObject {
     Q_OBJECT
 public:
@@ -31,7 +31,8 @@ public:
 private:
     void showIcon();
     QAction* add(const QString& title, const QString& action, void (MainWndController::*command)());
-    /// Titles and enabled states; at each change of the recording, since status bars keep copies of menus.
+    /// Updates titles and enabled states. Call it at each change of the recording, because status bars keep copies of
+    /// menus.
     void validate();
 
     MainWndController& mainWndController_;

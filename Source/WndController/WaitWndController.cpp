@@ -52,7 +52,7 @@ void WaitWndController::setProgress(double share) {
 void WaitWndController::setStopWork() {
     if (!didEnd_)
         return;
-    ui_->progress_->setRange(0, kSteps); // a bar that runs to and fro keeps a timer
+    ui_->progress_->setRange(0, kSteps); // an indeterminate bar would keep a timer running
     window_->hide();
     window_->setParent(nullptr, Qt::Sheet);
     std::exchange(didEnd_, {})();
@@ -65,6 +65,6 @@ bool WaitWndController::eventFilter(QObject* watched, QEvent* event) {
     }
     if (watched == window_ && event->type() == QEvent::KeyPress &&
         static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel))
-        return true; // the work cannot be called back
+        return true; // the work cannot be cancelled
     return QObject::eventFilter(watched, event);
 }

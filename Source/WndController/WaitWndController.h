@@ -14,8 +14,8 @@ namespace Ui {
 class WaitWnd;
 }
 
-/// The sheet over an editing window while a worker is busy: a message and a bar, nothing to press. The bar runs to and
-/// fro until a share is known. Main thread.
+/// The sheet over an editing window while a worker is busy: a message and a progress bar, no buttons. The bar is
+/// indeterminate until the progress is known. Main thread.
 class WaitWndController : public QObject {
     Q_OBJECT
 public:
@@ -23,21 +23,21 @@ public:
     ~WaitWndController() override;
 
     [[nodiscard]] QDialog* window() const { return window_; }
-    /// Shows the sheet over @p over; @p didEnd is called once when setStopWork() ends it. The window stays usable for
-    /// nothing else meanwhile.
+    /// Shows the sheet over @p over; @p didEnd is called once when setStopWork() ends it. Meanwhile the window below
+    /// accepts no input.
     void beginSheet(QWidget* over, std::function<void()> didEnd);
     [[nodiscard]] bool isSheetUp() const { return static_cast<bool>(didEnd_); }
     /// Shows the message and starts the bar.
     void setIsWorking(const QString& message);
-    /// The share done, 0 to 1.
+    /// The progress, 0 to 1.
     void setProgress(double share);
-    /// Stops the bar, takes the sheet away and tells its owner. Without a sheet nothing happens.
+    /// Stops the bar, closes the sheet and calls didEnd. Does nothing without a sheet.
     void setStopWork();
 
 private:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    QPointer<QDialog> window_; // a child of the window it lies over, while it does
+    QPointer<QDialog> window_; // a child of the covered window while it is shown
     std::unique_ptr<Ui::WaitWnd> ui_;
     std::function<void()> didEnd_;
 };

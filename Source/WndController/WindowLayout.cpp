@@ -73,7 +73,7 @@ void WindowLayout::restore() {
         if (!header->isSectionHidden(column) && column != AudioTableModel::Title)
             header->resizeSection(column, width >= kNarrowestColumn ? width : firstWidth(column));
     }
-    // The title takes what the others leave, so that the columns always fill the table.
+    // The title column takes the remaining width, so that the columns always fill the table.
     header->setSectionResizeMode(AudioTableModel::Title, QHeaderView::Stretch);
     restored_ = true;
 }
@@ -88,7 +88,7 @@ void WindowLayout::save() {
         columns.append(table_.horizontalHeader()->sectionSize(column));
     Dictionary layout = defaults->objectForKey(kKey).toMap();
     const Dictionary before = layout;
-    // A maximised window comes back at the size that it had before.
+    // A maximised window is restored with its normal size.
     if (!window_.isMaximized() && !window_.isFullScreen()) {
         layout.insert(kWidth, window_.width());
         layout.insert(kHeight, window_.height());

@@ -9,7 +9,7 @@ class QMainWindow;
 class QSplitter;
 class QTableView;
 
-/// Remembers the size of the main window and the widths of its columns in the user's defaults; never its place, since
+/// Stores the size of the main window and the widths of its columns in the user's defaults; not its position, because
 /// the window is centred whenever it is shown. Main thread.
 class WindowLayout : public QObject {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
 
     WindowLayout(QMainWindow& window, QSplitter& splitter, QTableView& table);
 
-    /// Sizes of last time, or those that a new user sees.
+    /// Restores the last sizes, or the default ones.
     void restore();
     void save();
 
@@ -30,6 +30,6 @@ private:
     QMainWindow& window_;
     QSplitter& splitter_;
     QTableView& table_;
-    QTimer later_; ///< a drag of the mouse is one change
+    QTimer later_; ///< joins the steps of a mouse drag into one change
     bool restored_ = false;
 };

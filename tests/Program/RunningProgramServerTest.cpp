@@ -115,8 +115,7 @@ TEST_F(RunningWindow, EntersARecordingOnceHoweverLateItAnswers) {
         runTool(QStringLiteral(SONAPHEX_PROGRAM), {u"record"_s, u"--for"_s, u"1"_s, u"--filter"_s, u"off"_s});
     EXPECT_EQ(recorded.status, 0) << recorded.errors.constData();
     ASSERT_EQ(::kill(pid_t(window_.processId()), SIGCONT), 0);
-    ASSERT_TRUE(
-        waitFor([this] { return control(u"status"_s).startsWith("idle"); }, 30000)); // this request came later
+    ASSERT_TRUE(waitFor([this] { return control(u"status"_s).startsWith("idle"); }, 30000)); // this request came later
     ::kill(pid_t(window_.processId()), SIGTERM);
     ASSERT_TRUE(waitFor([this] { return window_.state() == QProcess::NotRunning; }, 30000));
     const auto listed = runTool(QStringLiteral(SONAPHEX_PROGRAM), {u"library"_s});
