@@ -5,6 +5,8 @@
 #include "Platform/Foundation/MainQueue.h"
 #include "RingtoneMaker/CustomSound.h"
 #include "Source/AudioWaveViewController/AudioRecordWaveView.h"
+#include "Source/AudioWaveViewController/BackViews.h"
+#include "Source/Record/RecordStateController.h"
 #include "Source/View/NamedImages.h"
 #include "Source/View/Theme.h"
 #include "ui_AudioWaveViewController.h"
@@ -68,11 +70,10 @@ void setGlassIcon(QToolButton* button, const QString& name) {
 
 AudioWaveViewController::AudioWaveViewController(QWidget* parent)
     : QObject(parent), ui_(std::make_unique<Ui::AudioWaveViewController>()) {
-    auto* panel = new AudioWaveformBackView(parent);
-    view_ = panel;
-    ui_->setupUi(panel);
+    view_ = new AudioWaveformBackView(parent);
+    ui_->setupUi(view_);
     // Either may be destroyed first: the window deletes its panel; a panel without a window belongs to the controller.
-    connect(panel, &QObject::destroyed, this, [this] {
+    connect(view_, &QObject::destroyed, this, [this] {
         view_ = nullptr;
         destroyDudioPlayUpdateTimer();
     });
@@ -95,6 +96,8 @@ void AudioWaveViewController::awakeFromNib() {
     ui_->stateField->setFont(scaled(font, font.pointSizeF() + 2, QFont::DemiBold));
     ui_->timeField->setFont(scaled(font, timePointSize, QFont::Medium));
     ui_->timeField->setReserve(u"00:00"_s);
+    ui_->hintField->setFont(scaled(font, font.pointSizeF() + 1, QFont::DemiBold));
+    ui_->hintField->hide();
     ui_->titleField->setFont(scaled(font, font.pointSizeF() + 3, QFont::DemiBold));
     QPalette dim = view_->palette();
     dim.setColor(QPalette::WindowText, Theme::Glass::dimText());
@@ -110,7 +113,7 @@ void AudioWaveViewController::awakeFromNib() {
     ui_->noticeLine->setFixedHeight(2 * QFontMetrics(ui_->noticeField->font()).height());
     ui_->dismissNoticeButton->setIconSize({16, 16});
     ui_->dismissNoticeButton->setFixedSize(24, 24);
-    for (QWidget* elided : {ui_->titleField, ui_->artistField, ui_->noticeField})
+    for (QWidget* elided : {ui_->titleField, ui_->artistField, ui_->noticeField, ui_->hintField})
         elided->installEventFilter(this);
 
     ui_->audioPlayProgressView->setDelegate(this);
@@ -146,8 +149,35 @@ void AudioWaveViewController::setTabViewShowWave(bool show) {
 }
 
 void AudioWaveViewController::showTab() {
+    if (!view_)
+        return;
+    ui_->tabView->setCurrentWidget(tabViewShowWave_ ? ui_->recordPage : ui_->playPage);
+    // While something is recorded, its state and time stay beside the playback side too.
+    ui_->recordTextView->setVisible(tabViewShowWave_ || recordState_ != RecordState::Idle);
+}
+
+void AudioWaveViewController::setRecordState(RecordState state) {
+    if (state == recordState_)
+        return;
+    recordState_ = state;
     if (view_)
-        ui_->tabView->setCurrentWidget(tabViewShowWave_ ? ui_->recordPage : ui_->playPage);
+        view_->setRecording(state == RecordState::Recording);
+    showTab();
+}
+
+void AudioWaveViewController::setHint(const QString& hint) {
+    if (hint == hint_)
+        return;
+    hint_ = hint;
+    showHint();
+}
+
+void AudioWaveViewController::showHint() {
+    if (!view_)
+        return;
+    ui_->hintField->setVisible(!hint_.isEmpty());
+    ui_->hintField->setText(inTwoLines(hint_, ui_->hintField->fontMetrics(), std::max(ui_->hintField->width(), 16)));
+    ui_->hintField->setToolTip(hint_);
 }
 
 void AudioWaveViewController::changeTabView() {
@@ -273,6 +303,8 @@ bool AudioWaveViewController::eventFilter(QObject* watched, QEvent* event) {
         showTitles();
         if (watched == ui_->noticeField)
             showNotices();
+        if (watched == ui_->hintField)
+            showHint();
     }
     return QObject::eventFilter(watched, event);
 }

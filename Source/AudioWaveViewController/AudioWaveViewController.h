@@ -12,7 +12,9 @@
 #include <memory>
 
 class AudioRecordWaveView;
+class AudioWaveformBackView;
 class CustomSound;
+enum class RecordState;
 namespace Ui {
 class AudioWaveViewController;
 }
@@ -79,6 +81,15 @@ public:
     [[nodiscard]] QColor stateColor() const { return stateColor_; }
     void setStateColor(const QColor& color);
 
+    /// What the recording does, for the panel's frame. Beside the playback side, state and time show while it is not
+    /// idle.
+    void setRecordState(RecordState state);
+    [[nodiscard]] RecordState recordState() const { return recordState_; }
+    /// One sentence above the level history: what an armed recording waits for, or why nothing is heard. Empty hides
+    /// it.
+    void setHint(const QString& hint);
+    [[nodiscard]] QString hint() const { return hint_; }
+
     [[nodiscard]] bool changeTabViewButtonState() const { return true; }
     void updateChangeTabViewButtonState();
     void setChangeTabViewButtonState(bool state);
@@ -125,12 +136,13 @@ Q_SIGNALS:
 private:
     void awakeFromNib();
     void showTitles();
+    void showHint();
     void showNotices();
     void showTab();
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     std::unique_ptr<Ui::AudioWaveViewController> ui_;
-    QWidget* view_ = nullptr;
+    AudioWaveformBackView* view_ = nullptr;
     bool tabViewShowWave_ = false;
     bool isRecording_ = false;
     std::shared_ptr<CustomSound> playSound_;
@@ -141,5 +153,7 @@ private:
     QString stateString_;
     QString timeString_;
     QColor stateColor_;
+    RecordState recordState_{};
+    QString hint_;
     QStringList notices_;
 };

@@ -21,6 +21,13 @@ AudioWaveformBackView::AudioWaveformBackView(QWidget* parent) : QWidget(parent) 
     setPalette(glass);
 }
 
+void AudioWaveformBackView::setRecording(bool recording) {
+    if (recording == recording_)
+        return;
+    recording_ = recording;
+    update();
+}
+
 void AudioWaveformBackView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -29,6 +36,11 @@ void AudioWaveformBackView::paintEvent(QPaintEvent*) {
     painter.setClipPath(outline);
     NamedImages::draw(painter, rect(), u"AudioWaveformBack.png"_s);
     painter.setClipping(false);
+    if (recording_) {
+        painter.setPen(QPen(Theme::Glass::recording(), 2));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 7, 7);
+        return;
+    }
     painter.setPen(QPen(QColor(255, 255, 255, 30), 1));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 7.5, 7.5);
 }

@@ -9,9 +9,14 @@ class AudioWaveformBackView : public QWidget {
     Q_OBJECT
 public:
     explicit AudioWaveformBackView(QWidget* parent = nullptr);
+    /// A red frame, for as long as sound is recorded.
+    void setRecording(bool recording);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    bool recording_ = false;
 };
 
 /// The background of the library.

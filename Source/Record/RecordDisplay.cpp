@@ -2,12 +2,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/Record/RecordDisplay.h"
 
+#include "Source/Record/RecordStateController.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 QString twoDigits(std::int64_t number) {
     return u"%1"_s.arg(number, 2, 10, QChar(u'0'));
+}
+
+QString clock(double seconds) {
+    const auto whole = static_cast<std::int64_t>(seconds);
+    const QString minutesAndSeconds = twoDigits(whole / 60 % 60) + u':' + twoDigits(whole % 60);
+    return whole < 3600 ? minutesAndSeconds : u"%1:%2"_s.arg(whole / 3600).arg(minutesAndSeconds);
 }
 
 } // namespace
@@ -25,6 +33,22 @@ RecordDisplay RecordDisplay::of(int recordState, float seconds, bool blinkOn) {
     default:
         return {u"Ready"_s, blinkOn ? u"00:00"_s : u"00:"_s, Qt::black};
     }
+}
+
+QString RecordDisplay::headline(RecordState state, double seconds) {
+    switch (state) {
+    case RecordState::Idle:
+        return {};
+    case RecordState::Armed:
+        return u"Waiting for the first sound"_s;
+    case RecordState::Recording:
+        return u"Recording %1"_s.arg(clock(seconds));
+    case RecordState::Paused:
+        return u"Paused %1"_s.arg(clock(seconds));
+    case RecordState::Finishing:
+        return u"Finishing the recording"_s;
+    }
+    return {};
 }
 
 bool RecordDisplay::blinkOn(double timeIntervalSinceReferenceDate) {

@@ -273,6 +273,11 @@ Qt::GlobalColor RecordStateController::stateColor() const {
     return d->display_.stateColor;
 }
 
+QString RecordStateController::headline() const {
+    // A pause of an armed recording only shows on the buttons.
+    return RecordDisplay::headline(d->state, double(d->fRecordTime_));
+}
+
 QString RecordStateController::fileConvertTip() const {
     return d->convertTip_;
 }

@@ -55,6 +55,7 @@ class RecordStateController : public QObject, public BuildInAudioRecordDelegate 
     Q_PROPERTY(QString stateString READ stateString NOTIFY displayChanged)
     Q_PROPERTY(QString timeString READ timeString NOTIFY displayChanged)
     Q_PROPERTY(Qt::GlobalColor stateColor READ stateColor NOTIFY displayChanged)
+    Q_PROPERTY(QString headline READ headline NOTIFY displayChanged)
     Q_PROPERTY(QStringList deviceNames READ deviceNames NOTIFY devicesChanged)
     Q_PROPERTY(int selectedDevice READ selectedDevice NOTIFY devicesChanged)
 
@@ -117,6 +118,8 @@ public:
     [[nodiscard]] QString stateString() const;
     [[nodiscard]] QString timeString() const;
     [[nodiscard]] Qt::GlobalColor stateColor() const;
+    /// See RecordDisplay::headline().
+    [[nodiscard]] QString headline() const;
     /// Text of the converting notice in its current blink phase; empty until the first tick.
     [[nodiscard]] QString fileConvertTip() const;
     /// Seconds of the current file, counted by the clock.

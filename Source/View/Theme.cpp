@@ -240,6 +240,9 @@ QColor text() {
 QColor dimText() {
     return QColor(0x93a6b4);
 }
+QColor recording() {
+    return QColor(0xd9373d);
+}
 QColor level() {
     return QColor::fromRgbF(78.0F / 255, 242.0F / 255, 1.0F);
 }

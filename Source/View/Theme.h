@@ -31,6 +31,8 @@ namespace Glass {
 [[nodiscard]] QColor level();
 /// Ground of a button under the pointer.
 [[nodiscard]] QColor button();
+/// Of the frame, while sound is recorded.
+[[nodiscard]] QColor recording();
 } // namespace Glass
 
 /// Colours of the strip below the library.

@@ -79,8 +79,13 @@ void RecordPanel::initToopTip() {
 
 void RecordPanel::showState() {
     ui_.btnSatrtRecord_->setEnabled(record_.isStateAudioCanStartRecord());
-    ui_.btnSatrtRecord_->setImage(record_.startImage());
-    ui_.btnSatrtRecord_->setPressedImage(record_.startPressedImage());
+    // The filled disc means that sound is being recorded at this moment.
+    const RecordState state = record_.state();
+    const bool waits = state == RecordState::Armed || state == RecordState::Paused;
+    ui_.btnSatrtRecord_->setImage(waits ? QStringLiteral("RecorderStopWaiting.png") : record_.startImage());
+    ui_.btnSatrtRecord_->setPressedImage(waits ? QStringLiteral("RecorderStopWaitingDown.png")
+                                               : record_.startPressedImage());
+    display_.setRecordState(state);
     ui_.btnSatrtRecord_->setToolTip(record_.startToolTip());
     ui_.btnPauseRecord_->setEnabled(record_.isStateAudioRecord());
     ui_.btnPauseRecord_->setImage(record_.pauseImage());
@@ -106,23 +111,37 @@ void RecordPanel::showDisplay() {
     showHealth();
 }
 
+/// What the window's title and the display say besides the level, and how many frames were lost.
 void RecordPanel::showHealth() {
+    const QString headline = record_.headline();
+    ui_.contentView_->window()->setWindowTitle(headline.isEmpty() ? QStringLiteral("Sonaphex")
+                                                                  : QStringLiteral("%1 \u2013 Sonaphex").arg(headline));
+    display_.setHint(hint());
+
     const auto lost = static_cast<qulonglong>(record_.lostFrames());
-    // An armed recording has no time yet, but must be visible as a recording.
-    const bool armed = record_.isStateAudioRecord() && record_.isWaittingForSound();
-    // Without a sound server only the test tone is recorded. The user must be able to see that.
+    const RecordState state = record_.state();
+    QString text;
+    if (lost > 0)
+        text = tr("%1 frames lost").arg(QLocale().toString(lost));
+    else if (state == RecordState::Recording || state == RecordState::Paused)
+        text = tr("No frames lost");
+    ui_.lblLostFrames_->setText(text);
+    ui_.lblLostFrames_->setForegroundRole(lost > 0 ? QPalette::WindowText : QPalette::PlaceholderText);
+}
+
+QString RecordPanel::hint() const {
     const auto* hardware = Platform::services().audioHardware;
-    const bool testTone = hardware && hardware->isTestTone();
-    const QString missing = hardware && !hardware->connected()                            ? tr("No sound server")
-                            : record_.builtInChecked() && record_.deviceNames().isEmpty() ? tr("No input device")
-                                                                                          : QString();
-    ui_.lblLostFrames_->setText(lost > 0             ? tr("%1 frames lost").arg(QLocale().toString(lost))
-                                : !missing.isEmpty() ? missing
-                                : armed              ? tr("Waiting for sound …")
-                                : testTone           ? tr("No sound server: a test tone is recorded")
-                                                     : tr("No frames lost"));
-    ui_.lblLostFrames_->setForegroundRole(
-        lost > 0 || armed || testTone || !missing.isEmpty() ? QPalette::WindowText : QPalette::PlaceholderText);
+    if (hardware && !hardware->connected())
+        return tr("No sound server");
+    if (record_.builtInChecked() && record_.deviceNames().isEmpty())
+        return tr("No input device");
+    // An armed recording has no time yet, but must be visible as a recording.
+    if (record_.isStateAudioRecord() && record_.isWaittingForSound())
+        return tr("Waiting for the first sound of computer audio");
+    // Without a sound server only the test tone is recorded. The user must be able to see that.
+    if (hardware && hardware->isTestTone())
+        return tr("No sound server: a test tone is recorded");
+    return {};
 }
 
 void RecordPanel::showDevices() {

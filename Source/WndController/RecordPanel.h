@@ -32,6 +32,8 @@ private:
     void showState();
     void showDisplay();
     void showHealth();
+    /// The sentence in the display; empty when sound comes and nothing is waited for.
+    [[nodiscard]] QString hint() const;
     void showDevices();
     void showDeviceToolTip();
     void showNotices();

@@ -21,7 +21,11 @@ StatusBarItem::StatusBarItem(MainWndController& mainWndController, QObject* pare
     connect(systemBarMenu_.addAction(tr("Quit")), &QAction::triggered, &mainWndController_,
             &MainWndController::closeWindow);
     connect(&systemBarMenu_, &QMenu::aboutToShow, this, &StatusBarItem::validate);
-    connect(&mainWndController_.record(), &RecordStateController::stateChanged, this, &StatusBarItem::validate);
+    const RecordStateController* record = &mainWndController_.record();
+    connect(record, &RecordStateController::stateChanged, this, &StatusBarItem::validate);
+    connect(record, &RecordStateController::stateChanged, this, &StatusBarItem::showImage);
+    connect(record, &RecordStateController::stateChanged, this, &StatusBarItem::showToolTip);
+    connect(record, &RecordStateController::displayChanged, this, &StatusBarItem::showToolTip);
     validate();
 
     // Qt 6.4 checks once per process, when the first icon is created, whether the session bus has a status bar. An icon
@@ -30,13 +34,46 @@ StatusBarItem::StatusBarItem(MainWndController& mainWndController, QObject* pare
     connect(bars_.get(), &Platform::StatusBars::appeared, this, &StatusBarItem::showIcon);
 }
 
-void StatusBarItem::showIcon() {
+QString StatusBarItem::imageName(RecordState state) {
+    switch (state) {
+    case RecordState::Armed:
+        return QStringLiteral("record-status-bar-armed");
+    case RecordState::Recording:
+        return QStringLiteral("record-status-bar-recording");
+    case RecordState::Paused:
+        return QStringLiteral("record-status-bar-paused");
+    case RecordState::Idle:
+    case RecordState::Finishing:
+        break;
+    }
+    return QStringLiteral("record-status-bar-start");
+}
+
+void StatusBarItem::showImage() {
+    const QString name = imageName(mainWndController_.record().state());
+    if (!icon_ || name == image_)
+        return;
+    image_ = name;
     QIcon image;
     for (const qreal ratio : {1.0, 2.0, 3.0})
-        image.addPixmap(
-            NamedImages::pixmap(QStringLiteral("record-status-bar-start"), {kImageSize, kImageSize}, ratio));
-    icon_ = std::make_unique<QSystemTrayIcon>(image);
-    icon_->setToolTip(QStringLiteral("Sonaphex"));
+        image.addPixmap(NamedImages::pixmap(name, {kImageSize, kImageSize}, ratio));
+    icon_->setIcon(image);
+}
+
+void StatusBarItem::showToolTip() {
+    if (!icon_)
+        return;
+    const QString headline = mainWndController_.record().headline();
+    const QString text = headline.isEmpty() ? QStringLiteral("Sonaphex") : QStringLiteral("Sonaphex: ") + headline;
+    if (icon_->toolTip() != text)
+        icon_->setToolTip(text);
+}
+
+void StatusBarItem::showIcon() {
+    icon_ = std::make_unique<QSystemTrayIcon>();
+    image_.clear();
+    showImage();
+    showToolTip();
     icon_->setContextMenu(&systemBarMenu_);
     connect(icon_.get(), &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
         if (reason == QSystemTrayIcon::Trigger)

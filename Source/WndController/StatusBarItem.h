@@ -10,9 +10,11 @@
 #include <QSystemTrayIcon>
 
 class MainWndController;
+enum class RecordState;
 
-/// The program's item in the desktop's status bar: an image and a menu with the three recording commands. Without a
-/// status bar nothing is shown until one appears; when a bar restarts, it gets the item again. Main thread.
+/// The program's item in the desktop's status bar: an image whose shape tells the state of the recording, state and
+/// time as tool tip, and a menu with the three recording commands. Without a status bar nothing is shown until one
+/// appears; when a bar restarts, it gets the item again. Main thread.
 class StatusBarItem : public QObject {
     Q_OBJECT
 public:
@@ -28,8 +30,13 @@ public:
     /// Null until the desktop has had a status bar.
     [[nodiscard]] const QSystemTrayIcon* icon() const { return icon_.get(); }
 
+    /// Name of the image for a state.
+    [[nodiscard]] static QString imageName(RecordState state);
+
 private:
     void showIcon();
+    void showImage();
+    void showToolTip();
     QAction* add(const QString& title, const QString& action, void (MainWndController::*command)());
     /// Updates titles and enabled states. Call it at each change of the recording, because status bars keep copies of
     /// menus.
@@ -42,4 +49,5 @@ private:
     QAction* startNewRecordMenu_;
     std::unique_ptr<Platform::StatusBars> bars_;
     std::unique_ptr<QSystemTrayIcon> icon_;
+    QString image_; ///< name of the one that is shown
 };

@@ -165,10 +165,20 @@ TEST_F(MainWindowOnADesktop, TheStatusBarItemShowsTheTitlesOfTheState) {
         });
     };
     ASSERT_TRUE(waitFor(isThere)) << "the tray came after the program";
-    EXPECT_FALSE(item->icon()->icon().pixmap(20, 20).isNull());
+    // The shape tells the state, and the tool tip says it with the time.
+    const auto shape = [&] { return item->icon()->icon().pixmap(20, 20).toImage().createAlphaMask(); };
+    const QImage atRest = shape();
+    EXPECT_FALSE(atRest.isNull());
+    EXPECT_EQ(item->icon()->toolTip(), u"Sonaphex"_s);
     controller->startAndStopRecord();
     ASSERT_TRUE(waitFor([&] { return record().recordedSeconds() > 0.2; }, 60000));
+    const QImage recording = shape();
+    EXPECT_NE(recording, atRest);
+    EXPECT_TRUE(waitFor([&] { return item->icon()->toolTip() == u"Sonaphex: Recording 00:01"_s; }));
     controller->pauseAndResumeRecord();
+    EXPECT_NE(shape(), recording);
+    EXPECT_NE(shape(), atRest);
+    EXPECT_TRUE(item->icon()->toolTip().startsWith(u"Sonaphex: Paused 00:0"_s)) << qPrintable(item->icon()->toolTip());
     // Trays keep copies of the menus, so the titles must be right before the menu opens.
     EXPECT_EQ(item->startStopMenu()->text(), u"Stop Record"_s);
     EXPECT_EQ(item->pauseResumeMenu()->text(), u"Resume Record"_s);
@@ -180,6 +190,8 @@ TEST_F(MainWindowOnADesktop, TheStatusBarItemShowsTheTitlesOfTheState) {
     EXPECT_EQ(item->startStopMenu()->text(), u"Start Record"_s);
     EXPECT_EQ(item->pauseResumeMenu()->text(), u"Pause Record"_s);
     EXPECT_FALSE(item->pauseResumeMenu()->isEnabled());
+    EXPECT_EQ(shape(), atRest);
+    EXPECT_EQ(item->icon()->toolTip(), u"Sonaphex"_s);
     desktop().stopTray();
     ASSERT_TRUE(waitFor([&] { return !isThere(); }));
     ASSERT_TRUE(desktop().startTray());

@@ -2,12 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/Screenshot.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QWidget>
 
 namespace Screenshot {
 
 QImage take(QWidget& widget, const QString& name, qreal ratio) {
+    // Qt posts a change of the palette to the widgets: at once, the picture would still show the old one.
+    QCoreApplication::sendPostedEvents();
     QImage image((QSizeF(widget.size()) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(ratio);
     image.fill(Qt::transparent);

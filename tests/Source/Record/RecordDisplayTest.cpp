@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/Record/RecordDisplay.h"
 
+#include "Source/Record/RecordStateController.h"
+
+using namespace Qt::StringLiterals;
+
 TEST(RecordDisplay, SaysReadyWhileNothingRecords) {
     const auto on = RecordDisplay::of(0, 83, true);
     EXPECT_EQ(on.stateString, QStringLiteral("Ready"));
@@ -53,4 +57,13 @@ TEST(RecordDisplay, BlinksTheConvertingNotice) {
               QStringLiteral("         Audio File Converting\n         Please Wait .."));
     EXPECT_EQ(RecordDisplay::convertingTip(false),
               QStringLiteral("         Audio File Converting\n         Please Wait "));
+}
+
+TEST(RecordDisplay, HeadlineTellsStateAndTimeWithHours) {
+    EXPECT_EQ(RecordDisplay::headline(RecordState::Idle, 5), QString());
+    EXPECT_EQ(RecordDisplay::headline(RecordState::Armed, 0), u"Waiting for the first sound"_s);
+    EXPECT_EQ(RecordDisplay::headline(RecordState::Recording, 192.5), u"Recording 03:12"_s);
+    EXPECT_EQ(RecordDisplay::headline(RecordState::Recording, 3725), u"Recording 1:02:05"_s);
+    EXPECT_EQ(RecordDisplay::headline(RecordState::Paused, 59.5), u"Paused 00:59"_s);
+    EXPECT_EQ(RecordDisplay::headline(RecordState::Finishing, 1), u"Finishing the recording"_s);
 }

@@ -71,6 +71,10 @@ protected:
             ASSERT_TRUE(waitFor([this] { return filesAreKnown(); }));
             const QString full = name + (shade == Theme::Shade::Dark ? u"-dark"_s : u"-light"_s);
             const QImage image = Screenshot::take(*world.controller->window(), full, ratio);
+            const auto& table = world.outlet<QTableView>("audioTableView_");
+            const QPoint below = table.mapTo(world.controller->window(), QPoint(40, table.height() - 20));
+            const bool isDark = qGray(image.pixel((QPointF(below) * ratio).toPoint())) < 128;
+            EXPECT_EQ(isDark, shade == Theme::Shade::Dark) << qPrintable(full);
             EXPECT_GT(Screenshot::coverage(image, image.pixel(image.width() / 2, image.height() - 100)), 0.02);
         }
         Theme::apply(Theme::Shade::Light);
@@ -111,6 +115,8 @@ TEST_F(Pictures, Recording) {
     tick(374);
     levels();
     take(u"recording"_s);
+    take(u"recording-1.5x"_s, 1.5);
+    take(u"recording-2x"_s, 2);
     world.controller->pauseAndResumeRecord();
     tick();
     take(u"paused"_s);
@@ -126,6 +132,10 @@ TEST_F(Pictures, ArmedAndWaitingForTheFirstSound) {
     world.controller->startAndStopRecord();
     tick();
     take(u"armed"_s);
+    world.controller->window()->resize(720, 480);
+    take(u"armed-720x480"_s);
+    world.controller->window()->resize(1920, 1080);
+    take(u"armed-1920x1080"_s);
     EXPECT_TRUE(world.record->isWaittingForSound());
     world.controller->startAndStopRecord();
 }
