@@ -5,64 +5,102 @@
 #include "Platform/Foundation/Dictionary.h"
 #include "Source/Model/AudioRecordEntry.h"
 
-#include <QSet>
+#include <QDataStream>
+#include <QHash>
 
 #include <algorithm>
+#include <deque>
 #include <iterator>
-
-using AudioRecordEntry::keyOf;
+#include <numeric>
 
 namespace LeafChanges {
 namespace {
 
-// For more steps than this a view is faster with a new list than row by row.
-constexpr qsizetype mostSteps = 64;
+/// Equal for two entries that are the same one.
+QByteArray identityOf(const QVariant& entry) {
+    if (const QVariant key = AudioRecordEntry::keyOf(entry); key.isValid())
+        return 'k' + Platform::stringForm(key).toUtf8();
+    QByteArray values("v");
+    QDataStream stream(&values, QIODevice::Append);
+    stream << entry;
+    return values;
+}
 
-bool isSameEntry(const QVariant& one, const QVariant& other) {
-    const QVariant key = keyOf(one);
-    return key.isValid() ? key == keyOf(other) : one == other;
+/// Adds a row behind those that were added before.
+void addRow(std::vector<LeafChange::Rows>& stretches, int row) {
+    if (!stretches.empty() && stretches.back().last == row - 1)
+        stretches.back().last = row;
+    else
+        stretches.push_back({row, row});
+}
+
+/// For each row that stays, the place that it comes from, counted among those that stay.
+std::vector<int> permutationOf(const std::vector<int>& targets) {
+    std::vector<int> order(targets.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::ranges::sort(order, {}, [&](int row) { return targets[static_cast<std::size_t>(row)]; });
+    return order;
 }
 
 } // namespace
 
-std::optional<std::vector<Step>> between(const QVariantList& before, const QVariantList& after) {
-    // Long lists usually differ in a few rows only: equal rows at both ends are skipped without looking at keys.
+LeafChange between(const QVariantList& before, const QVariantList& after) {
+    LeafChange change;
+    change.entries = after;
+    // Long lists differ in a few rows: the rest is passed over without a look at a key.
     const auto top = std::mismatch(before.cbegin(), before.cend(), after.cbegin(), after.cend());
-    const auto first = top.first;
-    const auto firstNow = top.second;
-    const auto bottom = std::mismatch(before.crbegin(), std::make_reverse_iterator(first), after.crbegin(),
-                                      std::make_reverse_iterator(firstNow));
-    const auto last = bottom.first.base();
-    const auto lastNow = bottom.second.base();
-    if (std::abs((last - first) - (lastNow - firstNow)) > mostSteps)
-        return std::nullopt;
+    const auto bottom = std::mismatch(before.crbegin(), std::make_reverse_iterator(top.first), after.crbegin(),
+                                      std::make_reverse_iterator(top.second));
+    const int first = static_cast<int>(top.first - before.cbegin());
+    const int last = static_cast<int>(bottom.first.base() - before.cbegin());
+    const int lastNow = static_cast<int>(bottom.second.base() - after.cbegin());
 
-    QSet<QString> keysNow;
-    for (auto it = firstNow; it != lastNow; ++it)
-        keysNow.insert(Platform::stringForm(keyOf(*it)));
-    const auto isGone = [&](const QVariant& entry) {
-        const QVariant key = keyOf(entry);
-        return key.isValid() ? !keysNow.contains(Platform::stringForm(key))
-                             : std::find(firstNow, lastNow, entry) == lastNow;
-    };
-    std::vector<Step> steps;
-    QVariantList kept; // in reverse order
-    for (auto it = last; it != first;) {
-        if (isGone(*--it))
-            steps.push_back({Step::Kind::Removed, static_cast<int>(it - before.cbegin())});
-        else
-            kept.append(*it);
+    if (first == last || first == lastNow) { // as at every start and after every addition
+        if (first < last)
+            change.removed.push_back({first, last - 1});
+        if (first < lastNow)
+            change.inserted.push_back({first, lastNow - 1});
+        return change;
     }
-    for (auto it = firstNow; it != lastNow; ++it) {
-        const int index = static_cast<int>(it - after.cbegin());
-        if (kept.isEmpty() || !isSameEntry(kept.last(), *it))
-            steps.push_back({Step::Kind::Inserted, index});
-        else if (kept.takeLast() != *it)
-            steps.push_back({Step::Kind::Replaced, index});
+
+    QHash<QByteArray, std::deque<int>> rowsNow;
+    for (int row = first; row < lastNow; ++row)
+        rowsNow[identityOf(after[row])].push_back(row);
+
+    std::vector<int> targets; // of the rows that stay, in their old order: where they stand now
+    std::vector<bool> isOld(static_cast<std::size_t>(lastNow - first));
+    for (int row = first; row < last; ++row) {
+        const auto found = rowsNow.find(identityOf(before[row]));
+        if (found == rowsNow.end() || found->empty()) {
+            addRow(change.removed, row);
+            continue;
+        }
+        const int now = found->front();
+        found->pop_front();
+        targets.push_back(now);
+        isOld[static_cast<std::size_t>(now - first)] = true;
+        if (before[row] != after[now])
+            change.replaced.push_back({now, now});
     }
-    if (!kept.isEmpty() || steps.size() > mostSteps)
-        return std::nullopt;
-    return steps;
+    std::ranges::reverse(change.removed);
+    for (int row = first; row < lastNow; ++row)
+        if (!isOld[static_cast<std::size_t>(row - first)])
+            addRow(change.inserted, row);
+    std::ranges::sort(change.replaced, {}, &LeafChange::Rows::first);
+    std::vector<LeafChange::Rows> joined;
+    for (const auto& rows : change.replaced)
+        addRow(joined, rows.first);
+    change.replaced = std::move(joined);
+
+    if (!std::ranges::is_sorted(targets)) {
+        const auto order = permutationOf(targets);
+        const std::size_t above = static_cast<std::size_t>(first);
+        change.moved.resize(above + order.size() + static_cast<std::size_t>(before.size() - last));
+        std::iota(change.moved.begin(), change.moved.end(), 0);
+        for (std::size_t place = 0; place < order.size(); ++place)
+            change.moved[above + place] = first + order[place];
+    }
+    return change;
 }
 
 } // namespace LeafChanges

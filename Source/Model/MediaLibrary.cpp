@@ -7,12 +7,14 @@
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/UserDefaults.h"
 #include "Source/Model/AudioRecordEntry.h"
-#include "Source/Model/LeafChanges.h"
 #include "Source/Model/MediaLibraryStore.h"
 #include "Source/Preferences/PreferenceStore.h"
 
 #include <QLoggingCategory>
 #include <QSet>
+
+#include <algorithm>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 using AudioRecordEntry::keyOf;
@@ -72,8 +74,8 @@ MediaLibrary::MediaLibrary() {
 }
 
 void MediaLibrary::loadMediaLibraryList() {
-    records_.clear();
-    ringtones_.clear();
+    setRecords({});
+    setRingtones({});
     Platform::UserDefaults* const defaults = Platform::services().userDefaults;
     if (!defaults)
         return;
@@ -92,8 +94,8 @@ void MediaLibrary::takeUpMediaLibraryList() {
 void MediaLibrary::takeStored(Platform::UserDefaults& defaults) {
     const QVariant stored = defaults.objectForKey(kMediaLibrarySavedKey);
     bool damaged = false;
-    ringtones_ = MediaLibraryStore::entries(stored, u"ringtones"_s, damaged);
-    records_ = MediaLibraryStore::entries(stored, u"records"_s, damaged);
+    setRingtones(MediaLibraryStore::entries(stored, u"ringtones"_s, damaged));
+    setRecords(MediaLibraryStore::entries(stored, u"records"_s, damaged));
     if (damaged)
         keepAside(defaults, stored);
 }
@@ -132,18 +134,16 @@ void MediaLibrary::loadMediaLibraryNode(MediaLibraryNode& node) {
 }
 
 void MediaLibrary::loadMediaLibraryNodeLeaf(MediaLibraryNode& leaf) {
-    leaf.setLeafNode(contentOf(leaf.key()));
-    if (!leaf.key().isEmpty())
-        Q_EMIT leafReset(leaf.key());
+    updateLeaf(leaf, Unchanged::IsTold);
 }
 
-QVariantList MediaLibrary::contentOf(const QString& leafKey) const {
+QVariantList MediaLibrary::contentOf(const QString& leafKey) {
     if (leafKey == newRecord)
-        return mediaNodes(records_, true);
+        return newNodes(records_, recordsIndex_);
     if (leafKey == allRecord)
         return mediaNodes(records_, false);
     if (leafKey == newRingtone)
-        return mediaNodes(ringtones_, true);
+        return newNodes(ringtones_, ringtonesIndex_);
     if (leafKey == allRingtone)
         return mediaNodes(ringtones_, false);
     return {};
@@ -159,6 +159,20 @@ QVariantList MediaLibrary::mediaNodes(const QVariantList& entries, bool isNew) c
     for (const QVariant& entry : entries)
         if (newKeys.contains(stringForm(keyOf(entry))))
             result.append(entry);
+    return result;
+}
+
+QVariantList MediaLibrary::newNodes(const QVariantList& entries, EntryIndex& index) const {
+    if (currentNewArray_.isEmpty() || !index.isWhole(entries))
+        return mediaNodes(entries, true);
+    std::vector<qsizetype> places;
+    for (const QString& key : currentNewArray_)
+        if (const qsizetype place = index.lastIndexOf(key, entries); place >= 0)
+            places.push_back(place);
+    std::ranges::sort(places);
+    QVariantList result;
+    for (const qsizetype place : places)
+        result.append(entries[place]);
     return result;
 }
 
@@ -181,16 +195,42 @@ void MediaLibrary::addRingtoneFile(const Dictionary& entry) {
 }
 
 void MediaLibrary::add(const Dictionary& entry, Collection collection) {
-    addAudio(entry, collection == Collection::Records ? records_ : ringtones_);
+    const bool isRecord = collection == Collection::Records;
+    QVariantList& list = isRecord ? records_ : ringtones_;
+    EntryIndex& index = isRecord ? recordsIndex_ : ringtonesIndex_;
+    const QVariant key = entry.value(AudioRecordEntry::NodeDataKey);
+    const qsizetype at = index.lastIndexOf(stringForm(key), list);
+    place(entry, list, at);
+    if (at < 0 && key.isValid())
+        index.prepended(stringForm(key), list);
     updateLeavesAndStore();
 }
 
+void MediaLibrary::prepareForChanges() {
+    recordsIndex_.prepare(records_);
+    ringtonesIndex_.prepare(ringtones_);
+}
+
+void MediaLibrary::replace(QVariantList& list, EntryIndex& index, const QVariantList& entries) {
+    if (list.size() == entries.size() && list.constData() == entries.constData())
+        return; // the same shared list
+    list = entries;
+    if (index.isPrepared())
+        index.prepare(list);
+    else
+        index.forget();
+}
+
 void MediaLibrary::addAudio(const Dictionary& entry, QVariantList& toArray) {
+    place(entry, toArray, lastIndexOfKey(stringForm(entry.value(AudioRecordEntry::NodeDataKey)), toArray));
+}
+
+/// Puts the entry into the place of the one at @p index, or on top when that is negative.
+void MediaLibrary::place(const Dictionary& entry, QVariantList& toArray, qsizetype index) {
     Dictionary stored = entry;
     const QString key = stringForm(stored.value(AudioRecordEntry::NodeDataKey));
     const bool isNew = Platform::boolValue(stored.take(AudioRecordEntry::IsNew));
-
-    if (const qsizetype index = lastIndexOfKey(key, toArray); index >= 0)
+    if (index >= 0)
         toArray[index] = stored;
     else
         toArray.prepend(stored);
@@ -241,8 +281,12 @@ void MediaLibrary::removeAudio(const QVariantList& entries, QVariantList& inArra
 }
 
 void MediaLibrary::removeMediaLibraryArray(const QVariantList& entries) {
-    removeAudio(entries, records_);
-    removeAudio(entries, ringtones_);
+    const auto without = [&](QVariantList list) {
+        removeAudio(entries, list);
+        return list;
+    };
+    setRecords(without(records_));
+    setRingtones(without(ringtones_));
     for (const QVariant& entry : entries) {
         const QString path = entry.toMap().value(AudioRecordEntry::SavePath).toString();
         if (path.startsWith(u'/'))
@@ -259,40 +303,14 @@ void MediaLibrary::updateLeavesAndStore() {
 void MediaLibrary::updateLeaves() {
     for (const auto& group : rootNode_->nonLeafNode())
         for (const auto& leaf : group->nonLeafNode())
-            updateLeaf(*leaf);
+            updateLeaf(*leaf, Unchanged::IsSilent);
 }
 
-void MediaLibrary::updateLeaf(MediaLibraryNode& leaf) {
-    const QVariantList before = leaf.leafNode();
-    const QVariantList after = contentOf(leaf.key());
-    const auto steps = LeafChanges::between(before, after);
-    if (!steps) {
-        leaf.setLeafNode(after);
-        Q_EMIT leafReset(leaf.key());
-        return;
-    }
-    if (steps->empty())
-        leaf.setLeafNode(after); // equal, but shared with the collection, so that the next comparison is fast
-    QVariantList shown = before;
-    for (std::size_t i = 0; i < steps->size(); ++i) {
-        const auto [kind, index] = (*steps)[i];
-        // The last step leads to the new list itself: usually there is one step, and nothing is copied.
-        if (i + 1 == steps->size())
-            shown = after;
-        else if (kind == LeafChanges::Step::Kind::Removed)
-            shown.removeAt(index);
-        else if (kind == LeafChanges::Step::Kind::Inserted)
-            shown.insert(index, after[index]);
-        else
-            shown[index] = after[index];
-        leaf.setLeafNode(shown);
-        if (kind == LeafChanges::Step::Kind::Removed)
-            Q_EMIT entryRemoved(leaf.key(), index);
-        else if (kind == LeafChanges::Step::Kind::Inserted)
-            Q_EMIT entryInserted(leaf.key(), index);
-        else
-            Q_EMIT entryReplaced(leaf.key(), index);
-    }
+void MediaLibrary::updateLeaf(MediaLibraryNode& leaf, Unchanged unchanged) {
+    const LeafChange change = LeafChanges::between(leaf.leafNode(), contentOf(leaf.key()));
+    leaf.setLeafNode(change.entries); // also an equal one: shared with the collection, it is compared in no time
+    if (!change.isEmpty() || (unchanged == Unchanged::IsTold && !leaf.key().isEmpty()))
+        Q_EMIT leafChanged(leaf.key(), change);
 }
 
 #include "moc_MediaLibrary.cpp"

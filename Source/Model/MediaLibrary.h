@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Source/Model/EntryIndex.h"
+#include "Source/Model/LeafChanges.h"
 #include "Source/Model/MediaLibraryNode.h"
 
 #include <QObject>
@@ -31,6 +33,9 @@ public:
     void takeUpMediaLibraryList();
     /// Stores both collections and reloads every leaf.
     void saveMediaLibraryList();
+    /// Reads the collections' keys on a worker, so that the next addition to a long one takes no longer than to a short
+    /// one. Without it the first addition reads them.
+    void prepareForChanges();
     void loadDefaultMediaLibrary();
     void loadMediaLibraryNode(MediaLibraryNode& node);
     void loadMediaLibraryNodeLeaf(MediaLibraryNode& leaf);
@@ -57,22 +62,17 @@ public:
     [[nodiscard]] MediaLibraryNode& rootNode() const { return *rootNode_; }
     void setRootNode(std::shared_ptr<MediaLibraryNode> node) { rootNode_ = std::move(node); }
     [[nodiscard]] const QVariantList& records() const { return records_; }
-    void setRecords(const QVariantList& entries) { records_ = entries; }
+    void setRecords(const QVariantList& entries) { replace(records_, recordsIndex_, entries); }
     [[nodiscard]] const QVariantList& ringtones() const { return ringtones_; }
-    void setRingtones(const QVariantList& entries) { ringtones_ = entries; }
+    void setRingtones(const QVariantList& entries) { replace(ringtones_, ringtonesIndex_, entries); }
     /// Keys of the entries that were added as new in this run.
     [[nodiscard]] const QStringList& currentNewArray() const { return currentNewArray_; }
     void setCurrentNewArray(const QStringList& keys) { currentNewArray_ = keys; }
 
 Q_SIGNALS:
-    // Changes of a leaf, so that views need not reload it. Indexes refer to the leaf's entries; the leaf has changed by
-    // exactly this row when the signal is emitted. Several rows are removed from the last to the first, then inserted
-    // from the first to the last.
-    void entryInserted(const QString& leafKey, int index);
-    void entryReplaced(const QString& leafKey, int index);
-    void entryRemoved(const QString& leafKey, int index);
-    /// The whole leaf was reloaded, or too many rows changed for single signals.
-    void leafReset(const QString& leafKey);
+    /// What changed in a leaf, with all its steps at once. The leaf has the new list when the signal comes; a leaf that
+    /// was loaded and did not change tells a change without steps.
+    void leafChanged(const QString& leafKey, const LeafChange& change);
 
 private:
     void add(const Dictionary& entry, Collection collection);
@@ -80,12 +80,19 @@ private:
     void takeStored(Platform::UserDefaults& defaults);
     void updateLeaves();
     void updateLeavesAndStore();
-    /// Updates one leaf with a signal for each row that differs.
-    void updateLeaf(MediaLibraryNode& leaf);
-    [[nodiscard]] QVariantList contentOf(const QString& leafKey) const;
+    enum class Unchanged { IsTold, IsSilent };
+    /// Brings one leaf up to date with one signal.
+    void updateLeaf(MediaLibraryNode& leaf, Unchanged unchanged);
+    [[nodiscard]] QVariantList contentOf(const QString& leafKey);
+    /// mediaNodes() of the new ones, without reading the whole list.
+    [[nodiscard]] QVariantList newNodes(const QVariantList& entries, EntryIndex& index) const;
+    void place(const Dictionary& entry, QVariantList& toArray, qsizetype index);
+    static void replace(QVariantList& list, EntryIndex& index, const QVariantList& entries);
 
     QVariantList records_;
     QVariantList ringtones_;
+    EntryIndex recordsIndex_; // of records_
+    EntryIndex ringtonesIndex_;
     std::shared_ptr<MediaLibraryNode> rootNode_;
     QStringList currentNewArray_;
 };

@@ -12,6 +12,7 @@
 #include <QGuiApplication>
 #include <QPalette>
 
+#include <algorithm>
 #include <numeric>
 #include <utility>
 
@@ -19,8 +20,11 @@ namespace {
 
 // Sorting this many texts takes about 2 ms; longer lists are sorted by the worker.
 constexpr qsizetype kSortAtOnce = 2000;
-// More separate ranges of removed rows than this become one reset: for each range the views go through all rows.
-constexpr std::size_t kMostSingleRemovals = 64;
+// Each stretch of rows that comes or goes costs the views a pass over all rows. More stretches than these are brought
+// together at the list's end first.
+constexpr std::size_t kMostStretches = 64;
+// Finding a row's place by its text takes some 20 µs. More rows than these wait for the worker to sort the list.
+constexpr std::size_t kMostPlaced = 200;
 
 QString sortText(const Dictionary& entry, int column) {
     return Platform::stringForm(entry.value(AudioTags::audioTagKeyTranslate(AudioTableModel::identifier(column))));
@@ -39,25 +43,30 @@ double sortLength(const Dictionary& entry) {
     return Platform::doubleValue(entry.value(AudioRecordEntry::Length));
 }
 
+std::vector<bool> marked(const std::vector<LeafChange::Rows>& stretches, qsizetype count) {
+    std::vector<bool> result(static_cast<std::size_t>(count));
+    for (const auto& [first, last] : stretches)
+        std::fill(result.begin() + first, result.begin() + last + 1, true);
+    return result;
+}
+
+std::vector<int> placesOf(const std::vector<LeafChange::Rows>& stretches) {
+    std::vector<int> result;
+    for (const auto& [first, last] : stretches)
+        for (int place = first; place <= last; ++place)
+            result.push_back(place);
+    return result;
+}
+
 } // namespace
 
 AudioTableModel::AudioTableModel(MediaLibrary& library, MissingFiles& missing, QObject* parent)
     : QAbstractTableModel(parent), library_(library), missing_(missing) {
     worker_.setMaxThreadCount(1);
-    connect(&library_, &MediaLibrary::entryInserted, this, [this](const QString& leaf, int index) {
-        note(leaf, {Change::Kind::Insert, index, node_ ? node_->leafNode().value(index) : QVariant()});
-    });
-    connect(&library_, &MediaLibrary::entryReplaced, this, [this](const QString& leaf, int index) {
-        note(leaf, {Change::Kind::Replace, index, node_ ? node_->leafNode().value(index) : QVariant()});
-    });
-    connect(&library_, &MediaLibrary::entryRemoved, this, [this](const QString& leaf, int index) {
-        note(leaf, {Change::Kind::Remove, index, {}});
-    });
-    connect(&library_, &MediaLibrary::leafReset, this, [this](const QString& leaf) {
-        if (!node_ || leaf != node_->key())
-            return;
-        leafWasReset_ = true;
-        note(leaf, {Change::Kind::Remove, -1, {}});
+    connect(&library_, &MediaLibrary::leafChanged, this, [this](const QString& leaf, const LeafChange& change) {
+        // A leaf of a tree that was built anew may have the same key: the one that is shown shares the change's list.
+        if (node_ && leaf == node_->key() && node_->leafNode().constData() == change.entries.constData())
+            apply(change);
     });
     connect(&missing_, &MissingFiles::changed, this, [this] {
         if (rowCount() > 0)
@@ -78,17 +87,13 @@ QString AudioTableModel::identifier(int column) {
 
 void AudioTableModel::setNode(std::shared_ptr<const MediaLibraryNode> node) {
     node_ = std::move(node);
-    takeLeafAnew();
-}
-
-void AudioTableModel::takeLeafAnew() {
     beginResetModel();
-    changes_.clear();
-    leafWasReset_ = false;
     QVariantList gone = std::exchange(entries_, node_ ? node_->leafNode() : QVariantList());
+    rows_ = static_cast<int>(entries_.size());
     ++generation_;
     order_.clear();
     applied_ = {};
+    isSettled_ = true;
     endResetModel();
     giveBack(std::move(gone));
     if (wanted_.column >= 0)
@@ -102,130 +107,147 @@ void AudioTableModel::giveBack(QVariantList gone) {
         worker_.start([gone = std::move(gone)]() mutable { gone.clear(); });
 }
 
-void AudioTableModel::note(const QString& leafKey, Change change) {
-    if (!node_ || leafKey != node_->key())
-        return;
-    // A removal of many entries arrives as many signals. They are applied together when the event loop runs: row by
-    // row, a list of 100,000 would be moved 100,000 times.
-    changes_.push_back(std::move(change));
-    if (!std::exchange(applyScheduled_, true))
-        QMetaObject::invokeMethod(this, &AudioTableModel::reload, Qt::QueuedConnection);
-}
-
-void AudioTableModel::reload() {
-    applyScheduled_ = false;
-    const std::vector<Change> changes = std::exchange(changes_, {});
-    if (leafWasReset_)
-        takeLeafAnew();
-    else
-        applyChanges(changes);
-}
-
-void AudioTableModel::applyChanges(const std::vector<Change>& changes) {
-    // Removals are ordered from the last row to the first: adjacent rows are joined to ranges.
-    struct Step {
-        const Change* change;
-        int first;
-    };
-    std::vector<Step> steps;
-    for (const Change& change : changes) {
-        if (change.kind == Change::Kind::Remove && !steps.empty() &&
-            steps.back().change->kind == Change::Kind::Remove && change.index == steps.back().first - 1)
-            steps.back().first = change.index;
-        else
-            steps.push_back({&change, change.index});
-    }
-    const auto removals = std::count_if(changes.begin(), changes.end(),
-                                        [](const Change& each) { return each.kind == Change::Kind::Remove; });
-    const std::size_t passes = order_.empty() ? steps.size() : static_cast<std::size_t>(removals);
-    if (removals > 0 && passes > kMostSingleRemovals) {
-        takeLeafAnew();
-        return;
-    }
-    for (const Step& step : steps) {
-        switch (step.change->kind) {
-        case Change::Kind::Insert:
-            insertEntry(step.change->index, step.change->entry);
-            break;
-        case Change::Kind::Replace:
-            replaceEntry(step.change->index, step.change->entry);
-            break;
-        case Change::Kind::Remove:
-            removeEntries(step.first, step.change->index);
-            break;
-        }
-    }
-}
-
-void AudioTableModel::insertEntry(int source, const QVariant& entry) {
-    if (source < 0 || source > entries_.size())
+void AudioTableModel::apply(const LeafChange& change) {
+    if (change.isEmpty())
         return;
     ++generation_;
-    if (order_.empty() && applied_.column < 0) {
-        beginInsertRows({}, source, source);
-        entries_.insert(source, entry);
-        endInsertRows();
-        return;
+    if (order_.empty()) {
+        order_.resize(static_cast<std::size_t>(rows_));
+        std::iota(order_.begin(), order_.end(), 0);
     }
-    // The row's position is found before the views are notified, with the entry at the end of the list, where it shifts
-    // no other.
-    entries_.append(entry);
-    const int row = sortedPosition(static_cast<int>(entries_.size()) - 1);
-    entries_.removeLast();
-    beginInsertRows({}, row, row);
-    entries_.insert(source, entry);
-    for (int& each : order_)
-        each += each >= source ? 1 : 0;
-    order_.insert(order_.begin() + row, source);
+    takeOut(change);
+    adopt(change);
+    if (applied_.column >= 0)
+        placeSorted(change);
+    else
+        placeInLibraryOrder(change);
+    announceReplaced(change);
+    if (applied_.column < 0)
+        order_.clear();
+    if (!isSettled_)
+        startSorting();
+}
+
+/// Stretches of neighbouring rows whose entry is marked.
+std::vector<LeafChange::Rows> AudioTableModel::rowsOf(const std::vector<bool>& isMarked) const {
+    std::vector<LeafChange::Rows> stretches;
+    for (int row = 0; row < rows_; ++row) {
+        if (!isMarked[static_cast<std::size_t>(sourceRow(row))])
+            continue;
+        if (!stretches.empty() && stretches.back().last == row - 1)
+            stretches.back().last = row;
+        else
+            stretches.push_back({row, row});
+    }
+    return stretches;
+}
+
+/// The rows of removed entries leave. entries_ still is the list before.
+void AudioTableModel::takeOut(const LeafChange& change) {
+    if (change.removed.empty())
+        return;
+    const auto isGone = marked(change.removed, entries_.size());
+    auto stretches = rowsOf(isGone);
+    if (stretches.size() > kMostStretches) {
+        Order order = order_;
+        const auto gone = std::stable_partition(order.begin(), order.end(),
+                                                [&](int source) { return !isGone[static_cast<std::size_t>(source)]; });
+        const int first = static_cast<int>(gone - order.begin());
+        rearrange(std::move(order));
+        stretches = {{first, rows_ - 1}};
+    }
+    for (auto stretch = stretches.rbegin(); stretch != stretches.rend(); ++stretch) {
+        beginRemoveRows({}, stretch->first, stretch->last);
+        order_.erase(order_.begin() + stretch->first, order_.begin() + stretch->last + 1);
+        rows_ -= stretch->last - stretch->first + 1;
+        endRemoveRows();
+    }
+}
+
+/// Exchanges the list. The rows stay as they are: each finds its entry in the new list.
+void AudioTableModel::adopt(const LeafChange& change) {
+    const auto isGone = marked(change.removed, entries_.size());
+    const auto isNew = marked(change.inserted, change.entries.size());
+    Order stays; // places in the list before, in the order of the new one
+    for (int source = 0; source < entries_.size(); ++source)
+        if (!isGone[static_cast<std::size_t>(source)])
+            stays.push_back(source);
+    if (!change.moved.empty()) {
+        const Order before = stays;
+        for (std::size_t place = 0; place < stays.size(); ++place)
+            stays[place] = before[static_cast<std::size_t>(change.moved[place])];
+    }
+    Order now(static_cast<std::size_t>(entries_.size()));
+    std::size_t next = 0;
+    for (int source = 0; source < change.entries.size(); ++source)
+        if (!isNew[static_cast<std::size_t>(source)])
+            now[static_cast<std::size_t>(stays[next++])] = source;
+    giveBack(std::exchange(entries_, change.entries));
+    for (int& source : order_)
+        source = now[static_cast<std::size_t>(source)];
+}
+
+void AudioTableModel::insertRows(int row, const Order& sources) {
+    if (sources.empty())
+        return;
+    beginInsertRows({}, row, row + static_cast<int>(sources.size()) - 1);
+    order_.insert(order_.begin() + row, sources.begin(), sources.end());
+    rows_ += static_cast<int>(sources.size());
     endInsertRows();
 }
 
-void AudioTableModel::replaceEntry(int source, const QVariant& entry) {
-    if (source < 0 || source >= entries_.size())
+void AudioTableModel::placeInLibraryOrder(const LeafChange& change) {
+    const auto sorted = [this] {
+        Order order = order_;
+        std::ranges::sort(order);
+        return order;
+    };
+    if (!change.moved.empty())
+        rearrange(sorted());
+    if (change.inserted.size() > kMostStretches) {
+        insertRows(rows_, placesOf(change.inserted));
+        rearrange(sorted());
         return;
-    ++generation_;
-    const int row = rowOfSource(source);
-    entries_[source] = entry;
-    Q_EMIT dataChanged(index(row, 0), index(row, ColumnCount - 1));
-    if (applied_.column < 0)
-        return;
-    Order others = order_;
-    others.erase(others.begin() + row);
-    std::swap(others, order_);
-    const int target = sortedPosition(source);
-    std::swap(others, order_);
-    if (target == row || !beginMoveRows({}, row, row, {}, target > row ? target + 1 : target))
-        return;
-    others.insert(others.begin() + target, source);
-    order_ = std::move(others);
-    endMoveRows();
+    }
+    for (const auto& rows : change.inserted)
+        insertRows(rows.first, placesOf({rows}));
 }
 
-void AudioTableModel::removeEntries(int first, int last) {
-    if (first < 0 || first > last || last >= entries_.size())
-        return;
-    ++generation_;
-    if (applied_.column < 0) {
-        beginRemoveRows({}, first, last);
-        QVariantList gone = entries_.mid(first, last - first + 1);
-        entries_.remove(first, last - first + 1);
-        endRemoveRows();
-        giveBack(std::move(gone));
+/// New and edited entries go where the sorting wants them.
+void AudioTableModel::placeSorted(const LeafChange& change) {
+    const Order edited = placesOf(change.replaced);
+    const Order added = placesOf(change.inserted);
+    if (edited.size() + added.size() > kMostPlaced) {
+        insertRows(rows_, added);
+        isSettled_ = false;
         return;
     }
-    for (int source = last; source >= first; --source) {
-        const int row = rowOfSource(source);
-        beginRemoveRows({}, row, row);
-        entries_.remove(source);
-        order_.erase(order_.begin() + row);
-        for (int& each : order_)
-            each -= each > source ? 1 : 0;
-        endRemoveRows();
+    if (!edited.empty()) {
+        const auto isEdited = marked(change.replaced, entries_.size());
+        const Order shown = order_;
+        std::erase_if(order_, [&](int source) { return isEdited[static_cast<std::size_t>(source)]; });
+        for (const int source : edited)
+            order_.insert(order_.begin() + sortedPosition(source), source);
+        Order wanted = std::exchange(order_, shown);
+        if (wanted != order_)
+            rearrange(std::move(wanted));
     }
+    for (const int source : added)
+        insertRows(sortedPosition(source), {source});
+}
+
+void AudioTableModel::announceReplaced(const LeafChange& change) {
+    if (change.replaced.empty())
+        return;
+    auto stretches = rowsOf(marked(change.replaced, entries_.size()));
+    if (stretches.size() > kMostStretches)
+        stretches = {{0, rows_ - 1}}; // the views draw only the rows that they show
+    for (const auto& rows : stretches)
+        Q_EMIT dataChanged(index(rows.first, 0), index(rows.last, ColumnCount - 1));
 }
 
 Dictionary AudioTableModel::entry(int row) const {
-    if (row < 0 || row >= entries_.size())
+    if (row < 0 || row >= rows_)
         return {};
     return entries_.at(sourceRow(row)).toMap();
 }
@@ -246,7 +268,7 @@ void AudioTableModel::setPlayingPath(const QString& path) {
 }
 
 int AudioTableModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(entries_.size());
+    return parent.isValid() ? 0 : rows_;
 }
 
 int AudioTableModel::columnCount(const QModelIndex& parent) const {
@@ -388,7 +410,7 @@ AudioTableModel::Order AudioTableModel::sortedOrder(const QVariantList& entries,
 
 void AudioTableModel::sort(int column, Qt::SortOrder order) {
     wanted_ = {column > State ? column : -1, order};
-    if (wanted_ == applied_)
+    if (wanted_ == applied_ && isSettled_)
         return;
     if (wanted_.column < 0)
         applyOrder({}, wanted_);
@@ -412,7 +434,7 @@ void AudioTableModel::startSorting() {
                 sorting_ = false;
                 if (sorting == wanted_ && generation == generation_)
                     applyOrder(std::move(order), sorting);
-                else if (wanted_.column >= 0 && wanted_ != applied_)
+                else if (wanted_.column >= 0 && (wanted_ != applied_ || !isSettled_))
                     startSorting();
             },
             Qt::QueuedConnection);
@@ -420,19 +442,29 @@ void AudioTableModel::startSorting() {
 }
 
 void AudioTableModel::applyOrder(Order order, Sorting sorting) {
+    if (order.empty()) {
+        order.resize(static_cast<std::size_t>(rows_));
+        std::iota(order.begin(), order.end(), 0);
+    }
+    rearrange(std::move(order));
+    applied_ = sorting;
+    isSettled_ = true;
+    if (applied_.column < 0)
+        order_.clear();
+}
+
+/// Shows the same rows in another order; selections and the current row go with their entries.
+void AudioTableModel::rearrange(Order order) {
     Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
-    std::vector<int> newRow(order.size());
+    std::vector<int> newRow(static_cast<std::size_t>(entries_.size()));
     for (std::size_t row = 0; row < order.size(); ++row)
         newRow[static_cast<std::size_t>(order[row])] = static_cast<int>(row);
     const QModelIndexList before = persistentIndexList();
     QModelIndexList after;
     after.reserve(before.size());
-    for (const QModelIndex& each : before) {
-        const int source = sourceRow(each.row());
-        after.append(index(order.empty() ? source : newRow[static_cast<std::size_t>(source)], each.column()));
-    }
+    for (const QModelIndex& each : before)
+        after.append(index(newRow[static_cast<std::size_t>(sourceRow(each.row()))], each.column()));
     order_ = std::move(order);
-    applied_ = sorting;
     changePersistentIndexList(before, after);
     Q_EMIT layoutChanged({}, VerticalSortHint);
 }

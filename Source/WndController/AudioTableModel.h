@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Platform/Foundation/Dictionary.h"
+#include "Source/Model/LeafChanges.h"
 
 #include <QAbstractTableModel>
 #include <QThreadPool>
@@ -14,9 +15,9 @@ class MediaLibrary;
 class MediaLibraryNode;
 class MissingFiles;
 
-/// The audio record entries of one library node as rows. It keeps its own (shared) copy of the node's list and follows
-/// the library's signals, so that an added or removed entry is one inserted or removed row. No call takes longer than a
-/// frame of the screen, even with 100,000 entries: a worker sorts long lists. Main thread.
+/// The audio record entries of one library node as rows. It shares the node's list and applies the steps that the
+/// library tells of it, so that selections, the scroll position and the sorting stay. No call takes longer than a frame
+/// of the screen, also with 100,000 entries: long lists are sorted by a worker. Main thread.
 class AudioTableModel : public QAbstractTableModel {
     Q_OBJECT
 public:
@@ -31,8 +32,6 @@ public:
 
     /// Shows the entries of a leaf; null shows none.
     void setNode(std::shared_ptr<const MediaLibraryNode> node);
-    /// Applies the library's changes now; otherwise the model does so when the event loop runs.
-    void reload();
     /// An empty dictionary for a row that does not exist.
     [[nodiscard]] Dictionary entry(int row) const;
     /// The newest entry of a file; -1 when there is none.
@@ -49,11 +48,6 @@ public:
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
 private:
-    struct Change {
-        enum class Kind { Insert, Replace, Remove } kind;
-        int index;
-        QVariant entry;
-    };
     struct Sorting {
         int column = -1;
         Qt::SortOrder order = Qt::AscendingOrder;
@@ -63,32 +57,33 @@ private:
 
     [[nodiscard]] int sourceRow(int row) const;
     [[nodiscard]] int rowOfSource(int source) const;
+    [[nodiscard]] std::vector<LeafChange::Rows> rowsOf(const std::vector<bool>& isMarked) const;
     [[nodiscard]] QVariant stateData(const Dictionary& entry, int role) const;
-    void note(const QString& leafKey, Change change);
-    void takeLeafAnew();
     void giveBack(QVariantList gone);
-    void applyChanges(const std::vector<Change>& changes);
-    void insertEntry(int source, const QVariant& entry);
-    void replaceEntry(int source, const QVariant& entry);
-    void removeEntries(int first, int last);
+    void apply(const LeafChange& change);
+    void takeOut(const LeafChange& change);
+    void adopt(const LeafChange& change);
+    void placeInLibraryOrder(const LeafChange& change);
+    void placeSorted(const LeafChange& change);
+    void announceReplaced(const LeafChange& change);
+    void insertRows(int row, const Order& sources);
     [[nodiscard]] int sortedPosition(int source) const;
     static Order sortedOrder(const QVariantList& entries, Sorting sorting);
     void applyOrder(Order order, Sorting sorting);
+    void rearrange(Order order);
     void startSorting();
 
     MediaLibrary& library_;
     MissingFiles& missing_;
-    std::shared_ptr<const MediaLibraryNode> node_; ///< outlives the library's tree when that is replaced
-    QVariantList entries_;                         ///< in the library's order
-    Order order_;     ///< row to index in entries_; empty while rows are in the library's order
-    Sorting applied_; ///< the sorting of order_
-    Sorting wanted_;  ///< the sorting that the user chose last
+    std::shared_ptr<const MediaLibraryNode> node_; ///< outlives a tree that the library has replaced
+    QVariantList entries_;                         ///< in the library's order, shared with the node
+    int rows_ = 0;                                 ///< as many as entries_ has, but while a change is applied
+    Order order_;           ///< row to place in entries_; empty while rows are in the library's order
+    Sorting applied_;       ///< what order_ follows
+    Sorting wanted_;        ///< what the user asked for last
+    bool isSettled_ = true; ///< false when rows wait at the end for the worker to sort the list
     bool sorting_ = false;
-    std::uint64_t generation_ =
-        0; ///< counts changes of entries_: an order that was sorted from older entries is discarded
-    std::vector<Change> changes_;
-    bool leafWasReset_ = false;
-    bool applyScheduled_ = false;
+    std::uint64_t generation_ = 0; ///< counts changes of entries_: an order sorted from older ones is of no use
     QString playingPath_;
     QThreadPool worker_; ///< last member: its work uses the others
 };

@@ -21,9 +21,7 @@ QFont systemFont(int size) {
 LibraryOutlineModel::LibraryOutlineModel(MediaLibrary& library, QObject* parent)
     : QAbstractItemModel(parent), library_(library) {
     learnTree();
-    connect(&library_, &MediaLibrary::entryInserted, this, &LibraryOutlineModel::announceCount);
-    connect(&library_, &MediaLibrary::entryRemoved, this, &LibraryOutlineModel::announceCount);
-    connect(&library_, &MediaLibrary::leafReset, this, &LibraryOutlineModel::announceCount);
+    connect(&library_, &MediaLibrary::leafChanged, this, &LibraryOutlineModel::announceCount);
 }
 
 void LibraryOutlineModel::reset() {

@@ -20,6 +20,7 @@
 #include <QItemSelectionModel>
 #include <QScopedValueRollback>
 #include <QTableView>
+#include <QTimer>
 #include <QTreeView>
 
 namespace {
@@ -58,9 +59,12 @@ LibraryPresenter::LibraryPresenter(MediaLibrary& library, QTreeView& outline, QT
     });
     connect(tableModel_.get(), &QAbstractItemModel::dataChanged, this,
             [this] { Q_EMIT tableViewSelectionAudioChanged(); });
-    connect(&library_, &MediaLibrary::entryReplaced, this, &LibraryPresenter::followPlayingEntry);
-    connect(&library_, &MediaLibrary::entryRemoved, this, &LibraryPresenter::followPlayingEntry);
-    connect(&library_, &MediaLibrary::leafReset, this, &LibraryPresenter::followPlayingEntry);
+    connect(&library_, &MediaLibrary::leafChanged, this, [this](const QString&, const LeafChange& change) {
+        if (!change.onlyInserts())
+            followPlayingEntry();
+    });
+    // When the event loop runs, so that the window is painted first.
+    QTimer::singleShot(0, this, [this] { library_.prepareForChanges(); });
     if (auto* workspace = Platform::services().workspace)
         connect(workspace, &Platform::Workspace::fileSystemChanged, missing_.get(), &MissingFiles::forget);
 }
@@ -113,7 +117,6 @@ void LibraryPresenter::removeMediaLibraryArray(const QVariantList& entries) {
 }
 
 void LibraryPresenter::reloadFromMediaLibrary() {
-    tableModel_->reload();
     Q_EMIT canFilterAudioChanged();
 }
 
@@ -172,7 +175,6 @@ QString LibraryPresenter::tableViewSelectionAudioPath() const {
 }
 
 bool LibraryPresenter::selectFile(const QString& path) {
-    tableModel_->reload();
     int row = tableModel_->rowOfPath(path);
     if (row < 0) {
         const QModelIndex all =

@@ -58,6 +58,7 @@ public:
     void updateFile(const QString& path, const Dictionary& tags);
     /// Removes the entries and deletes their files.
     void removeMediaLibraryArray(const QVariantList& entries);
+    /// The views follow the library by themselves; this tells what may be filtered now.
     void reloadFromMediaLibrary();
 
     // ---- selection --------------------------------------------------------------------------------------------------

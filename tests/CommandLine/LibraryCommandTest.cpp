@@ -11,11 +11,11 @@
 #include "tests/Platform/Media/MediaTestSupport.h"
 #include "tests/fakes/FakeClock.h"
 #include "tests/support/Environment.h"
+#include "tests/support/LeafNotes.h"
 #include "tests/support/Mpeg4Files.h"
 #include "tests/support/WaitFor.h"
 
 #include <QJsonArray>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -228,11 +228,11 @@ TEST_F(LibraryCommandBesideAWindow, LetsItRemove) {
     const Dictionary gone = entry(u"gone\nwith a new line.m4a"_s);
     const Dictionary stays = entry(u"stays.m4a"_s);
     open({gone, stays});
-    const QSignalSpy removed(&shared_, &MediaLibrary::entryRemoved);
+    const LeafNotes notes(shared_);
     const QByteArray output = ask({u"library"_s, u"remove"_s, keyOf(gone), u"--json"_s});
     EXPECT_EQ(QJsonDocument::fromJson(output)[u"removed"_s][0], keyOf(gone));
     EXPECT_EQ(shared_.records(), QVariantList{stays});
-    EXPECT_EQ(removed.count(), 1);
+    EXPECT_EQ(notes.lines, QStringList{u"-all-record 1"_s});
     EXPECT_FALSE(QFile::exists(gone.value(AudioRecordEntry::SavePath).toString()));
     EXPECT_EQ(listed()[u"records"_s].toArray().size(), 1);
 }
@@ -242,14 +242,14 @@ TEST_F(LibraryCommandBesideAWindow, LetsItShowTheTagsThatWereWritten) {
     const Dictionary other = entry(u"other.m4a"_s);
     ASSERT_TRUE(Mpeg4Files::make(one.value(AudioRecordEntry::SavePath).toString()));
     open({other, one});
-    const QSignalSpy replaced(&shared_, &MediaLibrary::entryReplaced);
+    const LeafNotes notes(shared_);
     (void)ask({u"tag"_s, one.value(AudioRecordEntry::SavePath).toString(), u"--title"_s, u"new\nline"_s, u"--year"_s,
                u"1984"_s});
     Dictionary expected = one;
     expected.insert(AudioRecordEntry::Title, u"new\nline"_s);
     expected.insert(AudioRecordEntry::Year, 1984);
     EXPECT_EQ(shared_.records(), (QVariantList{other, expected}));
-    EXPECT_EQ(replaced.count(), 1);
+    EXPECT_EQ(notes.lines, QStringList{u"=all-record 1"_s});
     EXPECT_EQ(listed()[u"records"_s][1][u"title"_s], u"new\nline"_s);
 }
 
@@ -271,9 +271,9 @@ TEST_F(LibraryCommandBesideAWindow, LetsItShowTheTagsOfWhatAnotherProcessStored)
     ASSERT_TRUE(Mpeg4Files::make(path));
     open({known});
     addBesideTheWindow(one);
-    const QSignalSpy inserted(&shared_, &MediaLibrary::entryInserted);
+    const LeafNotes notes(shared_);
     (void)ask({u"tag"_s, path, u"--title"_s, u"new"_s});
-    EXPECT_EQ(inserted.count(), 1);
+    EXPECT_EQ(notes.lines, QStringList{u"+all-record 0"_s, u"=all-record 0"_s});
     EXPECT_EQ(listed()[u"records"_s].toArray().size(), 2);
     EXPECT_EQ(listed()[u"records"_s][0][u"title"_s], u"new"_s);
 }
@@ -285,7 +285,7 @@ TEST_F(LibraryCommandBesideAWindow, LetsItAddTheRingtoneThatWasMade) {
     open({song});
     FakeClock clock;
     Platform::services().clock = &clock;
-    const QSignalSpy inserted(&shared_, &MediaLibrary::entryInserted);
+    const LeafNotes notes(shared_);
     const auto before = shared_.ringtones().size();
     const QString made =
         QString::fromLocal8Bit(ask({u"ringtone"_s, path, u"--from"_s, u"1"_s, u"--to"_s, u"6"_s}).trimmed());
@@ -294,6 +294,6 @@ TEST_F(LibraryCommandBesideAWindow, LetsItAddTheRingtoneThatWasMade) {
     EXPECT_EQ(ringtone.value(AudioRecordEntry::SavePath).toString(), made);
     EXPECT_EQ(ringtone.value(AudioRecordEntry::Title).toString(), u"Title of Track 1.m4a"_s);
     EXPECT_EQ(ringtone.value(AudioRecordEntry::Length).toDouble(), 5);
-    EXPECT_EQ(inserted.count(), 2) << "in the list of the new ones and in that of all";
+    EXPECT_EQ(notes.lines, (QStringList{u"+new-ringtone 0"_s, u"+all-ringtone 0"_s}));
     EXPECT_EQ(shared_.records(), QVariantList{song});
 }

@@ -8,9 +8,9 @@
 #include "Source/Model/MediaLibraryStore.h"
 #include "Source/Preferences/PreferenceStore.h"
 #include "tests/fakes/FakeUserDefaults.h"
+#include "tests/support/LeafNotes.h"
 
 #include <QFile>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -52,25 +52,6 @@ protected:
 
     Platform::ServicesScope scope_;
     FakeUserDefaults defaults_;
-};
-
-/// Records every signal as a line.
-class Notes {
-public:
-    explicit Notes(MediaLibrary& library) {
-        QObject::connect(&library, &MediaLibrary::entryInserted, &context_,
-                         [this](const QString& key, int at) { lines += u"+%1 %2"_s.arg(key).arg(at); });
-        QObject::connect(&library, &MediaLibrary::entryReplaced, &context_,
-                         [this](const QString& key, int at) { lines += u"=%1 %2"_s.arg(key).arg(at); });
-        QObject::connect(&library, &MediaLibrary::entryRemoved, &context_,
-                         [this](const QString& key, int at) { lines += u"-%1 %2"_s.arg(key).arg(at); });
-        QObject::connect(&library, &MediaLibrary::leafReset, &context_,
-                         [this](const QString& key) { lines += u"*"_s + key; });
-    }
-    QStringList lines;
-
-private:
-    QObject context_;
 };
 
 QVariantList manyEntries(int count) {
@@ -283,7 +264,7 @@ TEST_F(Library, TellsViewsExactlyWhichRowsChanged) {
     library.addRecordFile(newEntry(u"a"_s));
     library.addRecordFile(entry(u"b"_s));
     library.addRecordFile(newEntry(u"c"_s));
-    Notes notes(library);
+    LeafNotes notes(library);
     library.addRecordFile(newEntry(u"d"_s));
     EXPECT_EQ(notes.lines, (QStringList{u"+new-record 0"_s, u"+all-record 0"_s}));
     notes.lines.clear();
@@ -301,34 +282,36 @@ TEST_F(Library, TellsViewsExactlyWhichRowsChanged) {
                                         u"-all-ringtone 0"_s}));
 }
 
-TEST_F(Library, ShowsEachRemovalInTheLeafWhenItTells) {
+TEST_F(Library, ShowsTheNewListInTheLeafWhenItTells) {
     MediaLibrary library;
     for (int i = 0; i < 4; ++i)
         library.addRecordFile(entry(QString::number(i)));
     QList<qsizetype> sizes;
-    QObject::connect(&library, &MediaLibrary::entryRemoved, &library,
-                     [&](const QString& key, int) { sizes += leaf(library, key).size(); });
+    QObject::connect(&library, &MediaLibrary::leafChanged, &library, [&](const QString& key, const LeafChange& change) {
+        sizes += leaf(library, key).size();
+        EXPECT_EQ(leaf(library, key), change.entries);
+    });
     library.removeMediaLibraryArray({entry(u"0"_s), entry(u"2"_s)});
-    EXPECT_EQ(sizes, (QList<qsizetype>{3, 2}));
+    EXPECT_EQ(sizes, QList<qsizetype>{2});
 }
 
-TEST_F(Library, TellsAResetWhenManyRowsGoAtOnce) {
+TEST_F(Library, TellsManyRowsThatGoAtOnceWithOneSignal) {
     const QVariantList many = manyEntries(500);
     defaults_.setObject(kMediaLibrarySavedKey, MediaLibraryStore::value(many, {}));
     MediaLibrary library;
-    Notes notes(library);
+    LeafNotes notes(library);
     library.removeMediaLibraryArray(many.mid(100, 300));
-    EXPECT_EQ(notes.lines, QStringList{u"*all-record"_s});
+    EXPECT_EQ(notes.lines, QStringList{u"-all-record 100.399"_s});
     EXPECT_EQ(leaf(library, u"all-record"_s).size(), 200);
 }
 
 TEST_F(Library, SavingByHandLoadsEveryLeaf) {
     MediaLibrary library;
-    Notes notes(library);
+    LeafNotes notes(library);
     library.setRecords({entry(u"a"_s)});
     library.setCurrentNewArray({u"a"_s});
     library.saveMediaLibraryList();
-    EXPECT_EQ(notes.lines, (QStringList{u"*new-record"_s, u"*all-record"_s, u"*new-ringtone"_s, u"*all-ringtone"_s}));
+    EXPECT_EQ(notes.lines, (QStringList{u"+new-record 0"_s, u"+all-record 0"_s, u"new-ringtone"_s, u"all-ringtone"_s}));
     EXPECT_EQ(leaf(library, u"new-record"_s).size(), 1);
     EXPECT_EQ(stored().value(u"records"_s).toList(), library.records());
 }
@@ -336,13 +319,44 @@ TEST_F(Library, SavingByHandLoadsEveryLeaf) {
 TEST_F(Library, TakesOneMoreEntryIntoTenThousandWithOneRow) {
     defaults_.setObject(kMediaLibrarySavedKey, MediaLibraryStore::value(manyEntries(10000), {}));
     MediaLibrary library;
-    const QSignalSpy inserted(&library, &MediaLibrary::entryInserted);
-    const QSignalSpy loadedAnew(&library, &MediaLibrary::leafReset);
+    LeafNotes notes(library);
     for (int i = 0; i < 5; ++i)
         library.addRecordFile(newEntry(QString::number(i)));
-    EXPECT_EQ(inserted.count(), 10) << "a row among all and one among the new, each time";
-    EXPECT_EQ(loadedAnew.count(), 0);
+    QStringList expected;
+    for (int i = 0; i < 5; ++i)
+        expected += {u"+new-record 0"_s, u"+all-record 0"_s};
+    EXPECT_EQ(notes.lines, expected) << "a row among all and one among the new, each time";
     EXPECT_EQ(library.records().size(), 10005);
+}
+
+TEST_F(Library, KnowsItsKeysHoweverTheListChanges) {
+    // Against a list that is searched through: what is replaced where it stands, and what comes on top.
+    defaults_.setObject(kMediaLibrarySavedKey, MediaLibraryStore::value(manyEntries(1500), {}));
+    MediaLibrary library;
+    library.prepareForChanges(); // long enough for the worker
+    MediaLibrary plain;
+    QVariantList expected = library.records();
+    const auto add = [&](const Dictionary& one) {
+        library.addRecordFile(one);
+        plain.addAudio(one, expected);
+        ASSERT_EQ(library.records(), expected);
+        ASSERT_EQ(keys(leaf(library, u"new-record"_s)), keys(plain.mediaNodes(expected, true)));
+    };
+    add(newEntry(u"first"_s));
+    add(entry(u"second"_s));
+    add(entry(keys(expected).at(700), u"edited"_s));
+    add(newEntry(keys(expected).at(1400)));
+    library.removeMediaLibraryArray(expected.mid(1, 400));
+    MediaLibrary::removeAudio(QVariantList(expected.mid(1, 400)), expected);
+    add(newEntry(keys(expected).at(900)));
+    add(newEntry(u"second"_s));
+    QVariantList twice = expected;
+    twice.append(entry(u"first"_s, u"again"_s)); // a list that another program wrote
+    library.setRecords(twice);
+    expected = twice;
+    add(newEntry(u"first"_s));
+    EXPECT_EQ(library.records().last().toMap(), entry(u"first"_s))
+        << "of two entries with one key the last is replaced";
 }
 
 TEST(MediaLibraryStore, KeepsWhatTwoProcessesAddedAndRemoved) {
@@ -461,7 +475,7 @@ TEST(MediaLibraryStore, IsTakenUpRowByRowByALibraryBesideAnother) {
         ASSERT_TRUE(other.flush());
     }
     Platform::services().userDefaults = &one;
-    Notes notes(window);
+    LeafNotes notes(window);
     window.takeUpMediaLibraryList();
     EXPECT_EQ(notes.lines, (QStringList{u"-new-record 1"_s, u"=new-record 1"_s, u"-all-record 1"_s, u"+all-record 0"_s,
                                         u"=all-record 2"_s, u"+all-ringtone 0"_s}));

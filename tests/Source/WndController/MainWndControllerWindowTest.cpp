@@ -53,10 +53,7 @@ protected:
     void feed(float level, AudioObjectID device = WindowWorld::kMicrophone) {
         world.hardware.unitOf(device)->feedValue(level, 512);
     }
-    void showAll() {
-        world.selectNode(u"all-record"_s);
-        world.controller->library().tableModel().reload();
-    }
+    void showAll() { world.selectNode(u"all-record"_s); }
     void clickRow(int row, Qt::KeyboardModifiers keys = {}) {
         QWidget* viewport = table().viewport();
         const QPoint place = table().visualRect(table().model()->index(row, AudioTableModel::Title)).center();

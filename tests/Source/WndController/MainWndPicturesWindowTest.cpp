@@ -43,7 +43,6 @@ protected:
     }
     void showAll(int row = -1) {
         world.selectNode(u"all-record"_s);
-        world.controller->library().tableModel().reload();
         if (row >= 0)
             world.outlet<QTableView>("audioTableView_").selectRow(row);
     }

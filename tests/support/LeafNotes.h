@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Source/Model/MediaLibrary.h"
+
+#include <QObject>
+#include <QStringList>
+
+/// Notes what a library tells of its leaves, a line for each step: "-all-record 3" for a row that left, "~all-record"
+/// for rows that changed places, "+all-record 0.4" for five rows that came, "=all-record 1" for a row with other
+/// values, and "all-record" for a leaf that was loaded and did not change.
+class LeafNotes {
+public:
+    explicit LeafNotes(const MediaLibrary& library) {
+        QObject::connect(&library, &MediaLibrary::leafChanged, &context_,
+                         [this](const QString& key, const LeafChange& change) {
+                             ++signalsSeen;
+                             note(u'-', key, change.removed);
+                             if (!change.moved.empty())
+                                 lines += u'~' + key;
+                             note(u'+', key, change.inserted);
+                             note(u'=', key, change.replaced);
+                             if (change.isEmpty())
+                                 lines += key;
+                         });
+    }
+    QStringList lines;
+    int signalsSeen = 0;
+
+private:
+    void note(QChar sign, const QString& key, const std::vector<LeafChange::Rows>& stretches) {
+        for (const auto& [first, last] : stretches)
+            lines +=
+                sign + key + u' ' + QString::number(first) + (last > first ? u'.' + QString::number(last) : QString());
+    }
+    QObject context_;
+};
