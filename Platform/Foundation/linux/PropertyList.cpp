@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Foundation/linux/PropertyList.h"
 
+#include "Platform/Foundation/linux/PropertyListReader.h"
+
 #include <clocale>
 #include <cstdlib>
 #include <cstring>
@@ -245,6 +247,12 @@ QByteArray toXml(const Dictionary& dictionary) {
 }
 
 std::optional<Dictionary> fromXml(const QByteArray& xml, std::shared_ptr<void>* spent) {
+    if (auto dictionary = fromOwnXml(xml))
+        return dictionary;
+    return fromAnyXml(xml, spent);
+}
+
+std::optional<Dictionary> fromAnyXml(const QByteArray& xml, std::shared_ptr<void>* spent) {
     if (xml.isEmpty() || xml.size() > std::numeric_limits<std::uint32_t>::max() || isTooDeep(xml))
         return std::nullopt;
     const CNumbers numbers;

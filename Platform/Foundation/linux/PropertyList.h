@@ -19,4 +19,7 @@ namespace Platform::PropertyList {
 /// library takes a sixth of the time of reading it.
 [[nodiscard]] std::optional<Dictionary> fromXml(const QByteArray& xml, std::shared_ptr<void>* spent = nullptr);
 
+/// fromXml() by libplist alone, whatever the form of the list.
+[[nodiscard]] std::optional<Dictionary> fromAnyXml(const QByteArray& xml, std::shared_ptr<void>* spent = nullptr);
+
 } // namespace Platform::PropertyList

@@ -28,6 +28,9 @@ namespace {
 Q_LOGGING_CATEGORY(log, "sonaphex.foundation")
 
 constexpr auto retryAfter = std::chrono::seconds(5);
+// Changes that come so soon after one another are one save. A burst that goes on is saved all the same.
+constexpr auto quietTime = std::chrono::milliseconds(50);
+constexpr auto longestBurst = std::chrono::milliseconds(500);
 constexpr auto lockPatience = std::chrono::seconds(10);     // a stopped process may hold the lock forever
 constexpr std::int64_t largestFile = std::int64_t(1) << 30; // enough for a library of two million recordings
 
@@ -84,10 +87,11 @@ void PropertyListDefaults::setMergeForKey(const QString& key, Merge merge) {
 void PropertyListDefaults::change(const QString& key, const QVariant& object) {
     {
         const std::lock_guard guard(mutex_);
+        // The worker frees the old value: a library of many entries would hold up the caller for longer than the
+        // change.
+        replaced_.push_back(values_.take(key));
         if (object.isValid())
             values_.insert(key, object);
-        else
-            values_.remove(key);
         pending_.insert(key, object);
         ++lastChange_;
     }
@@ -98,8 +102,10 @@ bool PropertyListDefaults::flush() {
     std::unique_lock lock(mutex_);
     const quint64 wanted = lastChange_;
     failedChange_ = 0; // changes that failed before are tried again
+    ++flushes_;
     work_.notify_one();
     done_.wait(lock, [&] { return savedChange_ >= wanted || failedChange_ >= wanted; });
+    --flushes_;
     return savedChange_ >= wanted;
 }
 
@@ -191,10 +197,16 @@ void PropertyListDefaults::run() {
             continue;
         }
 
+        waitForQuiet(lock);
+        if (!takeUps_.empty())
+            continue;
+
         const Changes changes = std::exchange(pending_, {});
         const auto merges = merges_;
         const quint64 newest = lastChange_;
+        auto replaced = std::exchange(replaced_, {});
         lock.unlock();
+        replaced.clear();
         const bool saved = save(changes, merges);
         lock.lock();
 
@@ -218,6 +230,17 @@ void PropertyListDefaults::run() {
         done_.notify_all();
         if (stopping_ && !saved)
             return;
+    }
+}
+
+/// Returns when a burst of changes is over, or at once when somebody waits for the save.
+void PropertyListDefaults::waitForQuiet(std::unique_lock<std::mutex>& lock) {
+    const auto isUrgent = [this] { return stopping_ || flushes_ > 0 || !takeUps_.empty(); };
+    const auto latest = std::chrono::steady_clock::now() + longestBurst;
+    quint64 seen = 0;
+    while (seen != lastChange_ && !isUrgent() && std::chrono::steady_clock::now() < latest) {
+        seen = lastChange_;
+        work_.wait_for(lock, quietTime, isUrgent);
     }
 }
 

@@ -18,7 +18,9 @@ namespace Platform {
 /// The defaults in $XDG_CONFIG_HOME/<bundle identifier>.plist (below ~/.config when the variable is unset).
 [[nodiscard]] std::unique_ptr<UserDefaults> createUserDefaults(const QString& bundleIdentifier);
 
-/// User defaults in one XML property list.
+/// User defaults in one XML property list. A burst of changes is written once: half a second after its first change at
+/// the latest, and at once when flush() or the destructor waits for it.
+///
 /// The file is replaced as a whole (new file, sync, rename), so it is complete at every moment. A lock file beside it
 /// keeps other processes out from reading it until replacing it; it is only held during a save. A damaged file is moved
 /// to "<file>.damaged-<date>"; one that cannot be read (permissions, a bad disk) is never replaced.
@@ -52,6 +54,7 @@ private:
     void change(const QString& key, const QVariant& object);
     void run();
     void load();
+    void waitForQuiet(std::unique_lock<std::mutex>& lock);
     void answerTakeUps(std::unique_lock<std::mutex>& lock);
     void takeUpFromDisk(const QString& key);
     static void overlay(const Changes& changes, Dictionary& values);
@@ -83,6 +86,8 @@ private:
         bool isRead = false;
     };
     std::vector<TakeUp*> takeUps_;
+    int flushes_ = 0;                // calls of flush() that wait
+    std::vector<QVariant> replaced_; // old values that the worker frees
     bool loaded_ = false;
     bool stopping_ = false;
 

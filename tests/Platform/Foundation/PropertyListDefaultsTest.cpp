@@ -4,10 +4,15 @@
 
 #include "Platform/Foundation/linux/PropertyList.h"
 #include "tests/support/ChildProcess.h"
+#include "tests/support/DiskCalls.h"
 #include "tests/support/Environment.h"
+#include "tests/support/WaitFor.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
+#include <algorithm>
+#include <atomic>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <thread>
@@ -311,6 +316,44 @@ TEST_F(DefaultsFile, AKilledProcessNeverLosesWhatWasSaved) {
         EXPECT_EQ(list, PropertyListDefaults(path()).objectForKey(u"kMediaLibrarySavedKey"_s).toList());
     }
     EXPECT_TRUE(damagedFiles().isEmpty());
+}
+
+TEST_F(DefaultsFile, ABurstOfChangesIsWrittenOnce) {
+    PropertyListDefaults defaults(path());
+    defaults.setObject(u"a"_s, 0);
+    ASSERT_TRUE(defaults.flush());
+    const DiskCalls disk;
+    const auto saves = [&] {
+        return std::ranges::count_if(disk.calls(), [&](const DiskCalls::Call& call) {
+            return call.kind == DiskCalls::Call::Kind::Rename && call.to == path();
+        });
+    };
+    QElapsedTimer burst;
+    burst.start();
+    for (int i = 1; i <= 200; ++i) {
+        defaults.setObject(u"a"_s, i);
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    // Each save waits 50 ms for more changes, so a burst that a busy machine draws out has a few more.
+    EXPECT_LE(saves(), burst.elapsed() / 50 + 1);
+    EXPECT_TRUE(waitFor([&] { return stored() && stored()->value(u"a"_s).toInt() == 200; }))
+        << "nobody has to ask for the save";
+}
+
+TEST_F(DefaultsFile, WhoAsksForTheSaveDoesNotWaitForTheEndOfABurst) {
+    PropertyListDefaults defaults(path());
+    std::atomic<bool> stop{false};
+    std::thread burst([&] {
+        for (int i = 0; !stop; ++i)
+            defaults.setObject(u"burst"_s, i);
+    });
+    for (int i = 0; i < 20; ++i) {
+        defaults.setObject(u"asked"_s, i);
+        EXPECT_TRUE(defaults.flush());
+        EXPECT_EQ(stored()->value(u"asked"_s), i);
+    }
+    stop = true;
+    burst.join();
 }
 
 TEST_F(DefaultsFile, MayBeUsedFromManyThreads) {

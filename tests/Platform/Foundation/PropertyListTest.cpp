@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Foundation/linux/PropertyList.h"
 
+#include "Platform/Foundation/linux/PropertyListReader.h"
+
 #include <QDateTime>
+#include <QRandomGenerator>
 #include <QTimeZone>
 #include <clocale>
 #include <gtest/gtest.h>
@@ -89,4 +92,93 @@ TEST(PropertyList, RefusesANestingThatWouldEatTheStack) {
     const QByteArray deep = "<plist version=\"1.0\"><dict><key>k</key>" + QByteArray("<array>").repeated(300000) +
                             QByteArray("</array>").repeated(300000) + "</dict></plist>";
     EXPECT_FALSE(PropertyList::fromXml(deep));
+}
+
+namespace {
+
+Dictionary someList(QRandomGenerator& random, int depth = 0) {
+    const QStringList texts{u""_s, u"NO Artist"_s, u"<&\"'>"_s, u"Überraschung 🎵"_s, u" \n spaces\t"_s, u"a&b&amp;c"_s};
+    Dictionary result;
+    for (int i = random.bounded(6); i > 0; --i) {
+        const auto value = [&]() -> QVariant {
+            switch (random.bounded(depth < 3 ? 9 : 6)) {
+            case 0:
+                return random.bounded(2) == 0;
+            case 1:
+                return qlonglong(random.generate64());
+            case 2:
+                return random.bounded(2) == 0 ? 83.5 : random.generateDouble() * 1e9 - 5e8;
+            case 3:
+                return QByteArray("\0\1\xff\2\3", random.bounded(6));
+            case 4:
+            case 5:
+                return texts[random.bounded(int(texts.size()))];
+            case 6:
+                return someList(random, depth + 1);
+            default: {
+                QVariantList list;
+                for (int j = random.bounded(4); j > 0; --j)
+                    list.append(random.bounded(2) == 0 ? QVariant(someList(random, depth + 1)) : QVariant(u"x"_s));
+                return list;
+            }
+            }
+        };
+        result.insert(texts[random.bounded(int(texts.size()))] + QString::number(random.bounded(20)), value());
+    }
+    return result;
+}
+
+} // namespace
+
+TEST(PropertyListReader, ReadsWhateverThisProgramWrites) {
+    QRandomGenerator random(3);
+    for (int round = 0; round < 500; ++round) {
+        const Dictionary list = someList(random);
+        const QByteArray xml = PropertyList::toXml(list);
+        const auto read = PropertyList::fromOwnXml(xml);
+        ASSERT_TRUE(read) << xml.constData();
+        ASSERT_EQ(*read, PropertyList::fromAnyXml(xml)) << xml.constData();
+    }
+}
+
+TEST(PropertyListReader, LeavesDatesAndOtherFormsToTheLibrary) {
+    EXPECT_FALSE(PropertyList::fromOwnXml(PropertyList::toXml({{u"date"_s, QDateTime::currentDateTimeUtc()}})));
+    const auto read = [](const QByteArray& value) {
+        return PropertyList::fromOwnXml("<plist version=\"1.0\"><dict><key>a</key>" + value + "</dict></plist>");
+    };
+    EXPECT_EQ(read("<string>x</string>"), (Dictionary{{u"a"_s, u"x"_s}}));
+    for (const char* other :
+         {"<string>&#65;</string>", "<string><![CDATA[x]]></string>", "<integer>0x10</integer>",
+          "<integer>010</integer>", "<integer> 1 </integer>", "<real>nan</real>", "<real>1e3</real>",
+          "<!-- x --><true/>", "<string a=\"b\">x</string>", "<true />", "<data>?</data>"})
+        EXPECT_FALSE(read(other)) << other;
+}
+
+TEST(PropertyListReader, ReadsNoDamagedListDifferentlyThanTheLibrary) {
+    QRandomGenerator random(11);
+    int readable = 0;
+    for (int round = 0; round < 20000; ++round) {
+        QByteArray xml = PropertyList::toXml(someList(random));
+        for (int i = random.bounded(3); i >= 0; --i) {
+            const qsizetype at = random.bounded(int(xml.size()));
+            switch (random.bounded(4)) {
+            case 0:
+                xml[at] = char(random.bounded(256));
+                break;
+            case 1:
+                xml[at] = "<>/&; 0-.aeit"[random.bounded(13)];
+                break;
+            case 2:
+                xml.remove(at, random.bounded(1, 20));
+                break;
+            default:
+                xml.insert(at, xml.mid(random.bounded(int(xml.size())), random.bounded(1, 30)));
+            }
+        }
+        if (const auto read = PropertyList::fromOwnXml(xml)) {
+            ++readable;
+            ASSERT_EQ(read, PropertyList::fromAnyXml(xml)) << xml.constData();
+        }
+    }
+    EXPECT_GT(readable, 100);
 }
