@@ -273,7 +273,7 @@ TEST_F(LibraryCommandBesideAWindow, LetsItShowTheTagsOfWhatAnotherProcessStored)
     addBesideTheWindow(one);
     const LeafNotes notes(shared_);
     (void)ask({u"tag"_s, path, u"--title"_s, u"new"_s});
-    EXPECT_EQ(notes.lines, QStringList{u"+all-record 0"_s, u"=all-record 0"_s});
+    EXPECT_EQ(notes.lines, (QStringList{u"+all-record 0"_s, u"=all-record 0"_s}));
     EXPECT_EQ(listed()[u"records"_s].toArray().size(), 2);
     EXPECT_EQ(listed()[u"records"_s][0][u"title"_s], u"new"_s);
 }

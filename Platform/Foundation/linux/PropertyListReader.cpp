@@ -198,7 +198,7 @@ private:
                 encoded.append(c);
         expect("</data>"sv);
         const auto result = QByteArray::fromBase64Encoding(encoded, QByteArray::AbortOnBase64DecodingErrors);
-        if (!result)
+        if (!result || encoded.size() % 4 != 0)
             failed_ = true;
         return result.decoded;
     }
