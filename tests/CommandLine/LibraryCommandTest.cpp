@@ -232,7 +232,7 @@ TEST_F(LibraryCommandBesideAWindow, LetsItRemove) {
     const QByteArray output = ask({u"library"_s, u"remove"_s, keyOf(gone), u"--json"_s});
     EXPECT_EQ(QJsonDocument::fromJson(output)[u"removed"_s][0], keyOf(gone));
     EXPECT_EQ(shared_.records(), QVariantList{stays});
-    EXPECT_EQ(notes.lines, QStringList{u"-all-record 1"_s});
+    EXPECT_EQ(notes.lines, QStringList{u"-all-record 0"_s});
     EXPECT_FALSE(QFile::exists(gone.value(AudioRecordEntry::SavePath).toString()));
     EXPECT_EQ(listed()[u"records"_s].toArray().size(), 1);
 }
