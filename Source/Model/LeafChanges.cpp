@@ -27,11 +27,11 @@ QByteArray identityOf(const QVariant& entry) {
 }
 
 /// Adds a row behind those that were added before.
-void addRow(std::vector<LeafChange::Rows>& stretches, int row) {
-    if (!stretches.empty() && stretches.back().last == row - 1)
-        stretches.back().last = row;
+void addRow(std::vector<LeafChange::Rows>& ranges, int row) {
+    if (!ranges.empty() && ranges.back().last == row - 1)
+        ranges.back().last = row;
     else
-        stretches.push_back({row, row});
+        ranges.push_back({row, row});
 }
 
 /// For each row that stays, the place that it comes from, counted among those that stay.

@@ -20,9 +20,9 @@ namespace {
 
 // Sorting this many texts takes about 2 ms; longer lists are sorted by the worker.
 constexpr qsizetype kSortAtOnce = 2000;
-// Each stretch of rows that comes or goes costs the views a pass over all rows. More stretches than these are brought
+// Each range of rows that comes or goes costs the views a pass over all rows. More ranges than these are brought
 // together at the list's end first.
-constexpr std::size_t kMostStretches = 64;
+constexpr std::size_t kMostRanges = 64;
 // Finding a row's place by its text takes some 20 µs. More rows than these wait for the worker to sort the list.
 constexpr std::size_t kMostPlaced = 200;
 
@@ -43,16 +43,16 @@ double sortLength(const Dictionary& entry) {
     return Platform::doubleValue(entry.value(AudioRecordEntry::Length));
 }
 
-std::vector<bool> marked(const std::vector<LeafChange::Rows>& stretches, qsizetype count) {
+std::vector<bool> marked(const std::vector<LeafChange::Rows>& ranges, qsizetype count) {
     std::vector<bool> result(static_cast<std::size_t>(count));
-    for (const auto& [first, last] : stretches)
+    for (const auto& [first, last] : ranges)
         std::fill(result.begin() + first, result.begin() + last + 1, true);
     return result;
 }
 
-std::vector<int> placesOf(const std::vector<LeafChange::Rows>& stretches) {
+std::vector<int> placesOf(const std::vector<LeafChange::Rows>& ranges) {
     std::vector<int> result;
-    for (const auto& [first, last] : stretches)
+    for (const auto& [first, last] : ranges)
         for (int place = first; place <= last; ++place)
             result.push_back(place);
     return result;
@@ -128,18 +128,18 @@ void AudioTableModel::apply(const LeafChange& change) {
         startSorting();
 }
 
-/// Stretches of neighbouring rows whose entry is marked.
+/// Ranges of neighbouring rows whose entry is marked.
 std::vector<LeafChange::Rows> AudioTableModel::rowsOf(const std::vector<bool>& isMarked) const {
-    std::vector<LeafChange::Rows> stretches;
+    std::vector<LeafChange::Rows> ranges;
     for (int row = 0; row < rows_; ++row) {
         if (!isMarked[static_cast<std::size_t>(sourceRow(row))])
             continue;
-        if (!stretches.empty() && stretches.back().last == row - 1)
-            stretches.back().last = row;
+        if (!ranges.empty() && ranges.back().last == row - 1)
+            ranges.back().last = row;
         else
-            stretches.push_back({row, row});
+            ranges.push_back({row, row});
     }
-    return stretches;
+    return ranges;
 }
 
 /// The rows of removed entries leave. entries_ still is the list before.
@@ -147,19 +147,19 @@ void AudioTableModel::takeOut(const LeafChange& change) {
     if (change.removed.empty())
         return;
     const auto isGone = marked(change.removed, entries_.size());
-    auto stretches = rowsOf(isGone);
-    if (stretches.size() > kMostStretches) {
+    auto ranges = rowsOf(isGone);
+    if (ranges.size() > kMostRanges) {
         Order order = order_;
         const auto gone = std::stable_partition(order.begin(), order.end(),
                                                 [&](int source) { return !isGone[static_cast<std::size_t>(source)]; });
         const int first = static_cast<int>(gone - order.begin());
         rearrange(std::move(order));
-        stretches = {{first, rows_ - 1}};
+        ranges = {{first, rows_ - 1}};
     }
-    for (auto stretch = stretches.rbegin(); stretch != stretches.rend(); ++stretch) {
-        beginRemoveRows({}, stretch->first, stretch->last);
-        order_.erase(order_.begin() + stretch->first, order_.begin() + stretch->last + 1);
-        rows_ -= stretch->last - stretch->first + 1;
+    for (auto range = ranges.rbegin(); range != ranges.rend(); ++range) {
+        beginRemoveRows({}, range->first, range->last);
+        order_.erase(order_.begin() + range->first, order_.begin() + range->last + 1);
+        rows_ -= range->last - range->first + 1;
         endRemoveRows();
     }
 }
@@ -204,7 +204,7 @@ void AudioTableModel::placeInLibraryOrder(const LeafChange& change) {
     };
     if (!change.moved.empty())
         rearrange(sorted());
-    if (change.inserted.size() > kMostStretches) {
+    if (change.inserted.size() > kMostRanges) {
         insertRows(rows_, placesOf(change.inserted));
         rearrange(sorted());
         return;
@@ -239,10 +239,10 @@ void AudioTableModel::placeSorted(const LeafChange& change) {
 void AudioTableModel::announceReplaced(const LeafChange& change) {
     if (change.replaced.empty())
         return;
-    auto stretches = rowsOf(marked(change.replaced, entries_.size()));
-    if (stretches.size() > kMostStretches)
-        stretches = {{0, rows_ - 1}}; // the views draw only the rows that they show
-    for (const auto& rows : stretches)
+    auto ranges = rowsOf(marked(change.replaced, entries_.size()));
+    if (ranges.size() > kMostRanges)
+        ranges = {{0, rows_ - 1}}; // the views draw only the rows that they show
+    for (const auto& rows : ranges)
         Q_EMIT dataChanged(index(rows.first, 0), index(rows.last, ColumnCount - 1));
 }
 

@@ -29,8 +29,8 @@ public:
     int signalsSeen = 0;
 
 private:
-    void note(QChar sign, const QString& key, const std::vector<LeafChange::Rows>& stretches) {
-        for (const auto& [first, last] : stretches)
+    void note(QChar sign, const QString& key, const std::vector<LeafChange::Rows>& ranges) {
+        for (const auto& [first, last] : ranges)
             lines +=
                 sign + key + u' ' + QString::number(first) + (last > first ? u'.' + QString::number(last) : QString());
     }

@@ -26,8 +26,8 @@ QVariantList list(const char* words) {
     return entries;
 }
 
-void note(QStringList& words, QChar sign, const std::vector<LeafChange::Rows>& stretches) {
-    for (const auto& [first, last] : stretches)
+void note(QStringList& words, QChar sign, const std::vector<LeafChange::Rows>& ranges) {
+    for (const auto& [first, last] : ranges)
         words += sign + QString::number(first) + (last > first ? u'.' + QString::number(last) : QString());
 }
 
@@ -87,7 +87,7 @@ TEST(LeafChanges, AreTheRowsThatDiffer) {
     EXPECT_EQ(told("x a b c y", "x c n a b1 y"), u"~0,3,1,2,4 +2 =4"_s);
 }
 
-TEST(LeafChanges, AreStretchesHoweverManyRowsDiffer) {
+TEST(LeafChanges, AreRangesHoweverManyRowsDiffer) {
     QVariantList many;
     for (int i = 0; i < 200; ++i)
         many.append(Dictionary{{AudioRecordEntry::NodeDataKey, QString::number(i)}});

@@ -250,7 +250,7 @@ TEST_F(AudioTable, AnyChangeOfTheListLeavesSelectionScrollPositionAndSortingAsTh
     const QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
     for (int round = 0; round < 60; ++round) {
         const bool isSorted = round % 2 == 1;
-        const int most = round % 3 == 0 ? 600 : 12; // more stretches than are told one by one, and few
+        const int most = round % 3 == 0 ? 600 : 12; // more ranges than are told one by one, and few
         const auto some = [&] {
             QVariantList entries;
             for (int i = 0; i < most; ++i)

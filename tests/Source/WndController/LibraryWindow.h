@@ -33,7 +33,6 @@ protected:
     void openWithAll(QSize size = {900, 600}) {
         world.open(size);
         world.selectNode(QStringLiteral("all-record"));
-        library().tableModel().reload();
         world.controller->window()->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(world.controller->window(), 30000));
     }
