@@ -24,7 +24,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString kLayoutKey = QStringLiteral("CDBurnWndLayout");
-constexpr QSize kFirstSize(720, 480);
+constexpr QSize kBurnWindowSize(720, 480);
 constexpr int kBottomBorder = 30;
 constexpr int kWarningFont = 13;
 
@@ -46,7 +46,7 @@ QList<QUrl> urls(const QStringList& paths) {
 } // namespace
 
 CDBurnWndController::CDBurnWndController(QWidget* mainWindow)
-    : window_(std::make_unique<EditDialog>(kLayoutKey, kFirstSize, mainWindow)),
+    : window_(std::make_unique<EditDialog>(kLayoutKey, kBurnWindowSize, mainWindow)),
       ui_(std::make_unique<Ui::CDBurnWnd>()) {
     ui_->setupUi(window_.get());
     awakeFromNib();

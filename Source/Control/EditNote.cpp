@@ -26,7 +26,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-Q_LOGGING_CATEGORY(log, "sonaphex.control")
+Q_LOGGING_CATEGORY(editLog, "sonaphex.control")
 
 constexpr qint64 kLongestNote = 1 << 16;
 const QString kEnding = u".edit"_s;
@@ -69,7 +69,7 @@ bool settle(const QByteArray& content) {
     const QString now = QFileInfo::exists(path) || QFileInfo(path).isSymLink() ? path : newPath;
     if (!QFileInfo::exists(now))
         return true;
-    qCInfo(log, "an edit of %s was interrupted; its entry is brought in step", qUtf8Printable(now));
+    qCInfo(editLog, "an edit of %s was interrupted; its entry is brought in step", qUtf8Printable(now));
     return MediaLibraryRequests::retag(path, factsOf(now));
 }
 

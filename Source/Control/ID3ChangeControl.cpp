@@ -21,7 +21,7 @@ namespace MovedFiles = Platform::MovedFiles;
 namespace ID3ChangeControl {
 namespace {
 
-Q_LOGGING_CATEGORY(log, "sonaphex.control")
+Q_LOGGING_CATEGORY(changeLog, "sonaphex.control")
 
 unsigned audioCounter = 0;
 unsigned artworkCounter = 0;
@@ -46,7 +46,7 @@ bool moveAway(const QString& path, const QString& working) {
     const auto problem = MovedFiles::moveAway(path, working);
     if (problem.isEmpty())
         return true;
-    qCWarning(log, "cannot move %s away: %s", qUtf8Printable(path), qUtf8Printable(problem));
+    qCWarning(changeLog, "cannot move %s away: %s", qUtf8Printable(path), qUtf8Printable(problem));
     if (!QFileInfo::exists(path))
         return QFileInfo::exists(working);
     (void)FileManager::removeFile(working); // a copy whose original could not be removed
@@ -58,7 +58,7 @@ bool moveAway(const QString& path, const QString& working) {
 void moveBack(const QString& from, const QString& to) {
     if (!FileManager::move(from, to).isEmpty() && QFileInfo::exists(from)) {
         const QString kept = FileManager::setAside(from, QFileInfo(to).fileName());
-        qCWarning(log, "%s could not be put back; it is at %s", qUtf8Printable(to), qUtf8Printable(kept));
+        qCWarning(changeLog, "%s could not be put back; it is at %s", qUtf8Printable(to), qUtf8Printable(kept));
     }
     if (!QFileInfo::exists(from)) // a file that stays keeps its note: the next launch tries again
         MovedFiles::forget(from);
@@ -119,7 +119,7 @@ void changeID3(const QString& source, const QString& destAudioPath, const Dictio
         (void)FileManager::removeFile(working);
         MovedFiles::forget(working);
         if (!inTheWay.isEmpty())
-            qCWarning(log, "another file was at %s; it is now at %s", qUtf8Printable(destAudioPath),
+            qCWarning(changeLog, "another file was at %s; it is now at %s", qUtf8Printable(destAudioPath),
                       qUtf8Printable(inTheWay));
         return;
     }

@@ -16,7 +16,7 @@ namespace FileManager = Platform::FileManager;
 namespace ID3ChangeControl {
 namespace {
 
-Q_LOGGING_CATEGORY(log, "sonaphex.control")
+Q_LOGGING_CATEGORY(picturesLog, "sonaphex.control")
 
 unsigned imageCounter = 0;
 
@@ -39,7 +39,7 @@ QString createPathForImage(const QImage& image) {
     const QByteArray jpeg = jpegOf(image);
     const auto problem = jpeg.isEmpty() ? u"no image"_s : FileManager::writeAtomically(path, jpeg);
     if (!problem.isEmpty())
-        qCWarning(log, "cannot write %s: %s", qUtf8Printable(path), qUtf8Printable(problem));
+        qCWarning(picturesLog, "cannot write %s: %s", qUtf8Printable(path), qUtf8Printable(problem));
     return path;
 }
 

@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 namespace ToolControl {
 namespace {
 
-Q_LOGGING_CATEGORY(log, "sonaphex.control")
+Q_LOGGING_CATEGORY(toolLog, "sonaphex.control")
 
 QString twoDigits(std::int64_t number) {
     const QString text = QString::number(number);
@@ -127,7 +127,7 @@ bool findDRMForExtension(const QString& folder, const QString& extension) {
     // Without a shell the backslash is passed as a file name: file(1) reports that it does not exist.
     const QString output = outputOf(u"/usr/bin/find"_s, {asOperand(folder), u"-name"_s, extension, u"-exec"_s,
                                                          u"/usr/bin/file"_s, u"{}"_s, u"\\"_s, u";"_s});
-    qCInfo(log, "taskOutput    =   %s", qUtf8Printable(output));
+    qCInfo(toolLog, "taskOutput    =   %s", qUtf8Printable(output));
     const qsizetype at = output.indexOf(u" iTunes "_s);
     return at >= 0 && at < 20000;
 }

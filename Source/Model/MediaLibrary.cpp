@@ -23,7 +23,7 @@ using PreferenceStore::kMediaLibrarySavedKey;
 
 namespace {
 
-Q_LOGGING_CATEGORY(log, "sonaphex.model")
+Q_LOGGING_CATEGORY(libraryLog, "sonaphex.model")
 
 const QString newRecord = u"new-record"_s;
 const QString allRecord = u"all-record"_s;
@@ -56,7 +56,7 @@ void keepAside(Platform::UserDefaults& defaults, const QVariant& stored) {
             break;
         key = kMediaLibrarySavedKey + u".damaged-"_s + QString::number(number);
     }
-    qCWarning(log, "the stored library is damaged; it was kept under %s", qUtf8Printable(key));
+    qCWarning(libraryLog, "the stored library is damaged; it was kept under %s", qUtf8Printable(key));
     defaults.setObject(key, stored);
 }
 

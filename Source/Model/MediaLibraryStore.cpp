@@ -14,7 +14,7 @@ namespace {
 const QString ringtonesName = u"ringtones"_s;
 const QString recordsName = u"records"_s;
 
-QString keyOf(const QVariant& entry) {
+QString keyTextOf(const QVariant& entry) {
     return AudioRecordEntry::keyOf(entry).toString();
 }
 
@@ -22,7 +22,7 @@ QHash<QString, QVariant> byKey(const QVariantList& entries) {
     QHash<QString, QVariant> result;
     result.reserve(entries.size());
     for (const QVariant& entry : entries)
-        result.insert(keyOf(entry), entry);
+        result.insert(keyTextOf(entry), entry);
     return result;
 }
 
@@ -48,7 +48,7 @@ QVariantList mergeEntries(const QVariantList& base, const QVariantList& theirs, 
 
     QVariantList added; // added by the other process
     for (const QVariant& entry : theirs) {
-        const QString key = keyOf(entry);
+        const QString key = keyTextOf(entry);
         const bool known =
             key.isEmpty() ? base.contains(entry) || ours.contains(entry) : inBase.contains(key) || inOurs.contains(key);
         if (!known)
@@ -59,7 +59,7 @@ QVariantList mergeEntries(const QVariantList& base, const QVariantList& theirs, 
     result.reserve(ours.size() + added.size());
     bool atTop = true; // new entries are first: ours, then theirs, then those that both knew
     for (const QVariant& entry : ours) {
-        const QString key = keyOf(entry);
+        const QString key = keyTextOf(entry);
         const auto before = inBase.constFind(key);
         if (atTop && before != inBase.cend()) {
             result.append(added);
@@ -118,7 +118,7 @@ QVariant merge(const QVariant& base, const QVariant& theirs, const QVariant& our
         if (damaged) {
             const auto there = byKey(others);
             for (const QVariant& entry : known)
-                if (!there.contains(keyOf(entry)))
+                if (!there.contains(keyTextOf(entry)))
                     others.append(entry);
         }
         return mergeEntries(known, others, entries(ours, name, isOld));

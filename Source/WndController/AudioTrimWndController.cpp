@@ -28,7 +28,7 @@ namespace {
 constexpr int kTickMs = 100;
 constexpr double kEndOfFile = 0.1; ///< the file counts as played this many seconds before its end
 constexpr auto kProgressEvery = std::chrono::milliseconds(100);
-constexpr QSize kFirstSize(720, 320);
+constexpr QSize kTrimWindowSize(720, 320);
 
 /// Inserts a name into a text without arg(), because the name may contain "%1".
 QString quoted(const QString& before, const QString& path, const QString& after) {
@@ -38,7 +38,7 @@ QString quoted(const QString& before, const QString& path, const QString& after)
 } // namespace
 
 AudioTrimWndController::AudioTrimWndController(QWidget* mainWindow, QObject* parent)
-    : QObject(parent), window_(new EditDialog(u"AudioTrimWndLayout"_s, kFirstSize, mainWindow)),
+    : QObject(parent), window_(new EditDialog(u"AudioTrimWndLayout"_s, kTrimWindowSize, mainWindow)),
       ui_(std::make_unique<Ui::AudioTrimWnd>()), waitWndController_(std::make_unique<WaitWndController>()),
       converterAudioControl_(std::make_unique<ConverterAudioControl>()), outline_(std::make_unique<AudioOutline>()) {
     ui_->setupUi(window_);

@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize kFirstSize(520, 300);
+constexpr QSize kEditWindowSize(520, 300);
 
 /// Encodes as TIFF; as PNG where Qt has no TIFF writer.
 QByteArray dataOf(const QImage& image) {
@@ -37,7 +37,7 @@ QByteArray dataOf(const QImage& image) {
 } // namespace
 
 ID3EditWndController::ID3EditWndController(QWidget* mainWindow, QObject* parent)
-    : QObject(parent), window_(new EditDialog(u"ID3EditWndLayout"_s, kFirstSize, mainWindow)),
+    : QObject(parent), window_(new EditDialog(u"ID3EditWndLayout"_s, kEditWindowSize, mainWindow)),
       ui_(std::make_unique<Ui::ID3EditWnd>()) {
     ui_->setupUi(window_);
     awakeFromNib();

@@ -19,11 +19,11 @@ namespace {
 constexpr xcb_keysym_t numLock = 0xff7f, superLeft = 0xffeb, superRight = 0xffec, altLeft = 0xffe9, altRight = 0xffea;
 constexpr std::uint32_t carbonCommand = 256, carbonShift = 512, carbonOption = 2048, carbonControl = 4096;
 
-struct Free {
+struct FreeReply {
     void operator()(void* memory) const { std::free(memory); }
 };
 template <typename T>
-using Reply = std::unique_ptr<T, Free>;
+using Reply = std::unique_ptr<T, FreeReply>;
 
 // Uses a separate connection: grabs work whatever platform the windows use, and Qt's events are not touched.
 class XcbHotKeys : public QObject, public HotKeys {

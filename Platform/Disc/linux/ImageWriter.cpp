@@ -23,7 +23,7 @@ namespace Platform {
 namespace {
 
 constexpr std::int64_t kStretchSectors = 120 * CDFormat::kSectorsPerSecond;
-constexpr std::int64_t kBlockSectors = 75;
+constexpr std::int64_t kImageBlockSectors = 75;
 constexpr unsigned kMostThreads = 8;
 constexpr auto kBetweenReports = std::chrono::milliseconds(100);
 
@@ -80,7 +80,7 @@ QString ImageWriter::render(const Stretch& stretch, std::unique_ptr<SectorRender
     for (std::int64_t done = 0; done < stretch.sectors;) {
         if (aborted_ || stopped_)
             return {};
-        const auto sectors = std::min(kBlockSectors, stretch.sectors - done);
+        const auto sectors = std::min(kImageBlockSectors, stretch.sectors - done);
         const auto block = std::span(memory).first(std::size_t(sectors * CDFormat::kBytesPerSector));
         if (const MediaError error = renderer->render(block))
             return error.text.isEmpty() ? path + u": cannot be read"_s : error.text;
@@ -96,7 +96,7 @@ QString ImageWriter::render(const Stretch& stretch, std::unique_ptr<SectorRender
 }
 
 void ImageWriter::work() {
-    std::vector<std::byte> memory(std::size_t(kBlockSectors * CDFormat::kBytesPerSector));
+    std::vector<std::byte> memory(std::size_t(kImageBlockSectors * CDFormat::kBytesPerSector));
     std::unique_ptr<SectorRenderer> renderer;
     std::size_t track = layout_.size();
     for (std::size_t i = next_++; i < stretches_.size() && !stopped_ && !aborted_; i = next_++) {

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 namespace Platform::MovedFiles {
 namespace {
 
-Q_LOGGING_CATEGORY(log, "sonaphex.foundation")
+Q_LOGGING_CATEGORY(movedFilesLog, "sonaphex.foundation")
 
 const QString noteEnding = u".origin"_s;
 // A note decides where a file is moved to, so notes of other users are refused.
@@ -47,7 +47,7 @@ QString setAside(const QString& path, const QString& wishedName) {
         return at;
     // An empty note needs no space on a full disk and also keeps the file.
     if (QFile note(at + noteEnding); !note.open(QIODevice::WriteOnly))
-        qCWarning(log, "%s goes with its temporary folder: %s", qUtf8Printable(at), qUtf8Printable(note.errorString()));
+        qCWarning(movedFilesLog, "%s goes with its temporary folder: %s", qUtf8Printable(at), qUtf8Printable(note.errorString()));
     return at;
 }
 
@@ -75,13 +75,13 @@ QStringList bringBack(const QString& folder) {
         if (const auto problem = FileManager::move(path, home); !problem.isEmpty()) {
             landed = FileManager::setAside(path, QFileInfo(home).fileName());
             if (landed == path) {
-                qCWarning(log, "%s is still at %s: it cannot be put back (%s)", qUtf8Printable(home),
+                qCWarning(movedFilesLog, "%s is still at %s: it cannot be put back (%s)", qUtf8Printable(home),
                           qUtf8Printable(path), qUtf8Printable(problem));
                 stay += {name.chopped(noteEnding.size()), name};
                 continue;
             }
         }
-        qCWarning(log, "%s was left in a temporary folder; it is back at %s", qUtf8Printable(home),
+        qCWarning(movedFilesLog, "%s was left in a temporary folder; it is back at %s", qUtf8Printable(home),
                   qUtf8Printable(landed));
         forget(path);
     }

@@ -25,7 +25,7 @@ using namespace Qt::StringLiterals;
 namespace Platform {
 namespace {
 
-Q_LOGGING_CATEGORY(log, "sonaphex.foundation")
+Q_LOGGING_CATEGORY(defaultsLog, "sonaphex.foundation")
 
 constexpr auto retryAfter = std::chrono::seconds(5);
 // Changes that come so soon after one another are one save. A burst that goes on is saved all the same.
@@ -254,7 +254,7 @@ bool PropertyListDefaults::readAgain(Damage damage) {
     if (!opened.file) {
         if (opened.error == ENOENT || opened.error == ENOTDIR)
             return true; // a file that was removed is written again completely by the next save
-        qCWarning(log, "cannot read %s: %s", qUtf8Printable(path_), qUtf8Printable(opened.why));
+        qCWarning(defaultsLog, "cannot read %s: %s", qUtf8Printable(path_), qUtf8Printable(opened.why));
         errno = opened.error != 0 ? opened.error : EINVAL;
         return false;
     }
@@ -264,7 +264,7 @@ bool PropertyListDefaults::readAgain(Damage damage) {
 
     QByteArray content(qsizetype(opened.status.st_size), Qt::Uninitialized);
     if (readAllAt(opened.file.get(), content.data(), std::size_t(content.size()), 0) != content.size()) {
-        qCWarning(log, "cannot read %s: %s", qUtf8Printable(path_), qUtf8Printable(qt_error_string(errno)));
+        qCWarning(defaultsLog, "cannot read %s: %s", qUtf8Printable(path_), qUtf8Printable(qt_error_string(errno)));
         return false;
     }
     if (auto dictionary = PropertyList::fromXml(content, &spent_)) {
@@ -288,13 +288,13 @@ void PropertyListDefaults::setAsideDamaged() {
             return; // already gone (another process moved it), or the folder is not writable
         target = name + u'-' + QString::number(number);
     }
-    qCWarning(log, "%s is damaged; it was kept as %s", qUtf8Printable(path_), qUtf8Printable(target));
+    qCWarning(defaultsLog, "%s is damaged; it was kept as %s", qUtf8Printable(path_), qUtf8Printable(target));
 }
 
 bool PropertyListDefaults::save(const Changes& changes, const QHash<QString, Merge>& merges) {
     const auto problem = [this](const char* what) {
         if (!std::exchange(problemTold_, true))
-            qCWarning(log, "cannot save %s: %s: %s", qUtf8Printable(path_), what,
+            qCWarning(defaultsLog, "cannot save %s: %s: %s", qUtf8Printable(path_), what,
                       qUtf8Printable(qt_error_string(errno)));
         return false;
     };

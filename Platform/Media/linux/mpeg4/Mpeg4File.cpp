@@ -10,7 +10,7 @@ namespace Platform {
 namespace {
 
 constexpr std::uint64_t shortBox = 0xffffffff; // largest box whose size fits in 32 bits
-constexpr std::size_t copyBytes = 1 << 20;
+constexpr std::size_t copyAtOnce = 1 << 20;
 
 /// MPEG-4 times count from 1904.
 constexpr std::uint64_t secondsFrom1904To1970 = 2082844800;
@@ -79,7 +79,7 @@ private:
             buffer.resize(at + bytes);
             if (!file_.readBack(chunk.offset, std::span(buffer).subspan(at)))
                 plain.fail({MediaError::Kind::Other, {}});
-            if (buffer.size() >= copyBytes) {
+            if (buffer.size() >= copyAtOnce) {
                 plain.append(buffer);
                 buffer.clear();
             }

@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 namespace Platform {
 namespace {
 
-constexpr std::size_t mostBoxes = 2'000'000;
+constexpr std::size_t mostLaidOutBoxes = 2'000'000;
 
 /// Whether the data behind the index is part of an index that an interrupted save left: truncated, or zeros where a
 /// power cut came before the content.
@@ -45,7 +45,7 @@ std::optional<Mpeg4Layout> readLayout(const ByteSource& file, QString& why) {
         const bool isIndex = box->type == fourCharCode("moov");
         if (!layout.complete && (isIndex || box->type == fourCharCode("moof")))
             return refuse(u"the file ends within its index"_s);
-        if (layout.boxes.size() >= mostBoxes)
+        if (layout.boxes.size() >= mostLaidOutBoxes)
             return refuse(u"too many boxes"_s);
         layout.fragmented = layout.fragmented || box->type == fourCharCode("moof");
         box->length = std::min(box->length, file.size() - at);

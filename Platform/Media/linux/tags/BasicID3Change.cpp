@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 namespace Platform {
 namespace {
 
-Q_LOGGING_CATEGORY(log, "sonaphex.media")
+Q_LOGGING_CATEGORY(tagsLog, "sonaphex.media")
 
 constexpr const char* titleItem = "\251nam";
 constexpr const char* artistItem = "\251ART";
@@ -136,7 +136,7 @@ bool BasicID3Change::setMpeg4ID3Information(const QString& path, const QString& 
                                             const QString& album, int year, const QString& genre) {
     const QString problem = writeTexts(path, {name, artist, album, genre, year});
     if (!problem.isEmpty())
-        qCWarning(log, "%s", qUtf8Printable(problem));
+        qCWarning(tagsLog, "%s", qUtf8Printable(problem));
     return problem.isEmpty();
 }
 
