@@ -48,7 +48,7 @@ bool takesFiles(const char* declared) {
     return false;
 }
 
-QString long_(const Option& option) {
+QString longForm(const Option& option) {
     return u"--"_s + QString::fromUtf8(option.name);
 }
 
@@ -75,7 +75,7 @@ QString manualPage(const Commands& commands) {
             page += u' ' + roff(command->operands);
         page += u"\"\n"_s + sentence(command->summary) + u'\n';
         for (const Option& option : command->options) {
-            page += u".TP\n.B "_s + roff(long_(option));
+            page += u".TP\n.B "_s + roff(longForm(option));
             if (*option.value)
                 page += u" \\fI"_s + roff(option.value) + u"\\fR"_s;
             page += u'\n' + sentence(option.sentence);
@@ -107,12 +107,12 @@ QString bashCompletion(const Commands& commands) {
         QStringList words = choices(command->operands);
         QString values;
         for (const Option& option : command->options) {
-            words << long_(option);
+            words << longForm(option);
             if (!*option.value)
                 continue;
             const QStringList offered = choices(option.value);
             values += u"            %1) COMPREPLY=($(compgen %2 -- \"$word\")); return ;;\n"_s.arg(
-                long_(option), takesFiles(option.value) ? u"-f"_s : u"-W "_s + quoted(offered.join(u' ')));
+                longForm(option), takesFiles(option.value) ? u"-f"_s : u"-W "_s + quoted(offered.join(u' ')));
         }
         cases += u"        %1)\n"_s.arg(name);
         if (!values.isEmpty())
@@ -149,7 +149,7 @@ QString zshCompletion(const Commands& commands) {
         described += u"        %1\n"_s.arg(quoted(name + u':' + spec(QString::fromUtf8(command->summary))));
         cases += u"        %1)\n            _arguments"_s.arg(name);
         for (const Option& option : command->options) {
-            QString one = long_(option) + u'[' + spec(QString::fromUtf8(option.sentence)) + u']';
+            QString one = longForm(option) + u'[' + spec(QString::fromUtf8(option.sentence)) + u']';
             if (*option.value)
                 one += u':' + spec(QString::fromUtf8(option.value)) + u':' + action(option.value);
             cases += u" \\\n                "_s + quoted(one);

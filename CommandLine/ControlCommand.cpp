@@ -41,7 +41,7 @@ int run(const QStringList& given) {
     if (arguments.size() != 1 || !known.contains(arguments.front()))
         return wrongUsage(controlCommand, arguments.isEmpty() ? u"control takes a command"_s
                                                               : u"%1: no such command"_s.arg(arguments.join(u' ')));
-    const QString command = arguments.front();
+    const QString& command = arguments.front();
 
     QByteArray request = command.toUtf8();
     if (command == u"show"_s)

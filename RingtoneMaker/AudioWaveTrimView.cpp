@@ -103,7 +103,7 @@ AudioWaveTrimView::DragType AudioWaveTrimView::judgeDragType(QPointF point) cons
 }
 
 void AudioWaveTrimView::doDragAction(DragType type, QPointF from, QPointF to) {
-    const float dx = float(to.x() - from.x());
+    const auto dx = float(to.x() - from.x());
     const float start = audioFrom();
     const float length = audioLength();
     const float end = start + length;

@@ -378,7 +378,7 @@ void RingtoneMakerViewController::updatePlaySoundPreviewCurrentTime() {
         return;
     const AudioWaveTrimView& selection = *ui_->audioWaveTrimView;
     const double now = sound_->currentTime();
-    const double from = double(selection.audioFromTime());
+    const auto from = double(selection.audioFromTime());
     if (now < from || now > double(selection.audioToTime()))
         sound_->setCurrentTime(from);
     // A selection that reaches to the end of the file: the player has stopped by itself before the time went beyond the

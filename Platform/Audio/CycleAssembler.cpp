@@ -32,12 +32,12 @@ bool CycleAssembler::next(CaptureCycle& cycle, bool fillLost, bool flush) {
         if (silenceLeft_ > 0) {
             const auto silent = std::uint32_t(std::min<std::uint64_t>(room, silenceLeft_));
             for (std::uint32_t i = 0; i < ring_.channels(); ++i)
-                std::fill_n(buffer_.data() + i * cycleFrames_ + filled_, silent, 0.0f);
+                std::fill_n(buffer_.data() + std::size_t(i) * cycleFrames_ + filled_, silent, 0.0f);
             silenceLeft_ -= silent;
             filled_ += silent;
         } else {
             for (std::uint32_t i = 0; i < ring_.channels(); ++i)
-                destinations_[i] = buffer_.data() + i * cycleFrames_ + filled_;
+                destinations_[i] = buffer_.data() + std::size_t(i) * cycleFrames_ + filled_;
             const auto count = ring_.take(destinations_, room);
             filled_ += count;
             if (count == block.frames)

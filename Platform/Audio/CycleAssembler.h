@@ -4,6 +4,7 @@
 
 #include "Platform/Audio/CaptureRing.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -28,7 +29,9 @@ public:
     /// made from the rest.
     [[nodiscard]] bool next(CaptureCycle& cycle, bool fillLost, bool flush = false);
     /// The samples of the cycle that the last next() made.
-    [[nodiscard]] const float* channel(std::uint32_t index) const { return buffer_.data() + index * cycleFrames_; }
+    [[nodiscard]] const float* channel(std::uint32_t index) const {
+        return buffer_.data() + std::size_t(index) * cycleFrames_;
+    }
 
 private:
     [[nodiscard]] std::uint64_t nanoseconds(std::uint64_t frames) const {

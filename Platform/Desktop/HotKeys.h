@@ -27,6 +27,7 @@ public:
     virtual ~HotKeys() = default;
     [[nodiscard]] virtual Way way() const = 0;
     /// Called when way() changed: a desktop portal answers some time after the start.
+    // NOLINTNEXTLINE(performance-unnecessary-value-param): an override keeps the handler
     virtual void setWayChangedHandler(std::function<void()> /*handler*/) {}
     /// Describes a combination's action. A desktop may show this text when it asks the user for consent.
     virtual void describe(Id /*id*/, const QString& /*text*/) {}
@@ -34,6 +35,7 @@ public:
     /// Called on the main thread when a combination that registerHotKey() accepted is refused later: a desktop portal
     /// answers asynchronously and may ask the user first. The handle is no longer valid then.
     using RefusedHandler = std::function<void(Handle)>;
+    // NOLINTNEXTLINE(performance-unnecessary-value-param): an override keeps the handler
     virtual void setRefusedHandler(RefusedHandler /*handler*/) {}
     /// Grabs a combination for the program.
     /// @param keyCode ANSI virtual key code of the physical key

@@ -14,7 +14,7 @@ inline constexpr int kBytesPerSector = 2352;
 inline constexpr int kSectorsPerSecond = 75;
 inline constexpr std::int64_t kShortestTrack = 300; ///< sectors: players may skip shorter tracks
 inline constexpr int kMostTracks = 99;
-inline constexpr std::int64_t kSectorsOf80Minutes = 80 * 60 * kSectorsPerSecond;
+inline constexpr std::int64_t kSectorsOf80Minutes = std::int64_t(80) * 60 * kSectorsPerSecond;
 } // namespace CDFormat
 
 } // namespace Platform

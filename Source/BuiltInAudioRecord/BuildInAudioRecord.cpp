@@ -238,7 +238,7 @@ OSStatus BuildInAudioRecord::writeCycle(Export& file, std::uint32_t first, std::
 
 void BuildInAudioRecord::measureTime(const AudioTimeStamp& timeStamp, std::uint32_t frames) {
     if (previousHostTime_ != 0 && timeStamp.mHostTime > previousHostTime_) {
-        const double took = double(timeStamp.mHostTime - previousHostTime_);
+        const auto took = double(timeStamp.mHostTime - previousHostTime_);
         const double nominal = double(previousFrames_) / actualOutputFormat_.mSampleRate * 1e9;
         // A longer gap means that the device was away; it says nothing about the clock.
         if (std::fabs(took - nominal) < 50e6) {

@@ -35,8 +35,9 @@ OSStatus statusOf(Kind kind) {
     }
 }
 
-constexpr std::int64_t kLongestRefused = 2;        ///< an entry's seconds, which are those of the file plus one
-constexpr std::int64_t kLongest = 365 * 24 * 3600; ///< a damaged library entry may contain any length
+constexpr std::int64_t kLongestRefused = 2; ///< an entry's seconds, which are those of the file plus one
+/// A damaged library entry may contain any length.
+constexpr std::int64_t kLongest = std::int64_t(365) * 24 * 3600;
 
 Dictionary entryOf(const QString& path, std::int64_t wholeSeconds) {
     const std::int64_t length = std::min(wholeSeconds, kLongest) + 1;

@@ -60,7 +60,7 @@ FileValues fileValuesOf(const QByteArray& document) {
 
 QStringList texts(const QJsonValue& array) {
     QStringList list;
-    for (const QJsonValue& value : array.toArray())
+    for (const auto& value : array.toArray())
         list.append(value.toString());
     return list;
 }

@@ -176,7 +176,7 @@ void AudioTrimEditView::mouseReleaseEvent(QMouseEvent* event) {
 void AudioTrimEditView::nudge(double seconds) {
     if (duration_ <= 0)
         return;
-    const float step = float(seconds / duration_);
+    const auto step = float(seconds / duration_);
     if (lastHandle_ == RightHandle)
         setRightTrim(std::clamp(rightTrimRate_ + step, leftTrimRate_, 1.0F));
     else

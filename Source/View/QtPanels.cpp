@@ -42,7 +42,8 @@ protected:
             QFileDialog::accept(); // reports a missing file, or closes
             return;
         }
-        QDialog::accept();
+        QDialog::accept(); // NOLINT(bugprone-parent-virtual-call): QFileDialog would enter the folder instead of taking
+                           // it
     }
 };
 

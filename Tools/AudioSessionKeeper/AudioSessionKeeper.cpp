@@ -48,9 +48,12 @@ using SteadyClock = std::chrono::steady_clock;
 constexpr const char* folderPrefix = "sonaphex-audio-";
 
 void removeFolder(const std::string& folder) {
-    nftw(
-        folder.c_str(), [](const char* path, const struct stat*, int, FTW*) { return remove(path) == 0 ? 0 : 0; }, 16,
-        FTW_DEPTH | FTW_PHYS | FTW_MOUNT);
+    // What cannot be removed stays; the rest is removed all the same.
+    const auto removeOne = [](const char* path, const struct stat*, int, FTW*) {
+        (void)remove(path);
+        return 0;
+    };
+    nftw(folder.c_str(), removeOne, 16, FTW_DEPTH | FTW_PHYS | FTW_MOUNT);
 }
 
 /// Removes the folders of keepers that were killed: a running keeper holds the lock of its folder.
@@ -221,6 +224,7 @@ private:
         unsetenv("WIREPLUMBER_CONFIG_DIR");
         setenv("DBUS_SESSION_BUS_ADDRESS", "disabled:", 1);
         std::vector<char*> arguments;
+        arguments.reserve(command.size() + 1);
         for (const auto& each : command)
             arguments.push_back(const_cast<char*>(each.c_str()));
         arguments.push_back(nullptr);

@@ -134,6 +134,7 @@ bool LinuxPrivateSession::spawnKeeper(const QStringList& arguments, QString& why
     fromKeeper_ = output[0];
 
     std::vector<QByteArray> bytes;
+    bytes.reserve(std::size_t(arguments.size()));
     for (const QString& each : arguments)
         bytes.push_back(each.toLocal8Bit());
     std::vector<char*> argv;

@@ -22,7 +22,7 @@ namespace Platform {
 
 namespace {
 
-constexpr std::int64_t kStretchSectors = 120 * CDFormat::kSectorsPerSecond;
+constexpr std::int64_t kStretchSectors = std::int64_t(120) * CDFormat::kSectorsPerSecond;
 constexpr std::int64_t kImageBlockSectors = 75;
 constexpr unsigned kMostThreads = 8;
 constexpr auto kBetweenReports = std::chrono::milliseconds(100);

@@ -47,7 +47,8 @@ QString setAside(const QString& path, const QString& wishedName) {
         return at;
     // An empty note needs no space on a full disk and also keeps the file.
     if (QFile note(at + noteEnding); !note.open(QIODevice::WriteOnly))
-        qCWarning(movedFilesLog, "%s goes with its temporary folder: %s", qUtf8Printable(at), qUtf8Printable(note.errorString()));
+        qCWarning(movedFilesLog, "%s goes with its temporary folder: %s", qUtf8Printable(at),
+                  qUtf8Printable(note.errorString()));
     return at;
 }
 

@@ -74,8 +74,8 @@ bool InputFile::sparseSamples(std::span<const std::int64_t> frames, std::span<fl
     std::vector<char> good(threads, 0);
     std::vector<std::jthread> workers;
     for (std::size_t t = 1; t < threads; ++t)
-        workers.emplace_back([&, t] { good[t] = part(count * t / threads, count * (t + 1) / threads); });
-    good[0] = part(0, count / threads);
+        workers.emplace_back([&, t] { good[t] = char(part(count * t / threads, count * (t + 1) / threads)); });
+    good[0] = char(part(0, count / threads));
     workers.clear();
     return std::ranges::all_of(good, [](char done) { return done != 0; });
 }

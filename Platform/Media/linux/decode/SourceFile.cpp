@@ -8,6 +8,7 @@
 #include <QFile>
 
 #include <cerrno>
+#include <cmath>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -115,7 +116,7 @@ ContainerFacts readMpeg4Facts(const SourceFile& file, int rate) {
         if (!(edited >= 0 && edited < longestBelieved))
             return true;
         const bool rounded = movieScale < rate && std::abs(edited - double(left)) <= double(rate) / double(movieScale);
-        facts.validFrames = rounded ? left : std::min(left, std::int64_t(edited + 0.5));
+        facts.validFrames = rounded ? left : std::min(left, std::int64_t(std::llround(edited)));
         return true;
     });
     return facts;

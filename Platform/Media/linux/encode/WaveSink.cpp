@@ -45,7 +45,7 @@ inline std::int32_t toInt32(float sample) {
 inline std::int32_t toInt(float sample, int bits) {
     if (bits == 32)
         return toInt32(sample);
-    const double limit = double(1 << (bits - 1));
+    const auto limit = double(1 << (bits - 1));
     const double scaled = double(sample) * limit;
     if (!(scaled == scaled))
         return 0;

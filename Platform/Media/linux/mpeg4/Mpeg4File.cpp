@@ -100,7 +100,7 @@ private:
         out_.clear();
         if (!indexed)
             return;
-        const std::uint64_t size = std::uint64_t(end - growingStart_);
+        const auto size = std::uint64_t(end - growingStart_);
         writeMediaHeader(size - (size <= shortBox ? 8 : 16));
         file_.patch(growingStart_, out_.data());
     }
