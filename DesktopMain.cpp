@@ -82,6 +82,8 @@ int runWindows(int argc, char** argv) {
     // Closing the last visible window does not end the program: all windows but the main one may be closed.
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setApplicationName(QStringLiteral("Sonaphex"));
+    // A Wayland compositor finds icon and title of a window by this name of its desktop file.
+    QApplication::setDesktopFileName(QStringLiteral("com.korvane.Sonaphex"));
     Platform::LinuxServices services;
     services.install(Platform::LinuxServices::Mode::Window);
     const auto tell = [](const QString& what, const QString& why) {
