@@ -65,8 +65,7 @@ bool Driver::start(const std::string& configuration) {
 
     loop_.reset(pw_main_loop_new(nullptr));
     auto* loop = pw_main_loop_get_loop(loop_.get());
-    // The mixer needs a real-time data thread, which the default client configuration does not provide.
-    context_.reset(pw_context_new(loop, pw_properties_new(PW_KEY_CONFIG_NAME, "client-rt.conf", nullptr), 0));
+    context_.reset(pw_context_new(loop, realTimeClient(), 0));
     if (context_)
         core_.reset(pw_context_connect(context_.get(), nullptr, 0));
     if (!core_) {

@@ -39,8 +39,7 @@ PipeWireConnection::PipeWireConnection() {
         loop(),
         pw_loop_add_event(
             loop(), [](void* data, std::uint64_t) { static_cast<PipeWireConnection*>(data)->onServerGone(); }, this));
-    // The ordinary client configuration gives no real-time data thread, and without one a busy machine loses audio.
-    context_.reset(pw_context_new(loop(), pw_properties_new(PW_KEY_CONFIG_NAME, "client-rt.conf", nullptr), 0));
+    context_.reset(pw_context_new(loop(), realTimeClient(), 0));
     connect();
     pw_thread_loop_start(loop_.get());
 }

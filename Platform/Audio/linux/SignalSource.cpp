@@ -94,8 +94,7 @@ bool SignalSource::Connection::start(std::string& why) {
         why = strerror(errno);
         return false;
     }
-    context.reset(pw_context_new(pw_thread_loop_get_loop(loop.get()),
-                                 pw_properties_new(PW_KEY_CONFIG_NAME, "client-rt.conf", nullptr), 0));
+    context.reset(pw_context_new(pw_thread_loop_get_loop(loop.get()), realTimeClient(), 0));
     if (!context || pw_thread_loop_start(loop.get()) < 0) {
         why = strerror(errno);
         return false;

@@ -142,8 +142,7 @@ bool SoundPlayer::Connection::start(QString& why) {
     initialiseLibrary();
     loop.reset(pw_thread_loop_new("sonaphex-play", nullptr));
     if (loop)
-        context.reset(pw_context_new(pw_thread_loop_get_loop(loop.get()),
-                                     pw_properties_new(PW_KEY_CONFIG_NAME, "client-rt.conf", nullptr), 0));
+        context.reset(pw_context_new(pw_thread_loop_get_loop(loop.get()), realTimeClient(), 0));
     if (!context || pw_thread_loop_start(loop.get()) < 0) {
         why = QString::fromLocal8Bit(strerror(errno));
         return false;
