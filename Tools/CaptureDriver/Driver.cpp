@@ -62,6 +62,8 @@ bool Driver::start(const std::string& configuration) {
     pw_properties_set(properties_.get(), "factory.name", "support.null-audio-sink");
     // The server removes the node when this process ends.
     pw_properties_set(properties_.get(), "object.linger", "false");
+    // PipeWire 1.4 takes a link for passive only when its node is: with an ordinary input no output could go to sleep.
+    pw_properties_set(properties_.get(), PW_KEY_NODE_PASSIVE, "in");
 
     loop_.reset(pw_main_loop_new(nullptr));
     auto* loop = pw_main_loop_get_loop(loop_.get());

@@ -11,10 +11,11 @@ Mixer::Mixer(pw_context* context, pw_core* core, std::uint32_t output, std::vect
              std::function<void()> failed)
     : context_(context), output_(output), channels_(std::move(channels)), failed_(std::move(failed)) {
     // No media class: the session manager links and suspends only nodes that have a media class.
+    // Passive: while nothing captures the device, the output that the mixer reads may go to sleep.
     filter_.reset(pw_filter_new(core, "Korvane System Audio Mix",
                                 pw_properties_new(PW_KEY_NODE_NAME, "korvane.system-audio.mix", PW_KEY_MEDIA_TYPE,
                                                   "Audio", PW_KEY_MEDIA_CATEGORY, "Filter", PW_KEY_MEDIA_ROLE, "DSP",
-                                                  PW_KEY_NODE_VIRTUAL, "true", nullptr)));
+                                                  PW_KEY_NODE_VIRTUAL, "true", PW_KEY_NODE_PASSIVE, "true", nullptr)));
     if (!filter_) {
         broken_ = true;
         return;

@@ -14,7 +14,7 @@ apt_test="libgtest-dev libgmock-dev xvfb xauth x11-utils x11-xkb-utils dbus dbus
   dunst ffmpeg faad
   mediainfo atomicparsley sox libsox-fmt-all gstreamer1.0-tools gstreamer1.0-plugins-base gstreamer1.0-plugins-good
   gstreamer1.0-plugins-bad gstreamer1.0-libav pipewire-pulse procps libcdio-utils bchunk groff-base zsh fish time"
-apt_package="debhelper dpkg-dev lintian appstream desktop-file-utils git"
+apt_package="build-essential debhelper dpkg-dev lintian appstream desktop-file-utils git"
 apt_check="clang-format clang-tidy git"
 apt_bench="$apt_test qmmp"
 

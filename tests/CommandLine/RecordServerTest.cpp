@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The real program on a sound server, as a terminal user runs it.
 #include "tests/CommandLine/RecordServerFixture.h"
+#include "tests/support/TestCapture.h"
 
 TEST_F(RecordServer, RecordsFiveSecondsOfAToneThatOtherProgramsRead) {
     tone();
@@ -66,6 +67,10 @@ TEST_F(RecordServer, LeavesADeviceAloneThatItDoesNotRecord) {
     TestSource other({.name = "test.left.alone", .description = "Left alone"});
     ASSERT_TRUE(other.start());
     ASSERT_TRUE(Platform::PipeWire::serverIsThere(30000, true, "test.left.alone"));
+    {
+        TestCapture capture({.target = "test.left.alone", .monitor = false});
+        ASSERT_TRUE(capture.start()); // PipeWire 1.4 tells the volumes of a node that has run
+    }
     const QString driver = QStringLiteral(SONAPHEX_BIN_DIR "/Resources/ComputerAudioCapture.kext/CaptureDriver");
     QProcess computerAudio;
     computerAudio.start(driver, QStringList());

@@ -205,6 +205,9 @@ void CaptureStream::deviceGone(AudioObjectID device) {
 void CaptureStream::serverGone() {
     gone_ = false;
     closeStream();
+    // A server that is told to end takes its devices away first (PipeWire 1.4): the server is what is missing.
+    if (missing_ == Missing::Device)
+        missing_ = Missing::Nothing;
     lose(Change::ServerLost);
 }
 

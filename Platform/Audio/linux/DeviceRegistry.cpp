@@ -294,7 +294,14 @@ void DeviceRegistry::Node::onParam(std::uint32_t id, const spa_pod* pod) {
         if (const auto format = NodeFormat::read(pod); format.known() && !offered.known())
             offered = format;
     } else if (id == SPA_PARAM_Props) {
-        info.hasVolume = readVolumes(pod, info.volumes, info.muted) || info.hasVolume;
+        // PipeWire 1.4 keeps telling the values from before ours while the node has never run. Only a change is news.
+        auto volumes = toldVolumes;
+        bool muted = toldMuted;
+        info.hasVolume = readVolumes(pod, volumes, muted) || info.hasVolume;
+        if (volumes != toldVolumes)
+            info.volumes = toldVolumes = std::move(volumes);
+        if (muted != toldMuted)
+            info.muted = toldMuted = muted;
     }
     if (announced)
         owner.publish(*this);

@@ -112,7 +112,9 @@ TEST_F(InputUnitTest, StampsEachCycleWithTheTimeOfItsCapture) {
     const auto cycles = capture.cycles();
     const double seconds = double(cycles.back().firstFrame) / capture.sampleRate();
     EXPECT_NEAR(double(cycles.back().hostTime - cycles.front().hostTime) * 1e-9, seconds, 0.001);
-    EXPECT_GT(cycles.front().hostTime, begun);
+    // The first cycle is recorded from its first frame on, which was captured as the source began to run.
+    EXPECT_GT(double(cycles.front().hostTime) * 1e-9 + cycles.front().frames / capture.sampleRate(),
+              double(begun) * 1e-9);
     EXPECT_LT(cycles.back().hostTime, clock());
     for (std::size_t i = 0; i < cycles.size(); ++i) {
         EXPECT_EQ(cycles[i].scopeTime, cycles[i].hostTime);
@@ -242,7 +244,8 @@ TEST_F(InputUnitTest, GoesOnWhenTheServerCameBack) {
 }
 
 TEST_F(InputUnitTest, SaysThatNothingComesWhileTheServerStandsStill) {
-    TestSource source({.description = "Standing still"});
+    // On the server's clock: since PipeWire 1.4 a source with its own wakes who captures it without the server.
+    TestSource source({.description = "Standing still", .ownClock = false});
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());
     ASSERT_TRUE(captured(capture, 0.3));
