@@ -45,9 +45,9 @@ need_packages() {
         for name in $names; do [[ "$have" == *" $name "* ]] || missing+=" $name"; done
         [ -n "$missing" ] || return 0
         say "installing with apt:$missing"
-        as_root apt-get update -q >&2 || say "apt-get update failed; trying with the lists at hand"
+        as_root apt-get -o DPkg::Lock::Timeout=300 update -q >&2 || say "apt-get update failed; trying with the lists at hand"
         # shellcheck disable=SC2086
-        as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends $missing >&2 ||
+        as_root env DEBIAN_FRONTEND=noninteractive apt-get -o DPkg::Lock::Timeout=300 install -y -q --no-install-recommends $missing >&2 ||
             die "apt could not install:$missing"
     elif command -v dnf >/dev/null; then
         for kind in build run; do local list="dnf_$kind"; names+=" ${!list}"; done
