@@ -56,7 +56,8 @@ struct RingtoneWorld : LibraryWorld, RingtoneMakerViewControllerDelegate {
         maker.window()->resize(size);
         maker.window()->show();
         (void)QTest::qWaitForWindowExposed(maker.window(), 30000);
-        QApplication::setActiveWindow(maker.window());
+        maker.window()->activateWindow();
+        (void)QTest::qWaitForWindowActive(maker.window(), 30000);
     }
     [[nodiscard]] bool outlineDone() {
         return waitFor([this] { return !maker.generatingWave(); });
