@@ -19,7 +19,8 @@ public:
     }
     /// The reference date plus the seconds, in UTC: tests do not depend on the machine's time zone.
     [[nodiscard]] QDateTime now() const override {
-        return QDateTime(QDate(2001, 1, 1), QTime(0, 0), QTimeZone::utc()).addMSecs(static_cast<qint64>(seconds_ * 1000));
+        return QDateTime(QDate(2001, 1, 1), QTime(0, 0), QTimeZone::utc())
+            .addMSecs(static_cast<qint64>(seconds_ * 1000));
     }
 
     /// Moves all three forward.
