@@ -10,6 +10,7 @@
 #include "Platform/Desktop/linux/LinuxDesktop.h"
 #include "Platform/Desktop/linux/LinuxHotKeys.h"
 #include "Platform/Desktop/linux/PortalColorScheme.h"
+#include "Platform/Desktop/linux/PortalRegistry.h"
 #include "Platform/Disc/linux/LinuxDiscRecording.h"
 #include "Platform/Foundation/Bundle.h"
 #include "Platform/Foundation/Services.h"
@@ -65,6 +66,7 @@ void LinuxServices::install(Mode mode) {
     set.diskArbitration = (d->diskArbitration = createDiskArbitration()).get();
     if (mode == Mode::CommandLine)
         return;
+    introduceToPortal(set.bundle->bundleIdentifier()); // the first word to the portal
     set.colorScheme = (d->colorScheme = createColorScheme()).get();
     set.hotKeys = (d->hotKeys = createHotKeys()).get();
 }

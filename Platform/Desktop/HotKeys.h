@@ -37,6 +37,11 @@ public:
     using RefusedHandler = std::function<void(Handle)>;
     // NOLINTNEXTLINE(performance-unnecessary-value-param): an override keeps the handler
     virtual void setRefusedHandler(RefusedHandler /*handler*/) {}
+    /// Called on the main thread when the desktop tells which keys lead to a registered combination, in its own words:
+    /// the user may have chosen other keys in the desktop's settings. Empty: no keys at the moment.
+    using TriggerHandler = std::function<void(Handle, const QString& trigger)>;
+    // NOLINTNEXTLINE(performance-unnecessary-value-param): an override keeps the handler
+    virtual void setTriggerHandler(TriggerHandler /*handler*/) {}
     /// Grabs a combination for the program.
     /// @param keyCode ANSI virtual key code of the physical key
     /// @param carbonModifiers 256 Command, 512 Shift, 2048 Option, 4096 Control

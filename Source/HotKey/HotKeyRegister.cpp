@@ -23,6 +23,13 @@ void postRefusal(Platform::HotKeys::Handle handle) {
         {{HotKeyRegister::HotKeyRegisterHandleKey, static_cast<qulonglong>(handle)}});
 }
 
+void postTrigger(Platform::HotKeys::Handle handle, const QString& trigger) {
+    NotificationCenter::defaultCenter().post(
+        HotKeyRegister::HotKeyRegisterTriggerNotification,
+        {{HotKeyRegister::HotKeyRegisterHandleKey, static_cast<qulonglong>(handle)},
+         {HotKeyRegister::HotKeyRegisterTriggerKey, trigger}});
+}
+
 Platform::HotKeys* hotKeys() {
     return Platform::services().hotKeys;
 }
@@ -35,12 +42,16 @@ HotKeyRegister::HotKeyRegister()
           [this](const QString&, const Dictionary& userInfo) { hotKeyRegisterNotification(userInfo); })),
       refusedObservation_(NotificationCenter::defaultCenter().addObserver(
           HotKeyRegisterRefusedNotification,
-          [this](const QString&, const Dictionary& userInfo) { hotKeyRefused(userInfo); })) {
+          [this](const QString&, const Dictionary& userInfo) { hotKeyRefused(userInfo); })),
+      triggerObservation_(NotificationCenter::defaultCenter().addObserver(
+          HotKeyRegisterTriggerNotification,
+          [this](const QString&, const Dictionary& userInfo) { hotKeyTrigger(userInfo); })) {
 }
 
 HotKeyRegister::~HotKeyRegister() {
     observation_.reset();
     refusedObservation_.reset();
+    triggerObservation_.reset();
     unregisterHotKey();
 }
 
@@ -50,6 +61,7 @@ void HotKeyRegister::registerHotKey(std::uint16_t keyCode, std::uint32_t modifie
         return;
     hotKeys()->setHandler(HotKeyRegisterHandler);
     hotKeys()->setRefusedHandler(postRefusal);
+    hotKeys()->setTriggerHandler(postTrigger);
     hotKeyHandle_ = hotKeys()->registerHotKey(keyCode, carbonKeyModifiers(modifier), {signature_, 1});
 }
 
@@ -67,6 +79,11 @@ void HotKeyRegister::hotKeyRefused(const Dictionary& userInfo) {
     hotKeyHandle_ = 0;
     if (refused_)
         refused_();
+}
+
+void HotKeyRegister::hotKeyTrigger(const Dictionary& userInfo) {
+    if (hotKeyHandle_ != 0 && userInfo.value(HotKeyRegisterHandleKey).toULongLong() == hotKeyHandle_ && triggerChanged_)
+        triggerChanged_(userInfo.value(HotKeyRegisterTriggerKey).toString());
 }
 
 bool HotKeyRegister::isEditKeybordShortcutControl() const {

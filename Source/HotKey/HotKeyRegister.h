@@ -19,6 +19,10 @@ public:
     static inline const QString HotKeyRegisterRefusedNotification = QStringLiteral("HotKeyRegisterRefusedNotification");
     static inline const QString HotKeyRegisterHandleKey = QStringLiteral("HotKeyRegisterHandleKey");
 
+    /// Notification that the desktop told the keys of a combination; its dictionary has the handle and the words.
+    static inline const QString HotKeyRegisterTriggerNotification = QStringLiteral("HotKeyRegisterTriggerNotification");
+    static inline const QString HotKeyRegisterTriggerKey = QStringLiteral("HotKeyRegisterTriggerKey");
+
     HotKeyRegister();
     ~HotKeyRegister();
     HotKeyRegister(const HotKeyRegister&) = delete;
@@ -38,14 +42,19 @@ public:
 
     /// Called when the combination is refused after registerHotKey() accepted it. Nothing is registered any more then.
     void setRefused(std::function<void()> refused) { refused_ = std::move(refused); }
+    /// Called when the desktop tells the keys that lead here, in its own words; empty when it has none.
+    void setTriggerChanged(std::function<void(const QString&)> changed) { triggerChanged_ = std::move(changed); }
 
 private:
     void hotKeyRefused(const Dictionary& userInfo);
+    void hotKeyTrigger(const Dictionary& userInfo);
 
     Platform::HotKeys::Handle hotKeyHandle_ = 0;
     std::uint32_t signature_ = 0;
     std::function<void()> operation_;
     std::function<void()> refused_;
+    std::function<void(const QString&)> triggerChanged_;
     std::unique_ptr<Platform::NotificationCenter::Observation> observation_;
     std::unique_ptr<Platform::NotificationCenter::Observation> refusedObservation_;
+    std::unique_ptr<Platform::NotificationCenter::Observation> triggerObservation_;
 };

@@ -104,8 +104,10 @@ KeybordShortcutTextView::~KeybordShortcutTextView() {
 
 void KeybordShortcutTextView::setHotKeyRegister(std::unique_ptr<HotKeyRegister> hotKeyRegister) {
     hotKeyRegister_ = std::move(hotKeyRegister);
-    if (hotKeyRegister_)
-        hotKeyRegister_->setRefused([this] { combinationRefused(); });
+    if (!hotKeyRegister_)
+        return;
+    hotKeyRegister_->setRefused([this] { combinationRefused(); });
+    hotKeyRegister_->setTriggerChanged([this](const QString& trigger) { setDesktopTrigger(trigger); });
 }
 
 Dictionary KeybordShortcutTextView::data() const {
@@ -148,7 +150,42 @@ void KeybordShortcutTextView::updateShortcutValue() {
     prepend(OptionFlag, u"Option + "_s);
     prepend(ControlFlag, u"Control + "_s);
     modifierFlags_ = mask;
-    setText(mask == 0 ? QString() : text);
+    setText(mask == 0 ? QString() : desktopTrigger_.value_or(text));
+}
+
+void KeybordShortcutTextView::setDesktopTrigger(const std::optional<QString>& trigger) {
+    // While the field has the focus the user is typing another one.
+    if (trigger == desktopTrigger_ || (hasFocus() && trigger))
+        return;
+    desktopTrigger_ = trigger;
+    setToolTip(!trigger            ? QString()
+               : trigger->isEmpty() ? tr("The desktop has no keys for this. Choose some in its settings.")
+                                    : tr("The desktop's settings say these keys."));
+    setPlaceholderText(trigger && trigger->isEmpty() ? tr("No keys in the desktop's settings")
+                                                     : tr("Click, then press the keys"));
+    updateShortcutValue();
+    if (menuItem_ && menuItem_->data().value<QObject*>() == this)
+        setMenuItem(menuItem_);
+}
+
+QKeySequence KeybordShortcutTextView::shownKeys() const {
+    if (modifierFlags_ == 0 || characters_.isEmpty())
+        return {};
+    if (desktopTrigger_) {
+        // Words of the desktop; some name keys as Qt does.
+        const auto keys = QKeySequence::fromString(*desktopTrigger_, QKeySequence::PortableText);
+        return keys.count() == 1 && keys[0].key() != Qt::Key_unknown ? keys : QKeySequence();
+    }
+    QString keys;
+    if (modifierFlags_ & ControlFlag)
+        keys += u"Ctrl+"_s;
+    if (modifierFlags_ & OptionFlag)
+        keys += u"Alt+"_s;
+    if (modifierFlags_ & ShiftFlag)
+        keys += u"Shift+"_s;
+    if (modifierFlags_ & CommandFlag)
+        keys += u"Meta+"_s;
+    return QKeySequence::fromString(keys + characters_.toUpper(), QKeySequence::PortableText);
 }
 
 bool KeybordShortcutTextView::updateHotKeyRegister() {
@@ -165,18 +202,7 @@ void KeybordShortcutTextView::setMenuItem(QAction* item) {
     menuItem_ = item;
     if (!item)
         return;
-    QString keys;
-    if (modifierFlags_ & ControlFlag)
-        keys += u"Ctrl+"_s;
-    if (modifierFlags_ & OptionFlag)
-        keys += u"Alt+"_s;
-    if (modifierFlags_ & ShiftFlag)
-        keys += u"Shift+"_s;
-    if (modifierFlags_ & CommandFlag)
-        keys += u"Meta+"_s;
-    const bool complete = modifierFlags_ != 0 && !characters_.isEmpty();
-    item->setShortcut(complete ? QKeySequence::fromString(keys + characters_.toUpper(), QKeySequence::PortableText)
-                               : QKeySequence());
+    item->setShortcut(shownKeys());
     item->setShortcutVisibleInContextMenu(true);
     // The item shows the shortcut, but the hot key triggers it; as a window shortcut it would trigger twice.
     item->setShortcutContext(Qt::WidgetShortcut);
@@ -283,6 +309,7 @@ void KeybordShortcutTextView::flagsChanged(std::uint32_t flags) {
         return;
     if (hotKeyRegister_)
         hotKeyRegister_->unregisterHotKey();
+    setDesktopTrigger({});
     characters_ = u""_s;
     modifierFlags_ = flags;
     keyCode_ = 0;
@@ -291,6 +318,7 @@ void KeybordShortcutTextView::flagsChanged(std::uint32_t flags) {
 
 // The combination is stored when the key is released: earlier, it would trigger at once while the key is still pressed.
 void KeybordShortcutTextView::keyDown(const QKeyEvent& event) {
+    setDesktopTrigger({});
     characters_ = charactersIgnoringModifiers(event);
     modifierFlags_ = flagsOf(event.modifiers());
     keyCode_ = keyCodeOf(event);
@@ -318,6 +346,7 @@ void KeybordShortcutTextView::combinationRefused() {
 }
 
 void KeybordShortcutTextView::clearShortcut() {
+    setDesktopTrigger({});
     modifierFlags_ = 0;
     characters_ = QString();
     keyCode_ = 0;

@@ -5,10 +5,12 @@
 #include "Platform/Foundation/Dictionary.h"
 #include "Source/HotKey/HotKeyRegister.h"
 
+#include <QKeySequence>
 #include <QLineEdit>
 #include <QPointer>
 
 #include <memory>
+#include <optional>
 
 class QAction;
 
@@ -58,6 +60,9 @@ public:
     bool updateHotKeyRegister();
 
     [[nodiscard]] QAction* menuItem() const { return menuItem_; }
+    /// What the desktop says by which keys the shortcut is reached; nothing where it says nothing. Its user may have
+    /// chosen others there than were typed here.
+    [[nodiscard]] const std::optional<QString>& desktopTrigger() const { return desktopTrigger_; }
     /// Shows the combination at @p item, which is not owned, and makes this field its represented object.
     void setMenuItem(QAction* item);
 
@@ -82,6 +87,8 @@ private:
     void finishCapture();
     void clearShortcut();
     void combinationRefused();
+    void setDesktopTrigger(const std::optional<QString>& trigger);
+    [[nodiscard]] QKeySequence shownKeys() const;
     void saveCapture();
     void letKeyboardGo();
 
@@ -90,6 +97,7 @@ private:
     std::uint32_t modifierFlags_ = 0;
     std::uint16_t keyCode_ = 0;
     std::unique_ptr<HotKeyRegister> hotKeyRegister_;
+    std::optional<QString> desktopTrigger_;
     QPointer<QAction> menuItem_;
     bool awaitsRelease_ = false;
     bool captured_ = false; ///< the combination was typed, not loaded

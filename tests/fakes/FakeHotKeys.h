@@ -20,6 +20,7 @@ public:
     Way way() const override { return currentWay; }
     void setHandler(Handler handler) override { handler_ = std::move(handler); }
     void setRefusedHandler(RefusedHandler handler) override { refused_ = std::move(handler); }
+    void setTriggerHandler(TriggerHandler handler) override { trigger_ = std::move(handler); }
     void setWayChangedHandler(std::function<void()> handler) override { wayChanged_ = std::move(handler); }
     Handle registerHotKey(std::uint16_t keyCode, std::uint32_t carbonModifiers, Id id) override {
         if (currentWay == Way::None || heldByOthers.contains({keyCode, carbonModifiers}))
@@ -53,6 +54,14 @@ public:
             return;
         }
     }
+    /// The user gives other keys to a combination in the desktop's settings.
+    void rebind(std::uint16_t keyCode, const QString& trigger) {
+        for (const auto& [handle, taken] : registrations)
+            if (taken.keyCode == keyCode) {
+                trigger_(handle, trigger);
+                return;
+            }
+    }
     void changeWay(Way way) {
         currentWay = way;
         if (wayChanged_)
@@ -66,6 +75,7 @@ public:
 private:
     Handler handler_;
     RefusedHandler refused_;
+    TriggerHandler trigger_;
     std::function<void()> wayChanged_;
     Handle last_ = 0;
 };

@@ -10,9 +10,11 @@
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 #include <QDBusVariant>
 #include <QTimer>
 
+#include <algorithm>
 #include <map>
 #include <set>
 
@@ -83,7 +85,8 @@ QString trigger(std::uint16_t keyCode, std::uint32_t carbonModifiers) {
 class PortalHotKeys : public QObject, public HotKeys {
     Q_OBJECT
 public:
-    PortalHotKeys() : bus_(QDBusConnection::sessionBus()) {
+    PortalHotKeys()
+        : bus_(QDBusConnection::sessionBus()), portals_(service, bus_, QDBusServiceWatcher::WatchForRegistration) {
         // Qt matches the slot by type name, and this type must be registered by name first.
         qRegisterMetaType<QDBusObjectPath>();
         qDBusRegisterMetaType<Shortcut>();
@@ -97,25 +100,23 @@ public:
         }
         bus_.connect(service, desktopPath, shortcutsInterface, u"Activated"_s, this,
                      SLOT(activated(QDBusObjectPath, QString, qulonglong, QVariantMap)));
-        auto question =
-            QDBusMessage::createMethodCall(service, desktopPath, u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
-        question << shortcutsInterface << u"version"_s;
-        call(question, [this](const QDBusMessage& reply) {
-            answered_ = true;
-            available_ = reply.type() == QDBusMessage::ReplyMessage;
-            if (wayChanged_)
-                wayChanged_();
-            if (available_ && !registrations_.empty())
-                rebind_.start();
-            if (!available_)
-                refuse(handles());
+        bus_.connect(service, desktopPath, shortcutsInterface, u"ShortcutsChanged"_s, this,
+                     SLOT(shortcutsChanged(QDBusMessage)));
+        // A portal that is started anew knows no session of the one before. The first one is started by the question.
+        connect(&portals_, &QDBusServiceWatcher::serviceRegistered, this, [this] {
+            if (answered_) {
+                session_.clear();
+                ask();
+            }
         });
+        ask();
     }
     ~PortalHotKeys() override { closeSession(); }
 
     Way way() const override { return available_ ? Way::Portal : Way::None; }
     void setHandler(Handler handler) override { handler_ = std::move(handler); }
     void setRefusedHandler(RefusedHandler handler) override { refusedHandler_ = std::move(handler); }
+    void setTriggerHandler(TriggerHandler handler) override { triggerHandler_ = std::move(handler); }
     void setWayChangedHandler(std::function<void()> handler) override { wayChanged_ = std::move(handler); }
     void describe(Id id, const QString& text) override { descriptions_[id.signature] = text; }
 
@@ -148,6 +149,13 @@ private Q_SLOTS:
             return;
         }
     }
+    /// The user gave other keys to some of the shortcuts, in the desktop's own settings.
+    void shortcutsChanged(const QDBusMessage& signal) {
+        if (signal.arguments().size() < 2 ||
+            signal.arguments().at(0).value<QDBusObjectPath>().path() != session_ || session_.isEmpty())
+            return;
+        tellTriggers(qdbus_cast<QList<Shortcut>>(signal.arguments().at(1)));
+    }
     void sessionResponse(uint response, const QVariantMap& results) {
         forgetRequest(SLOT(sessionResponse(uint, QVariantMap)));
         const QString session = results.value(u"session_handle"_s).toString();
@@ -169,7 +177,8 @@ private Q_SLOTS:
         // A portal that returns no list granted every shortcut.
         const QVariant listed = results.value(u"shortcuts"_s);
         std::set<QString> granted;
-        for (const auto& shortcut : qdbus_cast<QList<Shortcut>>(listed)) {
+        const auto shortcuts = qdbus_cast<QList<Shortcut>>(listed);
+        for (const auto& shortcut : shortcuts) {
             // Without a trigger the desktop knows the shortcut but assigned no combination to it.
             const QVariant keys = shortcut.properties.value(u"trigger_description"_s);
             if (!keys.isValid() || !keys.toString().isEmpty())
@@ -185,6 +194,7 @@ private Q_SLOTS:
                 refused.insert(handle);
         }
         refuse(refused);
+        tellTriggers(shortcuts);
     }
 
 private:
@@ -195,6 +205,33 @@ private:
         bool granted = false; ///< granted by the portal
     };
     using Handles = std::set<Handle>;
+
+    void ask() {
+        auto question =
+            QDBusMessage::createMethodCall(service, desktopPath, u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
+        question << shortcutsInterface << u"version"_s;
+        answered_ = false;
+        call(question, [this](const QDBusMessage& reply) {
+            answered_ = true;
+            available_ = reply.type() == QDBusMessage::ReplyMessage;
+            if (wayChanged_)
+                wayChanged_();
+            if (available_ && !registrations_.empty())
+                rebind_.start();
+            if (!available_)
+                refuse(handles());
+        });
+    }
+    void tellTriggers(const QList<Shortcut>& shortcuts) {
+        for (const Shortcut& shortcut : shortcuts) {
+            const QVariant trigger = shortcut.properties.value(u"trigger_description"_s);
+            const auto found = std::find_if(registrations_.cbegin(), registrations_.cend(), [&](const auto& each) {
+                return nameOf(each.second.id) == shortcut.id;
+            });
+            if (trigger.isValid() && found != registrations_.cend() && triggerHandler_)
+                triggerHandler_(found->first, trigger.toString());
+        }
+    }
 
     [[nodiscard]] Handles handles() const {
         Handles all;
@@ -292,6 +329,7 @@ private:
     }
 
     QDBusConnection bus_;
+    QDBusServiceWatcher portals_;
     QTimer rebind_;
     std::map<Handle, Registration> registrations_;
     Handles asked_; ///< the handles of the request that the portal is answering
@@ -304,6 +342,7 @@ private:
     bool available_ = false;
     Handler handler_;
     RefusedHandler refusedHandler_;
+    TriggerHandler triggerHandler_;
     std::function<void()> wayChanged_;
 };
 

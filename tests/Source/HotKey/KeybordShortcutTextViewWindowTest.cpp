@@ -294,6 +294,24 @@ TEST_F(ShortcutField, AMenuItemThatStandsForSomethingElseIsLeftAlone) {
     EXPECT_EQ(item.shortcut(), QKeySequence(Qt::CTRL | Qt::META | Qt::Key_S));
 }
 
+TEST_F(ShortcutField, ShowsTheKeysThatTheDesktopsSettingsSay) {
+    QAction item;
+    field->setMenuItem(&item);
+    hotKeys.rebind(1, u"Meta+F9"_s);
+    EXPECT_EQ(field->text(), u"Meta+F9"_s);
+    EXPECT_EQ(item.shortcut(), QKeySequence(Qt::META | Qt::Key_F9));
+    hotKeys.rebind(1, u"Press <Super>x twice"_s);
+    EXPECT_EQ(field->text(), u"Press <Super>x twice"_s);
+    EXPECT_TRUE(item.shortcut().isEmpty()) << "words that name no keys";
+    hotKeys.rebind(1, u""_s);
+    EXPECT_EQ(field->text(), u""_s) << "the user took the keys away";
+    EXPECT_FALSE(field->toolTip().isEmpty());
+    EXPECT_TRUE(stored().isEmpty()) << "nothing was typed here";
+    type(Qt::Key_J, Qt::AltModifier);
+    EXPECT_EQ(field->text(), u"Option + J"_s) << "until the desktop answers";
+    EXPECT_EQ(item.shortcut(), QKeySequence(Qt::ALT | Qt::Key_J));
+}
+
 TEST_F(ShortcutField, SurvivesItsMenuItem) {
     {
         QAction item;
