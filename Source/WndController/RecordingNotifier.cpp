@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/WndController/RecordingNotifier.h"
+
+#include "Platform/Desktop/Activation.h"
+#include "Source/Control/ToolControl.h"
+#include "Source/Model/AudioRecordEntry.h"
+#include "Source/Preferences/PreferenceStore.h"
+#include "Source/WndController/LibraryPresenter.h"
+#include "Source/WndController/MainWndController.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QMainWindow>
+#include <QRegularExpression>
+#include <QWindow>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto showKey = u"show"_s;
+const auto playKey = u"play"_s;
+
+/// A notice whose numbers grow is the same notice.
+QString withoutNumbers(QString notice) {
+    static const QRegularExpression numbers(u"[0-9][0-9.,]*"_s);
+    return notice.remove(numbers);
+}
+
+} // namespace
+
+RecordingNotifier::RecordingNotifier(MainWndController& window, std::unique_ptr<Platform::Notifications> desktop,
+                                     QObject* parent)
+    : QObject(parent), window_(window), desktop_(std::move(desktop)), noticesBefore_(window.record().notices()) {
+    connect(&window_.record(), &RecordStateController::recordingFinished, this, &RecordingNotifier::recordingFinished);
+    connect(&window_.record(), &RecordStateController::noticesChanged, this, &RecordingNotifier::noticesChanged);
+    connect(desktop_.get(), &Platform::Notifications::actionInvoked, this, &RecordingNotifier::act);
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* window) {
+        if (window)
+            forget();
+    });
+}
+
+bool RecordingNotifier::mayNotify() {
+    return !QGuiApplication::focusWindow() && Platform::boolValue(PreferenceStore::preferenceValueForKey(
+                                                  PreferenceStore::PreferenceNotificationsKey, 1));
+}
+
+void RecordingNotifier::recordingFinished(const QString& path, const Dictionary& entry) {
+    if (!mayNotify())
+        return;
+    if (entry.isEmpty()) {
+        if (finished_ == 0) // short stretches between songs are no news beside the songs
+            text_ = tr("“%1” was not kept: it is too short.").arg(QFileInfo(path).completeBaseName());
+    } else {
+        ++finished_;
+        newest_ = path;
+        text_ = u"%1 (%2)"_s.arg(
+            Platform::stringForm(entry.value(AudioRecordEntry::Title)),
+            ToolControl::getTimeString(Platform::longLongValue(entry.value(AudioRecordEntry::Length))));
+    }
+    goesOn_ = window_.record().isStateAudioRecord();
+    show();
+}
+
+void RecordingNotifier::noticesChanged() {
+    const QStringList notices = window_.record().notices();
+    const QStringList before = std::exchange(noticesBefore_, notices);
+    if (notices.isEmpty() || !mayNotify())
+        return;
+    const QString newest = notices.last();
+    for (const QString& old : before)
+        if (withoutNumbers(old) == withoutNumbers(newest))
+            return;
+    problem_ = newest;
+    goesOn_ = window_.record().isStateAudioRecord();
+    show();
+}
+
+void RecordingNotifier::show() {
+    Platform::Notifications::Notification shown;
+    if (finished_ == 0)
+        shown.title = problem_.isEmpty() ? tr("Recording not kept") : tr("About the recording");
+    else if (goesOn_)
+        shown.title = tr("Recording cut; the next one runs");
+    else
+        shown.title = finished_ == 1 ? tr("Recording finished") : tr("%n recordings finished", nullptr, finished_);
+    QStringList lines;
+    if (!text_.isEmpty())
+        lines << text_;
+    if (!problem_.isEmpty())
+        lines << problem_;
+    shown.text = lines.join(u'\n');
+    shown.isProblem = !problem_.isEmpty();
+    shown.defaultAction = showKey;
+    shown.actions.append({showKey, tr("Show")});
+    if (finished_ > 0 && !goesOn_) // nothing is played while something is recorded
+        shown.actions.append({playKey, tr("Play")});
+    desktop_->show(shown);
+}
+
+void RecordingNotifier::forget() {
+    finished_ = 0;
+    text_.clear();
+    problem_.clear();
+    newest_.clear();
+    desktop_->withdraw();
+}
+
+void RecordingNotifier::act(const QString& key, const QByteArray& token) {
+    const QString path = newest_;
+    Platform::Activation::setToken(token);
+    ToolControl::showWindowNib(window_);
+    forget();
+    if (path.isEmpty() || QApplication::activeModalWidget())
+        return;
+    LibraryPresenter& library = window_.library();
+    if (library.selectFile(path) && key == playKey && library.tableViewPlayEnable())
+        window_.tableViewDoubleAction();
+}
