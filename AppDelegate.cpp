@@ -16,6 +16,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QHash>
 #include <QUrl>
 
 #include <cerrno>
@@ -36,7 +37,7 @@ AppDelegate::AppDelegate(Windows& windows, Platform::RunningProgram& running, QO
 
 AppDelegate::~AppDelegate() = default;
 
-bool AppDelegate::applicationDidFinishLaunching() {
+bool AppDelegate::applicationDidFinishLaunching(bool hidden) {
     g_SplitTimeMS = PreferenceStore::storedSplitTimeMS();
 
     if (!recreateTemporaryFolder())
@@ -54,7 +55,8 @@ bool AppDelegate::applicationDidFinishLaunching() {
     mainWndController_ = windows_.makeMainWndController(QStringLiteral("MainWnd"), *this);
     Q_EMIT didChangeValueForKey(key);
 
-    ToolControl::showWindowNib(*mainWndController_);
+    if (!hidden)
+        ToolControl::showWindowNib(*mainWndController_);
     setupSystemStatusBar();
     if (!running_.listen([this](const QByteArray& request) { return answer(request); }))
         qWarning("commands and further launches cannot reach this window: %s", qUtf8Printable(running_.lastError()));
@@ -98,9 +100,28 @@ Platform::RunningProgram::Reply AppDelegate::answer(const QByteArray& request) {
     }
     if (request != "show" && !request.startsWith("show "))
         return windows_.answer(*mainWndController_, request);
-    Platform::Activation::setToken(request.mid(5));
-    ToolControl::showWindowNib(*mainWndController_);
+    activate(request.mid(5));
     return QByteArray("ok");
+}
+
+void AppDelegate::activate(const QByteArray& token) {
+    Platform::Activation::setToken(token);
+    ToolControl::showWindowNib(*mainWndController_);
+}
+
+void AppDelegate::performAction(const QString& action, const QByteArray& token) {
+    static const QHash<QString, QByteArray> requests{{QStringLiteral("StartStop"), "start-stop"},
+                                                     {QStringLiteral("PauseResume"), "pause-resume"},
+                                                     {QStringLiteral("Split"), "split"}};
+    if (action == QStringLiteral("Show")) {
+        activate(token);
+        return;
+    }
+    if (!requests.contains(action))
+        return;
+    const auto reply = answer(requests.value(action));
+    if (reply.afterwards)
+        reply.afterwards();
 }
 
 void AppDelegate::openFile(const QString& path) {

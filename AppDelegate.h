@@ -38,10 +38,17 @@ public:
     AppDelegate(Windows& windows, Platform::RunningProgram& running, QObject* parent = nullptr);
     ~AppDelegate() override;
 
-    /// The launch, in its fixed order. Needs the lock of the running program, because it empties the temporary folder.
+    /// The launch, in its fixed order. Does not show the main window when @p hidden. Needs the lock of the running
+    /// program, because it empties the temporary folder.
     /// @return false when this user has no private temporary folder, or another program uses it; then nothing was
     /// removed or shown, and lastError() holds the reason.
-    [[nodiscard]] bool applicationDidFinishLaunching();
+    [[nodiscard]] bool applicationDidFinishLaunching(bool hidden = false);
+    /// Shows the main window in front of the windows of other programs.
+    /// @param token see Platform::Activation::setToken()
+    void activate(const QByteArray& token);
+    /// Runs an action of the desktop file ("StartStop", "PauseResume", "Split", "Show"), if its button is enabled.
+    /// Ignores unknown actions.
+    void performAction(const QString& action, const QByteArray& token);
     /// Shows the main window and opens an audio file, for "Open with" of a file manager. An alert shows why it cannot
     /// be opened. Returns when the file's window is closed.
     void openFile(const QString& path);

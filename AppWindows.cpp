@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AppWindows.h"
 
+#include "Platform/Desktop/Autostart.h"
 #include "Platform/Desktop/MediaPlayer.h"
+#include "Platform/Desktop/Notifications.h"
 #include "Platform/Foundation/Bundle.h"
 #include "Platform/Foundation/Folders.h"
 #include "Platform/Foundation/Services.h"
@@ -23,6 +25,7 @@
 #include "Source/WndController/MainMenus.h"
 #include "Source/WndController/MainWndController.h"
 #include "Source/WndController/PreferenceWndController.h"
+#include "Source/WndController/RecordingNotifier.h"
 #include "Source/WndController/StatusBarItem.h"
 
 #include <QApplication>
@@ -51,11 +54,13 @@ public:
     }
 
     std::unique_ptr<AppDelegate::WindowController> makePreferenceWndController(const QString& /*file*/) override {
-        return std::make_unique<PreferenceWndController>(ComputerAudioDevice::system([this] {
-            return record_ && record_->isStateAudioRecord()
-                       ? QObject::tr("The device stays as it is until the recording ends.")
-                       : QString();
-        }));
+        return std::make_unique<PreferenceWndController>(
+            ComputerAudioDevice::system([this] {
+                return record_ && record_->isStateAudioRecord()
+                           ? QObject::tr("The device stays as it is until the recording ends.")
+                           : QString();
+            }),
+            Platform::Autostart::create(Platform::services().bundle->bundleIdentifier()));
     }
 
     std::unique_ptr<AppDelegate::WindowController> makeMainWndController(const QString& /*file*/,
@@ -98,6 +103,7 @@ public:
         const QString identifier = Platform::services().bundle->bundleIdentifier();
         new LibraryPlayer(window, Platform::MediaPlayer::create(QStringLiteral("sonaphex"), identifier),
                           Platform::Folders::cache() + u'/' + identifier + QStringLiteral("/cover"), &window);
+        new RecordingNotifier(window, Platform::Notifications::create(QStringLiteral("Sonaphex"), identifier), &window);
         auto* item = new StatusBarItem(window, &window);
         const ShortcutCommand commands[] = {
             {preferences.startStopShortcut(), item->startStopMenu(), &MainWndController::startAndStopRecord,

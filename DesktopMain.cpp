@@ -8,6 +8,7 @@
 #include "CommandLine/CommandLine.h"
 #include "Platform/Desktop/Activation.h"
 #include "Platform/Desktop/Alerts.h"
+#include "Platform/Desktop/ApplicationService.h"
 #include "Platform/Foundation/Bundle.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/TerminationSignals.h"
@@ -68,6 +69,11 @@ QString fileToOpen(int argc, char** argv) {
     return QFileInfo(QFile::decodeName(argv[1])).absoluteFilePath();
 }
 
+/// A program that the desktop starts at login, or to send it something, shows no window of its own accord.
+bool startsHidden(int argc, char** argv) {
+    return argc == 2 && qstrcmp(argv[1], "--hidden") == 0;
+}
+
 int openInRunningProgram(Platform::RunningProgram& running, const QString& file) {
     QByteArray answer;
     if (running.ask("open " + QUrl::toPercentEncoding(file), answer) && answer == "ok")
@@ -77,6 +83,7 @@ int openInRunningProgram(Platform::RunningProgram& running, const QString& file)
 
 int runWindows(int argc, char** argv) {
     const QString file = fileToOpen(argc, argv);
+    const bool hidden = startsHidden(argc, argv);
     const QByteArray launchToken = Platform::Activation::launchToken();
     QApplication application(argc, argv);
     // Closing the last visible window does not end the program: all windows but the main one may be closed.
@@ -91,6 +98,9 @@ int runWindows(int argc, char** argv) {
     };
 
     const auto running = Platform::RunningProgram::create(Platform::services().bundle->bundleIdentifier());
+    // Hidden there is nothing to raise in a program that runs.
+    if (hidden && !running->acquire() && running->lastError().isEmpty())
+        return CommandLine::Done;
     switch (Launch::begin(*running, launchToken)) {
     case Launch::Outcome::Raised:
         return file.isEmpty() ? CommandLine::Done : openInRunningProgram(*running, file);
@@ -101,6 +111,8 @@ int runWindows(int argc, char** argv) {
         break;
     }
 
+    const auto service = Platform::ApplicationService::create(Platform::services().bundle->bundleIdentifier());
+
     // Created before the windows: they end the recording first, and the lock is released after both.
     const CutOffRecordings::Keeper keepCutOffRecordings;
     const auto windows = createAppWindows();
@@ -110,7 +122,7 @@ int runWindows(int argc, char** argv) {
     KextInstallControl::loadIfInstalled(); // before the devices are listed
 
     AppDelegate delegate(*windows, *running);
-    if (!delegate.applicationDidFinishLaunching()) {
+    if (!delegate.applicationDidFinishLaunching(hidden)) {
         tell(QStringLiteral("Sonaphex cannot start."), delegate.lastError());
         return CommandLine::Failed;
     }
@@ -120,6 +132,16 @@ int runWindows(int argc, char** argv) {
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &delegate, &AppDelegate::applicationWillTerminate);
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &delegate,
                      &AppDelegate::applicationWillTerminate, Qt::DirectConnection);
+    using Service = Platform::ApplicationService;
+    QObject::connect(service.get(), &Service::activated, &delegate, &AppDelegate::activate);
+    QObject::connect(service.get(), &Service::actionRequested, &delegate, &AppDelegate::performAction);
+    QObject::connect(service.get(), &Service::openRequested, &delegate,
+                     [&delegate](const QStringList& paths, const QByteArray& token) {
+                         delegate.activate(token);
+                         for (const QString& path : paths) // one after the other: each window is modal
+                             delegate.openFile(path);
+                     });
+    service->begin();
     if (!file.isEmpty())
         QTimer::singleShot(0, &delegate, [&delegate, file] { delegate.openFile(file); });
     return QApplication::exec();

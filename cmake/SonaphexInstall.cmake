@@ -17,6 +17,8 @@ install(FILES ${CMAKE_SOURCE_DIR}/Resources/AudioArtwork.png ${CMAKE_SOURCE_DIR}
     ${CMAKE_SOURCE_DIR}/Resources/support.html DESTINATION ${CMAKE_INSTALL_DATADIR}/sonaphex)
 
 install(FILES ${CMAKE_SOURCE_DIR}/Resources/${desktop_id}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+configure_file(${CMAKE_SOURCE_DIR}/Resources/${desktop_id}.service.in ${CMAKE_BINARY_DIR}/${desktop_id}.service @ONLY)
+install(FILES ${CMAKE_BINARY_DIR}/${desktop_id}.service DESTINATION ${CMAKE_INSTALL_DATADIR}/dbus-1/services)
 install(FILES ${CMAKE_SOURCE_DIR}/Resources/${desktop_id}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/Resources/icons/hicolor DESTINATION ${CMAKE_INSTALL_DATADIR}/icons)
 

@@ -25,6 +25,8 @@ inline const QString PreferenceFilterKey = QStringLiteral("PreferenceFilterKey")
 inline const QString PreferenceFilterTimeKey = QStringLiteral("PreferenceFilterTimeKey");
 inline const QString PreferenceSavePathKey = QStringLiteral("PreferenceSavePathKey");
 inline const QString PreferenceRingtoneSavePathKey = QStringLiteral("PreferenceRingtoneSavePathKey");
+/// Whether notifications of the desktop tell of recordings while the window is not in front; a number, 1 by default.
+inline const QString PreferenceNotificationsKey = QStringLiteral("PreferenceNotificationsKey");
 inline const QString ChooseRecordBuiltIn = QStringLiteral("ChooseRecordBuiltIn");
 inline const QString ChooseRecordComputerAudio = QStringLiteral("ChooseRecordComputerAudio");
 inline const QString PreferenceStartStopShortcutKey = QStringLiteral("PreferenceStartStopShortcutKey");

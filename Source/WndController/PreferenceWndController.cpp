@@ -63,8 +63,9 @@ void select(QComboBox* popUp, const QString& title) {
 
 } // namespace
 
-PreferenceWndController::PreferenceWndController(ComputerAudioDevice device, QObject* parent)
-    : QObject(parent), device_(std::move(device)), window_(std::make_unique<QWidget>()),
+PreferenceWndController::PreferenceWndController(ComputerAudioDevice device,
+                                                 std::unique_ptr<Platform::Autostart> autostart, QObject* parent)
+    : QObject(parent), device_(std::move(device)), autostart_(std::move(autostart)), window_(std::make_unique<QWidget>()),
       ui_(std::make_unique<Ui::PreferenceWnd>()) {
     ui_->setupUi(window_.get());
     awakeFromNib();
@@ -147,6 +148,9 @@ void PreferenceWndController::initPerferceInterface() {
     chooseFilterEffect();
     select(ui_->splitTimePopUp, storedTime(PreferenceSplitTimeMSKey, u"300"_s));
     select(ui_->filterTimePopUp, storedTime(PreferenceFilterTimeKey, u"5"_s));
+    ui_->notificationsCheckBox->setChecked(Platform::boolValue(preferenceValueForKey(PreferenceNotificationsKey, 1)));
+    ui_->autostartCheckBox->setVisible(autostart_ != nullptr);
+    ui_->autostartCheckBox->setChecked(autostart_ && autostart_->isEnabled());
 }
 
 void PreferenceWndController::setDefaultShortcut() {
@@ -188,7 +192,26 @@ bool PreferenceWndController::windowShouldClose() {
     g_SplitTimeMS = split ? Platform::intValue(splitTime) : -1;
     setPreferenceValue(splitTime, PreferenceSplitTimeMSKey);
     setPreferenceValue(ui_->filterTimePopUp->currentText(), PreferenceFilterTimeKey);
+    setPreferenceValue(qlonglong(ui_->notificationsCheckBox->isChecked()), PreferenceNotificationsKey);
+    applyAutostart();
     return true;
+}
+
+void PreferenceWndController::applyAutostart() {
+    if (!autostart_)
+        return;
+    const bool wanted = ui_->autostartCheckBox->isChecked();
+    autostart_->setEnabled(wanted, [this, wanted](const QString& problem) {
+        ui_->autostartCheckBox->setChecked(autostart_->isEnabled());
+        if (problem.isEmpty())
+            return;
+        // After the window is closed: it is on its way.
+        Platform::MainQueue::post(this, [wanted, problem] {
+            Platform::services().alerts->runModal(wanted ? tr("Sonaphex cannot be started with the desktop.")
+                                                         : tr("Sonaphex is still started with the desktop."),
+                                                  problem, {u"OK"_s});
+        });
+    });
 }
 
 void PreferenceWndController::chooseOutAudioPath() {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Desktop/Autostart.h"
 #include "Platform/Foundation/Dictionary.h"
 #include "Source/Control/ToolControl.h"
 #include "Source/WndController/ComputerAudioDevice.h"
@@ -18,16 +19,18 @@ namespace Ui {
 class PreferenceWnd;
 }
 
-/// The preferences window: folders, splitting, filtering, the computer-audio device, the three shortcuts. Created once
-/// and kept, because its shortcut fields own the hot keys. Closing it applies and stores everything. Main thread,
-/// except installing and removing the device.
+/// The preferences window: folders, splitting, filtering, the computer-audio device, the three shortcuts, notifications
+/// and the start with the desktop. Created once and kept, because its shortcut fields own the hot keys. Closing it
+/// applies and stores everything. Main thread, except installing and removing the device.
 class PreferenceWndController : public QObject, public ToolControl::WindowShower {
     Q_OBJECT
     Q_PROPERTY(bool systemAudioRecordDeviceExist READ systemAudioRecordDeviceExist WRITE setSystemAudioRecordDeviceExist
                    NOTIFY systemAudioRecordDeviceExistChanged)
 public:
     /// Loads the window, shows the stored settings and registers the hot keys.
-    explicit PreferenceWndController(ComputerAudioDevice device, QObject* parent = nullptr);
+    /// @param autostart null when the program cannot be started with the desktop; the window then hides the switch
+    explicit PreferenceWndController(ComputerAudioDevice device, std::unique_ptr<Platform::Autostart> autostart = {},
+                                     QObject* parent = nullptr);
     ~PreferenceWndController() override;
 
     /// See PreferenceStore.
@@ -75,6 +78,7 @@ Q_SIGNALS:
 private:
     void awakeFromNib();
     void chooseFolder(QLineEdit* field);
+    void applyAutostart();
     void flushLater();
     void showDeviceState();
     void showDeviceWork(const QString& work);
@@ -85,6 +89,7 @@ private:
     [[nodiscard]] QString whyDeviceStays() const;
 
     ComputerAudioDevice device_;
+    std::unique_ptr<Platform::Autostart> autostart_;
     QString installProblem_; ///< why the last installation failed; a failed removal shows no message
     std::unique_ptr<QWidget> window_;
     std::unique_ptr<Ui::PreferenceWnd> ui_;

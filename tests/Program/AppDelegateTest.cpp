@@ -145,6 +145,16 @@ TEST_F(AppDelegateTest, LaunchesInItsOrder) {
                                         u"MainWnd: center"_s, u"status bar"_s}));
 }
 
+TEST_F(AppDelegateTest, ShowsNothingWhenItStartsHidden) {
+    ASSERT_TRUE(delegate.applicationDidFinishLaunching(true));
+    EXPECT_FALSE(windows.log.contains(u"MainWnd: makeKeyAndOrderFront"_s));
+    EXPECT_TRUE(windows.log.contains(u"status bar"_s));
+    delegate.performAction(u"NoSuchAction"_s, {});
+    EXPECT_FALSE(windows.log.contains(u"MainWnd: makeKeyAndOrderFront"_s));
+    delegate.performAction(u"Show"_s, {});
+    EXPECT_TRUE(windows.log.contains(u"MainWnd: makeKeyAndOrderFront"_s));
+}
+
 TEST_F(AppDelegateTest, BeginsWithTheDefaultsOfAFirstLaunch) {
     using namespace PreferenceStore;
     ASSERT_TRUE(delegate.applicationDidFinishLaunching());

@@ -8,6 +8,7 @@
 #include "Source/View/QtFocusProbe.h"
 #include "Source/View/Theme.h"
 #include "tests/fakes/FakeAlerts.h"
+#include "tests/fakes/FakeAutostart.h"
 #include "tests/fakes/FakeBundle.h"
 #include "tests/fakes/FakeHotKeys.h"
 #include "tests/fakes/FakePanels.h"
@@ -102,7 +103,8 @@ protected:
 
     PreferenceWndController& open() {
         controller.reset();
-        controller = std::make_unique<PreferenceWndController>(device.door());
+        controller = std::make_unique<PreferenceWndController>(
+            device.door(), offersAutostart ? std::make_unique<FakeAutostart>(autostart) : nullptr);
         controller->makeKeyAndOrderFront();
         controller->center();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(controller->window(), 30000));
@@ -115,6 +117,8 @@ protected:
     QString musicFolder() { return QDir::homePath() + u"/Music/com.korvane.Sonaphex"_s; }
 
     Platform::ServicesScope scope;
+    FakeAutostart::Desktop autostart;
+    bool offersAutostart = true;
     FakeUserDefaults defaults;
     FakeHotKeys hotKeys;
     FakeAlerts alerts;
@@ -234,6 +238,37 @@ TEST_F(Preferences, TurningSplittingOffStillStoresItsTime) {
     controller->window()->close();
     EXPECT_EQ(g_SplitTimeMS, -1);
     EXPECT_EQ(defaults.objectForKey(u"PreferenceSplitTimeMSKey"_s), u"500"_s);
+}
+
+TEST_F(Preferences, NotificationsAreOnUntilTheyAreSwitchedOff) {
+    open();
+    EXPECT_TRUE(find<QCheckBox>("notificationsCheckBox")->isChecked());
+    find<QCheckBox>("notificationsCheckBox")->click();
+    controller->window()->close();
+    EXPECT_EQ(defaults.objectForKey(PreferenceStore::PreferenceNotificationsKey).toLongLong(), 0);
+    open();
+    EXPECT_FALSE(find<QCheckBox>("notificationsCheckBox")->isChecked());
+}
+
+TEST_F(Preferences, TheStartWithTheDesktopIsTheDesktopsOwnSwitch) {
+    open();
+    auto* box = find<QCheckBox>("autostartCheckBox");
+    EXPECT_FALSE(box->isChecked());
+    box->click();
+    EXPECT_FALSE(autostart.enabled) << "closing applies";
+    controller->window()->close();
+    EXPECT_TRUE(autostart.enabled);
+    open();
+    EXPECT_TRUE(find<QCheckBox>("autostartCheckBox")->isChecked());
+    autostart.problem = u"the disk is full"_s;
+    find<QCheckBox>("autostartCheckBox")->click();
+    controller->window()->close();
+    ASSERT_TRUE(waitFor([&] { return !alerts.shown.isEmpty(); }));
+    EXPECT_EQ(alerts.shown.last().text, u"the disk is full"_s);
+    EXPECT_TRUE(find<QCheckBox>("autostartCheckBox")->isChecked()) << "it shows what is so";
+    offersAutostart = false;
+    open();
+    EXPECT_FALSE(find<QCheckBox>("autostartCheckBox")->isVisible());
 }
 
 TEST_F(Preferences, EscapeClosesAndApplies) {
