@@ -158,7 +158,7 @@ void KeybordShortcutTextView::setDesktopTrigger(const std::optional<QString>& tr
     if (trigger == desktopTrigger_ || (hasFocus() && trigger))
         return;
     desktopTrigger_ = trigger;
-    setToolTip(!trigger            ? QString()
+    setToolTip(!trigger             ? QString()
                : trigger->isEmpty() ? tr("The desktop has no keys for this. Choose some in its settings.")
                                     : tr("The desktop's settings say these keys."));
     setPlaceholderText(trigger && trigger->isEmpty() ? tr("No keys in the desktop's settings")

@@ -65,8 +65,8 @@ void select(QComboBox* popUp, const QString& title) {
 
 PreferenceWndController::PreferenceWndController(ComputerAudioDevice device,
                                                  std::unique_ptr<Platform::Autostart> autostart, QObject* parent)
-    : QObject(parent), device_(std::move(device)), autostart_(std::move(autostart)), window_(std::make_unique<QWidget>()),
-      ui_(std::make_unique<Ui::PreferenceWnd>()) {
+    : QObject(parent), device_(std::move(device)), autostart_(std::move(autostart)),
+      window_(std::make_unique<QWidget>()), ui_(std::make_unique<Ui::PreferenceWnd>()) {
     ui_->setupUi(window_.get());
     awakeFromNib();
 }

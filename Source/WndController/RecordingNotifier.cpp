@@ -43,8 +43,8 @@ RecordingNotifier::RecordingNotifier(MainWndController& window, std::unique_ptr<
 }
 
 bool RecordingNotifier::mayNotify() {
-    return !QGuiApplication::focusWindow() && Platform::boolValue(PreferenceStore::preferenceValueForKey(
-                                                  PreferenceStore::PreferenceNotificationsKey, 1));
+    return !QGuiApplication::focusWindow() &&
+           Platform::boolValue(PreferenceStore::preferenceValueForKey(PreferenceStore::PreferenceNotificationsKey, 1));
 }
 
 void RecordingNotifier::recordingFinished(const QString& path, const Dictionary& entry) {

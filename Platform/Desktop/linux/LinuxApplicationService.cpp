@@ -46,7 +46,8 @@ class ServiceObject : public ApplicationService {
     Q_OBJECT
 public:
     explicit ServiceObject(const QString& identifier)
-        : name_(identifier), path_(u'/' + QString(identifier).replace(u'.', u'/')), bus_(QDBusConnection::sessionBus()) {
+        : name_(identifier), path_(u'/' + QString(identifier).replace(u'.', u'/')),
+          bus_(QDBusConnection::sessionBus()) {
         new ApplicationInterface(*this);
         // The object first: a call may come with the name.
         if (bus_.isConnected() && bus_.registerObject(path_, this, QDBusConnection::ExportAdaptors))
@@ -79,8 +80,7 @@ private:
     std::vector<std::function<void()>> waiting_;
 };
 
-ApplicationInterface::ApplicationInterface(ServiceObject& service)
-    : QDBusAbstractAdaptor(&service), service_(service) {
+ApplicationInterface::ApplicationInterface(ServiceObject& service) : QDBusAbstractAdaptor(&service), service_(service) {
 }
 
 void ApplicationInterface::Activate(const QVariantMap& platform_data) {
@@ -102,9 +102,8 @@ void ApplicationInterface::Open(const QStringList& uris, const QVariantMap& plat
 
 void ApplicationInterface::ActivateAction(const QString& action_name, const QVariantList& /*parameter*/,
                                           const QVariantMap& platform_data) {
-    service_.take([this, action_name, token = tokenIn(platform_data)] {
-        Q_EMIT service_.actionRequested(action_name, token);
-    });
+    service_.take(
+        [this, action_name, token = tokenIn(platform_data)] { Q_EMIT service_.actionRequested(action_name, token); });
 }
 
 } // namespace

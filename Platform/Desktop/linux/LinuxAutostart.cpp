@@ -110,7 +110,8 @@ public:
         // The answer may come before the call returns, so its path is listened to beforehand.
         const QString token = u"autostart%1"_s.arg(++requests_);
         QString sender = bus_.baseService().mid(1);
-        const QString request = u"/org/freedesktop/portal/desktop/request/%1/%2"_s.arg(sender.replace(u'.', u'_'), token);
+        const QString request =
+            u"/org/freedesktop/portal/desktop/request/%1/%2"_s.arg(sender.replace(u'.', u'_'), token);
         bus_.connect(portal, request, u"org.freedesktop.portal.Request"_s, u"Response"_s, this,
                      SLOT(answered(uint, QVariantMap)));
         auto message = QDBusMessage::createMethodCall(portal, u"/org/freedesktop/portal/desktop"_s,

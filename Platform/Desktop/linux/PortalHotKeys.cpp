@@ -151,8 +151,8 @@ private Q_SLOTS:
     }
     /// The user gave other keys to some of the shortcuts, in the desktop's own settings.
     void shortcutsChanged(const QDBusMessage& signal) {
-        if (signal.arguments().size() < 2 ||
-            signal.arguments().at(0).value<QDBusObjectPath>().path() != session_ || session_.isEmpty())
+        if (signal.arguments().size() < 2 || signal.arguments().at(0).value<QDBusObjectPath>().path() != session_ ||
+            session_.isEmpty())
             return;
         tellTriggers(qdbus_cast<QList<Shortcut>>(signal.arguments().at(1)));
     }
@@ -225,9 +225,8 @@ private:
     void tellTriggers(const QList<Shortcut>& shortcuts) {
         for (const Shortcut& shortcut : shortcuts) {
             const QVariant trigger = shortcut.properties.value(u"trigger_description"_s);
-            const auto found = std::find_if(registrations_.cbegin(), registrations_.cend(), [&](const auto& each) {
-                return nameOf(each.second.id) == shortcut.id;
-            });
+            const auto found = std::find_if(registrations_.cbegin(), registrations_.cend(),
+                                            [&](const auto& each) { return nameOf(each.second.id) == shortcut.id; });
             if (trigger.isValid() && found != registrations_.cend() && triggerHandler_)
                 triggerHandler_(found->first, trigger.toString());
         }

@@ -14,9 +14,9 @@ void introduceToPortal(const QString& desktopEntry) {
     auto bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
-    auto message = QDBusMessage::createMethodCall(
-        u"org.freedesktop.portal.Desktop"_s, u"/org/freedesktop/portal/desktop"_s,
-        u"org.freedesktop.host.portal.Registry"_s, u"Register"_s);
+    auto message =
+        QDBusMessage::createMethodCall(u"org.freedesktop.portal.Desktop"_s, u"/org/freedesktop/portal/desktop"_s,
+                                       u"org.freedesktop.host.portal.Registry"_s, u"Register"_s);
     message << desktopEntry << QVariantMap();
     bus.send(message); // the portal reads its messages in their order
 }

@@ -105,8 +105,7 @@ protected:
         });
     }
 
-    std::unique_ptr<Notifications> notifications =
-        Notifications::create(u"Sonaphex"_s, u"com.korvane.Sonaphex"_s);
+    std::unique_ptr<Notifications> notifications = Notifications::create(u"Sonaphex"_s, u"com.korvane.Sonaphex"_s);
     QStringList chosen;
 };
 
@@ -165,8 +164,9 @@ TEST_F(DesktopNotifications, TellWhatTheUserChoseAndTheTokenOfTheClick) {
     server.tell(u"ActivationToken"_s, {7U, u"abc"_s});
     server.tell(u"ActionInvoked"_s, {7U, u"play"_s});
     server.tell(u"ActionInvoked"_s, {7U, u"default"_s});
-    EXPECT_TRUE(waitFor([&] { return chosen == QStringList{u"play/abc"_s, u"show/"_s}; }))
-        << chosen.join(u' ').toStdString();
+    EXPECT_TRUE(waitFor([&] {
+        return chosen == QStringList{u"play/abc"_s, u"show/"_s};
+    })) << chosen.join(u' ').toStdString();
 }
 
 TEST_F(DesktopNotifications, AreTakenAwayAlsoBeforeTheServerAnswered) {

@@ -55,7 +55,8 @@ QVariant listOf(const QList<GivenShortcut>& shortcuts) {
     return QVariant::fromValue(list);
 }
 
-/// The desktop's side of the portal: gives each program the keys that it prefers, as long as its user says nothing else.
+/// The desktop's side of the portal: gives each program the keys that it prefers, as long as its user says nothing
+/// else.
 class BackEnd : public QDBusVirtualObject {
 public:
     BackEnd() : bus_(QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), u"back end"_s)) {
@@ -131,16 +132,14 @@ protected:
         environment.insert(u"XDG_CURRENT_DESKTOP"_s, u"test"_s);
         frontEnd.setProcessEnvironment(environment);
         frontEnd.start(u"/usr/libexec/xdg-desktop-portal"_s);
-        return waitFor([] {
-            return QDBusConnection::sessionBus().interface()->isServiceRegistered(frontEndName).value();
-        });
+        return waitFor(
+            [] { return QDBusConnection::sessionBus().interface()->isServiceRegistered(frontEndName).value(); });
     }
     void endFrontEnd() {
         frontEnd.kill();
         frontEnd.waitForFinished();
-        EXPECT_TRUE(waitFor([] {
-            return !QDBusConnection::sessionBus().interface()->isServiceRegistered(frontEndName).value();
-        }));
+        EXPECT_TRUE(waitFor(
+            [] { return !QDBusConnection::sessionBus().interface()->isServiceRegistered(frontEndName).value(); }));
     }
     void makeHotKeys() {
         hotKeys = Platform::createPortalHotKeys();
