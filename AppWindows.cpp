@@ -8,6 +8,7 @@
 #include "Platform/Foundation/Bundle.h"
 #include "Platform/Foundation/Folders.h"
 #include "Platform/Foundation/Services.h"
+#include "Platform/Media/PrepareCodecs.h"
 #include "Source/CDBurn/CDBurnWndController.h"
 #include "Source/Control/EditNote.h"
 #include "Source/HotKey/HotKeyRegister.h"
@@ -31,8 +32,16 @@
 #include <QApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QThreadPool>
+#include <QTimer>
+
+#include <chrono>
 
 namespace {
+
+/// What the first recording and the first change of a long library need is prepared on workers when the window stands,
+/// so that they do not compete with its start.
+constexpr auto afterFirstPaint = std::chrono::milliseconds(500);
 
 /// A hot key's operation and its guard.
 struct ShortcutCommand {
@@ -70,6 +79,10 @@ public:
         EditNote::recover(); // before the window shows the library
         auto window = std::make_unique<MainWndController>(*record_, MediaLibrary::shareLibrary());
         editWindows_ = new EditWindows(*window, window.get());
+        QTimer::singleShot(afterFirstPaint, window.get(), [] {
+            QThreadPool::globalInstance()->start(Platform::prepareCodecs);
+            MediaLibrary::shareLibrary().prepareForChanges();
+        });
         if (Platform::services().discRecording) {
             window->commands().setOpener(WindowCommands::Window::CDBurn,
                                          [main = window.get()](const QVariantList& entries) {

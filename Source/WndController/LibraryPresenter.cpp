@@ -20,7 +20,6 @@
 #include <QItemSelectionModel>
 #include <QScopedValueRollback>
 #include <QTableView>
-#include <QTimer>
 #include <QTreeView>
 
 namespace {
@@ -63,8 +62,6 @@ LibraryPresenter::LibraryPresenter(MediaLibrary& library, QTreeView& outline, QT
         if (!change.onlyInserts())
             followPlayingEntry();
     });
-    // When the event loop runs, so that the window is painted first.
-    QTimer::singleShot(0, this, [this] { library_.prepareForChanges(); });
     if (auto* workspace = Platform::services().workspace)
         connect(workspace, &Platform::Workspace::fileSystemChanged, missing_.get(), &MissingFiles::forget);
 }

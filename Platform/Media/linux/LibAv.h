@@ -6,7 +6,6 @@
 #include <string>
 
 extern "C" {
-#include <libavcodec/avcodec.h>
 #include <libavutil/channel_layout.h>
 #include <libavutil/opt.h>
 #include <libswresample/swresample.h>
@@ -23,9 +22,7 @@ struct FreeByAddress {
     }
 };
 
-using CodecPtr = std::unique_ptr<AVCodecContext, FreeByAddress<avcodec_free_context>>;
 using FramePtr = std::unique_ptr<AVFrame, FreeByAddress<av_frame_free>>;
-using PacketPtr = std::unique_ptr<AVPacket, FreeByAddress<av_packet_free>>;
 using ResamplerPtr = std::unique_ptr<SwrContext, FreeByAddress<swr_free>>;
 
 /// libav's text for the error @p code.

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Platform/Media/linux/LibAv.h"
+#include "Platform/Media/linux/LibAvCodec.h"
 
 extern "C" {
 #include <libavformat/avformat.h>
@@ -48,9 +48,9 @@ using IoPtr = std::unique_ptr<AVIOContext, FreeIo>;
 
 /// A decoder for the stream, not yet opened; null when there is none or no memory.
 inline CodecPtr createDecoder(const AVStream& stream) {
-    const AVCodec* codec = avcodec_find_decoder(stream.codecpar->codec_id);
-    CodecPtr context(codec ? avcodec_alloc_context3(codec) : nullptr);
-    if (!context || avcodec_parameters_to_context(context.get(), stream.codecpar) < 0)
+    const AVCodec* codec = codecs().findDecoder(stream.codecpar->codec_id);
+    CodecPtr context(codec ? codecs().allocContext(codec) : nullptr);
+    if (!context || codecs().parametersToContext(context.get(), stream.codecpar) < 0)
         return nullptr;
     context->thread_count = 1;
     context->pkt_timebase = stream.time_base;

@@ -66,7 +66,7 @@ struct TakenOff {
 
 TakenOff takenOff(const AVPacket& packet) {
     std::size_t size = 0;
-    const std::uint8_t* data = av_packet_get_side_data(&packet, AV_PKT_DATA_SKIP_SAMPLES, &size);
+    const std::uint8_t* data = Av::codecs().packetSideData(&packet, AV_PKT_DATA_SKIP_SAMPLES, &size);
     if (!data || size < 10)
         return {};
     const auto number = [](const std::uint8_t* p) {
@@ -85,9 +85,11 @@ std::unique_ptr<InputFile> InputFile::open(const QString& path, bool decode, Med
     if (!error && !input->av_)
         error = makeError(MediaError::Kind::Other, path,
                           QStringLiteral("sound files cannot be read: ") + QString::fromLocal8Bit(why.c_str()));
+    if (error)
+        return nullptr;
     input->frame_.reset(av_frame_alloc());
-    input->packet_.reset(av_packet_alloc());
-    if (error || !input->openContainer(error) || (decode && !input->openDecoder(error)))
+    input->packet_.reset(Av::codecs().allocPacket());
+    if (!input->openContainer(error) || (decode && !input->openDecoder(error)))
         return nullptr;
     return input;
 }
@@ -161,7 +163,7 @@ bool InputFile::openContainer(MediaError& error) {
 
 bool InputFile::openDecoder(MediaError& error) {
     codec_ = Av::createDecoder(*stream_);
-    if (!codec_ || avcodec_open2(codec_.get(), nullptr, nullptr) < 0) {
+    if (!codec_ || Av::codecs().open(codec_.get(), nullptr, nullptr) < 0) {
         codec_.reset();
         error = makeError(MediaError::Kind::UnknownFormat, path_, QStringLiteral("no decoder for this kind of sound"));
         return false;
@@ -273,7 +275,7 @@ void InputFile::countPackets() {
             off = duration + counter->inStreamTime(taken.back) <= usual ? 0 : taken.back;
             usual = std::max(usual, duration);
         }
-        av_packet_unref(packet_.get());
+        Av::codecs().unrefPacket(packet_.get());
     }
     const std::int64_t lasting = av_rescale_q(end - begin, counter->stream_->time_base, AVRational{1, rate_});
     length_ = std::max<std::int64_t>(0, lasting - av_rescale(off, rate_, counter->rate_) - facts_.primingFrames);
@@ -286,7 +288,7 @@ AudioStreamBasicDescription InputFile::dataFormat() const {
     format.mChannelsPerFrame = std::uint32_t(channels_);
     if (isPcm(parameters.codec_id)) {
         const AVCodecID id = parameters.codec_id;
-        const auto bits = std::uint32_t(std::max(0, av_get_bits_per_sample(id)));
+        const auto bits = std::uint32_t(std::max(0, Av::codecs().bitsPerSample(id)));
         const bool isFloat = id == AV_CODEC_ID_PCM_F32LE || id == AV_CODEC_ID_PCM_F32BE ||
                              id == AV_CODEC_ID_PCM_F64LE || id == AV_CODEC_ID_PCM_F64BE;
         const bool isUnsigned = id == AV_CODEC_ID_PCM_U8 || id == AV_CODEC_ID_PCM_U16LE || id == AV_CODEC_ID_PCM_U16BE;
@@ -302,13 +304,13 @@ AudioStreamBasicDescription InputFile::dataFormat() const {
         format.mFramesPerPacket = std::uint32_t(parameters.frame_size > 0 ? parameters.frame_size : 1024);
     } else {
         // The first four letters of the codec's name.
-        const char* name = avcodec_get_name(parameters.codec_id);
+        const char* name = Av::codecs().name(parameters.codec_id);
         for (int i = 0; i < 4; ++i) {
             const char letter = *name ? *name++ : ' ';
             format.mFormatID = (format.mFormatID << 8) | std::uint8_t(letter);
         }
         format.mFramesPerPacket = std::uint32_t(std::max(0, parameters.frame_size));
-        const AVCodecDescriptor* descriptor = avcodec_descriptor_get(parameters.codec_id);
+        const AVCodecDescriptor* descriptor = Av::codecs().descriptor(parameters.codec_id);
         if (descriptor && (descriptor->props & AV_CODEC_PROP_LOSSLESS) && !(descriptor->props & AV_CODEC_PROP_LOSSY))
             format.mBitsPerChannel = std::uint32_t(std::max(0, parameters.bits_per_raw_sample));
     }
@@ -354,7 +356,7 @@ InputFile::Got InputFile::decodeOne(std::optional<MediaError>& error) {
     };
     for (;;) {
         av_frame_unref(frame_.get());
-        const int received = avcodec_receive_frame(codec_.get(), frame_.get());
+        const int received = Av::codecs().receiveFrame(codec_.get(), frame_.get());
         if (received >= 0) {
             failuresInARow_ = 0;
             if (frame_->nb_samples > 0 && frame_->ch_layout.nb_channels > 0)
@@ -377,20 +379,20 @@ InputFile::Got InputFile::decodeOne(std::optional<MediaError>& error) {
             if (read != AVERROR_EOF && read != AVERROR(EAGAIN))
                 damaged(read);
             draining_ = true;
-            if (avcodec_send_packet(codec_.get(), nullptr) < 0)
+            if (Av::codecs().sendPacket(codec_.get(), nullptr) < 0)
                 return Got::End;
             continue;
         }
         if (packet_->stream_index != stream_->index) {
-            av_packet_unref(packet_.get());
+            Av::codecs().unrefPacket(packet_.get());
             continue;
         }
         const std::int64_t duration = durationOf(*packet_);
         if (packet_->pts == AV_NOPTS_VALUE)
             packet_->pts = packetTime_;
         packetTime_ = packet_->pts + duration;
-        const int sent = avcodec_send_packet(codec_.get(), packet_.get());
-        av_packet_unref(packet_.get());
+        const int sent = Av::codecs().sendPacket(codec_.get(), packet_.get());
+        Av::codecs().unrefPacket(packet_.get());
         if (sent < 0 && sent != AVERROR(EAGAIN)) {
             damaged(sent);
             if (sent == AVERROR(ENOMEM) || ++failuresInARow_ > mostFailuresInARow)
@@ -517,7 +519,7 @@ bool InputFile::seek(std::int64_t frame) {
     if (timestampsAreExact() && frame > prerollFrames) {
         const std::int64_t time = inStreamTime(frame - prerollFrames) + origin_;
         if (av_->seekFrame(format_.get(), stream_->index, time, AVSEEK_FLAG_BACKWARD) >= 0) {
-            avcodec_flush_buffers(codec_.get());
+            Av::codecs().flushBuffers(codec_.get());
             draining_ = frameIsWaiting_ = false;
             timeFromFrames_ = true;
             target_ = frame;
@@ -535,7 +537,7 @@ bool InputFile::seek(std::int64_t frame) {
     if (!openContainer(error))
         return false;
     codec_ = Av::createDecoder(*stream_);
-    if (!codec_ || avcodec_open2(codec_.get(), nullptr, nullptr) < 0)
+    if (!codec_ || Av::codecs().open(codec_.get(), nullptr, nullptr) < 0)
         return false;
     frameIsWaiting_ = draining_ = false;
     packetTime_ = 0;
@@ -548,7 +550,7 @@ bool InputFile::seek(std::int64_t frame) {
             longest = std::max(longest, duration);
             packetTime_ = (packet_->pts != AV_NOPTS_VALUE ? packet_->pts : packetTime_) + duration;
         }
-        av_packet_unref(packet_.get());
+        Av::codecs().unrefPacket(packet_.get());
     }
     timeFromFrames_ = true;
     return true;

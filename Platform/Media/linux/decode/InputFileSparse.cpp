@@ -37,14 +37,14 @@ bool InputFile::sparseSamples(std::span<const std::int64_t> frames, std::span<fl
     const auto part = [&](std::size_t from, std::size_t to) {
         Av::CodecPtr codec = Av::createDecoder(*stream_);
         const Av::FramePtr frame(av_frame_alloc());
-        const Av::PacketPtr packet(av_packet_alloc());
+        const Av::PacketPtr packet(Av::codecs().allocPacket());
         if (!codec || !frame || !packet)
             return false;
         codec->flags2 |= AV_CODEC_FLAG2_SKIP_MANUAL;
-        if (avcodec_open2(codec.get(), nullptr, nullptr) < 0)
+        if (Av::codecs().open(codec.get(), nullptr, nullptr) < 0)
             return false;
         // One buffer for all packets: the decoder has consumed one before the next is read.
-        if (av_new_packet(packet.get(), mostPacketBytes) < 0)
+        if (Av::codecs().newPacket(packet.get(), mostPacketBytes) < 0)
             return false;
         std::int64_t decoded = -2;
         for (std::size_t i = from; i < to; ++i) {
@@ -59,8 +59,8 @@ bool InputFile::sparseSamples(std::span<const std::int64_t> frames, std::span<fl
                 packet->size = place.size;
                 std::memset(packet->data + place.size, 0, AV_INPUT_BUFFER_PADDING_SIZE);
                 if (!file_.readAll(place.offset, std::span(packet->data, std::size_t(place.size))) ||
-                    avcodec_send_packet(codec.get(), packet.get()) < 0 ||
-                    avcodec_receive_frame(codec.get(), frame.get()) < 0 || frame->format != AV_SAMPLE_FMT_FLTP ||
+                    Av::codecs().sendPacket(codec.get(), packet.get()) < 0 ||
+                    Av::codecs().receiveFrame(codec.get(), frame.get()) < 0 || frame->format != AV_SAMPLE_FMT_FLTP ||
                     frame->nb_samples != packetFrames)
                     return false;
                 decoded = p;

@@ -6,9 +6,13 @@
 
 namespace Platform {
 
-AacEncoder::AacEncoder(int rate, int channels) : frame_(av_frame_alloc()), packet_(av_packet_alloc()) {
-    const AVCodec* codec = avcodec_find_encoder_by_name("aac");
-    Av::CodecPtr context(codec ? avcodec_alloc_context3(codec) : nullptr);
+AacEncoder::AacEncoder(int rate, int channels) {
+    if (!Av::codecLibrary())
+        return;
+    frame_.reset(av_frame_alloc());
+    packet_.reset(Av::codecs().allocPacket());
+    const AVCodec* codec = Av::codecs().findEncoderByName("aac");
+    Av::CodecPtr context(codec ? Av::codecs().allocContext(codec) : nullptr);
     if (!context || !frame_ || !packet_ || channels < 1 || channels > 8)
         return;
     context->sample_rate = rate;
@@ -19,7 +23,7 @@ AacEncoder::AacEncoder(int rate, int channels) : frame_(av_frame_alloc()), packe
     av_channel_layout_default(&context->ch_layout, channels);
     // Without noise substitution the upper bands keep 4 dB more of the signal, and decoding is deterministic.
     av_opt_set_int(context->priv_data, "aac_pns", 0, 0);
-    if (avcodec_open2(context.get(), codec, nullptr) < 0)
+    if (Av::codecs().open(context.get(), codec, nullptr) < 0)
         return;
     frame_->format = AV_SAMPLE_FMT_FLTP;
     frame_->sample_rate = rate;
@@ -54,24 +58,24 @@ bool AacEncoder::encode(const float* const* channels, int frames, std::vector<Pa
             out[i] = std::fabs(channels[c][i]) < loudest ? channels[c][i] : 0.0f;
     }
     position_ += frames;
-    return avcodec_send_frame(context_.get(), frame_.get()) >= 0 && receive(out);
+    return Av::codecs().sendFrame(context_.get(), frame_.get()) >= 0 && receive(out);
 }
 
 bool AacEncoder::flush(std::vector<Packet>& out) {
     if (position_ == 0)
         return true;
-    return avcodec_send_frame(context_.get(), nullptr) >= 0 && receive(out);
+    return Av::codecs().sendFrame(context_.get(), nullptr) >= 0 && receive(out);
 }
 
 bool AacEncoder::receive(std::vector<Packet>& out) {
     for (;;) {
-        const int code = avcodec_receive_packet(context_.get(), packet_.get());
+        const int code = Av::codecs().receivePacket(context_.get(), packet_.get());
         if (code == AVERROR(EAGAIN) || code == AVERROR_EOF)
             return true;
         if (code < 0)
             return false;
         out.emplace_back(packet_->data, packet_->data + packet_->size);
-        av_packet_unref(packet_.get());
+        Av::codecs().unrefPacket(packet_.get());
     }
 }
 

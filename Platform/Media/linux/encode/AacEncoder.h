@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Platform/Media/linux/LibAv.h"
+#include "Platform/Media/linux/LibAvCodec.h"
 #include "Platform/Media/linux/encode/PacketFile.h"
 
 #include <vector>

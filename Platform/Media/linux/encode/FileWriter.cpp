@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/linux/encode/FileWriter.h"
+#include "Platform/Media/linux/LibAvCodec.h"
 #include "Platform/Media/linux/decode/RateConverter.h"
 #include "Platform/Media/linux/encode/FrameSink.h"
 #include "Platform/Media/linux/encode/PlaneRing.h"
@@ -177,9 +178,14 @@ void FileWriter::start(bool parallel) {
         core.sink = createWaveSink(core.file, rate, int(width), int(core.format.mBitsPerChannel),
                                    core.format.mFormatFlags & kAudioFormatFlagIsFloat);
     }
-    if (!core.sink)
+    if (!core.sink) {
+        std::string why;
+        const bool isMissing = core.format.mFormatID == kAudioFormatMPEG4AAC && !Av::codecLibrary(&why);
         core.file.fail(makeError(MediaError::Kind::Encoder, core.path,
-                                 QStringLiteral("the encoder does not take this rate or channel count")));
+                                 isMissing
+                                     ? QStringLiteral("the encoder is missing: ") + QString::fromLocal8Bit(why.c_str())
+                                     : QStringLiteral("the encoder does not take this rate or channel count")));
+    }
     core.ring = std::make_unique<PlaneRing>(core.channels.size(), std::size_t(clientRate) * ringSeconds);
     core.started = true;
     core.thread = std::thread([core = core_] { core->run(); });
