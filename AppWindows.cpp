@@ -77,6 +77,7 @@ public:
         record_ = std::make_unique<RecordStateController>();
         record_->awakeFromNib();
         EditNote::recover(); // before the window shows the library
+        record_->tellUnfinishedRecordings();
         auto window = std::make_unique<MainWndController>(*record_, MediaLibrary::shareLibrary());
         editWindows_ = new EditWindows(*window, window.get());
         QTimer::singleShot(afterFirstPaint, window.get(), [] {

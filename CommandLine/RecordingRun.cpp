@@ -160,11 +160,10 @@ void RecordingRun::finish() {
 }
 
 void RecordingRun::tellNotices() {
-    const QStringList notices = controller_.notices();
+    // Taken out of the controller, whose list is bounded.
+    const QStringList notices = controller_.takeNotices();
     for (; told_ < notices.size(); ++told_)
         meter_.say(notices.at(told_));
-    // The list is bounded: remove the printed notices, so that none is dropped before it is printed.
-    controller_.dismissNotices();
     told_ = 0;
 }
 

@@ -11,6 +11,7 @@
 #include "Source/View/Theme.h"
 #include "ui_AudioWaveViewController.h"
 
+#include <QDir>
 #include <QEvent>
 
 #include <cmath>
@@ -40,8 +41,16 @@ QFont scaled(QFont font, qreal points, QFont::Weight weight = QFont::Normal) {
     return font;
 }
 
-/// The text in at most two lines, elided at the end, because the important part comes first.
-QString inTwoLines(const QString& text, const QFontMetrics& metrics, int room) {
+/// The text in at most two lines, elided at the end, because the important part comes first. A path takes the second
+/// line and is elided in the middle.
+QString inTwoLines(const QString& text, const QString& path, const QFontMetrics& metrics, int room) {
+    if (!path.isEmpty()) {
+        QString shown = path;
+        if (const QString home = QDir::homePath(); shown.startsWith(home + u'/'))
+            shown = u'~' + shown.mid(home.size());
+        return metrics.elidedText(text, Qt::ElideRight, room) + u'\n' +
+               metrics.elidedText(shown, Qt::ElideMiddle, room);
+    }
     if (metrics.horizontalAdvance(text) <= room)
         return text;
     qsizetype end = 0; // of the first line, between two words
@@ -58,6 +67,20 @@ void setElided(QLabel* label, const QString& text) {
     const QString shown = label->fontMetrics().elidedText(text, Qt::ElideMiddle, room);
     label->setText(shown);
     label->setToolTip(shown == text ? QString() : text);
+}
+
+QString helpText(RecordNotice::Help help) {
+    switch (help) {
+    case RecordNotice::Help::None:
+        break;
+    case RecordNotice::Help::Show:
+        return AudioWaveViewController::tr("Show");
+    case RecordNotice::Help::ChooseDevice:
+        return AudioWaveViewController::tr("Choose Device");
+    case RecordNotice::Help::FreeSpace:
+        return AudioWaveViewController::tr("Free Space …");
+    }
+    return {};
 }
 
 void setGlassIcon(QToolButton* button, const QString& name) {
@@ -118,6 +141,11 @@ void AudioWaveViewController::awakeFromNib() {
 
     ui_->audioPlayProgressView->setDelegate(this);
     connect(ui_->changeTabViewButton, &QToolButton::clicked, this, &AudioWaveViewController::changeTabView);
+    ui_->helpButton->setFont(scaled(font, font.pointSizeF() - 1.5, QFont::DemiBold));
+    connect(ui_->helpButton, &QToolButton::clicked, this, [this] {
+        if (!notices_.isEmpty())
+            Q_EMIT helpRequested(notices_.last());
+    });
     connect(ui_->dismissNoticeButton, &QToolButton::clicked, this, [this] {
         setNotices({});
         Q_EMIT noticesDismissed();
@@ -156,12 +184,12 @@ void AudioWaveViewController::showTab() {
     ui_->recordTextView->setVisible(tabViewShowWave_ || recordState_ != RecordState::Idle);
 }
 
-void AudioWaveViewController::setRecordState(RecordState state) {
+void AudioWaveViewController::setRecordState(RecordState state, bool isRecording) {
+    if (view_)
+        view_->setRecording(isRecording);
     if (state == recordState_)
         return;
     recordState_ = state;
-    if (view_)
-        view_->setRecording(state == RecordState::Recording);
     showTab();
 }
 
@@ -176,7 +204,8 @@ void AudioWaveViewController::showHint() {
     if (!view_)
         return;
     ui_->hintField->setVisible(!hint_.isEmpty());
-    ui_->hintField->setText(inTwoLines(hint_, ui_->hintField->fontMetrics(), std::max(ui_->hintField->width(), 16)));
+    ui_->hintField->setText(
+        inTwoLines(hint_, {}, ui_->hintField->fontMetrics(), std::max(ui_->hintField->width(), 16)));
     ui_->hintField->setToolTip(hint_);
 }
 
@@ -275,7 +304,7 @@ void AudioWaveViewController::setAudioPosition(float seconds) {
         Q_EMIT audioPositionSet(double(position));
 }
 
-void AudioWaveViewController::setNotices(const QStringList& notices) {
+void AudioWaveViewController::setNotices(const QList<RecordNotice>& notices) {
     if (notices == notices_)
         return;
     notices_ = notices;
@@ -288,14 +317,21 @@ void AudioWaveViewController::showNotices() {
     ui_->noticeLine->setVisible(!notices_.isEmpty());
     if (notices_.isEmpty())
         return;
-    // The line shows the newest notice, the tool tip all of them.
-    const QString newest = notices_.size() > 1
-                               ? tr("%1 (and %n more)", nullptr, int(notices_.size()) - 1).arg(notices_.last())
-                               : notices_.last();
+    // The newest one in the line, all of them in its tool tip.
+    const RecordNotice& newest = notices_.last();
+    const QString help = helpText(newest.help);
+    ui_->helpButton->setText(help);
+    ui_->helpButton->setVisible(!help.isEmpty());
+    QString text = newest.text;
+    if (notices_.size() > 1)
+        text = tr("%1 (and %n more)", nullptr, int(notices_.size()) - 1).arg(text);
+    QStringList all;
+    for (const RecordNotice& notice : notices_)
+        all.append(notice.sentence());
     ui_->noticeField->setText(
-        inTwoLines(newest, ui_->noticeField->fontMetrics(), std::max(ui_->noticeField->width(), 16)));
-    ui_->noticeField->setToolTip(notices_.join(u'\n'));
-    ui_->noticeField->setAccessibleDescription(notices_.join(u'\n'));
+        inTwoLines(text, newest.path, ui_->noticeField->fontMetrics(), std::max(ui_->noticeField->width(), 16)));
+    ui_->noticeField->setToolTip(all.join(u'\n'));
+    ui_->noticeField->setAccessibleDescription(all.join(u'\n'));
 }
 
 bool AudioWaveViewController::eventFilter(QObject* watched, QEvent* event) {

@@ -3,10 +3,10 @@
 #pragma once
 
 #include "Source/AudioWaveViewController/AudioPlayProgressView.h"
+#include "Source/Record/RecordNotice.h"
 
 #include <QColor>
 #include <QObject>
-#include <QStringList>
 #include <QTimer>
 
 #include <memory>
@@ -81,9 +81,9 @@ public:
     [[nodiscard]] QColor stateColor() const { return stateColor_; }
     void setStateColor(const QColor& color);
 
-    /// What the recording does, for the panel's frame. Beside the playback side, state and time show while it is not
-    /// idle.
-    void setRecordState(RecordState state);
+    /// What the recording does. Beside the playback side, state and time show while it is not idle. The panel has a red
+    /// frame while sound is written.
+    void setRecordState(RecordState state, bool isRecording);
     [[nodiscard]] RecordState recordState() const { return recordState_; }
     /// One sentence above the level history: what an armed recording waits for, or why nothing is heard. Empty hides
     /// it.
@@ -101,8 +101,8 @@ public:
     void setAudioPosition(float seconds) override;
 
     /// Messages for the user, newest last; shown until dismissed. An empty list hides the line.
-    void setNotices(const QStringList& notices);
-    [[nodiscard]] QStringList notices() const { return notices_; }
+    void setNotices(const QList<RecordNotice>& notices);
+    [[nodiscard]] const QList<RecordNotice>& notices() const { return notices_; }
 
     void createDudioPlayUpdateTimer();
     void destroyDudioPlayUpdateTimer();
@@ -132,6 +132,8 @@ Q_SIGNALS:
     void audioPositionSet(double seconds);
     /// The user dismissed the notices.
     void noticesDismissed();
+    /// The user asks for the help that the newest notice offers.
+    void helpRequested(const RecordNotice& notice);
 
 private:
     void awakeFromNib();
@@ -155,5 +157,5 @@ private:
     QColor stateColor_;
     RecordState recordState_{};
     QString hint_;
-    QStringList notices_;
+    QList<RecordNotice> notices_;
 };

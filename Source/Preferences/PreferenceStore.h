@@ -32,6 +32,8 @@ inline const QString ChooseRecordComputerAudio = QStringLiteral("ChooseRecordCom
 inline const QString PreferenceStartStopShortcutKey = QStringLiteral("PreferenceStartStopShortcutKey");
 inline const QString PreferencePauseResumeShortcutKey = QStringLiteral("PreferencePauseResumeShortcutKey");
 inline const QString PreferenceStartNewRecordShortcutKey = QStringLiteral("PreferenceStartNewRecordShortcutKey");
+/// Unfinished recordings that the user has seen: file names with their times, as text.
+inline const QString kUnfinishedSeenKey = QStringLiteral("kUnfinishedSeenKey");
 inline const QString kMediaLibrarySavedKey = QStringLiteral("kMediaLibrarySavedKey");
 
 /// The stored object, or @p defaultObject when there is none; nothing is written.

@@ -53,20 +53,17 @@ std::uint64_t RecordStateController::lostFrames() const {
     return d->lostBefore_.frames + d->engineLosses().frames;
 }
 
+double RecordStateController::lostSeconds() const {
+    const std::scoped_lock lock(d->mutex);
+    return d->lostBefore_.seconds + d->engineLosses().seconds;
+}
+
 void RecordStateController::setRecordLimit(double seconds) {
     d->limit_ = seconds;
 }
 
 bool RecordStateController::hasFile() const {
     return d->builtIn.hasFile || d->computer.hasFile;
-}
-
-QString RecordStateController::writeProblem() const {
-    for (const RecordSource& source : d->sources)
-        if (source.writes())
-            if (const auto error = source.engine->writeError())
-                return error.text;
-    return {};
 }
 
 QString RecordStateController::getAudioRecordPath() {
@@ -158,6 +155,8 @@ void RecordStateController::Private::isRecordingFlushTheFace(bool recording) {
 void RecordStateController::Private::startRecord() {
     endWhatAStopLeft();
     devices->setRecording(false); // handles devices that left while an armed wait was still recording
+    ++recordingNumber_;
+    notices_.beginRecording();
     // Before cycles are held: the search may take long on a slow share.
     const QString path = names.getAudioRecordPath(recordFolder());
     const CycleHold hold(sources);
@@ -168,9 +167,14 @@ void RecordStateController::Private::startRecord() {
     lostBefore_ = {};
     lostShown_ = 0;
     writeProblemShown_ = false;
+    fullSince_ = 0;
+    ticksToRoom_ = 0;
+    roomStage_ = 0;
     for (RecordSource& source : sources) {
         source.off = false;
         source.away = source.wasAway = false;
+        source.awaySince = 0;
+        source.awaySeconds = 0;
     }
     if (builtIn.checked)
         beginFile(builtIn, true);
@@ -190,7 +194,20 @@ void RecordStateController::Private::startRecord() {
     }
     // The window must not show a recording.
     names.giveBack(audioRecordPath_);
-    notice(u"Nothing is being recorded: there is no source."_s);
+    for (const RecordSource& source : sources)
+        withdrawNotice(offEvent(source));
+    const bool canChoose = builtIn.checked && !devices->deviceNames().isEmpty();
+    const QString why = builtIn.engine->lastError();
+    QString text = u"The input device does not deliver. Nothing is recorded."_s;
+    if (!builtIn.checked)
+        text = u"Computer audio does not deliver. Nothing is recorded."_s;
+    else if (devices->deviceNames().isEmpty())
+        text = u"There is no input device. Nothing is recorded."_s;
+    else if (!why.isEmpty())
+        text = u"The input device does not deliver (%1). Nothing is recorded."_s.arg(why);
+    notice({.text = text,
+            .help = canChoose ? RecordNotice::Help::ChooseDevice : RecordNotice::Help::None,
+            .event = u"source"_s});
 }
 
 /// A stop before the first sound: the wait continues and keeps its name and its open file. A recording that never had a

@@ -40,6 +40,10 @@ QString RecordStateController::Private::rawPath(const RecordSource& source) {
     return g_strTmpPath + source.rawName + QString::number(recordNum) + u".m4a"_s;
 }
 
+QString RecordStateController::Private::offEvent(const RecordSource& source) {
+    return u"off "_s + source.label;
+}
+
 /// Opens the next raw file of a source and, with @p record, starts to write to it.
 void RecordStateController::Private::beginFile(RecordSource& source, bool record) {
     source.hasFile = false;
@@ -47,15 +51,17 @@ void RecordStateController::Private::beginFile(RecordSource& source, bool record
     if (!source.engine->isRunning()) {
         source.off = true;
         const QString why = source.engine->lastError();
-        notice(u"%1 is off: it did not start%2. This recording goes without it."_s.arg(
-            source.label, why.isEmpty() ? QString() : u" (%1)"_s.arg(why)));
+        notice({.text = u"%1 is off: it did not start%2. This recording goes without it."_s.arg(
+                    source.label, why.isEmpty() ? QString() : u" (%1)"_s.arg(why)),
+                .event = offEvent(source)});
         return;
     }
     const QString path = rawPath(source);
     (void)removeFile(path);
     source.hasFile = source.engine->setOutPutAudioPath(path, 1);
     if (!source.hasFile)
-        notice(u"%1 is not being recorded: %2."_s.arg(source.label, source.engine->lastError()));
+        notice({.text = u"%1 is not being recorded: %2."_s.arg(source.label, source.engine->lastError()),
+                .event = offEvent(source)});
     if (record)
         source.engine->startRecordAudio();
 }
@@ -255,8 +261,9 @@ bool RecordStateController::Private::exchangeFiles(Ending& ending) {
             continue;
         }
         --ending.job->openFiles;
-        notice(
-            u"The recording could not be split (%1). It goes on in the same file."_s.arg(source.engine->lastError()));
+        notice({.text = u"The recording could not be split (%1). It goes on in the same file."_s.arg(
+                    source.engine->lastError()),
+                .event = u"split"_s});
         if (!exchanged)
             return false;
         ending.job->paths.remove(source.jobKey);

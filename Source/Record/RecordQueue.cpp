@@ -12,6 +12,7 @@
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Record/CutOffRecordings.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QThread>
 
@@ -42,13 +43,20 @@ void removeTemporaryFile(const QString& path) {
         qWarning("%s stays in the temporary folder: %s", qUtf8Printable(path), qUtf8Printable(problem));
 }
 
-/// A list of the places where files were kept, for a message.
-QString places(const QStringList& kept) {
+/// A notice that ends with the place where files were kept. @p what it is that is kept, at the beginning of a sentence.
+RecordNotice keptNotice(const QString& text, const QString& what, const QStringList& kept) {
+    RecordNotice notice{.text = text};
+    if (kept.isEmpty())
+        return notice;
     const QString folder = Platform::FileManager::unfinishedFolder();
-    QString text = kept.join(u" and "_s);
-    if (std::ranges::any_of(kept, [&](const QString& path) { return QFileInfo(path).path() != folder; }))
-        text += u", which the next start moves to %1 when there is room"_s.arg(folder);
-    return text;
+    const bool waits = std::ranges::any_of(kept, [&](const QString& path) { return QFileInfo(path).path() != folder; });
+    notice.text += waits ? u" %1 is kept, and moved by the next start when there is room, at"_s.arg(what)
+                         : u" %1 is kept at"_s.arg(what);
+    notice.path = kept.front();
+    notice.kept = kept;
+    notice.help = RecordNotice::Help::Show;
+    notice.event = u"kept "_s + kept.front();
+    return notice;
 }
 
 } // namespace
@@ -131,7 +139,9 @@ void RecordQueue::rawFileClosed(const Guard& guard, const std::shared_ptr<Export
         RecordQueue& queue = **self;
         if (status != noErr)
             Q_EMIT queue.noticed(
-                u"A part of the recording could not be written (error %1). What was written is kept."_s.arg(status));
+                {.text = u"A part of the recording could not be written (error %1). What was written is kept."_s.arg(
+                     status),
+                 .event = UnwrittenEvent});
         if (queue.isConverterTherecordAudio_ && !queue.working_)
             queue.converterTherecordAudio();
     });
@@ -185,9 +195,9 @@ bool RecordQueue::deliver(const std::shared_ptr<ExportJob>& job, const QString& 
     const auto problem = Platform::FileManager::moveToFreeName(
         file, wished, [this](const QString&) { return owner_.nextFreeName(); }, landed);
     if (!problem.isEmpty()) {
-        setAside(
-            job, {file},
-            u"%1 could not be saved in %2: %3."_s.arg(QFileInfo(wished).fileName(), QFileInfo(wished).path(), problem));
+        setAside(job, {file},
+                 u"%1: %2 could not be saved in “%3”."_s.arg(problem, QFileInfo(wished).fileName(),
+                                                             QDir(QFileInfo(wished).path()).dirName()));
         return false;
     }
     CutOffRecordings::remove(file);
@@ -229,7 +239,8 @@ void RecordQueue::openMovies(const std::shared_ptr<ExportJob>& job) {
             CutOffRecordings::remove(bad);
             onMain([this, name, kept, why = reason(first ? secondError : firstError)] {
                 Q_EMIT noticed(
-                    u"One source of %1 could not be read (%2). It is kept at %3."_s.arg(name, why, places({kept})));
+                    keptNotice(u"One source of %1 could not be read (%2) and is missing in it."_s.arg(name, why),
+                               u"It"_s, {kept}));
             });
         }
         moveRawFile(job, good);
@@ -257,7 +268,7 @@ void RecordQueue::converterMovie(const std::shared_ptr<ExportJob>& job) {
     if (available >= 0 && double(available) < needed) {
         qtMovieForRecord_.reset();
         setAside(job, raws,
-                 u"%1 could not be mixed: it needs %2 MB of space and %3 MB are left."_s.arg(
+                 u"The disk is nearly full: %1 could not be mixed, which needs %2 MB; %3 MB are left."_s.arg(
                      name, QString::number(std::llround(needed / 1e6)), QString::number(available / 1000000)));
         return;
     }
@@ -348,20 +359,18 @@ void RecordQueue::keepDamaged(ExportJob& job, const QStringList& keys, const Med
     for (const QString& key : keys)
         job.paths.remove(key); // so that the job does not delete it
     const QString name = QFileInfo(job.path(ExportJob::OutPutPath)).fileName();
-    const QString text =
-        u"A part of %1 could not be read (%2) and is missing in it. What it was made from is kept at %3."_s.arg(
-            name, reason(damage), places(kept));
-    onMain([this, text] { Q_EMIT noticed(text); });
+    const RecordNotice notice =
+        keptNotice(u"A part of %1 could not be read (%2) and is missing in it."_s.arg(name, reason(damage)),
+                   u"What it was made from"_s, kept);
+    onMain([this, notice] { Q_EMIT noticed(notice); });
 }
 
 void RecordQueue::setAside(const std::shared_ptr<ExportJob>& job, const QStringList& files, const QString& why) {
     const QString wished = job->path(ExportJob::OutPutPath);
     const QStringList kept = keepFiles(*job, files);
-    QString text = why;
-    if (!kept.isEmpty())
-        text += u" The recording is kept at %1."_s.arg(places(kept));
-    onMain([this, wished, kept, text] {
-        Q_EMIT noticed(text);
+    const RecordNotice notice = keptNotice(why, u"The recording"_s, kept);
+    onMain([this, wished, kept, notice] {
+        Q_EMIT noticed(notice);
         Q_EMIT recordingSetAside(wished, kept);
         endJob(wished);
     });
@@ -383,7 +392,11 @@ void RecordQueue::tagFile(const ExportJob& job) {
     }
     onMain([this, finalPath, tags, tagged] {
         if (!tagged)
-            Q_EMIT noticed(u"%1 could not be tagged."_s.arg(QFileInfo(finalPath).fileName()));
+            Q_EMIT noticed(
+                {.text = u"%1 could not be tagged. Its sound is whole."_s.arg(QFileInfo(finalPath).fileName()),
+                 .path = {},
+                 .help = RecordNotice::Help::Show,
+                 .target = finalPath});
         finishConverter(finalPath, tags);
     });
 }

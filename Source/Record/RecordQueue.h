@@ -6,6 +6,7 @@
 #include "Source/BuiltInAudioRecord/BuildInAudioRecord.h"
 #include "Source/Control/ConverterAudioControl.h"
 #include "Source/Preferences/RecordPreferences.h"
+#include "Source/Record/RecordNotice.h"
 
 #include <QObject>
 #include <QThreadPool>
@@ -63,6 +64,9 @@ public:
         std::function<RecordFilter()> filter;
     };
 
+    /// Of notices about a recording that could not be written whole.
+    static inline const QString UnwrittenEvent = QStringLiteral("write");
+
     explicit RecordQueue(Owner owner, QObject* parent = nullptr);
     /// Stops the current job and sets the files of all jobs aside.
     ~RecordQueue() override;
@@ -94,7 +98,7 @@ Q_SIGNALS:
     void recordingFinished(const QString& path, const Dictionary& entry);
     /// A job failed; its files are now at @p kept.
     void recordingSetAside(const QString& path, const QStringList& kept);
-    void noticed(const QString& text);
+    void noticed(const RecordNotice& notice);
 
 private:
     void onMain(std::function<void()> work);

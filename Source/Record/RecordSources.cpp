@@ -16,6 +16,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int RetryMilliseconds = 500;
+/// Of the notice about a device in the place of the chosen one.
+const QString ReplacedEvent = u"replaced"_s;
 
 QString nameOf(const QVariant& device) {
     return device.toMap().value(BuildInAudioRecord::DeviceNameKey).toString();
@@ -96,6 +98,7 @@ void RecordSources::chooseBuiltInDevice(int index) {
         return;
     selected_ = index;
     chosenDevice_ = idOf(aryInputAudioDevice_.at(index));
+    Q_EMIT settled(ReplacedEvent);
     configAudioDevice(index);
     Q_EMIT devicesChanged();
 }
@@ -126,8 +129,10 @@ void RecordSources::bind(BuildInAudioRecord& engine, AudioObjectID device, const
     if (!engine.records(device))
         return;
     BuildInAudioRecord::setMaxVolume(device);
+    const QString event = u"open %1"_s.arg(device);
     if (engine.configureAudioUnit(device)) {
-        unopened_.removeAll(device);
+        if (unopened_.removeAll(device) > 0)
+            Q_EMIT settled(event);
         return;
     }
     // A device that just appeared may not be ready, and no event says when it is.
@@ -135,7 +140,11 @@ void RecordSources::bind(BuildInAudioRecord& engine, AudioObjectID device, const
     if (unopened_.contains(device))
         return;
     unopened_.append(device);
-    Q_EMIT noticed(u"%1 cannot be opened: %2"_s.arg(name, engine.lastError()));
+    Q_EMIT noticed(
+        {.text = u"%1 cannot be opened: %2. Nothing is heard from it until it can."_s.arg(name, engine.lastError()),
+         .help = RecordNotice::Help::ChooseDevice,
+         .event = event,
+         .outlivesRecording = true});
 }
 
 void RecordSources::openAgain() {
@@ -197,6 +206,12 @@ void RecordSources::followDevices() {
 
     if (devices == aryInputAudioDevice_)
         return;
+    const AudioObjectID boundBeforeID = boundDevice_;
+    const int before = indexOfDevice(boundBeforeID);
+    const QString boundBefore = before < 0 ? QString() : nameOf(aryInputAudioDevice_.at(before));
+    for (const QVariant& device : aryInputAudioDevice_)
+        if (!devices.contains(device) && unopened_.removeAll(idOf(device)) > 0)
+            Q_EMIT settled(u"open %1"_s.arg(idOf(device)));
     aryInputAudioDevice_ = devices;
     selected_ = devices.isEmpty() ? -1 : 0;
     for (qsizetype i = 0; i < devices.size(); ++i)
@@ -209,7 +224,23 @@ void RecordSources::followDevices() {
     } else if (idOf(devices.at(selected_)) != boundDevice_) {
         bindChosen();
     }
+    if (selected_ >= 0 && boundDevice_ == chosenDevice_)
+        Q_EMIT settled(ReplacedEvent);
+    else if (!boundBefore.isNull() && indexOfDevice(boundBeforeID) < 0)
+        tellReplacement(boundBefore);
     Q_EMIT devicesChanged();
+}
+
+/// The device that was heard is gone; the user is told which one is heard instead.
+void RecordSources::tellReplacement(const QString& gone) {
+    RecordNotice notice{.text = u"%1 is gone. There is no other input device: connect one."_s.arg(gone),
+                        .event = ReplacedEvent};
+    if (selected_ >= 0) {
+        notice.text =
+            u"%1 is gone. %2 takes its place until it is back."_s.arg(gone, nameOf(aryInputAudioDevice_.at(selected_)));
+        notice.help = RecordNotice::Help::ChooseDevice;
+    }
+    Q_EMIT noticed(notice);
 }
 
 QStringList RecordSources::deviceNames() const {

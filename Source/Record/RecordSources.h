@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Source/BuiltInAudioRecord/BuildInAudioRecord.h"
+#include "Source/Record/RecordNotice.h"
 
 #include <QObject>
 #include <QStringList>
@@ -44,13 +45,16 @@ Q_SIGNALS:
     /// The computer-audio device appeared or left.
     void computerAudioDeviceChanged();
     /// A message for the user.
-    void noticed(const QString& text);
+    void noticed(const RecordNotice& notice);
+    /// What a notice was about is over.
+    void settled(const QString& event);
 
 private:
     void adoptComputerAudio(AudioObjectID device);
     void followDevices();
     void bindChosen();
     void bind(BuildInAudioRecord& engine, AudioObjectID device, const QString& name);
+    void tellReplacement(const QString& gone);
     void openAgain();
 
     BuildInAudioRecord& buildInAudioRecord_;

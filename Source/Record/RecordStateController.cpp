@@ -19,9 +19,6 @@ using namespace PreferenceStore;
 
 namespace {
 
-/// The display has no room for more, and the newest must stay visible.
-constexpr qsizetype MostNotices = 20;
-
 Q_LOGGING_CATEGORY(recordLog, "sonaphex.record")
 
 } // namespace
@@ -54,7 +51,10 @@ RecordStateController::RecordStateController(EngineFactory factory, QObject* par
     connect(d->queue.get(), &RecordQueue::queueChanged, this, &RecordStateController::queueChanged);
     connect(d->queue.get(), &RecordQueue::recordingFinished, this, &RecordStateController::recordingFinished);
     connect(d->queue.get(), &RecordQueue::recordingSetAside, this, &RecordStateController::recordingSetAside);
-    connect(d->queue.get(), &RecordQueue::noticed, this, [this](const QString& text) { d->notice(text); });
+    connect(d->queue.get(), &RecordQueue::noticed, this,
+            [this](const RecordNotice& notice) { d->queueNotice(notice); });
+    connect(&d->notices_, &RecordNotices::changed, this, &RecordStateController::noticesChanged);
+    connect(&d->room_, &RecordRoom::measured, this, [this](const RecordRoom::Room& room) { d->followRoom(room); });
 
     connect(&d->recordTimerForTime_, &QTimer::timeout, this, &RecordStateController::recordFlushTime);
     d->recordTimerForTime_.setTimerType(Qt::PreciseTimer);
@@ -101,7 +101,9 @@ void RecordStateController::awakeFromNib() {
         d->forgetLeftWait();
         refreshTheFace();
     });
-    connect(d->devices.get(), &RecordSources::noticed, this, [this](const QString& text) { d->notice(text); });
+    connect(d->devices.get(), &RecordSources::noticed, this, [this](const RecordNotice& notice) { d->notice(notice); });
+    connect(d->devices.get(), &RecordSources::settled, this,
+            [this](const QString& event) { d->withdrawNotice(event); });
     d->devices->awakeFromNib();
 
     d->isRecordingFlushTheFace(false);
@@ -202,9 +204,12 @@ bool RecordStateController::canRecord() const {
 }
 
 float RecordStateController::getAudioWaveLevelValue() const {
-    // An engine without a device keeps the level of the last cycle.
-    const float builtIn = d->builtIn.engine->isRunning() ? d->builtInLevelValue_.load() : 0;
-    const float computer = d->computer.engine->isRunning() ? d->computerLevelValue_.load() : 0;
+    // An engine without a device keeps the level of the last cycle, and so does one that cannot write.
+    const auto hears = [](const RecordSource& source) {
+        return source.engine->isRunning() && !(source.writes() && source.engine->writeError());
+    };
+    const float builtIn = hears(d->builtIn) ? d->builtInLevelValue_.load() : 0;
+    const float computer = hears(d->computer) ? d->computerLevelValue_.load() : 0;
     float level = 0;
     if (d->builtIn.checked)
         level = builtIn;
@@ -274,8 +279,8 @@ Qt::GlobalColor RecordStateController::stateColor() const {
 }
 
 QString RecordStateController::headline() const {
-    // A pause of an armed recording only shows on the buttons.
-    return RecordDisplay::headline(d->state, double(d->fRecordTime_));
+    const QString headline = RecordDisplay::headline(d->state, double(d->fRecordTime_));
+    return d->state == RecordState::Recording && !isGrowing() ? u"Nothing is being recorded"_s : headline;
 }
 
 QString RecordStateController::fileConvertTip() const {
@@ -319,24 +324,13 @@ int RecordStateController::droppedRecordings() const {
     return d->dropped_;
 }
 
-QStringList RecordStateController::notices() const {
-    return d->notices_;
-}
-
-void RecordStateController::dismissNotices() {
-    if (d->notices_.isEmpty())
-        return;
-    d->notices_.clear();
-    Q_EMIT noticesChanged();
-}
-
 Dictionary RecordStateController::initID3BasicInfoDic() {
     return RecordQueue::initID3BasicInfoDic();
 }
 
 void RecordStateController::recordFlushTime() {
     const int state = recordState_();
-    if (state == 1)
+    if (state == 1 && isGrowing())
         d->fRecordTime_.fetch_add(0.5F);
     if (state == 2)
         qCInfo(recordLog, "Pause Rcd   %f", double(d->fRecordTime_));
@@ -349,6 +343,7 @@ void RecordStateController::recordFlushTime() {
         Q_EMIT displayChanged();
     }
     d->showLosses();
+    d->lookForRoom();
     if (jobsInQueue() > 0)
         Q_EMIT queueChanged();
 }
@@ -375,73 +370,4 @@ void RecordStateController::Private::changed() {
 void RecordStateController::Private::keepAwake() {
     if (auto* inhibitor = Platform::services().sleepInhibitor)
         inhibitor->setInhibited(isActive() || anyEngineRecords(), tr("A recording is running."));
-}
-
-/// Always posted: callers may hold the mutex, and the receivers of noticesChanged() read the state, which takes it.
-void RecordStateController::Private::notice(const QString& text, const QString& replaces) {
-    Platform::MainQueue::post([this, guard = std::weak_ptr<int>(alive), text, replaces] {
-        if (guard.expired())
-            return;
-        qCWarning(recordLog, "%s", qUtf8Printable(text));
-        if (!notices_.isEmpty() && notices_.last() == text)
-            return;
-        if (!replaces.isEmpty())
-            notices_.removeAll(replaces);
-        notices_.append(text);
-        if (notices_.size() > MostNotices)
-            notices_.removeFirst();
-        Q_EMIT q->noticesChanged();
-    });
-}
-
-void RecordStateController::Private::deviceEvent(Platform::InputUnit::Event event, RecordSource& source) {
-    using Event = Platform::InputUnit::Event;
-    const bool isLoss = event == Event::DeviceLost || event == Event::ServerLost;
-    // The last level would stay visible for as long as no cycle follows.
-    if (isLoss || event == Event::NothingComes)
-        (&source == &builtIn ? builtInLevelValue_ : computerLevelValue_) = 0;
-    if (!isLoss && event != Event::DeviceReturned && event != Event::ServerReturned)
-        return;
-    bool records = false;
-    bool waits = false;
-    {
-        const std::scoped_lock lock(mutex);
-        records = source.engine->recordStatus() != 0;
-        waits = !records && state == RecordState::Armed && source.takesPart();
-        source.away = isLoss;
-        if (isLoss && records)
-            source.wasAway = true;
-    }
-    if (!records && !waits)
-        return;
-    if (!isLoss) {
-        notice(u"%1 is back."_s.arg(source.label));
-        return;
-    }
-    const QString what = event == Event::DeviceLost ? source.label : u"The sound server"_s;
-    notice(waits
-               ? u"%1 went away. The wait for the first sound goes on when it is back."_s.arg(what)
-               : u"%1 went away. What was recorded so far is kept; the recording goes on when it is back."_s.arg(what));
-}
-
-void RecordStateController::Private::showLosses() {
-    RecordLosses lost;
-    {
-        const std::scoped_lock lock(mutex);
-        lost = engineLosses();
-        lost.frames += lostBefore_.frames;
-        lost.seconds += lostBefore_.seconds;
-    }
-    if (lost.frames != lostShown_ && lost.frames > 0) {
-        const QString before = lostShown_ > 0 ? lossNotice_ : QString();
-        lossNotice_ = u"%1 frames (%2 s) were lost before they could be written"_s.arg(
-            QString::number(lost.frames), QString::number(lost.seconds, 'f', 3));
-        notice(lossNotice_, before);
-    }
-    lostShown_ = lost.frames;
-
-    const QString problem = q->writeProblem();
-    if (!problem.isEmpty() && !writeProblemShown_)
-        notice(u"The recording cannot be written any more: %1. What was written is kept."_s.arg(problem));
-    writeProblemShown_ = !problem.isEmpty();
 }

@@ -4,6 +4,7 @@
 
 #include "Source/BuiltInAudioRecord/BuildInAudioRecord.h"
 #include "Source/Preferences/RecordPreferences.h"
+#include "Source/Record/RecordNotice.h"
 
 #include <QObject>
 #include <QStringList>
@@ -151,10 +152,22 @@ public:
     [[nodiscard]] int droppedRecordings() const;
     /// Frames lost in the current recording, or in the last one: both sources, over all files of splits.
     [[nodiscard]] std::uint64_t lostFrames() const;
-    /// Messages for the user, newest last: lost frames, a device that left, a source that is off, a disk that fills up,
-    /// where an unfinished recording was kept.
+    /// The same in seconds.
+    [[nodiscard]] double lostSeconds() const;
+    /// False when a full disk or another error keeps all current files from growing. Then no time counts.
+    [[nodiscard]] bool isGrowing() const;
+    /// What the user should know, in plain words, newest last: a stretch that is missing, a device that went away, a
+    /// source that is off, a disk that fills up, where an unfinished recording was kept. One for each event.
     [[nodiscard]] QStringList notices() const;
+    [[nodiscard]] const QList<RecordNotice>& noticeList() const;
+    /// The user has seen them all, or the one about an event.
     void dismissNotices();
+    void dismissNotice(const QString& event);
+    /// For a terminal: the sentences, which are not given again. What they name is still named at the next start of
+    /// the window.
+    [[nodiscard]] QStringList takeNotices();
+    /// Names the unfinished recordings of earlier runs that the user has not seen. At the start of the window.
+    void tellUnfinishedRecordings();
     /// Ends a running recording and waits until all queued jobs are done or set aside (at quit or a signal).
     void finishAll();
 

@@ -3,7 +3,9 @@
 #pragma once
 
 #include "Source/Record/RecordDisplay.h"
+#include "Source/Record/RecordNotices.h"
 #include "Source/Record/RecordQueue.h"
+#include "Source/Record/RecordRoom.h"
 #include "Source/Record/RecordSources.h"
 #include "Source/Record/RecordStateController.h"
 #include "Source/Record/RecordingNames.h"
@@ -28,6 +30,8 @@ struct RecordSource {
     std::int64_t framesBefore = 0;    ///< frames to come that still belong to the file before a cut
     bool away = false;                ///< the device or the server is lost now; guarded by the mutex
     bool wasAway = false;             ///< it was lost during the current file; guarded by the mutex
+    std::uint64_t awaySince = 0;      ///< host time, 0 while it is there; main thread
+    double awaySeconds = 0;           ///< of the recording, without a loss that still lasts; main thread
 
     [[nodiscard]] bool takesPart() const { return checked && !off; }
     /// Whether the engine is recording or paused, and has a file.
@@ -82,17 +86,32 @@ struct RecordStateController::Private {
     bool popUpEnabled_ = true;
     RecordDisplay display_;
     QString convertTip_;
-    QStringList notices_;
+    RecordNotices notices_;
     std::uint64_t lostShown_ = 0;
-    QString lossNotice_; ///< of the current recording: a growing loss updates one notice
+    RecordRoom room_;
+    int ticksToRoom_ = 0; ///< until the disks are asked again
+    int roomStage_ = 0;   ///< how little room was told; see followRoom()
     bool writeProblemShown_ = false;
+    std::uint64_t fullSince_ = 0; ///< host time; 0 while the disk is not full
+    qint64 fullBytes_ = -1;       ///< free on the full disk when it was; -1 when not yet known
+
+    /// Counts the starts: a notice of an earlier recording that arrives late is not shown. Any thread.
+    std::atomic<int> recordingNumber_{0};
 
     void onMain(std::function<void()> work);
     void changed();
-    /// @param replaces the notice that this one replaces, if any
-    void notice(const QString& text, const QString& replaces = {});
+    void notice(RecordNotice notice);
+    void queueNotice(const RecordNotice& told);
+    void withdrawNotice(const QString& event);
     void deviceEvent(Platform::InputUnit::Event event, RecordSource& source);
     void showLosses();
+    void showWriteProblem();
+    void lookForRoom();
+    void followRoom(const RecordRoom::Room& room);
+    void goOnAfterFullDisk();
+    /// The first error of the files at hand.
+    [[nodiscard]] Platform::MediaError writeError() const;
+    [[nodiscard]] bool grows() const;
     void keepAwake();
 
     /// Whether the buttons show a recording: it is armed, recording or paused.
@@ -132,6 +151,8 @@ struct RecordStateController::Private {
     [[nodiscard]] QString recordFolder() const;
     // With cycles held and the mutex locked.
     [[nodiscard]] static QString rawPath(const RecordSource& source);
+    /// Under which a source is told that takes no part.
+    [[nodiscard]] static QString offEvent(const RecordSource& source);
     void beginFile(RecordSource& source, bool record);
     [[nodiscard]] Ending describeEnding();
     [[nodiscard]] std::function<void(QString, OSStatus)> whenClosed(const std::shared_ptr<ExportJob>& job, bool remove);

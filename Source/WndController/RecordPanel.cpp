@@ -3,6 +3,7 @@
 #include "Source/WndController/RecordPanel.h"
 
 #include "Platform/Audio/AudioHardware.h"
+#include "Platform/Desktop/Workspace.h"
 #include "Platform/Foundation/Services.h"
 #include "Source/AudioWaveViewController/AudioWaveViewController.h"
 #include "Source/Record/RecordStateController.h"
@@ -12,6 +13,7 @@
 
 #include <QLocale>
 #include <QSignalBlocker>
+#include <QUrl>
 
 namespace {
 constexpr int kShortConversionMs = 500; // one tick of the display's clock
@@ -42,6 +44,7 @@ RecordPanel::RecordPanel(Ui::MainWnd& ui, RecordStateController& record, AudioWa
     connect(ui_.popBuiltInDevice_, &QComboBox::activated, &record_, &RecordStateController::chooseBuiltInDevice);
     connect(&display_, &AudioWaveViewController::noticesDismissed, &record_, &RecordStateController::dismissNotices);
 
+    connect(&display_, &AudioWaveViewController::helpRequested, this, &RecordPanel::help);
     connect(&record_, &RecordStateController::stateChanged, this, &RecordPanel::showState);
     connect(&record_, &RecordStateController::displayChanged, this, &RecordPanel::showDisplay);
     connect(&record_, &RecordStateController::devicesChanged, this, &RecordPanel::showDevices);
@@ -81,11 +84,12 @@ void RecordPanel::showState() {
     ui_.btnSatrtRecord_->setEnabled(record_.isStateAudioCanStartRecord());
     // The filled disc means that sound is being recorded at this moment.
     const RecordState state = record_.state();
-    const bool waits = state == RecordState::Armed || state == RecordState::Paused;
+    wasRecording_ = isRecording();
+    const bool waits = record_.isStateAudioRecord() && !isRecording();
     ui_.btnSatrtRecord_->setImage(waits ? QStringLiteral("RecorderStopWaiting.png") : record_.startImage());
     ui_.btnSatrtRecord_->setPressedImage(waits ? QStringLiteral("RecorderStopWaitingDown.png")
                                                : record_.startPressedImage());
-    display_.setRecordState(state);
+    display_.setRecordState(state, isRecording());
     ui_.btnSatrtRecord_->setToolTip(record_.startToolTip());
     ui_.btnPauseRecord_->setEnabled(record_.isStateAudioRecord());
     ui_.btnPauseRecord_->setImage(record_.pauseImage());
@@ -104,10 +108,16 @@ void RecordPanel::showState() {
     showHealth();
 }
 
+bool RecordPanel::isRecording() const {
+    return record_.state() == RecordState::Recording && record_.isGrowing();
+}
+
 void RecordPanel::showDisplay() {
     display_.setStateString(record_.stateString());
     display_.setStateColor(record_.stateColor());
     display_.setTimeString(record_.timeString());
+    if (isRecording() != wasRecording_)
+        showState(); // a disk is full, or has room again
     showHealth();
 }
 
@@ -122,14 +132,17 @@ void RecordPanel::showHealth() {
     const RecordState state = record_.state();
     QString text;
     if (lost > 0)
-        text = tr("%1 frames lost").arg(QLocale().toString(lost));
+        text = tr("%1 s lost").arg(QLocale().toString(record_.lostSeconds(), 'f', record_.lostSeconds() < 1 ? 3 : 1));
     else if (state == RecordState::Recording || state == RecordState::Paused)
         text = tr("No frames lost");
     ui_.lblLostFrames_->setText(text);
+    ui_.lblLostFrames_->setToolTip(lost > 0 ? tr("%1 frames").arg(QLocale().toString(lost)) : QString());
     ui_.lblLostFrames_->setForegroundRole(lost > 0 ? QPalette::WindowText : QPalette::PlaceholderText);
 }
 
 QString RecordPanel::hint() const {
+    if (record_.state() == RecordState::Recording && !record_.isGrowing())
+        return tr("Nothing is being recorded");
     const auto* hardware = Platform::services().audioHardware;
     if (hardware && !hardware->connected())
         return tr("No sound server");
@@ -168,7 +181,34 @@ void RecordPanel::showDeviceToolTip() {
 }
 
 void RecordPanel::showNotices() {
-    display_.setNotices(record_.notices());
+    display_.setNotices(record_.noticeList());
+}
+
+/// What the user asks for at a notice.
+void RecordPanel::help(const RecordNotice& notice) {
+    auto* workspace = Platform::services().workspace;
+    const QString target = notice.target.isEmpty() ? notice.path : notice.target;
+    switch (notice.help) {
+    case RecordNotice::Help::None:
+        break;
+    case RecordNotice::Help::Show:
+        if (workspace)
+            (void)workspace->selectFile(target);
+        record_.dismissNotice(notice.event);
+        break;
+    case RecordNotice::Help::ChooseDevice:
+        if (!record_.sourcesEnabled())
+            break;
+        if (!record_.builtInChecked())
+            record_.chooseRecordBuiltIn(true);
+        ui_.popBuiltInDevice_->setFocus(Qt::OtherFocusReason);
+        ui_.popBuiltInDevice_->showPopup();
+        break;
+    case RecordNotice::Help::FreeSpace:
+        if (workspace)
+            (void)workspace->openUrl(QUrl::fromLocalFile(target));
+        break;
+    }
 }
 
 void RecordPanel::showFileConvertTipView() {

@@ -9,6 +9,7 @@ class AudioWaveViewController;
 class ConvertingTipView;
 class QComboBox;
 class RecordStateController;
+struct RecordNotice;
 namespace Ui {
 class MainWnd;
 }
@@ -37,6 +38,9 @@ private:
     void showDevices();
     void showDeviceToolTip();
     void showNotices();
+    void help(const RecordNotice& notice);
+    /// Whether sound is being written at this moment.
+    [[nodiscard]] bool isRecording() const;
 
     Ui::MainWnd& ui_;
     RecordStateController& record_;
@@ -44,4 +48,5 @@ private:
     ConvertingTipView* fileConvertingTipView_; ///< a child of the library's pane
     QTimer conversion_;                        ///< runs during the first half second of a conversion
     bool conversionLasts_ = false;
+    bool wasRecording_ = false; ///< as it is shown
 };

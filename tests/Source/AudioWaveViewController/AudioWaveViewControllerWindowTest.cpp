@@ -12,6 +12,7 @@
 #include "tests/support/WaitFor.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QLabel>
 #include <QSignalSpy>
 #include <QStackedWidget>
@@ -413,7 +414,7 @@ TEST_F(LiveDisplay, TheTimeIsLargeAndDoesNotTremble) {
 TEST_F(LiveDisplay, NoticesStayUntilTheyAreDismissed) {
     auto* line = field<QWidget>("noticeLine");
     EXPECT_FALSE(line->isVisible());
-    controller.setNotices({u"first"_s, u"12 frames were lost"_s});
+    controller.setNotices({{u"first"_s}, {u"12 frames were lost"_s}});
     EXPECT_TRUE(line->isVisible());
     EXPECT_TRUE(field<QLabel>("noticeField")->toolTip().contains(u"first"_s));
     QSignalSpy dismissed(&controller, &AudioWaveViewController::noticesDismissed);
@@ -428,16 +429,42 @@ TEST_F(LiveDisplay, ALongNoticeTakesTwoLinesAndNoRoomFromTheWindow) {
     controller.setNotices({});
     QCoreApplication::processEvents();
     EXPECT_LE(panel->minimumSizeHint().height(), 116);
-    controller.setNotices({u"The disk is nearly full: about 3 h 10 min left."_s});
+    controller.setNotices({{u"The disk is nearly full: about 3 h 10 min left."_s}});
     QCoreApplication::processEvents();
     EXPECT_LE(panel->minimumSizeHint().height(), 116) << "the list below would jump";
     EXPECT_EQ(field<QLabel>("noticeField")->text().simplified(), u"The disk is nearly full: about 3 h 10 min left."_s);
     EXPECT_EQ(field<QLabel>("noticeField")->text().count(u'\n'), 1);
     const QString endless = u"95232 frames were lost "_s.repeated(9);
-    controller.setNotices({endless});
+    controller.setNotices({{endless}});
     EXPECT_EQ(field<QLabel>("noticeField")->text().count(u'\n'), 1);
     EXPECT_TRUE(field<QLabel>("noticeField")->text().endsWith(QChar(0x2026)));
     EXPECT_EQ(field<QLabel>("noticeField")->toolTip(), endless);
+}
+
+TEST_F(LiveDisplay, AnAnswerIsOfferedAndThePathStandsLastWithoutItsMiddle) {
+    panel->resize(420, 116);
+    auto* help = field<QToolButton>("helpButton");
+    const RecordNotice kept{.text = u"An earlier recording could not be finished. It is kept at"_s,
+                            .path = QDir::homePath() + u"/.local/share/com.korvane.Sonaphex/Unfinished/Track0.m4a"_s,
+                            .help = RecordNotice::Help::Show};
+    controller.setNotices({{u"first"_s}, kept});
+    QCoreApplication::processEvents();
+    const QStringList lines = field<QLabel>("noticeField")->text().split(u'\n');
+    ASSERT_EQ(lines.size(), 2);
+    EXPECT_TRUE(lines[0].startsWith(u"An earlier recording"_s)) << qPrintable(lines[0]);
+    EXPECT_TRUE(lines[1].startsWith(u"~/"_s)) << qPrintable(lines[1]);
+    EXPECT_TRUE(lines[1].endsWith(u".m4a"_s)) << qPrintable(lines[1]);
+    EXPECT_TRUE(lines[1].contains(QChar(0x2026)));
+    EXPECT_TRUE(field<QLabel>("noticeField")->toolTip().contains(kept.sentence()));
+    EXPECT_TRUE(help->isVisible());
+    EXPECT_EQ(help->text(), u"Show"_s);
+    RecordNotice asked;
+    QObject::connect(&controller, &AudioWaveViewController::helpRequested,
+                     [&](const RecordNotice& notice) { asked = notice; });
+    help->click();
+    EXPECT_EQ(asked, kept);
+    controller.setNotices({{u"nothing helps"_s}});
+    EXPECT_FALSE(help->isVisible());
 }
 
 TEST_F(LiveDisplay, LongTitlesAreElidedInTheMiddleAndWholeInTheToolTip) {
@@ -500,7 +527,10 @@ TEST_F(LiveDisplay, CanBeLookedAt) {
         QCoreApplication::processEvents();
         EXPECT_GT(Screenshot::coverage(Screenshot::take(*panel, u"display-record"_s + suffix, ratio)), 0.9);
         controller.setNotices(
-            {u"12 frames were lost: the machine was too busy."_s, u"About 3 h 10 min left on the disk."_s});
+            {{.text = u"0.100 s are missing (4800 frames): the computer was too busy to take them."_s},
+             {.text = u"An earlier recording could not be finished. It is kept at"_s,
+              .path = QDir::homePath() + u"/.local/share/com.korvane.Sonaphex/Unfinished/Track12 computer.m4a"_s,
+              .help = RecordNotice::Help::Show}});
         QCoreApplication::processEvents();
         Screenshot::take(*panel, u"display-notice"_s + suffix, ratio);
         controller.setNotices({});

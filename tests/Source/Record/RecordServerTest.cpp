@@ -234,7 +234,7 @@ TEST_F(RecordServer, ComputerAudioGoesOnWhenTheSoundServerWasRestarted) {
     const double before = controller->recordedSeconds();
     EXPECT_TRUE(waitFor([&] { return controller->recordedSeconds() > before + 1; }, 30000))
         << qPrintable(controller->notices().join(u'\n'));
-    EXPECT_TRUE(controller->notices().join(u' ').contains(u"Computer audio is back"_s));
+    EXPECT_TRUE(controller->notices().join(u' ').contains(u"computer audio was away"_s));
     controller->finishAll();
     controller.reset();
     EXPECT_EQ(delegate.paths.size(), 1);

@@ -201,7 +201,7 @@ TEST_F(RecordSourcesTest, AStartWithoutASourceStaysIdleAndSaysSo) {
     begin();
     ASSERT_TRUE(controller->builtInChecked());
     controller->startAndStopRecord();
-    EXPECT_TRUE(noticed(u"there is no source"_s));
+    EXPECT_TRUE(noticed(u"There is no input device. Nothing is recorded."_s));
     EXPECT_FALSE(controller->isStateAudioRecord());
     EXPECT_FALSE(controller->splitEnabled());
     EXPECT_EQ(controller->startToolTip(), u"Start Record"_s);

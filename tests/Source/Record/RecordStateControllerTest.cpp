@@ -437,7 +437,7 @@ TEST_F(RecordStateControllerTest, WithoutAMicrophoneTheComputerRecordingReachesT
 TEST_F(RecordStateControllerTest, WithoutAnySourceTheUserIsToldAndNoNameIsKept) {
     begin();
     controller->startAndStopRecord();
-    EXPECT_TRUE(noticed(u"Nothing is being recorded"_s));
+    EXPECT_TRUE(noticed(u"Nothing is recorded"_s));
     EXPECT_EQ(controller->recordState_(), 0);
     controller->startAndStopRecord();
     expectControlsOfIdle();
@@ -464,7 +464,7 @@ TEST_F(RecordStateControllerTest, LostFramesAreCountedAndTold) {
     hardware.opened.back()->lost = 480;
     EXPECT_EQ(controller->lostFrames(), 480U);
     controller->recordFlushTime();
-    EXPECT_TRUE(noticed(u"480 frames (0.010 s) were lost"_s));
+    EXPECT_TRUE(noticed(u"0.010 s are missing (480 frames)"_s));
     controller->splitTheRecord();
     play(Microphone, 0.5F, 6);
     hardware.opened.back()->lost = 500;
@@ -480,7 +480,7 @@ TEST_F(RecordStateControllerTest, ADeviceThatGoesAwayIsTold) {
     hardware.unitOf(Microphone)->tell(Platform::InputUnit::Event::DeviceLost);
     EXPECT_TRUE(noticed(u"The input device went away"_s));
     hardware.unitOf(Microphone)->tell(Platform::InputUnit::Event::DeviceReturned);
-    EXPECT_TRUE(noticed(u"The input device is back"_s));
+    EXPECT_TRUE(noticed(u"the input device was away"_s));
     EXPECT_EQ(controller->recordState_(), 1);
     controller->dismissNotices();
     EXPECT_TRUE(controller->notices().isEmpty());

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/WndController/MainWndController.h"
 
+#include "Platform/Foundation/FileManager.h"
 #include "RingtoneMaker/CustomSound.h"
 #include "Source/View/ConvertingTipView.h"
 #include "Source/View/ElidedLabel.h"
@@ -10,6 +11,7 @@
 #include "Source/WndController/WindowLayout.h"
 #include "tests/Source/WndController/WindowWorld.h"
 #include "tests/fakes/FakeRecordingFiles.h"
+#include "tests/support/Environment.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -19,6 +21,7 @@
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTimer>
+#include <QToolButton>
 #include <QTreeView>
 #include <gtest/gtest.h>
 
@@ -561,16 +564,43 @@ TEST_F(MainWindow, LostFramesAndNoticesAreShown) {
     for (const auto& state : world.hardware.opened)
         state->lost = 480;
     world.record->recordFlushTime();
-    ASSERT_TRUE(waitFor([&] { return lost.text().startsWith(u"480"_s); }));
+    ASSERT_TRUE(waitFor([&] { return lost.text() == u"0.010 s lost"_s; })) << qPrintable(lost.text());
+    EXPECT_EQ(lost.toolTip(), u"480 frames"_s);
     EXPECT_TRUE(waitFor([&] { return controller.display().notices().size() == 1; }));
     for (const auto& state : world.hardware.opened)
         state->lost = 960;
     world.record->recordFlushTime();
-    ASSERT_TRUE(waitFor([&] { return controller.display().notices().value(0).startsWith(u"960"_s); }));
+    ASSERT_TRUE(waitFor([&] { return controller.display().notices().value(0).text.contains(u"(960 frames)"_s); }));
     EXPECT_EQ(controller.display().notices().size(), 1) << "a loss that grows is one notice";
     Q_EMIT controller.display().noticesDismissed();
     EXPECT_TRUE(world.record->notices().isEmpty());
     world.click("btnSatrtRecord_");
+}
+
+TEST_F(MainWindow, AnUnfinishedRecordingIsShownAndSoSeen) {
+    const EnvironmentScope data("XDG_DATA_HOME", QFile::encodeName(world.folder.filePath(u"data"_s)));
+    const QString kept = Platform::FileManager::unfinishedFolder() + u"/Track7.m4a"_s;
+    ASSERT_TRUE(QFile(kept).open(QIODevice::WriteOnly));
+    world.open();
+    world.record->tellUnfinishedRecordings();
+    ASSERT_TRUE(world.outlet("noticeLine").isVisible());
+    world.click("helpButton");
+    EXPECT_EQ(world.workspace.selected, QStringList{kept});
+    EXPECT_FALSE(world.outlet("noticeLine").isVisible());
+    world.record->tellUnfinishedRecordings();
+    EXPECT_FALSE(world.outlet("noticeLine").isVisible());
+}
+
+TEST_F(MainWindow, ChooseDeviceOpensTheListOfDevices) {
+    world.hardware.list.push_back({30, u"USB Headset"_s, u"usb"_s});
+    world.open();
+    auto& devices = world.outlet<QComboBox>("popBuiltInDevice_");
+    world.hardware.remove(WindowWorld::kMicrophone);
+    ASSERT_TRUE(waitFor([&] { return world.outlet("helpButton").isVisible(); }));
+    EXPECT_EQ(world.outlet<QToolButton>("helpButton").text(), u"Choose Device"_s);
+    world.click("helpButton");
+    ASSERT_TRUE(waitFor([&] { return devices.view()->isVisible(); }));
+    devices.hidePopup();
 }
 
 TEST_F(MainWindow, TitleAndButtonTellTheState) {

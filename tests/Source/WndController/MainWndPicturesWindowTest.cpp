@@ -157,7 +157,9 @@ TEST_F(Pictures, ConvertingWithANotice) {
     auto& tip = world.controller->recordPanel().fileConvertingTipView();
     tip.showFileConvertTipView(true, u"         Audio File Converting\n         Please Wait .."_s, 0.4);
     ASSERT_TRUE(waitFor([&] { return tip.y() == tip.parentWidget()->height() - tip.height(); }));
-    world.controller->display().setNotices({u"The disk is nearly full: about 3 h 10 min left."_s});
+    world.controller->display().setNotices(
+        {{.text = u"The disk is nearly full: there is room for about 45 minutes of recording."_s,
+          .help = RecordNotice::Help::FreeSpace}});
     take(u"converting"_s);
 }
 

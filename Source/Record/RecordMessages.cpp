@@ -1,0 +1,263 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// What the record state controller tells the user: devices that go, stretches that are missing, disks that fill up.
+#include "Platform/Foundation/Clock.h"
+#include "Platform/Foundation/MainQueue.h"
+#include "Platform/Foundation/Services.h"
+#include "Source/Record/RecordStateControllerPrivate.h"
+#include "Source/Record/UnfinishedRecordings.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Ticks of the display's clock between two looks at the disks: 5 s. With a full disk, each tick.
+constexpr int TicksBetweenLooks = 10;
+/// Minutes that are left when a disk is named as nearly full, and when it is named again after a dismissal.
+constexpr std::array Stages{60, 30, 10, 5, 2, 1};
+/// A full disk has room again when this many more bytes are free: an hour of one source.
+constexpr qint64 EnoughBytes = 64'000'000;
+
+const QString DiskEvent = u"disk"_s;
+
+/// Seconds for people: thousandths of a short stretch, tenths of a longer one.
+QString secondsText(double seconds) {
+    return QString::number(seconds, 'f', seconds < 1 ? 3 : 1);
+}
+
+double secondsSince(std::uint64_t hostTime) {
+    return double(Platform::services().clock->hostTime() - hostTime) * 1e-9;
+}
+
+/// "The input device" within a sentence.
+QString inSentence(const QString& label) {
+    return label.left(1).toLower() + label.mid(1);
+}
+
+} // namespace
+
+QStringList RecordStateController::notices() const {
+    return d->notices_.sentences();
+}
+
+const QList<RecordNotice>& RecordStateController::noticeList() const {
+    return d->notices_.list();
+}
+
+void RecordStateController::dismissNotices() {
+    d->notices_.dismiss();
+}
+
+void RecordStateController::dismissNotice(const QString& event) {
+    d->notices_.dismiss(event);
+}
+
+QStringList RecordStateController::takeNotices() {
+    return d->notices_.take();
+}
+
+void RecordStateController::tellUnfinishedRecordings() {
+    if (const auto notice = UnfinishedRecordings::notice())
+        d->notices_.show(*notice);
+}
+
+bool RecordStateController::isGrowing() const {
+    return d->grows();
+}
+
+QString RecordStateController::writeProblem() const {
+    return d->writeError().text;
+}
+
+Platform::MediaError RecordStateController::Private::writeError() const {
+    for (const RecordSource& source : sources)
+        if (source.writes())
+            if (auto error = source.engine->writeError())
+                return error;
+    return {};
+}
+
+/// A recording without any file counts as one that grows: its start has told that nothing is written.
+bool RecordStateController::Private::grows() const {
+    bool isBroken = false;
+    for (const RecordSource& source : sources) {
+        if (!source.writes())
+            continue;
+        if (!source.engine->writeError())
+            return true;
+        isBroken = true;
+    }
+    return !isBroken;
+}
+
+/// A file that could not be written whole is told already when its full disk was.
+void RecordStateController::Private::queueNotice(const RecordNotice& told) {
+    const auto isTold = [&](const RecordNotice& other) { return other.event == told.event; };
+    if (told.event == RecordQueue::UnwrittenEvent && std::ranges::any_of(notices_.list(), isTold))
+        return;
+    notice(told);
+}
+
+/// Always posted: callers may hold the mutex, and the receivers of noticesChanged() read the state, which takes it.
+void RecordStateController::Private::notice(RecordNotice notice) {
+    Platform::MainQueue::post(
+        [this, guard = std::weak_ptr<int>(alive), number = recordingNumber_.load(), notice = std::move(notice)] {
+            if (guard.expired())
+                return;
+            if (number != recordingNumber_ && !notice.outlivesRecording && notice.kept.isEmpty())
+                return;
+            notices_.show(notice);
+        });
+}
+
+void RecordStateController::Private::withdrawNotice(const QString& event) {
+    Platform::MainQueue::post([this, guard = std::weak_ptr<int>(alive), event] {
+        if (!guard.expired())
+            notices_.withdraw(event);
+    });
+}
+
+void RecordStateController::Private::deviceEvent(Platform::InputUnit::Event event, RecordSource& source) {
+    using Event = Platform::InputUnit::Event;
+    const bool isLoss = event == Event::DeviceLost || event == Event::ServerLost;
+    // The level of the last cycle would stand for as long as none follows.
+    if (isLoss || event == Event::NothingComes)
+        (&source == &builtIn ? builtInLevelValue_ : computerLevelValue_) = 0;
+    if (!isLoss && event != Event::DeviceReturned && event != Event::ServerReturned)
+        return;
+    bool records = false;
+    bool waits = false;
+    {
+        const std::scoped_lock lock(mutex);
+        records = source.engine->recordStatus() != 0;
+        waits = !records && state == RecordState::Armed && source.takesPart();
+        source.away = isLoss;
+        if (isLoss && records)
+            source.wasAway = true;
+    }
+    if (!records && !waits)
+        return;
+    RecordNotice told;
+    told.event = u"away "_s + source.label;
+    if (isLoss) {
+        if (source.awaySince == 0)
+            source.awaySince = Platform::services().clock->hostTime();
+        const QString what = event == Event::DeviceLost ? source.label : u"The sound server"_s;
+        told.text =
+            waits
+                ? u"%1 went away. The wait for the first sound goes on when it is back."_s.arg(what)
+                : u"%1 went away. The recording goes on when it is back; what was recorded so far is kept."_s.arg(what);
+    } else {
+        if (source.awaySince != 0)
+            source.awaySeconds += secondsSince(source.awaySince);
+        source.awaySince = 0;
+        told.text = waits ? u"%1 is back. The wait for the first sound goes on."_s.arg(source.label)
+                          : u"%1 s are missing: %2 was away. The recording goes on."_s.arg(
+                                secondsText(source.awaySeconds), inSentence(source.label));
+    }
+    notice(told);
+}
+
+void RecordStateController::Private::showLosses() {
+    RecordLosses lost;
+    {
+        const std::scoped_lock lock(mutex);
+        lost = engineLosses();
+        lost.frames += lostBefore_.frames;
+        lost.seconds += lostBefore_.seconds;
+    }
+    if (lost.frames != lostShown_ && lost.frames > 0)
+        notice({.text = u"%1 s are missing (%2 frames): the computer was too busy to take them."_s.arg(
+                    secondsText(lost.seconds), QString::number(lost.frames)),
+                .event = u"lost"_s});
+    lostShown_ = lost.frames;
+    showWriteProblem();
+}
+
+void RecordStateController::Private::showWriteProblem() {
+    const auto problem = writeError();
+    if (problem && !writeProblemShown_) {
+        const bool isFull = problem.kind == Platform::MediaError::Kind::DiskFull;
+        if (isFull) {
+            fullSince_ = Platform::services().clock->hostTime();
+            fullBytes_ = -1;
+            notices_.withdraw(DiskEvent);
+            notice({.text = u"The disk is full. Nothing more is recorded until there is room; what was recorded is "
+                            "kept."_s,
+                    .help = RecordNotice::Help::FreeSpace,
+                    .target = g_strTmpPath,
+                    .event = RecordQueue::UnwrittenEvent});
+        } else {
+            notice({.text = u"%1. Nothing more is recorded; what was recorded is kept."_s.arg(problem.text),
+                    .event = RecordQueue::UnwrittenEvent});
+        }
+    }
+    writeProblemShown_ = bool(problem);
+    if (!problem)
+        fullSince_ = 0;
+}
+
+/// Asks the disks how long they will do, at times.
+void RecordStateController::Private::lookForRoom() {
+    if (!isActive()) {
+        ticksToRoom_ = 0;
+        return;
+    }
+    if (fullSince_ == 0 && --ticksToRoom_ > 0)
+        return;
+    ticksToRoom_ = TicksBetweenLooks;
+    room_.look({.temporaryFolder = g_strTmpPath,
+                .recordFolder = recordFolder(),
+                .sources = builtIn.takesPart() && computer.takesPart() ? 2 : 1,
+                .seconds = double(fRecordTime_)});
+}
+
+void RecordStateController::Private::followRoom(const RecordRoom::Room& room) {
+    if (!isActive())
+        return;
+    if (fullSince_ != 0) {
+        if (fullBytes_ < 0)
+            fullBytes_ = room.bytes;
+        else if (room.bytes >= fullBytes_ + EnoughBytes && q->recordState_() == 1)
+            goOnAfterFullDisk();
+        return;
+    }
+    int stage = 0; // counts the stages that are reached
+    for (const int minutes : Stages)
+        stage += room.seconds < minutes * 60 ? 1 : 0;
+    if (stage == 0) {
+        roomStage_ = 0;
+        notices_.withdraw(DiskEvent);
+        return;
+    }
+    const RecordNotice told{
+        .text = u"The disk is nearly full: there is room for %1 of recording."_s.arg(RecordRoom::words(room.seconds)),
+        .help = RecordNotice::Help::FreeSpace,
+        .target = room.folder,
+        .event = DiskEvent};
+    if (stage > roomStage_)
+        notices_.show(told);
+    else
+        notices_.update(told);
+    roomStage_ = stage;
+}
+
+/// There is room again: the recording goes on in another file, since the one at hand is broken off.
+void RecordStateController::Private::goOnAfterFullDisk() {
+    const double missing = secondsSince(fullSince_);
+    cut(false);
+    if (writeError()) {
+        fullBytes_ = -1; // not enough room after all
+        return;
+    }
+    fullSince_ = 0;
+    writeProblemShown_ = false;
+    roomStage_ = 0;
+    notice({.text = u"%1 s are missing: the disk was full. The recording went on in another file."_s.arg(
+                secondsText(missing)),
+            .event = RecordQueue::UnwrittenEvent});
+}

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/Record/RecordRoom.h"
+
+#include "Platform/Foundation/FileManager.h"
+#include "Platform/Foundation/MainQueue.h"
+
+#include <QStorageInfo>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using Platform::FileManager::availableBytes;
+
+namespace {
+
+/// Bytes of a recorded second of one source: AAC at 128 kb/s, which becomes up to 140, and the boxes around it.
+constexpr double EncodedBytes = 18000;
+/// Bytes of a mixed second: 44100 frames of two 32-bit samples.
+constexpr double MixedBytes = 353000;
+/// Seconds that a disk takes which does not tell its room.
+constexpr double Unknown = 1e9;
+
+} // namespace
+
+RecordRoom::RecordRoom(QObject* parent) : QObject(parent) {
+    worker_.setMaxThreadCount(1);
+}
+
+RecordRoom::~RecordRoom() {
+    worker_.waitForDone();
+}
+
+void RecordRoom::look(const Recording& recording) {
+    if (asking_.exchange(true))
+        return;
+    worker_.start([this, recording] {
+        const Room room = measure(recording);
+        asking_ = false;
+        Platform::MainQueue::post(this, [this, room] { Q_EMIT measured(room); });
+    });
+}
+
+RecordRoom::Room RecordRoom::measure(const Recording& recording) {
+    const bool mixes = recording.sources > 1;
+    const auto temporary = availableBytes(recording.temporaryFolder);
+    Room room{0, recording.temporaryFolder, temporary};
+    // The mix of what is recorded so far needs its room as well, and grows with each further second.
+    const double mixed = mixes ? MixedBytes : 0;
+    room.seconds = temporary < 0
+                       ? Unknown
+                       : (double(temporary) - recording.seconds * mixed) / (EncodedBytes * recording.sources + mixed);
+    // Within one file system the finished recording is only renamed.
+    if (QStorageInfo(recording.temporaryFolder).device() != QStorageInfo(recording.recordFolder).device()) {
+        const auto target = availableBytes(recording.recordFolder);
+        const double seconds = double(target) / EncodedBytes - recording.seconds;
+        if (target >= 0 && seconds < room.seconds) {
+            room.seconds = seconds;
+            room.folder = recording.recordFolder;
+        }
+    }
+    room.seconds = std::max(0.0, room.seconds);
+    return room;
+}
+
+QString RecordRoom::words(double seconds) {
+    int minutes = int(std::min(seconds / 60, 1e6));
+    if (minutes < 1)
+        return u"less than a minute"_s;
+    if (minutes == 1)
+        return u"about 1 minute"_s;
+    if (minutes > 10)
+        minutes -= minutes % 5;
+    return u"about %1 minutes"_s.arg(minutes);
+}

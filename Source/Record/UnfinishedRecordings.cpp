@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/Record/UnfinishedRecordings.h"
+
+#include "Platform/Foundation/FileManager.h"
+#include "Source/Preferences/PreferenceStore.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace UnfinishedRecordings {
+namespace {
+
+QFileInfoList files() {
+    return QDir(Platform::FileManager::unfinishedFolder())
+        .entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDir::Time | QDir::Reversed);
+}
+
+/// A file as it is stored: another one that comes under its name was not seen.
+QString stamp(const QFileInfo& file) {
+    return file.fileName() + u'/' + QString::number(file.lastModified().toMSecsSinceEpoch());
+}
+
+QStringList seenStamps() {
+    return PreferenceStore::preferenceValueForKey(PreferenceStore::kUnfinishedSeenKey, QStringList()).toStringList();
+}
+
+} // namespace
+
+QStringList unseen() {
+    const QStringList seen = seenStamps();
+    QStringList paths;
+    for (const QFileInfo& file : files())
+        if (!seen.contains(stamp(file)))
+            paths.append(file.filePath());
+    return paths;
+}
+
+void markSeen(const QStringList& paths) {
+    if (paths.isEmpty())
+        return;
+    const QStringList before = seenStamps();
+    QStringList seen;
+    for (const QFileInfo& file : files()) // those that are gone are forgotten
+        if (before.contains(stamp(file)) || paths.contains(file.filePath()))
+            seen.append(stamp(file));
+    if (seen != before)
+        PreferenceStore::setPreferenceValue(seen, PreferenceStore::kUnfinishedSeenKey);
+}
+
+std::optional<RecordNotice> notice() {
+    const QStringList paths = unseen();
+    if (paths.isEmpty())
+        return std::nullopt;
+    RecordNotice notice;
+    notice.event = u"unfinished"_s;
+    notice.help = RecordNotice::Help::Show;
+    notice.kept = paths;
+    notice.outlivesRecording = true;
+    if (paths.size() == 1) {
+        notice.text = u"An earlier recording could not be finished. It is kept at"_s;
+        notice.path = paths.front();
+    } else {
+        notice.text = u"%1 earlier recordings could not be finished. They are kept in"_s.arg(paths.size());
+        notice.path = Platform::FileManager::unfinishedFolder();
+    }
+    return notice;
+}
+
+} // namespace UnfinishedRecordings

@@ -1,0 +1,225 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// What the recorder tells: each event once and up to date, the cause first, and nothing of an earlier recording.
+#include "Source/Record/UnfinishedRecordings.h"
+#include "tests/Source/Record/RecordFixture.h"
+#include "tests/support/DiskRoom.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Event = Platform::InputUnit::Event;
+using Help = RecordNotice::Help;
+
+class RecordNoticesTest : public RecordFixture {
+protected:
+    void tell(AudioObjectID device, Event event) { hardware.unitOf(device)->tell(event); }
+    void tick(int times = 1) {
+        for (int i = 0; i < times; ++i)
+            controller->recordFlushTime();
+    }
+    /// The only notice, once it says @p words.
+    [[nodiscard]] bool tells(const QString& words) {
+        return waitFor([&] {
+            return controller->noticeList().size() == 1 && controller->noticeList().front().sentence().contains(words);
+        });
+    }
+    [[nodiscard]] RecordNotice only() const { return controller->noticeList().value(0); }
+    void expectNoNotice() {
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(controller->notices().isEmpty()) << controller->notices().join(u'\n').toStdString();
+    }
+    [[nodiscard]] QString makeUnfinished(const QString& name) const {
+        const QString path = Platform::FileManager::unfinishedFolder() + u'/' + name;
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        return path;
+    }
+};
+
+} // namespace
+
+TEST_F(RecordNoticesTest, AnOutageIsOneNoticeInSecondsHoweverOftenTheDeviceGoes) {
+    addMicrophone();
+    begin();
+    controller->startAndStopRecord();
+    play(Microphone, 0.5F, 1);
+    tell(Microphone, Event::DeviceLost);
+    ASSERT_TRUE(tells(u"The input device went away."_s));
+    clock.advance(4.7);
+    tell(Microphone, Event::DeviceReturned);
+    ASSERT_TRUE(tells(u"4.7 s are missing: the input device was away."_s));
+    play(Microphone, 0.5F, 1);
+    tell(Microphone, Event::DeviceLost);
+    ASSERT_TRUE(tells(u"The input device went away."_s));
+    clock.advance(1);
+    tell(Microphone, Event::DeviceReturned);
+    EXPECT_TRUE(tells(u"5.7 s are missing: the input device was away."_s));
+    controller->startAndStopRecord();
+}
+
+TEST_F(RecordNoticesTest, NoticesOfARecordingGoWhenTheNextOneStarts) {
+    addMicrophone();
+    begin();
+    controller->startAndStopRecord();
+    play(Microphone, 0.5F, 6);
+    hardware.opened.back()->lost = 4800;
+    tick();
+    ASSERT_TRUE(tells(u"0.100 s are missing (4800 frames): the computer was too busy"_s));
+    controller->startAndStopRecord();
+    ASSERT_TRUE(queueDone());
+    EXPECT_EQ(controller->notices().size(), 1) << "to be read after the end";
+    hardware.opened.back()->lost = 0;
+    controller->startAndStopRecord();
+    tick();
+    expectNoNotice();
+    controller->startAndStopRecord();
+}
+
+TEST_F(RecordNoticesTest, ADeviceThatGoesWhileIdleIsReplacedByName) {
+    addMicrophone();
+    addHeadset();
+    begin();
+    hardware.remove(Microphone);
+    ASSERT_TRUE(tells(u"Microphone is gone. Headset takes its place until it is back."_s));
+    EXPECT_EQ(only().help, Help::ChooseDevice);
+    addMicrophone();
+    EXPECT_TRUE(waitFor([&] { return controller->notices().isEmpty(); })) << "it is back";
+    hardware.remove(Microphone);
+    ASSERT_TRUE(tells(u"Microphone is gone"_s));
+    hardware.remove(Headset);
+    ASSERT_TRUE(tells(u"Headset is gone. There is no other input device: connect one."_s));
+    EXPECT_EQ(only().help, Help::None);
+    addHeadset();
+    EXPECT_TRUE(waitFor([&] { return hardware.unitOf(Headset) != nullptr; }));
+    controller->chooseBuiltInDevice(0);
+    EXPECT_TRUE(waitFor([&] { return controller->notices().isEmpty(); })) << "the user has chosen it";
+}
+
+TEST_F(RecordNoticesTest, ADeviceThatOpensAfterAllIsNoNoticeAnyMore) {
+    addMicrophone();
+    hardware.unitOpens = false;
+    begin();
+    ASSERT_TRUE(tells(u"Microphone cannot be opened"_s));
+    EXPECT_EQ(only().help, Help::ChooseDevice);
+    hardware.unitOpens = true;
+    EXPECT_TRUE(waitFor([&] { return controller->notices().isEmpty(); }));
+}
+
+TEST_F(RecordNoticesTest, ADiskThatFillsUpIsToldInMinutesAndOnceAStage) {
+    // Of 18 kB a second.
+    DiskRoom room(25LL * 60 * 18000 + 9000);
+    addMicrophone();
+    begin();
+    controller->startAndStopRecord();
+    tick();
+    ASSERT_TRUE(tells(u"The disk is nearly full: there is room for about 25 minutes of recording."_s));
+    EXPECT_EQ(only().help, Help::FreeSpace);
+    room.set(21LL * 60 * 18000 + 9000);
+    tick(10);
+    ASSERT_TRUE(tells(u"about 20 minutes"_s));
+    controller->dismissNotices();
+    room.set(16LL * 60 * 18000);
+    const auto isAsked = [&] {
+        tick(10);
+        return waitFor([&] { return !controller->notices().isEmpty(); }, 200);
+    };
+    EXPECT_FALSE(isAsked()) << "the user knows";
+    room.set(9LL * 60 * 18000 + 9000);
+    ASSERT_TRUE(waitFor(isAsked));
+    EXPECT_TRUE(tells(u"about 9 minutes"_s));
+    room.set(200LL * 60 * 18000);
+    EXPECT_TRUE(waitFor([&] {
+        tick(10);
+        return controller->notices().isEmpty();
+    })) << "somebody made room";
+    controller->startAndStopRecord();
+}
+
+TEST_F(RecordNoticesTest, TwoSourcesNeedRoomForTheirMix) {
+    const RecordRoom::Recording one{home.path(), home.path(), 1, 60};
+    const RecordRoom::Recording both{home.path(), home.path(), 2, 60};
+    const DiskRoom room(360'000'000);
+    EXPECT_NEAR(RecordRoom::measure(one).seconds, 20000, 1);
+    EXPECT_NEAR(RecordRoom::measure(both).seconds, (360e6 - 60 * 353000) / 389000, 1);
+    EXPECT_EQ(RecordRoom::words(59), u"less than a minute"_s);
+    EXPECT_EQ(RecordRoom::words(60), u"about 1 minute"_s);
+    EXPECT_EQ(RecordRoom::words(59 * 60), u"about 55 minutes"_s);
+}
+
+TEST_F(RecordNoticesTest, TheTimeStandsStillWhileTheDiskIsFullAndTheRecordingGoesOnWhenThereIsRoom) {
+    DiskRoom room(10'000);
+    addMicrophone();
+    begin();
+    controller->startAndStopRecord();
+    play(Microphone, 0.5F, 6);
+    tick(12);
+    EXPECT_FLOAT_EQ(controller->fRecordTime(), 6);
+    media.files.back()->writeStatus = -34;
+    play(Microphone, 0.5F, 0.1);
+    tick(8);
+    EXPECT_FLOAT_EQ(controller->fRecordTime(), 6);
+    EXPECT_FALSE(controller->isGrowing());
+    EXPECT_EQ(controller->getAudioWaveLevelValue(), 0);
+    EXPECT_EQ(controller->headline(), u"Nothing is being recorded"_s);
+    ASSERT_TRUE(tells(u"The disk is full. Nothing more is recorded until there is room"_s));
+    EXPECT_EQ(only().help, Help::FreeSpace);
+    EXPECT_EQ(only().target, g_strTmpPath);
+    // A little room is none.
+    room.set(1'000'000);
+    tick();
+    EXPECT_FALSE(waitFor([&] { return media.files.size() > 1; }, 100));
+    room.set(100'000'000);
+    ASSERT_TRUE(waitFor([&] {
+        tick();
+        return media.files.size() == 2;
+    }));
+    EXPECT_TRUE(controller->isGrowing());
+    EXPECT_TRUE(waitFor([&] {
+        return controller->notices().join(u' ').contains(u"s are missing: the disk was full."_s);
+    })) << controller->notices().join(u'\n').toStdString();
+    play(Microphone, 0.5F, 6);
+    controller->startAndStopRecord();
+    ASSERT_TRUE(queueDone());
+    EXPECT_EQ(delegate.paths, (QStringList{track(0), track(1)}));
+}
+
+TEST_F(RecordNoticesTest, AnUnfinishedRecordingIsNamedAtEachStartUntilItWasSeen) {
+    const QString first = makeUnfinished(u"Track3.m4a"_s);
+    addMicrophone();
+    begin();
+    controller->tellUnfinishedRecordings();
+    ASSERT_TRUE(tells(u"An earlier recording could not be finished. It is kept at "_s + first));
+    EXPECT_EQ(only().help, Help::Show);
+    EXPECT_EQ(only().path, first);
+    controller->startAndStopRecord();
+    EXPECT_EQ(controller->notices().size(), 1) << "a start is no reading";
+    controller->startAndStopRecord();
+    controller.reset();
+    begin();
+    controller->tellUnfinishedRecordings();
+    EXPECT_TRUE(tells(first)) << "not seen yet";
+    controller->dismissNotices();
+    controller.reset();
+    begin();
+    controller->tellUnfinishedRecordings();
+    expectNoNotice();
+    // Another one: only that is named. Two together are named by their folder.
+    const QString second = makeUnfinished(u"Track4.m4a"_s);
+    controller->tellUnfinishedRecordings();
+    EXPECT_TRUE(tells(second));
+    (void)makeUnfinished(u"Track5.m4a"_s);
+    controller->tellUnfinishedRecordings();
+    EXPECT_TRUE(tells(u"2 earlier recordings could not be finished. They are kept in "_s +
+                      Platform::FileManager::unfinishedFolder()));
+    // A terminal's reader is not the window's.
+    EXPECT_FALSE(controller->takeNotices().isEmpty());
+    EXPECT_EQ(UnfinishedRecordings::unseen().size(), 2);
+    controller->tellUnfinishedRecordings();
+    controller->dismissNotice(only().event);
+    EXPECT_TRUE(UnfinishedRecordings::unseen().isEmpty());
+}
