@@ -43,13 +43,14 @@ QFont scaled(QFont font, qreal points, QFont::Weight weight = QFont::Normal) {
 
 /// The text in at most two lines, elided at the end, because the important part comes first. A path takes the second
 /// line and is elided in the middle.
-QString inTwoLines(const QString& text, const QString& path, const QFontMetrics& metrics, int room) {
+QString inTwoLines(const QString& text, const QString& path, const QFontMetrics& metrics, int room,
+                   const QString& more = {}) {
     if (!path.isEmpty()) {
         QString shown = path;
         if (const QString home = QDir::homePath(); shown.startsWith(home + u'/'))
             shown = u'~' + shown.mid(home.size());
         return metrics.elidedText(text, Qt::ElideRight, room) + u'\n' +
-               metrics.elidedText(shown, Qt::ElideMiddle, room);
+               metrics.elidedText(shown, Qt::ElideMiddle, room - metrics.horizontalAdvance(more)) + more;
     }
     if (metrics.horizontalAdvance(text) <= room)
         return text;
@@ -322,14 +323,14 @@ void AudioWaveViewController::showNotices() {
     const QString help = helpText(newest.help);
     ui_->helpButton->setText(help);
     ui_->helpButton->setVisible(!help.isEmpty());
-    QString text = newest.text;
-    if (notices_.size() > 1)
-        text = tr("%1 (and %n more)", nullptr, int(notices_.size()) - 1).arg(text);
+    ui_->helpButton->setAccessibleName(help);
+    const QString more = notices_.size() > 1 ? u' ' + tr("(and %1 more)").arg(int(notices_.size()) - 1) : QString();
     QStringList all;
     for (const RecordNotice& notice : notices_)
         all.append(notice.sentence());
-    ui_->noticeField->setText(
-        inTwoLines(text, newest.path, ui_->noticeField->fontMetrics(), std::max(ui_->noticeField->width(), 16)));
+    ui_->noticeField->setText(inTwoLines(newest.path.isEmpty() ? newest.text + more : newest.text, newest.path,
+                                         ui_->noticeField->fontMetrics(), std::max(ui_->noticeField->width(), 16),
+                                         more));
     ui_->noticeField->setToolTip(all.join(u'\n'));
     ui_->noticeField->setAccessibleDescription(all.join(u'\n'));
 }

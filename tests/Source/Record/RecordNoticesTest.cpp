@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // What the recorder tells: each event once and up to date, the cause first, and nothing of an earlier recording.
+#include "Source/Record/RecordRoom.h"
 #include "Source/Record/UnfinishedRecordings.h"
 #include "tests/Source/Record/RecordFixture.h"
 #include "tests/support/DiskRoom.h"
@@ -72,7 +73,7 @@ TEST_F(RecordNoticesTest, NoticesOfARecordingGoWhenTheNextOneStarts) {
     ASSERT_TRUE(tells(u"0.100 s are missing (4800 frames): the computer was too busy"_s));
     controller->startAndStopRecord();
     ASSERT_TRUE(queueDone());
-    EXPECT_EQ(controller->notices().size(), 1) << "to be read after the end";
+    EXPECT_TRUE(controller->notices().join(u'\n').contains(u"0.100 s are missing"_s)) << "to be read after the end";
     hardware.opened.back()->lost = 0;
     controller->startAndStopRecord();
     tick();
