@@ -70,7 +70,9 @@ protected:
         const QWidget& widget = outlet(name);
         ASSERT_TRUE(waitFor([&] {
             const QPoint place = widget.mapToGlobal(widget.rect().center());
-            return desktop().xdotool({u"mousemove"_s, QString::number(place.x()), QString::number(place.y())}) &&
+            // A pointer that is there already would not enter again.
+            return desktop().xdotool({u"mousemove"_s, u"0"_s, u"0"_s, u"mousemove"_s, QString::number(place.x()),
+                                      QString::number(place.y())}) &&
                    waitFor([&] { return widget.underMouse(); }, 500);
         }));
         ASSERT_TRUE(desktop().xdotool({u"click"_s, u"1"_s}));
