@@ -41,26 +41,28 @@ QFont scaled(QFont font, qreal points, QFont::Weight weight = QFont::Normal) {
     return font;
 }
 
-/// The text in at most two lines, elided at the end, because the important part comes first. A path takes the second
-/// line and is elided in the middle.
-QString inTwoLines(const QString& text, const QString& path, const QFontMetrics& metrics, int room,
-                   const QString& more = {}) {
-    if (!path.isEmpty()) {
-        QString shown = path;
-        if (const QString home = QDir::homePath(); shown.startsWith(home + u'/'))
-            shown = u'~' + shown.mid(home.size());
-        return metrics.elidedText(text, Qt::ElideRight, room) + u'\n' +
-               metrics.elidedText(shown, Qt::ElideMiddle, room - metrics.horizontalAdvance(more)) + more;
-    }
+/// The text in at most so many lines, elided at the end, because the important part comes first.
+QString inLines(int lines, const QString& text, const QFontMetrics& metrics, int room) {
     if (metrics.horizontalAdvance(text) <= room)
         return text;
     qsizetype end = 0; // of the first line, between two words
     for (qsizetype blank = text.indexOf(u' '); blank >= 0; blank = text.indexOf(u' ', blank + 1))
         if (metrics.horizontalAdvance(text.left(blank)) <= room)
             end = blank;
-    if (end == 0)
+    if (end == 0 || lines == 1)
         return metrics.elidedText(text, Qt::ElideRight, room);
-    return text.left(end) + u'\n' + metrics.elidedText(text.mid(end + 1), Qt::ElideRight, room);
+    return text.left(end) + u'\n' + inLines(lines - 1, text.mid(end + 1), metrics, room);
+}
+
+/// A notice in two lines. A path takes the second one and is elided in the middle. @p more stands at the end.
+QString inTwoLines(const RecordNotice& notice, const QString& more, const QFontMetrics& metrics, int room) {
+    if (notice.path.isEmpty())
+        return inLines(2, notice.text + more, metrics, room);
+    QString path = notice.path;
+    if (const QString home = QDir::homePath(); path.startsWith(home + u'/'))
+        path = u'~' + path.mid(home.size());
+    return metrics.elidedText(notice.text, Qt::ElideRight, room) + u'\n' +
+           metrics.elidedText(path, Qt::ElideMiddle, room - metrics.horizontalAdvance(more)) + more;
 }
 
 void setElided(QLabel* label, const QString& text) {
@@ -120,7 +122,7 @@ void AudioWaveViewController::awakeFromNib() {
     ui_->stateField->setFont(scaled(font, font.pointSizeF() + 2, QFont::DemiBold));
     ui_->timeField->setFont(scaled(font, timePointSize, QFont::Medium));
     ui_->timeField->setReserve(u"00:00"_s);
-    ui_->hintField->setFont(scaled(font, font.pointSizeF() + 1, QFont::DemiBold));
+    ui_->hintField->setFont(scaled(font, font.pointSizeF(), QFont::DemiBold));
     ui_->hintField->hide();
     ui_->titleField->setFont(scaled(font, font.pointSizeF() + 3, QFont::DemiBold));
     QPalette dim = view_->palette();
@@ -205,8 +207,7 @@ void AudioWaveViewController::showHint() {
     if (!view_)
         return;
     ui_->hintField->setVisible(!hint_.isEmpty());
-    ui_->hintField->setText(
-        inTwoLines(hint_, {}, ui_->hintField->fontMetrics(), std::max(ui_->hintField->width(), 16)));
+    ui_->hintField->setText(inLines(4, hint_, ui_->hintField->fontMetrics(), std::max(ui_->hintField->width(), 16)));
     ui_->hintField->setToolTip(hint_);
 }
 
@@ -328,9 +329,8 @@ void AudioWaveViewController::showNotices() {
     QStringList all;
     for (const RecordNotice& notice : notices_)
         all.append(notice.sentence());
-    ui_->noticeField->setText(inTwoLines(newest.path.isEmpty() ? newest.text + more : newest.text, newest.path,
-                                         ui_->noticeField->fontMetrics(), std::max(ui_->noticeField->width(), 16),
-                                         more));
+    ui_->noticeField->setText(
+        inTwoLines(newest, more, ui_->noticeField->fontMetrics(), std::max(ui_->noticeField->width(), 16)));
     ui_->noticeField->setToolTip(all.join(u'\n'));
     ui_->noticeField->setAccessibleDescription(all.join(u'\n'));
 }
