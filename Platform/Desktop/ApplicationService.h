@@ -11,15 +11,15 @@
 
 namespace Platform {
 
-/// The program by its name on the session bus: the desktop starts it there, raises it, hands files over and sends the
-/// actions of its desktop file. Main thread. The signals come from the event loop, never inside a call of the bus, so
-/// that a receiver may open a dialog.
+/// Owns the program's name on the session bus (org.freedesktop.Application): the desktop starts and raises the program,
+/// opens files and runs the actions of the desktop file through it. Main thread. The signals are emitted from the event
+/// loop, never inside a D-Bus call, so a receiver may open a dialog.
 class ApplicationService : public QObject {
     Q_OBJECT
 public:
-    /// Takes the name. What is asked is kept until begin(): the desktop waits only some seconds for the name.
+    /// Registers the name. Requests are queued until begin(), because D-Bus activation waits only 25 s for the name.
     [[nodiscard]] static std::unique_ptr<ApplicationService> create(const QString& bundleIdentifier);
-    /// Sends the signals of what was asked so far and of what follows.
+    /// Emits the signals for the queued requests and for all later ones.
     virtual void begin() = 0;
 
 Q_SIGNALS:

@@ -9,24 +9,24 @@
 
 namespace Platform {
 
-/// Whether the desktop starts the program at login, with the argument --hidden. Main thread.
+/// Lets the desktop start the program at login with the argument --hidden. Main thread.
 class Autostart {
 public:
-    /// Called once, on the main thread: why it could not be changed, for people; empty when it was.
+    /// Called once on the main thread. @p problem says why the change failed; empty on success.
     using Done = std::function<void(const QString& problem)>;
 
     virtual ~Autostart() = default;
     [[nodiscard]] virtual bool isEnabled() const = 0;
-    /// A desktop portal answers later; @p done is dropped when this object goes first.
+    /// A desktop portal answers later. @p done is not called when this object is destroyed before the answer.
     virtual void setEnabled(bool enabled, Done done) = 0;
 
-    /// By a file in the user's autostart folder.
+    /// Uses a file in the user's autostart folder.
     /// @param program absolute path of the program
     [[nodiscard]] static std::unique_ptr<Autostart> createWithFile(const QString& desktopEntry, const QString& program);
-    /// By the desktop's background portal on the session bus: from inside a sandbox no file reaches the folder. The
-    /// portal tells nobody what it was asked before, so the answer is kept in the user defaults.
+    /// Uses the background portal of the session bus: a sandboxed program cannot write to the autostart folder. The
+    /// portal has no query, so the last answer is stored in the user defaults.
     [[nodiscard]] static std::unique_ptr<Autostart> createWithPortal(const QString& program);
-    /// The way of this system for the program that runs.
+    /// Chooses between the two ways for the running program.
     [[nodiscard]] static std::unique_ptr<Autostart> create(const QString& desktopEntry);
 };
 

@@ -10,14 +10,14 @@
 
 namespace Platform {
 
-/// The program as a player of the desktop: media keys, panels and phones steer it and show what it plays. Main thread.
-/// Nothing happens where the desktop has no such service.
+/// Presents the program to the desktop as a media player: media keys, panels and phones control it and show what it
+/// plays. Main thread. Does nothing on a desktop without a session bus.
 class MediaPlayer {
 public:
     enum class Status { Stopped, Paused, Playing };
 
     struct Track {
-        std::uint64_t number = 0; ///< one of its own for each sound that is taken up; 0: there is no track
+        std::uint64_t number = 0; ///< unique for each sound that is loaded; 0 means no track
         QString title;
         QString artist;
         QString album;
@@ -40,7 +40,8 @@ public:
         bool operator==(const State&) const = default;
     };
 
-    /// What the desktop may ask of the player. Called on the main thread; a call that the state rules out does nothing.
+    /// Commands that the desktop sends. Called on the main thread. A command that the state does not allow does
+    /// nothing.
     class Commands {
     public:
         virtual ~Commands() = default;
@@ -49,7 +50,7 @@ public:
         virtual void stop() = 0;
         virtual void next() = 0;
         virtual void previous() = 0;
-        /// Seconds of the track at hand; 0 without one.
+        /// Position in the current track in seconds; 0 without a track.
         [[nodiscard]] virtual double position() const = 0;
         virtual void setPosition(double seconds) = 0;
         virtual void setVolume(double volume) = 0;
@@ -59,15 +60,14 @@ public:
     };
 
     virtual ~MediaPlayer() = default;
-    /// Not owned; null before it goes.
+    /// Not owned. Set it to null before the object is destroyed.
     virtual void setCommands(Commands* commands) = 0;
-    /// Tells the desktop what differs from the state of before.
+    /// Tells the desktop the properties that differ from the last state.
     virtual void setState(const State& state) = 0;
-    /// The position has jumped; while a track plays on, the desktop counts for itself.
+    /// Tells the desktop that the position jumped. During normal playback the desktop advances the position itself.
     virtual void positionJumped(double seconds) = 0;
 
-    /// A player named @p name on the session bus. A second one of that name on the same bus is told apart by its
-    /// process.
+    /// Creates a player named @p name on the session bus. If the name is taken, the process id is appended to it.
     /// @param desktopEntry name of the program's desktop file without its ending
     [[nodiscard]] static std::unique_ptr<MediaPlayer> create(const QString& name, const QString& desktopEntry);
 };

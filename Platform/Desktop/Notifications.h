@@ -11,8 +11,8 @@
 
 namespace Platform {
 
-/// A notification of the desktop: there is one at a time, and a new one takes the place of the one before. Main thread;
-/// nothing waits for the desktop. Where no server answers nothing is shown.
+/// Shows a desktop notification. There is one at a time: a new one replaces the last one. Main thread. All calls are
+/// asynchronous. Without a notification server nothing is shown.
 class Notifications : public QObject {
     Q_OBJECT
 public:
@@ -21,20 +21,20 @@ public:
         QString label;
     };
     struct Notification {
-        QString title; ///< plain text, like the other texts: no markup in them is interpreted
+        QString title; ///< plain text; markup in title and text is never interpreted
         QString text;
-        QString defaultAction;  ///< key of a click on the notification itself; empty: nothing
-        QList<Action> actions;  ///< its buttons
-        bool isProblem = false; ///< stays until the user has seen it
+        QString defaultAction;  ///< key for a click on the notification itself; empty for none
+        QList<Action> actions;  ///< shown as buttons
+        bool isProblem = false; ///< asks the server to keep it until the user closes it
     };
 
     virtual void show(const Notification& notification) = 0;
-    /// Takes the notification away, if it still stands.
+    /// Closes the notification if it is still open.
     virtual void withdraw() = 0;
 
-    /// On the session bus.
-    /// @param program name for people
-    /// @param desktopEntry name of the program's desktop file without its ending, also of its icon
+    /// Uses the notification server of the session bus.
+    /// @param program name of the program as the user sees it
+    /// @param desktopEntry name of the program's desktop file without its ending; also the icon name
     [[nodiscard]] static std::unique_ptr<Notifications> create(const QString& program, const QString& desktopEntry);
 
 Q_SIGNALS:

@@ -22,7 +22,7 @@ QString writeCover(const QString& audioFile, const QString& folder) {
     const QByteArray picture = FileTags::artwork(audioFile);
     if (picture.isEmpty() || !QDir().mkpath(folder))
         return {};
-    // Named by its content: programs keep pictures by their address, and another picture must have another one.
+    // The name is a hash of the content: programs cache pictures by URL, so another picture needs another URL.
     const QString name = QString::fromLatin1(QCryptographicHash::hash(picture, QCryptographicHash::Sha1).toHex());
     const QString path = folder + u'/' + name + (picture.startsWith("\x89PNG") ? u".png"_s : u".jpg"_s);
     return QFileInfo::exists(path) || Platform::FileManager::writeAtomically(path, picture, 0600).isEmpty() ? path
@@ -33,7 +33,7 @@ QString writeCover(const QString& audioFile, const QString& folder) {
 
 CoverFile::CoverFile(const QString& folder, QObject* parent) : QObject(parent), folder_(folder) {
     worker_.setMaxThreadCount(1);
-    Platform::TemporaryFolder::removeWhole(folder_); // of a program that was killed
+    Platform::TemporaryFolder::removeWhole(folder_); // left by a killed program
 }
 
 CoverFile::~CoverFile() {

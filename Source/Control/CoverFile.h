@@ -7,19 +7,19 @@
 #include <QThreadPool>
 #include <QUrl>
 
-/// The cover of one audio file at a time as a picture file, which other programs can open. It lies in the user's cache
-/// and goes with this object. The audio file is read on a worker. Main thread.
+/// Extracts the cover of one audio file at a time into a picture file that other programs can open. The picture is
+/// removed with this object. The audio file is read on a worker. Main thread.
 class CoverFile : public QObject {
     Q_OBJECT
 public:
-    /// @param folder for the picture alone; it is emptied
+    /// @param folder used for the picture only; its content is deleted
     explicit CoverFile(const QString& folder, QObject* parent = nullptr);
     ~CoverFile() override;
 
-    /// Takes the cover of another audio file, or the new one of the same file when it was written since. An empty path
-    /// takes none.
+    /// Extracts the cover of an audio file. Does nothing if the same file was not modified since the last call. An
+    /// empty path removes the picture.
     void setAudioFile(const QString& path);
-    /// Empty until the cover is read, and for a file without one of its own.
+    /// Empty until the cover is read, and for a file without a cover of its own.
     [[nodiscard]] QUrl url() const { return url_; }
 
 Q_SIGNALS:
@@ -31,5 +31,5 @@ private:
     QString folder_;
     QString source_; ///< path, time and size of the audio file
     QUrl url_;
-    QThreadPool worker_; ///< last member: its work is over before the rest goes
+    QThreadPool worker_; ///< last member: its work ends before the other members are destroyed
 };

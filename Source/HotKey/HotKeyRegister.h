@@ -19,7 +19,7 @@ public:
     static inline const QString HotKeyRegisterRefusedNotification = QStringLiteral("HotKeyRegisterRefusedNotification");
     static inline const QString HotKeyRegisterHandleKey = QStringLiteral("HotKeyRegisterHandleKey");
 
-    /// Notification that the desktop told the keys of a combination; its dictionary has the handle and the words.
+    /// Notification with the keys that the desktop reports for a combination: the handle and the description.
     static inline const QString HotKeyRegisterTriggerNotification = QStringLiteral("HotKeyRegisterTriggerNotification");
     static inline const QString HotKeyRegisterTriggerKey = QStringLiteral("HotKeyRegisterTriggerKey");
 
@@ -42,7 +42,7 @@ public:
 
     /// Called when the combination is refused after registerHotKey() accepted it. Nothing is registered any more then.
     void setRefused(std::function<void()> refused) { refused_ = std::move(refused); }
-    /// Called when the desktop tells the keys that lead here, in its own words; empty when it has none.
+    /// Called when the desktop reports the keys of this combination in its own words; empty when there are none.
     void setTriggerChanged(std::function<void(const QString&)> changed) { triggerChanged_ = std::move(changed); }
 
 private:

@@ -154,7 +154,7 @@ void KeybordShortcutTextView::updateShortcutValue() {
 }
 
 void KeybordShortcutTextView::setDesktopTrigger(const std::optional<QString>& trigger) {
-    // While the field has the focus the user is typing another one.
+    // While the field has the focus, the user is typing a new combination.
     if (trigger == desktopTrigger_ || (hasFocus() && trigger))
         return;
     desktopTrigger_ = trigger;
@@ -172,7 +172,7 @@ QKeySequence KeybordShortcutTextView::shownKeys() const {
     if (modifierFlags_ == 0 || characters_.isEmpty())
         return {};
     if (desktopTrigger_) {
-        // Words of the desktop; some name keys as Qt does.
+        // Some desktops name keys as Qt does; other descriptions cannot be shown in a menu.
         const auto keys = QKeySequence::fromString(*desktopTrigger_, QKeySequence::PortableText);
         return keys.count() == 1 && keys[0].key() != Qt::Key_unknown ? keys : QKeySequence();
     }

@@ -60,8 +60,8 @@ public:
     bool updateHotKeyRegister();
 
     [[nodiscard]] QAction* menuItem() const { return menuItem_; }
-    /// What the desktop says by which keys the shortcut is reached; nothing where it says nothing. Its user may have
-    /// chosen others there than were typed here.
+    /// The keys of this shortcut in the desktop's own words, if the desktop reports them. The user may have chosen
+    /// other keys in the desktop's settings than in this field.
     [[nodiscard]] const std::optional<QString>& desktopTrigger() const { return desktopTrigger_; }
     /// Shows the combination at @p item, which is not owned, and makes this field its represented object.
     void setMenuItem(QAction* item);

@@ -31,7 +31,7 @@ LibraryPlayer::LibraryPlayer(MainWndController& window, std::unique_ptr<MediaPla
             [this](double seconds) { desktop_->positionJumped(seconds); });
     connect(&library, &LibraryPresenter::playbackChanged, this, &LibraryPlayer::update);
     connect(&cover_, &CoverFile::urlChanged, this, &LibraryPlayer::update);
-    // What may be played next, and whether anything may.
+    // These change canPlay, canGoNext and canGoPrevious.
     connect(&library, &LibraryPresenter::tableViewPlayEnableChanged, this, soon);
     connect(&window_.record(), &RecordStateController::stateChanged, this, soon);
     AudioTableModel& rows = library.tableModel();
@@ -95,7 +95,7 @@ void LibraryPlayer::update() {
     const MediaPlayer::State now = state();
     const auto before = std::exchange(status_, now.status);
     desktop_->setState(now);
-    // The desktop counts on from where the track stood when it was stopped.
+    // Without this the desktop continues from the position at which the track was stopped.
     if (before == MediaPlayer::Status::Stopped && now.status == MediaPlayer::Status::Playing)
         desktop_->positionJumped(position());
 }
@@ -116,7 +116,7 @@ int LibraryPlayer::rowFrom(int row, int step) const {
 
 void LibraryPlayer::go(int step) {
     const int row = rowFromPlaying(step);
-    // The trim window and the ringtone maker play for themselves.
+    // The trim window and the ringtone maker are modal and have their own playback.
     if (row < 0 || QApplication::activeModalWidget())
         return;
     const Dictionary entry = window_.library().tableModel().entry(row);
@@ -177,6 +177,6 @@ void LibraryPlayer::raise() {
 }
 
 void LibraryPlayer::quit() {
-    // Not inside the call from the bus: the window may ask the user something.
+    // Not inside the D-Bus call: closing may open a dialog.
     Platform::MainQueue::post(this, [this] { window_.closeWindow(); });
 }

@@ -11,9 +11,8 @@
 class CustomSound;
 class MainWndController;
 
-/// The playback of the library as a player of the desktop: tells it what plays, and does what media keys and panels ask
-/// for. The next and the previous track are the rows of the list that the window shows. While something is recorded
-/// nothing can be played. Main thread.
+/// Connects the playback of the library with the desktop's media controls: reports what plays and runs their commands.
+/// Next and previous follow the list that the window shows. During a recording nothing can be played. Main thread.
 class LibraryPlayer : public QObject, public Platform::MediaPlayer::Commands {
     Q_OBJECT
 public:
@@ -35,12 +34,12 @@ public:
 
 private:
     void soundChanged();
-    /// Tells the desktop the state of now.
+    /// Sends the current state to the desktop.
     void update();
     [[nodiscard]] Platform::MediaPlayer::State state();
-    /// The nearest row of the shown list, in steps of @p step from @p row, whose file is there; -1 when there is none.
+    /// The next row of the shown list after @p row, in steps of @p step, whose file exists; -1 if there is none.
     [[nodiscard]] int rowFrom(int row, int step) const;
-    /// rowFrom() the playing one; -1 also when the list does not show that one.
+    /// rowFrom() of the playing row; -1 also when the list does not show the playing entry.
     [[nodiscard]] int rowFromPlaying(int step) const;
     void go(int step);
     [[nodiscard]] std::shared_ptr<CustomSound> sound() const;
@@ -48,10 +47,10 @@ private:
     MainWndController& window_;
     std::unique_ptr<Platform::MediaPlayer> desktop_;
     CoverFile cover_;
-    QTimer later_; ///< many rows that change are one change for the desktop
+    QTimer later_; ///< merges the changes of many rows into one update
     Platform::MediaPlayer::Status status_ = Platform::MediaPlayer::Status::Stopped;
     std::uint64_t track_ = 0;
     double volume_ = 1;
-    bool pausedAtStart_ = false; ///< the sound was taken up by a paused player and has not begun yet
-    bool takeUpPaused_ = false;  ///< so will be the next sound
+    bool pausedAtStart_ = false; ///< the sound was loaded while the player was paused and has not been started
+    bool takeUpPaused_ = false;  ///< value of pausedAtStart_ for the next sound
 };

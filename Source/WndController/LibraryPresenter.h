@@ -83,7 +83,7 @@ public:
     [[nodiscard]] bool isPlaySoundPlaying() const;
     /// The file of the display's sound, also while it is paused or stopped; empty without a sound.
     [[nodiscard]] QString playingPath() const;
-    /// The entry that the display's sound was made of, as the library has it now; empty without a sound.
+    /// The library entry of the display's sound; empty without a sound.
     [[nodiscard]] Dictionary playingEntry() const { return playingEntry_; }
     /// Announces the two playing properties; the argument is ignored, the value is read from the sound.
     void setIsPlaySoundPlaying(bool ignored);
@@ -96,9 +96,9 @@ public:
     void updatePlaySoundButton();
 
     // ---- actions ----------------------------------------------------------------------------------------------------
-    /// Makes the entry's file the display's sound and plays it.
+    /// Loads the entry's file as the display's sound and plays it.
     void playSoundFile(const Dictionary& entry);
-    /// The same without playing it: it begins with the next playSoundButtonAction().
+    /// Loads the entry's file without playing it. playSoundButtonAction() starts it.
     void takeUpSoundFile(const Dictionary& entry);
     void playSoundButtonAction();
     void tableViewDoubleAction();
@@ -120,8 +120,8 @@ Q_SIGNALS:
     void canFilterAudioChanged();
     void isPlaySoundButtonEnableChanged();
     void isPlaySoundPlayingChanged();
-    /// There is another sound, it began, paused, went on or ended, or its entry changed. Unlike
-    /// isPlaySoundPlayingChanged() never without a cause.
+    /// The sound was replaced, started, paused, resumed or ended, or its entry changed. Not emitted periodically,
+    /// unlike isPlaySoundPlayingChanged().
     void playbackChanged();
     /// A request of the user failed; one sentence.
     void problem(const QString& text);

@@ -22,7 +22,7 @@ namespace {
 const auto showKey = u"show"_s;
 const auto playKey = u"play"_s;
 
-/// A notice whose numbers grow is the same notice.
+/// Notices that differ only in their numbers count as the same notice.
 QString withoutNumbers(QString notice) {
     static const QRegularExpression numbers(u"[0-9][0-9.,]*"_s);
     return notice.remove(numbers);
@@ -51,7 +51,7 @@ void RecordingNotifier::recordingFinished(const QString& path, const Dictionary&
     if (!mayNotify())
         return;
     if (entry.isEmpty()) {
-        if (finished_ == 0) // short stretches between songs are no news beside the songs
+        if (finished_ == 0) // do not replace the text about a kept recording
             text_ = tr("“%1” was not kept: it is too short.").arg(QFileInfo(path).completeBaseName());
     } else {
         ++finished_;
@@ -95,7 +95,7 @@ void RecordingNotifier::show() {
     shown.isProblem = !problem_.isEmpty();
     shown.defaultAction = showKey;
     shown.actions.append({showKey, tr("Show")});
-    if (finished_ > 0 && !goesOn_) // nothing is played while something is recorded
+    if (finished_ > 0 && !goesOn_) // playback is disabled during a recording
         shown.actions.append({playKey, tr("Play")});
     desktop_->show(shown);
 }

@@ -12,9 +12,9 @@
 
 class MainWndController;
 
-/// Tells the user by a notification of the desktop what became of a recording while the program was not in front: it is
-/// finished, it was cut and goes on, something went wrong. The one notification sums up all that the user has not seen;
-/// it goes when the program comes to the front. Main thread.
+/// Shows a desktop notification when a recording is finished, cut, dropped or has a problem while no window of the
+/// program has the focus. One notification sums up everything since the user last saw the program. It is closed when
+/// the program gets the focus. Main thread.
 class RecordingNotifier : public QObject {
     Q_OBJECT
 public:
@@ -31,10 +31,10 @@ private:
 
     MainWndController& window_;
     std::unique_ptr<Platform::Notifications> desktop_;
-    int finished_ = 0; ///< recordings that the user has not seen
+    int finished_ = 0; ///< recordings since the user last saw the program
     bool goesOn_ = false;
-    QString newest_;  ///< path of the last one
-    QString text_;    ///< about the last one
-    QString problem_; ///< the last one that the user has not seen
+    QString newest_;  ///< path of the newest recording
+    QString text_;    ///< text about the newest recording
+    QString problem_; ///< the newest notice since the user last saw the program
     QStringList noticesBefore_;
 };

@@ -17,33 +17,36 @@ using namespace Qt::StringLiterals;
 namespace Platform {
 namespace {
 
-const auto service = u"org.freedesktop.Notifications"_s;
-const auto path = u"/org/freedesktop/Notifications"_s;
-const auto defaultKey = u"default"_s; // of a click on the notification itself
+const auto notificationServer = u"org.freedesktop.Notifications"_s;
+const auto notificationPath = u"/org/freedesktop/Notifications"_s;
+const auto defaultActionKey = u"default"_s; // sent for a click on the notification itself
 
-enum Urgency : uchar { Normal = 1, Critical = 2 };
+constexpr uchar normalUrgency = 1, criticalUrgency = 2;
 
-/// One call of Notify is under way at a time: its answer is the number that the next one replaces. Of those that are
-/// asked for meanwhile the last one counts.
+/// Only one Notify call runs at a time, because the next call needs the id that the server returns. If several
+/// notifications are requested in the meantime, only the last one is sent.
 class FreedesktopNotifications : public Notifications {
     Q_OBJECT
 public:
     FreedesktopNotifications(const QString& program, const QString& desktopEntry)
         : program_(program), desktopEntry_(desktopEntry), bus_(QDBusConnection::sessionBus()),
-          servers_(service, bus_, QDBusServiceWatcher::WatchForOwnerChange) {
+          servers_(notificationServer, bus_, QDBusServiceWatcher::WatchForOwnerChange) {
         if (!bus_.isConnected())
             return;
-        // Another server knows nothing of the numbers of the one before.
+        // A new server does not know the ids of the old one.
         connect(&servers_, &QDBusServiceWatcher::serviceOwnerChanged, this, [this] {
             number_ = 0;
             interpretsMarkup_.reset();
         });
-        bus_.connect(service, path, service, u"ActionInvoked"_s, this, SLOT(invoked(uint, QString)));
-        bus_.connect(service, path, service, u"ActivationToken"_s, this, SLOT(tokenGiven(uint, QString)));
-        bus_.connect(service, path, service, u"NotificationClosed"_s, this, SLOT(closed(uint, uint)));
+        bus_.connect(notificationServer, notificationPath, notificationServer, u"ActionInvoked"_s, this,
+                     SLOT(invoked(uint, QString)));
+        bus_.connect(notificationServer, notificationPath, notificationServer, u"ActivationToken"_s, this,
+                     SLOT(tokenGiven(uint, QString)));
+        bus_.connect(notificationServer, notificationPath, notificationServer, u"NotificationClosed"_s, this,
+                     SLOT(closed(uint, uint)));
     }
     ~FreedesktopNotifications() override {
-        // Its buttons would lead nowhere.
+        // Without the program its buttons do nothing.
         close();
     }
 
@@ -66,11 +69,11 @@ private Q_SLOTS:
     void invoked(uint number, const QString& key) {
         if (number != number_ || number == 0)
             return;
-        const QString action = key == defaultKey ? shown_.defaultAction : key;
+        const QString action = key == defaultActionKey ? shown_.defaultAction : key;
         if (!action.isEmpty())
             Q_EMIT actionInvoked(action, std::exchange(token_, {}));
     }
-    /// Comes before the action that it belongs to.
+    /// The server sends the token before ActionInvoked.
     void tokenGiven(uint number, const QString& token) {
         if (number == number_)
             token_ = token.toUtf8();
@@ -100,27 +103,29 @@ private:
 
     void send() {
         if (!interpretsMarkup_) {
-            call(QDBusMessage::createMethodCall(service, path, service, u"GetCapabilities"_s),
+            call(QDBusMessage::createMethodCall(notificationServer, notificationPath, notificationServer,
+                                                u"GetCapabilities"_s),
                  [this](const QDBusMessage& reply) {
                      if (reply.type() == QDBusMessage::ReplyMessage)
                          interpretsMarkup_ = reply.arguments().value(0).toStringList().contains(u"body-markup"_s);
                      else
-                         next_.reset(); // nobody is there; the next notification asks again
+                         next_.reset(); // no server; the next notification asks again
                  });
             return;
         }
         shown_ = *std::exchange(next_, std::nullopt);
         QStringList actions;
         if (!shown_.defaultAction.isEmpty())
-            actions << defaultKey << QString();
+            actions << defaultActionKey << QString();
         for (const Action& action : std::as_const(shown_.actions))
             actions << action.key << action.label;
         const QVariantMap hints{
             {u"desktop-entry"_s, desktopEntry_},
-            {u"urgency"_s, QVariant::fromValue<uchar>(shown_.isProblem ? Critical : Normal)},
-            {u"suppress-sound"_s, true}, // another recording may run, and would have it in it
+            {u"urgency"_s, QVariant::fromValue<uchar>(shown_.isProblem ? criticalUrgency : normalUrgency)},
+            {u"suppress-sound"_s, true}, // the sound would be recorded when computer audio is recorded
         };
-        auto message = QDBusMessage::createMethodCall(service, path, service, u"Notify"_s);
+        auto message =
+            QDBusMessage::createMethodCall(notificationServer, notificationPath, notificationServer, u"Notify"_s);
         message << program_ << number_ << desktopEntry_ << shown_.title
                 << (*interpretsMarkup_ ? shown_.text.toHtmlEscaped() : shown_.text) << actions << hints << -1;
         call(message, [this](const QDBusMessage& reply) {
@@ -132,7 +137,8 @@ private:
     void close() {
         if (number_ == 0)
             return;
-        auto message = QDBusMessage::createMethodCall(service, path, service, u"CloseNotification"_s);
+        auto message = QDBusMessage::createMethodCall(notificationServer, notificationPath, notificationServer,
+                                                      u"CloseNotification"_s);
         message << std::exchange(number_, 0U);
         message.setAutoStartService(false);
         bus_.send(message);
@@ -144,7 +150,7 @@ private:
     QDBusServiceWatcher servers_;
     bool busy_ = false; ///< a call is under way
     bool withdrawn_ = false;
-    uint number_ = 0; ///< of the notification that stands, by the server; 0 is none
+    uint number_ = 0; ///< id of the open notification from the server; 0 is none
     std::optional<bool> interpretsMarkup_;
     std::optional<Notification> next_;
     Notification shown_;

@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 namespace Platform {
 namespace {
 
-/// What the launcher gave: under Wayland a token, under X11 the identifier of the launch.
+/// The launcher's token: an activation token on Wayland, a startup id on X11.
 QByteArray tokenIn(const QVariantMap& platformData) {
     const QByteArray token = platformData.value(u"activation-token"_s).toString().toUtf8();
     return token.isEmpty() ? platformData.value(u"desktop-startup-id"_s).toString().toUtf8() : token;
@@ -34,7 +34,7 @@ public:
     explicit ApplicationInterface(ServiceObject& service);
 
 public Q_SLOTS:
-    void Activate(const QVariantMap& platform_data); // NOLINT(readability-identifier-naming): names on the bus
+    void Activate(const QVariantMap& platform_data); // NOLINT(readability-identifier-naming): D-Bus names
     void Open(const QStringList& uris, const QVariantMap& platform_data);
     void ActivateAction(const QString& action_name, const QVariantList& parameter, const QVariantMap& platform_data);
 
@@ -49,7 +49,7 @@ public:
         : name_(identifier), path_(u'/' + QString(identifier).replace(u'.', u'/')),
           bus_(QDBusConnection::sessionBus()) {
         new ApplicationInterface(*this);
-        // The object first: a call may come with the name.
+        // Register the object first: calls may arrive as soon as the name is owned.
         if (bus_.isConnected() && bus_.registerObject(path_, this, QDBusConnection::ExportAdaptors))
             hasName_ = bus_.registerService(name_);
     }

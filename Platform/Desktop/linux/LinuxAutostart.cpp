@@ -27,8 +27,8 @@ namespace {
 
 const auto hiddenArgument = u"--hidden"_s;
 
-/// An argument of an Exec line: quoted, and escaped twice, for the value is a string of the file and a command line.
-QByteArray quoted(const QString& argument) {
+/// Quotes an argument of an Exec line. It is escaped twice: as a command line and as a string value of the file.
+QByteArray quotedForExec(const QString& argument) {
     QString text;
     for (const QChar letter : argument) {
         if (letter == u'"' || letter == u'`' || letter == u'$' || letter == u'\\')
@@ -51,7 +51,7 @@ public:
         const auto content = FileManager::read(file_, 64 * 1024, why);
         if (!content)
             return false;
-        // Desktops switch an entry off in these two ways.
+        // Desktops disable an entry with one of these two lines.
         for (const QByteArray& line : content->split('\n')) {
             const QByteArray said = line.trimmed().replace(" ", "");
             if (said == "Hidden=true" || said == "X-GNOME-Autostart-enabled=false")
@@ -69,12 +69,12 @@ public:
             done(FileManager::removeFile(file_));
             return;
         }
-        (void)QDir().mkpath(QFileInfo(file_).path()); // where it fails the next line says why
+        (void)QDir().mkpath(QFileInfo(file_).path()); // if this fails, the write below reports why
         done(FileManager::writeAtomically(file_, "[Desktop Entry]\n"
                                                  "Type=Application\n"
                                                  "Name=Sonaphex\n"
                                                  "Exec=" +
-                                                     quoted(program_) + ' ' + hiddenArgument.toLatin1() +
+                                                     quotedForExec(program_) + ' ' + hiddenArgument.toLatin1() +
                                                      "\n"
                                                      "Icon=" +
                                                      entry_.toUtf8() +
@@ -107,7 +107,7 @@ public:
         }
         wanted_ = enabled;
         done_ = std::move(done);
-        // The answer may come before the call returns, so its path is listened to beforehand.
+        // The answer may arrive before the call returns, so connect to its path first.
         const QString token = u"autostart%1"_s.arg(++requests_);
         QString sender = bus_.baseService().mid(1);
         const QString request =
@@ -170,7 +170,7 @@ std::unique_ptr<Autostart> Autostart::create(const QString& desktopEntry) {
     const QString program = QCoreApplication::applicationFilePath();
     if (QFile::exists(u"/.flatpak-info"_s))
         return createWithPortal(QFileInfo(program).fileName());
-    // An AppImage is mounted at another place at each start.
+    // An AppImage is mounted at a different path at each start.
     const QString image = qEnvironmentVariable("APPIMAGE");
     return createWithFile(desktopEntry, image.isEmpty() ? program : image);
 }

@@ -20,17 +20,17 @@ using namespace Qt::StringLiterals;
 namespace Platform {
 namespace {
 
-const auto objectPath = u"/org/mpris/MediaPlayer2"_s;
-const auto playerInterface = u"org.mpris.MediaPlayer2.Player"_s;
-const auto rootInterface = u"org.mpris.MediaPlayer2"_s;
-constexpr double microseconds = 1e6; // the unit of times on the bus
+const auto mprisPath = u"/org/mpris/MediaPlayer2"_s;
+const auto mprisPlayerInterface = u"org.mpris.MediaPlayer2.Player"_s;
+const auto mprisInterface = u"org.mpris.MediaPlayer2"_s;
+constexpr double microseconds = 1e6; // MPRIS counts times in microseconds
 
-QDBusObjectPath pathOf(const MediaPlayer::Track& track) {
+QDBusObjectPath trackPath(const MediaPlayer::Track& track) {
     return QDBusObjectPath(track.number == 0 ? u"/org/mpris/MediaPlayer2/TrackList/NoTrack"_s
                                              : u"/com/korvane/Sonaphex/track/%1"_s.arg(track.number));
 }
 
-QString textOf(MediaPlayer::Status status) {
+QString statusText(MediaPlayer::Status status) {
     switch (status) {
     case MediaPlayer::Status::Playing:
         return u"Playing"_s;
@@ -45,7 +45,7 @@ QString textOf(MediaPlayer::Status status) {
 QVariantMap metadataOf(const MediaPlayer::Track& track) {
     if (track.number == 0)
         return {};
-    QVariantMap data{{u"mpris:trackid"_s, QVariant::fromValue(pathOf(track))},
+    QVariantMap data{{u"mpris:trackid"_s, QVariant::fromValue(trackPath(track))},
                      {u"mpris:length"_s, qlonglong(std::llround(track.seconds * microseconds))}};
     const auto add = [&data](const QString& key, const QVariant& value, bool there) {
         if (there)
@@ -59,8 +59,8 @@ QVariantMap metadataOf(const MediaPlayer::Track& track) {
     return data;
 }
 
-/// What both interfaces of the object on the bus look at.
-struct Shared {
+/// State that both D-Bus interfaces read.
+struct MprisState {
     MediaPlayer::State state;
     MediaPlayer::Commands* commands = nullptr;
     QString desktopEntry;
@@ -78,19 +78,19 @@ class RootInterface : public QDBusAbstractAdaptor {
     Q_PROPERTY(QStringList SupportedMimeTypes READ supportedMimeTypes)
 
 public:
-    RootInterface(QObject* parent, Shared& shared) : QDBusAbstractAdaptor(parent), shared_(shared) {}
+    RootInterface(QObject* parent, MprisState& shared) : QDBusAbstractAdaptor(parent), shared_(shared) {}
 
     [[nodiscard]] bool canQuit() const { return shared_.state.canQuit; }
     [[nodiscard]] bool canRaise() const { return true; }
     [[nodiscard]] bool hasTrackList() const { return false; }
     [[nodiscard]] QString identity() const { return u"Sonaphex"_s; }
     [[nodiscard]] QString desktopEntry() const { return shared_.desktopEntry; }
-    // The library is what is played; a file from outside is opened by the program's own interface.
+    // Only library entries are played. org.freedesktop.Application opens other files.
     [[nodiscard]] QStringList supportedUriSchemes() const { return {}; }
     [[nodiscard]] QStringList supportedMimeTypes() const { return {}; }
 
 public Q_SLOTS:
-    void Raise() { // NOLINT(readability-identifier-naming): a name on the bus, as all below
+    void Raise() { // NOLINT(readability-identifier-naming): D-Bus name, also the methods below
         if (shared_.commands)
             shared_.commands->raise();
     }
@@ -100,7 +100,7 @@ public Q_SLOTS:
     }
 
 private:
-    Shared& shared_;
+    MprisState& shared_;
 };
 
 class PlayerInterface : public QDBusAbstractAdaptor {
@@ -121,13 +121,13 @@ class PlayerInterface : public QDBusAbstractAdaptor {
     Q_PROPERTY(bool CanControl READ canControl)
 
 public:
-    PlayerInterface(QObject* parent, Shared& shared) : QDBusAbstractAdaptor(parent), shared_(shared) {}
+    PlayerInterface(QObject* parent, MprisState& shared) : QDBusAbstractAdaptor(parent), shared_(shared) {}
 
-    [[nodiscard]] QString playbackStatus() const { return textOf(shared_.state.status); }
-    // A recording is played at the speed at which it was recorded.
+    [[nodiscard]] QString playbackStatus() const { return statusText(shared_.state.status); }
+    // Playback has one speed.
     [[nodiscard]] double rate() const { return 1; }
     void setRate(double rate) {
-        if (rate == 0) // which the interface defines as a pause
+        if (rate == 0) // MPRIS defines rate 0 as a pause
             Pause();
     }
     [[nodiscard]] QVariantMap metadata() const { return metadataOf(shared_.state.track); }
@@ -173,7 +173,7 @@ public Q_SLOTS:
         if (shared_.commands && shared_.state.status != MediaPlayer::Status::Stopped)
             shared_.commands->stop();
     }
-    /// Past the end is the next track, before the beginning is the beginning.
+    /// A position after the end skips to the next track. A position before the beginning goes to the beginning.
     void Seek(qlonglong Offset) {
         if (!shared_.commands || !shared_.state.canSeek)
             return;
@@ -183,10 +183,10 @@ public Q_SLOTS:
         else
             shared_.commands->setPosition(std::max(0.0, to));
     }
-    /// A position outside of the track, or of a track that is no longer the one at hand, is left alone.
+    /// Ignores a position outside the track, and a track that is no longer the current one.
     void SetPosition(const QDBusObjectPath& TrackId, qlonglong Position) {
         const double to = double(Position) / microseconds;
-        if (shared_.commands && shared_.state.canSeek && TrackId == pathOf(shared_.state.track) && to >= 0 &&
+        if (shared_.commands && shared_.state.canSeek && TrackId == trackPath(shared_.state.track) && to >= 0 &&
             to <= shared_.state.track.seconds)
             shared_.commands->setPosition(to);
     }
@@ -200,14 +200,14 @@ Q_SIGNALS:
     void Seeked(qlonglong Position);
 
 private:
-    Shared& shared_;
+    MprisState& shared_;
 };
 
-/// What PropertiesChanged carries: the properties of @p now that differ from @p before.
+/// The properties of @p now that differ from @p before, for PropertiesChanged.
 QVariantMap changesOfPlayer(const MediaPlayer::State& before, const MediaPlayer::State& now) {
     QVariantMap changes;
     if (now.status != before.status)
-        changes.insert(u"PlaybackStatus"_s, textOf(now.status));
+        changes.insert(u"PlaybackStatus"_s, statusText(now.status));
     if (now.track != before.track)
         changes.insert(u"Metadata"_s, metadataOf(now.track));
     if (now.volume != before.volume)
@@ -228,9 +228,9 @@ class MprisPlayer : public MediaPlayer {
 public:
     MprisPlayer(const QString& name, const QString& desktopEntry) : bus_(QDBusConnection::sessionBus()) {
         shared_.desktopEntry = desktopEntry;
-        if (!bus_.isConnected() || !bus_.registerObject(objectPath, &object_, QDBusConnection::ExportAdaptors))
+        if (!bus_.isConnected() || !bus_.registerObject(mprisPath, &object_, QDBusConnection::ExportAdaptors))
             return;
-        name_ = rootInterface + u'.' + name;
+        name_ = mprisInterface + u'.' + name;
         if (bus_.registerService(name_))
             return;
         name_ += u".instance%1"_s.arg(QCoreApplication::applicationPid());
@@ -240,15 +240,15 @@ public:
     ~MprisPlayer() override {
         if (!name_.isEmpty())
             bus_.unregisterService(name_);
-        bus_.unregisterObject(objectPath);
+        bus_.unregisterObject(mprisPath);
     }
 
     void setCommands(Commands* commands) override { shared_.commands = commands; }
     void setState(const State& state) override {
         const State before = std::exchange(shared_.state, state);
-        tell(playerInterface, changesOfPlayer(before, state));
+        tell(mprisPlayerInterface, changesOfPlayer(before, state));
         if (state.canQuit != before.canQuit)
-            tell(rootInterface, {{u"CanQuit"_s, state.canQuit}});
+            tell(mprisInterface, {{u"CanQuit"_s, state.canQuit}});
     }
     void positionJumped(double seconds) override { Q_EMIT player_->Seeked(std::llround(seconds * microseconds)); }
 
@@ -257,12 +257,12 @@ private:
         if (changes.isEmpty() || name_.isEmpty())
             return;
         auto signal =
-            QDBusMessage::createSignal(objectPath, u"org.freedesktop.DBus.Properties"_s, u"PropertiesChanged"_s);
+            QDBusMessage::createSignal(mprisPath, u"org.freedesktop.DBus.Properties"_s, u"PropertiesChanged"_s);
         signal << interface << changes << QStringList();
         bus_.send(signal);
     }
 
-    Shared shared_;
+    MprisState shared_;
     QDBusConnection bus_;
     QString name_; ///< empty when the player is not on the bus
     QObject object_;

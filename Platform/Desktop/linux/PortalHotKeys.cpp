@@ -102,7 +102,8 @@ public:
                      SLOT(activated(QDBusObjectPath, QString, qulonglong, QVariantMap)));
         bus_.connect(service, desktopPath, shortcutsInterface, u"ShortcutsChanged"_s, this,
                      SLOT(shortcutsChanged(QDBusMessage)));
-        // A portal that is started anew knows no session of the one before. The first one is started by the question.
+        // A restarted portal does not know the old session. Ignored while ask() waits, because the call may start the
+        // portal.
         connect(&portals_, &QDBusServiceWatcher::serviceRegistered, this, [this] {
             if (answered_) {
                 session_.clear();
@@ -149,7 +150,7 @@ private Q_SLOTS:
             return;
         }
     }
-    /// The user gave other keys to some of the shortcuts, in the desktop's own settings.
+    /// The user changed the keys of some shortcuts in the desktop's settings.
     void shortcutsChanged(const QDBusMessage& signal) {
         if (signal.arguments().size() < 2 || signal.arguments().at(0).value<QDBusObjectPath>().path() != session_ ||
             session_.isEmpty())

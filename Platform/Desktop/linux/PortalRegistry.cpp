@@ -18,7 +18,7 @@ void introduceToPortal(const QString& desktopEntry) {
         QDBusMessage::createMethodCall(u"org.freedesktop.portal.Desktop"_s, u"/org/freedesktop/portal/desktop"_s,
                                        u"org.freedesktop.host.portal.Registry"_s, u"Register"_s);
     message << desktopEntry << QVariantMap();
-    bus.send(message); // the portal reads its messages in their order
+    bus.send(message); // D-Bus keeps the order of messages
 }
 
 } // namespace Platform

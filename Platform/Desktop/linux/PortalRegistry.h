@@ -6,9 +6,9 @@
 
 namespace Platform {
 
-/// Tells the desktop portal which program this process is. Portals since 1.20 give global shortcuts only to programs
-/// that they know, and a program that was not started by the desktop is unknown. To be called before anything else is
-/// asked of the portal on the session bus; waits for nothing, and older portals do not listen.
+/// Tells the desktop portal which program this process is. Portals since 1.20 grant global shortcuts only to known
+/// programs, and a program that was not started by the desktop is unknown. Call it before any other portal call on the
+/// session bus. Asynchronous; older portals ignore it.
 /// @param desktopEntry name of the program's desktop file without its ending
 void introduceToPortal(const QString& desktopEntry);
 
