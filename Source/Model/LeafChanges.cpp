@@ -7,6 +7,7 @@
 
 #include <QDataStream>
 #include <QHash>
+#include <QIODevice>
 
 #include <algorithm>
 #include <deque>
@@ -94,7 +95,7 @@ LeafChange between(const QVariantList& before, const QVariantList& after) {
 
     if (!std::ranges::is_sorted(targets)) {
         const auto order = permutationOf(targets);
-        const std::size_t above = static_cast<std::size_t>(first);
+        const auto above = static_cast<std::size_t>(first);
         change.moved.resize(above + order.size() + static_cast<std::size_t>(before.size() - last));
         std::iota(change.moved.begin(), change.moved.end(), 0);
         for (std::size_t place = 0; place < order.size(); ++place)

@@ -119,10 +119,10 @@ private:
             const std::size_t key = keyNamed(name, expected);
             expected = key + 1;
             takeSpace();
-            QVariant value = object(depth + 1, key);
+            const QVariant value = object(depth + 1, key);
             if (failed_)
                 return result;
-            result.insert(result.cend(), keys_[key].string, std::move(value));
+            result.insert(result.cend(), keys_[key].string, value);
         }
     }
 
