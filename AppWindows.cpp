@@ -113,6 +113,9 @@ public:
         auto& preferences = static_cast<PreferenceWndController&>(*application.preferenceWndController());
         QObject::connect(record_.get(), &RecordStateController::stateChanged, &preferences,
                          &PreferenceWndController::flushExistSystemAudioRecordDevice);
+        // Queued: the box that asked for the installation is switched off when the command returns.
+        QObject::connect(&preferences, &PreferenceWndController::systemAudioRecordDeviceInstalled, &window,
+                         &MainWndController::systemAudioRecordDeviceInstalled, Qt::QueuedConnection);
         // Children of the window's controller: they go first.
         const QString identifier = Platform::services().bundle->bundleIdentifier();
         new LibraryPlayer(window, Platform::MediaPlayer::create(QStringLiteral("sonaphex"), identifier),

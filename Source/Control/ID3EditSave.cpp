@@ -12,6 +12,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <mutex>
+
 using namespace Qt::StringLiterals;
 using namespace AudioRecordEntry;
 
@@ -44,6 +46,8 @@ QString yearText(const QString& typed) {
 }
 
 Result save(const Dictionary& before, const Dictionary& edited, const Artwork& artwork) {
+    static std::mutex oneAtATime;
+    const std::lock_guard lock(oneAtATime);
     const QString path = text(before, SavePath);
     Result result{before, {}, {}};
     if (!QFileInfo(path).isFile()) {

@@ -29,8 +29,8 @@ struct Result {
     std::optional<EditNote> note; ///< call end() when the library has the entry; set when the file was changed
 };
 
-/// Saves. On a worker, one at a time per process. @p before is the entry with the file's path and present tags, @p
-/// edited the same entry with the new tags and the old path.
+/// Saves. On a worker; a second call waits for the first. @p before is the entry with the file's path and present tags,
+/// @p edited the same entry with the new tags and the old path.
 [[nodiscard]] Result save(const Dictionary& before, const Dictionary& edited, const Artwork& artwork);
 
 } // namespace ID3EditSave

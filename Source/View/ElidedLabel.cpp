@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/View/ElidedLabel.h"
 
+#include "Source/View/PathText.h"
+
 #include <QPainter>
 #include <QStyle>
 
@@ -15,7 +17,7 @@ ElidedLabel::ElidedLabel(QWidget* parent) : QWidget(parent) {
 
 void ElidedLabel::setText(const QString& text) {
     text_ = text;
-    setToolTip(text);
+    setToolTip(pathText(text));
     setAccessibleDescription(text);
     update();
 }
@@ -37,7 +39,7 @@ QSize ElidedLabel::minimumSizeHint() const {
 void ElidedLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const QRect room = rect().adjusted(margin_, 0, -margin_, 0);
-    const QString shown = fontMetrics().elidedText(text_, Qt::ElideMiddle, room.width());
+    const QString shown = pathText(fontMetrics().elidedText(text_, Qt::ElideMiddle, room.width()));
     // Paths and sentences are aligned to the leading edge of the window.
     const Qt::Alignment edge = layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft;
     style()->drawItemText(&painter, room, int(edge | Qt::AlignVCenter | Qt::AlignAbsolute), palette(), isEnabled(),

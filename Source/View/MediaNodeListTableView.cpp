@@ -9,10 +9,12 @@
 #include <QMenu>
 #include <QPainter>
 
+#include <utility>
+
 MediaNodeListTableView::MediaNodeListTableView(QWidget* parent) : QTableView(parent) {
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
-    setEditTriggers(NoEditTriggers);
+    setEditTriggers(SelectedClicked);
     setShowGrid(false);
     setAlternatingRowColors(true);
     setWordWrap(false);
@@ -26,6 +28,8 @@ MediaNodeListTableView::MediaNodeListTableView(QWidget* parent) : QTableView(par
 }
 
 void MediaNodeListTableView::setEmptyText(const QString& text, const QString& image) {
+    if (text == emptyText_ && image == emptyImage_)
+        return;
     emptyText_ = text;
     emptyImage_ = image;
     viewport()->update();
@@ -60,6 +64,19 @@ QModelIndex MediaNodeListTableView::moveCursor(CursorAction action, Qt::Keyboard
                          : row;
 }
 
+QWidget* MediaNodeListTableView::editCell(const QModelIndex& cell) {
+    if (!QTableView::edit(cell, AllEditTriggers, nullptr))
+        return nullptr;
+    return indexWidget(cell);
+}
+
+bool MediaNodeListTableView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
+    // A click that chooses one of several rows, or that brings the focus back, is no second click.
+    if (trigger == SelectedClicked && !pressedAlone_)
+        return false;
+    return QTableView::edit(index, trigger, event);
+}
+
 void MediaNodeListTableView::contextMenuEvent(QContextMenuEvent* event) {
     if (QMenu* menu = menuForEvent(*event)) {
         Q_EMIT menu->aboutToShow();
@@ -71,12 +88,21 @@ void MediaNodeListTableView::contextMenuEvent(QContextMenuEvent* event) {
     event->accept();
 }
 
+void MediaNodeListTableView::focusInEvent(QFocusEvent* event) {
+    if (event->reason() == Qt::MouseFocusReason || event->reason() == Qt::ActiveWindowFocusReason)
+        isFresh_ = true;
+    QTableView::focusInEvent(event);
+}
+
 void MediaNodeListTableView::mousePressEvent(QMouseEvent* event) {
     // menuForEvent() sets the selection of a context click; the base class would change it before.
     if (event->button() == Qt::RightButton) {
         event->accept();
         return;
     }
+    const QItemSelection selected = selectionModel() ? selectionModel()->selection() : QItemSelection();
+    pressedAlone_ = !std::exchange(isFresh_, false) && event->modifiers() == Qt::NoModifier && selected.size() == 1 &&
+                    selected.first().height() == 1;
     QTableView::mousePressEvent(event);
 }
 

@@ -31,11 +31,15 @@ public:
     /// The column that typed letters are looked for in, whichever cell was clicked last.
     void setSearchColumn(int column) { searchColumn_ = column; }
     void keyboardSearch(const QString& search) override;
+    /// Opens the editor of a cell and answers it; null when the cell cannot be edited.
+    QWidget* editCell(const QModelIndex& cell);
 
 protected:
     /// Home and End go to the first and the last row.
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -44,4 +48,6 @@ private:
     QString emptyText_;
     QString emptyImage_;
     int searchColumn_ = 0;
+    bool pressedAlone_ = false; ///< one row was selected when the button was pressed
+    bool isFresh_ = false;      ///< the next press may have been meant to bring the focus here
 };

@@ -6,9 +6,11 @@
 #include "Source/Model/MediaLibrary.h"
 #include "Source/Model/MissingFiles.h"
 #include "Source/View/NamedImages.h"
+#include "Source/View/PathText.h"
 #include "Source/WndController/AudioTags.h"
 
 #include <QCollator>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QPalette>
 
@@ -28,6 +30,10 @@ constexpr std::size_t kMostPlaced = 200;
 
 QString sortText(const Dictionary& entry, int column) {
     return Platform::stringForm(entry.value(AudioTags::audioTagKeyTranslate(AudioTableModel::identifier(column))));
+}
+
+bool hasNoTitle(const Dictionary& entry) {
+    return Platform::stringForm(entry.value(AudioRecordEntry::Title)).trimmed().isEmpty();
 }
 
 QCollator collator() {
@@ -290,8 +296,13 @@ QVariant AudioTableModel::data(const QModelIndex& index, int role) const {
     case PlayingRole:
         return !path.isEmpty() && path == playingPath_;
     case Qt::ForegroundRole:
-        return missing_.isMissing(path) ? QVariant(QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text))
-                                        : QVariant();
+        if (missing_.isMissing(path))
+            return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+        if (index.column() == Title && hasNoTitle(entry))
+            return QGuiApplication::palette().brush(QPalette::PlaceholderText);
+        return {};
+    case Qt::EditRole:
+        return AudioTags::audioTag(entry, identifier(index.column()));
     case Qt::TextAlignmentRole:
         return index.column() == Time ? QVariant(Qt::AlignCenter) : QVariant();
     default:
@@ -300,13 +311,31 @@ QVariant AudioTableModel::data(const QModelIndex& index, int role) const {
     if (index.column() == State)
         return stateData(entry, role);
     if (role == Qt::DisplayRole)
-        return AudioTags::audioTag(entry, identifier(index.column()));
+        return index.column() == Title && hasNoTitle(entry) ? QVariant(QFileInfo(path).fileName())
+                                                            : AudioTags::audioTag(entry, identifier(index.column()));
     if (role == Qt::ToolTipRole) {
         const QString text = Platform::stringForm(AudioTags::audioTag(entry, identifier(index.column())));
         const QString note = missing_.isMissing(path) ? tr("The file is no longer there.") + u'\n' : QString();
-        return note + (index.column() == Title ? text + u'\n' + path : text);
+        return note + (index.column() == Title && !text.isEmpty() ? text + u'\n' + pathText(path)
+                       : index.column() == Title                  ? pathText(path)
+                                                                  : text);
     }
     return {};
+}
+
+Qt::ItemFlags AudioTableModel::flags(const QModelIndex& index) const {
+    Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    if (index.isValid() && index.column() == Title && !index.data(MissingRole).toBool())
+        flags |= Qt::ItemIsEditable;
+    return flags;
+}
+
+bool AudioTableModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (!index.isValid() || index.column() != Title || role != Qt::EditRole)
+        return false;
+    if (value.toString() != index.data(Qt::EditRole).toString())
+        Q_EMIT titleTyped(entry(index.row()), value.toString());
+    return true;
 }
 
 QVariant AudioTableModel::stateData(const Dictionary& entry, int role) const {

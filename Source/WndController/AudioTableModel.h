@@ -43,9 +43,16 @@ public:
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    /// The title of a recording whose file is there can be typed over.
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+    /// Takes a typed title: titleTyped() when it differs. The row changes when the library has the new entry.
+    bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     /// A negative column restores the library's own order.
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
+
+Q_SIGNALS:
+    void titleTyped(const Dictionary& entry, const QString& title);
 
 private:
     struct Sorting {

@@ -15,6 +15,7 @@
 #include "Source/WndController/AudioTableModel.h"
 #include "Source/WndController/AudioTags.h"
 #include "Source/WndController/LibraryOutlineModel.h"
+#include "Source/WndController/TitleEdit.h"
 
 #include <QFileInfo>
 #include <QItemSelectionModel>
@@ -36,7 +37,7 @@ LibraryPresenter::LibraryPresenter(MediaLibrary& library, QTreeView& outline, QT
     : QObject(parent), library_(library), outline_(outline), table_(table), display_(display), filter_(filter),
       isStateAudioRecord_(std::move(isStateAudioRecord)), missing_(std::make_unique<MissingFiles>()),
       outlineModel_(std::make_unique<LibraryOutlineModel>(library)),
-      tableModel_(std::make_unique<AudioTableModel>(library, *missing_)) {
+      tableModel_(std::make_unique<AudioTableModel>(library, *missing_)), titleEdit_(std::make_unique<TitleEdit>()) {
     outline_.setModel(outlineModel_.get());
     table_.setModel(tableModel_.get());
     connect(outline_.selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -62,6 +63,9 @@ LibraryPresenter::LibraryPresenter(MediaLibrary& library, QTreeView& outline, QT
         if (!change.onlyInserts())
             followPlayingEntry();
     });
+    connect(tableModel_.get(), &AudioTableModel::titleTyped, titleEdit_.get(), &TitleEdit::save);
+    connect(titleEdit_.get(), &TitleEdit::saved, this, &LibraryPresenter::updateFile);
+    connect(titleEdit_.get(), &TitleEdit::problem, this, &LibraryPresenter::problem);
     if (auto* workspace = Platform::services().workspace)
         connect(workspace, &Platform::Workspace::fileSystemChanged, missing_.get(), &MissingFiles::forget);
 }
@@ -182,11 +186,24 @@ bool LibraryPresenter::selectFile(const QString& path) {
     }
     if (row < 0)
         return false;
-    // Not selectRow(): while a modifier key is pressed, for example for a shortcut, it would extend the selection.
+    selectRow(row);
+    return true;
+}
+
+void LibraryPresenter::selectRow(int row) {
+    // Not the table's selectRow(): while a modifier key is pressed, for example for a shortcut, it would extend the
+    // selection.
     const QModelIndex entry = tableModel_->index(row, AudioTableModel::Title);
     table_.selectionModel()->setCurrentIndex(entry, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     table_.scrollTo(entry);
-    return true;
+}
+
+double LibraryPresenter::selectedSeconds() const {
+    double seconds = 0;
+    for (const QItemSelectionRange& range : table_.selectionModel()->selection())
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            seconds += Platform::doubleValue(tableModel_->entry(row).value(AudioRecordEntry::Length));
+    return seconds;
 }
 
 bool LibraryPresenter::tableViewPlayEnable() const {
@@ -412,7 +429,21 @@ void LibraryPresenter::deleteAudioFile() {
     const QVariantList chosen = tableViewSelectionAudioArray();
     if (chosen.isEmpty() || !filter_.runRemoveAudioAlert())
         return;
+    // The row below the deleted ones is selected next, or the one above when there is none below.
+    const QItemSelection selection = table_.selectionModel()->selection();
+    int last = -1;
+    for (const QItemSelectionRange& range : selection)
+        last = qMax(last, range.bottom());
+    int next = last + 1;
+    if (next >= tableModel_->rowCount())
+        for (next = last; next >= 0 && selection.contains(tableModel_->index(next, 0));)
+            --next;
+    const QPersistentModelIndex successor = tableModel_->index(next, AudioTableModel::Title);
     removeMediaLibraryArray(chosen);
+    if (successor.isValid())
+        selectRow(successor.row());
+    else if (tableModel_->rowCount() > 0) // the whole list was built anew
+        selectRow(qMin(qMax(next, 0), tableModel_->rowCount() - 1));
 }
 
 void LibraryPresenter::revealInFinder() {

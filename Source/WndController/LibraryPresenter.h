@@ -18,6 +18,7 @@ class MissingFiles;
 class QItemSelectionModel;
 class QTableView;
 class QTreeView;
+class TitleEdit;
 
 /// The library side of the main window: what the two views show and select, what the selection allows, and the commands
 /// on it. Controls bind to the properties; each property is announced when it may have changed, and is then read again.
@@ -68,6 +69,9 @@ public:
     /// Empty when the selected row does not belong to the node.
     [[nodiscard]] Dictionary tableViewSelectionAudio() const;
     [[nodiscard]] QString tableViewSelectionAudioPath() const;
+    [[nodiscard]] qsizetype selectedRowCount() const;
+    /// How long the selected recordings are together, in seconds.
+    [[nodiscard]] double selectedSeconds() const;
     /// Selects the entry of a file, in the current node or else in the node that lists all files of its kind.
     bool selectFile(const QString& path);
 
@@ -130,7 +134,7 @@ private:
     void outlineSelectionDidChange();
     void tableViewSelectionDidChange();
     [[nodiscard]] int selectedRow() const;
-    [[nodiscard]] qsizetype selectedRowCount() const;
+    void selectRow(int row);
     [[nodiscard]] CustomSound* currentSound() const;
     /// Updates path and titles of the sound from its entry: its file may have been renamed during playback.
     void followPlayingEntry();
@@ -158,4 +162,5 @@ private:
     std::unique_ptr<MissingFiles> missing_;
     std::unique_ptr<LibraryOutlineModel> outlineModel_;
     std::unique_ptr<AudioTableModel> tableModel_;
+    std::unique_ptr<TitleEdit> titleEdit_;
 };

@@ -7,6 +7,8 @@
 #include "Source/WndController/LibraryOutlineModel.h"
 
 #include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QPainter>
 #include <QTableView>
 
@@ -75,4 +77,42 @@ void AudioRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
     QRect place(0, 0, 14, 14);
     place.moveCenter(cell.rect.center());
     icon.paint(painter, place, Qt::AlignCenter, markMode(cell));
+}
+
+QWidget* AudioRowDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                                        const QModelIndex& index) const {
+    QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
+    editor->setObjectName(QStringLiteral("titleEditor"));
+    editor->setAccessibleName(tr("Title"));
+    return editor;
+}
+
+bool AudioRowDelegate::eventFilter(QObject* watched, QEvent* event) {
+    auto* field = qobject_cast<QLineEdit*>(watched);
+    if (!field)
+        return QStyledItemDelegate::eventFilter(watched, event);
+    if (event->type() == QEvent::MouseButtonPress)
+        field->setProperty(kOffered, false);
+    if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
+        return QStyledItemDelegate::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    const bool ends = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Tab || key == Qt::Key_Backtab;
+    if (event->type() == QEvent::ShortcutOverride) {
+        if (field->property(kOffered).toBool() && (key == Qt::Key_Space || key == Qt::Key_Delete)) {
+            event->ignore();
+            return true; // the field would take it for its text
+        }
+        if (ends) { // Enter would play the recording
+            event->accept();
+            return true;
+        }
+    } else if (ends) {
+        // Tab would open the next cell.
+        Q_EMIT commitData(field);
+        Q_EMIT closeEditor(field, NoHint);
+        return true;
+    } else {
+        field->setProperty(kOffered, false);
+    }
+    return QStyledItemDelegate::eventFilter(watched, event);
 }

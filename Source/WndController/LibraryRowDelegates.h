@@ -23,12 +23,21 @@ protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 };
 
-/// Rows of the library's table: no focus ring around a single cell, because whole rows are selected.
+/// Rows of the library's table: no focus ring around a single cell, because whole rows are selected. A title is edited
+/// in its cell: Enter, Tab and the loss of the focus write it, Escape does not.
 class AudioRowDelegate : public QStyledItemDelegate {
     Q_OBJECT
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
+    /// Property of an editor that the window opened by itself. Until something is typed, Space and Delete mean the
+    /// recording and not the text.
+    static constexpr const char* kOffered = "offered";
+
     [[nodiscard]] static int rowHeight(const QTableView& table);
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 };

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/WndController/MainWndController.h"
 
+#include "Platform/Audio/AudioHardware.h"
 #include "Platform/Desktop/Activation.h"
+#include "Platform/Foundation/Services.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
 #include "Source/Preferences/PreferenceStore.h"
@@ -21,6 +23,7 @@
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QLocale>
 #include <QMenu>
 #include <QScreen>
 #include <QWindow>
@@ -130,6 +133,11 @@ void MainWndController::bindLibrary() {
     });
     connect(ui_->btnPlayAudio_, &QAbstractButton::clicked, this, &MainWndController::playSoundButtonAction);
     connect(&record_, &RecordStateController::stateChanged, menus_.get(), update);
+    connect(&record_, &RecordStateController::stateChanged, this, &MainWndController::showEmptyText);
+    connect(&record_, &RecordStateController::stateChanged, this, &MainWndController::chooseInstalledDevice);
+    if (auto* hardware = Platform::services().audioHardware)
+        connect(hardware, &Platform::AudioHardware::devicesChanged, this, &MainWndController::chooseInstalledDevice,
+                Qt::QueuedConnection); // after the recording side has seen it
     connect(&record_, &RecordStateController::recordingFinished, this, &MainWndController::recordingFinished);
     showEmptyText();
     showSelection();
@@ -334,6 +342,21 @@ void MainWndController::terminate() {
     Q_EMIT terminateRequested();
 }
 
+void MainWndController::systemAudioRecordDeviceInstalled() {
+    showStatus(tr("The computer-audio device is installed."));
+    awaitsDevice_ = true;
+    chooseInstalledDevice();
+}
+
+void MainWndController::chooseInstalledDevice() {
+    // Without the device the choice would ask for its installation once more.
+    if (!awaitsDevice_ || !record_.hasComputerAudioDevice() || record_.isStateAudioRecord())
+        return;
+    awaitsDevice_ = false;
+    record_.chooseRecordComputerAudio(true);
+    showStatus(tr("The computer-audio device is installed. What the computer plays is recorded from now on."));
+}
+
 float MainWndController::getAudioWaveLevelValue() {
     return record_.getAudioWaveLevelValue();
 }
@@ -361,7 +384,18 @@ void MainWndController::recordingFinished(const QString& path, const Dictionary&
     } else if (library_->selectFile(path)) {
         showSelection();
         selectionAtStop_ = selection();
+        offerTitle();
     }
+}
+
+void MainWndController::offerTitle() {
+    // Only where the keys go to the library anyway.
+    MediaNodeListTableView* table = ui_->audioTableView_;
+    const QWidget* focus = window_->focusWidget();
+    if (!window_->isActiveWindow() || (focus && focus != table && focus != ui_->outlineLibraryView_))
+        return;
+    if (QWidget* editor = table->editCell(table->currentIndex().siblingAtColumn(AudioTableModel::Title)))
+        editor->setProperty(AudioRowDelegate::kOffered, true);
 }
 
 QStringList MainWndController::selection() const {
@@ -373,15 +407,21 @@ QStringList MainWndController::selection() const {
 }
 
 void MainWndController::showSelection() {
-    const QString path = library_->tableViewSelectionAudioPath();
+    const qsizetype rows = library_->selectedRowCount();
+    const QString path =
+        rows > 1 ? tr("%1 selected, %2 together")
+                       .arg(QLocale().toString(rows),
+                            ToolControl::getTimeString(static_cast<std::int64_t>(library_->selectedSeconds())))
+                 : library_->tableViewSelectionAudioPath();
     // The selection is also announced when its row was only redrawn, and then the error message must stay visible.
     if (std::exchange(shownSelection_, path) != path)
         showStatus(path);
 }
 
 void MainWndController::showStatus(const QString& text) {
+    // Also without a text the line keeps its room: a list that grew by it between two clicks would move under the
+    // pointer.
     ui_->lblStatus_->setText(text);
-    ui_->lblStatus_->setVisible(!text.isEmpty());
 }
 
 void MainWndController::showEmptyText() {
@@ -390,6 +430,8 @@ void MainWndController::showEmptyText() {
     const bool ringtones = node && node->key().endsWith(QStringLiteral("ringtone"));
     if (library_->canFilterAudio())
         ui_->audioTableView_->setEmptyText({});
+    else if (record_.isStateAudioRecord() && !ringtones)
+        ui_->audioTableView_->setEmptyText(tr("The recording appears here when it has ended."));
     else if (nothingYet && !ringtones)
         ui_->audioTableView_->setEmptyText(tr("Nothing here yet. Press the red button to make your first recording."),
                                            QStringLiteral("arrow-to-start"));

@@ -89,6 +89,8 @@ public:
     void openCDBurnFace();
     void openFilterWindow();
     void openRingtoneMakerWindow();
+    /// The computer-audio device was installed: says so, and checks the box as soon as the device is there.
+    void systemAudioRecordDeviceInstalled();
 
     // ---- called by the recording side
     void stopSoundPlaying() override;
@@ -128,11 +130,14 @@ private:
     void setUpViews();
     void bindLibrary();
     void recordingFinished(const QString& path, const Dictionary& entry);
+    /// Opens the title of the selected recording, so that it can be typed over at once.
+    void offerTitle();
     void showSelection();
     /// The selected node's key and the selected paths, for comparison.
     [[nodiscard]] QStringList selection() const;
     void showStatus(const QString& text);
     void showEmptyText();
+    void chooseInstalledDevice();
 
     RecordStateController& record_;
     std::unique_ptr<QMainWindow> window_;
@@ -146,5 +151,6 @@ private:
     std::unique_ptr<WindowLayout> layout_;
     std::unique_ptr<WindowKeys> keys_;
     std::optional<QStringList> selectionAtStop_; ///< at the last start or stop, or as changed for a finished file since
-    std::optional<QString> shownSelection_;      ///< the path that the status line last showed for a selection
+    std::optional<QString> shownSelection_;      ///< what the status line last showed for a selection
+    bool awaitsDevice_ = false;                  ///< the computer-audio device was installed and is not there yet
 };

@@ -299,6 +299,8 @@ void PreferenceWndController::insertTheSystemAudioRecordDevice() {
         complain();
     else if (!installed)
         Platform::MainQueue::post(this, complain);
+    else
+        Q_EMIT systemAudioRecordDeviceInstalled();
     flushLater();
 }
 

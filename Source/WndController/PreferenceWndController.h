@@ -74,6 +74,8 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void systemAudioRecordDeviceExistChanged();
+    /// It was installed just now.
+    void systemAudioRecordDeviceInstalled();
 
 private:
     void awakeFromNib();

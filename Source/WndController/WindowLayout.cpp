@@ -4,7 +4,6 @@
 
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/UserDefaults.h"
-#include "Source/WndController/AudioTableModel.h"
 
 #include <QEvent>
 #include <QHeaderView>
@@ -19,7 +18,13 @@ const QString kWidth = QStringLiteral("width");
 const QString kHeight = QStringLiteral("height");
 const QString kLibrary = QStringLiteral("library");
 const QString kColumns = QStringLiteral("columns");
+const QString kSort = QStringLiteral("sort");
+const QString kDescending = QStringLiteral("descending");
 constexpr int kNarrowestColumn = 24;
+constexpr int kFirstLibraryWidth = 216;
+constexpr int kTableRoom = 560; ///< the pane of the library gives way below this width of the table
+constexpr int kTitleRoom = 260; ///< columns in which nothing stands give way below this width of the titles
+constexpr int kRowsLookedAt = 500; ///< of a long list; a column that says nothing in so many rows is taken for empty
 
 int firstWidth(int column) {
     switch (column) {
@@ -41,11 +46,28 @@ WindowLayout::WindowLayout(QMainWindow& window, QSplitter& splitter, QTableView&
     later_.setSingleShot(true);
     later_.setInterval(500);
     connect(&later_, &QTimer::timeout, this, &WindowLayout::save);
-    connect(&splitter_, &QSplitter::splitterMoved, this, [this] { later_.start(); });
+    fit_.setSingleShot(true);
+    fit_.setInterval(0);
+    connect(&fit_, &QTimer::timeout, this, &WindowLayout::fitColumns);
+    connect(&splitter_, &QSplitter::splitterMoved, this, [this] {
+        libraryWidth_ = splitter_.sizes().value(0);
+        later_.start();
+        fit_.start();
+    });
     connect(table_.horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
         if (restored_)
             later_.start();
     });
+    connect(table_.horizontalHeader(), &QHeaderView::sortIndicatorChanged, this, [this] {
+        if (restored_)
+            later_.start();
+    });
+    const auto fitLater = [this] { fit_.start(); };
+    const QAbstractItemModel* rows = table_.model();
+    connect(rows, &QAbstractItemModel::modelReset, this, fitLater);
+    connect(rows, &QAbstractItemModel::rowsInserted, this, fitLater);
+    connect(rows, &QAbstractItemModel::rowsRemoved, this, fitLater);
+    connect(rows, &QAbstractItemModel::dataChanged, this, fitLater);
     window_.installEventFilter(this);
 }
 
@@ -60,10 +82,9 @@ void WindowLayout::restore() {
     window_.resize(size.expandedTo(window_.minimumSize()));
 
     const int library = Platform::intValue(stored.value(kLibrary));
-    const int left = library > 0 ? library : 216;
+    libraryWidth_ = library > 0 ? library : kFirstLibraryWidth;
     splitter_.setStretchFactor(0, 0);
     splitter_.setStretchFactor(1, 1);
-    splitter_.setSizes({left, qMax(1, window_.width() - left)});
 
     const QVariantList columns = stored.value(kColumns).toList();
     QHeaderView* header = table_.horizontalHeader();
@@ -76,6 +97,50 @@ void WindowLayout::restore() {
     // The title column takes the remaining width, so that the columns always fill the table.
     header->setSectionResizeMode(AudioTableModel::Title, QHeaderView::Stretch);
     restored_ = true;
+    fit();
+    restoreSorting(stored.value(kSort).toString(), Platform::boolValue(stored.value(kDescending)));
+}
+
+void WindowLayout::restoreSorting(const QString& column, bool descending) {
+    for (int each = AudioTableModel::Title; each < AudioTableModel::ColumnCount; ++each)
+        if (AudioTableModel::identifier(each) == column)
+            table_.sortByColumn(each, descending ? Qt::DescendingOrder : Qt::AscendingOrder);
+}
+
+void WindowLayout::fit() {
+    const int left = qMin(libraryWidth_, qMax(splitter_.widget(0)->minimumWidth(), window_.width() - kTableRoom));
+    splitter_.setSizes({left, qMax(1, window_.width() - left)});
+    fit_.start();
+}
+
+bool WindowLayout::saysNothing(int column) const {
+    // The texts that a recording has when nobody gave it others.
+    const QString none = column == AudioTableModel::Artist ? QStringLiteral("NO Artist") : QStringLiteral("NO Album");
+    const QAbstractItemModel* rows = table_.model();
+    for (int row = 0; row < qMin(rows->rowCount(), kRowsLookedAt); ++row) {
+        const QString text = rows->index(row, column).data().toString();
+        if (!text.isEmpty() && text != none)
+            return false;
+    }
+    return rows->rowCount() > 0;
+}
+
+void WindowLayout::fitColumns() {
+    QHeaderView* header = table_.horizontalHeader();
+    constexpr std::array mayGo{AudioTableModel::Artist, AudioTableModel::Album};
+    int room = table_.viewport()->width();
+    for (int column = 0; column < AudioTableModel::ColumnCount; ++column)
+        if (!header->isSectionHidden(column) && column != AudioTableModel::Title)
+            room -= header->sectionSize(column);
+    for (const int column : mayGo)
+        if (header->isSectionHidden(column))
+            room -= widths_[static_cast<std::size_t>(column)];
+    for (const int column : mayGo) {
+        const bool hide = room < kTitleRoom && saysNothing(column);
+        if (hide && !header->isSectionHidden(column))
+            widths_[static_cast<std::size_t>(column)] = header->sectionSize(column);
+        header->setSectionHidden(column, hide);
+    }
 }
 
 void WindowLayout::save() {
@@ -84,8 +149,10 @@ void WindowLayout::save() {
     if (!defaults || !restored_)
         return;
     QVariantList columns;
+    const QHeaderView* header = table_.horizontalHeader();
     for (int column = 0; column < AudioTableModel::ColumnCount; ++column)
-        columns.append(table_.horizontalHeader()->sectionSize(column));
+        columns.append(header->isSectionHidden(column) ? widths_[static_cast<std::size_t>(column)]
+                                                       : header->sectionSize(column));
     Dictionary layout = defaults->objectForKey(kKey).toMap();
     const Dictionary before = layout;
     // A maximised window is restored with its normal size.
@@ -93,14 +160,21 @@ void WindowLayout::save() {
         layout.insert(kWidth, window_.width());
         layout.insert(kHeight, window_.height());
     }
-    layout.insert(kLibrary, splitter_.sizes().value(0));
+    layout.insert(kLibrary, libraryWidth_);
     layout.insert(kColumns, columns);
+    const int sorted = header->sortIndicatorSection();
+    layout.insert(kSort, sorted > AudioTableModel::State && sorted < AudioTableModel::ColumnCount
+                             ? AudioTableModel::identifier(sorted)
+                             : QString());
+    layout.insert(kDescending, header->sortIndicatorOrder() == Qt::DescendingOrder);
     if (layout != before)
         defaults->setObject(kKey, layout);
 }
 
 bool WindowLayout::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Resize && restored_)
+    if (event->type() == QEvent::Resize && restored_) {
+        fit();
         later_.start();
+    }
     return QObject::eventFilter(watched, event);
 }

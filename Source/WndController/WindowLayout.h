@@ -2,19 +2,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Source/WndController/AudioTableModel.h"
+
 #include <QObject>
 #include <QTimer>
+
+#include <array>
 
 class QMainWindow;
 class QSplitter;
 class QTableView;
 
-/// Stores the size of the main window and the widths of its columns in the user's defaults; not its position, because
-/// the window is centred whenever it is shown. Main thread.
+/// Stores the size of the main window, the widths of its columns and the sorting of its table in the user's defaults; not
+/// its position, because the window is centred whenever it is shown. In a narrow window the library's pane and the empty
+/// columns give room to the titles. Main thread.
 class WindowLayout : public QObject {
     Q_OBJECT
 public:
-    /// The defaults' key of the dictionary with "width", "height", "library" and "columns".
+    /// The defaults' key of the dictionary with "width", "height", "library", "columns", "sort" (a column's
+    /// identifier, empty for none) and "descending".
     static inline const QString kKey = QStringLiteral("MainWndLayout");
 
     WindowLayout(QMainWindow& window, QSplitter& splitter, QTableView& table);
@@ -27,9 +33,17 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void restoreSorting(const QString& column, bool descending);
+    void fit();
+    void fitColumns();
+    [[nodiscard]] bool saysNothing(int column) const;
+
     QMainWindow& window_;
     QSplitter& splitter_;
     QTableView& table_;
-    QTimer later_; ///< joins the steps of a mouse drag into one change
+    QTimer later_;         ///< joins the steps of a mouse drag into one change
+    QTimer fit_;           ///< joins the changes of several rows into one
+    int libraryWidth_ = 0; ///< as the user chose it; the pane is narrower in a narrow window
     bool restored_ = false;
+    std::array<int, AudioTableModel::ColumnCount> widths_{}; ///< of columns that are hidden
 };
