@@ -15,6 +15,7 @@
 #include "Source/HotKey/KeybordShortcutTextView.h"
 #include "Source/Model/MediaLibrary.h"
 #include "Source/ProcessRequests/ControlRequests.h"
+#include "Source/View/KeyNames.h"
 #include "Source/View/QtAlerts.h"
 #include "Source/View/QtFocusProbe.h"
 #include "Source/View/QtPanels.h"
@@ -57,6 +58,7 @@ public:
     ProgramWindows() {
         auto& services = Platform::services();
         Theme::install(*qApp, services.colorScheme);
+        KeyNames::install();
         services.alerts = &alerts_;
         services.panels = &panels_;
         services.focusProbe = &focusProbe_;

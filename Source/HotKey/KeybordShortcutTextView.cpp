@@ -13,6 +13,8 @@
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
 
 using namespace Qt::StringLiterals;
 
@@ -93,9 +95,9 @@ bool isShortcut(const Dictionary& stored) {
 KeybordShortcutTextView::KeybordShortcutTextView(QWidget* parent) : QLineEdit(parent) {
     setReadOnly(true);
     setAlignment(Qt::AlignCenter);
-    setFocusPolicy(Qt::ClickFocus);
+    setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_InputMethodEnabled, false);
-    setPlaceholderText(tr("Click, then press the keys"));
+    setPlaceholderText(tr("None"));
 }
 
 KeybordShortcutTextView::~KeybordShortcutTextView() {
@@ -146,8 +148,8 @@ void KeybordShortcutTextView::updateShortcutValue() {
         mask |= flag;
     };
     prepend(ShiftFlag, u"Shift + "_s);
-    prepend(CommandFlag, u"Command + "_s);
-    prepend(OptionFlag, u"Option + "_s);
+    prepend(CommandFlag, u"Super + "_s);
+    prepend(OptionFlag, u"Alt + "_s);
     prepend(ControlFlag, u"Control + "_s);
     modifierFlags_ = mask;
     setText(mask == 0 ? QString() : desktopTrigger_.value_or(text));
@@ -229,6 +231,9 @@ bool KeybordShortcutTextView::event(QEvent* event) {
 
 void KeybordShortcutTextView::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
+    atFocus_ = data();
+    modifiersSeen_ = false;
+    setAccessibleDescription(tr("Press the keys"));
     // The keys of the mnemonic that led here are still pressed; releasing them is not input.
     ignoresReleases_ = flagsOf(QGuiApplication::keyboardModifiers()) != 0;
     grabKeyboard();
@@ -240,6 +245,7 @@ void KeybordShortcutTextView::focusOutEvent(QFocusEvent* event) {
     letKeyboardGo();
     if (awaitsRelease_)
         finishCapture();
+    setAccessibleDescription({});
     QLineEdit::focusOutEvent(event);
     update();
 }
@@ -269,10 +275,18 @@ void KeybordShortcutTextView::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void KeybordShortcutTextView::paintEvent(QPaintEvent* event) {
-    QLineEdit::paintEvent(event);
+    if (!waitsForKeys())
+        QLineEdit::paintEvent(event);
     if (!hasFocus())
         return;
     QPainter painter(this);
+    if (waitsForKeys()) {
+        QStyleOptionFrame frame;
+        initStyleOption(&frame);
+        style()->drawPrimitive(QStyle::PE_PanelLineEdit, &frame, &painter, this);
+        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.drawText(rect(), Qt::AlignCenter, tr("Press the keys"));
+    }
     painter.setPen(QPen(palette().color(QPalette::Active, QPalette::Highlight), 4));
     painter.drawRect(rect());
 }
@@ -282,7 +296,10 @@ void KeybordShortcutTextView::keyPressEvent(QKeyEvent* event) {
     if (awaitsRelease_ || event->isAutoRepeat())
         return;
     ignoresReleases_ = false;
-    if (isModifierKey(event->key()))
+    const bool isTab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
+    if (isTab && (flagsOf(event->modifiers()) & ~ShiftFlag) == 0)
+        leave(event->key() == Qt::Key_Tab && !(event->modifiers() & Qt::ShiftModifier));
+    else if (isModifierKey(event->key()))
         flagsChanged(flagsAfter(*event));
     else
         keyDown(*event);
@@ -313,7 +330,31 @@ void KeybordShortcutTextView::flagsChanged(std::uint32_t flags) {
     characters_ = u""_s;
     modifierFlags_ = flags;
     keyCode_ = 0;
+    modifiersSeen_ = true;
     updateShortcutValue();
+    update();
+}
+
+bool KeybordShortcutTextView::waitsForKeys() const {
+    return hasFocus() && !awaitsRelease_ && (!modifiersSeen_ || modifierFlags_ == 0);
+}
+
+// The Shift of Shift+Tab has already replaced the combination.
+void KeybordShortcutTextView::leave(bool forward) {
+    if (modifiersSeen_) {
+        setData(atFocus_);
+        updateShortcutValue();
+        (void)updateHotKeyRegister();
+    }
+    (void)focusNextPrevChild(forward);
+}
+
+void KeybordShortcutTextView::useDefault() {
+    setData(default_);
+    updateShortcutValue();
+    captured_ = false; // refused, it is kept like one that was loaded
+    (void)updateHotKeyRegister();
+    saveCapture();
 }
 
 // The combination is stored when the key is released: earlier, it would trigger at once while the key is still pressed.

@@ -18,8 +18,7 @@ class QAction;
 /// register, and copies it to a menu item. Main thread.
 ///
 /// While it has the focus it grabs the keyboard: otherwise a combination that another program has grabbed would never
-/// arrive here. It is not in the Tab order, since it captures Tab like any other key; a label's mnemonic or a click
-/// focuses it.
+/// arrive here. Tab and Shift+Tab move the focus on and leave the combination as it was.
 class KeybordShortcutTextView : public QLineEdit {
     Q_OBJECT
 public:
@@ -56,6 +55,10 @@ public:
     void saveUserDefault();
     /// Reduces the flags to the four modifiers and shows the combination.
     void updateShortcutValue();
+    /// Remembers the present combination as the default.
+    void keepAsDefault() { default_ = data(); }
+    /// Returns to the default, stores it and registers it. Unregister the fields whose combination it may be first.
+    void useDefault();
     /// @return whether the combination is registered now.
     bool updateHotKeyRegister();
 
@@ -90,6 +93,8 @@ private:
     void setDesktopTrigger(const std::optional<QString>& trigger);
     [[nodiscard]] QKeySequence shownKeys() const;
     void saveCapture();
+    void leave(bool forward);
+    [[nodiscard]] bool waitsForKeys() const;
     void letKeyboardGo();
 
     QString saveKey_;
@@ -99,7 +104,10 @@ private:
     std::unique_ptr<HotKeyRegister> hotKeyRegister_;
     std::optional<QString> desktopTrigger_;
     QPointer<QAction> menuItem_;
+    Dictionary default_;
+    Dictionary atFocus_; ///< the combination when the focus came
     bool awaitsRelease_ = false;
+    bool modifiersSeen_ = false; ///< since the focus came: the combination shown is the one that is being typed
     bool captured_ = false; ///< the combination was typed, not loaded
     bool ignoresReleases_ = false;
     bool holdsKeyboard_ = false;

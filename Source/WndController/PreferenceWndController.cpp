@@ -106,6 +106,7 @@ void PreferenceWndController::awakeFromNib() {
     connect(ui_->filterTimePopUp, &QComboBox::activated, this, &Self::chooseFilterTime);
     connect(ui_->insertDeviceButton, &QPushButton::clicked, this, &Self::insertTheSystemAudioRecordDevice);
     connect(ui_->unInsertDeviceButton, &QPushButton::clicked, this, &Self::unInsertTheSystemAudioRecordDevice);
+    connect(ui_->defaultShortcutsButton, &QPushButton::clicked, this, &Self::useDefaultShortcuts);
     connect(this, &Self::systemAudioRecordDeviceExistChanged, this, &Self::showDeviceState);
     if (auto* hardware = Platform::services().audioHardware)
         connect(hardware, &Platform::AudioHardware::devicesChanged, this, &Self::flushExistSystemAudioRecordDevice);
@@ -172,6 +173,7 @@ void PreferenceWndController::setDefaultShortcut() {
         d.field->setCharacters(d.characters);
         d.field->setModifierFlags(commandAndControl);
         d.field->setKeyCode(d.keyCode);
+        d.field->keepAsDefault();
         d.field->loadUserDefault();
         d.field->setHotKeyRegister(std::make_unique<HotKeyRegister>());
         d.field->hotKeyRegister()->setSignature(d.signature);
@@ -179,6 +181,15 @@ void PreferenceWndController::setDefaultShortcut() {
             hotKeys->describe({d.signature, 1}, d.description);
         d.field->updateHotKeyRegister();
     }
+}
+
+void PreferenceWndController::useDefaultShortcuts() {
+    const auto fields = {startStopShortcut(), pauseResumeShortcut(), startNewRecordShortcut()};
+    // One field may hold the default of another.
+    for (KeybordShortcutTextView* field : fields)
+        field->hotKeyRegister()->unregisterHotKey();
+    for (KeybordShortcutTextView* field : fields)
+        field->useDefault();
 }
 
 bool PreferenceWndController::windowShouldClose() {
@@ -354,7 +365,8 @@ void PreferenceWndController::showHotKeyWay() {
     using Way = Platform::HotKeys::Way;
     const auto* hotKeys = Platform::services().hotKeys;
     const bool works = hotKeys && hotKeys->way() != Way::None;
-    for (QWidget* field : {startStopShortcut(), pauseResumeShortcut(), startNewRecordShortcut()}) {
+    for (QWidget* field : std::initializer_list<QWidget*>{startStopShortcut(), pauseResumeShortcut(),
+                                                          startNewRecordShortcut(), ui_->defaultShortcutsButton}) {
         field->setEnabled(works);
         field->setToolTip(works ? QString() : tr("This desktop lets no program take keys for the whole system."));
     }

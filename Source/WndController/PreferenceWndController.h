@@ -44,6 +44,8 @@ public:
 
     void initPerferceInterface();
     void setDefaultShortcut();
+    /// Gives all three shortcuts their defaults back.
+    void useDefaultShortcuts();
     /// Stores the shown settings. @return true: the window may close.
     bool windowShouldClose();
 

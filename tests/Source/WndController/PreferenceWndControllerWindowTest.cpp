@@ -142,9 +142,9 @@ TEST_F(Preferences, WithoutAnythingStoredTheDefaultsShow) {
     EXPECT_EQ(find<QComboBox>("filterTimePopUp")->currentText(), u"5"_s);
     EXPECT_EQ(find<QLineEdit>("audioPathField")->text(), musicFolder());
     EXPECT_EQ(find<QLineEdit>("ringtonePathField")->text(), musicFolder());
-    EXPECT_EQ(controller->startStopShortcut()->text(), u"Control + Command + S"_s);
-    EXPECT_EQ(controller->pauseResumeShortcut()->text(), u"Control + Command + P"_s);
-    EXPECT_EQ(controller->startNewRecordShortcut()->text(), u"Control + Command + N"_s);
+    EXPECT_EQ(controller->startStopShortcut()->text(), u"Control + Super + S"_s);
+    EXPECT_EQ(controller->pauseResumeShortcut()->text(), u"Control + Super + P"_s);
+    EXPECT_EQ(controller->startNewRecordShortcut()->text(), u"Control + Super + N"_s);
     EXPECT_EQ(defaults.changes(), 0) << "reading stores nothing";
 }
 
@@ -445,10 +445,22 @@ TEST_F(Preferences, WhereNoHotKeysWorkTheCommandsAreShown) {
 TEST_F(Preferences, TheStartingFocusIsNoShortcutField) {
     open();
     EXPECT_FALSE(probe.isEditKeybordShortcutControl());
-    for (int i = 0; i < 20; ++i) {
-        QTest::keyClick(controller->window(), Qt::Key_Tab);
-        EXPECT_FALSE(probe.isEditKeybordShortcutControl());
+}
+
+TEST_F(Preferences, TabReachesTheShortcutFieldsAndLeavesThemUnchanged) {
+    open();
+    QSet<const QWidget*> reached;
+    for (int i = 0; i < 40; ++i) {
+        reached.insert(QApplication::focusWidget());
+        QTest::keyClick(controller->window()->windowHandle(), Qt::Key_Tab);
     }
+    for (const auto* field :
+         {controller->startStopShortcut(), controller->pauseResumeShortcut(), controller->startNewRecordShortcut()}) {
+        EXPECT_TRUE(reached.contains(field)) << qPrintable(field->objectName());
+        EXPECT_TRUE(field->hotKeyRegister()->hasRegisterHotKey());
+        EXPECT_FALSE(defaults.objectForKey(field->saveKey()).isValid());
+    }
+    EXPECT_EQ(controller->startStopShortcut()->text(), u"Control + Super + S"_s);
 }
 
 TEST_F(Preferences, EveryControlHasAnAccessibleNameAndEveryFieldAMnemonic) {
@@ -491,7 +503,7 @@ TEST_F(Preferences, AFieldThatWasLeftByClosingTheWindowDoesNotCaptureWhenItIsSho
     EXPECT_FALSE(probe.isEditKeybordShortcutControl()) << "hot keys would rest, and nobody is typing one";
     QTest::keyClick(controller->window()->windowHandle(), Qt::Key_Escape);
     EXPECT_FALSE(controller->isWindowVisible()) << "Escape closes the window";
-    EXPECT_EQ(controller->startStopShortcut()->text(), u"Control + Command + S"_s) << "and takes no shortcut away";
+    EXPECT_EQ(controller->startStopShortcut()->text(), u"Control + Super + S"_s) << "and takes no shortcut away";
 }
 
 TEST_F(Preferences, LongerTextsMakeTheWindowGrow) {

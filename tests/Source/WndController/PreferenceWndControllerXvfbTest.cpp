@@ -117,13 +117,13 @@ TEST_F(RealKeys, AFieldShowsHeldModifiersThenTheCombination) {
     auto* field = controller->startStopShortcut();
     click(field);
     keys({u"keydown"_s, u"super"_s});
-    EXPECT_TRUE(waitFor([&] { return field->text() == u"Command + "_s; })) << qPrintable(field->text());
+    EXPECT_TRUE(waitFor([&] { return field->text() == u"Super + "_s; })) << qPrintable(field->text());
     EXPECT_FALSE(field->hotKeyRegister()->hasRegisterHotKey());
     keys({u"keydown"_s, u"shift"_s});
-    EXPECT_TRUE(waitFor([&] { return field->text() == u"Command + Shift + "_s; })) << qPrintable(field->text());
+    EXPECT_TRUE(waitFor([&] { return field->text() == u"Super + Shift + "_s; })) << qPrintable(field->text());
     keys({u"key"_s, u"a"_s, u"keyup"_s, u"shift"_s, u"keyup"_s, u"super"_s});
     EXPECT_TRUE(waitFor([&] { return !field->hasFocus(); }));
-    EXPECT_EQ(field->text(), u"Command + Shift + A"_s);
+    EXPECT_EQ(field->text(), u"Super + Shift + A"_s);
     const Dictionary expected{{u"KeybordShortcutCharactersKey"_s, u"A"_s},
                               {u"KeybordShortcutModifierFlagsKey"_s, 0x120000},
                               {u"KeybordShortcutKeyCodeKey"_s, 0}};
@@ -141,10 +141,10 @@ TEST_F(RealKeys, TheShortcutComesBackAfterARestart) {
     auto* field = controller->startStopShortcut();
     click(field);
     type(u"super+alt+F6"_s);
-    ASSERT_TRUE(waitFor([&] { return field->text() == u"Option + Command + F6"_s && !field->hasFocus(); }));
+    ASSERT_TRUE(waitFor([&] { return field->text() == u"Alt + Super + F6"_s && !field->hasFocus(); }));
     ASSERT_TRUE(defaults->flush());
     launch();
-    EXPECT_EQ(controller->startStopShortcut()->text(), u"Option + Command + F6"_s);
+    EXPECT_EQ(controller->startStopShortcut()->text(), u"Alt + Super + F6"_s);
     EXPECT_EQ(controller->startStopShortcut()->keyCode(), 97);
     OtherProgram other;
     ASSERT_TRUE(other.takeFocus());
@@ -155,7 +155,7 @@ TEST_F(RealKeys, ABareKeyClearsAndTheClearingComesBackToo) {
     show();
     auto* field = controller->startStopShortcut();
     click(field);
-    type(u"Tab"_s);
+    type(u"k"_s);
     ASSERT_TRUE(waitFor([&] { return !field->hasFocus(); }));
     EXPECT_EQ(field->text(), QString());
     EXPECT_TRUE(stored(startStopKey).isEmpty());
@@ -163,6 +163,47 @@ TEST_F(RealKeys, ABareKeyClearsAndTheClearingComesBackToo) {
     launch();
     EXPECT_EQ(controller->startStopShortcut()->text(), QString());
     EXPECT_FALSE(controller->startStopShortcut()->hotKeyRegister()->hasRegisterHotKey());
+}
+
+TEST_F(RealKeys, TabGoesThroughTheFieldsAndBackAndLeavesThemAsTheyWere) {
+    show();
+    auto* first = controller->startStopShortcut();
+    auto* second = controller->pauseResumeShortcut();
+    click(first);
+    ASSERT_TRUE(waitFor([&] { return first->hasFocus(); }));
+    type(u"Tab"_s);
+    ASSERT_TRUE(waitFor([&] { return second->hasFocus(); }));
+    type(u"shift+Tab"_s);
+    ASSERT_TRUE(waitFor([&] { return first->hasFocus(); }));
+    type(u"shift+Tab"_s);
+    ASSERT_TRUE(waitFor([&] { return !first->hasFocus() && !second->hasFocus(); }));
+    EXPECT_EQ(first->text(), u"Control + Super + S"_s);
+    EXPECT_EQ(second->text(), u"Control + Super + P"_s);
+    EXPECT_FALSE(defaults->objectForKey(startStopKey).isValid()) << "nothing was stored";
+    OtherProgram other;
+    ASSERT_TRUE(other.takeFocus());
+    EXPECT_TRUE(acts(u"super+ctrl+s"_s, u"start-stop"_s));
+    EXPECT_TRUE(acts(u"super+ctrl+p"_s, u"pause"_s));
+}
+
+TEST_F(RealKeys, TheDefaultsComeBackAlsoWhenTheFieldsHadExchangedThem) {
+    show();
+    auto* field = controller->startStopShortcut();
+    click(field);
+    type(u"k"_s);
+    ASSERT_TRUE(waitFor([&] { return !field->hasFocus(); }));
+    click(controller->pauseResumeShortcut());
+    type(u"super+ctrl+s"_s); // the default of the other field
+    ASSERT_TRUE(waitFor([&] { return controller->pauseResumeShortcut()->text() == u"Control + Super + S"_s &&
+                                     !controller->pauseResumeShortcut()->hasFocus(); }));
+    click(controller->window()->findChild<QWidget*>(u"defaultShortcutsButton"_s));
+    ASSERT_TRUE(waitFor([&] { return field->text() == u"Control + Super + S"_s; }));
+    EXPECT_EQ(controller->pauseResumeShortcut()->text(), u"Control + Super + P"_s);
+    EXPECT_EQ(stored(startStopKey).value(u"KeybordShortcutModifierFlagsKey"_s), 0x140000) << "in the form of before";
+    OtherProgram other;
+    ASSERT_TRUE(other.takeFocus());
+    EXPECT_TRUE(acts(u"super+ctrl+s"_s, u"start-stop"_s));
+    EXPECT_TRUE(acts(u"super+ctrl+p"_s, u"pause"_s));
 }
 
 TEST_F(RealKeys, ACombinationThatAnotherProgramHoldsClearsTheField) {
@@ -194,7 +235,7 @@ TEST_F(RealKeys, ItsOwnCombinationCanBeTypedAgain) {
     click(field);
     type(u"super+ctrl+s"_s);
     ASSERT_TRUE(waitFor([&] { return !field->hasFocus(); }));
-    EXPECT_EQ(field->text(), u"Control + Command + S"_s);
+    EXPECT_EQ(field->text(), u"Control + Super + S"_s);
     EXPECT_TRUE(acted.isEmpty());
     EXPECT_TRUE(acts(u"super+ctrl+s"_s, u"start-stop"_s));
 }
@@ -217,7 +258,7 @@ TEST_F(RealKeys, LocksNeverReachTheStoredFlags) {
     ASSERT_TRUE(waitFor([&] { return !field->hasFocus(); }));
     type(u"Num_Lock"_s);
     type(u"Caps_Lock"_s);
-    EXPECT_EQ(field->text(), u"Command + K"_s);
+    EXPECT_EQ(field->text(), u"Super + K"_s);
     EXPECT_EQ(stored(startStopKey).value(u"KeybordShortcutModifierFlagsKey"_s), 0x100000);
 }
 
@@ -228,10 +269,10 @@ TEST_F(RealKeys, AMnemonicLeadsIntoAFieldWithoutHarmingItsShortcut) {
     ASSERT_TRUE(waitFor([&] { return field->hasFocus(); }));
     settle();
     QCoreApplication::processEvents();
-    EXPECT_EQ(field->text(), u"Control + Command + P"_s);
+    EXPECT_EQ(field->text(), u"Control + Super + P"_s);
     EXPECT_TRUE(field->hotKeyRegister()->hasRegisterHotKey());
     type(u"super+j"_s);
-    EXPECT_TRUE(waitFor([&] { return field->text() == u"Command + J"_s && !field->hasFocus(); }));
+    EXPECT_TRUE(waitFor([&] { return field->text() == u"Super + J"_s && !field->hasFocus(); }));
 }
 
 TEST_F(RealKeys, ClosingTheWindowWithAFieldInFocusLetsTheKeyboardGo) {

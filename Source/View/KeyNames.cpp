@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/View/KeyNames.h"
+
+#include <QCoreApplication>
+#include <QTranslator>
+
+#include <string_view>
+
+namespace {
+
+class Names : public QTranslator {
+public:
+    using QTranslator::QTranslator;
+
+    QString translate(const char* context, const char* text, const char* /*disambiguation*/,
+                      int /*n*/) const override {
+        using namespace std::string_view_literals;
+        if (context != "QShortcut"sv)
+            return {};
+        return text == "Ctrl"sv ? QStringLiteral("Control") : text == "Meta"sv ? QStringLiteral("Super") : QString();
+    }
+    [[nodiscard]] bool isEmpty() const override { return false; }
+};
+
+} // namespace
+
+namespace KeyNames {
+
+void install() {
+    static const bool installed = QCoreApplication::installTranslator(new Names(QCoreApplication::instance()));
+    Q_UNUSED(installed)
+}
+
+} // namespace KeyNames
