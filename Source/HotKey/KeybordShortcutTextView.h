@@ -108,7 +108,7 @@ private:
     Dictionary atFocus_; ///< the combination when the focus came
     bool awaitsRelease_ = false;
     bool modifiersSeen_ = false; ///< since the focus came: the combination shown is the one that is being typed
-    bool captured_ = false; ///< the combination was typed, not loaded
+    bool captured_ = false;      ///< the combination was typed, not loaded
     bool ignoresReleases_ = false;
     bool holdsKeyboard_ = false;
 };

@@ -13,8 +13,7 @@ class Names : public QTranslator {
 public:
     using QTranslator::QTranslator;
 
-    QString translate(const char* context, const char* text, const char* /*disambiguation*/,
-                      int /*n*/) const override {
+    QString translate(const char* context, const char* text, const char* /*disambiguation*/, int /*n*/) const override {
         using namespace std::string_view_literals;
         if (context != "QShortcut"sv)
             return {};

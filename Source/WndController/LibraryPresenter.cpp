@@ -15,6 +15,7 @@
 #include "Source/WndController/AudioTableModel.h"
 #include "Source/WndController/AudioTags.h"
 #include "Source/WndController/LibraryOutlineModel.h"
+#include "Source/WndController/LibrarySearch.h"
 #include "Source/WndController/TitleEdit.h"
 
 #include <QFileInfo>
@@ -37,7 +38,8 @@ LibraryPresenter::LibraryPresenter(MediaLibrary& library, QTreeView& outline, QT
     : QObject(parent), library_(library), outline_(outline), table_(table), display_(display), filter_(filter),
       isStateAudioRecord_(std::move(isStateAudioRecord)), missing_(std::make_unique<MissingFiles>()),
       outlineModel_(std::make_unique<LibraryOutlineModel>(library)),
-      tableModel_(std::make_unique<AudioTableModel>(library, *missing_)), titleEdit_(std::make_unique<TitleEdit>()) {
+      tableModel_(std::make_unique<AudioTableModel>(library, *missing_)), titleEdit_(std::make_unique<TitleEdit>()),
+      search_(std::make_unique<LibrarySearch>(library)) {
     outline_.setModel(outlineModel_.get());
     table_.setModel(tableModel_.get());
     connect(outline_.selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -63,6 +65,7 @@ LibraryPresenter::LibraryPresenter(MediaLibrary& library, QTreeView& outline, QT
         if (!change.onlyInserts())
             followPlayingEntry();
     });
+    connect(search_.get(), &LibrarySearch::found, this, &LibraryPresenter::show);
     connect(tableModel_.get(), &AudioTableModel::titleTyped, titleEdit_.get(), &TitleEdit::save);
     connect(titleEdit_.get(), &TitleEdit::saved, this, &LibraryPresenter::updateFile);
     connect(titleEdit_.get(), &TitleEdit::problem, this, &LibraryPresenter::problem);
@@ -128,7 +131,26 @@ const MediaLibraryNode* LibraryPresenter::libraryViewSelectedNode() const {
 
 void LibraryPresenter::outlineSelectionDidChange() {
     const QModelIndexList rows = outline_.selectionModel()->selectedRows();
-    tableModel_->setNode(rows.isEmpty() ? nullptr : outlineModel_->sharedNode(rows.first()));
+    search_->setNode(rows.isEmpty() ? nullptr : outlineModel_->sharedNode(rows.first()));
+}
+
+void LibraryPresenter::show(const std::shared_ptr<const MediaLibraryNode>& node, bool keepSelection) {
+    // The rows of a few recordings are found again; many are a selection of the whole list, which is another list now.
+    constexpr qsizetype most = 100;
+    QStringList selected;
+    if (keepSelection && selectedRowCount() <= most)
+        for (const QVariant& entry : tableViewSelectionAudioArray())
+            selected += entry.toMap().value(AudioRecordEntry::SavePath).toString();
+    tableModel_->setNode(node);
+    QItemSelection again;
+    for (const QString& path : selected)
+        if (const int row = tableModel_->rowOfPath(path); row >= 0)
+            again.select(tableModel_->index(row, 0), tableModel_->index(row, AudioTableModel::ColumnCount - 1));
+    if (again.isEmpty())
+        return;
+    table_.selectionModel()->setCurrentIndex(tableModel_->index(again.first().top(), AudioTableModel::Title),
+                                             QItemSelectionModel::NoUpdate);
+    table_.selectionModel()->select(again, QItemSelectionModel::ClearAndSelect);
 }
 
 void LibraryPresenter::tableViewSelectionDidChange() {
@@ -176,7 +198,13 @@ QString LibraryPresenter::tableViewSelectionAudioPath() const {
 }
 
 bool LibraryPresenter::selectFile(const QString& path) {
+    search_->update();
     int row = tableModel_->rowOfPath(path);
+    if (row < 0 && search_->isActive()) {
+        search_->setText({});
+        Q_EMIT searchEnded();
+        row = tableModel_->rowOfPath(path);
+    }
     if (row < 0) {
         const QModelIndex all =
             outlineModel_->indexOfKey(isRingtone(path) ? QStringLiteral("all-ringtone") : QStringLiteral("all-record"));
@@ -439,11 +467,13 @@ void LibraryPresenter::deleteAudioFile() {
         for (next = last; next >= 0 && selection.contains(tableModel_->index(next, 0));)
             --next;
     const QPersistentModelIndex successor = tableModel_->index(next, AudioTableModel::Title);
+    const QString path = tableModel_->entry(next).value(AudioRecordEntry::SavePath).toString();
     removeMediaLibraryArray(chosen);
-    if (successor.isValid())
-        selectRow(successor.row());
-    else if (tableModel_->rowCount() > 0) // the whole list was built anew
-        selectRow(qMin(qMax(next, 0), tableModel_->rowCount() - 1));
+    search_->update();
+    // A list that was built anew has lost the index.
+    const int row = successor.isValid() ? successor.row() : path.isEmpty() ? -1 : tableModel_->rowOfPath(path);
+    if (row >= 0)
+        selectRow(row);
 }
 
 void LibraryPresenter::revealInFinder() {

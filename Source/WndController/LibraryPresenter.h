@@ -14,6 +14,7 @@ class CustomSound;
 class LibraryOutlineModel;
 class MediaLibrary;
 class MediaLibraryNode;
+class LibrarySearch;
 class MissingFiles;
 class QItemSelectionModel;
 class QTableView;
@@ -112,6 +113,7 @@ public:
     void openIniTunes();
 
     [[nodiscard]] AudioTableModel& tableModel() { return *tableModel_; }
+    [[nodiscard]] LibrarySearch& search() { return *search_; }
     [[nodiscard]] LibraryOutlineModel& outlineModel() { return *outlineModel_; }
 
 Q_SIGNALS:
@@ -129,9 +131,12 @@ Q_SIGNALS:
     void playbackChanged();
     /// A request of the user failed; one sentence.
     void problem(const QString& text);
+    /// The search was given up, because a file that it hides is to be seen.
+    void searchEnded();
 
 private:
     void outlineSelectionDidChange();
+    void show(const std::shared_ptr<const MediaLibraryNode>& node, bool keepSelection);
     void tableViewSelectionDidChange();
     [[nodiscard]] int selectedRow() const;
     void selectRow(int row);
@@ -163,4 +168,5 @@ private:
     std::unique_ptr<LibraryOutlineModel> outlineModel_;
     std::unique_ptr<AudioTableModel> tableModel_;
     std::unique_ptr<TitleEdit> titleEdit_;
+    std::unique_ptr<LibrarySearch> search_;
 };

@@ -95,6 +95,9 @@ void MainMenus::makeEditMenu() {
     // Delete belongs to other widgets too: it acts on the library while that has the focus.
     remove_->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     ui_.audioTableView_->addAction(remove_);
+    QAction* search = add(menu, tr("&Search…"), QStringLiteral("search"), tr("Search titles, artists and albums"),
+                          nullptr, {QKeySequence(Qt::CTRL | Qt::Key_F)});
+    connect(search, &QAction::triggered, ui_.searchField_, &SearchField::begin);
     QAction* all = add(menu, tr("Select &All"), {}, {}, nullptr, {QKeySequence::SelectAll});
     all->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     ui_.libraryView_->addAction(all);
@@ -126,7 +129,7 @@ void MainMenus::makeLibraryMenu() {
               &MainWndController::openCDBurnFace, {QKeySequence(Qt::CTRL | Qt::Key_B)});
     addWindow(menu, Window::Filter, tr("&Find Short Recordings…"), QStringLiteral("filter"),
               tr("Find recordings that are too short to keep"), &MainWndController::openFilterWindow,
-              {QKeySequence(Qt::CTRL | Qt::Key_F)});
+              {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F)});
 }
 
 void MainMenus::makeViewMenu() {

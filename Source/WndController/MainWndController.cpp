@@ -14,6 +14,7 @@
 #include "Source/WndController/LibraryOutlineModel.h"
 #include "Source/WndController/LibraryPresenter.h"
 #include "Source/WndController/LibraryRowDelegates.h"
+#include "Source/WndController/LibrarySearch.h"
 #include "Source/WndController/MainMenus.h"
 #include "Source/WndController/RecordPanel.h"
 #include "Source/WndController/WindowKeys.h"
@@ -115,6 +116,12 @@ void MainWndController::bindLibrary() {
     connect(library, &LibraryPresenter::canFilterAudioChanged, this, &MainWndController::showEmptyText);
     connect(library, &LibraryPresenter::tableViewSelectionAudioChanged, this, &MainWndController::showSelection);
     connect(library, &LibraryPresenter::problem, this, &MainWndController::showStatus);
+    connect(ui_->searchField_, &QLineEdit::textChanged, this, [this](const QString& text) {
+        library_->search().setText(text);
+        showEmptyText();
+    });
+    connect(ui_->searchField_, &SearchField::left, this, &MainWndController::leaveSearch);
+    connect(library, &LibraryPresenter::searchEnded, ui_->searchField_, &QLineEdit::clear);
     // Called ten times a second while the display runs: only changed values are set.
     connect(library, &LibraryPresenter::isPlaySoundPlayingChanged, this, [this] {
         const bool playing = library_->isPlaySoundPlaying();
@@ -388,6 +395,14 @@ void MainWndController::recordingFinished(const QString& path, const Dictionary&
     }
 }
 
+void MainWndController::leaveSearch(bool toFirst) {
+    MediaNodeListTableView* table = ui_->audioTableView_;
+    table->setFocus(Qt::OtherFocusReason);
+    if (toFirst && table->model()->rowCount() > 0)
+        table->selectionModel()->setCurrentIndex(table->model()->index(0, AudioTableModel::Title),
+                                                 QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
 void MainWndController::offerTitle() {
     // Only where the keys go to the library anyway.
     MediaNodeListTableView* table = ui_->audioTableView_;
@@ -430,6 +445,9 @@ void MainWndController::showEmptyText() {
     const bool ringtones = node && node->key().endsWith(QStringLiteral("ringtone"));
     if (library_->canFilterAudio())
         ui_->audioTableView_->setEmptyText({});
+    else if (library_->search().isActive())
+        ui_->audioTableView_->setEmptyText(
+            tr("No title, artist or album here has “%1” in it.").arg(library_->search().text().simplified()));
     else if (record_.isStateAudioRecord() && !ringtones)
         ui_->audioTableView_->setEmptyText(tr("The recording appears here when it has ended."));
     else if (nothingYet && !ringtones)

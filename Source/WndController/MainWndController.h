@@ -132,6 +132,7 @@ private:
     void recordingFinished(const QString& path, const Dictionary& entry);
     /// Opens the title of the selected recording, so that it can be typed over at once.
     void offerTitle();
+    void leaveSearch(bool toFirst);
     void showSelection();
     /// The selected node's key and the selected paths, for comparison.
     [[nodiscard]] QStringList selection() const;

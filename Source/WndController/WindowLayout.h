@@ -13,9 +13,9 @@ class QMainWindow;
 class QSplitter;
 class QTableView;
 
-/// Stores the size of the main window, the widths of its columns and the sorting of its table in the user's defaults; not
-/// its position, because the window is centred whenever it is shown. In a narrow window the library's pane and the empty
-/// columns give room to the titles. Main thread.
+/// Stores the size of the main window, the widths of its columns and the sorting of its table in the user's defaults;
+/// not its position, because the window is centred whenever it is shown. In a narrow window the library's pane and the
+/// empty columns give room to the titles. Main thread.
 class WindowLayout : public QObject {
     Q_OBJECT
 public:

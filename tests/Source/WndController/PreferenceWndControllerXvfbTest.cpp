@@ -194,8 +194,10 @@ TEST_F(RealKeys, TheDefaultsComeBackAlsoWhenTheFieldsHadExchangedThem) {
     ASSERT_TRUE(waitFor([&] { return !field->hasFocus(); }));
     click(controller->pauseResumeShortcut());
     type(u"super+ctrl+s"_s); // the default of the other field
-    ASSERT_TRUE(waitFor([&] { return controller->pauseResumeShortcut()->text() == u"Control + Super + S"_s &&
-                                     !controller->pauseResumeShortcut()->hasFocus(); }));
+    ASSERT_TRUE(waitFor([&] {
+        return controller->pauseResumeShortcut()->text() == u"Control + Super + S"_s &&
+               !controller->pauseResumeShortcut()->hasFocus();
+    }));
     click(controller->window()->findChild<QWidget*>(u"defaultShortcutsButton"_s));
     ASSERT_TRUE(waitFor([&] { return field->text() == u"Control + Super + S"_s; }));
     EXPECT_EQ(controller->pauseResumeShortcut()->text(), u"Control + Super + P"_s);
