@@ -96,7 +96,7 @@ void LibrarySearch::search(bool sameNode) {
     }
     if (!sameNode) // the old list must not stand under the new node
         give({}, false);
-    worker_.start([this, entries, words = words_, generation = generation_]() mutable {
+    worker_.start([this, entries = QVariantList(entries), words = words_, generation = generation_]() mutable {
         auto result = matching(entries, words);
         entries.clear();
         Platform::MainQueue::post(this, [this, result = std::move(result), generation] {
