@@ -20,6 +20,14 @@ QIcon::Mode markMode(const QStyleOptionViewItem& cell) {
                                                                                                     : QIcon::Normal;
 }
 
+// What became of a title that the window opened by itself. An editor that the user opened has no such property: Taken.
+constexpr const char* kOffer = "offer";
+enum Offer { Taken, Clicked, Untouched };
+
+bool endsEditing(int key) {
+    return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Tab || key == Qt::Key_Backtab;
+}
+
 } // namespace
 
 QSize OutlineRowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
@@ -87,32 +95,56 @@ QWidget* AudioRowDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
     return editor;
 }
 
+void AudioRowDelegate::offer(QWidget& editor) {
+    editor.setProperty(kOffer, Untouched);
+    editor.setContextMenuPolicy(Qt::NoContextMenu); // the table shows its own
+}
+
 bool AudioRowDelegate::eventFilter(QObject* watched, QEvent* event) {
     auto* field = qobject_cast<QLineEdit*>(watched);
     if (!field)
         return QStyledItemDelegate::eventFilter(watched, event);
-    if (event->type() == QEvent::MouseButtonPress)
-        field->setProperty(kOffered, false);
-    if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
-        return QStyledItemDelegate::eventFilter(watched, event);
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    const bool ends = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Tab || key == Qt::Key_Backtab;
-    if (event->type() == QEvent::ShortcutOverride) {
-        if (field->property(kOffered).toBool() && (key == Qt::Key_Space || key == Qt::Key_Delete)) {
+    const int offer = field->property(kOffer).toInt();
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        if (offer == Untouched)
+            field->setProperty(kOffer, Clicked);
+        break;
+    case QEvent::MouseButtonDblClick:
+        if (auto* view = qobject_cast<QAbstractItemView*>(parent()); view && offer != Taken) {
+            Q_EMIT closeEditor(field, RevertModelCache);
+            Q_EMIT view->doubleClicked(view->currentIndex());
+            return true;
+        }
+        break;
+    case QEvent::ShortcutOverride: {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (offer == Untouched && (key == Qt::Key_Space || key == Qt::Key_Delete)) {
             event->ignore();
             return true; // the field would take it for its text
         }
-        if (ends) { // Enter would play the recording
+        if (endsEditing(key)) { // Enter would play the recording
             event->accept();
             return true;
         }
-    } else if (ends) {
-        // Tab would open the next cell.
-        Q_EMIT commitData(field);
-        Q_EMIT closeEditor(field, NoHint);
-        return true;
-    } else {
-        field->setProperty(kOffered, false);
+        break;
+    }
+    case QEvent::KeyPress: {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (endsEditing(key)) {
+            // Tab would open the next cell.
+            Q_EMIT commitData(field);
+            Q_EMIT closeEditor(field, NoHint);
+            return true;
+        }
+        if (offer != Taken && key < Qt::Key_Shift) { // and no modifier alone
+            field->setProperty(kOffer, Taken);
+            field->setContextMenuPolicy(Qt::DefaultContextMenu);
+        }
+        break;
+    }
+    default:
+        break;
     }
     return QStyledItemDelegate::eventFilter(watched, event);
 }

@@ -30,9 +30,9 @@ class AudioRowDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    /// Property of an editor that the window opened by itself. Until something is typed, Space and Delete mean the
-    /// recording and not the text.
-    static constexpr const char* kOffered = "offered";
+    /// Marks an editor that the window opened by itself. Until something is typed, Space, Delete, a double click and
+    /// the context menu mean the recording and not the text.
+    static void offer(QWidget& editor);
 
     [[nodiscard]] static int rowHeight(const QTableView& table);
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;

@@ -410,7 +410,7 @@ void MainWndController::offerTitle() {
     if (!window_->isActiveWindow() || (focus && focus != table && focus != ui_->outlineLibraryView_))
         return;
     if (QWidget* editor = table->editCell(table->currentIndex().siblingAtColumn(AudioTableModel::Title)))
-        editor->setProperty(AudioRowDelegate::kOffered, true);
+        AudioRowDelegate::offer(*editor);
 }
 
 QStringList MainWndController::selection() const {

@@ -3,10 +3,12 @@
 #include "RingtoneMaker/CustomSound.h"
 #include "Source/AudioWaveViewController/AudioRecordWaveView.h"
 #include "Source/View/ConvertingTipView.h"
+#include "Source/View/MediaNodeListTableView.h"
 #include "Source/View/Theme.h"
 #include "tests/Source/WndController/WindowWorld.h"
 #include "tests/support/Screenshot.h"
 
+#include <QLineEdit>
 #include <QTableView>
 #include <QTreeView>
 #include <cmath>
@@ -204,4 +206,75 @@ TEST_F(Pictures, FromTheSmallestWindowToAFullScreen) {
     world.controller->window()->resize(1920, 1080);
     levels();
     take(u"full-1920x1080"_s);
+}
+
+TEST_F(Pictures, EachStateOfTheListAtEachScale) {
+    fill();
+    world.library->addRecordFile(LibraryWorld::entry(u"untitled"_s, u""_s, world.file(u"Untitled 4.m4a"_s), 62));
+    for (const QSize size : {QSize(720, 480), QSize(1920, 1080)}) {
+        world.controller.reset();
+        world.open(size);
+        world.controller->window()->resize(size);
+        world.controller->window()->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(world.controller->window(), 30000));
+        showAll();
+        levels();
+        auto& table = world.outlet<MediaNodeListTableView>("audioTableView_");
+        const auto shoot = [&](const QString& state) {
+            for (const qreal ratio : {1.0, 1.5, 2.0})
+                take(u"%1-%2-at-%3"_s.arg(state).arg(size.width()).arg(ratio), ratio);
+        };
+        table.selectRow(1);
+        shoot(u"list"_s);
+        table.selectAll();
+        shoot(u"several"_s);
+        table.selectRow(4);
+        ASSERT_NE(table.editCell(table.model()->index(4, AudioTableModel::Title)), nullptr);
+        shoot(u"title-open"_s);
+        world.outlet<QLineEdit>("searchField_").setText(u"interview"_s);
+        shoot(u"searched"_s);
+        world.outlet<QLineEdit>("searchField_").setText(u"nothing like it"_s);
+        shoot(u"not-found"_s);
+    }
+}
+
+TEST_F(Pictures, EachButtonUnderThePointer) {
+    fill();
+    world.open();
+    showAll(1);
+    for (const char* name : {"btnSatrtRecord_", "btnPlayAudio_", "changeTabViewButton", "btnShow_", "btnDelete_"}) {
+        QWidget& button = world.outlet(name);
+        for (const auto shade : {Theme::Shade::Light, Theme::Shade::Dark}) {
+            Theme::apply(shade);
+            QCoreApplication::processEvents();
+            const auto shown = [&](const QString& state) {
+                return Screenshot::take(*world.controller->window(),
+                                        QString::fromLatin1(name) + state +
+                                            (shade == Theme::Shade::Dark ? u"-dark"_s : u"-light"_s),
+                                        1.5)
+                    .copy(QRectF(QPointF(button.mapTo(world.controller->window(), QPoint())) * 1.5,
+                                 QSizeF(button.size()) * 1.5)
+                              .toRect());
+            };
+            QTest::mouseMove(world.controller->window()->windowHandle(), QPoint(4, 300));
+            ASSERT_TRUE(waitFor([&] { return !button.underMouse(); })) << name;
+            const QImage atRest = shown(u"-rest"_s);
+            QTest::mouseMove(world.controller->window()->windowHandle(),
+                             button.mapTo(world.controller->window(), button.rect().center()));
+            ASSERT_TRUE(waitFor([&] { return button.underMouse(); })) << name;
+            const QImage hovered = shown(u"-hover"_s);
+            EXPECT_NE(hovered, atRest) << name << " answers to the pointer";
+            // The picture differs from its ground as much as before.
+            const auto contrast = [](const QImage& image) {
+                const int ground = qGray(image.pixel(image.width() / 2, 4));
+                int most = 0;
+                for (int y = 4; y < image.height() - 4; ++y)
+                    for (int x = 4; x < image.width() - 4; ++x)
+                        most = std::max(most, std::abs(qGray(image.pixel(x, y)) - ground));
+                return most;
+            };
+            EXPECT_GT(contrast(hovered), 60) << name;
+        }
+    }
+    Theme::apply(Theme::Shade::Light);
 }

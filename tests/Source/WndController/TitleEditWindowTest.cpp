@@ -197,3 +197,11 @@ TEST_F(NewTitle, TheKeysOfTheWindowStillWork) {
     key(Qt::Key_R, Qt::ControlModifier);
     EXPECT_FALSE(world.controller->isStateAudioRecord());
 }
+
+TEST_F(NewTitle, ADoubleClickOnItPlays) {
+    const QPoint place = placeOf(table().currentIndex().row());
+    QTest::mouseClick(handle(), Qt::LeftButton, {}, place);
+    QTest::mouseDClick(handle(), Qt::LeftButton, {}, place);
+    EXPECT_TRUE(library().isPlaySoundPlaying());
+    EXPECT_TRUE(waitFor([&] { return !editor(); }));
+}
