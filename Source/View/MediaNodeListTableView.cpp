@@ -106,6 +106,11 @@ void MediaNodeListTableView::mousePressEvent(QMouseEvent* event) {
     QTableView::mousePressEvent(event);
 }
 
+void MediaNodeListTableView::mouseDoubleClickEvent(QMouseEvent* event) {
+    pressedAlone_ = false; // its release would open the editor
+    QTableView::mouseDoubleClickEvent(event);
+}
+
 void MediaNodeListTableView::paintEvent(QPaintEvent* event) {
     QTableView::paintEvent(event);
     if (emptyText_.isEmpty() || !model() || model()->rowCount() > 0)

@@ -108,8 +108,9 @@ void WindowLayout::restoreSorting(const QString& column, bool descending) {
 }
 
 void WindowLayout::fit() {
-    const int left = qMin(libraryWidth_, qMax(splitter_.widget(0)->minimumWidth(), window_.width() - kTableRoom));
-    splitter_.setSizes({left, qMax(1, window_.width() - left)});
+    const int width = splitter_.isVisible() ? splitter_.width() : window_.width();
+    const int left = qMin(libraryWidth_, qMax(splitter_.widget(0)->minimumWidth(), width - kTableRoom));
+    splitter_.setSizes({left, qMax(1, width - left - splitter_.handleWidth())});
     fit_.start();
 }
 
@@ -173,7 +174,8 @@ void WindowLayout::save() {
 
 bool WindowLayout::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Resize && restored_) {
-        fit();
+        // When the splitter has its new width: it divides up any other by its own rule.
+        QTimer::singleShot(0, this, &WindowLayout::fit);
         later_.start();
     }
     return QObject::eventFilter(watched, event);
