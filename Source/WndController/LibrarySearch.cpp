@@ -28,14 +28,10 @@ LibrarySearch::LibrarySearch(MediaLibrary& library, QObject* parent) : QObject(p
     changed_.setSingleShot(true);
     changed_.setInterval(0);
     connect(&changed_, &QTimer::timeout, this, [this] { search(true); });
-    const auto follow = [this](const QString& leaf) {
+    connect(&library, &MediaLibrary::leafChanged, this, [this](const QString& leaf) {
         if (isActive() && node_ && leaf == node_->key())
             changed_.start();
-    };
-    connect(&library, &MediaLibrary::entryInserted, this, follow);
-    connect(&library, &MediaLibrary::entryReplaced, this, follow);
-    connect(&library, &MediaLibrary::entryRemoved, this, follow);
-    connect(&library, &MediaLibrary::leafReset, this, follow);
+    });
 }
 
 LibrarySearch::~LibrarySearch() {
