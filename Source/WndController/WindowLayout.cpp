@@ -22,7 +22,7 @@ const QString kSort = QStringLiteral("sort");
 const QString kDescending = QStringLiteral("descending");
 constexpr int kNarrowestColumn = 24;
 constexpr int kFirstLibraryWidth = 216;
-constexpr int kTableRoom = 560;    ///< the pane of the library gives way below this width of the table
+constexpr int kTableRoom = 520;    ///< the pane of the library gives way below this width of the table
 constexpr int kTitleRoom = 260;    ///< columns in which nothing stands give way below this width of the titles
 constexpr int kRowsLookedAt = 500; ///< of a long list; a column that says nothing in so many rows is taken for empty
 

@@ -3,6 +3,7 @@
 #include "tests/Program/MainWindowOnADesktop.h"
 
 #include "Source/Control/FileTags.h"
+#include "Source/Model/AudioRecordEntry.h"
 
 #include <QLineEdit>
 

@@ -308,7 +308,7 @@ TEST_F(ShortcutField, ShowsTheKeysThatTheDesktopsSettingsSay) {
     EXPECT_FALSE(field->toolTip().isEmpty());
     EXPECT_TRUE(stored().isEmpty()) << "nothing was typed here";
     type(Qt::Key_J, Qt::AltModifier);
-    EXPECT_EQ(field->text(), u"Option + J"_s) << "until the desktop answers";
+    EXPECT_EQ(field->text(), u"Alt + J"_s) << "until the desktop answers";
     EXPECT_EQ(item.shortcut(), QKeySequence(Qt::ALT | Qt::Key_J));
 }
 

@@ -200,7 +200,7 @@ TEST_F(ListOfTheWindow, InANarrowWindowTheTitlesHaveTheRoom) {
     QSplitter& splitter = world.outlet<QSplitter>("librarySplitter_");
     const auto wide = [&] { return splitter.sizes().value(0) == 216 && !header().isSectionHidden(2); };
     const auto narrow = [&] {
-        return splitter.sizes().value(0) == 160 && header().isSectionHidden(AudioTableModel::Artist) &&
+        return splitter.sizes().value(0) == 200 && header().isSectionHidden(AudioTableModel::Artist) &&
                header().isSectionHidden(AudioTableModel::Album);
     };
     EXPECT_TRUE(waitFor(wide)) << splitter.sizes().value(0);
