@@ -6,6 +6,7 @@
 #include "Source/Control/ToolControl.h"
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -20,7 +21,7 @@ const QString kTime = QStringLiteral("Time");
 void tidy(QList<int>& rows, qsizetype count) {
     rows.removeIf([count](int row) { return row < 0 || row >= count; });
     std::ranges::sort(rows);
-    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    rows.resize(std::distance(rows.begin(), std::unique(rows.begin(), rows.end())));
 }
 
 } // namespace

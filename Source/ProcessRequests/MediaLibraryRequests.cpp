@@ -60,7 +60,8 @@ FileValues fileValuesOf(const QByteArray& document) {
 
 QStringList texts(const QJsonValue& array) {
     QStringList list;
-    for (const auto& value : array.toArray())
+    const QJsonArray values = array.toArray();
+    for (const QJsonValue value : values)
         list.append(value.toString());
     return list;
 }

@@ -23,7 +23,7 @@ QString resolved(const QString& path) {
 std::optional<QString> runModal(QFileDialog& dialog) {
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
-    return dialog.selectedFiles().first();
+    return dialog.selectedFiles().constFirst();
 }
 
 /// Accepts folders as well as files. Typing a folder's path opens it, as in any file dialog.

@@ -7,6 +7,7 @@
 #include <QPainter>
 
 #include <cmath>
+#include <utility>
 
 TabularLabel::TabularLabel(QWidget* parent) : QWidget(parent) {
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
@@ -65,7 +66,7 @@ void TabularLabel::paintEvent(QPaintEvent*) {
     else if (alignment_ & Qt::AlignHCenter)
         x = (width() - textWidth()) / 2;
     const qreal baseline = (height() - metrics.height()) / 2 + metrics.ascent();
-    for (const QChar letter : text_) {
+    for (const QChar letter : std::as_const(text_)) {
         const qreal room = advance(letter);
         painter.drawText(QPointF(x + (room - metrics.horizontalAdvance(letter)) / 2, baseline), letter);
         x += room;

@@ -17,7 +17,7 @@
 namespace Platform {
 namespace {
 
-const QString lockEnding = QStringLiteral(".lock");
+constexpr QLatin1StringView lockEnding(".lock");
 
 /// A folder that is kept also keeps its lock file, by which a later process finds the folder.
 void removeWithLock(const QString& path, FileLock& lock) {
