@@ -11,6 +11,7 @@
 #include "Platform/Foundation/TemporaryFolder.h"
 #include "Platform/Foundation/UserDefaults.h"
 #include "Source/Preferences/PreferenceStore.h"
+#include "Source/Preferences/Settings.h"
 #include "Source/ProcessRequests/MediaLibraryRequests.h"
 
 #include <QCoreApplication>
@@ -38,7 +39,7 @@ AppDelegate::AppDelegate(Windows& windows, Platform::RunningProgram& running, QO
 AppDelegate::~AppDelegate() = default;
 
 bool AppDelegate::applicationDidFinishLaunching(bool hidden) {
-    g_SplitTimeMS = PreferenceStore::storedSplitTimeMS();
+    g_SplitTimeMS = Settings::storedSplitTimeMS();
 
     if (!recreateTemporaryFolder())
         return false;
@@ -69,10 +70,11 @@ bool AppDelegate::recreateTemporaryFolder() {
         lastError_ = running_.lastError().isEmpty() ? QStringLiteral("it is already running") : running_.lastError();
         return false;
     }
-    const QString temporary = Platform::Folders::temporary(&lastError_);
-    if (temporary.isEmpty())
+    const auto temporary = Platform::Folders::temporary();
+    lastError_ = temporary.error().text;
+    if (!temporary)
         return false;
-    g_strTmpPath = temporary + u'/' + Platform::services().bundle->bundleIdentifier();
+    g_strTmpPath = *temporary + u'/' + Platform::services().bundle->bundleIdentifier();
     Platform::TemporaryFolder::removeWhole(g_strTmpPath);
     // If something in the way could not be removed, the first write to the folder reports it.
     (void)::mkdir(QFile::encodeName(g_strTmpPath).constData(), 0700);

@@ -116,9 +116,10 @@ int runWindows(int argc, char** argv) {
     // Created before the windows: they end the recording first, and the lock is released after both.
     const CutOffRecordings::Keeper keepCutOffRecordings;
     const auto windows = createAppWindows();
-    QString why;
-    if (!services.startAudio(why, [waiting = std::make_shared<WaitingForServer>()] { return waiting->goOn(); }))
-        tell(QStringLiteral("Nothing can be recorded or played."), why);
+    if (const auto audio =
+            services.startAudio([waiting = std::make_shared<WaitingForServer>()] { return waiting->goOn(); });
+        !audio)
+        tell(QStringLiteral("Nothing can be recorded or played."), audio.error().text);
     KextInstallControl::loadIfInstalled(); // before the devices are listed
 
     AppDelegate delegate(*windows, *running);

@@ -10,9 +10,7 @@ int main(int argc, char** argv) {
     // libraries with it.
     if (const auto status = CommandLine::runOneOf(CommandLine::plainCommands(), argc, argv))
         return *status;
-    QString why;
     using Main = int (*)(int, char**);
-    const auto desktopMain =
-        Platform::loadFunction<Main>(QStringLiteral("SonaphexDesktop.so"), "sonaphexDesktopMain", why);
-    return desktopMain ? desktopMain(argc, argv) : CommandLine::fail(why);
+    const auto desktopMain = Platform::loadFunction<Main>(QStringLiteral("SonaphexDesktop.so"), "sonaphexDesktopMain");
+    return desktopMain ? (*desktopMain)(argc, argv) : CommandLine::fail(desktopMain.error().text);
 }

@@ -5,6 +5,7 @@
 #include "CaptureComputerAudio/CaptureDriver.h"
 #include "Platform/Desktop/AdminShell.h"
 #include "Platform/Foundation/Bundle.h"
+#include "Platform/Foundation/PlainText.h"
 #include "Platform/Foundation/Services.h"
 
 #include <QEventLoop>
@@ -36,11 +37,6 @@ public:
     Turn& operator=(const Turn&) = delete;
 };
 
-/// Quotes a word for a shell command line, whatever characters it contains.
-QString quoted(QString word) {
-    return u'\'' + word.replace(u'\'', u"'\\''"_s) + u'\'';
-}
-
 bool refused() {
     if (busy)
         whyFailed = u"the system audio device is being installed or removed already"_s;
@@ -55,9 +51,9 @@ bool runWithAdmin(const QString& command) {
         whyFailed = u"there is no way to get administrator rights"_s;
         return false;
     }
-    std::optional<QString> problem;
+    Platform::Result<> result;
     const std::unique_ptr<QThread> worker(
-        QThread::create([&] { problem = shell->executeShellStringWithAdmin(command); }));
+        QThread::create([&] { result = shell->executeShellStringWithAdmin(command); }));
     QEventLoop loop;
     QObject::connect(worker.get(), &QThread::finished, &loop, &QEventLoop::quit);
     worker->start();
@@ -65,8 +61,8 @@ bool runWithAdmin(const QString& command) {
     // The program may be ending while the prompt is open: then nobody will answer it.
     worker->requestInterruption();
     worker->wait();
-    whyFailed = problem.value_or(QString());
-    return !problem;
+    whyFailed = result.error().text;
+    return bool(result);
 }
 
 /// A cancelled prompt must not cost the user the device: a driver that ran before and is still installed is started
@@ -100,8 +96,8 @@ QString replaceCommand(const QString& source) {
            u"mkdir -p %5 && chmod go+rx %6 %5 && rm -rf %2 %3 && cp -R %4 %2 && chmod -R u=rwX,go=rX %2 && "
            u"{ [ ! -e %1 ] || mv -T %1 %3; } && "
            u"{ mv -T %2 %1 || { [ ! -e %3 ] || mv -T %3 %1; false; }; } && { rm -rf %3 || true; }"_s.arg(
-               quoted(bundle), quoted(fresh), quoted(old), quoted(source), quoted(folder),
-               quoted(QFileInfo(folder).path()));
+               Platform::shellWord(bundle), Platform::shellWord(fresh), Platform::shellWord(old),
+               Platform::shellWord(source), Platform::shellWord(folder), Platform::shellWord(QFileInfo(folder).path()));
 }
 
 } // namespace
@@ -129,8 +125,8 @@ bool uninstall() {
     const RunsOn runsOn;
     const auto bundle = installedBundlePath();
     CaptureDriver::unload();
-    return runWithAdmin(
-        u"rm -rf %1 %2 %3"_s.arg(quoted(bundle), quoted(bundle + u".part"_s), quoted(bundle + u".old"_s)));
+    return runWithAdmin(u"rm -rf %1 %2 %3"_s.arg(Platform::shellWord(bundle), Platform::shellWord(bundle + u".part"_s),
+                                                 Platform::shellWord(bundle + u".old"_s)));
 }
 
 bool install() {

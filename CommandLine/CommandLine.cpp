@@ -44,13 +44,15 @@ std::optional<int> runOneOf(const Commands& known, int argc, char** argv) {
     return ended(status);
 }
 
-bool startAudio(QString& why) {
+Platform::Result<> startAudio() {
+    if (!installed && Platform::services().audioHardware)
+        return {};
     if (!installed)
-        return Platform::services().audioHardware != nullptr;
-    if (!installed->startAudio(why))
-        return false;
-    KextInstallControl::loadIfInstalled(); // before the devices are listed
-    return true;
+        return Platform::Error{Platform::Error::Kind::NotFound, u"there is no sound server"_s};
+    auto started = installed->startAudio();
+    if (started)
+        KextInstallControl::loadIfInstalled(); // before the devices are listed
+    return started;
 }
 
 std::optional<QByteArray> askWindow(const QByteArray& request) {

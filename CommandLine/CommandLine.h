@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Foundation/Result.h"
+
 #include <QStringList>
 
 #include <initializer_list>
@@ -59,8 +61,8 @@ using Commands = std::map<QString, const Command*>;
 [[nodiscard]] std::optional<int> runCommand(int argc, char** argv);
 
 /// Connects this process to the sound server, or starts a private one when none answers. For subcommands that record or
-/// play. @return false, with the reason in @p why, when there is no sound server.
-[[nodiscard]] bool startAudio(QString& why);
+/// play. An error when there is no sound server.
+Platform::Result<> startAudio();
 
 /// The running window's answer to a request of one line; nothing when no window runs or it does not answer.
 [[nodiscard]] std::optional<QByteArray> askWindow(const QByteArray& request);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandLine/CommandHelp.h"
+#include "Platform/Foundation/PlainText.h"
 
 using namespace Qt::StringLiterals;
 using namespace CommandLine;
@@ -50,11 +51,6 @@ bool takesFiles(const char* declared) {
 
 QString longForm(const Option& option) {
     return u"--"_s + QString::fromUtf8(option.name);
-}
-
-/// Quotes a text in a shell's single quotes.
-QString quoted(QString text) {
-    return u'\'' + text.replace(u'\'', u"'\\''"_s) + u'\'';
 }
 
 } // namespace
@@ -112,12 +108,12 @@ QString bashCompletion(const Commands& commands) {
                 continue;
             const QStringList offered = choices(option.value);
             values += u"            %1) COMPREPLY=($(compgen %2 -- \"$word\")); return ;;\n"_s.arg(
-                longForm(option), takesFiles(option.value) ? u"-f"_s : u"-W "_s + quoted(offered.join(u' ')));
+                longForm(option), takesFiles(option.value) ? u"-f"_s : u"-W "_s + Platform::shellWord(offered.join(u' ')));
         }
         cases += u"        %1)\n"_s.arg(name);
         if (!values.isEmpty())
             cases += u"            case $before in\n"_s + values + u"            esac\n"_s;
-        cases += u"            words=%1\n"_s.arg(quoted(words.join(u' ')));
+        cases += u"            words=%1\n"_s.arg(Platform::shellWord(words.join(u' ')));
         if (takesFiles(command->operands))
             cases += u"            files=-f\n"_s;
         cases += u"            ;;\n"_s;
@@ -129,7 +125,7 @@ QString bashCompletion(const Commands& commands) {
            "        COMPREPLY=($(compgen -f -W %1 -- \"$word\"))\n        return\n    fi\n"
            "    case ${COMP_WORDS[1]} in\n%2    esac\n"
            "    COMPREPLY=($(compgen $files -W \"$words\" -- \"$word\"))\n}\n"
-           "complete -F _sonaphex sonaphex\n"_s.arg(quoted(names.join(u' ')), cases);
+           "complete -F _sonaphex sonaphex\n"_s.arg(Platform::shellWord(names.join(u' ')), cases);
 }
 
 QString zshCompletion(const Commands& commands) {
@@ -146,17 +142,19 @@ QString zshCompletion(const Commands& commands) {
     QString described;
     QString cases;
     for (const auto& [name, command] : commands) {
-        described += u"        %1\n"_s.arg(quoted(name + u':' + spec(QString::fromUtf8(command->summary))));
+        described +=
+            u"        %1\n"_s.arg(Platform::shellWord(name + u':' + spec(QString::fromUtf8(command->summary))));
         cases += u"        %1)\n            _arguments"_s.arg(name);
         for (const Option& option : command->options) {
             QString one = longForm(option) + u'[' + spec(QString::fromUtf8(option.sentence)) + u']';
             if (*option.value)
                 one += u':' + spec(QString::fromUtf8(option.value)) + u':' + action(option.value);
-            cases += u" \\\n                "_s + quoted(one);
+            cases += u" \\\n                "_s + Platform::shellWord(one);
         }
         if (*command->operands)
-            cases += u" \\\n                "_s +
-                     quoted(u"*:"_s + spec(QString::fromUtf8(command->operands)) + u':' + action(command->operands));
+            cases +=
+                u" \\\n                "_s + Platform::shellWord(u"*:"_s + spec(QString::fromUtf8(command->operands)) +
+                                                                 u':' + action(command->operands));
         cases += u"\n            ;;\n"_s;
     }
     return u"#compdef sonaphex\n_sonaphex() {\n    local -a commands\n    commands=(\n%1    )\n"
@@ -170,20 +168,20 @@ QString fishCompletion(const Commands& commands) {
     QString text = u"# fish completion for sonaphex\n"_s;
     for (const auto& [name, command] : commands) {
         text += u"complete -c sonaphex -n __fish_use_subcommand -a %1 -d %2\n"_s.arg(
-            name, quoted(QString::fromUtf8(command->summary)));
+            name, Platform::shellWord(QString::fromUtf8(command->summary)));
         const QString here = u"complete -c sonaphex -n '__fish_seen_subcommand_from %1'"_s.arg(name);
         const QStringList operands = choices(command->operands);
         if (!takesFiles(command->operands))
-            text +=
-                here + u" -f"_s + (operands.isEmpty() ? QString() : u" -a "_s + quoted(operands.join(u' '))) + u'\n';
+            text += here + u" -f"_s +
+                    (operands.isEmpty() ? QString() : u" -a "_s + Platform::shellWord(operands.join(u' '))) + u'\n';
         for (const Option& option : command->options) {
-            text += here +
-                    u" -l %1 -d %2"_s.arg(QString::fromUtf8(option.name), quoted(QString::fromUtf8(option.sentence)));
+            text += here + u" -l %1 -d %2"_s.arg(QString::fromUtf8(option.name),
+                                                 Platform::shellWord(QString::fromUtf8(option.sentence)));
             if (*option.value) {
                 const QStringList offered = choices(option.value);
                 text += takesFiles(option.value) ? u" -r -F"_s : u" -x"_s;
                 if (!offered.isEmpty())
-                    text += u" -a "_s + quoted(offered.join(u' '));
+                    text += u" -a "_s + Platform::shellWord(offered.join(u' '));
             }
             text += u'\n';
         }

@@ -51,7 +51,7 @@ QString failure(const ConverterAudioControl& converter, const QString& source) {
 }
 
 /// Output errors name the hidden file that is being written; the message must name the target.
-int failOutput(Platform::MediaError error, const PartFile& part, const QString& target) {
+int failOutput(Platform::Error error, const PartFile& part, const QString& target) {
     return fail(error.text.replace(part.path(), target));
 }
 
@@ -63,15 +63,14 @@ int convert(const Task& task) {
     auto to = task.to;
     auto length = task.length;
     if (task.fading || task.from > 0) {
-        Platform::AudioFileInfo info;
-        Platform::MediaError error;
-        if (!Platform::services().mediaFiles->info(task.source, info, error))
-            return fail(error.text);
-        if (task.from >= info.seconds)
+        const auto info = Platform::services().mediaFiles->info(task.source);
+        if (!info)
+            return fail(info.error().text);
+        if (task.from >= info->seconds)
             return fail(u"%1: it ends at second %2, there is nothing from second %3 on"_s.arg(
-                task.source, QString::number(info.seconds), QString::number(task.from)));
+                task.source, QString::number(info->seconds), QString::number(task.from)));
         if (task.fading && to <= 0)
-            to = info.seconds;
+            to = info->seconds;
         if (task.fading && length <= 0)
             length = to - task.from;
     }

@@ -54,9 +54,8 @@ int run(const QStringList& given) {
         return wrongUsage(devicesCommand, arguments.problem());
     if (!arguments.positional().isEmpty())
         return wrongUsage(devicesCommand, u"devices takes no names"_s);
-    QString why;
-    if (!startAudio(why))
-        return fail(why);
+    if (const auto started = startAudio(); !started)
+        return fail(started.error().text);
     const auto devices = inputDevices();
     const Output output = defaultOutput();
     if (arguments.isSet(u"json"_s)) {

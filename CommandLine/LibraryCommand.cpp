@@ -3,6 +3,7 @@
 #include "CommandLine/LibraryCommand.h"
 
 #include "CommandLine/Arguments.h"
+#include "Platform/Foundation/PlainText.h"
 #include "Source/Control/EditNote.h"
 #include "Source/Control/ToolControl.h"
 #include "Source/Model/AudioRecordEntry.h"
@@ -22,13 +23,6 @@ namespace {
 QString text(const Dictionary& entry, const QString& key) {
     const QVariant value = entry.value(key);
     return value.isValid() ? Platform::stringForm(value) : QString();
-}
-
-QString plain(QString line) {
-    for (QChar& character : line)
-        if (character.category() == QChar::Other_Control)
-            character = u' ';
-    return line;
 }
 
 QJsonArray asJson(const QVariantList& entries) {
@@ -58,9 +52,9 @@ void printCollection(const QString& title, const QVariantList& entries) {
         const QString path = text(entry, SavePath);
         print(u"  %1  %2  %3"_s.arg(text(entry, AddDate),
                                     ToolControl::getTimeString(Platform::longLongValue(entry.value(Length))),
-                                    plain(text(entry, Title))));
-        print(u"      file "_s + plain(path) + (QFileInfo::exists(path) ? QString() : u" (missing)"_s));
-        print(u"      key  "_s + plain(text(entry, NodeDataKey)));
+                                    Platform::onOneLine(text(entry, Title))));
+        print(u"      file "_s + Platform::onOneLine(path) + (QFileInfo::exists(path) ? QString() : u" (missing)"_s));
+        print(u"      key  "_s + Platform::onOneLine(text(entry, NodeDataKey)));
     }
 }
 
@@ -91,7 +85,8 @@ int remove(const QStringList& keys, bool json) {
         removal = MediaLibraryRequests::remove(keys);
     }
     if (!removal.unknown.isEmpty())
-        return fail(u"no entry has the key %1 (nothing was removed)"_s.arg(plain(removal.unknown.first())));
+        return fail(
+            u"no entry has the key %1 (nothing was removed)"_s.arg(Platform::onOneLine(removal.unknown.first())));
     if (!removal.stored)
         return fail(u"the files are deleted, but the library could not be saved"_s);
     if (json) {

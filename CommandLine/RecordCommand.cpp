@@ -8,6 +8,7 @@
 #include "Platform/Foundation/Bundle.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/TemporaryFolder.h"
+#include "Source/Preferences/Settings.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -37,14 +38,14 @@ void takeSettings(Arguments& arguments, OverriddenPreferences& preferences) {
     if (arguments.isSet(u"filter"_s)) {
         const bool off = arguments.value(u"filter"_s) == u"off"_s;
         const int seconds = off ? 0 : arguments.whole(u"filter"_s, 0);
-        preferences.setValue(off ? 0 : 1, PreferenceFilterKey);
-        preferences.setValue(seconds, PreferenceFilterTimeKey);
+        preferences.setValue(off ? 0 : 1, Settings::filter);
+        preferences.setValue(seconds, Settings::filterTime);
     }
     if (arguments.isSet(u"folder"_s)) {
         const QString folder = arguments.value(u"folder"_s);
-        preferences.setValue(QDir::cleanPath(QFileInfo(folder).absoluteFilePath()), PreferenceSavePathKey);
+        preferences.setValue(QDir::cleanPath(QFileInfo(folder).absoluteFilePath()), Settings::savePath);
     }
-    g_SplitTimeMS = storedSplitTimeMS();
+    g_SplitTimeMS = Settings::storedSplitTimeMS();
     if (arguments.isSet(u"split"_s))
         g_SplitTimeMS = arguments.value(u"split"_s) == u"off"_s ? -1 : arguments.whole(u"split"_s, 0);
 }
@@ -78,12 +79,12 @@ bool takeSources(const Arguments& arguments, OverriddenPreferences& preferences,
             computer = true;
         }
         task.device = device.id;
-        preferences.setValue(builtIn, ChooseRecordBuiltIn);
-        preferences.setValue(computer, ChooseRecordComputerAudio);
+        preferences.setValue(builtIn, Settings::recordBuiltIn);
+        preferences.setValue(computer, Settings::recordComputerAudio);
     }
     // Otherwise the stored choices apply, if their devices exist.
-    task.wantsComputerAudio = Platform::boolValue(preferences.value(ChooseRecordComputerAudio, false));
-    task.wantsInput = Platform::boolValue(preferences.value(ChooseRecordBuiltIn, true));
+    task.wantsComputerAudio = Platform::boolValue(preferences.value(Settings::recordComputerAudio));
+    task.wantsInput = Platform::boolValue(preferences.value(Settings::recordBuiltIn));
     task.computerAudioNamed = computer;
     return true;
 }
@@ -99,19 +100,19 @@ int run(const QStringList& given) {
     if (const QString why = whyWrong(arguments, task); !why.isEmpty())
         return wrongUsage(recordCommand, why);
 
+    if (const auto started = startAudio(); !started)
+        return fail(started.error().text);
     QString why;
-    if (!startAudio(why))
-        return fail(why);
     if (!takeSources(arguments, preferences, task, why))
         return fail(why);
-    const QString folder = folderOf(preferences.value(PreferenceSavePathKey, defaultMusicFolder()));
+    const QString folder = preferences.value(Settings::savePath).toString();
     if (why = whyNotWritable(folder); !why.isEmpty())
         return fail(why);
     // Not the window's folder: its next launch empties that one.
     const auto temporary =
-        Platform::TemporaryFolder::create(Platform::services().bundle->bundleIdentifier() + u".record"_s, why);
+        Platform::TemporaryFolder::create(Platform::services().bundle->bundleIdentifier() + u".record"_s);
     if (!temporary)
-        return fail(why);
+        return fail(temporary.error().text);
     g_strTmpPath = temporary->path();
     return RecordingRun(preferences, task).run();
 }

@@ -68,9 +68,7 @@ RecordingRun::RecordingRun(RecordPreferences& preferences, const RecordingTask& 
     QObject::connect(&controller_, &RecordStateController::recordingSetAside, &controller_,
                      [this](const QString&, const QStringList& kept) {
                          for (const QString& path : kept) {
-                             Platform::AudioFileInfo info;
-                             Platform::MediaError error;
-                             (void)Platform::services().mediaFiles->info(path, info, error);
+                             const auto info = Platform::services().mediaFiles->info(path).valueOr({});
                              paths_.append(path);
                              recordings_.append(described(path, info.seconds));
                          }

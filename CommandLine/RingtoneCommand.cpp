@@ -15,7 +15,7 @@
 #include "Source/Control/ConverterAudioControl.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
-#include "Source/Preferences/PreferenceStore.h"
+#include "Source/Preferences/Settings.h"
 #include "Source/ProcessRequests/MediaLibraryRequests.h"
 #include "Source/Record/RecordingNames.h"
 
@@ -46,7 +46,7 @@ Dictionary entryOf(const QString& path) {
 
 /// Tags for a file that is not in the library: from the file itself, its name, and today's date.
 Dictionary tagsOf(const QString& path) {
-    const auto tags = Platform::BasicID3Change::read(path).value_or(Platform::BasicID3Change::Tags());
+    const auto tags = Platform::BasicID3Change::read(path).valueOr({});
     const auto orElse = [](const QString& text, const QString& otherwise) { return text.isEmpty() ? otherwise : text; };
     return {{AudioRecordEntry::Title, orElse(tags.title, QFileInfo(path).completeBaseName())},
             {AudioRecordEntry::Artist, orElse(tags.artist, u"NO Artist"_s)},
@@ -70,24 +70,19 @@ QString tellLibrary(const QString& path, const Dictionary& tags) {
 }
 
 int make(RingtoneFile::Task task, bool json) {
-    Platform::AudioFileInfo info;
-    Platform::MediaError error;
-    if (!Platform::services().mediaFiles->info(task.source, info, error))
-        return fail(error.text);
-    if (double(task.to) > info.seconds + 0.001)
-        return fail(u"%1: it ends at second %2, --to is %3"_s.arg(task.source, QString::number(info.seconds),
+    const auto info = Platform::services().mediaFiles->info(task.source);
+    if (!info)
+        return fail(info.error().text);
+    if (double(task.to) > info->seconds + 0.001)
+        return fail(u"%1: it ends at second %2, --to is %3"_s.arg(task.source, QString::number(info->seconds),
                                                                   QString::number(double(task.to))));
 
-    QString why;
     const auto temporary =
-        Platform::TemporaryFolder::create(Platform::services().bundle->bundleIdentifier() + u".ringtone"_s, why);
+        Platform::TemporaryFolder::create(Platform::services().bundle->bundleIdentifier() + u".ringtone"_s);
     if (!temporary)
-        return fail(why);
+        return fail(temporary.error().text);
     task.temporaryFolder = temporary->path();
-    task.target = RecordingNames::nextRingtoneMakerFilePath(
-        PreferenceStore::preferenceValueForKey(PreferenceStore::PreferenceRingtoneSavePathKey,
-                                               PreferenceStore::defaultMusicFolder())
-            .toString());
+    task.target = RecordingNames::nextRingtoneMakerFilePath(Settings::value(Settings::ringtoneSavePath).toString());
 
     const Interrupt interrupt;
     RingtoneFile::Result result;

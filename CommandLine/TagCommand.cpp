@@ -5,6 +5,7 @@
 #include "CommandLine/Arguments.h"
 #include "CommandLine/LibraryChange.h"
 #include "Platform/Foundation/Bundle.h"
+#include "Platform/Foundation/PlainText.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/Media/BasicID3Change.h"
 #include "Source/Control/EditNote.h"
@@ -32,14 +33,6 @@ QString kindOf(const QByteArray& artwork) {
     return u"application/octet-stream"_s;
 }
 
-/// A tag as one line for a terminal; control characters are replaced, because the terminal would execute them.
-QString plain(QString text) {
-    for (QChar& character : text)
-        if (character.category() == QChar::Other_Control)
-            character = u' ';
-    return text;
-}
-
 void show(const QString& path, const BasicID3Change::Tags& tags, bool json) {
     if (json) {
         const QJsonObject artwork{{u"type"_s, kindOf(tags.artwork)}, {u"bytes"_s, tags.artwork.size()}};
@@ -53,11 +46,11 @@ void show(const QString& path, const BasicID3Change::Tags& tags, bool json) {
         print(QString::fromUtf8(QJsonDocument(document).toJson().trimmed()));
         return;
     }
-    print(u"title:   "_s + plain(tags.title));
-    print(u"artist:  "_s + plain(tags.artist));
-    print(u"album:   "_s + plain(tags.album));
+    print(u"title:   "_s + Platform::onOneLine(tags.title));
+    print(u"artist:  "_s + Platform::onOneLine(tags.artist));
+    print(u"album:   "_s + Platform::onOneLine(tags.album));
     print(u"year:    "_s + (tags.year == 0 ? QString() : QString::number(tags.year)));
-    print(u"genre:   "_s + plain(tags.genre));
+    print(u"genre:   "_s + Platform::onOneLine(tags.genre));
     print(u"artwork: "_s +
           (tags.artwork.isEmpty() ? u"none"_s : u"%1, %2 bytes"_s.arg(kindOf(tags.artwork)).arg(tags.artwork.size())));
 }
@@ -90,9 +83,9 @@ int run(const QStringList& given) {
         return wrongUsage(tagCommand, u"--year: %1 is no number"_s.arg(yearText));
 
     QString why;
-    std::optional<BasicID3Change::Tags> tags = BasicID3Change::read(path, &why);
+    auto tags = BasicID3Change::read(path);
     if (!tags)
-        return fail(why);
+        return fail(tags.error().text);
     BasicID3Change::Texts texts;
     Dictionary changed; // with the library's keys
     const auto take = [&](const QString& option, std::optional<QString>& text, const QString& key) {
@@ -120,13 +113,13 @@ int run(const QStringList& given) {
         path = QFileInfo(path).absoluteFilePath();
         EditNote::recover();
         const QString title = texts.title.value_or(tags->title);
-        auto note = EditNote::begin(path, rename ? RecordingRename::pathForTitle(path, title) : path, {}, why);
+        auto note = EditNote::begin(path, rename ? RecordingRename::pathForTitle(path, title) : path, {});
         if (!note)
-            return fail(why);
+            return fail(note.error().text);
         if (!changed.isEmpty())
-            if (const auto problem = BasicID3Change::writeTexts(path, texts); !problem.isEmpty()) {
+            if (const auto written = BasicID3Change::writeTexts(path, texts); !written) {
                 note->end();
-                return fail(problem);
+                return fail(written.error().text);
             }
         const QString before = path;
         if (rename) {
@@ -145,9 +138,9 @@ int run(const QStringList& given) {
     const bool json = arguments.isSet(u"json"_s);
     const bool quiet = (!changed.isEmpty() || hasArtwork || rename) && !json;
     if (!quiet) {
-        tags = BasicID3Change::read(path, &why);
+        tags = BasicID3Change::read(path);
         if (!tags)
-            return fail(why);
+            return fail(tags.error().text);
         show(path, *tags, json);
     }
     return kept.isEmpty() ? Done : fail(kept);

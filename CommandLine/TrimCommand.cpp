@@ -40,20 +40,19 @@ bool isPlayed(const QString& path) {
 }
 
 int trim(const QString& source, double from, double to, const QString& saveAs, bool json) {
-    Platform::AudioFileInfo info;
-    Platform::MediaError error;
     if (!QFileInfo(source).isFile())
         return fail(u"%1: there is no such file"_s.arg(source));
-    if (!Platform::services().mediaFiles->info(source, info, error))
-        return fail(error.text);
-    if (from >= info.seconds)
+    const auto info = Platform::services().mediaFiles->info(source);
+    if (!info)
+        return fail(info.error().text);
+    if (from >= info->seconds)
         return fail(u"%1: it ends at second %2, there is nothing from second %3 on"_s.arg(
-            source, QString::number(info.seconds), QString::number(from)));
-    if (to > info.seconds + kRounding)
+            source, QString::number(info->seconds), QString::number(from)));
+    if (to > info->seconds + kRounding)
         return fail(
-            u"%1: it ends at second %2, --to is %3"_s.arg(source, QString::number(info.seconds), QString::number(to)));
-    if (to <= 0 || to > info.seconds)
-        to = info.seconds;
+            u"%1: it ends at second %2, --to is %3"_s.arg(source, QString::number(info->seconds), QString::number(to)));
+    if (to <= 0 || to > info->seconds)
+        to = info->seconds;
 
     AudioTrimSave::Task task;
     task.source = source;
@@ -69,11 +68,9 @@ int trim(const QString& source, double from, double to, const QString& saveAs, b
     if (task.replace && isPlayed(source))
         return fail(u"%1: the file is being played"_s.arg(source));
 
-    QString why;
-    const auto folder =
-        Platform::TemporaryFolder::create(Platform::services().bundle->bundleIdentifier() + u".trim"_s, why);
+    const auto folder = Platform::TemporaryFolder::create(Platform::services().bundle->bundleIdentifier() + u".trim"_s);
     if (!folder)
-        return fail(why);
+        return fail(folder.error().text);
     g_strTmpPath = folder->path();
     const Interrupt interrupt;
     ConverterAudioControl converter;

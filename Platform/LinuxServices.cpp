@@ -20,14 +20,14 @@
 #include "Platform/Media/linux/play/PipeWireSounds.h"
 
 #include <cstdio>
+#include <optional>
 
 namespace Platform {
 
 struct LinuxServices::Private {
     ServicesScope before;                    // destroyed last: the services stay available until then
     std::unique_ptr<PrivateSession> session; // outlives everything that is connected to it
-    bool audioStarted = false;
-    bool audioWorks = false;
+    std::optional<Result<>> audio;           // how startAudio() ended
     std::unique_ptr<Bundle> bundle;
     std::unique_ptr<Clock> clock;
     std::unique_ptr<UserDefaults> userDefaults;
@@ -71,24 +71,26 @@ void LinuxServices::install(Mode mode) {
     set.hotKeys = (d->hotKeys = createHotKeys()).get();
 }
 
-bool LinuxServices::startAudio(QString& why, const std::function<bool()>& whileWaiting) {
-    if (d->audioStarted)
-        return d->audioWorks;
-    d->audioStarted = true;
+Result<> LinuxServices::startAudio(const std::function<bool()>& whileWaiting) {
+    if (d->audio)
+        return *d->audio;
+    d->audio.emplace();
     const auto server = PrivateSession::waitForServer(whileWaiting);
     if (server == PrivateSession::Server::Absent) {
-        d->session = PrivateSession::start(why);
+        auto started = PrivateSession::start();
+        d->audio = started.error();
+        d->session = std::move(started).valueOr(nullptr);
         if (d->session)
             std::fputs("sonaphex: no sound server answers: a private one was started, its input device is a tone\n",
                        stderr);
     } else if (server == PrivateSession::Server::Silent) {
-        why = QStringLiteral("the sound server does not answer: it takes connections and says nothing. Restart it "
-                             "(systemctl --user restart pipewire) and try again");
+        d->audio = Error{Error::Kind::Busy,
+                         QStringLiteral("the sound server does not answer: it takes connections and says nothing. "
+                                        "Restart it (systemctl --user restart pipewire) and try again")};
     }
-    d->audioWorks = d->session || server == PrivateSession::Server::Answering;
     services().audioHardware = (d->audioHardware = createAudioHardware(d->session != nullptr)).get();
     services().ioRegistry = (d->ioRegistry = createIORegistry()).get();
-    return d->audioWorks;
+    return *d->audio;
 }
 
 } // namespace Platform

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Foundation/Result.h"
+
 #include <functional>
 #include <memory>
 
@@ -26,10 +28,10 @@ public:
     void install(Mode mode);
     /// Connects to the sound server and installs the services that use it. Waits up to 30 seconds for a slow server. On
     /// a machine without a server a private session is started first. One line on standard error reports either case. A
-    /// second call does nothing.
+    /// second call does nothing and returns the first result.
     /// @p whileWaiting is called about fifty times a second while it waits for a server; when it returns false, the
-    /// wait ends. @return false when no server answers and none can be started, with the reason in @p why.
-    [[nodiscard]] bool startAudio(QString& why, const std::function<bool()>& whileWaiting = {});
+    /// wait ends. An error when no server answers and none can be started.
+    Result<> startAudio(const std::function<bool()>& whileWaiting = {});
 
 private:
     struct Private;

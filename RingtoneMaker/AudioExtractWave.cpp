@@ -41,19 +41,22 @@ AudioExtractWave::~AudioExtractWave() = default;
 
 bool AudioExtractWave::openFile(const QString& path) {
     infile_.reset();
-    openError_ = {};
+    openError_ = {Platform::Error::Kind::Other, u"%1 cannot be read"_s.arg(path)};
     auto* files = Platform::services().mediaFiles;
-    auto file = files ? files->openReader(path, openError_) : nullptr;
-    if (file && file->setClientDataFormat(actualOutputFormat_) != noErr) {
-        openError_ = file->firstError();
-        file.reset();
-    }
+    if (!files)
+        return false;
+    auto file = files->openReader(path);
     if (!file) {
-        if (!openError_)
-            openError_ = {Platform::MediaError::Kind::Other, u"%1 cannot be read"_s.arg(path)};
+        openError_ = file.error();
         return false;
     }
-    infile_ = std::move(file);
+    if ((*file)->setClientDataFormat(actualOutputFormat_) != noErr) {
+        if (const auto error = (*file)->firstError())
+            openError_ = error;
+        return false;
+    }
+    openError_ = {};
+    infile_ = *std::move(file);
     return true;
 }
 
@@ -119,6 +122,6 @@ bool AudioExtractWave::extractSparse(const std::vector<std::int64_t>& frames, QL
     return true;
 }
 
-Platform::MediaError AudioExtractWave::error() const {
+Platform::Error AudioExtractWave::error() const {
     return infile_ ? infile_->firstError() : openError_;
 }

@@ -37,7 +37,7 @@ public:
         points_ = std::move(points);
     }
     /// Why openFile() failed, or the first damage found in the file.
-    [[nodiscard]] Platform::MediaError error() const;
+    [[nodiscard]] Platform::Error error() const;
 
 private:
     void tell(const QList<float>& points, qsizetype first) const;
@@ -46,7 +46,7 @@ private:
     std::unique_ptr<Platform::ExtAudioFileReader> infile_;
     AudioStreamBasicDescription actualOutputFormat_;
     void* delegate_ = nullptr;
-    Platform::MediaError openError_;
+    Platform::Error openError_;
     std::function<bool(double)> progress_;
     std::function<void(qsizetype, std::span<const float>)> points_;
 };

@@ -28,8 +28,8 @@ QString land(const QString& temporary, const Task& task, bool replace, QString& 
         return u"no place for ringtones is known"_s;
     if (replace) {
         // Renames over the old file, so that a file exists at every moment.
-        if (const QString why = Platform::FileManager::copy(temporary, task.target, true); !why.isEmpty())
-            return u"%1: %2"_s.arg(task.target, why);
+        if (const auto copied = Platform::FileManager::copy(temporary, task.target, true); !copied)
+            return u"%1: %2"_s.arg(task.target, copied.error().text);
         (void)Platform::FileManager::removeFile(temporary);
         landed = task.target;
         return {};
@@ -37,8 +37,11 @@ QString land(const QString& temporary, const Task& task, bool replace, QString& 
     const auto next = [](const QString& taken) {
         return RecordingNames::nextRingtoneMakerFilePath(QFileInfo(taken).path());
     };
-    const QString why = Platform::FileManager::moveToFreeName(temporary, task.target, next, landed);
-    return why.isEmpty() ? QString() : u"%1: %2"_s.arg(task.target, why);
+    const auto moved = Platform::FileManager::moveToFreeName(temporary, task.target, next);
+    if (!moved)
+        return u"%1: %2"_s.arg(task.target, moved.error().text);
+    landed = *moved;
+    return {};
 }
 
 } // namespace

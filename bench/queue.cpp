@@ -31,9 +31,9 @@ std::unique_ptr<Platform::ExtAudioFileWriter> record(const QString& path, double
     file.mFormatID = kAudioFormatMPEG4AAC;
     file.mFramesPerPacket = 1024;
     file.mChannelsPerFrame = 2;
-    Platform::MediaError error;
-    auto writer =
-        Platform::services().mediaFiles->createWriter(path, kAudioFileM4AType, file, kAudioFileFlags_EraseFile, error);
+    auto writer = Platform::services()
+                      .mediaFiles->createWriter(path, kAudioFileM4AType, file, kAudioFileFlags_EraseFile)
+                      .valueOr(nullptr);
     if (!writer || writer->setClientDataFormat(planarFloatFormat(Rate, 2)) != noErr)
         return nullptr;
     (void)writer->writeAsync(0, nullptr);

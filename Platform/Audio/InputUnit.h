@@ -71,22 +71,24 @@ public:
     [[nodiscard]] virtual QString lastError() const = 0;
 };
 
-/// Keeps a unit's I/O thread from starting a cycle while this object lives. Does nothing when there is no unit.
-class CyclesHeld {
+/// Keeps an I/O thread from beginning a cycle while it lives. @p Source is an input unit, or an engine whose unit must
+/// not be exchanged meanwhile. Null holds nothing.
+template <typename Source>
+class HeldCycles {
 public:
-    explicit CyclesHeld(InputUnit* unit) : unit_(unit) {
-        if (unit_)
-            unit_->holdCycles();
+    explicit HeldCycles(Source* source) : source_(source) {
+        if (source_)
+            source_->holdCycles();
     }
-    ~CyclesHeld() {
-        if (unit_)
-            unit_->releaseCycles();
+    ~HeldCycles() {
+        if (source_)
+            source_->releaseCycles();
     }
-    CyclesHeld(const CyclesHeld&) = delete;
-    CyclesHeld& operator=(const CyclesHeld&) = delete;
+    HeldCycles(const HeldCycles&) = delete;
+    HeldCycles& operator=(const HeldCycles&) = delete;
 
 private:
-    InputUnit* unit_;
+    Source* source_;
 };
 
 } // namespace Platform

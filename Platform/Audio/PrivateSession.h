@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Foundation/Result.h"
+
 #include <functional>
 #include <memory>
 
@@ -34,8 +36,8 @@ public:
     [[nodiscard]] static bool serverAnswers();
     /// Starts a private server and waits until its devices exist; then sets PIPEWIRE_RUNTIME_DIR of this process so
     /// that all later connections use it. Main thread, before any other use of the sound server.
-    /// @return null on failure, with the reason in @p why ("pipewire is not installed: ...").
-    [[nodiscard]] static std::unique_ptr<PrivateSession> start(QString& why);
+    /// Never null. An error is one like "pipewire is not installed: ...".
+    static Result<std::unique_ptr<PrivateSession>> start();
 };
 
 } // namespace Platform

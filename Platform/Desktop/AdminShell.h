@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Foundation/Result.h"
+
 #include <QString>
-#include <optional>
 
 namespace Platform {
 
@@ -13,9 +14,9 @@ namespace Platform {
 class AdminShell {
 public:
     virtual ~AdminShell() = default;
-    /// @return nothing when the command exits with 0, else the failure in one line. A cancelled password prompt and a
-    /// missing helper are failures.
-    [[nodiscard]] virtual std::optional<QString> executeShellStringWithAdmin(const QString& command) = 0;
+    /// Succeeds when the command exits with 0. The text of an error is one line. A cancelled password prompt
+    /// (Error::Kind::Cancelled) and a missing helper are errors.
+    virtual Result<> executeShellStringWithAdmin(const QString& command) = 0;
 };
 
 } // namespace Platform

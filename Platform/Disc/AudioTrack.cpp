@@ -7,30 +7,24 @@
 
 namespace Platform {
 
-std::unique_ptr<ExtAudioFileReader> AudioTrack::openReader(MediaError& error) {
-    auto reader = files_.openReader(path_, error);
-    if (reader && reader->setClientDataFormat(planarFloatFormat(CDFormat::kRate, 2)) != noErr) {
-        error = {MediaError::Kind::UnknownFormat, path_ + QStringLiteral(": its rate cannot be converted")};
-        reader.reset();
-    }
+Result<std::unique_ptr<ExtAudioFileReader>> AudioTrack::openReader() {
+    auto reader = files_.openReader(path_);
+    if (reader && (*reader)->setClientDataFormat(planarFloatFormat(CDFormat::kRate, 2)) != noErr)
+        return Error{Error::Kind::UnknownFormat, path_ + QStringLiteral(": its rate cannot be converted")};
     return reader;
 }
 
-std::shared_ptr<AudioTrack> AudioTrack::open(MediaFiles& files, const QString& path, QString& why) {
+Result<std::shared_ptr<AudioTrack>> AudioTrack::open(MediaFiles& files, const QString& path) {
     std::shared_ptr<AudioTrack> track(new AudioTrack(files, path));
-    MediaError error;
-    track->opened_ = track->openReader(error);
-    if (!track->opened_) {
-        why = error.text.isEmpty() ? path + QStringLiteral(": cannot be read") : error.text;
-        return nullptr;
-    }
+    auto opened = track->openReader();
+    if (!opened)
+        return opened.error();
+    track->opened_ = *std::move(opened);
     const ExtAudioFileReader& reader = *track->opened_;
     const AudioStreamBasicDescription format = reader.fileDataFormat();
     const std::int64_t length = reader.fileLengthFrames();
-    if (length <= 0 || format.mSampleRate <= 0) {
-        why = path + QStringLiteral(": holds no sound");
-        return nullptr;
-    }
+    if (length <= 0 || format.mSampleRate <= 0)
+        return Error{Error::Kind::NoAudio, path + QStringLiteral(": holds no sound")};
     const auto rate = std::int64_t(format.mSampleRate);
     track->frames_ = rate == CDFormat::kRate ? length : (length * CDFormat::kRate + rate / 2) / rate;
     track->sectors_ = std::max(CDFormat::kShortestTrack,
@@ -44,16 +38,18 @@ std::shared_ptr<AudioTrack> AudioTrack::open(MediaFiles& files, const QString& p
     return track;
 }
 
-std::unique_ptr<SectorRenderer> AudioTrack::renderer(MediaError& error) {
+Result<std::unique_ptr<SectorRenderer>> AudioTrack::renderer() {
     std::unique_ptr<ExtAudioFileReader> reader;
     {
         const std::lock_guard lock(mutex_);
         reader = std::move(opened_);
     }
-    if (!reader)
-        reader = openReader(error);
-    if (!reader)
-        return nullptr;
+    if (!reader) {
+        auto again = openReader();
+        if (!again)
+            return again.error();
+        reader = *std::move(again);
+    }
     return std::make_unique<SectorRenderer>(std::move(reader), path_, frames_, exact_);
 }
 

@@ -13,8 +13,8 @@ namespace Platform {
 /// can be burned even when it is deleted meanwhile.
 class AudioTrack final : public DRTrack {
 public:
-    /// Opens and measures the file. @return null when it cannot be read; @p why then names the file and the reason
-    [[nodiscard]] static std::shared_ptr<AudioTrack> open(MediaFiles& files, const QString& path, QString& why);
+    /// Opens and measures the file. Never null; the text of an error names the file.
+    static Result<std::shared_ptr<AudioTrack>> open(MediaFiles& files, const QString& path);
 
     [[nodiscard]] DRTrackProperties properties() const override { return properties_; }
     void setProperties(const DRTrackProperties& properties) override { properties_ = properties; }
@@ -27,13 +27,13 @@ public:
     [[nodiscard]] bool isExact() const { return exact_; }
     /// Whether reading from any position gives the same samples as reading from the beginning.
     [[nodiscard]] bool canBeDivided() const { return divisible_; }
-    /// A source of the track's sectors, positioned at its beginning. Any thread. @return null when the file cannot be
-    /// reopened, or has changed since it was measured
-    [[nodiscard]] std::unique_ptr<SectorRenderer> renderer(MediaError& error);
+    /// A source of the track's sectors, positioned at its beginning. Any thread. An error when the file cannot be
+    /// reopened, or has changed since it was measured.
+    Result<std::unique_ptr<SectorRenderer>> renderer();
 
 private:
     explicit AudioTrack(MediaFiles& files, QString path) : files_(files), path_(std::move(path)) {}
-    [[nodiscard]] std::unique_ptr<ExtAudioFileReader> openReader(MediaError& error);
+    Result<std::unique_ptr<ExtAudioFileReader>> openReader();
 
     MediaFiles& files_;
     QString path_;

@@ -70,10 +70,7 @@ void DRNotificationCenter::deliver(const DRNotification& notification) {
 }
 
 void DRNotificationCenter::post(const QString& name, std::shared_ptr<DRObject> object) {
-    MainQueue::post([this, alive = std::weak_ptr(state_), notification = DRNotification{name, std::move(object)}] {
-        if (const auto state = alive.lock())
-            deliver(notification);
-    });
+    alive_.post([this, notification = DRNotification{name, std::move(object)}] { deliver(notification); });
 }
 
 } // namespace Platform

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Foundation/MainQueue.h"
+
 #include <QString>
 
 #include <functional>
@@ -64,6 +66,7 @@ public:
 private:
     struct State;
     std::shared_ptr<State> state_;
+    MainQueue::WhileAlive alive_;
 };
 
 } // namespace Platform

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Platform/Disc/DRNotificationCenter.h"
+#include "Platform/Foundation/Result.h"
 
 #include <cstdint>
 #include <memory>
@@ -127,11 +128,11 @@ public:
     virtual ~DiscRecording() = default;
     /// The drives, in a stable order while none is added or removed; the drive that writes an image is last.
     [[nodiscard]] virtual std::vector<std::shared_ptr<DRDevice>> devices() = 0;
-    /// Opens and measures the file: 44,100 Hz, 16 bit, stereo, in whole sectors.
-    /// @return null when it cannot be read; @p why then names the file and the reason
-    [[nodiscard]] virtual std::shared_ptr<DRTrack> trackForAudioFile(const QString& path, QString& why) = 0;
-    /// One data track with the content of an image file. @return nothing when it cannot be read
-    [[nodiscard]] virtual std::optional<DRLayout> layoutForImageFile(const QString& path, QString& why) = 0;
+    /// Opens and measures the file: 44,100 Hz, 16 bit, stereo, in whole sectors. Never null; the text of an error
+    /// names the file.
+    virtual Result<std::shared_ptr<DRTrack>> trackForAudioFile(const QString& path) = 0;
+    /// One data track with the content of an image file.
+    virtual Result<DRLayout> layoutForImageFile(const QString& path) = 0;
     /// @return null when no burn can be made with this drive
     [[nodiscard]] virtual std::shared_ptr<DRBurn> burnWithDevice(const std::shared_ptr<DRDevice>& device) = 0;
     /// @return null when no erase can be made with this drive

@@ -85,7 +85,7 @@ bool SectorRenderer::seek(std::int64_t sector) {
     return frame >= frames_ || reader_->seek(frame) == noErr;
 }
 
-MediaError SectorRenderer::render(std::span<std::byte> out) {
+Result<> SectorRenderer::render(std::span<std::byte> out) {
     const auto wanted = std::int64_t(out.size() / 4);
     const std::int64_t fromFile = std::clamp<std::int64_t>(frames_ - at_, 0, wanted);
     for (auto& row : rows_)
@@ -96,15 +96,15 @@ MediaError SectorRenderer::render(std::span<std::byte> out) {
         TwoBuffers buffers{{2, {{1, ask * 4, rows_[0].data() + done}}}, {1, ask * 4, rows_[1].data() + done}};
         std::uint32_t frames = ask;
         if (reader_->read(frames, &buffers.list) != noErr) {
-            const MediaError error = reader_->firstError();
-            return error ? error : MediaError{MediaError::Kind::Damaged, path_ + QStringLiteral(": cannot be read")};
+            const Error error = reader_->firstError();
+            return error ? error : Error{Error::Kind::Damaged, path_ + QStringLiteral(": cannot be read")};
         }
         if (frames == 0)
             break;
         done += frames;
     }
     if (fromFile - done > 0 && frames_ - (at_ + done) > kToleratedFrames)
-        return {MediaError::Kind::Damaged, path_ + QStringLiteral(": the file ends earlier than when it was measured")};
+        return Error{Error::Kind::Damaged, path_ + QStringLiteral(": the file ends earlier than when it was measured")};
     samples_.resize(std::size_t(done) * 2);
     dither_.interleave(rows_[0].data(), rows_[1].data(), samples_.data(), std::size_t(done), exact_);
     std::memcpy(out.data(), samples_.data(), samples_.size() * 2);

@@ -40,7 +40,7 @@ public:
     [[nodiscard]] bool seek(std::int64_t sector);
     /// Fills @p out, whole sectors, with the next samples; beyond the end of the file with silence.
     /// @return the error: the file is damaged, or shorter than it was when it was measured
-    [[nodiscard]] MediaError render(std::span<std::byte> out);
+    Result<> render(std::span<std::byte> out);
 
 private:
     std::unique_ptr<ExtAudioFileReader> reader_;

@@ -46,18 +46,18 @@ bool TrackFeed::fill() {
 }
 
 void TrackFeed::decode() {
-    MediaError error;
+    Error error;
     std::vector<std::byte> block(std::size_t(kBlockSectors * CDFormat::kBytesPerSector));
     for (const auto& each : layout_) {
         const auto track = std::dynamic_pointer_cast<AudioTrack>(each);
-        const auto renderer = track ? track->renderer(error) : nullptr;
-        if (!renderer && !error)
-            error = {MediaError::Kind::NoAudio, each->path() + QStringLiteral(": is no sound file")};
-        bool goesOn = renderer != nullptr;
+        const auto renderer = track ? track->renderer()
+                                    : Error{Error::Kind::NoAudio, each->path() + QStringLiteral(": is no sound file")};
+        error = renderer.error();
+        bool goesOn = bool(renderer);
         for (std::int64_t left = each->sectors(); goesOn && left > 0; left -= kBlockSectors) {
             const auto sectors = std::min(left, kBlockSectors);
             const auto part = std::span(block).first(std::size_t(sectors * CDFormat::kBytesPerSector));
-            error = renderer->render(part);
+            error = (*renderer)->render(part).error();
             goesOn = !error && put(part);
         }
         if (!goesOn)
@@ -116,7 +116,7 @@ void TrackFeed::cancel() {
     changed_.notify_all();
 }
 
-MediaError TrackFeed::error() const {
+Error TrackFeed::error() const {
     const std::lock_guard lock(mutex_);
     return error_;
 }

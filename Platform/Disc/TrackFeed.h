@@ -36,7 +36,7 @@ public:
     /// Makes every waiting call return. Any thread.
     void cancel();
     /// The first error of a source. Any thread.
-    [[nodiscard]] MediaError error() const;
+    [[nodiscard]] Error error() const;
     /// How often take() had to wait. Any thread.
     [[nodiscard]] std::size_t waits() const;
 
@@ -55,7 +55,7 @@ private:
     std::size_t waits_ = 0;
     bool ended_ = false; ///< no more data will be written to the ring
     bool cancelled_ = false;
-    MediaError error_;
+    Error error_;
 };
 
 } // namespace Platform

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Foundation/Result.h"
+
 #include <QString>
 
 #include <chrono>
@@ -13,12 +15,6 @@ namespace Platform {
 /// the process ends; child processes do not inherit it. Any thread; one object by one thread at a time.
 class FileLock {
 public:
-    enum class Result {
-        Held,      ///< this object holds the lock
-        Elsewhere, ///< another process or object holds it
-        Failed     ///< see problem()
-    };
-
     FileLock() = default;
     /// Releases the lock; the file is kept.
     ~FileLock() { release(); }
@@ -32,12 +28,10 @@ public:
     }
 
     /// Takes the lock; waits for another holder at most @p patience. The file at @p path is created when it is missing;
-    /// a link is not followed.
-    [[nodiscard]] Result take(const QString& path, std::chrono::milliseconds patience = {});
+    /// a link is not followed. Error::Kind::Busy: another process or object still holds the lock.
+    Result<> take(const QString& path, std::chrono::milliseconds patience = {});
     [[nodiscard]] bool isHeld() const { return descriptor_ >= 0; }
     [[nodiscard]] QString path() const { return path_; }
-    /// Why take() failed, for the user.
-    [[nodiscard]] QString problem() const { return problem_; }
     void release();
     /// Removes the file, then releases the lock.
     void removeAndRelease();
@@ -45,7 +39,6 @@ public:
 private:
     int descriptor_ = -1;
     QString path_;
-    QString problem_;
 };
 
 } // namespace Platform

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Foundation/Result.h"
+
 #include <QString>
 
 namespace Platform::Folders {
@@ -10,9 +12,8 @@ namespace Platform::Folders {
 [[nodiscard]] QString home();
 
 /// The system's temporary folder of this user: $TMPDIR when it is set and private to the user, else
-/// $XDG_CACHE_HOME/tmp. The latter is created with mode 0700; the answer is empty, with @p why, when it is a link or
-/// belongs to another user.
-[[nodiscard]] QString temporary(QString* why = nullptr);
+/// $XDG_CACHE_HOME/tmp. The latter is created with mode 0700; an error when it is a link or belongs to another user.
+Result<QString> temporary();
 
 /// $XDG_CONFIG_HOME, $XDG_CACHE_HOME, $XDG_DATA_HOME, $XDG_RUNTIME_DIR or their defaults below home().
 [[nodiscard]] QString config();

@@ -49,4 +49,11 @@ void post(QObject* context, std::function<void()> work) {
     QMetaObject::invokeMethod(context, Handed(std::move(work)), Qt::QueuedConnection);
 }
 
+void WhileAlive::Handle::post(std::function<void()> work) const {
+    MainQueue::post([alive = alive_, work = std::move(work)] {
+        if (!alive.expired())
+            work();
+    });
+}
+
 } // namespace Platform::MainQueue

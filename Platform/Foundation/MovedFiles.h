@@ -9,7 +9,7 @@
 namespace Platform::MovedFiles {
 
 /// Moves a file into the temporary folder under the path @p to, which must be free.
-[[nodiscard]] FileManager::Problem moveAway(const QString& from, const QString& to);
+Result<> moveAway(const QString& from, const QString& to);
 
 /// FileManager::setAside() for a file in a temporary folder. When it cannot be moved (a full disk), it stays in that
 /// folder under a free name made from @p wishedName, with a note: emptying the folder then keeps the file and moves it

@@ -4,8 +4,6 @@
 
 #include "Platform/Foundation/FileLock.h"
 
-#include <optional>
-
 namespace Platform {
 
 /// A folder below the user's temporary folder that belongs to one process; the destructor removes it. Folders of killed
@@ -13,8 +11,7 @@ namespace Platform {
 class TemporaryFolder {
 public:
     /// @param kind is part of the folder's name, one per purpose.
-    /// @return nothing when it cannot be created, with the reason in @p why.
-    [[nodiscard]] static std::optional<TemporaryFolder> create(const QString& kind, QString& why);
+    static Result<TemporaryFolder> create(const QString& kind);
     /// Removes a folder with its content; a link is removed, not followed. Errors are ignored. Files of the user that a
     /// crash left in it are moved back first (MovedFiles); where that fails, the file and the folder are kept.
     static void removeWhole(const QString& path);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Foundation/Result.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -23,21 +25,18 @@ public:
         int year = 0;
         QByteArray artwork; ///< the image bytes as stored in the file; empty when there is none
     };
-    /// Reads the tags; nothing when the file is not a readable MPEG-4 file, with the reason for the user in @p why.
-    [[nodiscard]] static std::optional<Tags> read(const QString& path, QString* why = nullptr);
+    /// Reads the tags; an error when the file is not a readable MPEG-4 file.
+    static Result<Tags> read(const QString& path);
     struct Texts {
         std::optional<QString> title{}, artist{}, album{}, genre{};
         std::optional<int> year{};
     };
-    /// Like setMpeg4ID3Information(), but changes only the texts that are given. @return the error, for the user; empty
-    /// on success.
-    [[nodiscard]] static QString writeTexts(const QString& path, const Texts& texts);
+    /// Like setMpeg4ID3Information(), but changes only the texts that are given.
+    static Result<> writeTexts(const QString& path, const Texts& texts);
 
     /// Writes a copy of @p source with @p image, a JPEG or PNG file, as its only artwork. The destination appears
     /// complete or not at all. When source and destination are the same file, it is changed in place, like texts.
-    /// @return the error, for the user; empty on success.
-    [[nodiscard]] static QString copyWithArtwork(const QString& source, const QString& image,
-                                                 const QString& destination);
+    static Result<> copyWithArtwork(const QString& source, const QString& image, const QString& destination);
 };
 
 } // namespace Platform

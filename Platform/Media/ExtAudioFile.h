@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Platform/Audio/AudioTypes.h"
+#include "Platform/Foundation/Result.h"
 
 #include <functional>
 #include <memory>
@@ -11,25 +12,6 @@
 #include <QString>
 
 namespace Platform {
-
-/// Why a file operation failed, for the program (kind) and for the user (text).
-struct MediaError {
-    enum class Kind {
-        None,
-        NotFound,
-        NotPermitted,
-        NotAFile,
-        UnknownFormat,
-        NoAudio,
-        Damaged,
-        DiskFull,
-        Encoder,
-        Other
-    };
-    Kind kind = Kind::None;
-    QString text;
-    explicit operator bool() const { return kind != Kind::None; }
-};
 
 /// Writes one audio file: takes frames in the client format, converts and encodes them to the file's format.
 /// One thread writes at a time. Frames given to writeAsync() are encoded and written by the file's own thread; when the
@@ -66,7 +48,7 @@ public:
     /// Client frames taken so far. Any thread.
     [[nodiscard]] virtual std::int64_t framesAccepted() const = 0;
     /// The first error since the file was created. Any thread.
-    [[nodiscard]] virtual MediaError firstError() const = 0;
+    [[nodiscard]] virtual Error firstError() const = 0;
     [[nodiscard]] virtual QString path() const = 0;
 };
 
@@ -90,7 +72,7 @@ public:
     [[nodiscard]] virtual bool sparseSamples(std::span<const std::int64_t> /*frames*/, std::span<float> /*out*/) {
         return false;
     }
-    [[nodiscard]] virtual MediaError firstError() const = 0;
+    [[nodiscard]] virtual Error firstError() const = 0;
     /// The file's metadata value for a key ("title", "artist"); empty when it has none.
     [[nodiscard]] virtual QString metadata(const QString& /*key*/) const { return {}; }
 };
@@ -122,9 +104,9 @@ public:
     /// Writes the sum of all tracks, 44100 Hz, 32-bit integer, two channels; the sum is limited, it never wraps around.
     /// Blocks. @p progress receives a value from 0 to 1 and returns false to stop. On failure no file is left. A part
     /// of a track that cannot be read is no failure: it becomes silence, and readError() reports it.
-    [[nodiscard]] virtual MediaError writeWave(const QString& path, const std::function<bool(double)>& progress) = 0;
+    virtual Result<> writeWave(const QString& path, const std::function<bool(double)>& progress) = 0;
     /// The first read error of the last writeWave().
-    [[nodiscard]] virtual MediaError readError() const = 0;
+    [[nodiscard]] virtual Error readError() const = 0;
 };
 
 /// Opens and creates all media files. Thread-safe; the callers own the objects that it returns.
@@ -133,12 +115,13 @@ public:
     virtual ~MediaFiles() = default;
     /// Creates a file (type: kAudioFileM4AType, kAudioFileWAVEType, kAudioFileCAFType), in @p format. With
     /// kAudioFileFlags_EraseFile an existing file is overwritten; without it the call fails and the file is kept.
-    [[nodiscard]] virtual std::unique_ptr<ExtAudioFileWriter> createWriter(const QString& path, std::uint32_t fileType,
-                                                                           const AudioStreamBasicDescription& format,
-                                                                           std::uint32_t flags, MediaError& error) = 0;
-    [[nodiscard]] virtual std::unique_ptr<ExtAudioFileReader> openReader(const QString& path, MediaError& error) = 0;
-    [[nodiscard]] virtual bool info(const QString& path, AudioFileInfo& info, MediaError& error) = 0;
-    [[nodiscard]] virtual std::unique_ptr<Movie> openMovie(const QString& path, MediaError& error) = 0;
+    /// The pointers in the results of this class are never null.
+    virtual Result<std::unique_ptr<ExtAudioFileWriter>> createWriter(const QString& path, std::uint32_t fileType,
+                                                                     const AudioStreamBasicDescription& format,
+                                                                     std::uint32_t flags) = 0;
+    virtual Result<std::unique_ptr<ExtAudioFileReader>> openReader(const QString& path) = 0;
+    virtual Result<AudioFileInfo> info(const QString& path) = 0;
+    virtual Result<std::unique_ptr<Movie>> openMovie(const QString& path) = 0;
     /// Completes a linear PCM description in place (kAudioFormatProperty_FormatInfo).
     virtual OSStatus completeFormat(AudioStreamBasicDescription& format) = 0;
 };

@@ -375,7 +375,7 @@ BuildInAudioRecordDelegate* BuildInAudioRecord::delegate() const {
 }
 
 void BuildInAudioRecord::setDelegate(BuildInAudioRecordDelegate* delegate) {
-    const Platform::CyclesHeld held(audioUnit_.get()); // when this returns, the old delegate is not called any more
+    const Platform::HeldCycles held(audioUnit_.get()); // when this returns, the old delegate is not called any more
     delegate_ = delegate;
 }
 
@@ -402,7 +402,7 @@ QString BuildInAudioRecord::lastError() const {
     return lastError_;
 }
 
-Platform::MediaError BuildInAudioRecord::writeError() const {
+Platform::Error BuildInAudioRecord::writeError() const {
     const std::lock_guard lock(mutex_);
     return outputM4a_.writer ? outputM4a_.writer->firstError() : writeError_;
 }

@@ -105,7 +105,7 @@ public:
     /// Why configureAudioUnit() or setOutPutAudioPath() failed, for the user.
     [[nodiscard]] virtual QString lastError() const;
     /// The first write error of the open M4A file, or of the one that was closed last. Any thread.
-    [[nodiscard]] virtual Platform::MediaError writeError() const;
+    [[nodiscard]] virtual Platform::Error writeError() const;
     /// Replaces the M4A writer with a new one at @p path during a recording: no frame is lost or repeated between the
     /// two files. Returns at once. The old file is closed on its own thread, which then calls @p closed with the old
     /// path and its status; when no file was open, it is called before this returns. The next @p framesBefore frames
@@ -154,7 +154,7 @@ private:
     OSStatus writeM4a(const AudioTimeStamp& timeStamp, std::uint32_t first, std::uint32_t frames);
     OSStatus writeCycle(Export& file, std::uint32_t first, std::uint32_t frames);
     [[nodiscard]] std::unique_ptr<Platform::ExtAudioFileWriter> createWriter(const QString& path, int forType);
-    [[nodiscard]] bool noteFailure(const Platform::MediaError& error, const QString& path);
+    [[nodiscard]] bool noteFailure(const Platform::Error& error, const QString& path);
     void finishCut();
     void clientRecievedBuiltInAudioData(float level);
     void clientRecievedComputerAudioData(float level);
@@ -201,7 +201,7 @@ private:
 
     bool isRunning_ = false;
     QString lastError_;
-    Platform::MediaError writeError_;
+    Platform::Error writeError_;
     Platform::InputUnit::EventHandler eventHandler_;
     bool fillLostFrames_ = false;
     std::atomic<std::int64_t> framesAccepted_{0}; // negative while a cut waits
@@ -220,16 +220,4 @@ private:
     /// thread waits. A cycle only takes it when a recording starts or a file is exchanged.
     mutable std::mutex mutex_;
     std::unique_ptr<Platform::InputUnit> audioUnit_; // closed first: cycles use the other members until then
-};
-
-/// Keeps one engine from starting a cycle while it lives. Its unit must not be replaced meanwhile.
-class HeldCycles {
-public:
-    explicit HeldCycles(BuildInAudioRecord& engine) : engine_(engine) { engine_.holdCycles(); }
-    ~HeldCycles() { engine_.releaseCycles(); }
-    HeldCycles(const HeldCycles&) = delete;
-    HeldCycles& operator=(const HeldCycles&) = delete;
-
-private:
-    BuildInAudioRecord& engine_;
 };

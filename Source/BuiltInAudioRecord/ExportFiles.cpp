@@ -36,11 +36,15 @@ AudioStreamBasicDescription BuildInAudioRecord::exportDescription(int type) cons
 /// Creates the writer without preparing it for frames: until then it may continue another one.
 std::unique_ptr<ExtAudioFileWriter> BuildInAudioRecord::createWriter(const QString& path, int forType) {
     const std::uint32_t fileType = forType == 1 ? kAudioFileM4AType : forType == 0 ? kAudioFileWAVEType : 0;
-    Platform::MediaError error;
-    auto writer = Platform::services().mediaFiles->createWriter(path, fileType, exportDescription(forType),
-                                                                kAudioFileFlags_EraseFile, error);
-    if (!writer || writer->setClientDataFormat(actualOutputFormat_) != noErr) {
-        (void)noteFailure(writer ? writer->firstError() : error, path);
+    auto created = Platform::services().mediaFiles->createWriter(path, fileType, exportDescription(forType),
+                                                                 kAudioFileFlags_EraseFile);
+    if (!created) {
+        (void)noteFailure(created.error(), path);
+        return nullptr;
+    }
+    auto writer = *std::move(created);
+    if (writer->setClientDataFormat(actualOutputFormat_) != noErr) {
+        (void)noteFailure(writer->firstError(), path);
         return nullptr;
     }
     if (deviceFormat_.mChannelsPerFrame == 1 && actualOutputFormat_.mChannelsPerFrame == 2 &&
@@ -51,7 +55,7 @@ std::unique_ptr<ExtAudioFileWriter> BuildInAudioRecord::createWriter(const QStri
     return writer;
 }
 
-bool BuildInAudioRecord::noteFailure(const Platform::MediaError& error, const QString& path) {
+bool BuildInAudioRecord::noteFailure(const Platform::Error& error, const QString& path) {
     const std::lock_guard lock(mutex_);
     lastError_ = error ? error.text : QStringLiteral("%1 cannot be written").arg(path);
     return false;
@@ -67,7 +71,7 @@ std::unique_ptr<ExtAudioFileWriter> BuildInAudioRecord::setOutAudioPath(const QS
 }
 
 std::unique_ptr<ExtAudioFileWriter> BuildInAudioRecord::takeWriter(Export& file) {
-    const Platform::CyclesHeld held(audioUnit_.get());
+    const Platform::HeldCycles held(audioUnit_.get());
     if (&file == &outputM4a_)
         finishCut();
     const std::lock_guard lock(mutex_);
@@ -88,7 +92,7 @@ bool BuildInAudioRecord::openExport(Export& file, const QString& path, int type)
     if (const auto old = takeWriter(file))
         (void)old->dispose();
     auto writer = setOutAudioPath(path, type);
-    const Platform::CyclesHeld held(audioUnit_.get());
+    const Platform::HeldCycles held(audioUnit_.get());
     const std::lock_guard lock(mutex_);
     file.clientFormat = actualOutputFormat_;
     file.writer = std::move(writer);
@@ -115,7 +119,7 @@ bool BuildInAudioRecord::setOutPutAudioPath(const QString& path, int forType) {
 
 bool BuildInAudioRecord::exchangeM4aFile(const QString& path, std::function<void(QString, OSStatus)> closed,
                                          std::int64_t framesBefore) {
-    const Platform::CyclesHeld held(audioUnit_.get());
+    const Platform::HeldCycles held(audioUnit_.get());
     finishCut();
     if (!outputM4a_.writer) {
         const QString oldPath = outputM4aFilePath();

@@ -174,10 +174,11 @@ std::optional<DRLayout> BurnControl::createLayoutForCDBurn(const QList<Dictionar
     for (const Dictionary& entry : entries) {
         if (!boolValue(entry.value(TrackEntry::ChooseTheAudio)))
             continue;
-        auto track = recording().trackForAudioFile(entry.value(TrackEntry::FilePath).toString(), layoutProblem_);
+        auto track = recording().trackForAudioFile(entry.value(TrackEntry::FilePath).toString());
+        layoutProblem_ = track.error().text;
         if (!track)
             return std::nullopt;
-        layout.push_back(std::move(track));
+        layout.push_back(*std::move(track));
     }
     for (const auto& track : layout) {
         DRTrackProperties properties = track->properties();
@@ -217,7 +218,8 @@ void BurnControl::beginDVDMediaBurn(const QString& imagePath) {
     const auto device = deviceAt(recordNum_);
     if (!device)
         return;
-    const auto layout = recording().layoutForImageFile(imagePath, layoutProblem_);
+    const auto layout = recording().layoutForImageFile(imagePath);
+    layoutProblem_ = layout.error().text;
     const auto burn = recording().burnWithDevice(device);
     if (!burn)
         return;
@@ -229,7 +231,7 @@ void BurnControl::beginDVDMediaBurn(const QString& imagePath) {
     properties.completionAction = DRBurnCompletionActionMount;
     properties.udfWriteVersion = DRUDFVersion150;
     burn->setProperties(properties);
-    burn->writeLayout(layout);
+    burn->writeLayout(layout ? std::optional(*layout) : std::nullopt);
     keep(std::exchange(burn_, burn));
 }
 

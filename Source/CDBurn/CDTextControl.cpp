@@ -11,7 +11,7 @@
 
 namespace {
 
-using Kind = Platform::MediaError::Kind;
+using Kind = Platform::Error::Kind;
 
 constexpr OSStatus kNoSuchFile = -43;
 constexpr OSStatus kNotPermitted = OSStatus(fourCharCode("prm?"));
@@ -54,12 +54,13 @@ Dictionary entryOf(const QString& path, std::int64_t wholeSeconds) {
 
 OSStatus CreateAudioFileFromPath(const QString& path, Platform::AudioFileInfo& audioFile) {
     Platform::MediaFiles* const files = Platform::services().mediaFiles;
-    Platform::MediaError error;
     if (!files)
         return kUnspecified;
-    if (files->info(path, audioFile, error))
-        return noErr;
-    return error ? statusOf(error.kind) : kUnspecified;
+    const auto info = files->info(path);
+    if (!info)
+        return statusOf(info.error().kind);
+    audioFile = *info;
+    return noErr;
 }
 
 std::uint64_t CAGetLengthOfAudioFile(const QString& path) {

@@ -96,10 +96,9 @@ Result run(ConverterAudioControl& converter, const Task& task, const std::functi
         return result;
 
     const QString& hidden = file.path();
-    QString why;
-    auto note = EditNote::begin(task.source, task.source, hidden, why);
+    auto note = EditNote::begin(task.source, task.source, hidden);
     if (!note) {
-        result.problem = why;
+        result.problem = note.error().text;
         return result;
     }
     const QString ownArtwork = task.artworkPath.isEmpty() ? FileTags::artworkFile(task.source) : QString();
@@ -108,7 +107,7 @@ Result run(ConverterAudioControl& converter, const Task& task, const std::functi
     if (!ownArtwork.isEmpty())
         (void)FileManager::removeFile(ownArtwork);
 
-    if (!FileTags::agree(hidden, task.entry)) {
+    if (!FileTags::agree(hidden, task.entry).valueOr(false)) {
         const qint64 room = FileManager::availableBytes(file.target());
         result.problem = room >= 0 && room < QFileInfo(temporary).size()
                              ? text(QT_TRANSLATE_NOOP("AudioTrimSave", "There is no room left on the disk."))
@@ -124,7 +123,7 @@ Result run(ConverterAudioControl& converter, const Task& task, const std::functi
         return result;
     }
     Platform::noteFileSystemChanged(file.target());
-    result.note = std::move(note);
+    result.note = *std::move(note);
     result.done = true;
     if (progress)
         (void)progress(1);

@@ -73,19 +73,16 @@ bool ConverterAudioControl::createOutPutFile(const QString& path, int type) {
     auto* files = Platform::services().mediaFiles;
     const auto folder = QFileInfo(path).path();
     if (!files || !QFileInfo(folder).isDir()) {
-        exportError_ = {Platform::MediaError::Kind::NotFound, u"%1: no such folder"_s.arg(folder)};
+        exportError_ = {Platform::Error::Kind::NotFound, u"%1: no such folder"_s.arg(folder)};
         return false;
     }
 
-    auto file =
-        files->createWriter(path, containerOf(type), exportDescription(type), kAudioFileFlags_EraseFile, exportError_);
-    if (!file) {
-        if (!exportError_)
-            exportError_ = {Platform::MediaError::Kind::Other, u"%1 cannot be written"_s.arg(path)};
+    auto file = files->createWriter(path, containerOf(type), exportDescription(type), kAudioFileFlags_EraseFile);
+    exportError_ = file.error();
+    if (!file)
         return false;
-    }
     // Kept from here on, even when the next step fails: the owner closes it or starts another one.
-    outputAudioFile_ = std::move(file);
+    outputAudioFile_ = *std::move(file);
     if (outputAudioFile_->setClientDataFormat(actualOutputFormat_) != noErr) {
         exportError_ = outputAudioFile_->firstError();
         return false;
@@ -102,15 +99,14 @@ bool ConverterAudioControl::openSource(const QString& path, Source& source) {
     sourceError_ = {};
     auto* files = Platform::services().mediaFiles;
     if (!files || !QFileInfo::exists(path)) {
-        sourceError_ = {Platform::MediaError::Kind::NotFound, u"%1: no such file"_s.arg(path)};
+        sourceError_ = {Platform::Error::Kind::NotFound, u"%1: no such file"_s.arg(path)};
         return false;
     }
-    source.file = files->openReader(path, sourceError_);
-    if (!source.file) {
-        if (!sourceError_)
-            sourceError_ = {Platform::MediaError::Kind::Other, u"%1 cannot be read"_s.arg(path)};
+    auto file = files->openReader(path);
+    sourceError_ = file.error();
+    if (!file)
         return false;
-    }
+    source.file = *std::move(file);
     source.rate = actualOutputFormat_.mSampleRate;
     if (source.file->setClientDataFormat(actualOutputFormat_) != noErr) {
         sourceError_ = source.file->firstError();

@@ -35,9 +35,9 @@ public:
     void converterFinish();
 
     /// The first error of the last output: the copy itself ignores it, its caller must check it.
-    [[nodiscard]] Platform::MediaError exportError() const { return exportError_; }
+    [[nodiscard]] Platform::Error exportError() const { return exportError_; }
     /// Why the source of the last copy could not be opened, or the first damage found in it.
-    [[nodiscard]] Platform::MediaError sourceError() const { return sourceError_; }
+    [[nodiscard]] Platform::Error sourceError() const { return sourceError_; }
     /// Called now and then on the copying thread with the progress from 0 to 1. When it returns false the copy ends:
     /// the output is closed, converterFinish() is not called, and the copy returns false.
     void setProgress(std::function<bool(double)> progress) { progress_ = std::move(progress); }
@@ -54,7 +54,7 @@ private:
     QString outputAudioFilePath_;
     AudioStreamBasicDescription actualOutputFormat_;
     ConverterAudioControlDelegate* delegate_ = nullptr;
-    Platform::MediaError exportError_;
-    Platform::MediaError sourceError_;
+    Platform::Error exportError_;
+    Platform::Error sourceError_;
     std::function<bool(double)> progress_;
 };

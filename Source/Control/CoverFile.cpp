@@ -25,8 +25,7 @@ QString writeCover(const QString& audioFile, const QString& folder) {
     // The name is a hash of the content: programs cache pictures by URL, so another picture needs another URL.
     const QString name = QString::fromLatin1(QCryptographicHash::hash(picture, QCryptographicHash::Sha1).toHex());
     const QString path = folder + u'/' + name + (picture.startsWith("\x89PNG") ? u".png"_s : u".jpg"_s);
-    return QFileInfo::exists(path) || Platform::FileManager::writeAtomically(path, picture, 0600).isEmpty() ? path
-                                                                                                            : QString();
+    return QFileInfo::exists(path) || Platform::FileManager::writeAtomically(path, picture, 0600) ? path : QString();
 }
 
 } // namespace

@@ -47,11 +47,9 @@ Dictionary factsOf(const QString& path) {
         facts.insert(AudioRecordEntry::Year, tags->year);
         facts.insert(AudioRecordEntry::Genre, tags->genre);
     }
-    Platform::AudioFileInfo info;
-    Platform::MediaError error;
-    auto* const files = Platform::services().mediaFiles;
-    if (files && files->info(path, info, error))
-        facts.insert(AudioRecordEntry::Length, float(info.seconds));
+    if (auto* const files = Platform::services().mediaFiles)
+        if (const auto info = files->info(path))
+            facts.insert(AudioRecordEntry::Length, float(info->seconds));
     return facts;
 }
 
@@ -75,29 +73,23 @@ bool settle(const QByteArray& content) {
 
 } // namespace
 
-std::optional<EditNote> EditNote::begin(const QString& path, const QString& newPath, const QString& hidden,
-                                        QString& why) {
+Platform::Result<EditNote> EditNote::begin(const QString& path, const QString& newPath, const QString& hidden) {
+    using Platform::Error;
     const QString folder = notesFolder();
-    if (!QDir().mkpath(folder)) {
-        why = u"%1: the folder cannot be made"_s.arg(folder);
-        return {};
-    }
+    if (!QDir().mkpath(folder))
+        return Error{Error::Kind::Other, u"%1: the folder cannot be made"_s.arg(folder)};
     Platform::FileLock lock;
     const QString name = folder + u'/' + QString::number(QRandomGenerator::global()->generate64(), 36) + kEnding;
-    if (lock.take(name) != Platform::FileLock::Result::Held) {
-        why = lock.problem();
-        return {};
-    }
+    if (const auto taken = lock.take(name); !taken)
+        return taken.error();
     const QJsonObject note{{u"path"_s, path}, {u"newPath"_s, newPath}, {u"hidden"_s, hidden}};
     QFile file(name);
     const QByteArray content = QJsonDocument(note).toJson(QJsonDocument::Compact);
     const bool written = file.open(QIODevice::WriteOnly | QIODevice::ExistingOnly) &&
-                         file.write(content) == content.size() && file.flush() &&
-                         Platform::FileManager::sync(name).isEmpty();
+                         file.write(content) == content.size() && file.flush() && Platform::FileManager::sync(name);
     if (!written) {
-        why = u"%1: %2"_s.arg(name, file.errorString());
         lock.removeAndRelease();
-        return {};
+        return Error{Error::Kind::Other, u"%1: %2"_s.arg(name, file.errorString())};
     }
     return EditNote(std::move(lock));
 }
@@ -112,7 +104,7 @@ void EditNote::recover() {
     const QDir folder(notesFolder());
     for (const QString& name : folder.entryList({u'*' + kEnding}, QDir::Files)) {
         Platform::FileLock lock;
-        if (lock.take(folder.filePath(name)) != Platform::FileLock::Result::Held)
+        if (!lock.take(folder.filePath(name)))
             continue; // its process is still running
         QFile file(folder.filePath(name));
         if (file.open(QIODevice::ReadOnly) && settle(file.read(kLongestNote)))

@@ -4,8 +4,6 @@
 
 #include "Platform/Foundation/FileLock.h"
 
-#include <optional>
-
 /// A note on the disk about a change of a recording's file that its library entry must follow. The file changes first
 /// and the entry is stored later; when the process is killed in between, the next start finds the note and updates the
 /// entry from the file. Movable; one thread at a time.
@@ -13,9 +11,8 @@ class EditNote {
 public:
     /// Writes and syncs the note. @p path is the recording, @p newPath its name afterwards (may be the same), @p hidden
     /// a hidden file that is written beside it and removed after a crash; may be empty.
-    /// @return nothing, with the reason in @p why, when the note cannot be written; then the change must not begin.
-    [[nodiscard]] static std::optional<EditNote> begin(const QString& path, const QString& newPath,
-                                                       const QString& hidden, QString& why);
+    /// After an error the change must not begin.
+    static Platform::Result<EditNote> begin(const QString& path, const QString& newPath, const QString& hidden);
     EditNote(EditNote&&) noexcept = default;
     EditNote& operator=(EditNote&&) noexcept = default;
     /// Keeps the note when end() was not called: the next start handles it.

@@ -51,14 +51,16 @@ QString artworkFile(const QString& path) {
     if (picture.isEmpty())
         return {};
     const QString copy = g_strTmpPath + u"/OwnArtwork%1.png"_s.arg(counter++);
-    return Platform::FileManager::writeAtomically(copy, picture).isEmpty() ? copy : QString();
+    return Platform::FileManager::writeAtomically(copy, picture) ? copy : QString();
 }
 
-bool agree(const QString& path, const Dictionary& entry, QString* why) {
+Platform::Result<bool> agree(const QString& path, const Dictionary& entry) {
     using namespace AudioRecordEntry;
-    const auto tags = Platform::BasicID3Change::read(path, why);
+    const auto tags = Platform::BasicID3Change::read(path);
+    if (!tags)
+        return tags.error();
     const auto text = [&](const QString& key) { return entry.contains(key) ? kept(entry.value(key)) : QString(); };
-    return tags && tags->title == text(Title) && tags->artist == text(Artist) && tags->album == text(Album) &&
+    return tags->title == text(Title) && tags->artist == text(Artist) && tags->album == text(Album) &&
            tags->genre == text(Genre) && tags->year == Platform::intValue(entry.value(Year));
 }
 

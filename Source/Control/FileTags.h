@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Platform/Foundation/Dictionary.h"
+#include "Platform/Foundation/Result.h"
 
 #include <QByteArray>
 
@@ -20,7 +21,7 @@ namespace FileTags {
 /// @return its path, which the caller must remove; empty when there is no cover or no space
 [[nodiscard]] QString artworkFile(const QString& path);
 
-/// Whether the file has the five text tags of an entry. When the file cannot be read, @p why holds the reason.
-[[nodiscard]] bool agree(const QString& path, const Dictionary& entry, QString* why = nullptr);
+/// Whether the file has the five text tags of an entry; an error when the file cannot be read.
+Platform::Result<bool> agree(const QString& path, const Dictionary& entry);
 
 } // namespace FileTags

@@ -43,10 +43,10 @@ QString behindLink(const QString& path) {
 
 /// Moves a file into the temporary folder. @return whether it is there now and nowhere else
 bool moveAway(const QString& path, const QString& working) {
-    const auto problem = MovedFiles::moveAway(path, working);
-    if (problem.isEmpty())
+    const auto moved = MovedFiles::moveAway(path, working);
+    if (moved)
         return true;
-    qCWarning(changeLog, "cannot move %s away: %s", qUtf8Printable(path), qUtf8Printable(problem));
+    qCWarning(changeLog, "cannot move %s away: %s", qUtf8Printable(path), qUtf8Printable(moved.error().forLog()));
     if (!QFileInfo::exists(path))
         return QFileInfo::exists(working);
     (void)FileManager::removeFile(working); // a copy whose original could not be removed
@@ -56,7 +56,7 @@ bool moveAway(const QString& path, const QString& working) {
 
 /// Moves a file back from the temporary folder; when another file has its place by now, both are kept.
 void moveBack(const QString& from, const QString& to) {
-    if (!FileManager::move(from, to).isEmpty() && QFileInfo::exists(from)) {
+    if (!FileManager::move(from, to) && QFileInfo::exists(from)) {
         const QString kept = FileManager::setAside(from, QFileInfo(to).fileName());
         qCWarning(changeLog, "%s could not be put back; it is at %s", qUtf8Printable(to), qUtf8Printable(kept));
     }

@@ -37,9 +37,10 @@ QString createPathForImage(const QImage& image) {
     const QString path = g_strTmpPath + u"/ArtworkImage"_s + QString::number(imageCounter++) + u".png"_s;
     (void)FileManager::removeFile(path);
     const QByteArray jpeg = jpegOf(image);
-    const auto problem = jpeg.isEmpty() ? u"no image"_s : FileManager::writeAtomically(path, jpeg);
-    if (!problem.isEmpty())
-        qCWarning(picturesLog, "cannot write %s: %s", qUtf8Printable(path), qUtf8Printable(problem));
+    if (jpeg.isEmpty())
+        qCWarning(picturesLog, "cannot write %s: no image", qUtf8Printable(path));
+    else if (const auto written = FileManager::writeAtomically(path, jpeg); !written)
+        qCWarning(picturesLog, "cannot write %s: %s", qUtf8Printable(path), qUtf8Printable(written.error().forLog()));
     return path;
 }
 

@@ -55,9 +55,11 @@ Result save(const Dictionary& before, const Dictionary& edited, const Artwork& a
         return result;
     }
     const QString title = text(edited, Title);
-    auto note = EditNote::begin(path, RecordingRename::pathForTitle(path, title), {}, result.notice);
-    if (!note)
+    auto note = EditNote::begin(path, RecordingRename::pathForTitle(path, title), {});
+    if (!note) {
+        result.notice = note.error().text;
         return result;
+    }
 
     QString picture = artwork.path;
     QString own;
@@ -74,9 +76,9 @@ Result save(const Dictionary& before, const Dictionary& edited, const Artwork& a
         return result;
     }
 
-    QString why;
     (void)ID3ChangeControl::changeID3Info(path, edited);
-    if (!FileTags::agree(path, edited, &why)) {
+    if (const auto agrees = FileTags::agree(path, edited); !agrees || !*agrees) {
+        const QString why = agrees.error().text;
         result.notice = sentence(QT_TRANSLATE_NOOP("ID3EditSave", "The tags of “%1” could not be written"), path) +
                         (why.isEmpty() ? u"."_s : u": "_s + why);
         note->end();
@@ -86,7 +88,7 @@ Result save(const Dictionary& before, const Dictionary& edited, const Artwork& a
     result.entry = edited;
     result.entry.insert(SavePath, renamed.path);
     result.notice = renamed.notice;
-    result.note = std::move(note);
+    result.note = *std::move(note);
     return result;
 }
 

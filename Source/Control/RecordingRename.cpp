@@ -54,7 +54,9 @@ Outcome rename(const QString& path, const QString& title) {
     if (why.isEmpty() && (QFileInfo::exists(target) || QFileInfo(target).isSymLink()))
         why = text("there is already a file named “%1” in its folder").replace(u"%1"_s, shown(name));
     if (why.isEmpty()) {
-        why = Platform::FileManager::move(path, target); // also refused when another process created the name first
+        why = Platform::FileManager::move(path, target)
+                  .error()
+                  .text; // also refused when another process created the name first
         if (why.isEmpty()) {
             Platform::noteFileSystemChanged(path);
             Platform::noteFileSystemChanged(target);

@@ -85,9 +85,7 @@ QString getTimeString(std::int64_t seconds) {
 
 float getAudioLength(const QString& path) {
     Platform::MediaFiles* const files = Platform::services().mediaFiles;
-    Platform::AudioFileInfo info;
-    Platform::MediaError error;
-    return files && files->info(path, info, error) ? static_cast<float>(info.seconds) : 0.0F;
+    return files ? static_cast<float>(files->info(path).valueOr({}).seconds) : 0.0F;
 }
 
 std::int32_t getDirectorySize(const QString& path) {

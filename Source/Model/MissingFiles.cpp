@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/Model/MissingFiles.h"
 
+#include "Platform/Foundation/MainQueue.h"
+
 #include <QFileInfo>
 
 #include <utility>
@@ -37,38 +39,31 @@ void MissingFiles::lookAt(const QString& path) {
     wanted_.append(path);
     if (std::exchange(askScheduled_, true))
         return;
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            askScheduled_ = false;
-            worker_.start([this, paths = std::exchange(wanted_, {})] {
-                QHash<QString, bool> answers;
-                QSet<QString> folders;
-                for (const QString& each : paths) {
-                    const QFileInfo info(each);
-                    answers.insert(each, !info.exists());
-                    folders.insert(info.path());
+    Platform::MainQueue::post(this, [this] {
+        askScheduled_ = false;
+        worker_.start([this, paths = std::exchange(wanted_, {})] {
+            QHash<QString, bool> answers;
+            QSet<QString> folders;
+            for (const QString& each : paths) {
+                const QFileInfo info(each);
+                answers.insert(each, !info.exists());
+                folders.insert(info.path());
+            }
+            Platform::MainQueue::post(this, [this, answers, folders] {
+                bool news = false;
+                for (auto it = answers.cbegin(); it != answers.cend(); ++it) {
+                    if (missing_.value(it.key()) != it.value())
+                        news = true;
+                    missing_.insert(it.key(), it.value());
                 }
-                QMetaObject::invokeMethod(
-                    this,
-                    [this, answers, folders] {
-                        bool news = false;
-                        for (auto it = answers.cbegin(); it != answers.cend(); ++it) {
-                            if (missing_.value(it.key()) != it.value())
-                                news = true;
-                            missing_.insert(it.key(), it.value());
-                        }
-                        for (const QString& folder : folders)
-                            if (folders_.directories().size() < kWatchedFolders &&
-                                !folders_.directories().contains(folder))
-                                folders_.addPath(folder);
-                        if (news)
-                            Q_EMIT changed();
-                    },
-                    Qt::QueuedConnection);
+                for (const QString& folder : folders)
+                    if (folders_.directories().size() < kWatchedFolders && !folders_.directories().contains(folder))
+                        folders_.addPath(folder);
+                if (news)
+                    Q_EMIT changed();
             });
-        },
-        Qt::QueuedConnection);
+        });
+    });
 }
 
 void MissingFiles::forget(const QString& path) {

@@ -7,8 +7,6 @@
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/UserDefaults.h"
 
-#include <QDir>
-
 std::atomic<std::int32_t> g_SplitTimeMS{-1};
 QString g_strTmpPath;
 
@@ -25,17 +23,6 @@ void setPreferenceValue(const QVariant& object, const QString& key) {
 
 QString defaultMusicFolder() {
     return Platform::Folders::home() + QStringLiteral("/Music/%1").arg(Platform::services().bundle->bundleIdentifier());
-}
-
-QString folderOf(const QVariant& stored) {
-    const QString path = stored.typeId() == QMetaType::QString ? stored.toString() : QString();
-    return QDir::isAbsolutePath(path) ? path : defaultMusicFolder();
-}
-
-std::int32_t storedSplitTimeMS() {
-    if (!Platform::boolValue(preferenceValueForKey(PreferenceSplitKey, 0)))
-        return -1;
-    return Platform::intValue(preferenceValueForKey(PreferenceSplitTimeMSKey, QStringLiteral("300")));
 }
 
 } // namespace PreferenceStore

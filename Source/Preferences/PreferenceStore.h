@@ -16,7 +16,8 @@ extern std::atomic<std::int32_t> g_SplitTimeMS;
 /// at launch, before any other thread runs.
 extern QString g_strTmpPath;
 
-/// All access to the stored settings. The preferences window forwards its operations here.
+/// All access to the stored settings. The preferences window forwards its operations here. Types and defaults of
+/// the settings stand in Source/Preferences/Settings.h.
 namespace PreferenceStore {
 
 inline const QString PreferenceSplitKey = QStringLiteral("PreferenceSplitKey");
@@ -43,11 +44,4 @@ void setPreferenceValue(const QVariant& object, const QString& key);
 
 /// $HOME/Music/<bundle identifier>, evaluated at each call.
 [[nodiscard]] QString defaultMusicFolder();
-/// The folder in a stored value. A value that is not a text, is empty or is not an absolute path gives
-/// defaultMusicFolder(): a relative one would depend on the working folder of the program.
-[[nodiscard]] QString folderOf(const QVariant& stored);
-
-/// -1 when splitting is off, else the leading integer of the stored time: the value of g_SplitTimeMS at launch.
-[[nodiscard]] std::int32_t storedSplitTimeMS();
-
 } // namespace PreferenceStore

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Platform/Foundation/Dictionary.h"
-#include "Source/Preferences/PreferenceStore.h"
+#include "Source/Preferences/Settings.h"
 
 #include <mutex>
 
@@ -11,28 +11,27 @@
 class RecordPreferences {
 public:
     virtual ~RecordPreferences() = default;
-    [[nodiscard]] virtual QVariant value(const QString& key, const QVariant& defaultObject) const {
-        return PreferenceStore::preferenceValueForKey(key, defaultObject);
-    }
-    virtual void setValue(const QVariant& object, const QString& key) {
-        PreferenceStore::setPreferenceValue(object, key);
+    /// A usable object, see Settings::Setting.
+    [[nodiscard]] virtual QVariant value(const Settings::Setting& setting) const { return Settings::value(setting); }
+    virtual void setValue(const QVariant& object, const Settings::Setting& setting) {
+        Settings::setValue(object, setting);
     }
 };
 
 /// Settings of one run that override the stored ones. The stored settings are not changed.
 class OverriddenPreferences final : public RecordPreferences {
 public:
-    [[nodiscard]] QVariant value(const QString& key, const QVariant& defaultObject) const override {
+    [[nodiscard]] QVariant value(const Settings::Setting& setting) const override {
         {
             const std::scoped_lock lock(mutex_);
-            if (const auto found = overrides_.constFind(key); found != overrides_.constEnd())
-                return found.value();
+            if (const auto found = overrides_.constFind(setting.key); found != overrides_.constEnd())
+                return setting.usable(found.value());
         }
-        return RecordPreferences::value(key, defaultObject);
+        return RecordPreferences::value(setting);
     }
-    void setValue(const QVariant& object, const QString& key) override {
+    void setValue(const QVariant& object, const Settings::Setting& setting) override {
         const std::scoped_lock lock(mutex_);
-        overrides_.insert(key, object);
+        overrides_.insert(setting.key, object);
     }
 
 private:
@@ -46,9 +45,8 @@ struct RecordFilter {
     int seconds = 0;
 
     [[nodiscard]] static RecordFilter read(const RecordPreferences& preferences) {
-        const QVariant filter = preferences.value(PreferenceStore::PreferenceFilterKey, 1);
-        const QVariant time = preferences.value(PreferenceStore::PreferenceFilterTimeKey, QStringLiteral("5"));
-        return {filter.isValid() && Platform::boolValue(filter), Platform::intValue(time)};
+        return {Platform::boolValue(preferences.value(Settings::filter)),
+                Platform::intValue(preferences.value(Settings::filterTime))};
     }
     [[nodiscard]] bool drops(float length) const { return on && length < static_cast<float>(seconds); }
 };

@@ -71,8 +71,7 @@ QString RecordStateController::getAudioRecordPath() {
 }
 
 QString RecordStateController::nextRingtoneMakerFilePath() {
-    return RecordingNames::nextRingtoneMakerFilePath(PreferenceStore::folderOf(
-        d->preferences->value(PreferenceStore::PreferenceRingtoneSavePathKey, PreferenceStore::defaultMusicFolder())));
+    return RecordingNames::nextRingtoneMakerFilePath(d->preferences->value(Settings::ringtoneSavePath).toString());
 }
 
 void RecordStateController::finishAll() {

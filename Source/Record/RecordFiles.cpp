@@ -32,8 +32,7 @@ bool RecordStateController::Private::Ending::isEmpty() const {
 }
 
 QString RecordStateController::Private::recordFolder() const {
-    return PreferenceStore::folderOf(
-        preferences->value(PreferenceStore::PreferenceSavePathKey, PreferenceStore::defaultMusicFolder()));
+    return preferences->value(Settings::savePath).toString();
 }
 
 QString RecordStateController::Private::rawPath(const RecordSource& source) {
@@ -109,9 +108,10 @@ std::function<void(QString, OSStatus)> RecordStateController::Private::whenClose
     ++job->openFiles;
     return [guard = queue->guard(), job, remove](const QString& path, OSStatus status) {
         if (remove)
-            if (const auto problem = removeFile(path); !problem.isEmpty())
-                qWarning("%s stays in the temporary folder: %s", qUtf8Printable(path), qUtf8Printable(problem));
-        RecordQueue::rawFileClosed(guard, job, path, status);
+            if (const auto removed = removeFile(path); !removed)
+                qWarning("%s stays in the temporary folder: %s", qUtf8Printable(path),
+                         qUtf8Printable(removed.error().forLog()));
+        RecordQueue::rawFileClosed(guard, job, status);
     };
 }
 

@@ -104,21 +104,15 @@ void RecordStateController::Private::queueNotice(const RecordNotice& told) {
 
 /// Always posted: callers may hold the mutex, and the receivers of noticesChanged() read the state, which takes it.
 void RecordStateController::Private::notice(RecordNotice notice) {
-    Platform::MainQueue::post(
-        [this, guard = std::weak_ptr<int>(alive), number = recordingNumber_.load(), notice = std::move(notice)] {
-            if (guard.expired())
-                return;
-            if (number != recordingNumber_ && !notice.outlivesRecording && notice.kept.isEmpty())
-                return;
-            notices_.show(notice);
-        });
+    alive.post([this, number = recordingNumber_.load(), notice = std::move(notice)] {
+        if (number != recordingNumber_ && !notice.outlivesRecording && notice.kept.isEmpty())
+            return;
+        notices_.show(notice);
+    });
 }
 
 void RecordStateController::Private::withdrawNotice(const QString& event) {
-    Platform::MainQueue::post([this, guard = std::weak_ptr<int>(alive), event] {
-        if (!guard.expired())
-            notices_.withdraw(event);
-    });
+    alive.post([this, event] { notices_.withdraw(event); });
 }
 
 void RecordStateController::Private::deviceEvent(Platform::InputUnit::Event event, RecordSource& source) {

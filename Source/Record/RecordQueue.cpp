@@ -20,7 +20,7 @@
 #include <cmath>
 
 using namespace Qt::StringLiterals;
-using Platform::MediaError;
+using Platform::Error;
 
 namespace {
 
@@ -32,15 +32,16 @@ constexpr double MixShare = 0.3;
 constexpr double LargestDrift = 2e-3;
 
 /// The error text of a failed step without its trailing full stop, so that it fits into a sentence.
-QString reason(const MediaError& error) {
+QString reason(const Error& error) {
     return error.text.isEmpty() ? u"the reason is unknown"_s : error.text;
 }
 
 /// Deletes a file whose audio is in another file by now.
 void removeTemporaryFile(const QString& path) {
     CutOffRecordings::remove(path);
-    if (const auto problem = Platform::FileManager::removeFile(path); !problem.isEmpty())
-        qWarning("%s stays in the temporary folder: %s", qUtf8Printable(path), qUtf8Printable(problem));
+    if (const auto removed = Platform::FileManager::removeFile(path); !removed)
+        qWarning("%s stays in the temporary folder: %s", qUtf8Printable(path),
+                 qUtf8Printable(removed.error().forLog()));
 }
 
 /// A notice that ends with the place where files were kept. @p what it is that is kept, at the beginning of a sentence.
@@ -78,15 +79,13 @@ ExportJob::Timing ExportJob::timing() const {
     return timing;
 }
 
-RecordQueue::RecordQueue(Owner owner, QObject* parent)
-    : QObject(parent), owner_(std::move(owner)), self_(std::make_shared<RecordQueue*>(this)) {
+RecordQueue::RecordQueue(Owner owner, QObject* parent) : QObject(parent), owner_(std::move(owner)) {
     worker_.setMaxThreadCount(1);
 }
 
 RecordQueue::~RecordQueue() {
     cancelled_ = true;
     worker_.waitForDone();
-    self_.reset(); // after the worker: a running step may copy self_
     for (const auto& job : aryForExportDataInfo_) {
         const QString name = QFileInfo(job->path(ExportJob::OutPutPath)).completeBaseName();
         for (const auto& key :
@@ -103,10 +102,7 @@ RecordQueue::~RecordQueue() {
 }
 
 void RecordQueue::onMain(std::function<void()> work) {
-    Platform::MainQueue::post([guard = Guard(self_), work = std::move(work)] {
-        if (!guard.expired())
-            work();
-    });
+    alive_.post(std::move(work));
 }
 
 void RecordQueue::onWorker(std::function<void()> work) {
@@ -129,14 +125,9 @@ void RecordQueue::append(std::shared_ptr<ExportJob> job) {
         onMain(begin);
 }
 
-void RecordQueue::rawFileClosed(const Guard& guard, const std::shared_ptr<ExportJob>& job, const QString& path,
-                                OSStatus status) {
+void RecordQueue::rawFileClosed(const Guard& guard, const std::shared_ptr<ExportJob>& job, OSStatus status) {
     --job->openFiles;
-    Platform::MainQueue::post([guard, path, status] {
-        const auto self = guard.lock();
-        if (!self)
-            return;
-        RecordQueue& queue = **self;
+    guard.alive.post([&queue = *guard.queue, status] {
         if (status != noErr)
             Q_EMIT queue.noticed(
                 {.text = u"A part of the recording could not be written (error %1). What was written is kept."_s.arg(
@@ -191,19 +182,18 @@ void RecordQueue::moveRawFile(const std::shared_ptr<ExportJob>& job, const QStri
 /// Moves the finished file to its final name, or to the next free one when another file has that name by now.
 bool RecordQueue::deliver(const std::shared_ptr<ExportJob>& job, const QString& file) {
     const QString wished = job->path(ExportJob::OutPutPath);
-    QString landed;
-    const auto problem = Platform::FileManager::moveToFreeName(
-        file, wished, [this](const QString&) { return owner_.nextFreeName(); }, landed);
-    if (!problem.isEmpty()) {
+    const auto landed =
+        Platform::FileManager::moveToFreeName(file, wished, [this](const QString&) { return owner_.nextFreeName(); });
+    if (!landed) {
         setAside(job, {file},
-                 u"%1: %2 could not be saved in “%3”."_s.arg(problem, QFileInfo(wished).fileName(),
+                 u"%1: %2 could not be saved in “%3”."_s.arg(landed.error().text, QFileInfo(wished).fileName(),
                                                              QDir(QFileInfo(wished).path()).dirName()));
         return false;
     }
     CutOffRecordings::remove(file);
-    if (landed != wished) {
+    if (*landed != wished) {
         owner_.releaseName(wished);
-        job->paths.insert(ExportJob::OutPutPath, landed);
+        job->paths.insert(ExportJob::OutPutPath, *landed);
     }
     return true;
 }
@@ -220,14 +210,12 @@ bool RecordQueue::addAudioIntoMove(std::unique_ptr<Platform::Movie>& movie, std:
 
 void RecordQueue::openMovies(const std::shared_ptr<ExportJob>& job) {
     const QStringList raws{job->path(ExportJob::BuiltInAudioTempPath), job->path(ExportJob::ComputerAudioTempPath)};
-    MediaError firstError;
-    MediaError secondError;
     auto* media = Platform::services().mediaFiles;
-    auto first = media->openMovie(raws.at(0), firstError);
-    auto second = media->openMovie(raws.at(1), secondError);
+    auto first = media->openMovie(raws.at(0));
+    auto second = media->openMovie(raws.at(1));
     const QString name = QFileInfo(job->path(ExportJob::OutPutPath)).fileName();
     if (!first && !second) {
-        setAside(job, raws, u"%1 could not be put together: %2."_s.arg(name, reason(firstError)));
+        setAside(job, raws, u"%1 could not be put together: %2."_s.arg(name, reason(first.error())));
         return;
     }
     if (!first || !second) {
@@ -237,7 +225,7 @@ void RecordQueue::openMovies(const std::shared_ptr<ExportJob>& job) {
         if (QFileInfo(bad).size() > 0) {
             const QString kept = Platform::MovedFiles::setAside(bad, QFileInfo(bad).fileName());
             CutOffRecordings::remove(bad);
-            onMain([this, name, kept, why = reason(first ? secondError : firstError)] {
+            onMain([this, name, kept, why = reason(first ? second.error() : first.error())] {
                 Q_EMIT noticed(
                     keptNotice(u"One source of %1 could not be read (%2) and is missing in it."_s.arg(name, why),
                                u"It"_s, {kept}));
@@ -247,8 +235,8 @@ void RecordQueue::openMovies(const std::shared_ptr<ExportJob>& job) {
         return;
     }
     const ExportJob::Timing timing = job->timing();
-    qtMovieForRecord_ = std::move(first);
-    if (addAudioIntoMove(qtMovieForRecord_, std::move(second))) {
+    qtMovieForRecord_ = *std::move(first);
+    if (addAudioIntoMove(qtMovieForRecord_, *std::move(second))) {
         qtMovieForRecord_->setTiming(0, {timing.builtInOffset, 1});
         qtMovieForRecord_->setTiming(1, {timing.computerOffset, timing.computerSpeed});
     }
@@ -259,8 +247,8 @@ void RecordQueue::converterMovie(const std::shared_ptr<ExportJob>& job) {
     const QString wave = job->path(ExportJob::OutPutWAVTempPath);
     const QStringList raws{job->path(ExportJob::BuiltInAudioTempPath), job->path(ExportJob::ComputerAudioTempPath)};
     const QString name = QFileInfo(job->path(ExportJob::OutPutPath)).fileName();
-    if (const auto problem = Platform::FileManager::removeFile(wave); !problem.isEmpty()) {
-        setAside(job, raws, u"%1 could not be mixed: %2."_s.arg(name, problem));
+    if (const auto removed = Platform::FileManager::removeFile(wave); !removed) {
+        setAside(job, raws, u"%1 could not be mixed: %2."_s.arg(name, removed.error().text));
         return;
     }
     const double needed = qtMovieForRecord_->duration() * MixBytesPerSecond;
@@ -272,16 +260,16 @@ void RecordQueue::converterMovie(const std::shared_ptr<ExportJob>& job) {
                      name, QString::number(std::llround(needed / 1e6)), QString::number(available / 1000000)));
         return;
     }
-    const MediaError error = qtMovieForRecord_->writeWave(wave, [this](double share) {
+    const auto mixed = qtMovieForRecord_->writeWave(wave, [this](double share) {
         setProgress(share * MixShare);
         return !cancelled_;
     });
-    const MediaError damage = qtMovieForRecord_->readError();
+    const Error damage = qtMovieForRecord_->readError();
     qtMovieForRecord_.reset();
     if (cancelled_)
         return;
-    if (error) {
-        setAside(job, raws, u"%1 could not be mixed: %2."_s.arg(name, reason(error)));
+    if (!mixed) {
+        setAside(job, raws, u"%1 could not be mixed: %2."_s.arg(name, reason(mixed.error())));
         return;
     }
     CutOffRecordings::add(wave);
@@ -312,8 +300,8 @@ void RecordQueue::converterAudio(const std::shared_ptr<ExportJob>& job) {
     converterAudioControl_.closeExportFile();
     if (cancelled_)
         return;
-    const MediaError error = converterAudioControl_.exportError();
-    const MediaError damage = converterAudioControl_.sourceError();
+    const Error error = converterAudioControl_.exportError();
+    const Error damage = converterAudioControl_.sourceError();
     whole = whole && !error;
     if (!whole) {
         (void)Platform::FileManager::removeFile(encoded);
@@ -351,7 +339,7 @@ QStringList RecordQueue::keepFiles(const ExportJob& job, const QStringList& file
 }
 
 /// Keeps the files under these keys, which could not be read completely. The job continues with the readable parts.
-void RecordQueue::keepDamaged(ExportJob& job, const QStringList& keys, const MediaError& damage) {
+void RecordQueue::keepDamaged(ExportJob& job, const QStringList& keys, const Error& damage) {
     QStringList files;
     for (const QString& key : keys)
         files.append(job.path(key));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Foundation/MainQueue.h"
 #include "Platform/Media/ExtAudioFile.h"
 #include "Source/BuiltInAudioRecord/BuildInAudioRecord.h"
 #include "Source/Control/ConverterAudioControl.h"
@@ -75,10 +76,12 @@ public:
     void append(std::shared_ptr<ExportJob> job);
     /// Reports that one raw file of the job is closed, and its first write error. Any thread. A writer may call this
     /// after the queue is destroyed: the guard, obtained while the queue lives, then makes it do nothing.
-    using Guard = std::weak_ptr<RecordQueue*>;
-    [[nodiscard]] Guard guard() const { return self_; }
-    static void rawFileClosed(const Guard& guard, const std::shared_ptr<ExportJob>& job, const QString& path,
-                              OSStatus status);
+    struct Guard {
+        Platform::MainQueue::WhileAlive::Handle alive;
+        RecordQueue* queue; ///< to be touched in work that @p alive runs
+    };
+    [[nodiscard]] Guard guard() { return {alive_.handle(), this}; }
+    static void rawFileClosed(const Guard& guard, const std::shared_ptr<ExportJob>& job, OSStatus status);
 
     /// Jobs that wait or are running.
     [[nodiscard]] int count() const;
@@ -111,7 +114,7 @@ private:
     bool deliver(const std::shared_ptr<ExportJob>& job, const QString& file);
     void setAside(const std::shared_ptr<ExportJob>& job, const QStringList& files, const QString& why);
     QStringList keepFiles(const ExportJob& job, const QStringList& files);
-    void keepDamaged(ExportJob& job, const QStringList& keys, const Platform::MediaError& damage);
+    void keepDamaged(ExportJob& job, const QStringList& keys, const Platform::Error& damage);
     void tagFile(const ExportJob& job);
     /// Takes the result of a job into the library and goes on with the next one. @p entry is empty when the filter
     /// keeps the file out of the library.
@@ -120,7 +123,7 @@ private:
     void setProgress(double share);
 
     Owner owner_;
-    std::shared_ptr<RecordQueue*> self_;
+    Platform::MainQueue::WhileAlive alive_;
     mutable std::mutex mutex_; ///< guards the list
     std::deque<std::shared_ptr<ExportJob>> aryForExportDataInfo_;
     bool isConverterTherecordAudio_ = false;

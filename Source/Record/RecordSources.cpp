@@ -112,7 +112,7 @@ void RecordSources::configAudioDevice(int index) {
 void RecordSources::bindChosen() {
     // A cut of the computer-audio recording uses the units of both engines, and may happen while the window shows no
     // recording.
-    const HeldCycles held(computerAudioRecord_);
+    const Platform::HeldCycles held(&computerAudioRecord_);
     const QVariant device = aryInputAudioDevice_.at(selected_);
     boundDevice_ = idOf(device);
     if (chosenDevice_ == 0)
@@ -218,7 +218,7 @@ void RecordSources::followDevices() {
         if (idOf(devices.at(i)) == chosenDevice_)
             selected_ = int(i);
     if (selected_ < 0) {
-        const HeldCycles held(computerAudioRecord_);
+        const Platform::HeldCycles held(&computerAudioRecord_);
         boundDevice_ = 0;
         buildInAudioRecord_.cleanUp();
     } else if (idOf(devices.at(selected_)) != boundDevice_) {

@@ -67,7 +67,7 @@ RecordStateController::~RecordStateController() {
     d->endWhatAStopLeft();
     {
         // A cut on the computer-audio engine's I/O thread holds the cycles of the other one, and so uses its unit.
-        const HeldCycles held(*d->computer.engine);
+        const Platform::HeldCycles held(d->computer.engine.get());
         d->builtIn.engine->cleanUp();
     }
     d->computer.engine->cleanUp();
@@ -120,10 +120,10 @@ void RecordStateController::setDisplayClockRunning(bool running) {
 }
 
 void RecordStateController::refreshTheFace() {
-    d->builtIn.checked = Platform::boolValue(d->preferences->value(ChooseRecordBuiltIn, true));
+    d->builtIn.checked = Platform::boolValue(d->preferences->value(Settings::recordBuiltIn));
     d->popUpEnabled_ = d->builtIn.checked;
     d->computer.checked = d->devices->computerAudioDeviceID() != 0 &&
-                          Platform::boolValue(d->preferences->value(ChooseRecordComputerAudio, false));
+                          Platform::boolValue(d->preferences->value(Settings::recordComputerAudio));
     d->changed();
 }
 
@@ -131,7 +131,7 @@ void RecordStateController::chooseRecordBuiltIn(bool on) {
     d->builtIn.checked = on;
     d->builtIn.off = false;
     d->popUpEnabled_ = on;
-    d->preferences->setValue(on, ChooseRecordBuiltIn);
+    d->preferences->setValue(on, Settings::recordBuiltIn);
     d->changed();
 }
 
@@ -151,7 +151,7 @@ void RecordStateController::chooseRecordComputerAudio(bool on) {
     }
     d->computer.checked = on && present;
     d->computer.off = false;
-    d->preferences->setValue(bool(d->computer.checked), ChooseRecordComputerAudio);
+    d->preferences->setValue(bool(d->computer.checked), Settings::recordComputerAudio);
     d->changed();
 }
 
@@ -353,10 +353,7 @@ void RecordStateController::Private::onMain(std::function<void()> work) {
         work();
         return;
     }
-    Platform::MainQueue::post([guard = std::weak_ptr<int>(alive), work = std::move(work)] {
-        if (!guard.expired())
-            work();
-    });
+    alive.post(std::move(work));
 }
 
 void RecordStateController::Private::changed() {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Foundation/MainQueue.h"
 #include "Source/Record/RecordDisplay.h"
 #include "Source/Record/RecordNotices.h"
 #include "Source/Record/RecordQueue.h"
@@ -65,7 +66,7 @@ struct RecordStateController::Private {
     std::unique_ptr<RecordSources> devices;
     QTimer recordTimerForTime_;
     /// Posted work asks whether it expired. I/O threads copy it, so it changes only with the whole object.
-    const std::shared_ptr<int> alive = std::make_shared<int>(0);
+    const Platform::MainQueue::WhileAlive alive;
 
     std::atomic<RecordState> state{RecordState::Idle};
     std::atomic<bool> isRecordPause_{false};
@@ -170,9 +171,10 @@ struct RecordStateController::Private {
 /// that it waits for may need the mutex.
 class CycleHold {
 public:
-    explicit CycleHold(std::array<RecordSource, 2>& sources) : one_(*sources[0].engine), other_(*sources[1].engine) {}
+    explicit CycleHold(std::array<RecordSource, 2>& sources)
+        : one_(sources[0].engine.get()), other_(sources[1].engine.get()) {}
 
 private:
-    HeldCycles one_;
-    HeldCycles other_;
+    Platform::HeldCycles<BuildInAudioRecord> one_;
+    Platform::HeldCycles<BuildInAudioRecord> other_;
 };

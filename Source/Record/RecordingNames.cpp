@@ -112,7 +112,7 @@ bool RecordingNames::reserve(const QString& path) {
         return false;
     Platform::FileLock marker;
     // When no marker can be created, the list of this process must do.
-    if (marker.take(markerFor(path)) == Platform::FileLock::Result::Elsewhere)
+    if (marker.take(markerFor(path)).error().kind == Platform::Error::Kind::Busy)
         return false;
     reserved_.emplace(path, std::move(marker));
     return true;

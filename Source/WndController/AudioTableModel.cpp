@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/WndController/AudioTableModel.h"
 
+#include "Platform/Foundation/MainQueue.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
 #include "Source/Model/MissingFiles.h"
@@ -457,16 +458,13 @@ void AudioTableModel::startSorting() {
     worker_.start([this, entries = entries_, sorting = wanted_, generation = generation_]() mutable {
         Order order = sortedOrder(entries, sorting);
         entries.clear();
-        QMetaObject::invokeMethod(
-            this,
-            [this, order = std::move(order), sorting, generation]() mutable {
-                sorting_ = false;
-                if (sorting == wanted_ && generation == generation_)
-                    applyOrder(std::move(order), sorting);
-                else if (wanted_.column >= 0 && (wanted_ != applied_ || !isSettled_))
-                    startSorting();
-            },
-            Qt::QueuedConnection);
+        Platform::MainQueue::post(this, [this, order = std::move(order), sorting, generation]() mutable {
+            sorting_ = false;
+            if (sorting == wanted_ && generation == generation_)
+                applyOrder(std::move(order), sorting);
+            else if (wanted_.column >= 0 && (wanted_ != applied_ || !isSettled_))
+                startSorting();
+        });
     });
 }
 

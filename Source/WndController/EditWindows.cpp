@@ -40,10 +40,8 @@ EditWindows::~EditWindows() = default;
 QString EditWindows::openFile(const QString& path) {
     if (QApplication::activeModalWidget())
         return tr("%1 cannot be opened: close the open dialog first.").arg(path);
-    Platform::AudioFileInfo info;
-    Platform::MediaError error;
-    if (!Platform::services().mediaFiles->info(path, info, error))
-        return error.text;
+    if (const auto info = Platform::services().mediaFiles->info(path); !info)
+        return info.error().text;
     main_.library().stopSoundPlaying();
     audioTrimWndController().setTrimAudioSourceData(MediaLibrary::entryForFile(path, FileTags::texts(path)));
     audioTrimWndController().runModal();

@@ -7,7 +7,7 @@
 #include "Platform/Foundation/Services.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
-#include "Source/Preferences/PreferenceStore.h"
+#include "Source/Preferences/Settings.h"
 #include "Source/View/MediaLibraryNodeSizeFieldCell.h"
 #include "Source/View/NamedImages.h"
 #include "Source/WndController/AudioTableModel.h"
@@ -379,8 +379,7 @@ void MainWndController::updatePlaySoundButton() {
 
 void MainWndController::recordingFinished(const QString& path, const Dictionary& entry) {
     if (entry.isEmpty()) {
-        const QString seconds = Platform::stringForm(
-            PreferenceStore::preferenceValueForKey(PreferenceStore::PreferenceFilterTimeKey, QStringLiteral("5")));
+        const QString seconds = Platform::stringForm(Settings::value(Settings::filterTime));
         showStatus(tr("“%1” was not added: it is shorter than %2 s.").arg(QFileInfo(path).completeBaseName(), seconds));
         return;
     }

@@ -13,6 +13,7 @@
 #include "Platform/Foundation/Services.h"
 #include "Source/HotKey/KeybordShortcutTextView.h"
 #include "Source/Preferences/PreferenceStore.h"
+#include "Source/Preferences/Settings.h"
 #include "Source/View/NamedImages.h"
 #include "ui_PreferenceWnd.h"
 
@@ -33,20 +34,6 @@ const QStringList splitTimes{u"100"_s,  u"200"_s,  u"300"_s,  u"500"_s,  u"800"_
 const QStringList filterTimes{u"1"_s, u"2"_s, u"3"_s, u"5"_s, u"10"_s, u"15"_s, u"20"_s, u"30"_s, u"60"_s};
 
 constexpr std::uint32_t commandAndControl = KeybordShortcutTextView::CommandFlag | KeybordShortcutTextView::ControlFlag;
-
-// Containers, data and dates cannot be shown in a text field.
-bool isTextOrNumber(const QVariant& object) {
-    return object.typeId() == QMetaType::QString || object.typeId() == QMetaType::Bool || Platform::isNumber(object);
-}
-
-QString storedTime(const QString& key, const QString& defaultTime) {
-    const QVariant stored = preferenceValueForKey(key, defaultTime);
-    return isTextOrNumber(stored) ? Platform::stringForm(stored) : defaultTime;
-}
-
-QString storedFolder(const QString& key) {
-    return folderOf(preferenceValueForKey(key, defaultMusicFolder()));
-}
 
 // Selects the item with this title. A value that is not offered is inserted by its number, so that closing the window
 // stores it again.
@@ -141,15 +128,15 @@ KeybordShortcutTextView* PreferenceWndController::startNewRecordShortcut() const
 }
 
 void PreferenceWndController::initPerferceInterface() {
-    ui_->audioPathField->setText(storedFolder(PreferenceSavePathKey));
-    ui_->ringtonePathField->setText(storedFolder(PreferenceRingtoneSavePathKey));
-    ui_->splitCheckBox->setChecked(Platform::longLongValue(preferenceValueForKey(PreferenceSplitKey, 0)) != 0);
-    ui_->filterCheckBox->setChecked(Platform::boolValue(preferenceValueForKey(PreferenceFilterKey, 1)));
+    ui_->audioPathField->setText(Settings::value(Settings::savePath).toString());
+    ui_->ringtonePathField->setText(Settings::value(Settings::ringtoneSavePath).toString());
+    ui_->splitCheckBox->setChecked(Platform::longLongValue(Settings::value(Settings::split)) != 0);
+    ui_->filterCheckBox->setChecked(Platform::boolValue(Settings::value(Settings::filter)));
     chooseSplitEffect();
     chooseFilterEffect();
-    select(ui_->splitTimePopUp, storedTime(PreferenceSplitTimeMSKey, u"300"_s));
-    select(ui_->filterTimePopUp, storedTime(PreferenceFilterTimeKey, u"5"_s));
-    ui_->notificationsCheckBox->setChecked(Platform::boolValue(preferenceValueForKey(PreferenceNotificationsKey, 1)));
+    select(ui_->splitTimePopUp, Platform::stringForm(Settings::value(Settings::splitTimeMS)));
+    select(ui_->filterTimePopUp, Platform::stringForm(Settings::value(Settings::filterTime)));
+    ui_->notificationsCheckBox->setChecked(Platform::boolValue(Settings::value(Settings::notifications)));
     ui_->autostartCheckBox->setVisible(autostart_ != nullptr);
     ui_->autostartCheckBox->setChecked(autostart_ && autostart_->isEnabled());
 }
@@ -157,22 +144,18 @@ void PreferenceWndController::initPerferceInterface() {
 void PreferenceWndController::setDefaultShortcut() {
     struct Default {
         KeybordShortcutTextView* field;
-        QString saveKey;
+        const Settings::Shortcut& shortcut;
         std::uint32_t signature;
-        QString characters;
-        std::uint16_t keyCode;
         QString description;
     };
-    for (const Default& d : {Default{startStopShortcut(), PreferenceStartStopShortcutKey, 0x73737273, u"s"_s, 1,
-                                     tr("Start or stop the recording")},
-                             Default{pauseResumeShortcut(), PreferencePauseResumeShortcutKey, 0x70727273, u"p"_s, 35,
-                                     tr("Pause or resume the recording")},
-                             Default{startNewRecordShortcut(), PreferenceStartNewRecordShortcutKey, 0x736E7273, u"n"_s,
-                                     45, tr("Start a new recording")}}) {
-        d.field->setSaveKey(d.saveKey);
-        d.field->setCharacters(d.characters);
+    for (const Default& d :
+         {Default{startStopShortcut(), Settings::startStop, 0x73737273, tr("Start or stop the recording")},
+          Default{pauseResumeShortcut(), Settings::pauseResume, 0x70727273, tr("Pause or resume the recording")},
+          Default{startNewRecordShortcut(), Settings::startNewRecord, 0x736E7273, tr("Start a new recording")}}) {
+        d.field->setSaveKey(d.shortcut.key);
+        d.field->setCharacters(d.shortcut.characters);
         d.field->setModifierFlags(commandAndControl);
-        d.field->setKeyCode(d.keyCode);
+        d.field->setKeyCode(d.shortcut.keyCode);
         d.field->keepAsDefault();
         d.field->loadUserDefault();
         d.field->setHotKeyRegister(std::make_unique<HotKeyRegister>());

@@ -5,7 +5,7 @@
 #include "Platform/Desktop/Activation.h"
 #include "Source/Control/ToolControl.h"
 #include "Source/Model/AudioRecordEntry.h"
-#include "Source/Preferences/PreferenceStore.h"
+#include "Source/Preferences/Settings.h"
 #include "Source/WndController/LibraryPresenter.h"
 #include "Source/WndController/MainWndController.h"
 
@@ -44,7 +44,7 @@ RecordingNotifier::RecordingNotifier(MainWndController& window, std::unique_ptr<
 
 bool RecordingNotifier::mayNotify() {
     return !QGuiApplication::focusWindow() &&
-           Platform::boolValue(PreferenceStore::preferenceValueForKey(PreferenceStore::PreferenceNotificationsKey, 1));
+           Platform::boolValue(Settings::value(Settings::notifications));
 }
 
 void RecordingNotifier::recordingFinished(const QString& path, const Dictionary& entry) {

@@ -27,10 +27,10 @@ int main(int argc, char** argv) {
     }
     // Qt needs the application object to find the plugin that reads JPEG files.
     const QCoreApplication application(argc, argv);
-    const QString problem = Platform::BasicID3Change::copyWithArtwork(
+    const auto copied = Platform::BasicID3Change::copyWithArtwork(
         QFile::decodeName(argv[1]), QFile::decodeName(argv[2]), QFile::decodeName(argv[3]));
-    if (problem.isEmpty())
+    if (copied)
         return 0;
-    std::fprintf(stderr, "SetArtWork: %s\n", qUtf8Printable(problem));
+    std::fprintf(stderr, "SetArtWork: %s\n", qUtf8Printable(copied.error().text));
     return 1;
 }

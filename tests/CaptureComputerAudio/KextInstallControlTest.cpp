@@ -194,7 +194,7 @@ TEST_F(KextInstallControlTest, RemovesTheBundleAndUnloadsTheDriver) {
 }
 
 TEST_F(KextInstallControlTest, AnswersNoWhenThePromptIsCancelled) {
-    shell.refusal = u"the password prompt was cancelled"_s;
+    shell.refusal = Platform::Error{Platform::Error::Kind::Cancelled, u"the password prompt was cancelled"_s};
     EXPECT_FALSE(KextInstallControl::install());
     EXPECT_EQ(KextInstallControl::lastError(), u"the password prompt was cancelled"_s);
     EXPECT_FALSE(KextInstallControl::isExist());
@@ -208,7 +208,7 @@ TEST_F(KextInstallControlTest, AnswersNoWhenThePromptIsCancelled) {
 TEST_F(KextInstallControlTest, KeepsTheDeviceWhenThePromptIsCancelled) {
     makeBundle(extensions, "old");
     write(marker, "");
-    shell.refusal = u"the password prompt was cancelled"_s;
+    shell.refusal = Platform::Error{Platform::Error::Kind::Cancelled, u"the password prompt was cancelled"_s};
     EXPECT_FALSE(KextInstallControl::uninstall());
     EXPECT_TRUE(CaptureDriver::isLoaded());
     EXPECT_FALSE(KextInstallControl::install());
@@ -270,7 +270,7 @@ TEST_F(KextInstallControlTest, WaitsNoLongerThanItsPatienceForADriverThatDoesNot
 }
 
 TEST_F(KextInstallControlTest, AProgramThatEndsDoesNotWaitForThePrompt) {
-    shell.refusal = u"the password prompt was cancelled"_s;
+    shell.refusal = Platform::Error{Platform::Error::Kind::Cancelled, u"the password prompt was cancelled"_s};
     shell.before = [] {
         Platform::MainQueue::post([] { QCoreApplication::exit(0); });
         while (!QThread::currentThread()->isInterruptionRequested())

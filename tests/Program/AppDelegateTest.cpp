@@ -5,6 +5,7 @@
 #include "Platform/Foundation/MainQueue.h"
 #include "Platform/Foundation/Services.h"
 #include "Source/Preferences/PreferenceStore.h"
+#include "Source/Preferences/Settings.h"
 #include "tests/fakes/FakeAlerts.h"
 #include "tests/fakes/FakeBundle.h"
 #include "tests/fakes/FakeUserDefaults.h"
@@ -177,14 +178,14 @@ TEST_F(AppDelegateTest, SplitsAfter300MillisecondsWhenOnlyTheSwitchIsStored) {
 
 TEST_F(AppDelegateTest, TakesTheSplitTimeFromItsText) {
     defaults.setObject(PreferenceStore::PreferenceSplitKey, 1);
-    const std::pair<QVariant, int> cases[] = {{u"500"_s, 500},      {u"2000ms"_s, 2000}, {u"soon"_s, 0},
-                                              {QVariantList{1}, 0}, {750, 750},          {u"-5"_s, -5}};
+    const std::pair<QVariant, int> cases[] = {{u"500"_s, 500},        {u"2000ms"_s, 2000}, {u"soon"_s, 0},
+                                              {QVariantList{1}, 300}, {750, 750},          {u"-5"_s, -5}};
     for (const auto& [stored, expected] : cases) {
         defaults.setObject(PreferenceStore::PreferenceSplitTimeMSKey, stored);
-        EXPECT_EQ(PreferenceStore::storedSplitTimeMS(), expected);
+        EXPECT_EQ(Settings::storedSplitTimeMS(), expected);
     }
     defaults.setObject(PreferenceStore::PreferenceSplitKey, 0);
-    EXPECT_EQ(PreferenceStore::storedSplitTimeMS(), -1);
+    EXPECT_EQ(Settings::storedSplitTimeMS(), -1);
 }
 
 TEST_F(AppDelegateTest, EmptiesTheTemporaryFolderOfACrashedRun) {

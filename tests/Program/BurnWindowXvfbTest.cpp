@@ -48,8 +48,8 @@ protected:
     void SetUp() override {
         QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         services.install(Platform::LinuxServices::Mode::Window);
-        QString why;
-        ASSERT_TRUE(services.startAudio(why)) << qPrintable(why);
+        const auto audio = services.startAudio();
+        ASSERT_TRUE(audio) << qPrintable(audio.error().text);
         ASSERT_TRUE(QDir().mkpath(images()));
         QVariantList records;
         for (int i = 0; i < kTracks; ++i) {

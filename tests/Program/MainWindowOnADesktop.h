@@ -30,8 +30,8 @@ class MainWindowOnADesktop : public testing::Test {
 protected:
     void SetUp() override {
         services.install(Platform::LinuxServices::Mode::Window);
-        QString why;
-        ASSERT_TRUE(services.startAudio(why)) << qPrintable(why);
+        const auto audio = services.startAudio();
+        ASSERT_TRUE(audio) << qPrintable(audio.error().text);
         PreferenceStore::setPreferenceValue(0, PreferenceStore::PreferenceFilterKey);
         // The one library of the process outlives each test's folders.
         auto& library = MediaLibrary::shareLibrary();
@@ -93,9 +93,8 @@ protected:
         controller->library().reloadFromMediaLibrary();
     }
     static double lengthOf(const QString& path) {
-        Platform::AudioFileInfo info;
-        Platform::MediaError error;
-        return Platform::services().mediaFiles->info(path, info, error) ? info.seconds : -1;
+        const auto info = Platform::services().mediaFiles->info(path);
+        return info ? info->seconds : -1;
     }
     /// Calls @p act as soon as a dialog is up. The dialog runs a loop of its own.
     void whenAsked(std::function<void(QMessageBox&)> act) {

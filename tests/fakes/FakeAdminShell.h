@@ -13,17 +13,19 @@
 class FakeAdminShell : public Platform::AdminShell {
 public:
     QStringList commands;
-    std::optional<QString> refusal;
+    Platform::Result<> refusal;
     /// Called on the worker before each command.
     std::function<void()> before;
 
-    std::optional<QString> executeShellStringWithAdmin(const QString& command) override {
+    Platform::Result<> executeShellStringWithAdmin(const QString& command) override {
         commands.append(command);
         if (before)
             before();
-        if (refusal)
+        if (!refusal)
             return refusal;
         const int status = QProcess::execute(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), command});
-        return status == 0 ? std::nullopt : std::optional(QStringLiteral("status %1").arg(status));
+        if (status != 0)
+            return Platform::Error{Platform::Error::Kind::Other, QStringLiteral("status %1").arg(status)};
+        return {};
     }
 };

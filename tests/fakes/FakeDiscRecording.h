@@ -131,18 +131,14 @@ private:
 class FakeDiscRecording : public Platform::DiscRecording {
 public:
     std::vector<std::shared_ptr<Platform::DRDevice>> devices() override { return drives; }
-    std::shared_ptr<Platform::DRTrack> trackForAudioFile(const QString& path, QString& why) override {
-        if (unreadable.contains(path)) {
-            why = path + QStringLiteral(": cannot be read");
-            return nullptr;
-        }
+    Platform::Result<std::shared_ptr<Platform::DRTrack>> trackForAudioFile(const QString& path) override {
+        if (unreadable.contains(path))
+            return Platform::Error{Platform::Error::Kind::Damaged, path + QStringLiteral(": cannot be read")};
         return std::make_shared<FakeTrack>(path);
     }
-    std::optional<Platform::DRLayout> layoutForImageFile(const QString& path, QString& why) override {
-        if (unreadable.contains(path)) {
-            why = path + QStringLiteral(": cannot be read");
-            return std::nullopt;
-        }
+    Platform::Result<Platform::DRLayout> layoutForImageFile(const QString& path) override {
+        if (unreadable.contains(path))
+            return Platform::Error{Platform::Error::Kind::Damaged, path + QStringLiteral(": cannot be read")};
         return Platform::DRLayout{std::make_shared<FakeTrack>(path)};
     }
     std::shared_ptr<Platform::DRBurn> burnWithDevice(const std::shared_ptr<Platform::DRDevice>&) override {

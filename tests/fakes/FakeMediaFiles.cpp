@@ -59,9 +59,9 @@ public:
             closed(file_->disposeStatus);
     }
     std::int64_t framesAccepted() const override { return file_->framesAccepted; }
-    Platform::MediaError firstError() const override {
+    Platform::Error firstError() const override {
         if (file_->writeStatus != noErr)
-            return {Platform::MediaError::Kind::DiskFull, QStringLiteral("No space left on device")};
+            return {Platform::Error::Kind::DiskFull, QStringLiteral("No space left on device")};
         return {};
     }
     QString path() const override { return file_->path; }
@@ -72,15 +72,12 @@ private:
 
 } // namespace
 
-std::unique_ptr<Platform::ExtAudioFileWriter> FakeMediaFiles::createWriter(const QString& path, std::uint32_t fileType,
-                                                                           const AudioStreamBasicDescription& format,
-                                                                           std::uint32_t flags,
-                                                                           Platform::MediaError& error) {
+Platform::Result<std::unique_ptr<Platform::ExtAudioFileWriter>>
+FakeMediaFiles::createWriter(const QString& path, std::uint32_t fileType, const AudioStreamBasicDescription& format,
+                             std::uint32_t flags) {
     QFile real(path);
-    if (createFails || !real.open(QIODevice::WriteOnly)) {
-        error = {Platform::MediaError::Kind::NotPermitted, QStringLiteral("the file was told to fail")};
-        return nullptr;
-    }
+    if (createFails || !real.open(QIODevice::WriteOnly))
+        return Platform::Error{Platform::Error::Kind::NotPermitted, QStringLiteral("the file was told to fail")};
     auto file = std::make_shared<File>();
     file->path = path;
     file->inode = inodeOf(path);
@@ -96,32 +93,27 @@ std::unique_ptr<Platform::ExtAudioFileWriter> FakeMediaFiles::createWriter(const
     return std::make_unique<FakeWriter>(std::move(file));
 }
 
-std::unique_ptr<Platform::ExtAudioFileReader> FakeMediaFiles::openReader(const QString& path,
-                                                                         Platform::MediaError& error) {
-    error = {Platform::MediaError::Kind::NotFound, path};
-    return nullptr;
+Platform::Result<std::unique_ptr<Platform::ExtAudioFileReader>> FakeMediaFiles::openReader(const QString& path) {
+    return Platform::Error{Platform::Error::Kind::NotFound, path};
 }
 
-bool FakeMediaFiles::info(const QString& path, Platform::AudioFileInfo& info, Platform::MediaError& error) {
+Platform::Result<Platform::AudioFileInfo> FakeMediaFiles::info(const QString& path) {
     if (knowsItsFiles)
         // Newest first: a removed file's inode number may have been reused by a later file.
         for (auto file = files.rbegin(); file != files.rend(); ++file)
             if ((*file)->inode == inodeOf(path)) {
+                Platform::AudioFileInfo info;
                 info.dataFormat = (*file)->format;
                 info.frameCount = (*file)->framesAccepted;
                 info.seconds = double((*file)->framesAccepted) / (*file)->clientFormat.mSampleRate;
-                return true;
+                return info;
             }
     const auto known = infos.constFind(path);
-    if (known == infos.constEnd()) {
-        error = {Platform::MediaError::Kind::NotFound, path};
-        return false;
-    }
-    info = *known;
-    return true;
+    if (known == infos.constEnd())
+        return Platform::Error{Platform::Error::Kind::NotFound, path};
+    return *known;
 }
 
-std::unique_ptr<Platform::Movie> FakeMediaFiles::openMovie(const QString& path, Platform::MediaError& error) {
-    error = {Platform::MediaError::Kind::NotFound, path};
-    return nullptr;
+Platform::Result<std::unique_ptr<Platform::Movie>> FakeMediaFiles::openMovie(const QString& path) {
+    return Platform::Error{Platform::Error::Kind::NotFound, path};
 }

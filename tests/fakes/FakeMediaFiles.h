@@ -52,13 +52,12 @@ public:
 
     [[nodiscard]] File& last() { return *files.back(); }
 
-    std::unique_ptr<Platform::ExtAudioFileWriter> createWriter(const QString& path, std::uint32_t fileType,
-                                                               const AudioStreamBasicDescription& format,
-                                                               std::uint32_t flags,
-                                                               Platform::MediaError& error) override;
-    std::unique_ptr<Platform::ExtAudioFileReader> openReader(const QString& path, Platform::MediaError& error) override;
-    bool info(const QString& path, Platform::AudioFileInfo& info, Platform::MediaError& error) override;
-    std::unique_ptr<Platform::Movie> openMovie(const QString& path, Platform::MediaError& error) override;
+    Platform::Result<std::unique_ptr<Platform::ExtAudioFileWriter>>
+    createWriter(const QString& path, std::uint32_t fileType, const AudioStreamBasicDescription& format,
+                 std::uint32_t flags) override;
+    Platform::Result<std::unique_ptr<Platform::ExtAudioFileReader>> openReader(const QString& path) override;
+    Platform::Result<Platform::AudioFileInfo> info(const QString& path) override;
+    Platform::Result<std::unique_ptr<Platform::Movie>> openMovie(const QString& path) override;
     OSStatus completeFormat(AudioStreamBasicDescription&) override {
         ++completions;
         return noErr;

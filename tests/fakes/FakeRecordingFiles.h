@@ -28,10 +28,10 @@ public:
     double seconds = 10; ///< the length of every file that exists
     QMap<QString, double> secondsOf;
     std::set<QString> unreadable; ///< movies that cannot be opened
-    Platform::MediaError mixError;
-    Platform::MediaError mixReadError; ///< the read error of a mix
-    Platform::MediaError readError;    ///< the error of a reader
-    std::atomic<bool> holdMix{false};  ///< a mix waits while this is set
+    Platform::Error mixError;
+    Platform::Error mixReadError;     ///< the read error of a mix
+    Platform::Error readError;        ///< the error of a reader
+    std::atomic<bool> holdMix{false}; ///< a mix waits while this is set
     std::atomic<int> mixesStarted{0};
     std::atomic<bool> holdInfo{false}; ///< whoever measures a file waits while this is set; for 30 s at most
     std::atomic<int> infosStarted{0};
@@ -41,34 +41,28 @@ public:
         return mixes_;
     }
 
-    bool info(const QString& path, Platform::AudioFileInfo& info, Platform::MediaError& error) override {
+    Platform::Result<Platform::AudioFileInfo> info(const QString& path) override {
         ++infosStarted;
         for (int i = 0; i < 30000 && holdInfo; ++i)
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
-        if (!QFileInfo::exists(path)) {
-            error = {Platform::MediaError::Kind::NotFound, path};
-            return false;
-        }
+        if (!QFileInfo::exists(path))
+            return Platform::Error{Platform::Error::Kind::NotFound, path};
+        Platform::AudioFileInfo info;
         info.dataFormat.mSampleRate = 44100;
         info.seconds = secondsOf.value(path, seconds);
         info.frameCount = std::int64_t(info.seconds * 44100);
-        return true;
+        return info;
     }
 
-    std::unique_ptr<Platform::Movie> openMovie(const QString& path, Platform::MediaError& error) override {
-        if (unreadable.contains(path) || !QFileInfo::exists(path)) {
-            error = {Platform::MediaError::Kind::Damaged, QStringLiteral("the file is damaged")};
-            return nullptr;
-        }
+    Platform::Result<std::unique_ptr<Platform::Movie>> openMovie(const QString& path) override {
+        if (unreadable.contains(path) || !QFileInfo::exists(path))
+            return Platform::Error{Platform::Error::Kind::Damaged, QStringLiteral("the file is damaged")};
         return std::make_unique<FakeMovie>(*this, path);
     }
 
-    std::unique_ptr<Platform::ExtAudioFileReader> openReader(const QString& path,
-                                                             Platform::MediaError& error) override {
-        if (!QFileInfo::exists(path)) {
-            error = {Platform::MediaError::Kind::NotFound, path};
-            return nullptr;
-        }
+    Platform::Result<std::unique_ptr<Platform::ExtAudioFileReader>> openReader(const QString& path) override {
+        if (!QFileInfo::exists(path))
+            return Platform::Error{Platform::Error::Kind::NotFound, path};
         return std::make_unique<ShortReader>(readError);
     }
 
@@ -84,11 +78,11 @@ private:
             return true;
         }
         void setTiming(int track, TrackTiming timing) override { timings_.at(std::size_t(track)) = timing; }
-        Platform::MediaError writeWave(const QString& path, const std::function<bool(double)>& progress) override {
+        Platform::Result<> writeWave(const QString& path, const std::function<bool(double)>& progress) override {
             ++files_.mixesStarted;
             while (files_.holdMix)
                 if (!progress(0.5))
-                    return {Platform::MediaError::Kind::Other, QStringLiteral("stopped")};
+                    return Platform::Error{Platform::Error::Kind::Other, QStringLiteral("stopped")};
             if (files_.mixError)
                 return files_.mixError;
             QFile(path).open(QIODevice::WriteOnly);
@@ -96,7 +90,7 @@ private:
             files_.mixes_.push_back({path_, second_, timings_, path});
             return {};
         }
-        Platform::MediaError readError() const override { return files_.mixReadError; }
+        Platform::Error readError() const override { return files_.mixReadError; }
 
     private:
         FakeRecordingFiles& files_;
@@ -108,7 +102,7 @@ private:
     /// A tenth of a second of silence.
     class ShortReader final : public Platform::ExtAudioFileReader {
     public:
-        explicit ShortReader(Platform::MediaError error) : error_(std::move(error)) {}
+        explicit ShortReader(Platform::Error error) : error_(std::move(error)) {}
         AudioStreamBasicDescription fileDataFormat() const override {
             AudioStreamBasicDescription format;
             format.mSampleRate = 44100;
@@ -131,10 +125,10 @@ private:
             position_ += frames;
             return noErr;
         }
-        Platform::MediaError firstError() const override { return error_; }
+        Platform::Error firstError() const override { return error_; }
 
     private:
-        Platform::MediaError error_;
+        Platform::Error error_;
         std::int64_t position_ = 0;
     };
 

@@ -36,34 +36,29 @@ public:
     }
     std::map<QString, Source> sources;
 
-    std::unique_ptr<Platform::ExtAudioFileWriter> createWriter(const QString& path, std::uint32_t fileType,
-                                                               const AudioStreamBasicDescription& format,
-                                                               std::uint32_t flags,
-                                                               Platform::MediaError& error) override {
-        if (fileType == 0) {
-            error = {Platform::MediaError::Kind::UnknownFormat, QStringLiteral("no such container")};
-            return nullptr;
-        }
-        return FakeMediaFiles::createWriter(path, fileType, format, flags, error);
+    Platform::Result<std::unique_ptr<Platform::ExtAudioFileWriter>>
+    createWriter(const QString& path, std::uint32_t fileType, const AudioStreamBasicDescription& format,
+                 std::uint32_t flags) override {
+        if (fileType == 0)
+            return Platform::Error{Platform::Error::Kind::UnknownFormat, QStringLiteral("no such container")};
+        return FakeMediaFiles::createWriter(path, fileType, format, flags);
     }
 
-    std::unique_ptr<Platform::ExtAudioFileReader> openReader(const QString& path,
-                                                             Platform::MediaError& error) override {
+    Platform::Result<std::unique_ptr<Platform::ExtAudioFileReader>> openReader(const QString& path) override {
         const auto found = sources.find(path);
-        if (found == sources.end()) {
-            error = {Platform::MediaError::Kind::UnknownFormat, path};
-            return nullptr;
-        }
+        if (found == sources.end())
+            return Platform::Error{Platform::Error::Kind::UnknownFormat, path};
         return std::make_unique<Reader>(found->second);
     }
 
-    bool info(const QString& path, Platform::AudioFileInfo& info, Platform::MediaError& error) override {
+    Platform::Result<Platform::AudioFileInfo> info(const QString& path) override {
         const auto found = sources.find(path);
         if (found == sources.end())
-            return FakeMediaFiles::info(path, info, error);
+            return FakeMediaFiles::info(path);
+        Platform::AudioFileInfo info;
         info.frameCount = found->second.frames;
         info.seconds = double(info.frameCount) / 44100;
-        return true;
+        return info;
     }
 
 private:
@@ -110,7 +105,7 @@ private:
                 out[i] = source_.signal(0, frames[i]);
             return source_.sparse;
         }
-        Platform::MediaError firstError() const override { return {}; }
+        Platform::Error firstError() const override { return {}; }
 
     private:
         Source& source_;

@@ -17,12 +17,12 @@ PrivateAudioSession& PrivateAudioSession::shared() {
     auto& shared = instance();
     if (!shared) {
         shared = std::make_unique<PrivateAudioSession>();
-        QString why;
-        shared->session_ = Platform::LinuxPrivateSession::start({}, why);
-        if (!shared->session_) {
-            qCritical() << "no private audio session:" << why;
+        auto started = Platform::LinuxPrivateSession::start({});
+        if (!started) {
+            qCritical() << "no private audio session:" << started.error().text;
             std::exit(1);
         }
+        shared->session_ = *std::move(started);
     }
     if (shared->stopped_ && !shared->startServer()) {
         qCritical() << "the private audio session did not come back";

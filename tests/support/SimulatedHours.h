@@ -39,11 +39,7 @@ struct SimulatedHours : testing::Test {
 
     /// Waits until the file's thread has processed its input: everything except an incomplete fragment.
     void drain(const QString& path, std::int64_t given) {
-        const auto written = [&] {
-            Platform::AudioFileInfo info;
-            Platform::MediaError error;
-            return media->info(path, info, error) ? info.frameCount : 0;
-        };
+        const auto written = [&] { return media->info(path).valueOr({}).frameCount; };
         const std::int64_t fragment = 44100;
         const std::int64_t expected = given * 44100 / 48000 - 2 * fragment;
         EXPECT_TRUE(waitFor([&] { return written() >= expected; }, 600'000)) << written() << " of " << expected;

@@ -73,24 +73,26 @@ bool PrivateSession::serverAnswers() {
     return lookForServer(1000) == Server::Answering;
 }
 
-std::unique_ptr<PrivateSession> PrivateSession::start(QString& why) {
+Result<std::unique_ptr<PrivateSession>> PrivateSession::start() {
     LinuxPrivateSession::Options options;
     options.programs = {bundle().pathForTool(u"ToneSource"_s),
                         bundle().pathForTool(u"ComputerAudioCapture.kext/CaptureDriver"_s)};
     options.expectedSource = "sonaphex.tone";
-    return LinuxPrivateSession::start(options, why);
+    auto session = LinuxPrivateSession::start(options);
+    if (!session)
+        return session.error();
+    return *std::move(session);
 }
 
-std::unique_ptr<LinuxPrivateSession> LinuxPrivateSession::start(const Options& options, QString& why) {
+Result<std::unique_ptr<LinuxPrivateSession>> LinuxPrivateSession::start(const Options& options) {
     const QString keeper = bundle().pathForTool(u"AudioSessionKeeper"_s);
     QStringList arguments = {keeper, QString::number(getpid()), baseFolder(),
                              bundle().pathForResource(u"AudioSession"_s)};
     for (const QString& name : {u"pipewire"_s, u"wireplumber"_s}) {
         const QString path = QStandardPaths::findExecutable(name);
-        if (path.isEmpty()) {
-            why = u"%1 is not installed: no sound server answers and none can be started"_s.arg(name);
-            return nullptr;
-        }
+        if (path.isEmpty())
+            return Error{Error::Kind::NotFound,
+                         u"%1 is not installed: no sound server answers and none can be started"_s.arg(name)};
         arguments << path;
     }
     for (const QString& each : options.programs) {
@@ -100,35 +102,31 @@ std::unique_ptr<LinuxPrivateSession> LinuxPrivateSession::start(const Options& o
 
     std::unique_ptr<LinuxPrivateSession> session(new LinuxPrivateSession);
     session->expectedSource_ = options.expectedSource;
-    if (!session->spawnKeeper(arguments, why))
-        return nullptr;
+    if (const auto spawned = session->spawnKeeper(arguments); !spawned)
+        return spawned.error();
     const QByteArray line = session->readLine(8000);
-    if (!line.startsWith("ready ")) {
-        why = line.startsWith("failed ") ? QString::fromLocal8Bit(line.mid(7))
-                                         : u"the private sound server did not start"_s;
-        return nullptr;
-    }
+    if (!line.startsWith("ready "))
+        return Error{Error::Kind::Other, line.startsWith("failed ") ? QString::fromLocal8Bit(line.mid(7))
+                                                                    : u"the private sound server did not start"_s};
     session->runtimeFolder_ = QString::fromLocal8Bit(line.mid(6));
     session->hadRuntimeFolder_ = qEnvironmentVariableIsSet("PIPEWIRE_RUNTIME_DIR");
     session->previousRuntimeFolder_ = qgetenv("PIPEWIRE_RUNTIME_DIR");
     qputenv("PIPEWIRE_RUNTIME_DIR", line.mid(6));
     // If the user set a remote name, it would be looked up in the private folder.
     qunsetenv("PIPEWIRE_REMOTE");
-    if (!PipeWire::serverIsThere(8000, true, options.expectedSource)) {
-        why = u"the private sound server came up without its devices"_s;
-        return nullptr;
-    }
+    if (!PipeWire::serverIsThere(8000, true, options.expectedSource))
+        return Error{Error::Kind::Other, u"the private sound server came up without its devices"_s};
     return session;
 }
 
-bool LinuxPrivateSession::spawnKeeper(const QStringList& arguments, QString& why) {
+Result<> LinuxPrivateSession::spawnKeeper(const QStringList& arguments) {
     int input[2] = {-1, -1};
     int output[2] = {-1, -1};
     if (pipe2(input, O_CLOEXEC) != 0 || pipe2(output, O_CLOEXEC) != 0) {
-        why = QString::fromLocal8Bit(strerror(errno));
+        const Error error = Error::ofErrno(errno);
         closeFd(input[0]);
         closeFd(input[1]);
-        return false;
+        return error;
     }
     toKeeper_ = input[1];
     fromKeeper_ = output[0];
@@ -159,9 +157,9 @@ bool LinuxPrivateSession::spawnKeeper(const QStringList& arguments, QString& why
     closeFd(output[1]);
     if (result != 0) {
         keeper_ = -1;
-        why = u"%1: %2"_s.arg(arguments.first(), QString::fromLocal8Bit(strerror(result)));
+        return Error::ofErrno(result, arguments.first());
     }
-    return result == 0;
+    return {};
 }
 
 QByteArray LinuxPrivateSession::readLine(int deadlineMs) {

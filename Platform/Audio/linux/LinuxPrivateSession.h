@@ -27,7 +27,7 @@ public:
     LinuxPrivateSession& operator=(const LinuxPrivateSession&) = delete;
 
     /// See PrivateSession::start().
-    [[nodiscard]] static std::unique_ptr<LinuxPrivateSession> start(const Options& options, QString& why);
+    static Result<std::unique_ptr<LinuxPrivateSession>> start(const Options& options);
 
     [[nodiscard]] QString runtimeFolder() const override { return runtimeFolder_; }
     /// Stops the server, and startServer() starts it again in the same folder. Simulates a crash or an upgrade.
@@ -37,7 +37,7 @@ public:
 
 private:
     LinuxPrivateSession() = default;
-    bool spawnKeeper(const QStringList& arguments, QString& why);
+    Result<> spawnKeeper(const QStringList& arguments);
     /// The keeper's next line; empty when none arrives in time.
     [[nodiscard]] QByteArray readLine(int deadlineMs);
 

@@ -156,7 +156,7 @@ OSStatus PipeWireInputUnit::stop() {
 }
 
 void PipeWireInputUnit::tell(Event event) {
-    MainQueue::post(mailbox_.get(), [this, event] {
+    alive_.post([this, event] {
         if (handler_)
             handler_(event);
     });

@@ -4,6 +4,7 @@
 
 #include "Platform/Audio/InputUnit.h"
 #include "Platform/Audio/linux/CaptureStream.h"
+#include "Platform/Foundation/MainQueue.h"
 
 #include <QObject>
 #include <chrono>
@@ -77,7 +78,7 @@ private:
     std::unique_ptr<CaptureStream> stream_;
     std::thread ioThread_;
     /// Receiver of posted events; destroying it drops those that are pending. Main thread.
-    std::unique_ptr<QObject> mailbox_ = std::make_unique<QObject>();
+    MainQueue::WhileAlive alive_;
 };
 
 } // namespace Platform

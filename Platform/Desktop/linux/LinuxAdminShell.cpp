@@ -14,7 +14,7 @@ namespace Platform {
 
 namespace {
 
-const auto kCancelled = u"the password prompt was cancelled"_s;
+const Error kCancelled{Error::Kind::Cancelled, u"the password prompt was cancelled"_s};
 /// How often the worker checks for an interruption request.
 constexpr int kLookMs = 100;
 
@@ -22,12 +22,13 @@ class LinuxAdminShell final : public AdminShell {
 public:
     explicit LinuxAdminShell(bool haveRights) : haveRights_(haveRights) {}
 
-    std::optional<QString> executeShellStringWithAdmin(const QString& command) override {
+    Result<> executeShellStringWithAdmin(const QString& command) override {
         QStringList words{u"/bin/sh"_s, u"-c"_s, command};
         if (!haveRights_) {
             const auto helper = QStandardPaths::findExecutable(u"pkexec"_s);
             if (helper.isEmpty())
-                return u"pkexec is not installed: nobody can be asked for administrator rights"_s;
+                return Error{Error::Kind::NotFound,
+                             u"pkexec is not installed: nobody can be asked for administrator rights"_s};
             words.prepend(helper);
         }
         QProcess process;
@@ -37,7 +38,7 @@ public:
         process.setStandardOutputFile(QProcess::nullDevice());
         process.start();
         if (!process.waitForStarted(-1))
-            return process.errorString();
+            return Error{Error::Kind::Other, process.errorString()};
         // No time limit: the user may leave the password prompt open.
         bool isCancelled = false;
         while (process.state() != QProcess::NotRunning && !process.waitForFinished(kLookMs)) {
@@ -49,20 +50,21 @@ public:
         }
         if (isCancelled && process.exitStatus() == QProcess::CrashExit)
             return kCancelled;
-        return problemOf(process);
+        return resultOf(process);
     }
 
 private:
-    [[nodiscard]] std::optional<QString> problemOf(QProcess& process) const {
+    [[nodiscard]] Result<> resultOf(QProcess& process) const {
         if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
             return {};
         // 126 and 127 are exit codes of pkexec itself, so they only count when the command ran through it.
         if (!haveRights_ && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 126)
             return kCancelled;
         if (!haveRights_ && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 127)
-            return u"administrator rights were not given"_s;
+            return Error{Error::Kind::NotPermitted, u"administrator rights were not given"_s};
         const auto said = QString::fromLocal8Bit(process.readAllStandardError()).trimmed().section(u'\n', 0, 0);
-        return said.isEmpty() ? u"the command ended with status %1"_s.arg(process.exitCode()) : said;
+        return Error{Error::Kind::Other,
+                     said.isEmpty() ? u"the command ended with status %1"_s.arg(process.exitCode()) : said};
     }
 
     bool haveRights_;

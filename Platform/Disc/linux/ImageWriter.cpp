@@ -82,8 +82,8 @@ QString ImageWriter::render(const Stretch& stretch, std::unique_ptr<SectorRender
             return {};
         const auto sectors = std::min(kImageBlockSectors, stretch.sectors - done);
         const auto block = std::span(memory).first(std::size_t(sectors * CDFormat::kBytesPerSector));
-        if (const MediaError error = renderer->render(block))
-            return error.text.isEmpty() ? path + u": cannot be read"_s : error.text;
+        if (const auto rendered = renderer->render(block); !rendered)
+            return rendered.error().text.isEmpty() ? path + u": cannot be read"_s : rendered.error().text;
         const std::int64_t at = (stretch.place + done) * CDFormat::kBytesPerSector;
         if (!writeAllAt(file_, QByteArrayView(block.data(), qsizetype(block.size())), at))
             return inWords(errno);
@@ -103,11 +103,13 @@ void ImageWriter::work() {
         const Stretch& stretch = stretches_[i];
         if (stretch.track != track) {
             track = stretch.track;
-            MediaError error;
             const auto audio = std::dynamic_pointer_cast<AudioTrack>(layout_[track]);
-            renderer = audio ? audio->renderer(error) : nullptr;
-            if (!renderer)
-                return stop(error.text.isEmpty() ? layout_[track]->path() + u": is no sound file"_s : error.text);
+            if (!audio)
+                return stop(layout_[track]->path() + u": is no sound file"_s);
+            auto opened = audio->renderer();
+            if (!opened)
+                return stop(opened.error().text);
+            renderer = *std::move(opened);
         }
         if (const QString problem = render(stretch, renderer, memory); !problem.isEmpty())
             return stop(problem);

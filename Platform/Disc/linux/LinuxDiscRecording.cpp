@@ -46,15 +46,18 @@ std::vector<std::shared_ptr<DRDevice>> LinuxDiscRecording::devices() {
     return all;
 }
 
-std::shared_ptr<DRTrack> LinuxDiscRecording::trackForAudioFile(const QString& path, QString& why) {
-    return AudioTrack::open(files_, path, why);
+Result<std::shared_ptr<DRTrack>> LinuxDiscRecording::trackForAudioFile(const QString& path) {
+    auto track = AudioTrack::open(files_, path);
+    if (!track)
+        return track.error();
+    return *std::move(track);
 }
 
-std::optional<DRLayout> LinuxDiscRecording::layoutForImageFile(const QString& path, QString& why) {
-    auto track = ImageFileTrack::open(path, why);
+Result<DRLayout> LinuxDiscRecording::layoutForImageFile(const QString& path) {
+    auto track = ImageFileTrack::open(path);
     if (!track)
-        return std::nullopt;
-    return DRLayout{std::move(track)};
+        return track.error();
+    return DRLayout{*std::move(track)};
 }
 
 std::shared_ptr<DRBurn> LinuxDiscRecording::burnWithDevice(const std::shared_ptr<DRDevice>& device) {

@@ -23,8 +23,8 @@ public:
     ~LinuxDiscRecording() override;
 
     std::vector<std::shared_ptr<DRDevice>> devices() override;
-    std::shared_ptr<DRTrack> trackForAudioFile(const QString& path, QString& why) override;
-    std::optional<DRLayout> layoutForImageFile(const QString& path, QString& why) override;
+    Result<std::shared_ptr<DRTrack>> trackForAudioFile(const QString& path) override;
+    Result<DRLayout> layoutForImageFile(const QString& path) override;
     std::shared_ptr<DRBurn> burnWithDevice(const std::shared_ptr<DRDevice>& device) override;
     std::shared_ptr<DRErase> eraseWithDevice(const std::shared_ptr<DRDevice>& device) override;
     DRNotificationCenter& currentRunLoopCenter() override { return *center_; }

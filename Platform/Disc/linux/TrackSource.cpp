@@ -68,15 +68,16 @@ LibBurn::SourcePtr feedSource(TrackFeed& feed, std::int64_t bytes) {
     return LibBurn::SourcePtr(source);
 }
 
-std::shared_ptr<ImageFileTrack> ImageFileTrack::open(const QString& path, QString& why) {
+Result<std::shared_ptr<ImageFileTrack>> ImageFileTrack::open(const QString& path) {
     const QFileInfo info(path);
-    if (!info.isFile() || !info.isReadable() || info.size() == 0) {
-        why = path + (!info.exists()       ? u": no such file"_s
-                      : !info.isFile()     ? u": is no file"_s
-                      : !info.isReadable() ? u": no right to read it"_s
-                                           : u": is empty"_s);
-        return nullptr;
-    }
+    if (!info.exists())
+        return Error{Error::Kind::NotFound, path + u": no such file"_s};
+    if (!info.isFile())
+        return Error{Error::Kind::NotAFile, path + u": is no file"_s};
+    if (!info.isReadable())
+        return Error{Error::Kind::NotPermitted, path + u": no right to read it"_s};
+    if (info.size() == 0)
+        return Error{Error::Kind::UnknownFormat, path + u": is empty"_s};
     auto track = std::make_shared<ImageFileTrack>();
     track->path_ = info.absoluteFilePath();
     track->bytes_ = info.size();

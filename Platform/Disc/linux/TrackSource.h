@@ -14,8 +14,8 @@ namespace Platform {
 /// An image file that is written as the one track of a data disc.
 class ImageFileTrack final : public DRTrack {
 public:
-    /// @return null when the file cannot be read; @p why then names the file and the reason
-    [[nodiscard]] static std::shared_ptr<ImageFileTrack> open(const QString& path, QString& why);
+    /// Never null; the text of an error names the file.
+    static Result<std::shared_ptr<ImageFileTrack>> open(const QString& path);
 
     [[nodiscard]] DRTrackProperties properties() const override { return properties_; }
     void setProperties(const DRTrackProperties& properties) override { properties_ = properties; }

@@ -21,8 +21,9 @@
 namespace Platform::FileManager {
 namespace {
 
-Problem words(int error) {
-    return error == 0 ? Problem() : qt_error_string(error);
+/// @p error is 0 or a value of errno.
+Result<> resultOf(int error) {
+    return error == 0 ? Result<>() : Error::ofErrno(error);
 }
 
 /// Copies a regular file to @p target through a hidden file beside it. @return 0 or an errno; on failure nothing is
@@ -30,7 +31,7 @@ Problem words(int error) {
 int copyFile(const QByteArray& from, const QByteArray& target, ReplacementFile::Existing existing) {
     const OpenedFile source = openFile(QFile::decodeName(from));
     if (!source.file)
-        return source.error != 0 ? source.error : source.isFolder() ? EISDIR : EINVAL;
+        return source.code != 0 ? source.code : source.isFolder() ? EISDIR : EINVAL;
     ReplacementFile copy(QFile::decodeName(target), existing, ReplacementFile::Link::Replaced);
     const timespec times[2] = {source.status.st_atim, source.status.st_mtim};
     int error = copy.open(0600);
@@ -62,40 +63,38 @@ int moveFile(const QByteArray& from, const QByteArray& to) {
 
 } // namespace
 
-Problem move(const QString& from, const QString& to) {
-    return words(moveFile(QFile::encodeName(from), QFile::encodeName(to)));
+Result<> move(const QString& from, const QString& to) {
+    return resultOf(moveFile(QFile::encodeName(from), QFile::encodeName(to)));
 }
 
-Problem moveToFreeName(const QString& from, const QString& to,
-                       const std::function<QString(const QString& taken)>& nextName, QString& landed) {
+Result<QString> moveToFreeName(const QString& from, const QString& to,
+                               const std::function<QString(const QString& taken)>& nextName) {
     QString target = to;
     for (;;) {
         const int error = moveFile(QFile::encodeName(from), QFile::encodeName(target));
         if (error == 0)
-            landed = target;
-        if (error != EEXIST)
-            return words(error);
-        const QString next = nextName(target);
+            return target;
+        const QString next = error == EEXIST ? nextName(target) : QString();
         if (next.isEmpty() || next == target)
-            return words(error);
+            return Error::ofErrno(error);
         target = next;
     }
 }
 
-Problem copy(const QString& from, const QString& to, bool replace) {
+Result<> copy(const QString& from, const QString& to, bool replace) {
     const QByteArray target = QFile::encodeName(to);
     struct stat there {};
     if (!replace && lstat(target.constData(), &there) == 0)
-        return words(EEXIST);
-    return words(copyFile(QFile::encodeName(from), target,
-                          replace ? ReplacementFile::Existing::Replaced : ReplacementFile::Existing::Kept));
+        return resultOf(EEXIST);
+    return resultOf(copyFile(QFile::encodeName(from), target,
+                             replace ? ReplacementFile::Existing::Replaced : ReplacementFile::Existing::Kept));
 }
 
-Problem sync(const QString& path) {
+Result<> sync(const QString& path) {
     const QByteArray name = QFile::encodeName(path);
     const Descriptor file{::open(name.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NOCTTY)};
     if (!file || fsync(file.get()) != 0)
-        return words(errno);
+        return resultOf(errno);
     syncFolder(folderOf(name));
     return {};
 }
@@ -107,26 +106,28 @@ bool isOpenForWriting(const QString& path) {
     return file && fcntl(file.get(), F_SETLEASE, F_RDLCK) != 0 && errno == EAGAIN;
 }
 
-Problem removeFile(const QString& path) {
+Result<> removeFile(const QString& path) {
     const QByteArray name = QFile::encodeName(path);
     struct stat is {};
     if (lstat(name.constData(), &is) != 0)
-        return words(errno == ENOENT ? 0 : errno);
+        return resultOf(errno == ENOENT ? 0 : errno);
+    if (S_ISDIR(is.st_mode))
+        return Error::ofErrno(EISDIR);
     if (!S_ISREG(is.st_mode) && !S_ISLNK(is.st_mode))
-        return S_ISDIR(is.st_mode) ? words(EISDIR) : QStringLiteral("not a regular file");
-    return words(unlink(name.constData()) == 0 || errno == ENOENT ? 0 : errno);
+        return Error{Error::Kind::NotAFile, QStringLiteral("not a regular file")};
+    return resultOf(unlink(name.constData()) == 0 || errno == ENOENT ? 0 : errno);
 }
 
-Problem writeAtomically(const QString& path, const QByteArray& content, int mode) {
+Result<> writeAtomically(const QString& path, const QByteArray& content, int mode) {
     ReplacementFile file(path);
     int error = file.open(mode);
     if (error == 0 && !writeAll(file.descriptor(), content))
         error = errno;
-    return words(error != 0 ? error : file.commit());
+    return resultOf(error != 0 ? error : file.commit());
 }
 
-std::optional<QByteArray> read(const QString& path, qint64 largest, Problem& why) {
-    return readFile(path, {.largest = largest}, why);
+Result<QByteArray> read(const QString& path, qint64 largest) {
+    return readFile(path, {.largest = largest});
 }
 
 qint64 availableBytes(const QString& path) {
@@ -149,7 +150,7 @@ QString unfinishedFolder() {
     return folder;
 }
 
-Problem moveIntoFolder(const QString& path, const QString& folder, const QString& wishedName, QString& landed) {
+Result<QString> moveIntoFolder(const QString& path, const QString& folder, const QString& wishedName) {
     QString name = wishedName;
     name.replace(u'/', u'_');
     if (name.isEmpty() || name == QStringLiteral(".") || name == QStringLiteral(".."))
@@ -158,17 +159,13 @@ Problem moveIntoFolder(const QString& path, const QString& folder, const QString
     const QString stem = dot > 0 ? name.left(dot) : name;
     const QString ending = dot > 0 ? name.mid(dot) : QString();
     int number = 1;
-    return moveToFreeName(
-        path, folder + u'/' + name,
-        [&](const QString&) {
-            return QStringLiteral("%1/%2 %3%4").arg(folder, stem, QString::number(++number), ending);
-        },
-        landed);
+    return moveToFreeName(path, folder + u'/' + name, [&](const QString&) {
+        return QStringLiteral("%1/%2 %3%4").arg(folder, stem, QString::number(++number), ending);
+    });
 }
 
 QString setAside(const QString& path, const QString& wishedName) {
-    QString landed;
-    return moveIntoFolder(path, unfinishedFolder(), wishedName, landed).isEmpty() ? landed : path;
+    return moveIntoFolder(path, unfinishedFolder(), wishedName).valueOr(path);
 }
 
 } // namespace Platform::FileManager

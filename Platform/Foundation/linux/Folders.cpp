@@ -77,15 +77,14 @@ QString runtime() {
     return own;
 }
 
-QString temporary(QString* why) {
+Result<QString> temporary() {
     const QString given = fromEnvironment("TMPDIR", {});
     if (!given.isEmpty() && whyNotPrivate(given).isEmpty())
         return given;
     const QString own = cache() + QStringLiteral("/tmp");
-    const QString problem = makePrivate(own);
-    if (why)
-        *why = problem;
-    return problem.isEmpty() ? own : QString();
+    if (const QString problem = makePrivate(own); !problem.isEmpty())
+        return Error{Error::Kind::NotPermitted, problem};
+    return own;
 }
 
 } // namespace Platform::Folders

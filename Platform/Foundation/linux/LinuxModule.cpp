@@ -10,12 +10,13 @@
 
 namespace Platform {
 
-void* loadModuleFunction(const QString& file, const char* name, QString& why) {
+Result<void*> loadModuleFunction(const QString& file, const char* name) {
     const QString path = createBundle()->pathForTool(file);
     void* const module = dlopen(QFile::encodeName(path).constData(), RTLD_LAZY | RTLD_LOCAL);
     void* const function = module ? dlsym(module, name) : nullptr;
     if (!function)
-        why = QStringLiteral("a part of the program is missing: ") + QString::fromLocal8Bit(dlerror());
+        return Error{Error::Kind::NotFound,
+                     QStringLiteral("a part of the program is missing: ") + QString::fromLocal8Bit(dlerror())};
     return function;
 }
 

@@ -32,16 +32,15 @@ public:
         lastError_.clear();
         // The lock lies beside the folder that a launch empties: two programs that would empty the same folder then use
         // the same lock, even when their environments differ.
-        QString why;
-        const QString folder = Folders::temporary(&why);
-        if (folder.isEmpty()) {
-            lastError_ = why;
+        const auto folder = Folders::temporary();
+        if (!folder) {
+            lastError_ = folder.error().text;
             return false;
         }
-        const QString path = folder + u'/' + identifier_ + QStringLiteral(".lock");
-        const auto result = lock_.take(path);
-        lastError_ = lock_.problem();
-        return result == FileLock::Result::Held;
+        const auto taken = lock_.take(*folder + u'/' + identifier_ + QStringLiteral(".lock"));
+        if (taken.error().kind != Error::Kind::Busy)
+            lastError_ = taken.error().text;
+        return bool(taken);
     }
 
     bool listen(Handler handler) override {

@@ -22,15 +22,14 @@ const FileRules noteRules{.ownUser = true, .noLink = true, .largest = 65536};
 
 } // namespace
 
-FileManager::Problem moveAway(const QString& from, const QString& to) {
+Result<> moveAway(const QString& from, const QString& to) {
     // The note is written first: without it a crash after the move would leave a file of unknown origin.
-    if (const auto problem = FileManager::writeAtomically(to + noteEnding, QFile::encodeName(from), 0600);
-        !problem.isEmpty())
-        return problem;
-    const auto problem = FileManager::move(from, to);
-    if (!problem.isEmpty() && !QFileInfo::exists(to))
+    if (const auto written = FileManager::writeAtomically(to + noteEnding, QFile::encodeName(from), 0600); !written)
+        return written;
+    const auto moved = FileManager::move(from, to);
+    if (!moved && !QFileInfo::exists(to))
         forget(to);
-    return problem;
+    return moved;
 }
 
 QString setAside(const QString& path, const QString& wishedName) {
@@ -40,10 +39,9 @@ QString setAside(const QString& path, const QString& wishedName) {
         return at;
     }
     // The next recording may reuse the file's name and would empty it.
-    if (QString landed; FileManager::moveIntoFolder(path, QFileInfo(path).path(), wishedName, landed).isEmpty())
-        at = landed;
+    at = FileManager::moveIntoFolder(path, QFileInfo(path).path(), wishedName).valueOr(at);
     const QString home = FileManager::unfinishedFolder() + u'/' + QFileInfo(at).fileName();
-    if (FileManager::writeAtomically(at + noteEnding, QFile::encodeName(home), 0600).isEmpty())
+    if (FileManager::writeAtomically(at + noteEnding, QFile::encodeName(home), 0600))
         return at;
     // An empty note needs no space on a full disk and also keeps the file.
     if (QFile note(at + noteEnding); !note.open(QIODevice::WriteOnly))
@@ -65,19 +63,18 @@ QStringList bringBack(const QString& folder) {
     const QStringList notes = QDir(folder).entryList({u'*' + noteEnding}, QDir::Files | QDir::Hidden);
     for (const QString& name : notes) {
         const QString path = folder + u'/' + name.chopped(noteEnding.size());
-        QString why;
-        const auto note = readFile(folder + u'/' + name, noteRules, why);
+        const auto note = readFile(folder + u'/' + name, noteRules);
         if (!QFileInfo(path).isFile() || !note)
             continue;
         QString home = QFile::decodeName(*note);
         if (home.isEmpty())
             home = FileManager::unfinishedFolder() + u'/' + QFileInfo(path).fileName();
         QString landed = home;
-        if (const auto problem = FileManager::move(path, home); !problem.isEmpty()) {
+        if (const auto moved = FileManager::move(path, home); !moved) {
             landed = FileManager::setAside(path, QFileInfo(home).fileName());
             if (landed == path) {
                 qCWarning(movedFilesLog, "%s is still at %s: it cannot be put back (%s)", qUtf8Printable(home),
-                          qUtf8Printable(path), qUtf8Printable(problem));
+                          qUtf8Printable(path), qUtf8Printable(moved.error().forLog()));
                 stay += {name.chopped(noteEnding.size()), name};
                 continue;
             }

@@ -35,43 +35,45 @@ QString refusal(const struct stat& status, const FileRules& rules) {
 
 OpenedFile openFile(const QString& path, const FileRules& rules) {
     OpenedFile opened;
-    const auto fail = [&opened](int error, const QString& why) {
+    const auto refuse = [&opened](const QString& why) {
         opened.file.reset(-1);
-        opened.error = error;
-        opened.why = why;
+        opened.error = {Error::Kind::NotAFile, why};
+        return std::move(opened);
+    };
+    const auto fail = [&opened] {
+        opened.code = errno;
+        opened.error = Error::ofErrno(opened.code);
+        opened.file.reset(-1);
         return std::move(opened);
     };
     const QByteArray name = QFile::encodeName(path);
     // Check before opening: opening a pipe or a device can change it, even when it is closed at once.
     const auto look = rules.noLink ? ::lstat : ::stat;
     if (look(name.constData(), &opened.status) != 0)
-        return fail(errno, qt_error_string(errno));
+        return fail();
     if (const QString why = refusal(opened.status, rules); !why.isEmpty())
-        return fail(0, why);
+        return refuse(why);
     opened.file.reset(::open(name.constData(), (rules.writable ? O_RDWR : O_RDONLY) | (rules.noLink ? O_NOFOLLOW : 0) |
                                                    O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
     if (!opened.file || ::fstat(opened.file.get(), &opened.status) != 0)
-        return fail(errno, qt_error_string(errno));
+        return fail();
     // The name may refer to another file by now.
     if (const QString why = refusal(opened.status, rules); !why.isEmpty())
-        return fail(0, why);
+        return refuse(why);
     return opened;
 }
 
-std::optional<QByteArray> readFile(const QString& path, const FileRules& rules, QString& why) {
+Result<QByteArray> readFile(const QString& path, const FileRules& rules) {
     FileRules limited = rules;
     if (limited.largest < 0)
         limited.largest = largestWithoutLimit;
     const OpenedFile opened = openFile(path, limited);
-    why = opened.why;
     if (!opened.file)
-        return std::nullopt;
+        return opened.error;
     QByteArray content(qsizetype(opened.status.st_size), Qt::Uninitialized);
     const std::int64_t count = readAllAt(opened.file.get(), content.data(), std::size_t(content.size()), 0);
-    if (count < 0) {
-        why = qt_error_string(int(-count));
-        return std::nullopt;
-    }
+    if (count < 0)
+        return Error::ofErrno(int(-count));
     content.truncate(qsizetype(count)); // the file may have been truncated since it was opened
     return content;
 }

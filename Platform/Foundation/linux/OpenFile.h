@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Foundation/Result.h"
 #include "Platform/Foundation/linux/Descriptor.h"
 
 #include <QString>
 
-#include <optional>
 #include <sys/stat.h>
 
 namespace Platform {
@@ -22,8 +22,8 @@ struct FileRules {
 struct OpenedFile {
     Descriptor file;       ///< empty on failure
     struct stat status {}; ///< of the file, also when a rule refused it
-    int error = 0;         ///< errno; 0 when a rule refused the file
-    QString why;           ///< for the user; empty on success
+    int code = 0;          ///< errno; 0 when a rule refused the file
+    Error error;           ///< none on success; the text says why, without the path
     [[nodiscard]] bool isFolder() const { return S_ISDIR(status.st_mode); }
 };
 
@@ -32,7 +32,7 @@ struct OpenedFile {
 /// thread.
 [[nodiscard]] OpenedFile openFile(const QString& path, const FileRules& rules = {});
 
-/// Reads such a file completely. Without a limit in @p rules at most 64 MiB. @return nothing on failure, with @p why.
-[[nodiscard]] std::optional<QByteArray> readFile(const QString& path, const FileRules& rules, QString& why);
+/// Reads such a file completely. Without a limit in @p rules at most 64 MiB.
+Result<QByteArray> readFile(const QString& path, const FileRules& rules);
 
 } // namespace Platform

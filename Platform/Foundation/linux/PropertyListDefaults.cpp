@@ -153,7 +153,7 @@ void PropertyListDefaults::load() {
     if (!readAgain(Damage::Leave)) {
         // Moving a damaged file away needs the lock: another process may just have written a good one in its place.
         FileLock lock;
-        if (lock.take(lockPath(path_), lockPatience) == FileLock::Result::Held)
+        if (lock.take(lockPath(path_), lockPatience))
             readAgain(Damage::SetAside);
     }
     ours_ = onDisk_;
@@ -252,10 +252,10 @@ PropertyListDefaults::Version PropertyListDefaults::versionOf(const struct stat&
 bool PropertyListDefaults::readAgain(Damage damage) {
     const OpenedFile opened = openFile(path_, {.largest = largestFile});
     if (!opened.file) {
-        if (opened.error == ENOENT || opened.error == ENOTDIR)
+        if (opened.error.kind == Error::Kind::NotFound)
             return true; // a file that was removed is written again completely by the next save
-        qCWarning(defaultsLog, "cannot read %s: %s", qUtf8Printable(path_), qUtf8Printable(opened.why));
-        errno = opened.error != 0 ? opened.error : EINVAL;
+        qCWarning(defaultsLog, "cannot read %s: %s", qUtf8Printable(path_), qUtf8Printable(opened.error.text));
+        errno = opened.code != 0 ? opened.code : EINVAL;
         return false;
     }
     const Version version = versionOf(opened.status);
@@ -281,10 +281,11 @@ bool PropertyListDefaults::readAgain(Damage damage) {
 void PropertyListDefaults::setAsideDamaged() {
     const QString name = path_ + ".damaged-"_L1 + QDateTime::currentDateTime().toString(u"yyyyMMdd-HHmmss"_s);
     QString target = name;
-    for (int number = 2; ::renameat2(AT_FDCWD, QFile::encodeName(path_).constData(), AT_FDCWD,
-                                     QFile::encodeName(target).constData(), RENAME_NOREPLACE) != 0;
-         ++number) {
-        if (errno != EEXIST || number > 1000)
+    for (int number = 2;; ++number) {
+        const int error = renameWithoutOverwriting(QFile::encodeName(path_), QFile::encodeName(target));
+        if (error == 0)
+            break;
+        if (error != EEXIST || number > 1000)
             return; // already gone (another process moved it), or the folder is not writable
         target = name + u'-' + QString::number(number);
     }
@@ -292,17 +293,17 @@ void PropertyListDefaults::setAsideDamaged() {
 }
 
 bool PropertyListDefaults::save(const Changes& changes, const QHash<QString, Merge>& merges) {
-    const auto problem = [this](const char* what) {
+    const auto tell = [this](const char* what, const QString& why) {
         if (!std::exchange(problemTold_, true))
-            qCWarning(defaultsLog, "cannot save %s: %s: %s", qUtf8Printable(path_), what,
-                      qUtf8Printable(qt_error_string(errno)));
+            qCWarning(defaultsLog, "cannot save %s: %s: %s", qUtf8Printable(path_), what, qUtf8Printable(why));
         return false;
     };
+    const auto problem = [&tell](const char* what) { return tell(what, qt_error_string(errno)); };
     if (!QDir().mkpath(QFileInfo(path_).path()))
         return problem("its folder");
     FileLock lock;
-    if (lock.take(lockPath(path_), lockPatience) != FileLock::Result::Held)
-        return problem("its lock");
+    if (const auto taken = lock.take(lockPath(path_), lockPatience); !taken)
+        return tell("its lock", taken.error().forLog());
     if (!readAgain(Damage::SetAside))
         return problem("what it holds now");
     spent_.reset();

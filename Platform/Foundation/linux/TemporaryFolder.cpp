@@ -34,7 +34,7 @@ void removeOfDeadOwners(const QString& parent, const QString& prefix) {
     for (const QString& name : names) {
         FileLock lock;
         const QString path = parent + u'/' + name;
-        if (lock.take(path) != FileLock::Result::Held)
+        if (!lock.take(path))
             continue;
         removeWithLock(path.chopped(lockEnding.size()), lock);
     }
@@ -56,29 +56,27 @@ void TemporaryFolder::removeWhole(const QString& path) {
             fs::remove_all(entry->path(), ignored);
 }
 
-std::optional<TemporaryFolder> TemporaryFolder::create(const QString& kind, QString& why) {
-    const QString parent = Folders::temporary(&why);
-    if (parent.isEmpty())
-        return {};
+Result<TemporaryFolder> TemporaryFolder::create(const QString& kind) {
+    const auto parent = Folders::temporary();
+    if (!parent)
+        return parent.error();
     const QString prefix = kind + u'-';
-    removeOfDeadOwners(parent, prefix);
+    removeOfDeadOwners(*parent, prefix);
     for (;;) {
-        const QString path = parent + u'/' + prefix + QString::number(QRandomGenerator::global()->generate(), 36);
+        const QString path = *parent + u'/' + prefix + QString::number(QRandomGenerator::global()->generate(), 36);
         FileLock lock;
-        const auto result = lock.take(path + lockEnding);
-        if (result == FileLock::Result::Elsewhere)
-            continue;
-        if (result == FileLock::Result::Failed) {
-            why = lock.problem();
-            return {};
+        if (const auto taken = lock.take(path + lockEnding); !taken) {
+            if (taken.error().kind == Error::Kind::Busy)
+                continue;
+            return taken.error();
         }
         if (mkdir(QFile::encodeName(path).constData(), 0700) == 0)
             return TemporaryFolder(std::move(lock), path);
         if (errno == EEXIST)
             continue;
-        why = QStringLiteral("%1: %2").arg(path, qt_error_string(errno));
+        const Error error = Error::ofErrno(errno, path);
         lock.removeAndRelease();
-        return {};
+        return error;
     }
 }
 

@@ -10,11 +10,9 @@ inline constexpr OSStatus kMediaInvalidPropertyError = -66563; ///< a format or 
 inline constexpr OSStatus kMediaInvalidStateError = -66567;    ///< the call came too late or too early
 
 /// The status code for an error; noErr for none.
-[[nodiscard]] OSStatus statusOf(const MediaError& error);
+[[nodiscard]] OSStatus statusOf(const Error& error);
 
-/// The error for @p code of errno and the file at @p path: "<path>: No space left on device".
-[[nodiscard]] MediaError errnoError(int code, const QString& path);
-
-[[nodiscard]] MediaError makeError(MediaError::Kind kind, const QString& path, const QString& what);
+/// An error whose text is "<path>: <what>".
+[[nodiscard]] Error makeError(Error::Kind kind, const QString& path, const QString& what, const QString& detail = {});
 
 } // namespace Platform

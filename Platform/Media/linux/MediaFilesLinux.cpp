@@ -30,48 +30,43 @@ public:
     // Damaged files are reported by our own errors, so libav prints nothing.
     MediaFilesLinux() { av_log_set_level(AV_LOG_QUIET); }
 
-    std::unique_ptr<ExtAudioFileWriter> createWriter(const QString& path, std::uint32_t fileType,
-                                                     const AudioStreamBasicDescription& format, std::uint32_t flags,
-                                                     MediaError& error) override {
-        error = {};
-        if (!canBeWritten(fileType, format)) {
-            error = makeError(MediaError::Kind::UnknownFormat, path, QStringLiteral("this format cannot be written"));
-            return nullptr;
-        }
+    Result<std::unique_ptr<ExtAudioFileWriter>> createWriter(const QString& path, std::uint32_t fileType,
+                                                             const AudioStreamBasicDescription& format,
+                                                             std::uint32_t flags) override {
+        if (!canBeWritten(fileType, format))
+            return makeError(Error::Kind::UnknownFormat, path, QStringLiteral("this format cannot be written"));
         auto writer = std::make_unique<FileWriter>(path, fileType, format);
-        error = writer->open(flags & kAudioFileFlags_EraseFile);
-        if (error)
-            return nullptr;
+        if (const auto opened = writer->open(flags & kAudioFileFlags_EraseFile); !opened)
+            return opened.error();
         return writer;
     }
 
-    std::unique_ptr<ExtAudioFileReader> openReader(const QString& path, MediaError& error) override {
-        auto input = InputFile::open(path, true, error);
-        return input ? std::make_unique<FileReader>(std::move(input)) : nullptr;
-    }
-
-    bool info(const QString& path, AudioFileInfo& info, MediaError& error) override {
-        SourceFile file;
-        if (!file.open(path)) {
-            if (const auto own = readOwnRecording(file)) {
-                error = {};
-                info = *own;
-                return true;
-            }
-        }
-        const auto input = InputFile::open(path, false, error);
+    Result<std::unique_ptr<ExtAudioFileReader>> openReader(const QString& path) override {
+        auto input = InputFile::open(path, true);
         if (!input)
-            return false;
-        info.dataFormat = input->dataFormat();
-        info.frameCount = input->lengthFrames();
-        info.packetCount = input->packetCount();
-        info.seconds = double(info.frameCount) / input->rate();
-        return true;
+            return input.error();
+        return std::make_unique<FileReader>(*std::move(input));
     }
 
-    std::unique_ptr<Movie> openMovie(const QString& path, MediaError& error) override {
-        return createMixMovie(path, error);
+    Result<AudioFileInfo> info(const QString& path) override {
+        SourceFile file;
+        if (file.open(path)) {
+            if (const auto own = readOwnRecording(file))
+                return *own;
+        }
+        const auto opened = InputFile::open(path, false);
+        if (!opened)
+            return opened.error();
+        InputFile& input = **opened;
+        AudioFileInfo info;
+        info.dataFormat = input.dataFormat();
+        info.frameCount = input.lengthFrames();
+        info.packetCount = input.packetCount();
+        info.seconds = double(info.frameCount) / input.rate();
+        return info;
     }
+
+    Result<std::unique_ptr<Movie>> openMovie(const QString& path) override { return createMixMovie(path); }
 
     OSStatus completeFormat(AudioStreamBasicDescription& format) override {
         if (format.mFormatID != kAudioFormatLinearPCM || format.mChannelsPerFrame == 0 || format.mBitsPerChannel == 0)

@@ -44,9 +44,9 @@ QStringList processesOf(const QString& runtimeFolder) {
 
 TEST(PrivateSession, HasAnOutputAndAToneThatCanBeHeard) {
     PrivateAudioSession::end();
-    QString why;
-    const auto session = PrivateSession::start(why);
-    ASSERT_TRUE(session) << why.toStdString();
+    auto started = PrivateSession::start();
+    ASSERT_TRUE(started) << started.error().text.toStdString();
+    auto session = *std::move(started);
     EXPECT_TRUE(PrivateSession::serverAnswers());
     TestCapture capture({.target = "sonaphex.tone", .monitor = false});
     ASSERT_TRUE(capture.start());
@@ -55,9 +55,9 @@ TEST(PrivateSession, HasAnOutputAndAToneThatCanBeHeard) {
 
 TEST(PrivateSession, LeavesNothingWhenItIsClosed) {
     PrivateAudioSession::end();
-    QString why;
-    auto session = PrivateSession::start(why);
-    ASSERT_TRUE(session) << why.toStdString();
+    auto started = PrivateSession::start();
+    ASSERT_TRUE(started) << started.error().text.toStdString();
+    auto session = *std::move(started);
     const QString folder = session->runtimeFolder();
     EXPECT_TRUE(QFileInfo::exists(folder));
     EXPECT_GE(processesOf(folder).size(), 3);
@@ -99,9 +99,9 @@ TEST(PrivateSession, EndsWithItsOwnerThatIsKilled) {
 TEST(PrivateSession, KeepsNothingOfItsCaller) {
     PrivateAudioSession::end();
     CallersThings things;
-    QString why;
-    const auto session = LinuxPrivateSession::start({}, why);
-    ASSERT_TRUE(session) << why.toStdString();
+    auto started = LinuxPrivateSession::start({});
+    ASSERT_TRUE(started) << started.error().text.toStdString();
+    auto session = *std::move(started);
     const QStringList processes = processesOf(session->runtimeFolder());
     ASSERT_GE(processes.size(), 2);
     for (const QString& each : processes + QStringList{QString::number(session->keeper())})
@@ -162,9 +162,9 @@ TEST(PrivateSession, MakesAnotherFolderWhenAKeeperThatBeginsBesideItRemovesTheFi
 
 TEST(PrivateSession, ServerDiesWithAKeeperThatIsKilled) {
     PrivateAudioSession::end();
-    QString why;
-    auto session = LinuxPrivateSession::start({}, why);
-    ASSERT_TRUE(session) << why.toStdString();
+    auto started = LinuxPrivateSession::start({});
+    ASSERT_TRUE(started) << started.error().text.toStdString();
+    auto session = *std::move(started);
     const QString folder = session->runtimeFolder();
     kill(session->keeper(), SIGKILL);
     EXPECT_TRUE(waitFor([&] { return processesOf(folder).isEmpty(); }));
@@ -177,11 +177,10 @@ TEST(PrivateSession, NamesThePackageThatIsMissing) {
     const QByteArray path = qgetenv("PATH");
     const QTemporaryDir bare;
     qputenv("PATH", bare.path().toLocal8Bit());
-    QString why;
-    EXPECT_FALSE(PrivateSession::start(why));
+    QString why = PrivateSession::start().error().text;
     EXPECT_TRUE(why.startsWith(u"pipewire is not installed"_s)) << why.toStdString();
     ASSERT_TRUE(QFile::link(u"/usr/bin/pipewire"_s, bare.filePath(u"pipewire"_s)));
-    EXPECT_FALSE(PrivateSession::start(why));
+    why = PrivateSession::start().error().text;
     EXPECT_TRUE(why.startsWith(u"wireplumber is not installed"_s)) << why.toStdString();
     qputenv("PATH", path);
 }

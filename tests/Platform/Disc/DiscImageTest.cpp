@@ -30,9 +30,9 @@ protected:
         return path;
     }
     std::shared_ptr<DRTrack> track(const QString& path) {
-        QString why;
-        auto made = discs.trackForAudioFile(path, why);
-        EXPECT_TRUE(made) << qPrintable(why);
+        auto opened = discs.trackForAudioFile(path);
+        EXPECT_TRUE(opened) << qPrintable(opened.error().text);
+        const auto made = std::move(opened).valueOr(nullptr);
         if (made) {
             auto properties = made->properties();
             properties.preGapLength = 75;
@@ -227,8 +227,7 @@ TEST_F(DiscImageTest, FailsBeforeItBeginsWithoutTracksOrRoom) {
     FakeSourceFiles sources;
     LinuxDiscRecording other(sources, noDrives);
     sources.addSource(u"/two hours"_s, 7200, [](int, std::int64_t) { return 0.F; });
-    QString why;
-    const auto tooLong = other.trackForAudioFile(u"/two hours"_s, why);
+    const auto tooLong = other.trackForAudioFile(u"/two hours"_s).valueOr(nullptr);
     ASSERT_TRUE(tooLong);
     tooLong->setProperties({75});
     EXPECT_EQ(
@@ -238,16 +237,15 @@ TEST_F(DiscImageTest, FailsBeforeItBeginsWithoutTracksOrRoom) {
 }
 
 TEST_F(DiscImageTest, NamesAFileThatCannotBeRead) {
-    QString why;
-    EXPECT_FALSE(discs.trackForAudioFile(at(u"none.wav"_s), why));
+    QString why = discs.trackForAudioFile(at(u"none.wav"_s)).error().text;
     EXPECT_TRUE(why.contains(at(u"none.wav"_s))) << qPrintable(why);
     QFile file(at(u"text.wav"_s));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("not a sound");
     file.close();
-    EXPECT_FALSE(discs.trackForAudioFile(at(u"text.wav"_s), why));
+    why = discs.trackForAudioFile(at(u"text.wav"_s)).error().text;
     EXPECT_TRUE(why.contains(at(u"text.wav"_s))) << qPrintable(why);
-    EXPECT_FALSE(discs.trackForAudioFile(folder.path(), why));
+    EXPECT_FALSE(discs.trackForAudioFile(folder.path()));
 }
 
 TEST_F(DiscImageTest, LeavesNothingWhenItIsAborted) {
@@ -262,10 +260,9 @@ TEST_F(DiscImageTest, LeavesNothingWhenItIsAborted) {
         return 0.F;
     });
     slow.setImagePath(at(u"disc"_s));
-    QString why;
     const auto burn = slow.burnWithDevice(slow.devices().back());
     const BurnWatch watch(slow.currentRunLoopCenter(), burn);
-    burn->writeLayout(DRLayout{slow.trackForAudioFile(u"/slow"_s, why)});
+    burn->writeLayout(DRLayout{slow.trackForAudioFile(u"/slow"_s).valueOr(nullptr)});
     ASSERT_TRUE(waitFor([&] { return asked.load(); }));
     burn->abort();
     goOn = true;

@@ -63,8 +63,7 @@ protected:
     DRLayout layout() {
         DRLayout made;
         for (const QString& path : {u"/one"_s, u"/two"_s}) {
-            QString why;
-            made.push_back(discs->trackForAudioFile(path, why));
+            made.push_back(discs->trackForAudioFile(path).valueOr(nullptr));
             made.back()->setProperties({75});
         }
         return made;

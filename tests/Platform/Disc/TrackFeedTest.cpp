@@ -21,8 +21,7 @@ protected:
                 std::this_thread::yield();
             return float(frame % 1000) / 32768;
         });
-        QString why;
-        return AudioTrack::open(files, path, why);
+        return AudioTrack::open(files, path).valueOr(nullptr);
     }
     static bool takeSectors(TrackFeed& feed, std::int64_t sectors) {
         std::vector<std::byte> sector(2352);

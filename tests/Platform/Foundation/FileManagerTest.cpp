@@ -44,7 +44,7 @@ struct FileManager : testing::Test {
 
 TEST_F(FileManager, MovesAFile) {
     put(path("a"), "one");
-    EXPECT_EQ(Files::move(path("a"), path("b")), QString());
+    EXPECT_TRUE(Files::move(path("a"), path("b")));
     EXPECT_EQ(get(path("b")), "one");
     EXPECT_FALSE(QFileInfo::exists(path("a")));
 }
@@ -52,7 +52,7 @@ TEST_F(FileManager, MovesAFile) {
 TEST_F(FileManager, NeverMovesOverAnotherFile) {
     put(path("a"), "one");
     put(path("b"), "two");
-    EXPECT_FALSE(Files::move(path("a"), path("b")).isEmpty());
+    EXPECT_FALSE(Files::move(path("a"), path("b")));
     EXPECT_EQ(get(path("a")), "one");
     EXPECT_EQ(get(path("b")), "two");
 }
@@ -60,14 +60,14 @@ TEST_F(FileManager, NeverMovesOverAnotherFile) {
 TEST_F(FileManager, NeverMovesOverABrokenLink) {
     put(path("a"), "one");
     ASSERT_EQ(symlink("nowhere", qPrintable(path("b"))), 0);
-    EXPECT_FALSE(Files::move(path("a"), path("b")).isEmpty());
+    EXPECT_FALSE(Files::move(path("a"), path("b")));
     EXPECT_TRUE(QFileInfo(path("b")).isSymLink());
 }
 
 TEST_F(FileManager, MovesAcrossFileSystemsAndLeavesNothingBehind) {
     const QString target = elsewhere.filePath(QStringLiteral("b"));
     put(path("a"), QByteArray(3000000, 'x'));
-    EXPECT_EQ(Files::move(path("a"), target), QString());
+    EXPECT_TRUE(Files::move(path("a"), target));
     EXPECT_EQ(get(target), QByteArray(3000000, 'x'));
     EXPECT_FALSE(QFileInfo::exists(path("a")));
     EXPECT_EQ(all(elsewhere.path()), QStringList{QStringLiteral("b")});
@@ -77,7 +77,7 @@ TEST_F(FileManager, NeverOverwritesAcrossFileSystems) {
     const QString target = elsewhere.filePath(QStringLiteral("b"));
     put(path("a"), "one");
     put(target, "two");
-    EXPECT_FALSE(Files::move(path("a"), target).isEmpty());
+    EXPECT_FALSE(Files::move(path("a"), target));
     EXPECT_EQ(get(path("a")), "one");
     EXPECT_EQ(get(target), "two");
     EXPECT_EQ(all(elsewhere.path()), QStringList{QStringLiteral("b")});
@@ -88,29 +88,30 @@ TEST_F(FileManager, TakesTheNextFreeNameWhenTheTargetAppeared) {
     put(path("Track0"), "");
     put(path("Track1"), "");
     int number = 0;
-    QString landed;
-    EXPECT_EQ(Files::moveToFreeName(
-                  path("a"), path("Track0"), [&](const QString&) { return path("Track") + QString::number(++number); },
-                  landed),
-              QString());
-    EXPECT_EQ(landed, path("Track2"));
-    EXPECT_EQ(get(landed), "one");
+    const auto landed = Files::moveToFreeName(
+        path("a"), path("Track0"), [&](const QString&) { return path("Track") + QString::number(++number); });
+    ASSERT_TRUE(landed);
+    EXPECT_EQ(*landed, path("Track2"));
+    EXPECT_EQ(get(*landed), "one");
 }
 
 TEST_F(FileManager, SaysWhyAMoveFailed) {
-    QString landed;
     const auto never = [](const QString&) { return QString(); };
-    EXPECT_EQ(Files::move(path("missing"), path("b")), QStringLiteral("No such file or directory"));
+    const Platform::Error error = Files::move(path("missing"), path("b")).error();
+    EXPECT_EQ(error.kind, Platform::Error::Kind::NotFound);
+    EXPECT_EQ(error.text, QStringLiteral("No such file or directory"));
     put(path("a"), "one");
-    EXPECT_EQ(Files::moveToFreeName(path("a"), path("no/folder"), never, landed),
+    EXPECT_EQ(Files::moveToFreeName(path("a"), path("no/folder"), never).error().text,
               QStringLiteral("No such file or directory"));
+    put(path("b"), "two");
+    EXPECT_EQ(Files::moveToFreeName(path("a"), path("b"), never).error().kind, Platform::Error::Kind::Exists);
     EXPECT_EQ(get(path("a")), "one");
 }
 
 TEST_F(FileManager, CopiesWithTheFilesModeAndTime) {
     put(path("a"), "one");
     chmod(qPrintable(path("a")), 0640);
-    EXPECT_EQ(Files::copy(path("a"), path("b")), QString());
+    EXPECT_TRUE(Files::copy(path("a"), path("b")));
     EXPECT_EQ(get(path("b")), "one");
     EXPECT_EQ(QFileInfo(path("b")).lastModified(), QFileInfo(path("a")).lastModified());
     struct stat is {};
@@ -121,9 +122,9 @@ TEST_F(FileManager, CopiesWithTheFilesModeAndTime) {
 TEST_F(FileManager, CopiesOverAnotherFileOnlyWhenTold) {
     put(path("a"), "one");
     put(path("b"), "two");
-    EXPECT_FALSE(Files::copy(path("a"), path("b")).isEmpty());
+    EXPECT_FALSE(Files::copy(path("a"), path("b")));
     EXPECT_EQ(get(path("b")), "two");
-    EXPECT_EQ(Files::copy(path("a"), path("b"), true), QString());
+    EXPECT_TRUE(Files::copy(path("a"), path("b"), true));
     EXPECT_EQ(get(path("b")), "one");
     EXPECT_EQ(all(dir.path()).filter(QStringLiteral(".part")), QStringList());
 }
@@ -133,25 +134,25 @@ TEST_F(FileManager, RemovesFilesAndLinksButNoFolder) {
     QDir().mkpath(path("folder"));
     put(path("folder/inside"), "kept");
     ASSERT_EQ(symlink("folder", qPrintable(path("link"))), 0);
-    EXPECT_EQ(Files::removeFile(path("a")), QString());
-    EXPECT_EQ(Files::removeFile(path("link")), QString());
-    EXPECT_EQ(Files::removeFile(path("missing")), QString());
-    EXPECT_FALSE(Files::removeFile(path("folder")).isEmpty());
+    EXPECT_TRUE(Files::removeFile(path("a")));
+    EXPECT_TRUE(Files::removeFile(path("link")));
+    EXPECT_TRUE(Files::removeFile(path("missing")));
+    EXPECT_FALSE(Files::removeFile(path("folder")));
     EXPECT_EQ(get(path("folder/inside")), "kept");
 }
 
 TEST_F(FileManager, WritesAWholeFileOrNothing) {
-    EXPECT_EQ(Files::writeAtomically(path("a"), "one"), QString());
-    EXPECT_EQ(Files::writeAtomically(path("a"), "two"), QString());
+    EXPECT_TRUE(Files::writeAtomically(path("a"), "one"));
+    EXPECT_TRUE(Files::writeAtomically(path("a"), "two"));
     EXPECT_EQ(get(path("a")), "two");
-    EXPECT_FALSE(Files::writeAtomically(path("no/folder"), "x").isEmpty());
+    EXPECT_FALSE(Files::writeAtomically(path("no/folder"), "x"));
     EXPECT_EQ(all(dir.path()), QStringList{QStringLiteral("a")});
 }
 
 TEST_F(FileManager, WritesThroughALink) {
     put(path("real"), "one");
     ASSERT_EQ(symlink("real", qPrintable(path("link"))), 0);
-    EXPECT_EQ(Files::writeAtomically(path("link"), "two"), QString());
+    EXPECT_TRUE(Files::writeAtomically(path("link"), "two"));
     EXPECT_TRUE(QFileInfo(path("link")).isSymLink());
     EXPECT_EQ(get(path("real")), "two");
 }
@@ -159,8 +160,8 @@ TEST_F(FileManager, WritesThroughALink) {
 TEST_F(FileManager, NamesAsLongAsNamesCanBeAreNoProblem) {
     const QString longest = dir.filePath(QString(255, u'n'));
     put(path("a"), "one");
-    EXPECT_EQ(Files::copy(path("a"), longest), QString());
-    EXPECT_EQ(Files::writeAtomically(longest, "two"), QString());
+    EXPECT_TRUE(Files::copy(path("a"), longest));
+    EXPECT_TRUE(Files::writeAtomically(longest, "two"));
     EXPECT_EQ(get(longest), "two");
 }
 

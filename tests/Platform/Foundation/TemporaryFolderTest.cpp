@@ -26,7 +26,6 @@ namespace {
 struct TemporaryFolderTest : testing::Test {
     QTemporaryDir dir;
     EnvironmentScope temporary{"TMPDIR", dir.path().toUtf8()};
-    QString why;
     [[nodiscard]] QStringList all() const {
         return QDir(dir.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     }
@@ -40,11 +39,11 @@ struct TemporaryFolderTest : testing::Test {
 
 TEST_F(TemporaryFolderTest, GoesWithItsObject) {
     {
-        const auto folder = TemporaryFolder::create(QStringLiteral("test"), why);
-        ASSERT_TRUE(folder) << qPrintable(why);
+        const auto folder = TemporaryFolder::create(QStringLiteral("test"));
+        ASSERT_TRUE(folder) << qPrintable(folder.error().text);
         EXPECT_TRUE(folder->path().startsWith(dir.path()));
         make(folder->path() + QStringLiteral("/raw"));
-        const auto second = TemporaryFolder::create(QStringLiteral("test"), why);
+        const auto second = TemporaryFolder::create(QStringLiteral("test"));
         ASSERT_TRUE(second);
         EXPECT_NE(second->path(), folder->path());
         EXPECT_TRUE(QFile::exists(folder->path() + QStringLiteral("/raw"))) << "that of a living owner stays";
@@ -56,8 +55,7 @@ TEST_F(TemporaryFolderTest, OfADeadOwnerIsRemovedByTheNext) {
     int ready[2];
     ASSERT_EQ(pipe(ready), 0);
     ChildProcess other([&] {
-        QString problem;
-        const auto folder = TemporaryFolder::create(QStringLiteral("test"), problem);
+        const auto folder = TemporaryFolder::create(QStringLiteral("test"));
         make(folder->path() + QStringLiteral("/raw"));
         (void)!write(ready[1], "x", 1);
         for (;;)
@@ -66,11 +64,11 @@ TEST_F(TemporaryFolderTest, OfADeadOwnerIsRemovedByTheNext) {
     });
     char x = 0;
     ASSERT_EQ(read(ready[0], &x, 1), 1);
-    { const auto mine = TemporaryFolder::create(QStringLiteral("test"), why); }
+    { const auto mine = TemporaryFolder::create(QStringLiteral("test")); }
     EXPECT_EQ(all().size(), 2) << "folder and lock of the living owner";
     other.kill();
     EXPECT_EQ(all().size(), 2);
-    { const auto mine = TemporaryFolder::create(QStringLiteral("test"), why); }
+    { const auto mine = TemporaryFolder::create(QStringLiteral("test")); }
     EXPECT_EQ(all(), QStringList());
 }
 
@@ -112,7 +110,7 @@ TEST_F(TemporaryFolderTest, StaysWithAFileOfTheUserThatHasNoOtherPlace) {
     make(dir.filePath(QStringLiteral("no folder")));
     const EnvironmentScope data("XDG_DATA_HOME", dir.filePath(QStringLiteral("no folder/data")).toUtf8());
     make(home + QStringLiteral("/a.m4a"));
-    ASSERT_EQ(MovedFiles::moveAway(home + QStringLiteral("/a.m4a"), folder + QStringLiteral("/1.m4a")), QString());
+    ASSERT_TRUE(MovedFiles::moveAway(home + QStringLiteral("/a.m4a"), folder + QStringLiteral("/1.m4a")));
     make(folder + QStringLiteral("/raw"));
     ASSERT_TRUE(QDir(home).removeRecursively());
 
@@ -163,13 +161,13 @@ TEST_F(TemporaryFolderTest, ThatHadToStayIsFoundAgain) {
     const QString home = dir.filePath(QStringLiteral("a.m4a"));
     make(home);
     {
-        const auto folder = TemporaryFolder::create(QStringLiteral("test"), why);
-        ASSERT_TRUE(folder) << qPrintable(why);
-        ASSERT_EQ(MovedFiles::moveAway(home, folder->path() + QStringLiteral("/1.m4a")), QString());
+        const auto folder = TemporaryFolder::create(QStringLiteral("test"));
+        ASSERT_TRUE(folder) << qPrintable(folder.error().text);
+        ASSERT_TRUE(MovedFiles::moveAway(home, folder->path() + QStringLiteral("/1.m4a")));
         make(home); // its original path is taken
     }
     EXPECT_EQ(all().size(), 4) << "the folder and its lock stay";
     ASSERT_TRUE(QFile::remove(home));
-    { const auto other = TemporaryFolder::create(QStringLiteral("test"), why); }
+    { const auto other = TemporaryFolder::create(QStringLiteral("test")); }
     EXPECT_EQ(all(), (QStringList{QStringLiteral("a.m4a"), QStringLiteral("no folder")}));
 }

@@ -20,10 +20,9 @@ TEST(BigWaveFiles, Beyond4GibAreRf64AndReadToTheEnd) {
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.read(4), "RF64");
-    Platform::AudioFileInfo info;
-    Platform::MediaError error;
-    ASSERT_TRUE(media().info(path, info, error)) << error.text.toStdString();
-    EXPECT_EQ(info.frameCount, minutes * 44100 * 60);
+    const auto info = media().info(path);
+    ASSERT_TRUE(info) << info.error().text.toStdString();
+    EXPECT_EQ(info->frameCount, minutes * 44100 * 60);
     const auto end = readFile(path, 44100, 2, (minutes - 1) * 44100 * 60);
     ASSERT_EQ(end.rows[0].size(), minute[0].size());
     EXPECT_GT(signalToError(minute[1], end.rows[1]), 140);

@@ -52,9 +52,9 @@ TEST_F(WrittenFiles, Mpeg4AndCafHaveTheExactLengthAndTheSoundInPlace) {
                 continue;
             EXPECT_GT(signalToError(source[0], back.rows[0]), 20);
             EXPECT_GT(signalToError(source[1], back.rows[1]), 20);
-            AudioFileInfo info;
-            MediaError error;
-            ASSERT_TRUE(media().info(path, info, error)) << error.text.toStdString();
+            const auto told = media().info(path);
+            ASSERT_TRUE(told) << told.error().text.toStdString();
+            const AudioFileInfo& info = *told;
             EXPECT_EQ(info.frameCount, std::int64_t(frames));
             EXPECT_EQ(info.dataFormat.mFormatID, kAudioFormatMPEG4AAC);
             EXPECT_EQ(info.dataFormat.mSampleRate, 44100);
@@ -73,11 +73,12 @@ TEST_F(WrittenFiles, WhatIsToldOfOurOwnFilesIsWhatADecoderFindsInThem) {
             auto writer = newWriter(path, kAudioFileM4AType, aacFormat(rate, channels), clientFormat(rate, channels));
             writeAll(*writer, source);
             ASSERT_EQ(writer->dispose(), noErr);
-            AudioFileInfo info;
-            MediaError error;
-            ASSERT_TRUE(media().info(path, info, error)) << error.text.toStdString();
-            const auto read = Platform::InputFile::open(path, true, error);
-            ASSERT_TRUE(read) << error.text.toStdString();
+            const auto told = media().info(path);
+            ASSERT_TRUE(told) << told.error().text.toStdString();
+            const AudioFileInfo& info = *told;
+            auto opened = Platform::InputFile::open(path, true);
+            ASSERT_TRUE(opened) << opened.error().text.toStdString();
+            const auto read = *std::move(opened);
             EXPECT_EQ(info.frameCount, read->lengthFrames());
             EXPECT_EQ(info.packetCount, read->packetCount());
             EXPECT_EQ(info.seconds, double(read->lengthFrames()) / read->rate());
@@ -121,11 +122,10 @@ TEST_F(WrittenFiles, AFileTakesTheFirstTwoOfManyChannels) {
 
 TEST_F(WrittenFiles, AnExistingFileIsKeptUnlessErasingWasAsked) {
     writeFile(at(u"a.wav"_s), kAudioFileWAVEType, tones(1000));
-    MediaError error;
-    EXPECT_FALSE(media().createWriter(at(u"a.wav"_s), kAudioFileWAVEType, waveFormat(), 0, error));
-    EXPECT_TRUE(error);
+    EXPECT_EQ(media().createWriter(at(u"a.wav"_s), kAudioFileWAVEType, waveFormat(), 0).error().kind,
+              Error::Kind::Exists);
     EXPECT_EQ(readFile(at(u"a.wav"_s)).length, 1000);
-    EXPECT_TRUE(media().createWriter(at(u"b.wav"_s), kAudioFileWAVEType, waveFormat(), 0, error));
+    EXPECT_TRUE(media().createWriter(at(u"b.wav"_s), kAudioFileWAVEType, waveFormat(), 0));
 }
 
 TEST_F(WrittenFiles, OtherRatesAreConvertedInPlaceAndLength) {
@@ -196,8 +196,8 @@ TEST_F(WrittenFiles, ReadersFindEveryFrameAgainAfterASeek) {
 TEST_F(WrittenFiles, SparseSamplesAreThoseOfAFullRead) {
     writeFile(at(u"a.m4a"_s), kAudioFileM4AType, sweep(700000, 44100));
     const auto whole = readFile(at(u"a.m4a"_s));
-    MediaError error;
-    auto reader = media().openReader(at(u"a.m4a"_s), error);
+    const auto reader = media().openReader(at(u"a.m4a"_s)).valueOr(nullptr);
+    ASSERT_TRUE(reader);
     reader->setClientDataFormat(clientFormat());
     std::vector<std::int64_t> frames;
     for (std::int64_t f = 0; f < 700000; f += 2205 - f % 512)

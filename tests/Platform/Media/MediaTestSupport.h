@@ -98,9 +98,9 @@ inline void writeAll(Platform::ExtAudioFileWriter& writer, Samples& rows, std::s
 inline std::unique_ptr<Platform::ExtAudioFileWriter> newWriter(const QString& path, std::uint32_t type,
                                                                const AudioStreamBasicDescription& format,
                                                                const AudioStreamBasicDescription& client) {
-    Platform::MediaError error;
-    auto writer = media().createWriter(path, type, format, kAudioFileFlags_EraseFile, error);
-    EXPECT_TRUE(writer) << error.text.toStdString();
+    auto created = media().createWriter(path, type, format, kAudioFileFlags_EraseFile);
+    EXPECT_TRUE(created) << created.error().text.toStdString();
+    auto writer = std::move(created).valueOr(nullptr);
     if (writer) {
         EXPECT_EQ(writer->setClientDataFormat(client), noErr);
     }
@@ -121,7 +121,7 @@ inline void writeFile(const QString& path, std::uint32_t type, Samples rows, dou
 struct ReadResult {
     Samples rows;
     int errors = 0;
-    Platform::MediaError openError;
+    Platform::Error openError;
     std::int64_t length = -1;
 };
 
@@ -130,9 +130,11 @@ inline ReadResult readFile(const QString& path, double rate = 44100, std::uint32
                            std::size_t most = std::size_t(1) << 40, std::uint32_t block = 512) {
     ReadResult result;
     result.rows.resize(channels);
-    auto reader = media().openReader(path, result.openError);
-    if (!reader)
+    auto opened = media().openReader(path);
+    result.openError = opened.error();
+    if (!opened)
         return result;
+    const auto reader = *std::move(opened);
     result.length = reader->fileLengthFrames();
     EXPECT_EQ(reader->setClientDataFormat(clientFormat(rate, channels)), noErr);
     if (from > 0) {

@@ -112,9 +112,9 @@ TEST_F(SoundTest, PlaysAWaveFileAsItIs) {
         format.mFramesPerPacket = 1;
         format.mChannelsPerFrame = 2;
         format.mBitsPerChannel = 32;
-        Platform::MediaError error;
-        auto writer = media->createWriter(file, kAudioFileWAVEType, format, kAudioFileFlags_EraseFile, error);
-        ASSERT_TRUE(writer) << qPrintable(error.text);
+        auto created = media->createWriter(file, kAudioFileWAVEType, format, kAudioFileFlags_EraseFile);
+        ASSERT_TRUE(created) << qPrintable(created.error().text);
+        const auto writer = *std::move(created);
         ASSERT_EQ(writer->setClientDataFormat(planarFloatFormat(kRate, 2)), noErr);
         std::vector<float> planes[2];
         for (std::uint32_t i = 0; i < kRate; ++i)

@@ -59,9 +59,9 @@ TEST_P(SourceFormats, AreReadWithTheRightLengthRateAndSoundAndSeekExactly) {
     const auto made = tool(u"ffmpeg"_s, arguments << path);
     ASSERT_EQ(made.status, 0) << made.err.toStdString();
 
-    MediaError error;
-    AudioFileInfo info;
-    ASSERT_TRUE(media().info(path, info, error)) << error.text.toStdString();
+    const auto told = media().info(path);
+    ASSERT_TRUE(told) << told.error().text.toStdString();
+    const AudioFileInfo& info = *told;
     EXPECT_EQ(info.dataFormat.mSampleRate, source.rate);
     EXPECT_EQ(int(info.dataFormat.mChannelsPerFrame), source.channels);
 
@@ -149,16 +149,11 @@ struct BadInput : testing::Test {
         file.write(bytes);
         return file.fileName();
     }
-    MediaError errorOf(const QString& path) const {
-        MediaError error;
-        EXPECT_FALSE(media().openReader(path, error));
+    Error errorOf(const QString& path) const {
+        Error error = media().openReader(path).error();
         EXPECT_TRUE(error);
-        MediaError second;
-        AudioFileInfo info;
-        EXPECT_FALSE(media().info(path, info, second));
-        EXPECT_EQ(second.kind, error.kind);
-        MediaError third;
-        EXPECT_FALSE(media().openMovie(path, third));
+        EXPECT_EQ(media().info(path).error().kind, error.kind);
+        EXPECT_FALSE(media().openMovie(path));
         EXPECT_TRUE(error.text.startsWith(path)) << error.text.toStdString();
         EXPECT_FALSE(error.text.contains(u'\n'));
         return error;
@@ -168,24 +163,23 @@ struct BadInput : testing::Test {
 } // namespace
 
 TEST_F(BadInput, EachKindIsToldInOneClearLine) {
-    EXPECT_EQ(errorOf(folder.filePath(u"missing.m4a"_s)).kind, MediaError::Kind::NotFound);
-    EXPECT_EQ(errorOf(folder.path()).kind, MediaError::Kind::NotAFile);
-    EXPECT_EQ(errorOf(u"/dev/null"_s).kind, MediaError::Kind::NotAFile);
-    EXPECT_EQ(errorOf(write(u"empty.m4a"_s, {})).kind, MediaError::Kind::UnknownFormat);
+    EXPECT_EQ(errorOf(folder.filePath(u"missing.m4a"_s)).kind, Error::Kind::NotFound);
+    EXPECT_EQ(errorOf(folder.path()).kind, Error::Kind::NotAFile);
+    EXPECT_EQ(errorOf(u"/dev/null"_s).kind, Error::Kind::NotAFile);
+    EXPECT_EQ(errorOf(write(u"empty.m4a"_s, {})).kind, Error::Kind::UnknownFormat);
     EXPECT_EQ(errorOf(write(u"text.m4a"_s, QByteArray("This is no music, only words.\n").repeated(500))).kind,
-              MediaError::Kind::UnknownFormat);
-    EXPECT_EQ(errorOf(write(u"short.wav"_s, "RIFF")).kind, MediaError::Kind::UnknownFormat);
+              Error::Kind::UnknownFormat);
+    EXPECT_EQ(errorOf(write(u"short.wav"_s, "RIFF")).kind, Error::Kind::UnknownFormat);
     EXPECT_EQ(errorOf(write(u"list.m3u8"_s, "#EXTM3U\n#EXT-X-TARGETDURATION:1\n#EXTINF:1,\n/etc/passwd\n")).kind,
-              MediaError::Kind::UnknownFormat);
+              Error::Kind::UnknownFormat);
 }
 
 TEST_F(BadInput, AFifoDoesNotMakeAnyoneWait) {
     const QString path = folder.filePath(u"fifo.m4a"_s);
     ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
-    EXPECT_EQ(errorOf(path).kind, MediaError::Kind::NotAFile);
-    MediaError error;
-    EXPECT_FALSE(media().createWriter(path, kAudioFileM4AType, aacFormat(), kAudioFileFlags_EraseFile, error));
-    EXPECT_EQ(error.kind, MediaError::Kind::NotAFile);
+    EXPECT_EQ(errorOf(path).kind, Error::Kind::NotAFile);
+    EXPECT_EQ(media().createWriter(path, kAudioFileM4AType, aacFormat(), kAudioFileFlags_EraseFile).error().kind,
+              Error::Kind::NotAFile);
 }
 
 TEST_F(BadInput, AFileWithPicturesOnlyHoldsNoSound) {
@@ -194,7 +188,7 @@ TEST_F(BadInput, AFileWithPicturesOnlyHoldsNoSound) {
                                  u"-c:v"_s, u"mpeg4"_s, path})
                   .status,
               0);
-    EXPECT_EQ(errorOf(path).kind, MediaError::Kind::NoAudio);
+    EXPECT_EQ(errorOf(path).kind, Error::Kind::NoAudio);
 }
 
 TEST_F(BadInput, ATruncatedFileIsRefusedOrReadAsFarAsItGoes) {

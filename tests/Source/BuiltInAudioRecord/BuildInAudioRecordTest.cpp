@@ -228,7 +228,7 @@ TEST_F(BuildInAudioRecordTest, DropsTheRestOfACycleThatCannotBeWrittenAndGoesOn)
     EXPECT_EQ(unit().feedValue(0.5F, 3), -34);
     EXPECT_EQ(media.files[1]->framesAccepted, 0) << "the second file is skipped";
     EXPECT_TRUE(levels.builtIn.empty()) << "and so is the level";
-    EXPECT_EQ(engine.writeError().kind, Platform::MediaError::Kind::DiskFull);
+    EXPECT_EQ(engine.writeError().kind, Platform::Error::Kind::DiskFull);
     media.files[0]->writeStatus = noErr;
     media.files[1]->writeStatus = -35;
     EXPECT_EQ(unit().feedValue(0.5F, 3), -35);

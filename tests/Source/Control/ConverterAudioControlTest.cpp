@@ -106,7 +106,7 @@ TEST_F(ConverterAudioControlTest, RefusesAnOutputInAMissingFolderAndCreatesNothi
     EXPECT_FALSE(converter.createOutPutFile(at(u"missing/target.m4a"_s), 1));
     EXPECT_TRUE(files.files.empty());
     EXPECT_FALSE(QFileInfo::exists(at(u"missing"_s)));
-    EXPECT_EQ(converter.exportError().kind, Platform::MediaError::Kind::NotFound);
+    EXPECT_EQ(converter.exportError().kind, Platform::Error::Kind::NotFound);
 }
 
 TEST_F(ConverterAudioControlTest, RefusesAnOutputThatCannotBeCreatedOrTakesNoClientFormat) {
@@ -212,7 +212,7 @@ TEST_F(ConverterAudioControlTest, AnswersNoForAMissingSourceAndTellsNobody) {
     EXPECT_FALSE(converter.startFadeInFadeOutConverterSource(source, 0, 1, 0, 0, 1));
     EXPECT_EQ(delegate.finished, 0);
     EXPECT_FALSE(files.last().disposed) << "a failed copy leaves the output open";
-    EXPECT_EQ(converter.sourceError().kind, Platform::MediaError::Kind::NotFound);
+    EXPECT_EQ(converter.sourceError().kind, Platform::Error::Kind::NotFound);
 }
 
 TEST_F(ConverterAudioControlTest, AnswersNoForASourceThatCannotBeReadOrTakesNoClientFormat) {
@@ -222,7 +222,7 @@ TEST_F(ConverterAudioControlTest, AnswersNoForASourceThatCannotBeReadOrTakesNoCl
     EXPECT_FALSE(converter.startFadeInFadeOutConverterSource(source, 0, 1, 0, 0, 1));
     files.sources.clear();
     EXPECT_FALSE(converter.startConverterSource(source, 0, 0));
-    EXPECT_EQ(converter.sourceError().kind, Platform::MediaError::Kind::UnknownFormat);
+    EXPECT_EQ(converter.sourceError().kind, Platform::Error::Kind::UnknownFormat);
     EXPECT_FALSE(files.last().disposed);
 }
 
@@ -233,7 +233,7 @@ TEST_F(ConverterAudioControlTest, CopiesOnWhenTheDiskIsFullAndKeepsTheFirstError
     files.last().writeStatus = -34;
     EXPECT_TRUE(converter.startConverterSource(source, 0, 0));
     EXPECT_EQ(delegate.finished, 1);
-    EXPECT_EQ(converter.exportError().kind, Platform::MediaError::Kind::DiskFull);
+    EXPECT_EQ(converter.exportError().kind, Platform::Error::Kind::DiskFull);
     ASSERT_TRUE(converter.createOutPutFile(target, 1));
     EXPECT_FALSE(converter.exportError()) << "a new output begins without the error of the last one";
 }

@@ -33,11 +33,11 @@ protected:
     /// All frames in the client format.
     static MediaTest::Samples read(const QString& path) {
         MediaTest::Samples rows(2);
-        Platform::MediaError error;
-        const auto reader = MediaTest::media().openReader(path, error);
-        EXPECT_TRUE(reader) << error.text.toStdString();
-        if (!reader)
+        auto opened = MediaTest::media().openReader(path);
+        EXPECT_TRUE(opened) << opened.error().text.toStdString();
+        if (!opened)
             return rows;
+        const auto reader = *std::move(opened);
         EXPECT_EQ(reader->setClientDataFormat(clientFormat()), noErr);
         MediaTest::Samples block(2, std::vector<float>(4096));
         for (;;) {
@@ -70,13 +70,12 @@ TEST_F(ConverterFiles, WritesTheLeftChannelExactlyIntoBothOfAWave) {
     ASSERT_EQ(result[0].size(), 100000U);
     EXPECT_EQ(result[0], rows[0]);
     EXPECT_EQ(result[1], rows[0]);
-    Platform::AudioFileInfo info;
-    Platform::MediaError error;
-    ASSERT_TRUE(MediaTest::media().info(target + u".wav"_s, info, error));
-    EXPECT_EQ(info.dataFormat.mBitsPerChannel, 32U);
-    EXPECT_EQ(info.dataFormat.mSampleRate, 44100);
-    EXPECT_EQ(info.dataFormat.mChannelsPerFrame, 2U);
-    EXPECT_FALSE(info.dataFormat.mFormatFlags & kAudioFormatFlagIsFloat);
+    const auto info = MediaTest::media().info(target + u".wav"_s);
+    ASSERT_TRUE(info);
+    EXPECT_EQ(info->dataFormat.mBitsPerChannel, 32U);
+    EXPECT_EQ(info->dataFormat.mSampleRate, 44100);
+    EXPECT_EQ(info->dataFormat.mChannelsPerFrame, 2U);
+    EXPECT_FALSE(info->dataFormat.mFormatFlags & kAudioFormatFlagIsFloat);
 }
 
 TEST_F(ConverterFiles, KeepsLengthsToTheFrameForOddPlaces) {
@@ -101,11 +100,10 @@ TEST_F(ConverterFiles, GivesEveryOutputTypeItsContainerAndTheSourcesLength) {
     for (const auto& [type, suffix] : types) {
         const auto path = target + u'.' + QString::fromLatin1(suffix);
         ASSERT_TRUE(convert(source, path, type)) << suffix;
-        Platform::AudioFileInfo info;
-        Platform::MediaError error;
-        ASSERT_TRUE(MediaTest::media().info(path, info, error)) << suffix;
-        EXPECT_EQ(info.frameCount, 99999) << suffix;
-        EXPECT_EQ(info.dataFormat.mFormatID, type == 0 ? kAudioFormatLinearPCM : kAudioFormatMPEG4AAC) << suffix;
+        const auto info = MediaTest::media().info(path);
+        ASSERT_TRUE(info) << suffix;
+        EXPECT_EQ(info->frameCount, 99999) << suffix;
+        EXPECT_EQ(info->dataFormat.mFormatID, type == 0 ? kAudioFormatLinearPCM : kAudioFormatMPEG4AAC) << suffix;
     }
     QFile first(target + u".m4a"_s);
     QFile second(target + u".m4r"_s);

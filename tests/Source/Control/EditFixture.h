@@ -88,9 +88,8 @@ protected:
         return child.wait() == 0 ? int(timer.nsecsElapsed() / 1000 * 6 / 5) : 0;
     }
     [[nodiscard]] double secondsOf(const QString& path) const {
-        Platform::AudioFileInfo info;
-        Platform::MediaError error;
-        return media_->info(path, info, error) ? info.seconds : -1;
+        const auto info = media_->info(path);
+        return info ? info->seconds : -1;
     }
 
     Platform::ServicesScope scope_;

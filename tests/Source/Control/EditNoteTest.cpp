@@ -10,17 +10,15 @@ class Notes : public EditFixture {};
 
 TEST_F(Notes, OfAFinishedEditAreGone) {
     const Dictionary entry = recording(u"One"_s, 3);
-    QString why;
-    auto note = EditNote::begin(at(u"One.m4a"_s), at(u"Two.m4a"_s), {}, why);
-    ASSERT_TRUE(note) << qPrintable(why);
+    auto note = EditNote::begin(at(u"One.m4a"_s), at(u"Two.m4a"_s), {});
+    ASSERT_TRUE(note) << qPrintable(note.error().text);
     EXPECT_EQ(notes().size(), 1);
     note->end();
     EXPECT_TRUE(notes().isEmpty());
 }
 
 TEST_F(Notes, StayWhileTheLibraryCannotBeStored) {
-    QString why;
-    auto note = EditNote::begin(at(u"One.m4a"_s), at(u"Two.m4a"_s), {}, why);
+    auto note = EditNote::begin(at(u"One.m4a"_s), at(u"Two.m4a"_s), {});
     ASSERT_TRUE(note);
     defaults_.flushFails = true;
     note->end();
@@ -29,9 +27,8 @@ TEST_F(Notes, StayWhileTheLibraryCannotBeStored) {
 
 TEST_F(Notes, BringTheEntryToARenamedAndTaggedFile) {
     const Dictionary entry = recording(u"One"_s, 3);
-    QString why;
     {
-        const auto note = EditNote::begin(at(u"One.m4a"_s), at(u"Two.m4a"_s), {}, why);
+        const auto note = EditNote::begin(at(u"One.m4a"_s), at(u"Two.m4a"_s), {});
         ASSERT_TRUE(note);
         EditNote::recover();
         EXPECT_EQ(notes().size(), 1) << "the note of a process that still works is left alone";
@@ -50,8 +47,7 @@ TEST_F(Notes, BringTheEntryToARenamedAndTaggedFile) {
 TEST_F(Notes, KeepThePathWhereTheRenameHadNotHappened) {
     recording(u"One"_s, 3);
     ASSERT_TRUE(Mpeg4Files::write(at(u"Two.m4a"_s), "somebody else's"));
-    QString why;
-    (void)EditNote::begin(at(u"One.m4a"_s), at(u"Two.m4a"_s), {}, why);
+    (void)EditNote::begin(at(u"One.m4a"_s), at(u"Two.m4a"_s), {});
     EditNote::recover();
     EXPECT_EQ(listed().value(AudioRecordEntry::SavePath), at(u"One.m4a"_s));
     EXPECT_EQ(Mpeg4Files::contentOf(at(u"Two.m4a"_s)), "somebody else's");
@@ -64,9 +60,8 @@ TEST_F(Notes, CorrectTheLengthAndRemoveTheHiddenFileAndNoOther) {
     const QString other = at(u"precious.m4a"_s);
     ASSERT_TRUE(Mpeg4Files::write(hidden, "half"));
     ASSERT_TRUE(Mpeg4Files::write(other, "whole"));
-    QString why;
-    (void)EditNote::begin(at(u"One.m4a"_s), at(u"One.m4a"_s), hidden, why);
-    (void)EditNote::begin(at(u"One.m4a"_s), at(u"One.m4a"_s), other, why);
+    (void)EditNote::begin(at(u"One.m4a"_s), at(u"One.m4a"_s), hidden);
+    (void)EditNote::begin(at(u"One.m4a"_s), at(u"One.m4a"_s), other);
     EditNote::recover();
     EXPECT_NEAR(listed().value(AudioRecordEntry::Length).toDouble(), 3, 0.05);
     EXPECT_FALSE(QFile::exists(hidden));
@@ -87,7 +82,7 @@ TEST_F(Notes, ThatAreTornAreRemovedAndDoNothing) {
 
 TEST_F(Notes, ThatCannotBeWrittenStopTheEdit) {
     ASSERT_TRUE(Mpeg4Files::write(home_.filePath(u"data"_s), "no folder"));
-    QString why;
-    EXPECT_FALSE(EditNote::begin(at(u"One.m4a"_s), at(u"Two.m4a"_s), {}, why));
-    EXPECT_FALSE(why.isEmpty());
+    const auto note = EditNote::begin(at(u"One.m4a"_s), at(u"Two.m4a"_s), {});
+    EXPECT_FALSE(note);
+    EXPECT_FALSE(note.error().text.isEmpty());
 }

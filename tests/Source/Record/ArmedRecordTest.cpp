@@ -383,7 +383,7 @@ TEST_F(ArmedRecordTest, AStoredSplitTimeThatIsNoNumberCutsNoSound) {
     defaults.setObject(PreferenceStore::PreferenceSplitKey, 1);
     defaults.setObject(PreferenceStore::PreferenceSplitTimeMSKey, u"soon"_s);
     beginWithComputerAudioOnly();
-    g_SplitTimeMS = PreferenceStore::storedSplitTimeMS();
+    g_SplitTimeMS = Settings::storedSplitTimeMS();
     ASSERT_EQ(g_SplitTimeMS, 0);
     controller->startAndStopRecord();
     play(ComputerAudio, 0.25F, 1);

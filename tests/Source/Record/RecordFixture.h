@@ -5,6 +5,7 @@
 #include "Platform/Foundation/FileManager.h"
 #include "Platform/Foundation/Services.h"
 #include "Source/Preferences/PreferenceStore.h"
+#include "Source/Preferences/Settings.h"
 #include "Source/Record/RecordSources.h"
 #include "Source/Record/RecordStateController.h"
 #include "tests/fakes/FakeAlerts.h"

@@ -300,7 +300,7 @@ TEST_F(RecordQueueTest, ARecordingThatNoPlaceTakesOutlivesItsTemporaryFolder) {
 
 TEST_F(RecordQueueTest, AMixThatFailsKeepsBothRawFiles) {
     beginWithBoth();
-    media.mixError = {Platform::MediaError::Kind::DiskFull, u"No space left on device"_s};
+    media.mixError = {Platform::Error::Kind::DiskFull, u"No space left on device"_s};
     QStringList kept;
     QObject::connect(controller.get(), &RecordStateController::recordingSetAside, controller.get(),
                      [&](const QString&, const QStringList& where) { kept = where; });
@@ -341,7 +341,7 @@ TEST_F(RecordQueueTest, AnEncoderThatFailsKeepsTheWave) {
 
 TEST_F(RecordQueueTest, ADamagedPlaceInASourceKeepsBothRawFilesBesideTheRecording) {
     beginWithBoth();
-    media.mixReadError = {Platform::MediaError::Kind::Damaged, u"a packet is damaged"_s};
+    media.mixReadError = {Platform::Error::Kind::Damaged, u"a packet is damaged"_s};
     recordBoth();
     ASSERT_TRUE(queueDone());
     EXPECT_EQ(delegate.paths, QStringList{track(0)});
@@ -354,7 +354,7 @@ TEST_F(RecordQueueTest, ADamagedPlaceInASourceKeepsBothRawFilesBesideTheRecordin
 TEST_F(RecordQueueTest, DamagedSourcesThatNoPlaceTakesAreNotDeleted) {
     beginWithBoth();
     makeFile(home.filePath(u"data"_s), "in the way");
-    media.mixReadError = {Platform::MediaError::Kind::Damaged, u"a packet is damaged"_s};
+    media.mixReadError = {Platform::Error::Kind::Damaged, u"a packet is damaged"_s};
     recordBoth();
     ASSERT_TRUE(queueDone());
     EXPECT_EQ(delegate.paths, QStringList{track(0)});
@@ -364,7 +364,7 @@ TEST_F(RecordQueueTest, DamagedSourcesThatNoPlaceTakesAreNotDeleted) {
 
 TEST_F(RecordQueueTest, AWaveThatCannotBeReadToItsEndIsKeptBesideTheRecording) {
     beginWithBoth();
-    media.readError = {Platform::MediaError::Kind::Other, u"Input/output error"_s};
+    media.readError = {Platform::Error::Kind::Other, u"Input/output error"_s};
     recordBoth();
     ASSERT_TRUE(queueDone());
     EXPECT_EQ(delegate.paths, QStringList{track(0)});
@@ -440,12 +440,11 @@ TEST(RecordQueueMovies, AMissingMovieTakesTheOthersPlace) {
     const QString path = folder.filePath(u"a.m4a"_s);
     QFile(path).open(QIODevice::WriteOnly);
     FakeRecordingFiles media;
-    Platform::MediaError error;
     std::unique_ptr<Platform::Movie> movie;
-    EXPECT_TRUE(RecordQueue::addAudioIntoMove(movie, media.openMovie(path, error)));
+    EXPECT_TRUE(RecordQueue::addAudioIntoMove(movie, *media.openMovie(path)));
     ASSERT_TRUE(movie);
     EXPECT_EQ(movie->soundTracks(), 1);
-    EXPECT_TRUE(RecordQueue::addAudioIntoMove(movie, media.openMovie(path, error)));
+    EXPECT_TRUE(RecordQueue::addAudioIntoMove(movie, *media.openMovie(path)));
     EXPECT_EQ(movie->soundTracks(), 2);
     EXPECT_FALSE(RecordQueue::addAudioIntoMove(movie, nullptr));
 }

@@ -530,8 +530,8 @@ TEST_F(RecordStateControllerTest, OverriddenSettingsAreNotStored) {
     addMicrophone();
     const Dictionary before = defaults.values();
     OverriddenPreferences preferences;
-    preferences.setValue(0, PreferenceStore::PreferenceFilterKey);
-    preferences.setValue(home.filePath(u"Elsewhere"_s), PreferenceStore::PreferenceSavePathKey);
+    preferences.setValue(0, Settings::filter);
+    preferences.setValue(home.filePath(u"Elsewhere"_s), Settings::savePath);
     controller = std::make_unique<RecordStateController>();
     controller->setDelegate(&delegate);
     controller->setPreferences(&preferences);

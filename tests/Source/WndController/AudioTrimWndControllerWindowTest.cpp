@@ -53,9 +53,8 @@ protected:
         ASSERT_TRUE(waitFor([&] { return !trim.waitWndController().isSheetUp(); }, 60000));
     }
     [[nodiscard]] double secondsOf(const QString& file) const {
-        Platform::AudioFileInfo info;
-        Platform::MediaError error;
-        return world.media->info(file, info, error) ? info.seconds : -1;
+        const auto info = world.media->info(file);
+        return info ? info->seconds : -1;
     }
 
     EditWorld world;

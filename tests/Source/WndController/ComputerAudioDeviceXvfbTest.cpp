@@ -124,7 +124,7 @@ TEST_F(InstallingTheDevice, KeepsTheWindowAliveAndShowsThatItWorks) {
 }
 
 TEST_F(InstallingTheDevice, ARefusedPasswordShowsTheAlertAndLeavesNothing) {
-    shell.refusal = u"the password prompt was cancelled"_s;
+    shell.refusal = Platform::Error{Platform::Error::Kind::Cancelled, u"the password prompt was cancelled"_s};
     find<QPushButton>("insertDeviceButton")->click();
     ASSERT_EQ(alerts.shown.size(), 1);
     EXPECT_EQ(alerts.shown.first().title, u"Can not insert the system audio device, Please try it again."_s);

@@ -62,7 +62,7 @@ OSStatus FileReader::seek(std::int64_t clientFrame) {
     if (!input_->seek(source)) {
         ended_ = true;
         const auto error =
-            makeError(MediaError::Kind::Damaged, input_->path(), QStringLiteral("cannot be read from the beginning"));
+            makeError(Error::Kind::Damaged, input_->path(), QStringLiteral("cannot be read from the beginning"));
         if (!firstError_)
             firstError_ = error;
         return statusOf(error);

@@ -17,7 +17,7 @@ public:
     OSStatus seek(std::int64_t clientFrame) override;
     OSStatus read(std::uint32_t& frames, AudioBufferList* data) override;
     [[nodiscard]] bool sparseSamples(std::span<const std::int64_t> frames, std::span<float> out) override;
-    [[nodiscard]] MediaError firstError() const override { return firstError_; }
+    [[nodiscard]] Error firstError() const override { return firstError_; }
     [[nodiscard]] QString metadata(const QString& key) const override { return input_->metadata(key); }
 
     /// For callers inside this folder that can use rows directly: all frames that are decoded, valid until the next
@@ -42,7 +42,7 @@ private:
     bool ended_ = false;
     bool atStart_ = true;             // nothing has been read since the file was opened
     std::vector<const float*> given_; // the rows of the last readRows()
-    MediaError firstError_;
+    Error firstError_;
 };
 
 } // namespace Platform

@@ -77,20 +77,22 @@ TakenOff takenOff(const AVPacket& packet) {
 
 } // namespace
 
-std::unique_ptr<InputFile> InputFile::open(const QString& path, bool decode, MediaError& error) {
+Result<std::unique_ptr<InputFile>> InputFile::open(const QString& path, bool decode) {
     std::unique_ptr<InputFile> input(new InputFile(path));
-    error = input->file_.open(path);
+    if (const auto opened = input->file_.open(path); !opened)
+        return opened.error();
     std::string why;
     input->av_ = Av::formatLibrary(&why);
-    if (!error && !input->av_)
-        error = makeError(MediaError::Kind::Other, path,
-                          QStringLiteral("sound files cannot be read: ") + QString::fromLocal8Bit(why.c_str()));
-    if (error)
-        return nullptr;
+    if (!input->av_)
+        return makeError(Error::Kind::Other, path,
+                         QStringLiteral("sound files cannot be read: ") + QString::fromLocal8Bit(why.c_str()));
     input->frame_.reset(av_frame_alloc());
     input->packet_.reset(Av::codecs().allocPacket());
-    if (!input->openContainer(error) || (decode && !input->openDecoder(error)))
-        return nullptr;
+    if (const auto opened = input->openContainer(); !opened)
+        return opened.error();
+    if (decode)
+        if (const auto opened = input->openDecoder(); !opened)
+            return opened.error();
     return input;
 }
 
@@ -100,7 +102,7 @@ InputFile::~InputFile() {
         delete static_cast<Reading*>(io_->opaque);
 }
 
-bool InputFile::openContainer(MediaError& error) {
+Result<> InputFile::openContainer() {
     codec_.reset();
     format_.reset();
     stream_ = nullptr;
@@ -110,19 +112,16 @@ bool InputFile::openContainer(MediaError& error) {
         io_.reset(av_->allocIo(buffer, ioBufferBytes, 0, reading.get(), readSome, nullptr, seekTo));
         if (!io_) {
             av_free(buffer);
-            error = makeError(MediaError::Kind::Other, path_, QStringLiteral("out of memory"));
-            return false;
+            return makeError(Error::Kind::Other, path_, QStringLiteral("out of memory"));
         }
         (void)reading.release(); // freed with the file
     }
     if (av_->seekIo(io_.get(), 0, SEEK_SET) < 0) {
-        error = makeError(MediaError::Kind::Damaged, path_, QStringLiteral("cannot be read"));
-        return false;
+        return makeError(Error::Kind::Damaged, path_, QStringLiteral("cannot be read"));
     }
     AVFormatContext* context = av_->allocContext();
     if (!context) {
-        error = makeError(MediaError::Kind::Other, path_, QStringLiteral("out of memory"));
-        return false;
+        return makeError(Error::Kind::Other, path_, QStringLiteral("out of memory"));
     }
     context->pb = io_.get();
     context->io_open = openNothing;
@@ -130,17 +129,16 @@ bool InputFile::openContainer(MediaError& error) {
     int code = av_->openInput(&context, "", nullptr, nullptr);
     if (code < 0) {
         const bool unknown = code == AVERROR_INVALIDDATA || code == AVERROR_EOF;
-        error = makeError(MediaError::Kind::UnknownFormat, path_,
-                          unknown ? QStringLiteral("not a sound file, or damaged beyond reading")
-                                  : QString::fromStdString(Av::text(code)));
-        return false;
+        return makeError(Error::Kind::UnknownFormat, path_,
+                         unknown ? QStringLiteral("not a sound file, or damaged beyond reading")
+                                 : QString::fromStdString(Av::text(code)),
+                         QStringLiteral("libavformat: ") + QString::fromStdString(Av::text(code)));
     }
     format_.reset(context);
     code = av_->findStreamInfo(context, nullptr);
     const int best = av_->findBestStream(context, AVMEDIA_TYPE_AUDIO, -1, -1, nullptr, 0);
     if (best < 0) {
-        error = makeError(MediaError::Kind::NoAudio, path_, QStringLiteral("the file holds no sound"));
-        return false;
+        return makeError(Error::Kind::NoAudio, path_, QStringLiteral("the file holds no sound"));
     }
     stream_ = context->streams[best];
     for (unsigned i = 0; i < context->nb_streams; ++i) {
@@ -151,22 +149,20 @@ bool InputFile::openContainer(MediaError& error) {
     channels_ = stream_->codecpar->ch_layout.nb_channels;
     if (code < 0 || rate_ <= 0 || rate_ > mostRate || channels_ <= 0 || channels_ > 64 || stream_->time_base.num <= 0 ||
         stream_->time_base.den <= 0) {
-        error = makeError(MediaError::Kind::Damaged, path_, QStringLiteral("the sound in it cannot be understood"));
-        return false;
+        return makeError(Error::Kind::Damaged, path_, QStringLiteral("the sound in it cannot be understood"));
     }
     if (formatIs(*format_, "mp4"))
         facts_ = readMpeg4Facts(file_, rate_);
     else if (formatIs(*format_, "caf") && !isPcm(stream_->codecpar->codec_id))
         facts_ = readCafFacts(file_);
-    return true;
+    return {};
 }
 
-bool InputFile::openDecoder(MediaError& error) {
+Result<> InputFile::openDecoder() {
     codec_ = Av::createDecoder(*stream_);
     if (!codec_ || Av::codecs().open(codec_.get(), nullptr, nullptr) < 0) {
         codec_.reset();
-        error = makeError(MediaError::Kind::UnknownFormat, path_, QStringLiteral("no decoder for this kind of sound"));
-        return false;
+        return makeError(Error::Kind::UnknownFormat, path_, QStringLiteral("no decoder for this kind of sound"));
     }
     if (outputChannels_ == 0)
         outputChannels_ = channels_;
@@ -175,7 +171,7 @@ bool InputFile::openDecoder(MediaError& error) {
     draining_ = timeFromFrames_ = frameIsWaiting_ = false;
     silence_ = packetTime_ = origin_ = 0;
     // Only a decoded frame gives the rate and channels reliably: some headers are incomplete.
-    std::optional<MediaError> ignored;
+    std::optional<Error> ignored;
     Got got = Got::Silence;
     for (int i = 0; i < 64 && got == Got::Silence; ++i)
         got = decodeOne(ignored);
@@ -192,17 +188,15 @@ bool InputFile::openDecoder(MediaError& error) {
         else if (frame_->pts != AV_NOPTS_VALUE)
             origin_ = frame_->pts;
         frameIsWaiting_ = true;
-        return true;
+        return {};
     }
     if (got == Got::Silence) {
-        error = makeError(MediaError::Kind::Damaged, path_, QStringLiteral("the sound in it cannot be decoded"));
-        return false;
+        return makeError(Error::Kind::Damaged, path_, QStringLiteral("the sound in it cannot be decoded"));
     }
     if (ignored) {
-        error = *ignored;
-        return false;
+        return *ignored;
     }
-    return true; // no frames at all: an empty recording
+    return {}; // no frames at all: an empty recording
 }
 
 bool InputFile::timestampsAreExact() const {
@@ -254,10 +248,10 @@ void InputFile::findLength() {
 void InputFile::countPackets() {
     length_ = 0;
     packets_ = 0;
-    MediaError error;
-    const auto counter = open(path_, false, error);
-    if (!counter)
+    const auto opened = open(path_, false);
+    if (!opened)
         return;
+    InputFile* const counter = opened->get();
     std::int64_t begin = 0;
     std::int64_t end = 0; // both in the stream's time
     std::int64_t usual = 0;
@@ -348,10 +342,10 @@ void InputFile::setOutputChannels(int channels) {
 }
 
 /// Decodes the next frame, or gives the length of the silence that replaces a damaged one.
-InputFile::Got InputFile::decodeOne(std::optional<MediaError>& error) {
+InputFile::Got InputFile::decodeOne(std::optional<Error>& error) {
     const auto damaged = [&](int code) {
         error = makeError(
-            MediaError::Kind::Damaged, path_,
+            Error::Kind::Damaged, path_,
             QStringLiteral("damaged at frame %1 (%2)").arg(position_).arg(QString::fromStdString(Av::text(code))));
     };
     for (;;) {
@@ -410,7 +404,7 @@ InputFile::Block InputFile::next() {
     for (;;) {
         if (cut && position_ >= *facts_.validFrames)
             return block;
-        std::optional<MediaError> error;
+        std::optional<Error> error;
         const Got got = std::exchange(frameIsWaiting_, false) ? Got::Frame : decodeOne(error);
         if (error && !block.error)
             block.error = error;
@@ -488,7 +482,7 @@ InputFile::Block InputFile::convert(std::int64_t skip, std::int64_t most) {
         if (!mixer_ || swr_init(mixer_.get()) < 0) {
             mixer_.reset();
             block.frames = 0;
-            block.error = makeError(MediaError::Kind::Damaged, path_, QStringLiteral("channels that cannot be mixed"));
+            block.error = makeError(Error::Kind::Damaged, path_, QStringLiteral("channels that cannot be mixed"));
             return block;
         }
         mixerFormat_ = frame_->format;
@@ -515,7 +509,6 @@ InputFile::Block InputFile::convert(std::int64_t skip, std::int64_t most) {
 bool InputFile::seek(std::int64_t frame) {
     frame = std::max<std::int64_t>(0, frame);
     failuresInARow_ = 0;
-    MediaError error;
     if (timestampsAreExact() && frame > prerollFrames) {
         const std::int64_t time = inStreamTime(frame - prerollFrames) + origin_;
         if (av_->seekFrame(format_.get(), stream_->index, time, AVSEEK_FLAG_BACKWARD) >= 0) {
@@ -527,14 +520,14 @@ bool InputFile::seek(std::int64_t frame) {
         }
     }
     // Starts over, as if the file had just been opened.
-    if (!openContainer(error) || !openDecoder(error))
+    if (!openContainer() || !openDecoder())
         return false;
     target_ = frame;
     if (frame <= 2 * prerollFrames || !timesAreFine())
         return true;
     // When the target is far ahead, the packets before it are skipped without decoding.
     const std::int64_t origin = origin_;
-    if (!openContainer(error))
+    if (!openContainer())
         return false;
     codec_ = Av::createDecoder(*stream_);
     if (!codec_ || Av::codecs().open(codec_.get(), nullptr, nullptr) < 0)

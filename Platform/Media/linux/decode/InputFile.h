@@ -16,7 +16,7 @@ namespace Platform {
 class InputFile {
 public:
     /// @p decode: false when the file is only described.
-    [[nodiscard]] static std::unique_ptr<InputFile> open(const QString& path, bool decode, MediaError& error);
+    static Result<std::unique_ptr<InputFile>> open(const QString& path, bool decode);
     ~InputFile();
 
     [[nodiscard]] int rate() const { return rate_; }
@@ -35,7 +35,7 @@ public:
     struct Block {
         const float* const* rows = nullptr; ///< valid until the next call
         std::size_t frames = 0;             ///< 0 at the end
-        std::optional<MediaError> error;    ///< set when these frames replace damaged ones
+        std::optional<Error> error;         ///< set when these frames replace damaged ones
     };
     [[nodiscard]] Block next();
     /// The next block begins with this frame (or at the end).
@@ -46,15 +46,15 @@ public:
 
 private:
     explicit InputFile(QString path) : path_(std::move(path)) {}
-    bool openContainer(MediaError& error);
-    bool openDecoder(MediaError& error);
+    Result<> openContainer();
+    Result<> openDecoder();
     void findLength();
     void countPackets();
     [[nodiscard]] bool timestampsAreExact() const;
     [[nodiscard]] bool timesAreFine() const;
 
     enum class Got { Frame, Silence, End };
-    Got decodeOne(std::optional<MediaError>& error);
+    Got decodeOne(std::optional<Error>& error);
     Block convert(std::int64_t skip, std::int64_t most);
     std::int64_t inFrames(std::int64_t timestamp) const;
     std::int64_t inStreamTime(std::int64_t frames) const;

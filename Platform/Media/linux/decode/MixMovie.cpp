@@ -74,7 +74,7 @@ public:
         return done;
     }
 
-    [[nodiscard]] MediaError error() const { return reader_.firstError(); }
+    [[nodiscard]] Error error() const { return reader_.firstError(); }
 
 private:
     bool fill() {
@@ -139,28 +139,26 @@ public:
             tracks_[std::size_t(track)].timing = timing;
     }
 
-    MediaError writeWave(const QString& path, const std::function<bool(double)>& progress) override;
-    MediaError readError() const override { return readError_; }
+    Result<> writeWave(const QString& path, const std::function<bool(double)>& progress) override;
+    Error readError() const override { return readError_; }
 
 private:
     std::vector<Track> tracks_;
-    MediaError readError_;
+    Error readError_;
 };
 
-MediaError MixMovie::writeWave(const QString& path, const std::function<bool(double)>& progress) {
+Result<> MixMovie::writeWave(const QString& path, const std::function<bool(double)>& progress) {
     std::vector<std::unique_ptr<TrackReader>> readers;
-    MediaError error;
     readError_ = {};
     for (const Track& track : tracks_) {
-        auto input = InputFile::open(track.path, true, error);
+        auto input = InputFile::open(track.path, true);
         if (!input)
-            return error;
-        readers.push_back(std::make_unique<TrackReader>(std::move(input), track.timing));
+            return input.error();
+        readers.push_back(std::make_unique<TrackReader>(*std::move(input), track.timing));
     }
     FileWriter writer(path, kAudioFileWAVEType, waveFormat());
-    error = writer.open(true);
-    if (error)
-        return error;
+    if (const auto opened = writer.open(true); !opened)
+        return opened;
     writer.setClientDataFormat(planarFloatFormat(mixRate, mixChannels));
 
     const double total = std::max(1.0, duration() * mixRate);
@@ -168,6 +166,7 @@ MediaError MixMovie::writeWave(const QString& path, const std::function<bool(dou
     std::vector<std::size_t> counts(readers.size());
     alignas(AudioBufferList) std::byte memory[sizeof(AudioBufferList) + sizeof(AudioBuffer)];
     auto* list = new (memory) AudioBufferList{};
+    Error error;
     for (double written = 0; !error;) {
         // Each track is decoded on its own thread.
         const auto readTrack = [&](std::size_t i) {
@@ -199,7 +198,7 @@ MediaError MixMovie::writeWave(const QString& path, const std::function<bool(dou
             error = writer.firstError();
         written += double(frames);
         if (!error && progress && !progress(std::min(1.0, written / total)))
-            error = makeError(MediaError::Kind::Other, path, QStringLiteral("cancelled"));
+            error = makeError(Error::Kind::Cancelled, path, QStringLiteral("cancelled"));
     }
     for (const auto& reader : readers)
         if (!readError_)
@@ -214,11 +213,12 @@ MediaError MixMovie::writeWave(const QString& path, const std::function<bool(dou
 
 } // namespace
 
-std::unique_ptr<Movie> createMixMovie(const QString& path, MediaError& error) {
-    const auto input = InputFile::open(path, false, error);
-    if (!input)
-        return nullptr;
-    return std::make_unique<MixMovie>(Track{path, double(input->lengthFrames()) / input->rate(), {}});
+Result<std::unique_ptr<Movie>> createMixMovie(const QString& path) {
+    const auto opened = InputFile::open(path, false);
+    if (!opened)
+        return opened.error();
+    InputFile& input = **opened;
+    return std::make_unique<MixMovie>(Track{path, double(input.lengthFrames()) / input.rate(), {}});
 }
 
 } // namespace Platform

@@ -7,6 +7,6 @@
 namespace Platform {
 
 /// A movie with the audio of the file at @p path. The file is opened again when the movie is written.
-[[nodiscard]] std::unique_ptr<Movie> createMixMovie(const QString& path, MediaError& error);
+Result<std::unique_ptr<Movie>> createMixMovie(const QString& path);
 
 } // namespace Platform

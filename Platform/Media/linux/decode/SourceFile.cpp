@@ -21,13 +21,12 @@ SourceFile::~SourceFile() {
         ::close(fd_);
 }
 
-MediaError SourceFile::open(const QString& path) {
+Result<> SourceFile::open(const QString& path) {
     OpenedFile opened = openFile(path);
     if (!opened.file)
-        return opened.error != 0 ? errnoError(opened.error, path)
-                                 : makeError(MediaError::Kind::NotAFile, path, opened.why);
+        return makeError(opened.error.kind, path, opened.error.text, opened.error.detail);
     if (opened.status.st_size == 0)
-        return makeError(MediaError::Kind::UnknownFormat, path, QStringLiteral("the file is empty"));
+        return makeError(Error::Kind::UnknownFormat, path, QStringLiteral("the file is empty"));
     fd_ = opened.file.release();
     ::posix_fadvise(fd_, 0, 0, POSIX_FADV_SEQUENTIAL);
     return {};

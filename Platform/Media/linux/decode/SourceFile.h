@@ -18,7 +18,7 @@ public:
     SourceFile(const SourceFile&) = delete;
     SourceFile& operator=(const SourceFile&) = delete;
 
-    [[nodiscard]] MediaError open(const QString& path);
+    Result<> open(const QString& path);
     [[nodiscard]] std::int64_t size() const override;
     /// @return bytes read, 0 at the end, negative errno on failure.
     std::int64_t read(std::int64_t offset, std::span<std::uint8_t> out) const;

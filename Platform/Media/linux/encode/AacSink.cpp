@@ -41,7 +41,7 @@ public:
 private:
     void store() {
         if (!encoder_.valid())
-            file_.fail(makeError(MediaError::Kind::Encoder, file_.path(), QStringLiteral("the AAC encoder failed")));
+            file_.fail(makeError(Error::Kind::Encoder, file_.path(), QStringLiteral("the AAC encoder failed")));
         for (const auto& packet : packets_) {
             if (!file_.failed())
                 container_->add(packet);

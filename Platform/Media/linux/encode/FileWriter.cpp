@@ -92,7 +92,7 @@ FileWriter::~FileWriter() {
     dispose();
 }
 
-MediaError FileWriter::open(bool overwrite) {
+Result<> FileWriter::open(bool overwrite) {
     return core_->file.create(core_->path, overwrite);
 }
 
@@ -181,7 +181,7 @@ void FileWriter::start(bool parallel) {
     if (!core.sink) {
         std::string why;
         const bool isMissing = core.format.mFormatID == kAudioFormatMPEG4AAC && !Av::codecLibrary(&why);
-        core.file.fail(makeError(MediaError::Kind::Encoder, core.path,
+        core.file.fail(makeError(Error::Kind::Encoder, core.path,
                                  isMissing
                                      ? QStringLiteral("the encoder is missing: ") + QString::fromLocal8Bit(why.c_str())
                                      : QStringLiteral("the encoder does not take this rate or channel count")));
@@ -278,7 +278,7 @@ std::int64_t FileWriter::framesAccepted() const {
     return core_->accepted;
 }
 
-MediaError FileWriter::firstError() const {
+Error FileWriter::firstError() const {
     return core_->file.firstError();
 }
 
@@ -297,7 +297,7 @@ void FileWriter::Core::run() {
         stream = std::make_shared<ConversionStream>(
             channels.size(), client ? int(std::lround(client->mSampleRate)) : fileRate, fileRate);
         if (!stream->valid())
-            file.fail(makeError(MediaError::Kind::Encoder, path, QStringLiteral("the rate cannot be converted")));
+            file.fail(makeError(Error::Kind::Encoder, path, QStringLiteral("the rate cannot be converted")));
     }
     std::shared_ptr<CutTail> tail;
     std::vector<const float*> rows;

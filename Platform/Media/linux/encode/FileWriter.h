@@ -14,7 +14,7 @@ public:
     FileWriter(const QString& path, std::uint32_t fileType, const AudioStreamBasicDescription& format);
     ~FileWriter() override;
     /// Creates the file. Call once.
-    [[nodiscard]] MediaError open(bool overwrite);
+    Result<> open(bool overwrite);
 
     OSStatus setClientDataFormat(const AudioStreamBasicDescription& format) override;
     [[nodiscard]] bool hasAudioConverter() const override;
@@ -25,7 +25,7 @@ public:
     OSStatus dispose() override;
     void disposeLater(std::function<void(OSStatus)> closed) override;
     [[nodiscard]] std::int64_t framesAccepted() const override;
-    [[nodiscard]] MediaError firstError() const override;
+    [[nodiscard]] Error firstError() const override;
     [[nodiscard]] QString path() const override;
 
 private:

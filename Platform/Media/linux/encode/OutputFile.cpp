@@ -17,21 +17,21 @@ OutputFile::~OutputFile() {
     close();
 }
 
-MediaError OutputFile::create(const QString& path, bool overwrite) {
+Result<> OutputFile::create(const QString& path, bool overwrite) {
     path_ = path;
     const QByteArray name = QFile::encodeName(path);
     // Truncated later, after it is known to be a regular file.
     const int flags = O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK | (overwrite ? 0 : O_EXCL);
     fd_ = ::open(name.constData(), flags, 0666);
     if (fd_ < 0)
-        return errnoError(errno, path);
+        return Error::ofErrno(errno, path);
     struct stat info = {};
     if (::fstat(fd_, &info) == 0 && !S_ISREG(info.st_mode)) {
         close();
-        return makeError(MediaError::Kind::NotAFile, path, QStringLiteral("not a regular file"));
+        return makeError(Error::Kind::NotAFile, path, QStringLiteral("not a regular file"));
     }
     if (::ftruncate(fd_, 0) < 0) {
-        const MediaError error = errnoError(errno, path);
+        const Error error = Error::ofErrno(errno, path);
         close();
         return error;
     }
@@ -42,7 +42,7 @@ bool OutputFile::append(std::span<const std::uint8_t> bytes) {
     if (fd_ < 0 || failed())
         return false;
     if (!writeAllAt(fd_, bytes, size_)) {
-        fail(errnoError(errno, path_));
+        fail(Error::ofErrno(errno, path_));
         if (::ftruncate(fd_, size_) < 0)
             qWarning("%s: the unfinished end could not be cut off", qUtf8Printable(path_));
         return false;
@@ -56,7 +56,7 @@ bool OutputFile::patch(std::int64_t offset, std::span<const std::uint8_t> bytes)
         return false;
     if (writeAllAt(fd_, bytes, offset))
         return true;
-    fail(errnoError(errno, path_));
+    fail(Error::ofErrno(errno, path_));
     return false;
 }
 
@@ -91,7 +91,7 @@ bool OutputFile::replaceWith(OutputFile& replacement) {
 
 void OutputFile::syncContent() {
     if (fd_ >= 0 && !syncFile(fd_))
-        fail(errnoError(errno, path_));
+        fail(Error::ofErrno(errno, path_));
 }
 
 void OutputFile::sync() {
@@ -104,11 +104,11 @@ void OutputFile::close() {
         return;
     // Some file systems report a full disk only at close.
     if (::close(fd_) < 0 && errno != EINTR)
-        fail(errnoError(errno, path_));
+        fail(Error::ofErrno(errno, path_));
     fd_ = -1;
 }
 
-void OutputFile::fail(const MediaError& error) {
+void OutputFile::fail(const Error& error) {
     const std::lock_guard lock(mutex_);
     if (!error_)
         error_ = error;
@@ -119,7 +119,7 @@ bool OutputFile::failed() const {
     return bool(error_);
 }
 
-MediaError OutputFile::firstError() const {
+Error OutputFile::firstError() const {
     const std::lock_guard lock(mutex_);
     return error_;
 }

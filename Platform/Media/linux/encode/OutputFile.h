@@ -23,7 +23,7 @@ public:
 
     /// Creates the file. An existing file is truncated when @p overwrite, else it is kept and the call fails. Never
     /// blocks on a FIFO or a device.
-    [[nodiscard]] MediaError create(const QString& path, bool overwrite);
+    Result<> create(const QString& path, bool overwrite);
 
     /// Appends all of @p bytes, or nothing: a part that was written before an error is removed again.
     bool append(std::span<const std::uint8_t> bytes);
@@ -41,9 +41,9 @@ public:
     /// Waits until the file and its name are on the disk. Some disk errors are only reported here.
     void sync();
     void close();
-    void fail(const MediaError& error);
+    void fail(const Error& error);
     [[nodiscard]] bool failed() const;
-    [[nodiscard]] MediaError firstError() const;
+    [[nodiscard]] Error firstError() const;
     [[nodiscard]] const QString& path() const { return path_; }
 
 private:
@@ -54,7 +54,7 @@ private:
     std::int64_t size_ = 0;
     std::unique_ptr<ReplacementFile> hidden_; // set while this is another file's replacement
     mutable std::mutex mutex_;                // guards error_
-    MediaError error_;
+    Error error_;
 };
 
 } // namespace Platform

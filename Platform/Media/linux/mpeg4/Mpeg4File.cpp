@@ -46,7 +46,7 @@ public:
         if (file_.beginReplacement(plain))
             writePlain(plain, validFrames);
         else
-            plain.fail({MediaError::Kind::Other, {}});
+            plain.fail({Error::Kind::Other, {}});
         if (!file_.replaceWith(plain))
             indexInPlace(validFrames);
     }
@@ -78,7 +78,7 @@ private:
             chunks.push_back({plain.size() + std::int64_t(at), chunk.packets});
             buffer.resize(at + bytes);
             if (!file_.readBack(chunk.offset, std::span(buffer).subspan(at)))
-                plain.fail({MediaError::Kind::Other, {}});
+                plain.fail({Error::Kind::Other, {}});
             if (buffer.size() >= copyAtOnce) {
                 plain.append(buffer);
                 buffer.clear();

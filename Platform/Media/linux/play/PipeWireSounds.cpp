@@ -23,8 +23,9 @@ constexpr int kLookEveryMs = 20;
 class PipeWireSound final : public Sound {
 public:
     PipeWireSound(MediaFiles& files, const QString& path) : path_(path) {
-        MediaError error;
-        reader_ = files.openReader(path, error);
+        auto opened = files.openReader(path);
+        const Error error = opened.error();
+        reader_ = std::move(opened).valueOr(nullptr);
         if (reader_ && !open())
             reader_.reset();
         if (!reader_)

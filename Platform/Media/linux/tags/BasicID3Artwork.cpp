@@ -35,14 +35,14 @@ std::optional<TagLib::MP4::CoverArt::Format> formatOf(QByteArray& image) {
 
 } // namespace
 
-QString BasicID3Change::copyWithArtwork(const QString& source, const QString& image, const QString& destination) {
-    QString why;
-    auto bytes = readFile(image, {.largest = largestImage}, why);
+Result<> BasicID3Change::copyWithArtwork(const QString& source, const QString& image, const QString& destination) {
+    auto bytes = readFile(image, {.largest = largestImage});
     if (!bytes)
-        return u"cannot read the image %1: %2"_s.arg(image, why);
+        return Error{bytes.error().kind, u"cannot read the image %1: %2"_s.arg(image, bytes.error().text),
+                     bytes.error().detail};
     const auto format = formatOf(*bytes);
     if (!format)
-        return u"%1 is neither a JPEG nor a PNG image"_s.arg(image);
+        return Error{Error::Kind::UnknownFormat, u"%1 is neither a JPEG nor a PNG image"_s.arg(image)};
 
     const auto edit = Media::editOfTags({Media::artworkItem}, [&](TagLib::MP4::Tag& tag) {
         TagLib::MP4::CoverArtList covers;
@@ -51,10 +51,11 @@ QString BasicID3Change::copyWithArtwork(const QString& source, const QString& im
     });
     // When source and destination are the same file, the audio stays in place.
     const QString real = QFileInfo(source).canonicalFilePath();
+    QString why;
     const bool ontoItself = !real.isEmpty() && real == QFileInfo(destination).canonicalFilePath();
     if (ontoItself ? Media::saveInPlace(real, edit, why) : Media::saveCopy(source, destination, edit, why))
         return {};
-    return u"cannot write the artwork of %1 to %2: %3"_s.arg(source, destination, why);
+    return Error{Error::Kind::Other, u"cannot write the artwork of %1 to %2: %3"_s.arg(source, destination, why)};
 }
 
 } // namespace Platform

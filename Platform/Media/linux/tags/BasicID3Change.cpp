@@ -106,7 +106,7 @@ Media::IndexEdit Media::editOfTags(const std::vector<const char*>& changed,
     };
 }
 
-QString BasicID3Change::writeTexts(const QString& path, const Texts& texts) {
+Result<> BasicID3Change::writeTexts(const QString& path, const Texts& texts) {
     std::vector<const char*> changed;
     std::vector<std::pair<const char*, QString>> values;
     const auto take = [&](const char* item, const std::optional<QString>& value) {
@@ -129,22 +129,22 @@ QString BasicID3Change::writeTexts(const QString& path, const Texts& texts) {
         for (const auto& [item, value] : values)
             setText(tag, item, value);
     });
-    return Media::saveInPlace(path, edit, why) ? QString() : u"cannot write the tags of %1: %2"_s.arg(path, why);
+    if (!Media::saveInPlace(path, edit, why))
+        return Error{Error::Kind::Other, u"cannot write the tags of %1: %2"_s.arg(path, why)};
+    return {};
 }
 
 bool BasicID3Change::setMpeg4ID3Information(const QString& path, const QString& name, const QString& artist,
                                             const QString& album, int year, const QString& genre) {
-    const QString problem = writeTexts(path, {name, artist, album, genre, year});
-    if (!problem.isEmpty())
-        qCWarning(tagsLog, "%s", qUtf8Printable(problem));
-    return problem.isEmpty();
+    const auto written = writeTexts(path, {name, artist, album, genre, year});
+    if (!written)
+        qCWarning(tagsLog, "%s", qUtf8Printable(written.error().forLog()));
+    return bool(written);
 }
 
-std::optional<BasicID3Change::Tags> BasicID3Change::read(const QString& path, QString* whyNot) {
+Result<BasicID3Change::Tags> BasicID3Change::read(const QString& path) {
     const auto refuse = [&](const QString& why) {
-        if (whyNot)
-            *whyNot = u"cannot read the tags of %1: %2"_s.arg(path, why);
-        return std::nullopt;
+        return Error{Error::Kind::Damaged, u"cannot read the tags of %1: %2"_s.arg(path, why)};
     };
     Descriptor file;
     QString why;

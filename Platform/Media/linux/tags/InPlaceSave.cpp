@@ -28,23 +28,21 @@ bool openLockedFile(const QString& path, bool writable, LockKind kind, std::chro
                     Descriptor& file, QString& why) {
     const auto open = [&] {
         OpenedFile opened = openFile(path, {.writable = writable});
-        why = opened.why;
-        errno = opened.error;
+        why = opened.error.text;
+        errno = opened.code;
         return std::move(opened.file);
     };
-    switch (openLocked(path, open, kind, patience, file)) {
-    case FileLock::Result::Held:
+    const auto locked = openLocked(path, open, kind, patience, file);
+    if (locked)
         return true;
-    case FileLock::Result::Elsewhere:
+    if (locked.error().kind == Error::Kind::Busy) {
         why = u"another program is changing it"_s;
         return false;
-    case FileLock::Result::Failed:
-        break;
     }
     if (file) // a file system that does not support locks
         return true;
     if (why.isEmpty())
-        why = qt_error_string(errno);
+        why = locked.error().text;
     return false;
 }
 

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/Preferences/Settings.h"
+
+#include <QDir>
+
+namespace Settings {
+
+QVariant Setting::defaultObject() const {
+    return type == Type::Folder ? QVariant(PreferenceStore::defaultMusicFolder()) : byDefault;
+}
+
+QVariant Setting::usable(const QVariant& stored) const {
+    const bool isText = stored.typeId() == QMetaType::QString;
+    // A relative path would depend on where the program was started.
+    const bool fits = type == Type::Folder ? isText && QDir::isAbsolutePath(stored.toString())
+                                           : isText || stored.typeId() == QMetaType::Bool || Platform::isNumber(stored);
+    return fits ? stored : defaultObject();
+}
+
+QVariant value(const Setting& setting) {
+    return setting.usable(PreferenceStore::preferenceValueForKey(setting.key, {}));
+}
+
+void setValue(const QVariant& object, const Setting& setting) {
+    PreferenceStore::setPreferenceValue(object, setting.key);
+}
+
+std::int32_t storedSplitTimeMS() {
+    return Platform::boolValue(value(split)) ? Platform::intValue(value(splitTimeMS)) : -1;
+}
+
+} // namespace Settings
