@@ -8,7 +8,6 @@
 #include "Source/View/NamedImages.h"
 #include "Source/View/Theme.h"
 #include "Source/WndController/LibraryPresenter.h"
-#include "Source/WndController/MainWndController.h"
 #include "ui_MainWnd.h"
 
 #include <QMenu>
@@ -16,8 +15,10 @@
 
 using Window = WindowCommands::Window;
 
-MainMenus::MainMenus(Ui::MainWnd& ui, MainWndController& controller, QObject* parent)
-    : QObject(parent), ui_(ui), controller_(controller) {
+MainMenus::MainMenus(Ui::MainWnd& ui, RecordStateController& record, LibraryPresenter& library,
+                     WindowCommands& commands, AudioWaveViewController& display, Validate validate, QObject* parent)
+    : QObject(parent), ui_(ui), record_(record), library_(library), commands_(commands), display_(display),
+      validate_(std::move(validate)) {
     makeRecordMenu();
     makeEditMenu();
     makeLibraryMenu();
@@ -27,7 +28,7 @@ MainMenus::MainMenus(Ui::MainWnd& ui, MainWndController& controller, QObject* pa
     makeStrip();
 }
 
-QAction* MainMenus::add(QMenu* menu, const QString& text, const QString& icon, const QString& toolTip, Slot slot,
+QAction* MainMenus::add(QMenu* menu, const QString& text, const QString& icon, const QString& toolTip,
                         const QList<QKeySequence>& keys) {
     auto* action = new QAction(text, this);
     if (!icon.isEmpty())
@@ -37,15 +38,13 @@ QAction* MainMenus::add(QMenu* menu, const QString& text, const QString& icon, c
     action->setShortcuts(keys);
     // Some desktops move menu items by guessing from their words; these items must stay where they are.
     action->setMenuRole(QAction::NoRole);
-    if (slot)
-        connect(action, &QAction::triggered, &controller_, slot);
     menu->addAction(action);
     return action;
 }
 
 QAction* MainMenus::addWindow(QMenu* menu, Window window, const QString& text, const QString& icon,
-                              const QString& toolTip, Slot slot, const QList<QKeySequence>& keys) {
-    QAction* action = add(menu, text, icon, toolTip, slot, keys);
+                              const QString& toolTip, const QList<QKeySequence>& keys) {
+    QAction* action = add(menu, text, icon, toolTip, keys);
     windows_[static_cast<std::size_t>(window)] = action;
     return action;
 }
@@ -57,24 +56,22 @@ QAction* MainMenus::window(Window window) const {
 void MainMenus::makeRecordMenu() {
     QMenu* menu = ui_.mainMenu_->addMenu(tr("&Record"));
     menu->setToolTipsVisible(true);
-    startStop_ = add(menu, QStringLiteral("Start Record"), {}, {}, &MainWndController::startAndStopRecord,
-                     {QKeySequence(Qt::CTRL | Qt::Key_R)});
-    pauseResume_ = add(menu, QStringLiteral("Pause Record"), {}, {}, &MainWndController::pauseAndResumeRecord,
-                       {QKeySequence(Qt::CTRL | Qt::Key_P)});
+    startStop_ = add(menu, QStringLiteral("Start Record"), {}, {}, {QKeySequence(Qt::CTRL | Qt::Key_R)});
+    pauseResume_ = add(menu, QStringLiteral("Pause Record"), {}, {}, {QKeySequence(Qt::CTRL | Qt::Key_P)});
     split_ = add(menu, tr("&Cut to Another Recording"), {}, tr("Close this file and go on in a new one"),
-                 &MainWndController::splitTheRecord, {QKeySequence(Qt::CTRL | Qt::Key_N)});
-    startStop_->setProperty(MainWndController::kActionProperty, QStringLiteral("startAndStopRecord:"));
-    pauseResume_->setProperty(MainWndController::kActionProperty, QStringLiteral("pauseAndResumeRecord:"));
-    split_->setProperty(MainWndController::kActionProperty, QStringLiteral("splitTheRecord:"));
+                 {QKeySequence(Qt::CTRL | Qt::Key_N)});
+    startStop_->setProperty(kActionProperty, QStringLiteral("startAndStopRecord:"));
+    pauseResume_->setProperty(kActionProperty, QStringLiteral("pauseAndResumeRecord:"));
+    split_->setProperty(kActionProperty, QStringLiteral("splitTheRecord:"));
     menu->addSeparator();
-    recordInput_ = add(menu, tr("Record the &Input Device"), {}, {}, nullptr);
+    recordInput_ = add(menu, tr("Record the &Input Device"), {}, {});
     recordInput_->setCheckable(true);
     connect(recordInput_, &QAction::triggered, ui_.btnBuiltInRecord_, &QAbstractButton::click);
-    recordComputer_ = add(menu, tr("Record Computer &Audio"), {}, {}, nullptr);
+    recordComputer_ = add(menu, tr("Record Computer &Audio"), {}, {});
     recordComputer_->setCheckable(true);
     connect(recordComputer_, &QAction::triggered, ui_.btnComputerAudioRecord_, &QAbstractButton::click);
     menu->addSeparator();
-    quit_ = add(menu, tr("&Quit"), {}, {}, &MainWndController::closeWindow, {QKeySequence(Qt::CTRL | Qt::Key_Q)});
+    quit_ = add(menu, tr("&Quit"), {}, {}, {QKeySequence(Qt::CTRL | Qt::Key_Q)});
     connect(menu, &QMenu::aboutToShow, this, &MainMenus::update);
 }
 
@@ -82,74 +79,68 @@ void MainMenus::makeEditMenu() {
     QMenu* menu = ui_.mainMenu_->addMenu(tr("&Edit"));
     menu->setToolTipsVisible(true);
     addWindow(menu, Window::ID3Edit, tr("Edit &Tags…"), QStringLiteral("tags"),
-              tr("Title, artist, album and cover of the recording"), &MainWndController::openID3EditFace,
-              {QKeySequence(Qt::Key_F2)});
+              tr("Title, artist, album and cover of the recording"), {QKeySequence(Qt::Key_F2)});
     addWindow(menu, Window::AudioTrim, tr("T&rim…"), QStringLiteral("trim"), tr("Keep a stretch of the recording"),
-              &MainWndController::openAudioTrimFace, {QKeySequence(Qt::CTRL | Qt::Key_T)});
+              {QKeySequence(Qt::CTRL | Qt::Key_T)});
     addWindow(menu, Window::RingtoneMaker, tr("Make a &Ringtone…"), QStringLiteral("ringtone"),
-              tr("Cut a ringtone out of the recording"), &MainWndController::openRingtoneMakerWindow,
-              {QKeySequence(Qt::CTRL | Qt::Key_M)});
+              tr("Cut a ringtone out of the recording"), {QKeySequence(Qt::CTRL | Qt::Key_M)});
     menu->addSeparator();
     remove_ = add(menu, tr("&Delete"), QStringLiteral("delete"), tr("Delete the selected recordings and their files"),
-                  &MainWndController::deleteAudioFile, {QKeySequence(Qt::Key_Delete)});
+                  {QKeySequence(Qt::Key_Delete)});
     // Delete belongs to other widgets too: it acts on the library while that has the focus.
     remove_->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     ui_.audioTableView_->addAction(remove_);
     QAction* search = add(menu, tr("&Search…"), QStringLiteral("search"), tr("Search titles, artists and albums"),
-                          nullptr, {QKeySequence(Qt::CTRL | Qt::Key_F)});
+                          {QKeySequence(Qt::CTRL | Qt::Key_F)});
     connect(search, &QAction::triggered, ui_.searchField_, &SearchField::begin);
-    QAction* all = add(menu, tr("Select &All"), {}, {}, nullptr, {QKeySequence::SelectAll});
+    QAction* all = add(menu, tr("Select &All"), {}, {}, {QKeySequence::SelectAll});
     all->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     ui_.libraryView_->addAction(all);
     connect(all, &QAction::triggered, ui_.audioTableView_, &QTableView::selectAll);
     menu->addSeparator();
-    preferences_ = add(menu, tr("&Preferences…"), QStringLiteral("preferences"), {}, &MainWndController::perference,
-                       {QKeySequence(Qt::CTRL | Qt::Key_Comma)});
+    preferences_ =
+        add(menu, tr("&Preferences…"), QStringLiteral("preferences"), {}, {QKeySequence(Qt::CTRL | Qt::Key_Comma)});
 }
 
 void MainMenus::makeLibraryMenu() {
     QMenu* menu = ui_.mainMenu_->addMenu(tr("&Library"));
     menu->setToolTipsVisible(true);
-    play_ = add(menu, tr("&Play"), QStringLiteral("play"), tr("Play or pause"),
-                &MainWndController::playSoundButtonAction, {QKeySequence(Qt::Key_Space)});
-    playSelected_ =
-        add(menu, tr("Play the &Selected Recording"), {}, tr("Play from its beginning"),
-            &MainWndController::tableViewDoubleAction, {QKeySequence(Qt::Key_Return), QKeySequence(Qt::Key_Enter)});
+    play_ = add(menu, tr("&Play"), QStringLiteral("play"), tr("Play or pause"), {QKeySequence(Qt::Key_Space)});
+    playSelected_ = add(menu, tr("Play the &Selected Recording"), {}, tr("Play from its beginning"),
+                        {QKeySequence(Qt::Key_Return), QKeySequence(Qt::Key_Enter)});
     playSelected_->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     ui_.audioTableView_->addAction(playSelected_);
     // Space is only shown here: WindowKeys takes it, also while nothing can be played.
     play_->setShortcutContext(Qt::WidgetShortcut);
     menu->addSeparator();
     show_ = add(menu, tr("S&how in Folder"), QStringLiteral("show"), tr("Show the file in the file manager"),
-                &MainWndController::revealInFinder, {QKeySequence(Qt::CTRL | Qt::Key_E)});
+                {QKeySequence(Qt::CTRL | Qt::Key_E)});
     open_ = add(menu, tr("&Open in Player"), QStringLiteral("open"), tr("Open the file in your music player"),
-                &MainWndController::openIniTunes, {QKeySequence(Qt::CTRL | Qt::Key_O)});
+                {QKeySequence(Qt::CTRL | Qt::Key_O)});
     menu->addSeparator();
     addWindow(menu, Window::CDBurn, tr("&Burn to Disc…"), QStringLiteral("burn"), tr("Make an audio CD of this list"),
-              &MainWndController::openCDBurnFace, {QKeySequence(Qt::CTRL | Qt::Key_B)});
+              {QKeySequence(Qt::CTRL | Qt::Key_B)});
     addWindow(menu, Window::Filter, tr("&Find Short Recordings…"), QStringLiteral("filter"),
-              tr("Find recordings that are too short to keep"), &MainWndController::openFilterWindow,
-              {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F)});
+              tr("Find recordings that are too short to keep"), {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F)});
 }
 
 void MainMenus::makeViewMenu() {
     QMenu* menu = ui_.mainMenu_->addMenu(tr("&View"));
     QAction* change =
         add(menu, tr("&Switch the Display"), QStringLiteral("switch-display"),
-            tr("Level of the recording, or position of the playback"), nullptr, {QKeySequence(Qt::CTRL | Qt::Key_D)});
-    connect(change, &QAction::triggered, &controller_.display(), &AudioWaveViewController::changeTabView);
+            tr("Level of the recording, or position of the playback"), {QKeySequence(Qt::CTRL | Qt::Key_D)});
+    connect(change, &QAction::triggered, &display_, &AudioWaveViewController::changeTabView);
 }
 
 void MainMenus::makeHelpMenu() {
     QMenu* menu = ui_.mainMenu_->addMenu(tr("&Help"));
     menu->setToolTipsVisible(true);
-    add(menu, tr("&Support Page"), {}, {}, &MainWndController::support, {QKeySequence(Qt::Key_F1)});
-    add(menu, tr("Computer-Audio &Add-on Page"), {}, {}, &MainWndController::audioDevice);
-    installDevice_ = add(menu, tr("&Install the Computer-Audio Device…"), {}, {},
-                         &MainWndController::requestSystemAudioRecordDevice);
+    support_ = add(menu, tr("&Support Page"), {}, {}, {QKeySequence(Qt::Key_F1)});
+    audioDevice_ = add(menu, tr("Computer-Audio &Add-on Page"), {}, {});
+    installDevice_ = add(menu, tr("&Install the Computer-Audio Device…"), {}, {});
     connect(menu, &QMenu::aboutToShow, this, &MainMenus::update);
     menu->addSeparator();
-    about_ = add(menu, tr("A&bout Sonaphex"), {}, {}, nullptr);
+    about_ = add(menu, tr("A&bout Sonaphex"), {}, {});
     connect(about_, &QAction::triggered, this, &MainMenus::showAbout);
 }
 
@@ -172,7 +163,6 @@ void MainMenus::makeContextMenu() {
     item(open_);
     audioTableViewMenu_->addSeparator();
     item(remove_);
-    connect(audioTableViewMenu_, &QMenu::aboutToShow, this, [this] { controller_.menuWillOpen(*audioTableViewMenu_); });
 }
 
 void MainMenus::makeStrip() {
@@ -213,8 +203,6 @@ void MainMenus::setCompact(bool compact) {
 }
 
 void MainMenus::update() {
-    RecordStateController& record = controller_.record();
-    LibraryPresenter& library = controller_.library();
     // The tool tip of a disabled command also says why it is disabled.
     const auto say = [](QAction* action, const QString& why) {
         QStringList lines{action->data().toString()};
@@ -224,29 +212,29 @@ void MainMenus::update() {
         action->setToolTip(lines.isEmpty() ? QAction(action->text()).toolTip() : lines.join(u'\n'));
     };
     for (QAction* action : {startStop_, pauseResume_, split_}) {
-        action->setEnabled(controller_.validateMenuItem(*action));
+        action->setEnabled(validate_(*action));
         say(action, action == startStop_ ? tr("Choose the input, computer audio, or both first.")
                                          : tr("Nothing is being recorded."));
     }
-    recordInput_->setChecked(record.builtInChecked());
-    recordInput_->setEnabled(record.sourcesEnabled());
-    recordComputer_->setChecked(record.computerAudioChecked());
+    recordInput_->setChecked(record_.builtInChecked());
+    recordInput_->setEnabled(record_.sourcesEnabled());
+    recordComputer_->setChecked(record_.computerAudioChecked());
     const bool installed = KextInstallControl::isExist();
-    installDevice_->setEnabled(!installed && !record.isStateAudioRecord());
+    installDevice_->setEnabled(!installed && !record_.isStateAudioRecord());
     say(installDevice_,
         installed ? tr("It is installed already.") : tr("The device stays as it is until the recording ends."));
-    recordComputer_->setEnabled(record.sourcesEnabled());
+    recordComputer_->setEnabled(record_.sourcesEnabled());
     for (QAction* action : {recordInput_, recordComputer_})
         say(action, tr("The sources stay as they are until the recording ends."));
 
-    const bool playing = library.isPlaySoundPlaying();
+    const bool playing = library_.isPlaySoundPlaying();
     play_->setText(playing ? tr("&Pause") : tr("&Play"));
     play_->setIcon(NamedImages::icon(playing ? QStringLiteral("pause") : QStringLiteral("play")));
-    play_->setEnabled(library.isPlaySoundButtonEnable());
-    playSelected_->setEnabled(library.tableViewPlayEnable());
-    show_->setEnabled(library.tableViewShowEnable());
-    open_->setEnabled(library.tableViewShowEnable());
-    remove_->setEnabled(library.tableViewDeleteEnable());
+    play_->setEnabled(library_.isPlaySoundButtonEnable());
+    playSelected_->setEnabled(library_.tableViewPlayEnable());
+    show_->setEnabled(library_.tableViewShowEnable());
+    open_->setEnabled(library_.tableViewShowEnable());
+    remove_->setEnabled(library_.tableViewDeleteEnable());
     const QString selectFirst = tr("Select a recording first.");
     for (QAction* action : {play_, playSelected_})
         say(action, tr("Select a recording first. Nothing is played while recording."));
@@ -254,11 +242,11 @@ void MainMenus::update() {
         say(action, selectFirst);
     for (std::size_t i = 0; i < windows_.size(); ++i) {
         const auto which = static_cast<Window>(i);
-        windows_[i]->setEnabled(controller_.commands().isEnabled(which));
+        windows_[i]->setEnabled(commands_.isEnabled(which));
         const bool wholeList = which == Window::CDBurn || which == Window::Filter;
-        say(windows_[i], !controller_.commands().hasOpener(which) ? tr("Arrives in a later version of Sonaphex.")
-                         : wholeList                              ? tr("There is nothing in this list.")
-                                                                  : selectFirst);
+        say(windows_[i], !commands_.hasOpener(which) ? tr("Arrives in a later version of Sonaphex.")
+                         : wholeList                 ? tr("There is nothing in this list.")
+                                                     : selectFirst);
     }
     for (const auto& [copy, original] : contextItems_) {
         copy->setText(original->text());

@@ -7,19 +7,29 @@
 #include <QAction>
 #include <QObject>
 
-class MainWndController;
+#include <functional>
+
+class AudioWaveViewController;
+class LibraryPresenter;
 class QMenu;
 class QToolButton;
+class RecordStateController;
 namespace Ui {
 class MainWnd;
 }
 
 /// The main window's commands as actions, and the places that offer them: the menu bar, the strip below the library,
-/// the table's context menu. Main thread.
+/// the table's context menu. The window's controller connects the actions to what they do. Main thread.
 class MainMenus : public QObject {
     Q_OBJECT
 public:
-    MainMenus(Ui::MainWnd& ui, MainWndController& controller, QObject* parent = nullptr);
+    /// Name of an action's property with the command that it sends ("startAndStopRecord:").
+    static constexpr const char* kActionProperty = "action";
+    /// Sets the title of an action with that property where it follows the state. @return whether the action is enabled
+    using Validate = std::function<bool(QAction& item)>;
+
+    MainMenus(Ui::MainWnd& ui, RecordStateController& record, LibraryPresenter& library, WindowCommands& commands,
+              AudioWaveViewController& display, Validate validate, QObject* parent = nullptr);
 
     /// Updates titles and enabled states of all actions from recording and selection. Shortcuts of disabled actions do
     /// nothing, so call this at each change instead of when a menu opens.
@@ -39,16 +49,18 @@ public:
     [[nodiscard]] QAction* quit() const { return quit_; }
     [[nodiscard]] QAction* preferences() const { return preferences_; }
     [[nodiscard]] QAction* about() const { return about_; }
+    [[nodiscard]] QAction* support() const { return support_; }
+    [[nodiscard]] QAction* audioDevice() const { return audioDevice_; }
+    [[nodiscard]] QAction* installDevice() const { return installDevice_; }
     [[nodiscard]] QAction* window(WindowCommands::Window window) const;
 
     void showAbout();
 
 private:
-    using Slot = void (MainWndController::*)();
-    QAction* add(QMenu* menu, const QString& text, const QString& icon, const QString& toolTip, Slot slot,
+    QAction* add(QMenu* menu, const QString& text, const QString& icon, const QString& toolTip,
                  const QList<QKeySequence>& keys = {});
     QAction* addWindow(QMenu* menu, WindowCommands::Window window, const QString& text, const QString& icon,
-                       const QString& toolTip, Slot slot, const QList<QKeySequence>& keys = {});
+                       const QString& toolTip, const QList<QKeySequence>& keys);
     void makeRecordMenu();
     void makeEditMenu();
     void makeLibraryMenu();
@@ -59,7 +71,11 @@ private:
     void place(QToolButton* button, QAction* action, const QString& icon, const QString& words);
 
     Ui::MainWnd& ui_;
-    MainWndController& controller_;
+    RecordStateController& record_;
+    LibraryPresenter& library_;
+    WindowCommands& commands_;
+    AudioWaveViewController& display_;
+    Validate validate_;
     QMenu* audioTableViewMenu_ = nullptr;
     QAction* startStop_ = nullptr;
     QAction* pauseResume_ = nullptr;
@@ -75,6 +91,8 @@ private:
     QAction* quit_ = nullptr;
     QAction* preferences_ = nullptr;
     QAction* about_ = nullptr;
+    QAction* support_ = nullptr;
+    QAction* audioDevice_ = nullptr;
     std::array<QAction*, WindowCommands::kWindows> windows_{};
     QList<QPair<QAction*, QAction*>> contextItems_; ///< an item of the context menu and its action
 };

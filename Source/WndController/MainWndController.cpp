@@ -50,9 +50,11 @@ MainWndController::MainWndController(RecordStateController& record, MediaLibrary
                                                   *filter_, [this] { return record_.isStateAudioRecord(); });
     commands_ = std::make_unique<WindowCommands>(*library_);
     panel_ = std::make_unique<RecordPanel>(*ui_, record_, *display_);
-    menus_ = std::make_unique<MainMenus>(*ui_, *this);
+    menus_ = std::make_unique<MainMenus>(*ui_, record_, *library_, *commands_, *display_,
+                                         [this](QAction& item) { return validateMenuItem(item); });
     layout_ = std::make_unique<WindowLayout>(*window_, *ui_->librarySplitter_, *ui_->audioTableView_);
     keys_ = std::make_unique<WindowKeys>(*window_, *menus_->play());
+    bindMenus();
     bindLibrary();
 
     display_->setDelegate(this);
@@ -231,8 +233,36 @@ QString MainWndController::pauseResumeMenuString() const {
                                                                     : QStringLiteral("Pause Record");
 }
 
+void MainWndController::bindMenus() {
+    using Self = MainWndController;
+    using Window = WindowCommands::Window;
+    const auto bind = [this](QAction* action, void (Self::*does)()) {
+        connect(action, &QAction::triggered, this, does);
+    };
+    bind(menus_->startStop(), &Self::startAndStopRecord);
+    bind(menus_->pauseResume(), &Self::pauseAndResumeRecord);
+    bind(menus_->split(), &Self::splitTheRecord);
+    bind(menus_->quit(), &Self::closeWindow);
+    bind(menus_->window(Window::ID3Edit), &Self::openID3EditFace);
+    bind(menus_->window(Window::AudioTrim), &Self::openAudioTrimFace);
+    bind(menus_->window(Window::RingtoneMaker), &Self::openRingtoneMakerWindow);
+    bind(menus_->window(Window::CDBurn), &Self::openCDBurnFace);
+    bind(menus_->window(Window::Filter), &Self::openFilterWindow);
+    bind(menus_->remove(), &Self::deleteAudioFile);
+    bind(menus_->preferences(), &Self::perference);
+    bind(menus_->play(), &Self::playSoundButtonAction);
+    bind(menus_->playSelected(), &Self::tableViewDoubleAction);
+    bind(menus_->show(), &Self::revealInFinder);
+    bind(menus_->open(), &Self::openIniTunes);
+    bind(menus_->support(), &Self::support);
+    bind(menus_->audioDevice(), &Self::audioDevice);
+    bind(menus_->installDevice(), &Self::requestSystemAudioRecordDevice);
+    QMenu* table = menus_->audioTableViewMenu();
+    connect(table, &QMenu::aboutToShow, this, [this, table] { menuWillOpen(*table); });
+}
+
 bool MainWndController::validateMenuItem(QAction& item) const {
-    const QString action = item.property(kActionProperty).toString();
+    const QString action = item.property(MainMenus::kActionProperty).toString();
     if (action == QStringLiteral("splitTheRecord:"))
         return record_.splitEnabled();
     if (action == QStringLiteral("startAndStopRecord:")) {

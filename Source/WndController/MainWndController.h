@@ -37,9 +37,6 @@ class MainWndController : public QObject,
                           public AudioFilterControllerDelegate {
     Q_OBJECT
 public:
-    /// Name of an action's property with the command that it sends ("startAndStopRecord:").
-    static constexpr const char* kActionProperty = "action";
-
     /// Builds the window for a recording side that is already set up. Neither is owned; both must outlive it.
     MainWndController(RecordStateController& record, MediaLibrary& library, QObject* parent = nullptr);
     ~MainWndController() override;
@@ -129,6 +126,7 @@ protected:
 private:
     void setUpViews();
     void bindLibrary();
+    void bindMenus();
     void recordingFinished(const QString& path, const Dictionary& entry);
     /// Opens the title of the selected recording, so that it can be typed over at once.
     void offerTitle();

@@ -3,6 +3,7 @@
 #include "Source/WndController/StatusBarItem.h"
 
 #include "Source/View/NamedImages.h"
+#include "Source/WndController/MainMenus.h"
 #include "Source/WndController/MainWndController.h"
 
 #include <QApplication>
@@ -84,7 +85,7 @@ void StatusBarItem::showIcon() {
 
 QAction* StatusBarItem::add(const QString& title, const QString& action, void (MainWndController::*command)()) {
     QAction* item = systemBarMenu_.addAction(title);
-    item->setProperty(MainWndController::kActionProperty, action);
+    item->setProperty(MainMenus::kActionProperty, action);
     connect(item, &QAction::triggered, &mainWndController_, command);
     return item;
 }

@@ -241,13 +241,13 @@ TEST_F(MainWindow, ValidatesItemsByTheirAction) {
     item.setText(u"kept"_s);
     EXPECT_TRUE(controller.validateMenuItem(item)) << "any other action is always enabled";
     EXPECT_EQ(item.text(), u"kept"_s);
-    item.setProperty(MainWndController::kActionProperty, u"splitTheRecord:"_s);
+    item.setProperty(MainMenus::kActionProperty, u"splitTheRecord:"_s);
     EXPECT_FALSE(controller.validateMenuItem(item));
     EXPECT_EQ(item.text(), u"kept"_s);
-    item.setProperty(MainWndController::kActionProperty, u"startAndStopRecord:"_s);
+    item.setProperty(MainMenus::kActionProperty, u"startAndStopRecord:"_s);
     EXPECT_TRUE(controller.validateMenuItem(item));
     EXPECT_EQ(item.text(), u"Start Record"_s);
-    item.setProperty(MainWndController::kActionProperty, u"pauseAndResumeRecord:"_s);
+    item.setProperty(MainMenus::kActionProperty, u"pauseAndResumeRecord:"_s);
     EXPECT_FALSE(controller.validateMenuItem(item));
     EXPECT_EQ(item.text(), u"Pause Record"_s);
 }
