@@ -15,6 +15,7 @@
 #include "Source/HotKey/KeybordShortcutTextView.h"
 #include "Source/Model/MediaLibrary.h"
 #include "Source/ProcessRequests/ControlRequests.h"
+#include "Source/ProcessRequests/MediaLibraryRequests.h"
 #include "Source/View/KeyNames.h"
 #include "Source/View/QtAlerts.h"
 #include "Source/View/QtFocusProbe.h"
@@ -78,7 +79,7 @@ public:
                                                                          AppDelegate& application) override {
         record_ = std::make_unique<RecordStateController>();
         record_->awakeFromNib();
-        EditNote::recover(); // before the window shows the library
+        EditNote::recover(MediaLibraryRequests::retag); // before the window shows the library
         record_->tellUnfinishedRecordings();
         auto window = std::make_unique<MainWndController>(*record_, MediaLibrary::shareLibrary());
         editWindows_ = new EditWindows(*window, window.get());

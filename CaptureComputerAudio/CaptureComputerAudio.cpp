@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CaptureComputerAudio/CaptureComputerAudio.h"
 
-#include "Source/AudioDevice/AudioDevice.h"
-#include "Source/AudioDevice/IOService.h"
+#include "CaptureComputerAudio/AudioDevice.h"
+#include "CaptureComputerAudio/IOService.h"
 
 using namespace Qt::StringLiterals;
 

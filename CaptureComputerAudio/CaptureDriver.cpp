@@ -3,7 +3,7 @@
 #include "CaptureComputerAudio/CaptureDriver.h"
 
 #include "CaptureComputerAudio/CaptureComputerAudio.h"
-#include "Source/AudioDevice/IOService.h"
+#include "CaptureComputerAudio/IOService.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "CommandLine/CommandLine.h"
+#include "CommandLine/Subcommand.h"
 
 /// Help texts of the subcommands, generated from their declarations.
 namespace CommandHelp {
@@ -13,11 +13,5 @@ namespace CommandHelp {
 [[nodiscard]] QString whole(const CommandLine::Command& command);
 /// The program's behaviour without a command, and the usage and summary of each command.
 [[nodiscard]] QString overview(const CommandLine::Commands& commands);
-
-/// The manual page sonaphex(1) in the man macros.
-[[nodiscard]] QString manualPage(const CommandLine::Commands& commands);
-[[nodiscard]] QString bashCompletion(const CommandLine::Commands& commands);
-[[nodiscard]] QString zshCompletion(const CommandLine::Commands& commands);
-[[nodiscard]] QString fishCompletion(const CommandLine::Commands& commands);
 
 } // namespace CommandHelp

@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "CommandLine/CommandHelp.h"
+#include "CommandLine/CommandManual.h"
+
 #include "Platform/Foundation/PlainText.h"
 
 using namespace Qt::StringLiterals;
 using namespace CommandLine;
 
-namespace CommandHelp {
+namespace CommandManual {
 namespace {
 
 /// Escapes a text for the man macros: hyphens stay hyphens, and no character is taken as a macro.
@@ -189,4 +190,4 @@ QString fishCompletion(const Commands& commands) {
     return text;
 }
 
-} // namespace CommandHelp
+} // namespace CommandManual

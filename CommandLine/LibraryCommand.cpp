@@ -59,7 +59,7 @@ void printCollection(const QString& title, const QVariantList& entries) {
 }
 
 int list(bool json) {
-    EditNote::recover();
+    EditNote::recover(MediaLibraryRequests::retag);
     const MediaLibrary& library = MediaLibrary::shareLibrary();
     if (json) {
         const QJsonObject document{{u"records"_s, asJson(library.records())},

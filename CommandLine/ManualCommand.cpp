@@ -3,7 +3,7 @@
 #include "CommandLine/ManualCommand.h"
 
 #include "CommandLine/Arguments.h"
-#include "CommandLine/CommandHelp.h"
+#include "CommandLine/CommandManual.h"
 
 using namespace Qt::StringLiterals;
 
@@ -14,7 +14,7 @@ int printManual(const QStringList& given) {
     const Arguments arguments(given, manualCommand);
     if (!arguments.problem().isEmpty() || !arguments.positional().isEmpty())
         return wrongUsage(manualCommand, u"manual takes nothing"_s);
-    print(CommandHelp::manualPage(allCommands()).trimmed());
+    print(CommandManual::manualPage(allCommands()).trimmed());
     return Done;
 }
 
@@ -22,11 +22,11 @@ int printCompletions(const QStringList& given) {
     const Arguments arguments(given, completionsCommand);
     const QStringList shells = arguments.positional();
     if (arguments.problem().isEmpty() && shells == QStringList{u"bash"_s})
-        print(CommandHelp::bashCompletion(allCommands()).trimmed());
+        print(CommandManual::bashCompletion(allCommands()).trimmed());
     else if (arguments.problem().isEmpty() && shells == QStringList{u"zsh"_s})
-        print(CommandHelp::zshCompletion(allCommands()).trimmed());
+        print(CommandManual::zshCompletion(allCommands()).trimmed());
     else if (arguments.problem().isEmpty() && shells == QStringList{u"fish"_s})
-        print(CommandHelp::fishCompletion(allCommands()).trimmed());
+        print(CommandManual::fishCompletion(allCommands()).trimmed());
     else
         return wrongUsage(completionsCommand, u"completions takes one of bash, zsh, fish"_s);
     return Done;

@@ -11,6 +11,7 @@
 #include "Source/Control/EditNote.h"
 #include "Source/Control/RecordingRename.h"
 #include "Source/Model/AudioRecordEntry.h"
+#include "Source/ProcessRequests/MediaLibraryRequests.h"
 
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -111,7 +112,7 @@ int run(const QStringList& given) {
     QString kept; // why the file was not renamed
     if (!changed.isEmpty() || rename) {
         path = QFileInfo(path).absoluteFilePath();
-        EditNote::recover();
+        EditNote::recover(MediaLibraryRequests::retag);
         const QString title = texts.title.value_or(tags->title);
         auto note = EditNote::begin(path, rename ? RecordingRename::pathForTitle(path, title) : path, {});
         if (!note)

@@ -15,6 +15,7 @@
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Preferences/PreferenceStore.h"
 #include "Source/ProcessRequests/ControlRequests.h"
+#include "Source/ProcessRequests/MediaLibraryRequests.h"
 
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -115,7 +116,7 @@ int run(const QStringList& given) {
         return wrongUsage(trimCommand, u"--to lies at least a tenth of a second behind --from"_s);
     if (arguments.isSet(u"save-as"_s) && arguments.value(u"save-as"_s).isEmpty())
         return wrongUsage(trimCommand, u"--save-as names no file"_s);
-    EditNote::recover();
+    EditNote::recover(MediaLibraryRequests::retag);
     return trim(QFileInfo(arguments.positional().first()).absoluteFilePath(), from, to, arguments.value(u"save-as"_s),
                 arguments.isSet(u"json"_s));
 }

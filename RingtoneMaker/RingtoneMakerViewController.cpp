@@ -3,11 +3,11 @@
 #include "RingtoneMaker/RingtoneMakerViewController.h"
 
 #include "Platform/Foundation/MainQueue.h"
+#include "RingtoneMaker/AudioOutline.h"
 #include "RingtoneMaker/ValueTransformers.h"
 #include "RingtoneMaker/WaveImage.h"
 #include "Source/Control/ConverterAudioControl.h"
 #include "Source/Model/AudioRecordEntry.h"
-#include "Source/View/AudioOutline.h"
 #include "Source/View/EditDialog.h"
 #include "Source/View/NamedImages.h"
 #include "ui_RingtoneMakerViewController.h"

@@ -10,7 +10,6 @@
 #include "Platform/Media/BasicID3Change.h"
 #include "Platform/Media/ExtAudioFile.h"
 #include "Source/Model/AudioRecordEntry.h"
-#include "Source/ProcessRequests/MediaLibraryRequests.h"
 
 #include <QDir>
 #include <QFile>
@@ -54,7 +53,7 @@ Dictionary factsOf(const QString& path) {
 }
 
 /// @return whether the note can be removed
-bool settle(const QByteArray& content) {
+bool settle(const QByteArray& content, const EditNote::Retag& retag) {
     const QJsonDocument note = QJsonDocument::fromJson(content);
     const QString path = note[u"path"_s].toString();
     if (path.isEmpty())
@@ -68,7 +67,7 @@ bool settle(const QByteArray& content) {
     if (!QFileInfo::exists(now))
         return true;
     qCInfo(editLog, "an edit of %s was interrupted; its entry is brought in step", qUtf8Printable(now));
-    return MediaLibraryRequests::retag(path, factsOf(now));
+    return retag(path, factsOf(now));
 }
 
 } // namespace
@@ -100,14 +99,14 @@ void EditNote::end() {
         lock_.removeAndRelease();
 }
 
-void EditNote::recover() {
+void EditNote::recover(const Retag& retag) {
     const QDir folder(notesFolder());
     for (const QString& name : folder.entryList({u'*' + kEnding}, QDir::Files)) {
         Platform::FileLock lock;
         if (!lock.take(folder.filePath(name)))
             continue; // its process is still running
         QFile file(folder.filePath(name));
-        if (file.open(QIODevice::ReadOnly) && settle(file.read(kLongestNote)))
+        if (file.open(QIODevice::ReadOnly) && settle(file.read(kLongestNote), retag))
             lock.removeAndRelease();
     }
 }

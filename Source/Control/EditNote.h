@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Foundation/Dictionary.h"
 #include "Platform/Foundation/FileLock.h"
+
+#include <functional>
 
 /// A note on the disk about a change of a recording's file that its library entry must follow. The file changes first
 /// and the entry is stored later; when the process is killed in between, the next start finds the note and updates the
@@ -22,9 +25,11 @@ public:
     /// when that fails the note is kept.
     void end();
 
+    /// MediaLibraryRequests::retag(), or a double of it.
+    using Retag = std::function<bool(const QString& path, const Dictionary& facts)>;
     /// Handles the notes of killed processes: updates the library's entries from the files and removes hidden files.
     /// Main thread.
-    static void recover();
+    static void recover(const Retag& retag);
 
 private:
     explicit EditNote(Platform::FileLock lock) : lock_(std::move(lock)) {}

@@ -3,8 +3,8 @@
 #include "Source/View/AudioTrimEditView.h"
 
 #include "Source/Control/ToolControl.h"
-#include "Source/View/AudioOutline.h"
 #include "Source/View/NamedImages.h"
+#include "Source/View/OutlineDrawing.h"
 #include "Source/View/Theme.h"
 
 #include <QKeyEvent>
@@ -209,11 +209,11 @@ void AudioTrimEditView::paintEvent(QPaintEvent*) {
     const QRectF range = rangeRect();
     NamedImages::draw(painter, strip, name(kBack));
     const QRectF wave = strip.adjusted(0, 4, 0, -4);
-    AudioOutline::draw(painter, wave, outline_, Theme::Glass::dimText());
+    OutlineDrawing::draw(painter, wave, outline_, Theme::Glass::dimText());
     NamedImages::draw(painter, range, name(kArea));
     painter.save();
     painter.setClipRect(range);
-    AudioOutline::draw(painter, wave, outline_, Theme::Glass::level());
+    OutlineDrawing::draw(painter, wave, outline_, Theme::Glass::level());
     painter.restore();
 
     NamedImages::draw(painter, leftHandleRect(), name(kLeft));

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "CaptureComputerAudio/AudioDevice.h"
 #include "CaptureComputerAudio/CaptureComputerAudio.h"
 #include "CaptureComputerAudio/CaptureDriver.h"
 #include "CaptureComputerAudio/KextInstallControl.h"
@@ -8,7 +9,6 @@
 #include "Platform/Audio/IORegistry.h"
 #include "Platform/Audio/linux/DeviceRegistry.h"
 #include "Platform/Foundation/Services.h"
-#include "Source/AudioDevice/AudioDevice.h"
 #include "tests/fakes/FakeAdminShell.h"
 #include "tests/fakes/FakeBundle.h"
 #include "tests/support/CallersThings.h"

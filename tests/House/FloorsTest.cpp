@@ -1,15 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The code has four layers: the platform, the core, the windows, the program. A layer includes nothing of a higher one,
-// and only the Linux side of the platform includes the system's libraries.
+// and only the Linux side of the platform includes the system's libraries. The folders have an order too, files do not
+// include each other in a circle, and a class is defined in files that begin with its name.
 #include <gtest/gtest.h>
 
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
+#include <QHash>
 #include <QRegularExpression>
+#include <QSet>
 #include <QStringList>
 #include <QTemporaryDir>
+
+#include <utility>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -17,16 +24,19 @@ namespace {
 
 enum Floor { Platform = 1, Core, Windows, Program, Tools, Tests };
 
+/// The entries of a list in the folder of the build, without its comments.
+QStringList listed(const QString& name) {
+    QFile file(QStringLiteral(SONAPHEX_SOURCE_DIR "/cmake/") + name);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+    lines.removeIf([](const QString& line) { return line.startsWith(u'#'); });
+    return lines;
+}
+
 /// The list by which the build sorts sources into the core and the windows' library.
 const QStringList& windowFloor() {
-    static const QStringList entries = [] {
-        QFile file(QStringLiteral(SONAPHEX_SOURCE_DIR "/cmake/WindowFloor.txt"));
-        if (!file.open(QIODevice::ReadOnly))
-            return QStringList();
-        QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
-        lines.removeIf([](const QString& line) { return line.startsWith(u'#'); });
-        return lines;
-    }();
+    static const QStringList entries = listed(u"WindowFloor.txt"_s);
     return entries;
 }
 
@@ -58,19 +68,32 @@ bool mayUseSystemLibraries(const QString& path) {
     return path.contains(linuxSide) || floorOf(path) == Tests || floorOf(path) == Tools;
 }
 
-/// The forbidden includes of one file, one line each.
-QStringList faults(const QString& root, const QString& path) {
-    static const QRegularExpression includeLine(u"^\\s*#\\s*include\\s*([<\"])([^>\"]+)[>\"]"_s,
-                                                QRegularExpression::MultilineOption);
+QString contentOf(const QString& root, const QString& path) {
     QFile file(root + u'/' + path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {path + u": cannot be read"_s};
-    QStringList found;
-    auto matches = includeLine.globalMatch(QString::fromUtf8(file.readAll()));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+struct Include {
+    bool own = false; ///< in quotes
+    QString path;
+};
+
+std::vector<Include> includesOf(const QString& content) {
+    static const QRegularExpression line(u"^\\s*#\\s*include\\s*([<\"])([^>\"]+)[>\"]"_s,
+                                         QRegularExpression::MultilineOption);
+    std::vector<Include> includes;
+    auto matches = line.globalMatch(content);
     while (matches.hasNext()) {
         const auto match = matches.next();
-        const bool own = match.captured(1) == u"\""_s;
-        const QString include = match.captured(2);
+        includes.push_back({match.captured(1) == u"\""_s, match.captured(2)});
+    }
+    return includes;
+}
+
+/// The forbidden includes of one file, one line each.
+QStringList faults(const QString& root, const QString& path) {
+    QStringList found;
+    for (const auto& [own, include] : includesOf(contentOf(root, path))) {
         if (include.contains(u"../"_s))
             found << u"%1: %2 climbs"_s.arg(path, include);
         if (isOfASystemLibrary(include) && !mayUseSystemLibraries(path))
@@ -88,8 +111,8 @@ QStringList faults(const QString& root, const QString& path) {
     return found;
 }
 
-/// The faults of all files of a tree, in the order of the paths.
-QStringList faultsOf(const QString& root) {
+/// All headers and sources of a tree, in the order of the paths.
+QStringList pathsOf(const QString& root) {
     QStringList paths;
     QDirIterator tree(root, {u"*.h"_s, u"*.cpp"_s}, QDir::Files, QDirIterator::Subdirectories);
     while (tree.hasNext()) {
@@ -98,16 +121,165 @@ QStringList faultsOf(const QString& root) {
             paths << path;
     }
     paths.sort();
+    return paths;
+}
+
+/// The faults of all files of a tree, in the order of the paths.
+QStringList faultsOf(const QString& root) {
     QStringList all;
-    for (const QString& path : paths)
+    for (const QString& path : pathsOf(root))
         all << faults(root, path);
     return all;
 }
+
+QString folderOf(const QString& path) {
+    return path.contains(u'/') ? path.left(path.lastIndexOf(u'/')) : u"."_s;
+}
+
+QString stemOf(const QString& path) {
+    return path.left(path.lastIndexOf(u'.'));
+}
+
+/// All tools together are one room. Tests have no room.
+QString roomOf(const QString& path) {
+    return floorOf(path) == Tools ? u"Tools"_s : folderOf(path);
+}
+
+/// Includes that break the order of the folders (rooms), and folders that are not in it.
+QStringList roomFaultsOf(const QString& root, const QStringList& rooms) {
+    QStringList found;
+    for (const QString& path : pathsOf(root)) {
+        if (floorOf(path) == Tests)
+            continue;
+        const auto here = rooms.indexOf(roomOf(path));
+        if (here < 0)
+            found << u"%1: its room has no place in the order"_s.arg(path);
+        for (const auto& [own, include] : includesOf(contentOf(root, path)))
+            if (own && QFile::exists(root + u'/' + include) && here >= 0 && rooms.indexOf(roomOf(include)) > here)
+                found << u"%1: %2 is in a later room"_s.arg(path, include);
+    }
+    return found;
+}
+
+/// Which file declares which class.
+struct Classes {
+    QHash<QString, QString> headerOf; ///< of each class of one header; a name of several headers has an empty one
+    QHash<QString, QString> unitOf;   ///< of each file: its path without the ending, or that of the class it is part of
+};
+
+Classes classesOf(const QString& root) {
+    static const QRegularExpression declared(u"^ *(?:class|struct) (\\w+)(?: final)?(?: *:(?!:)[^;{]*)? *\\{"_s,
+                                             QRegularExpression::MultilineOption);
+    static const QRegularExpression nested(u"^(?:class|struct) (\\w+)::\\w+(?: final)?(?: *:[^;{]*)? *\\{"_s,
+                                           QRegularExpression::MultilineOption);
+    Classes classes;
+    const QStringList paths = pathsOf(root);
+    for (const QString& path : paths) {
+        classes.unitOf.insert(path, stemOf(path));
+        if (floorOf(path) == Tests)
+            continue;
+        auto matches = declared.globalMatch(contentOf(root, path));
+        while (matches.hasNext()) {
+            const QString name = matches.next().captured(1);
+            const auto known = classes.headerOf.constFind(name);
+            classes.headerOf.insert(name, known == classes.headerOf.constEnd() || *known == path ? path : QString());
+        }
+    }
+    // A header that defines a part of a class is itself a part of that class.
+    for (const QString& path : paths)
+        if (const auto match = nested.match(contentOf(root, path)); match.hasMatch() && path.endsWith(u".h"_s))
+            if (const QString header = classes.headerOf.value(match.captured(1)); !header.isEmpty())
+                classes.unitOf.insert(path, stemOf(header));
+    return classes;
+}
+
+/// Sources that define members of a class whose header has another name. The Linux side of a platform interface may
+/// have a name of its own.
+QStringList strayDefinitionsOf(const QString& root) {
+    static const QRegularExpression definition(u"^(?! |return|using|else)(?:[\\w:<>,*& ]+[ *&])?(\\w+)::~?\\w+\\(.*"_s,
+                                               QRegularExpression::MultilineOption);
+    const Classes classes = classesOf(root);
+    QStringList found;
+    for (const QString& path : pathsOf(root)) {
+        if (floorOf(path) == Tests || !path.endsWith(u".cpp"_s))
+            continue;
+        auto matches = definition.globalMatch(contentOf(root, path));
+        while (matches.hasNext()) {
+            const auto match = matches.next();
+            const QString header = classes.headerOf.value(match.captured(1));
+            const bool isDoor = path.contains(u"/linux/"_s) && !header.contains(u"/linux/"_s);
+            if (header.isEmpty() || header == path || isDoor || match.captured().endsWith(u';'))
+                continue;
+            const QString home = QFileInfo(classes.unitOf.value(header)).fileName();
+            const QString fault = u"%1: defines %2 of %3"_s.arg(path, match.captured(1), header);
+            if (!QFileInfo(path).fileName().startsWith(home) && !found.contains(fault))
+                found << fault;
+        }
+    }
+    return found;
+}
+
+/// The files that include each other in a circle, directly or through others: header and source count as one.
+QStringList circlesOf(const QString& root) {
+    const Classes classes = classesOf(root);
+    QHash<QString, QSet<QString>> uses;
+    for (const QString& path : pathsOf(root)) {
+        if (floorOf(path) == Tests)
+            continue;
+        const QString here = classes.unitOf.value(path);
+        for (const auto& [own, include] : includesOf(contentOf(root, path)))
+            if (const QString there = classes.unitOf.value(include); own && !there.isEmpty() && there != here)
+                uses[here].insert(there);
+    }
+    // A file that includes nothing, or that nothing includes, is in no circle.
+    for (bool removed = true; removed;) {
+        removed = false;
+        QSet<QString> used;
+        for (const auto& each : std::as_const(uses))
+            used.unite(each);
+        for (auto it = uses.begin(); it != uses.end();) {
+            it->removeIf([&](const QString& other) { return !uses.contains(other); });
+            const bool isOutside = it->isEmpty() || !used.contains(it.key());
+            removed = removed || isOutside;
+            it = isOutside ? uses.erase(it) : std::next(it);
+        }
+    }
+    QStringList found = uses.keys();
+    found.sort();
+    return found;
+}
+
+/// Trees that break the rules.
+class BadTree : public testing::Test {
+protected:
+    void put(const QString& path, const QByteArray& content) {
+        QDir(dir.path()).mkpath(QFileInfo(path).path());
+        QFile file(dir.filePath(path));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+    QTemporaryDir dir;
+};
 
 } // namespace
 
 TEST(Floors, StandOnEachOther) {
     EXPECT_EQ(faultsOf(QStringLiteral(SONAPHEX_SOURCE_DIR)).join(u'\n').toStdString(), "");
+}
+
+TEST(Floors, HaveRoomsInTheirOrder) {
+    const QStringList rooms = listed(u"Rooms.txt"_s);
+    EXPECT_EQ(roomFaultsOf(QStringLiteral(SONAPHEX_SOURCE_DIR), rooms).join(u'\n').toStdString(), "");
+    for (const QString& room : rooms)
+        EXPECT_TRUE(QFileInfo(QStringLiteral(SONAPHEX_SOURCE_DIR "/") + room).isDir()) << qPrintable(room);
+}
+
+TEST(Floors, HaveNoCircles) {
+    EXPECT_EQ(circlesOf(QStringLiteral(SONAPHEX_SOURCE_DIR)).join(u'\n').toStdString(), "");
+}
+
+TEST(Floors, HaveEachClassInFilesOfItsName) {
+    EXPECT_EQ(strayDefinitionsOf(QStringLiteral(SONAPHEX_SOURCE_DIR)).join(u'\n').toStdString(), "");
 }
 
 TEST(Floors, AreSortedAsTheBuildSortsThem) {
@@ -122,14 +294,7 @@ TEST(Floors, AreSortedAsTheBuildSortsThem) {
     EXPECT_EQ(floorOf(u"main.cpp"_s), Program);
 }
 
-TEST(Floors, FallWithABadTree) {
-    QTemporaryDir dir;
-    const auto put = [&](const QString& path, const QByteArray& content) {
-        QDir(dir.path()).mkpath(QFileInfo(path).path());
-        QFile file(dir.filePath(path));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    };
+TEST_F(BadTree, LetsTheFloorsFall) {
     put(u"AppDelegate.h"_s, "#include <QObject>\n");
     put(u"Platform/Audio/Good.h"_s, "#pragma once\n#include <vector>\n");
     put(u"Platform/Audio/Leaky.h"_s, "#include <pipewire/pipewire.h>\n");
@@ -155,4 +320,41 @@ TEST(Floors, FallWithABadTree) {
                   u"Source/View/Theme.h: AppDelegate.h is on a higher floor"_s,
                   u"Tools/Tone/main.cpp: Source/Control/Engine.h is on a higher floor"_s,
               }));
+}
+
+TEST_F(BadTree, BreaksTheOrderOfTheRooms) {
+    put(u"Source/Low/A.h"_s, "#include \"Source/High/B.h\"\n");
+    put(u"Source/High/B.h"_s, "#include \"Source/Low/C.h\"\n#include \"Source/High/D.h\"\n");
+    put(u"Source/High/D.h"_s, "\n");
+    put(u"Source/Low/C.h"_s, "\n");
+    put(u"Source/New/E.cpp"_s, "#include \"Source/Low/C.h\"\n");
+    put(u"tests/Source/LowTest.cpp"_s, "#include \"Source/High/B.h\"\n");
+    EXPECT_EQ(roomFaultsOf(dir.path(), {u"Source/Low"_s, u"Source/High"_s}),
+              (QStringList{u"Source/Low/A.h: Source/High/B.h is in a later room"_s,
+                           u"Source/New/E.cpp: its room has no place in the order"_s}));
+}
+
+TEST_F(BadTree, HasCircles) {
+    put(u"Source/A.h"_s, "class A {\n};\n");
+    put(u"Source/A.cpp"_s, "#include \"Source/A.h\"\n#include \"Source/B.h\"\n");
+    put(u"Source/B.h"_s, "#include \"Source/C.h\"\n");
+    put(u"Source/C.h"_s, "#include \"Source/A.h\"\n");
+    put(u"Source/Outside.h"_s, "#include \"Source/A.h\"\n");
+    put(u"Source/B.cpp"_s, "#include \"Source/B.h\"\n#include \"Source/Leaf.h\"\n");
+    put(u"Source/Leaf.h"_s, "\n");
+    put(u"Source/P.h"_s, "class P {\n    struct Private;\n};\n");
+    put(u"Source/PPrivate.h"_s, "#include \"Source/P.h\"\nstruct P::Private {\n};\n");
+    put(u"Source/P.cpp"_s, "#include \"Source/P.h\"\n#include \"Source/PPrivate.h\"\n");
+    EXPECT_EQ(circlesOf(dir.path()), (QStringList{u"Source/A"_s, u"Source/B"_s, u"Source/C"_s}));
+}
+
+TEST_F(BadTree, HasClassesAwayFromHome) {
+    put(u"Source/Recorder.h"_s, "class Recorder {\n    void start();\n};\n");
+    put(u"Source/Recorder.cpp"_s, "void Recorder::start() {\n}\n");
+    put(u"Source/RecorderFiles.cpp"_s, "void Recorder::open() {\n}\n");
+    put(u"Source/Files.cpp"_s,
+        "bool Recorder::close() {\n    return Recorder::closed();\n}\nRecorder::~Recorder() = default;\n");
+    put(u"Source/Own.cpp"_s, "struct Local {\n    void go();\n};\nvoid Local::go() {\n}\n");
+    EXPECT_EQ(strayDefinitionsOf(dir.path()),
+              QStringList{u"Source/Files.cpp: defines Recorder of Source/Recorder.h"_s});
 }

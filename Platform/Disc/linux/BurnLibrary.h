@@ -2,29 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
-
 #include <condition_variable>
-#include <cstdint>
 #include <deque>
 #include <functional>
-#include <memory>
 #include <mutex>
 #include <stop_token>
 #include <thread>
 
 namespace Platform {
-
-/// What was found out about the disc in a drive.
-struct MediaFacts {
-    bool isPresent = false;
-    bool isBlank = false;
-    bool isErasable = false;
-    std::int64_t blocksFree = 0;
-    float maximumWriteSpeed = 0; ///< kilobytes (1000 bytes) per second
-    QString kind;                ///< "CD-R"
-    QString problem;             ///< why the drive could not be examined; empty otherwise
-};
 
 /// The only thread that calls libburn: the library keeps one list of drives per process, and its calls wait for the
 /// drive. The first piece of work initialises the library; the destructor closes it.

@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Platform/Disc/linux/BurnLibrary.h"
+#include "Platform/Disc/linux/MediaFacts.h"
 
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
+#include <stop_token>
 
 #include <sys/time.h>
 #include <sys/types.h>
@@ -30,6 +31,8 @@ using WriteOptionsPtr = std::unique_ptr<burn::burn_write_opts, FreeBy<burn::burn
 
 /// False when the library cannot be initialised. The thread of BurnLibrary.
 [[nodiscard]] bool initialise();
+/// Closes the library when it is initialised. The same thread.
+void finish();
 
 /// The library's oldest message about a failure, empty when there is none. Drops all older messages and those of lower
 /// severity.

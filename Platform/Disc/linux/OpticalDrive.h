@@ -4,6 +4,7 @@
 
 #include "Platform/Disc/linux/BurnLibrary.h"
 #include "Platform/Disc/linux/DriveSource.h"
+#include "Platform/Disc/linux/MediaFacts.h"
 #include "Platform/Disc/linux/OpticalBurn.h"
 
 namespace Platform {

@@ -11,6 +11,7 @@
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
 #include "Source/Preferences/PreferenceStore.h"
+#include "Source/ProcessRequests/MediaLibraryRequests.h"
 #include "tests/fakes/FakeBundle.h"
 #include "tests/fakes/FakeUserDefaults.h"
 #include "tests/fakes/FakeWorkspace.h"
@@ -78,7 +79,7 @@ protected:
     static void startAnew() {
         Platform::TemporaryFolder::removeWhole(g_strTmpPath);
         QDir().mkpath(g_strTmpPath);
-        EditNote::recover();
+        EditNote::recover(MediaLibraryRequests::retag);
     }
     /// The duration of the work in a separate process, plus a fifth, in microseconds; 0 when it fails.
     [[nodiscard]] static int timeOf(const std::function<bool()>& work) {

@@ -30,12 +30,12 @@ TEST_F(Notes, BringTheEntryToARenamedAndTaggedFile) {
     {
         const auto note = EditNote::begin(at(u"One.m4a"_s), at(u"Two.m4a"_s), {});
         ASSERT_TRUE(note);
-        EditNote::recover();
+        EditNote::recover(MediaLibraryRequests::retag);
         EXPECT_EQ(notes().size(), 1) << "the note of a process that still works is left alone";
         ASSERT_TRUE(Platform::BasicID3Change::setMpeg4ID3Information(at(u"One.m4a"_s), u"Two"_s, u"A"_s, {}, 0, {}));
         ASSERT_TRUE(QFile::rename(at(u"One.m4a"_s), at(u"Two.m4a"_s)));
     }
-    EditNote::recover();
+    EditNote::recover(MediaLibraryRequests::retag);
     EXPECT_TRUE(notes().isEmpty());
     ASSERT_EQ(library().records().size(), 1);
     EXPECT_EQ(listed().value(AudioRecordEntry::SavePath), at(u"Two.m4a"_s));
@@ -48,7 +48,7 @@ TEST_F(Notes, KeepThePathWhereTheRenameHadNotHappened) {
     recording(u"One"_s, 3);
     ASSERT_TRUE(Mpeg4Files::write(at(u"Two.m4a"_s), "somebody else's"));
     (void)EditNote::begin(at(u"One.m4a"_s), at(u"Two.m4a"_s), {});
-    EditNote::recover();
+    EditNote::recover(MediaLibraryRequests::retag);
     EXPECT_EQ(listed().value(AudioRecordEntry::SavePath), at(u"One.m4a"_s));
     EXPECT_EQ(Mpeg4Files::contentOf(at(u"Two.m4a"_s)), "somebody else's");
 }
@@ -62,7 +62,7 @@ TEST_F(Notes, CorrectTheLengthAndRemoveTheHiddenFileAndNoOther) {
     ASSERT_TRUE(Mpeg4Files::write(other, "whole"));
     (void)EditNote::begin(at(u"One.m4a"_s), at(u"One.m4a"_s), hidden);
     (void)EditNote::begin(at(u"One.m4a"_s), at(u"One.m4a"_s), other);
-    EditNote::recover();
+    EditNote::recover(MediaLibraryRequests::retag);
     EXPECT_NEAR(listed().value(AudioRecordEntry::Length).toDouble(), 3, 0.05);
     EXPECT_FALSE(QFile::exists(hidden));
     EXPECT_TRUE(QFile::exists(other));
@@ -75,7 +75,7 @@ TEST_F(Notes, ThatAreTornAreRemovedAndDoNothing) {
     ASSERT_TRUE(QDir().mkpath(folder));
     ASSERT_TRUE(Mpeg4Files::write(folder + u"/a.edit"_s, "{\"path\":\"/mus"));
     ASSERT_TRUE(Mpeg4Files::write(folder + u"/b.edit"_s, ""));
-    EditNote::recover();
+    EditNote::recover(MediaLibraryRequests::retag);
     EXPECT_TRUE(notes().isEmpty());
     EXPECT_EQ(listed(), before);
 }

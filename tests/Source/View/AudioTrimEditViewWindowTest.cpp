@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/View/AudioTrimEditView.h"
 
-#include "Source/View/AudioOutline.h"
 #include "Source/View/NamedImages.h"
+#include "Source/View/OutlineDrawing.h"
 #include "tests/support/Screenshot.h"
 
 #include <QApplication>
@@ -163,7 +163,7 @@ TEST(TrimOutline, DrawsTheLoudestValueOfEachPoint) {
     QPainter painter(&image);
     QList<float> values(100, 0.0F);
     values[55] = -1; // of the sixth point
-    AudioOutline::draw(painter, QRectF(0, 0, 10, 100), values, Qt::white);
+    OutlineDrawing::draw(painter, QRectF(0, 0, 10, 100), values, Qt::white);
     painter.end();
     for (int x = 0; x < 10; ++x)
         EXPECT_EQ(image.pixel(x, 10) == qRgb(255, 255, 255), x == 5) << x;

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Platform/Media/linux/decode/InputFile.h"
-#include "Platform/Media/linux/decode/RateConverter.h"
+#include "Platform/Media/linux/libav/RateConverter.h"
 
 namespace Platform {
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Platform/Media/linux/LibAvFormat.h"
-#include "Platform/Media/linux/MediaErrors.h"
 #include "Platform/Media/linux/decode/SourceFile.h"
+#include "Platform/Media/linux/libav/LibAvFormat.h"
+#include "Platform/Media/linux/libav/MediaErrors.h"
 
 #include <optional>
 #include <vector>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Platform/Media/linux/MediaErrors.h"
+#include "Platform/Media/linux/libav/MediaErrors.h"
 #include "Platform/Media/linux/mpeg4/Mpeg4Boxes.h"
 
 #include <optional>

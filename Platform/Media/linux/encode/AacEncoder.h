@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Platform/Media/linux/LibAvCodec.h"
 #include "Platform/Media/linux/encode/PacketFile.h"
+#include "Platform/Media/linux/libav/LibAvCodec.h"
 
 #include <vector>
 

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/linux/encode/FileWriter.h"
-#include "Platform/Media/linux/LibAvCodec.h"
-#include "Platform/Media/linux/decode/RateConverter.h"
 #include "Platform/Media/linux/encode/FrameSink.h"
 #include "Platform/Media/linux/encode/PlaneRing.h"
+#include "Platform/Media/linux/libav/LibAvCodec.h"
+#include "Platform/Media/linux/libav/RateConverter.h"
 
 #include <chrono>
 #include <cmath>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Platform/Foundation/ReplacementFile.h"
-#include "Platform/Media/linux/MediaErrors.h"
+#include "Platform/Media/linux/libav/MediaErrors.h"
 
 #include <cstdint>
 #include <memory>

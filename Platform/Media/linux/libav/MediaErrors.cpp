@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Platform/Media/linux/MediaErrors.h"
+#include "Platform/Media/linux/libav/MediaErrors.h"
 
 namespace Platform {
 

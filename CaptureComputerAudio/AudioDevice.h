@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "CaptureComputerAudio/IOService.h"
 #include "Platform/Audio/AudioTypes.h"
-#include "Source/AudioDevice/IOService.h"
 
 #include <QString>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Platform/Media/linux/LibAvCodec.h"
+#include "Platform/Media/linux/libav/LibAvCodec.h"
 
 extern "C" {
 #include <libavformat/avformat.h>

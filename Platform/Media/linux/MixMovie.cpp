@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Platform/Media/linux/decode/MixMovie.h"
+#include "Platform/Media/linux/MixMovie.h"
 #include "Platform/Media/linux/decode/FileReader.h"
 #include "Platform/Media/linux/encode/FileWriter.h"
 

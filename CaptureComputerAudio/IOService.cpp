@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Source/AudioDevice/IOService.h"
+#include "CaptureComputerAudio/IOService.h"
 
 #include "Platform/Foundation/Services.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Platform/Media/linux/decode/RateConverter.h"
-#include "Platform/Media/linux/LibAv.h"
+#include "Platform/Media/linux/libav/RateConverter.h"
+#include "Platform/Media/linux/libav/LibAv.h"
 
 #include <algorithm>
 #include <numeric>

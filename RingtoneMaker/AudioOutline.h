@@ -9,10 +9,6 @@
 #include <memory>
 #include <thread>
 
-class QColor;
-class QPainter;
-class QRectF;
-
 /// Reads the outline of an audio file on a thread of its own. Main thread; one file at a time.
 class AudioOutline : public QObject {
     Q_OBJECT
@@ -29,10 +25,6 @@ public:
     [[nodiscard]] const QList<float>& values() const { return values_; }
     /// Why the file cannot be read, for the user; empty when it can.
     [[nodiscard]] QString problem() const { return problem_; }
-
-    /// Draws values over the whole of @p rect, centred vertically: one line per point, as long as the loudest of its
-    /// values.
-    static void draw(QPainter& painter, const QRectF& rect, const QList<float>& values, const QColor& color);
 
 Q_SIGNALS:
     /// New values have been read; they start at the number @p first.

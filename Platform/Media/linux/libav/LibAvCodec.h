@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Platform/Media/linux/LibAv.h"
+#include "Platform/Media/linux/libav/LibAv.h"
 
 extern "C" {
 #include <libavcodec/avcodec.h>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Platform/Media/linux/LibAvFormat.h"
+#include "Platform/Media/linux/libav/LibAvFormat.h"
 
-#include "Platform/Media/linux/LoadedLibrary.h"
+#include "Platform/Media/linux/libav/LoadedLibrary.h"
 
 namespace Av {
 

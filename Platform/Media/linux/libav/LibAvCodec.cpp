@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Platform/Media/linux/LibAvCodec.h"
+#include "Platform/Media/linux/libav/LibAvCodec.h"
 
 #include "Platform/Media/PrepareCodecs.h"
-#include "Platform/Media/linux/LoadedLibrary.h"
+#include "Platform/Media/linux/libav/LoadedLibrary.h"
 
 namespace Av {
 

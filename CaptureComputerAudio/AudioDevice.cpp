@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Source/AudioDevice/AudioDevice.h"
+#include "CaptureComputerAudio/AudioDevice.h"
 
 #include "Platform/Audio/AudioHardware.h"
 #include "Platform/Foundation/Services.h"
