@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/Record/RecordDisplay.h"
 
-#include "Source/Record/RecordStateController.h"
+#include "Source/Record/RecordState.h"
 
 using namespace Qt::StringLiterals;
 

@@ -5,6 +5,7 @@
 #include "Source/BuiltInAudioRecord/BuildInAudioRecord.h"
 #include "Source/Preferences/RecordPreferences.h"
 #include "Source/Record/RecordNotice.h"
+#include "Source/Record/RecordState.h"
 
 #include <QObject>
 #include <QStringList>
@@ -12,10 +13,6 @@
 
 #include <functional>
 #include <memory>
-
-/// The state of the user's recording. Armed waits for the first sound of computer audio; Finishing turns the last raw
-/// files into recordings while the program ends.
-enum class RecordState { Idle, Armed, Recording, Paused, Finishing };
 
 /// What the controller calls on the program around it. All calls are made on the main thread.
 class RecordStateControllerDelegate {
