@@ -304,7 +304,7 @@ protected:
 TEST_F(AdminShellTest, RunsTheCommandThroughTheHelper) {
     makeHelper("echo \"$1 $2 $3\" > \"${0%/*}/given\"; exec \"$@\"\n");
     const auto result = Platform::createAdminShell(false)->executeShellStringWithAdmin(u"exit 0; %s %1"_s);
-    EXPECT_FALSE(result) << qPrintable(*result);
+    EXPECT_TRUE(result) << qPrintable(result.error().text);
     QFile given(folder.filePath(u"given"_s));
     ASSERT_TRUE(given.open(QIODevice::ReadOnly));
     EXPECT_EQ(given.readAll(), "/bin/sh -c exit 0; %s %1\n");
@@ -312,35 +312,36 @@ TEST_F(AdminShellTest, RunsTheCommandThroughTheHelper) {
 
 TEST_F(AdminShellTest, SaysThatThePromptWasCancelledOrTheRightsNotGiven) {
     makeHelper("exit 126\n");
-    EXPECT_EQ(Platform::createAdminShell(false)->executeShellStringWithAdmin(u"true"_s),
-              u"the password prompt was cancelled"_s);
+    const Platform::Error cancelled = Platform::createAdminShell(false)->executeShellStringWithAdmin(u"true"_s).error();
+    EXPECT_EQ(cancelled.kind, Platform::Error::Kind::Cancelled);
+    EXPECT_EQ(cancelled.text, u"the password prompt was cancelled"_s);
     makeHelper("exit 127\n");
-    EXPECT_EQ(Platform::createAdminShell(false)->executeShellStringWithAdmin(u"true"_s),
+    EXPECT_EQ(Platform::createAdminShell(false)->executeShellStringWithAdmin(u"true"_s).error().text,
               u"administrator rights were not given"_s);
 }
 
 TEST_F(AdminShellTest, EndsThePromptWhenItsWorkerIsInterrupted) {
     makeHelper("exec /bin/sleep 1000\n");
-    std::optional<QString> result;
+    Platform::Result<> result;
     const std::unique_ptr<QThread> worker(
         QThread::create([&] { result = Platform::createAdminShell(false)->executeShellStringWithAdmin(u"true"_s); }));
     worker->start();
     worker->requestInterruption();
     EXPECT_TRUE(worker->wait(30000));
-    EXPECT_EQ(result, u"the password prompt was cancelled"_s);
+    EXPECT_EQ(result.error().kind, Platform::Error::Kind::Cancelled);
 }
 
 TEST_F(AdminShellTest, SaysThatThereIsNoHelper) {
     const auto result = Platform::createAdminShell(false)->executeShellStringWithAdmin(u"true"_s);
-    ASSERT_TRUE(result);
-    EXPECT_TRUE(result->contains(u"pkexec is not installed"_s));
+    EXPECT_EQ(result.error().kind, Platform::Error::Kind::NotFound);
+    EXPECT_TRUE(result.error().text.contains(u"pkexec is not installed"_s));
 }
 
 TEST_F(AdminShellTest, RunsDirectlyWithRightsAndReportsWhatTheCommandSays) {
     const auto shell = Platform::createAdminShell(true);
-    EXPECT_FALSE(shell->executeShellStringWithAdmin(u"exit 0"_s));
-    EXPECT_EQ(shell->executeShellStringWithAdmin(u"echo 'no room' >&2; exit 3"_s), u"no room"_s);
-    EXPECT_EQ(shell->executeShellStringWithAdmin(u"exit 3"_s), u"the command ended with status 3"_s);
+    EXPECT_TRUE(shell->executeShellStringWithAdmin(u"exit 0"_s));
+    EXPECT_EQ(shell->executeShellStringWithAdmin(u"echo 'no room' >&2; exit 3"_s).error().text, u"no room"_s);
+    EXPECT_EQ(shell->executeShellStringWithAdmin(u"exit 3"_s).error().text, u"the command ended with status 3"_s);
 }
 
 } // namespace

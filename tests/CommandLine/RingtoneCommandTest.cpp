@@ -1,20 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Platform/Foundation/linux/PropertyListDefaults.h"
 #include "Source/Model/AudioRecordEntry.h"
-#include "Source/Model/MediaLibraryStore.h"
-#include "Source/Preferences/PreferenceStore.h"
+#include "tests/CommandLine/ProgramHome.h"
 #include "tests/Platform/Media/MediaTestSupport.h"
 #include "tests/support/AudioCheck.h"
-#include "tests/support/Environment.h"
-#include "tests/support/RunTool.h"
 #include "tests/support/WaitFor.h"
 
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTemporaryDir>
 #include <csignal>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -23,58 +18,33 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString identifier = u"com.korvane.Sonaphex"_s;
-
 /// The real program with its own home folder.
 class RingtoneCommand : public testing::Test {
 protected:
-    RingtoneCommand() {
-        for (const char* name : {"XDG_CONFIG_HOME", "XDG_RUNTIME_DIR", "XDG_DATA_HOME", "XDG_CACHE_HOME", "HOME"})
-            environment_.push_back(std::make_unique<EnvironmentScope>(name, home_.path().toUtf8()));
-        environment_.push_back(std::make_unique<EnvironmentScope>("TMPDIR", home_.filePath(u"tmp"_s).toUtf8()));
-        QDir().mkdir(home_.filePath(u"tmp"_s));
-        QFile::setPermissions(home_.filePath(u"tmp"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    }
-    static ToolResult sonaphex(const QStringList& arguments) {
-        return runTool(QStringLiteral(SONAPHEX_PROGRAM), arguments);
-    }
     static ToolResult ringtone(const QStringList& arguments) {
-        return sonaphex(QStringList{u"ringtone"_s} + arguments);
+        return ProgramHome::sonaphex(QStringList{u"ringtone"_s} + arguments);
     }
-    static QJsonArray listed() {
-        return QJsonDocument::fromJson(sonaphex({u"library"_s, u"--json"_s}).output)[u"ringtones"_s].toArray();
-    }
+    static QJsonArray listed() { return ProgramHome::library()[u"ringtones"_s].toArray(); }
     [[nodiscard]] QString at(const QString& name) const { return home_.filePath(name); }
-    [[nodiscard]] QString folder() const { return at(u"Music/"_s + identifier); }
+    [[nodiscard]] QString folder() const { return at(u"Music/"_s + ProgramHome::identifier); }
     [[nodiscard]] QStringList made() const {
         return QDir(folder()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System,
                                         QDir::Name);
     }
-    [[nodiscard]] QStringList temporaries() const {
-        return QDir(at(u"tmp"_s)).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden);
-    }
+    [[nodiscard]] QStringList temporaries() const { return home_.temporaries(); }
     /// Some seconds of tones, different in the two channels.
     QString source(const QString& name = u"Track3.m4a"_s, double seconds = 12) const {
         MediaTest::writeFile(at(name), kAudioFileM4AType, MediaTest::tones(std::size_t(seconds * 44100)));
         return at(name);
     }
     static void store(const QVariantList& records, const QString& ringtoneFolder = {}) {
-        const auto defaults = Platform::createUserDefaults(identifier);
-        defaults->setObject(PreferenceStore::kMediaLibrarySavedKey, MediaLibraryStore::value(records, {}));
+        Dictionary settings;
         if (!ringtoneFolder.isEmpty())
-            defaults->setObject(PreferenceStore::PreferenceRingtoneSavePathKey, ringtoneFolder);
-        ASSERT_TRUE(defaults->flush());
-    }
-    static void expectOneLine(const ToolResult& result, const QByteArray& text) {
-        EXPECT_EQ(result.status, 1);
-        EXPECT_EQ(result.errors.count('\n'), 1) << result.errors.constData();
-        EXPECT_TRUE(result.errors.startsWith("sonaphex: ")) << result.errors.constData();
-        EXPECT_TRUE(result.errors.contains(text)) << result.errors.constData();
-        EXPECT_TRUE(result.output.isEmpty()) << result.output.constData();
+            settings.insert(PreferenceStore::PreferenceRingtoneSavePathKey, ringtoneFolder);
+        ProgramHome::store(records, {}, settings);
     }
 
-    QTemporaryDir home_;
-    std::vector<std::unique_ptr<EnvironmentScope>> environment_;
+    ProgramHome home_;
 };
 
 TEST_F(RingtoneCommand, WritesTheStretchAndListsItInTheLibrary) {

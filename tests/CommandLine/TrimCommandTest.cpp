@@ -1,12 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Foundation/RunningProgram.h"
-#include "Platform/Foundation/linux/PropertyListDefaults.h"
 #include "Source/Model/AudioRecordEntry.h"
-#include "Source/Model/MediaLibraryStore.h"
-#include "Source/Preferences/PreferenceStore.h"
+#include "tests/CommandLine/ProgramHome.h"
 #include "tests/support/AudioCheck.h"
-#include "tests/support/Environment.h"
 #include "tests/support/FullDisk.h"
 #include "tests/support/Mpeg4Files.h"
 #include "tests/support/RunTool.h"
@@ -16,28 +13,18 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString identifier = u"com.korvane.Sonaphex"_s;
-
 /// The real program with its own home folder.
 class TrimCommand : public testing::Test {
 protected:
-    TrimCommand() {
-        for (const char* name : {"XDG_CONFIG_HOME", "XDG_RUNTIME_DIR", "XDG_DATA_HOME", "XDG_CACHE_HOME", "HOME"})
-            environment_.push_back(std::make_unique<EnvironmentScope>(name, home_.path().toUtf8()));
-        environment_.push_back(std::make_unique<EnvironmentScope>("TMPDIR", home_.filePath(u"tmp"_s).toUtf8()));
-        QDir().mkdir(home_.filePath(u"tmp"_s));
-        QDir().mkdir(home_.filePath(u"music"_s));
-        QFile::setPermissions(home_.filePath(u"tmp"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    }
+    TrimCommand() { QDir().mkdir(home_.filePath(u"music"_s)); }
     static ToolResult trim(const QStringList& arguments) {
-        return runTool(QStringLiteral(SONAPHEX_PROGRAM), QStringList{u"trim"_s} + arguments);
+        return ProgramHome::sonaphex(QStringList{u"trim"_s} + arguments);
     }
     [[nodiscard]] QString at(const QString& name) const { return home_.filePath(u"music/"_s + name); }
     /// All files in the recordings' folder, including hidden ones.
@@ -45,10 +32,7 @@ protected:
         return QDir(at({})).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
     }
     /// Files that a command left in the temporary folder, and the notes about unfinished edits.
-    [[nodiscard]] QStringList leftovers() const {
-        return QDir(home_.filePath(u"tmp"_s)).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden) +
-               QDir(home_.filePath(identifier + u"/Edits"_s)).entryList(QDir::Files);
-    }
+    [[nodiscard]] QStringList leftovers() const { return home_.temporaries() + home_.notes(); }
     /// A tone with a title, in the library.
     QString recording(const QString& name, int seconds = 10) const {
         const QString path = at(name);
@@ -58,32 +42,18 @@ protected:
         return path;
     }
     static void list(const QString& path, double seconds) {
-        const auto defaults = Platform::createUserDefaults(identifier);
         const Dictionary entry{{AudioRecordEntry::NodeDataKey, u"the key"_s},
                                {AudioRecordEntry::SavePath, path},
                                {AudioRecordEntry::Title, u"Rain"_s},
                                {AudioRecordEntry::Length, seconds}};
-        defaults->setObject(PreferenceStore::kMediaLibrarySavedKey, MediaLibraryStore::value({entry}, {}));
-        ASSERT_TRUE(defaults->flush());
+        ProgramHome::store({entry});
     }
-    static QJsonArray listed() {
-        const auto told = runTool(QStringLiteral(SONAPHEX_PROGRAM), {u"library"_s, u"--json"_s});
-        return QJsonDocument::fromJson(told.output)[u"records"_s].toArray();
-    }
+    static QJsonArray listed() { return ProgramHome::library()[u"records"_s].toArray(); }
     static double secondsOf(const QString& path) {
         const auto channels = AudioCheck::decodedByFfmpeg(path);
         return channels.empty() ? -1 : double(channels[0].size()) / 44100;
     }
-    static void expectOneLine(const ToolResult& result, const QByteArray& text) {
-        EXPECT_EQ(result.status, 1);
-        EXPECT_EQ(result.errors.count('\n'), 1) << result.errors.constData();
-        EXPECT_TRUE(result.errors.startsWith("sonaphex: ")) << result.errors.constData();
-        EXPECT_TRUE(result.errors.contains(text)) << result.errors.constData();
-        EXPECT_TRUE(result.output.isEmpty()) << result.output.constData();
-    }
-
-    QTemporaryDir home_;
-    std::vector<std::unique_ptr<EnvironmentScope>> environment_;
+    ProgramHome home_;
 };
 
 } // namespace
@@ -139,10 +109,10 @@ TEST_F(TrimCommand, NeverSavesAsAFileThatExists) {
     ASSERT_TRUE(QFile::link(u"/nowhere/at/all"_s, at(u"Link.m4a"_s)));
     const QByteArray before = Mpeg4Files::contentOf(path);
     for (const QString& taken : {u"Two.m4a"_s, u"Two.mp3"_s, u"One.m4a"_s, u"Link.m4a"_s})
-        expectOneLine(trim({path, u"--from"_s, u"1"_s, u"--save-as"_s, at(taken)}),
-                      "This path exists, please change the path or name.");
-    expectOneLine(trim({path, u"--from"_s, u"1"_s, u"--save-as"_s, at(u"none/Two.m4a"_s)}),
-                  "none: there is no such folder");
+        ProgramHome::expectOneLine(trim({path, u"--from"_s, u"1"_s, u"--save-as"_s, at(taken)}),
+                                   "This path exists, please change the path or name.");
+    ProgramHome::expectOneLine(trim({path, u"--from"_s, u"1"_s, u"--save-as"_s, at(u"none/Two.m4a"_s)}),
+                               "none: there is no such folder");
     EXPECT_EQ(Mpeg4Files::contentOf(path), before);
     EXPECT_EQ(Mpeg4Files::contentOf(at(u"Two.m4a"_s)), "another");
     EXPECT_EQ(files(), (QStringList{u"Link.m4a"_s, u"One.m4a"_s, u"Two.m4a"_s}));
@@ -154,12 +124,12 @@ TEST_F(TrimCommand, RefusesWithOneLineAndLeavesNothing) {
     const QByteArray before = Mpeg4Files::contentOf(path);
     ASSERT_TRUE(Mpeg4Files::write(at(u"text.m4a"_s), "no audio at all"));
     const QString from = u"--from"_s;
-    expectOneLine(trim({at(u"none.m4a"_s), from, u"1"_s}), "none.m4a: there is no such file");
-    expectOneLine(trim({home_.path(), from, u"1"_s}), "there is no such file");
-    expectOneLine(trim({at(u"text.m4a"_s), from, u"1"_s}), "text.m4a");
-    expectOneLine(trim({path, from, u"10.5"_s}), "nothing from second 10.5 on");
-    expectOneLine(trim({path, from, u"1"_s, u"--to"_s, u"11"_s}), "--to is 11");
-    expectOneLine(trim({path, from, u"9.95"_s}), "shorter than a tenth of a second");
+    ProgramHome::expectOneLine(trim({at(u"none.m4a"_s), from, u"1"_s}), "none.m4a: there is no such file");
+    ProgramHome::expectOneLine(trim({home_.path(), from, u"1"_s}), "there is no such file");
+    ProgramHome::expectOneLine(trim({at(u"text.m4a"_s), from, u"1"_s}), "text.m4a");
+    ProgramHome::expectOneLine(trim({path, from, u"10.5"_s}), "nothing from second 10.5 on");
+    ProgramHome::expectOneLine(trim({path, from, u"1"_s, u"--to"_s, u"11"_s}), "--to is 11");
+    ProgramHome::expectOneLine(trim({path, from, u"9.95"_s}), "shorter than a tenth of a second");
     for (const QStringList& wrong :
          {QStringList{path}, QStringList{from, u"1"_s}, QStringList{path, path, from, u"1"_s},
           QStringList{path, from, u"-1"_s}, QStringList{path, from, u"x"_s}, QStringList{path, from, u"nan"_s},
@@ -179,7 +149,7 @@ TEST_F(TrimCommand, RefusesAFileThatTheRunningWindowPlays) {
     const QByteArray before = Mpeg4Files::contentOf(path);
     ASSERT_TRUE(QFile::link(path, at(u"Link.m4a"_s)));
     // A window process that plays the file. It answers in this thread, so the commands run on others.
-    const auto window = Platform::RunningProgram::create(identifier);
+    const auto window = Platform::RunningProgram::create(ProgramHome::identifier);
     ASSERT_TRUE(window->acquire());
     QString played = path;
     ASSERT_TRUE(window->listen([&](const QByteArray& request) -> QByteArray {
@@ -194,7 +164,7 @@ TEST_F(TrimCommand, RefusesAFileThatTheRunningWindowPlays) {
         return ToolResult{program.exitCode(), program.readAllStandardOutput(), program.readAllStandardError()};
     };
     for (const QString& name : {u"One.m4a"_s, u"Link.m4a"_s})
-        expectOneLine(beside({at(name), u"--from"_s, u"1"_s}), "the file is being played");
+        ProgramHome::expectOneLine(beside({at(name), u"--from"_s, u"1"_s}), "the file is being played");
     EXPECT_EQ(Mpeg4Files::contentOf(path), before);
     // A copy does not interrupt the player; neither does trimming another file.
     EXPECT_EQ(beside({path, u"--from"_s, u"1"_s, u"--save-as"_s, at(u"Two.m4a"_s)}).status, 0);
@@ -226,7 +196,7 @@ TEST_F(TrimCommand, KeepsTheRecordingOnAFullDisk) {
     const QByteArray before = Mpeg4Files::contentOf(path);
     {
         const FullDisk full(30000);
-        expectOneLine(trim({path, u"--from"_s, u"1"_s}), "One.m4a");
+        ProgramHome::expectOneLine(trim({path, u"--from"_s, u"1"_s}), "One.m4a");
     }
     EXPECT_EQ(Mpeg4Files::contentOf(path), before);
     EXPECT_EQ(files(), QStringList{u"One.m4a"_s});

@@ -11,6 +11,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Delivers a sound right after it was asked whether it records.
+struct HeardWhenAsked : BuildInAudioRecord {
+    [[nodiscard]] int recordStatus() const override {
+        const int status = BuildInAudioRecord::recordStatus();
+        if (status == 0 && sound)
+            std::exchange(sound, {})();
+        return status;
+    }
+    mutable std::function<void()> sound;
+};
+
 class ArmedRecordTest : public RecordFixture {
 protected:
     /// Frames in all raw files, and frames in those that became recordings.
@@ -31,6 +42,22 @@ protected:
                     frames += file->framesAccepted;
         }
         return frames;
+    }
+    /// Begins with computer audio alone and with engines of this kind. @return the engine that was made last
+    template <typename Engine>
+    Engine& beginWithEngines() {
+        defaults.setObject(PreferenceStore::ChooseRecordBuiltIn, false);
+        defaults.setObject(PreferenceStore::ChooseRecordComputerAudio, true);
+        const auto last = std::make_shared<Engine*>();
+        controller = std::make_unique<RecordStateController>([last] {
+            auto engine = std::make_unique<Engine>();
+            *last = engine.get();
+            return engine;
+        });
+        controller->setDelegate(&delegate);
+        controller->awakeFromNib();
+        controller->setDisplayClockRunning(false);
+        return **last;
     }
 };
 
@@ -126,30 +153,10 @@ TEST_F(ArmedRecordTest, NoCutMeetsAnInputThatIsBeingExchanged) {
 }
 
 TEST_F(ArmedRecordTest, ASoundInTheMomentOfTheStopKeepsItsName) {
-    /// Delivers a sound right after it was asked whether it records.
-    struct Engine : BuildInAudioRecord {
-        [[nodiscard]] int recordStatus() const override {
-            const int status = BuildInAudioRecord::recordStatus();
-            if (status == 0 && sound)
-                std::exchange(sound, {})();
-            return status;
-        }
-        mutable std::function<void()> sound;
-    };
     addComputerAudio();
-    defaults.setObject(PreferenceStore::ChooseRecordBuiltIn, false);
-    defaults.setObject(PreferenceStore::ChooseRecordComputerAudio, true);
-    Engine* computer = nullptr;
-    controller = std::make_unique<RecordStateController>([&computer] {
-        auto engine = std::make_unique<Engine>();
-        computer = engine.get();
-        return engine;
-    });
-    controller->setDelegate(&delegate);
-    controller->awakeFromNib();
-    controller->setDisplayClockRunning(false);
+    HeardWhenAsked& computer = beginWithEngines<HeardWhenAsked>();
     controller->startAndStopRecord();
-    computer->sound = [this] { play(ComputerAudio, 0.25F, 6); };
+    computer.sound = [this] { play(ComputerAudio, 0.25F, 6); };
     controller->startAndStopRecord();
     EXPECT_EQ(media.last().framesAccepted, 6 * 48000);
     EXPECT_EQ(controller->getAudioRecordPath(), track(1));
@@ -418,20 +425,10 @@ struct HeardAtTheHold : BuildInAudioRecord {
 TEST_F(ArmedRecordTest, ASoundInTheMomentOfTheNextStartHasAnOwner) {
     addComputerAudio();
     setFilter(false);
-    defaults.setObject(PreferenceStore::ChooseRecordBuiltIn, false);
-    defaults.setObject(PreferenceStore::ChooseRecordComputerAudio, true);
-    HeardAtTheHold* computer = nullptr;
-    controller = std::make_unique<RecordStateController>([&computer] {
-        auto engine = std::make_unique<HeardAtTheHold>();
-        computer = engine.get();
-        return engine;
-    });
-    controller->setDelegate(&delegate);
-    controller->awakeFromNib();
-    controller->setDisplayClockRunning(false);
+    HeardAtTheHold& computer = beginWithEngines<HeardAtTheHold>();
     controller->startAndStopRecord();
     controller->startAndStopRecord();
-    computer->sound = [this] { play(ComputerAudio, 0.25F, 1); };
+    computer.sound = [this] { play(ComputerAudio, 0.25F, 1); };
     controller->startAndStopRecord();
     play(ComputerAudio, 0.25F, 2);
     controller->startAndStopRecord();
@@ -446,32 +443,12 @@ TEST_F(ArmedRecordTest, ASoundInTheMomentOfTheNextStartHasAnOwner) {
 TEST_F(ArmedRecordTest, ASoundInTheMomentOfTheEndIsFinished) {
     addComputerAudio();
     setFilter(false);
-    defaults.setObject(PreferenceStore::ChooseRecordBuiltIn, false);
-    defaults.setObject(PreferenceStore::ChooseRecordComputerAudio, true);
-    /// Delivers a sound right after it was asked whether it records.
-    struct Engine : BuildInAudioRecord {
-        [[nodiscard]] int recordStatus() const override {
-            const int status = BuildInAudioRecord::recordStatus();
-            if (status == 0 && sound)
-                std::exchange(sound, {})();
-            return status;
-        }
-        mutable std::function<void()> sound;
-    };
-    Engine* computer = nullptr;
-    controller = std::make_unique<RecordStateController>([&computer] {
-        auto engine = std::make_unique<Engine>();
-        computer = engine.get();
-        return engine;
-    });
-    controller->setDelegate(&delegate);
-    controller->awakeFromNib();
-    controller->setDisplayClockRunning(false);
+    HeardWhenAsked& computer = beginWithEngines<HeardWhenAsked>();
     controller->startAndStopRecord();
     std::thread hearing;
     // On another thread, like an I/O thread: it may have to wait until the question is decided.
     std::atomic<bool> heard{false};
-    computer->sound = [this, &hearing, &heard] {
+    computer.sound = [this, &hearing, &heard] {
         hearing = std::thread([this, &heard] {
             play(ComputerAudio, 0.25F, 1);
             heard = true;
