@@ -109,7 +109,8 @@ QString bashCompletion(const Commands& commands) {
                 continue;
             const QStringList offered = choices(option.value);
             values += u"            %1) COMPREPLY=($(compgen %2 -- \"$word\")); return ;;\n"_s.arg(
-                longForm(option), takesFiles(option.value) ? u"-f"_s : u"-W "_s + Platform::shellWord(offered.join(u' ')));
+                longForm(option),
+                takesFiles(option.value) ? u"-f"_s : u"-W "_s + Platform::shellWord(offered.join(u' ')));
         }
         cases += u"        %1)\n"_s.arg(name);
         if (!values.isEmpty())

@@ -43,8 +43,7 @@ RecordingNotifier::RecordingNotifier(MainWndController& window, std::unique_ptr<
 }
 
 bool RecordingNotifier::mayNotify() {
-    return !QGuiApplication::focusWindow() &&
-           Platform::boolValue(Settings::value(Settings::notifications));
+    return !QGuiApplication::focusWindow() && Platform::boolValue(Settings::value(Settings::notifications));
 }
 
 void RecordingNotifier::recordingFinished(const QString& path, const Dictionary& entry) {

@@ -47,8 +47,7 @@ public:
           file_(Folders::config() + u"/autostart/"_s + desktopEntry + u".desktop"_s) {}
 
     [[nodiscard]] bool isEnabled() const override {
-        FileManager::Problem why;
-        const auto content = FileManager::read(file_, 64 * 1024, why);
+        const auto content = FileManager::read(file_, 64 * 1024);
         if (!content)
             return false;
         // Desktops disable an entry with one of these two lines.
@@ -66,7 +65,7 @@ public:
             return;
         }
         if (!enabled) {
-            done(FileManager::removeFile(file_));
+            done(FileManager::removeFile(file_).error().text);
             return;
         }
         (void)QDir().mkpath(QFileInfo(file_).path()); // if this fails, the write below reports why
@@ -81,7 +80,9 @@ public:
                                                      "\n"
                                                      "Terminal=false\n"
                                                      "StartupNotify=false\n"
-                                                     "X-GNOME-Autostart-enabled=true\n"));
+                                                     "X-GNOME-Autostart-enabled=true\n")
+                 .error()
+                 .text);
     }
 
 private:

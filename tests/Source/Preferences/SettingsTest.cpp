@@ -47,7 +47,8 @@ TEST_F(StoredSettings, HaveTheirDefaultsWhenNothingIsStored) {
 TEST_F(StoredSettings, HaveTheirDefaultsWhenWhatIsStoredIsOfAnotherKind) {
     for (const Settings::Setting* setting :
          {&Settings::split, &Settings::splitTimeMS, &Settings::filter, &Settings::filterTime, &Settings::savePath,
-          &Settings::ringtoneSavePath, &Settings::notifications, &Settings::recordBuiltIn, &Settings::recordComputerAudio})
+          &Settings::ringtoneSavePath, &Settings::notifications, &Settings::recordBuiltIn,
+          &Settings::recordComputerAudio})
         for (const QVariant& stored : containers) {
             defaults.setObject(setting->key, stored);
             EXPECT_EQ(Settings::value(*setting), setting->defaultObject())
