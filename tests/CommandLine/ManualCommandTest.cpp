@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The manual page and the completions are generated from the commands' declarations; man and the shells accept them.
 #include "CommandLine/CommandHelp.h"
+#include "CommandLine/CommandLine.h"
 #include "tests/support/RunTool.h"
 
 #include <gtest/gtest.h>

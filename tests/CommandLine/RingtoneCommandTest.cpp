@@ -183,9 +183,9 @@ TEST_F(RingtoneCommand, ServesShortMonoAndSlowSources) {
 TEST_F(RingtoneCommand, RefusesWithOneLineAndLeavesNothing) {
     const QString path = source(u"whole.m4a"_s, 12);
     const QString to = u"--to"_s;
-    expectOneLine(ringtone({at(u"missing.m4a"_s), u"--from"_s, u"1"_s, to, u"9"_s}), "missing.m4a");
-    expectOneLine(ringtone({path, u"--from"_s, u"1"_s, to, u"13"_s}), "ends at second 12");
-    expectOneLine(ringtone({path, u"--from"_s, u"40"_s, to, u"50"_s}), "ends at second 12");
+    ProgramHome::expectOneLine(ringtone({at(u"missing.m4a"_s), u"--from"_s, u"1"_s, to, u"9"_s}), "missing.m4a");
+    ProgramHome::expectOneLine(ringtone({path, u"--from"_s, u"1"_s, to, u"13"_s}), "ends at second 12");
+    ProgramHome::expectOneLine(ringtone({path, u"--from"_s, u"40"_s, to, u"50"_s}), "ends at second 12");
     EXPECT_FALSE(QFileInfo::exists(at(u"Music"_s)));
     EXPECT_EQ(ringtone({path, u"--from"_s, u"5"_s, to, u"5"_s}).status, 2);
     EXPECT_EQ(ringtone({path, u"--from"_s, u"5"_s}).status, 2);
@@ -202,7 +202,7 @@ TEST_F(RingtoneCommand, SaysThatTheFolderCannotBeWritten) {
     // Paths that even root cannot create: below a regular file, or in /proc.
     for (const QString& closed : {at(u"file"_s), u"/proc/self/fdinfo"_s}) {
         store({}, closed);
-        expectOneLine(ringtone({path, u"--from"_s, u"1"_s, u"--to"_s, u"9"_s}), closed.toUtf8());
+        ProgramHome::expectOneLine(ringtone({path, u"--from"_s, u"1"_s, u"--to"_s, u"9"_s}), closed.toUtf8());
         EXPECT_TRUE(listed().isEmpty());
         EXPECT_TRUE(temporaries().isEmpty());
     }
@@ -219,7 +219,7 @@ TEST_F(RingtoneCommand, SaysThatTheDiskIsFull) {
     const auto result = ringtone({path, u"--from"_s, u"1"_s, u"--to"_s, u"40"_s});
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
     std::signal(SIGXFSZ, handler);
-    expectOneLine(result, "TempRingtoneMakerAudio.m4r");
+    ProgramHome::expectOneLine(result, "TempRingtoneMakerAudio.m4r");
     EXPECT_TRUE(made().isEmpty());
     EXPECT_TRUE(temporaries().isEmpty());
     EXPECT_TRUE(listed().isEmpty());
