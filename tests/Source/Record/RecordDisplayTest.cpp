@@ -4,6 +4,8 @@
 
 #include "Source/Record/RecordStateController.h"
 
+#include <gtest/gtest.h>
+
 using namespace Qt::StringLiterals;
 
 TEST(RecordDisplay, SaysReadyWhileNothingRecords) {

@@ -19,6 +19,7 @@
 #include "tests/support/WaitFor.h"
 
 #include <QTemporaryDir>
+#include <gtest/gtest.h>
 
 /// A controller with real engines on test devices: the test feeds cycles and moves the time.
 class RecordFixture : public testing::Test {
