@@ -119,7 +119,7 @@ public:
         // Queued: the box that asked for the installation is switched off when the command returns.
         QObject::connect(&preferences, &PreferenceWndController::systemAudioRecordDeviceInstalled, &window,
                          &MainWndController::systemAudioRecordDeviceInstalled, Qt::QueuedConnection);
-        // Children of the window's controller: they go first.
+        // Children of the window's controller, so they are destroyed first.
         const QString identifier = Platform::services().bundle->bundleIdentifier();
         new LibraryPlayer(window, Platform::MediaPlayer::create(QStringLiteral("sonaphex"), identifier),
                           Platform::Folders::cache() + u'/' + identifier + QStringLiteral("/cover"), &window);

@@ -39,7 +39,7 @@ void AudioPlayProgressView::paintEvent(QPaintEvent*) {
     NamedImages::draw(painter, point, u"progress-bar-point"_s);
     if (hasFocus()) {
         painter.setRenderHint(QPainter::Antialiasing);
-        // Inside the point: at the ends of the bar there is no room around it.
+        // Drawn inside the view's border: at the ends of the bar there is no space outside.
         painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
         painter.drawEllipse(point.adjusted(1, 1, -1, -1));
     }

@@ -31,7 +31,7 @@ void AudioRecordWaveView::drawColumn(QPainter& painter, int index) const {
     // A NaN or infinite level must not break the drawing of the others.
     const double v = std::isfinite(level) ? std::max(double(level), 0.02) : 0.02;
     const double middle = height() / 2.0;
-    // A column's sides lie between whole pixels, also at 1.5 pixels a point: then it is one pixel wide, or two.
+    // At 1.5 pixels per point a column's sides are not on whole pixels; then it is one or two pixels wide.
     const qreal ratio = painter.device()->devicePixelRatioF();
     const qreal left = std::round(index * ratio) / ratio;
     const qreal right = std::round((index + 1) * ratio) / ratio;

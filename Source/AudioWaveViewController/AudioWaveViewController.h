@@ -128,7 +128,7 @@ Q_SIGNALS:
     void stateColorChanged();
     void changeTabViewButtonStateChanged();
     void playSoundProgressChanged();
-    /// Somebody moved the position of the sound; seconds.
+    /// The user moved the position of the sound; in seconds.
     void audioPositionSet(double seconds);
     /// The user dismissed the notices.
     void noticesDismissed();

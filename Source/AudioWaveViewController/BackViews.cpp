@@ -16,7 +16,7 @@ AudioWaveformBackView::AudioWaveformBackView(QWidget* parent) : QWidget(parent) 
     QPalette glass = palette();
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         glass.setColor(role, Theme::Glass::text());
-    // The pictures on its buttons are light too, so a button under the pointer stays dark.
+    // The images on its buttons are light, too, so a button under the pointer stays dark.
     glass.setColor(QPalette::Button, Theme::Glass::button());
     setPalette(glass);
 }

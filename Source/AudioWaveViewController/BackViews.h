@@ -29,7 +29,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-/// The plain strip behind further controls. What stands on it takes the strip's colours from its palette.
+/// The plain background of further controls, which take its colours from its palette.
 class AdditionalControlBackView : public QWidget {
     Q_OBJECT
 public:

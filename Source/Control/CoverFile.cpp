@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Writes the cover of @p audioFile into @p folder. @return the picture's path; empty when there is none.
+/// Writes the cover of @p audioFile into @p folder. @return the image's path; empty when there is none.
 QString writeCover(const QString& audioFile, const QString& folder) {
     const QByteArray picture = FileTags::artwork(audioFile);
     if (picture.isEmpty() || !QDir().mkpath(folder))

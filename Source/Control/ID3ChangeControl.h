@@ -18,7 +18,7 @@ namespace ID3ChangeControl {
 /// (FileManager::setAside), not overwritten.
 void changeID3(const QString& source, const QString& destAudioPath, const Dictionary& ID3Info,
                const QString& artworkPath);
-/// Writes text tags in place. Any thread, one at a time for a file: it needs no temporary name.
+/// Writes text tags in place. Any thread, one at a time per file: it uses no temporary name.
 bool changeID3BasicInfo(const QString& path, const Dictionary& ID3Info);
 /// Writes artwork in place.
 void changeID3ArtworkInfo(const QString& path, const QString& artworkPath);

@@ -364,7 +364,8 @@ void RecordQueue::setAside(const std::shared_ptr<ExportJob>& job, const QStringL
     });
 }
 
-/// Measures and tags the file at its final name, unless it is too short for the library, and hands over the result.
+/// Measures the file at its final name and tags it, unless it is too short for the library; then passes the result to
+/// the main thread.
 void RecordQueue::tagFile(const ExportJob& job) {
     const QString finalPath = job.path(ExportJob::OutPutPath);
     const float length = ToolControl::getAudioLength(finalPath);

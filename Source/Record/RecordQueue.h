@@ -48,15 +48,16 @@ struct ExportJob {
     [[nodiscard]] Timing timing() const;
 };
 
-/// Turns finished recordings into tagged files, one at a time in the order in which they came: one source is moved, two
-/// are mixed and encoded. Whatever touches a file runs on a worker: mixing, encoding, moving, measuring, tagging and
-/// deleting. Files of a job that fails are set aside, and a notice says where.
+/// Turns finished recordings into tagged files, one at a time in order: one source is moved, two are mixed and encoded.
+/// All file operations run on a worker: mixing, encoding, moving, measuring, tagging and deleting. The files of a
+/// failed job are set aside, and a notice says where.
+///
 /// Main thread only, except for append() and rawFileClosed().
 class RecordQueue : public QObject {
     Q_OBJECT
 public:
-    /// What the queue needs from its owner. All but addRecordFile, which is for the main thread, are called on a
-    /// worker; releaseName on both.
+    /// What the queue needs from its owner. addRecordFile is called on the main thread, releaseName on both, the others
+    /// on a worker.
     struct Owner {
         /// Reserves the next free name for a recording whose own name was taken by another file.
         std::function<QString()> nextFreeName;
@@ -116,8 +117,8 @@ private:
     QStringList keepFiles(const ExportJob& job, const QStringList& files);
     void keepDamaged(ExportJob& job, const QStringList& keys, const Platform::Error& damage);
     void tagFile(const ExportJob& job);
-    /// Takes the result of a job into the library and goes on with the next one. @p entry is empty when the filter
-    /// keeps the file out of the library.
+    /// Adds the result of a job to the library and continues with the next job. @p entry is empty when the filter keeps
+    /// the file out of the library.
     void finishConverter(const QString& finalPath, const Dictionary& entry);
     void endJob(const QString& reservedPath);
     void setProgress(double share);

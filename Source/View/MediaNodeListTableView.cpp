@@ -48,7 +48,7 @@ QMenu* MediaNodeListTableView::menuForEvent(QContextMenuEvent& event) {
 }
 
 void MediaNodeListTableView::keyboardSearch(const QString& search) {
-    // The base class looks in the column of the current cell.
+    // The base class searches in the column of the current cell.
     const QModelIndex current = currentIndex();
     if (current.isValid() && current.column() != searchColumn_)
         selectionModel()->setCurrentIndex(current.siblingAtColumn(searchColumn_), QItemSelectionModel::NoUpdate);
@@ -58,7 +58,7 @@ void MediaNodeListTableView::keyboardSearch(const QString& search) {
 QModelIndex MediaNodeListTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
     if (action != MoveHome && action != MoveEnd)
         return QTableView::moveCursor(action, modifiers);
-    // Rows are what is selected, so that the first and the last cell of a row mean nothing.
+    // Whole rows are selected, so the first and the last cell of a row do not matter.
     const QModelIndex row = QTableView::moveCursor(action, modifiers | Qt::ControlModifier);
     return row.isValid() ? row.siblingAtColumn(currentIndex().isValid() ? currentIndex().column() : searchColumn_)
                          : row;

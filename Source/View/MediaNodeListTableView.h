@@ -28,7 +28,7 @@ public:
     /// Sets the selection for a context click and returns the menu to show.
     QMenu* menuForEvent(QContextMenuEvent& event);
 
-    /// The column that typed letters are looked for in, whichever cell was clicked last.
+    /// The column that is searched for typed letters, whichever cell was clicked last.
     void setSearchColumn(int column) { searchColumn_ = column; }
     void keyboardSearch(const QString& search) override;
     /// Opens the editor of a cell and answers it; null when the cell cannot be edited.

@@ -23,8 +23,7 @@ namespace NamedImages {
 /// An icon that follows the current palette, also when the theme changes later. Null for an unknown name.
 [[nodiscard]] QIcon icon(const QString& name);
 
-/// The colour of an icon that stands on a ground of its own. It is asked at each drawing, so that it may follow the
-/// theme.
+/// The colour of an icon on a background of its own. Called for each drawing, so that it can follow the theme.
 using ColorOf = std::function<QColor(QIcon::Mode)>;
 [[nodiscard]] QIcon icon(const QString& name, ColorOf colorOf);
 
@@ -37,8 +36,8 @@ using ColorOf = std::function<QColor(QIcon::Mode)>;
 /// Draws an image scaled to @p rect.
 void draw(QPainter& painter, const QRectF& rect, const QString& name, const QColor& color = {});
 
-/// The place nearest to @p place that lies on whole pixels of the painter's device. A picture that is drawn between
-/// two pixels is blurred, which happens at 1.5 pixels a point.
+/// The point nearest to @p place on whole pixels of the painter's device. An image that is drawn between two pixels is
+/// blurred, for example at 1.5 pixels per point.
 [[nodiscard]] QPointF onWholePixels(const QPainter& painter, QPointF place);
 
 } // namespace NamedImages

@@ -112,7 +112,7 @@ public:
         QProxyStyle::drawControl(element, &elided, painter, widget);
     }
 
-    // A picture keeps its edges at 1.5 pixels a point.
+    // Keeps images sharp at 1.5 pixels per point.
     void drawItemPixmap(QPainter* painter, const QRect& rect, int alignment, const QPixmap& pixmap) const override {
         const QSize size = pixmap.deviceIndependentSize().toSize();
         const QRect place = alignedRect(painter->layoutDirection(), Qt::Alignment(alignment), size, rect);

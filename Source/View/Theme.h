@@ -29,7 +29,7 @@ namespace Glass {
 [[nodiscard]] QColor text();
 [[nodiscard]] QColor dimText();
 [[nodiscard]] QColor level();
-/// Ground of a button under the pointer.
+/// Background of a button under the pointer.
 [[nodiscard]] QColor button();
 /// Of the frame, while sound is recorded.
 [[nodiscard]] QColor recording();

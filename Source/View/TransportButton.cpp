@@ -13,7 +13,7 @@ constexpr int kMargin = 4; ///< room for the focus ring
 }
 
 TransportButton::TransportButton(QWidget* parent) : QAbstractButton(parent) {
-    // A click leaves the focus where it is: the keys after it are meant for the list.
+    // A click does not move the focus: later keys are meant for the list.
     setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setAttribute(Qt::WA_Hover);

@@ -60,7 +60,7 @@ public:
     void updateFile(const QString& path, const Dictionary& tags);
     /// Removes the entries and deletes their files.
     void removeMediaLibraryArray(const QVariantList& entries);
-    /// The views follow the library by themselves; this tells what may be filtered now.
+    /// Announces what can be filtered now; the views follow the library by themselves.
     void reloadFromMediaLibrary();
 
     // ---- selection --------------------------------------------------------------------------------------------------
@@ -144,7 +144,7 @@ private:
     /// Updates path and titles of the sound from its entry: its file may have been renamed during playback.
     void followPlayingEntry();
     void takeUp(const Dictionary& entry);
-    /// updatePlaySoundState() and playbackChanged().
+    /// Calls updatePlaySoundState() and emits playbackChanged().
     void playbackDidChange();
     /// The sound stops being the current one, so that Play applies to the selection again.
     void letSoundGo();

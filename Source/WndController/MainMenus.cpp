@@ -87,7 +87,7 @@ void MainMenus::makeEditMenu() {
     menu->addSeparator();
     remove_ = add(menu, tr("&Delete"), QStringLiteral("delete"), tr("Delete the selected recordings and their files"),
                   {QKeySequence(Qt::Key_Delete)});
-    // Delete belongs to other widgets too: it acts on the library while that has the focus.
+    // Other widgets also use Delete: it acts on the library only while that has the focus.
     remove_->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     ui_.audioTableView_->addAction(remove_);
     QAction* search = add(menu, tr("&Search…"), QStringLiteral("search"), tr("Search titles, artists and albums"),
@@ -110,7 +110,7 @@ void MainMenus::makeLibraryMenu() {
                         {QKeySequence(Qt::Key_Return), QKeySequence(Qt::Key_Enter)});
     playSelected_->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     ui_.audioTableView_->addAction(playSelected_);
-    // Space is only shown here: WindowKeys takes it, also while nothing can be played.
+    // Space is only displayed here: WindowKeys handles it, also while nothing can be played.
     play_->setShortcutContext(Qt::WidgetShortcut);
     menu->addSeparator();
     show_ = add(menu, tr("S&how in Folder"), QStringLiteral("show"), tr("Show the file in the file manager"),

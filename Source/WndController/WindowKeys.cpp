@@ -10,7 +10,7 @@
 #include <QShortcut>
 
 WindowKeys::WindowKeys(QWidget& window, QAction& play, QObject* parent) : QObject(parent) {
-    // Not the action's own shortcut: a disabled action lets its key through to the widget that has the focus.
+    // Not the action's own shortcut: a disabled action would leave the key to the focused widget.
     auto* space = new QShortcut(QKeySequence(Qt::Key_Space), &window);
     space->setAutoRepeat(false);
     connect(space, &QShortcut::activated, &play, &QAction::trigger);
@@ -18,7 +18,7 @@ WindowKeys::WindowKeys(QWidget& window, QAction& play, QObject* parent) : QObjec
         button->installEventFilter(this);
     for (auto* popUp : window.findChildren<QComboBox*>())
         popUp->installEventFilter(this);
-    // Like a button, these leave the focus to the list when they are clicked.
+    // Like buttons, these do not take the focus from the list when they are clicked.
     for (auto* box : window.findChildren<QCheckBox*>())
         box->setFocusPolicy(Qt::TabFocus);
     for (auto* popUp : window.findChildren<QComboBox*>())

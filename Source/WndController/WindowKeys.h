@@ -7,13 +7,13 @@
 class QAction;
 class QWidget;
 
-/// Space and Enter in the main window. Space plays or pauses wherever the focus is, and does nothing while nothing can
-/// be played: it never reaches a list, nor a button that would record. Enter presses the button that has the focus.
+/// Handles Space and Enter in the main window. Space plays or pauses wherever the focus is, and does nothing while
+/// nothing can be played: it never reaches a list, nor a button that would record. Enter presses the focused button.
 /// Text fields, check boxes and pop-ups keep Space. Main thread.
 class WindowKeys : public QObject {
     Q_OBJECT
 public:
-    /// Finds the controls of @p window that there are by now. @p play is the command of Space.
+    /// Applies to the present controls of @p window. @p play is the command of Space.
     WindowKeys(QWidget& window, QAction& play, QObject* parent = nullptr);
 
 protected:

@@ -24,8 +24,8 @@
 #include <QWindow>
 #include <gtest/gtest.h>
 
-/// The whole program in this process, driven with the pointer and the keyboard of a real X server, recording the tone
-/// of a sound server of its own.
+/// The whole program in this process, controlled with the pointer and the keyboard of a real X server, recording the
+/// tone of a private sound server.
 class MainWindowOnADesktop : public testing::Test {
 protected:
     void SetUp() override {
@@ -33,7 +33,7 @@ protected:
         const auto audio = services.startAudio();
         ASSERT_TRUE(audio) << qPrintable(audio.error().text);
         PreferenceStore::setPreferenceValue(0, PreferenceStore::PreferenceFilterKey);
-        // The one library of the process outlives each test's folders.
+        // The process's only library lives longer than each test's folders.
         auto& library = MediaLibrary::shareLibrary();
         library.setRecords({});
         library.setRingtones({});
@@ -65,8 +65,7 @@ protected:
         ASSERT_TRUE(desktop().xdotool(arguments << QString::number(button)));
     }
     void click(const char* name) const {
-        // The window manager may still be moving the window to its place: the button itself tells when the pointer is
-        // on it.
+        // The window manager may still be moving the window: the button itself reports when the pointer is on it.
         const QWidget& widget = outlet(name);
         ASSERT_TRUE(waitFor([&] {
             const QPoint place = widget.mapToGlobal(widget.rect().center());
@@ -83,7 +82,7 @@ protected:
     }
     void keys(const QString& combination) const { ASSERT_TRUE(desktop().xdotool({u"key"_s, combination})); }
     [[nodiscard]] RecordStateController& record() const { return controller->record(); }
-    /// Makes a recording of at least this length by hand.
+    /// Makes a recording of at least this length with the buttons.
     void makeRecording(double seconds) {
         const auto before = MediaLibrary::shareLibrary().records().size();
         controller->startAndStopRecord();
@@ -96,7 +95,7 @@ protected:
         const auto info = Platform::services().mediaFiles->info(path);
         return info ? info->seconds : -1;
     }
-    /// Calls @p act as soon as a dialog is up. The dialog runs a loop of its own.
+    /// Calls @p act as soon as a dialog is open. The dialog runs its own loop.
     void whenAsked(std::function<void(QMessageBox&)> act) {
         auto* timer = new QTimer(controller);
         QObject::connect(timer, &QTimer::timeout, controller, [timer, act = std::move(act)] {

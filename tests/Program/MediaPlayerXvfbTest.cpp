@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program as a player on the session bus, steered by playerctl and looked at by gdbus: two programs of others.
+// The program as a player on the session bus, controlled with playerctl and observed with gdbus, two independent
+// programs.
 #include "Platform/Foundation/RunningProgram.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/ProcessRequests/ControlRequests.h"
@@ -15,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// gdbus as a listener to everything that the player tells.
+/// gdbus, which prints every signal of the player.
 class Monitor {
 public:
     Monitor() {
@@ -53,7 +54,7 @@ protected:
         QImage cover(64, 64, QImage::Format_RGB32);
         cover.fill(Qt::darkCyan);
         ASSERT_TRUE(cover.save(user.folder.filePath(u"cover.png"_s)));
-        for (const QString& title : {u"Third & last"_s, u"Second"_s, u"First"_s}) { // the newest stands first
+        for (const QString& title : {u"Third & last"_s, u"Second"_s, u"First"_s}) { // the newest is first
             const QString path = user.folder.filePath(title + u".m4a"_s);
             QStringList arguments{u"-v"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine=f=330:d=60"_s};
             if (title == u"First"_s)
@@ -141,7 +142,7 @@ TEST_F(PlayerOnTheBus, TellsChangesBySignalAndTheCoverAsAFile) {
     EXPECT_EQ(QImage(cover).pixelColor(5, 5), QColor(Qt::darkCyan));
     playerctl({u"position"_s, u"30"_s});
     EXPECT_TRUE(monitor.waitForText("Player.Seeked (int64 30")) << monitor.heard.constData();
-    // A track that plays on says nothing: whoever shows its position counts.
+    // During playback no position is sent: the desktop advances it itself.
     ASSERT_TRUE(waitFor([] { return playerctl({u"position"_s}).toDouble() > 31; }));
     monitor.heard.clear();
     ASSERT_TRUE(waitFor([] { return playerctl({u"position"_s}).toDouble() > 33; }));

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// The window over a sound server of its own. The chosen microphone is pulled out and put back; the tone of the server
+/// The window with a private sound server. The chosen microphone is unplugged and plugged in again; the server's tone
 /// is the only other input device.
 class UnpluggedMicrophone : public MainWindowOnADesktop {
 protected:
@@ -21,7 +21,7 @@ protected:
         ASSERT_TRUE(waitFor([&] { return listed(u"Test Microphone"_s); }));
         tone = devices().itemText(0);
         ASSERT_NE(tone, u"Test Microphone"_s);
-        // As the user chooses it: with the keyboard.
+        // Chosen with the keyboard, like by the user.
         devices().setFocus();
         keys(u"Down"_s);
         ASSERT_TRUE(waitFor([&] { return devices().currentText() == u"Test Microphone"_s; }));
@@ -37,13 +37,13 @@ protected:
 
     [[nodiscard]] QComboBox& devices() const { return static_cast<QComboBox&>(outlet("popBuiltInDevice_")); }
     [[nodiscard]] bool listed(const QString& name) const { return devices().findText(name) >= 0; }
-    /// Whether the display shows sound: the ramp is never silent for a whole cycle, nor is the tone.
+    /// Whether the display shows sound: neither the ramp nor the tone is silent for a whole cycle.
     [[nodiscard]] bool isLive() const { return newestLevel() > 0.01F; }
     [[nodiscard]] float newestLevel() const {
         const auto& levels = controller->display().audioRecordWaveView()->audioLevelArray();
         return levels.isEmpty() ? 0 : levels.first();
     }
-    /// What would help to see why a window stays dead.
+    /// Details for the message when a window stays silent.
     [[nodiscard]] std::string seen(int round) const {
         return "round " + std::to_string(round) + ", " + devices().currentText().toStdString() + ": " +
                record().notices().join(u'\n').toStdString();
@@ -59,7 +59,7 @@ TEST_F(UnpluggedMicrophone, FiftyTimesWhileNothingIsRecorded) {
     for (int round = 0; round < Times; ++round) {
         microphone.remove();
         ASSERT_TRUE(waitFor([&] { return devices().currentText() == tone; })) << seen(round);
-        // Sometimes it is back before the other device was heard.
+        // Sometimes it returns before the other device has delivered.
         if (round % 3 != 0) {
             ASSERT_TRUE(waitFor([&] { return isLive(); })) << "the tone stayed dead: " << seen(round);
         }
@@ -68,7 +68,7 @@ TEST_F(UnpluggedMicrophone, FiftyTimesWhileNothingIsRecorded) {
         ASSERT_TRUE(waitFor([&] { return isLive(); })) << "the microphone stayed dead: " << seen(round);
     }
     EXPECT_EQ(record().state(), RecordState::Idle);
-    // And the window records from it.
+    // The window also records from it.
     click("btnSatrtRecord_");
     ASSERT_TRUE(waitFor([&] { return record().recordedSeconds() > 0.3; }));
 }

@@ -6,7 +6,7 @@
 
 #include <QList>
 
-/// Notes what the desktop is told.
+/// Records the states that the desktop gets.
 struct FakeMediaPlayer : Platform::MediaPlayer {
     void setCommands(Commands* to) override { commands = to; }
     void setState(const State& to) override {
@@ -18,6 +18,6 @@ struct FakeMediaPlayer : Platform::MediaPlayer {
 
     Commands* commands = nullptr;
     State state;
-    QList<State> states; ///< each that differed from the one before
+    QList<State> states; ///< only states that differ from the previous one
     QList<double> jumps;
 };

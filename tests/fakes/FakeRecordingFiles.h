@@ -33,7 +33,7 @@ public:
     Platform::Error readError;        ///< the error of a reader
     std::atomic<bool> holdMix{false}; ///< a mix waits while this is set
     std::atomic<int> mixesStarted{0};
-    std::atomic<bool> holdInfo{false}; ///< whoever measures a file waits while this is set; for 30 s at most
+    std::atomic<bool> holdInfo{false}; ///< measuring a file waits while this is set; for 30 s at most
     std::atomic<int> infosStarted{0};
 
     [[nodiscard]] std::vector<Mix> mixes() const {

@@ -105,7 +105,7 @@ TEST(NamedImages, TwoPixelsAPointGiveTwiceThePixels) {
 }
 
 TEST(NamedImages, APictureIsSharpAtOneAndAHalfPixelsAPoint) {
-    // At an odd place a point begins in the middle of a pixel.
+    // At an odd position a point begins in the middle of a pixel.
     const QIcon icon = NamedImages::icon(u"stop"_s, [](QIcon::Mode) { return QColor(Qt::black); });
     const auto drawn = [&](QPoint place) {
         QImage image(90, 90, QImage::Format_ARGB32_Premultiplied);

@@ -63,7 +63,7 @@ TEST_F(DesktopPlayer, TellsWhatPlaysAndEachChangeOnce) {
     EXPECT_TRUE(desktop->state.canPause && desktop->state.canSeek);
     EXPECT_TRUE(desktop->state.canGoNext && desktop->state.canGoPrevious);
     const auto told = desktop->states.size();
-    for (int i = 0; i < 20; ++i) // the display looks at the sound ten times a second
+    for (int i = 0; i < 20; ++i) // the display reads the sound's state ten times a second
         world.controller->display().audioPlayUpdateTimerFireMethod();
     QCoreApplication::processEvents();
     EXPECT_EQ(desktop->states.size(), told) << "nothing changed";

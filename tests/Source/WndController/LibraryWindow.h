@@ -9,7 +9,7 @@
 #include <QApplication>
 #include <gtest/gtest.h>
 
-/// The main window with recordings, driven by keys and clicks that go to its window.
+/// The main window with recordings, controlled by keys and clicks sent to its window.
 class LibraryWindow : public testing::Test {
 protected:
     [[nodiscard]] MediaNodeListTableView& table() const {
@@ -29,7 +29,7 @@ protected:
                                     entry.value(AudioRecordEntry::Length).toDouble());
         world.library->addRecordFile(entry);
     }
-    /// Opens the window, active, with the recordings in the order in which they were added last to first.
+    /// Opens and activates the window with the recordings, the last added one first.
     void openWithAll(QSize size = {900, 600}) {
         world.open(size);
         world.selectNode(QStringLiteral("all-record"));

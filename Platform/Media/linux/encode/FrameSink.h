@@ -30,10 +30,10 @@ struct AacSettings {
     int channels = 2;
     /// Maps file channels to rows: file channel c is row rowOf[c]. Identical rows are stored once.
     std::vector<std::size_t> rowOf;
-    /// Threads that encode stretches of the file beside each other. 1 encodes on the calling thread, in one run: the
-    /// packets of a recording must not wait for each other.
+    /// Threads that encode stretches of the file in parallel. 1 encodes on the calling thread, in one run: the packets
+    /// of a live recording must not wait for each other.
     int workers = 1;
-    /// Shortest stretch that a thread is given, in packets of 1024 frames; for several workers.
+    /// Shortest stretch for a thread, in packets of 1024 frames; only for several workers.
     std::int64_t stretchPackets = 0;
 };
 

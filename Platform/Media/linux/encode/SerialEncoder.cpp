@@ -16,7 +16,7 @@ void SerialEncoder::append(const float* const* channels, std::size_t frames, std
     std::size_t done = 0;
     while (done < frames && !failed_) {
         if (frames_ == 0 && frames - done >= whole) {
-            // A whole packet lies in the caller's rows: the encoder reads it there.
+            // The caller's rows contain a whole packet: the encoder reads it without a copy.
             for (std::size_t c = 0; c < rows_.size(); ++c)
                 rows_[c] = channels[c] + done;
             encode(rows_.data(), int(whole), out);

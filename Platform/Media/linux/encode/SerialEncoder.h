@@ -10,8 +10,8 @@
 
 namespace Platform {
 
-/// AAC encoding in one run on the calling thread, for a file that is written while its sound arrives. It has no lock,
-/// no thread of its own and keeps at most one packet's frames. One thread calls.
+/// AAC encoding in one run on the calling thread, for a file that is written while its audio arrives. It has no lock,
+/// no thread of its own, and keeps at most the frames of one packet. One thread calls.
 class SerialEncoder {
 public:
     using Packet = AacEncoder::Packet;
@@ -32,9 +32,9 @@ private:
     using Row = std::array<float, AacEncoder::packetFrames>;
 
     AacEncoder encoder_;
-    std::vector<Row> waiting_; ///< frames that do not yet fill a packet, a row for each channel
+    std::vector<Row> waiting_; ///< frames of an incomplete packet, one row per channel
     std::vector<const float*> rows_;
-    std::size_t frames_ = 0; ///< in waiting_
+    std::size_t frames_ = 0; ///< number of frames in waiting_
     bool failed_ = false;
 };
 

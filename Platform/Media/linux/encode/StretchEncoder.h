@@ -15,14 +15,14 @@
 
 namespace Platform {
 
-/// AAC encoding of a file whose sound is there already, in stretches on several threads. SerialEncoder is for a file
-/// that is written while its sound arrives.
+/// AAC encoding of a file whose audio is complete, in stretches on several threads. A stretch is a run of packets that
+/// one encoder makes. SerialEncoder is for a file that is written while its audio arrives.
 ///
-/// A stretch begins on a packet border. Its encoder is warmed up with the packets before it, until its rate control has
-/// settled, and runs on into the next stretch with the real samples, so that the last packet it keeps overlaps with
-/// what follows as in one run. The seam is laid where both encoders chose the same window, so that the overlap fits.
-/// Waiting samples are bounded: they hold the stretches of all threads but one. One stretch gives the same bytes as one
-/// run. One thread calls.
+/// A stretch begins on a packet boundary. Its encoder first encodes the packets before it, until its rate control has
+/// settled, and continues into the next stretch, so that the last packet it keeps overlaps with the following one as in
+/// a single run. The seam is placed where both encoders chose the same window, so that the overlap fits. The number of
+/// waiting samples is bounded: they fill the stretches of all threads but one. A single stretch gives the same bytes as
+/// one run. One thread calls.
 class StretchEncoder {
 public:
     using Packet = AacEncoder::Packet;
