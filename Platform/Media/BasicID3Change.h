@@ -16,7 +16,8 @@ namespace Platform {
 class BasicID3Change {
 public:
     /// Writes the five text tags in place. Null and empty texts and a year of 0 remove the tag's value. Blocks; any
-    /// thread. @return false when the file is not an MPEG-4 audio file or cannot be written; it is then unchanged.
+    /// thread. @return false when the file is not an intact MPEG-4 audio file or cannot be written; it is then
+    /// unchanged.
     [[nodiscard]] static bool setMpeg4ID3Information(const QString& path, const QString& name, const QString& artist,
                                                      const QString& album, int year, const QString& genre);
 

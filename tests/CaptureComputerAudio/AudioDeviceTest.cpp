@@ -55,7 +55,7 @@ TEST_F(AudioDeviceTest, KeepsTheCandidatesThatAPartDoesNotMatchAndNarrowsWithThe
     EXPECT_EQ(addOutput(7, u"unknown:aaaa0001"_s).path(), u"IOService:/PCI/card/speakers@aaaa0001"_s);
 }
 
-TEST_F(AudioDeviceTest, TakesTheLastOfSeveralCandidatesAndNothingOfNone) {
+TEST_F(AudioDeviceTest, TakesTheLastOfSeveralCandidatesAndNothingWhenThereIsNone) {
     const auto device = addOutput(7, u"nothing:fits"_s);
     EXPECT_TRUE(device.path().isNull());
     registry.add(u"IOAudioEngine"_s, u"IOService:/PCI/a/one@1"_s);
@@ -63,7 +63,7 @@ TEST_F(AudioDeviceTest, TakesTheLastOfSeveralCandidatesAndNothingOfNone) {
     EXPECT_EQ(device.path(), u"IOService:/PCI/b/two@2"_s);
 }
 
-TEST_F(AudioDeviceTest, TellsApartANameThatIsTheBeginningOfAnother) {
+TEST_F(AudioDeviceTest, DistinguishesANameThatIsAPrefixOfAnother) {
     registry.add(u"IOAudioEngine"_s, u"IOService:/PCI/card/out@00000001"_s);
     registry.add(u"IOAudioEngine"_s, u"IOService:/PCI/card/out.second@00000002"_s);
     EXPECT_EQ(addOutput(7, u"out:00000001"_s).path(), u"IOService:/PCI/card/out@00000001"_s);
@@ -110,7 +110,7 @@ TEST_F(AudioDeviceTest, HasNoUniqueIDOnceItIsGone) {
     EXPECT_TRUE(AudioDevice(77).uniqueID().isNull());
 }
 
-TEST_F(AudioDeviceTest, HoldsItsEntryThroughCopies) {
+TEST_F(AudioDeviceTest, RetainsItsEntryThroughCopies) {
     const auto object = registry.add(u"Engine"_s, u"/one"_s);
     {
         IOService first(object);
@@ -126,7 +126,7 @@ TEST_F(AudioDeviceTest, HoldsItsEntryThroughCopies) {
     EXPECT_EQ(registry.holds(), 0);
 }
 
-TEST_F(AudioDeviceTest, TellsTheLastCaptureEngineWhereTheComputerPlays) {
+TEST_F(AudioDeviceTest, SetsTheDefaultOutputInTheLastCaptureEngine) {
     addOutput(7, u"speakers:aaaa0001"_s);
     registry.add(u"IOAudioEngine"_s, u"IOService:/PCI/card/speakers@aaaa0001"_s);
     const auto first = registry.add(u"com_Korvane_driver_CaptureEngine"_s, u"IOService:/VIRTUAL/a/b@1"_s);
@@ -139,7 +139,7 @@ TEST_F(AudioDeviceTest, TellsTheLastCaptureEngineWhereTheComputerPlays) {
     EXPECT_EQ(registry.entries[last].properties[u"kCaptureDriverPathKey"_s], u"kCaptureDriverPathKey"_s);
 }
 
-TEST_F(AudioDeviceTest, TellsNobodyWhenThereIsNoCaptureEngine) {
+TEST_F(AudioDeviceTest, DoesNothingWithoutACaptureEngine) {
     addOutput(7, u"speakers:aaaa0001"_s);
     registry.add(u"IOAudioEngine"_s, u"IOService:/PCI/card/speakers@aaaa0001"_s);
     CaptureComputerAudio::startCaptureComputerAudio();
@@ -147,7 +147,7 @@ TEST_F(AudioDeviceTest, TellsNobodyWhenThereIsNoCaptureEngine) {
     EXPECT_TRUE(registry.entries.begin()->second.properties.isEmpty());
 }
 
-TEST_F(AudioDeviceTest, KnowsAnOutputOnUSBByItsPath) {
+TEST_F(AudioDeviceTest, RecognisesAUsbOutputByItsPath) {
     registry.add(u"IOAudioEngine"_s, u"IOService:/USB/headset/phones@aaaa0002"_s);
     registry.add(u"IOAudioEngine"_s, u"IOService:/PCI/card/speakers@aaaa0001"_s);
     addOutput(7, u"phones:aaaa0002"_s);

@@ -105,7 +105,7 @@ protected:
     QProcess second;
 };
 
-TEST_F(ComputerAudio, AppearsAsAnInputDeviceUnderItsName) {
+TEST_F(ComputerAudio, AppearsAsANamedInputDevice) {
     EXPECT_FALSE(CaptureDriver::isLoaded());
     load();
     const auto device = deviceNamed(u"Korvane System Audio"_s);
@@ -119,7 +119,7 @@ TEST_F(ComputerAudio, AppearsAsAnInputDeviceUnderItsName) {
     EXPECT_EQ(engines[0].getProperty(u"korvane.engine.class"_s), u"com_Korvane_driver_CaptureEngine"_s);
 }
 
-TEST_F(ComputerAudio, KeepsNothingOfTheProgramThatStartedIt) {
+TEST_F(ComputerAudio, InheritsNothingFromTheProgramThatStartedIt) {
     CallersThings things;
     load();
     const pid_t driver = driverProcess();
@@ -140,7 +140,7 @@ TEST_F(ComputerAudio, FindsThePathOfEachDevice) {
     EXPECT_FALSE(CaptureComputerAudio::captureComputerAudioIsUSBDevice());
 }
 
-TEST_F(ComputerAudio, KnowsTheBusOfAnOutputFromItsCard) {
+TEST_F(ComputerAudio, ReadsTheBusOfAnOutputFromItsCard) {
     TestCard card({{"device.name", "test_card.headset"}, {"device.bus", "usb"}, {"media.class", "Audio/Device"}});
     ASSERT_TRUE(card.start());
     addSecondOutput("device.id=" + QByteArray::number(card.id()));
@@ -154,7 +154,7 @@ TEST_F(ComputerAudio, KnowsTheBusOfAnOutputFromItsCard) {
     EXPECT_TRUE(waitFor([] { return !CaptureComputerAudio::captureComputerAudioIsUSBDevice(); }));
 }
 
-TEST_F(ComputerAudio, CarriesTheDefaultOutputBeforeAnybodySteersIt) {
+TEST_F(ComputerAudio, CapturesTheDefaultOutputUntilAnotherIsSelected) {
     load();
     TestPlayer player(playing(0.5F, "test.one", ""));
     ASSERT_TRUE(player.start());
@@ -163,7 +163,7 @@ TEST_F(ComputerAudio, CarriesTheDefaultOutputBeforeAnybodySteersIt) {
     EXPECT_TRUE(waitFor([&] { return capture.recentPeak(480) == 0.5F; }));
 }
 
-TEST_F(ComputerAudio, IsSilentWhenToldToStopAndFlowsAgainWhenToldToStart) {
+TEST_F(ComputerAudio, IsSilentAfterStopAndDeliversAgainAfterStart) {
     load();
     TestPlayer player(playing(0.5F, "test.one", ""));
     ASSERT_TRUE(player.start());
@@ -179,7 +179,7 @@ TEST_F(ComputerAudio, IsSilentWhenToldToStopAndFlowsAgainWhenToldToStart) {
     EXPECT_TRUE(waitFor([&] { return capture.recentPeak(480) == 0.5F; }));
 }
 
-TEST_F(ComputerAudio, CarriesOnlyTheOutputItWasToldOf) {
+TEST_F(ComputerAudio, CapturesOnlyTheSelectedOutput) {
     load();
     addSecondOutput();
     TestPlayer one(playing(0.5F, "test.one", "sonaphex.output"));
@@ -249,7 +249,7 @@ TEST_F(ComputerAudio, FollowsTheDefaultOutputWithoutAGap) {
     EXPECT_EQ(server.timesCutOff("korvane.system-audio"), 0);
 }
 
-TEST_F(ComputerAudio, FallsBackToTheDefaultOutputWhenItsOwnIsPulledOut) {
+TEST_F(ComputerAudio, FallsBackToTheDefaultOutputWhenTheSelectedOneIsUnplugged) {
     load();
     addSecondOutput();
     TestPlayer one(playing(0.5F, "test.one", "sonaphex.output"));
@@ -267,7 +267,7 @@ TEST_F(ComputerAudio, FallsBackToTheDefaultOutputWhenItsOwnIsPulledOut) {
         << capture.recentPeak(480) << qPrintable(defaultOutput()) << deviceNamed(u"Second Output"_s);
 }
 
-TEST_F(ComputerAudio, IsNotTheMicrophoneOfOthersWhenThereIsOne) {
+TEST_F(ComputerAudio, IsNotTheDefaultSourceWhileThereIsAMicrophone) {
     TestSource microphone({.name = "test.microphone", .description = "Microphone", .sessionPriority = 100});
     ASSERT_TRUE(microphone.start());
     load();
@@ -303,7 +303,7 @@ TEST_F(ComputerAudio, IsInstalledLoadedAndRemovedWithTheRealDriver) {
     EXPECT_NE(deviceNamed(u"Korvane System Audio"_s), 0U);
 }
 
-TEST_F(ComputerAudio, IsGoneAfterARestartOfTheServerAndLoadedAnew) {
+TEST_F(ComputerAudio, EndsWithTheServerAndIsStartedAgain) {
     load();
     ASSERT_TRUE(session.stopServer());
     ASSERT_TRUE(session.startServer());
@@ -313,7 +313,7 @@ TEST_F(ComputerAudio, IsGoneAfterARestartOfTheServerAndLoadedAnew) {
     EXPECT_TRUE(CaptureDriver::isLoaded());
 }
 
-TEST_F(ComputerAudio, TellsOfWrongUse) {
+TEST_F(ComputerAudio, ReportsWrongUsage) {
     testing::internal::CaptureStderr();
     EXPECT_EQ(CommandLine::driverCommand.run({}), CommandLine::WrongUsage);
     EXPECT_EQ(CommandLine::driverCommand.run({u"update"_s}), CommandLine::WrongUsage);

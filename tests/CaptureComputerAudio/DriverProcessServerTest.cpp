@@ -96,7 +96,7 @@ protected:
     const double minus3dB_ = std::sqrt(0.5);
 };
 
-TEST_F(DriverProcess, CarriesWhatTheDefaultOutputPlaysSampleForSample) {
+TEST_F(DriverProcess, CapturesTheDefaultOutputBitForBit) {
     TestCapture capture({.target = "korvane.system-audio", .monitor = false});
     ASSERT_TRUE(capture.start());
     TestPlayer player;
@@ -106,7 +106,7 @@ TEST_F(DriverProcess, CarriesWhatTheDefaultOutputPlaysSampleForSample) {
     EXPECT_TRUE(HeardFrames(capture.interleaved()).exact);
 }
 
-TEST_F(DriverProcess, CarriesAllProgramsThatPlay) {
+TEST_F(DriverProcess, CapturesAllPlayingPrograms) {
     TestCapture capture({.target = "korvane.system-audio", .monitor = false});
     ASSERT_TRUE(capture.start());
     const auto constant = [](float value) {
@@ -128,7 +128,7 @@ TEST_F(DriverProcess, CarriesAllProgramsThatPlay) {
     }));
 }
 
-TEST_F(DriverProcess, ComesUpOnlyOnceInASession) {
+TEST_F(DriverProcess, RunsOnlyOncePerSession) {
     TestCapture capture({.target = "korvane.system-audio", .monitor = false});
     ASSERT_TRUE(capture.start());
     QProcess second;
@@ -158,7 +158,7 @@ TEST_F(DriverProcess, EndsWhenThereIsNoSoundServer) {
     EXPECT_TRUE(alone.readAllStandardError().contains("no sound server"));
 }
 
-TEST_F(DriverProcess, FlowsAgainAfterALongRest) {
+TEST_F(DriverProcess, DeliversAgainAfterALongIdleTime) {
     {
         TestCapture capture({.target = "korvane.system-audio", .monitor = false});
         ASSERT_TRUE(capture.start());
@@ -176,7 +176,7 @@ TEST_F(DriverProcess, FlowsAgainAfterALongRest) {
     EXPECT_TRUE(waitFor([&] { return capture.recentPeak() > 0.2F; }));
 }
 
-TEST_F(DriverProcess, MixesAllChannelsOfAnOutputWithSix) {
+TEST_F(DriverProcess, MixesAllSixChannelsOfAnOutput) {
     addSecondOutput("FL FR FC LFE RL RR");
     setDefaultOutput(u"test.second"_s);
     TestCapture capture({.target = "korvane.system-audio", .monitor = false});
@@ -189,7 +189,7 @@ TEST_F(DriverProcess, MixesAllChannelsOfAnOutputWithSix) {
                      0.2 + minus3dB_ * 0.3 + 0.5 * 0.04 + minus3dB_ * 0.25));
 }
 
-TEST_F(DriverProcess, MixesAllChannelsOfAnOutputWithEightWithoutLimitingTheirSum) {
+TEST_F(DriverProcess, MixesAllEightChannelsOfAnOutputWithoutLimitingTheSum) {
     addSecondOutput("FL FR FC LFE RL RR SL SR");
     setDefaultOutput(u"test.second"_s);
     TestCapture capture({.target = "korvane.system-audio", .monitor = false});
@@ -202,7 +202,7 @@ TEST_F(DriverProcess, MixesAllChannelsOfAnOutputWithEightWithoutLimitingTheirSum
     EXPECT_TRUE(ends(capture, 1.5 + 3 * minus3dB_, -0.5 - minus3dB_));
 }
 
-TEST_F(DriverProcess, ChangesBetweenAStereoOutputAndOneWithSixChannelsWithoutBeingCutOff) {
+TEST_F(DriverProcess, SwitchesBetweenStereoAndSixChannelOutputsWithoutAGap) {
     addSecondOutput("FL FR FC LFE RL RR");
     TestCapture capture({.target = "korvane.system-audio", .monitor = false});
     ASSERT_TRUE(capture.start());
@@ -232,7 +232,7 @@ TEST_F(DriverProcess, ChangesBetweenAStereoOutputAndOneWithSixChannelsWithoutBei
     EXPECT_EQ(server.timesCutOff("korvane.system-audio"), 0);
 }
 
-TEST_F(DriverProcess, RestsWhenAPatchbayMadeItsLinkBefore) {
+TEST_F(DriverProcess, IdlesWhenAPatchbayHasAlreadyMadeItsLink) {
     addSecondOutput("FL FR");
     TestCapture capture({.target = "korvane.system-audio", .monitor = false});
     ASSERT_TRUE(capture.start());

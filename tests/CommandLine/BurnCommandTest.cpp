@@ -99,7 +99,7 @@ TEST_F(BurnCommandTest, ListsDrivesAndTheirDiscs) {
     EXPECT_EQ(list[4].toObject().value(u"problem"_s), u"another program uses the drive, or its disc is mounted"_s);
 }
 
-TEST_F(BurnCommandTest, SaysWhatStandsInTheWay) {
+TEST_F(BurnCommandTest, ReportsWhyItCannotBurn) {
     addImageDrive();
     expectFailure({u"a.wav"_s}, u"there is no drive that writes discs (--image FILE writes a disc image)"_s);
     discs.drives.clear();
@@ -144,7 +144,7 @@ TEST_F(BurnCommandTest, BurnsTheFilesInTheirOrder) {
     EXPECT_EQ(discs.lastBurn()->properties().completionAction, DRBurnCompletionActionEject);
 }
 
-TEST_F(BurnCommandTest, FailsWithTheReasonOfTheBurn) {
+TEST_F(BurnCommandTest, FailsWithTheBurnsReason) {
     addDrives();
     whenBurning([](FakeBurn& burn) { burn.reach(DRStatusStateFailed, 0.3, u"ACME Writer: medium error"_s); });
     expectFailure({u"/a.wav"_s}, u"ACME Writer: medium error"_s);
@@ -195,7 +195,7 @@ protected:
     QString images = at(u"images"_s);
 };
 
-TEST_F(BurnImageProgram, LeavesAWholeImageOrNothingWhenItIsKilled) {
+TEST_F(BurnImageProgram, LeavesACompleteImageOrNothingWhenItIsKilled) {
     ASSERT_TRUE(QDir().mkdir(images));
     QElapsedTimer timer;
     timer.start();
@@ -252,7 +252,7 @@ TEST_F(BurnImageProgram, StopsAtAnInterruptAndLeavesNothing) {
     EXPECT_EQ(everything(images), QStringList());
 }
 
-TEST_F(BurnImageProgram, SaysThatTheDiskIsFullAndLeavesNothing) {
+TEST_F(BurnImageProgram, ReportsAFullDiskAndLeavesNothing) {
     ASSERT_TRUE(QDir().mkdir(images));
     const QByteArray mountPoint = QFile::encodeName(images);
     const bool mounted = ::mount("tmpfs", mountPoint.constData(), "tmpfs", 0, "size=4m") == 0;

@@ -73,7 +73,7 @@ protected:
 
 } // namespace
 
-TEST_F(ClosedOutputServer, GoesOnWhenTheReaderOfItsErrorsLeaves) {
+TEST_F(ClosedOutputServer, ContinuesWhenTheReaderOfItsErrorsExits) {
     auto& source = tone();
     Reader reader;
     reader.attachTo(process_, STDERR_FILENO);
@@ -87,7 +87,7 @@ TEST_F(ClosedOutputServer, GoesOnWhenTheReaderOfItsErrorsLeaves) {
     EXPECT_EQ(process_.exitCode(), 0);
 }
 
-TEST_F(ClosedOutputServer, SaysWhereTheRecordingIsWhenTheReaderOfItsOutputLeft) {
+TEST_F(ClosedOutputServer, PrintsThePathOnStandardErrorWhenStandardOutputIsClosed) {
     tone();
     Reader reader;
     reader.attachTo(process_, STDOUT_FILENO);
@@ -112,7 +112,7 @@ TEST_F(ClosedOutputServer, WritesNoMessageIntoTheRecordingWhenItsOutputsAreClose
     endsWithAWholeFile();
 }
 
-TEST_F(ClosedOutputServer, GoesOnAtAHangUpThatItsCallerIgnores) {
+TEST_F(ClosedOutputServer, ContinuesAtAHangUpThatItsCallerIgnores) {
     tone();
     startAfter(u"trap '' HUP"_s); // as nohup does
     signal(SIGHUP);
@@ -121,7 +121,7 @@ TEST_F(ClosedOutputServer, GoesOnAtAHangUpThatItsCallerIgnores) {
     EXPECT_EQ(process_.exitCode(), 0);
 }
 
-TEST_F(ClosedOutputServer, GoesOnAtAnInterruptThatItsCallerIgnores) {
+TEST_F(ClosedOutputServer, ContinuesAtAnInterruptThatItsCallerIgnores) {
     tone();
     startAfter(u"trap '' INT"_s); // as a shell does for the jobs that it runs in the background
     signal(SIGINT);

@@ -57,7 +57,7 @@ protected:
     QString err;
 };
 
-TEST_F(ConvertCommandTest, CopiesTheStretchIntoTheTarget) {
+TEST_F(ConvertCommandTest, CopiesTheRangeIntoTheTarget) {
     EXPECT_EQ(convert({source, target, u"--type"_s, u"m4a"_s, u"--from"_s, u"1"_s, u"--to"_s, u"3"_s}),
               CommandLine::Done);
     EXPECT_EQ(files.last().type, kAudioFileM4AType);
@@ -66,7 +66,7 @@ TEST_F(ConvertCommandTest, CopiesTheStretchIntoTheTarget) {
     EXPECT_EQ(out + err, QString());
 }
 
-TEST_F(ConvertCommandTest, TakesTheTypeFromTheNameWhenNoneIsGiven) {
+TEST_F(ConvertCommandTest, ChoosesTheTypeByTheNameWhenNoneIsGiven) {
     EXPECT_EQ(convert({source, at(u"a.caf"_s)}), CommandLine::Done);
     EXPECT_EQ(files.last().type, kAudioFileCAFType);
     EXPECT_EQ(convert({source, at(u"a.WAV"_s)}), CommandLine::Done);
@@ -82,7 +82,7 @@ TEST_F(ConvertCommandTest, FadesAndRepeatsWhenALengthIsGiven) {
     EXPECT_EQ(files.last().samples.at(0).at(50), 0.0F);
 }
 
-TEST_F(ConvertCommandTest, WritesNoEmptyFileWhenTheStretchBeginsBehindTheEnd) {
+TEST_F(ConvertCommandTest, WritesNoEmptyFileWhenTheRangeStartsBeyondTheEnd) {
     source = at(u"50%2%1.wav"_s);
     files.addSource(source, 4, [](int, std::int64_t) { return 0.5F; });
     write(target, "precious");
@@ -95,14 +95,14 @@ TEST_F(ConvertCommandTest, WritesNoEmptyFileWhenTheStretchBeginsBehindTheEnd) {
     EXPECT_EQ(convert({source, target, u"--overwrite"_s, u"--from"_s, u"3.9"_s}), CommandLine::Done);
 }
 
-TEST_F(ConvertCommandTest, PutsNoFileInThePlaceOfAPipe) {
+TEST_F(ConvertCommandTest, NeverReplacesAPipe) {
     ASSERT_EQ(::mkfifo(QFile::encodeName(target).constData(), 0600), 0);
     EXPECT_EQ(convert({source, target, u"--overwrite"_s}), CommandLine::Failed);
     EXPECT_EQ(err.count(u'\n'), 1);
     EXPECT_FALSE(QFileInfo(target).isFile());
 }
 
-TEST_F(ConvertCommandTest, AnswersWrongUsageWithTheUsage) {
+TEST_F(ConvertCommandTest, RefusesWrongUsageAndPrintsTheUsage) {
     for (const auto& arguments :
          {QStringList{}, QStringList{source}, QStringList{source, target, u"third"_s},
           QStringList{source, target, u"--type"_s, u"ogg"_s}, QStringList{source, target, u"--from"_s, u"abc"_s},
@@ -115,7 +115,7 @@ TEST_F(ConvertCommandTest, AnswersWrongUsageWithTheUsage) {
     EXPECT_FALSE(QFile::exists(target));
 }
 
-TEST_F(ConvertCommandTest, KeepsAnExistingTargetUnlessToldOtherwise) {
+TEST_F(ConvertCommandTest, KeepsAnExistingTargetUnlessForced) {
     write(target, "precious");
     EXPECT_EQ(convert({source, target}), CommandLine::Failed);
     EXPECT_EQ(read(target), "precious");
@@ -138,7 +138,7 @@ TEST_F(ConvertCommandTest, LeavesNothingBehindWhenTheSourceCannotBeRead) {
     EXPECT_EQ(everything(), (QStringList{u"notes.txt"_s, u"source.wav"_s, u"target.m4a"_s}));
 }
 
-TEST_F(ConvertCommandTest, SaysThatTheDiskIsFullAndRemovesTheHalfFile) {
+TEST_F(ConvertCommandTest, ReportsAFullDiskAndRemovesTheIncompleteFile) {
     files.sources[source].signal = [this](int, std::int64_t frame) {
         if (frame > 50000)
             files.last().writeStatus = -34;
@@ -151,7 +151,7 @@ TEST_F(ConvertCommandTest, SaysThatTheDiskIsFullAndRemovesTheHalfFile) {
     EXPECT_EQ(everything(), (QStringList{u"source.wav"_s, u"target.m4a"_s}));
 }
 
-TEST_F(ConvertCommandTest, StopsAtAnInterruptAndLeavesNoHalfFile) {
+TEST_F(ConvertCommandTest, StopsAtAnInterruptAndLeavesNoIncompleteFile) {
     files.sources[source].signal = [](int channel, std::int64_t frame) {
         if (channel == 0 && frame == 60000)
             std::raise(SIGINT);
@@ -170,7 +170,7 @@ TEST_F(ConvertCommandTest, RefusesAFolderAsTargetAndAMissingOne) {
     EXPECT_FALSE(QFile::exists(at(u"missing"_s)));
 }
 
-TEST_F(ConvertCommandTest, TakesNamesAsTheyAre) {
+TEST_F(ConvertCommandTest, TakesNamesLiterally) {
     const auto odd = at(u"-o $(id) %s;'\"\u00e9\n.wav"_s);
     EXPECT_EQ(convert({u"--type"_s, u"wav"_s, u"--"_s, source, odd}), CommandLine::Done);
     EXPECT_TRUE(QFile::exists(odd));

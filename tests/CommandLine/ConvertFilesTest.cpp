@@ -82,7 +82,7 @@ TEST_F(ConvertFiles, RefusesBadInputWithOneLineAndLeavesNothing) {
     EXPECT_EQ(everything(), before);
 }
 
-TEST_F(ConvertFiles, SaysThatTheDiskIsFullAndKeepsAnExistingTarget) {
+TEST_F(ConvertFiles, ReportsAFullDiskAndKeepsAnExistingTarget) {
     writeLongWave(u"long.wav"_s);
     write(u"target.wav"_s, "precious");
     rlimit before{};
@@ -102,7 +102,7 @@ TEST_F(ConvertFiles, SaysThatTheDiskIsFullAndKeepsAnExistingTarget) {
     EXPECT_EQ(everything(), (QStringList{u"long.wav"_s, u"target.wav"_s}));
 }
 
-TEST_F(ConvertFiles, StopsAtAnInterruptWithoutAHalfFile) {
+TEST_F(ConvertFiles, StopsAtAnInterruptWithoutAnIncompleteFile) {
     writeLongWave(u"long.wav"_s);
     write(u"target.m4a"_s, "precious");
     for (const int signal : {SIGINT, SIGTERM}) {
@@ -120,7 +120,7 @@ TEST_F(ConvertFiles, StopsAtAnInterruptWithoutAHalfFile) {
     }
 }
 
-TEST_F(ConvertFiles, ConvertsWhatIsLeftOfATruncatedWaveAndSaysSo) {
+TEST_F(ConvertFiles, ConvertsTheRestOfATruncatedWaveAndReportsIt) {
     MediaTest::writeFile(at(u"whole.wav"_s), kAudioFileWAVEType, MediaTest::tones(44100));
     write(u"truncated.wav"_s, read(u"whole.wav"_s).left(44100 * 4));
     const auto result = sonaphex({u"convert"_s, at(u"truncated.wav"_s), at(u"out.wav"_s)});
@@ -128,7 +128,7 @@ TEST_F(ConvertFiles, ConvertsWhatIsLeftOfATruncatedWaveAndSaysSo) {
     EXPECT_TRUE(QFile::exists(at(u"out.wav"_s)));
 }
 
-TEST_F(ConvertFiles, PrintsNoProgressWhereNobodyLooks) {
+TEST_F(ConvertFiles, PrintsNoProgressWithoutATerminal) {
     MediaTest::writeFile(at(u"whole.wav"_s), kAudioFileWAVEType, MediaTest::tones(44100 * 5));
     const auto result = sonaphex({u"convert"_s, at(u"whole.wav"_s), at(u"out.m4a"_s)});
     EXPECT_EQ(result.status, 0);

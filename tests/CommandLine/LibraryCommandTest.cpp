@@ -107,7 +107,7 @@ TEST_F(LibraryCommand, RemovesNothingWhenAKeyIsUnknown) {
     EXPECT_EQ(listed()[u"records"_s].toArray().size(), 1);
 }
 
-TEST_F(LibraryCommand, RefusesWrongUsageWithTheRightOne) {
+TEST_F(LibraryCommand, RefusesWrongUsageAndPrintsTheUsage) {
     for (const QStringList& arguments : {QStringList{u"remove"_s}, QStringList{u"add"_s}, QStringList{u"--colour"_s}}) {
         const ToolResult result = library(arguments);
         EXPECT_EQ(result.status, 2);
@@ -116,7 +116,7 @@ TEST_F(LibraryCommand, RefusesWrongUsageWithTheRightOne) {
     }
 }
 
-TEST_F(LibraryCommand, TwoAtOnceLoseNothing) {
+TEST_F(LibraryCommand, TwoProcessesAtOnceLoseNothing) {
     QVariantList records;
     for (int i = 0; i < 12; ++i)
         records.append(entry(u"%1.m4a"_s.arg(i)));
@@ -134,7 +134,7 @@ TEST_F(LibraryCommand, TwoAtOnceLoseNothing) {
     EXPECT_EQ(listed()[u"records"_s].toArray().size(), 4);
 }
 
-TEST_F(LibraryCommand, ShowsTheTagsThatWereWrittenIntoItsFiles) {
+TEST_F(LibraryCommand, ShowsTheTagsWrittenIntoItsFiles) {
     const Dictionary one = entry(u"one.m4a"_s);
     const Dictionary other = entry(u"other.m4a"_s);
     const QString path = one.value(AudioRecordEntry::SavePath).toString();
@@ -162,7 +162,7 @@ TEST_F(LibraryCommand, ShowsTheTagsThatWereWrittenIntoItsFiles) {
     EXPECT_EQ(listed(), document);
 }
 
-TEST_F(LibraryCommand, KeepsWhatSeveralTagAtOnce) {
+TEST_F(LibraryCommand, KeepsTheTagsOfSeveralProcessesAtOnce) {
     const Dictionary one = entry(u"one.m4a"_s);
     const QString path = one.value(AudioRecordEntry::SavePath).toString();
     ASSERT_TRUE(Mpeg4Files::make(path));
@@ -224,7 +224,7 @@ protected:
     std::unique_ptr<Platform::RunningProgram> running_ = Platform::RunningProgram::create(identifier);
 };
 
-TEST_F(LibraryCommandBesideAWindow, LetsItRemove) {
+TEST_F(LibraryCommandBesideAWindow, MakesItRemoveEntries) {
     const Dictionary gone = entry(u"gone\nwith a new line.m4a"_s);
     const Dictionary stays = entry(u"stays.m4a"_s);
     open({gone, stays});
@@ -237,7 +237,7 @@ TEST_F(LibraryCommandBesideAWindow, LetsItRemove) {
     EXPECT_EQ(listed()[u"records"_s].toArray().size(), 1);
 }
 
-TEST_F(LibraryCommandBesideAWindow, LetsItShowTheTagsThatWereWritten) {
+TEST_F(LibraryCommandBesideAWindow, MakesItShowTheWrittenTags) {
     const Dictionary one = entry(u"one\nwith a new line.m4a"_s);
     const Dictionary other = entry(u"other.m4a"_s);
     ASSERT_TRUE(Mpeg4Files::make(one.value(AudioRecordEntry::SavePath).toString()));
@@ -253,7 +253,7 @@ TEST_F(LibraryCommandBesideAWindow, LetsItShowTheTagsThatWereWritten) {
     EXPECT_EQ(listed()[u"records"_s][1][u"title"_s], u"new\nline"_s);
 }
 
-TEST_F(LibraryCommandBesideAWindow, LetsItRemoveWhatAnotherProcessStored) {
+TEST_F(LibraryCommandBesideAWindow, MakesItRemoveEntriesThatAnotherProcessStored) {
     const Dictionary stays = entry(u"stays.m4a"_s);
     const Dictionary gone = entry(u"gone.m4a"_s);
     open({stays});
@@ -264,7 +264,7 @@ TEST_F(LibraryCommandBesideAWindow, LetsItRemoveWhatAnotherProcessStored) {
     EXPECT_EQ(listed()[u"records"_s].toArray().size(), 1);
 }
 
-TEST_F(LibraryCommandBesideAWindow, LetsItShowTheTagsOfWhatAnotherProcessStored) {
+TEST_F(LibraryCommandBesideAWindow, MakesItShowTheTagsOfEntriesThatAnotherProcessStored) {
     const Dictionary known = entry(u"known.m4a"_s);
     const Dictionary one = entry(u"one.m4a"_s);
     const QString path = one.value(AudioRecordEntry::SavePath).toString();
@@ -278,7 +278,7 @@ TEST_F(LibraryCommandBesideAWindow, LetsItShowTheTagsOfWhatAnotherProcessStored)
     EXPECT_EQ(listed()[u"records"_s][0][u"title"_s], u"new"_s);
 }
 
-TEST_F(LibraryCommandBesideAWindow, LetsItAddTheRingtoneThatWasMade) {
+TEST_F(LibraryCommandBesideAWindow, MakesItAddARingtone) {
     const Dictionary song = entry(u"Track 1.m4a"_s);
     const QString path = song.value(AudioRecordEntry::SavePath).toString();
     MediaTest::writeFile(path, kAudioFileM4AType, MediaTest::tones(7 * 44100));

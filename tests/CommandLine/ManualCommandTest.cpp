@@ -39,7 +39,7 @@ protected:
 
 } // namespace
 
-TEST_F(ManualCommandTest, EveryCommandSaysWhatItAndEachOptionDoes) {
+TEST_F(ManualCommandTest, EveryCommandDescribesItselfAndItsOptions) {
     for (const auto& [name, command] : CommandLine::allCommands()) {
         EXPECT_STRNE(command->summary, "") << qPrintable(name);
         EXPECT_FALSE(command->examples.empty()) << qPrintable(name);
@@ -54,7 +54,7 @@ TEST_F(ManualCommandTest, EveryCommandSaysWhatItAndEachOptionDoes) {
     }
 }
 
-TEST_F(ManualCommandTest, ManualPageIsReadWithoutAWarningAndNamesEveryOption) {
+TEST_F(ManualCommandTest, ManualPageHasNoWarningAndListsEveryOption) {
     const QString page = file(u"sonaphex.1"_s, {u"manual"_s});
     const auto warnings = runTool(u"groff"_s, {u"-man"_s, u"-ww"_s, u"-z"_s, u"-Tutf8"_s, page});
     EXPECT_EQ(warnings.status, 0);
@@ -77,7 +77,7 @@ TEST_F(ManualCommandTest, BashCompletesCommandsOptionsAndValues) {
     EXPECT_TRUE(bashOffers(completions, {u"sonaphex"_s, u"tag"_s, completions.chopped(2)}).contains(completions));
 }
 
-TEST_F(ManualCommandTest, ZshAndFishReadTheirCompletions) {
+TEST_F(ManualCommandTest, ZshAndFishAcceptTheirCompletions) {
     const QString zsh = file(u"_sonaphex"_s, {u"completions"_s, u"zsh"_s});
     const auto zshSays = runTool(u"zsh"_s, {u"-n"_s, zsh});
     EXPECT_EQ(zshSays.status, 0) << zshSays.errors.constData();

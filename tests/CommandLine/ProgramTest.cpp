@@ -17,7 +17,7 @@ ToolResult sonaphex(const QStringList& arguments) {
 }
 } // namespace
 
-TEST(Program, TellsItsVersionAndItsCommands) {
+TEST(Program, PrintsItsVersionAndItsCommands) {
     const auto version = sonaphex({u"--version"_s});
     EXPECT_EQ(version.status, 0);
     EXPECT_EQ(version.output, "sonaphex " SONAPHEX_VERSION "\n");
@@ -37,7 +37,7 @@ TEST(Program, TellsItsVersionAndItsCommands) {
         }
 }
 
-TEST(Program, FailsWhenItsAnswerCannotBeWritten) {
+TEST(Program, FailsWhenItsOutputCannotBeWritten) {
     const QTemporaryDir folder;
     const EnvironmentScope config("XDG_CONFIG_HOME", folder.path().toUtf8());
     const QString file = folder.filePath(u"a.m4a"_s);
@@ -66,7 +66,7 @@ TEST(Program, FailsWhenItsAnswerCannotBeWritten) {
     }
 }
 
-TEST(Program, SaysNothingAboutAReaderThatLeft) {
+TEST(Program, PrintsNoErrorWhenTheReaderClosedThePipe) {
     const QTemporaryDir folder;
     const EnvironmentScope config("XDG_CONFIG_HOME", folder.path().toUtf8());
     int ends[2];
@@ -82,7 +82,7 @@ TEST(Program, SaysNothingAboutAReaderThatLeft) {
     EXPECT_EQ(process.readAllStandardError(), QByteArray());
 }
 
-TEST(Program, LoadsNoLibraryOfWindowsOrContainersToRecord) {
+TEST(Program, LoadsNoWindowOrContainerLibraryToRecord) {
     const auto dynamic = runTool(u"readelf"_s, {u"-d"_s, QStringLiteral(SONAPHEX_PROGRAM)});
     ASSERT_EQ(dynamic.status, 0) << dynamic.errors.data();
     ASSERT_TRUE(dynamic.output.contains("[libQt6Core.so")) << dynamic.output.data();
@@ -90,7 +90,7 @@ TEST(Program, LoadsNoLibraryOfWindowsOrContainersToRecord) {
         EXPECT_FALSE(dynamic.output.contains(unwanted)) << unwanted;
 }
 
-TEST(Program, SaysSoWhenThePartWithItsWindowsIsMissing) {
+TEST(Program, ReportsAMissingWindowModule) {
     QTemporaryDir folder;
     const QString copy = folder.filePath(u"sonaphex"_s);
     ASSERT_TRUE(QFile::copy(QStringLiteral(SONAPHEX_PROGRAM), copy));
@@ -99,7 +99,7 @@ TEST(Program, SaysSoWhenThePartWithItsWindowsIsMissing) {
     EXPECT_TRUE(result.errors.startsWith("sonaphex: a part of the program is missing: ")) << result.errors.data();
 }
 
-TEST(Program, AnswersWrongUsageWithStatusTwoAndOneReason) {
+TEST(Program, RefusesWrongUsageWithStatusTwoAndOneReason) {
     const auto unknown = sonaphex({u"recrod"_s});
     EXPECT_EQ(unknown.status, 2);
     EXPECT_TRUE(unknown.errors.startsWith("sonaphex: recrod: no such command")) << unknown.errors.data();

@@ -124,7 +124,7 @@ struct RecordCommandTest : testing::Test {
 
 } // namespace
 
-TEST_F(RecordCommandTest, RecordsTheAskedTimeInFramesAndSaysWhere) {
+TEST_F(RecordCommandTest, RecordsTheRequestedNumberOfFramesAndPrintsThePath) {
     EXPECT_EQ(record({u"--for"_s, u"5"_s, u"--filter"_s, u"off"_s}), CommandLine::Done) << qPrintable(err);
     EXPECT_EQ(out, folder + u"/Track0.m4a\n"_s);
     EXPECT_EQ(err, QString());
@@ -133,12 +133,12 @@ TEST_F(RecordCommandTest, RecordsTheAskedTimeInFramesAndSaysWhere) {
     EXPECT_EQ(temporaries(), QStringList()) << "the raw file's folder is gone";
 }
 
-TEST_F(RecordCommandTest, NeverRecordsFewerFramesThanAsked) {
+TEST_F(RecordCommandTest, NeverRecordsFewerFramesThanRequested) {
     EXPECT_EQ(record({u"--for"_s, u"0.0101"_s, u"--filter"_s, u"off"_s}), CommandLine::Done);
     EXPECT_EQ(media.last().framesAccepted, 960) << "485 frames take two cycles";
 }
 
-TEST_F(RecordCommandTest, EntersTheEntryThatItAskedAWindowInVainToEnter) {
+TEST_F(RecordCommandTest, AddsTheEntryItselfWhenTheWindowDoesNotAnswer) {
     QByteArray asked;
     std::promise<void> listening;
     const std::unique_ptr<QThread> window(QThread::create([&] {
@@ -165,7 +165,7 @@ TEST_F(RecordCommandTest, EntersTheEntryThatItAskedAWindowInVainToEnter) {
     EXPECT_EQ(document[u"tags"_s][AudioRecordEntry::NodeDataKey].toString(), key);
 }
 
-TEST_F(RecordCommandTest, AnswersAsJson) {
+TEST_F(RecordCommandTest, PrintsJson) {
     EXPECT_EQ(record({u"--for"_s, u"2"_s, u"--filter"_s, u"1"_s, u"--json"_s}), CommandLine::Done);
     const auto document = QJsonDocument::fromJson(out.toUtf8()).object();
     ASSERT_EQ(document[u"recordings"_s].toArray().size(), 1);
@@ -177,7 +177,7 @@ TEST_F(RecordCommandTest, AnswersAsJson) {
     EXPECT_EQ(document[u"lostFrames"_s].toInt(-1), 0);
 }
 
-TEST_F(RecordCommandTest, TakesTheFirstInputDeviceThatIsNotTheComputersAudio) {
+TEST_F(RecordCommandTest, UsesTheFirstInputDeviceThatIsNotComputerAudio) {
     EXPECT_EQ(record({u"--for"_s, u"1"_s, u"--filter"_s, u"off"_s}), CommandLine::Done);
     EXPECT_EQ(hardware.opened.back()->device, 7U);
     EXPECT_EQ(hardware.find(7)->elements[1].volume, 1.0F);
@@ -190,7 +190,7 @@ TEST_F(RecordCommandTest, FindsADeviceByNameUidAndNumber) {
     }
 }
 
-TEST_F(RecordCommandTest, NamesTheDevicesThereAreWhenItKnowsNotTheAskedOne) {
+TEST_F(RecordCommandTest, ListsTheDevicesForAnUnknownOne) {
     EXPECT_EQ(record({u"--input"_s, u"Line %s out"_s}), CommandLine::Failed);
     EXPECT_EQ(err, u"sonaphex: there is no input device \"Line %s out\": there are Microphone, Korvane System Audio, "
                    "Line in\n"_s);
@@ -200,7 +200,7 @@ TEST_F(RecordCommandTest, NamesTheDevicesThereAreWhenItKnowsNotTheAskedOne) {
     EXPECT_EQ(err, u"sonaphex: there is no input device\n"_s);
 }
 
-TEST_F(RecordCommandTest, RefusesAFolderThatCannotBeMade) {
+TEST_F(RecordCommandTest, RefusesAFolderThatCannotBeCreated) {
     QFile file(folder);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.close();
@@ -218,7 +218,7 @@ TEST_F(RecordCommandTest, FinishesItsFileAtASignal) {
     EXPECT_TRUE(media.last().disposed);
 }
 
-TEST_F(RecordCommandTest, DropsWhatIsShorterThanTheStoredFilter) {
+TEST_F(RecordCommandTest, DropsARecordingShorterThanTheStoredFilter) {
     EXPECT_EQ(record({u"--for"_s, u"4"_s, u"--json"_s}), CommandLine::Done);
     const auto document = QJsonDocument::fromJson(out.toUtf8()).object();
     EXPECT_EQ(document[u"dropped"_s].toInt(), 1);
@@ -239,7 +239,7 @@ TEST_F(RecordCommandTest, ChangesNoStoredPreference) {
     EXPECT_EQ(defaults.changes(), before);
 }
 
-TEST_F(RecordCommandTest, KeepsWhatItHasWhenTheDiskIsFull) {
+TEST_F(RecordCommandTest, KeepsTheRecordedAudioWhenTheDiskIsFull) {
     afterCycle = [this] { media.last().writeStatus = -34; };
     EXPECT_EQ(record({u"--for"_s, u"100"_s}), CommandLine::Failed);
     EXPECT_EQ(err, u"sonaphex: No space left on device: what was recorded is kept in %1/Track0.m4a\n"_s.arg(folder));
@@ -247,7 +247,7 @@ TEST_F(RecordCommandTest, KeepsWhatItHasWhenTheDiskIsFull) {
     EXPECT_TRUE(media.last().disposed);
 }
 
-TEST_F(RecordCommandTest, ARecordingThatNoPlaceTakesIsStillWhereItSays) {
+TEST_F(RecordCommandTest, ARecordingThatCannotBeMovedIsAtThePrintedPath) {
     const EnvironmentScope noData("XDG_DATA_HOME", dir.filePath(u"in the way"_s).toUtf8());
     QFile inTheWay(dir.filePath(u"in the way"_s));
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
@@ -266,7 +266,7 @@ TEST_F(RecordCommandTest, ARecordingThatNoPlaceTakesIsStillWhereItSays) {
     EXPECT_EQ(temporaries(), QStringList());
 }
 
-TEST_F(RecordCommandTest, ALibraryThatCannotBeStoredIsAFailure) {
+TEST_F(RecordCommandTest, FailsWhenTheLibraryCannotBeStored) {
     defaults.flushFails = true;
     EXPECT_EQ(record({u"--for"_s, u"6"_s}), CommandLine::Failed);
     EXPECT_EQ(out, folder + u"/Track0.m4a\n"_s);
@@ -274,14 +274,14 @@ TEST_F(RecordCommandTest, ALibraryThatCannotBeStoredIsAFailure) {
                    "%1/Track0.m4a\n"_s.arg(folder));
 }
 
-TEST_F(RecordCommandTest, SaysThatFramesWereLost) {
+TEST_F(RecordCommandTest, ReportsLostFrames) {
     afterCycle = [this] { hardware.opened.back()->lost = 24000; };
     EXPECT_EQ(record({u"--for"_s, u"5"_s, u"--json"_s}), CommandLine::Done);
     EXPECT_EQ(err, u"sonaphex: 0.500 s are missing (24000 frames): the computer was too busy to take them.\n"_s);
     EXPECT_EQ(QJsonDocument::fromJson(out.toUtf8())[u"lostFrames"_s].toInt(), 24000);
 }
 
-TEST_F(RecordCommandTest, SaysThatTheDeviceWentAwayAndReturned) {
+TEST_F(RecordCommandTest, ReportsALostAndAReturnedDevice) {
     using Event = Platform::InputUnit::Event;
     int count = 0;
     afterCycle = [&] {
@@ -296,7 +296,7 @@ TEST_F(RecordCommandTest, SaysThatTheDeviceWentAwayAndReturned) {
               "it is back.\nsonaphex: The input device is back.\n"_s);
 }
 
-TEST_F(RecordCommandTest, SaysWhenTheDeviceOrTheFileCannotBeUsed) {
+TEST_F(RecordCommandTest, ReportsAnUnusableDeviceOrFile) {
     hardware.remove(9);
     hardware.nextUnit->fails = {FakeInputUnit::Step::Start};
     EXPECT_EQ(record({u"--for"_s, u"1"_s}), CommandLine::Failed);
@@ -318,19 +318,19 @@ TEST_F(RecordCommandTest, RecordsComputerAudioAlone) {
     EXPECT_EQ(media.last().framesAccepted, 2 * 48000);
 }
 
-TEST_F(RecordCommandTest, TakesTheNameOfTheComputersAudioAsThatSource) {
+TEST_F(RecordCommandTest, AcceptsTheComputerAudioDeviceByName) {
     EXPECT_EQ(record({u"--input"_s, u"Korvane System Audio"_s, u"--for"_s, u"1"_s, u"--filter"_s, u"off"_s}),
               CommandLine::Done);
     EXPECT_TRUE(media.last().path.contains(u"ComputerA"_s));
 }
 
-TEST_F(RecordCommandTest, SaysWhatIsMissingForComputerAudio) {
+TEST_F(RecordCommandTest, ReportsWhatIsMissingForComputerAudio) {
     hardware.remove(9);
     EXPECT_EQ(record({u"--computer"_s}), CommandLine::Failed);
     EXPECT_EQ(err, u"sonaphex: computer audio: its driver is not installed (see sonaphex driver install)\n"_s);
 }
 
-TEST_F(RecordCommandTest, EndsAWaitThatHeardNothing) {
+TEST_F(RecordCommandTest, EndsAnArmedWaitWithoutSound) {
     level = 0;
     EXPECT_EQ(record({u"--computer"_s, u"--wait"_s, u"0.1"_s, u"--json"_s}), CommandLine::Done);
     EXPECT_EQ(err, u"sonaphex: no sound came: nothing was recorded\n"_s);
@@ -341,7 +341,7 @@ TEST_F(RecordCommandTest, EndsAWaitThatHeardNothing) {
     EXPECT_EQ(temporaries(), QStringList());
 }
 
-TEST_F(RecordCommandTest, ASignalWhileWaitingIsNoFailure) {
+TEST_F(RecordCommandTest, ASignalWhileWaitingIsNotAFailure) {
     level = 0;
     afterCycle = [] { std::raise(SIGINT); };
     EXPECT_EQ(record({u"--computer"_s}), CommandLine::Done);
@@ -365,7 +365,7 @@ TEST_F(RecordCommandTest, SplitsAtSilences) {
     EXPECT_GE(frames, std::int64_t(4.4 * 48000));
 }
 
-TEST_F(RecordCommandTest, AnswersWrongUsageWithTheUsage) {
+TEST_F(RecordCommandTest, RefusesWrongUsageAndPrintsTheUsage) {
     for (const auto& arguments :
          {QStringList{u"--for"_s, u"abc"_s}, QStringList{u"--for"_s, u"0"_s}, QStringList{u"--for"_s, u"-1"_s},
           QStringList{u"--filter"_s, u"maybe"_s}, QStringList{u"file"_s}, QStringList{u"--unknown"_s},

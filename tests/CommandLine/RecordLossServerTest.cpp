@@ -79,7 +79,7 @@ TEST_F(RecordLossServer, ASplitTimeOfZeroMakesOneFileOfATone) {
     EXPECT_EQ(document[u"recordings"_s].toArray().size(), 1);
 }
 
-TEST_F(RecordLossServer, AWaitForSoundSaysThatItsDeviceWentAway) {
+TEST_F(RecordLossServer, AnArmedWaitReportsALostDevice) {
     ASSERT_TRUE(startComputerAudio(false));
     startRecording({u"--for"_s, u"1"_s});
     ASSERT_TRUE(waitFor([this] { return hasRawFile(); }, 60000)) << "it waits with its file open";
@@ -92,7 +92,7 @@ TEST_F(RecordLossServer, AWaitForSoundSaysThatItsDeviceWentAway) {
     EXPECT_GE(AudioCheck::framesByFfprobe(home_.filePath(u"Music/Track0.m4a"_s)), 44100);
 }
 
-TEST_F(RecordLossServer, ARecordingHoldsSleepOffUntilItsEnd) {
+TEST_F(RecordLossServer, ARecordingInhibitsSleepUntilItsEnd) {
     const PrivateBus bus(home_.path());
     const EnvironmentScope system("DBUS_SYSTEM_BUS_ADDRESS", bus.address().toUtf8());
     {

@@ -55,7 +55,7 @@ TEST_F(RecordServer, ListsTheDevicesOfTheServer) {
     EXPECT_EQ(document[u"defaultOutput"_s][u"name"_s].toString(), u"Silent Output"_s);
 }
 
-TEST_F(RecordServer, NamesTheDevicesThereAreForAnUnknownOne) {
+TEST_F(RecordServer, ListsTheDevicesForAnUnknownOne) {
     tone();
     const auto result = sonaphex({u"record"_s, u"--input"_s, u"Nothing like it"_s, u"--folder"_s, folder_});
     EXPECT_EQ(result.status, 1);
@@ -63,7 +63,7 @@ TEST_F(RecordServer, NamesTheDevicesThereAreForAnUnknownOne) {
     EXPECT_FALSE(QFile::exists(folder_)) << "nothing half-made is left";
 }
 
-TEST_F(RecordServer, LeavesADeviceAloneThatItDoesNotRecord) {
+TEST_F(RecordServer, DoesNotChangeADeviceThatItDoesNotRecord) {
     TestSource other({.name = "test.left.alone", .description = "Left alone"});
     ASSERT_TRUE(other.start());
     ASSERT_TRUE(Platform::PipeWire::serverIsThere(30000, true, "test.left.alone"));
@@ -109,7 +109,7 @@ TEST_F(RecordServer, RefusesAFolderThatCannotBeWritten) {
     EXPECT_EQ(result.errors.count('\n'), 1);
 }
 
-TEST_F(RecordServer, EndsWithAWholeFileAtASignal) {
+TEST_F(RecordServer, EndsWithACompleteFileAtASignal) {
     tone();
     for (const int signal : {SIGINT, SIGTERM}) {
         QProcess process;
@@ -181,7 +181,7 @@ constexpr int kSanitizersKb = 512;
 constexpr int kSanitizersKb = 0;
 #endif
 
-TEST_F(RecordServer, KeepsWhatItHasWhenTheDiskFillsUp) {
+TEST_F(RecordServer, KeepsTheRecordedAudioWhenTheDiskFillsUp) {
     tone();
     // The raw file is on a file system of 100 kB, in a mount namespace of the program; where mounting is not permitted,
     // the file size is limited to 100 kB instead.
@@ -206,7 +206,7 @@ TEST_F(RecordServer, KeepsWhatItHasWhenTheDiskFillsUp) {
     EXPECT_EQ(demuxed.status, 0) << demuxed.errors.toStdString();
 }
 
-TEST_F(RecordServer, SetsADamagedDefaultsFileAsideAndGoesOn) {
+TEST_F(RecordServer, SetsADamagedDefaultsFileAsideAndContinues) {
     tone();
     QDir(dir_.path()).mkdir(u"config"_s);
     const QString plist = dir_.filePath(u"config/com.korvane.Sonaphex.plist"_s);
@@ -220,7 +220,7 @@ TEST_F(RecordServer, SetsADamagedDefaultsFileAsideAndGoesOn) {
     EXPECT_EQ(QDir(dir_.filePath(u"config"_s)).entryList({u"*.damaged-*"_s}).size(), 1);
 }
 
-TEST_F(RecordServer, WaitsForADeviceThatIsPulledOut) {
+TEST_F(RecordServer, WaitsForAnUnpluggedDevice) {
     auto& source = tone();
     QProcess process;
     process.start(QStringLiteral(SONAPHEX_PROGRAM), recordArguments({u"--for"_s, u"4"_s}));
@@ -274,7 +274,7 @@ TEST_F(RecordServer, WaitsForASoundServerThatIsSlowToAnswer) {
     EXPECT_NEAR(AudioCheck::pitchOf(AudioCheck::inner(decoded[0], 8192), 44100), 660, 0.5);
 }
 
-TEST_F(RecordServer, BringsASoundServerOfItsOwnWhereThereIsNone) {
+TEST_F(RecordServer, StartsAPrivateSoundServerWhereThereIsNone) {
     PrivateAudioSession::end();
     const EnvironmentScope none("PIPEWIRE_RUNTIME_DIR");
     const auto result = sonaphex({u"record"_s, u"--for"_s, u"2"_s, u"--filter"_s, u"off"_s, u"--folder"_s, folder_});
@@ -285,7 +285,7 @@ TEST_F(RecordServer, BringsASoundServerOfItsOwnWhereThereIsNone) {
     EXPECT_GT(AudioCheck::levelOf(AudioCheck::inner(decoded[0], 8192)), 0.01);
 }
 
-TEST_F(RecordServer, SaysThatThePackagesAreMissing) {
+TEST_F(RecordServer, ReportsMissingPackages) {
     PrivateAudioSession::end();
     const EnvironmentScope none("PIPEWIRE_RUNTIME_DIR");
     const EnvironmentScope path("PATH", dir_.path().toUtf8());

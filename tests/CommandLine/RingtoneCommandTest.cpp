@@ -47,7 +47,7 @@ protected:
     ProgramHome home_;
 };
 
-TEST_F(RingtoneCommand, WritesTheStretchAndListsItInTheLibrary) {
+TEST_F(RingtoneCommand, WritesTheRangeAndAddsItToTheLibrary) {
     const auto result = ringtone({source(), u"--from"_s, u"2"_s, u"--to"_s, u"10"_s, u"--json"_s});
     ASSERT_EQ(result.status, 0) << result.errors.constData();
     const auto told = QJsonDocument::fromJson(result.output);
@@ -62,7 +62,7 @@ TEST_F(RingtoneCommand, WritesTheStretchAndListsItInTheLibrary) {
     EXPECT_EQ(entries[0][u"seconds"_s].toDouble(), 8);
 }
 
-TEST_F(RingtoneCommand, TakesTheTagsOfTheLibraryButNotTheIdentity) {
+TEST_F(RingtoneCommand, UsesTheLibrarysTagsButNotTheIdentity) {
     const QString path = source(u"song 50%1.m4a"_s);
     const QString key = path + u"_1.5"_s;
     store({Dictionary{{AudioRecordEntry::NodeDataKey, key},
@@ -82,7 +82,7 @@ TEST_F(RingtoneCommand, TakesTheTagsOfTheLibraryButNotTheIdentity) {
     EXPECT_NE(entry[u"key"_s].toString(), key);
 }
 
-TEST_F(RingtoneCommand, LeavesAnEarlierRingtoneAlone) {
+TEST_F(RingtoneCommand, KeepsAnEarlierRingtone) {
     const QString path = source();
     ASSERT_EQ(ringtone({path, u"--from"_s, u"0"_s, u"--to"_s, u"6"_s}).status, 0);
     QFile first(folder() + u"/Ringtone.m4r"_s);
@@ -95,7 +95,7 @@ TEST_F(RingtoneCommand, LeavesAnEarlierRingtoneAlone) {
     EXPECT_EQ(listed().size(), 2);
 }
 
-TEST_F(RingtoneCommand, PutsTheFadesOfTheRuleIntoTheFile) {
+TEST_F(RingtoneCommand, WritesTheFadesIntoTheFile) {
     const QString path = source(u"Track3.m4a"_s, 32);
     ASSERT_EQ(
         ringtone({path, u"--from"_s, u"10"_s, u"--to"_s, u"30"_s, u"--fade-in"_s, u"4"_s, u"--fade-out"_s, u"6"_s})
@@ -149,7 +149,7 @@ TEST_F(RingtoneCommand, PutsTheFadesOfTheRuleIntoTheFile) {
     }
 }
 
-TEST_F(RingtoneCommand, MakesWhatPhonesTake) {
+TEST_F(RingtoneCommand, WritesAFileThatPhonesAccept) {
     ASSERT_EQ(ringtone({source(u"Track3.m4a"_s, 46), u"--from"_s, u"5"_s, u"--to"_s, u"45"_s}).status, 0);
     const QString path = folder() + u"/Ringtone.m4r"_s;
     const auto probed = runTool(u"ffprobe"_s, {u"-v"_s, u"error"_s, u"-show_entries"_s,
@@ -166,7 +166,7 @@ TEST_F(RingtoneCommand, MakesWhatPhonesTake) {
     EXPECT_EQ(file.read(11).mid(4), "ftypM4A");
 }
 
-TEST_F(RingtoneCommand, ServesShortMonoAndSlowSources) {
+TEST_F(RingtoneCommand, HandlesShortMonoAndLowRateSources) {
     MediaTest::writeFile(at(u"short.m4a"_s), kAudioFileM4AType, MediaTest::tones(3 * 44100));
     EXPECT_EQ(ringtone({at(u"short.m4a"_s), u"--from"_s, u"0"_s, u"--to"_s, u"3"_s}).status, 0);
     ASSERT_EQ(runTool(u"ffmpeg"_s, {u"-v"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine=f=500:d=12"_s, u"-ac"_s,
@@ -195,7 +195,7 @@ TEST_F(RingtoneCommand, RefusesWithOneLineAndLeavesNothing) {
     EXPECT_TRUE(temporaries().isEmpty());
 }
 
-TEST_F(RingtoneCommand, SaysThatTheFolderCannotBeWritten) {
+TEST_F(RingtoneCommand, ReportsAReadOnlyFolder) {
     const QString path = source(u"whole.m4a"_s, 12);
     QFile inTheWay(at(u"file"_s));
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
@@ -208,7 +208,7 @@ TEST_F(RingtoneCommand, SaysThatTheFolderCannotBeWritten) {
     }
 }
 
-TEST_F(RingtoneCommand, SaysThatTheDiskIsFull) {
+TEST_F(RingtoneCommand, ReportsAFullDisk) {
     const QString path = source(u"Track3.m4a"_s, 42);
     rlimit before{};
     ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
@@ -225,7 +225,7 @@ TEST_F(RingtoneCommand, SaysThatTheDiskIsFull) {
     EXPECT_TRUE(listed().isEmpty());
 }
 
-TEST_F(RingtoneCommand, StopsAtAnInterruptWithoutAHalfFile) {
+TEST_F(RingtoneCommand, StopsAtAnInterruptWithoutAnIncompleteFile) {
     // An hour, so that the signal arrives while it works.
     ASSERT_EQ(runTool(u"ffmpeg"_s, {u"-v"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine=d=3600"_s, u"-c:a"_s,
                                     u"pcm_s16le"_s, at(u"long.wav"_s)})

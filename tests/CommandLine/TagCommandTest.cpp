@@ -69,7 +69,7 @@ protected:
 
 } // namespace
 
-TEST_F(TagCommand, WritesWhatIsGivenAndLeavesTheRest) {
+TEST_F(TagCommand, WritesTheGivenTagsAndKeepsTheRest) {
     const QString cover = path(u"cover.jpg"_s);
     ASSERT_TRUE(Mpeg4Files::noise(20).save(cover, "JPEG"));
     const ToolResult first = tag({path(), u"--title"_s, u"$(x) \"日本\""_s, u"--artist"_s, u"A"_s, u"--year"_s,
@@ -88,7 +88,7 @@ TEST_F(TagCommand, WritesWhatIsGivenAndLeavesTheRest) {
     EXPECT_EQ(Mpeg4Files::probe(path())[u"title"_s].toString(), u"$(x) \"日本\""_s);
 }
 
-TEST_F(TagCommand, LeavesAFullDateWhereOnlyTheTitleIsGiven) {
+TEST_F(TagCommand, KeepsAFullDateWhenOnlyTheTitleIsGiven) {
     ASSERT_EQ(runTool(u"AtomicParsley"_s, {path(), u"--year"_s, u"2004-05-06"_s, u"--overWrite"_s}).status, 0);
     EXPECT_EQ(tag({path(), u"--title"_s, u"T"_s}).status, 0);
     EXPECT_EQ(Mpeg4Files::probe(path())[u"date"_s].toString(), u"2004-05-06"_s);
@@ -102,7 +102,7 @@ TEST_F(TagCommand, PrintsTheTagsOnOneLineEach) {
     EXPECT_EQ(result.output, "title:   a b [31m\nartist:  A\nalbum:   \nyear:    \ngenre:   G\nartwork: none\n");
 }
 
-TEST_F(TagCommand, SaysInOneLineWhatWentWrong) {
+TEST_F(TagCommand, ReportsAnErrorInOneLine) {
     ASSERT_TRUE(Mpeg4Files::write(path(u"text.m4a"_s), "no audio at all"));
     for (const QStringList& arguments :
          {QStringList{path(u"none.m4a"_s)}, QStringList{path(u"text.m4a"_s)}, QStringList{folder_.path()},
@@ -115,7 +115,7 @@ TEST_F(TagCommand, SaysInOneLineWhatWentWrong) {
     }
 }
 
-TEST_F(TagCommand, RefusesWrongUsageWithTheRightOne) {
+TEST_F(TagCommand, RefusesWrongUsageAndPrintsTheUsage) {
     for (const QStringList& arguments : {QStringList{}, QStringList{path(), path()}, QStringList{path(), u"--colour"_s},
                                          QStringList{path(), u"--year"_s, u"soon"_s}}) {
         const ToolResult result = tag(arguments);
@@ -137,7 +137,7 @@ TEST_F(TagRename, NamesTheFileAfterItsTitleAndTheEntryFollows) {
     EXPECT_TRUE(notes().isEmpty());
 }
 
-TEST_F(TagRename, TakesTheTitleThatTheFileHasAndLeavesAFileOfThatNameAlone) {
+TEST_F(TagRename, UsesTheFilesTitleAndKeepsAFileOfThatName) {
     ASSERT_EQ(tag({path(), u"--title"_s, u"Rain"_s}).status, 0);
     EXPECT_EQ(files(), QStringList{u"a.m4a"_s});
     EXPECT_EQ(json(tag({path(), u"--rename"_s, u"--json"_s}))[u"title"_s], u"Rain"_s);
@@ -163,7 +163,7 @@ TEST_F(TagRename, AgreesInFileTagsAndEntryWhateverTheTitleIs) {
     EXPECT_TRUE(notes().isEmpty());
 }
 
-TEST_F(TagRename, KeepsTheNameWhereTheTitleCanBeNone) {
+TEST_F(TagRename, KeepsTheNameWhenTheTitleCannotBeAFileName) {
     const QByteArray sound = Mpeg4Files::audioOf(path());
     for (const auto& [title, why] : {std::pair<QString, QByteArray>{u"AC/DC"_s, "cannot contain"},
                                      {u"../a"_s, "cannot contain"},

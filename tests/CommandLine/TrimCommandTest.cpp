@@ -58,7 +58,7 @@ protected:
 
 } // namespace
 
-TEST_F(TrimCommand, CutsARecordingInItsPlaceAndItsEntryFollows) {
+TEST_F(TrimCommand, TrimsARecordingInPlaceAndUpdatesItsEntry) {
     const QString path = recording(u"One.m4a"_s);
     const auto result = trim({path, u"--from"_s, u"2.5"_s, u"--to"_s, u"6"_s});
     EXPECT_EQ(result.status, 0) << result.errors.constData();
@@ -74,7 +74,7 @@ TEST_F(TrimCommand, CutsARecordingInItsPlaceAndItsEntryFollows) {
     EXPECT_NEAR(entries[0][u"seconds"_s].toDouble(), 3.5, 0.001);
 }
 
-TEST_F(TrimCommand, GoesToTheEndWithoutAnEndAndFromTheBeginWithoutABegin) {
+TEST_F(TrimCommand, UsesTheFilesBeginAndEndWhenTheyAreNotGiven) {
     const QString path = recording(u"One.m4a"_s);
     EXPECT_EQ(trim({path, u"--from"_s, u"4"_s}).status, 0);
     EXPECT_NEAR(secondsOf(path), 6, 0.03);
@@ -83,7 +83,7 @@ TEST_F(TrimCommand, GoesToTheEndWithoutAnEndAndFromTheBeginWithoutABegin) {
     EXPECT_NEAR(listed()[0][u"seconds"_s].toDouble(), 2, 0.001);
 }
 
-TEST_F(TrimCommand, WritesANewFileAndLeavesTheRecordingAndItsEntryAlone) {
+TEST_F(TrimCommand, WritesANewFileAndKeepsTheRecordingAndItsEntry) {
     const QString path = recording(u"One.m4a"_s);
     const QByteArray before = Mpeg4Files::contentOf(path);
     const auto result =
@@ -103,7 +103,7 @@ TEST_F(TrimCommand, WritesANewFileAndLeavesTheRecordingAndItsEntryAlone) {
     EXPECT_TRUE(leftovers().isEmpty());
 }
 
-TEST_F(TrimCommand, NeverSavesAsAFileThatExists) {
+TEST_F(TrimCommand, NeverSavesAsAnExistingFile) {
     const QString path = recording(u"One.m4a"_s);
     ASSERT_TRUE(Mpeg4Files::write(at(u"Two.m4a"_s), "another"));
     ASSERT_TRUE(QFile::link(u"/nowhere/at/all"_s, at(u"Link.m4a"_s)));
@@ -172,7 +172,7 @@ TEST_F(TrimCommand, RefusesAFileThatTheRunningWindowPlays) {
     EXPECT_TRUE(leftovers().isEmpty());
 }
 
-TEST_F(TrimCommand, TakesFileNamesThatAShellAFormatOrAnOptionCouldRead) {
+TEST_F(TrimCommand, AcceptsFileNamesWithShellFormatAndOptionCharacters) {
     const QString plain = recording(u"plain.m4a"_s, 3);
     const QByteArray content = Mpeg4Files::contentOf(plain);
     ASSERT_TRUE(QFile::remove(plain));

@@ -9,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-TEST(AudioFilterController, AsksBeforeAnythingIsRemovedAndTakesOnlyRemoveForYes) {
+TEST(AudioFilterController, AsksBeforeAnythingIsRemovedAndAcceptsOnlyRemove) {
     const Platform::ServicesScope scope;
     FakeAlerts alerts;
     Platform::services().alerts = &alerts;

@@ -67,7 +67,7 @@ protected:
     QVariantList removed;
 };
 
-TEST_F(AudioFilterWindow, ShowsAndTicksWhatIsAtMostTenWholeSecondsLong) {
+TEST_F(AudioFilterWindow, ShowsAndTicksEntriesOfAtMostTenWholeSeconds) {
     const QAbstractItemModelTester tester(&model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
     Dictionary without = entry(u"without"_s, 0);
     without.remove(AudioRecordEntry::Length);
@@ -94,7 +94,7 @@ TEST_F(AudioFilterWindow, AThresholdBelowOneShowsAndTicksEveryEntry) {
     EXPECT_EQ(filter.lessThanSecond(), 4);
 }
 
-TEST_F(AudioFilterWindow, AnotherThresholdTicksWhatIsStillShown) {
+TEST_F(AudioFilterWindow, AnotherThresholdTicksTheShownEntries) {
     open({entry(u"a"_s, 3), entry(u"b"_s, 5)});
     setTick(0, false);
     EXPECT_EQ(ticked(), u"1 ticked, 00:00:05"_s);
@@ -174,7 +174,7 @@ TEST_F(AudioFilterWindow, AClickOnTheBoxTicksTheRow) {
     EXPECT_EQ(ticked(), u"1 ticked, 00:00:03"_s);
 }
 
-TEST_F(AudioFilterWindow, AThousandRecordingsFollowTheThresholdWithoutAStutter) {
+TEST_F(AudioFilterWindow, AThousandRecordingsFollowTheThresholdWithoutDelay) {
     QVariantList entries;
     for (int i = 0; i < 1000; ++i)
         entries.append(entry(u"Track%1"_s.arg(i), i * 3.6));
@@ -194,7 +194,7 @@ TEST_F(AudioFilterWindow, AThousandRecordingsFollowTheThresholdWithoutAStutter) 
     EXPECT_LT(times[times.size() / 2], 16);
 }
 
-TEST_F(AudioFilterWindow, TellsAScreenReaderEachPart) {
+TEST_F(AudioFilterWindow, DescribesEachPartToScreenReaders) {
     open({entry(u"a"_s, 3)});
     for (const char* each : {"lessThanSecondField", "audioTableView", "removeButton", "cancelButton", "tickedLabel"}) {
         auto* const spoken = QAccessible::queryAccessibleInterface(&outlet(each));

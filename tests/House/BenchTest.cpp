@@ -50,7 +50,7 @@ TEST(BenchScripts, DoNotCompareUnequalWork) {
     EXPECT_TRUE(same.output.contains("  equal: title (Title)\n  not equal: the bit rate\n")) << same.output.constData();
 }
 
-TEST(BenchScripts, AllSayWhatIsEqualAndWhatIsNot) {
+TEST(BenchScripts, AllReportWhatIsEqualAndWhatIsNot) {
     const QDir folder(QStringLiteral(SONAPHEX_SOURCE_DIR "/bench"));
     const QStringList scripts = folder.entryList({u"*.sh"_s});
     ASSERT_GE(scripts.size(), 5);

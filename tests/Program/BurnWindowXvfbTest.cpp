@@ -252,7 +252,7 @@ TEST_F(BurnsFromTheLibrary, ACancelledBurnLeavesNothing) {
     EXPECT_TRUE(controller->window()->isVisible());
 }
 
-TEST_F(BurnsFromTheLibrary, WithoutAPlaceForTheImageTheWindowStays) {
+TEST_F(BurnsFromTheLibrary, WithoutAPathForTheImageTheWindowStays) {
     QList<Step> steps = burnInto(images()).mid(0, 3);
     steps.append([] {
         if (!activeModal<QFileDialog>())

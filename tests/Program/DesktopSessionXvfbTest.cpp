@@ -100,7 +100,7 @@ TEST_F(ProgramOnADesktop, ASignalFinishesTheRecording) {
     expectAWholeRecording();
 }
 
-TEST_F(ProgramOnADesktop, KeepsWhatItRecordedWhenTheDisplayGoes) {
+TEST_F(ProgramOnADesktop, KeepsTheRecordingWhenTheDisplayIsLost) {
     QProcess display;
     display.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s});
     ASSERT_TRUE(waitFor([&] { return display.canReadLine(); }, 30000));
@@ -114,7 +114,7 @@ TEST_F(ProgramOnADesktop, KeepsWhatItRecordedWhenTheDisplayGoes) {
     EXPECT_GT(AudioCheck::framesByFfprobe(kept), 5 * 44100);
 }
 
-TEST_F(ProgramInASession, ALogoutFinishesTheRecordingBeforeItGoesOn) {
+TEST_F(ProgramInASession, ALogoutFinishesTheRecordingBeforeItContinues) {
     ASSERT_TRUE(program.recordForAWhile());
     manager.askToSaveForTheEnd();
     ASSERT_TRUE(waitFor([this] { return manager.allSaved(); }, 60000));
@@ -124,7 +124,7 @@ TEST_F(ProgramInASession, ALogoutFinishesTheRecordingBeforeItGoesOn) {
     EXPECT_TRUE(program.endsWell());
 }
 
-TEST_F(ProgramInASession, ALogoutThatIsCalledOffLeavesTheProgramAtWork) {
+TEST_F(ProgramInASession, ACancelledLogoutLeavesTheProgramRunning) {
     manager.askToSaveForTheEnd();
     ASSERT_TRUE(waitFor([this] { return manager.allSaved(); }, 60000));
     manager.cancelTheEnd();
@@ -134,7 +134,7 @@ TEST_F(ProgramInASession, ALogoutThatIsCalledOffLeavesTheProgramAtWork) {
     expectAWholeRecording();
 }
 
-TEST_F(ProgramInASession, AnEndWithoutAQuestionFinishesTheRecordingToo) {
+TEST_F(ProgramInASession, AnImmediateSessionEndFinishesTheRecording) {
     ASSERT_TRUE(program.recordForAWhile());
     manager.tellToDie();
     ASSERT_TRUE(program.endsWell()) << "no window stands in the way of the session's end";
@@ -203,7 +203,7 @@ TEST_F(ProgramOnADesktop, AFileIsOpenedInTheTrimWindowAtTheLaunchAndByASecondLau
     EXPECT_FALSE(library.output.contains("a song")) << "a file that is opened is not added to the library";
 }
 
-TEST_F(ProgramOnADesktop, ASecondLaunchHandsItsLaunchersTokenOn) {
+TEST_F(ProgramOnADesktop, ASecondLaunchPassesItsLauncherTokenOn) {
     ASSERT_TRUE(program.start());
     RootMessages messages;
     {
@@ -221,7 +221,7 @@ TEST_F(ProgramOnADesktop, ASecondLaunchHandsItsLaunchersTokenOn) {
     })) << messages.launches.toStdString();
 }
 
-TEST_F(ProgramOnADesktop, AStatusBarThatAppearsLaterHasTheItemAndSoHasEachThatFollows) {
+TEST_F(ProgramOnADesktop, EveryStatusBarThatAppearsLaterGetsTheItem) {
     ASSERT_TRUE(program.start());
     const QStringList others{u"Show Sonaphex"_s, u"Quit"_s};
     const auto hasOne = [](const StatusNotifierBar& bar) { return bar.items().size() == 1; };

@@ -62,7 +62,7 @@ protected:
 
 } // namespace
 
-TEST_F(RunningWindow, IsTheOnlyOneAndASecondLaunchLeavesItsFilesAlone) {
+TEST_F(RunningWindow, IsTheOnlyOneAndASecondLaunchKeepsItsFiles) {
     ASSERT_TRUE(launch());
     const QString raw = tmp_ + u"/com.korvane.Sonaphex/BuiltInA0.m4a"_s;
     QFile file(raw);
@@ -108,7 +108,7 @@ TEST_F(RunningWindow, FinishesItsRecordingWhenItIsAskedToEnd) {
     EXPECT_EQ(AudioCheck::decodedByFaad(path).size(), 2U) << "a plain file, closed";
 }
 
-TEST_F(RunningWindow, EntersARecordingOnceHoweverLateItAnswers) {
+TEST_F(RunningWindow, AddsARecordingOnceHoweverLateItAnswers) {
     ASSERT_TRUE(launch());
     ASSERT_EQ(::kill(pid_t(window_.processId()), SIGSTOP), 0);
     const auto recorded =
@@ -122,7 +122,7 @@ TEST_F(RunningWindow, EntersARecordingOnceHoweverLateItAnswers) {
     EXPECT_TRUE(listed.output.startsWith("recordings: 1\n")) << listed.output.constData();
 }
 
-TEST_F(RunningWindow, WipesWhatAKilledOneLeft) {
+TEST_F(RunningWindow, RemovesTheFilesOfAKilledInstance) {
     ASSERT_TRUE(launch());
     window_.kill();
     ASSERT_TRUE(window_.waitForFinished(10000));

@@ -43,7 +43,7 @@ TEST_F(AudioExtractWaveTest, GivesNothingForLessThanATenth) {
     EXPECT_TRUE(wave.extractSamplePoint().isEmpty());
 }
 
-TEST_F(AudioExtractWaveTest, TakesTheFirstLeftSampleOfTheBlockInWhichATenthIsFull) {
+TEST_F(AudioExtractWaveTest, TakesTheFirstLeftSampleOfTheBlockThatCompletesATenth) {
     addRamp(60);
     ASSERT_TRUE(wave.openFile(path));
     const auto points = wave.extractSamplePoint();
@@ -70,7 +70,7 @@ TEST_F(AudioExtractWaveTest, ReadsFromTheBeginInBlocksOf512FramesOfTheClientForm
     EXPECT_EQ(source.firstList.mBuffers[0].mNumberChannels, 2U);
 }
 
-TEST_F(AudioExtractWaveTest, DoesNotOpenWhatCannotBeReadOrTakesNoClientFormat) {
+TEST_F(AudioExtractWaveTest, RefusesUnreadableFilesAndAFailingClientFormat) {
     EXPECT_FALSE(wave.openFile(path));
     EXPECT_TRUE(wave.error());
     EXPECT_TRUE(wave.extractSamplePoint().isEmpty());
@@ -78,7 +78,7 @@ TEST_F(AudioExtractWaveTest, DoesNotOpenWhatCannotBeReadOrTakesNoClientFormat) {
     EXPECT_FALSE(wave.openFile(path));
 }
 
-TEST_F(AudioExtractWaveTest, LogsAReadErrorAndGoesOn) {
+TEST_F(AudioExtractWaveTest, LogsAReadErrorAndContinues) {
     addRamp(1).failingRead = 5;
     ASSERT_TRUE(wave.openFile(path));
     LogCatcher log;
@@ -86,7 +86,7 @@ TEST_F(AudioExtractWaveTest, LogsAReadErrorAndGoesOn) {
     EXPECT_EQ(log.lines(), QStringList{u"read Audio Data Error"_s});
 }
 
-TEST_F(AudioExtractWaveTest, FetchesTheSameValuesWhereTheFileNeedNotBeReadInFull) {
+TEST_F(AudioExtractWaveTest, FetchesTheSameValuesWithoutAFullRead) {
     for (const double seconds : {0.09, 0.1, 3.05, 61.234, 1300.0}) {
         auto& source = addRamp(seconds);
         source.sparse = false;
@@ -114,7 +114,7 @@ TEST(WaveImage, IsNullForTenValuesOrFewer) {
     EXPECT_FALSE(WaveImage::draw(QList<float>(11, 0.5F)).isNull());
 }
 
-TEST(WaveImage, DrawsOneRedLineAPointCentredOnTheMiddle) {
+TEST(WaveImage, DrawsOneCentredRedLinePerPoint) {
     QList<float> values(20, 0.0F);
     values[3] = 0.5F;
     values[4] = -0.5F;
@@ -136,7 +136,7 @@ TEST(WaveImage, DrawsOneRedLineAPointCentredOnTheMiddle) {
     EXPECT_EQ(picture.pixelColor(10, 100).alpha(), 0);
 }
 
-TEST(WaveImage, ReachesBeyondAnHour) {
+TEST(WaveImage, SupportsMoreThanAnHour) {
     QList<float> values(40000, 0.0F);
     values[39999] = 1.0F;
     const auto picture = WaveImage::draw(values);
@@ -144,7 +144,7 @@ TEST(WaveImage, ReachesBeyondAnHour) {
     EXPECT_EQ(picture.pixelColor(39998, 10).alpha(), 0);
 }
 
-TEST(WaveImage, StandsOnTheGreyOfTheStrip) {
+TEST(WaveImage, CanBeDrawnOnTheGreyOfTheStrip) {
     const auto ground = WaveImage::drawOnStrip(QList<float>(20, 0.0F)).pixelColor(5, 5);
     EXPECT_NEAR(ground.red(), 190, 1);
     EXPECT_NEAR(ground.alphaF(), 0.7, 0.01);

@@ -83,7 +83,7 @@ TEST_F(Selection, ATypedBeginKeepsTheEndWhereTheLimitsAllowIt) {
     expect(0, 40);
 }
 
-TEST_F(Selection, ATypedEndLandsWhereItWasTyped) {
+TEST_F(Selection, MovesItsEndToATypedTime) {
     select(10, 30);
     view.setAudioToTime(25);
     expect(10, 25);
@@ -110,7 +110,7 @@ TEST_F(Selection, StaysInsideAFileOfLessThanFiveSeconds) {
     expect(0, 3);
 }
 
-TEST_F(Selection, ADrawnSelectionOfAnyLengthMeetsTheLimitsAtTheNextDrag) {
+TEST_F(Selection, ADrawnSelectionIsLimitedByTheNextDrag) {
     select(0, 58);
     drag(AudioWaveTrimView::LeftHandle, 10);
     expect(18, 58);
@@ -134,7 +134,7 @@ TEST_F(Selection, TheHandlesAreTenPointsWideAndTheLeftOneWins) {
     EXPECT_EQ(view.calcuateDragRect(AudioWaveTrimView::RightHandle), QRectF(5, 0, 10, 200));
 }
 
-TEST_F(Selection, TellsItsTimesAfterTheEventAtHand) {
+TEST_F(Selection, ReportsItsTimesAfterTheCurrentEvent) {
     const QSignalSpy from(&view, &AudioWaveTrimView::audioFromTimeChanged);
     const QSignalSpy to(&view, &AudioWaveTrimView::audioToTimeChanged);
     view.setAudioFrom(50);
@@ -144,7 +144,7 @@ TEST_F(Selection, TellsItsTimesAfterTheEventAtHand) {
     expect(5, 12);
 }
 
-TEST_F(Selection, KeepsTenthsOfAPointThatNoPixelShows) {
+TEST_F(Selection, KeepsFractionsOfAPoint) {
     view.setAudioFrom(12.3F);
     view.setAudioLength(253.7F);
     EXPECT_NEAR(view.audioToTime(), 26.6, 0.001);
@@ -170,7 +170,7 @@ TEST_F(Selection, MovesByTheArrowKeys) {
     expect(10, 28.2);
 }
 
-TEST_F(Selection, TellsAScreenReaderWhatItIs) {
+TEST_F(Selection, IsDescribedToScreenReaders) {
     select(10, 40);
     auto* const spoken = QAccessible::queryAccessibleInterface(&view);
     ASSERT_TRUE(spoken);

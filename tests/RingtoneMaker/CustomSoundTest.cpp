@@ -33,7 +33,7 @@ protected:
     }();
 };
 
-TEST_F(CustomSoundTest, MakesThePlayerOfTheFile) {
+TEST_F(CustomSoundTest, CreatesThePlayerOfTheFile) {
     EXPECT_EQ(sound->path(), u"/music/a.m4a"_s);
     EXPECT_EQ(sound->sound(), &player());
     EXPECT_EQ(player().path(), u"/music/a.m4a"_s);
@@ -43,7 +43,7 @@ TEST_F(CustomSoundTest, MakesThePlayerOfTheFile) {
     expectStopped();
 }
 
-TEST_F(CustomSoundTest, GoesThroughTheRowsOfItsStates) {
+TEST_F(CustomSoundTest, FollowsItsStateTable) {
     sound->stop();
     expectStopped();
     EXPECT_TRUE(player().calls.isEmpty()) << "a stopped player is not stopped again";
@@ -77,7 +77,7 @@ TEST_F(CustomSoundTest, StaysStoppedWhenAStoppedSoundIsPausedAndStartsWithTheNex
     EXPECT_EQ(player().calls, QStringList{u"play"_s});
 }
 
-TEST_F(CustomSoundTest, SeeksWhilePlayingAndPlaysOnFromThere) {
+TEST_F(CustomSoundTest, SeeksWhilePlayingAndContinuesFromThere) {
     sound->play();
     sound->setCurrentTime(4);
     expectPlaying();
@@ -100,7 +100,7 @@ TEST_F(CustomSoundTest, SeeksWhileStoppedWithoutStarting) {
     EXPECT_EQ(sound->currentTime(), 4.0);
 }
 
-TEST_F(CustomSoundTest, ReadsAsStoppedAtTheEndOfTheFile) {
+TEST_F(CustomSoundTest, ReportsStoppedAtTheEndOfTheFile) {
     sound->play();
     player().end();
     expectStopped();

@@ -45,7 +45,7 @@ protected:
         folder.filePath(u"source.m4a"_s), folder.path(), folder.filePath(u"Ringtone.m4r"_s), 10, 20, 5, 5};
 };
 
-TEST_F(RingtoneFileTest, IsMpeg4WithFadesAndTheLengthOfTheStretch) {
+TEST_F(RingtoneFileTest, IsMpeg4WithFadesAndTheLengthOfTheRange) {
     const auto result = write();
     EXPECT_EQ(result.path, task.target);
     EXPECT_EQ(result.problem + result.damage, QString());
@@ -58,7 +58,7 @@ TEST_F(RingtoneFileTest, IsMpeg4WithFadesAndTheLengthOfTheStretch) {
     EXPECT_EQ(everything(), (QStringList{u"Ringtone.m4r"_s, u"source.m4a"_s}));
 }
 
-TEST_F(RingtoneFileTest, ReplacesTheFileThatItWasGivenAndAnOldTemporaryOne) {
+TEST_F(RingtoneFileTest, ReplacesTheGivenFileAndAnOldTemporaryOne) {
     put(task.target, "old");
     put(folder.filePath(u"TempRingtoneMakerAudio.m4r"_s), "left over");
     EXPECT_EQ(write().path, task.target);
@@ -81,7 +81,7 @@ TEST_F(RingtoneFileTest, LeavesNothingWhenItIsStopped) {
     EXPECT_EQ(everything(), QStringList{u"source.m4a"_s});
 }
 
-TEST_F(RingtoneFileTest, SaysWhyThereIsNone) {
+TEST_F(RingtoneFileTest, ReportsWhyThereIsNone) {
     files.clientFormatStatus = -1;
     EXPECT_FALSE(write().problem.isEmpty());
     files.clientFormatStatus = noErr;
@@ -95,7 +95,7 @@ TEST_F(RingtoneFileTest, SaysWhyThereIsNone) {
     EXPECT_EQ(everything(), QStringList{u"source.m4a"_s});
 }
 
-TEST_F(RingtoneFileTest, TellsOfDamageInsideTheStretch) {
+TEST_F(RingtoneFileTest, ReportsDamageInsideTheRange) {
     files.sources[task.source].failingRead = 3;
     EXPECT_EQ(write().path, task.target);
 }

@@ -80,7 +80,7 @@ protected:
     QByteArray content;
 };
 
-TEST_F(RingtoneMakerOnADisk, SaysThatTheDiskIsFull) {
+TEST_F(RingtoneMakerOnADisk, ReportsAFullDisk) {
     open(45);
     {
         const FullDisk full(100000);
@@ -89,7 +89,7 @@ TEST_F(RingtoneMakerOnADisk, SaysThatTheDiskIsFull) {
     expectFailure(u"TempRingtoneMakerAudio.m4r"_s);
 }
 
-TEST_F(RingtoneMakerOnADisk, SaysThatTheFolderIsReadOnly) {
+TEST_F(RingtoneMakerOnADisk, ReportsAReadOnlyFolder) {
     open(45);
     const QString made = world.folder.filePath(u"made"_s);
     ASSERT_EQ(::chmod(QFile::encodeName(made).constData(), 0555), 0);
@@ -101,7 +101,7 @@ TEST_F(RingtoneMakerOnADisk, SaysThatTheFolderIsReadOnly) {
     expectFailure(u"made/Ringtone.m4r"_s);
 }
 
-TEST_F(RingtoneMakerOnADisk, WritesWhenNothingIsInTheWay) {
+TEST_F(RingtoneMakerOnADisk, WritesARingtone) {
     open(45);
     pressTheButton();
     EXPECT_TRUE(world.alerts.shown.isEmpty());
@@ -146,7 +146,7 @@ void makeTenHours(const QString& path) {
     ASSERT_TRUE(file.resize(qint64(head.size()) + bytes));
 }
 
-TEST_F(RingtoneMakerOnADisk, TenHoursTakeLittleMemory) {
+TEST_F(RingtoneMakerOnADisk, NeedsLittleMemoryForTenHours) {
     open(5); // opens the window once first, as in a running program
     ASSERT_TRUE(world.outlineDone());
     const qint64 before = ownMemory();

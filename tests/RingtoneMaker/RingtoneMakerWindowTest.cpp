@@ -72,7 +72,7 @@ TEST_F(RingtoneMaker, ShowsAnOutlineOfMoreThanTenValuesOnly) {
     EXPECT_EQ(wave.viewContentCache()->size(), QSizeF(11, 200));
 }
 
-TEST_F(RingtoneMaker, ClosingOrOpeningAnotherFileDiscardsTheOutlineUnderWay) {
+TEST_F(RingtoneMaker, ClosingOrOpeningAnotherFileStopsTheOutline) {
     const QString slow = world.recording(u"slow.m4a"_s, 36000);
     world.media.sources[slow].sparse = false; // must be read from begin to end
     world.maker.openFile(slow, {});
@@ -87,7 +87,7 @@ TEST_F(RingtoneMaker, ClosingOrOpeningAnotherFileDiscardsTheOutlineUnderWay) {
     EXPECT_LT(asked, std::size_t(36000) * 86);
 }
 
-TEST_F(RingtoneMaker, SaysThatAFileCannotBeRead) {
+TEST_F(RingtoneMaker, ReportsAnUnreadableFile) {
     world.maker.openFile(world.file(u"broken.m4a"_s), {});
     ASSERT_TRUE(world.outlineDone());
     EXPECT_TRUE(world.outlet<AudioWaveEditView>("audioWaveEditView").message().contains(u"broken.m4a"_s));
@@ -145,7 +145,7 @@ TEST_F(RingtoneMaker, TheHandlesAndTheMiddleFollowTheMouse) {
     EXPECT_NEAR(selection().audioFromTime(), 17, 0.01) << "a press without a move changes nothing";
 }
 
-TEST_F(RingtoneMaker, TheCursorTellsTheHandlesFromTheMiddle) {
+TEST_F(RingtoneMaker, TheCursorDiffersOverHandlesAndMiddle) {
     world.open(200);
     world.show();
     select(10, 30);
@@ -158,7 +158,7 @@ TEST_F(RingtoneMaker, TheCursorTellsTheHandlesFromTheMiddle) {
     EXPECT_EQ(selection().cursor().shape(), Qt::SizeHorCursor);
 }
 
-TEST_F(RingtoneMaker, ADragHeldAtTheEdgeScrollsOn) {
+TEST_F(RingtoneMaker, ADragHeldAtTheEdgeKeepsScrolling) {
     world.open(600);
     world.show();
     auto& area = world.outlet<QScrollArea>("audioEditScrollView");
@@ -174,7 +174,7 @@ TEST_F(RingtoneMaker, ADragHeldAtTheEdgeScrollsOn) {
     EXPECT_EQ(bar().value(), stopped);
 }
 
-TEST_F(RingtoneMaker, ThePointerScrollsAlongWhileSoundPlays) {
+TEST_F(RingtoneMaker, TheViewScrollsWithThePlayPointer) {
     world.open(600);
     world.show();
     auto& pointer = world.outlet<AudioPointerLineView>("audioPointerLineView");
@@ -201,7 +201,7 @@ TEST_F(RingtoneMaker, TheRulerMovesThePlayPosition) {
     EXPECT_EQ(sound().time, 100);
 }
 
-TEST_F(RingtoneMaker, PlayAndPreviewAreOneSound) {
+TEST_F(RingtoneMaker, PlayAndPreviewShareOneSound) {
     world.open(100);
     world.maker.setPlaySound(true);
     EXPECT_TRUE(world.maker.playSound());
@@ -274,14 +274,14 @@ TEST_F(RingtoneMaker, TheVolumeFollowsTheEnabledFades) {
     EXPECT_NEAR(volumeAt(12), 0.5, 0.001) << "the player reaches the volume half a second later";
 }
 
-TEST_F(RingtoneMaker, SaysWhyNothingPlays) {
+TEST_F(RingtoneMaker, ReportsWhyNothingPlays) {
     world.sounds.playFails = true;
     world.open(100);
     world.maker.setPlaySound(true);
     EXPECT_TRUE(world.outlet<QLabel>("problemLabel").text().contains(u"no sound server answers"_s));
 }
 
-TEST_F(RingtoneMaker, WritesTheSelectionWithItsFadesWhateverTheBoxesSay) {
+TEST_F(RingtoneMaker, WritesTheSelectionWithFadesWhateverTheBoxesShow) {
     world.open(100);
     select(10, 20);
     world.show();
@@ -312,7 +312,7 @@ TEST_F(RingtoneMaker, OpensTheRingtoneInThePlayerWhenAsked) {
     EXPECT_EQ(world.entries[0].value(AudioRecordEntry::Title).toString(), u"Song"_s);
 }
 
-TEST_F(RingtoneMaker, StaysUpAndPaintsWhileItWrites) {
+TEST_F(RingtoneMaker, StaysOpenAndRepaintsWhileItWrites) {
     world.open(3600);
     world.maker.trimAudioFromPoint({0, 0}, {36000, 0});
     world.show();
@@ -338,7 +338,7 @@ TEST_F(RingtoneMaker, StaysUpAndPaintsWhileItWrites) {
     EXPECT_TRUE(QDir(world.folder.filePath(u"made"_s)).isEmpty());
 }
 
-TEST_F(RingtoneMaker, SaysInOneLineWhatWentWrong) {
+TEST_F(RingtoneMaker, ReportsAnErrorInOneLine) {
     world.open(20);
     world.target = world.folder.filePath(u"no/such/Ringtone.m4r"_s);
     world.maker.converterAudio();
@@ -357,7 +357,7 @@ TEST_F(RingtoneMaker, SaysInOneLineWhatWentWrong) {
     EXPECT_TRUE(world.alerts.shown[1].text.contains(u"Track2.m4a"_s));
 }
 
-TEST_F(RingtoneMaker, ServesTenHoursWithoutAStutter) {
+TEST_F(RingtoneMaker, HandlesTenHoursWithoutDelay) {
     world.open(36000);
     world.show();
     ASSERT_TRUE(world.outlineDone());
@@ -386,7 +386,7 @@ TEST_F(RingtoneMaker, ServesTenHoursWithoutAStutter) {
     EXPECT_EQ(selection().audioToTime(), 36000);
 }
 
-TEST_F(RingtoneMaker, TellsAScreenReaderEachPart) {
+TEST_F(RingtoneMaker, DescribesEachPartToScreenReaders) {
     world.open(100);
     world.show();
     struct Expected {

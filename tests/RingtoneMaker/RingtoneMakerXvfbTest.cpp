@@ -146,7 +146,7 @@ TEST_F(RingtoneMakerOnADesktop, APressWithoutAMoveChangesNothing) {
     });
 }
 
-TEST_F(RingtoneMakerOnADesktop, APointerAtRestBesideTheEdgeScrollsOnWhileASelectionIsDrawn) {
+TEST_F(RingtoneMakerOnADesktop, AnUnmovedPointerBeyondTheEdgeKeepsScrollingWhileASelectionIsDrawn) {
     withWindow(600, [this] {
         select(0, 5);
         const QPoint outside = RealPointer::onScreen(area(), QPointF(area().width() + 20, 120));
@@ -164,7 +164,7 @@ TEST_F(RingtoneMakerOnADesktop, APointerAtRestBesideTheEdgeScrollsOnWhileASelect
     });
 }
 
-TEST_F(RingtoneMakerOnADesktop, ABoxHeldAtTheEdgeTravelsOnAndBack) {
+TEST_F(RingtoneMakerOnADesktop, ABoxHeldAtTheEdgeKeepsMovingAndReturns) {
     withWindow(600, [this] {
         select(20, 40);
         const QPoint right = RealPointer::onScreen(area(), QPointF(area().width() + 20, 120));

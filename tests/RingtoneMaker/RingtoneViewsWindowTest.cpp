@@ -41,7 +41,7 @@ TEST(AudioEditTimeView, HasShortMiddleAndLongTicksWithTheirTimes) {
     EXPECT_EQ(labels, (QStringList{u"0"_s, u"20"_s, u"40"_s, u"60"_s}));
 }
 
-TEST(AudioEditTimeView, IsDrawnAnewForAnotherWidthOnly) {
+TEST(AudioEditTimeView, IsRedrawnOnlyForAnotherWidth) {
     AudioEditTimeView ruler;
     ruler.resize(650, 32);
     (void)Screenshot::take(ruler, u"ruler"_s);
@@ -54,7 +54,7 @@ TEST(AudioEditTimeView, IsDrawnAnewForAnotherWidthOnly) {
     EXPECT_NE(ruler.viewContentCache(), cache);
 }
 
-TEST(AudioEditTimeView, LooksTheSameAcrossTheBordersOfItsTiles) {
+TEST(AudioEditTimeView, LooksTheSameAcrossTileBoundaries) {
     // The label of 00:01:40, which begins at 1005, crosses the boundary at 1024.
     Theme::install(*qApp, nullptr);
     AudioEditTimeView ruler;
@@ -100,7 +100,7 @@ TEST(AudioWaveEditView, ADragDrawsASelectionAndAPressAloneChangesNothing) {
     EXPECT_EQ(ears.drawn[0], (QPair<QPointF, QPointF>({300, 20}, {250, 40})));
 }
 
-TEST(AudioWaveEditView, ShowsOneRedLineForEachValueAsTheRuleHasIt) {
+TEST(AudioWaveEditView, ShowsOneRedLineForEachValue) {
     Theme::install(*qApp, nullptr);
     QList<float> values(600, 0.5F);
     values[3] = -1;
@@ -134,7 +134,7 @@ TEST(AudioPointerLineView, ItsPositionIsTheMiddleOfItsFrame) {
     EXPECT_TRUE(pointer.testAttribute(Qt::WA_TransparentForMouseEvents));
 }
 
-TEST(ImageStrip, KeepsSomeTilesOnlyAndDrawsWhatIsSeen) {
+TEST(ImageStrip, KeepsSomeTilesOnlyAndDrawsTheVisiblePart) {
     int draws = 0;
     ImageStrip strip(QSizeF(360000, 200), [&](QPainter&, const QRectF& area) {
         EXPECT_LE(area.width(), ImageStrip::kTileWidth);
@@ -156,7 +156,7 @@ TEST(ImageStrip, KeepsSomeTilesOnlyAndDrawsWhatIsSeen) {
     EXPECT_LE(draws, 2);
 }
 
-TEST(AudioTimeField, AcceptsOnlyWhatKeepsItsForm) {
+TEST(AudioTimeField, AcceptsOnlyTextOfItsForm) {
     AudioTimeField field;
     const QSignalSpy edited(&field, &AudioTimeField::secondsEdited);
     field.setSeconds(10.4F);
@@ -180,7 +180,7 @@ TEST(AudioTimeField, AcceptsOnlyWhatKeepsItsForm) {
     EXPECT_EQ(edited.last()[0].toInt(), 60);
 }
 
-TEST(AudioTimeField, TheSameSecondLeavesTheTenthsAlone) {
+TEST(AudioTimeField, TheSameSecondKeepsTheTenths) {
     AudioTimeField field;
     const QSignalSpy edited(&field, &AudioTimeField::secondsEdited);
     field.setSeconds(10.4F);

@@ -45,7 +45,7 @@ TEST(AudioTimeFormatter, ShowsTextsAndNothingElse) {
     EXPECT_TRUE(AudioTimeFormatter::stringForObjectValue({}).isNull());
 }
 
-TEST(AudioTimeFormatter, TakesAnEmptyTextForDigits) {
+TEST(AudioTimeFormatter, CountsAnEmptyTextAsDigits) {
     EXPECT_TRUE(AudioTimeFormatter::isIntStr(u""_s));
     EXPECT_TRUE(AudioTimeFormatter::isIntStr(u"0123456789"_s));
     EXPECT_FALSE(AudioTimeFormatter::isIntStr(u"1 "_s));
@@ -74,12 +74,12 @@ TEST(TimeTransformers, DeclareANumberAlthoughTheyGiveAText) {
     EXPECT_EQ(FilePath2NameTransformer().transformedValueClass(), QMetaType::fromType<QString>());
 }
 
-TEST(IntegerDiv10Transformer, CutsOffTowardsZero) {
+TEST(IntegerDiv10Transformer, TruncatesTowardsZero) {
     EXPECT_EQ(IntegerDiv10Transformer().transformedValue(25), QVariant(2));
     EXPECT_EQ(IntegerDiv10Transformer().transformedValue(-25), QVariant(-2));
 }
 
-TEST(FilePath2NameTransformer, LeavesFolderAndExtensionOut) {
+TEST(FilePath2NameTransformer, RemovesFolderAndExtension) {
     const FilePath2NameTransformer transformer;
     EXPECT_EQ(transformer.transformedValue(u"/home/a/Music/Ringtone3.m4r"_s), QVariant(u"Ringtone3"_s));
     EXPECT_EQ(transformer.transformedValue(u"/a.b/Track 1.5.m4a"_s), QVariant(u"Track 1.5"_s));

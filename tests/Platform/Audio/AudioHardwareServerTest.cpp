@@ -45,7 +45,7 @@ TEST_F(AudioHardwareTest, KnowsTheDevicesWhenItIsFirstAsked) {
     EXPECT_NE(deviceNamed(*hardware_, u"Silent Output"_s), 0u);
 }
 
-TEST_F(AudioHardwareTest, ListsADeviceThatComesAndForgetsOneThatGoes) {
+TEST_F(AudioHardwareTest, ListsAnAddedDeviceAndDropsARemovedOne) {
     QSignalSpy changed(hardware_.get(), &AudioHardware::devicesChanged);
     TestSource source({.name = "test.mic", .description = "Test Microphone"});
     ASSERT_TRUE(source.start());
@@ -76,7 +76,7 @@ TEST_F(AudioHardwareTest, ListsDevicesInTheOrderOfTheirFirstAppearance) {
     EXPECT_LT(std::ranges::find(devices, one), std::ranges::find(devices, two));
 }
 
-TEST_F(AudioHardwareTest, GivesAReturningNameItsNumberBackAndNobodyElses) {
+TEST_F(AudioHardwareTest, GivesAReturningDeviceItsOldNumber) {
     TestSource first({.name = "test.return.one", .description = "Return One"});
     ASSERT_TRUE(first.start());
     const auto one = waitForDevice(*hardware_, u"Return One"_s);
@@ -92,7 +92,7 @@ TEST_F(AudioHardwareTest, GivesAReturningNameItsNumberBackAndNobodyElses) {
     EXPECT_EQ(deviceNamed(*hardware_, u"Return Two"_s), two);
 }
 
-TEST_F(AudioHardwareTest, TellsTwoDevicesOfOneNameApart) {
+TEST_F(AudioHardwareTest, DistinguishesTwoDevicesOfOneName) {
     TestSource first({.name = "test.twin", .description = "Twin"});
     TestSource second({.name = "test.twin", .description = "Other Twin"});
     ASSERT_TRUE(first.start());
@@ -176,7 +176,7 @@ TEST_F(AudioHardwareTest, SetsVolumeAndMuteOfTheDeviceItself) {
     EXPECT_TRUE(waitFor([&] { return hardware_->getVolumeScalar(device, 2, volume) == noErr && volume == 0.5f; }));
 }
 
-TEST_F(AudioHardwareTest, SeesAVolumeThatSomebodyElseSet) {
+TEST_F(AudioHardwareTest, ReportsAVolumeThatAnotherProgramSet) {
     TestSource source({.name = "test.other", .description = "Others Volume"});
     ASSERT_TRUE(source.start());
     const auto device = waitForDevice(*hardware_, u"Others Volume"_s);
@@ -283,7 +283,7 @@ TEST_F(AudioHardwareTest, FollowsTheDefaultOutput) {
     }));
 }
 
-TEST_F(AudioHardwareTest, LosesTheServerAndFindsItAgain) {
+TEST_F(AudioHardwareTest, ReconnectsAfterTheServerIsLost) {
     const auto before = deviceNamed(*hardware_, u"Silent Output"_s);
     QSignalSpy connected(hardware_.get(), &AudioHardware::connectedChanged);
     ASSERT_TRUE(session_.stopServer());
@@ -299,7 +299,7 @@ TEST_F(AudioHardwareTest, LosesTheServerAndFindsItAgain) {
     EXPECT_TRUE(hardware_->lastError().isEmpty());
 }
 
-TEST(AudioHardwareWithoutServer, HasNoDevicesAndSaysWhy) {
+TEST(AudioHardwareWithoutServer, HasNoDevicesAndReportsTheReason) {
     PrivateAudioSession::end();
     const QTemporaryDir bare;
     qputenv("PIPEWIRE_RUNTIME_DIR", bare.path().toLocal8Bit());

@@ -114,7 +114,7 @@ std::size_t occupied(const std::vector<Stretch>& stretches) {
 
 } // namespace
 
-TEST(CaptureRing, GivesBackWhatItTookAcrossItsEnd) {
+TEST(CaptureRing, KeepsBlocksIntactAcrossItsEnd) {
     CaptureRing ring(2, 256);
     Producer producer(ring);
     std::vector<float> left;
@@ -133,7 +133,7 @@ TEST(CaptureRing, GivesBackWhatItTookAcrossItsEnd) {
     EXPECT_EQ(ring.lostFrames(), 0u);
 }
 
-TEST(CaptureRing, TakesNothingOfABlockThatDoesNotFitAndCountsIt) {
+TEST(CaptureRing, RejectsAndCountsABlockThatDoesNotFit) {
     CaptureRing ring(1, 256);
     Producer producer(ring);
     EXPECT_TRUE(producer.push(200));
@@ -143,7 +143,7 @@ TEST(CaptureRing, TakesNothingOfABlockThatDoesNotFitAndCountsIt) {
     EXPECT_EQ(ring.lostFrames(), 100u);
 }
 
-TEST(CaptureRing, TellsWithTheNextBlockHowMuchIsMissingBeforeIt) {
+TEST(CaptureRing, ReportsLostFramesWithTheNextBlock) {
     CaptureRing ring(1, 256);
     Producer producer(ring);
     ASSERT_TRUE(producer.push(256));
@@ -160,7 +160,7 @@ TEST(CaptureRing, TellsWithTheNextBlockHowMuchIsMissingBeforeIt) {
     EXPECT_EQ(ring.lostFrames(), 107u);
 }
 
-TEST(CaptureRing, FullOfManySmallBlocksLosesCountedFrames) {
+TEST(CaptureRing, CountsLostFramesWhenFullOfSmallBlocks) {
     CaptureRing ring(1, 1024);
     Producer producer(ring);
     std::uint64_t stored = 0;
@@ -183,7 +183,7 @@ TEST(CaptureRing, AMissingChannelIsSilent) {
     EXPECT_EQ(b[3], 0.0f);
 }
 
-TEST(CaptureRing, OccupiesMemoryForWhatWaitedInItOnly) {
+TEST(CaptureRing, TouchesOnlyTheMemoryThatItNeeded) {
     constexpr std::size_t frames = 1 << 25;
     constexpr std::size_t whole = 2 * frames * sizeof(float);
     const auto before = memoryTaken();
@@ -240,7 +240,7 @@ TEST(CaptureRing, LosesAndRepeatsNothingBetweenTwoThreads) {
     EXPECT_EQ(ring.lostFrames(), 0u);
 }
 
-TEST(CaptureRing, CountsEveryFrameThatASlowReaderMisses) {
+TEST(CaptureRing, CountsEveryFrameLostToASlowReader) {
     CaptureRing ring(1, 2048);
     constexpr std::uint64_t total = 300'000;
     std::atomic<bool> done{false};
@@ -263,7 +263,7 @@ TEST(CaptureRing, CountsEveryFrameThatASlowReaderMisses) {
     EXPECT_EQ(received + ring.lostFrames(), total);
 }
 
-TEST(CycleAssembler, MakesCyclesOfOneSizeFromBlocksOfAny) {
+TEST(CycleAssembler, MakesCyclesOfOneSizeFromBlocksOfAnySize) {
     CaptureRing ring(1, 4096);
     Producer producer(ring);
     CycleAssembler assembler(ring, rate, 256);
@@ -303,7 +303,7 @@ TEST(CycleAssembler, EndsACycleEarlyWhereFramesWereLost) {
     EXPECT_FALSE(assembler.next(cycle, false));
 }
 
-TEST(CycleAssembler, TurnsALostStretchIntoSilenceOfEqualLength) {
+TEST(CycleAssembler, ReplacesLostFramesWithSilenceOfEqualLength) {
     CaptureRing ring(1, 4096);
     Producer producer(ring);
     CycleAssembler assembler(ring, rate, 256);
@@ -323,7 +323,7 @@ TEST(CycleAssembler, TurnsALostStretchIntoSilenceOfEqualLength) {
         ASSERT_EQ(samples[i], i >= 300 && i < 1300 ? 0.0f : Signal::ramp(1000 + i, 0)) << i;
 }
 
-TEST(CycleAssembler, StartsTimeAnewWithANewConnection) {
+TEST(CycleAssembler, RestartsTheTimeWithANewConnection) {
     CaptureRing ring(1, 4096);
     Producer producer(ring);
     CycleAssembler assembler(ring, rate, 256);
@@ -342,7 +342,7 @@ TEST(CycleAssembler, StartsTimeAnewWithANewConnection) {
     EXPECT_FALSE(cycle.startsAnew);
 }
 
-TEST(CycleAssembler, DeliversAPartWhenTheRestWillNotCome) {
+TEST(CycleAssembler, DeliversAnIncompleteCycleOnFlush) {
     CaptureRing ring(1, 4096);
     Producer producer(ring);
     CycleAssembler assembler(ring, rate, 256);
@@ -354,7 +354,7 @@ TEST(CycleAssembler, DeliversAPartWhenTheRestWillNotCome) {
     EXPECT_FALSE(assembler.next(cycle, false, true));
 }
 
-TEST(CycleAssembler, FillsAHoleThatIsLongerThanTheRing) {
+TEST(CycleAssembler, FillsAGapLongerThanTheRing) {
     CaptureRing ring(2, 256);
     Producer producer(ring);
     CycleAssembler assembler(ring, rate, 64);

@@ -138,7 +138,7 @@ TEST_F(DataThread, AllocatesNothingAndTakesNoLockWhileItCaptures) {
     EXPECT_EQ(locks, 0u);
 }
 
-TEST_F(DataThread, IsCountedWhenItAllocates) {
+TEST_F(DataThread, AnAllocationOnItIsDetected) {
     // Checks the counter: a source whose sample function allocates is detected.
     TestSource source(
         {.name = "test.bad", .description = "Allocating", .sample = [](std::uint64_t frame, std::uint32_t) {
@@ -154,7 +154,7 @@ TEST_F(DataThread, IsCountedWhenItAllocates) {
 }
 #endif
 
-TEST_F(DataThread, ComesAndGoesWithItsUnitAHundredTimesWithoutGrowth) {
+TEST_F(DataThread, LeaksNothingOverAHundredUnits) {
     TestSource source({.name = "test.cycle", .description = "Come and go"});
     ASSERT_TRUE(source.start());
     const auto device = waitForDevice(*hardware_, u"Come and go"_s);

@@ -25,12 +25,12 @@ TEST(Mixdown, LowersCentreAndSurroundsByThreeDecibels) {
         EXPECT_EQ(stereoGainsOf(right, 4), (StereoGains{0, minus3dB})) << right;
 }
 
-TEST(Mixdown, HearsChannelsInTheMiddleOnBothSides) {
+TEST(Mixdown, MixesCentreChannelsToBothSides) {
     for (const char* middle : {"LFE", "RC", "TC", "TFC", "TRC"})
         EXPECT_EQ(stereoGainsOf(middle, 3), (StereoGains{0.5F, 0.5F})) << middle;
 }
 
-TEST(Mixdown, SpreadsChannelsWithoutAPlaceOverBothSides) {
+TEST(Mixdown, SpreadsChannelsWithoutAPositionOverBothSides) {
     EXPECT_EQ(stereoGainsOf("AUX0", 0), (StereoGains{1, 0}));
     EXPECT_EQ(stereoGainsOf("AUX1", 1), (StereoGains{0, 1}));
     EXPECT_EQ(stereoGainsOf("AUX2", 2), (StereoGains{minus3dB, 0}));

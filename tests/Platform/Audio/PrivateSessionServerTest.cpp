@@ -66,7 +66,7 @@ TEST(PrivateSession, LeavesNothingWhenItIsClosed) {
     EXPECT_TRUE(processesOf(folder).isEmpty());
 }
 
-TEST(PrivateSession, EndsWithItsOwnerThatIsKilled) {
+TEST(PrivateSession, EndsWhenItsOwnerIsKilled) {
     PrivateAudioSession::end();
     // The real program records on a machine without a sound server.
     const QTemporaryDir home;
@@ -96,7 +96,7 @@ TEST(PrivateSession, EndsWithItsOwnerThatIsKilled) {
     EXPECT_TRUE(waitFor([&] { return !QFileInfo::exists(folder); }));
 }
 
-TEST(PrivateSession, KeepsNothingOfItsCaller) {
+TEST(PrivateSession, InheritsNothingFromItsCaller) {
     PrivateAudioSession::end();
     CallersThings things;
     auto started = LinuxPrivateSession::start({});
@@ -153,14 +153,14 @@ QByteArray keeperWhoseFolderIsRemoved(const QString& base, bool& removed) {
 
 } // namespace
 
-TEST(PrivateSession, MakesAnotherFolderWhenAKeeperThatBeginsBesideItRemovesTheFirst) {
+TEST(PrivateSession, CreatesAnotherFolderWhenAnotherKeeperRemovesTheFirst) {
     const QTemporaryDir base;
     bool removed = false;
     EXPECT_EQ(keeperWhoseFolderIsRemoved(base.path(), removed), "failed the sound server /bin/false did not come up\n");
     EXPECT_TRUE(removed);
 }
 
-TEST(PrivateSession, ServerDiesWithAKeeperThatIsKilled) {
+TEST(PrivateSession, ServerEndsWhenItsKeeperIsKilled) {
     PrivateAudioSession::end();
     auto started = LinuxPrivateSession::start({});
     ASSERT_TRUE(started) << started.error().text.toStdString();
@@ -172,7 +172,7 @@ TEST(PrivateSession, ServerDiesWithAKeeperThatIsKilled) {
     EXPECT_FALSE(QFileInfo::exists(folder));
 }
 
-TEST(PrivateSession, NamesThePackageThatIsMissing) {
+TEST(PrivateSession, NamesAMissingPackage) {
     PrivateAudioSession::end();
     const QByteArray path = qgetenv("PATH");
     const QTemporaryDir bare;
@@ -185,7 +185,7 @@ TEST(PrivateSession, NamesThePackageThatIsMissing) {
     qputenv("PATH", path);
 }
 
-TEST(PrivateSession, HearsNoServerWhereThereIsNone) {
+TEST(PrivateSession, FindsNoServerWhereThereIsNone) {
     PrivateAudioSession::end();
     const QTemporaryDir bare;
     qputenv("PIPEWIRE_RUNTIME_DIR", bare.path().toLocal8Bit());
@@ -209,7 +209,7 @@ private:
 
 } // namespace
 
-TEST(PrivateSession, TellsAServerThatStandsStillFromNone) {
+TEST(PrivateSession, DistinguishesAStoppedServerFromNone) {
     auto& session = PrivateAudioSession::shared();
     EXPECT_EQ(PrivateSession::lookForServer(10000), PrivateSession::Server::Answering);
     ASSERT_GT(session.serverProcess(), 0);
@@ -226,7 +226,7 @@ TEST(PrivateSession, TellsAServerThatStandsStillFromNone) {
     ASSERT_TRUE(session.startServer());
 }
 
-TEST(PrivateSession, WaitsForAServerThatStandsStillAndSaysSoOnce) {
+TEST(PrivateSession, WaitsForAStoppedServerAndReportsItOnce) {
     auto& session = PrivateAudioSession::shared();
     std::optional<StoodStill> still(std::in_place, session.serverProcess());
     testing::internal::CaptureStderr();
@@ -260,7 +260,7 @@ TEST(PrivateSession, PlaysTheRampOfATestSourceUnbroken) {
     }
 }
 
-TEST(PrivateSession, CarriesAPlayerToTheMonitorOfItsOutput) {
+TEST(PrivateSession, PlaysAPlayerOnTheMonitorOfItsOutput) {
     PrivateAudioSession::shared();
     TestCapture capture({});
     ASSERT_TRUE(capture.start());
@@ -271,7 +271,7 @@ TEST(PrivateSession, CarriesAPlayerToTheMonitorOfItsOutput) {
     EXPECT_TRUE(waitFor([&] { return capture.recentPeak() == 0; }));
 }
 
-TEST(PrivateSession, ComesBackInTheSameFolder) {
+TEST(PrivateSession, RestartsInTheSameFolder) {
     auto& session = PrivateAudioSession::shared();
     ASSERT_TRUE(session.stopServer());
     EXPECT_FALSE(PrivateSession::serverAnswers());

@@ -15,7 +15,7 @@ TEST(RegistryPath, NamesBusDeviceAndNode) {
     EXPECT_NE(RegistryPath::hash("out"), RegistryPath::hash("out.second"));
 }
 
-TEST(RegistryPath, LetsNoNameSeparateItsParts) {
+TEST(RegistryPath, EscapesSeparatorsInNames) {
     for (const char* name : {"plain", "a/b", "a:b@c", "50%25", "%", "%zz", "line\nbreak", "\u00e9", "", "a%2Fb"}) {
         const auto path = RegistryPath::path("pci", "x/y:z", name);
         EXPECT_EQ(std::count(path.begin(), path.end(), '/'), 3) << path;
@@ -24,7 +24,7 @@ TEST(RegistryPath, LetsNoNameSeparateItsParts) {
     }
 }
 
-TEST(RegistryPath, FindsNoNodeInWhatIsNoPath) {
+TEST(RegistryPath, FindsNoNodeInAMalformedPath) {
     EXPECT_EQ(RegistryPath::nodeNameOf(""), "");
     EXPECT_EQ(RegistryPath::nodeNameOf("kCaptureDriverPathKey"), "");
     EXPECT_EQ(RegistryPath::nodeNameOf("IOService:/PCI/a/node@00000000"), "");

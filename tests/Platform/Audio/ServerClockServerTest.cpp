@@ -67,15 +67,15 @@ protected:
 
 } // namespace
 
-TEST_F(ServerClock, LosesNothingOfOursAt48000BesideFourBusyLoops) {
+TEST_F(ServerClock, TheProgramLosesNothingAt48000BesideFourBusyLoops) {
     expectNothingOfOursIsLost(48000);
 }
 
-TEST_F(ServerClock, LosesNothingOfOursAt44100BesideFourBusyLoops) {
+TEST_F(ServerClock, TheProgramLosesNothingAt44100BesideFourBusyLoops) {
     expectNothingOfOursIsLost(44100);
 }
 
-TEST_F(ServerClock, CountsWhatOurRingHadNoRoomForApartFromTheRest) {
+TEST_F(ServerClock, CountsRingOverrunsSeparatelyFromOtherLosses) {
     TestSource source({.name = "test.overrun", .description = "Overrun", .ownClock = false});
     ASSERT_TRUE(source.start());
     UnitCapture unit(*hardware_, waitForDevice(*hardware_, u"Overrun"_s), 0, false);

@@ -37,7 +37,7 @@ protected:
 
 } // namespace
 
-TEST_F(GrabbedKeys, ActWhileAnotherWindowHasTheFocus) {
+TEST_F(GrabbedKeys, WorkWhileAnotherWindowHasTheFocus) {
     EXPECT_EQ(hotKeys->way(), HotKeys::Way::X11Grab);
     ASSERT_NE(hotKeys->registerHotKey(1, command | control, {7, 1}), 0U);
     EXPECT_TRUE(fires(u"super+ctrl+s"_s, 7));
@@ -47,7 +47,7 @@ TEST_F(GrabbedKeys, ActWhileAnotherWindowHasTheFocus) {
     EXPECT_EQ(pressed.size(), 1);
 }
 
-TEST_F(GrabbedKeys, ActWithNumLockAndCapsLockInAnyState) {
+TEST_F(GrabbedKeys, WorkWithNumLockAndCapsLockInAnyState) {
     ASSERT_NE(hotKeys->registerHotKey(35, command | control, {8, 1}), 0U);
     EXPECT_TRUE(fires(u"super+ctrl+p"_s, 8));
     type(u"Num_Lock"_s);
@@ -60,7 +60,7 @@ TEST_F(GrabbedKeys, ActWithNumLockAndCapsLockInAnyState) {
     EXPECT_TRUE(fires(u"super+ctrl+p"_s, 8));
 }
 
-TEST_F(GrabbedKeys, TellCombinationsOfTheSameKeyApart) {
+TEST_F(GrabbedKeys, DistinguishCombinationsOfTheSameKey) {
     ASSERT_NE(hotKeys->registerHotKey(1, command | control, {1, 1}), 0U);
     ASSERT_NE(hotKeys->registerHotKey(1, command | shift, {2, 1}), 0U);
     ASSERT_NE(hotKeys->registerHotKey(1, command | option, {3, 1}), 0U);
@@ -77,7 +77,7 @@ TEST_F(GrabbedKeys, ACombinationOfAnotherProgramIsRefusedAndLeavesNothingBehind)
     EXPECT_TRUE(third.grab(xKeyG, superMask)) << "what was granted before the refusal was given back";
 }
 
-TEST_F(GrabbedKeys, ACombinationOfOurOwnIsRefused) {
+TEST_F(GrabbedKeys, ACombinationThatThisProcessHoldsIsRefused) {
     const auto first = hotKeys->registerHotKey(5, command, {1, 1});
     ASSERT_NE(first, 0U);
     EXPECT_EQ(hotKeys->registerHotKey(5, command, {2, 1}), 0U);
@@ -92,7 +92,7 @@ TEST_F(GrabbedKeys, UnknownKeysAreRefused) {
     hotKeys->unregisterHotKey(12345);
 }
 
-TEST_F(GrabbedKeys, AReleasedCombinationReachesTheOthersAgain) {
+TEST_F(GrabbedKeys, AReleasedCombinationReachesOtherProgramsAgain) {
     const auto handle = hotKeys->registerHotKey(5, command, {1, 1});
     ASSERT_TRUE(fires(u"super+g"_s, 1));
     hotKeys->unregisterHotKey(handle);
@@ -103,7 +103,7 @@ TEST_F(GrabbedKeys, AReleasedCombinationReachesTheOthersAgain) {
     EXPECT_EQ(pressed.size(), 1);
 }
 
-TEST_F(GrabbedKeys, AHeldKeyActsOnce) {
+TEST_F(GrabbedKeys, AHeldKeyTriggersOnce) {
     ASSERT_NE(hotKeys->registerHotKey(5, command, {1, 1}), 0U);
     ASSERT_NE(hotKeys->registerHotKey(1, command, {2, 1}), 0U);
     auto* session = XvfbSession::current();
@@ -130,7 +130,7 @@ TEST_F(GrabbedKeys, AHeldKeyActsOnce) {
     EXPECT_TRUE(fires(u"super+g"_s, 1)) << "and once more when it is pressed again";
 }
 
-TEST_F(GrabbedKeys, FollowAChangeOfTheKeymap) {
+TEST_F(GrabbedKeys, WorkAfterAChangeOfTheKeymap) {
     ASSERT_NE(hotKeys->registerHotKey(5, command, {1, 1}), 0U);
     // Moves Num Lock from the second modifier bit to the third.
     ASSERT_TRUE(other.moveModifier(4, 5));
@@ -152,7 +152,7 @@ TEST(HotKeysOfTheSession, UnderWaylandGrabsAreNeverUsed) {
     EXPECT_EQ(hotKeys->way(), HotKeys::Way::None);
 }
 
-TEST(HotKeysOfTheSession, WithoutAnyDisplayThereIsNoWay) {
+TEST(HotKeysOfTheSession, AreNotAvailableWithoutADisplay) {
     const QByteArray display = qgetenv("DISPLAY");
     qunsetenv("DISPLAY");
     const auto none = Platform::createHotKeys();

@@ -6,14 +6,14 @@
 
 using namespace Platform::KeyCodes;
 
-TEST(KeyCodes, LettersOfTheDefaultShortcutsHaveTheirPlaces) {
+TEST(KeyCodes, MapTheLettersOfTheDefaultShortcuts) {
     EXPECT_EQ(physicalKey(1), 31);  // S
     EXPECT_EQ(physicalKey(35), 25); // P
     EXPECT_EQ(physicalKey(45), 49); // N
     EXPECT_EQ(physicalKey(0), 30);  // A, whose code 0 does not mean "none"
 }
 
-TEST(KeyCodes, EveryKeyComesBackAsItself) {
+TEST(KeyCodes, RoundTripEveryKey) {
     int known = 0;
     for (std::uint16_t code = 0; code < 128; ++code) {
         const auto key = physicalKey(code);
@@ -37,7 +37,7 @@ TEST(KeyCodes, UnknownKeysHaveNoCode) {
     EXPECT_TRUE(keysymName(0xFFFF).isEmpty());
 }
 
-TEST(KeyCodes, SignsStandForTheirAnsiKeys) {
+TEST(KeyCodes, MapCharactersToTheirAnsiKeys) {
     EXPECT_EQ(virtualKeyCodeOfSign(Qt::Key_S), 1);
     EXPECT_EQ(virtualKeyCodeOfSign(Qt::Key_F5), 96);
     EXPECT_EQ(virtualKeyCodeOfSign(Qt::Key_Space), 49);

@@ -156,7 +156,7 @@ protected:
 
 } // namespace
 
-TEST_F(PortalKeys, AreBoundWithTheirDescriptionAndAct) {
+TEST_F(PortalKeys, AreBoundWithTheirDescriptionAndTrigger) {
     hotKeys->describe({0x73737273, 1}, u"Start or stop"_s);
     ASSERT_NE(hotKeys->registerHotKey(1, 256 + 4096, {0x73737273, 1}), 0U) << "taken on trust until the portal answers";
     ASSERT_TRUE(waitFor([&] { return portal.bound.contains(u"ssrs"_s); }));
@@ -169,7 +169,7 @@ TEST_F(PortalKeys, AreBoundWithTheirDescriptionAndAct) {
     EXPECT_TRUE(waitFor([&] { return pressed == QList<std::uint32_t>{0x73737273}; })) << pressed.size();
 }
 
-TEST_F(PortalKeys, AChangeBindsAnewInASessionOfItsOwn) {
+TEST_F(PortalKeys, AChangeBindsAgainInANewSession) {
     const auto first = hotKeys->registerHotKey(1, 256, {0x73737273, 1});
     ASSERT_TRUE(waitFor([&] { return portal.bound.size() == 1; }));
     const QString before = portal.session;
@@ -181,7 +181,7 @@ TEST_F(PortalKeys, AChangeBindsAnewInASessionOfItsOwn) {
     EXPECT_NE(portal.session, before);
 }
 
-TEST_F(PortalKeys, OneCombinationForOneFieldOnly) {
+TEST_F(PortalKeys, ACombinationOfAnotherFieldIsRefused) {
     ASSERT_NE(hotKeys->registerHotKey(1, 256, {1, 1}), 0U);
     EXPECT_EQ(hotKeys->registerHotKey(1, 256, {2, 1}), 0U);
 }
@@ -199,7 +199,7 @@ TEST_F(PortalKeys, ACombinationThatThePortalLeavesOutIsRefused) {
     EXPECT_NE(taken, 0U);
 }
 
-TEST_F(PortalKeys, WhatWasGrantedStaysWhenTheUserRefusesAnother) {
+TEST_F(PortalKeys, GrantedCombinationsStayWhenTheUserRefusesAnother) {
     portal.refusesAllFor = {u"prrs"_s};
     ASSERT_NE(hotKeys->registerHotKey(1, 256, {0x73737273, 1}), 0U);
     ASSERT_TRUE(waitFor([&] { return portal.bound.size() == 1; }));
@@ -210,7 +210,7 @@ TEST_F(PortalKeys, WhatWasGrantedStaysWhenTheUserRefusesAnother) {
     EXPECT_TRUE(waitFor([&] { return pressed == QList<std::uint32_t>{0x73737273}; }));
 }
 
-TEST_F(PortalKeys, ARefusalOfEverythingIsToldOnce) {
+TEST_F(PortalKeys, ARefusalOfEverythingIsReportedOnce) {
     portal.refusesAllFor = {u"ssrs"_s};
     const auto only = hotKeys->registerHotKey(1, 256, {0x73737273, 1});
     EXPECT_TRUE(waitFor([&] { return refused == QList{only}; }));
@@ -219,7 +219,7 @@ TEST_F(PortalKeys, ARefusalOfEverythingIsToldOnce) {
     EXPECT_EQ(refused.size(), 1);
 }
 
-TEST(PortalOfTheDesktop, WithoutGlobalShortcutsThereIsNoWay) {
+TEST(PortalOfTheDesktop, WithoutGlobalShortcutsNoHotKeysAreAvailable) {
     Portal portal;
     portal.hasShortcuts = false;
     const auto hotKeys = Platform::createPortalHotKeys();
@@ -230,7 +230,7 @@ TEST(PortalOfTheDesktop, WithoutGlobalShortcutsThereIsNoWay) {
     EXPECT_EQ(hotKeys->registerHotKey(1, 256, {1, 1}), 0U);
 }
 
-TEST(PortalOfTheDesktop, TellsTheColorSchemeAndItsChanges) {
+TEST(PortalOfTheDesktop, ReportsTheColorSchemeAndItsChanges) {
     Portal portal;
     const auto scheme = Platform::createColorScheme();
     using Preference = Platform::ColorScheme::Preference;

@@ -71,18 +71,18 @@ TEST_F(WorkspaceTest, OpensAnAddressInTheBrowser) {
     EXPECT_EQ(opened(), QStringLiteral("1\nhttps://example.org/a%20b\n"));
 }
 
-TEST_F(WorkspaceTest, RefusesWhatIsNoAddress) {
+TEST_F(WorkspaceTest, RefusesAMalformedAddress) {
     EXPECT_FALSE(workspace->openUrl(QUrl()));
     EXPECT_FALSE(workspace->openUrl(QUrl(QStringLiteral("-version"))));
 }
 
-TEST_F(WorkspaceTest, OpensAFileInTheDefaultPlayerAndKeepsItsNameWhole) {
+TEST_F(WorkspaceTest, OpensAFileWithAnyNameInTheDefaultPlayer) {
     const QString file = make("$(touch x); 'a\".m4a");
     EXPECT_TRUE(workspace->openFile(file, QStringLiteral("iTunes")));
     EXPECT_EQ(opened(), QStringLiteral("1\n") + file + u'\n');
 }
 
-TEST_F(WorkspaceTest, DoesNotOpenWhatIsNotThereOrWithWhatIsNotThere) {
+TEST_F(WorkspaceTest, DoesNotOpenAMissingFileOrUseAMissingProgram) {
     EXPECT_FALSE(workspace->openFile(dir.filePath(QStringLiteral("missing.m4a")), QStringLiteral("iTunes")));
     EXPECT_FALSE(workspace->openFile(make("a.m4a"), QStringLiteral("no-such-player")));
 }
@@ -110,7 +110,7 @@ TEST_F(WorkspaceTest, ShowsAFileInTheFileManager) {
     mock.unregisterObject(QStringLiteral("/org/freedesktop/FileManager1"));
 }
 
-TEST_F(WorkspaceTest, SaysThatAFileChanged) {
+TEST_F(WorkspaceTest, SignalsAChangedFile) {
     QStringList changed;
     QObject::connect(workspace.get(), &Platform::Workspace::fileSystemChanged, workspace.get(),
                      [&](const QString& path) { changed << path; });

@@ -77,7 +77,7 @@ TEST_F(DiscImageTest, IsTheLastDriveWithABlankDiscOf80Minutes) {
 }
 
 // Ten tracks of different formats, compared with what sox makes of the same files and read by two other programs.
-TEST_F(DiscImageTest, HoldsTheSoundOfTenKindsOfFiles) {
+TEST_F(DiscImageTest, ContainsTheAudioOfTenFileFormats) {
     QStringList paths;
     paths << tones(u"01.wav"_s, u"-r 44100 -b 16 -c 2"_s, u"4.5"_s)
           << tones(u"02.wav"_s, u"-r 22050 -b 16 -c 1"_s, u"5.1"_s)
@@ -151,7 +151,7 @@ TEST_F(DiscImageTest, HoldsTheSoundOfTenKindsOfFiles) {
     }
 }
 
-TEST_F(DiscImageTest, LetsThePartsOfOneRecordingFollowWithoutAClick) {
+TEST_F(DiscImageTest, JoinsThePartsOfOneRecordingWithoutAClick) {
     const QString whole = tones(u"whole.wav"_s, u"-r 44100 -b 16 -c 2"_s, u"18"_s);
     // Not at sector boundaries.
     sox({whole, at(u"a.wav"_s), u"trim"_s, u"0s"_s, u"200001s"_s});
@@ -218,7 +218,7 @@ TEST_F(DiscImageTest, RefusesToReplaceFiles) {
     EXPECT_TRUE(burn(layout).reason.contains(u"cue sheet cannot name"_s));
 }
 
-TEST_F(DiscImageTest, FailsBeforeItBeginsWithoutTracksOrRoom) {
+TEST_F(DiscImageTest, FailsBeforeWritingWithoutTracksOrSpace) {
     discs.setImagePath(at(u"disc"_s));
     EXPECT_EQ(burn(std::nullopt).reason, u"a file cannot be read: nothing was burned"_s);
     EXPECT_EQ(burn(DRLayout()).reason, u"there is nothing to burn: no file is ticked"_s);
@@ -272,7 +272,7 @@ TEST_F(DiscImageTest, LeavesNothingWhenItIsAborted) {
     EXPECT_EQ(everything(), QStringList());
 }
 
-TEST_F(DiscImageTest, LeavesNothingWhenASourceLosesItsEnd) {
+TEST_F(DiscImageTest, LeavesNothingWhenASourceIsTruncated) {
     const QString path = tones(u"a.wav"_s, u"-r 44100 -b 16 -c 2"_s, u"400"_s);
     const DRLayout layout = layoutOf({path});
     ASSERT_TRUE(QFile::resize(path, 20'000'000));
@@ -293,7 +293,7 @@ TEST_F(DiscImageTest, BurnsASourceThatWasDeletedAfterItWasMeasured) {
     EXPECT_EQ(contentOf(at(u"disc.bin"_s)).mid(75 * 2352, 5 * 176400), contentOf(at(u"a.raw"_s)));
 }
 
-TEST_F(DiscImageTest, AsksWhereToUntilThePlaceIsFree) {
+TEST_F(DiscImageTest, AsksForAPathUntilOneIsFree) {
     const ServicesScope scope;
     FakePanels panels;
     FakeAlerts alerts;
@@ -309,7 +309,7 @@ TEST_F(DiscImageTest, AsksWhereToUntilThePlaceIsFree) {
     EXPECT_EQ(everything(), (QStringList{u"a.wav"_s, u"chosen.bin"_s, u"chosen.cue"_s}));
 }
 
-TEST_F(DiscImageTest, ReportsProgressThatGrowsAndEndsOnce) {
+TEST_F(DiscImageTest, ReportsGrowingProgressAndOneEnd) {
     const auto burn = newBurn();
     discs.setImagePath(at(u"disc"_s));
     const auto second = newBurn();

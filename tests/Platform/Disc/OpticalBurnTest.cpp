@@ -101,7 +101,7 @@ protected:
     std::unique_ptr<BurnWatch> watch;
 };
 
-TEST_F(OpticalBurnTest, LooksAtTheDiscThatIsInAndStandsBeforeTheImageDrive) {
+TEST_F(OpticalBurnTest, ExaminesTheInsertedDiscAndIsListedBeforeTheImageDrive) {
     const auto first = drive();
     ASSERT_EQ(discs->devices().size(), 2U);
     EXPECT_EQ(first->displayName(), u"ACME Writer"_s);
@@ -114,7 +114,7 @@ TEST_F(OpticalBurnTest, LooksAtTheDiscThatIsInAndStandsBeforeTheImageDrive) {
     EXPECT_EQ(burner.calls(), (QStringList{u"initialize"_s, u"grab /dev/sr0 0"_s, u"release 0"_s}));
 }
 
-TEST_F(OpticalBurnTest, WritesAnAudioDiscInTheLibrarysOrder) {
+TEST_F(OpticalBurnTest, WritesAnAudioDiscWithTheDocumentedCallOrder) {
     const DRStatus status = burned();
     ASSERT_EQ(status.state, DRStatusStateDone) << qPrintable(status.reason);
     EXPECT_EQ(callsOfTheBurn(), (QStringList{u"grab /dev/sr0 1"_s,
@@ -152,13 +152,13 @@ TEST_F(OpticalBurnTest, WritesAnAudioDiscInTheLibrarysOrder) {
     EXPECT_EQ(drives->quieted, (QStringList{u"/dev/sr0 quiet"_s, u"/dev/sr0 looked at"_s}));
 }
 
-TEST_F(OpticalBurnTest, PutsTheDiscOutWhenThatIsWanted) {
+TEST_F(OpticalBurnTest, EjectsTheDiscOnRequest) {
     EXPECT_EQ(burned(DRBurnCompletionActionEject).state, DRStatusStateDone);
     EXPECT_EQ(callsOfTheBurn().last(), u"release 1"_s);
     EXPECT_EQ(drives->mounted, QStringList());
 }
 
-TEST_F(OpticalBurnTest, IsBusyWhileItBurnsAndLooksAtTheDiscAfterwards) {
+TEST_F(OpticalBurnTest, IsBusyWhileItBurnsAndExaminesTheDiscAfterwards) {
     burner.holdsWriting = true;
     const auto burn = started(layout());
     ASSERT_TRUE(waitFor([&] { return burn->status().percentComplete > 0; }));
@@ -171,7 +171,7 @@ TEST_F(OpticalBurnTest, IsBusyWhileItBurnsAndLooksAtTheDiscAfterwards) {
     EXPECT_FALSE(drive()->mediaIsBlank());
 }
 
-TEST_F(OpticalBurnTest, NamesEveryFailureAndGivesTheDriveBack) {
+TEST_F(OpticalBurnTest, ReportsEveryFailureAndReleasesTheDrive) {
     for (const auto& [call, reason] : std::vector<std::pair<QString, QString>>{
              {u"disc"_s, u"the layout of the disc could not be made"_s},
              {u"session"_s, u"the layout of the disc could not be made"_s},
@@ -198,12 +198,12 @@ TEST_F(OpticalBurnTest, NamesEveryFailureAndGivesTheDriveBack) {
     }
 }
 
-TEST_F(OpticalBurnTest, BurnsWithADriveThatHasNoProtectionAgainstUnderrun) {
+TEST_F(OpticalBurnTest, BurnsWithADriveWithoutUnderrunProtection) {
     burner.fails = {u"underrun proof"_s, u"atip"_s};
     EXPECT_EQ(burned().state, DRStatusStateDone);
 }
 
-TEST_F(OpticalBurnTest, TellsWhatTheDriveSaid) {
+TEST_F(OpticalBurnTest, ReportsTheDrivesMessage) {
     drive();
     burner.fails = {u"well?"_s};
     burner.holdsWriting = true;
@@ -215,7 +215,7 @@ TEST_F(OpticalBurnTest, TellsWhatTheDriveSaid) {
     EXPECT_EQ(burn->status().reason, u"ACME Writer: the burn failed: SCSI error on write: medium error"_s);
 }
 
-TEST_F(OpticalBurnTest, SaysWhatKindOfDiscIsIn) {
+TEST_F(OpticalBurnTest, ReportsTheKindOfTheDisc) {
     drive();
     for (const auto& [state, reason] : std::vector<std::pair<burn::burn_disc_status, QString>>{
              {burn::BURN_DISC_EMPTY, u"ACME Writer: there is no disc in the drive"_s},
@@ -231,7 +231,7 @@ TEST_F(OpticalBurnTest, SaysWhatKindOfDiscIsIn) {
     EXPECT_FALSE(burner.calls().contains(u"write"_s));
 }
 
-TEST_F(OpticalBurnTest, CountsTheRoomWithoutTheFirstPreGap) {
+TEST_F(OpticalBurnTest, ComputesTheFreeSpaceWithoutTheFirstPreGap) {
     burner.lastBlock = 600 + 75 + 375; // 8 s, a pre-gap, 5 s
     EXPECT_EQ(burned().state, DRStatusStateDone);
     burner.lastBlock = 600 + 75 + 374;
@@ -240,7 +240,7 @@ TEST_F(OpticalBurnTest, CountsTheRoomWithoutTheFirstPreGap) {
         u"there is not enough room on the disc: the tracks need 0:14 minutes (1050 sectors), 0:14 minutes (1049 sectors) are free"_s);
 }
 
-TEST_F(OpticalBurnTest, NamesAnotherProgramAndMissingRights) {
+TEST_F(OpticalBurnTest, ReportsADriveInUseAndMissingPermissions) {
     drive();
     burner.fails = {u"grab"_s};
     drives->error = EBUSY;
@@ -286,7 +286,7 @@ TEST_F(OpticalBurnTest, WritesNothingWhenASourceFailsWhileTheBufferFills) {
     EXPECT_EQ(callsOfTheBurn(), QStringList());
 }
 
-TEST_F(OpticalBurnTest, EndsWhatRunsBeforeTheLibraryIsClosed) {
+TEST_F(OpticalBurnTest, EndsRunningWorkBeforeTheLibraryIsClosed) {
     burner.holdsWriting = true;
     const auto burn = started(layout());
     ASSERT_TRUE(waitFor([&] { return burn->status().percentComplete > 0; }));
@@ -297,13 +297,13 @@ TEST_F(OpticalBurnTest, EndsWhatRunsBeforeTheLibraryIsClosed) {
     EXPECT_EQ(burner.calls().last(), u"finish"_s);
 }
 
-TEST_F(OpticalBurnTest, SaysWhenTheLibraryDoesNotStart) {
+TEST_F(OpticalBurnTest, ReportsThatTheLibraryCannotBeInitialised) {
     burner.fails = {u"initialize"_s};
     const auto first = drive();
     EXPECT_EQ(first->status().problem, u"the drive cannot be opened"_s);
 }
 
-TEST_F(OpticalBurnTest, ErasesQuicklyAndTellsTheProgress) {
+TEST_F(OpticalBurnTest, ErasesQuicklyAndReportsTheProgress) {
     burner.disc = burn::BURN_DISC_FULL;
     burner.erasable = true;
     burner.profile = 0x0a;
@@ -323,7 +323,7 @@ TEST_F(OpticalBurnTest, ErasesQuicklyAndTellsTheProgress) {
     discs->currentRunLoopCenter().removeObserver(this);
 }
 
-TEST_F(OpticalBurnTest, ErasesNothingThatCannotBeErased) {
+TEST_F(OpticalBurnTest, DoesNotEraseADiscThatIsNotErasable) {
     burner.disc = burn::BURN_DISC_FULL;
     drive();
     const auto erase = discs->eraseWithDevice(drive());
@@ -333,7 +333,7 @@ TEST_F(OpticalBurnTest, ErasesNothingThatCannotBeErased) {
     EXPECT_FALSE(burner.calls().contains(u"erase 0"_s));
 }
 
-TEST_F(OpticalBurnTest, TellsOfDiscsAndDrivesThatComeAndGo) {
+TEST_F(OpticalBurnTest, ReportsDiscsAndDrivesThatAppearAndDisappear) {
     TestDrives::found[0].media = DRDeviceMediaStateNone;
     const auto first = drive();
     EXPECT_EQ(first->status().mediaState, DRDeviceMediaStateNone);
@@ -363,7 +363,7 @@ TEST_F(OpticalBurnTest, TellsOfDiscsAndDrivesThatComeAndGo) {
     center.removeObserver(this);
 }
 
-TEST_F(OpticalBurnTest, PutsOutTheDiscOfAnIdleDrive) {
+TEST_F(OpticalBurnTest, EjectsTheDiscOfAnIdleDrive) {
     EXPECT_TRUE(drive()->ejectMedia());
     EXPECT_TRUE(waitFor([&] { return burner.calls().last() == u"release 1"_s; }));
 }

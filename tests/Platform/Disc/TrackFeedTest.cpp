@@ -35,7 +35,7 @@ protected:
     std::atomic<bool> stalled{true};
 };
 
-TEST_F(TrackFeedTest, GivesTheTracksOneAfterTheOtherInWholeSectors) {
+TEST_F(TrackFeedTest, DeliversTheTracksInOrderInWholeSectors) {
     const DRLayout layout{track(u"/a"_s, 4.005), track(u"/b"_s, 5)};
     TrackFeed feed(layout, 1 << 20); // less than both tracks
     ASSERT_TRUE(feed.fill());
@@ -54,7 +54,7 @@ TEST_F(TrackFeedTest, GivesTheTracksOneAfterTheOtherInWholeSectors) {
 }
 
 // The ring supplies the fastest drive for five seconds while the sources deliver nothing.
-TEST_F(TrackFeedTest, LastsFiveSecondsWithoutTheDiskThatHoldsTheSources) {
+TEST_F(TrackFeedTest, BridgesFiveSecondsWithoutDataFromTheSources) {
     for (const auto& [speed, times] : {std::pair(0.F, 52), std::pair(8467.F, 48), std::pair(706.F, 4)}) {
         stalled = true;
         const std::int64_t filled = std::int64_t(TrackFeed::bytesFor(speed) / 2352) + 150;
@@ -68,7 +68,7 @@ TEST_F(TrackFeedTest, LastsFiveSecondsWithoutTheDiskThatHoldsTheSources) {
     EXPECT_LE(TrackFeed::bytesFor(0), std::size_t(56) << 20);
 }
 
-TEST_F(TrackFeedTest, LetsAWaitingDriveGoWhenItIsCancelled) {
+TEST_F(TrackFeedTest, CancelReleasesAWaitingDrive) {
     TrackFeed feed({track(u"/stuck"_s, 60, 0)}, 1 << 20);
     auto filled = std::async(std::launch::async, [&] { return feed.fill(); });
     feed.cancel();
@@ -78,7 +78,7 @@ TEST_F(TrackFeedTest, LetsAWaitingDriveGoWhenItIsCancelled) {
     stalled = false;
 }
 
-TEST_F(TrackFeedTest, TellsWhichSourceFailed) {
+TEST_F(TrackFeedTest, NamesTheSourceThatFailed) {
     const DRLayout layout{track(u"/good"_s, 5), track(u"/bad"_s, 5)};
     files.sources[u"/bad"_s].failingRead = 2;
     TrackFeed feed(layout, 1 << 24);
@@ -86,7 +86,7 @@ TEST_F(TrackFeedTest, TellsWhichSourceFailed) {
     EXPECT_TRUE(feed.error().text.startsWith(u"/bad"_s)) << qPrintable(feed.error().text);
 }
 
-TEST(DitherTest, AddsTriangularNoiseThatHidesTheRounding) {
+TEST(DitherTest, AddsTriangularNoiseThatDecorrelatesTheRoundingError) {
     constexpr std::size_t frames = 1 << 20;
     for (const float level : {0.F, 0.25F, 0.5F, 100.37F}) {
         const std::vector<float> row(frames, level / 32768);
@@ -107,7 +107,7 @@ TEST(DitherTest, AddsTriangularNoiseThatHidesTheRounding) {
     }
 }
 
-TEST(DitherTest, LeavesSamplesOf16BitsAloneAndClips) {
+TEST(DitherTest, KeepsExactSamplesAndClips) {
     const std::vector<float> row{0, 1.F / 32768, -1.F / 32768, 32767.F / 32768, -1, 1, 1.5F, -1.5F};
     std::vector<std::int16_t> out(16);
     Dither(1).interleave(row.data(), row.data(), out.data(), 8, true);

@@ -30,7 +30,7 @@ TEST(Bundle, KnowsTheFolderOfTheRunningProgram) {
     EXPECT_TRUE(Platform::createBundle()->resourcePath().startsWith(QStringLiteral(SONAPHEX_BIN_DIR)));
 }
 
-TEST(Clock, CountsFromTheFirstDayOfTwoThousandAndOne) {
+TEST(Clock, CountsFromTheFirstOfJanuary2001) {
     const auto clock = Platform::createClock();
     const QDateTime reference(QDate(2001, 1, 1), QTime(0, 0), QTimeZone::utc());
     const QDateTime before = QDateTime::currentDateTimeUtc();
@@ -43,7 +43,7 @@ TEST(Clock, CountsFromTheFirstDayOfTwoThousandAndOne) {
     EXPECT_LE(now, after);
 }
 
-TEST(Clock, AnswersTheCaptureTimeInsideACycle) {
+TEST(Clock, ReturnsTheCaptureTimeInsideACycle) {
     const auto clock = Platform::createClock();
     const auto before = clock->hostTime();
     {

@@ -23,13 +23,13 @@ TEST(Dictionary, TruncatesNumbersTowardsZero) {
     EXPECT_EQ(intValue(std::nan("")), 0);
 }
 
-TEST(Dictionary, TakesNoNumberFromOtherShapes) {
+TEST(Dictionary, GivesZeroForOtherTypes) {
     EXPECT_EQ(intValue(QVariant()), 0);
     EXPECT_EQ(intValue(QVariantList{1, 2}), 0);
     EXPECT_FALSE(boolValue(QVariantMap{{QStringLiteral("a"), 1}}));
 }
 
-TEST(Dictionary, TellsNumbersFromTruthValuesAndTexts) {
+TEST(Dictionary, DistinguishesNumbersFromBooleansAndTexts) {
     EXPECT_TRUE(isNumber(0));
     EXPECT_TRUE(isNumber(qulonglong(7)));
     EXPECT_TRUE(isNumber(0.5));
@@ -38,7 +38,7 @@ TEST(Dictionary, TellsNumbersFromTruthValuesAndTexts) {
     EXPECT_FALSE(isNumber(QVariant()));
 }
 
-TEST(Dictionary, KnowsWhatCountsAsTrue) {
+TEST(Dictionary, ConvertsStoredObjectsToBooleans) {
     EXPECT_TRUE(boolValue(1));
     EXPECT_TRUE(boolValue(QStringLiteral("YES")));
     EXPECT_TRUE(boolValue(QStringLiteral("0012")));

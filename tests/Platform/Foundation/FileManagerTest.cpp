@@ -83,7 +83,7 @@ TEST_F(FileManager, NeverOverwritesAcrossFileSystems) {
     EXPECT_EQ(all(elsewhere.path()), QStringList{QStringLiteral("b")});
 }
 
-TEST_F(FileManager, TakesTheNextFreeNameWhenTheTargetAppeared) {
+TEST_F(FileManager, TakesTheNextFreeNameWhenTheTargetExists) {
     put(path("a"), "one");
     put(path("Track0"), "");
     put(path("Track1"), "");
@@ -119,7 +119,7 @@ TEST_F(FileManager, CopiesWithTheFilesModeAndTime) {
     EXPECT_EQ(is.st_mode & 0777, 0640U);
 }
 
-TEST_F(FileManager, CopiesOverAnotherFileOnlyWhenTold) {
+TEST_F(FileManager, CopiesOverAnExistingFileOnlyWhenAsked) {
     put(path("a"), "one");
     put(path("b"), "two");
     EXPECT_FALSE(Files::copy(path("a"), path("b")));
@@ -157,7 +157,7 @@ TEST_F(FileManager, WritesThroughALink) {
     EXPECT_EQ(get(path("real")), "two");
 }
 
-TEST_F(FileManager, NamesAsLongAsNamesCanBeAreNoProblem) {
+TEST_F(FileManager, AcceptsNamesOfMaximumLength) {
     const QString longest = dir.filePath(QString(255, u'n'));
     put(path("a"), "one");
     EXPECT_TRUE(Files::copy(path("a"), longest));
@@ -165,7 +165,7 @@ TEST_F(FileManager, NamesAsLongAsNamesCanBeAreNoProblem) {
     EXPECT_EQ(get(longest), "two");
 }
 
-TEST_F(FileManager, TellsTheRoomOfTheNearestFolderThatExists) {
+TEST_F(FileManager, ReportsTheFreeSpaceOfTheNearestExistingFolder) {
     EXPECT_GT(Files::availableBytes(dir.path()), 0);
     EXPECT_GT(Files::availableBytes(path("not/yet/made")), 0);
 }

@@ -36,7 +36,7 @@ struct Folders : testing::Test {
 
 } // namespace
 
-TEST_F(Folders, LieBelowHomeUnlessTheEnvironmentSaysElse) {
+TEST_F(Folders, AreBelowHomeUnlessTheEnvironmentOverridesThem) {
     EXPECT_EQ(Platform::Folders::home(), dir.path());
     EXPECT_EQ(Platform::Folders::config(), path(".config"));
     EXPECT_EQ(Platform::Folders::cache(), path(".cache"));
@@ -50,14 +50,14 @@ TEST_F(Folders, IgnoreARelativePathFromTheEnvironment) {
     EXPECT_EQ(Platform::Folders::data(), path(".local/share"));
 }
 
-TEST_F(Folders, TemporaryIsTheGivenFolderWhenOnlyTheUserCanEnterIt) {
+TEST_F(Folders, TemporaryUsesTmpdirWhenOnlyTheUserCanEnterIt) {
     QDir().mkpath(path("mine"));
     chmod(qPrintable(path("mine")), 0700);
     const EnvironmentScope given("TMPDIR", path("mine").toUtf8());
     EXPECT_EQ(Platform::Folders::temporary().valueOr({}), path("mine"));
 }
 
-TEST_F(Folders, TemporaryIsAFolderOfTheCacheWhenTheGivenOneIsOpenToOthers) {
+TEST_F(Folders, TemporaryUsesTheCacheWhenTmpdirIsOpenToOthers) {
     QDir().mkpath(path("shared"));
     chmod(qPrintable(path("shared")), 0755);
     const EnvironmentScope given("TMPDIR", path("shared").toUtf8());
@@ -65,7 +65,7 @@ TEST_F(Folders, TemporaryIsAFolderOfTheCacheWhenTheGivenOneIsOpenToOthers) {
     EXPECT_EQ(modeOf(path(".cache/tmp")), 0700U);
 }
 
-TEST_F(Folders, TemporaryRefusesALinkWhereItsFolderShouldBe) {
+TEST_F(Folders, TemporaryRefusesALinkInPlaceOfItsFolder) {
     QDir().mkpath(path(".cache"));
     QDir().mkpath(path("target"));
     ASSERT_EQ(symlink(qPrintable(path("target")), qPrintable(path(".cache/tmp"))), 0);
@@ -73,7 +73,7 @@ TEST_F(Folders, TemporaryRefusesALinkWhereItsFolderShouldBe) {
     EXPECT_TRUE(why.contains(QStringLiteral("is a link"))) << qPrintable(why);
 }
 
-TEST_F(Folders, TemporaryClosesAFolderOfItsOwnThatWasOpen) {
+TEST_F(Folders, TemporaryMakesAnExistingFolderPrivate) {
     QDir().mkpath(path(".cache/tmp"));
     chmod(qPrintable(path(".cache/tmp")), 0777);
     EXPECT_EQ(Platform::Folders::temporary().valueOr({}), path(".cache/tmp"));

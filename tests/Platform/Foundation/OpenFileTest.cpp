@@ -37,7 +37,7 @@ TEST_F(OpenFile, OpensARegularFile) {
     EXPECT_EQ(Platform::readFile(path, {}).valueOr({}), QByteArray("0123456789"));
 }
 
-TEST_F(OpenFile, SaysWhatTheSystemSays) {
+TEST_F(OpenFile, ReportsTheSystemsError) {
     const auto opened = openFile(folder.filePath(u"missing"_s));
     EXPECT_FALSE(opened.file);
     EXPECT_EQ(opened.code, ENOENT);
@@ -55,14 +55,14 @@ TEST_F(OpenFile, RefusesAFolderAPipeAndADeviceWithoutWaiting) {
     EXPECT_EQ(openFile(u"/dev/null"_s).code, 0);
 }
 
-TEST_F(OpenFile, RefusesALinkWhereNoneBelongs) {
+TEST_F(OpenFile, RefusesALinkWhenTheRulesForbidIt) {
     const QString link = folder.filePath(u"link"_s);
     ASSERT_TRUE(QFile::link(path, link));
     EXPECT_TRUE(openFile(link).file);
     EXPECT_EQ(openFile(link, {.noLink = true}).error.text, u"is a link"_s);
 }
 
-TEST_F(OpenFile, RefusesWhatIsTooLargeBeforeItTakesMemory) {
+TEST_F(OpenFile, RefusesTooLargeAFileBeforeAllocatingMemory) {
     EXPECT_TRUE(openFile(path, {.largest = 10}).file);
     EXPECT_EQ(openFile(path, {.largest = 9}).error.text, u"is larger than 9 bytes"_s);
     ASSERT_EQ(::truncate(name().constData(), off_t(200) << 30), 0); // sparse

@@ -84,7 +84,7 @@ TEST_F(DefaultsFile, RemovesAValue) {
     EXPECT_FALSE(defaults.objectForKey(u"a"_s).isValid());
 }
 
-TEST_F(DefaultsFile, GivesAValueOfTheWrongTypeBackAsItIs) {
+TEST_F(DefaultsFile, ReturnsAValueOfTheWrongTypeUnchanged) {
     store(Platform::PropertyList::toXml({{u"PreferenceSplitKey"_s, QVariantList{u"odd"_s}}}));
     const PropertyListDefaults defaults(path());
     EXPECT_EQ(defaults.objectForKey(u"PreferenceSplitKey"_s), (QVariantList{u"odd"_s}));
@@ -99,7 +99,7 @@ TEST_F(DefaultsFile, IsReadableByItsOwnerOnly) {
     EXPECT_EQ(status.st_mode & 0777, 0600U);
 }
 
-TEST_F(DefaultsFile, MakesTheMissingFolder) {
+TEST_F(DefaultsFile, CreatesAMissingFolder) {
     const QString deep = folder_.filePath(u"not/yet/there.plist"_s);
     PropertyListDefaults defaults(deep);
     defaults.setObject(u"a"_s, 1);
@@ -121,7 +121,7 @@ TEST_F(DefaultsFile, SetsADamagedFileAsideAndStartsEmpty) {
     EXPECT_EQ(stored(), (Dictionary{{u"a"_s, qlonglong(1)}}));
 }
 
-TEST_F(DefaultsFile, SetsEveryDamagedFileAsideUnderItsOwnName) {
+TEST_F(DefaultsFile, SetsEachDamagedFileAsideUnderANameOfItsOwn) {
     for (int i = 0; i < 3; ++i) {
         store("damaged " + QByteArray::number(i));
         const PropertyListDefaults defaults(path());
@@ -129,7 +129,7 @@ TEST_F(DefaultsFile, SetsEveryDamagedFileAsideUnderItsOwnName) {
     EXPECT_EQ(damagedFiles().size(), 3);
 }
 
-TEST_F(DefaultsFile, KeepsWhatItKnewWhenTheFileIsDamagedMeanwhile) {
+TEST_F(DefaultsFile, KeepsItsValuesWhenTheFileIsDamagedMeanwhile) {
     PropertyListDefaults defaults(path());
     defaults.setObject(u"a"_s, 1);
     ASSERT_TRUE(defaults.flush());
@@ -140,7 +140,7 @@ TEST_F(DefaultsFile, KeepsWhatItKnewWhenTheFileIsDamagedMeanwhile) {
     EXPECT_EQ(damagedFiles().size(), 1);
 }
 
-TEST_F(DefaultsFile, WritesBehindALinkInsteadOfCuttingIt) {
+TEST_F(DefaultsFile, WritesToTheTargetOfALink) {
     const QString real = folder_.filePath(u"real.plist"_s);
     {
         QFile file(real);
@@ -156,7 +156,7 @@ TEST_F(DefaultsFile, WritesBehindALinkInsteadOfCuttingIt) {
     EXPECT_EQ(stored(), (Dictionary{{u"a"_s, qlonglong(1)}}));
 }
 
-TEST_F(DefaultsFile, SaysThatItCouldNotBeWrittenAndTriesAgain) {
+TEST_F(DefaultsFile, ReportsAFailedWriteAndTriesAgain) {
     // A folder in place of the file cannot be replaced, even by root.
     ASSERT_TRUE(QDir().mkpath(path()));
     PropertyListDefaults defaults(path());
@@ -181,7 +181,7 @@ TEST_F(DefaultsFile, TwoInstancesKeepEachOthersValues) {
     EXPECT_EQ(one.objectForKey(u"other"_s), 2);
 }
 
-TEST_F(DefaultsFile, AnOldValueOfThisProcessNeverComesBackOverANewOneOfAnother) {
+TEST_F(DefaultsFile, NeverOverwritesANewerValueOfAnotherProcessWithAnOldOne) {
     PropertyListDefaults one(path());
     one.setObject(u"key"_s, 1);
     ASSERT_TRUE(one.flush());
@@ -194,7 +194,7 @@ TEST_F(DefaultsFile, AnOldValueOfThisProcessNeverComesBackOverANewOneOfAnother) 
     EXPECT_EQ(one.objectForKey(u"key"_s), 2);
 }
 
-TEST_F(DefaultsFile, JoinsAValueThatTwoProcessesChanged) {
+TEST_F(DefaultsFile, MergesAValueThatTwoProcessesChanged) {
     store(Platform::PropertyList::toXml({{u"list"_s, u"base"_s}}));
     PropertyListDefaults one(path());
     PropertyListDefaults other(path());
@@ -207,7 +207,7 @@ TEST_F(DefaultsFile, JoinsAValueThatTwoProcessesChanged) {
     EXPECT_EQ(one.objectForKey(u"list"_s), u"ours"_s);
 }
 
-TEST_F(DefaultsFile, TakesUpWhatAnotherProcessStored) {
+TEST_F(DefaultsFile, AdoptsAValueThatAnotherProcessStored) {
     store(Platform::PropertyList::toXml({{u"list"_s, u"base"_s}, {u"text"_s, u"old"_s}}));
     PropertyListDefaults one(path());
     PropertyListDefaults other(path());
@@ -231,7 +231,7 @@ TEST_F(DefaultsFile, TakesUpWhatAnotherProcessStored) {
     EXPECT_FALSE(one.objectForKey(u"text"_s).isValid());
 }
 
-TEST_F(DefaultsFile, TakesUpWhatAnotherStoredBesideWhatItCouldNotSave) {
+TEST_F(DefaultsFile, AdoptsAStoredValueAndKeepsItsOwnUnsavedOnes) {
     store(Platform::PropertyList::toXml({{u"list"_s, u"base"_s}, {u"text"_s, u"old"_s}}));
     PropertyListDefaults one(path());
     one.setMergeForKey(u"list"_s, joinTexts);
@@ -250,7 +250,7 @@ TEST_F(DefaultsFile, TakesUpWhatAnotherStoredBesideWhatItCouldNotSave) {
     EXPECT_EQ(stored(), (Dictionary{{u"list"_s, u"theirs|theirs|base|theirs|ours"_s}, {u"text"_s, u"ours"_s}}));
 }
 
-TEST_F(DefaultsFile, TakesUpNothingOfAFileThatItCannotRead) {
+TEST_F(DefaultsFile, AdoptsNothingFromAnUnreadableFile) {
     store(Platform::PropertyList::toXml({{u"a"_s, 1}}));
     PropertyListDefaults defaults(path());
     ASSERT_EQ(defaults.objectForKey(u"a"_s), 1);
@@ -263,7 +263,7 @@ TEST_F(DefaultsFile, TakesUpNothingOfAFileThatItCannotRead) {
     EXPECT_EQ(defaults.objectForKey(u"a"_s), 1) << "a file that was taken away comes back with the next save";
 }
 
-TEST_F(DefaultsFile, TwoProcessesThatWriteAtOnceLoseNothing) {
+TEST_F(DefaultsFile, TwoProcessesThatWriteAtTheSameTimeLoseNothing) {
     constexpr int values = 60;
     const auto writer = [&](const QString& name) {
         return [this, name] {
@@ -285,7 +285,7 @@ TEST_F(DefaultsFile, TwoProcessesThatWriteAtOnceLoseNothing) {
     EXPECT_EQ(all->size(), 2 * values);
 }
 
-TEST_F(DefaultsFile, AKilledProcessNeverLosesWhatWasSaved) {
+TEST_F(DefaultsFile, AKilledProcessNeverLosesSavedValues) {
     for (int round = 0; round < 25; ++round) {
         int ends[2];
         ASSERT_EQ(::pipe(ends), 0);
@@ -384,7 +384,7 @@ TEST_F(DefaultsFile, SettingALargeLibraryCopiesNothing) {
     EXPECT_EQ(stored()->value(u"kMediaLibrarySavedKey"_s).toList(), entries);
 }
 
-TEST(UserDefaults, LiveInTheConfigurationFolderUnderTheBundleIdentifier) {
+TEST(UserDefaults, AreStoredInTheConfigurationFolderUnderTheBundleIdentifier) {
     const QTemporaryDir folder;
     const EnvironmentScope scope("XDG_CONFIG_HOME", folder.path().toUtf8());
     Platform::createUserDefaults(u"com.example.Test"_s)->setObject(u"a"_s, 1);

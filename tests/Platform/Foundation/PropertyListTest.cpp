@@ -21,7 +21,7 @@ std::optional<Dictionary> thereAndBack(const Dictionary& dictionary) {
 
 } // namespace
 
-TEST(PropertyList, GivesEveryKindOfObjectBack) {
+TEST(PropertyList, RoundTripsEveryKindOfObject) {
     const Dictionary all{
         {u"text"_s, u"Überraschung 日本語 🎵"_s},
         {u"empty"_s, u""_s},
@@ -57,7 +57,7 @@ TEST(PropertyList, KeepsEveryCharacterThatAFileNameMayHave) {
     EXPECT_EQ(thereAndBack(edges), edges);
 }
 
-TEST(PropertyList, WritesNumbersTheSameInEveryCountry) {
+TEST(PropertyList, WritesNumbersIndependentlyOfTheLocale) {
     bool found = false;
     for (const char* name : {"de_DE.UTF-8", "fr_FR.UTF-8", "C.UTF-8"})
         found = found || std::setlocale(LC_ALL, name) != nullptr;
@@ -68,12 +68,12 @@ TEST(PropertyList, WritesNumbersTheSameInEveryCountry) {
     std::setlocale(LC_ALL, "C");
 }
 
-TEST(PropertyList, LeavesOutWhatNoPropertyListHolds) {
+TEST(PropertyList, OmitsValuesThatAPropertyListCannotHold) {
     const Dictionary dictionary{{u"nothing"_s, QVariant()}, {u"kept"_s, u"x"_s}};
     EXPECT_EQ(thereAndBack(dictionary), (Dictionary{{u"kept"_s, u"x"_s}}));
 }
 
-TEST(PropertyList, RefusesWhatIsNoDictionary) {
+TEST(PropertyList, RefusesARootThatIsNotADictionary) {
     EXPECT_FALSE(PropertyList::fromXml({}));
     EXPECT_FALSE(PropertyList::fromXml("no list at all"));
     EXPECT_FALSE(PropertyList::fromXml("<plist version=\"1.0\"><array/></plist>"));
@@ -88,7 +88,7 @@ TEST(PropertyList, RefusesEveryTruncation) {
         EXPECT_FALSE(PropertyList::fromXml(xml.left(length))) << length;
 }
 
-TEST(PropertyList, RefusesANestingThatWouldEatTheStack) {
+TEST(PropertyList, RefusesNestingThatWouldOverflowTheStack) {
     const QByteArray deep = "<plist version=\"1.0\"><dict><key>k</key>" + QByteArray("<array>").repeated(300000) +
                             QByteArray("</array>").repeated(300000) + "</dict></plist>";
     EXPECT_FALSE(PropertyList::fromXml(deep));

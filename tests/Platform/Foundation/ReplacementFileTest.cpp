@@ -72,7 +72,7 @@ TEST_P(ReplacementFileWritten, LeavesNothingWithoutCommit) {
     EXPECT_EQ(names(), QStringList(u"a.m4a"_s));
 }
 
-TEST_P(ReplacementFileWritten, KeepsWhatStandsAtTheTargetWhenAsked) {
+TEST_P(ReplacementFileWritten, KeepsAnExistingTargetWhenAsked) {
     Platform::ReplacementFile file(target, Existing::Kept);
     write(file, "new");
     put(target, "old");
@@ -84,7 +84,7 @@ TEST_P(ReplacementFileWritten, KeepsWhatStandsAtTheTargetWhenAsked) {
     EXPECT_EQ(names(), QStringList(u"a.m4a"_s));
 }
 
-TEST_P(ReplacementFileWritten, ReplacesWhatALinkPointsToOrTheLink) {
+TEST_P(ReplacementFileWritten, ReplacesTheTargetOfALinkOrTheLinkItself) {
     const QString link = folder.filePath(u"link.m4a"_s);
     put(target, "old");
     ASSERT_TRUE(QFile::link(target, link));
@@ -101,7 +101,7 @@ TEST_P(ReplacementFileWritten, ReplacesWhatALinkPointsToOrTheLink) {
     EXPECT_EQ(get(target), "new");
 }
 
-TEST_P(ReplacementFileWritten, IsOnTheDiskBeforeItTakesTheName) {
+TEST_P(ReplacementFileWritten, IsSyncedBeforeItTakesTheName) {
     using Kind = DiskCalls::Call::Kind;
     Platform::ReplacementFile file(target);
     write(file, "content");
@@ -120,7 +120,7 @@ TEST_P(ReplacementFileWritten, IsOnTheDiskBeforeItTakesTheName) {
     EXPECT_EQ(calls[2].inode, around.st_ino) << "the name is on the disk too";
 }
 
-TEST_P(ReplacementFileWritten, ThatTheDiskDoesNotTakeReplacesNothing) {
+TEST_P(ReplacementFileWritten, ThatCannotBeSyncedReplacesNothing) {
     put(target, "old");
     {
         Platform::ReplacementFile file(target);
@@ -133,7 +133,7 @@ TEST_P(ReplacementFileWritten, ThatTheDiskDoesNotTakeReplacesNothing) {
     EXPECT_EQ(names(), QStringList(u"a.m4a"_s));
 }
 
-TEST_F(ReplacementFile, HasTheTargetsEndingAndANameThatIsNeverTooLong) {
+TEST_F(ReplacementFile, HasTheTargetsExtensionAndAShortName) {
     const QString longest = folder.filePath(QString(251, u'x') + u".m4a"_s);
     Platform::ReplacementFile file(longest);
     EXPECT_TRUE(file.path().endsWith(u".m4a"_s));
@@ -156,7 +156,7 @@ TEST_F(ReplacementFile, TakesOwnerAndModeFromAModel) {
     EXPECT_EQ(made.st_size, 0);
 }
 
-TEST_F(ReplacementFile, OfAKilledProcessIsNotSeen) {
+TEST_F(ReplacementFile, OfAKilledProcessLeavesNoFile) {
     put(target, "old");
     ChildProcess child([&] {
         Platform::ReplacementFile file(target);
@@ -170,7 +170,7 @@ TEST_F(ReplacementFile, OfAKilledProcessIsNotSeen) {
     EXPECT_EQ(names(), QStringList(u"a.m4a"_s));
 }
 
-TEST_P(ReplacementFileWritten, TakesItsNameTogetherWithAnotherOrNotAtAll) {
+TEST_P(ReplacementFileWritten, TakesItsNameTogetherWithASecondFileOrNotAtAll) {
     const QString second = folder.filePath(u"b.cue"_s);
     const auto commit = [&] {
         Platform::ReplacementFile one(target, Existing::Kept);

@@ -48,7 +48,7 @@ QByteArray askMeanwhile(RunningProgram& who, const QByteArray& request) {
 
 } // namespace
 
-TEST_F(RunningProgramTest, LetsOneHoldTheLock) {
+TEST_F(RunningProgramTest, OnlyOneHoldsTheLock) {
     EXPECT_TRUE(first->acquire());
     EXPECT_TRUE(first->acquire());
     EXPECT_FALSE(second->acquire());
@@ -57,7 +57,7 @@ TEST_F(RunningProgramTest, LetsOneHoldTheLock) {
     EXPECT_TRUE(second->acquire());
 }
 
-TEST_F(RunningProgramTest, GivesTheLockFreeWhenItsProcessIsKilled) {
+TEST_F(RunningProgramTest, ReleasesTheLockWhenItsProcessIsKilled) {
     int ready[2];
     ASSERT_EQ(pipe(ready), 0);
     const pid_t child = fork();
@@ -76,7 +76,7 @@ TEST_F(RunningProgramTest, GivesTheLockFreeWhenItsProcessIsKilled) {
     EXPECT_TRUE(second->acquire());
 }
 
-TEST_F(RunningProgramTest, DoesNotHandTheLockToProgramsThatItStarts) {
+TEST_F(RunningProgramTest, ChildProcessesDoNotInheritTheLock) {
     ASSERT_TRUE(first->acquire());
     QProcess child;
     child.start(QStringLiteral("sleep"), {QStringLiteral("30")});
@@ -87,13 +87,13 @@ TEST_F(RunningProgramTest, DoesNotHandTheLockToProgramsThatItStarts) {
     child.waitForFinished();
 }
 
-TEST_F(RunningProgramTest, HoldsTheLockOutsideTheFolderThatALaunchWipes) {
+TEST_F(RunningProgramTest, KeepsTheLockOutsideTheFolderThatALaunchEmpties) {
     ASSERT_TRUE(first->acquire());
     EXPECT_FALSE(QFileInfo::exists(dir.filePath(QStringLiteral("org.example.Test"))));
     EXPECT_TRUE(QFileInfo::exists(dir.filePath(QStringLiteral("org.example.Test.lock"))));
 }
 
-TEST_F(RunningProgramTest, SaysWhyThereIsNoPlaceForTheLock) {
+TEST_F(RunningProgramTest, ReportsWhyTheLockFileCannotBeCreated) {
     QDir().mkpath(dir.filePath(QStringLiteral("org.example.Test.lock")));
     EXPECT_FALSE(first->acquire());
     EXPECT_FALSE(first->lastError().isEmpty());
@@ -106,13 +106,13 @@ TEST_F(RunningProgramTest, AnswersLinesOfOtherPrograms) {
     EXPECT_EQ(askMeanwhile(*second, "split"), "heard split");
 }
 
-TEST_F(RunningProgramTest, KeepsOneRequestOneLine) {
+TEST_F(RunningProgramTest, ReplacesLineBreaksInRequestAndAnswer) {
     ASSERT_TRUE(first->acquire());
     ASSERT_TRUE(first->listen([](const QByteArray& request) { return QByteArray(request + "\nsecond"); }));
     EXPECT_EQ(askMeanwhile(*second, "one\ntwo"), "one two second");
 }
 
-TEST_F(RunningProgramTest, CarriesTheKeysOfAWholeLibrary) {
+TEST_F(RunningProgramTest, AcceptsTheKeysOfAWholeLibraryInOneRequest) {
     ASSERT_TRUE(first->acquire());
     int requests = 0;
     ASSERT_TRUE(first->listen([&](const QByteArray& request) {
@@ -130,7 +130,7 @@ TEST_F(RunningProgramTest, ListensOnlyWithTheLock) {
     EXPECT_FALSE(second->ask("status", answer, 200));
 }
 
-TEST_F(RunningProgramTest, ListensWhereAKilledProgramLeftItsSocket) {
+TEST_F(RunningProgramTest, ReplacesTheSocketOfAKilledProgram) {
     ASSERT_TRUE(first->acquire());
     ASSERT_TRUE(first->listen([](const QByteArray&) { return QByteArray("old"); }));
     const QString socket = dir.filePath(QStringLiteral("org.example.Test.socket"));
@@ -145,7 +145,7 @@ TEST_F(RunningProgramTest, ListensWhereAKilledProgramLeftItsSocket) {
     EXPECT_EQ(askMeanwhile(*first, "who"), "new");
 }
 
-TEST_F(RunningProgramTest, AnswersBeforeItDoesWhatTurnsTheEventLoop) {
+TEST_F(RunningProgramTest, AnswersBeforeWorkThatRunsAnEventLoop) {
     ASSERT_TRUE(first->acquire());
     bool answered = false;
     bool done = false;
@@ -167,7 +167,7 @@ TEST_F(RunningProgramTest, AnswersBeforeItDoesWhatTurnsTheEventLoop) {
     EXPECT_EQ(answer, "ok");
 }
 
-TEST_F(RunningProgramTest, DoesWhatItAnsweredBeforeTheNextRequest) {
+TEST_F(RunningProgramTest, FinishesTheWorkOfARequestBeforeTheNextOne) {
     ASSERT_TRUE(first->acquire());
     QByteArray heard;
     ASSERT_TRUE(first->listen([&](const QByteArray& request) {

@@ -37,7 +37,7 @@ struct TemporaryFolderTest : testing::Test {
 
 } // namespace
 
-TEST_F(TemporaryFolderTest, GoesWithItsObject) {
+TEST_F(TemporaryFolderTest, IsRemovedWithItsObject) {
     {
         const auto folder = TemporaryFolder::create(QStringLiteral("test"));
         ASSERT_TRUE(folder) << qPrintable(folder.error().text);
@@ -51,7 +51,7 @@ TEST_F(TemporaryFolderTest, GoesWithItsObject) {
     EXPECT_EQ(all(), QStringList());
 }
 
-TEST_F(TemporaryFolderTest, OfADeadOwnerIsRemovedByTheNext) {
+TEST_F(TemporaryFolderTest, OfADeadOwnerIsRemovedByTheNextProcess) {
     int ready[2];
     ASSERT_EQ(pipe(ready), 0);
     ChildProcess other([&] {
@@ -72,7 +72,7 @@ TEST_F(TemporaryFolderTest, OfADeadOwnerIsRemovedByTheNext) {
     EXPECT_EQ(all(), QStringList());
 }
 
-TEST_F(TemporaryFolderTest, RemovesALinkButNotWhatItLeadsTo) {
+TEST_F(TemporaryFolderTest, RemovesALinkButNotItsTarget) {
     QDir(dir.path()).mkpath(QStringLiteral("precious"));
     make(dir.filePath(QStringLiteral("precious/file")));
     ASSERT_EQ(symlink("precious", qPrintable(dir.filePath(QStringLiteral("link")))), 0);
@@ -85,7 +85,7 @@ TEST_F(TemporaryFolderTest, RemovesALinkButNotWhatItLeadsTo) {
     EXPECT_TRUE(QFile::exists(dir.filePath(QStringLiteral("precious/file"))));
 }
 
-TEST(TerminationSignals, ArriveOnTheMainThreadAndEndNothing) {
+TEST(TerminationSignals, ArriveOnTheMainThreadWithoutEndingTheProcess) {
     std::vector<int> arrived;
     {
         const Platform::TerminationSignals signals([&](int number) { arrived.push_back(number); });
@@ -102,7 +102,7 @@ TEST(TerminationSignals, ArriveOnTheMainThreadAndEndNothing) {
     EXPECT_EQ(now.sa_handler, SIG_DFL);
 }
 
-TEST_F(TemporaryFolderTest, StaysWithAFileOfTheUserThatHasNoOtherPlace) {
+TEST_F(TemporaryFolderTest, StaysWhileAFileOfTheUserCannotBeMovedBack) {
     const QString folder = dir.filePath(QStringLiteral("work"));
     const QString home = dir.filePath(QStringLiteral("music"));
     QDir(dir.path()).mkpath(QStringLiteral("work"));
@@ -125,7 +125,7 @@ TEST_F(TemporaryFolderTest, StaysWithAFileOfTheUserThatHasNoOtherPlace) {
     EXPECT_FALSE(QFile::exists(folder));
 }
 
-TEST_F(TemporaryFolderTest, StaysWithWhatCouldNotBeSetAside) {
+TEST_F(TemporaryFolderTest, StaysWhileAFileCannotBeSetAside) {
     const QString folder = dir.filePath(QStringLiteral("work"));
     QDir(dir.path()).mkpath(QStringLiteral("work"));
     make(dir.filePath(QStringLiteral("data")));
@@ -155,7 +155,7 @@ TEST_F(TemporaryFolderTest, StaysWithWhatCouldNotBeSetAside) {
               (QStringList{QStringLiteral("a 2.m4a"), QStringLiteral("a.m4a")}));
 }
 
-TEST_F(TemporaryFolderTest, ThatHadToStayIsFoundAgain) {
+TEST_F(TemporaryFolderTest, ThatWasKeptIsFoundAgain) {
     const EnvironmentScope data("XDG_DATA_HOME", dir.filePath(QStringLiteral("no folder/data")).toUtf8());
     make(dir.filePath(QStringLiteral("no folder")));
     const QString home = dir.filePath(QStringLiteral("a.m4a"));

@@ -32,7 +32,7 @@ private:
 
 } // namespace
 
-TEST(TerminationSignals, TellsEachSignalOnTheMainThread) {
+TEST(TerminationSignals, ReportsEachSignalOnTheMainThread) {
     QList<int> told;
     const Platform::TerminationSignals signals([&](int signal) { told.append(signal); });
     raise(SIGHUP);
@@ -41,7 +41,7 @@ TEST(TerminationSignals, TellsEachSignalOnTheMainThread) {
     EXPECT_EQ(told, (QList<int>{SIGHUP, SIGTERM}));
 }
 
-TEST(TerminationSignals, LeavesSignalsIgnoredThatWereIgnored) {
+TEST(TerminationSignals, KeepsIgnoredSignalsIgnored) {
     const Disposition hangUp(SIGHUP, SIG_IGN);
     const Disposition interrupt(SIGINT, SIG_IGN);
     QList<int> told;

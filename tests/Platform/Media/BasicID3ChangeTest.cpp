@@ -107,7 +107,7 @@ TEST_P(TagsOfShape, AreReadBackTheSameByEveryProgram) {
     EXPECT_TRUE(leftOver().isEmpty());
 }
 
-TEST_P(TagsOfShape, GrowAndShrinkWithoutATraceInTheAudio) {
+TEST_P(TagsOfShape, GrowAndShrinkWithoutChangingTheAudio) {
     const QString file = path(GetParam() == Shape::Ringtone ? u"a.m4r"_s : u"a.m4a"_s);
     ASSERT_TRUE(Mpeg4Files::make(file, GetParam()));
     const QByteArray audio = Mpeg4Files::audioOf(file);
@@ -118,7 +118,7 @@ TEST_P(TagsOfShape, GrowAndShrinkWithoutATraceInTheAudio) {
     }
 }
 
-TEST_P(TagsOfShape, CarryACoverOfAMegabyte) {
+TEST_P(TagsOfShape, MayContainACoverOfAMegabyte) {
     const QString file = path(GetParam() == Shape::Ringtone ? u"a.m4r"_s : u"a.m4a"_s);
     const QString copy = path(u"copy.m4a"_s);
     const QString cover = path(u"cover.png"_s);
@@ -144,7 +144,7 @@ INSTANTIATE_TEST_SUITE_P(All, TagsOfShape,
                          testing::Values(Shape::IndexAtEnd, Shape::IndexInFront, Shape::Fragmented,
                                          Shape::FragmentedWithPlaces, Shape::Ringtone));
 
-TEST_F(Tags, WithoutAValueAreNotInTheFile) {
+TEST_F(Tags, WithoutAValueAreNotWritten) {
     ASSERT_TRUE(Mpeg4Files::make(path()));
     ASSERT_TRUE(tag(path(), u"Title"_s));
     ASSERT_TRUE(tag(path(), QString(), u""_s, QString(), 0, QString()));
@@ -179,7 +179,7 @@ TEST_F(Tags, OfAnotherProgramAreReadTheSame) {
     EXPECT_EQ(BasicID3Change::read(path())->artwork, Mpeg4Files::contentOf(cover));
 }
 
-TEST_F(Tags, LeaveThoseOfOtherKindsAlone) {
+TEST_F(Tags, KeepTagsOfOtherKinds) {
     ASSERT_TRUE(Mpeg4Files::make(path()));
     const QByteArray audio = Mpeg4Files::audioOf(path());
     ASSERT_TRUE(tag(path(), u"x"_s));
@@ -219,7 +219,7 @@ TEST_F(Tags, NeverRewriteTheAudioOfAFileWithItsIndexAtTheEnd) {
     EXPECT_EQ(before.st_ino, after.st_ino);
 }
 
-TEST_F(Tags, StandBehindTheTablesOfTheAudio) {
+TEST_F(Tags, AreWrittenBehindTheTablesOfTheAudio) {
     ASSERT_TRUE(Mpeg4Files::make(path(), Shape::IndexAtEnd, 20));
     stripTags(path());
     const QByteArray before = Mpeg4Files::contentOf(path());
@@ -266,7 +266,7 @@ TEST_F(Tags, GoIntoAnIndexWithALargeSize) {
     EXPECT_EQ(Mpeg4Files::audioOf(path()), audio);
 }
 
-TEST_F(Tags, KeepTheModeOfAFileThatIsMadeAnew) {
+TEST_F(Tags, KeepTheModeOfARewrittenFile) {
     ASSERT_TRUE(Mpeg4Files::make(path(u"long.m4a"_s), Shape::IndexInFront, 3));
     QFile::setPermissions(path(u"long.m4a"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
     const QString cover = path(u"c.png"_s);
@@ -277,7 +277,7 @@ TEST_F(Tags, KeepTheModeOfAFileThatIsMadeAnew) {
     EXPECT_EQ(status.st_mode & 0777, 0640U);
 }
 
-TEST_F(Tags, AreWrittenBehindALink) {
+TEST_F(Tags, AreWrittenToTheTargetOfALink) {
     ASSERT_TRUE(Mpeg4Files::make(path()));
     ASSERT_TRUE(QFile::link(path(), path(u"link.m4a"_s)));
     ASSERT_TRUE(tag(path(u"link.m4a"_s), u"Title"_s));
@@ -285,7 +285,7 @@ TEST_F(Tags, AreWrittenBehindALink) {
     EXPECT_EQ(BasicID3Change::read(path())->title, u"Title"_s);
 }
 
-TEST_F(Tags, RefuseWhatIsNoFile) {
+TEST_F(Tags, RefuseAPathThatIsNotAFile) {
     EXPECT_FALSE(tag(path(u"missing.m4a"_s), u"x"_s));
     EXPECT_FALSE(tag(folder_.path(), u"x"_s));
     EXPECT_FALSE(BasicID3Change::read(path(u"missing.m4a"_s)));
@@ -295,7 +295,7 @@ TEST_F(Tags, RefuseWhatIsNoFile) {
     EXPECT_FALSE(BasicID3Change::read(path(u"pipe.m4a"_s)));
 }
 
-TEST_F(Tags, RefuseWhatIsNoMpeg4AndLeaveItAsItWas) {
+TEST_F(Tags, RefuseOtherFileTypesAndKeepThemUnchanged) {
     for (const QByteArray& content : {QByteArray(), QByteArray("RIFF....WAVE"), QByteArray(5000, '\0'),
                                       QByteArray("\0\0\0\x14"
                                                  "ftypM4A ",
@@ -308,7 +308,7 @@ TEST_F(Tags, RefuseWhatIsNoMpeg4AndLeaveItAsItWas) {
     }
 }
 
-TEST_F(Tags, RefuseEveryTruncationAndLeaveItAsItWas) {
+TEST_F(Tags, RefuseEveryTruncatedFileAndKeepItUnchanged) {
     for (const Shape shape : {Shape::IndexAtEnd, Shape::IndexInFront, Shape::Fragmented}) {
         ASSERT_TRUE(Mpeg4Files::make(path(), shape, 1));
         ASSERT_TRUE(tag(path(), u"Title"_s));
@@ -319,13 +319,13 @@ TEST_F(Tags, RefuseEveryTruncationAndLeaveItAsItWas) {
             (void)BasicID3Change::read(path());
             if (!tag(path(), u"Other"_s))
                 ASSERT_EQ(Mpeg4Files::contentOf(path()), cut);
-            else // the cut was between two boxes: the rest is an audio file
+            else // the cut was between two boxes: the rest is an intact file
                 ASSERT_EQ(BasicID3Change::read(path())->title, u"Other"_s);
         }
     }
 }
 
-TEST_F(Tags, LiveWithEveryHostileSize) {
+TEST_F(Tags, SurviveEveryHostileSize) {
     for (const Shape shape : {Shape::IndexAtEnd, Shape::IndexInFront, Shape::Fragmented}) {
         ASSERT_TRUE(Mpeg4Files::make(path(), shape, 1));
         ASSERT_TRUE(tag(path(), u"Title"_s));
@@ -348,7 +348,7 @@ TEST_F(Tags, LiveWithEveryHostileSize) {
     }
 }
 
-TEST_F(Tags, LiveWithHostileTables) {
+TEST_F(Tags, SurviveHostileTables) {
     ASSERT_TRUE(Mpeg4Files::make(path(), Shape::IndexInFront, 1));
     const QByteArray whole = Mpeg4Files::contentOf(path());
     QByteArray hostile = whole;
@@ -369,7 +369,7 @@ TEST_F(Tags, LiveWithHostileTables) {
     EXPECT_FALSE(BasicID3Change::read(path()));
 }
 
-TEST_F(Tags, LiveWithDamageAnywhere) {
+TEST_F(Tags, SurviveDamageAnywhere) {
     ASSERT_TRUE(Mpeg4Files::make(path(), Shape::IndexAtEnd, 1));
     ASSERT_TRUE(tag(path(), u"Title"_s));
     const QByteArray whole = Mpeg4Files::contentOf(path());
@@ -387,7 +387,7 @@ TEST_F(Tags, LiveWithDamageAnywhere) {
     }
 }
 
-TEST_F(Tags, RefuseAnImageThatIsNone) {
+TEST_F(Tags, RefuseAFileThatIsNotAnImage) {
     ASSERT_TRUE(Mpeg4Files::make(path()));
     const QString image = path(u"image.png"_s);
     QImage(3, 3, QImage::Format_RGB32).save(image);
@@ -411,7 +411,7 @@ TEST_F(Tags, RefuseAnImageThatIsNone) {
     EXPECT_FALSE(BasicID3Change::copyWithArtwork(path(u"missing"_s), image, path(u"out.m4a"_s)));
 }
 
-TEST_F(Tags, AreAsBeforeWhenTheDiskIsFullInTheMiddleOfASave) {
+TEST_F(Tags, AreUnchangedWhenTheDiskFillsDuringASave) {
     ASSERT_TRUE(Mpeg4Files::make(path(), Shape::IndexAtEnd, 10));
     ASSERT_TRUE(tag(path(), u"Before"_s));
     const QByteArray before = Mpeg4Files::contentOf(path());
@@ -459,7 +459,7 @@ TEST_F(Tags, SurviveKillsAtAnyMoment) {
     }
 }
 
-TEST_F(Tags, OfTwoProcessesAtOnceLeaveASoundFile) {
+TEST_F(Tags, SavedByTwoProcessesAtOnceLeaveAnIntactFile) {
     ASSERT_TRUE(Mpeg4Files::make(path(), Shape::IndexAtEnd, 5));
     const QByteArray audio = Mpeg4Files::audioOf(path());
     const auto writer = [&](char16_t letter) {

@@ -4,7 +4,7 @@
 
 using namespace MediaTest;
 
-TEST(ManyDamagedFiles, NeitherCrashNorHoldTheReader) {
+TEST(ManyDamagedFiles, NeitherCrashNorBlockTheReader) {
     readDamagedFiles(10000, 1);
 }
 

@@ -2,6 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/Platform/Media/DamagedFiles.h"
 
-TEST(DamagedFiles, NeitherCrashNorHoldTheReader) {
+TEST(DamagedFiles, NeitherCrashNorBlockTheReader) {
     MediaTest::readDamagedFiles(300, 20261121);
 }

@@ -38,7 +38,7 @@ TEST_F(WrittenFiles, WaveSaturatesAndDoesNotWrapAround) {
     EXPECT_EQ(back.rows[0], (std::vector<float>{1, 1, -1, -1, 0, 1, -1}));
 }
 
-TEST_F(WrittenFiles, Mpeg4AndCafHaveTheExactLengthAndTheSoundInPlace) {
+TEST_F(WrittenFiles, Mpeg4AndCafHaveTheExactLengthAndPosition) {
     for (const std::uint32_t type : {kAudioFileM4AType, kAudioFileCAFType}) {
         for (const std::size_t frames : {1u, 1000u, 1024u, 1025u, 44100u, 100000u, 250003u}) {
             const QString path = at(type == kAudioFileM4AType ? u"a.m4a"_s : u"a.caf"_s);
@@ -64,7 +64,7 @@ TEST_F(WrittenFiles, Mpeg4AndCafHaveTheExactLengthAndTheSoundInPlace) {
     }
 }
 
-TEST_F(WrittenFiles, WhatIsToldOfOurOwnFilesIsWhatADecoderFindsInThem) {
+TEST_F(WrittenFiles, TheDescriptionOfOwnFilesMatchesADecoder) {
     for (const double rate : {8000.0, 44100.0, 96000.0}) {
         for (const std::size_t frames : {1u, 1023u, 1024u, 1025u, 2048u, 50000u}) {
             const std::uint32_t channels = frames % 2 ? 1 : 2;
@@ -128,7 +128,7 @@ TEST_F(WrittenFiles, AnExistingFileIsKeptUnlessErasingWasAsked) {
     EXPECT_TRUE(media().createWriter(at(u"b.wav"_s), kAudioFileWAVEType, waveFormat(), 0));
 }
 
-TEST_F(WrittenFiles, OtherRatesAreConvertedInPlaceAndLength) {
+TEST_F(WrittenFiles, OtherRatesAreConvertedWithExactPositionAndLength) {
     for (const double rate : {8000.0, 22050.0, 48000.0, 96000.0, 192000.0}) {
         const auto frames = std::size_t(rate * 3) + 7;
         const Samples source = sweep(frames, rate);
@@ -168,7 +168,7 @@ TEST_F(WrittenFiles, DisposeLaterClosesTheFileAfterTheWriterIsGone) {
     EXPECT_EQ(readFile(at(u"a.m4a"_s)).length, 100000);
 }
 
-TEST_F(WrittenFiles, SamplesThatAreNoNumbersDoNotEndARecording) {
+TEST_F(WrittenFiles, NanSamplesDoNotEndARecording) {
     Samples source = tones(100000);
     source[0][500] = NAN;
     source[1][70000] = INFINITY;
@@ -176,7 +176,7 @@ TEST_F(WrittenFiles, SamplesThatAreNoNumbersDoNotEndARecording) {
     EXPECT_EQ(readFile(at(u"a.m4a"_s)).length, 100000);
 }
 
-TEST_F(WrittenFiles, ReadersFindEveryFrameAgainAfterASeek) {
+TEST_F(WrittenFiles, ReadersFindEveryFrameAfterASeek) {
     const Samples source = tones(200000);
     for (const std::uint32_t type : {kAudioFileM4AType, kAudioFileWAVEType, kAudioFileCAFType}) {
         writeFile(at(u"a"_s), type, source);

@@ -159,7 +159,7 @@ TEST_F(GrowingFiles, AFileWithoutRoomForASecondCopyGetsItsIndexInPlace) {
     EXPECT_NEAR(secondsOfGStreamer(path), 500000 / 44100.0, 0.05);
 }
 
-TEST_F(GrowingFiles, AFullDiskKeepsWhatWasRecordedAndSaysSo) {
+TEST_F(GrowingFiles, AFullDiskKeepsTheRecordedAudioAndReportsIt) {
     const QString path = at(u"full.m4a"_s);
     const QByteArray mountPoint = QFile::encodeName(at(u"disk"_s));
     ASSERT_TRUE(QDir().mkdir(at(u"disk"_s)));
@@ -294,7 +294,7 @@ TEST_F(Cuts, ResampledFilesLaidEndToEndAreTheUncutFile) {
     }
 }
 
-TEST_F(Cuts, AFileThatIsClosedBeforeAnythingFollowsEndsThereAndTheNextGoesOnInPlace) {
+TEST_F(Cuts, AFileClosedBeforeMoreInputEndsThereAndTheNextContinuesInPlace) {
     Samples sound = sweep(48000 * 4, 48000);
     const auto paths = writeCut(sound, 48000, {30011, 90017}, false); // closes at once, on the writing thread
     const Samples all = laidEndToEnd(paths);
@@ -305,7 +305,7 @@ TEST_F(Cuts, AFileThatIsClosedBeforeAnythingFollowsEndsThereAndTheNextGoesOnInPl
     EXPECT_GT(signalToError(expected[0], all[0], seam + 500, seam + 40000), 80);
 }
 
-TEST_F(Cuts, AFileThatEndsWhileAFewFramesFollowedKeepsThemInTheNext) {
+TEST_F(Cuts, FewFramesBehindACutGoToTheNextFile) {
     Samples sound = sweep(48000 * 2, 48000);
     auto first = newWriter(at(u"1.wav"_s), kAudioFileWAVEType, waveFormat(), clientFormat(48000));
     const auto put = [&](ExtAudioFileWriter& writer, std::size_t from, std::size_t to) {
@@ -359,7 +359,7 @@ struct Mixes : GrowingFiles {
 
 } // namespace
 
-TEST_F(Mixes, HoldTheSumOfBothAsLongAsTheLonger) {
+TEST_F(Mixes, ContainTheSumOfBothForTheLengthOfTheLonger) {
     const Samples a = tones(100000);
     const Samples b = sweep(150000, 44100);
     writeFile(at(u"a.wav"_s), kAudioFileWAVEType, a);
@@ -385,7 +385,7 @@ TEST_F(Mixes, NeverWrapAround) {
     EXPECT_TRUE(std::ranges::all_of(sum.rows[1], [](float v) { return v < -0.89f; }));
 }
 
-TEST_F(Mixes, ShiftAndStretchATrackThatRanOnAnotherClock) {
+TEST_F(Mixes, ShiftAndResampleATrackOfAnotherClock) {
     // The second source's clock ran 100 ppm fast and started 0.25 s late: its file has more frames than the elapsed
     // time.
     constexpr double speed = 1.0001;
@@ -402,7 +402,7 @@ TEST_F(Mixes, ShiftAndStretchATrackThatRanOnAnotherClock) {
     EXPECT_GT(signalToError(expected[0], moved, moved.size() - 40000, moved.size() - 2000), 70);
 }
 
-TEST_F(Mixes, TellOfADamagedPlaceOfATrack) {
+TEST_F(Mixes, ReportADamagedPlaceOfATrack) {
     writeFile(at(u"a.m4a"_s), kAudioFileM4AType, tones(400000));
     writeFile(at(u"b.m4a"_s), kAudioFileM4AType, tones(400000));
     const auto movie = media().openMovie(at(u"a.m4a"_s)).valueOr(nullptr);
@@ -420,7 +420,7 @@ TEST_F(Mixes, TellOfADamagedPlaceOfATrack) {
     EXPECT_EQ(readFile(at(u"sum.wav"_s)).length, 400000);
 }
 
-TEST_F(Mixes, StopWhenToldToAndLeaveNothing) {
+TEST_F(Mixes, StopOnRequestAndLeaveNothing) {
     writeFile(at(u"a.wav"_s), kAudioFileWAVEType, tones(400000));
     const auto movie = media().openMovie(at(u"a.wav"_s)).valueOr(nullptr);
     EXPECT_NEAR(movie->duration(), 400000 / 44100.0, 1e-9);

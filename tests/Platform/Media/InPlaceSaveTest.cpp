@@ -72,7 +72,7 @@ TEST_F(InPlaceSave, WritesNoAudioOfAFileWithItsIndexAtTheEnd) {
     EXPECT_TRUE(hidden().isEmpty());
 }
 
-TEST_F(InPlaceSave, IsWaitedForByWhoeverReads) {
+TEST_F(InPlaceSave, MakesReadersWaitForIt) {
     ASSERT_TRUE(Mpeg4Files::make(path(), Mpeg4Files::Shape::IndexAtEnd, 5));
     ChildProcess writer([this] {
         for (int i = 0;; ++i)
@@ -86,7 +86,7 @@ TEST_F(InPlaceSave, IsWaitedForByWhoeverReads) {
     writer.kill();
 }
 
-TEST_F(InPlaceSave, PutsNoFileInThePlaceOfSomethingElse) {
+TEST_F(InPlaceSave, NeverReplacesAnythingButAFile) {
     ASSERT_TRUE(Mpeg4Files::make(path()));
     const QString cover = path(u"cover.png"_s);
     ASSERT_TRUE(Mpeg4Files::noise(20).save(cover));
@@ -99,7 +99,7 @@ TEST_F(InPlaceSave, PutsNoFileInThePlaceOfSomethingElse) {
     EXPECT_TRUE(S_ISFIFO(status.st_mode));
 }
 
-TEST_F(InPlaceSave, PaysNoAttentionToHiddenFilesBesideTheRecording) {
+TEST_F(InPlaceSave, IgnoresHiddenFilesBesideTheRecording) {
     ASSERT_TRUE(Mpeg4Files::make(path(), Mpeg4Files::Shape::IndexAtEnd, 2));
     ASSERT_TRUE(BasicID3Change::writeTexts(path(), {.title = u"Before"_s}));
     const QByteArray before = Mpeg4Files::contentOf(path());

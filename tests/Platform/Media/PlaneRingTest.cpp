@@ -22,7 +22,7 @@ std::size_t pushRamp(PlaneRing& ring, std::uint64_t from, std::size_t frames) {
 
 } // namespace
 
-TEST(PlaneRing, AnEmptyRingBeginsAtTheStartOfItsMemory) {
+TEST(PlaneRing, StartsAtTheBeginningOfItsMemoryWhenEmpty) {
     PlaneRing ring(2, 1024);
     std::vector<const float*> rows;
     ASSERT_EQ(pushRamp(ring, 0, 300), 300u);
@@ -38,7 +38,7 @@ TEST(PlaneRing, AnEmptyRingBeginsAtTheStartOfItsMemory) {
     EXPECT_EQ(rows[0], start[0] + 299);
 }
 
-TEST(PlaneRing, TakesWhatThereIsRoomForAcrossItsEnd) {
+TEST(PlaneRing, StoresAsMuchAsFitsAcrossItsEnd) {
     PlaneRing ring(2, 1024);
     std::vector<const float*> rows;
     ASSERT_EQ(pushRamp(ring, 0, 1000), 1000u);

@@ -40,7 +40,7 @@ protected:
     std::int64_t next = 0;
 };
 
-TEST_F(PlayerRingTest, GivesTheFramesInTheirOrderRoundAndRound) {
+TEST_F(PlayerRingTest, DeliversTheFramesInOrderAcrossItsEnd) {
     ring.requestJump(0);
     for (int i = 0; i < 50; ++i) {
         decode();
@@ -49,7 +49,7 @@ TEST_F(PlayerRingTest, GivesTheFramesInTheirOrderRoundAndRound) {
     }
 }
 
-TEST_F(PlayerRingTest, LetsNothingOfTheOldPlaceBeHeardAfterAJump) {
+TEST_F(PlayerRingTest, PlaysNothingOfTheOldPositionAfterAJump) {
     ring.requestJump(0);
     decode();
     EXPECT_EQ(hear(10), ramp(0, 10));
@@ -63,7 +63,7 @@ TEST_F(PlayerRingTest, LetsNothingOfTheOldPlaceBeHeardAfterAJump) {
     EXPECT_EQ(ring.position(), 1010);
 }
 
-TEST_F(PlayerRingTest, HearsOnlyTheLastOfManyJumps) {
+TEST_F(PlayerRingTest, PlaysOnlyTheLastOfManyJumps) {
     ring.requestJump(0);
     decode();
     hear(5);
@@ -86,7 +86,7 @@ TEST_F(PlayerRingTest, HearsOnlyTheLastOfManyJumps) {
     EXPECT_EQ(hear(5), ramp(700, 5));
 }
 
-TEST_F(PlayerRingTest, SaysWhenTheLastFrameWasHeardAndFillsUpWithSilence) {
+TEST_F(PlayerRingTest, ReportsTheLastPlayedFrameAndFillsUpWithSilence) {
     ring.requestJump(90);
     decode(100);
     EXPECT_FALSE(ring.atEnd());
@@ -101,7 +101,7 @@ TEST_F(PlayerRingTest, SaysWhenTheLastFrameWasHeardAndFillsUpWithSilence) {
     EXPECT_FALSE(ring.atEnd());
 }
 
-TEST_F(PlayerRingTest, CountsAsStarvedOnlyOnceSomethingFlowed) {
+TEST_F(PlayerRingTest, CountsAsStarvedOnlyAfterTheFirstFrame) {
     ring.requestJump(0);
     EXPECT_TRUE(hear(8).empty());
     EXPECT_FALSE(ring.starvedRt());
@@ -111,7 +111,7 @@ TEST_F(PlayerRingTest, CountsAsStarvedOnlyOnceSomethingFlowed) {
     EXPECT_TRUE(ring.starvedRt());
 }
 
-TEST(PlayerRing, KeepsItsPromisesBetweenThreeThreads) {
+TEST(PlayerRing, WorksBetweenThreeThreads) {
     PlayerRing ring(256, 2);
     std::atomic<bool> over{false};
     ring.requestJump(0);

@@ -240,7 +240,7 @@ TEST_F(SaveWithItsIndexInFront, LeavesAFileThatEveryProgramReads) {
     leaveAFileThatEveryProgramReads(Shape::IndexInFront);
 }
 
-TEST_P(KilledSaves, LeaveAFileThatIsRead) {
+TEST_P(KilledSaves, LeaveAReadableFile) {
     ASSERT_TRUE(Mpeg4Files::make(path, GetParam(), 2));
     const QByteArray audio = Mpeg4Files::audioOf(path);
     QString old = u"nil"_s;
@@ -323,7 +323,7 @@ TEST_P(ManySaves, DoNotLetTheFileGrow) {
     EXPECT_EQ(Mpeg4Files::audioOf(path), audio);
 }
 
-TEST_F(SaveOfAnHour, TakeUnder15Milliseconds) {
+TEST_F(SaveOfAnHour, TakesUnder15Milliseconds) {
     makeAnHour(path);
     ASSERT_GT(QFileInfo(path).size(), 600'000);
     std::vector<double> work;

@@ -135,7 +135,7 @@ TEST_F(SoundTest, PlaysAWaveFileAsItIs) {
     EXPECT_GT(heardFrames().longestRun, std::size_t(kRate / 5));
 }
 
-TEST_F(SoundTest, GoesOnAtTheFrameWhereItPaused) {
+TEST_F(SoundTest, ContinuesAtTheFrameWhereItPaused) {
     auto sound = sounds->open(path);
     ASSERT_TRUE(sound->play());
     int exactRounds = 0;
@@ -199,7 +199,7 @@ TEST_F(SoundTest, TakesAHundredSeeksInARow) {
     EXPECT_TRUE(sound.isPause());
 }
 
-TEST_F(SoundTest, PlaysFromWhereAStoppedSoundWasSetTo) {
+TEST_F(SoundTest, PlaysFromThePositionSetWhileStopped) {
     auto sound = sounds->open(path);
     sound->setCurrentTime(19);
     EXPECT_FALSE(sound->isPlaying());
@@ -244,7 +244,7 @@ TEST_F(SoundTest, StopsCleanlyWhenTheServerGoesAway) {
     EXPECT_TRUE(waitFor([&] { return sound->currentTime() > 0.1; }));
 }
 
-TEST_F(SoundTest, DoesNotPlayWhatCannotBeRead) {
+TEST_F(SoundTest, DoesNotPlayAnUnreadableFile) {
     auto sound = sounds->open(folder.filePath(u"missing.wav"_s));
     ASSERT_TRUE(sound);
     EXPECT_EQ(sound->duration(), 0.0);

@@ -119,7 +119,7 @@ TEST(StretchEncoder, ASeamHasNoLargerErrorThanItsSurroundings) {
     }
 }
 
-TEST(StretchEncoder, MemoryIsBoundByTheStretchesAndNotByTheFile) {
+TEST(StretchEncoder, MemoryDependsOnTheStretchesNotOnTheFile) {
     // A producer far ahead of the encoders has to wait: the amount that was appended and has not come out stays below
     // the bound.
     AacSettings settings;

@@ -78,7 +78,7 @@ TEST_F(SyncedFiles, AnErrorOfTheDiskIsTheFilesError) {
     EXPECT_TRUE(writer->firstError().text.contains(path)) << qPrintable(writer->firstError().text);
 }
 
-TEST_F(SyncedFiles, APlainFormThatDoesNotReachTheDiskTakesNothingsPlace) {
+TEST_F(SyncedFiles, APlainVersionThatCannotBeSyncedReplacesNothing) {
     DiskCalls disk;
     disk.failSync(EIO, [&](const QString& of) { return of.startsWith(folder.path() + u'/') && of != path; });
     writeFile(path, kAudioFileM4AType, tones(300000));

@@ -113,7 +113,7 @@ bool isOpenHere(const QString& path) {
 
 } // namespace
 
-TEST_F(TagLayouts, WithoutAListGetOne) {
+TEST_F(TagLayouts, WithoutAListGetANewOne) {
     for (const QByteArray& tail :
          {QByteArray(), box("udta", {}), box("udta", name), box("udta", name, Size::Long),
           box("udta", box("meta", zeros + handler())), box("udta", box("meta", zeros + handler(), Size::Long)),
@@ -142,7 +142,7 @@ TEST_F(TagLayouts, MayReachUpToTheEnd) {
     }
 }
 
-TEST_F(TagLayouts, OfSeveralListsUseTheOneThatPlayersShow) {
+TEST_F(TagLayouts, WithSeveralListsUseTheOneThatPlayersShow) {
     const QByteArray keyed = box("meta", zeros + handler("mdta") + box("keys", zeros + zeros) + box("ilst", {}));
     const QByteArray shown = box("meta", zeros + handler() + box("ilst", textItem("\251nam", "old")));
     for (const QByteArray& tail : {box("udta", keyed), box("udta", keyed + shown),
@@ -154,7 +154,7 @@ TEST_F(TagLayouts, OfSeveralListsUseTheOneThatPlayersShow) {
     }
 }
 
-TEST_F(TagLayouts, KeepEveryItemOfOthersToTheByte) {
+TEST_F(TagLayouts, KeepForeignItemsByteForByte) {
     const QByteArray number = box("data", QByteArray::fromHex("000000150000000000000007"));
     const QByteArray text = box("data", QByteArray::fromHex("0000000100000000") + "text");
     for (const QByteArray& item :
@@ -167,7 +167,7 @@ TEST_F(TagLayouts, KeepEveryItemOfOthersToTheByte) {
     }
 }
 
-TEST_F(TagLayouts, ChangeNoTextButThoseThatAreGiven) {
+TEST_F(TagLayouts, ChangeOnlyTheGivenTexts) {
     const QByteArray items = textItem("\251day", "2012-05-01") +
                              box("\251ART", box("data", QByteArray::fromHex("0000000100000000") + "One") +
                                                 box("data", QByteArray::fromHex("0000000100000000") + "Two"));
@@ -180,7 +180,7 @@ TEST_F(TagLayouts, ChangeNoTextButThoseThatAreGiven) {
     EXPECT_EQ(BasicID3Change::read(path())->title, u"T"_s);
 }
 
-TEST_F(TagLayouts, RefuseToMoveAudioBeyondWhatATableHolds) {
+TEST_F(TagLayouts, RefuseToMoveAudioBeyondTheRangeOfATable) {
     ASSERT_TRUE(Mpeg4Files::make(path(), Mpeg4Files::Shape::IndexInFront, 1));
     QByteArray content = Mpeg4Files::contentOf(path());
     qToBigEndian(0xffffff00U, content.data() + content.indexOf("stco") + 12);
@@ -192,7 +192,7 @@ TEST_F(TagLayouts, RefuseToMoveAudioBeyondWhatATableHolds) {
     EXPECT_EQ(Mpeg4Files::contentOf(path()), content);
 }
 
-TEST_F(TagLayouts, CarryACoverBehindALink) {
+TEST_F(TagLayouts, WriteACoverToTheTargetOfALink) {
     const QString cover = path(u"cover.png"_s);
     ASSERT_TRUE(Mpeg4Files::make(path()));
     ASSERT_TRUE(Mpeg4Files::noise(20).save(cover));
@@ -202,7 +202,7 @@ TEST_F(TagLayouts, CarryACoverBehindALink) {
     EXPECT_EQ(BasicID3Change::read(path())->artwork, Mpeg4Files::contentOf(cover));
 }
 
-TEST_F(TagLayouts, AreCopiedWhenASaveOfAnotherProcessIsDone) {
+TEST_F(TagLayouts, AreCopiedAfterASaveOfAnotherProcess) {
     ASSERT_TRUE(Mpeg4Files::make(path(), Mpeg4Files::Shape::IndexInFront, 5));
     const QByteArray audio = Mpeg4Files::audioOf(path());
     const QString cover = path(u"cover.png"_s);

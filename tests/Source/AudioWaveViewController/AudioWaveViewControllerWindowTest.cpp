@@ -104,7 +104,7 @@ bool isLevelColor(QRgb pixel) {
 
 } // namespace
 
-TEST_F(LiveDisplay, WakesUpOnItsRecordingSideWithATimerAndBlackState) {
+TEST_F(LiveDisplay, StartsOnTheRecordingSideWithATimerAndBlackState) {
     AudioWaveViewController fresh;
     EXPECT_TRUE(fresh.tabViewShowWave());
     EXPECT_TRUE(fresh.hasDudioPlayUpdateTimer());
@@ -130,7 +130,7 @@ TEST_F(LiveDisplay, WithoutADelegateTheLevelIsZero) {
     QCoreApplication::processEvents();
 }
 
-TEST_F(LiveDisplay, TheProgressIsBroughtLaterAndTheLevelAtOnce) {
+TEST_F(LiveDisplay, TheProgressIsUpdatedLaterAndTheLevelAtOnce) {
     controller.audioPlayUpdateTimerFireMethod();
     EXPECT_EQ(delegate.recordStateAsked, 1);
     EXPECT_EQ(controller.audioRecordWaveView()->audioLevelArray().size(), 1);
@@ -157,7 +157,7 @@ TEST_F(LiveDisplay, WithoutASoundEverythingIsZeroAndTheBarIsFull) {
     EXPECT_EQ(bar->progressWidth(), bar->validProgressRect().width());
 }
 
-TEST_F(LiveDisplay, SeekingIsKeptInsideTheSound) {
+TEST_F(LiveDisplay, SeekingIsLimitedToTheSound) {
     playASound();
     controller.setAudioPosition(4);
     EXPECT_FLOAT_EQ(float(controller.currentTime()), 4);
@@ -168,7 +168,7 @@ TEST_F(LiveDisplay, SeekingIsKeptInsideTheSound) {
     EXPECT_EQ(controller.currentTime(), 10.0);
 }
 
-TEST_F(LiveDisplay, AClickAtTheFarRightAsksBeyondTheEndAndIsClamped) {
+TEST_F(LiveDisplay, AClickAtTheFarRightIsLimitedToTheEnd) {
     playASound();
     controller.setTabViewShowWave(false);
     QCoreApplication::processEvents();
@@ -206,7 +206,7 @@ TEST_F(LiveDisplay, ADragSeeksAllAlongAndEndsAtTheRelease) {
     EXPECT_FLOAT_EQ(asked.asked.last(), 7.0F);
 }
 
-TEST_F(LiveDisplay, ABarWithoutRoomAsksForTheBeginning) {
+TEST_F(LiveDisplay, ABarWithoutWidthSeeksToTheBeginning) {
     AskedPosition asked;
     AudioPlayProgressView bar;
     bar.setMinimumSize(1, 1);
@@ -258,7 +258,7 @@ TEST_F(LiveDisplay, ThePointIsWholeAtBothEnds) {
     }
 }
 
-TEST_F(LiveDisplay, AVeryShortSoundShowsAsComplete) {
+TEST_F(LiveDisplay, AVeryShortSoundFillsTheBar) {
     AudioPlayProgressView bar;
     bar.resize(110, 20);
     bar.setDuration(0.1);
@@ -277,7 +277,7 @@ TEST_F(LiveDisplay, KeysSeekToo) {
     EXPECT_EQ(controller.currentTime(), 0.0);
 }
 
-TEST(LevelHistory, PutsTheNewestLevelAtTheLeft) {
+TEST(LevelHistory, DrawsTheNewestLevelAtTheLeft) {
     AudioRecordWaveView view;
     view.resize(100, 50);
     view.addCurrentLevel(0.25F);
@@ -335,7 +335,7 @@ TEST(LevelHistory, AMovedPictureEqualsADrawnOne) {
     EXPECT_EQ(moved.grab().toImage(), drawn.grab().toImage());
 }
 
-TEST(LevelHistory, ADamagedLevelStopsNothing) {
+TEST(LevelHistory, AnInvalidLevelDoesNotBreakTheDrawing) {
     AudioRecordWaveView view;
     view.resize(20, 20);
     view.addCurrentLevel(0.5F);
@@ -402,7 +402,7 @@ TEST_F(LiveDisplay, StateTextKeepsItsColorAndBlackBecomesThePanelsOwn) {
     EXPECT_EQ(state->palette().color(QPalette::WindowText), QColor(Qt::red));
 }
 
-TEST_F(LiveDisplay, TheTimeIsLargeAndDoesNotTremble) {
+TEST_F(LiveDisplay, TheTimeIsLargeAndDoesNotShift) {
     auto* time = field<TabularLabel>("timeField");
     EXPECT_GE(time->font().pointSizeF(), 28);
     controller.setTimeString(u"11:11"_s);
@@ -423,7 +423,7 @@ TEST_F(LiveDisplay, NoticesStayUntilTheyAreDismissed) {
     EXPECT_FALSE(line->isVisible());
 }
 
-TEST_F(LiveDisplay, ALongNoticeTakesTwoLinesAndNoRoomFromTheWindow) {
+TEST_F(LiveDisplay, ALongNoticeTakesTwoLinesWithoutResizingTheWindow) {
     QWidget* panel = controller.view();
     panel->resize(272, 116);
     controller.setNotices({});
@@ -496,7 +496,7 @@ TEST_F(LiveDisplay, EveryControlHasAnAccessibleName) {
     }
 }
 
-TEST_F(LiveDisplay, OutlivesTheWindowThatTookItsPanel) {
+TEST_F(LiveDisplay, OutlivesTheWindowThatOwnsItsPanel) {
     auto window = std::make_unique<QWidget>();
     AudioWaveViewController inside(nullptr);
     inside.view()->setParent(window.get());
@@ -508,7 +508,7 @@ TEST_F(LiveDisplay, OutlivesTheWindowThatTookItsPanel) {
     QCoreApplication::processEvents();
 }
 
-TEST_F(LiveDisplay, CanBeLookedAt) {
+TEST_F(LiveDisplay, HasPictures) {
     playASound();
     controller.setAudioPosition(3.2F);
     controller.setTitle(u"Concert in the park"_s);

@@ -8,7 +8,7 @@
 
 #include <cstdlib>
 
-TEST(AudioBufferListTest, HasOneZeroedBufferAChannel) {
+TEST(AudioBufferListTest, HasOneZeroedBufferPerChannel) {
     AudioBufferList* list = BuildInAudioRecord::allocateAudioBufferList(3, 2048);
     ASSERT_NE(list, nullptr);
     EXPECT_EQ(list->mNumberBuffers, 3U);
@@ -33,7 +33,7 @@ namespace {
 }
 } // namespace
 
-TEST(AudioBufferListTest, IsNothingWhenThereIsNoMemory) {
+TEST(AudioBufferListTest, IsNullWhenThereIsNoMemory) {
     EXPECT_EXIT(allocateMoreThanThereIs(), testing::ExitedWithCode(0), "");
 }
 #endif

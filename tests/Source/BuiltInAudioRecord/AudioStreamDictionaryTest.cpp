@@ -21,7 +21,7 @@ AudioStreamBasicDescription aacDescription() {
 
 } // namespace
 
-TEST(AudioStreamDictionary, CarriesEveryFieldThere) {
+TEST(AudioStreamDictionary, StoresEveryField) {
     const Dictionary dictionary = UKDictionaryFromAudioStreamDescription(aacDescription());
     EXPECT_EQ(dictionary.size(), 8);
     EXPECT_EQ(dictionary.value(QStringLiteral("UKAudioStreamFormat")).toString(), QStringLiteral("aac "));
@@ -34,7 +34,7 @@ TEST(AudioStreamDictionary, CarriesEveryFieldThere) {
     EXPECT_EQ(dictionary.value(QStringLiteral("UKAudioStreamBitsPerChannel")).toUInt(), 32U);
 }
 
-TEST(AudioStreamDictionary, CarriesEveryFieldBackButTheReservedOne) {
+TEST(AudioStreamDictionary, RestoresEveryFieldButTheReservedOne) {
     AudioStreamBasicDescription before = aacDescription();
     before.mReserved = 7;
     AudioStreamBasicDescription after;
@@ -62,7 +62,7 @@ TEST(AudioStreamDictionary, SpellsFormatsInMacOSRoman) {
     EXPECT_EQ(UKStringFromAudioStreamFormatID(0), QString(4, QChar(u'\0')));
 }
 
-TEST(AudioStreamDictionary, ReadsBackEveryByteAtEveryPlace) {
+TEST(AudioStreamDictionary, RoundTripsEveryByteInEveryPosition) {
     for (std::uint32_t byte = 0; byte < 256; ++byte)
         for (int shift = 0; shift < 32; shift += 8) {
             const std::uint32_t formatID = (0x6D6D6D6DU & ~(0xFFU << shift)) | (byte << shift);
@@ -70,7 +70,7 @@ TEST(AudioStreamDictionary, ReadsBackEveryByteAtEveryPlace) {
         }
 }
 
-TEST(AudioStreamDictionary, KnowsNoFormatOfAnotherLengthOrAlphabet) {
+TEST(AudioStreamDictionary, RejectsFormatsOfAnotherLengthOrAlphabet) {
     EXPECT_EQ(UKAudioStreamFormatIDFromString(QStringLiteral("lpcm2")), 0U);
     EXPECT_EQ(UKAudioStreamFormatIDFromString(QStringLiteral("aac")), 0U);
     EXPECT_EQ(UKAudioStreamFormatIDFromString(QString()), 0U);

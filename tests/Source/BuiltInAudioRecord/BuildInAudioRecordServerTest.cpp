@@ -165,7 +165,7 @@ TEST_F(EngineServer, LosesNothingBetweenTwoFiles) {
     EXPECT_GT(seam, 60000U);
 }
 
-TEST_F(EngineServer, KeepsBothStretchesWhenTheDeviceIsPulledOutAndReturns) {
+TEST_F(EngineServer, KeepsTheAudioBeforeAndAfterTheDeviceWasUnplugged) {
     TestSource source({.name = "plug", .description = "Plug", .rate = 44100, .ownClock = true});
     ASSERT_TRUE(configure(source));
     ASSERT_TRUE(beginBoth());
@@ -186,7 +186,7 @@ TEST_F(EngineServer, KeepsBothStretchesWhenTheDeviceIsPulledOutAndReturns) {
     expectRampAt(samples[0], samples[0].size() - 20000);
 }
 
-TEST_F(EngineServer, KeepsBothStretchesWhenTheServerIsRestarted) {
+TEST_F(EngineServer, KeepsTheAudioBeforeAndAfterAServerRestart) {
     TestSource source({.name = "restart", .description = "Restart", .rate = 44100, .ownClock = true});
     ASSERT_TRUE(configure(source));
     ASSERT_TRUE(beginBoth());
@@ -206,7 +206,7 @@ TEST_F(EngineServer, KeepsBothStretchesWhenTheServerIsRestarted) {
     EXPECT_NEAR(double(AudioCheck::framesByFfprobe(path_)), double(engine_.framesAccepted()), 1.0);
 }
 
-TEST_F(EngineServer, TellsWhenItsFirstFrameWasCaptured) {
+TEST_F(EngineServer, ReportsTheCaptureTimeOfItsFirstFrame) {
     const auto now = [] { return std::int64_t(std::chrono::steady_clock::now().time_since_epoch().count()); };
     TestSource source({.name = "stamp", .description = "Stamp", .rate = 44100, .ownClock = true});
     const auto before = now();
@@ -231,7 +231,7 @@ TEST_F(EngineServer, TellsWhenItsFirstFrameWasCaptured) {
     EXPECT_LT(began, begun + cycle);
 }
 
-TEST_F(EngineServer, ClosesItsFileWithoutHoldingUpItsCaller) {
+TEST_F(EngineServer, ClosesItsFileWithoutBlockingItsCaller) {
     TestSource source({.name = "later", .description = "Later", .ownClock = true});
     ASSERT_TRUE(configure(source));
     ASSERT_TRUE(begin(1));

@@ -60,7 +60,7 @@ struct FailingStep : BuildInAudioRecordTest, testing::WithParamInterface<Step> {
 
 } // namespace
 
-TEST_F(BuildInAudioRecordTest, IsBornSilent) {
+TEST_F(BuildInAudioRecordTest, StartsStoppedAndWithoutFiles) {
     EXPECT_EQ(engine.recordStatus(), 0);
     EXPECT_EQ(engine.currMillisecond(), 0);
     EXPECT_FALSE(engine.isRecordComputerAudio());
@@ -121,7 +121,7 @@ INSTANTIATE_TEST_SUITE_P(EachOne, FailingStep,
                                          Step::DeviceFormat, Step::ClientFormat, Step::BufferFrameSize,
                                          Step::Initialize, Step::Start));
 
-TEST_F(BuildInAudioRecordTest, ToleratesAUnitWhoseInputCannotBeSwitchedOn) {
+TEST_F(BuildInAudioRecordTest, ToleratesAUnitWhoseInputCannotBeEnabled) {
     hardware.nextUnit->fails = {Step::EnableInput};
     EXPECT_TRUE(engine.configureAudioUnit(7));
     EXPECT_EQ(state().steps[0], Step::EnableInput);
@@ -186,7 +186,7 @@ TEST_F(BuildInAudioRecordTest, GoesThroughItsStates) {
     EXPECT_EQ(changed, QStringList{path()});
 }
 
-TEST_F(BuildInAudioRecordTest, WritesWhatItHearsWhileItRecordsAndNothingElse) {
+TEST_F(BuildInAudioRecordTest, WritesFramesOnlyWhileItRecords) {
     prepare();
     unit().feed({{0.1F}, {-0.1F}});
     engine.startRecordAudio();
@@ -220,7 +220,7 @@ TEST_F(BuildInAudioRecordTest, WritesBothFilesWhenThereAreTwo) {
     EXPECT_FALSE(engine.hasSetWAVExportFile());
 }
 
-TEST_F(BuildInAudioRecordTest, DropsTheRestOfACycleThatCannotBeWrittenAndGoesOn) {
+TEST_F(BuildInAudioRecordTest, DropsTheRestOfACycleThatCannotBeWrittenAndContinues) {
     prepare();
     ASSERT_TRUE(engine.setOutPutAudioPath(path("raw.wav"), 0));
     engine.startRecordAudio();
@@ -240,7 +240,7 @@ TEST_F(BuildInAudioRecordTest, DropsTheRestOfACycleThatCannotBeWrittenAndGoesOn)
     EXPECT_EQ(engine.recordStatus(), 1);
 }
 
-TEST_F(BuildInAudioRecordTest, HandsOnTheStatusOfRenderingButDoesTheRest) {
+TEST_F(BuildInAudioRecordTest, ReturnsTheRenderStatusAndProcessesTheCycle) {
     prepare();
     engine.startRecordAudio();
     unit().feedValue(0.5F, 3);
@@ -268,7 +268,7 @@ TEST_F(BuildInAudioRecordTest, MeasuresEveryThirdSampleOfTheFirstChannel) {
     EXPECT_TRUE(levels.computer.empty());
 }
 
-TEST_F(BuildInAudioRecordTest, HandsAQuarterOfTheLevelOnAsComputerAudio) {
+TEST_F(BuildInAudioRecordTest, ReportsAQuarterOfTheLevelForComputerAudio) {
     engine.setIsecordComputerAudio_(true);
     EXPECT_TRUE(engine.isRecordComputerAudio());
     ASSERT_TRUE(engine.configureAudioUnit(7));
@@ -278,14 +278,14 @@ TEST_F(BuildInAudioRecordTest, HandsAQuarterOfTheLevelOnAsComputerAudio) {
     EXPECT_TRUE(levels.builtIn.empty());
 }
 
-TEST_F(BuildInAudioRecordTest, PassesOnThatAnEmptyCycleHasNoLevel) {
+TEST_F(BuildInAudioRecordTest, ReportsNanForAnEmptyCycle) {
     ASSERT_TRUE(engine.configureAudioUnit(7));
     unit().feed({{}, {}});
     ASSERT_EQ(levels.builtIn.size(), 1U);
     EXPECT_TRUE(std::isnan(levels.builtIn[0]));
 }
 
-TEST_F(BuildInAudioRecordTest, TellsLevelsWhetherItRecordsOrNot) {
+TEST_F(BuildInAudioRecordTest, ReportsLevelsWhetherItRecordsOrNot) {
     prepare();
     unit().feedValue(0.1F, 3);
     engine.startRecordAudio();
@@ -324,7 +324,7 @@ TEST_F(BuildInAudioRecordTest, DescribesItsExports) {
         EXPECT_EQ(engine.exportDescription(other), AudioStreamBasicDescription());
 }
 
-TEST_F(BuildInAudioRecordTest, CreatesFilesOfTheirTypeOverWhatIsThere) {
+TEST_F(BuildInAudioRecordTest, CreatesFilesOfTheirTypeOverExistingOnes) {
     ASSERT_TRUE(engine.configureAudioUnit(7));
     ASSERT_TRUE(engine.setOutPutAudioPath(path(), 1));
     EXPECT_EQ(media.last().type, kAudioFileM4AType);
@@ -338,7 +338,7 @@ TEST_F(BuildInAudioRecordTest, CreatesFilesOfTheirTypeOverWhatIsThere) {
     EXPECT_EQ(media.last().format, engine.exportDescription(0));
 }
 
-TEST_F(BuildInAudioRecordTest, TakesTypeTwoAsM4aAndOthersAsNothing) {
+TEST_F(BuildInAudioRecordTest, TreatsTypeTwoAsM4aAndIgnoresOthers) {
     ASSERT_TRUE(engine.configureAudioUnit(7));
     EXPECT_TRUE(engine.setOutPutAudioPath(path(), 2));
     EXPECT_TRUE(engine.hasSetM4aExportFile());
@@ -368,7 +368,7 @@ TEST_F(BuildInAudioRecordTest, FeedsBothChannelsOfAFileFromAMonoDevice) {
     EXPECT_TRUE(media.last().channelMap.empty());
 }
 
-TEST_F(BuildInAudioRecordTest, SaysWhenAFileCannotBeCreated) {
+TEST_F(BuildInAudioRecordTest, ReportsAFileThatCannotBeCreated) {
     ASSERT_TRUE(engine.configureAudioUnit(7));
     media.createFails = true;
     EXPECT_FALSE(engine.setOutPutAudioPath(path(), 1));
@@ -405,7 +405,7 @@ TEST_F(BuildInAudioRecordTest, ExchangesItsFileBetweenTwoCycles) {
     EXPECT_EQ(state().holds, 0);
 }
 
-TEST_F(BuildInAudioRecordTest, GoesOnIntoTheOldFileWhenTheNextCannotBeMade) {
+TEST_F(BuildInAudioRecordTest, ContinuesInTheOldFileWhenTheNextCannotBeCreated) {
     prepare();
     engine.startRecordAudio();
     media.createFails = true;
@@ -454,7 +454,7 @@ TEST_F(BuildInAudioRecordTest, MayExchangeItsFileInsideACycle) {
     EXPECT_EQ(media.files[1]->framesAccepted, 3);
 }
 
-TEST_F(BuildInAudioRecordTest, CutsInsideACycleToComeAtTheFrameAskedFor) {
+TEST_F(BuildInAudioRecordTest, CutsInsideALaterCycleAtTheRequestedFrame) {
     prepare();
     engine.startRecordAudio();
     unit().feed({{1, 2}, {1, 2}}, 1'000'000'000);
@@ -527,7 +527,7 @@ TEST_F(BuildInAudioRecordTest, StopsWithoutWaitingForTheFile) {
     EXPECT_FALSE(engine.hasSetM4aExportFile());
 }
 
-TEST_F(BuildInAudioRecordTest, CountsLostFramesOfTheRecordingAtHand) {
+TEST_F(BuildInAudioRecordTest, CountsLostFramesOfTheCurrentRecording) {
     prepare();
     state().lost = 100;
     engine.startRecordAudio();
@@ -557,7 +557,7 @@ TEST_F(BuildInAudioRecordTest, MeasuresTheDevicesClock) {
 }
 
 #if SONAPHEX_COUNTS_CALLS
-TEST_F(BuildInAudioRecordTest, TakesNoMemoryAndNoLockInACycle) {
+TEST_F(BuildInAudioRecordTest, AllocatesNothingAndTakesNoLockInACycle) {
     media.keepSamples = false;
     prepare();
     ASSERT_TRUE(engine.setOutPutAudioPath(path("raw.wav"), 0));

@@ -29,7 +29,7 @@ struct CarbonUtilitiesTest : testing::Test {
 
 } // namespace
 
-TEST_F(CarbonUtilitiesTest, AFileThatIsNoAliasResolvesToItself) {
+TEST_F(CarbonUtilitiesTest, AFileThatIsNotAnAliasResolvesToItself) {
     const QString file = make("música.m4a");
     EXPECT_EQ(resolveAliasFile(file), file);
     EXPECT_EQ(resolveAliasFile(dir.path() + QStringLiteral("/./música.m4a")),
@@ -68,7 +68,7 @@ TEST_F(CarbonUtilitiesTest, AReferenceLeadsBackToItsPath) {
     EXPECT_TRUE(stringWithFSRef(&reference).isNull());
 }
 
-TEST_F(CarbonUtilitiesTest, ThereIsNoReferenceToNothing) {
+TEST_F(CarbonUtilitiesTest, AMissingFileHasNoReference) {
     FSRef reference;
     EXPECT_FALSE(getFSRef(path("missing"), reference));
     EXPECT_TRUE(stringWithFSRef(nullptr).isNull());

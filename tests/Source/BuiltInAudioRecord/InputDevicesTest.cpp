@@ -46,7 +46,7 @@ TEST_F(InputDevices, AreListedInTheSystemsOrderWithoutThoseThatOnlyPlay) {
     EXPECT_EQ(nameAt(list, 1), QStringLiteral("Line in"));
 }
 
-TEST_F(InputDevices, IncludeOneThatCannotBeAskedForItsStreams) {
+TEST_F(InputDevices, IncludeOneWhoseStreamsCannotBeQueried) {
     add(9, QStringLiteral("Shy")).streamsFail = true;
     EXPECT_TRUE(BuildInAudioRecord::isInputDeviceID(9));
     EXPECT_EQ(BuildInAudioRecord::getAudioInPutDeviceIDs().size(), 1);
@@ -68,7 +68,7 @@ TEST_F(InputDevices, MayBeMoreThanSixtyFour) {
     EXPECT_EQ(BuildInAudioRecord::getAudioInPutDeviceIDs().size(), 100);
 }
 
-TEST_F(InputDevices, CaptureAtFullVolumeAndAudibly) {
+TEST_F(InputDevices, AreSetToFullVolumeAndUnmuted) {
     auto& device = add(7, QStringLiteral("Microphone"));
     BuildInAudioRecord::setMaxVolume(7);
     for (const std::uint32_t element : {1U, 2U}) {
@@ -87,7 +87,7 @@ TEST_F(InputDevices, TryTheSecondChannelWhenTheFirstHasNoVolume) {
     EXPECT_FALSE(device.elements[2].mute);
 }
 
-TEST_F(InputDevices, LeaveTheSecondChannelToItselfWhenItsMuteFails) {
+TEST_F(InputDevices, SkipTheSecondChannelWhenItsMuteFails) {
     auto& device = add(7, QStringLiteral("Microphone"));
     device.elements[1].muteFails = true;
     BuildInAudioRecord::setMaxVolume(7);

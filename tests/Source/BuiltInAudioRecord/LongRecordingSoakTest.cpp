@@ -4,7 +4,7 @@
 
 using LongRecordingSoak = SimulatedHours;
 
-TEST_F(LongRecordingSoak, GrowsNoMemoryInAnHour) {
+TEST_F(LongRecordingSoak, UsesConstantMemoryForAnHour) {
     std::int64_t kept = 0;
     record(3600, kept);
     // The size and position of each packet take some bytes; an hour has 155,000 packets.

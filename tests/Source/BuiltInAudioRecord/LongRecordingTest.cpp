@@ -4,7 +4,7 @@
 
 using LongRecording = SimulatedHours;
 
-TEST_F(LongRecording, GrowsNoMemoryInTwoMinutes) {
+TEST_F(LongRecording, UsesConstantMemoryForTwoMinutes) {
     std::int64_t kept = 0;
     record(120, kept);
     EXPECT_LT(kept, 512 * 1024);

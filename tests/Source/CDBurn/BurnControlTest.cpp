@@ -93,7 +93,7 @@ TEST_F(BurnControlTest, ChoosesADriveAndIgnoresAnIndexBeyondTheList) {
     EXPECT_EQ(posted.take(), QStringList{u"DvdIn"_s});
 }
 
-TEST_F(BurnControlTest, TellsADiscThatSettlesThenIsInThenGoes) {
+TEST_F(BurnControlTest, ReportsADiscBeingInsertedPresentAndRemoved) {
     LogCatcher log;
     control.setUseCDRom(0);
     disc(DRDeviceMediaStateNone);
@@ -172,7 +172,7 @@ TEST_F(BurnControlTest, BurnsAtTheGreatestSpeedAndMountsOrEjects) {
     EXPECT_EQ(discs.lastBurn()->properties().completionAction, DRBurnCompletionActionEject);
 }
 
-TEST_F(BurnControlTest, HandsOnALayoutThatCouldNotBeMade) {
+TEST_F(BurnControlTest, StartsTheBurnWithoutALayoutWhenNoneCouldBeMade) {
     discs.unreadable = {u"a"_s};
     control.burnMusicToCD({entry(u"a"_s)}, false);
     EXPECT_FALSE(discs.lastBurn()->layout);
@@ -231,7 +231,7 @@ TEST_F(BurnControlTest, PostsNothingAfterAStop) {
     EXPECT_EQ(posted.take(), QStringList());
 }
 
-TEST_F(BurnControlTest, NeverTearsDownAnEarlierBurnOrErase) {
+TEST_F(BurnControlTest, NeverDestroysAnEarlierBurnOrErase) {
     control.burnMusicToCD({entry(u"a"_s)}, false);
     control.eraseDVD();
     const std::weak_ptr<FakeBurn> burn = discs.burns.front();
@@ -318,7 +318,7 @@ TEST_F(BurnControlTest, ChecksTheMountStepByStep) {
               (QStringList{u"DADiskCreateFromBSDName(/dev/sr0) failed"_s, u"Can't create DiskArb session"_s}));
 }
 
-TEST_F(BurnControlTest, StaysWithItsDriveWhenOthersComeAndGo) {
+TEST_F(BurnControlTest, KeepsItsDriveWhenOthersAreAddedOrRemoved) {
     control.setUseCDRom(1);
     discs.drives.erase(discs.drives.begin());
     discs.listChanged();
@@ -329,7 +329,7 @@ TEST_F(BurnControlTest, StaysWithItsDriveWhenOthersComeAndGo) {
     EXPECT_EQ(posted.take(), QStringList{u"DvdIn"_s});
 }
 
-TEST_F(BurnControlTest, TakesTheFirstDriveWhenItsOwnIsPulledOut) {
+TEST_F(BurnControlTest, UsesTheFirstDriveWhenItsOwnIsRemoved) {
     control.setUseCDRom(1);
     discs.drives.pop_back();
     discs.listChanged();

@@ -15,7 +15,7 @@ constexpr BurnConditions kReady{
 
 } // namespace
 
-TEST(BurnStates, TheFirstReasonThatAppliesIsTold) {
+TEST(BurnStates, TheFirstReasonThatAppliesIsReported) {
     BurnConditions all{.listIsEmpty = true, .mounted = false, .blank = false, .erasable = true, .musicSize = 1};
     EXPECT_EQ(messageOf(all), "Waiting for the import Music File");
     all.mounted = all.blank = true;

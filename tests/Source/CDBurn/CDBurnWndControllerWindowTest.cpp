@@ -88,7 +88,7 @@ TEST_F(BurnWindow, MusicWithoutADiscWaitsForOne) {
     expectEject(false);
 }
 
-TEST_F(BurnWindow, AWrittenDiscIsToBeErasedOrReplaced) {
+TEST_F(BurnWindow, AWrittenDiscMustBeErasedOrReplaced) {
     world.drive->erasable = true;
     world.insert(*world.drive);
     world.drive->blank = false;
@@ -121,7 +121,7 @@ TEST_F(BurnWindow, FreeSpaceIsCountedInThousandthsOfTheEnginesGigabyte) {
     expectState(u"Disc space not enough for music"_s, false);
 }
 
-TEST_F(BurnWindow, DiscsAreSeenAsTheyComeAndGo) {
+TEST_F(BurnWindow, FollowsInsertedAndRemovedDiscs) {
     world.open(BurnWorld::records());
     world.drive->state.mediaState = Platform::DRDeviceMediaStateInTransition;
     world.tell(*world.drive);
@@ -134,7 +134,7 @@ TEST_F(BurnWindow, DiscsAreSeenAsTheyComeAndGo) {
     expectEject(false);
 }
 
-TEST_F(BurnWindow, EachNotificationIsObservedWhoeverSendsIt) {
+TEST_F(BurnWindow, ObservesNotificationsOfAnySender) {
     world.open(BurnWorld::records());
     auto& center = Platform::NotificationCenter::defaultCenter();
     // The system knows the disc, but no drive has reported it to the engine.
@@ -151,7 +151,7 @@ TEST_F(BurnWindow, EachNotificationIsObservedWhoeverSendsIt) {
     expectState(u"Waiting for the inserted Disc"_s, false);
 }
 
-TEST_F(BurnWindow, TheChosenDriveIsTheOneThatCounts) {
+TEST_F(BurnWindow, TheChosenDriveDecides) {
     world.insert(*world.other);
     world.open(BurnWorld::records());
     auto& popUp = world.outlet<QComboBox>("popDrives_");
@@ -175,7 +175,7 @@ TEST_F(BurnWindow, ChoosingTheChosenDriveDoesNothing) {
     expectState(u"Ready to burn"_s, true);
 }
 
-TEST_F(BurnWindow, DrivesThatComeAndGoAreListed) {
+TEST_F(BurnWindow, ListsAddedAndRemovedDrives) {
     world.open(BurnWorld::records());
     auto& popUp = world.outlet<QComboBox>("popDrives_");
     world.controller->chooseBurnDevice(1);
@@ -197,7 +197,7 @@ TEST_F(BurnWindow, DrivesThatComeAndGoAreListed) {
     expectState(u"Waiting for the inserted Disc"_s, false);
 }
 
-TEST_F(BurnWindow, AProblemOfTheDriveIsNamed) {
+TEST_F(BurnWindow, ShowsAProblemOfTheDrive) {
     world.drive->state.problem = u"another program uses the drive"_s;
     world.open(BurnWorld::records());
     auto& label = world.outlet<QLabel>("lblProblem_");
@@ -207,7 +207,7 @@ TEST_F(BurnWindow, AProblemOfTheDriveIsNamed) {
     EXPECT_FALSE(label.isVisible());
 }
 
-TEST_F(BurnWindow, EjectPutsTheDiscOut) {
+TEST_F(BurnWindow, EjectEjectsTheDisc) {
     world.open(BurnWorld::records());
     world.insert(*world.drive);
     BurnWorld::click(world.outlet("btnEject_"));
@@ -232,7 +232,7 @@ TEST_F(BurnWindow, UntickingLowersCountSizeAndTimeButKeepsTheEntries) {
     EXPECT_EQ(world.summary(), u" 1 Items     Size: 140 MB"_s);
 }
 
-TEST_F(BurnWindow, TheSpaceBarTicksAllSelectedRowsAlike) {
+TEST_F(BurnWindow, TheSpaceBarGivesAllSelectedRowsTheSameTick) {
     world.open(BurnWorld::records());
     world.clickRow(1);
     world.key(Qt::Key_Space);
@@ -260,7 +260,7 @@ TEST_F(BurnWindow, RowsMoveWithAltAndTheArrowKeys) {
     EXPECT_EQ(world.names(), (QStringList{before[0], before[2], before[1], before[3], before[4]}));
 }
 
-TEST_F(BurnWindow, DeleteTakesRowsOutOfTheListUntilItIsEmpty) {
+TEST_F(BurnWindow, DeleteRemovesRowsUntilTheListIsEmpty) {
     world.insert(*world.drive);
     world.open(BurnWorld::records());
     world.clickRow(0);
@@ -287,7 +287,7 @@ TEST_F(BurnWindow, FilesOfThePanelAreAppended) {
     EXPECT_EQ(world.names().size(), 7) << "Cancel";
 }
 
-TEST_F(BurnWindow, OnlyRejectedFilesLeaveTheListAsItIs) {
+TEST_F(BurnWindow, RejectedFilesDoNotChangeTheList) {
     world.open(BurnWorld::records());
     auto& list = world.controller->trackList();
     const QSignalSpy inserted(list.model(), &QAbstractItemModel::rowsInserted);
@@ -332,7 +332,7 @@ TEST_F(BurnWindow, BurnTakesTheTickedEntriesInTheirOrder) {
     EXPECT_EQ(world.sheet().parentWidget(), world.controller->window());
 }
 
-TEST_F(BurnWindow, WithoutTheTickTheFinishedDiscIsMounted) {
+TEST_F(BurnWindow, WithoutEjectTheFinishedDiscIsMounted) {
     world.insert(*world.drive);
     world.open(BurnWorld::records());
     world.key(Qt::Key_Return);
@@ -340,7 +340,7 @@ TEST_F(BurnWindow, WithoutTheTickTheFinishedDiscIsMounted) {
     EXPECT_EQ(world.recording.lastBurn()->properties().completionAction, Platform::DRBurnCompletionActionMount);
 }
 
-TEST_F(BurnWindow, ADiscThatIsGoneUnseenStartsNoBurn) {
+TEST_F(BurnWindow, ADiscRemovedWithoutNotificationStartsNoBurn) {
     world.insert(*world.drive);
     world.open(BurnWorld::records());
     world.arbitration.described.clear();
@@ -352,7 +352,7 @@ TEST_F(BurnWindow, ADiscThatIsGoneUnseenStartsNoBurn) {
     expectState(u"Waiting for the inserted Disc"_s, false);
 }
 
-TEST_F(BurnWindow, WithoutATickBurnSaysSoAndStartsNothing) {
+TEST_F(BurnWindow, WithoutATickedEntryBurnReportsItAndStartsNothing) {
     world.insert(*world.drive);
     world.open({BurnWorld::record(u"One.m4a"_s, 100)});
     world.clickTick(0);
@@ -364,7 +364,7 @@ TEST_F(BurnWindow, WithoutATickBurnSaysSoAndStartsNothing) {
     EXPECT_EQ(world.alerts.shown[0].title, u"There is nothing to burn."_s);
 }
 
-TEST_F(BurnWindow, AnImageWithoutAPlaceStartsNoBurn) {
+TEST_F(BurnWindow, AnImageWithoutAPathStartsNoBurn) {
     world.insert(*world.drive);
     world.recording.declinesBurns = true;
     world.open(BurnWorld::records());

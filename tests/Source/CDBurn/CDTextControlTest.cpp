@@ -62,7 +62,7 @@ TEST_F(TrackEntries, AFileOfTwoSecondsCountsAsThree) {
     EXPECT_FALSE(entry.contains(TrackEntry::NumberForMusic)) << "the list numbers its rows";
 }
 
-TEST_F(TrackEntries, AnyNameAndAnyFormatIsMeasured) {
+TEST_F(TrackEntries, AnyNameAndFormatIsMeasured) {
     for (const QString& ending : {u"m4a"_s, u"flac"_s, u"mp3"_s, u"ogg"_s, u"opus"_s, u"aiff"_s}) {
         const QString name = u"a; $(rm -rf x) 'é' %s\n."_s + ending;
         const Dictionary entry = CDTextControl::setAudioInfoForDic(sound(name, 10.4));
@@ -71,7 +71,7 @@ TEST_F(TrackEntries, AnyNameAndAnyFormatIsMeasured) {
     }
 }
 
-TEST_F(TrackEntries, TheLengthIsThatOfThePackets) {
+TEST_F(TrackEntries, TheLengthIsComputedFromThePackets) {
     FakeMediaFiles media;
     Platform::services().mediaFiles = &media;
     Platform::AudioFileInfo info;
@@ -89,7 +89,7 @@ TEST_F(TrackEntries, TheLengthIsThatOfThePackets) {
     EXPECT_EQ(CAGetLengthOfAudioFile(u"/a.m4a"_s), 0U) << "a header without a rate";
 }
 
-TEST_F(TrackEntries, WhatCannotBeReadIsRefused) {
+TEST_F(TrackEntries, AnUnreadableFileIsRefused) {
     EXPECT_TRUE(CDTextControl::setAudioInfoForDic(folder.path()).isEmpty()) << "a folder";
     EXPECT_TRUE(CDTextControl::setAudioInfoForDic(folder.filePath(u"gone.wav"_s)).isEmpty());
     QFile text(folder.filePath(u"text.wav"_s));
@@ -105,7 +105,7 @@ TEST_F(TrackEntries, WhatCannotBeReadIsRefused) {
     EXPECT_EQ(file.packetCount, 3 * 44100);
 }
 
-TEST_F(TrackEntries, ARecordingTakesTheStoredLength) {
+TEST_F(TrackEntries, ARecordingUsesItsStoredLength) {
     const Dictionary entry = CDTextControl::addRecordAudioInfoForDic(recording(125.9F));
     EXPECT_EQ(storedSeconds(entry), 126);
     EXPECT_FLOAT_EQ(entry.value(TrackEntry::FileSize).toFloat(), 22.68F);

@@ -76,7 +76,7 @@ TEST_F(DVDBurnTest, WritesTheImageFileByteForByte) {
     EXPECT_EQ(written.read(image.size()), image);
 }
 
-TEST_F(DVDBurnTest, RefusesAnImageFileThatIsNotThereAndAnAudioCD) {
+TEST_F(DVDBurnTest, RefusesAMissingImageFileAndAnAudioCD) {
     int failed = 0;
     const auto observation = count(BurnControlBurnDidFailedNotification, failed);
     BurnControl control;

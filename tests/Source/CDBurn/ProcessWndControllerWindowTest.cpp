@@ -69,7 +69,7 @@ TEST_F(ProgressSheet, ShowsWholePercentAndNeverAHundred) {
     }
 }
 
-TEST_F(ProgressSheet, AnUnknownShareLeavesThePercentage) {
+TEST_F(ProgressSheet, UnknownProgressKeepsThePercentage) {
     progress(0.42);
     const int bar = part<QProgressBar>("progressBar_").value();
     progress(-1);
@@ -100,7 +100,7 @@ TEST_F(ProgressSheet, CancelIsOfferedFromFourPercent) {
     EXPECT_TRUE(canCancel()) << "once offered it stays";
 }
 
-TEST_F(ProgressSheet, StaysFiveSecondsAfterSuccessAndTakesTheWindowAlong) {
+TEST_F(ProgressSheet, StaysFiveSecondsAfterSuccessThenClosesTheWindow) {
     progress(0.9);
     QElapsedTimer timer;
     timer.start();
@@ -113,7 +113,7 @@ TEST_F(ProgressSheet, StaysFiveSecondsAfterSuccessAndTakesTheWindowAlong) {
     EXPECT_TRUE(world.alerts.shown.isEmpty());
 }
 
-TEST_F(ProgressSheet, AFailureClosesAtOnceAndSaysNothing) {
+TEST_F(ProgressSheet, AFailureClosesAtOnceWithoutAMessage) {
     progress(0.5);
     fail();
     EXPECT_TRUE(allClosed());
@@ -156,7 +156,7 @@ TEST_F(ProgressSheet, EscapeAsksToo) {
     EXPECT_TRUE(world.sheet().isVisible());
 }
 
-TEST_F(ProgressSheet, ABurnThatEndsWhileTheQuestionStandsIsNotStopped) {
+TEST_F(ProgressSheet, ABurnThatEndsDuringTheQuestionIsNotStopped) {
     progress(0.98);
     world.alerts.answers = {1, 1};
     world.alerts.whileShown = [this] { finish(); };
@@ -165,7 +165,7 @@ TEST_F(ProgressSheet, ABurnThatEndsWhileTheQuestionStandsIsNotStopped) {
     EXPECT_TRUE(world.sheet().isVisible()) << "it lingers as after any success";
 }
 
-TEST_F(ProgressSheet, ABurnThatFailsWhileTheQuestionStandsClosesOnce) {
+TEST_F(ProgressSheet, ABurnThatFailsDuringTheQuestionClosesOnce) {
     progress(0.5);
     world.alerts.answers = {1};
     world.alerts.whileShown = [this] { fail(); };
@@ -174,7 +174,7 @@ TEST_F(ProgressSheet, ABurnThatFailsWhileTheQuestionStandsClosesOnce) {
     EXPECT_TRUE(allClosed());
 }
 
-TEST_F(ProgressSheet, TheNextBurnBeginsAnew) {
+TEST_F(ProgressSheet, TheNextBurnStartsFromTheBeginning) {
     progress(0.5);
     fail();
     world.controller->window()->show();
@@ -186,7 +186,7 @@ TEST_F(ProgressSheet, TheNextBurnBeginsAnew) {
     EXPECT_FALSE(canCancel());
 }
 
-TEST_F(ProgressSheet, TheBurnWindowIsOutOfReachMeanwhile) {
+TEST_F(ProgressSheet, BlocksInputToTheBurnWindow) {
     progress(0.5);
     BurnWorld::click(world.outlet("btnBurn_"));
     EXPECT_EQ(world.recording.burns.size(), 1U);

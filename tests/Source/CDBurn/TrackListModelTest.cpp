@@ -54,7 +54,7 @@ TEST_F(TrackList, ShowsNameTimeAndTickByColumn) {
     EXPECT_EQ(model.index(3, TrackListModel::AudioName).data(Qt::ToolTipRole), u"/music/d"_s);
 }
 
-TEST_F(TrackList, ARowThatIsAskedForKnowsItsNumber) {
+TEST_F(TrackList, ARowHasItsNumberWhenItIsRead) {
     EXPECT_EQ(model.child(2).value(TrackEntry::NumberForMusic), 2);
     EXPECT_EQ(model.entries().at(2).value(TrackEntry::NumberForMusic), 2);
     model.move({2}, 0);
@@ -100,7 +100,7 @@ TEST_F(TrackList, RowsMoveTogetherInTheirOrder) {
     EXPECT_EQ(moved({1, 3}, 5), u"baced"_s);
 }
 
-TEST_F(TrackList, AMoveToItsOwnPlaceChangesNothing) {
+TEST_F(TrackList, AMoveToTheSamePlaceChangesNothing) {
     const QSignalSpy moves(&model, &TrackListModel::rowsMoved);
     for (const int before : {1, 2})
         EXPECT_EQ(moved({1}, before), u"abcde"_s);
@@ -130,7 +130,7 @@ TEST_F(TrackList, EveryMoveOfEverySelectionKeepsAllRows) {
     }
 }
 
-TEST_F(TrackList, RowsAreTakenOutOfTheList) {
+TEST_F(TrackList, RemovesRows) {
     model.remove({1, 3, 3, 7});
     EXPECT_EQ(order(), u"ace"_s);
     model.append({track(u"f"_s, 3)});

@@ -43,7 +43,7 @@ class TrimSaveWithKills : public TrimSave {};
 
 } // namespace
 
-TEST(TrimPath, HasItsEndingReplaced) {
+TEST(TrimPath, HasItsExtensionReplaced) {
     EXPECT_EQ(AudioTrimSave::exportPath(u"/music/song.mp3"_s), u"/music/song.m4a"_s);
     EXPECT_EQ(AudioTrimSave::exportPath(u"/music/song.m4a"_s), u"/music/song.m4a"_s);
     EXPECT_EQ(AudioTrimSave::exportPath(u"/music/a.b.wav"_s), u"/music/a.b.m4a"_s);
@@ -102,7 +102,7 @@ TEST_F(TrimSave, ReplacesTheRecordingWithItsTagsAndItsCover) {
     EXPECT_TRUE(notes().isEmpty());
 }
 
-TEST_F(TrimSave, WritesAnMp3BesideItselfInPlaceOfTheFileOfThatName) {
+TEST_F(TrimSave, TrimsAnMp3IntoAnM4aThatReplacesAFileOfThatName) {
     ASSERT_EQ(
         runTool(u"ffmpeg"_s, {u"-v"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine=d=10"_s, at(u"song.mp3"_s)})
             .status,
@@ -154,7 +154,7 @@ TEST_F(TrimSave, RefusesInOneSentence) {
     EXPECT_TRUE(save(task(entry, 2, 5)).done);
 }
 
-TEST_F(TrimSave, LeavesASourceAloneThatCannotBeRead) {
+TEST_F(TrimSave, LeavesAnUnreadableSourceUnchanged) {
     ASSERT_TRUE(Mpeg4Files::write(at(u"text.m4a"_s), "no audio at all"));
     const auto result = save(task(entryOf(at(u"text.m4a"_s), u"text"_s, 10), 2, 5));
     EXPECT_FALSE(result.done);
@@ -164,7 +164,7 @@ TEST_F(TrimSave, LeavesASourceAloneThatCannotBeRead) {
     EXPECT_TRUE(notes().isEmpty());
 }
 
-TEST_F(TrimSave, CanBeStoppedWithoutATrace) {
+TEST_F(TrimSave, LeavesNothingWhenItIsStopped) {
     const Dictionary entry = recording(u"One"_s, 30);
     const QByteArray before = Mpeg4Files::contentOf(at(u"One.m4a"_s));
     ConverterAudioControl converter;
@@ -175,7 +175,7 @@ TEST_F(TrimSave, CanBeStoppedWithoutATrace) {
     EXPECT_TRUE(temporaries().isEmpty());
 }
 
-TEST_F(TrimSave, SyncsTheWholeResultBeforeItTakesTheName) {
+TEST_F(TrimSave, SyncsTheResultBeforeItTakesTheName) {
     const Dictionary entry = recording(u"One"_s, 10);
     const DiskCalls disk;
     ASSERT_TRUE(save(task(entry, 2, 5)).done);
@@ -193,7 +193,7 @@ TEST_F(TrimSave, SyncsTheWholeResultBeforeItTakesTheName) {
     EXPECT_TRUE(named);
 }
 
-TEST_F(TrimSaveOnAFullDisk, KeepsTheRecordingWhereverTheRoomEnds) {
+TEST_F(TrimSaveOnAFullDisk, KeepsTheRecordingWhereverTheSpaceEnds) {
     const Dictionary entry = recording(u"One"_s, 20);
     const QByteArray before = Mpeg4Files::contentOf(at(u"One.m4a"_s));
     int saved = 0;

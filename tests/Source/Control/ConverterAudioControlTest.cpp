@@ -85,7 +85,7 @@ TEST_F(ConverterAudioControlTest, CreatesTheContainerOfEachType) {
     }
 }
 
-TEST_F(ConverterAudioControlTest, EditsInFloatsOfTwoChannelsThatAreNotInterleaved) {
+TEST_F(ConverterAudioControlTest, UsesTwoNonInterleavedFloatChannels) {
     const auto format = clientFormat();
     EXPECT_EQ(format.mSampleRate, kRate);
     EXPECT_EQ(format.mFormatFlags, 41U);
@@ -109,7 +109,7 @@ TEST_F(ConverterAudioControlTest, RefusesAnOutputInAMissingFolderAndCreatesNothi
     EXPECT_EQ(converter.exportError().kind, Platform::Error::Kind::NotFound);
 }
 
-TEST_F(ConverterAudioControlTest, RefusesAnOutputThatCannotBeCreatedOrTakesNoClientFormat) {
+TEST_F(ConverterAudioControlTest, RefusesAnOutputThatCannotBeCreatedOrRejectsTheClientFormat) {
     files.createFails = true;
     EXPECT_FALSE(converter.createOutPutFile(target, 1));
     EXPECT_TRUE(converter.exportError());
@@ -123,7 +123,7 @@ TEST_F(ConverterAudioControlTest, FeedsBothChannelsOfTheOutputFromTheFirst) {
     EXPECT_EQ(files.last().channelMap, (std::vector<std::int32_t>{0, 0}));
 }
 
-TEST_F(ConverterAudioControlTest, IgnoresAnOutputWithoutConverterAndAMapThatIsRefused) {
+TEST_F(ConverterAudioControlTest, IgnoresAMissingConverterAndARefusedChannelMap) {
     files.hasConverter = false;
     ASSERT_TRUE(converter.createOutPutFile(target, 1));
     EXPECT_TRUE(files.last().channelMap.empty());
@@ -153,7 +153,7 @@ TEST_F(ConverterAudioControlTest, CopiesTheWholeFileForFromAndToOfZero) {
     EXPECT_EQ(delegate.finished, 1);
 }
 
-TEST_F(ConverterAudioControlTest, RunsToTheEndForAToBelowATenth) {
+TEST_F(ConverterAudioControlTest, CopiesToTheEndWhenTheEndIsBelowATenth) {
     addRamp(2.5);
     ASSERT_TRUE(converter.createOutPutFile(target, 1));
     ASSERT_TRUE(converter.startConverterSource(source, 0, 0.05F));
@@ -177,7 +177,7 @@ TEST_F(ConverterAudioControlTest, CopiesWholeBlocksFromAnOddFrameOn) {
     EXPECT_EQ(files.sources[source].seeks, std::vector<std::int64_t>{54444});
 }
 
-TEST_F(ConverterAudioControlTest, MakesAnEmptyOutputForAStartBehindTheEnd) {
+TEST_F(ConverterAudioControlTest, WritesAnEmptyOutputForAStartBeyondTheEnd) {
     addRamp(1);
     ASSERT_TRUE(converter.createOutPutFile(target, 1));
     EXPECT_TRUE(converter.startConverterSource(source, 5, 0));
@@ -198,14 +198,14 @@ TEST_F(ConverterAudioControlTest, AsksForBlocksOf512FramesInTwoBuffersOf2048Byte
     EXPECT_EQ(ramp.clientFormat, clientFormat());
 }
 
-TEST_F(ConverterAudioControlTest, GoesOnBehindAReadErrorInAPlainCopy) {
+TEST_F(ConverterAudioControlTest, ContinuesAfterAReadErrorInAPlainCopy) {
     addRamp(1).failingRead = 3;
     ASSERT_TRUE(converter.createOutPutFile(target, 1));
     ASSERT_TRUE(converter.startConverterSource(source, 0, 0));
     EXPECT_EQ(left().size(), 44100U);
 }
 
-TEST_F(ConverterAudioControlTest, AnswersNoForAMissingSourceAndTellsNobody) {
+TEST_F(ConverterAudioControlTest, FailsForAMissingSourceWithoutCallingTheDelegate) {
     converter.setDelegate(&delegate);
     ASSERT_TRUE(converter.createOutPutFile(target, 1));
     EXPECT_FALSE(converter.startConverterSource(source, 0, 0));
@@ -215,7 +215,7 @@ TEST_F(ConverterAudioControlTest, AnswersNoForAMissingSourceAndTellsNobody) {
     EXPECT_EQ(converter.sourceError().kind, Platform::Error::Kind::NotFound);
 }
 
-TEST_F(ConverterAudioControlTest, AnswersNoForASourceThatCannotBeReadOrTakesNoClientFormat) {
+TEST_F(ConverterAudioControlTest, FailsForASourceThatCannotBeReadOrRejectsTheClientFormat) {
     addRamp(1).clientFormatStatus = -50;
     ASSERT_TRUE(converter.createOutPutFile(target, 1));
     EXPECT_FALSE(converter.startConverterSource(source, 0, 0));
@@ -226,7 +226,7 @@ TEST_F(ConverterAudioControlTest, AnswersNoForASourceThatCannotBeReadOrTakesNoCl
     EXPECT_FALSE(files.last().disposed);
 }
 
-TEST_F(ConverterAudioControlTest, CopiesOnWhenTheDiskIsFullAndKeepsTheFirstError) {
+TEST_F(ConverterAudioControlTest, ContinuesWhenTheDiskIsFullAndKeepsTheFirstError) {
     addRamp(1);
     converter.setDelegate(&delegate);
     ASSERT_TRUE(converter.createOutPutFile(target, 1));
@@ -245,7 +245,7 @@ TEST_F(ConverterAudioControlTest, ReadsToTheEndWhenNoOutputIsOpen) {
     EXPECT_EQ(delegate.finished, 1);
 }
 
-TEST_F(ConverterAudioControlTest, ReportsItsProgressAndStopsWhenTold) {
+TEST_F(ConverterAudioControlTest, ReportsItsProgressAndStopsOnRequest) {
     addRamp(10);
     converter.setDelegate(&delegate);
     std::vector<double> shares;
@@ -262,7 +262,7 @@ TEST_F(ConverterAudioControlTest, ReportsItsProgressAndStopsWhenTold) {
     EXPECT_LT(left().size(), 441000U);
 }
 
-TEST_F(ConverterAudioControlTest, WithFadesOffPlaysTheLastTenthFromTheBeginOfTheRangeAgain) {
+TEST_F(ConverterAudioControlTest, WithFadesOffRepeatsTheRangeInTheLastTenth) {
     addRamp(30);
     converter.setDelegate(&delegate);
     ASSERT_TRUE(converter.createOutPutFile(target, 1));
@@ -316,7 +316,7 @@ TEST_F(ConverterAudioControlTest, FadesOutBeforeTheEndOfTheRangeAndIsNearSilentI
         ASSERT_LE(left()[i], 0.05F);
 }
 
-TEST_F(ConverterAudioControlTest, FadesOutAtTheEndOfTheOutputWhenTheRangeIsPlayedAgain) {
+TEST_F(ConverterAudioControlTest, FadesOutAtTheEndOfTheOutputWhenTheRangeIsRepeated) {
     addOnes(40);
     ASSERT_TRUE(converter.createOutPutFile(target, 1));
     // A range of 4.9 s played for 8 s: the output ends in the second pass, before the range's own fade.
@@ -335,7 +335,7 @@ TEST(Fades, StayBetweenSilenceAndFullGain) {
     EXPECT_EQ((Fades{0, 10, 0, 2, 20}.gainAt(10.5, 10.5)), 0.0);
 }
 
-TEST_F(ConverterAudioControlTest, LogsAnEmptyReadAndAReadErrorOfTheFadingCopyAndGoesOn) {
+TEST_F(ConverterAudioControlTest, LogsAnEmptyReadAndAReadErrorOfTheFadingCopyAndContinues) {
     addOnes(1).failingRead = 2;
     ASSERT_TRUE(converter.createOutPutFile(target, 1));
     LogCatcher log;

@@ -78,7 +78,7 @@ TEST_F(ConverterFiles, WritesTheLeftChannelExactlyIntoBothOfAWave) {
     EXPECT_FALSE(info->dataFormat.mFormatFlags & kAudioFormatFlagIsFloat);
 }
 
-TEST_F(ConverterFiles, KeepsLengthsToTheFrameForOddPlaces) {
+TEST_F(ConverterFiles, KeepsExactLengthsForOddPositions) {
     const auto rows = ramp(10 * 44100);
     MediaTest::writeFile(source, kAudioFileWAVEType, rows);
     for (const auto& [from, to] :
@@ -94,7 +94,7 @@ TEST_F(ConverterFiles, KeepsLengthsToTheFrameForOddPlaces) {
     }
 }
 
-TEST_F(ConverterFiles, GivesEveryOutputTypeItsContainerAndTheSourcesLength) {
+TEST_F(ConverterFiles, EveryOutputTypeHasItsContainerAndTheSourcesLength) {
     MediaTest::writeFile(source, kAudioFileWAVEType, MediaTest::tones(99999));
     const std::pair<int, const char*> types[] = {{0, "wav"}, {1, "m4a"}, {2, "caf"}, {3, "m4r"}};
     for (const auto& [type, suffix] : types) {
@@ -111,7 +111,7 @@ TEST_F(ConverterFiles, GivesEveryOutputTypeItsContainerAndTheSourcesLength) {
     EXPECT_EQ(first.size(), second.size()) << "type 3 is type 1";
 }
 
-TEST_F(ConverterFiles, PlaysTheLastTenthFromTheBeginOfTheRangeAgain) {
+TEST_F(ConverterFiles, RepeatsTheRangeInTheLastTenth) {
     const auto rows = ramp(30 * 44100);
     MediaTest::writeFile(source, kAudioFileWAVEType, rows);
     ConverterAudioControl converter;
@@ -123,7 +123,7 @@ TEST_F(ConverterFiles, PlaysTheLastTenthFromTheBeginOfTheRangeAgain) {
     EXPECT_TRUE(std::equal(result[0].begin() + 853 * 512, result[0].end(), rows[0].begin() + 441000));
 }
 
-TEST_F(ConverterFiles, ReadsSourcesThatOtherProgramsMade) {
+TEST_F(ConverterFiles, ReadsFilesOfOtherPrograms) {
     // Left and right differ, so that a downmix would be noticed.
     const auto made = [this](const QString& name, const QStringList& options) {
         QStringList arguments{u"-v"_s,
@@ -166,7 +166,7 @@ TEST_F(ConverterFiles, ReadsSourcesThatOtherProgramsMade) {
     }
 }
 
-TEST_F(ConverterFiles, GivesThirtyOutlineValuesThatNeedNoFullDecode) {
+TEST_F(ConverterFiles, ReadsThirtyOutlineValuesWithoutAFullDecode) {
     const auto rows = MediaTest::tones(std::size_t(3.05 * 44100));
     MediaTest::writeFile(at(u"a.m4a"_s), kAudioFileM4AType, rows);
     AudioExtractWave wave;
@@ -178,7 +178,7 @@ TEST_F(ConverterFiles, GivesThirtyOutlineValuesThatNeedNoFullDecode) {
         EXPECT_EQ(values[i], decoded[0][std::size_t((4410 * (i + 1) - 1) / 512 * 512)]) << i;
 }
 
-TEST_F(ConverterFiles, OutlinesMonoAndOtherRatesAtTenValuesASecond) {
+TEST_F(ConverterFiles, ReadsOutlinesOfMonoAndOtherRates) {
     for (const double rate : {8000.0, 44100.0, 48000.0, 96000.0}) {
         const auto path = at(u"mono.wav"_s);
         auto writer = MediaTest::newWriter(path, kAudioFileWAVEType, MediaTest::waveFormat(rate, 1),

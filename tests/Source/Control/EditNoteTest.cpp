@@ -8,7 +8,7 @@ namespace {
 class Notes : public EditFixture {};
 } // namespace
 
-TEST_F(Notes, OfAFinishedEditAreGone) {
+TEST_F(Notes, OfAFinishedEditAreRemoved) {
     const Dictionary entry = recording(u"One"_s, 3);
     auto note = EditNote::begin(at(u"One.m4a"_s), at(u"Two.m4a"_s), {});
     ASSERT_TRUE(note) << qPrintable(note.error().text);
@@ -25,7 +25,7 @@ TEST_F(Notes, StayWhileTheLibraryCannotBeStored) {
     EXPECT_EQ(notes().size(), 1);
 }
 
-TEST_F(Notes, BringTheEntryToARenamedAndTaggedFile) {
+TEST_F(Notes, UpdateTheEntryOfARenamedAndTaggedFile) {
     const Dictionary entry = recording(u"One"_s, 3);
     {
         const auto note = EditNote::begin(at(u"One.m4a"_s), at(u"Two.m4a"_s), {});
@@ -44,7 +44,7 @@ TEST_F(Notes, BringTheEntryToARenamedAndTaggedFile) {
     EXPECT_EQ(listed().value(AudioRecordEntry::NodeDataKey), entry.value(AudioRecordEntry::NodeDataKey));
 }
 
-TEST_F(Notes, KeepThePathWhereTheRenameHadNotHappened) {
+TEST_F(Notes, KeepThePathWhenTheRenameDidNotHappen) {
     recording(u"One"_s, 3);
     ASSERT_TRUE(Mpeg4Files::write(at(u"Two.m4a"_s), "somebody else's"));
     (void)EditNote::begin(at(u"One.m4a"_s), at(u"Two.m4a"_s), {});
@@ -68,7 +68,7 @@ TEST_F(Notes, CorrectTheLengthAndRemoveTheHiddenFileAndNoOther) {
     EXPECT_TRUE(QFile::exists(other));
 }
 
-TEST_F(Notes, ThatAreTornAreRemovedAndDoNothing) {
+TEST_F(Notes, ThatAreIncompleteAreRemovedWithoutEffect) {
     recording(u"One"_s, 3);
     const Dictionary before = listed();
     const QString folder = home_.filePath(u"data/com.korvane.Sonaphex/Edits"_s);

@@ -87,7 +87,7 @@ TEST_F(ID3Change, ShowsWhiteThroughATransparentImage) {
     EXPECT_EQ(QImage(ID3ChangeControl::createPathForImage(clear)).pixelColor(4, 4), QColor(Qt::white));
 }
 
-TEST_F(ID3Change, OntoTheOwnPathWithoutArtworkGivesTheDefaultOneAndLeavesNothingBehind) {
+TEST_F(ID3Change, InPlaceWithoutArtworkSetsTheDefaultOneAndLeavesNothingBehind) {
     const QByteArray audio = Mpeg4Files::audioOf(path());
     ID3ChangeControl::changeID3(path(), path(), info(), QString());
     const auto tags = BasicID3Change::read(path());
@@ -100,7 +100,7 @@ TEST_F(ID3Change, OntoTheOwnPathWithoutArtworkGivesTheDefaultOneAndLeavesNothing
     EXPECT_EQ(filesIn(music_), QStringList{u"a.m4a"_s});
 }
 
-TEST_F(ID3Change, WithoutTheToolLeavesTheFileWhereItWas) {
+TEST_F(ID3Change, WithoutTheToolKeepsTheFileInPlace) {
     removeTool();
     const QByteArray before = Mpeg4Files::contentOf(path());
     ID3ChangeControl::changeID3(path(), path(), info(), image());
@@ -120,7 +120,7 @@ TEST_F(ID3Change, FromOnePathToAnotherIsAMove) {
     EXPECT_EQ(tags->artwork, Mpeg4Files::contentOf(music_.filePath(u"image"_s)));
 }
 
-TEST_F(ID3Change, WithAnImageThatIsNoneLeavesTheSource) {
+TEST_F(ID3Change, WithAnInvalidImageKeepsTheSource) {
     const QString bad = path(u"bad.png"_s);
     ASSERT_TRUE(Mpeg4Files::write(bad, "no image"));
     const QByteArray before = Mpeg4Files::contentOf(path());
@@ -134,7 +134,7 @@ TEST_F(ID3Change, WithAnImageThatIsNoneLeavesTheSource) {
     EXPECT_TRUE(filesIn(temporary_).isEmpty());
 }
 
-TEST_F(ID3Change, KeepsAnotherFileThatStandsAtTheDestination) {
+TEST_F(ID3Change, KeepsAnotherFileAtTheDestination) {
     const QTemporaryDir data;
     const EnvironmentScope scope("XDG_DATA_HOME", data.path().toUtf8());
     ASSERT_TRUE(Mpeg4Files::write(path(u"b.m4a"_s), "someone else's recording"));
@@ -162,7 +162,7 @@ TEST_F(ID3Change, OfTheArtworkOnlyKeepsTheTextTags) {
     EXPECT_TRUE(filesIn(temporary_).isEmpty());
 }
 
-TEST_F(ID3Change, OfALinkChangesWhatItPointsTo) {
+TEST_F(ID3Change, OfALinkChangesItsTarget) {
     ASSERT_TRUE(QDir(music_.path()).mkpath(u"real"_s));
     ASSERT_TRUE(QFile::rename(path(), path(u"real/a.m4a"_s)));
     ASSERT_EQ(::symlink("real/a.m4a", QFile::encodeName(path()).constData()), 0);
@@ -177,7 +177,7 @@ TEST_F(ID3Change, OfALinkChangesWhatItPointsTo) {
     EXPECT_EQ(Mpeg4Files::audioOf(path()), audio);
 }
 
-TEST_F(ID3Change, TakesNoFileForItsOwnThatWasLeftInTheTemporaryFolder) {
+TEST_F(ID3Change, IgnoresFilesLeftInTheTemporaryFolder) {
     const QByteArray audio = Mpeg4Files::audioOf(path());
     for (int number = 0; number < 300; ++number)
         for (const QString& name : {u"tempID3Audio%1.m4a"_s, u"tempID3AudioTT%1.m4a"_s})
@@ -189,7 +189,7 @@ TEST_F(ID3Change, TakesNoFileForItsOwnThatWasLeftInTheTemporaryFolder) {
     EXPECT_EQ(filesIn(temporary_).size(), 600);
 }
 
-TEST_F(ID3Change, TakesAYearAsATextOrANumber) {
+TEST_F(ID3Change, AcceptsAYearAsTextOrNumber) {
     ASSERT_TRUE(ID3ChangeControl::changeID3Info(path(), info(u"x"_s, u"2012"_s)));
     const QByteArray asText = Mpeg4Files::contentOf(path());
     ASSERT_TRUE(ID3ChangeControl::changeID3Info(path(), info(u"x"_s, 2012)));
@@ -205,7 +205,7 @@ TEST_F(ID3Change, WithoutAnyKeyClearsTheTags) {
     EXPECT_EQ(tags->year, 0);
 }
 
-TEST_F(ID3Change, OfAMissingFileFailsAndMakesNone) {
+TEST_F(ID3Change, OfAMissingFileFailsAndCreatesNone) {
     EXPECT_FALSE(ID3ChangeControl::changeID3BasicInfo(path(u"none.m4a"_s), info()));
     ID3ChangeControl::changeID3(path(u"none.m4a"_s), path(u"none.m4a"_s), info(), QString());
     ID3ChangeControl::changeID3(path(u"none.m4a"_s), path(u"other.m4a"_s), info(), QString());
@@ -213,7 +213,7 @@ TEST_F(ID3Change, OfAMissingFileFailsAndMakesNone) {
     EXPECT_EQ(filesIn(music_), QStringList{u"a.m4a"_s});
 }
 
-TEST_F(ID3Change, NeverLetsTheShellReadAPath) {
+TEST_F(ID3Change, NeverLetsTheShellInterpretAPath) {
     const QStringList names{u"$(touch x)"_s,   u"`touch x`"_s, u"a\"b"_s,         u"a\\"_s,    u"\\\"; touch x; \""_s,
                             u"$HOME"_s,        u"${HOME}"_s,   u"a\nb"_s,         u"a\\\nb"_s, u"!!"_s,
                             u"a'b"_s,          u"* ?[a]"_s,    u"a;b&c|d<e>f"_s,  u"-rf"_s,    u"~"_s,
@@ -248,7 +248,7 @@ TEST_F(ID3Change, KeepsTheFormOfTheCommandLineForOrdinaryPaths) {
               u"\"/t\"   \"/%1 %2\"   \"/\\$\\`\"  \"/\\\\\\\"\""_s);
 }
 
-TEST_F(ID3Change, GivesAFileBackThatACrashLeftInTheTemporaryFolder) {
+TEST_F(ID3Change, MovesAFileBackThatACrashLeftInTheTemporaryFolder) {
     // A tool that never ends simulates the moment of the crash.
     removeTool();
     const QString tool = resources_.filePath(u"SetArtWork"_s);
@@ -270,7 +270,7 @@ TEST_F(ID3Change, GivesAFileBackThatACrashLeftInTheTemporaryFolder) {
     EXPECT_TRUE(filesIn(temporary_).isEmpty());
 }
 
-TEST_F(ID3Change, AFileThatNoPlaceTakesBackStaysInTheTemporaryFolder) {
+TEST_F(ID3Change, AFileThatCannotBeMovedBackStaysInTheTemporaryFolder) {
     // The tool removes the folder, and nothing can be set aside either.
     const QString data = resources_.filePath(u"data"_s);
     ASSERT_TRUE(Mpeg4Files::write(data, {}));
@@ -291,7 +291,7 @@ TEST_F(ID3Change, AFileThatNoPlaceTakesBackStaysInTheTemporaryFolder) {
     EXPECT_EQ(Mpeg4Files::contentOf(path()), before);
 }
 
-TEST(SetArtWork, SaysHowItIsUsed) {
+TEST(SetArtWork, PrintsItsUsage) {
     const ToolResult help = runTool(toolPath, {u"--help"_s});
     EXPECT_EQ(help.status, 0);
     EXPECT_TRUE(help.output.startsWith("usage: SetArtWork SOURCE IMAGE DESTINATION"));
@@ -300,7 +300,7 @@ TEST(SetArtWork, SaysHowItIsUsed) {
     EXPECT_EQ(wrong.errors, help.output);
 }
 
-TEST(SetArtWork, SaysInOneLineWhatWentWrong) {
+TEST(SetArtWork, ReportsAnErrorInOneLine) {
     const QTemporaryDir folder;
     const ToolResult result = runTool(
         toolPath, {folder.filePath(u"none.m4a"_s), folder.filePath(u"none.png"_s), folder.filePath(u"out.m4a"_s)});
@@ -310,7 +310,7 @@ TEST(SetArtWork, SaysInOneLineWhatWentWrong) {
     EXPECT_FALSE(QFile::exists(folder.filePath(u"out.m4a"_s)));
 }
 
-TEST(SetArtWork, MakesNothingWhenTheFolderIsMissingOrTheDiskFull) {
+TEST(SetArtWork, CreatesNothingWhenTheFolderIsMissingOrTheDiskFull) {
     const QTemporaryDir folder;
     const QString source = folder.filePath(u"a.m4a"_s);
     const QString image = folder.filePath(u"a.png"_s);

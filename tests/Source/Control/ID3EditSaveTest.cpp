@@ -96,7 +96,7 @@ TEST_F(TagSave, AgreesInFileTagsAndEntryWhateverTheTitleIs) {
     }
 }
 
-TEST_F(TagSave, SaysThatTheFileIsGoneAndChangesNothing) {
+TEST_F(TagSave, ReportsAMissingFileAndChangesNothing) {
     const Dictionary before = recording(u"Track0"_s, 1);
     ASSERT_TRUE(QFile::remove(at(u"Track0.m4a"_s)));
     const auto result = ID3EditSave::save(before, retitled(before, u"New"_s), {Kind::Keep, {}});
@@ -106,7 +106,7 @@ TEST_F(TagSave, SaysThatTheFileIsGoneAndChangesNothing) {
     EXPECT_TRUE(files().isEmpty());
 }
 
-TEST_F(TagSave, LeavesAFileAloneThatTakesNoTags) {
+TEST_F(TagSave, LeavesAFileWithoutTagSupportUnchanged) {
     const QString path = at(u"odd.m4a"_s);
     ASSERT_TRUE(Mpeg4Files::write(path, "no audio at all"));
     const Dictionary before = entryOf(path, u"odd"_s, 1);
@@ -118,7 +118,7 @@ TEST_F(TagSave, LeavesAFileAloneThatTakesNoTags) {
     EXPECT_TRUE(notes().isEmpty());
 }
 
-TEST_F(TagSaveOnAFullDisk, KeepsTheRecordingWhereverTheRoomEnds) {
+TEST_F(TagSaveOnAFullDisk, KeepsTheRecordingWhereverTheSpaceEnds) {
     const Dictionary before = recording(u"Track0"_s, 5);
     const QString path = at(u"Track0.m4a"_s);
     const QByteArray whole = Mpeg4Files::contentOf(path);

@@ -24,14 +24,14 @@ protected:
 
 } // namespace
 
-TEST_F(Rename, GivesTheFileItsTitleAndKeepsTheEnding) {
+TEST_F(Rename, NamesTheFileAfterItsTitleAndKeepsTheExtension) {
     const auto renamed = RecordingRename::rename(at(u"Track0.m4a"_s), u"Rain on the roof"_s);
     EXPECT_EQ(renamed.path, at(u"Rain on the roof.m4a"_s));
     EXPECT_EQ(renamed.notice, QString());
     EXPECT_EQ(files(), QStringList{u"Rain on the roof.m4a"_s});
 }
 
-TEST_F(Rename, TakesTitlesThatAShellAFormatOrAPathCouldRead) {
+TEST_F(Rename, AcceptsTitlesWithShellFormatAndPathCharacters) {
     QString path = at(u"Track0.m4a"_s);
     for (const QString& title : {u"$(touch x) `id` $HOME"_s, u"%s%n %1 %2"_s, u"a\"b'c\\d"_s, u"; rm -rf . &"_s,
                                  u"..%2f..%2fx"_s, u"-rf"_s, u"a\nb\tc"_s, u"*?[]{}~!#|<>^"_s, u"a:b"_s, u"."_s,
@@ -45,7 +45,7 @@ TEST_F(Rename, TakesTitlesThatAShellAFormatOrAPathCouldRead) {
     }
 }
 
-TEST_F(Rename, KeepsTheNameWhereTheTitleCanBeNone) {
+TEST_F(Rename, KeepsTheNameWhenTheTitleCannotBeAFileName) {
     ASSERT_TRUE(QDir(folder_.path()).mkdir(u"sub"_s));
     const QStringList before = files();
     const QString half(QChar(0xD800));
@@ -79,7 +79,7 @@ TEST_F(Rename, NeverTakesTheNameOfAnotherFile) {
     EXPECT_EQ(Mpeg4Files::contentOf(at(u"Track0.m4a"_s)), "the recording");
 }
 
-TEST_F(Rename, LeavesAFileAloneThatIsNamedLikeItsTitle) {
+TEST_F(Rename, DoesNothingWhenTheFileHasItsTitleAsName) {
     const auto renamed = RecordingRename::rename(at(u"Track0.m4a"_s), u"Track0"_s);
     EXPECT_EQ(renamed.path, at(u"Track0.m4a"_s));
     EXPECT_EQ(renamed.notice, QString());

@@ -69,7 +69,7 @@ TEST(ToolControl, WritesTimesWithTwoDigitsAndAsManyHoursAsThereAre) {
     EXPECT_EQ(ToolControl::getTimeString(100 * 3600), u"100:00:00"_s);
 }
 
-TEST(ToolControl, TellsTheLengthOfAnAudioFile) {
+TEST(ToolControl, ReadsTheLengthOfAnAudioFile) {
     const Platform::ServicesScope scope;
     FakeMediaFiles files;
     files.infos[u"/a.m4a"_s].seconds = 12.25;
@@ -78,7 +78,7 @@ TEST(ToolControl, TellsTheLengthOfAnAudioFile) {
     EXPECT_EQ(ToolControl::getAudioLength(u"/missing.m4a"_s), 0.0F);
 }
 
-TEST(ToolControl, CountsMegabytesOfAFileGenerously) {
+TEST(ToolControl, CountsSmallFilesAsOneMegabyte) {
     const QTemporaryDir folder;
     const auto sizeOf = [&](qsizetype bytes) {
         const QString path = folder.filePath(u"file"_s);
@@ -95,7 +95,7 @@ TEST(ToolControl, CountsMegabytesOfAFileGenerously) {
     EXPECT_EQ(ToolControl::getDirectorySize(folder.filePath(u"missing"_s)), 0);
 }
 
-TEST(ToolControl, AddsUpAFolderWithAllThatIsInIt) {
+TEST(ToolControl, AddsUpAFolderWithItsWholeContent) {
     const QTemporaryDir folder;
     ASSERT_TRUE(QDir(folder.path()).mkpath(u"deep/deeper"_s));
     writeFile(folder.filePath(u"deep/.hidden"_s), QByteArray(1'600'000, 'x'));
@@ -105,7 +105,7 @@ TEST(ToolControl, AddsUpAFolderWithAllThatIsInIt) {
     EXPECT_EQ(ToolControl::getDirectorySize(folder.path()), 3);
 }
 
-TEST(ToolControl, TellsFreeSpaceInBinaryMegabytes) {
+TEST(ToolControl, ReportsFreeSpaceInBinaryMegabytes) {
     struct statfs status {};
     ASSERT_EQ(::statfs("/tmp", &status), 0);
     const auto expected = static_cast<double>(status.f_bfree) * static_cast<double>(status.f_bsize) / 1048576.0;
@@ -114,7 +114,7 @@ TEST(ToolControl, TellsFreeSpaceInBinaryMegabytes) {
     EXPECT_EQ(ToolControl::getLocalSize(u"/no/such/folder"_s), 0);
 }
 
-TEST(ToolControl, TakesANameWithoutSeparators) {
+TEST(ToolControl, AcceptsNamesWithoutSeparators) {
     EXPECT_TRUE(ToolControl::isAvailable(u"My song 1.m4a"_s));
     EXPECT_TRUE(ToolControl::isAvailable(u""_s));
     EXPECT_FALSE(ToolControl::isAvailable(u"a/b"_s));
@@ -140,7 +140,7 @@ TEST(ToolControl, FindsAProtectedFileInAFolderOfAnyDepth) {
     EXPECT_TRUE(ToolControl::hasDRMFile(folder.filePath(u"deep/a $(song) \"x\".m4p"_s)));
 }
 
-TEST(ToolControl, LooksForProtectionInFilesOfItsKindsOnly) {
+TEST(ToolControl, SearchesOnlyMatchingFilesForProtection) {
     const QTemporaryDir folder;
     for (const QString& name : {u"song.M4A"_s, u"song.mp3"_s, u"song.m4r"_s}) {
         writeFile(folder.filePath(name), protectedFile);
@@ -148,7 +148,7 @@ TEST(ToolControl, LooksForProtectionInFilesOfItsKindsOnly) {
     }
 }
 
-TEST(ToolControl, SeesProtectionAmongTheFirstTwentyThousandCharactersOnly) {
+TEST(ToolControl, SearchesOnlyTheFirstTwentyThousandCharacters) {
     QLoggingCategory::setFilterRules(u"sonaphex.control.info=false"_s); // the line is as long as the output
     const QTemporaryDir folder;
     // Folders match the pattern, too, and are listed before their content: the file comes last.
@@ -165,7 +165,7 @@ TEST(ToolControl, SeesProtectionAmongTheFirstTwentyThousandCharactersOnly) {
     QLoggingCategory::setFilterRules({});
 }
 
-TEST(ToolControl, GivesTheDescriptionBehindTheFirstColon) {
+TEST(ToolControl, ReturnsTheDescriptionBehindTheFirstColon) {
     const QTemporaryDir folder;
     writeFile(folder.filePath(u"a.txt"_s), "plain words\n");
     EXPECT_EQ(ToolControl::getFileInfoForFileCMD(folder.filePath(u"a.txt"_s)), u" ASCII text\n"_s);
@@ -180,7 +180,7 @@ TEST(ToolControl, FindsTheFolderOfADvd) {
     EXPECT_EQ(ToolControl::isVIDEO_TS(folder.path()), folder.filePath(u"VIDEO_TS"_s));
 }
 
-TEST(ToolControl, KnowsDiscImagesByTheirExtension) {
+TEST(ToolControl, RecognisesDiscImagesByTheirExtension) {
     EXPECT_EQ(ToolControl::isISO(u"/a/disc.ISO"_s), u"/a/disc.ISO"_s);
     EXPECT_TRUE(ToolControl::isISO(u"/a/disc.dmg"_s).isNull());
     EXPECT_TRUE(ToolControl::isISO(u"/a.iso/disc"_s).isNull());

@@ -47,7 +47,7 @@ TEST_F(HotKeyRegisters, TranslateTheFourModifiersAndDropTheRest) {
     EXPECT_EQ(HotKeyRegister::carbonKeyModifiers(0x10000), 0U); // Caps Lock
 }
 
-TEST_F(HotKeyRegisters, TakeACombinationUnderTheirSignature) {
+TEST_F(HotKeyRegisters, RegisterACombinationUnderTheirSignature) {
     HotKeyRegister hotKey;
     EXPECT_FALSE(hotKey.hasRegisterHotKey());
     hotKey.setSignature(0x73737273);
@@ -69,7 +69,7 @@ TEST_F(HotKeyRegisters, ReplaceTheirOwnCombination) {
     EXPECT_EQ(hotKeys.registrations.begin()->second.keyCode, 2);
 }
 
-TEST_F(HotKeyRegisters, StandEmptyAfterARefusal) {
+TEST_F(HotKeyRegisters, AreEmptyAfterARefusal) {
     hotKeys.heldByOthers.insert({3, carbonCommandControl});
     HotKeyRegister hotKey;
     hotKey.registerHotKey(1, commandControl);
@@ -78,7 +78,7 @@ TEST_F(HotKeyRegisters, StandEmptyAfterARefusal) {
     EXPECT_TRUE(hotKeys.registrations.empty());
 }
 
-TEST_F(HotKeyRegisters, LetGoWhenTheyAreDestroyed) {
+TEST_F(HotKeyRegisters, UnregisterWhenTheyAreDestroyed) {
     {
         HotKeyRegister hotKey;
         hotKey.registerHotKey(1, commandControl);
@@ -88,7 +88,7 @@ TEST_F(HotKeyRegisters, LetGoWhenTheyAreDestroyed) {
                                                        {{HotKeyRegister::HotKeyRegisterSignatureKey, 0}});
 }
 
-TEST_F(HotKeyRegisters, LivesWithoutAnyHotKeysOfTheSystem) {
+TEST_F(HotKeyRegisters, WorkWithoutSystemHotKeys) {
     Platform::services().hotKeys = nullptr;
     HotKeyRegister hotKey;
     hotKey.registerHotKey(1, commandControl);
@@ -110,7 +110,7 @@ TEST_F(HotKeyRegisters, RunOnlyTheOperationOfTheirSignatureAndOnlyLater) {
     EXPECT_EQ(otherRan, 0);
 }
 
-TEST_F(HotKeyRegisters, RestWhileAShortcutIsBeingTyped) {
+TEST_F(HotKeyRegisters, AreDisabledWhileAShortcutIsBeingTyped) {
     HotKeyRegister hotKey;
     int ran = 0;
     hotKey.setSignature(7);

@@ -20,7 +20,7 @@ QString touch(const QTemporaryDir& folder, const QString& name) {
 
 } // namespace
 
-TEST(MissingFiles, LearnsLaterThatAFileIsNotThere) {
+TEST(MissingFiles, ReportsAMissingFileLater) {
     QTemporaryDir folder;
     MissingFiles files;
     const QString there = touch(folder, u"a.m4a"_s);
@@ -31,7 +31,7 @@ TEST(MissingFiles, LearnsLaterThatAFileIsNotThere) {
     EXPECT_FALSE(files.isMissing({}));
 }
 
-TEST(MissingFiles, NoticesThatAFileGoesAndReturns) {
+TEST(MissingFiles, NoticesARemovedAndAReturnedFile) {
     QTemporaryDir folder;
     MissingFiles files;
     const QString path = touch(folder, u"a.m4a"_s);
@@ -44,7 +44,7 @@ TEST(MissingFiles, NoticesThatAFileGoesAndReturns) {
     EXPECT_TRUE(waitFor([&] { return !files.isMissing(path); }));
 }
 
-TEST(MissingFiles, AFolderThatNeverExistedIsNoTrouble) {
+TEST(MissingFiles, AcceptsAFolderThatNeverExisted) {
     MissingFiles files;
     const QString path = u"/nonexistent-folder/some/where.m4a"_s;
     EXPECT_FALSE(files.isMissing(path));

@@ -73,7 +73,7 @@ TEST_F(ControlRequestsTest, TheStatusIsOneLineOfJson) {
     EXPECT_TRUE(rest.contains("\"lostFrames\":0")) << rest.constData();
 }
 
-TEST_F(ControlRequestsTest, TakesARecordingOfASubcommandIntoTheLibrary) {
+TEST_F(ControlRequestsTest, AddsARecordingOfASubcommandToTheLibrary) {
     Dictionary tags = RecordStateController::initID3BasicInfoDic();
     tags.insert(AudioRecordEntry::Title, u"Träck \"0\"\n"_s);
     tags.insert(AudioRecordEntry::Length, 7.5);
@@ -90,7 +90,7 @@ TEST_F(ControlRequestsTest, TakesARecordingOfASubcommandIntoTheLibrary) {
     EXPECT_EQ(ask("library-add {{{"), "failed there is no path");
 }
 
-TEST_F(ControlRequestsTest, AddsARecordingUnderTheIdentityThatItComesWith) {
+TEST_F(ControlRequestsTest, AddsARecordingUnderItsGivenIdentity) {
     Dictionary tags{{AudioRecordEntry::NodeDataKey, u"its own"_s}, {AudioRecordEntry::IsNew, true}};
     for (const QString& title : {u"first"_s, u"second"_s}) {
         tags.insert(AudioRecordEntry::Title, title);
@@ -108,7 +108,7 @@ TEST_F(ControlRequestsTest, AddsARecordingUnderTheIdentityThatItComesWith) {
     }
 }
 
-TEST_F(ControlRequestsTest, TakesUpWhatOthersStoredBeforeItAdds) {
+TEST_F(ControlRequestsTest, AdoptsEntriesOfOtherProcessesBeforeItAdds) {
     const Dictionary theirs{{AudioRecordEntry::NodeDataKey, u"theirs"_s}};
     defaults.setObject(PreferenceStore::kMediaLibrarySavedKey, MediaLibraryStore::value({theirs}, {}));
     EXPECT_EQ(ask(ControlRequests::libraryAdd(u"/music/a.m4a"_s, {})), "ok");
@@ -116,11 +116,11 @@ TEST_F(ControlRequestsTest, TakesUpWhatOthersStoredBeforeItAdds) {
     EXPECT_EQ(library->records().last(), theirs);
 }
 
-TEST_F(ControlRequestsTest, HandsRemovalsToTheLibrary) {
+TEST_F(ControlRequestsTest, ForwardsRemovalsToTheLibrary) {
     EXPECT_TRUE(ask("library-remove {}").contains("problem"));
 }
 
-TEST_F(ControlRequestsTest, TheButtonsCommandsBeginAfterTheirAnswer) {
+TEST_F(ControlRequestsTest, TheButtonsCommandsStartAfterTheAnswerIsSent) {
     const auto start = requests->answer("start-stop");
     EXPECT_EQ(start.line, "ok");
     EXPECT_EQ(requests->status().value(u"state"_s), u"idle"_s);

@@ -33,7 +33,7 @@ protected:
 
 } // namespace
 
-TEST_F(ControlSocketTest, AStopIsAnsweredAlthoughADeviceThatCameMeanwhileOpensADialog) {
+TEST_F(ControlSocketTest, AStopIsAnsweredAlthoughANewDeviceOpensADialog) {
     addMicrophone();
     begin();
     setFilter(false);

@@ -69,7 +69,7 @@ TEST_F(LaunchTest, RaisesTheWindowOfAProgramThatIsStillStarting) {
     EXPECT_EQ(heard, "show token 1");
 }
 
-TEST_F(LaunchTest, TakesThePlaceOfAProgramThatEndsInItsStart) {
+TEST_F(LaunchTest, ReplacesAProgramThatEndsDuringItsStart) {
     ASSERT_TRUE(first->acquire());
     launchAgain(60000);
     EXPECT_TRUE(waits());
@@ -78,14 +78,14 @@ TEST_F(LaunchTest, TakesThePlaceOfAProgramThatEndsInItsStart) {
     EXPECT_EQ(outcome, Outcome::First);
 }
 
-TEST_F(LaunchTest, SaysThatNobodyAnswers) {
+TEST_F(LaunchTest, ReportsThatNothingAnswers) {
     ASSERT_TRUE(first->acquire());
     launchAgain(100);
     ASSERT_TRUE(waitFor([this] { return done.load(); }));
     EXPECT_EQ(outcome, Outcome::NobodyAnswers);
 }
 
-TEST_F(LaunchTest, SaysThatThereIsNoPlaceForTheLock) {
+TEST_F(LaunchTest, ReportsThatTheLockFileCannotBeCreated) {
     QDir().mkpath(dir.filePath(u"org.example.Test.lock"_s));
     EXPECT_EQ(Launch::begin(*first, {}, 60000), Outcome::NoPlace);
     EXPECT_FALSE(first->lastError().isEmpty());

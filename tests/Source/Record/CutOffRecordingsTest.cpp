@@ -26,7 +26,7 @@ protected:
 
 } // namespace
 
-TEST_F(CutOffRecordingsTest, KeepsWhatIsBeingRecorded) {
+TEST_F(CutOffRecordingsTest, KeepsARunningRecording) {
     beginWithBoth();
     controller->startAndStopRecord();
     playBoth(0.5F, 1);
@@ -40,7 +40,7 @@ TEST_F(CutOffRecordingsTest, KeepsWhatIsBeingRecorded) {
     EXPECT_EQ(kept(), raws) << "once";
 }
 
-TEST_F(CutOffRecordingsTest, LeavesAWaitThatWasStopped) {
+TEST_F(CutOffRecordingsTest, LeavesAStoppedWait) {
     beginWithComputerAudioOnly();
     controller->startAndStopRecord();
     play(ComputerAudio, 0, 1);
@@ -62,7 +62,7 @@ TEST_F(CutOffRecordingsTest, LeavesARecordingWithoutAFrame) {
     EXPECT_TRUE(kept().isEmpty());
 }
 
-TEST_F(CutOffRecordingsTest, LeavesTheHalfThatTheFilterDropped) {
+TEST_F(CutOffRecordingsTest, LeavesTheRawFileThatTheFilterDropped) {
     beginWithBoth();
     controller->startAndStopRecord();
     playBoth(0.5F, 3);
@@ -76,7 +76,7 @@ TEST_F(CutOffRecordingsTest, LeavesTheHalfThatTheFilterDropped) {
     EXPECT_EQ(rawFiles().size(), 1) << "the next launch deletes it";
 }
 
-TEST_F(CutOffRecordingsTest, LeavesWhatWasDelivered) {
+TEST_F(CutOffRecordingsTest, LeavesADeliveredRecording) {
     beginWithBoth();
     setFilter(false);
     controller->startAndStopRecord();
@@ -90,7 +90,7 @@ TEST_F(CutOffRecordingsTest, LeavesWhatWasDelivered) {
     EXPECT_TRUE(QFileInfo::exists(track(0)));
 }
 
-TEST_F(CutOffRecordingsTest, KeepsTheRawFilesOfAMixThatWasCutOff) {
+TEST_F(CutOffRecordingsTest, KeepsTheRawFilesOfAnInterruptedMix) {
     beginWithBoth();
     setFilter(false);
     media.holdMix = true;
@@ -105,7 +105,7 @@ TEST_F(CutOffRecordingsTest, KeepsTheRawFilesOfAMixThatWasCutOff) {
     ASSERT_TRUE(queueDone());
 }
 
-TEST_F(CutOffRecordingsTest, AKeeperKeepsWhenItGoes) {
+TEST_F(CutOffRecordingsTest, AKeeperKeepsFilesWhenItIsDestroyed) {
     addMicrophone();
     begin();
     {
@@ -116,7 +116,7 @@ TEST_F(CutOffRecordingsTest, AKeeperKeepsWhenItGoes) {
     EXPECT_EQ(kept().size(), 1);
 }
 
-TEST_F(CutOffRecordingsTest, AnExitKeepsAndTheNextLaunchCannotComeBetween) {
+TEST_F(CutOffRecordingsTest, AnExitKeepsFilesBeforeTheNextLaunchCanDeleteThem) {
     // exit() does not run the caller's destructors: its objects, such as the lock of the running program, stay until
     // the end.
     const QString raw = g_strTmpPath + u"/BuiltInA0.m4a"_s;

@@ -32,7 +32,7 @@ protected:
 
 } // namespace
 
-TEST_F(LostSourceServer, ASourceThatLeavesBeforeTheFiltersTimeTakesNothingWithIt) {
+TEST_F(LostSourceServer, ASourceLostBeforeTheFilterTimeDropsNothing) {
     TestSource input(microphone());
     TestSource computer(highTone());
     ASSERT_TRUE(input.start());
@@ -61,7 +61,7 @@ TEST_F(LostSourceServer, ASourceThatLeavesBeforeTheFiltersTimeTakesNothingWithIt
     EXPECT_NEAR(strength(ended, 2000), 0.25, 0.05);
 }
 
-TEST_F(LostSourceServer, AWaitForSoundTellsThatTheDriverIsLostAndGoesOnWhenItIsBack) {
+TEST_F(LostSourceServer, AnArmedWaitReportsALostDriverAndContinuesWhenItReturns) {
     TestSource computer(computerAudio([](std::uint64_t, std::uint32_t) { return 0.0F; }));
     ASSERT_TRUE(computer.start());
     ASSERT_TRUE(deviceIsThere(RecordSources::ComputerAudioName));
@@ -83,7 +83,7 @@ TEST_F(LostSourceServer, AWaitForSoundTellsThatTheDriverIsLostAndGoesOnWhenItIsB
     EXPECT_NEAR(AudioCheck::pitchOf(AudioCheck::inner(samples[0], 8192), 44100), 2000, 2);
 }
 
-TEST_F(LostSourceServer, AWaitForSoundTellsThatTheServerIsLostAndGoesOnWithTheNext) {
+TEST_F(LostSourceServer, AnArmedWaitReportsALostServerAndContinuesWithTheNext) {
     QTemporaryDir folder;
     const KextInstallControl::ExtensionsFolderScope extensions(folder.path());
     ASSERT_TRUE(QFile::link(QStringLiteral(SONAPHEX_BIN_DIR "/Resources/ComputerAudioCapture.kext"),

@@ -56,7 +56,7 @@ TEST_F(LostSourceTest, AShortRecordingWhoseOnlyDeviceWasLostIsKept) {
     EXPECT_EQ(delegate.paths, QStringList{track(0)}) << "it reaches the library too";
 }
 
-TEST_F(LostSourceTest, WhatTheServerCutShortIsKept) {
+TEST_F(LostSourceTest, ARecordingEndedByTheServerIsKept) {
     beginWithBoth();
     media.seconds = 2;
     controller->startAndStopRecord();
@@ -68,7 +68,7 @@ TEST_F(LostSourceTest, WhatTheServerCutShortIsKept) {
     EXPECT_EQ(delegate.paths, QStringList{track(0)});
 }
 
-TEST_F(LostSourceTest, TheSourceThatStayedIsStillMeasured) {
+TEST_F(LostSourceTest, TheFilterStillMeasuresTheRemainingSource) {
     beginWithBoth();
     controller->startAndStopRecord();
     playBoth(0.5F, 1);
@@ -79,7 +79,7 @@ TEST_F(LostSourceTest, TheSourceThatStayedIsStillMeasured) {
     EXPECT_EQ(controller->jobsInQueue(), 0);
 }
 
-TEST_F(LostSourceTest, ASourceThatNeverGaveAFrameIsLeftOut) {
+TEST_F(LostSourceTest, ASourceWithoutAFrameIsLeftOut) {
     beginWithBoth();
     controller->startAndStopRecord();
     play(ComputerAudio, 0.5F, 6);
@@ -92,7 +92,7 @@ TEST_F(LostSourceTest, ASourceThatNeverGaveAFrameIsLeftOut) {
     EXPECT_TRUE(rawFiles().isEmpty());
 }
 
-TEST_F(LostSourceTest, ARecordingWithoutAnyFrameIsNoRecording) {
+TEST_F(LostSourceTest, ARecordingWithoutAFrameIsDropped) {
     beginWithBoth();
     controller->startAndStopRecord();
     controller->startAndStopRecord();
@@ -102,7 +102,7 @@ TEST_F(LostSourceTest, ARecordingWithoutAnyFrameIsNoRecording) {
     EXPECT_EQ(controller->getAudioRecordPath(), track(0));
 }
 
-TEST_F(LostSourceTest, APartThatBeginsWithoutTheDeviceIsNotMeasuredByIt) {
+TEST_F(LostSourceTest, APartThatStartsWithoutTheDeviceIsNotMeasuredByIt) {
     beginWithBoth();
     controller->startAndStopRecord();
     playBoth(0.5F, 6);
@@ -121,7 +121,7 @@ TEST_F(LostSourceTest, APartThatBeginsWithoutTheDeviceIsNotMeasuredByIt) {
     EXPECT_EQ(controller->droppedRecordings(), 1);
 }
 
-TEST_F(LostSourceTest, TheTimeGoesOnWithoutTheSourceThatStaysAway) {
+TEST_F(LostSourceTest, TheTimeContinuesWithoutTheLostSource) {
     beginWithBoth();
     controller->setRecordLimit(10);
     controller->startAndStopRecord();
@@ -149,7 +149,7 @@ TEST_F(LostSourceTest, TheNextRecordingIsMeasuredAgain) {
     EXPECT_EQ(controller->droppedRecordings(), 1);
 }
 
-TEST_F(LostSourceTest, AWaitForSoundTellsThatItsDeviceIsGoneAndBack) {
+TEST_F(LostSourceTest, AnArmedWaitReportsItsDeviceLostAndReturned) {
     beginWithComputerAudioOnly();
     controller->startAndStopRecord();
     ASSERT_TRUE(controller->isWaittingForSound());
@@ -162,7 +162,7 @@ TEST_F(LostSourceTest, AWaitForSoundTellsThatItsDeviceIsGoneAndBack) {
     EXPECT_TRUE(noticed(u"Computer audio is back."_s));
 }
 
-TEST_F(LostSourceTest, AWaitForSoundTellsThatTheServerIsGone) {
+TEST_F(LostSourceTest, AnArmedWaitReportsALostServer) {
     beginWithComputerAudioOnly();
     controller->startAndStopRecord();
     tell(Microphone, Event::ServerLost);
@@ -173,7 +173,7 @@ TEST_F(LostSourceTest, AWaitForSoundTellsThatTheServerIsGone) {
     EXPECT_TRUE(noticed(u"Computer audio is back."_s));
 }
 
-TEST_F(LostSourceTest, NothingIsToldWhileNobodyRecords) {
+TEST_F(LostSourceTest, NothingIsReportedWhileNothingIsRecorded) {
     beginWithComputerAudioOnly();
     tell(ComputerAudio, Event::DeviceLost);
     tell(ComputerAudio, Event::DeviceReturned);

@@ -43,7 +43,7 @@ protected:
 
 } // namespace
 
-TEST_F(RecordEndTest, CyclesDuringTheEndMeetAWholeController) {
+TEST_F(RecordEndTest, CyclesDuringDestructionUseAValidController) {
     defaults.setObject(PreferenceStore::ChooseRecordBuiltIn, false);
     defaults.setObject(PreferenceStore::ChooseRecordComputerAudio, true);
     beginWithBusyEngines();
@@ -67,7 +67,7 @@ TEST_F(RecordEndTest, CyclesDuringTheEndMeetAWholeController) {
     EXPECT_FALSE((kept() + QDir(folder()).entryList(QDir::Files)).isEmpty()) << "what was recorded is kept";
 }
 
-TEST_F(RecordEndTest, NoCutMeetsTheOtherEngineWhileThatIsClosed) {
+TEST_F(RecordEndTest, NoCutUsesTheOtherEngineWhileItIsBeingClosed) {
     defaults.setObject(PreferenceStore::ChooseRecordBuiltIn, false);
     defaults.setObject(PreferenceStore::ChooseRecordComputerAudio, true);
     beginWithBusyEngines();
@@ -80,7 +80,7 @@ TEST_F(RecordEndTest, NoCutMeetsTheOtherEngineWhileThatIsClosed) {
     EXPECT_EQ(holds, 1);
 }
 
-TEST_F(RecordEndTest, AWaitThatAStopLeftRecordsNothingDuringTheEnd) {
+TEST_F(RecordEndTest, AnArmedWaitRecordsNothingDuringDestruction) {
     defaults.setObject(PreferenceStore::ChooseRecordBuiltIn, false);
     defaults.setObject(PreferenceStore::ChooseRecordComputerAudio, true);
     beginWithBusyEngines();

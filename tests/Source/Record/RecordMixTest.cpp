@@ -5,7 +5,7 @@
 #include "Source/Model/AudioRecordEntry.h"
 #include "tests/support/DiskCalls.h"
 
-TEST_F(RecordMix, SourcesStayTogetherThoughTheirClocksDiffer) {
+TEST_F(RecordMix, SourcesStayAlignedAlthoughTheirClocksDiffer) {
     expectTogether(40);
 }
 

@@ -66,7 +66,7 @@ TEST_F(RecordQueueTest, TwoSourcesAreMixedAndEncoded) {
     EXPECT_TRUE(unfinished().isEmpty());
 }
 
-TEST_F(RecordQueueTest, SourcesAreLaidOverEachOtherByTheirCaptureTimes) {
+TEST_F(RecordQueueTest, SourcesAreAlignedByTheirCaptureTimes) {
     beginWithBoth();
     controller->startAndStopRecord();
     // The computer-audio device delivers its first cycle 7 ms after the input device.
@@ -82,7 +82,7 @@ TEST_F(RecordQueueTest, SourcesAreLaidOverEachOtherByTheirCaptureTimes) {
     EXPECT_DOUBLE_EQ(timings.at(1).speed, 1);
 }
 
-TEST(ExportJobTiming, TheSourceThatBeganLaterPlaysLater) {
+TEST(ExportJobTiming, TheSourceThatStartedLaterPlaysLater) {
     ExportJob job;
     job.timings[0].span = {2'500'000'000, 0};
     job.timings[1].span = {2'000'000'000, 0};
@@ -90,7 +90,7 @@ TEST(ExportJobTiming, TheSourceThatBeganLaterPlaysLater) {
     EXPECT_DOUBLE_EQ(job.timing().computerOffset, 0);
 }
 
-TEST(ExportJobTiming, ClocksThatDifferAreMadeToAgree) {
+TEST(ExportJobTiming, DifferentClocksAreCompensated) {
     ExportJob job;
     job.timings[0].span = {1'000'000'000, 48000.0};
     job.timings[1].span = {1'000'000'000, 44100.0 * (1 + 1e-4)};
@@ -99,7 +99,7 @@ TEST(ExportJobTiming, ClocksThatDifferAreMadeToAgree) {
     EXPECT_NEAR(job.timing().computerSpeed, 1 + 1e-4, 1e-12);
 }
 
-TEST(ExportJobTiming, AMeasurementThatCannotBeTrueIsNotUsed) {
+TEST(ExportJobTiming, AnImpossibleMeasurementIsIgnored) {
     ExportJob job;
     job.timings[0].span = {1'000'000'000, 48000.0};
     job.timings[1].span = {1'000'000'000, 50000.0};
@@ -174,7 +174,7 @@ TEST_F(RecordQueueTest, TheWindowAnswersWhileAFinishedFileIsMeasured) {
     EXPECT_EQ(delegate.paths, QStringList{track(0)});
 }
 
-TEST_F(RecordQueueTest, AFileThatAppearedUnderTheNameIsNotOverwritten) {
+TEST_F(RecordQueueTest, AFileThatTookTheNameIsNotOverwritten) {
     addMicrophone();
     begin();
     controller->startAndStopRecord();
@@ -188,7 +188,7 @@ TEST_F(RecordQueueTest, AFileThatAppearedUnderTheNameIsNotOverwritten) {
     EXPECT_EQ(other.readAll(), QByteArray("somebody else's"));
 }
 
-TEST_F(RecordQueueTest, AVanishedFolderSetsTheRecordingAsideAndSaysWhere) {
+TEST_F(RecordQueueTest, AMissingFolderSetsTheRecordingAsideAndReportsWhere) {
     addMicrophone();
     begin();
     controller->startAndStopRecord();
@@ -217,7 +217,7 @@ TEST_F(RecordQueueTest, AFolderWithoutPermissionSetsTheRecordingAside) {
     EXPECT_TRUE(noticed(u"could not be saved in"_s));
 }
 
-TEST_F(RecordQueueTest, ADiskThatTakesNoMoreSetsTheRecordingAside) {
+TEST_F(RecordQueueTest, AFullDiskSetsTheRecordingAside) {
     // The recordings are on another file system, so that the move has to copy.
     QTemporaryDir other(u"/dev/shm/sonaphex-XXXXXX"_s);
     ASSERT_TRUE(other.isValid());
@@ -245,7 +245,7 @@ TEST_F(RecordQueueTest, ADiskThatTakesNoMoreSetsTheRecordingAside) {
     EXPECT_TRUE(noticed(u"could not be saved in"_s));
 }
 
-TEST_F(RecordQueueTest, ARecordingReachesAnotherFileSystem) {
+TEST_F(RecordQueueTest, ARecordingIsMovedToAnotherFileSystem) {
     QTemporaryDir other(u"/dev/shm/sonaphex-XXXXXX"_s);
     ASSERT_TRUE(other.isValid());
     defaults.setObject(PreferenceStore::PreferenceSavePathKey, other.path());
@@ -257,7 +257,7 @@ TEST_F(RecordQueueTest, ARecordingReachesAnotherFileSystem) {
     EXPECT_TRUE(rawFiles().isEmpty());
 }
 
-TEST_F(RecordQueueTest, TwoRecordingsThatWereSetAsideDoNotMeet) {
+TEST_F(RecordQueueTest, TwoRecordingsSetAsideGetDifferentNames) {
     addMicrophone();
     makeFile(folder(), "in the way");
     begin();
@@ -268,7 +268,7 @@ TEST_F(RecordQueueTest, TwoRecordingsThatWereSetAsideDoNotMeet) {
     EXPECT_EQ(unfinished().size(), 2);
 }
 
-TEST_F(RecordQueueTest, ARecordingThatNoPlaceTakesOutlivesItsTemporaryFolder) {
+TEST_F(RecordQueueTest, ARecordingThatCannotBeMovedOutlivesItsTemporaryFolder) {
     // Neither the recordings' folder nor the folder for unfinished recordings can be written.
     makeFile(folder(), "in the way");
     makeFile(home.filePath(u"data"_s), "in the way");
@@ -351,7 +351,7 @@ TEST_F(RecordQueueTest, ADamagedPlaceInASourceKeepsBothRawFilesBesideTheRecordin
     EXPECT_TRUE(rawFiles().isEmpty());
 }
 
-TEST_F(RecordQueueTest, DamagedSourcesThatNoPlaceTakesAreNotDeleted) {
+TEST_F(RecordQueueTest, DamagedSourcesThatCannotBeMovedAreNotDeleted) {
     beginWithBoth();
     makeFile(home.filePath(u"data"_s), "in the way");
     media.mixReadError = {Platform::Error::Kind::Damaged, u"a packet is damaged"_s};
@@ -362,7 +362,7 @@ TEST_F(RecordQueueTest, DamagedSourcesThatNoPlaceTakesAreNotDeleted) {
         EXPECT_TRUE(Platform::MovedFiles::isKept(g_strTmpPath + name)) << qPrintable(name);
 }
 
-TEST_F(RecordQueueTest, AWaveThatCannotBeReadToItsEndIsKeptBesideTheRecording) {
+TEST_F(RecordQueueTest, APartlyUnreadableWaveIsKeptBesideTheRecording) {
     beginWithBoth();
     media.readError = {Platform::Error::Kind::Other, u"Input/output error"_s};
     recordBoth();
@@ -373,7 +373,7 @@ TEST_F(RecordQueueTest, AWaveThatCannotBeReadToItsEndIsKeptBesideTheRecording) {
     EXPECT_TRUE(rawFiles().isEmpty());
 }
 
-TEST_F(RecordQueueTest, OneUnreadableSourceLeavesTheOtherAsTheRecording) {
+TEST_F(RecordQueueTest, WithOneUnreadableSourceTheOtherBecomesTheRecording) {
     beginWithBoth();
     controller->startAndStopRecord();
     playBoth(0.5F, 6);
@@ -401,7 +401,7 @@ TEST_F(RecordQueueTest, TwoUnreadableSourcesAreBothKept) {
     EXPECT_EQ(unfinished().size(), 2);
 }
 
-TEST_F(RecordQueueTest, AnErrorWhileClosingTheFileIsTold) {
+TEST_F(RecordQueueTest, AnErrorWhileClosingTheFileIsReported) {
     addMicrophone();
     begin();
     controller->startAndStopRecord();
@@ -413,7 +413,7 @@ TEST_F(RecordQueueTest, AnErrorWhileClosingTheFileIsTold) {
     EXPECT_EQ(delegate.paths, QStringList{track(0)}) << "what was written is kept";
 }
 
-TEST_F(RecordQueueTest, AControllerThatGoesInTheMidstOfAMixKeepsTheRawFiles) {
+TEST_F(RecordQueueTest, AControllerDestroyedDuringAMixKeepsTheRawFiles) {
     beginWithBoth();
     media.holdMix = true;
     recordBoth();
@@ -422,7 +422,7 @@ TEST_F(RecordQueueTest, AControllerThatGoesInTheMidstOfAMixKeepsTheRawFiles) {
     EXPECT_EQ(unfinished().size(), 2);
 }
 
-TEST_F(RecordQueueTest, AControllerThatGoesInTheMidstOfARecordingKeepsIt) {
+TEST_F(RecordQueueTest, AControllerDestroyedDuringARecordingKeepsIt) {
     addMicrophone();
     makeFile(folder(), "in the way");
     begin();
@@ -432,7 +432,7 @@ TEST_F(RecordQueueTest, AControllerThatGoesInTheMidstOfARecordingKeepsIt) {
     EXPECT_EQ(unfinished(), QStringList{u"Track0.m4a"_s});
 }
 
-TEST(RecordQueueMovies, AMissingMovieTakesTheOthersPlace) {
+TEST(RecordQueueMovies, AMissingMovieIsReplacedByTheOther) {
     std::unique_ptr<Platform::Movie> none;
     EXPECT_FALSE(RecordQueue::addAudioIntoMove(none, nullptr));
 

@@ -122,7 +122,7 @@ TEST_F(RecordServer, TwoSourcesBecomeOneFileWithBoth) {
     EXPECT_TRUE(QDir(g_strTmpPath).isEmpty());
 }
 
-TEST_F(RecordServer, WithoutAMicrophoneComputerAudioIsRecordedAndTheInputIsSaidToBeOff) {
+TEST_F(RecordServer, WithoutAMicrophoneComputerAudioIsRecordedAndTheInputIsReportedOff) {
     TestSource computer(
         computerAudio([](std::uint64_t frame, std::uint32_t) { return Signal::tone(frame, 2000, 48000, 0.25); }));
     ASSERT_TRUE(computer.start());
@@ -136,7 +136,7 @@ TEST_F(RecordServer, WithoutAMicrophoneComputerAudioIsRecordedAndTheInputIsSaidT
     EXPECT_EQ(delegate.paths.size(), 1);
 }
 
-TEST_F(RecordServer, TheRecordingFollowsTheUserToAnotherOutput) {
+TEST_F(RecordServer, TheRecordingFollowsTheDefaultOutput) {
     QString why;
     ASSERT_TRUE(
         CaptureDriver::load(QStringLiteral(SONAPHEX_BIN_DIR "/Resources/ComputerAudioCapture.kext"), why, 10000))
@@ -212,7 +212,7 @@ TEST_F(RecordServer, TheRecordingFollowsTheUserToAnotherOutput) {
     EXPECT_GT(loudest(ended, 2000), 0.2);
 }
 
-TEST_F(RecordServer, ComputerAudioGoesOnWhenTheSoundServerWasRestarted) {
+TEST_F(RecordServer, ComputerAudioContinuesAfterARestartOfTheSoundServer) {
     QTemporaryDir folder;
     const KextInstallControl::ExtensionsFolderScope extensions(folder.path());
     ASSERT_TRUE(QFile::link(QStringLiteral(SONAPHEX_BIN_DIR "/Resources/ComputerAudioCapture.kext"),

@@ -25,7 +25,7 @@ protected:
 
 } // namespace
 
-TEST_F(RecordSleepTest, ARecordingHoldsSleepOff) {
+TEST_F(RecordSleepTest, ARecordingInhibitsSleep) {
     addMicrophone();
     begin();
     EXPECT_FALSE(sleep.inhibited);
@@ -39,7 +39,7 @@ TEST_F(RecordSleepTest, ARecordingHoldsSleepOff) {
     EXPECT_FALSE(sleep.inhibited);
 }
 
-TEST_F(RecordSleepTest, AWaitForSoundHoldsSleepOff) {
+TEST_F(RecordSleepTest, AnArmedWaitInhibitsSleep) {
     beginWithComputerAudioOnly();
     controller->startAndStopRecord();
     EXPECT_TRUE(sleep.inhibited) << "asleep it would miss the sound";
@@ -48,7 +48,7 @@ TEST_F(RecordSleepTest, AWaitForSoundHoldsSleepOff) {
     EXPECT_TRUE(sleep.inhibited);
 }
 
-TEST_F(RecordSleepTest, AStoppedWaitThatBeginsToRecordHoldsSleepOff) {
+TEST_F(RecordSleepTest, AStoppedWaitThatStartsToRecordInhibitsSleep) {
     beginWithComputerAudioOnly();
     controller->startAndStopRecord();
     controller->startAndStopRecord();
@@ -60,7 +60,7 @@ TEST_F(RecordSleepTest, AStoppedWaitThatBeginsToRecordHoldsSleepOff) {
     EXPECT_FALSE(sleep.inhibited);
 }
 
-TEST_F(RecordSleepTest, NothingHoldsSleepOffWhenTheControllerIsGone) {
+TEST_F(RecordSleepTest, SleepIsNotInhibitedAfterTheControllerIsDestroyed) {
     addMicrophone();
     begin();
     controller->startAndStopRecord();

@@ -11,6 +11,6 @@ TEST_F(RecordSoak, NoFrameIsLostOrRepeatedAtTwoHundredCuts) {
     expectExactCuts(200);
 }
 
-TEST_F(RecordMix, SourcesStayTogetherForTenMinutes) {
+TEST_F(RecordMix, SourcesStayAlignedForTenMinutes) {
     expectTogether(600);
 }

@@ -44,7 +44,7 @@ TEST_F(RecordSourcesTest, TheComputerAudioDeviceIsNotInTheList) {
     EXPECT_TRUE(hardware.unitOf(ComputerAudio));
 }
 
-TEST_F(RecordSourcesTest, ADeviceIsMadeLoudBeforeItIsUsed) {
+TEST_F(RecordSourcesTest, ADeviceIsSetToFullVolumeBeforeItIsUsed) {
     addMicrophone();
     begin();
     EXPECT_FLOAT_EQ(hardware.find(Microphone)->elements.at(1).volume, 1);
@@ -80,7 +80,7 @@ TEST_F(RecordSourcesTest, ChoosingADeviceBindsTheEngineToIt) {
     EXPECT_EQ(controller->selectedDevice(), 1);
 }
 
-TEST_F(RecordSourcesTest, TheListFollowsTheMachine) {
+TEST_F(RecordSourcesTest, TheListFollowsAddedAndRemovedDevices) {
     addMicrophone();
     begin();
     int changes = 0;
@@ -118,7 +118,7 @@ TEST_F(RecordSourcesTest, TheLastDeviceLeavesAnEmptyListAndReturns) {
     EXPECT_TRUE(hardware.unitOf(Microphone));
 }
 
-TEST_F(RecordSourcesTest, TheListStandsStillDuringARecording) {
+TEST_F(RecordSourcesTest, TheListDoesNotChangeDuringARecording) {
     addMicrophone();
     begin();
     controller->startAndStopRecord();
@@ -131,7 +131,7 @@ TEST_F(RecordSourcesTest, TheListStandsStillDuringARecording) {
     EXPECT_TRUE(hardware.unitOf(Headset));
 }
 
-TEST_F(RecordSourcesTest, AComputerAudioDeviceThatComesLateIsTakenUp) {
+TEST_F(RecordSourcesTest, ALateComputerAudioDeviceIsUsed) {
     addMicrophone();
     begin();
     EXPECT_FALSE(hardware.unitOf(ComputerAudio));
@@ -143,7 +143,7 @@ TEST_F(RecordSourcesTest, AComputerAudioDeviceThatComesLateIsTakenUp) {
     EXPECT_TRUE(alerts.shown.isEmpty());
 }
 
-TEST_F(RecordSourcesTest, AComputerAudioDeviceThatGoesSwitchesItsBoxOff) {
+TEST_F(RecordSourcesTest, ARemovedComputerAudioDeviceSwitchesItsBoxOff) {
     beginWithBoth();
     EXPECT_TRUE(controller->computerAudioChecked());
     hardware.remove(ComputerAudio);
@@ -154,14 +154,14 @@ TEST_F(RecordSourcesTest, AComputerAudioDeviceThatGoesSwitchesItsBoxOff) {
     EXPECT_TRUE(hardware.unitOf(ComputerAudio));
 }
 
-TEST_F(RecordSourcesTest, ADeviceThatCannotBeOpenedIsTold) {
+TEST_F(RecordSourcesTest, ADeviceThatCannotBeOpenedIsReported) {
     addMicrophone();
     hardware.nextUnit->fails.insert(FakeInputUnit::Step::CurrentDevice);
     begin();
     EXPECT_TRUE(noticed(u"Microphone cannot be opened"_s));
 }
 
-TEST_F(RecordSourcesTest, ADeviceThatCannotBeOpenedIsTriedAgainUntilItCan) {
+TEST_F(RecordSourcesTest, ADeviceThatCannotBeOpenedIsRetriedUntilItCan) {
     addMicrophone();
     addComputerAudio();
     int tries = 0;
@@ -179,7 +179,7 @@ TEST_F(RecordSourcesTest, ADeviceThatCannotBeOpenedIsTriedAgainUntilItCan) {
     controller->startAndStopRecord();
 }
 
-TEST_F(RecordSourcesTest, NothingIsHeardFromADeviceThatDeliversNothing) {
+TEST_F(RecordSourcesTest, ShowsNoLevelForADeviceThatDeliversNothing) {
     using Event = Platform::InputUnit::Event;
     addMicrophone();
     addHeadset();
@@ -197,7 +197,7 @@ TEST_F(RecordSourcesTest, NothingIsHeardFromADeviceThatDeliversNothing) {
     EXPECT_EQ(controller->getAudioWaveLevelValue(), 0);
 }
 
-TEST_F(RecordSourcesTest, AStartWithoutASourceStaysIdleAndSaysSo) {
+TEST_F(RecordSourcesTest, AStartWithoutASourceStaysIdleAndReportsIt) {
     begin();
     ASSERT_TRUE(controller->builtInChecked());
     controller->startAndStopRecord();
@@ -214,7 +214,7 @@ TEST_F(RecordSourcesTest, AStartWithoutASourceStaysIdleAndSaysSo) {
     EXPECT_EQ(delegate.paths, QStringList{track(0)});
 }
 
-TEST_F(RecordSourcesTest, TheDriverIsToldWhatTheUserListensTo) {
+TEST_F(RecordSourcesTest, TheDriverCapturesTheDefaultOutput) {
     engine = registry.add(u"com_Korvane_driver_CaptureEngine"_s, u"IOService:/VIRTUAL/driver"_s);
     addOutput(Speakers, u"speakers"_s, u"PCI"_s);
     addMicrophone();
@@ -224,7 +224,7 @@ TEST_F(RecordSourcesTest, TheDriverIsToldWhatTheUserListensTo) {
     EXPECT_TRUE(alerts.shown.isEmpty());
 }
 
-TEST_F(RecordSourcesTest, ANewDefaultOutputIsToldDuringARecordingToo) {
+TEST_F(RecordSourcesTest, TheDriverFollowsANewDefaultOutputDuringARecording) {
     engine = registry.add(u"com_Korvane_driver_CaptureEngine"_s, u"IOService:/VIRTUAL/driver"_s);
     addOutput(Speakers, u"speakers"_s, u"PCI"_s);
     beginWithBoth();
@@ -234,7 +234,7 @@ TEST_F(RecordSourcesTest, ANewDefaultOutputIsToldDuringARecordingToo) {
     EXPECT_EQ(steeredTo(), pathOf(u"monitor"_s, u"PCI"_s));
 }
 
-TEST_F(RecordSourcesTest, AHeadsetOnUsbIsWarnedOf) {
+TEST_F(RecordSourcesTest, WarnsAboutAUsbHeadset) {
     addOutput(Speakers, u"headset"_s, u"USB"_s);
     addComputerAudio();
     begin();
@@ -249,7 +249,7 @@ TEST_F(RecordSourcesTest, AHeadsetOnUsbIsWarnedOf) {
     EXPECT_TRUE(hardware.unitOf(ComputerAudio));
 }
 
-TEST_F(RecordSourcesTest, AHeadsetIsNotWarnedOfInsideADeviceEvent) {
+TEST_F(RecordSourcesTest, DoesNotWarnInsideADeviceEvent) {
     addOutput(Speakers, u"headset"_s, u"USB"_s);
     addMicrophone();
     begin();

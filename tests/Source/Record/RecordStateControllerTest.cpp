@@ -96,7 +96,7 @@ TEST_F(RecordStateControllerTest, RecordingShowsItsTimeInRed) {
     EXPECT_EQ(controller->stateColor(), Qt::red);
 }
 
-TEST_F(RecordStateControllerTest, PausedOffersToResumeAndStandsStill) {
+TEST_F(RecordStateControllerTest, PausedOffersToResumeAndStopsTheTime) {
     addMicrophone();
     begin();
     controller->startAndStopRecord();
@@ -131,7 +131,7 @@ TEST_F(RecordStateControllerTest, PausedCyclesAreNotWritten) {
     EXPECT_DOUBLE_EQ(controller->recordedSeconds(), 2);
 }
 
-TEST_F(RecordStateControllerTest, StoppingBringsIdleBackAndQueuesOneJob) {
+TEST_F(RecordStateControllerTest, StoppingReturnsToIdleAndQueuesOneJob) {
     addMicrophone();
     begin();
     record(Microphone, 0.5F, 6);
@@ -186,7 +186,7 @@ TEST_F(RecordStateControllerTest, SplittingKeepsTheButtonsAndCountsFromZero) {
     EXPECT_EQ(delegate.paths, (QStringList{track(0), track(1)}));
 }
 
-TEST_F(RecordStateControllerTest, SplittingAPausedRecordingGoesOnRecording) {
+TEST_F(RecordStateControllerTest, SplittingAPausedRecordingResumesIt) {
     addMicrophone();
     begin();
     controller->startAndStopRecord();
@@ -222,7 +222,7 @@ TEST_F(RecordStateControllerTest, SplittingGivesEveryFrameToExactlyOneFile) {
     ASSERT_TRUE(queueDone());
 }
 
-TEST_F(RecordStateControllerTest, TwoSourcesAreCutAtOneTimeInsideACycle) {
+TEST_F(RecordStateControllerTest, TwoSourcesAreCutAtTheSameTimeInsideACycle) {
     beginWithBoth();
     setFilter(false);
     controller->startAndStopRecord();
@@ -250,7 +250,7 @@ TEST_F(RecordStateControllerTest, TwoSourcesAreCutAtOneTimeInsideACycle) {
     EXPECT_NEAR(second.at(1).offset, 0, 1e-6);
 }
 
-TEST_F(RecordStateControllerTest, TwoSourcesPauseAndGoOnAtOneTimeInsideACycle) {
+TEST_F(RecordStateControllerTest, TwoSourcesPauseAndResumeAtTheSameTimeInsideACycle) {
     beginWithBoth();
     controller->startAndStopRecord();
     const std::uint64_t start = clock.hostTime();
@@ -277,7 +277,7 @@ TEST_F(RecordStateControllerTest, TwoSourcesPauseAndGoOnAtOneTimeInsideACycle) {
     EXPECT_EQ(media.files.at(1)->framesAccepted, (106 + 100) * 48);
 }
 
-TEST_F(RecordStateControllerTest, APauseThatEndsAtOnceLeavesOutNothing) {
+TEST_F(RecordStateControllerTest, APauseThatEndsAtOnceOmitsNothing) {
     beginWithBoth();
     controller->startAndStopRecord();
     const std::uint64_t start = clock.hostTime();
@@ -300,7 +300,7 @@ TEST_F(RecordStateControllerTest, NamesSkipFilesAndReservedNames) {
     EXPECT_EQ(controller->getAudioRecordPath(), track(2));
 }
 
-TEST_F(RecordStateControllerTest, RingtonesAreNamedBesideThem) {
+TEST_F(RecordStateControllerTest, RingtonesGetTheFirstFreeName) {
     addMicrophone();
     defaults.setObject(PreferenceStore::PreferenceRingtoneSavePathKey, folder());
     begin();
@@ -316,7 +316,7 @@ TEST_F(RecordStateControllerTest, TheDefaultFolderIsTheMusicFolder) {
     EXPECT_EQ(controller->getAudioRecordPath(), home.filePath(u"Music/com.korvane.Sonaphex/Track0.m4a"_s));
 }
 
-TEST_F(RecordStateControllerTest, AStoredFolderThatIsNoFolderGivesTheMusicFolder) {
+TEST_F(RecordStateControllerTest, AnUnusableStoredFolderGivesTheMusicFolder) {
     addMicrophone();
     begin();
     for (const QVariant& stored : {QVariant(u""_s), QVariant(12), QVariant(QByteArray("x")), QVariant(QVariantList{1}),
@@ -347,7 +347,7 @@ TEST_F(RecordStateControllerTest, TheMeterAlternatesBetweenTwoSources) {
     EXPECT_FLOAT_EQ(controller->getAudioWaveLevelValue(), 0.25F);
 }
 
-TEST_F(RecordStateControllerTest, LevelsArriveWhileNothingRecords) {
+TEST_F(RecordStateControllerTest, LevelsArriveWhileNothingIsRecorded) {
     addMicrophone();
     begin();
     play(Microphone, 0.01F, 0.02);
@@ -407,7 +407,7 @@ TEST_F(RecordStateControllerTest, AStoredComputerAudioChoiceNeedsItsDevice) {
     EXPECT_EQ(controller->deviceNames(), QStringList{u"Microphone"_s});
 }
 
-TEST_F(RecordStateControllerTest, ARawFileThatCannotBeMadeIsTold) {
+TEST_F(RecordStateControllerTest, ARawFileThatCannotBeCreatedIsReported) {
     addMicrophone();
     begin();
     media.createFails = true;
@@ -434,7 +434,7 @@ TEST_F(RecordStateControllerTest, WithoutAMicrophoneTheComputerRecordingReachesT
     EXPECT_EQ(delegate.paths, QStringList{track(0)});
 }
 
-TEST_F(RecordStateControllerTest, WithoutAnySourceTheUserIsToldAndNoNameIsKept) {
+TEST_F(RecordStateControllerTest, WithoutAnySourceTheUserIsInformedAndNoNameIsReserved) {
     begin();
     controller->startAndStopRecord();
     EXPECT_TRUE(noticed(u"Nothing is recorded"_s));
@@ -444,7 +444,7 @@ TEST_F(RecordStateControllerTest, WithoutAnySourceTheUserIsToldAndNoNameIsKept) 
     EXPECT_EQ(controller->getAudioRecordPath(), track(0));
 }
 
-TEST_F(RecordStateControllerTest, ALossOfOneOfTwoSourcesBecomesSilenceSoThatTheyStayTogether) {
+TEST_F(RecordStateControllerTest, LostFramesOfOneOfTwoSourcesBecomeSilence) {
     beginWithBoth();
     controller->startAndStopRecord();
     for (const auto& unit : hardware.opened)
@@ -456,7 +456,7 @@ TEST_F(RecordStateControllerTest, ALossOfOneOfTwoSourcesBecomesSilenceSoThatThey
         EXPECT_FALSE(unit->fillsLost) << "alone, a recording leaves out what it lost";
 }
 
-TEST_F(RecordStateControllerTest, LostFramesAreCountedAndTold) {
+TEST_F(RecordStateControllerTest, LostFramesAreCountedAndReported) {
     addMicrophone();
     begin();
     controller->startAndStopRecord();
@@ -473,7 +473,7 @@ TEST_F(RecordStateControllerTest, LostFramesAreCountedAndTold) {
     ASSERT_TRUE(queueDone());
 }
 
-TEST_F(RecordStateControllerTest, ADeviceThatGoesAwayIsTold) {
+TEST_F(RecordStateControllerTest, ALostDeviceIsReported) {
     addMicrophone();
     begin();
     controller->startAndStopRecord();
@@ -499,7 +499,7 @@ TEST_F(RecordStateControllerTest, FinishingEndsTheRecordingAndTheQueue) {
     expectControlsOfIdle();
 }
 
-TEST_F(RecordStateControllerTest, NoRecordingBeginsWhileTheLastFilesAreFinished) {
+TEST_F(RecordStateControllerTest, NoRecordingStartsWhileTheLastFilesAreFinished) {
     addMicrophone();
     begin();
     setFilter(false);

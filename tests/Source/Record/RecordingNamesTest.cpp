@@ -24,7 +24,7 @@ protected:
 
 } // namespace
 
-TEST_F(RecordingNamesTest, MakesTheFolderAndBeginsWithZero) {
+TEST_F(RecordingNamesTest, CreatesTheFolderAndStartsWithZero) {
     RecordingNames names;
     EXPECT_EQ(names.getAudioRecordPath(folder()), track(0));
     EXPECT_TRUE(QFileInfo(folder()).isDir());
@@ -47,7 +47,7 @@ TEST_F(RecordingNamesTest, UsesFreedNumbersAgain) {
     EXPECT_EQ(names.getAudioRecordPath(folder()), track(0));
 }
 
-TEST_F(RecordingNamesTest, RespectsTheNamesOfAnotherOwner) {
+TEST_F(RecordingNamesTest, RespectsNamesReservedByAnotherObject) {
     RecordingNames ours;
     RecordingNames theirs;
     EXPECT_EQ(theirs.getAudioRecordPath(folder()), track(0));
@@ -56,27 +56,27 @@ TEST_F(RecordingNamesTest, RespectsTheNamesOfAnotherOwner) {
     EXPECT_EQ(ours.getAudioRecordPath(folder()), track(0));
 }
 
-TEST_F(RecordingNamesTest, CountsALinkThatLeadsNowhereAsTaken) {
+TEST_F(RecordingNamesTest, CountsABrokenLinkAsTaken) {
     QDir().mkpath(folder());
     ASSERT_TRUE(QFile::link(home.filePath(QStringLiteral("nowhere")), track(0)));
     RecordingNames names;
     EXPECT_EQ(names.getAudioRecordPath(folder()), track(1));
 }
 
-TEST_F(RecordingNamesTest, TakesAFolderNameWithAnySign) {
+TEST_F(RecordingNamesTest, AcceptsAnyCharacterInTheFolderName) {
     RecordingNames names;
     const QString odd = home.filePath(QStringLiteral("a%1 $(b) 'c' ü"));
     EXPECT_EQ(names.getAudioRecordPath(odd + u'/'), odd + QStringLiteral("/Track0.m4a"));
 }
 
-TEST_F(RecordingNamesTest, GivesANameEvenWhenTheFolderCannotBeMade) {
+TEST_F(RecordingNamesTest, ReturnsANameEvenWhenTheFolderCannotBeCreated) {
     make(home.filePath(QStringLiteral("file")));
     RecordingNames names;
     const QString within = home.filePath(QStringLiteral("file/folder"));
     EXPECT_EQ(names.getAudioRecordPath(within), within + QStringLiteral("/Track0.m4a"));
 }
 
-TEST_F(RecordingNamesTest, GivesTheNextNameWithoutALookAtTheFolder) {
+TEST_F(RecordingNamesTest, ReservesTheNextNameWithoutReadingTheFolder) {
     RecordingNames names;
     EXPECT_EQ(names.getAudioRecordPath(folder()), track(0));
     make(track(1));
@@ -87,7 +87,7 @@ TEST_F(RecordingNamesTest, GivesTheNextNameWithoutALookAtTheFolder) {
     EXPECT_FALSE(QFileInfo::exists(other));
 }
 
-TEST_F(RecordingNamesTest, ANameOfOurOwnIsTheAnswerWhenItIsTheFirstFreeOne) {
+TEST_F(RecordingNamesTest, ReturnsItsOwnReservedNameWhenItIsTheFirstFreeOne) {
     RecordingNames names;
     EXPECT_EQ(names.getAudioRecordPath(folder()), track(0));
     const QString own = names.nextAudioRecordPath(folder());
@@ -98,7 +98,7 @@ TEST_F(RecordingNamesTest, ANameOfOurOwnIsTheAnswerWhenItIsTheFirstFreeOne) {
     EXPECT_EQ(names.getAudioRecordPath(folder(), own), track(0)) << "a freed number comes first";
 }
 
-TEST_F(RecordingNamesTest, ANameThatGotNoFileIsNextAgain) {
+TEST_F(RecordingNamesTest, ANameGivenBackIsUsedNext) {
     RecordingNames names;
     const QString first = names.getAudioRecordPath(folder());
     const QString second = names.nextAudioRecordPath(folder());
@@ -109,7 +109,7 @@ TEST_F(RecordingNamesTest, ANameThatGotNoFileIsNextAgain) {
     EXPECT_EQ(names.nextAudioRecordPath(folder()), track(3));
 }
 
-TEST_F(RecordingNamesTest, OnlyNumbersAsTheyAreWrittenHereAreTaken) {
+TEST_F(RecordingNamesTest, CountsOnlyNumbersInItsOwnNotation) {
     for (const char* name : {"Track0.m4a", "Track02.m4a", "Track1x.m4a", "Track1.m4r", "Track-1.m4a", "Track.m4a",
                              "Track99999999999999999999.m4a"})
         make(folder() + u'/' + QString::fromLatin1(name));

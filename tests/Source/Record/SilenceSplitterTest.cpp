@@ -31,7 +31,7 @@ TEST(SilenceSplitter, WaitsForASoundAboveTheThreshold) {
     EXPECT_TRUE(splitter.isOnlyComputerAudioRecording());
 }
 
-TEST(SilenceSplitter, CutsWhenSilenceHasLastedTheSetTime) {
+TEST(SilenceSplitter, CutsWhenASilenceHasLastedTheSplitTime) {
     auto splitter = recordingSplitter();
     for (int ms = 10; ms < 300; ms += 10) {
         splitter.measure(0, Millisecond + ms * Millisecond, true);
@@ -58,7 +58,7 @@ TEST(SilenceSplitter, CountsCyclesShorterThanAMillisecond) {
     EXPECT_EQ(splitter.computerAudioNullTimeMs(), 750);
 }
 
-TEST(SilenceSplitter, BeginsAnewWithEverySound) {
+TEST(SilenceSplitter, EverySoundRestartsTheCount) {
     auto splitter = recordingSplitter();
     splitter.measure(0, 200 * Millisecond, true);
     splitter.measure(1e-6F, 210 * Millisecond, true);
@@ -75,7 +75,7 @@ TEST(SilenceSplitter, DoesNotCountWhilePaused) {
     EXPECT_EQ(splitter.computerAudioNullTimeMs(), 99 + 10);
 }
 
-TEST(SilenceSplitter, ATimeWithoutTheDeviceIsNoSilence) {
+TEST(SilenceSplitter, TimeWithoutTheDeviceDoesNotCountAsSilence) {
     auto splitter = recordingSplitter();
     splitter.measure(0, 100 * Millisecond, true);
     splitter.restartClock();

@@ -42,7 +42,7 @@ protected:
 
 } // namespace
 
-TEST_F(Well, StretchesAFileToACoverOfItsOwnSize) {
+TEST_F(Well, ScalesAFileToTheCoverSize) {
     EXPECT_TRUE(well.hasImageFile({picture(u"wide.png"_s)}));
     EXPECT_EQ(well.imgShow().size(), QSize(300, 300));
     EXPECT_EQ(well.imgShow().deviceIndependentSize(), QSizeF(50, 50));
@@ -66,7 +66,7 @@ TEST_F(Well, ReadsTiff) {
     EXPECT_TRUE(well.hasImageFile({picture(u"a.tiff"_s, "TIFF")}));
 }
 
-TEST_F(Well, StaysAsItIsWhenNothingOfADropIsAPicture) {
+TEST_F(Well, DoesNotChangeWhenADropContainsNoPicture) {
     ASSERT_TRUE(well.hasImageFile({picture(u"a.png"_s)}));
     ASSERT_EQ(mkfifo(QFile::encodeName(at(u"pipe"_s)).constData(), 0600), 0);
     ASSERT_TRUE(Mpeg4Files::write(at(u"text"_s), "no picture"));
@@ -78,7 +78,7 @@ TEST_F(Well, StaysAsItIsWhenNothingOfADropIsAPicture) {
     EXPECT_FALSE(well.imgShow().isNull());
 }
 
-TEST_F(Well, TakesAPictureThatHasNoFile) {
+TEST_F(Well, TakesAPictureWithoutAFile) {
     QImage image(10, 10, QImage::Format_RGB32);
     image.fill(Qt::blue);
     QMimeData data;
@@ -90,7 +90,7 @@ TEST_F(Well, TakesAPictureThatHasNoFile) {
     EXPECT_EQ(well.strImagePath(), QString());
 }
 
-TEST_F(Well, GivesItsPictureUpByKey) {
+TEST_F(Well, RemovesItsPictureByKey) {
     ASSERT_TRUE(well.hasImageFile({picture(u"a.png"_s)}));
     QTest::keyClick(&well, Qt::Key_Delete);
     EXPECT_TRUE(well.imgShow().isNull());

@@ -64,7 +64,7 @@ TEST_F(TrimBar, HasItsGeometry) {
     EXPECT_FALSE(AudioTrimEditView::mouseDownCanMoveWindow());
 }
 
-TEST_F(TrimBar, NeverLetsTheEndsPassEachOther) {
+TEST_F(TrimBar, TheEndsNeverPassEachOther) {
     bar.setRightTrimRate(0.5F);
     bar.setLeftTrimRate(0.75F);
     EXPECT_EQ(bar.leftTrimRate(), 0.5F);
@@ -113,7 +113,7 @@ TEST_F(TrimBar, SeeksByADragOfTheStripAndNotByAClick) {
     EXPECT_FLOAT_EQ(seeks.first(), 0.75F);
 }
 
-TEST_F(TrimBar, TakesNoDragFromItsMiddle) {
+TEST_F(TrimBar, IgnoresADragFromItsMiddle) {
     press({xOf(0.5), 60});
     EXPECT_EQ(bar.dragType(), AudioTrimEditView::NoDrag);
     move(xOf(0.75));

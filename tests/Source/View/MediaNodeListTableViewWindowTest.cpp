@@ -60,14 +60,14 @@ protected:
 
 } // namespace
 
-TEST_F(ListTable, ARightClickOutsideTheSelectionSelectsThatRowAlone) {
+TEST_F(ListTable, ARightClickOutsideTheSelectionSelectsOnlyThatRow) {
     view.selectRow(0);
     rightClick(3);
     EXPECT_EQ(selected(), QList<int>{3});
     EXPECT_EQ(delegate.asked, 1);
 }
 
-TEST_F(ListTable, ARightClickInsideASelectionOfManyKeepsIt) {
+TEST_F(ListTable, ARightClickInsideTheSelectionKeepsIt) {
     view.selectRow(1);
     view.selectionModel()->select(model.index(3, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
     rightClick(3);
@@ -75,7 +75,7 @@ TEST_F(ListTable, ARightClickInsideASelectionOfManyKeepsIt) {
     EXPECT_EQ(delegate.asked, 1);
 }
 
-TEST_F(ListTable, ARightClickBelowTheRowsEmptiesTheSelection) {
+TEST_F(ListTable, ARightClickBelowTheRowsClearsTheSelection) {
     view.selectRow(1);
     rightClick(99);
     EXPECT_TRUE(selected().isEmpty());

@@ -28,7 +28,7 @@ bool contains(const QImage& image, const QColor& color) {
 
 } // namespace
 
-TEST(NamedImages, EveryNameIsADrawingThatShowsSomething) {
+TEST(NamedImages, EveryNameHasANonEmptyDrawing) {
     const QStringList names = NamedImages::names();
     ASSERT_GE(names.size(), 48);
     for (const QString& name : names) {
@@ -37,7 +37,7 @@ TEST(NamedImages, EveryNameIsADrawingThatShowsSomething) {
     }
 }
 
-TEST(NamedImages, GivenNamesAreThere) {
+TEST(NamedImages, RequiredNamesExist) {
     for (const auto* name : {"RecorderStart.png",
                              "RecorderStartDown.png",
                              "RecorderStop.png",
@@ -75,13 +75,13 @@ TEST(NamedImages, GivenNamesAreThere) {
         EXPECT_TRUE(NamedImages::exists(QString::fromLatin1(name))) << name;
 }
 
-TEST(NamedImages, UnknownNamesGiveNothingAndHarmNothing) {
+TEST(NamedImages, UnknownNamesGiveNullImages) {
     EXPECT_TRUE(NamedImages::icon(u"no-such-picture"_s).isNull());
     EXPECT_TRUE(NamedImages::icon(u"../sonaphex.qrc"_s).isNull());
     EXPECT_TRUE(NamedImages::pixmap(u"no-such-picture"_s, {16, 16}, 1).isNull());
 }
 
-TEST(NamedImages, DrawingsTakeTheColorTheyAreGiven) {
+TEST(NamedImages, DrawingsUseTheGivenColor) {
     EXPECT_TRUE(contains(picture(u"trim"_s, Qt::green), Qt::green));
     EXPECT_FALSE(contains(picture(u"trim"_s, Qt::green), Qt::black));
 }
@@ -98,7 +98,7 @@ TEST(NamedImages, IconsFollowAChangeOfTheme) {
     EXPECT_TRUE(contains(dark, Theme::palette(Theme::Shade::Dark).color(QPalette::ButtonText)));
 }
 
-TEST(NamedImages, TwoPixelsAPointGiveTwiceThePixels) {
+TEST(NamedImages, TwoPixelsPerPointDoubleThePixels) {
     const QPixmap sharp = NamedImages::icon(u"play"_s).pixmap(QSize(24, 24), 2.0);
     EXPECT_EQ(sharp.size(), QSize(48, 48));
     EXPECT_EQ(sharp.devicePixelRatio(), 2.0);
@@ -144,7 +144,7 @@ TEST(NamedImages, DisabledIconsLookDisabled) {
     EXPECT_LT(QColor(off.pixel(24, 24)).saturation(), 60);
 }
 
-TEST(NamedImages, TheWholeFamilyCanBeLookedAt) {
+TEST(NamedImages, HasAPictureOfAllImages) {
     for (const auto shade : {Theme::Shade::Light, Theme::Shade::Dark}) {
         const QPalette before = QApplication::palette();
         Theme::apply(shade);

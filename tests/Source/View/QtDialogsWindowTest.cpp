@@ -59,7 +59,7 @@ protected:
 
 } // namespace
 
-TEST_F(QtDialogs, AnAlertShowsItsTextsPlainAndAnswersTheButton) {
+TEST_F(QtDialogs, AnAlertShowsPlainTextAndReturnsTheButton) {
     whenShown<QMessageBox>(&window, [](QMessageBox* box) {
         EXPECT_EQ(box->text(), u"<b>Title</b> %s"_s);
         EXPECT_EQ(box->textFormat(), Qt::PlainText);
@@ -70,14 +70,14 @@ TEST_F(QtDialogs, AnAlertShowsItsTextsPlainAndAnswersTheButton) {
     EXPECT_EQ(alerts.runModal(u"<b>Title</b> %s"_s, u"Text"_s, {u"Yes"_s, u"Maybe"_s, u"No"_s}), 1);
 }
 
-TEST_F(QtDialogs, EnterTakesTheFirstButtonAndEscapeTheLast) {
+TEST_F(QtDialogs, EnterPressesTheFirstButtonAndEscapeTheLast) {
     whenShown<QMessageBox>(&window, [](QMessageBox* box) { QTest::keyClick(box, Qt::Key_Escape); });
     EXPECT_EQ(alerts.runModal(u"Title"_s, {}, {u"Yes"_s, u"Maybe"_s, u"No"_s}), 2);
     whenShown<QMessageBox>(&window, [](QMessageBox* box) { QTest::keyClick(box, Qt::Key_Return); });
     EXPECT_EQ(alerts.runModal(u"Title"_s, {}, {u"Yes"_s, u"No"_s}), 0);
 }
 
-TEST_F(QtDialogs, AnAlertWithOneButtonAnswersItHoweverItIsClosed) {
+TEST_F(QtDialogs, AnAlertWithOneButtonReturnsItHoweverItIsClosed) {
     whenShown<QMessageBox>(&window, [](QMessageBox* box) { box->close(); });
     EXPECT_EQ(alerts.runModal(u"Title"_s, {}, {u"OK"_s}), 0);
     whenShown<QMessageBox>(&window, [](QMessageBox* box) { QTest::keyClick(box, Qt::Key_Escape); });
@@ -105,7 +105,7 @@ TEST_F(QtDialogs, AFolderIsChosenInASheetWithLinksResolved) {
     EXPECT_EQ(chosen, QFileInfo(folder.filePath(u"real"_s)).canonicalFilePath());
 }
 
-TEST_F(QtDialogs, CancellingAFolderAnswersNothing) {
+TEST_F(QtDialogs, CancellingTheFolderPanelReturnsNothing) {
     int answers = 0;
     whenShown<QFileDialog>(&window, [](QFileDialog* dialog) { dialog->reject(); });
     panels.chooseFolder(&window, u"Choose"_s, folder.path(), [&](const std::optional<QString>& path) {
@@ -115,7 +115,7 @@ TEST_F(QtDialogs, CancellingAFolderAnswersNothing) {
     ASSERT_TRUE(waitFor([&] { return answers == 1; }));
 }
 
-TEST_F(QtDialogs, FilesAndFoldersAreChosenTogether) {
+TEST_F(QtDialogs, FilesAndFoldersCanBeChosenTogether) {
     ASSERT_TRUE(QDir(folder.path()).mkpath(u"album"_s));
     for (const QString& name : {u"a.wav"_s, u"b.wav"_s})
         ASSERT_TRUE(QFile(folder.filePath(name)).open(QIODevice::WriteOnly));
@@ -152,7 +152,7 @@ TEST_F(QtDialogs, FilesAndFoldersAreChosenTogether) {
     EXPECT_EQ(choose({u"link.wav"_s}), QStringList{at(u"a.wav"_s)}) << "links are resolved";
 }
 
-TEST_F(QtDialogs, AFolderThatIsTypedIsOpened) {
+TEST_F(QtDialogs, ATypedFolderIsOpened) {
     ASSERT_TRUE(QDir(folder.path()).mkpath(u"album"_s));
     std::optional<QStringList> chosen;
     whenShown<QFileDialog>(&window, [&](QFileDialog* dialog) {
@@ -183,7 +183,7 @@ TEST_F(QtDialogs, AnExistingFileIsChosen) {
     EXPECT_FALSE(panels.chooseFile(&window, u"Choose"_s, folder.path(), {}));
 }
 
-TEST_F(QtDialogs, AFileToWriteIsNamedAndAnExistingOneAskedFor) {
+TEST_F(QtDialogs, TheSavePanelAsksBeforeItAcceptsAnExistingFile) {
     whenShown<QFileDialog>(&window, [this](QFileDialog* dialog) {
         EXPECT_EQ(dialog->findChild<QLineEdit*>(u"fileNameEdit"_s)->text(), u"Track1.m4a"_s);
         enter(dialog, folder.filePath(u"Other"_s));

@@ -37,7 +37,7 @@ private:
 
 } // namespace
 
-TEST(Theme, TextIsReadableInBothShades) {
+TEST(Theme, TextIsReadableInBothThemes) {
     for (const auto shade : {Theme::Shade::Light, Theme::Shade::Dark}) {
         const QPalette p = Theme::palette(shade);
         EXPECT_GT(contrast(p.color(QPalette::WindowText), p.color(QPalette::Window)), 7);
@@ -51,7 +51,7 @@ TEST(Theme, TextIsReadableInBothShades) {
     }
 }
 
-TEST(Theme, ALongNameInABoxKeepsItsBeginningAndItsEnd) {
+TEST(Theme, ALongNameInABoxIsElidedInTheMiddle) {
     Theme::install(*qApp, nullptr);
     const auto drawn = [](const QString& name) {
         QComboBox box;
@@ -64,7 +64,7 @@ TEST(Theme, ALongNameInABoxKeepsItsBeginningAndItsEnd) {
     EXPECT_NE(drawn(u'B' + name), drawn(u'C' + name));
 }
 
-TEST(Theme, DialogsUseTheProgramsOwnSigns) {
+TEST(Theme, DialogsUseTheProgramsOwnIcons) {
     Theme::install(*qApp, nullptr);
     EXPECT_EQ(QApplication::style()->styleHint(QStyle::SH_DialogButtonBox_ButtonsHaveIcons), 0);
     const auto sign = [] {
@@ -77,7 +77,7 @@ TEST(Theme, DialogsUseTheProgramsOwnSigns) {
     Theme::apply(Theme::Shade::Light);
 }
 
-TEST(Theme, FollowsTheDesktopAlsoWhenItsAnswerComesLate) {
+TEST(Theme, FollowsALateAnswerOfTheDesktop) {
     ScriptedScheme scheme;
     Theme::install(*qApp, &scheme);
     EXPECT_EQ(Theme::shade(), Theme::Shade::Light);

@@ -64,7 +64,7 @@ protected:
 
 } // namespace
 
-TEST_F(TrimWindow, ShowsARecordingAsAWhole) {
+TEST_F(TrimWindow, ShowsTheWholeRecording) {
     open(world.recording(u"One"_s, 3), 100);
     EXPECT_EQ(trim.window()->findChild<ElidedLabel*>()->text(), u"One.m4a"_s);
     EXPECT_EQ(label("lblPlayTime_"), u"00:00:00/00:01:40"_s);
@@ -129,7 +129,7 @@ TEST_F(TrimWindow, PlaysAndPausesByButtonAndSpace) {
     EXPECT_EQ(playImage(), u"Play.png"_s);
 }
 
-TEST_F(TrimWindow, SetsItsEndsWhereTheSoundIs) {
+TEST_F(TrimWindow, SetsItsEndsToThePlayPosition) {
     open(world.recording(u"One"_s, 3), 100);
     playTo(20);
     click("btnLeftTrim_");
@@ -162,7 +162,7 @@ TEST_F(TrimWindow, PreviewsTheRangeAndEndsAtItsRightEnd) {
     EXPECT_EQ(playImage(), u"Play.png"_s);
 }
 
-TEST_F(TrimWindow, LooksAgainExactlyAtTheEndOfAPreview) {
+TEST_F(TrimWindow, ChecksAgainExactlyAtTheEndOfAPreview) {
     open(world.recording(u"One"_s, 3), 100);
     trim.setLeftTrim(0.25F);
     trim.setRightTrim(0.5F);
@@ -194,7 +194,7 @@ TEST_F(TrimWindow, SavesTheRangeInPlaceOfTheRecording) {
     EXPECT_EQ(world.alerts.shown.size(), 1);
 }
 
-TEST_F(TrimWindow, AsksBeforeItReplacesAndTakesNoForAnAnswer) {
+TEST_F(TrimWindow, AsksBeforeItReplacesAndAcceptsNo) {
     open(world.recording(u"One"_s, 3), 3);
     const QByteArray before = Mpeg4Files::contentOf(path);
     world.alerts.answers = {1};
@@ -204,7 +204,7 @@ TEST_F(TrimWindow, AsksBeforeItReplacesAndTakesNoForAnAnswer) {
     EXPECT_TRUE(world.updatedPaths.isEmpty());
 }
 
-TEST_F(TrimWindow, SavesAsANewFileAndLeavesTheEntryAlone) {
+TEST_F(TrimWindow, SavesAsANewFileAndKeepsTheEntry) {
     Dictionary entry = world.recording(u"One"_s, 10);
     open(entry, 10);
     trim.setRightTrim(0.5F);
@@ -217,7 +217,7 @@ TEST_F(TrimWindow, SavesAsANewFileAndLeavesTheEntryAlone) {
     EXPECT_EQ(world.updatedTags[0].value(AudioRecordEntry::Length), 10);
 }
 
-TEST_F(TrimWindow, SavesAsNoFileThatExists) {
+TEST_F(TrimWindow, NeverSavesAsAnExistingFile) {
     open(world.recording(u"One"_s, 3), 3);
     ASSERT_TRUE(Mpeg4Files::write(world.at(u"Two.m4a"_s), "another"));
     world.panels.answer = world.at(u"Two.mp3"_s);
@@ -231,7 +231,7 @@ TEST_F(TrimWindow, SavesAsNoFileThatExists) {
     EXPECT_TRUE(world.updatedPaths.isEmpty());
 }
 
-TEST_F(TrimWindow, RefusesAMissingAPlayedAndAGrowingFileInOneLine) {
+TEST_F(TrimWindow, RefusesMissingPlayingAndGrowingFilesInOneLine) {
     open(world.recording(u"One"_s, 3), 3);
     world.playedElsewhere = path;
     click("btnSave_");
@@ -263,7 +263,7 @@ TEST_F(TrimWindow, AFailedConversionKeepsTheRecordingAndItsLength) {
     EXPECT_FALSE(world.alerts.shown[1].text.isEmpty());
 }
 
-TEST_F(TrimWindow, SavesNoRangeThatIsTooShort) {
+TEST_F(TrimWindow, RefusesTooShortARange) {
     open(world.recording(u"One"_s, 3), 100);
     trim.setLeftTrim(0.5F);
     trim.setRightTrim(0.5F);

@@ -78,7 +78,7 @@ protected:
 
 } // namespace
 
-TEST_F(InstallingTheDevice, BringsItsSourceAndRemovingTakesItAway) {
+TEST_F(InstallingTheDevice, AddsItsSourceAndUninstallingRemovesIt) {
     auto* insert = find<QPushButton>("insertDeviceButton");
     auto* remove = find<QPushButton>("unInsertDeviceButton");
     ASSERT_TRUE(insert->isEnabled());
@@ -96,7 +96,7 @@ TEST_F(InstallingTheDevice, BringsItsSourceAndRemovingTakesItAway) {
     EXPECT_FALSE(controller->systemAudioRecordDeviceExist());
 }
 
-TEST_F(InstallingTheDevice, KeepsTheWindowAliveAndShowsThatItWorks) {
+TEST_F(InstallingTheDevice, KeepsTheWindowResponsiveAndShowsActivity) {
     std::atomic<bool> waiting{false}, goOn{false};
     shell.before = [&] {
         waiting = true;

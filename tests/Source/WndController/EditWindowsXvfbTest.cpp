@@ -90,7 +90,7 @@ protected:
 
 } // namespace
 
-TEST_F(TrimWindowOnADesktop, HandlesStopAtEachOther) {
+TEST_F(TrimWindowOnADesktop, AHandleStopsAtTheOtherOne) {
     open(100);
     ASSERT_TRUE(drag(onScreen(bar(), bar().rightHandleRect().center()), onScreen(bar(), placeOf(0.5, 100))));
     EXPECT_NEAR(bar().rightTrimRate(), 0.5, 0.01);
@@ -114,7 +114,7 @@ TEST_F(TrimWindowOnADesktop, AClickOnTheStripSeeksNothingAndADragDoes) {
     EXPECT_NEAR(bar().playRate(), 0.75, 0.01);
 }
 
-TEST_F(TrimWindowOnADesktop, PreviewIsHeardFromTheLeftEndToTheRightEnd) {
+TEST_F(TrimWindowOnADesktop, PreviewPlaysFromTheLeftEndToTheRightEnd) {
     PrivateAudioSession::shared();
     constexpr double seconds = 100;
     constexpr int rate = 48000;
@@ -166,7 +166,7 @@ TEST_F(TrimWindowOnADesktop, PreviewIsHeardFromTheLeftEndToTheRightEnd) {
     trim.setTrimAudioSourceData({});
 }
 
-TEST_F(TagWindowOnADesktop, TakesAFileOfAnotherProgram) {
+TEST_F(TagWindowOnADesktop, AcceptsAFileFromAnotherProgram) {
     open();
     startClient(QUrl::fromLocalFile(picture()).toString(QUrl::FullyEncoded));
     ASSERT_TRUE(drag(kClient, middleOfWell(), [this] { return well().isDragOver(); }));
@@ -176,7 +176,7 @@ TEST_F(TagWindowOnADesktop, TakesAFileOfAnotherProgram) {
     EXPECT_EQ(well().strImagePath(), picture());
 }
 
-TEST_F(TagWindowOnADesktop, TakesAPictureOfAnotherProgram) {
+TEST_F(TagWindowOnADesktop, AcceptsAPictureFromAnotherProgram) {
     open();
     startClient(u"image"_s);
     ASSERT_TRUE(drag(kClient, middleOfWell(), [this] { return well().isDragOver(); }));
@@ -184,7 +184,7 @@ TEST_F(TagWindowOnADesktop, TakesAPictureOfAnotherProgram) {
     EXPECT_EQ(well().imgShow().pixelColor(150, 150), QColor(Qt::green));
 }
 
-TEST_F(TagWindowOnADesktop, GivesItsPictureToAnotherProgramAndLosesIt) {
+TEST_F(TagWindowOnADesktop, MovesItsPictureToAnotherProgram) {
     open();
     ASSERT_TRUE(well().hasImageFile({picture()}));
     startClient(u"image"_s);
@@ -194,7 +194,7 @@ TEST_F(TagWindowOnADesktop, GivesItsPictureToAnotherProgramAndLosesIt) {
     EXPECT_TRUE(waitFor([&] { return well().imgShow().isNull(); }));
 }
 
-TEST_F(TagWindowOnADesktop, LosesAPictureThatIsDraggedOutAndKeepsOneThatComesBack) {
+TEST_F(TagWindowOnADesktop, RemovesAPictureThatIsDraggedOutAndKeepsOneThatIsDroppedBack) {
     open();
     ASSERT_TRUE(well().hasImageFile({picture()}));
     ASSERT_TRUE(drag(middleOfWell(), middleOfWell() + QPoint(20, 20)));

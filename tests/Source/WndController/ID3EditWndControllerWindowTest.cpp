@@ -53,7 +53,7 @@ protected:
 
 } // namespace
 
-TEST_F(TagWindow, ShowsWhatTheEntryHas) {
+TEST_F(TagWindow, ShowsTheEntry) {
     Dictionary entry = world.recording(u"One"_s, 1);
     entry.insert(AudioRecordEntry::Year, u"1984"_s);
     QImage image(10, 10, QImage::Format_RGB32);
@@ -73,7 +73,7 @@ TEST_F(TagWindow, ShowsWhatTheEntryHas) {
     EXPECT_TRUE(well().imgShow().isNull());
 }
 
-TEST_F(TagWindow, DoneWritesTheTagsRenamesTheFileAndTellsTheLibrary) {
+TEST_F(TagWindow, DoneWritesTheTagsRenamesTheFileAndUpdatesTheLibrary) {
     const Dictionary entry = world.recording(u"One"_s, 1);
     open(entry);
     field("titleField_").setText(u"Rain $(x) %1"_s);
@@ -104,7 +104,7 @@ TEST_F(TagWindow, AnEmptyYearIsSavedAsNone) {
     EXPECT_EQ(world.files(), QStringList{u"One.m4a"_s});
 }
 
-TEST_F(TagWindow, SaysWhyAFileKeptItsNameAndWritesTheTagsAllTheSame) {
+TEST_F(TagWindow, ReportsWhyAFileKeptItsNameAndStillWritesTheTags) {
     const Dictionary entry = world.recording(u"One"_s, 1);
     ASSERT_TRUE(Mpeg4Files::write(world.at(u"Taken.m4a"_s), "another"));
     open(entry);

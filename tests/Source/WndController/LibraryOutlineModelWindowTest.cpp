@@ -81,7 +81,7 @@ TEST_F(Outline, GroupRowsAreOneFifthHigher) {
     EXPECT_EQ(OutlineRowDelegate::groupRowHeight(17), 20) << "20.4 is cut to a whole number";
 }
 
-TEST_F(Outline, ARebuiltTreeIsShownAnew) {
+TEST_F(Outline, ARebuiltTreeIsShown) {
     QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
     const QModelIndex shown = model.index(0, 0);
     library.loadDefaultMediaLibrary();

@@ -61,7 +61,7 @@ protected:
 
 } // namespace
 
-TEST_F(Presenter, BeginsWithTheGroupsOpenAndTheFirstNodeSelected) {
+TEST_F(Presenter, StartsWithTheGroupsOpenAndTheFirstNodeSelected) {
     presenter.updateDefaultListStyle();
     EXPECT_TRUE(outline.isExpanded(presenter.outlineModel().index(0, 0)));
     EXPECT_TRUE(outline.isExpanded(presenter.outlineModel().index(1, 0)));
@@ -72,7 +72,7 @@ TEST_F(Presenter, BeginsWithTheGroupsOpenAndTheFirstNodeSelected) {
     EXPECT_EQ(table.model()->rowCount(), 0);
 }
 
-TEST_F(Presenter, ALibraryThatIsBuiltAnewIsShownFromItsBeginning) {
+TEST_F(Presenter, ARebuiltLibraryIsShownWithTheDefaultSelection) {
     select({1});
     library.loadDefaultMediaLibrary();
     library.addRecordFile(world.made(u"Four"_s));
@@ -95,7 +95,7 @@ TEST_F(Presenter, EveryBindableKeyIsAPropertyWithAnnouncement) {
     }
 }
 
-TEST_F(Presenter, TableViewPlayEnableWantsOneRowAndNoRecording) {
+TEST_F(Presenter, TableViewPlayEnableNeedsOneRowAndNoRecording) {
     EXPECT_FALSE(value("tableViewPlayEnable"));
     select({1});
     EXPECT_TRUE(value("tableViewPlayEnable"));
@@ -106,7 +106,7 @@ TEST_F(Presenter, TableViewPlayEnableWantsOneRowAndNoRecording) {
     EXPECT_FALSE(value("tableViewPlayEnable"));
 }
 
-TEST_F(Presenter, TableViewShowEnableWantsOneRowAlsoWhileRecording) {
+TEST_F(Presenter, TableViewShowEnableNeedsOneRowAlsoWhileRecording) {
     EXPECT_FALSE(value("tableViewShowEnable"));
     recording = true;
     select({1});
@@ -115,7 +115,7 @@ TEST_F(Presenter, TableViewShowEnableWantsOneRowAlsoWhileRecording) {
     EXPECT_FALSE(value("tableViewShowEnable"));
 }
 
-TEST_F(Presenter, TableViewDeleteEnableWantsAnyRow) {
+TEST_F(Presenter, TableViewDeleteEnableNeedsAnyRow) {
     EXPECT_FALSE(value("tableViewDeleteEnable"));
     select({1});
     EXPECT_TRUE(value("tableViewDeleteEnable"));
@@ -130,7 +130,7 @@ TEST_F(Presenter, TableViewSelectionAudioIsTheSelectedEntryOrNothing) {
     EXPECT_EQ(presenter.tableViewSelectionAudioPath(), world.folder.filePath(u"Two.m4a"_s));
 }
 
-TEST_F(Presenter, TableViewSelectionAudioIsRingtoneGoesByTheEndingInAnyCase) {
+TEST_F(Presenter, TableViewSelectionAudioIsRingtoneDependsOnTheExtension) {
     select({1});
     EXPECT_FALSE(value("tableViewSelectionAudioIsRingtone"));
     library.addRingtoneFile(world.made(u"Ring"_s, 20, u"M4R"_s));
@@ -139,7 +139,7 @@ TEST_F(Presenter, TableViewSelectionAudioIsRingtoneGoesByTheEndingInAnyCase) {
     EXPECT_TRUE(value("tableViewSelectionAudioIsRingtone"));
 }
 
-TEST_F(Presenter, TableViewCanEditSelectionAudioRecordIsPlayableAndNoRingtone) {
+TEST_F(Presenter, TableViewCanEditSelectionAudioRecordNeedsAPlayableRecording) {
     select({1});
     EXPECT_TRUE(value("tableViewCanEditSelectionAudioRecord"));
     recording = true;
@@ -152,7 +152,7 @@ TEST_F(Presenter, TableViewCanEditSelectionAudioRecordIsPlayableAndNoRingtone) {
     EXPECT_FALSE(value("tableViewCanEditSelectionAudioRecord"));
 }
 
-TEST_F(Presenter, CanFilterAudioWantsRows) {
+TEST_F(Presenter, CanFilterAudioNeedsRows) {
     EXPECT_TRUE(value("canFilterAudio"));
     QSignalSpy announced(&presenter, &LibraryPresenter::canFilterAudioChanged);
     selectNode(u"all-ringtone"_s);
@@ -160,7 +160,7 @@ TEST_F(Presenter, CanFilterAudioWantsRows) {
     EXPECT_GE(announced.count(), 1) << "the outline's selection announces it";
 }
 
-TEST_F(Presenter, IsPlaySoundButtonEnableWantsASoundWithLengthOrASelection) {
+TEST_F(Presenter, IsPlaySoundButtonEnableNeedsASoundWithLengthOrASelection) {
     EXPECT_FALSE(value("isPlaySoundButtonEnable"));
     select({0});
     EXPECT_TRUE(value("isPlaySoundButtonEnable"));
@@ -176,7 +176,7 @@ TEST_F(Presenter, IsPlaySoundButtonEnableWantsASoundWithLengthOrASelection) {
     EXPECT_TRUE(value("isPlaySoundButtonEnable")) << "a sound without length is not kept";
 }
 
-TEST_F(Presenter, ASoundAtItsEndIsLetGoAndPlayFollowsTheSelection) {
+TEST_F(Presenter, AFinishedSoundIsReleasedAndPlayFollowsTheSelection) {
     select({1});
     presenter.playSoundButtonAction();
     select({0});
@@ -204,7 +204,7 @@ TEST_F(Presenter, ASoundThatARecordingStoppedStays) {
     EXPECT_EQ(display.title(), u"Two"_s);
 }
 
-TEST_F(Presenter, AMissingOrBrokenFileIsLetGo) {
+TEST_F(Presenter, AMissingOrBrokenFileIsReleased) {
     presenter.playSoundFile(LibraryWorld::entry(u"k"_s, u"gone"_s, u"/gone.m4a"_s));
     EXPECT_FALSE(display.playSound());
     select({0});
@@ -294,7 +294,7 @@ TEST_F(Presenter, WhileRecordingADoubleClickPlaysNothing) {
     EXPECT_EQ(display.playSound(), nullptr);
 }
 
-TEST_F(Presenter, PlayingPutsTheIconIntoItsRowAndASelectionDoesNotMoveIt) {
+TEST_F(Presenter, ThePlayingRowHasTheIconWhateverIsSelected) {
     select({1});
     presenter.tableViewDoubleAction();
     EXPECT_EQ(display.title(), u"Two"_s);
@@ -322,14 +322,14 @@ TEST_F(Presenter, StoppingPlaybackIsAnnouncedLater) {
     EXPECT_TRUE(waitFor([&] { return announced.count() > 0; }));
 }
 
-TEST_F(Presenter, AFileThatCannotBePlayedSaysWhy) {
+TEST_F(Presenter, ReportsWhyAFileCannotBePlayed) {
     QSignalSpy problem(&presenter, &LibraryPresenter::problem);
     presenter.playSoundFile(LibraryWorld::entry(u"k"_s, u"gone"_s, u"/nowhere/gone.m4a"_s));
     ASSERT_EQ(problem.count(), 1);
     EXPECT_TRUE(problem.at(0).at(0).toString().contains(u"/nowhere/gone.m4a"_s));
 }
 
-TEST_F(Presenter, ASoundThatDoesNotBeginSaysWhy) {
+TEST_F(Presenter, ReportsWhyASoundDoesNotStart) {
     QSignalSpy problem(&presenter, &LibraryPresenter::problem);
     world.sounds.playFails = true;
     select({1});
@@ -393,7 +393,7 @@ TEST_F(Presenter, AnEntryGetsItsIdentityOnceFromPathAndTime) {
               u"/a.m4a_12.500000"_s);
 }
 
-TEST_F(Presenter, FilesGoToTheCollectionOfTheirEnding) {
+TEST_F(Presenter, FilesAreAddedToTheCollectionOfTheirExtension) {
     presenter.updateFile(u"/r.M4R"_s, {{AudioRecordEntry::Title, u"R"_s}});
     EXPECT_EQ(library.ringtones().size(), 1);
     presenter.updateFile(u"/s.m4a"_s, {{AudioRecordEntry::Title, u"S"_s}});

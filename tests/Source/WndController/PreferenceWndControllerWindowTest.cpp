@@ -132,7 +132,7 @@ protected:
 
 } // namespace
 
-TEST_F(Preferences, WithoutAnythingStoredTheDefaultsShow) {
+TEST_F(Preferences, ShowsTheDefaultsWhenNothingIsStored) {
     open();
     EXPECT_FALSE(find<QCheckBox>("splitCheckBox")->isChecked());
     EXPECT_FALSE(find<QComboBox>("splitTimePopUp")->isEnabled());
@@ -148,7 +148,7 @@ TEST_F(Preferences, WithoutAnythingStoredTheDefaultsShow) {
     EXPECT_EQ(defaults.changes(), 0) << "reading stores nothing";
 }
 
-TEST_F(Preferences, TheThreeHotKeysCarryTheirSignatures) {
+TEST_F(Preferences, TheThreeHotKeysHaveTheirSignatures) {
     open();
     std::map<std::uint16_t, std::uint32_t> signatures;
     for (const auto& [handle, taken] : hotKeys.registrations)
@@ -196,7 +196,7 @@ TEST_F(Preferences, StoredValuesOfTheWrongTypeGiveTheDefault) {
     EXPECT_TRUE(find<QCheckBox>("filterCheckBox")->isChecked());
 }
 
-TEST_F(Preferences, ANumberInPlaceOfATextIsUnderstood) {
+TEST_F(Preferences, AStoredNumberIsAcceptedAsText) {
     defaults.setObject(u"PreferenceSplitTimeMSKey"_s, qlonglong(500));
     open();
     EXPECT_EQ(find<QComboBox>("splitTimePopUp")->currentText(), u"500"_s);
@@ -278,7 +278,7 @@ TEST_F(Preferences, EscapeClosesAndApplies) {
     EXPECT_EQ(defaults.objectForKey(u"PreferenceFilterTimeKey"_s), u"5"_s);
 }
 
-TEST_F(Preferences, AChosenFolderIsShownAtOnceAndStoredAtTheClose) {
+TEST_F(Preferences, AChosenFolderIsShownAtOnceAndStoredOnClose) {
     QTemporaryDir folder;
     panels.answer = folder.path();
     open();
@@ -294,7 +294,7 @@ TEST_F(Preferences, AChosenFolderIsShownAtOnceAndStoredAtTheClose) {
     EXPECT_EQ(defaults.objectForKey(u"PreferenceRingtoneSavePathKey"_s), folder.path());
 }
 
-TEST_F(Preferences, ThePanelStartsInTheFieldsFolderElseAtHome) {
+TEST_F(Preferences, ThePanelStartsInTheFieldsFolderOrAtHome) {
     QTemporaryDir folder;
     defaults.setObject(u"PreferenceSavePathKey"_s, folder.path());
     defaults.setObject(u"PreferenceRingtoneSavePathKey"_s, u"/nowhere/at/all"_s);
@@ -305,7 +305,7 @@ TEST_F(Preferences, ThePanelStartsInTheFieldsFolderElseAtHome) {
     EXPECT_EQ(find<QLineEdit>("ringtonePathField")->text(), u"/nowhere/at/all"_s) << "Cancel changes nothing";
 }
 
-TEST_F(Preferences, AFolderWithoutRightsIsRefusedWithAnAlert) {
+TEST_F(Preferences, AFolderWithoutWritePermissionIsRefusedWithAnAlert) {
     QTemporaryDir folder;
     QFile::setPermissions(folder.path(), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
     panels.answer = folder.path();
@@ -365,7 +365,7 @@ TEST_F(Preferences, AFailedRemovalShowsNothing) {
     EXPECT_FALSE(find<QLabel>("deviceProblemField")->isVisible());
 }
 
-TEST_F(Preferences, TheDeviceStaysAsItIsWhileARecordingRuns) {
+TEST_F(Preferences, TheDeviceCannotBeChangedDuringARecording) {
     QString why = u"a recording runs"_s;
     device.whyNot = &why;
     open();
@@ -416,7 +416,7 @@ TEST_F(Preferences, TheDeviceMayBeInstalledFromAnotherThread) {
     EXPECT_TRUE(waitFor([&] { return !find<QProgressBar>("deviceProgress")->isVisible(); }));
 }
 
-TEST_F(Preferences, SettingTheStateOnlyLooksAgainLater) {
+TEST_F(Preferences, SettingTheStateOnlyQueriesItAgainLater) {
     open();
     device.exists = true;
     QSignalSpy changed(controller.get(), &PreferenceWndController::systemAudioRecordDeviceExistChanged);
@@ -482,7 +482,7 @@ TEST_F(Preferences, EveryControlHasAnAccessibleNameAndEveryFieldAMnemonic) {
     EXPECT_EQ(different.size(), mnemonics.size()) << qPrintable(mnemonics.join(u' '));
 }
 
-TEST_F(Preferences, TheMnemonicOfAShortcutFieldLeadsIntoIt) {
+TEST_F(Preferences, TheMnemonicOfAShortcutFieldFocusesIt) {
     open();
     controller->window()->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(controller->window(), 30000));
@@ -491,7 +491,7 @@ TEST_F(Preferences, TheMnemonicOfAShortcutFieldLeadsIntoIt) {
     EXPECT_TRUE(controller->pauseResumeShortcut()->hotKeyRegister()->hasRegisterHotKey());
 }
 
-TEST_F(Preferences, AFieldThatWasLeftByClosingTheWindowDoesNotCaptureWhenItIsShownAgain) {
+TEST_F(Preferences, AFieldFocusedAtCloseDoesNotCaptureWhenTheWindowIsShownAgain) {
     open();
     controller->window()->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(controller->window(), 30000));
@@ -515,7 +515,7 @@ TEST_F(Preferences, LongerTextsMakeTheWindowGrow) {
     EXPECT_GT(controller->window()->minimumSizeHint().width(), before);
 }
 
-TEST_F(Preferences, CanBeLookedAt) {
+TEST_F(Preferences, HasPictures) {
     for (const auto shade : {Theme::Shade::Light, Theme::Shade::Dark}) {
         Theme::apply(shade);
         open();

@@ -100,7 +100,7 @@ protected:
 
 } // namespace
 
-TEST_F(RealKeys, EachHotKeyActsWhileAnotherWindowHasTheFocus) {
+TEST_F(RealKeys, EachHotKeyWorksWhileAnotherWindowHasTheFocus) {
     OtherProgram other;
     ASSERT_TRUE(other.takeFocus());
     for (const char* lock : {"", "Num_Lock", "Caps_Lock", "Num_Lock", "Caps_Lock"}) {
@@ -151,7 +151,7 @@ TEST_F(RealKeys, TheShortcutComesBackAfterARestart) {
     EXPECT_TRUE(acts(u"super+alt+F6"_s, u"start-stop"_s));
 }
 
-TEST_F(RealKeys, ABareKeyClearsAndTheClearingComesBackToo) {
+TEST_F(RealKeys, AKeyWithoutModifiersClearsTheShortcutAlsoAfterARestart) {
     show();
     auto* field = controller->startStopShortcut();
     click(field);
@@ -220,7 +220,7 @@ TEST_F(RealKeys, ACombinationThatAnotherProgramHoldsClearsTheField) {
     EXPECT_TRUE(stored(startStopKey).isEmpty());
 }
 
-TEST_F(RealKeys, ACombinationOfAnotherFieldIsRefusedAndDoesNotAct) {
+TEST_F(RealKeys, ACombinationOfAnotherFieldIsRefusedAndDoesNotTrigger) {
     show();
     auto* field = controller->startStopShortcut();
     click(field);
@@ -242,7 +242,7 @@ TEST_F(RealKeys, ItsOwnCombinationCanBeTypedAgain) {
     EXPECT_TRUE(acts(u"super+ctrl+s"_s, u"start-stop"_s));
 }
 
-TEST_F(RealKeys, NothingActsWhileAFieldHasTheFocus) {
+TEST_F(RealKeys, NoHotKeyTriggersWhileAFieldHasTheFocus) {
     show();
     click(controller->pauseResumeShortcut());
     type(u"super+ctrl+s"_s);
@@ -250,7 +250,7 @@ TEST_F(RealKeys, NothingActsWhileAFieldHasTheFocus) {
     EXPECT_TRUE(acted.isEmpty());
 }
 
-TEST_F(RealKeys, LocksNeverReachTheStoredFlags) {
+TEST_F(RealKeys, LockKeysAreNeverStored) {
     show();
     type(u"Caps_Lock"_s);
     type(u"Num_Lock"_s);
@@ -264,7 +264,7 @@ TEST_F(RealKeys, LocksNeverReachTheStoredFlags) {
     EXPECT_EQ(stored(startStopKey).value(u"KeybordShortcutModifierFlagsKey"_s), 0x100000);
 }
 
-TEST_F(RealKeys, AMnemonicLeadsIntoAFieldWithoutHarmingItsShortcut) {
+TEST_F(RealKeys, AMnemonicFocusesAFieldWithoutChangingItsShortcut) {
     show();
     auto* field = controller->pauseResumeShortcut();
     type(u"alt+p"_s);
@@ -277,7 +277,7 @@ TEST_F(RealKeys, AMnemonicLeadsIntoAFieldWithoutHarmingItsShortcut) {
     EXPECT_TRUE(waitFor([&] { return field->text() == u"Super + J"_s && !field->hasFocus(); }));
 }
 
-TEST_F(RealKeys, ClosingTheWindowWithAFieldInFocusLetsTheKeyboardGo) {
+TEST_F(RealKeys, ClosingTheWindowWithAFocusedFieldReleasesTheKeyboard) {
     show();
     click(controller->startStopShortcut());
     controller->window()->close();

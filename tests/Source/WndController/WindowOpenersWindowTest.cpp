@@ -81,7 +81,7 @@ protected:
     WindowWorld world;
 };
 
-TEST_F(WindowOpeners, TheRingtoneMakerIsOfferedForOneRecordingThatIsNoRingtone) {
+TEST_F(WindowOpeners, TheRingtoneMakerIsOfferedForOneRecording) {
     EXPECT_EQ(ringtone(), u"no no no"_s) << "nothing is selected";
     select({0});
     EXPECT_EQ(ringtone(), u"yes yes yes"_s);
