@@ -77,10 +77,10 @@ int remove(const QStringList& keys, bool json) {
     // changed.
     MediaLibraryRequests::Removal removal;
     if (const auto answer = askWindow(MediaLibraryRequests::removeRequest(keys))) {
-        const auto told = MediaLibraryRequests::removalOf(*answer);
-        if (!told)
+        const auto removed = MediaLibraryRequests::removalOf(*answer);
+        if (!removed)
             return fail(u"the running program does not understand: it is of another version"_s);
-        removal = *told;
+        removal = *removed;
     } else {
         removal = MediaLibraryRequests::remove(keys);
     }

@@ -65,8 +65,8 @@ QString setArtwork(const QString& path, const QString& image) {
         return u"%1: %2"_s.arg(tool.program(), tool.errorString());
     if (tool.exitStatus() == QProcess::NormalExit && tool.exitCode() == 0)
         return {};
-    const QString told = QString::fromLocal8Bit(tool.readAllStandardError()).trimmed();
-    const QString problem = told.section(u": "_s, 1);
+    const QString errors = QString::fromLocal8Bit(tool.readAllStandardError()).trimmed();
+    const QString problem = errors.section(u": "_s, 1);
     return problem.isEmpty() ? u"the artwork of %1 could not be written"_s.arg(path) : problem;
 }
 

@@ -75,7 +75,7 @@ QList<float> AudioExtractWave::extractSamplePoint() {
     ClientBlock block;
     int counter = 0;
     std::int64_t position = 0;
-    qsizetype told = 0;
+    qsizetype reported = 0;
     for (int blocks = 1;; ++blocks) {
         auto frames = block.prepare(actualOutputFormat_);
         if (infile_->read(frames, block.list()) != noErr)
@@ -90,11 +90,11 @@ QList<float> AudioExtractWave::extractSamplePoint() {
         }
         if (blocks % kBlocksPerReport != 0)
             continue;
-        tell(points, std::exchange(told, points.size()));
+        tell(points, std::exchange(reported, points.size()));
         if (progress_ && !progress_(std::min(1.0, double(position) / std::max(total, 1.0))))
             break;
     }
-    tell(points, told);
+    tell(points, reported);
     return points;
 }
 

@@ -46,11 +46,11 @@ void AudioOutline::load(const QString& path) {
         // Values that were not announced yet: announcing each second of ten hours would keep the window busy.
         QList<float> pending;
         qsizetype first = 0;
-        QElapsedTimer sinceTold;
+        QElapsedTimer sinceReport;
         const auto tell = [&] {
             if (!pending.isEmpty())
                 post([this, first, values = std::exchange(pending, {})] { take(first, values); });
-            sinceTold.start();
+            sinceReport.start();
         };
         AudioExtractWave wave;
         wave.setProgress([&](double) { return !*cancelled; });
@@ -60,7 +60,7 @@ void AudioOutline::load(const QString& path) {
             if (pending.isEmpty())
                 first = number;
             pending.append(QList<float>(values.begin(), values.end()));
-            if (!sinceTold.isValid() || sinceTold.elapsed() >= kMillisecondsBetween)
+            if (!sinceReport.isValid() || sinceReport.elapsed() >= kMillisecondsBetween)
                 tell();
         });
         if (wave.openFile(path)) {

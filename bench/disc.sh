@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The Sonaphex authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# A disc of 79:59 written as an image, from one AAC file and from ten, beside ffmpeg decoding the same files to the same
-# samples. ROUNDS sets how often each runs; the better run counts.
+# Writes a disc of 79:59 as an image, from one AAC file and from ten; compared with ffmpeg, which decodes the same files
+# to the same samples. ROUNDS sets how often each runs; the best run counts.
 set -euo pipefail
 . "${LIB:?run this through scripts/bench}/bench.sh"
 
@@ -17,7 +17,7 @@ ffmpeg -v error -f lavfi -i "aevalsrc='0.2*sin(2*PI*(220+60*sin(2*PI*0.3*t))*t)|
 ffmpeg -v error -stream_loop 80 -i minute.m4a -t 4798.9 -c copy long.m4a
 parts=()
 for n in 0 1 2 3 4 5 6 7 8 9; do
-    # Ten pre-gaps of a second are part of the disc.
+    # The disc includes ten pre-gaps of a second.
     ffmpeg -v error -ss $((n * 479)) -t 478.9 -i long.m4a -c copy "part$n.m4a"
     parts+=("part$n.m4a")
 done
@@ -43,7 +43,7 @@ compare() {
         timed bash -c 'decodeAll "$@"' decode "$@"
         peer=$(awk "BEGIN { print (($wall < $peer) ? $wall : $peer) }")
     done
-    # Four bytes a frame; each track begins with 75 sectors of 588 frames of silence and fills its last sector.
+    # Four bytes per frame; each track begins with 75 sectors of 588 silent frames, and its last sector is padded.
     ourFrames=$(($(stat -c %s disc.bin) / 4 - $# * 75 * 588))
     peerFrames=$(($(cat -- *.raw | wc -c) / 4))
     equal "frames of $name" "$ourFrames" "$peerFrames" $(($# * 2048))

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The Sonaphex authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# The library's file and the tags of a one-hour recording. Run by scripts/bench, which sets BUILD and SCRATCH.
+# Measures the library's file and the tags of a one-hour recording. Run by scripts/bench, which sets BUILD and SCRATCH.
 set -euo pipefail
 . "${LIB:?run this through scripts/bench}/bench.sh"
 
@@ -23,14 +23,14 @@ sound=$(sound_of "$hour")
 cp "$hour" "$SCRATCH/worker.m4a"
 cp "$hour" "$SCRATCH/peer.m4a"
 
-# Inside the program: there is nothing to hold it against, another program's process has to start first.
+# Measured inside the program, without a peer: another program would also have to start a process.
 must "$bench" tags "$SCRATCH/worker.m4a"
 read -r first again <"$SCRATCH/output"
 report "tags of one hour, on the program's worker" "$first" - ms "under 50 ms"
 report "tags of one hour, on the program's worker, again" "$again" - ms "under 50 ms"
 holds "the encoded sound is untouched" test "$(sound_of "$SCRATCH/worker.m4a")" = "$sound"
 
-# Process against process, the same five tags.
+# One process against another, with the same five tags.
 ours=$(milliseconds "$BUILD/bin/sonaphex" tag "$hour" --title Title --artist Artist --album Album --year 2012 --genre Genre)
 peer=$(milliseconds AtomicParsley "$SCRATCH/peer.m4a" --title Title --artist Artist --album Album --year 2012 --genre Genre --overWrite)
 report "tags of one hour, whole command (AtomicParsley)" "$ours" "$peer" ms none

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The Sonaphex authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Conversions of an hour of stereo beside the ffmpeg command line doing the same work. MINUTES sets another length.
+# Converts an hour of stereo, compared with the ffmpeg command line doing the same work. MINUTES sets another length.
 set -euo pipefail
 . "${LIB:?run this through scripts/bench}/bench.sh"
 
@@ -11,8 +11,8 @@ minutes=${MINUTES:-60}
 mkdir -p "$work"
 cd "$work"
 
-# Two commands by turns, ours and the peer's (after --); the better run of each counts, so that a passing load of the
-# machine weighs on neither.
+# Runs two commands alternately, ours and the peer's (after --). The best run of each counts, so that a temporary load
+# affects neither.
 beside() {
     local rounds=$1 our=() peer=() into=our
     shift
@@ -34,7 +34,7 @@ beside() {
     done
 }
 
-# The same sound came out of both: format, length, and the level of a minute in the middle.
+# Checks that both outputs have the same format, length, and level in a minute in the middle.
 same_sound() { # ours peer
     equal "codec, rate, channels" "$(format_of "$1")" "$(format_of "$2")"
     equal "frames" "$(frames_of "$1")" "$(frames_of "$2")" 2048
@@ -47,7 +47,7 @@ must ffmpeg -v error -f lavfi -i "aevalsrc='0.2*sin(2*PI*(220+60*sin(2*PI*0.3*t)
     -ac 2 -c:a pcm_s16le minute.wav
 must ffmpeg -v error -stream_loop $((minutes - 1)) -i minute.wav -c copy hour.wav
 
-# The conversion lays the left channel into both, and so does the peer.
+# The conversion copies the left channel to both, and so does the peer.
 left=(-af "pan=stereo|c0=c0|c1=c0")
 beside "$rounds" "$ours" convert hour.wav our.m4a --type m4a --overwrite -- \
     ffmpeg -v error -y -i hour.wav "${left[@]}" -c:a aac peer.m4a
@@ -78,7 +78,7 @@ must "$ours" waveform our.m4a
 holds "ten values a second" test "$(wc -l <"$SCRATCH/output")" -ge $((minutes * 600 - 1))
 not_equal "the peer decodes every packet and makes no values; ours decodes what its values need"
 
-# The ringtone maker's outline, when the file's pages are in memory: the middle of five runs.
+# The ringtone maker's outline with the file in the page cache: the median of five runs.
 outline() { for _ in 1 2 3 4 5; do must "$BUILD/bin/bench_outline" our.m4a; cat "$SCRATCH/output"; done; }
 outlines=$(outline)
 report "outline of an AAC file in the window, first part" "$(sort -n <<<"$outlines" | sed -n 3p | cut -d ' ' -f 1)" - ms 200

@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The Sonaphex authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# From the stop of a recording to its tagged file in the library: an hour of one source, and of two sources beside the
-# ffmpeg command line that mixes and encodes the same files. SECONDS_OF_SOUND shortens it.
+# Measures the time from the stop of a recording to its tagged file in the library: an hour of one source, and an hour
+# of two sources compared with the ffmpeg command line that mixes and encodes the same files. SECONDS_OF_SOUND shortens it.
 set -euo pipefail
 . "${LIB:?run this through scripts/bench}/bench.sh"
 cd "$SCRATCH"
 length=${SECONDS_OF_SOUND:-3600}
 
-# The stretch that takes its time is measured inside; the program fails when no file came out.
+# The program measures the time itself, and fails when there is no file.
 ours=$("$BUILD/bin/bench_queue" one "$length" "$SCRATCH/one")
 report "stop to library, $length s of one source" "$ours" - s "0.6 s"
 holds "the file has the sound's length" \
@@ -22,7 +22,7 @@ must ffmpeg -v error -y -f lavfi \
 best() { awk -v a="$1" -v b="$2" 'BEGIN { print a == "" || b < a ? b : a }'; }
 ours="" peer=""
 for turn in 1 2; do
-    # The queue deletes what it has mixed.
+    # The queue deletes the files that it has mixed.
     cp first.m4a raw1.m4a
     cp second.m4a raw2.m4a
     once=$("$BUILD/bin/bench_queue" two raw1.m4a raw2.m4a "$SCRATCH/two$turn")

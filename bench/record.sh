@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The Sonaphex authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Recording one input device beside other recorders, on a private sound server. Run by scripts/bench.
+# Records one input device on a private sound server, compared with other recorders. Run by scripts/bench.
 # BENCH_SECONDS: how long each records (60).
 set -euo pipefail
 . "${LIB:?run this through scripts/bench}/bench.sh"
@@ -10,7 +10,7 @@ bin=$BUILD/bin
 resources=$bin/Resources
 chmod 0700 "$XDG_RUNTIME_DIR"
 
-# The server ends with this script: the keeper watches its process and its standard input.
+# The keeper ends the server with this script: it watches the script's process and its own standard input.
 coproc KEEPER { exec "$resources/AudioSessionKeeper" $$ "$XDG_RUNTIME_DIR" "$resources/AudioSession" \
     "$(command -v pipewire)" "$(command -v wireplumber)" "$resources/ToneSource"; }
 read -r -t 20 word folder <&"${KEEPER[0]}"
@@ -26,9 +26,9 @@ pulse=$!
 trap 'kill $pulse 2>/dev/null; wait $pulse 2>/dev/null || true' EXIT
 for _ in $(seq 100); do [ -S "$PULSE_RUNTIME_PATH/native" ] && break; sleep 0.05; done
 
-# Seconds of processor time a minute of what the file holds.
+# Seconds of processor time per minute of recorded audio.
 a_minute() { awk -v c="$cpu" -v s="$(seconds_of "$1")" 'BEGIN { printf "%.3f", c * 60 / s }'; }
-# A recorder that has to be interrupted; timeout says so with its own status.
+# Runs a recorder that only ends on a signal; timeout then returns its own status.
 interrupted() {
     local status=0
     timeout -s INT "$seconds" "$@" || status=$?
@@ -60,14 +60,14 @@ not_equal "rate and channels: ours $(format_of "$ours"), ffmpeg $(format_of "$SC
 not_equal "the bit rate: ours $(kilobits_of "$ours") kb/s, ffmpeg $(kilobits_of "$SCRATCH/peer.m4a") kb/s"
 not_equal "ours keeps the file playable while it grows, tags it and enters it into the library; pw-record encodes nothing"
 
-# Pages that nobody shares with it, in the middle of a recording: what it costs a machine that runs other programs too.
+# Private memory in the middle of a recording, without the pages that other programs share.
 private() {
     "$@" >/dev/null 2>"$SCRATCH/errors" &
     local recorder=$! status=0
     sleep 3
     kill -0 "$recorder" 2>/dev/null || fail "$1 ended: $(tail -1 "$SCRATCH/errors")"
     awk '/RssAnon/ { printf "%.1f", $2 / 1024 }' "/proc/$recorder/status"
-    kill -TERM "$recorder" # bash lets its background jobs ignore SIGINT
+    kill -TERM "$recorder" # bash makes its background jobs ignore SIGINT
     wait "$recorder" || status=$?
     case $status in 0 | 143 | 255) ;; *) fail "$1 ended with status $status: $(tail -1 "$SCRATCH/errors")" ;; esac
 }
@@ -76,13 +76,13 @@ ffmpeg_private=$(private ffmpeg -v error -f pulse -i sonaphex.tone -c:a aac -y "
 report "record: private memory (ffmpeg)" "$ours_private" "$ffmpeg_private" MB "30 MB"
 equal "seconds recorded" "$(seconds_of "$SCRATCH/private/Track0.m4a")" "$(seconds_of "$SCRATCH/private.m4a")" 1
 
-# The same moment for both: from the start of the process until the server has linked the device to it. Cycles flow from
-# then on. The middle one of nine; the machine does other things too.
+# The same interval for both: from the start of the process until the server has linked the device to it, when the first
+# cycles arrive. The median of nine runs.
 linked() { # command...
     local begin line at="" recorder links
     exec 7< <(exec pw-link --monitor --links)
     links=$!
-    while read -r -t 0.5 line <&7; do :; done # those that are there already
+    while read -r -t 0.5 line <&7; do :; done # skip the existing links
     begin=$EPOCHREALTIME
     "$@" >/dev/null 2>"$SCRATCH/errors" &
     recorder=$!
@@ -94,7 +94,7 @@ linked() { # command...
     exec 7<&-
     sleep 0.3
     kill -TERM "$recorder" 2>/dev/null || fail "$1 ended by itself: $(tail -1 "$SCRATCH/errors")"
-    wait "$recorder" || true # pw-record ends with a status of 1 then; ours is judged by its files
+    wait "$recorder" || true # pw-record then exits with 1; ours is checked by its files
     awk -v a="$begin" -v b="$at" 'BEGIN { printf "%.0f\n", (b - a) * 1000 }'
 }
 ours_starts=() peer_starts=()
@@ -111,10 +111,10 @@ report "record: start of the process to the device's link (pw-record)" "$ours" "
 holds "ours wrote nine files" test "$(find "$SCRATCH/starts" -name '*.m4a' | wc -l)" = 9
 not_equal "ours opens the devices of both sources, looks for its driver and makes its folders first"
 
-# From the start of the process to the capture of the first frame, as the program's log gives it; no other program does.
+# From the start of the process to the capture of the first frame, from the program's log. Other programs do not log it.
 starts=()
 for _ in $(seq 9); do
-    sleep 1 # the device comes to rest
+    sleep 1 # the device becomes idle
     before=$EPOCHREALTIME
     must env QT_LOGGING_RULES="sonaphex.engine.debug=true" "$bin/sonaphex" record --input "Test Tone" --for 0.1 \
         --filter off --folder "$SCRATCH/firsts"

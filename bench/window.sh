@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The Sonaphex authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# The main window: from the start of the process to the painted window with a library of 10,000 recordings, the processor
-# time of an idle window with its engines running, and memory; qmmp, a player with Qt windows and an empty list, beside it.
-# The sound server runs already, as on a desktop: a first program without a window keeps the private one for the others.
+# Measures the main window with a library of 10,000 recordings: the time from the start of the process to the painted
+# window, the processor time while idle with running engines, and memory; compared with qmmp, a Qt player with an empty
+# list. The sound server runs before, as on a desktop: a program without a window keeps the private server running.
 set -euo pipefail
 . "${LIB:?run this through scripts/bench}/bench.sh"
 
@@ -34,7 +34,7 @@ done
 export PIPEWIRE_RUNTIME_DIR
 sleep 1 # its devices
 
-# One recording after another, as the library stores them.
+# The recordings in the format of the stored library.
 mkdir -p "$XDG_CONFIG_HOME"
 awk -v n="$entries" 'BEGIN {
     print "<?xml version=\"1.0\" encoding=\"UTF-8\"?><plist version=\"1.0\"><dict><key>kMediaLibrarySavedKey</key><dict>"
@@ -52,7 +52,7 @@ listed=$("$BUILD/bin/sonaphex" library --json | grep -o /nowhere/Track | wc -l)
 
 median() { sort -n | awk '{ v[NR] = $1 } END { print v[int((NR + 1) / 2)] }'; }
 
-# The two take turns, so that a machine that is busy for a while is busy for both.
+# The two alternate, so that a temporary load affects both.
 for _ in $(seq "$runs"); do
     "$BUILD/bin/bench_window" "$BUILD/bin/sonaphex" >>"$SCRATCH/ours"
     "$BUILD/bin/bench_window" qmmp >>"$SCRATCH/peer"

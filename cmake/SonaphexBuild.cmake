@@ -1,12 +1,12 @@
 # SPDX-FileCopyrightText: 2026 The Sonaphex authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# What all targets share: language, warnings, sanitizers, precompiled headers, the compiler cache.
+# Settings of all targets: language, warnings, sanitizers, precompiled headers, the compiler cache.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
-# The module with the windows is a shared object made of the same static libraries as the program.
+# The window module is a shared object that links the same static libraries as the program.
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
@@ -17,8 +17,8 @@ set(SONAPHEX_SANITIZE "" CACHE STRING "Sanitizers, as for -fsanitize= (address,u
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    # Base folder and no hashed folder: another checkout or build folder hits the same cache. The sloppiness is what
-    # ccache asks for with precompiled headers.
+    # A base folder and no hashed folder, so that another checkout or build folder hits the same cache. ccache requires
+    # this sloppiness for precompiled headers.
     set(CMAKE_CXX_COMPILER_LAUNCHER
         ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1
         CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${CCACHE_PROGRAM})
@@ -40,7 +40,7 @@ if(SONAPHEX_SANITIZE MATCHES "thread")
     target_link_libraries(sonaphex_flags INTERFACE $<TARGET_OBJECTS:sonaphex_thread_sanitizer>)
 endif()
 
-# All sources and headers below the given folders. Headers are listed for moc: it looks into listed ones only.
+# All sources and headers below the given folders. Headers are listed because moc only reads listed headers.
 function(sonaphex_sources out)
     set(found)
     foreach(folder IN LISTS ARGN)
@@ -50,7 +50,7 @@ function(sonaphex_sources out)
     set(${out} ${found} PARENT_SCOPE)
 endfunction()
 
-# Divides sources into those of the core and those of the windows' floor, by the list in cmake/WindowFloor.txt.
+# Divides sources into those of the core and those of the window floor, by the list in cmake/WindowFloor.txt.
 function(sonaphex_sort_floors sources core_out ui_out)
     set(list_file ${CMAKE_SOURCE_DIR}/cmake/WindowFloor.txt)
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${list_file})
@@ -71,8 +71,8 @@ function(sonaphex_sort_floors sources core_out ui_out)
     set(${ui_out} ${ui} PARENT_SCOPE)
 endfunction()
 
-# moc and uic run again when a file changes that they know. One that is new since the last configuration they do not know,
-# so their stamp goes when the list of files changes.
+# moc and uic run again when a known file changes. They do not know a file that is new since the last configuration, so
+# their stamp is removed when the list of files changes.
 function(sonaphex_look_at_new_files target)
     string(SHA1 files "${ARGN}")
     if(NOT "${${target}_files}" STREQUAL files)
@@ -100,7 +100,7 @@ function(sonaphex_floor name)
     endif()
 endfunction()
 
-# The program finds its resources beside itself: bin/Resources in the build tree, share/sonaphex when installed.
+# The program looks for its resources beside itself: bin/Resources in the build tree, share/sonaphex when installed.
 function(sonaphex_resources)
     file(GLOB_RECURSE files CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/Resources/*)
     set(stamp ${CMAKE_BINARY_DIR}/resources.stamp)

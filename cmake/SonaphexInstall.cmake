@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Sonaphex authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Where things go on a system: the program to bin, data to share/sonaphex, and what is made for one kind of processor (the
-# module with the windows, the helpers, the driver bundle) to lib/sonaphex. The program finds all of it from its own place.
+# Installation paths: the program in bin, data in share/sonaphex, and processor-dependent files (the window module, the
+# helpers, the driver bundle) in lib/sonaphex. The program finds all of them relative to its own path.
 set(resources_out ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Resources)
 set(tools_dir ${CMAKE_INSTALL_LIBDIR}/sonaphex)
 set(desktop_id com.korvane.Sonaphex)
@@ -22,7 +22,7 @@ install(FILES ${CMAKE_BINARY_DIR}/${desktop_id}.service DESTINATION ${CMAKE_INST
 install(FILES ${CMAKE_SOURCE_DIR}/Resources/${desktop_id}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/Resources/icons/hicolor DESTINATION ${CMAKE_INSTALL_DATADIR}/icons)
 
-# The manual page and the completions are printed by the program itself, from the declarations of its options.
+# The program itself generates the manual page and the completions from the declarations of its options.
 set(manual ${CMAKE_BINARY_DIR}/manual)
 set(manual_files)
 function(sonaphex_printed file)
@@ -36,7 +36,7 @@ sonaphex_printed(sonaphex.1 manual)
 sonaphex_printed(sonaphex completions bash)
 sonaphex_printed(_sonaphex completions zsh)
 sonaphex_printed(sonaphex.fish completions fish)
-if(NOT SONAPHEX_SANITIZE) # a sanitizer would report what other libraries leave behind
+if(NOT SONAPHEX_SANITIZE) # a sanitizer would report leaks of other libraries
     add_custom_target(sonaphex_manual ALL DEPENDS ${manual_files})
 endif()
 install(FILES ${manual}/sonaphex.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)

@@ -39,14 +39,14 @@ bool CaptureRing::pushRt(std::span<const float* const> samples, const CaptureBlo
     const std::size_t first = std::min<std::size_t>(block.frames, capacity_ - start);
     const std::size_t rest = block.frames - first;
     for (std::uint32_t channel = 0; channel < channels_; ++channel) {
-        float* stretch = samples_.get() + channel * capacity_;
+        float* row = samples_.get() + channel * capacity_;
         const float* source = channel < samples.size() ? samples[channel] : nullptr;
         if (source) {
-            std::memcpy(stretch + start, source, first * sizeof(float));
-            std::memcpy(stretch, source + first, rest * sizeof(float));
+            std::memcpy(row + start, source, first * sizeof(float));
+            std::memcpy(row, source + first, rest * sizeof(float));
         } else {
-            std::fill_n(stretch + start, first, 0.0f);
-            std::fill_n(stretch, rest, 0.0f);
+            std::fill_n(row + start, first, 0.0f);
+            std::fill_n(row, rest, 0.0f);
         }
     }
     auto& slot = blocks_[blocksWritten & (blocks_.size() - 1)];
@@ -85,9 +85,9 @@ std::uint32_t CaptureRing::take(std::span<float* const> out, std::uint32_t frame
     const std::size_t start = (framesRead - firstFrame_.load(std::memory_order_relaxed)) & (capacity_ - 1);
     const std::size_t first = std::min<std::size_t>(frames, capacity_ - start);
     for (std::uint32_t channel = 0; channel < channels_ && channel < out.size(); ++channel) {
-        const float* stretch = samples_.get() + channel * capacity_;
-        std::memcpy(out[channel], stretch + start, first * sizeof(float));
-        std::memcpy(out[channel] + first, stretch, (frames - first) * sizeof(float));
+        const float* row = samples_.get() + channel * capacity_;
+        std::memcpy(out[channel], row + start, first * sizeof(float));
+        std::memcpy(out[channel] + first, row, (frames - first) * sizeof(float));
     }
     framesRead_.store(framesRead + frames, std::memory_order_release);
     takenOfFront_ += frames;

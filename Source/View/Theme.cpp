@@ -20,9 +20,9 @@ Theme::Shade currentShade = Theme::Shade::Light;
 
 // Fusion draws the outline of an empty check box as a darker shade of the window, which is nearly invisible on a dark
 // one.
-class HouseStyle : public QProxyStyle {
+class SonaphexStyle : public QProxyStyle {
 public:
-    HouseStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
+    SonaphexStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override {
@@ -216,7 +216,7 @@ void apply(Shade shade) {
 }
 
 void install(QApplication& application, Platform::ColorScheme* scheme) {
-    QApplication::setStyle(new HouseStyle);
+    QApplication::setStyle(new SonaphexStyle);
     QFont font = QApplication::font();
     if (QFontDatabase::hasFamily(u"Inter"_s))
         font.setFamily(u"Inter"_s);

@@ -89,8 +89,8 @@ void PipeWireConnection::onServerGone() {
         return;
     connected_ = false;
     lastError_ = u"the sound server went away"_s;
-    const std::vector<Client*> told(clients_.rbegin(), clients_.rend());
-    for (auto* each : told)
+    const std::vector<Client*> clients(clients_.rbegin(), clients_.rend());
+    for (auto* each : clients)
         each->serverLost();
     coreListener_.remove();
     core_.reset();

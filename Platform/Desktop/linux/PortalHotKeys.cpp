@@ -242,10 +242,10 @@ private:
     void refuse(const Handles& refused) {
         for (const Handle handle : refused)
             registrations_.erase(handle);
-        const auto told = refusedHandler_; // the handler may register another combination
+        const auto handler = refusedHandler_; // the handler may register another combination
         for (const Handle handle : refused)
-            if (told)
-                told(handle);
+            if (handler)
+                handler(handle);
     }
     /// The portal bound nothing because of the new combinations. Bind those that it granted before again, without the
     /// new ones.

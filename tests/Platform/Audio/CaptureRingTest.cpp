@@ -58,15 +58,15 @@ std::vector<float> copyOf(const CycleAssembler& assembler, const CaptureCycle& c
 }
 
 /// An address range; the end is not included.
-using Stretch = std::pair<std::uintptr_t, std::uintptr_t>;
+using AddressRange = std::pair<std::uintptr_t, std::uintptr_t>;
 
 /// The writable memory mappings of this process, in order.
-std::vector<Stretch> memoryTaken() {
-    std::vector<Stretch> all;
+std::vector<AddressRange> memoryTaken() {
+    std::vector<AddressRange> all;
     std::ifstream maps("/proc/self/maps");
     for (std::string line; std::getline(maps, line);) {
         std::istringstream words(line);
-        Stretch each;
+        AddressRange each;
         char dash = 0;
         std::string rights;
         words >> std::hex >> each.first >> dash >> each.second >> rights;
@@ -77,8 +77,8 @@ std::vector<Stretch> memoryTaken() {
 }
 
 /// The parts of @p all that lie outside @p others.
-std::vector<Stretch> without(const std::vector<Stretch>& all, const std::vector<Stretch>& others) {
-    std::vector<Stretch> left;
+std::vector<AddressRange> without(const std::vector<AddressRange>& all, const std::vector<AddressRange>& others) {
+    std::vector<AddressRange> left;
     for (auto [begin, end] : all) {
         for (const auto& [otherBegin, otherEnd] : others) {
             if (otherEnd <= begin || otherBegin >= end)
@@ -93,18 +93,18 @@ std::vector<Stretch> without(const std::vector<Stretch>& all, const std::vector<
     return left;
 }
 
-std::size_t sizeOf(const std::vector<Stretch>& stretches) {
+std::size_t sizeOf(const std::vector<AddressRange>& ranges) {
     std::size_t sum = 0;
-    for (const auto& [begin, end] : stretches)
+    for (const auto& [begin, end] : ranges)
         sum += end - begin;
     return sum;
 }
 
 /// Bytes of these ranges whose pages are resident.
-std::size_t occupied(const std::vector<Stretch>& stretches) {
+std::size_t occupied(const std::vector<AddressRange>& ranges) {
     const auto page = std::size_t(sysconf(_SC_PAGESIZE));
     std::size_t pages = 0;
-    for (const auto& [begin, end] : stretches) {
+    for (const auto& [begin, end] : ranges) {
         std::vector<unsigned char> there((end - begin) / page);
         EXPECT_EQ(mincore(reinterpret_cast<void*>(begin), end - begin, there.data()), 0) << std::strerror(errno);
         pages += std::size_t(std::ranges::count_if(there, [](unsigned char each) { return (each & 1) != 0; }));

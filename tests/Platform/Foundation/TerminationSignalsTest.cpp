@@ -33,27 +33,27 @@ private:
 } // namespace
 
 TEST(TerminationSignals, ReportsEachSignalOnTheMainThread) {
-    QList<int> told;
-    const Platform::TerminationSignals signals([&](int signal) { told.append(signal); });
+    QList<int> received;
+    const Platform::TerminationSignals signals([&](int signal) { received.append(signal); });
     raise(SIGHUP);
     raise(SIGTERM);
-    EXPECT_TRUE(waitFor([&] { return told.size() == 2; }));
-    EXPECT_EQ(told, (QList<int>{SIGHUP, SIGTERM}));
+    EXPECT_TRUE(waitFor([&] { return received.size() == 2; }));
+    EXPECT_EQ(received, (QList<int>{SIGHUP, SIGTERM}));
 }
 
 TEST(TerminationSignals, KeepsIgnoredSignalsIgnored) {
     const Disposition hangUp(SIGHUP, SIG_IGN);
     const Disposition interrupt(SIGINT, SIG_IGN);
-    QList<int> told;
+    QList<int> received;
     {
-        const Platform::TerminationSignals signals([&](int signal) { told.append(signal); });
+        const Platform::TerminationSignals signals([&](int signal) { received.append(signal); });
         EXPECT_TRUE(Disposition::isIgnored(SIGHUP));
         EXPECT_TRUE(Disposition::isIgnored(SIGINT));
         raise(SIGHUP);
         raise(SIGINT);
         raise(SIGTERM);
-        EXPECT_TRUE(waitFor([&] { return !told.isEmpty(); }));
+        EXPECT_TRUE(waitFor([&] { return !received.isEmpty(); }));
     }
-    EXPECT_EQ(told, QList<int>{SIGTERM});
+    EXPECT_EQ(received, QList<int>{SIGTERM});
     EXPECT_TRUE(Disposition::isIgnored(SIGHUP)) << "also afterwards";
 }

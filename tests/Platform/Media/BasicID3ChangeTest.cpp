@@ -100,9 +100,9 @@ TEST_P(TagsOfShape, AreReadBackTheSameByEveryProgram) {
     EXPECT_EQ(probed[u"genre"_s].toString(), u"Jazz, sort of"_s);
     EXPECT_EQ(mediainfo(file, u"Title"_s), title);
     EXPECT_EQ(mediainfo(file, u"Performer"_s), u"Жанна"_s);
-    const QString told = parsley(file);
-    EXPECT_TRUE(told.contains(u"\"©nam\" contains: "_s + title)) << qPrintable(told);
-    EXPECT_TRUE(told.contains(u"\"©day\" contains: 1999"_s));
+    const QString printed = parsley(file);
+    EXPECT_TRUE(printed.contains(u"\"©nam\" contains: "_s + title)) << qPrintable(printed);
+    EXPECT_TRUE(printed.contains(u"\"©day\" contains: 1999"_s));
     EXPECT_EQ(Mpeg4Files::audioOf(file), audio);
     EXPECT_TRUE(leftOver().isEmpty());
 }
@@ -152,9 +152,9 @@ TEST_F(Tags, WithoutAValueAreNotWritten) {
     ASSERT_TRUE(tags);
     EXPECT_TRUE(tags->title.isEmpty());
     EXPECT_EQ(tags->year, 0);
-    const QString told = parsley(path());
+    const QString printed = parsley(path());
     for (const QString& name : {u"©nam"_s, u"©ART"_s, u"©alb"_s, u"©day"_s, u"©gen"_s})
-        EXPECT_FALSE(told.contains(name)) << qPrintable(name);
+        EXPECT_FALSE(printed.contains(name)) << qPrintable(name);
 }
 
 TEST_F(Tags, OfAnotherProgramAreReadTheSame) {

@@ -234,11 +234,11 @@ std::int64_t InputFile::lengthFrames() {
 }
 
 void InputFile::findLength() {
-    const bool told = stream_->duration != AV_NOPTS_VALUE && stream_->duration > 0 &&
-                      format_->duration_estimation_method != AVFMT_DURATION_FROM_BITRATE;
+    const bool hasDuration = stream_->duration != AV_NOPTS_VALUE && stream_->duration > 0 &&
+                             format_->duration_estimation_method != AVFMT_DURATION_FROM_BITRATE;
     if (facts_.validFrames)
         length_ = *facts_.validFrames;
-    else if (told && timestampsAreExact())
+    else if (hasDuration && timestampsAreExact())
         length_ = inFrames(stream_->duration);
     else
         countPackets();

@@ -48,7 +48,7 @@ public:
     IndexWriter(int fd, const Mpeg4Layout& layout) : fd_(fd), layout_(layout), old_(layout.moov()) {}
 
     bool write(const QByteArray& index) {
-        if (!tidyUp())
+        if (!removeLeftovers())
             return false;
         const auto room = std::ranges::find_if(layout_.boxes, [&](const Mpeg4Box& box) {
             const std::int64_t rest = box.length - index.size();
@@ -66,7 +66,7 @@ private:
     bool sync() const { return ::fdatasync(fd_) == 0 || errno == EINVAL; }
 
     /// Removes the rest of an interrupted save, so that no stale index can become the first one.
-    bool tidyUp() {
+    bool removeLeftovers() {
         if (FileBytes(fd_).size() > layout_.end && ::ftruncate(fd_, layout_.end) != 0)
             return false;
         bool changed = false;
