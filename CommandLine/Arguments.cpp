@@ -25,7 +25,7 @@ double Arguments::seconds(const QString& option, double otherwise) {
     const auto seconds = parser_.value(option).toDouble(&isNumber);
     // Longer than 68 years is a mistake, and millisecond counters would overflow.
     if (!isNumber || !(seconds >= 0 && seconds <= std::numeric_limits<std::int32_t>::max())) {
-        problem_ = u"--%1: %2 is no time in seconds"_s.arg(option, parser_.value(option));
+        problem_ = u"--%1: %2 is not a time in seconds"_s.arg(option, parser_.value(option));
         return otherwise;
     }
     return seconds;
@@ -37,7 +37,7 @@ int Arguments::whole(const QString& option, int otherwise) {
     bool isNumber = false;
     const int number = parser_.value(option).toInt(&isNumber);
     if (!isNumber || number < 0) {
-        problem_ = u"--%1: %2 is no whole number"_s.arg(option, parser_.value(option));
+        problem_ = u"--%1: %2 is not a whole number"_s.arg(option, parser_.value(option));
         return otherwise;
     }
     return number;

@@ -178,9 +178,9 @@ const Command burnCommand{
     "burn sound files as an audio CD, one track each, or write a disc image",
     {{"drive", "NAME", "The drive, by its name or its path (\"sonaphex drives\" lists them).", "the first drive"},
      {"image", "FILE", "Write FILE.cue and FILE.bin instead of a disc. Existing files are never replaced."},
-     {"eject", "", "Put the disc out when it is done."},
+     {"eject", "", "Eject the disc when it is done."},
      kJsonOption},
-    {{"burn one.m4a two.m4a --eject", "Burn two tracks and put the disc out."},
+    {{"burn one.m4a two.m4a --eject", "Burn two tracks and eject the disc."},
      {"burn *.m4a --image concert", "Write concert.cue and concert.bin."}},
     run};
 

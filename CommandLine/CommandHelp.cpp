@@ -75,7 +75,7 @@ QString overview(const Commands& commands) {
     for (const auto& [name, command] : commands)
         text += u"  %1 %2\n"_s.arg(name.leftJustified(12), QString::fromUtf8(command->summary));
     return text +
-           u"\n\"sonaphex COMMAND --help\" tells the options of a command, \"sonaphex --version\" the version.\n"_s;
+           u"\n\"sonaphex COMMAND --help\" lists the options of a command, \"sonaphex --version\" the version.\n"_s;
 }
 
 } // namespace CommandHelp

@@ -130,7 +130,7 @@ int run(const QStringList& given) {
     if (arguments.isSet(u"to"_s) && task.to < 0.1)
         return wrongUsage(convertCommand, u"--to is a tenth of a second or more"_s);
     if (arguments.isSet(u"to"_s) && task.to <= task.from)
-        return wrongUsage(convertCommand, u"--to lies before --from"_s);
+        return wrongUsage(convertCommand, u"--to is before --from"_s);
     return convert(task);
 }
 

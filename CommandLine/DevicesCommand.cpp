@@ -75,11 +75,8 @@ int run(const QStringList& given) {
 
 } // namespace
 
-const Command devicesCommand{"devices",
-                             "",
-                             "list what can be recorded from",
-                             {kJsonOption},
-                             {{"devices --json", "List the devices for a script."}},
-                             run};
+const Command devicesCommand{
+    "devices", "", "list the input devices", {kJsonOption}, {{"devices --json", "List the devices for a script."}},
+    run};
 
 } // namespace CommandLine

@@ -16,7 +16,7 @@ QString tellLibrary(const QString& path, const Dictionary& changed, const QStrin
     if (const auto answer = askWindow(MediaLibraryRequests::retagRequest(path, changed))) {
         stored = MediaLibraryRequests::retaggingOf(*answer);
         if (!stored)
-            return done + u", but the running program does not understand: it is of another version"_s;
+            return done + u", but the running program does not know this request: it is another version"_s;
     } else {
         stored = MediaLibraryRequests::retag(path, changed);
     }

@@ -79,7 +79,7 @@ int remove(const QStringList& keys, bool json) {
     if (const auto answer = askWindow(MediaLibraryRequests::removeRequest(keys))) {
         const auto removed = MediaLibraryRequests::removalOf(*answer);
         if (!removed)
-            return fail(u"the running program does not understand: it is of another version"_s);
+            return fail(u"the running program does not know this request: it is another version"_s);
         removal = *removed;
     } else {
         removal = MediaLibraryRequests::remove(keys);

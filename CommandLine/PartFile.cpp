@@ -22,7 +22,7 @@ QString PartFile::problem() const {
     if (!QFileInfo(info.path()).isDir())
         return u"%1: no such folder"_s.arg(info.path());
     if (info.exists() && !info.isFile())
-        return u"%1: something stands there that is no file"_s.arg(target_); // a device, a pipe
+        return u"%1: that path is not a regular file"_s.arg(target_); // a device, a pipe
     if (!overwrite_ && (info.exists() || info.isSymLink()))
         return u"%1: exists already (--overwrite replaces it)"_s.arg(target_);
     return {};

@@ -177,7 +177,7 @@ void RecordingRun::addRecordFile(const QString& path, const Dictionary& tags) {
     MediaLibrary library;
     library.addRecordFile(entry);
     if (!Platform::services().userDefaults->flush()) {
-        const QString problem = u"%1 could not be entered into the library"_s.arg(path);
+        const QString problem = u"%1 could not be added to the library"_s.arg(path);
         if (problem_.isEmpty())
             problem_ = problem;
         else

@@ -62,7 +62,7 @@ QString tellLibrary(const QString& path, const Dictionary& tags) {
     if (const auto answer = askWindow(MediaLibraryRequests::addRingtoneRequest(path, tags))) {
         stored = MediaLibraryRequests::addingOf(*answer);
         if (!stored)
-            return u"%1 is made, but the running program does not understand: it is of another version"_s.arg(path);
+            return u"%1 is made, but the running program does not know this request: it is another version"_s.arg(path);
     } else {
         stored = MediaLibraryRequests::addRingtone(path, tags);
     }
@@ -131,7 +131,7 @@ int run(const QStringList& given) {
     if (!arguments.isSet(u"from"_s) || !arguments.isSet(u"to"_s))
         return wrongUsage(ringtoneCommand, u"ringtone needs --from and --to"_s);
     if (task.to <= task.from)
-        return wrongUsage(ringtoneCommand, u"--to does not lie behind --from"_s);
+        return wrongUsage(ringtoneCommand, u"--to is not after --from"_s);
     task.source = QFileInfo(arguments.positional().first()).absoluteFilePath();
     return make(task, arguments.isSet(u"json"_s));
 }
@@ -141,7 +141,7 @@ int run(const QStringList& given) {
 const Command ringtoneCommand{
     "ringtone",
     "FILE",
-    "make a ringtone of a stretch of a recording and add it to the library",
+    "make a ringtone from a range of a recording and add it to the library",
     {{"from", "S", "Begin at second S of the recording."},
      {"to", "S", "End at second S of the recording."},
      {"fade-in", "S", "Fade in over S seconds; a fade shorter than one second is left out.", "5"},

@@ -81,7 +81,7 @@ int run(const QStringList& given) {
     const QString yearText = arguments.value(u"year"_s);
     const int year = yearText.isEmpty() ? 0 : yearText.toInt(&isYear);
     if (!isYear)
-        return wrongUsage(tagCommand, u"--year: %1 is no number"_s.arg(yearText));
+        return wrongUsage(tagCommand, u"--year: %1 is not a number"_s.arg(yearText));
 
     QString why;
     auto tags = BasicID3Change::read(path);

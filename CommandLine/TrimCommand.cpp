@@ -113,7 +113,7 @@ int run(const QStringList& given) {
     if (!arguments.isSet(u"from"_s) && !arguments.isSet(u"to"_s))
         return wrongUsage(trimCommand, u"trim takes --from, --to or both"_s);
     if (arguments.isSet(u"to"_s) && to - from < AudioTrimSave::kShortestRange)
-        return wrongUsage(trimCommand, u"--to lies at least a tenth of a second behind --from"_s);
+        return wrongUsage(trimCommand, u"--to must be at least a tenth of a second after --from"_s);
     if (arguments.isSet(u"save-as"_s) && arguments.value(u"save-as"_s).isEmpty())
         return wrongUsage(trimCommand, u"--save-as names no file"_s);
     EditNote::recover(MediaLibraryRequests::retag);

@@ -25,7 +25,7 @@ bool exists(const QString& path) {
 /// @return the error; empty on success
 QString land(const QString& temporary, const Task& task, bool replace, QString& landed) {
     if (task.target.isEmpty())
-        return u"no place for ringtones is known"_s;
+        return u"no folder for ringtones is known"_s;
     if (replace) {
         // Renames over the old file, so that a file exists at every moment.
         if (const auto copied = Platform::FileManager::copy(temporary, task.target, true); !copied)

@@ -268,7 +268,7 @@ void RingtoneMakerViewController::updateEnabled() {
     ui_->makeButton->setEnabled(idle && readable && ui_->audioWaveTrimView->audioLength() >= 1);
     ui_->makeButton->setToolTip(!readable                      ? tr("This recording cannot be read.")
                                 : ui_->makeButton->isEnabled() ? QString()
-                                                               : tr("Select a stretch of the recording first."));
+                                                               : tr("Select a part of the recording first."));
 }
 
 void RingtoneMakerViewController::showProblem(const QString& text) {

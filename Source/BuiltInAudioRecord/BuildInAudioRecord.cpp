@@ -107,7 +107,7 @@ bool BuildInAudioRecord::configureAudioUnit(AudioObjectID device) {
     bool found = false;
     auto opened = Platform::services().audioHardware->openOutputUnit(found);
     if (!opened)
-        return fail(found ? "the input unit does not open" : "there is no input unit");
+        return fail(found ? "the input unit cannot be opened" : "there is no input unit");
     {
         const std::lock_guard lock(mutex_);
         lastError_.clear();
@@ -124,7 +124,7 @@ bool BuildInAudioRecord::configureAudioUnit(AudioObjectID device) {
     if (unit.setCurrentDevice(device) != noErr)
         return fail("the device cannot be used");
     if (unit.setInputCallback(&BuildInAudioRecord::AudioInputProc, this) != noErr)
-        return fail("the device does not call back");
+        return fail("the device accepts no callback");
     if (unit.getDeviceFormat(deviceFormat_) != noErr)
         return fail("the device's format cannot be read");
 

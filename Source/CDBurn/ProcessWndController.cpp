@@ -129,7 +129,7 @@ void ProcessWndController::burnProcess(const Dictionary& userInfo) {
     }
     if (percent >= kCancelFromPercent && !finished_) {
         ui_->btnCancel_->setEnabled(true);
-        ui_->btnCancel_->setToolTip(tr("Stops the burn; the disc is spoilt."));
+        ui_->btnCancel_->setToolTip(tr("Stops the burn; the disc is then unusable."));
     }
     ui_->lblMessage_->setText(kBurning);
     // Finer than the percentage, so that the bar moves visibly for a whole disc.

@@ -87,7 +87,7 @@ void ID3EditWndController::runModal() {
 void ID3EditWndController::chooseImageForArtwork() {
     if (const auto path = Platform::services().panels->chooseFile(window_, tr("Choose"), {}, {}))
         if (!ui_->artworkView_->hasImageFile({*path}))
-            (void)Platform::services().alerts->runModal(tr("This file is no picture."), *path, {u"OK"_s});
+            (void)Platform::services().alerts->runModal(tr("This file is not a picture."), *path, {u"OK"_s});
 }
 
 void ID3EditWndController::controlTextDidEndEditing() {

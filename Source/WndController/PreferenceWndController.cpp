@@ -351,11 +351,11 @@ void PreferenceWndController::showHotKeyWay() {
     for (QWidget* field : std::initializer_list<QWidget*>{startStopShortcut(), pauseResumeShortcut(),
                                                           startNewRecordShortcut(), ui_->defaultShortcutsButton}) {
         field->setEnabled(works);
-        field->setToolTip(works ? QString() : tr("This desktop lets no program take keys for the whole system."));
+        field->setToolTip(works ? QString() : tr("This desktop does not allow global shortcuts."));
     }
     ui_->hotKeyHint->setVisible(!works);
     ui_->hotKeyCommands->setVisible(!works);
-    ui_->hotKeyHint->setText(tr("This desktop lets no program take keys for the whole system. Bind these commands to "
+    ui_->hotKeyHint->setText(tr("This desktop does not allow global shortcuts. Bind these commands to "
                                 "keys in the desktop's own keyboard settings:"));
     ui_->hotKeyCommands->setText(
         u"sonaphex control start-stop\nsonaphex control pause-resume\nsonaphex control split"_s);

@@ -161,10 +161,10 @@ TEST_F(BurnCommandTest, WaitsForTheDriveAfterAnInterrupt) {
         std::raise(SIGINT);
         QTimer::singleShot(200, [&] {
             wasAsked = burn.aborts == 1;
-            burn.state = {DRStatusStateFailed, 0.5, u"it was stopped before the end: the disc may be spoilt"_s};
+            burn.state = {DRStatusStateFailed, 0.5, u"it was stopped before the end: the disc may be unusable"_s};
         });
     });
-    expectFailure({u"/a.wav"_s}, u"it was stopped before the end: the disc may be spoilt"_s);
+    expectFailure({u"/a.wav"_s}, u"it was stopped before the end: the disc may be unusable"_s);
     EXPECT_TRUE(wasAsked);
     EXPECT_EQ(discs.lastBurn()->aborts, 1);
 }

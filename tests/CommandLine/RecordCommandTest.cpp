@@ -270,7 +270,7 @@ TEST_F(RecordCommandTest, FailsWhenTheLibraryCannotBeStored) {
     defaults.flushFails = true;
     EXPECT_EQ(record({u"--for"_s, u"6"_s}), CommandLine::Failed);
     EXPECT_EQ(out, folder + u"/Track0.m4a\n"_s);
-    EXPECT_EQ(err, u"sonaphex: %1/Track0.m4a could not be entered into the library: what was recorded is kept in "
+    EXPECT_EQ(err, u"sonaphex: %1/Track0.m4a could not be added to the library: what was recorded is kept in "
                    "%1/Track0.m4a\n"_s.arg(folder));
 }
 

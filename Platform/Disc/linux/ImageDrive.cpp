@@ -109,7 +109,7 @@ void ImageBurn::writeLayout(const std::optional<DRLayout>& layout) {
         return;
     }
     if (path_.isEmpty())
-        return fail(u"nobody said where the disc image goes"_s);
+        return fail(u"no path was given for the disc image"_s);
     const ImagePaths paths(path_);
     if (const QString problem = paths.problem(); !problem.isEmpty())
         return fail(problem);

@@ -156,7 +156,7 @@ void OpticalBurn::writeLayout(const std::optional<DRLayout>& layout) {
 }
 
 QString OpticalBurn::run(const DRLayout& layout, const std::stop_token& stop) {
-    const QString stopped = u"it was stopped before the end: the disc may be spoilt"_s;
+    const QString stopped = u"it was stopped before the end: the disc may be unusable"_s;
     report(DRStatusStatePreparing, -1);
     const bool isAudio = std::dynamic_pointer_cast<AudioTrack>(layout.front()) != nullptr;
     std::optional<TrackFeed> feed;
@@ -215,7 +215,7 @@ QString OpticalBurn::run(const DRLayout& layout, const std::stop_token& stop) {
         std::this_thread::sleep_for(kBetweenLooks);
     }
     if (feed && feed->error())
-        return feed->error().text + u" (the disc is spoilt)"_s;
+        return feed->error().text + u" (the disc is unusable)"_s;
     if (aborted_ && cancelled)
         return stopped;
     if (burn_drive_wrote_well(drive.get()) != 1)

@@ -69,7 +69,7 @@ bool OpticalDrive::ejectMedia() {
         return false;
     library_.post([path = found_.path](const std::stop_token&) {
         if (const QString problem = LibBurn::eject(path); !problem.isEmpty())
-            qCWarning(discLog, "%s: the disc cannot be put out: %s", qUtf8Printable(path), qUtf8Printable(problem));
+            qCWarning(discLog, "%s: the disc cannot be ejected: %s", qUtf8Printable(path), qUtf8Printable(problem));
     });
     return true;
 }

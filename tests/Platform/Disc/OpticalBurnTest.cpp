@@ -263,7 +263,7 @@ TEST_F(OpticalBurnTest, AbortsOnceAndOnlyWhileItWrites) {
     burn->abort();
     burn->abort();
     ASSERT_TRUE(waitFor([&] { return watch->ended(); }));
-    EXPECT_EQ(burn->status().reason, u"it was stopped before the end: the disc may be spoilt"_s);
+    EXPECT_EQ(burn->status().reason, u"it was stopped before the end: the disc may be unusable"_s);
     EXPECT_EQ(burner.cancels, 1);
     EXPECT_EQ(burner.cancelsAtTheWrongTime, 0);
     EXPECT_EQ(callsOfTheBurn().last(), u"release 0"_s);

@@ -134,7 +134,7 @@ bool saveCopy(const QString& source, const QString& destination, const IndexEdit
     if (!edited)
         return false;
     if (QFileInfo::exists(destination) && !QFileInfo(destination).isFile()) {
-        why = u"something stands there that is no file"_s; // a device, a pipe, a folder
+        why = u"that path is not a regular file"_s; // a device, a pipe, a folder
         return false;
     }
     return makeAnew(destination, file.get(), edited->layout, edited->index, why);
