@@ -183,7 +183,7 @@ void AudioWaveViewController::showTab() {
     if (!view_)
         return;
     ui_->tabView->setCurrentWidget(tabViewShowWave_ ? ui_->recordPage : ui_->playPage);
-    // While something is recorded, its state and time stay beside the playback side too.
+    // During a recording, its state and time are also shown on the playback side.
     ui_->recordTextView->setVisible(tabViewShowWave_ || recordState_ != RecordState::Idle);
 }
 

@@ -85,8 +85,8 @@ public:
     /// frame while sound is written.
     void setRecordState(RecordState state, bool isRecording);
     [[nodiscard]] RecordState recordState() const { return recordState_; }
-    /// One sentence above the level history: what an armed recording waits for, or why nothing is heard. Empty hides
-    /// it.
+    /// One sentence above the level history: what an armed recording waits for, or why there is no sound. An empty text
+    /// hides it.
     void setHint(const QString& hint);
     [[nodiscard]] QString hint() const { return hint_; }
 

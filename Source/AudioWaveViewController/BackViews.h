@@ -9,7 +9,7 @@ class AudioWaveformBackView : public QWidget {
     Q_OBJECT
 public:
     explicit AudioWaveformBackView(QWidget* parent = nullptr);
-    /// A red frame, for as long as sound is recorded.
+    /// A red frame while sound is recorded.
     void setRecording(bool recording);
 
 protected:

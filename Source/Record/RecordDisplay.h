@@ -14,8 +14,8 @@ struct RecordDisplay {
 
     /// @p recordState 0 stopped, 1 recording, 2 paused; @p seconds of the current file.
     [[nodiscard]] static RecordDisplay of(int recordState, float seconds, bool blinkOn);
-    /// State and time in a few words, for places outside of the display; empty while nothing is recorded. Hours are
-    /// shown. @p seconds of the current file.
+    /// State and time in a few words, for use outside the display; empty while nothing is recorded. Hours are shown. @p
+    /// seconds of the current file.
     [[nodiscard]] static QString headline(RecordState state, double seconds);
     /// The phase of everything that blinks; it changes every half second.
     [[nodiscard]] static bool blinkOn(double timeIntervalSinceReferenceDate);

@@ -31,7 +31,7 @@ namespace Glass {
 [[nodiscard]] QColor level();
 /// Background of a button under the pointer.
 [[nodiscard]] QColor button();
-/// Of the frame, while sound is recorded.
+/// Colour of the frame while sound is recorded.
 [[nodiscard]] QColor recording();
 } // namespace Glass
 

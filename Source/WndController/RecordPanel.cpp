@@ -82,7 +82,7 @@ void RecordPanel::initToopTip() {
 
 void RecordPanel::showState() {
     ui_.btnSatrtRecord_->setEnabled(record_.isStateAudioCanStartRecord());
-    // The filled disc means that sound is being recorded at this moment.
+    // The filled disc means that sound is being recorded right now.
     const RecordState state = record_.state();
     wasRecording_ = isRecording();
     const bool waits = record_.isStateAudioRecord() && !isRecording();
@@ -121,7 +121,7 @@ void RecordPanel::showDisplay() {
     showHealth();
 }
 
-/// What the window's title and the display say besides the level, and how many frames were lost.
+/// Updates the window's title, the texts in the display, and the number of lost frames.
 void RecordPanel::showHealth() {
     const QString headline = record_.headline();
     ui_.contentView_->window()->setWindowTitle(headline.isEmpty() ? QStringLiteral("Sonaphex")

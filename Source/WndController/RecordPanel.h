@@ -33,7 +33,7 @@ private:
     void showState();
     void showDisplay();
     void showHealth();
-    /// The sentence in the display; empty when sound comes and nothing is waited for.
+    /// The sentence in the display; empty when there is sound and nothing is waited for.
     [[nodiscard]] QString hint() const;
     void showDevices();
     void showDeviceToolTip();

@@ -12,7 +12,7 @@
 class MainWndController;
 enum class RecordState;
 
-/// The program's item in the desktop's status bar: an image whose shape tells the state of the recording, state and
+/// The program's item in the desktop's status bar: an image whose shape shows the state of the recording, state and
 /// time as tool tip, and a menu with the three recording commands. Without a status bar nothing is shown until one
 /// appears; when a bar restarts, it gets the item again. Main thread.
 class StatusBarItem : public QObject {
@@ -49,5 +49,5 @@ private:
     QAction* startNewRecordMenu_;
     std::unique_ptr<Platform::StatusBars> bars_;
     std::unique_ptr<QSystemTrayIcon> icon_;
-    QString image_; ///< name of the one that is shown
+    QString image_; ///< name of the shown image
 };

@@ -165,7 +165,7 @@ TEST_F(MainWindowOnADesktop, TheStatusBarItemShowsTheTitlesOfTheState) {
         });
     };
     ASSERT_TRUE(waitFor(isThere)) << "the tray came after the program";
-    // The shape tells the state, and the tool tip says it with the time.
+    // The shape shows the state, and the tool tip contains the state and the time.
     const auto shape = [&] { return item->icon()->icon().pixmap(20, 20).toImage().createAlphaMask(); };
     const QImage atRest = shape();
     EXPECT_FALSE(atRest.isNull());

@@ -99,7 +99,7 @@ protected:
 
 } // namespace
 
-TEST_F(PlayerOnTheBus, IsSteeredByPlayerctl) {
+TEST_F(PlayerOnTheBus, IsControlledByPlayerctl) {
     EXPECT_EQ(runTool(u"playerctl"_s, {u"-l"_s}).output.trimmed(), "sonaphex");
     EXPECT_EQ(playerctl({u"status"_s}), "Stopped");
     playerctl({u"play"_s});
@@ -131,7 +131,7 @@ TEST_F(PlayerOnTheBus, IsSteeredByPlayerctl) {
     EXPECT_TRUE(statusBecomes("Stopped"));
 }
 
-TEST_F(PlayerOnTheBus, TellsChangesBySignalAndTheCoverAsAFile) {
+TEST_F(PlayerOnTheBus, SignalsChangesAndPublishesTheCoverAsAFile) {
     Monitor monitor;
     ASSERT_TRUE(monitor.listens());
     playerctl({u"play"_s});
@@ -157,7 +157,7 @@ TEST_F(PlayerOnTheBus, TellsChangesBySignalAndTheCoverAsAFile) {
     EXPECT_FALSE(QFile::exists(user.folder.filePath(u".cache/com.korvane.Sonaphex/cover"_s)));
 }
 
-TEST_F(PlayerOnTheBus, ARecordingDoesNotAppear) {
+TEST_F(PlayerOnTheBus, ARunningRecordingDoesNotAppear) {
     playerctl({u"play"_s});
     ASSERT_TRUE(statusBecomes("Playing"));
     ASSERT_TRUE(DesktopProgram::control(u"start-stop"_s));
@@ -170,7 +170,7 @@ TEST_F(PlayerOnTheBus, ARecordingDoesNotAppear) {
     EXPECT_EQ(DesktopProgram::state(), u"recording"_s);
 }
 
-TEST_F(PlayerOnTheBus, HasTheInterfacesThatTheBusIsToldOf) {
+TEST_F(PlayerOnTheBus, HasTheAnnouncedInterfaces) {
     const QByteArray said =
         runTool(u"gdbus"_s, {u"introspect"_s, u"--session"_s, u"--dest"_s, u"org.mpris.MediaPlayer2.sonaphex"_s,
                              u"--object-path"_s, u"/org/mpris/MediaPlayer2"_s})

@@ -55,7 +55,7 @@ protected:
 
 } // namespace
 
-TEST_F(UnpluggedMicrophone, FiftyTimesWhileNothingIsRecorded) {
+TEST_F(UnpluggedMicrophone, ReturnsFiftyTimesWhileIdle) {
     for (int round = 0; round < Times; ++round) {
         microphone.remove();
         ASSERT_TRUE(waitFor([&] { return devices().currentText() == tone; })) << seen(round);
@@ -73,7 +73,7 @@ TEST_F(UnpluggedMicrophone, FiftyTimesWhileNothingIsRecorded) {
     ASSERT_TRUE(waitFor([&] { return record().recordedSeconds() > 0.3; }));
 }
 
-TEST_F(UnpluggedMicrophone, FiftyTimesWhileItIsRecorded) {
+TEST_F(UnpluggedMicrophone, ReturnsFiftyTimesDuringARecording) {
     click("btnSatrtRecord_");
     ASSERT_TRUE(waitFor([&] { return record().recordedSeconds() > 0.2; }));
     for (int round = 0; round < Times; ++round) {

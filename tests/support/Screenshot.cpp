@@ -9,7 +9,7 @@
 namespace Screenshot {
 
 QImage take(QWidget& widget, const QString& name, qreal ratio) {
-    // Qt posts a change of the palette to the widgets: at once, the picture would still show the old one.
+    // Qt posts palette changes to the widgets; without this call the picture would show the old palette.
     QCoreApplication::sendPostedEvents();
     QImage image((QSizeF(widget.size()) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(ratio);

@@ -156,7 +156,7 @@ TEST(StretchEncoder, MayBeDestroyedBeforeTheEnd) {
     EXPECT_LT(packets.size(), 800u);
 }
 
-TEST(SerialEncoder, GivesTheSamePacketsHoweverTheFramesArrive) {
+TEST(SerialEncoder, GivesTheSamePacketsForAnyBlockSizes) {
     const Samples sound = strokes(1024 * 40 + 77);
     const auto atOnce = encodedInOneRun(sound, sound[0].size());
     EXPECT_EQ(atOnce.size(), 42U) << "40 whole packets, the rest, and the encoder's delay";
@@ -164,7 +164,7 @@ TEST(SerialEncoder, GivesTheSamePacketsHoweverTheFramesArrive) {
         EXPECT_EQ(encodedInOneRun(sound, step), atOnce) << step;
 }
 
-TEST(SerialEncoder, HasEachPacketAsSoonAsItsFramesAreThere) {
+TEST(SerialEncoder, DeliversEachPacketAsSoonAsItsFramesHaveArrived) {
     SerialEncoder encoder({.rowOf = {0, 1}});
     const std::vector<float> frames(1024, 0.1F);
     const std::array<const float*, 2> rows = {frames.data(), frames.data()};
@@ -175,7 +175,7 @@ TEST(SerialEncoder, HasEachPacketAsSoonAsItsFramesAreThere) {
     }
 }
 
-TEST(SerialEncoder, RefusesAShapeThatCannotBeEncoded) {
+TEST(SerialEncoder, RefusesAnUnsupportedRateOrChannelCount) {
     EXPECT_FALSE(SerialEncoder({.rate = 12345, .rowOf = {0, 1}}).valid());
     EXPECT_FALSE(StretchEncoder({.rate = 12345, .rowOf = {0, 1}, .workers = 2}).valid());
 }

@@ -234,7 +234,7 @@ TEST_F(LiveDisplay, TheBarIsFilledUpToTheCurrentTime) {
     EXPECT_GT(qRed(image.pixel(55, 10)), 220) << "the point stands on the border";
 }
 
-TEST_F(LiveDisplay, ThePointIsWholeAtBothEnds) {
+TEST_F(LiveDisplay, TheSeekPointIsCompleteAtBothEnds) {
     AudioPlayProgressView bar;
     bar.resize(110, 20);
     bar.setDuration(10);
@@ -372,7 +372,7 @@ TEST(BackViews, TheStripHasADarkCounterpart) {
     QApplication::setPalette(before);
 }
 
-TEST_F(LiveDisplay, APictureUnderThePointerStaysVisible) {
+TEST_F(LiveDisplay, AnImageUnderThePointerStaysVisible) {
     auto* button = field<QToolButton>("changeTabViewButton");
     for (const auto shade : {Theme::Shade::Light, Theme::Shade::Dark}) {
         Theme::apply(shade);

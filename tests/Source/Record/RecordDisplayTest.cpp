@@ -8,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-TEST(RecordDisplay, SaysReadyWhileNothingRecords) {
+TEST(RecordDisplay, ShowsReadyWhileNothingIsRecorded) {
     const auto on = RecordDisplay::of(0, 83, true);
     EXPECT_EQ(on.stateString, QStringLiteral("Ready"));
     EXPECT_EQ(on.timeString, QStringLiteral("00:00"));
@@ -38,7 +38,7 @@ TEST(RecordDisplay, BlinksTheSecondsWhilePaused) {
     EXPECT_EQ(off.timeString, QStringLiteral("01:"));
 }
 
-TEST(RecordDisplay, BeginsTheMinutesAnewAfterAnHour) {
+TEST(RecordDisplay, RestartsTheMinutesAfterAnHour) {
     EXPECT_EQ(RecordDisplay::of(1, 3599.5F, true).timeString, QStringLiteral("59:59"));
     EXPECT_EQ(RecordDisplay::of(1, 3600, true).timeString, QStringLiteral("00:00"));
     EXPECT_EQ(RecordDisplay::of(1, 3661, true).timeString, QStringLiteral("01:01"));
@@ -61,7 +61,7 @@ TEST(RecordDisplay, BlinksTheConvertingNotice) {
               QStringLiteral("         Audio File Converting\n         Please Wait "));
 }
 
-TEST(RecordDisplay, HeadlineTellsStateAndTimeWithHours) {
+TEST(RecordDisplay, HeadlineShowsStateAndTimeWithHours) {
     EXPECT_EQ(RecordDisplay::headline(RecordState::Idle, 5), QString());
     EXPECT_EQ(RecordDisplay::headline(RecordState::Armed, 0), u"Waiting for the first sound"_s);
     EXPECT_EQ(RecordDisplay::headline(RecordState::Recording, 192.5), u"Recording 03:12"_s);

@@ -146,7 +146,7 @@ TEST_F(RecordQueueTest, AFinishedFileBelowTheFilterTimeStaysButIsNotListed) {
     EXPECT_FALSE(listed);
 }
 
-TEST_F(RecordQueueTest, ClosingTheProgramWaitsUntilEachRecordingIsInTheLibrary) {
+TEST_F(RecordQueueTest, ClosingTheProgramWaitsUntilAllRecordingsAreInTheLibrary) {
     addMicrophone();
     begin();
     record();
@@ -157,7 +157,7 @@ TEST_F(RecordQueueTest, ClosingTheProgramWaitsUntilEachRecordingIsInTheLibrary) 
     EXPECT_TRUE(rawFiles().isEmpty());
 }
 
-TEST_F(RecordQueueTest, TheWindowAnswersWhileAFinishedFileIsMeasured) {
+TEST_F(RecordQueueTest, TheMainThreadRunsWhileAFinishedFileIsMeasured) {
     addMicrophone();
     begin();
     media.holdInfo = true;

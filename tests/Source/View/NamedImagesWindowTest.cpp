@@ -104,7 +104,7 @@ TEST(NamedImages, TwoPixelsPerPointDoubleThePixels) {
     EXPECT_EQ(sharp.devicePixelRatio(), 2.0);
 }
 
-TEST(NamedImages, APictureIsSharpAtOneAndAHalfPixelsAPoint) {
+TEST(NamedImages, AnImageIsSharpAtOneAndAHalfPixelsPerPoint) {
     // At an odd position a point begins in the middle of a pixel.
     const QIcon icon = NamedImages::icon(u"stop"_s, [](QIcon::Mode) { return QColor(Qt::black); });
     const auto drawn = [&](QPoint place) {
@@ -122,7 +122,7 @@ TEST(NamedImages, APictureIsSharpAtOneAndAHalfPixelsAPoint) {
     EXPECT_EQ(odd.copy(8, 8, 36, 36), even.copy(6, 6, 36, 36)) << "the same pixels, at a whole pixel";
 }
 
-TEST(NamedImages, AnIconOnAGroundOfItsOwnAsksForItsColorEachTime) {
+TEST(NamedImages, AnIconOnItsOwnBackgroundRequestsItsColorEachTime) {
     QColor color = Qt::green;
     const QIcon icon = NamedImages::icon(u"trim"_s, [&](QIcon::Mode) { return color; });
     EXPECT_TRUE(contains(icon.pixmap(QSize(48, 48), 1.0).toImage(), Qt::green));
@@ -130,7 +130,7 @@ TEST(NamedImages, AnIconOnAGroundOfItsOwnAsksForItsColorEachTime) {
     EXPECT_TRUE(contains(icon.pixmap(QSize(48, 48), 1.0).toImage(), Qt::magenta));
 }
 
-TEST(NamedImages, RecordingAndPlayingDoNotShareOnePauseSymbol) {
+TEST(NamedImages, RecordingAndPlaybackHaveDifferentPauseSymbols) {
     const QImage record = picture(u"RecorderPause.png"_s, Qt::black);
     EXPECT_TRUE(contains(record, QColor(0xe5383b))) << "the dot of a recording";
     EXPECT_FALSE(contains(picture(u"Pause.png"_s, Qt::black), QColor(0xe5383b)));

@@ -49,7 +49,7 @@ protected:
 
 } // namespace
 
-TEST_F(DesktopPlayer, TellsWhatPlaysAndEachChangeOnce) {
+TEST_F(DesktopPlayer, ReportsTheTrackAndEachChangeOnce) {
     ASSERT_TRUE(waitFor([&] { return desktop->state.canPlay; }));
     EXPECT_EQ(desktop->state.status, Status::Stopped);
     EXPECT_EQ(desktop->state.track, MediaPlayer::Track());
@@ -103,7 +103,7 @@ TEST_F(DesktopPlayer, PlaysPausesStopsAndSeeks) {
     EXPECT_EQ(desktop->jumps.last(), 0) << "from its beginning";
 }
 
-TEST_F(DesktopPlayer, GoesAlongTheShownListInItsOrder) {
+TEST_F(DesktopPlayer, FollowsTheOrderOfTheShownList) {
     auto& rows = library().tableModel();
     rows.sort(AudioTableModel::Title, Qt::DescendingOrder);
     ASSERT_TRUE(waitFor([&] { return titleAt(0) == u"Two"_s && titleAt(2) == u"One"_s; }));
@@ -123,7 +123,7 @@ TEST_F(DesktopPlayer, GoesAlongTheShownListInItsOrder) {
     EXPECT_TRUE(waitFor([&] { return !desktop->state.canGoNext && !desktop->state.canGoPrevious; }));
 }
 
-TEST_F(DesktopPlayer, SkipsFilesThatAreGone) {
+TEST_F(DesktopPlayer, SkipsMissingFiles) {
     playRow(0);
     ASSERT_TRUE(QFile::remove(pathOf(library().tableModel().entry(1))));
     desktop->commands->next();
@@ -156,7 +156,7 @@ TEST_F(DesktopPlayer, KeepsTheVolumeFromTrackToTrack) {
     EXPECT_FLOAT_EQ(sound().gain, 0.25F);
 }
 
-TEST_F(DesktopPlayer, ARecordingIsNoPlayerAndLetsNothingPlay) {
+TEST_F(DesktopPlayer, NothingCanBePlayedDuringARecording) {
     playRow(0);
     world.controller->startAndStopRecord();
     ASSERT_TRUE(world.record->isStateAudioRecord());
@@ -170,7 +170,7 @@ TEST_F(DesktopPlayer, ARecordingIsNoPlayerAndLetsNothingPlay) {
     EXPECT_TRUE(waitFor([&] { return desktop->state.canPlay && desktop->state.canQuit; }));
 }
 
-TEST_F(DesktopPlayer, NothingPlaysBesideAModalWindow) {
+TEST_F(DesktopPlayer, NothingPlaysDuringAModalWindow) {
     QDialog trim(world.controller->window());
     trim.setModal(true);
     trim.show();
@@ -179,7 +179,7 @@ TEST_F(DesktopPlayer, NothingPlaysBesideAModalWindow) {
     EXPECT_EQ(desktop->state.status, Status::Stopped);
 }
 
-TEST_F(DesktopPlayer, ARecordingThatIsRenamedWhileItPlaysIsToldAnew) {
+TEST_F(DesktopPlayer, ReportsARecordingThatIsRenamedWhileItPlays) {
     playRow(0);
     Dictionary entry = library().playingEntry();
     const auto track = desktop->state.track.number;

@@ -29,7 +29,7 @@ protected:
 
 } // namespace
 
-TEST_F(KeysOfTheWindow, AClickOnAButtonLeavesTheFocusInTheList) {
+TEST_F(KeysOfTheWindow, AClickOnAButtonKeepsTheFocusInTheList) {
     clickRow(1);
     ASSERT_TRUE(table().hasFocus());
     for (const char* name : {"btnSatrtRecord_", "btnPauseRecord_", "btnSplitRecord_", "btnSatrtRecord_"}) {
@@ -87,7 +87,7 @@ TEST_F(KeysOfTheWindow, SpaceNeverReachesTypeAhead) {
     world.controller->startAndStopRecord();
 }
 
-TEST_F(KeysOfTheWindow, EnterPressesTheButtonThatHasTheFocus) {
+TEST_F(KeysOfTheWindow, EnterPressesTheFocusedButton) {
     world.outlet("btnSatrtRecord_").setFocus(Qt::TabFocusReason);
     key(Qt::Key_Return);
     EXPECT_TRUE(world.controller->isStateAudioRecord());
@@ -100,7 +100,7 @@ TEST_F(KeysOfTheWindow, EnterPressesTheButtonThatHasTheFocus) {
     EXPECT_EQ(world.alerts.shown.size(), 1);
 }
 
-TEST_F(KeysOfTheWindow, ABoxAndAPopUpKeepSpace) {
+TEST_F(KeysOfTheWindow, ABoxAndAPopUpReceiveSpace) {
     auto& box = world.outlet<QAbstractButton>("btnBuiltInRecord_");
     box.setFocus(Qt::TabFocusReason);
     key(Qt::Key_Space);
