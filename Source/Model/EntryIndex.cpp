@@ -12,7 +12,7 @@
 
 namespace {
 
-// The index of so many entries is made in a millisecond.
+// Indexing this many entries takes a millisecond.
 constexpr qsizetype atOnce = 1000;
 
 } // namespace

@@ -8,22 +8,22 @@
 
 #include <future>
 
-/// Where the entry with a key stands in a long list, so that one more entry need not read a hundred thousand of them.
-/// The places are counted from the list's end: an entry that comes on top moves none of them. Main thread.
+/// Finds the entry with a key in a long list, so that adding an entry does not read a hundred thousand others.
+/// Positions are counted from the end of the list, so an entry inserted at the top does not change them. Main thread.
 class EntryIndex {
 public:
-    /// The list is another one now. The index is made when it is asked for the next time.
+    /// The list has changed. The index is rebuilt when it is next used.
     void forget();
-    /// Makes the index of the list on a worker, so that the next question finds it ready.
+    /// Builds the index of the list on a worker, so that it is ready for the next lookup.
     void prepare(const QVariantList& entries);
-    /// Whether prepare() was called once: the owner then calls it again after each forget().
+    /// Whether prepare() was called: the owner then calls it again after each forget().
     [[nodiscard]] bool isPrepared() const { return isPrepared_; }
 
-    /// The last entry with that key in @p entries, the list of this index; -1 when there is none.
+    /// The index of the last entry with that key in @p entries, the list of this index; -1 when there is none.
     [[nodiscard]] qsizetype lastIndexOf(const QString& key, const QVariantList& entries);
-    /// Whether each entry of the list has a key of its own.
+    /// Whether each entry of the list has a unique key.
     [[nodiscard]] bool isWhole(const QVariantList& entries);
-    /// An entry with a key that the list did not have came on top: @p entries is the list with it.
+    /// An entry with a new key was inserted at the top; @p entries is the list that includes it.
     void prepended(const QString& key, const QVariantList& entries);
 
 private:

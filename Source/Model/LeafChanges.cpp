@@ -17,7 +17,7 @@
 namespace LeafChanges {
 namespace {
 
-/// Equal for two entries that are the same one.
+/// Equal for two versions of the same entry.
 QByteArray identityOf(const QVariant& entry) {
     if (const QVariant key = AudioRecordEntry::keyOf(entry); key.isValid())
         return 'k' + Platform::stringForm(key).toUtf8();
@@ -27,7 +27,7 @@ QByteArray identityOf(const QVariant& entry) {
     return values;
 }
 
-/// Adds a row behind those that were added before.
+/// Adds a row behind the rows added before.
 void addRow(std::vector<LeafChange::Rows>& ranges, int row) {
     if (!ranges.empty() && ranges.back().last == row - 1)
         ranges.back().last = row;
@@ -35,7 +35,7 @@ void addRow(std::vector<LeafChange::Rows>& ranges, int row) {
         ranges.push_back({row, row});
 }
 
-/// For each row that stays, the place that it comes from, counted among those that stay.
+/// For each remaining row, its old position among the remaining rows.
 std::vector<int> permutationOf(const std::vector<int>& targets) {
     std::vector<int> order(targets.size());
     std::iota(order.begin(), order.end(), 0);
@@ -48,7 +48,7 @@ std::vector<int> permutationOf(const std::vector<int>& targets) {
 LeafChange between(const QVariantList& before, const QVariantList& after) {
     LeafChange change;
     change.entries = after;
-    // Long lists differ in a few rows: the rest is passed over without a look at a key.
+    // Long lists usually differ in a few rows only: equal rows at both ends are skipped without looking at keys.
     const auto top = std::mismatch(before.cbegin(), before.cend(), after.cbegin(), after.cend());
     const auto bottom = std::mismatch(before.crbegin(), std::make_reverse_iterator(top.first), after.crbegin(),
                                       std::make_reverse_iterator(top.second));
@@ -56,7 +56,7 @@ LeafChange between(const QVariantList& before, const QVariantList& after) {
     const int last = static_cast<int>(bottom.first.base() - before.cbegin());
     const int lastNow = static_cast<int>(bottom.second.base() - after.cbegin());
 
-    if (first == last || first == lastNow) { // as at every start and after every addition
+    if (first == last || first == lastNow) { // the case at every start and after every addition
         if (first < last)
             change.removed.push_back({first, last - 1});
         if (first < lastNow)
@@ -68,7 +68,7 @@ LeafChange between(const QVariantList& before, const QVariantList& after) {
     for (int row = first; row < lastNow; ++row)
         rowsNow[identityOf(after[row])].push_back(row);
 
-    std::vector<int> targets; // of the rows that stay, in their old order: where they stand now
+    std::vector<int> targets; // new positions of the remaining rows, in their old order
     std::vector<bool> isOld(static_cast<std::size_t>(lastNow - first));
     for (int row = first; row < last; ++row) {
         const auto found = rowsNow.find(identityOf(before[row]));

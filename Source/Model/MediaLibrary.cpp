@@ -225,7 +225,7 @@ void MediaLibrary::addAudio(const Dictionary& entry, QVariantList& toArray) {
     place(entry, toArray, lastIndexOfKey(stringForm(entry.value(AudioRecordEntry::NodeDataKey)), toArray));
 }
 
-/// Puts the entry into the place of the one at @p index, or on top when that is negative.
+/// Replaces the entry at @p index, or inserts the entry at the top when the index is negative.
 void MediaLibrary::place(const Dictionary& entry, QVariantList& toArray, qsizetype index) {
     Dictionary stored = entry;
     const QString key = stringForm(stored.value(AudioRecordEntry::NodeDataKey));
@@ -308,7 +308,7 @@ void MediaLibrary::updateLeaves() {
 
 void MediaLibrary::updateLeaf(MediaLibraryNode& leaf, Unchanged unchanged) {
     const LeafChange change = LeafChanges::between(leaf.leafNode(), contentOf(leaf.key()));
-    leaf.setLeafNode(change.entries); // also an equal one: shared with the collection, it is compared in no time
+    leaf.setLeafNode(change.entries); // also when equal: a list shared with the collection is compared quickly
     if (!change.isEmpty() || (unchanged == Unchanged::IsTold && !leaf.key().isEmpty()))
         Q_EMIT leafChanged(leaf.key(), change);
 }

@@ -33,8 +33,8 @@ public:
     void takeUpMediaLibraryList();
     /// Stores both collections and reloads every leaf.
     void saveMediaLibraryList();
-    /// Reads the collections' keys on a worker, so that the next addition to a long one takes no longer than to a short
-    /// one. Without it the first addition reads them.
+    /// Reads the collections' keys on a worker, so that the next addition to a long collection is as fast as to a short
+    /// one. Without this call the first addition reads them.
     void prepareForChanges();
     void loadDefaultMediaLibrary();
     void loadMediaLibraryNode(MediaLibraryNode& node);
@@ -70,8 +70,8 @@ public:
     void setCurrentNewArray(const QStringList& keys) { currentNewArray_ = keys; }
 
 Q_SIGNALS:
-    /// What changed in a leaf, with all its steps at once. The leaf has the new list when the signal comes; a leaf that
-    /// was loaded and did not change tells a change without steps.
+    /// All steps of a leaf's change. The leaf has the new list when the signal is emitted; a leaf that was loaded
+    /// without a change emits a change without steps.
     void leafChanged(const QString& leafKey, const LeafChange& change);
 
 private:
@@ -81,10 +81,10 @@ private:
     void updateLeaves();
     void updateLeavesAndStore();
     enum class Unchanged { IsTold, IsSilent };
-    /// Brings one leaf up to date with one signal.
+    /// Updates one leaf with one signal.
     void updateLeaf(MediaLibraryNode& leaf, Unchanged unchanged);
     [[nodiscard]] QVariantList contentOf(const QString& leafKey);
-    /// mediaNodes() of the new ones, without reading the whole list.
+    /// mediaNodes() of the new entries, without reading the whole list.
     [[nodiscard]] QVariantList newNodes(const QVariantList& entries, EntryIndex& index) const;
     void place(const Dictionary& entry, QVariantList& toArray, qsizetype index);
     static void replace(QVariantList& list, EntryIndex& index, const QVariantList& entries);

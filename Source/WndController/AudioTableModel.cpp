@@ -23,10 +23,10 @@ namespace {
 
 // Sorting this many texts takes about 2 ms; longer lists are sorted by the worker.
 constexpr qsizetype kSortAtOnce = 2000;
-// Each range of rows that comes or goes costs the views a pass over all rows. More ranges than these are brought
-// together at the list's end first.
+// For each range of inserted or removed rows the views go through all rows. More ranges than this are first moved
+// together at the end of the list.
 constexpr std::size_t kMostRanges = 64;
-// Finding a row's place by its text takes some 20 µs. More rows than these wait for the worker to sort the list.
+// Finding a row's position by its text takes about 20 µs. For more rows than this the worker sorts the list.
 constexpr std::size_t kMostPlaced = 200;
 
 QString sortText(const Dictionary& entry, int column) {
@@ -71,7 +71,7 @@ AudioTableModel::AudioTableModel(MediaLibrary& library, MissingFiles& missing, Q
     : QAbstractTableModel(parent), library_(library), missing_(missing) {
     worker_.setMaxThreadCount(1);
     connect(&library_, &MediaLibrary::leafChanged, this, [this](const QString& leaf, const LeafChange& change) {
-        // A leaf of a tree that was built anew may have the same key: the one that is shown shares the change's list.
+        // A leaf of a rebuilt tree may have the same key: only the shown leaf shares the change's list.
         if (node_ && leaf == node_->key() && node_->leafNode().constData() == change.entries.constData())
             apply(change);
     });
@@ -135,7 +135,7 @@ void AudioTableModel::apply(const LeafChange& change) {
         startSorting();
 }
 
-/// Ranges of neighbouring rows whose entry is marked.
+/// Ranges of adjacent rows whose entry is marked.
 std::vector<LeafChange::Rows> AudioTableModel::rowsOf(const std::vector<bool>& isMarked) const {
     std::vector<LeafChange::Rows> ranges;
     for (int row = 0; row < rows_; ++row) {
@@ -149,7 +149,7 @@ std::vector<LeafChange::Rows> AudioTableModel::rowsOf(const std::vector<bool>& i
     return ranges;
 }
 
-/// The rows of removed entries leave. entries_ still is the list before.
+/// Removes the rows of removed entries. entries_ is still the old list.
 void AudioTableModel::takeOut(const LeafChange& change) {
     if (change.removed.empty())
         return;
@@ -171,11 +171,11 @@ void AudioTableModel::takeOut(const LeafChange& change) {
     }
 }
 
-/// Exchanges the list. The rows stay as they are: each finds its entry in the new list.
+/// Replaces the list. The rows stay: each refers to its entry in the new list.
 void AudioTableModel::adopt(const LeafChange& change) {
     const auto isGone = marked(change.removed, entries_.size());
     const auto isNew = marked(change.inserted, change.entries.size());
-    Order stays; // places in the list before, in the order of the new one
+    Order stays; // old positions, in the order of the new list
     for (int source = 0; source < entries_.size(); ++source)
         if (!isGone[static_cast<std::size_t>(source)])
             stays.push_back(source);
@@ -220,7 +220,7 @@ void AudioTableModel::placeInLibraryOrder(const LeafChange& change) {
         insertRows(rows.first, placesOf({rows}));
 }
 
-/// New and edited entries go where the sorting wants them.
+/// Moves new and edited entries to their sorted positions.
 void AudioTableModel::placeSorted(const LeafChange& change) {
     const Order edited = placesOf(change.replaced);
     const Order added = placesOf(change.inserted);
@@ -248,7 +248,7 @@ void AudioTableModel::announceReplaced(const LeafChange& change) {
         return;
     auto ranges = rowsOf(marked(change.replaced, entries_.size()));
     if (ranges.size() > kMostRanges)
-        ranges = {{0, rows_ - 1}}; // the views draw only the rows that they show
+        ranges = {{0, rows_ - 1}}; // the views redraw only the visible rows
     for (const auto& rows : ranges)
         Q_EMIT dataChanged(index(rows.first, 0), index(rows.last, ColumnCount - 1));
 }
@@ -480,7 +480,7 @@ void AudioTableModel::applyOrder(Order order, Sorting sorting) {
         order_.clear();
 }
 
-/// Shows the same rows in another order; selections and the current row go with their entries.
+/// Shows the same rows in another order; selections and the current row move with their entries.
 void AudioTableModel::rearrange(Order order) {
     Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
     std::vector<int> newRow(static_cast<std::size_t>(entries_.size()));

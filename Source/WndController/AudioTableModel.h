@@ -15,9 +15,9 @@ class MediaLibrary;
 class MediaLibraryNode;
 class MissingFiles;
 
-/// The audio record entries of one library node as rows. It shares the node's list and applies the steps that the
-/// library tells of it, so that selections, the scroll position and the sorting stay. No call takes longer than a frame
-/// of the screen, also with 100,000 entries: long lists are sorted by a worker. Main thread.
+/// The audio record entries of one library node as rows. It shares the node's list and applies the steps of the
+/// library's signals, so that selections, the scroll position and the sorting are kept. No call takes longer than a
+/// frame of the screen, even with 100,000 entries: a worker sorts long lists. Main thread.
 class AudioTableModel : public QAbstractTableModel {
     Q_OBJECT
 public:
@@ -84,11 +84,11 @@ private:
     MissingFiles& missing_;
     std::shared_ptr<const MediaLibraryNode> node_; ///< outlives a tree that the library has replaced
     QVariantList entries_;                         ///< in the library's order, shared with the node
-    int rows_ = 0;                                 ///< as many as entries_ has, but while a change is applied
+    int rows_ = 0;                                 ///< equals the size of entries_, except while a change is applied
     Order order_;           ///< row to place in entries_; empty while rows are in the library's order
     Sorting applied_;       ///< what order_ follows
     Sorting wanted_;        ///< what the user asked for last
-    bool isSettled_ = true; ///< false when rows wait at the end for the worker to sort the list
+    bool isSettled_ = true; ///< false while rows at the end wait until the worker has sorted the list
     bool sorting_ = false;
     std::uint64_t generation_ = 0; ///< counts changes of entries_: an order sorted from older ones is of no use
     QString playingPath_;

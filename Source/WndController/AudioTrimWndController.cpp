@@ -245,7 +245,7 @@ void AudioTrimWndController::audioPlayTrimAudioUpdateTimer() {
         playTheAudioEnd();
     else if (isPreview_ && audioPlayControl_->isPlaying() && (double(right) - rate) * length < kTickMs / 1000.0)
         previewEnd_.start(std::max(1, int((double(right) - rate) * length * 1000)));
-    // A stop that nobody asked for: the file could not be played, or the sound server went away.
+    // The sound stopped by itself: the file could not be played, or the sound server went away.
     const bool brokenOff = audioPlayControl_->isStop() && ui_->btnPlay_->property("image") == u"Pause.png"_s;
     if (now >= length - kEndOfFile || brokenOff)
         playTheAudioEnd();

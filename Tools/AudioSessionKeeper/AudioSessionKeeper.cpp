@@ -48,7 +48,7 @@ using SteadyClock = std::chrono::steady_clock;
 constexpr const char* folderPrefix = "sonaphex-audio-";
 
 void removeFolder(const std::string& folder) {
-    // What cannot be removed stays; the rest is removed all the same.
+    // A file that cannot be removed stays; the others are still removed.
     const auto removeOne = [](const char* path, const struct stat*, int, FTW*) {
         (void)remove(path);
         return 0;

@@ -7,9 +7,9 @@
 #include <QObject>
 #include <QStringList>
 
-/// Notes what a library tells of its leaves, a line for each step: "-all-record 3" for a row that left, "~all-record"
-/// for rows that changed places, "+all-record 0.4" for five rows that came, "=all-record 1" for a row with other
-/// values, and "all-record" for a leaf that was loaded and did not change.
+/// Records the changes of a library's leaves, one line per step: "-all-record 3" for a removed row, "~all-record" for
+/// rows that changed their order, "+all-record 0.4" for five inserted rows, "=all-record 1" for a row with new values,
+/// and "all-record" for a leaf that was loaded without a change.
 class LeafNotes {
 public:
     explicit LeafNotes(const MediaLibrary& library) {

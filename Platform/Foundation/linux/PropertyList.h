@@ -19,7 +19,7 @@ namespace Platform::PropertyList {
 /// library takes a sixth of the time of reading it.
 [[nodiscard]] std::optional<Dictionary> fromXml(const QByteArray& xml, std::shared_ptr<void>* spent = nullptr);
 
-/// fromXml() by libplist alone, whatever the form of the list.
+/// fromXml() with libplist only, for any form of list.
 [[nodiscard]] std::optional<Dictionary> fromAnyXml(const QByteArray& xml, std::shared_ptr<void>* spent = nullptr);
 
 } // namespace Platform::PropertyList

@@ -28,7 +28,7 @@ namespace {
 Q_LOGGING_CATEGORY(defaultsLog, "sonaphex.foundation")
 
 constexpr auto retryAfter = std::chrono::seconds(5);
-// Changes that come so soon after one another are one save. A burst that goes on is saved all the same.
+// Changes within this time are saved together. A longer burst is saved in between.
 constexpr auto quietTime = std::chrono::milliseconds(50);
 constexpr auto longestBurst = std::chrono::milliseconds(500);
 constexpr auto lockPatience = std::chrono::seconds(10);     // a stopped process may hold the lock forever
@@ -87,7 +87,7 @@ void PropertyListDefaults::setMergeForKey(const QString& key, Merge merge) {
 void PropertyListDefaults::change(const QString& key, const QVariant& object) {
     {
         const std::lock_guard guard(mutex_);
-        // The worker frees the old value: a library of many entries would hold up the caller for longer than the
+        // The worker frees the old value: freeing a library of many entries would block the caller for longer than the
         // change.
         replaced_.push_back(values_.take(key));
         if (object.isValid())
@@ -233,7 +233,7 @@ void PropertyListDefaults::run() {
     }
 }
 
-/// Returns when a burst of changes is over, or at once when somebody waits for the save.
+/// Returns when a burst of changes is over, or at once when a caller waits for the save.
 void PropertyListDefaults::waitForQuiet(std::unique_lock<std::mutex>& lock) {
     const auto isUrgent = [this] { return stopping_ || flushes_ > 0 || !takeUps_.empty(); };
     const auto latest = std::chrono::steady_clock::now() + longestBurst;

@@ -18,8 +18,8 @@ namespace Platform {
 /// The defaults in $XDG_CONFIG_HOME/<bundle identifier>.plist (below ~/.config when the variable is unset).
 [[nodiscard]] std::unique_ptr<UserDefaults> createUserDefaults(const QString& bundleIdentifier);
 
-/// User defaults in one XML property list. A burst of changes is written once: half a second after its first change at
-/// the latest, and at once when flush() or the destructor waits for it.
+/// User defaults in one XML property list. A burst of changes is written once: at most half a second after its first
+/// change, and at once when flush() or the destructor waits for it.
 ///
 /// The file is replaced as a whole (new file, sync, rename), so it is complete at every moment. A lock file beside it
 /// keeps other processes out from reading it until replacing it; it is only held during a save. A damaged file is moved
@@ -86,8 +86,8 @@ private:
         bool isRead = false;
     };
     std::vector<TakeUp*> takeUps_;
-    int flushes_ = 0;                // calls of flush() that wait
-    std::vector<QVariant> replaced_; // old values that the worker frees
+    int flushes_ = 0;                // waiting calls of flush()
+    std::vector<QVariant> replaced_; // old values for the worker to free
     bool loaded_ = false;
     bool stopping_ = false;
 

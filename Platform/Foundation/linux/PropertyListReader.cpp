@@ -46,7 +46,7 @@ public:
     }
 
 private:
-    /// A key of dictionaries, and the last text that stood under it.
+    /// A dictionary key, and the last text stored under it.
     struct Key {
         std::string_view name;
         QString string;
@@ -69,7 +69,7 @@ private:
         rest_.remove_prefix(std::size_t(std::ranges::find_if_not(rest_, isSpace) - rest_.begin()));
     }
 
-    /// Everything before the next tag.
+    /// The text up to the next tag.
     std::string_view text() {
         const void* const found = std::memchr(rest_.data(), '<', rest_.size());
         if (!found) {
@@ -106,7 +106,7 @@ private:
 
     Dictionary dictionary(int depth) {
         Dictionary result;
-        std::size_t expected = 0; // entries of one array mostly have the same keys in the same order
+        std::size_t expected = 0; // entries of one array usually have the same keys in the same order
         for (;;) {
             takeSpace();
             if (take("</dict>"sv))
@@ -182,7 +182,7 @@ private:
         const std::string_view digits = text();
         Number value = 0;
         const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-        // A decimal form only: no name of a number that is none, no exponent, no zero in front that means octal.
+        // Decimal numbers only: no NaN or infinity, no exponent, no leading zero, which would mean octal.
         if (result.ec != std::errc() || result.ptr != digits.data() + digits.size() ||
             (std::is_integral_v<Number> && digits.size() > 1 && digits.starts_with('0')) ||
             digits.find_first_not_of("-.0123456789"sv) != std::string_view::npos)
@@ -216,7 +216,7 @@ private:
     }
 
     static constexpr std::size_t noKey = std::size_t(-1);
-    static constexpr std::size_t mostKeys = 500; // they are searched one after the other
+    static constexpr std::size_t mostKeys = 500; // limited because they are searched linearly
     static constexpr std::array<std::pair<std::string_view, const char*>, 3> entities{
         {{"&amp;"sv, "&"}, {"&lt;"sv, "<"}, {"&gt;"sv, ">"}}};
 

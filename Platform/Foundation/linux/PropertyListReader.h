@@ -9,9 +9,9 @@
 
 namespace Platform::PropertyList {
 
-/// The dictionary of a list in the form that toXml() writes. Nothing when anything else stands in it, however valid:
-/// libplist reads it then. It makes no tree of nodes, so a library of thousands of entries is read in a quarter of the
-/// time; texts that repeat from entry to entry are shared.
+/// The dictionary of a list in the form that toXml() writes. Nothing for any other form, even a valid one; libplist
+/// reads that. It builds no node tree, so it reads a library of thousands of entries in a quarter of the time; texts
+/// that repeat from entry to entry are shared.
 [[nodiscard]] std::optional<Dictionary> fromOwnXml(const QByteArray& xml);
 
 } // namespace Platform::PropertyList

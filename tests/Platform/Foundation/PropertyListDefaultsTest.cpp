@@ -334,13 +334,13 @@ TEST_F(DefaultsFile, ABurstOfChangesIsWrittenOnce) {
         defaults.setObject(u"a"_s, i);
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
-    // Each save waits 50 ms for more changes, so a burst that a busy machine draws out has a few more.
+    // Each save waits 50 ms for more changes, so a burst that takes longer on a busy machine has a few more saves.
     EXPECT_LE(saves(), burst.elapsed() / 50 + 1);
     EXPECT_TRUE(waitFor([&] { return stored() && stored()->value(u"a"_s).toInt() == 200; }))
         << "nobody has to ask for the save";
 }
 
-TEST_F(DefaultsFile, WhoAsksForTheSaveDoesNotWaitForTheEndOfABurst) {
+TEST_F(DefaultsFile, FlushDoesNotWaitForTheEndOfABurst) {
     PropertyListDefaults defaults(path());
     std::atomic<bool> stop{false};
     std::thread burst([&] {

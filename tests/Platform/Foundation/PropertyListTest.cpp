@@ -130,7 +130,7 @@ Dictionary someList(QRandomGenerator& random, int depth = 0) {
 
 } // namespace
 
-TEST(PropertyListReader, ReadsWhateverThisProgramWrites) {
+TEST(PropertyListReader, ReadsEverythingThatThisProgramWrites) {
     QRandomGenerator random(3);
     for (int round = 0; round < 500; ++round) {
         const Dictionary list = someList(random);
@@ -141,7 +141,7 @@ TEST(PropertyListReader, ReadsWhateverThisProgramWrites) {
     }
 }
 
-TEST(PropertyListReader, LeavesDatesAndOtherFormsToTheLibrary) {
+TEST(PropertyListReader, LeavesDatesAndOtherFormsToLibplist) {
     EXPECT_FALSE(PropertyList::fromOwnXml(PropertyList::toXml({{u"date"_s, QDateTime::currentDateTimeUtc()}})));
     const auto read = [](const QByteArray& value) {
         return PropertyList::fromOwnXml("<plist version=\"1.0\"><dict><key>a</key>" + value + "</dict></plist>");
@@ -154,7 +154,7 @@ TEST(PropertyListReader, LeavesDatesAndOtherFormsToTheLibrary) {
         EXPECT_FALSE(read(other)) << other;
 }
 
-TEST(PropertyListReader, ReadsNoDamagedListDifferentlyThanTheLibrary) {
+TEST(PropertyListReader, ReadsDamagedListsLikeLibplist) {
     QRandomGenerator random(11);
     int readable = 0;
     for (int round = 0; round < 20000; ++round) {

@@ -356,7 +356,7 @@ TEST(BackViews, FillTheirWholeBounds) {
     EXPECT_LT(qGray(Screenshot::take(glass, u"glass"_s).pixel(100, 30)), 60);
 }
 
-TEST(BackViews, TheStripHasADarkCounterpart) {
+TEST(BackViews, TheStripHasADarkTheme) {
     const QPalette before = QApplication::palette();
     AdditionalControlBackView strip;
     strip.resize(20, 20);

@@ -31,8 +31,8 @@ void note(QStringList& words, QChar sign, const std::vector<LeafChange::Rows>& r
         words += sign + QString::number(first) + (last > first ? u'.' + QString::number(last) : QString());
 }
 
-/// "-2.4" for the third to fifth row that left, "+0" and "=0" for the first one that came or was replaced, "~1,0" for
-/// two rows that changed places.
+/// Result notation: "-2.4" removes the third to fifth row, "+0" inserts and "=0" replaces the first, "~1,0" swaps two
+/// rows.
 QString told(const QVariantList& before, const QVariantList& after) {
     const LeafChange change = LeafChanges::between(before, after);
     EXPECT_EQ(change.entries, after);
@@ -48,7 +48,7 @@ QString told(const QVariantList& before, const QVariantList& after) {
     return words.join(u' ');
 }
 
-/// What a view has after it applied the steps.
+/// The rows of a view after it applied the steps.
 QVariantList applied(const QVariantList& before, const LeafChange& change) {
     QVariantList shown = before;
     for (const auto& [first, last] : change.removed)
@@ -100,7 +100,7 @@ TEST(LeafChanges, AreRangesHoweverManyRowsDiffer) {
     EXPECT_EQ(told(many, {}), u"-0.199"_s);
 }
 
-TEST(LeafChanges, LeadFromOneListToTheOther) {
+TEST(LeafChanges, TransformOneListIntoTheOther) {
     QRandomGenerator random(5);
     for (int round = 0; round < 3000; ++round) {
         const auto some = [&] {

@@ -99,7 +99,7 @@ TEST_F(Library, HasTheFixedTree) {
                                   u"All Ringtone|all-ringtone-node-icon|all-ringtone"_s}));
 }
 
-TEST_F(Library, PutsTheNewestOnTop) {
+TEST_F(Library, InsertsTheNewestAtTheTop) {
     MediaLibrary library;
     library.addRecordFile(entry(u"a"_s));
     library.addRecordFile(entry(u"b"_s));
@@ -109,7 +109,7 @@ TEST_F(Library, PutsTheNewestOnTop) {
     EXPECT_EQ(keys(leaf(library, u"all-ringtone"_s)), (QStringList{u"c"_s}));
 }
 
-TEST_F(Library, ReplacesAnEntryWhereItStands) {
+TEST_F(Library, ReplacesAnEntryInPlace) {
     MediaLibrary library;
     for (const char16_t* key : {u"a", u"b", u"c"})
         library.addRecordFile(entry(QString::fromUtf16(key)));
@@ -142,7 +142,7 @@ TEST_F(Library, NeverStoresTheFlag) {
     EXPECT_EQ(stored().keys(), (QStringList{u"records"_s, u"ringtones"_s}));
 }
 
-TEST_F(Library, TakesItsFlagInAnyForm) {
+TEST_F(Library, ReadsTheFlagInAnyForm) {
     MediaLibrary library;
     for (const QVariant& flag : {QVariant(1), QVariant(u"YES"_s), QVariant(0), QVariant(QVariantList{})}) {
         Dictionary one = entry(u"key %1"_s.arg(library.records().size()));
@@ -152,7 +152,7 @@ TEST_F(Library, TakesItsFlagInAnyForm) {
     EXPECT_EQ(library.currentNewArray(), (QStringList{u"key 0"_s, u"key 1"_s}));
 }
 
-TEST_F(Library, KeepsKeysThatItDoesNotKnow) {
+TEST_F(Library, PreservesUnknownKeys) {
     Dictionary odd = entry(u"a"_s);
     odd.insert(u"SomeoneElsesKey"_s, u"kept"_s);
     MediaLibrary().addRecordFile(odd);
@@ -187,7 +187,7 @@ TEST_F(Library, RemovesEveryEntryWithTheKeyFromBothCollectionsAndTheFile) {
     EXPECT_EQ(stored().value(u"records"_s).toList().size(), 1);
 }
 
-TEST_F(Library, DeletesTheFileOfEachGivenEntryEvenOfOnesItDoesNotHold) {
+TEST_F(Library, DeletesTheFileOfEachGivenEntryEvenOfUnknownOnes) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"stranger.m4a"_s);
     ASSERT_TRUE(QFile(path).open(QIODevice::WriteOnly));
@@ -206,7 +206,7 @@ TEST_F(Library, RemovesTheEntryWhenTheFileCannotBeDeleted) {
     EXPECT_TRUE(QDir(folder.path()).exists());
 }
 
-TEST_F(Library, LeavesTheNewKeysOfRemovedEntries) {
+TEST_F(Library, KeepsTheNewKeysOfRemovedEntries) {
     MediaLibrary library;
     library.addRecordFile(newEntry(u"a"_s));
     library.removeMediaLibraryArray({entry(u"a"_s)});
@@ -223,7 +223,7 @@ TEST_F(Library, FindsTheLastEntryWithAKey) {
               (QStringList{u"a"_s, u"b"_s, u"a"_s}));
 }
 
-TEST_F(Library, TakesAStoredValueOfTheWrongShapeAsEmptyAndKeepsItAside) {
+TEST_F(Library, TreatsAStoredValueOfTheWrongShapeAsEmptyAndKeepsItAside) {
     const QVariantList shapes{u"a text"_s, 5, QVariantList{1, 2}, QVariantMap{{u"records"_s, u"no array"_s}},
                               QVariantMap{{u"ringtones"_s, 7.5}}};
     QString aside = kMediaLibrarySavedKey + u".damaged"_s;
@@ -248,7 +248,7 @@ TEST_F(Library, LoadsTheGoodEntriesOfADamagedArray) {
     EXPECT_EQ(library.records(), (QVariantList{entry(u"a"_s), Dictionary{}}));
 }
 
-TEST_F(Library, LivesWithEntriesThatHaveNoKeyOrPath) {
+TEST_F(Library, AcceptsEntriesWithoutKeyOrPath) {
     const Dictionary first{{AudioRecordEntry::Title, u"first"_s}};
     const Dictionary second{{AudioRecordEntry::Title, u"second"_s}, {AudioRecordEntry::SavePath, QVariantList{1}}};
     defaults_.setObject(kMediaLibrarySavedKey, MediaLibraryStore::value({first, second}, {}));
@@ -259,7 +259,7 @@ TEST_F(Library, LivesWithEntriesThatHaveNoKeyOrPath) {
     EXPECT_TRUE(MediaLibrary::findAudioByKey(u"(null)"_s, library.records()).isEmpty());
 }
 
-TEST_F(Library, TellsViewsExactlyWhichRowsChanged) {
+TEST_F(Library, SignalsExactlyTheRowsThatChanged) {
     MediaLibrary library;
     library.addRecordFile(newEntry(u"a"_s));
     library.addRecordFile(entry(u"b"_s));
@@ -282,7 +282,7 @@ TEST_F(Library, TellsViewsExactlyWhichRowsChanged) {
                                         u"-all-ringtone 0"_s}));
 }
 
-TEST_F(Library, ShowsTheNewListInTheLeafWhenItTells) {
+TEST_F(Library, SignalsAChangeWhenTheLeafHasTheNewList) {
     MediaLibrary library;
     for (int i = 0; i < 4; ++i)
         library.addRecordFile(entry(QString::number(i)));
@@ -295,7 +295,7 @@ TEST_F(Library, ShowsTheNewListInTheLeafWhenItTells) {
     EXPECT_EQ(sizes, QList<qsizetype>{2});
 }
 
-TEST_F(Library, TellsManyRowsThatGoAtOnceWithOneSignal) {
+TEST_F(Library, SignalsManyRemovedRowsAtOnce) {
     const QVariantList many = manyEntries(500);
     defaults_.setObject(kMediaLibrarySavedKey, MediaLibraryStore::value(many, {}));
     MediaLibrary library;
@@ -305,7 +305,7 @@ TEST_F(Library, TellsManyRowsThatGoAtOnceWithOneSignal) {
     EXPECT_EQ(leaf(library, u"all-record"_s).size(), 200);
 }
 
-TEST_F(Library, SavingByHandLoadsEveryLeaf) {
+TEST_F(Library, AnExplicitSaveReloadsEveryLeaf) {
     MediaLibrary library;
     LeafNotes notes(library);
     library.setRecords({entry(u"a"_s)});
@@ -316,7 +316,7 @@ TEST_F(Library, SavingByHandLoadsEveryLeaf) {
     EXPECT_EQ(stored().value(u"records"_s).toList(), library.records());
 }
 
-TEST_F(Library, TakesOneMoreEntryIntoTenThousandWithOneRow) {
+TEST_F(Library, SignalsOneRowForOneEntryAddedToTenThousand) {
     defaults_.setObject(kMediaLibrarySavedKey, MediaLibraryStore::value(manyEntries(10000), {}));
     MediaLibrary library;
     LeafNotes notes(library);
@@ -329,11 +329,11 @@ TEST_F(Library, TakesOneMoreEntryIntoTenThousandWithOneRow) {
     EXPECT_EQ(library.records().size(), 10005);
 }
 
-TEST_F(Library, KnowsItsKeysHoweverTheListChanges) {
-    // Against a list that is searched through: what is replaced where it stands, and what comes on top.
+TEST_F(Library, FindsItsKeysAfterAnyChangeOfTheList) {
+    // Compares with a linear search: which entries are replaced in place, and which are inserted at the top.
     defaults_.setObject(kMediaLibrarySavedKey, MediaLibraryStore::value(manyEntries(1500), {}));
     MediaLibrary library;
-    library.prepareForChanges(); // long enough for the worker
+    library.prepareForChanges(); // enough entries for the worker
     MediaLibrary plain;
     QVariantList expected = library.records();
     const auto add = [&](const Dictionary& one) {
@@ -351,7 +351,7 @@ TEST_F(Library, KnowsItsKeysHoweverTheListChanges) {
     add(newEntry(keys(expected).at(900)));
     add(newEntry(u"second"_s));
     QVariantList twice = expected;
-    twice.append(entry(u"first"_s, u"again"_s)); // a list that another program wrote
+    twice.append(entry(u"first"_s, u"again"_s)); // as another program could write it
     library.setRecords(twice);
     expected = twice;
     add(newEntry(u"first"_s));
@@ -359,7 +359,7 @@ TEST_F(Library, KnowsItsKeysHoweverTheListChanges) {
         << "of two entries with one key the last is replaced";
 }
 
-TEST(MediaLibraryStore, KeepsWhatTwoProcessesAddedAndRemoved) {
+TEST(MediaLibraryStore, MergesAdditionsAndRemovalsOfTwoProcesses) {
     const QVariantList base{entry(u"a"_s), entry(u"b"_s), entry(u"c"_s), entry(u"d"_s)};
     const QVariantList theirs{entry(u"theirs"_s), entry(u"b"_s, u"their title"_s), entry(u"c"_s), entry(u"d"_s)};
     const QVariantList ours{entry(u"ours"_s), entry(u"a"_s), entry(u"b"_s), entry(u"d"_s, u"our title"_s)};
@@ -371,7 +371,7 @@ TEST(MediaLibraryStore, KeepsWhatTwoProcessesAddedAndRemoved) {
                                                {entry(u"r"_s)}));
 }
 
-TEST(MediaLibraryStore, KeepsWhatTwoProcessesChangedInOneEntry) {
+TEST(MediaLibraryStore, MergesChangesOfTwoProcessesInOneEntry) {
     const auto merged = [](const Dictionary& base, const Dictionary& theirs, const Dictionary& ours) {
         const auto whole = [](Dictionary values) {
             values.insert(AudioRecordEntry::NodeDataKey, u"a"_s);
@@ -397,7 +397,7 @@ TEST(MediaLibraryStore, KeepsWhatTwoProcessesChangedInOneEntry) {
     EXPECT_EQ(merged({{u"1"_s, 1}}, {}, {{u"1"_s, 3}}), (Values{{u"1"_s, 3}}));
 }
 
-TEST(MediaLibraryStore, TakesAnEntryThatTwoProcessesAddedForOne) {
+TEST(MediaLibraryStore, KeepsOneEntryWhenTwoProcessesAddedIt) {
     Dictionary theirs = entry(u"a"_s, u"their title"_s);
     theirs.insert(AudioRecordEntry::Artist, u"their artist"_s);
     Dictionary expected = theirs;
@@ -408,7 +408,7 @@ TEST(MediaLibraryStore, TakesAnEntryThatTwoProcessesAddedForOne) {
               MediaLibraryStore::value({expected, entry(u"old"_s)}, {}));
 }
 
-TEST(MediaLibraryStore, KeepsOursWhenTheirsIsNoLibrary) {
+TEST(MediaLibraryStore, KeepsItsEntriesWhenTheStoredValueIsMalformed) {
     const QVariant ours = MediaLibraryStore::value({entry(u"a"_s)}, {});
     EXPECT_EQ(MediaLibraryStore::merge({}, {}, ours), ours);
     EXPECT_EQ(MediaLibraryStore::merge({}, u"odd"_s, ours), ours);
@@ -422,7 +422,7 @@ TEST(MediaLibraryStore, KeepsOursWhenTheirsIsNoLibrary) {
               MediaLibraryStore::value({entry(u"new"_s), entry(u"a"_s)}, {entry(u"r"_s)}));
 }
 
-TEST(MediaLibraryStore, LosesNoEntryOfTwoLibrariesOnOneFile) {
+TEST(MediaLibraryStore, TwoLibrariesOnOneFileLoseNoEntry) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"a.plist"_s);
     const Platform::ServicesScope scope;
@@ -453,7 +453,7 @@ TEST(MediaLibraryStore, LosesNoEntryOfTwoLibrariesOnOneFile) {
     EXPECT_EQ(all, (QStringList{u"command 1"_s, u"command 2"_s, u"window 2"_s}));
 }
 
-TEST(MediaLibraryStore, IsTakenUpRowByRowByALibraryBesideAnother) {
+TEST(MediaLibraryStore, IsAdoptedRowByRowByASecondLibrary) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"a.plist"_s);
     const Platform::ServicesScope scope;

@@ -42,7 +42,7 @@ TEST_F(RecordMix, PartsOfTwoSourcesFitEndToEnd) {
         }
 }
 
-TEST_F(RecordMix, NoFileOfAFinishedRecordingIsTouchedOnTheMainThread) {
+TEST_F(RecordMix, TheMainThreadTouchesNoFileOfAFinishedRecording) {
     for (const bool both : {false, true}) {
         begin(true, both);
         Ear input{Microphone, 0, Rate, 0.0};

@@ -68,20 +68,20 @@ TEST(AudioTags, ColumnsReadTheirKeysAndOtherNamesAreKeys) {
     EXPECT_EQ(AudioTags::audioTagKeyTranslate(u"ID3GenreKey"_s), u"ID3GenreKey"_s);
 }
 
-TEST(AudioTags, AnHourTwoMinutesAndFiveSecondsReadAsSuch) {
+TEST(AudioTags, FormatsAnHourTwoMinutesAndFiveSeconds) {
     const Dictionary entry{{AudioRecordEntry::Length, 3725.9F}};
     EXPECT_EQ(AudioTags::audioTag(entry, u"time"_s).toString(), u"01:02:05"_s);
     EXPECT_EQ(AudioTags::audioTag(entry, u"AddAudioLength"_s).toString(), u"01:02:05"_s);
 }
 
-TEST(AudioTags, ALengthIsReadFromTheSound) {
+TEST(AudioTags, ALengthIsReadFromTheFile) {
     LibraryWorld world;
     world.sounds.lengths.insert(u"/a.m4a"_s, 3725.5);
     EXPECT_EQ(AudioTags::audioLibraryNodeTimeString(u"/a.m4a"_s), u"01:02:05"_s);
     EXPECT_EQ(AudioTags::audioLibraryNodeTimeString(u"/missing.m4a"_s), u"00:00:00"_s);
 }
 
-TEST_F(AudioTable, ShowsTheEntriesOfItsNodeAndKeepsTheModelsPromises) {
+TEST_F(AudioTable, ShowsTheEntriesOfItsNodeAndPassesTheModelTester) {
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
     add(u"One"_s);
     show();
@@ -123,7 +123,7 @@ TEST_F(AudioTable, AnEditedEntryChangesItsRowInPlace) {
     EXPECT_EQ(changed.at(0).at(0).toModelIndex().row(), 1);
 }
 
-TEST_F(AudioTable, RemovedEntriesTakeTheirRowsAlone) {
+TEST_F(AudioTable, RemovedEntriesRemoveOnlyTheirRows) {
     const Dictionary one = add(u"One"_s);
     add(u"Two"_s);
     const Dictionary three = add(u"Three"_s);
@@ -136,7 +136,7 @@ TEST_F(AudioTable, RemovedEntriesTakeTheirRowsAlone) {
     EXPECT_EQ(reset.count(), 0);
 }
 
-TEST_F(AudioTable, ChangesOfOtherLeavesLeaveItAlone) {
+TEST_F(AudioTable, ChangesOfOtherLeavesDoNotAffectIt) {
     show();
     library.addRingtoneFile(world.made(u"Ring"_s, 10, u"m4r"_s));
     EXPECT_EQ(model.rowCount(), 0);
@@ -196,7 +196,7 @@ TEST_F(AudioTable, TheRowThatPlaysHasTheIconAndNoOtherHas) {
     EXPECT_EQ(model.index(1, AudioTableModel::State).data(Qt::AccessibleTextRole).toString(), u"Playing"_s);
 }
 
-TEST_F(AudioTable, AFileThatIsGoneIsGreyWithABrokenLinkUntilItReturns) {
+TEST_F(AudioTable, AMissingFileIsGreyWithABrokenLinkUntilItReturns) {
     const Dictionary one = add(u"One"_s);
     const QString path = one.value(AudioRecordEntry::SavePath).toString();
     show();
@@ -225,7 +225,7 @@ TEST_F(AudioTable, LongNamesAreWholeInTheToolTip) {
     EXPECT_TRUE(model.index(0, AudioTableModel::Title).data(Qt::ToolTipRole).toString().contains(name));
 }
 
-TEST_F(AudioTable, AHundredThousandEntriesAreSortedAside) {
+TEST_F(AudioTable, AHundredThousandEntriesAreSortedByAWorker) {
     constexpr int kCount = 100000;
     fill(kCount);
     show();
@@ -243,14 +243,14 @@ TEST_F(AudioTable, AHundredThousandEntriesAreSortedAside) {
     EXPECT_EQ(model.rowCount(), kCount + 1);
 }
 
-/// The library's list becomes another one in one step, as when another process has changed it.
-TEST_F(AudioTable, AnyChangeOfTheListLeavesSelectionScrollPositionAndSortingAsTheyAre) {
+/// The library's list changes completely in one step, as when another process has changed it.
+TEST_F(AudioTable, AnyChangeOfTheListKeepsSelectionScrollPositionAndSorting) {
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
     QRandomGenerator random(7);
     const QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
     for (int round = 0; round < 60; ++round) {
         const bool isSorted = round % 2 == 1;
-        const int most = round % 3 == 0 ? 600 : 12; // more ranges than are told one by one, and few
+        const int most = round % 3 == 0 ? 600 : 12; // more ranges than are signalled one by one, or few
         const auto some = [&] {
             QVariantList entries;
             for (int i = 0; i < most; ++i)
@@ -302,7 +302,7 @@ TEST_F(AudioTable, AnyChangeOfTheListLeavesSelectionScrollPositionAndSortingAsTh
     }
 }
 
-TEST_F(AudioTable, AViewKeepsItsSelectedRowsAndItsPlaceWhileManyRowsGo) {
+TEST_F(AudioTable, AViewKeepsSelectionAndScrollPositionWhileManyRowsAreRemoved) {
     fill(1000);
     show();
     QTableView view;
@@ -326,7 +326,7 @@ TEST_F(AudioTable, AViewKeepsItsSelectedRowsAndItsPlaceWhileManyRowsGo) {
     EXPECT_EQ(view.verticalScrollBar()->value(), 400);
 }
 
-TEST_F(AudioTable, AllOfAHundredThousandRowsCanGoAtOnce) {
+TEST_F(AudioTable, AHundredThousandRowsCanBeRemovedAtOnce) {
     fill(100000);
     show();
     library.setRecords({});
