@@ -27,7 +27,7 @@ namespace {
 QString whyNotWritable(const QString& folder) {
     (void)QDir().mkpath(folder);
     if (!QFileInfo(folder).isDir())
-        return u"the folder %1 cannot be made"_s.arg(folder);
+        return u"the folder %1 cannot be created"_s.arg(folder);
     if (faccessat(AT_FDCWD, QFile::encodeName(folder).constData(), W_OK | X_OK, AT_EACCESS) != 0)
         return u"the folder %1 cannot be written: %2"_s.arg(folder, qt_error_string(errno));
     return {};

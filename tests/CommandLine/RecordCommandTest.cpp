@@ -205,7 +205,7 @@ TEST_F(RecordCommandTest, RefusesAFolderThatCannotBeCreated) {
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.close();
     EXPECT_EQ(record({u"--for"_s, u"1"_s}), CommandLine::Failed);
-    EXPECT_EQ(err, u"sonaphex: the folder %1 cannot be made\n"_s.arg(folder));
+    EXPECT_EQ(err, u"sonaphex: the folder %1 cannot be created\n"_s.arg(folder));
     EXPECT_EQ(temporaries(), QStringList());
 }
 
@@ -291,9 +291,8 @@ TEST_F(RecordCommandTest, ReportsALostAndAReturnedDevice) {
             hardware.unit()->tell(Event::DeviceReturned);
     };
     EXPECT_EQ(record({u"--for"_s, u"5"_s}), CommandLine::Done);
-    EXPECT_EQ(err,
-              u"sonaphex: The input device went away. What was recorded so far is kept; the recording goes on when "
-              "it is back.\nsonaphex: The input device is back.\n"_s);
+    EXPECT_EQ(err, u"sonaphex: The input device went away. The recording so far is kept and continues when "
+                   "it is back.\nsonaphex: The input device is back.\n"_s);
 }
 
 TEST_F(RecordCommandTest, ReportsAnUnusableDeviceOrFile) {

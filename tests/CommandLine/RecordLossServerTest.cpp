@@ -84,7 +84,7 @@ TEST_F(RecordLossServer, AnArmedWaitReportsALostDevice) {
     startRecording({u"--for"_s, u"1"_s});
     ASSERT_TRUE(waitFor([this] { return hasRawFile(); }, 60000)) << "it waits with its file open";
     source_->remove();
-    ASSERT_TRUE(says("Computer audio went away. The wait for the first sound goes on when it is back."))
+    ASSERT_TRUE(says("Computer audio went away. The wait for the first sound continues when it is back."))
         << said_.data();
     ASSERT_TRUE(startComputerAudio(true));
     EXPECT_TRUE(says("Computer audio is back.")) << said_.data();

@@ -69,7 +69,7 @@ TEST_F(LostSourceServer, AnArmedWaitReportsALostDriverAndContinuesWhenItReturns)
     controller->startAndStopRecord();
     ASSERT_TRUE(controller->isWaittingForSound());
     computer.remove();
-    EXPECT_TRUE(noticed(u"Computer audio went away. The wait for the first sound goes on when it is back."_s));
+    EXPECT_TRUE(noticed(u"Computer audio went away. The wait for the first sound continues when it is back."_s));
     EXPECT_EQ(controller->state(), RecordState::Armed);
     // The device returns under the same name, and now it plays.
     TestSource again(highTone());
@@ -94,7 +94,7 @@ TEST_F(LostSourceServer, AnArmedWaitReportsALostServerAndContinuesWithTheNext) {
     controller->startAndStopRecord();
     ASSERT_TRUE(controller->isWaittingForSound());
     ASSERT_TRUE(session.stopServer());
-    EXPECT_TRUE(noticed(u"The sound server went away. The wait for the first sound goes on when it is back."_s));
+    EXPECT_TRUE(noticed(u"The sound server went away. The wait for the first sound continues when it is back."_s));
     EXPECT_TRUE(controller->isWaittingForSound());
     ASSERT_TRUE(session.startServer());
     EXPECT_TRUE(noticed(u"Computer audio is back."_s));

@@ -155,7 +155,7 @@ TEST_F(LostSourceTest, AnArmedWaitReportsItsDeviceLostAndReturned) {
     ASSERT_TRUE(controller->isWaittingForSound());
     tell(Microphone, Event::DeviceLost);
     tell(ComputerAudio, Event::DeviceLost);
-    EXPECT_TRUE(noticed(u"Computer audio went away. The wait for the first sound goes on when it is back."_s));
+    EXPECT_TRUE(noticed(u"Computer audio went away. The wait for the first sound continues when it is back."_s));
     EXPECT_EQ(notices(u"The input device"_s), 0) << "it takes no part";
     EXPECT_TRUE(controller->isWaittingForSound());
     tell(ComputerAudio, Event::DeviceReturned);
@@ -167,7 +167,7 @@ TEST_F(LostSourceTest, AnArmedWaitReportsALostServer) {
     controller->startAndStopRecord();
     tell(Microphone, Event::ServerLost);
     tell(ComputerAudio, Event::ServerLost);
-    EXPECT_TRUE(noticed(u"The sound server went away. The wait for the first sound goes on when it is back."_s));
+    EXPECT_TRUE(noticed(u"The sound server went away. The wait for the first sound continues when it is back."_s));
     EXPECT_EQ(notices(u"went away"_s), 1);
     tell(ComputerAudio, Event::ServerReturned);
     EXPECT_TRUE(noticed(u"Computer audio is back."_s));
