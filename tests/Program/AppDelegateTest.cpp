@@ -156,7 +156,7 @@ TEST_F(AppDelegateTest, ShowsNothingWhenItStartsHidden) {
     EXPECT_TRUE(windows.log.contains(u"MainWnd: makeKeyAndOrderFront"_s));
 }
 
-TEST_F(AppDelegateTest, BeginsWithTheDefaultsOfAFirstLaunch) {
+TEST_F(AppDelegateTest, UsesTheDefaultsAtAFirstLaunch) {
     using namespace PreferenceStore;
     ASSERT_TRUE(delegate.applicationDidFinishLaunching());
     EXPECT_EQ(g_SplitTimeMS, -1);
@@ -176,7 +176,7 @@ TEST_F(AppDelegateTest, SplitsAfter300MillisecondsWhenOnlyTheSwitchIsStored) {
     EXPECT_EQ(g_SplitTimeMS, 300);
 }
 
-TEST_F(AppDelegateTest, TakesTheSplitTimeFromItsText) {
+TEST_F(AppDelegateTest, ReadsTheSplitTimeFromItsText) {
     defaults.setObject(PreferenceStore::PreferenceSplitKey, 1);
     const std::pair<QVariant, int> cases[] = {{u"500"_s, 500},        {u"2000ms"_s, 2000}, {u"soon"_s, 0},
                                               {QVariantList{1}, 300}, {750, 750},          {u"-5"_s, -5}};
@@ -206,7 +206,7 @@ TEST_F(AppDelegateTest, ReplacesAFileInThePlaceOfTheTemporaryFolder) {
     EXPECT_TRUE(QDir(tmp()).exists());
 }
 
-TEST_F(AppDelegateTest, NeverFollowsALinkWhenItWipes) {
+TEST_F(AppDelegateTest, NeverFollowsALinkWhenItEmptiesTheFolder) {
     QDir().mkpath(path(u"precious"_s));
     make(path(u"precious/file"_s));
     ASSERT_EQ(symlink("precious", qPrintable(tmp())), 0);
@@ -220,7 +220,7 @@ TEST_F(AppDelegateTest, NeverFollowsALinkWhenItWipes) {
     EXPECT_EQ(in(tmp()), QStringList());
 }
 
-TEST_F(AppDelegateTest, WipesNothingWhileAnotherProgramRuns) {
+TEST_F(AppDelegateTest, RemovesNothingWhileAnotherInstanceRuns) {
     QDir().mkpath(tmp());
     make(tmp() + u"/BuiltInA0.m4a"_s);
     running.free = false;
@@ -230,7 +230,7 @@ TEST_F(AppDelegateTest, WipesNothingWhileAnotherProgramRuns) {
     EXPECT_TRUE(windows.log.isEmpty());
 }
 
-TEST_F(AppDelegateTest, RefusesATemporaryFolderThatIsNotTheUsersOwn) {
+TEST_F(AppDelegateTest, RefusesATemporaryFolderOfAnotherUser) {
     const EnvironmentScope none("TMPDIR");
     const EnvironmentScope cache("XDG_CACHE_HOME", path(u"cache"_s).toUtf8());
     QDir().mkpath(path(u"cache"_s));
@@ -240,7 +240,7 @@ TEST_F(AppDelegateTest, RefusesATemporaryFolderThatIsNotTheUsersOwn) {
     EXPECT_TRUE(windows.log.isEmpty());
 }
 
-TEST_F(AppDelegateTest, LeavesAnExistingMusicFolderAlone) {
+TEST_F(AppDelegateTest, KeepsAnExistingMusicFolder) {
     QDir().mkpath(music());
     make(music() + u"/Track0.m4a"_s);
     defaults.setObject(PreferenceStore::PreferenceSavePathKey, path(u"elsewhere"_s));
@@ -248,14 +248,14 @@ TEST_F(AppDelegateTest, LeavesAnExistingMusicFolderAlone) {
     EXPECT_EQ(in(music()), QStringList{u"Track0.m4a"_s});
 }
 
-TEST_F(AppDelegateTest, MakesTheDefaultMusicFolderEvenWhenAnotherIsChosen) {
+TEST_F(AppDelegateTest, CreatesTheDefaultMusicFolderEvenWhenAnotherIsChosen) {
     defaults.setObject(PreferenceStore::PreferenceSavePathKey, path(u"elsewhere"_s));
     ASSERT_TRUE(delegate.applicationDidFinishLaunching());
     EXPECT_TRUE(QDir(music()).exists());
     EXPECT_FALSE(QDir(path(u"elsewhere"_s)).exists());
 }
 
-TEST_F(AppDelegateTest, SaysThatNobodyCanReachIt) {
+TEST_F(AppDelegateTest, LogsThatItCannotListen) {
     running.listens = false;
     running.problem = u"/run/user/1000/sonaphex.socket: Permission denied"_s;
     const LogCatcher log;
@@ -263,7 +263,7 @@ TEST_F(AppDelegateTest, SaysThatNobodyCanReachIt) {
     EXPECT_EQ(log.lines().filter(running.problem).size(), 1);
 }
 
-TEST_F(AppDelegateTest, LaunchesWhenTheMusicFolderCannotBeMade) {
+TEST_F(AppDelegateTest, LaunchesWhenTheMusicFolderCannotBeCreated) {
     make(path(u"Music"_s));
     EXPECT_TRUE(delegate.applicationDidFinishLaunching());
 }
@@ -300,7 +300,7 @@ TEST_F(AppDelegateTest, RaisesItsWindowWhenASecondLaunchAsks) {
     EXPECT_EQ(running.handler("split").line, "window heard split");
 }
 
-TEST_F(AppDelegateTest, AnswersBeforeItOpensAFileAndSaysWhyItCannot) {
+TEST_F(AppDelegateTest, AnswersBeforeItOpensAFileAndReportsAFailure) {
     FakeAlerts alerts;
     Platform::services().alerts = &alerts;
     ASSERT_TRUE(delegate.applicationDidFinishLaunching());
@@ -319,7 +319,7 @@ TEST_F(AppDelegateTest, AnswersBeforeItOpensAFileAndSaysWhyItCannot) {
     EXPECT_EQ(alerts.shown[0].text, u"it is no sound file"_s);
 }
 
-TEST_F(AppDelegateTest, FinishesARecordingBeforeADialogOrAPromptIsLeft) {
+TEST_F(AppDelegateTest, FinishesARecordingBeforeADialogOrPromptReturns) {
     ASSERT_TRUE(delegate.applicationDidFinishLaunching());
     windows.log.clear();
     // The code behind a prompt's loop waits until the prompt is closed.

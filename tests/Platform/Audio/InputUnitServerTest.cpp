@@ -84,7 +84,7 @@ TEST_F(InputUnitTest, DeliversEverySampleAt48000BesideFourBusyLoops) {
     EXPECT_EQ(capture.unit().lostFrames(), 0u);
 }
 
-TEST_F(InputUnitTest, CutsWhatArrivesIntoCyclesOfTheSizeThatItNamed) {
+TEST_F(InputUnitTest, DeliversCyclesOfTheAnnouncedSize) {
     TestSource source({.description = "Odd cycles", .cycle = 441});
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());
@@ -95,7 +95,7 @@ TEST_F(InputUnitTest, CutsWhatArrivesIntoCyclesOfTheSizeThatItNamed) {
     EXPECT_TRUE(isUnbrokenRamp(capture.samples(0), 0));
 }
 
-TEST_F(InputUnitTest, StampsEachCycleWithTheTimeOfItsCapture) {
+TEST_F(InputUnitTest, StampsEachCycleWithItsCaptureTime) {
     TestSource source({.description = "Stamped"});
     const auto clock = [] { return std::uint64_t(std::chrono::steady_clock::now().time_since_epoch().count()); };
     const auto begun = clock();
@@ -147,7 +147,7 @@ TEST_F(InputUnitTest, ShowsTheDriftBetweenTwoClocksInTheCaptureTimes) {
     EXPECT_TRUE(isUnbrokenRamp(two.samples(0), 0));
 }
 
-TEST_F(InputUnitTest, GivesAMonoDeviceToBothChannels) {
+TEST_F(InputUnitTest, CopiesAMonoDeviceToBothChannels) {
     TestSource source({.description = "Mono", .channels = 1});
     UnitCapture capture(*hardware_, add(source), 2);
     ASSERT_TRUE(capture.start());
@@ -167,7 +167,7 @@ TEST_F(InputUnitTest, DeliversAllChannelsOfADeviceWithMoreThanTwo) {
         EXPECT_TRUE(isUnbrokenRamp(capture.samples(i), i));
 }
 
-TEST_F(InputUnitTest, FillsInWhatWasLostBetweenLosingADeviceAndItsReturn) {
+TEST_F(InputUnitTest, FillsTheTimeBetweenLosingADeviceAndItsReturn) {
     TestSource source({.name = "test.unplug", .description = "Unplugged"});
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());
@@ -200,7 +200,7 @@ TEST_F(InputUnitTest, FillsInWhatWasLostBetweenLosingADeviceAndItsReturn) {
     EXPECT_NEAR(elapsed, double(cycles.back().firstFrame) / capture.sampleRate() + lost, 0.005);
 }
 
-TEST_F(InputUnitTest, TurnsTheTimeWithoutADeviceIntoSilenceWhenAsked) {
+TEST_F(InputUnitTest, ReplacesTheTimeWithoutADeviceWithSilenceWhenAsked) {
     TestSource source({.name = "test.filled", .description = "Filled"});
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());
@@ -221,7 +221,7 @@ TEST_F(InputUnitTest, TurnsTheTimeWithoutADeviceIntoSilenceWhenAsked) {
     EXPECT_NEAR(double(silent), double(capture.unit().lostFrames()), 2048);
 }
 
-TEST_F(InputUnitTest, GoesOnWhenTheServerCameBack) {
+TEST_F(InputUnitTest, ContinuesWhenTheServerReturns) {
     TestSource source({.name = "test.server", .description = "Server restarts"});
     const auto device = add(source);
     UnitCapture capture(*hardware_, device);
@@ -243,7 +243,7 @@ TEST_F(InputUnitTest, GoesOnWhenTheServerCameBack) {
     EXPECT_TRUE(isUnbrokenRamp({samples.begin() + std::ptrdiff_t(secondAt), samples.end()}, 0));
 }
 
-TEST_F(InputUnitTest, SaysThatNothingComesWhileTheServerStandsStill) {
+TEST_F(InputUnitTest, ReportsThatNothingComesWhileTheServerIsStopped) {
     // On the server's clock: since PipeWire 1.4 a source with its own wakes who captures it without the server.
     TestSource source({.description = "Standing still", .ownClock = false});
     UnitCapture capture(*hardware_, add(source));
@@ -288,7 +288,7 @@ TEST_F(InputUnitTest, KeepsItsRateWhenADeviceReturnsWithAnother) {
     EXPECT_GT(*std::max_element(samples.end() - 40000, samples.end()), 0.2f);
 }
 
-TEST_F(InputUnitTest, FollowsItsDeviceAndNotTheOneThatTookItsPlace) {
+TEST_F(InputUnitTest, FollowsItsOwnDeviceNotItsReplacement) {
     TestSource source({.name = "test.mine", .description = "Mine"});
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());
@@ -367,7 +367,7 @@ TEST_F(InputUnitTest, CanBeStartedAgain) {
     }
 }
 
-TEST_F(InputUnitTest, CountsWhatARingThatNobodyEmptiesCannotHold) {
+TEST_F(InputUnitTest, CountsTheFramesThatAFullRingRejects) {
     TestSource source({.description = "Overflow", .rate = 96000});
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());
@@ -385,7 +385,7 @@ TEST_F(InputUnitTest, CountsWhatARingThatNobodyEmptiesCannotHold) {
     EXPECT_EQ(cycles.back().sampleTime - double(cycles.back().firstFrame), double(capture.unit().lostFrames()));
 }
 
-TEST_F(InputUnitTest, RefusesStepsThatCannotBeWithAReason) {
+TEST_F(InputUnitTest, RefusesImpossibleStepsWithAReason) {
     bool found = false;
     const auto unit = hardware_->openOutputUnit(found);
     ASSERT_TRUE(found && unit);
@@ -403,7 +403,7 @@ TEST_F(InputUnitTest, RefusesStepsThatCannotBeWithAReason) {
     EXPECT_EQ(unit->stop(), noErr);
 }
 
-TEST_F(InputUnitTest, DoesNotStartOnADeviceThatLeft) {
+TEST_F(InputUnitTest, DoesNotStartOnARemovedDevice) {
     TestSource source({.name = "test.left", .description = "Left before"});
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());
@@ -414,7 +414,7 @@ TEST_F(InputUnitTest, DoesNotStartOnADeviceThatLeft) {
     EXPECT_EQ(capture.unit().lastError(), u"the device is not there"_s);
 }
 
-TEST_F(InputUnitTest, KeepsUnityGainWhateverWasRemembered) {
+TEST_F(InputUnitTest, KeepsUnityGainWhateverTheSessionManagerStored) {
     // A device at full scale arrives at full scale: no volume control lies between it and the unit.
     TestSource source({.description = "Full scale",
                        .sample = [](std::uint64_t, std::uint32_t channel) { return channel == 0 ? 1.0f : -1.0f; }});

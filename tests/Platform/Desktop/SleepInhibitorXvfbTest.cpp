@@ -9,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-TEST(SleepInhibitor, HoldsSleepOffOnlyWhileItIsAskedTo) {
+TEST(SleepInhibitor, InhibitsSleepOnlyWhileRequested) {
     LoginManager manager(QDBusConnection::sessionBus()); // the tests' private bus is the system bus as well
     ASSERT_TRUE(manager.isRegistered());
     const auto inhibitor = Platform::createSleepInhibitor();
