@@ -261,7 +261,7 @@ bool RecordStateController::Private::exchangeFiles(Ending& ending) {
             continue;
         }
         --ending.job->openFiles;
-        notice({.text = u"The recording could not be split (%1). It goes on in the same file."_s.arg(
+        notice({.text = u"The recording could not be split (%1). It continues in the same file."_s.arg(
                     source.engine->lastError()),
                 .event = u"split"_s});
         if (!exchanged)

@@ -1,11 +1,11 @@
 # SPDX-FileCopyrightText: 2026 The Sonaphex authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# What the scripts share: finding and installing packages, configuring and building. To be sourced.
+# Functions of the scripts: finding and installing packages, configuring and building. Source this file.
 
 say() { printf '\033[1m==>\033[0m %s\n' "$*" >&2; }
 die() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; exit 1; }
 
-# Package lists: what it takes to build, to run, to test, to measure.
+# Package lists: for building, running, testing and benchmarking.
 apt_build="cmake ninja-build g++ ccache pkg-config qt6-base-dev qt6-svg-dev libpipewire-0.3-dev libavcodec-dev libavformat-dev
   libavutil-dev libswresample-dev libtag1-dev libplist-dev libxcb1-dev libxcb-keysyms1-dev libburn-dev libudev-dev"
 apt_run="pipewire pipewire-bin wireplumber libspa-0.2-modules libqt6svg6 qt6-image-formats-plugins fonts-inter
@@ -36,7 +36,7 @@ as_root() {
     fi
 }
 
-# need_packages build run ...: installs what is missing from the named lists.
+# need_packages build run ...: installs the missing packages of the named lists.
 need_packages() {
     local kind names="" missing="" name
     if command -v apt-get >/dev/null; then
@@ -78,14 +78,14 @@ build_once() {
         cmake --preset "$preset" >"build-$preset.log" 2>&1 || { cat "build-$preset.log" >&2; rm -f "build-$preset.log"; die "configuring failed"; }
         rm -f "build-$preset.log"
     fi
-    # Silent when nothing is to be done: looking for new files is not worth a line.
+    # Prints nothing when only the check for new files ran.
     cmake --build --preset "$preset" ${1:+--target} "$@" 2>&1 | awk -v preset="$preset" '
         /no work to do|Re-checking globbed directories/ { next }
         !said { print "==> building (" preset ")"; said = 1 }
         { print; fflush() }' >&2
 }
 
-# build PRESET [targets]: configures when that was not done, builds what changed. Two files of one batch may define the same
+# build PRESET [targets]: configures if needed, then builds. Two files of one batch may define the same
 # name, which is no defect of either: what does not build in batches is built file by file.
 build() {
     build_once "$@" && return

@@ -95,7 +95,7 @@ TEST_F(ShortcutField, NeverShowsAKeyWithoutAModifier) {
     EXPECT_EQ(field->text(), QString());
 }
 
-TEST_F(ShortcutField, TakesAndStoresATypedCombination) {
+TEST_F(ShortcutField, RegistersAndStoresATypedCombination) {
     type(Qt::Key_A, Qt::ShiftModifier | Qt::MetaModifier);
     EXPECT_EQ(field->text(), u"Super + Shift + A"_s);
     EXPECT_FALSE(field->hasFocus());
@@ -107,7 +107,7 @@ TEST_F(ShortcutField, TakesAndStoresATypedCombination) {
     EXPECT_EQ(stored(), expected);
 }
 
-TEST_F(ShortcutField, ComesBackAfterARestart) {
+TEST_F(ShortcutField, IsRestoredAfterARestart) {
     type(Qt::Key_F5, Qt::AltModifier);
     EXPECT_EQ(field->text(), u"Alt + F5"_s);
     field->hotKeyRegister()->unregisterHotKey();
@@ -118,7 +118,7 @@ TEST_F(ShortcutField, ComesBackAfterARestart) {
     EXPECT_TRUE(again.hotKeyRegister()->hasRegisterHotKey());
 }
 
-TEST_F(ShortcutField, ABareKeyClearsTheShortcut) {
+TEST_F(ShortcutField, AKeyWithoutModifiersClearsTheShortcut) {
     type(Qt::Key_K);
     EXPECT_EQ(field->text(), QString());
     EXPECT_FALSE(field->hotKeyRegister()->hasRegisterHotKey());
@@ -151,7 +151,7 @@ TEST_F(ShortcutField, LeavingWithModifiersOnlyStoresNothing) {
     EXPECT_FALSE(defaults.objectForKey(saveKey).isValid());
 }
 
-TEST_F(ShortcutField, ModifiersCountOnlyWithTheFocus) {
+TEST_F(ShortcutField, IgnoresModifiersWithoutTheFocus) {
     QKeyEvent event(QEvent::KeyPress, Qt::Key_Meta, Qt::NoModifier);
     QCoreApplication::sendEvent(field, &event);
     EXPECT_EQ(field->text(), u"Control + Super + S"_s);
@@ -201,7 +201,7 @@ TEST_F(ShortcutField, TypingItsOwnCombinationAgainKeepsIt) {
     EXPECT_TRUE(field->hotKeyRegister()->hasRegisterHotKey());
 }
 
-TEST_F(ShortcutField, IsTakenWhenTheKeyIsUpAgain) {
+TEST_F(ShortcutField, RegistersWhenTheKeyIsReleased) {
     field->setFocus();
     QTest::keyPress(field, Qt::Key_D, Qt::MetaModifier);
     EXPECT_EQ(field->text(), u"Super + D"_s);
@@ -214,7 +214,7 @@ TEST_F(ShortcutField, IsTakenWhenTheKeyIsUpAgain) {
     EXPECT_FALSE(field->hasFocus());
 }
 
-TEST_F(ShortcutField, EscapeTabAndMenuShortcutsAreKeysLikeAnyOther) {
+TEST_F(ShortcutField, CapturesEscapeTabAndMenuShortcuts) {
     bool menuActed = false;
     QShortcut shortcut(QKeySequence(Qt::CTRL | Qt::Key_Q), &window);
     QObject::connect(&shortcut, &QShortcut::activated, &window, [&] { menuActed = true; });
@@ -229,7 +229,7 @@ TEST_F(ShortcutField, EscapeTabAndMenuShortcutsAreKeysLikeAnyOther) {
     EXPECT_EQ(field->text(), QString());
 }
 
-TEST_F(ShortcutField, HotKeysRestWhileItHasTheFocus) {
+TEST_F(ShortcutField, HotKeysAreDisabledWhileItHasTheFocus) {
     int ran = 0;
     field->hotKeyRegister()->setOperation([&] { ++ran; });
     field->setFocus();
@@ -263,7 +263,7 @@ TEST_F(ShortcutField, StoredDictionariesOfAnotherShapeGiveTheDefault) {
     }
 }
 
-TEST_F(ShortcutField, StoredNumbersOfAnyWidthAreUnderstood) {
+TEST_F(ShortcutField, StoredNumbersOfAnyTypeAreAccepted) {
     defaults.setObject(u"wide"_s, QVariantMap{{Field::CharactersKey, u"p"_s},
                                               {Field::ModifierFlagsKey, qlonglong(0x140000)},
                                               {Field::KeyCodeKey, qlonglong(0x10023)}});
@@ -285,7 +285,7 @@ TEST_F(ShortcutField, TheMenuItemShowsTheCombination) {
     EXPECT_TRUE(item->shortcut().isEmpty());
 }
 
-TEST_F(ShortcutField, AMenuItemThatStandsForSomethingElseIsLeftAlone) {
+TEST_F(ShortcutField, AMenuItemOfAnotherFieldIsNotChanged) {
     QAction item;
     field->setMenuItem(&item);
     item.setData(42);
@@ -321,7 +321,7 @@ TEST_F(ShortcutField, SurvivesItsMenuItem) {
     EXPECT_EQ(field->menuItem(), nullptr);
 }
 
-TEST_F(ShortcutField, ARingShowsTheFocus) {
+TEST_F(ShortcutField, AFocusRingIsDrawn) {
     const QImage before = field->grab().toImage();
     QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, field->mapTo(&window, field->rect().center()));
     ASSERT_TRUE(field->hasFocus());

@@ -75,7 +75,7 @@ protected:
 
 } // namespace
 
-TEST_F(MainWindow, BeginsIdleWithTheInputChosen) {
+TEST_F(MainWindow, StartsIdleWithTheInputChosen) {
     world.open();
     EXPECT_TRUE(button("btnSatrtRecord_").isEnabled());
     EXPECT_FALSE(button("btnPauseRecord_").isEnabled());
@@ -130,7 +130,7 @@ TEST_F(MainWindow, AFinishedRecordingIsSelectedAndItsPathShown) {
     EXPECT_EQ(status(), world.folder.filePath(u"music/Track0.m4a"_s));
 }
 
-TEST_F(MainWindow, ARecordingThatIsFinishedLateLeavesWhatTheUserSelectedMeanwhile) {
+TEST_F(MainWindow, ARecordingFinishedLateKeepsTheUsersSelection) {
     for (const QString& title : {u"New"_s, u"One"_s, u"Two"_s})
         addRecording(title);
     MainWndController& controller = world.open();
@@ -149,7 +149,7 @@ TEST_F(MainWindow, ARecordingThatIsFinishedLateLeavesWhatTheUserSelectedMeanwhil
     EXPECT_EQ(controller.library().tableViewSelectionAudioPath(), path);
 }
 
-TEST_F(MainWindow, AShortcutThatIsStillHeldDoesNotAddTheNewEntryToTheSelection) {
+TEST_F(MainWindow, APressedShortcutDoesNotExtendTheSelection) {
     addRecording(u"Old"_s);
     world.open();
     showAll();
@@ -163,7 +163,7 @@ TEST_F(MainWindow, AShortcutThatIsStillHeldDoesNotAddTheNewEntryToTheSelection) 
     QTest::keyRelease(world.controller->window()->windowHandle(), Qt::Key_Control);
 }
 
-TEST_F(MainWindow, ARecordingThatTheFilterDropsIsSaidSo) {
+TEST_F(MainWindow, ReportsARecordingThatTheFilterDropped) {
     PreferenceStore::setPreferenceValue(1, PreferenceStore::PreferenceFilterKey);
     world.open();
     Q_EMIT world.record->recordingFinished(u"/music/Track7.m4a"_s, {});
@@ -190,7 +190,7 @@ TEST_F(MainWindow, ClosingWhileRecordingIsRefusedWithTheAlert) {
     EXPECT_TRUE(world.controller->window()->isVisible());
 }
 
-TEST_F(MainWindow, WithoutASourceTheStartButtonIsDisabledAndSaysWhy) {
+TEST_F(MainWindow, WithoutASourceTheStartButtonIsDisabledWithAReason) {
     world.open();
     world.click("btnBuiltInRecord_");
     EXPECT_FALSE(button("btnSatrtRecord_").isEnabled());
@@ -201,7 +201,7 @@ TEST_F(MainWindow, WithoutASourceTheStartButtonIsDisabledAndSaysWhy) {
     EXPECT_TRUE(button("btnSatrtRecord_").isEnabled());
 }
 
-TEST(MainWindowWithoutComputerAudio, TheBoxOffersTheAddOnAndGoesOffAgain) {
+TEST(MainWindowWithoutComputerAudio, TheBoxOffersTheAddOnAndSwitchesOffAgain) {
     WindowWorld world(false);
     world.open();
     QSignalSpy install(world.controller.get(), &MainWndController::requestSystemAudioRecordDevice);
@@ -275,7 +275,7 @@ TEST_F(MainWindow, TheContextMenuIsHiddenWithoutASelectionAndTheMenuBarIsNot) {
     EXPECT_TRUE(untouched->isVisible()) << "other menus are left alone";
 }
 
-TEST_F(MainWindow, HeadingsOfTheLibraryTakeNoSelection) {
+TEST_F(MainWindow, HeadingsOfTheLibraryCannotBeSelected) {
     addRecording(u"One"_s);
     MainWndController& controller = world.open();
     showAll();
@@ -317,7 +317,7 @@ TEST_F(MainWindow, HeadingsOfTheLibraryTakeNoSelection) {
     EXPECT_EQ(selected(), u"new-record"_s) << "there is none above the first";
 }
 
-TEST_F(MainWindow, WhatWentWrongStaysInTheStatusLineWhenItsRowTurnsGrey) {
+TEST_F(MainWindow, AnErrorStaysInTheStatusLineWhenItsRowTurnsGrey) {
     addRecording(u"One"_s);
     MainWndController& controller = world.open();
     showAll();
@@ -361,7 +361,7 @@ TEST_F(MainWindow, DoubleClickPlaysAndTheButtonPauses) {
     world.click("btnSatrtRecord_");
 }
 
-TEST_F(MainWindow, KeysDoWhatTheMenusSay) {
+TEST_F(MainWindow, KeysTriggerTheMenuCommands) {
     addRecording(u"One"_s);
     MainWndController& controller = world.open();
     showAll();
@@ -400,7 +400,7 @@ TEST_F(MainWindow, SpaceStillSwitchesABoxThatHasTheFocus) {
     EXPECT_EQ(world.controller->display().playSound(), nullptr);
 }
 
-TEST_F(MainWindow, CommandsOfWindowsToComeAreDisabledAndSaySo) {
+TEST_F(MainWindow, CommandsWithoutAWindowAreDisabledWithAReason) {
     addRecording(u"One"_s);
     MainWndController& controller = world.open();
     showAll();
@@ -416,7 +416,7 @@ TEST_F(MainWindow, CommandsOfWindowsToComeAreDisabledAndSaySo) {
     controller.openFilterWindow();
 }
 
-TEST_F(MainWindow, WhatIsDisabledSaysWhy) {
+TEST_F(MainWindow, DisabledCommandsShowTheReason) {
     MainWndController& controller = world.open();
     const auto saysWhy = [&](const char* name, const QString& why) {
         const QWidget& widget = world.outlet(name);
@@ -435,7 +435,7 @@ TEST_F(MainWindow, WhatIsDisabledSaysWhy) {
         EXPECT_FALSE(world.outlet(name).toolTip().contains(u"until the recording ends"_s)) << name;
 }
 
-TEST_F(MainWindow, WindowCommandsGetWhatTheyWorkOn) {
+TEST_F(MainWindow, WindowCommandsGetTheirEntries) {
     addRecording(u"One"_s);
     addRecording(u"Two"_s);
     MainWndController& controller = world.open();
@@ -499,7 +499,7 @@ TEST_F(MainWindow, TheConvertingNoticeDoesNotFlashAtAStopOfOneSource) {
     EXPECT_EQ(shows.count(), 0);
 }
 
-TEST_F(MainWindow, TheConvertingNoticeStaysForWorkThatLasts) {
+TEST_F(MainWindow, TheConvertingNoticeStaysForLongWork) {
     FakeRecordingFiles files;
     files.holdMix = true; // two sources: mixing takes a while
     Platform::services().mediaFiles = &files;
@@ -603,7 +603,7 @@ TEST_F(MainWindow, ChooseDeviceOpensTheListOfDevices) {
     devices.hidePopup();
 }
 
-TEST_F(MainWindow, TitleAndButtonTellTheState) {
+TEST_F(MainWindow, TitleAndButtonShowTheState) {
     world.open();
     const auto title = [&] { return world.controller->window()->windowTitle(); };
     EXPECT_EQ(title(), u"Sonaphex"_s);
@@ -622,7 +622,7 @@ TEST_F(MainWindow, TitleAndButtonTellTheState) {
     EXPECT_EQ(title(), u"Sonaphex"_s);
 }
 
-TEST_F(MainWindow, StateAndTimeStayOnThePlaybackSideWhileSomethingIsRecorded) {
+TEST_F(MainWindow, ThePlaybackSideShowsStateAndTimeDuringARecording) {
     world.open();
     world.click("changeTabViewButton");
     EXPECT_FALSE(world.outlet("timeField").isVisible()) << "nothing is recorded";
@@ -638,7 +638,7 @@ TEST_F(MainWindow, StateAndTimeStayOnThePlaybackSideWhileSomethingIsRecorded) {
     EXPECT_TRUE(world.outlet("timeField").isVisible()) << "a stop shows the recording side";
 }
 
-TEST_F(MainWindow, AnArmedRecordingSaysThatItWaits) {
+TEST_F(MainWindow, ShowsThatAnArmedRecordingWaits) {
     PreferenceStore::setPreferenceValue(false, PreferenceStore::ChooseRecordBuiltIn);
     PreferenceStore::setPreferenceValue(true, PreferenceStore::ChooseRecordComputerAudio);
     world.open();
@@ -661,7 +661,7 @@ TEST_F(MainWindow, AnArmedRecordingSaysThatItWaits) {
     world.click("btnSatrtRecord_");
 }
 
-TEST_F(MainWindow, SaysThatItRecordsATestToneOnAMachineWithoutASoundServer) {
+TEST_F(MainWindow, ShowsThatATestToneIsRecordedWithoutASoundServer) {
     world.hardware.testTone = true;
     world.open();
     auto& health = world.outlet<QLabel>("hintField");
@@ -673,7 +673,7 @@ TEST_F(MainWindow, SaysThatItRecordsATestToneOnAMachineWithoutASoundServer) {
     world.click("btnSatrtRecord_");
 }
 
-TEST_F(MainWindow, SaysWhyNothingCanBeHeard) {
+TEST_F(MainWindow, ShowsWhyNothingCanBeRecorded) {
     world.open();
     auto& health = world.outlet<QLabel>("hintField");
     while (!world.hardware.list.empty())
@@ -703,7 +703,7 @@ TEST_F(MainWindow, RemembersItsSizeAndColumnsAndIsCentred) {
     EXPECT_NEAR(world.controller->window()->frameGeometry().center().x(), screen.center().x(), 1);
 }
 
-TEST_F(MainWindow, AStoredSizeThatMakesNoSenseIsNotTaken) {
+TEST_F(MainWindow, AnInvalidStoredSizeIsIgnored) {
     world.defaults.setObject(WindowLayout::kKey,
                              Dictionary{{u"width"_s, -5}, {u"height"_s, u"x"_s}, {u"columns"_s, 7}});
     world.controller.reset();
@@ -714,7 +714,7 @@ TEST_F(MainWindow, AStoredSizeThatMakesNoSenseIsNotTaken) {
     EXPECT_GE(world.controller->window()->height(), 480);
 }
 
-TEST_F(MainWindow, EveryControlHasANameForThoseWhoHearTheWindow) {
+TEST_F(MainWindow, EveryControlHasAnAccessibleName) {
     world.open();
     for (const QWidget* widget : world.controller->window()->findChildren<QWidget*>()) {
         if (widget->focusPolicy() == Qt::NoFocus || !widget->isVisible() || qobject_cast<const QMenu*>(widget) ||
@@ -744,7 +744,7 @@ TEST_F(MainWindow, TabReachesEveryControl) {
         EXPECT_TRUE(reached.contains(name)) << qPrintable(name);
 }
 
-TEST_F(MainWindow, TheDeviceThatIsChosenIsTheOneThatIsRecorded) {
+TEST_F(MainWindow, RecordsTheChosenDevice) {
     world.hardware.list.push_back({30, u"USB Headset"_s, u"usb"_s});
     world.open();
     auto& devices = world.outlet<QComboBox>("popBuiltInDevice_");
