@@ -141,10 +141,8 @@ void RecordStateController::Private::deviceEvent(Platform::InputUnit::Event even
         if (source.awaySince == 0)
             source.awaySince = Platform::services().clock->hostTime();
         const QString what = event == Event::DeviceLost ? source.label : u"The sound server"_s;
-        told.text =
-            waits
-                ? u"%1 went away. The wait for the first sound continues when it is back."_s.arg(what)
-                : u"%1 went away. The recording goes on when it is back; what was recorded so far is kept."_s.arg(what);
+        told.text = waits ? u"%1 went away. The wait for the first sound continues when it is back."_s.arg(what)
+                          : u"%1 went away. The recording so far is kept and continues when it is back."_s.arg(what);
     } else {
         if (source.awaySince != 0)
             source.awaySeconds += secondsSince(source.awaySince);
