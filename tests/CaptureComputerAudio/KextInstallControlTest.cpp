@@ -87,7 +87,7 @@ protected:
     DriverRegistry registry{marker};
 };
 
-TEST_F(KextInstallControlTest, RemovesNothingWithoutAskingForAPassword) {
+TEST_F(KextInstallControlTest, UninstallsNothingWithoutAPasswordPrompt) {
     EXPECT_FALSE(KextInstallControl::isExist());
     EXPECT_TRUE(KextInstallControl::uninstall());
     EXPECT_TRUE(shell.commands.isEmpty());
@@ -104,7 +104,7 @@ TEST_F(KextInstallControlTest, InstallsTheBundleAndLoadsTheDriver) {
     EXPECT_FALSE(QFile::exists(u"pwned"_s));
 }
 
-TEST_F(KextInstallControlTest, ReplacesAnOlderBundleWithOnePromptAndUnloadsItsDriverAfterThat) {
+TEST_F(KextInstallControlTest, ReplacesAnOlderBundleWithOnePromptThenEndsItsDriver) {
     makeBundle(extensions, "old");
     write(extensions + u"/ComputerAudioCapture.kext/left over"_s, "x");
     write(marker, "");
@@ -126,7 +126,7 @@ TEST_F(KextInstallControlTest, ReplacesAnOlderBundleWithOnePromptAndUnloadsItsDr
     EXPECT_TRUE(CaptureDriver::isLoaded());
 }
 
-TEST_F(KextInstallControlTest, KeepsTheOldDriverWhicheverStepFails) {
+TEST_F(KextInstallControlTest, KeepsTheOldDriverWhenAnyStepFails) {
     // A command of this name, earlier in PATH than the system's, that fails at its first, second ... call.
     const QString tools = folder.filePath(u"tools"_s);
     const QByteArray path = qgetenv("PATH");
@@ -153,7 +153,7 @@ TEST_F(KextInstallControlTest, KeepsTheOldDriverWhicheverStepFails) {
     }
 }
 
-TEST_F(KextInstallControlTest, KeepsTheOldDriverAndAsksForNoPasswordWhenTheNewOneCannotRun) {
+TEST_F(KextInstallControlTest, KeepsTheOldDriverWithoutAPromptWhenTheNewOneCannotRun) {
     makeBundle(extensions, "old");
     write(marker, "");
     write(bundle.resources + u"/ComputerAudioCapture.kext/CaptureDriver"_s,
@@ -167,7 +167,7 @@ TEST_F(KextInstallControlTest, KeepsTheOldDriverAndAsksForNoPasswordWhenTheNewOn
     EXPECT_TRUE(CaptureDriver::isLoaded());
 }
 
-TEST_F(KextInstallControlTest, CanBeRunByEveryoneWhateverTheUmask) {
+TEST_F(KextInstallControlTest, InstallsADriverThatEveryUserCanRunWhateverTheUmask) {
     const auto before = umask(077);
     const bool installed = KextInstallControl::install();
     umask(before);
@@ -193,7 +193,7 @@ TEST_F(KextInstallControlTest, RemovesTheBundleAndUnloadsTheDriver) {
     EXPECT_FALSE(CaptureDriver::isLoaded());
 }
 
-TEST_F(KextInstallControlTest, AnswersNoWhenThePromptIsCancelled) {
+TEST_F(KextInstallControlTest, FailsWhenThePromptIsCancelled) {
     shell.refusal = Platform::Error{Platform::Error::Kind::Cancelled, u"the password prompt was cancelled"_s};
     EXPECT_FALSE(KextInstallControl::install());
     EXPECT_EQ(KextInstallControl::lastError(), u"the password prompt was cancelled"_s);
@@ -216,7 +216,7 @@ TEST_F(KextInstallControlTest, KeepsTheDeviceWhenThePromptIsCancelled) {
     EXPECT_EQ(KextInstallControl::lastError(), u"the password prompt was cancelled"_s);
 }
 
-TEST_F(KextInstallControlTest, AnswersNoWhenTheDriverDoesNotComeUp) {
+TEST_F(KextInstallControlTest, FailsWhenTheDriverDoesNotStart) {
     write(bundle.resources + u"/ComputerAudioCapture.kext/CaptureDriver"_s,
           "#!/bin/sh\n[ \"$1\" = --check ] && exit 0\nexit 1\n");
     EXPECT_FALSE(KextInstallControl::install());
@@ -224,14 +224,14 @@ TEST_F(KextInstallControlTest, AnswersNoWhenTheDriverDoesNotComeUp) {
     EXPECT_FALSE(KextInstallControl::lastError().isEmpty());
 }
 
-TEST_F(KextInstallControlTest, AnswersNoWhenTheResourcesHaveNoDriver) {
+TEST_F(KextInstallControlTest, FailsWhenTheResourcesContainNoDriver) {
     QDir(bundle.resources).removeRecursively();
     EXPECT_FALSE(KextInstallControl::install());
     EXPECT_TRUE(shell.commands.isEmpty());
     EXPECT_FALSE(KextInstallControl::lastError().isEmpty());
 }
 
-TEST_F(KextInstallControlTest, TurnsTheEventLoopWhileItWaitsAndRefusesASecondCall) {
+TEST_F(KextInstallControlTest, RunsTheEventLoopWhileItWaitsAndRefusesASecondCall) {
     std::atomic<bool> promptOpen{true};
     shell.before = [&] {
         while (promptOpen)
@@ -258,7 +258,7 @@ TEST_F(KextInstallControlTest, LoadsAnInstalledDriverAtLaunchWhenItIsMissing) {
     EXPECT_TRUE(KextInstallControl::loadIfInstalled());
 }
 
-TEST_F(KextInstallControlTest, WaitsNoLongerThanItsPatienceForADriverThatDoesNotCome) {
+TEST_F(KextInstallControlTest, StopsWaitingForADriverThatDoesNotAppear) {
     makeBundle(extensions, "new");
     write(extensions + u"/ComputerAudioCapture.kext/CaptureDriver"_s, "#!/bin/sh\nexit 0\n");
     QElapsedTimer timer;
@@ -269,7 +269,7 @@ TEST_F(KextInstallControlTest, WaitsNoLongerThanItsPatienceForADriverThatDoesNot
     EXPECT_LE(registry.looks, 1000 / 2 + 3);
 }
 
-TEST_F(KextInstallControlTest, AProgramThatEndsDoesNotWaitForThePrompt) {
+TEST_F(KextInstallControlTest, AnEndingProgramDoesNotWaitForThePrompt) {
     shell.refusal = Platform::Error{Platform::Error::Kind::Cancelled, u"the password prompt was cancelled"_s};
     shell.before = [] {
         Platform::MainQueue::post([] { QCoreApplication::exit(0); });
@@ -310,7 +310,7 @@ TEST_F(AdminShellTest, RunsTheCommandThroughTheHelper) {
     EXPECT_EQ(given.readAll(), "/bin/sh -c exit 0; %s %1\n");
 }
 
-TEST_F(AdminShellTest, SaysThatThePromptWasCancelledOrTheRightsNotGiven) {
+TEST_F(AdminShellTest, ReportsACancelledPromptAndMissingRights) {
     makeHelper("exit 126\n");
     const Platform::Error cancelled = Platform::createAdminShell(false)->executeShellStringWithAdmin(u"true"_s).error();
     EXPECT_EQ(cancelled.kind, Platform::Error::Kind::Cancelled);
@@ -331,13 +331,13 @@ TEST_F(AdminShellTest, EndsThePromptWhenItsWorkerIsInterrupted) {
     EXPECT_EQ(result.error().kind, Platform::Error::Kind::Cancelled);
 }
 
-TEST_F(AdminShellTest, SaysThatThereIsNoHelper) {
+TEST_F(AdminShellTest, ReportsAMissingHelper) {
     const auto result = Platform::createAdminShell(false)->executeShellStringWithAdmin(u"true"_s);
     EXPECT_EQ(result.error().kind, Platform::Error::Kind::NotFound);
     EXPECT_TRUE(result.error().text.contains(u"pkexec is not installed"_s));
 }
 
-TEST_F(AdminShellTest, RunsDirectlyWithRightsAndReportsWhatTheCommandSays) {
+TEST_F(AdminShellTest, RunsDirectlyWithRightsAndReportsTheCommandsError) {
     const auto shell = Platform::createAdminShell(true);
     EXPECT_TRUE(shell->executeShellStringWithAdmin(u"exit 0"_s));
     EXPECT_EQ(shell->executeShellStringWithAdmin(u"echo 'no room' >&2; exit 3"_s).error().text, u"no room"_s);

@@ -263,7 +263,7 @@ protected:
 
 } // namespace
 
-TEST(Floors, StandOnEachOther) {
+TEST(Floors, IncludeOnlyLowerFloors) {
     EXPECT_EQ(faultsOf(QStringLiteral(SONAPHEX_SOURCE_DIR)).join(u'\n').toStdString(), "");
 }
 
@@ -282,7 +282,7 @@ TEST(Floors, HaveEachClassInFilesOfItsName) {
     EXPECT_EQ(strayDefinitionsOf(QStringLiteral(SONAPHEX_SOURCE_DIR)).join(u'\n').toStdString(), "");
 }
 
-TEST(Floors, AreSortedAsTheBuildSortsThem) {
+TEST(Floors, MatchTheSortingOfTheBuild) {
     EXPECT_EQ(floorOf(u"Platform/Audio/linux/X.cpp"_s), Platform);
     EXPECT_EQ(floorOf(u"Source/Control/ToolControl.cpp"_s), Core);
     EXPECT_EQ(floorOf(u"Source/CDBurn/BurnControl.cpp"_s), Core);

@@ -162,7 +162,7 @@ struct BadInput : testing::Test {
 
 } // namespace
 
-TEST_F(BadInput, EachKindIsToldInOneClearLine) {
+TEST_F(BadInput, EachKindIsReportedInOneClearLine) {
     EXPECT_EQ(errorOf(folder.filePath(u"missing.m4a"_s)).kind, Error::Kind::NotFound);
     EXPECT_EQ(errorOf(folder.path()).kind, Error::Kind::NotAFile);
     EXPECT_EQ(errorOf(u"/dev/null"_s).kind, Error::Kind::NotAFile);
@@ -174,7 +174,7 @@ TEST_F(BadInput, EachKindIsToldInOneClearLine) {
               Error::Kind::UnknownFormat);
 }
 
-TEST_F(BadInput, AFifoDoesNotMakeAnyoneWait) {
+TEST_F(BadInput, AFifoDoesNotBlock) {
     const QString path = folder.filePath(u"fifo.m4a"_s);
     ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
     EXPECT_EQ(errorOf(path).kind, Error::Kind::NotAFile);
@@ -182,7 +182,7 @@ TEST_F(BadInput, AFifoDoesNotMakeAnyoneWait) {
               Error::Kind::NotAFile);
 }
 
-TEST_F(BadInput, AFileWithPicturesOnlyHoldsNoSound) {
+TEST_F(BadInput, AFileWithPicturesOnlyHasNoAudio) {
     const QString path = folder.filePath(u"film.mp4"_s);
     ASSERT_EQ(tool(u"ffmpeg"_s, {u"-v"_s, u"error"_s, u"-f"_s, u"lavfi"_s, u"-i"_s, u"testsrc=d=0.5:s=64x64"_s,
                                  u"-c:v"_s, u"mpeg4"_s, path})
@@ -191,7 +191,7 @@ TEST_F(BadInput, AFileWithPicturesOnlyHoldsNoSound) {
     EXPECT_EQ(errorOf(path).kind, Error::Kind::NoAudio);
 }
 
-TEST_F(BadInput, ATruncatedFileIsRefusedOrReadAsFarAsItGoes) {
+TEST_F(BadInput, ATruncatedFileIsRefusedOrReadToItsEnd) {
     const Samples sound = tones(300000);
     for (const std::uint32_t type : {kAudioFileM4AType, kAudioFileWAVEType, kAudioFileCAFType}) {
         const QString whole = folder.filePath(u"whole"_s);
@@ -205,7 +205,7 @@ TEST_F(BadInput, ATruncatedFileIsRefusedOrReadAsFarAsItGoes) {
     }
 }
 
-TEST_F(BadInput, ADamagedPlaceIsToldOnceAndReadOnBehind) {
+TEST_F(BadInput, ADamagedPlaceIsReportedOnceAndReadingContinuesBehindIt) {
     const Samples sound = tones(400000);
     const QString path = folder.filePath(u"a.m4a"_s);
     writeFile(path, kAudioFileM4AType, sound);

@@ -79,7 +79,7 @@ TEST_F(ArmedRecordTest, TheFileBeginsWithTheCycleOfTheFirstSound) {
     EXPECT_EQ(media.last().framesAccepted, 480 + 48000);
 }
 
-TEST_F(ArmedRecordTest, StoppedBeforeAnySoundKeepsListeningAndTellsTheTruth) {
+TEST_F(ArmedRecordTest, StopBeforeAnySoundKeepsWaitingAndReportsIt) {
     beginWithComputerAudioOnly();
     controller->startAndStopRecord();
     controller->startAndStopRecord();
@@ -99,7 +99,7 @@ TEST_F(ArmedRecordTest, StoppedBeforeAnySoundKeepsListeningAndTellsTheTruth) {
     EXPECT_EQ(alerts.shown.size(), 1);
 }
 
-TEST_F(ArmedRecordTest, TheClosingAsksTheChosenSourceAndTheOtherOneIsKept) {
+TEST_F(ArmedRecordTest, ClosingDependsOnTheChosenSourceAndKeepsTheOtherRecording) {
     beginWithComputerAudioOnly();
     controller->startAndStopRecord();
     controller->startAndStopRecord();
@@ -112,7 +112,7 @@ TEST_F(ArmedRecordTest, TheClosingAsksTheChosenSourceAndTheOtherOneIsKept) {
     EXPECT_EQ(delegate.paths, QStringList{track(0)});
 }
 
-TEST_F(ArmedRecordTest, WhatAStoppedWaitRecordsSurvivesItsDevice) {
+TEST_F(ArmedRecordTest, TheRecordingOfAStoppedWaitSurvivesItsDevice) {
     beginWithComputerAudioOnly();
     controller->startAndStopRecord();
     controller->startAndStopRecord();
@@ -137,7 +137,7 @@ TEST_F(ArmedRecordTest, AStoppedWaitEndsWithItsDevice) {
     EXPECT_EQ(controller->getAudioRecordPath(), track(0));
 }
 
-TEST_F(ArmedRecordTest, NoCutMeetsAnInputThatIsBeingExchanged) {
+TEST_F(ArmedRecordTest, NoCutUsesAnInputThatIsBeingReplaced) {
     beginWithComputerAudioOnly();
     addHeadset();
     controller->startAndStopRecord();
@@ -152,7 +152,7 @@ TEST_F(ArmedRecordTest, NoCutMeetsAnInputThatIsBeingExchanged) {
     EXPECT_TRUE(hardware.unitOf(Headset));
 }
 
-TEST_F(ArmedRecordTest, ASoundInTheMomentOfTheStopKeepsItsName) {
+TEST_F(ArmedRecordTest, ASoundDuringStopKeepsItsName) {
     addComputerAudio();
     HeardWhenAsked& computer = beginWithEngines<HeardWhenAsked>();
     controller->startAndStopRecord();
@@ -165,7 +165,7 @@ TEST_F(ArmedRecordTest, ASoundInTheMomentOfTheStopKeepsItsName) {
     controller.reset();
 }
 
-TEST_F(ArmedRecordTest, WhatAStoppedWaitRecordedIsKeptByTheNextStart) {
+TEST_F(ArmedRecordTest, TheNextStartKeepsTheRecordingOfAStoppedWait) {
     beginWithComputerAudioOnly();
     controller->startAndStopRecord();
     record(ComputerAudio, 0.25F, 6);
@@ -174,7 +174,7 @@ TEST_F(ArmedRecordTest, WhatAStoppedWaitRecordedIsKeptByTheNextStart) {
     EXPECT_EQ(delegate.paths, QStringList{track(0)});
 }
 
-TEST_F(ArmedRecordTest, WhatAStoppedWaitRecordedIsKeptWhenTheProgramEnds) {
+TEST_F(ArmedRecordTest, TheRecordingOfAStoppedWaitIsKeptWhenTheProgramEnds) {
     beginWithComputerAudioOnly();
     controller->startAndStopRecord();
     controller->startAndStopRecord();
@@ -193,7 +193,7 @@ TEST_F(ArmedRecordTest, PausingAWaitChangesOnlyTheButton) {
     EXPECT_TRUE(controller->isWaittingForSound());
 }
 
-TEST_F(ArmedRecordTest, SplittingAWaitStaysWaiting) {
+TEST_F(ArmedRecordTest, SplittingAWaitKeepsWaiting) {
     beginWithComputerAudioOnly();
     setFilter(false);
     controller->startAndStopRecord();
@@ -232,7 +232,7 @@ TEST_F(ArmedRecordTest, SilenceClosesTheFileAndBeginsTheNextAtOnce) {
     EXPECT_TRUE(waitFor([this] { return rawFiles().isEmpty(); }));
 }
 
-TEST_F(ArmedRecordTest, APartThatASilenceBeginsIsNamedWithoutAWait) {
+TEST_F(ArmedRecordTest, APartAfterASilenceIsNamedWithoutReadingTheFolder) {
     beginWithComputerAudioOnly();
     setFilter(false);
     g_SplitTimeMS = 300;
@@ -270,7 +270,7 @@ TEST_F(ArmedRecordTest, ThePartAfterADroppedOneKeepsItsReservedName) {
     EXPECT_EQ(delegate.paths, QStringList{track(0)});
 }
 
-TEST_F(ArmedRecordTest, EverySilenceBetweenSongsIsCutOnce) {
+TEST_F(ArmedRecordTest, CutsOnceAtEverySilenceBetweenSongs) {
     beginWithComputerAudioOnly();
     g_SplitTimeMS = 300;
     controller->startAndStopRecord();
@@ -287,7 +287,7 @@ TEST_F(ArmedRecordTest, EverySilenceBetweenSongsIsCutOnce) {
     EXPECT_EQ(frames, 3 * 48000 * 65 / 10);
 }
 
-TEST_F(ArmedRecordTest, APartAfterACutByHandIsCutAtItsNextSilence) {
+TEST_F(ArmedRecordTest, APartAfterAManualSplitIsCutAtItsNextSilence) {
     beginWithComputerAudioOnly();
     g_SplitTimeMS = 300;
     controller->startAndStopRecord();
@@ -318,7 +318,7 @@ TEST_F(ArmedRecordTest, WithSplittingOffNothingIsCut) {
     EXPECT_EQ(media.files.size(), 1U);
 }
 
-TEST_F(ArmedRecordTest, AChangedSplitTimeHoldsAtOnce) {
+TEST_F(ArmedRecordTest, AChangedSplitTimeAppliesAtOnce) {
     beginWithComputerAudioOnly();
     controller->startAndStopRecord();
     play(ComputerAudio, 0.25F, 1);
@@ -353,7 +353,7 @@ TEST_F(ArmedRecordTest, ATimeWithoutTheDeviceIsNotCut) {
     EXPECT_EQ(media.files.size(), 2U) << "the silence before and after it counts";
 }
 
-TEST_F(ArmedRecordTest, ACutThatFailsGoesOnInTheOldFileAndTriesOnceASilence) {
+TEST_F(ArmedRecordTest, AFailedCutContinuesInTheOldFileAndIsTriedOncePerSilence) {
     beginWithComputerAudioOnly();
     g_SplitTimeMS = 300;
     controller->startAndStopRecord();
@@ -372,7 +372,7 @@ TEST_F(ArmedRecordTest, ACutThatFailsGoesOnInTheOldFileAndTriesOnceASilence) {
     EXPECT_EQ(delegate.paths, QStringList{track(0)});
 }
 
-TEST_F(ArmedRecordTest, ASplitTimeOfZeroCutsNoSound) {
+TEST_F(ArmedRecordTest, ASplitTimeOfZeroDoesNotCutInsideSound) {
     beginWithComputerAudioOnly();
     g_SplitTimeMS = 0;
     controller->startAndStopRecord();
@@ -386,7 +386,7 @@ TEST_F(ArmedRecordTest, ASplitTimeOfZeroCutsNoSound) {
     EXPECT_EQ(media.files.size(), 2U);
 }
 
-TEST_F(ArmedRecordTest, AStoredSplitTimeThatIsNoNumberCutsNoSound) {
+TEST_F(ArmedRecordTest, AStoredSplitTimeThatIsNotANumberDoesNotCutInsideSound) {
     defaults.setObject(PreferenceStore::PreferenceSplitKey, 1);
     defaults.setObject(PreferenceStore::PreferenceSplitTimeMSKey, u"soon"_s);
     beginWithComputerAudioOnly();
@@ -397,7 +397,7 @@ TEST_F(ArmedRecordTest, AStoredSplitTimeThatIsNoNumberCutsNoSound) {
     EXPECT_EQ(media.files.size(), 1U);
 }
 
-TEST_F(ArmedRecordTest, APauseIsNotEndedByASplitTimeOfZero) {
+TEST_F(ArmedRecordTest, ASplitTimeOfZeroDoesNotEndAPause) {
     beginWithComputerAudioOnly();
     controller->startAndStopRecord();
     play(ComputerAudio, 0.25F, 1);
@@ -422,7 +422,7 @@ struct HeardAtTheHold : BuildInAudioRecord {
 
 } // namespace
 
-TEST_F(ArmedRecordTest, ASoundInTheMomentOfTheNextStartHasAnOwner) {
+TEST_F(ArmedRecordTest, ASoundDuringTheNextStartIsNotLost) {
     addComputerAudio();
     setFilter(false);
     HeardAtTheHold& computer = beginWithEngines<HeardAtTheHold>();
@@ -440,7 +440,7 @@ TEST_F(ArmedRecordTest, ASoundInTheMomentOfTheNextStartHasAnOwner) {
     controller.reset();
 }
 
-TEST_F(ArmedRecordTest, ASoundInTheMomentOfTheEndIsFinished) {
+TEST_F(ArmedRecordTest, ASoundDuringTheEndIsFinished) {
     addComputerAudio();
     setFilter(false);
     HeardWhenAsked& computer = beginWithEngines<HeardWhenAsked>();
