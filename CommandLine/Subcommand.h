@@ -21,7 +21,7 @@ struct Option {
     const char* byDefault = ""; ///< the default, as help shows it; empty when there is none
 };
 
-inline constexpr Option kJsonOption{"json", "", "Print one JSON document instead of lines for people."};
+inline constexpr Option kJsonOption{"json", "", "Print one JSON document instead of text."};
 
 /// An example of the manual page: the arguments after the program's name, and what they do.
 struct Example {

@@ -85,7 +85,7 @@ Result<> LinuxServices::startAudio(const std::function<bool()>& whileWaiting) {
                        stderr);
     } else if (server == PrivateSession::Server::Silent) {
         d->audio = Error{Error::Kind::Busy,
-                         QStringLiteral("the sound server does not answer: it takes connections and says nothing. "
+                         QStringLiteral("the sound server does not answer: it accepts connections but does not answer. "
                                         "Restart it (systemctl --user restart pipewire) and try again")};
     }
     services().audioHardware = (d->audioHardware = createAudioHardware(d->session != nullptr)).get();

@@ -24,7 +24,7 @@ Result<std::shared_ptr<AudioTrack>> AudioTrack::open(MediaFiles& files, const QS
     const AudioStreamBasicDescription format = reader.fileDataFormat();
     const std::int64_t length = reader.fileLengthFrames();
     if (length <= 0 || format.mSampleRate <= 0)
-        return Error{Error::Kind::NoAudio, path + QStringLiteral(": holds no sound")};
+        return Error{Error::Kind::NoAudio, path + QStringLiteral(": contains no audio")};
     const auto rate = std::int64_t(format.mSampleRate);
     track->frames_ = rate == CDFormat::kRate ? length : (length * CDFormat::kRate + rate / 2) / rate;
     track->sectors_ = std::max(CDFormat::kShortestTrack,

@@ -50,8 +50,9 @@ void TrackFeed::decode() {
     std::vector<std::byte> block(std::size_t(kBlockSectors * CDFormat::kBytesPerSector));
     for (const auto& each : layout_) {
         const auto track = std::dynamic_pointer_cast<AudioTrack>(each);
-        const auto renderer = track ? track->renderer()
-                                    : Error{Error::Kind::NoAudio, each->path() + QStringLiteral(": is no sound file")};
+        const auto renderer =
+            track ? track->renderer()
+                  : Error{Error::Kind::NoAudio, each->path() + QStringLiteral(": is not an audio file")};
         error = renderer.error();
         bool goesOn = bool(renderer);
         for (std::int64_t left = each->sectors(); goesOn && left > 0; left -= kBlockSectors) {

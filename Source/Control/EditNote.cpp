@@ -66,7 +66,7 @@ bool settle(const QByteArray& content, const EditNote::Retag& retag) {
     const QString now = QFileInfo::exists(path) || QFileInfo(path).isSymLink() ? path : newPath;
     if (!QFileInfo::exists(now))
         return true;
-    qCInfo(editLog, "an edit of %s was interrupted; its entry is brought in step", qUtf8Printable(now));
+    qCInfo(editLog, "an edit of %s was interrupted; its entry was updated", qUtf8Printable(now));
     return retag(path, factsOf(now));
 }
 
@@ -76,7 +76,7 @@ Platform::Result<EditNote> EditNote::begin(const QString& path, const QString& n
     using Platform::Error;
     const QString folder = notesFolder();
     if (!QDir().mkpath(folder))
-        return Error{Error::Kind::Other, u"%1: the folder cannot be made"_s.arg(folder)};
+        return Error{Error::Kind::Other, u"%1: the folder cannot be created"_s.arg(folder)};
     Platform::FileLock lock;
     const QString name = folder + u'/' + QString::number(QRandomGenerator::global()->generate64(), 36) + kEnding;
     if (const auto taken = lock.take(name); !taken)

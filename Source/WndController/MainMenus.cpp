@@ -80,7 +80,7 @@ void MainMenus::makeEditMenu() {
     menu->setToolTipsVisible(true);
     addWindow(menu, Window::ID3Edit, tr("Edit &Tags…"), QStringLiteral("tags"),
               tr("Title, artist, album and cover of the recording"), {QKeySequence(Qt::Key_F2)});
-    addWindow(menu, Window::AudioTrim, tr("T&rim…"), QStringLiteral("trim"), tr("Keep a stretch of the recording"),
+    addWindow(menu, Window::AudioTrim, tr("T&rim…"), QStringLiteral("trim"), tr("Keep a part of the recording"),
               {QKeySequence(Qt::CTRL | Qt::Key_T)});
     addWindow(menu, Window::RingtoneMaker, tr("Make a &Ringtone…"), QStringLiteral("ringtone"),
               tr("Cut a ringtone out of the recording"), {QKeySequence(Qt::CTRL | Qt::Key_M)});

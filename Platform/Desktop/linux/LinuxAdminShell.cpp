@@ -28,7 +28,7 @@ public:
             const auto helper = QStandardPaths::findExecutable(u"pkexec"_s);
             if (helper.isEmpty())
                 return Error{Error::Kind::NotFound,
-                             u"pkexec is not installed: nobody can be asked for administrator rights"_s};
+                             u"pkexec is not installed: administrator rights cannot be requested"_s};
             words.prepend(helper);
         }
         QProcess process;

@@ -105,7 +105,7 @@ void ImageWriter::work() {
             track = stretch.track;
             const auto audio = std::dynamic_pointer_cast<AudioTrack>(layout_[track]);
             if (!audio)
-                return stop(layout_[track]->path() + u": is no sound file"_s);
+                return stop(layout_[track]->path() + u": is not an audio file"_s);
             auto opened = audio->renderer();
             if (!opened)
                 return stop(opened.error().text);

@@ -73,7 +73,7 @@ Result<std::shared_ptr<ImageFileTrack>> ImageFileTrack::open(const QString& path
     if (!info.exists())
         return Error{Error::Kind::NotFound, path + u": no such file"_s};
     if (!info.isFile())
-        return Error{Error::Kind::NotAFile, path + u": is no file"_s};
+        return Error{Error::Kind::NotAFile, path + u": is not a file"_s};
     if (!info.isReadable())
         return Error{Error::Kind::NotPermitted, path + u": no right to read it"_s};
     if (info.size() == 0)

@@ -85,7 +85,7 @@ Result<std::unique_ptr<InputFile>> InputFile::open(const QString& path, bool dec
     input->av_ = Av::formatLibrary(&why);
     if (!input->av_)
         return makeError(Error::Kind::Other, path,
-                         QStringLiteral("sound files cannot be read: ") + QString::fromLocal8Bit(why.c_str()));
+                         QStringLiteral("audio files cannot be read: ") + QString::fromLocal8Bit(why.c_str()));
     input->frame_.reset(av_frame_alloc());
     input->packet_.reset(Av::codecs().allocPacket());
     if (const auto opened = input->openContainer(); !opened)
@@ -130,7 +130,7 @@ Result<> InputFile::openContainer() {
     if (code < 0) {
         const bool unknown = code == AVERROR_INVALIDDATA || code == AVERROR_EOF;
         return makeError(Error::Kind::UnknownFormat, path_,
-                         unknown ? QStringLiteral("not a sound file, or damaged beyond reading")
+                         unknown ? QStringLiteral("not an audio file, or too damaged to be read")
                                  : QString::fromStdString(Av::text(code)),
                          QStringLiteral("libavformat: ") + QString::fromStdString(Av::text(code)));
     }
@@ -138,7 +138,7 @@ Result<> InputFile::openContainer() {
     code = av_->findStreamInfo(context, nullptr);
     const int best = av_->findBestStream(context, AVMEDIA_TYPE_AUDIO, -1, -1, nullptr, 0);
     if (best < 0) {
-        return makeError(Error::Kind::NoAudio, path_, QStringLiteral("the file holds no sound"));
+        return makeError(Error::Kind::NoAudio, path_, QStringLiteral("the file contains no audio"));
     }
     stream_ = context->streams[best];
     for (unsigned i = 0; i < context->nb_streams; ++i) {
@@ -149,7 +149,7 @@ Result<> InputFile::openContainer() {
     channels_ = stream_->codecpar->ch_layout.nb_channels;
     if (code < 0 || rate_ <= 0 || rate_ > mostRate || channels_ <= 0 || channels_ > 64 || stream_->time_base.num <= 0 ||
         stream_->time_base.den <= 0) {
-        return makeError(Error::Kind::Damaged, path_, QStringLiteral("the sound in it cannot be understood"));
+        return makeError(Error::Kind::Damaged, path_, QStringLiteral("its audio format is not supported"));
     }
     if (formatIs(*format_, "mp4"))
         facts_ = readMpeg4Facts(file_, rate_);
@@ -162,7 +162,7 @@ Result<> InputFile::openDecoder() {
     codec_ = Av::createDecoder(*stream_);
     if (!codec_ || Av::codecs().open(codec_.get(), nullptr, nullptr) < 0) {
         codec_.reset();
-        return makeError(Error::Kind::UnknownFormat, path_, QStringLiteral("no decoder for this kind of sound"));
+        return makeError(Error::Kind::UnknownFormat, path_, QStringLiteral("no decoder for its audio format"));
     }
     if (outputChannels_ == 0)
         outputChannels_ = channels_;
@@ -191,7 +191,7 @@ Result<> InputFile::openDecoder() {
         return {};
     }
     if (got == Got::Silence) {
-        return makeError(Error::Kind::Damaged, path_, QStringLiteral("the sound in it cannot be decoded"));
+        return makeError(Error::Kind::Damaged, path_, QStringLiteral("its audio cannot be decoded"));
     }
     if (ignored) {
         return *ignored;
