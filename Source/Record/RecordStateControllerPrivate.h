@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include ""
 #include "Platform/Foundation/MainQueue.h"
 #include "Source/Record/RecordDisplay.h"
 #include "Source/Record/RecordNotices.h"
