@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include ""
 #include "Platform/Foundation/MainQueue.h"
+#include "Platform/Media/ExtAudioFile.h"
 #include "Source/Record/RecordDisplay.h"
 #include "Source/Record/RecordNotices.h"
 #include "Source/Record/RecordQueue.h"
