@@ -3,7 +3,6 @@
 //
 // What the record state controller tells the user: devices that go, stretches that are missing, disks that fill up.
 #include "Platform/Foundation/Clock.h"
-#include "Platform/Foundation/MainQueue.h"
 #include "Platform/Foundation/Services.h"
 #include "Source/Record/RecordStateControllerPrivate.h"
 #include "Source/Record/UnfinishedRecordings.h"
@@ -73,7 +72,7 @@ QString RecordStateController::writeProblem() const {
     return d->writeError().text;
 }
 
-Platform::MediaError RecordStateController::Private::writeError() const {
+Platform::Error RecordStateController::Private::writeError() const {
     for (const RecordSource& source : sources)
         if (source.writes())
             if (auto error = source.engine->writeError())
@@ -105,9 +104,8 @@ void RecordStateController::Private::queueNotice(const RecordNotice& told) {
 /// Always posted: callers may hold the mutex, and the receivers of noticesChanged() read the state, which takes it.
 void RecordStateController::Private::notice(RecordNotice notice) {
     alive.post([this, number = recordingNumber_.load(), notice = std::move(notice)] {
-        if (number != recordingNumber_ && !notice.outlivesRecording && notice.kept.isEmpty())
-            return;
-        notices_.show(notice);
+        if (number == recordingNumber_ || notice.outlivesRecording || !notice.kept.isEmpty())
+            notices_.show(notice);
     });
 }
 
@@ -173,7 +171,7 @@ void RecordStateController::Private::showLosses() {
 void RecordStateController::Private::showWriteProblem() {
     const auto problem = writeError();
     if (problem && !writeProblemShown_) {
-        const bool isFull = problem.kind == Platform::MediaError::Kind::DiskFull;
+        const bool isFull = problem.kind == Platform::Error::Kind::DiskFull;
         if (isFull) {
             fullSince_ = Platform::services().clock->hostTime();
             fullBytes_ = -1;

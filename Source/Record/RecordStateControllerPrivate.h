@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Platform/Foundation/MainQueue.h"
-#include "Platform/Media/ExtAudioFile.h"
+#include "Platform/Foundation/Result.h"
 #include "Source/Record/RecordDisplay.h"
 #include "Source/Record/RecordNotices.h"
 #include "Source/Record/RecordQueue.h"
@@ -112,7 +112,7 @@ struct RecordStateController::Private {
     void followRoom(const RecordRoom::Room& room);
     void goOnAfterFullDisk();
     /// The first error of the files at hand.
-    [[nodiscard]] Platform::MediaError writeError() const;
+    [[nodiscard]] Platform::Error writeError() const;
     [[nodiscard]] bool grows() const;
     void keepAwake();
 
