@@ -215,7 +215,7 @@ void RecordQueue::openMovies(const std::shared_ptr<ExportJob>& job) {
     auto second = media->openMovie(raws.at(1));
     const QString name = QFileInfo(job->path(ExportJob::OutPutPath)).fileName();
     if (!first && !second) {
-        setAside(job, raws, u"%1could not be finished: %2."_s.arg(name, reason(first.error())));
+        setAside(job, raws, u"%1 could not be finished: %2."_s.arg(name, reason(first.error())));
         return;
     }
     if (!first || !second) {
