@@ -68,7 +68,7 @@ void RecordingNotifier::noticesChanged() {
     const QStringList before = std::exchange(noticesBefore_, notices);
     if (notices.isEmpty() || !mayNotify())
         return;
-    const QString newest = notices.last();
+    const QString& newest = notices.last();
     for (const QString& old : before)
         if (withoutNumbers(old) == withoutNumbers(newest))
             return;

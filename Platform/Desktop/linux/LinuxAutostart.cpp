@@ -47,7 +47,7 @@ public:
           file_(Folders::config() + u"/autostart/"_s + desktopEntry + u".desktop"_s) {}
 
     [[nodiscard]] bool isEnabled() const override {
-        const auto content = FileManager::read(file_, 64 * 1024);
+        const auto content = FileManager::read(file_, qint64(64) * 1024);
         if (!content)
             return false;
         // Desktops disable an entry with one of these two lines.
