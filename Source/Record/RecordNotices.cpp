@@ -13,7 +13,7 @@ namespace {
 /// The display has no room for more, and the newest must stay visible.
 constexpr qsizetype MostNotices = 20;
 
-Q_LOGGING_CATEGORY(recordLog, "sonaphex.record")
+Q_LOGGING_CATEGORY(noticeLog, "sonaphex.record")
 
 } // namespace
 
@@ -30,7 +30,7 @@ void RecordNotices::show(const RecordNotice& notice) {
     };
     if (!list_.isEmpty() && list_.last() == notice)
         return;
-    qCWarning(recordLog, "%s", qUtf8Printable(notice.sentence()));
+    qCWarning(noticeLog, "%s", qUtf8Printable(notice.sentence()));
     list_.removeIf(same);
     list_.append(notice);
     if (list_.size() > MostNotices)

@@ -240,7 +240,7 @@ TEST_F(RecordServer, WaitsForAnUnpluggedDevice) {
         30000))
         << said.data();
     EXPECT_EQ(process.exitCode(), 0);
-    EXPECT_TRUE(said.contains("The input device is back")) << said.data();
+    EXPECT_TRUE(said.contains("are missing: the input device was away")) << said.data();
     const QString path = QString::fromUtf8(process.readAllStandardOutput().trimmed());
     EXPECT_GE(AudioCheck::framesByFfprobe(path), 4 * 44100);
 }

@@ -18,11 +18,11 @@ namespace {
 
 using namespace std::string_view_literals;
 
-constexpr int deepestNesting = 50; // the lists that this program stores are five levels deep
+constexpr int deepestOwnNesting = 50; // the lists that this program stores are five levels deep
 
-class Reader {
+class OwnXmlReader {
 public:
-    explicit Reader(std::string_view xml) : rest_(xml) {}
+    explicit OwnXmlReader(std::string_view xml) : rest_(xml) {}
 
     std::optional<Dictionary> list() {
         take(R"(<?xml version="1.0" encoding="UTF-8"?>)"sv);
@@ -137,7 +137,7 @@ private:
     }
 
     QVariant object(int depth, std::size_t key) {
-        if (depth > deepestNesting)
+        if (depth > deepestOwnNesting)
             failed_ = true;
         if (take("<string>"sv)) {
             const std::string_view content = text();
@@ -230,7 +230,7 @@ private:
 std::optional<Dictionary> fromOwnXml(const QByteArray& xml) {
     if (xml.contains('\0'))
         return std::nullopt;
-    return Reader({xml.constData(), std::size_t(xml.size())}).list();
+    return OwnXmlReader({xml.constData(), std::size_t(xml.size())}).list();
 }
 
 } // namespace Platform::PropertyList

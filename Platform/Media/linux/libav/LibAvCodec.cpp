@@ -9,8 +9,8 @@ namespace Av {
 
 namespace {
 
-struct Loaded {
-    Loaded() : file("libavcodec.so." AV_STRINGIFY(LIBAVCODEC_VERSION_MAJOR)) {
+struct LoadedCodecs {
+    LoadedCodecs() : file("libavcodec.so." AV_STRINGIFY(LIBAVCODEC_VERSION_MAJOR)) {
         file.find(library.findDecoder, "avcodec_find_decoder");
         file.find(library.findEncoderByName, "avcodec_find_encoder_by_name");
         file.find(library.allocContext, "avcodec_alloc_context3");
@@ -38,7 +38,7 @@ struct Loaded {
 } // namespace
 
 const CodecLibrary* codecLibrary(std::string* why) {
-    static const Loaded loaded;
+    static const LoadedCodecs loaded;
     if (loaded.file.why().empty())
         return &loaded.library;
     if (why)

@@ -8,9 +8,9 @@ namespace Av {
 
 namespace {
 
-struct Loaded {
+struct LoadedFormats {
     // The version that the headers are of belongs to that of libavcodec: streams and packets go from one to the other.
-    Loaded() : file("libavformat.so." AV_STRINGIFY(LIBAVFORMAT_VERSION_MAJOR)) {
+    LoadedFormats() : file("libavformat.so." AV_STRINGIFY(LIBAVFORMAT_VERSION_MAJOR)) {
         file.find(library.allocIo, "avio_alloc_context");
         file.find(library.freeIo, "avio_context_free");
         file.find(library.seekIo, "avio_seek");
@@ -33,7 +33,7 @@ struct Loaded {
 } // namespace
 
 const FormatLibrary* formatLibrary(std::string* why) {
-    static const Loaded loaded;
+    static const LoadedFormats loaded;
     if (loaded.file.why().empty() && loaded.codecsMissing.empty())
         return &loaded.library;
     if (why)
