@@ -88,6 +88,12 @@ function(sonaphex_floor name)
     # Each command of the program has a run() of its own, so those files stay apart.
     if(SONAPHEX_UNITY AND NOT name STREQUAL "sonaphex_program")
         set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 16)
+        # Files that need Qt Gui stay apart too: the linker takes whole batches, and each command would load Qt Gui.
+        set_source_files_properties(
+            Platform/Desktop/linux/LinuxActivation.cpp Platform/Desktop/linux/LinuxStatusBars.cpp
+            Platform/Media/linux/tags/BasicID3ChangeArtwork.cpp RingtoneMaker/WaveImage.cpp
+            Source/Control/ID3ChangeControlPictures.cpp Source/Control/ToolControlPictures.cpp
+            PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
     endif()
     if(SONAPHEX_PCH)
         target_precompile_headers(${name} PRIVATE

@@ -67,6 +67,7 @@ QModelIndex MediaNodeListTableView::moveCursor(CursorAction action, Qt::Keyboard
 QWidget* MediaNodeListTableView::editCell(const QModelIndex& cell) {
     if (!QTableView::edit(cell, AllEditTriggers, nullptr))
         return nullptr;
+    isFresh_ = false; // whoever closes the field and presses here has the focus already
     return indexWidget(cell);
 }
 

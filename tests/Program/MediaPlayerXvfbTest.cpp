@@ -10,6 +10,8 @@
 #include <QImage>
 #include <QUrl>
 
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -100,7 +102,10 @@ protected:
 } // namespace
 
 TEST_F(PlayerOnTheBus, IsControlledByPlayerctl) {
-    EXPECT_EQ(runTool(u"playerctl"_s, {u"-l"_s}).output.trimmed(), "sonaphex");
+    // It lists the players of both buses, and the tests have one bus for both.
+    QByteArrayList players = runTool(u"playerctl"_s, {u"-l"_s}).output.trimmed().split('\n');
+    players.erase(std::unique(players.begin(), players.end()), players.end());
+    EXPECT_EQ(players, QByteArrayList{"sonaphex"});
     EXPECT_EQ(playerctl({u"status"_s}), "Stopped");
     playerctl({u"play"_s});
     ASSERT_TRUE(statusBecomes("Playing"));

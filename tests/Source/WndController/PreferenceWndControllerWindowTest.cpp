@@ -223,9 +223,10 @@ TEST_F(Preferences, ClosingAppliesAndStoresEverything) {
     EXPECT_FALSE(controller->isWindowVisible());
     EXPECT_EQ(g_SplitTimeMS, 1000);
     const Dictionary expected{
-        {u"PreferenceSavePathKey"_s, musicFolder()}, {u"PreferenceRingtoneSavePathKey"_s, musicFolder()},
-        {u"PreferenceSplitKey"_s, qlonglong(1)},     {u"PreferenceFilterKey"_s, qlonglong(0)},
-        {u"PreferenceSplitTimeMSKey"_s, u"1000"_s},  {u"PreferenceFilterTimeKey"_s, u"10"_s}};
+        {u"PreferenceSavePathKey"_s, musicFolder()},    {u"PreferenceRingtoneSavePathKey"_s, musicFolder()},
+        {u"PreferenceSplitKey"_s, qlonglong(1)},        {u"PreferenceFilterKey"_s, qlonglong(0)},
+        {u"PreferenceSplitTimeMSKey"_s, u"1000"_s},     {u"PreferenceFilterTimeKey"_s, u"10"_s},
+        {u"PreferenceNotificationsKey"_s, qlonglong(1)}};
     EXPECT_EQ(defaults.values(), expected);
 }
 

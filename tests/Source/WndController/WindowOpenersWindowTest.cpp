@@ -124,7 +124,8 @@ TEST_F(WindowOpeners, TheCommandsOpenTheirWindows) {
               u"Ringtone from “%1”"_s.arg(title));
     EXPECT_EQ(modalWindowAfter([&] { world.click("btnRingtone_"); }), u"Ringtone from “%1”"_s.arg(title));
     const QString filterTitle = u"Short Recordings"_s;
-    EXPECT_EQ(modalWindowAfter([&] { QTest::keyClick(window, Qt::Key_F, Qt::ControlModifier); }), filterTitle);
+    EXPECT_EQ(modalWindowAfter([&] { QTest::keyClick(window, Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier); }),
+              filterTitle);
     EXPECT_EQ(modalWindowAfter([&] { world.click("btnFilter_"); }), filterTitle);
     EXPECT_FALSE(QApplication::activeModalWidget());
 }
