@@ -50,11 +50,10 @@ class [[nodiscard]] Result {
 public:
     /// From a value, or from what converts to one, such as a pointer to a derived class.
     template <typename Other>
+    // NOLINTNEXTLINE(bugprone-forwarding-reference-overload): a Result is no Value, so that copies stay copies
     requires(std::is_convertible_v<Other&&, Value> && !std::is_convertible_v<Other&&, Error>) Result(Other&& value)
-        : content_(std::in_place_index<0>, std::forward<Other>(value)) {}      // NOLINT: a value is a result
-    Result(Error error) : content_(std::in_place_index<1>, std::move(error)) { // NOLINT: an error is a result
-        assert(this->error());
-    }
+        : content_(std::in_place_index<0>, std::forward<Other>(value)) {}
+    Result(Error error) : content_(std::in_place_index<1>, std::move(error)) { assert(this->error()); }
 
     /// Whether there is a value.
     explicit operator bool() const { return content_.index() == 0; }
