@@ -74,7 +74,7 @@ RecordingRun::RecordingRun(RecordPreferences& preferences, const RecordingTask& 
                          }
                          if (problem_.isEmpty())
                              problem_ = controller_.notices().isEmpty() ? u"a recording could not be finished"_s
-                                                                        : controller_.notices().last();
+                                                                        : controller_.notices().constLast();
                          told_ = controller_.notices().size();
                      });
 }

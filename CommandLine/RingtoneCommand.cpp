@@ -132,7 +132,7 @@ int run(const QStringList& given) {
         return wrongUsage(ringtoneCommand, u"ringtone needs --from and --to"_s);
     if (task.to <= task.from)
         return wrongUsage(ringtoneCommand, u"--to is not after --from"_s);
-    task.source = QFileInfo(arguments.positional().first()).absoluteFilePath();
+    task.source = QFileInfo(arguments.positional().constFirst()).absoluteFilePath();
     return make(task, arguments.isSet(u"json"_s));
 }
 

@@ -76,14 +76,13 @@ int run(const QStringList& given) {
         return wrongUsage(tagCommand, arguments.problem());
     if (arguments.positional().size() != 1)
         return wrongUsage(tagCommand, u"tag takes one file"_s);
-    QString path = arguments.positional().first();
+    QString path = arguments.positional().constFirst();
     bool isYear = true;
     const QString yearText = arguments.value(u"year"_s);
     const int year = yearText.isEmpty() ? 0 : yearText.toInt(&isYear);
     if (!isYear)
         return wrongUsage(tagCommand, u"--year: %1 is not a number"_s.arg(yearText));
 
-    QString why;
     auto tags = BasicID3Change::read(path);
     if (!tags)
         return fail(tags.error().text);
