@@ -117,8 +117,8 @@ int run(const QStringList& given) {
     if (arguments.isSet(u"save-as"_s) && arguments.value(u"save-as"_s).isEmpty())
         return wrongUsage(trimCommand, u"--save-as names no file"_s);
     EditNote::recover(MediaLibraryRequests::retag);
-    return trim(QFileInfo(arguments.positional().constFirst()).absoluteFilePath(), from, to, arguments.value(u"save-as"_s),
-                arguments.isSet(u"json"_s));
+    return trim(QFileInfo(arguments.positional().constFirst()).absoluteFilePath(), from, to,
+                arguments.value(u"save-as"_s), arguments.isSet(u"json"_s));
 }
 
 } // namespace

@@ -61,7 +61,7 @@ FileValues fileValuesOf(const QByteArray& document) {
 QStringList texts(const QJsonValue& array) {
     QStringList list;
     const QJsonArray values = array.toArray();
-    for (const QJsonValue value : values)
+    for (const auto& value : values)
         list.append(value.toString());
     return list;
 }

@@ -53,8 +53,9 @@ LibraryPresenter::LibraryPresenter(MediaLibrary& library, QTreeView& outline, QT
             &LibraryPresenter::tableViewSelectionDidChange);
     connect(&table_, &QTableView::doubleClicked, this, &LibraryPresenter::tableViewDoubleAction);
     // Row changes by the model itself change what can be filtered, and may remove selected rows.
-    for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
-        connect(tableModel_.get(), signal, this, [this] { Q_EMIT canFilterAudioChanged(); });
+    const auto rowsChanged = [this] { Q_EMIT canFilterAudioChanged(); };
+    connect(tableModel_.get(), &QAbstractItemModel::rowsInserted, this, rowsChanged);
+    connect(tableModel_.get(), &QAbstractItemModel::rowsRemoved, this, rowsChanged);
     connect(tableModel_.get(), &QAbstractItemModel::modelReset, this, [this] {
         Q_EMIT canFilterAudioChanged();
         tableViewSelectionDidChange();
