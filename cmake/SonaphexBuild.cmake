@@ -88,6 +88,8 @@ function(sonaphex_floor name)
     # Each command of the program has a run() of its own, so those files stay apart.
     if(SONAPHEX_UNITY AND NOT name STREQUAL "sonaphex_program")
         set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 16)
+        # A batch includes its files, and g++ warns of types from an unnamed namespace in what is included.
+        target_compile_options(${name} PRIVATE -Wno-subobject-linkage)
         # Files that need Qt Gui stay apart too: the linker takes whole batches, and each command would load Qt Gui.
         set_source_files_properties(
             Platform/Desktop/linux/LinuxActivation.cpp Platform/Desktop/linux/LinuxStatusBars.cpp
