@@ -71,7 +71,7 @@ inline Samples tones(std::size_t frames, double rate = 44100, std::size_t channe
     return rows;
 }
 
-/// A sweep without an edge at either end of the spectrum; a rate converter must preserve it.
+/// A sweep that stays in the middle of the audible band; a rate converter must preserve it.
 inline Samples sweep(std::size_t frames, double rate, std::size_t channels = 2) {
     Samples rows(channels, std::vector<float>(frames));
     for (std::size_t i = 0; i < frames; ++i) {
