@@ -199,6 +199,7 @@ TEST_F(DefaultsFile, MergesAValueThatTwoProcessesChanged) {
     PropertyListDefaults one(path());
     PropertyListDefaults other(path());
     one.setMergeForKey(u"list"_s, joinTexts);
+    ASSERT_EQ(one.objectForKey(u"list"_s), u"base"_s) << "read before the other one writes";
     other.setObject(u"list"_s, u"theirs"_s);
     ASSERT_TRUE(other.flush());
     one.setObject(u"list"_s, u"ours"_s);
