@@ -41,8 +41,8 @@
 
 namespace {
 
-/// What the first recording and the first change of a long library need is prepared on workers when the window stands,
-/// so that they do not compete with its start.
+/// Delay after which workers prepare the first recording and the first change of a long library, so that they do not
+/// compete with the start of the window.
 constexpr auto afterFirstPaint = std::chrono::milliseconds(500);
 
 /// A hot key's operation and its guard.

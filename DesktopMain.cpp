@@ -69,7 +69,7 @@ QString fileToOpen(int argc, char** argv) {
     return QFileInfo(QFile::decodeName(argv[1])).absoluteFilePath();
 }
 
-/// A program that the desktop starts at login, or to send it something, shows no window of its own accord.
+/// Whether the desktop started the program at login, or to send it a request. It then shows no window by itself.
 bool startsHidden(int argc, char** argv) {
     return argc == 2 && qstrcmp(argv[1], "--hidden") == 0;
 }
@@ -98,7 +98,7 @@ int runWindows(int argc, char** argv) {
     };
 
     const auto running = Platform::RunningProgram::create(Platform::services().bundle->bundleIdentifier());
-    // Hidden there is nothing to raise in a program that runs.
+    // A hidden start must not raise the window of a program that already runs.
     if (hidden && !running->acquire() && running->lastError().isEmpty())
         return CommandLine::Done;
     switch (Launch::begin(*running, launchToken)) {

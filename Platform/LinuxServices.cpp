@@ -66,7 +66,7 @@ void LinuxServices::install(Mode mode) {
     set.diskArbitration = (d->diskArbitration = createDiskArbitration()).get();
     if (mode == Mode::CommandLine)
         return;
-    introduceToPortal(set.bundle->bundleIdentifier()); // the first word to the portal
+    introduceToPortal(set.bundle->bundleIdentifier()); // must be the first call to the portal
     set.colorScheme = (d->colorScheme = createColorScheme()).get();
     set.hotKeys = (d->hotKeys = createHotKeys()).get();
 }
@@ -85,8 +85,8 @@ Result<> LinuxServices::startAudio(const std::function<bool()>& whileWaiting) {
                        stderr);
     } else if (server == PrivateSession::Server::Silent) {
         d->audio = Error{Error::Kind::Busy,
-                         QStringLiteral("the sound server does not answer: it accepts connections but does not answer. "
-                                        "Restart it (systemctl --user restart pipewire) and try again")};
+                         QStringLiteral("the sound server accepts connections but does not answer. Restart it "
+                                        "(systemctl --user restart pipewire) and try again")};
     }
     services().audioHardware = (d->audioHardware = createAudioHardware(d->session != nullptr)).get();
     services().ioRegistry = (d->ioRegistry = createIORegistry()).get();

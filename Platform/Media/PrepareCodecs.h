@@ -4,9 +4,9 @@
 
 namespace Platform {
 
-/// Loads the libraries that encode and decode sound, which otherwise happens when the first file is opened. It takes
-/// some tens of milliseconds. Any thread; a window calls it on a worker once it is painted, so that the first recording
-/// begins at once.
+/// Loads the libraries that encode and decode sound. Without this call they are loaded when the first file is opened,
+/// which delays that file by some tens of milliseconds. Any thread. The window calls it on a worker after its first
+/// paint, so that the first recording begins at once.
 void prepareCodecs();
 
 } // namespace Platform

@@ -54,7 +54,7 @@ QString inLines(int lines, const QString& text, const QFontMetrics& metrics, int
     return text.left(end) + u'\n' + inLines(lines - 1, text.mid(end + 1), metrics, room);
 }
 
-/// A notice in two lines. A path takes the second one and is elided in the middle. @p more stands at the end.
+/// A notice in two lines. A path is on the second line, elided in the middle. @p more is appended.
 QString inTwoLines(const RecordNotice& notice, const QString& more, const QFontMetrics& metrics, int room) {
     if (notice.path.isEmpty())
         return inLines(2, notice.text + more, metrics, room);
@@ -319,7 +319,7 @@ void AudioWaveViewController::showNotices() {
     ui_->noticeLine->setVisible(!notices_.isEmpty());
     if (notices_.isEmpty())
         return;
-    // The newest one in the line, all of them in its tool tip.
+    // The line shows the newest notice, its tool tip shows all of them.
     const RecordNotice& newest = notices_.last();
     const QString help = helpText(newest.help);
     ui_->helpButton->setText(help);

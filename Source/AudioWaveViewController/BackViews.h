@@ -29,7 +29,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-/// The plain background of further controls, which take its colours from its palette.
+/// The plain background of additional controls. The controls get their colours from its palette.
 class AdditionalControlBackView : public QWidget {
     Q_OBJECT
 public:

@@ -57,7 +57,7 @@ public:
     void updateShortcutValue();
     /// Remembers the present combination as the default.
     void keepAsDefault() { default_ = data(); }
-    /// Returns to the default, stores it and registers it. Unregister the fields whose combination it may be first.
+    /// Restores the default, stores it and registers it. Unregister first all fields that may hold this combination.
     void useDefault();
     /// @return whether the combination is registered now.
     bool updateHotKeyRegister();
@@ -107,7 +107,7 @@ private:
     Dictionary default_;
     Dictionary atFocus_; ///< the combination when the focus came
     bool awaitsRelease_ = false;
-    bool modifiersSeen_ = false; ///< since the focus came: the combination shown is the one that is being typed
+    bool modifiersSeen_ = false; ///< since the field has the focus: the user is typing the shown combination
     bool captured_ = false;      ///< the combination was typed, not loaded
     bool ignoresReleases_ = false;
     bool holdsKeyboard_ = false;

@@ -134,7 +134,7 @@ void MediaLibrary::loadMediaLibraryNode(MediaLibraryNode& node) {
 }
 
 void MediaLibrary::loadMediaLibraryNodeLeaf(MediaLibraryNode& leaf) {
-    updateLeaf(leaf, Unchanged::IsTold);
+    updateLeaf(leaf, Unchanged::IsAnnounced);
 }
 
 QVariantList MediaLibrary::contentOf(const QString& leafKey) {
@@ -309,7 +309,7 @@ void MediaLibrary::updateLeaves() {
 void MediaLibrary::updateLeaf(MediaLibraryNode& leaf, Unchanged unchanged) {
     const LeafChange change = LeafChanges::between(leaf.leafNode(), contentOf(leaf.key()));
     leaf.setLeafNode(change.entries); // also when equal: a list shared with the collection is compared quickly
-    if (!change.isEmpty() || (unchanged == Unchanged::IsTold && !leaf.key().isEmpty()))
+    if (!change.isEmpty() || (unchanged == Unchanged::IsAnnounced && !leaf.key().isEmpty()))
         Q_EMIT leafChanged(leaf.key(), change);
 }
 

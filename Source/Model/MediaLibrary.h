@@ -80,7 +80,7 @@ private:
     void takeStored(Platform::UserDefaults& defaults);
     void updateLeaves();
     void updateLeavesAndStore();
-    enum class Unchanged { IsTold, IsSilent };
+    enum class Unchanged { IsAnnounced, IsSilent };
     /// Updates one leaf with one signal.
     void updateLeaf(MediaLibraryNode& leaf, Unchanged unchanged);
     [[nodiscard]] QVariantList contentOf(const QString& leafKey);

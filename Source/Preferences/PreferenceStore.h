@@ -16,8 +16,8 @@ extern std::atomic<std::int32_t> g_SplitTimeMS;
 /// at launch, before any other thread runs.
 extern QString g_strTmpPath;
 
-/// All access to the stored settings. The preferences window forwards its operations here. Types and defaults of
-/// the settings stand in Source/Preferences/Settings.h.
+/// All access to the stored settings. The preferences window forwards its operations here.
+/// Source/Preferences/Settings.h defines the types and defaults of the settings.
 namespace PreferenceStore {
 
 inline const QString PreferenceSplitKey = QStringLiteral("PreferenceSplitKey");
@@ -26,14 +26,14 @@ inline const QString PreferenceFilterKey = QStringLiteral("PreferenceFilterKey")
 inline const QString PreferenceFilterTimeKey = QStringLiteral("PreferenceFilterTimeKey");
 inline const QString PreferenceSavePathKey = QStringLiteral("PreferenceSavePathKey");
 inline const QString PreferenceRingtoneSavePathKey = QStringLiteral("PreferenceRingtoneSavePathKey");
-/// Whether notifications of the desktop tell of recordings while the window is not in front; a number, 1 by default.
+/// Whether desktop notifications report recordings while the window is not in front; a number, 1 by default.
 inline const QString PreferenceNotificationsKey = QStringLiteral("PreferenceNotificationsKey");
 inline const QString ChooseRecordBuiltIn = QStringLiteral("ChooseRecordBuiltIn");
 inline const QString ChooseRecordComputerAudio = QStringLiteral("ChooseRecordComputerAudio");
 inline const QString PreferenceStartStopShortcutKey = QStringLiteral("PreferenceStartStopShortcutKey");
 inline const QString PreferencePauseResumeShortcutKey = QStringLiteral("PreferencePauseResumeShortcutKey");
 inline const QString PreferenceStartNewRecordShortcutKey = QStringLiteral("PreferenceStartNewRecordShortcutKey");
-/// Unfinished recordings that the user has seen: file names with their times, as text.
+/// Unfinished recordings that the user has dismissed: file names with their times, as text.
 inline const QString kUnfinishedSeenKey = QStringLiteral("kUnfinishedSeenKey");
 inline const QString kMediaLibrarySavedKey = QStringLiteral("kMediaLibrarySavedKey");
 

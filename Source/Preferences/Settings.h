@@ -7,21 +7,21 @@
 
 #include <cstdint>
 
-/// The settings that the store keeps: key, type and default of each stand here and nowhere else.
+/// The table of the stored settings: the only place that defines the key, type and default of each.
 namespace Settings {
 
 enum class Type {
-    Number, ///< a number, a boolean or a text; Platform::intValue() and the like say which number a text stands for
+    Number, ///< a number, a boolean or a text; Platform::intValue() and similar functions convert texts
     Folder  ///< a text, an absolute path. The default is PreferenceStore::defaultMusicFolder()
 };
 
 struct Setting {
     QString key;
     Type type;
-    QVariant byDefault{}; ///< of a number
+    QVariant byDefault{}; ///< for a Number only
 
     [[nodiscard]] QVariant defaultObject() const;
-    /// @p stored as it is, or the default when nothing is stored or the stored object is not of the type.
+    /// @p stored unchanged, or the default when @p stored is invalid or has another type.
     [[nodiscard]] QVariant usable(const QVariant& stored) const;
 };
 
@@ -35,22 +35,22 @@ inline const Setting notifications{PreferenceStore::PreferenceNotificationsKey, 
 inline const Setting recordBuiltIn{PreferenceStore::ChooseRecordBuiltIn, Type::Number, true};
 inline const Setting recordComputerAudio{PreferenceStore::ChooseRecordComputerAudio, Type::Number, false};
 
-/// A key combination. The object that is stored, and which object is usable, belong to KeybordShortcutTextView.
+/// A key combination. KeybordShortcutTextView defines the stored object and decides which objects are usable.
 struct Shortcut {
     QString key;
-    QString characters;    ///< of the default, which also has the Command and the Control key
-    std::uint16_t keyCode; ///< of the default
+    QString characters;    ///< of the default combination, which also has the Command and the Control key
+    std::uint16_t keyCode; ///< of the default combination
 };
 
 inline const Shortcut startStop{PreferenceStore::PreferenceStartStopShortcutKey, QStringLiteral("s"), 1};
 inline const Shortcut pauseResume{PreferenceStore::PreferencePauseResumeShortcutKey, QStringLiteral("p"), 35};
 inline const Shortcut startNewRecord{PreferenceStore::PreferenceStartNewRecordShortcutKey, QStringLiteral("n"), 45};
 
-/// The usable object of the store.
+/// The stored value when it is usable, else the default.
 [[nodiscard]] QVariant value(const Setting& setting);
 void setValue(const QVariant& object, const Setting& setting);
 
-/// -1 when splitting is off, else the leading integer of the stored time: what g_SplitTimeMS is set to at launch.
+/// The value of g_SplitTimeMS at launch: -1 when splitting is off, else the leading integer of the stored time.
 [[nodiscard]] std::int32_t storedSplitTimeMS();
 
 } // namespace Settings

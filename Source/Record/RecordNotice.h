@@ -18,16 +18,16 @@ struct RecordNotice {
     };
 
     QString text;
-    /// What the text ends with; empty when it ends by itself.
+    /// The path at the end of the text; empty when the text needs none.
     QString path{};
     Help help = Help::None;
     /// The file or folder that the help is about, when it is not the path.
     QString target{};
-    /// Notices about one event replace each other. Empty: no other one is about it.
+    /// Identifies the event: a newer notice about an event replaces the older one. Empty when nothing replaces it.
     QString event{};
-    /// Files in the folder of unfinished recordings. They are named at each start until this notice was seen.
+    /// Files in the folder of unfinished recordings. Each start shows them again until the user has dismissed them.
     QStringList kept{};
-    /// It does not go when the next recording starts.
+    /// The notice stays when the next recording starts.
     bool outlivesRecording = false;
 
     /// Text and path as one sentence.

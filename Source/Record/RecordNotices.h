@@ -7,29 +7,31 @@
 #include <QList>
 #include <QObject>
 
-/// The notices that the user has not seen yet, newest last: one for each event, brought up to date. Main thread.
+/// The notices that the user has not dismissed yet, newest last. Each event has one notice, which is updated. Main
+/// thread.
 class RecordNotices : public QObject {
     Q_OBJECT
 public:
     using QObject::QObject;
 
     [[nodiscard]] const QList<RecordNotice>& list() const { return list_; }
-    /// As sentences.
+    /// The sentences of list().
     [[nodiscard]] QStringList sentences() const;
 
-    /// Adds a notice as the newest one. It takes the place of an earlier one about the same event, or with the same
-    /// text. One that says nothing new changes nothing.
+    /// Adds a notice as the newest one and removes an earlier one about the same event or with the same text. Does
+    /// nothing when the newest notice is equal.
     void show(const RecordNotice& notice);
-    /// show() when there is a notice about this event; one that was dismissed stays so.
+    /// Calls show() only when the list has a notice about this event: a dismissed notice does not return.
     void update(const RecordNotice& notice);
-    /// What the notice was about is over.
+    /// Removes the notice about an event that is over.
     void withdraw(const QString& event);
-    /// Notices of an earlier recording go, but for those that outlive it.
+    /// Removes the notices of the previous recording, except those that outlive it.
     void beginRecording();
-    /// The user has seen all of them, or the one about @p event. Files that they name are not named at the next start.
+    /// The user dismissed all notices, or the one about @p event. The next start does not show their files again.
     void dismiss();
     void dismiss(const QString& event);
-    /// The list, which is empty then. What it names counts as unseen: a terminal may have had no reader.
+    /// Returns the sentences and empties the list. The files in them still count as unseen, because nobody may have
+    /// read the terminal.
     [[nodiscard]] QStringList take();
 
 Q_SIGNALS:

@@ -31,7 +31,7 @@ constexpr double MixShare = 0.3;
 /// Clocks of real devices differ by some hundred parts per million. A larger value is a failed measurement.
 constexpr double LargestDrift = 2e-3;
 
-/// The error text of a failed step without its trailing full stop, so that it fits into a sentence.
+/// The error text of a failed step, for the middle of a sentence.
 QString reason(const Error& error) {
     return error.text.isEmpty() ? u"the reason is unknown"_s : error.text;
 }
@@ -44,7 +44,7 @@ void removeTemporaryFile(const QString& path) {
                  qUtf8Printable(removed.error().forLog()));
 }
 
-/// A notice that ends with the place where files were kept. @p what it is that is kept, at the beginning of a sentence.
+/// A notice that ends with the place where files were kept. @p what names the files, as the beginning of a sentence.
 RecordNotice keptNotice(const QString& text, const QString& what, const QStringList& kept) {
     RecordNotice notice{.text = text};
     if (kept.isEmpty())

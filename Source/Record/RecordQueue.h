@@ -66,7 +66,7 @@ public:
         std::function<RecordFilter()> filter;
     };
 
-    /// Of notices about a recording that could not be written whole.
+    /// The event of notices about a recording that could not be written completely.
     static inline const QString UnwrittenEvent = QStringLiteral("write");
 
     explicit RecordQueue(Owner owner, QObject* parent = nullptr);
@@ -79,7 +79,7 @@ public:
     /// after the queue is destroyed: the guard, obtained while the queue lives, then makes it do nothing.
     struct Guard {
         Platform::MainQueue::WhileAlive::Handle alive;
-        RecordQueue* queue; ///< to be touched in work that @p alive runs
+        RecordQueue* queue; ///< use it only in work that is posted through @p alive
     };
     [[nodiscard]] Guard guard() { return {alive_.handle(), this}; }
     static void rawFileClosed(const Guard& guard, const std::shared_ptr<ExportJob>& job, OSStatus status);

@@ -14,11 +14,11 @@ using Platform::FileManager::availableBytes;
 
 namespace {
 
-/// Bytes of a recorded second of one source: AAC at 128 kb/s, which becomes up to 140, and the boxes around it.
+/// Bytes per recorded second of one source: AAC at 128 kb/s, in practice up to 140 kb/s, and the boxes around it.
 constexpr double EncodedBytes = 18000;
-/// Bytes of a mixed second: 44100 frames of two 32-bit samples.
+/// Bytes per mixed second: 44100 frames of two 32-bit samples.
 constexpr double MixedBytes = 353000;
-/// Seconds that a disk takes which does not tell its room.
+/// Seconds that are assumed when the free space of a disk is unknown.
 constexpr double Unknown = 1e9;
 
 } // namespace
@@ -45,12 +45,12 @@ RecordRoom::Room RecordRoom::measure(const Recording& recording) {
     const bool mixes = recording.sources > 1;
     const auto temporary = availableBytes(recording.temporaryFolder);
     Room room{0, recording.temporaryFolder, temporary};
-    // The mix of what is recorded so far needs its room as well, and grows with each further second.
+    // Space is also reserved for the mix of the recording so far; it grows with each further second.
     const double mixed = mixes ? MixedBytes : 0;
     room.seconds = temporary < 0
                        ? Unknown
                        : (double(temporary) - recording.seconds * mixed) / (EncodedBytes * recording.sources + mixed);
-    // Within one file system the finished recording is only renamed.
+    // Within one file system the finished recording is only renamed and needs no more space.
     if (QStorageInfo(recording.temporaryFolder).device() != QStorageInfo(recording.recordFolder).device()) {
         const auto target = availableBytes(recording.recordFolder);
         const double seconds = double(target) / EncodedBytes - recording.seconds;

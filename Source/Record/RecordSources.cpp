@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int RetryMilliseconds = 500;
-/// Of the notice about a device in the place of the chosen one.
+/// Event of the notice that another device replaces the chosen one.
 const QString ReplacedEvent = u"replaced"_s;
 
 QString nameOf(const QVariant& device) {
@@ -231,7 +231,7 @@ void RecordSources::followDevices() {
     Q_EMIT devicesChanged();
 }
 
-/// The device that was heard is gone; the user is told which one is heard instead.
+/// The captured device is gone: informs the user which device replaces it.
 void RecordSources::tellReplacement(const QString& gone) {
     RecordNotice notice{.text = u"%1 is gone. There is no other input device: connect one."_s.arg(gone),
                         .event = ReplacedEvent};

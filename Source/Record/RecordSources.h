@@ -46,7 +46,7 @@ Q_SIGNALS:
     void computerAudioDeviceChanged();
     /// A message for the user.
     void noticed(const RecordNotice& notice);
-    /// What a notice was about is over.
+    /// The event of an earlier notice is over.
     void settled(const QString& event);
 
 private:

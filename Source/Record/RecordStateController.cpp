@@ -64,7 +64,7 @@ RecordStateController::RecordStateController(EngineFactory factory, QObject* par
 RecordStateController::~RecordStateController() {
     d->devices.reset();
     // Recordings that still run are added to the queue; when the queue ends, it sets its waiting jobs aside.
-    d->endWhatAStopLeft();
+    d->endHiddenRecording();
     {
         // A cut on the computer-audio engine's I/O thread holds the cycles of the other one, and so uses its unit.
         const Platform::HeldCycles held(d->computer.engine.get());
@@ -98,7 +98,7 @@ void RecordStateController::awakeFromNib() {
     d->devices = std::make_unique<RecordSources>(*d->builtIn.engine, *d->computer.engine);
     connect(d->devices.get(), &RecordSources::devicesChanged, this, &RecordStateController::devicesChanged);
     connect(d->devices.get(), &RecordSources::computerAudioDeviceChanged, this, [this] {
-        d->forgetLeftWait();
+        d->discardHiddenWait();
         refreshTheFace();
     });
     connect(d->devices.get(), &RecordSources::noticed, this, [this](const RecordNotice& notice) { d->notice(notice); });

@@ -153,17 +153,18 @@ public:
     [[nodiscard]] double lostSeconds() const;
     /// False when a full disk or another error keeps all current files from growing. Then no time counts.
     [[nodiscard]] bool isGrowing() const;
-    /// What the user should know, in plain words, newest last: a stretch that is missing, a device that went away, a
-    /// source that is off, a disk that fills up, where an unfinished recording was kept. One for each event.
+    /// Messages for the user, newest last, one per event: lost audio, a device that disappeared, a source that is off,
+    /// a disk that fills up, the place of an unfinished recording.
     [[nodiscard]] QStringList notices() const;
     [[nodiscard]] const QList<RecordNotice>& noticeList() const;
-    /// The user has seen them all, or the one about an event.
+    /// The user dismissed all notices, or the one about an event.
     void dismissNotices();
     void dismissNotice(const QString& event);
-    /// For a terminal: the sentences, which are not given again. What they name is still named at the next start of
-    /// the window.
+    /// For a terminal: returns the sentences and removes them. The next start of the window still shows the unfinished
+    /// recordings in them.
     [[nodiscard]] QStringList takeNotices();
-    /// Names the unfinished recordings of earlier runs that the user has not seen. At the start of the window.
+    /// Shows a notice about unfinished recordings of earlier runs that the user has not dismissed. Called when the
+    /// window starts.
     void tellUnfinishedRecordings();
     /// Ends a running recording and waits until all queued jobs are done or set aside (at quit or a signal).
     void finishAll();

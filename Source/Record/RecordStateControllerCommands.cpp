@@ -23,7 +23,7 @@ void RecordStateController::startAndStopRecord() {
         if (recordState_() != 0)
             d->stopRecord();
         else
-            d->leaveUnheardRecording();
+            d->leaveWaitRunning();
         d->isRecordingFlushTheFace(false);
     } else {
         d->startRecord();
@@ -75,7 +75,7 @@ QString RecordStateController::nextRingtoneMakerFilePath() {
 }
 
 void RecordStateController::finishAll() {
-    d->endWhatAStopLeft();
+    d->endHiddenRecording();
     if (d->isActive())
         d->isRecordingFlushTheFace(false);
     d->showLosses();
@@ -152,7 +152,7 @@ void RecordStateController::Private::isRecordingFlushTheFace(bool recording) {
 }
 
 void RecordStateController::Private::startRecord() {
-    endWhatAStopLeft();
+    endHiddenRecording();
     devices->setRecording(false); // handles devices that left while an armed wait was still recording
     ++recordingNumber_;
     notices_.beginRecording();
@@ -211,7 +211,7 @@ void RecordStateController::Private::startRecord() {
 
 /// A stop before the first sound: the wait continues and keeps its name and its open file. A recording that never had a
 /// source gives its name back.
-void RecordStateController::Private::leaveUnheardRecording() {
+void RecordStateController::Private::leaveWaitRunning() {
     {
         const std::scoped_lock lock(mutex);
         // Without the lock the first sound could start the recording between the two checks.
@@ -222,15 +222,15 @@ void RecordStateController::Private::leaveUnheardRecording() {
 }
 
 /// A wait that Stop left running ends when its device leaves: closing the engine also closes its file.
-void RecordStateController::Private::forgetLeftWait() {
+void RecordStateController::Private::discardHiddenWait() {
     const std::scoped_lock lock(mutex);
     if (!isActive() && !anyEngineRecords())
-        forgetWait();
+        discardWait();
 }
 
 /// Gives the name of a wait back and deletes its raw file, which contains no frame. With the mutex locked, while no
 /// engine records.
-void RecordStateController::Private::forgetWait() {
+void RecordStateController::Private::discardWait() {
     if (splitter.isWaitting()) {
         names.giveBack(audioRecordPath_);
         computer.hasFile = false;
@@ -242,11 +242,11 @@ void RecordStateController::Private::forgetWait() {
 /// Ends every recording, including one that the window does not show: an armed wait that Stop left running may have
 /// started to record. A wait without sound is discarded. The first sound may come at any moment; recording starts under
 /// the mutex, so after this no wait is left that could start to record.
-void RecordStateController::Private::endWhatAStopLeft() {
+void RecordStateController::Private::endHiddenRecording() {
     {
         const std::scoped_lock lock(mutex);
         if (!anyEngineRecords()) {
-            forgetWait();
+            discardWait();
             return;
         }
     }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// What the record state controller tells the user: devices that go, stretches that are missing, disks that fill up.
+// The notices of the record state controller: devices that disappear, lost audio, disks that fill up.
 #include "Platform/Foundation/Clock.h"
 #include "Platform/Foundation/Services.h"
 #include "Source/Record/RecordStateControllerPrivate.h"
@@ -14,16 +14,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Ticks of the display's clock between two looks at the disks: 5 s. With a full disk, each tick.
+/// Ticks of the display's clock between two queries of the disks: 5 s. A full disk is queried at each tick.
 constexpr int TicksBetweenLooks = 10;
-/// Minutes that are left when a disk is named as nearly full, and when it is named again after a dismissal.
+/// Remaining minutes at which the notice about a nearly full disk appears, also again after it was dismissed.
 constexpr std::array Stages{60, 30, 10, 5, 2, 1};
-/// A full disk has room again when this many more bytes are free: an hour of one source.
+/// The recording continues on a full disk when this many more bytes are free: an hour of one source.
 constexpr qint64 EnoughBytes = 64'000'000;
 
 const QString DiskEvent = u"disk"_s;
 
-/// Seconds for people: thousandths of a short stretch, tenths of a longer one.
+/// Seconds as text: in thousandths below one second, else in tenths.
 QString secondsText(double seconds) {
     return QString::number(seconds, 'f', seconds < 1 ? 3 : 1);
 }
@@ -80,7 +80,7 @@ Platform::Error RecordStateController::Private::writeError() const {
     return {};
 }
 
-/// A recording without any file counts as one that grows: its start has told that nothing is written.
+/// A recording without any file counts as growing: its start has already reported that nothing is written.
 bool RecordStateController::Private::grows() const {
     bool isBroken = false;
     for (const RecordSource& source : sources) {
@@ -93,15 +93,15 @@ bool RecordStateController::Private::grows() const {
     return !isBroken;
 }
 
-/// A file that could not be written whole is told already when its full disk was.
-void RecordStateController::Private::queueNotice(const RecordNotice& told) {
-    const auto isTold = [&](const RecordNotice& other) { return other.event == told.event; };
-    if (told.event == RecordQueue::UnwrittenEvent && std::ranges::any_of(notices_.list(), isTold))
+/// Drops the notice about an incomplete file when the notice about the full disk is already shown.
+void RecordStateController::Private::queueNotice(const RecordNotice& message) {
+    const auto isSameEvent = [&](const RecordNotice& other) { return other.event == message.event; };
+    if (message.event == RecordQueue::UnwrittenEvent && std::ranges::any_of(notices_.list(), isSameEvent))
         return;
-    notice(told);
+    notice(message);
 }
 
-/// Always posted: callers may hold the mutex, and the receivers of noticesChanged() read the state, which takes it.
+/// Always posted: callers may hold the mutex, and receivers of noticesChanged() read the state, which locks it.
 void RecordStateController::Private::notice(RecordNotice notice) {
     alive.post([this, number = recordingNumber_.load(), notice = std::move(notice)] {
         if (number == recordingNumber_ || notice.outlivesRecording || !notice.kept.isEmpty())
@@ -116,7 +116,7 @@ void RecordStateController::Private::withdrawNotice(const QString& event) {
 void RecordStateController::Private::deviceEvent(Platform::InputUnit::Event event, RecordSource& source) {
     using Event = Platform::InputUnit::Event;
     const bool isLoss = event == Event::DeviceLost || event == Event::ServerLost;
-    // The level of the last cycle would stand for as long as none follows.
+    // Without this the display would show the level of the last cycle until the next one arrives.
     if (isLoss || event == Event::NothingComes)
         (&source == &builtIn ? builtInLevelValue_ : computerLevelValue_) = 0;
     if (!isLoss && event != Event::DeviceReturned && event != Event::ServerReturned)
@@ -133,23 +133,23 @@ void RecordStateController::Private::deviceEvent(Platform::InputUnit::Event even
     }
     if (!records && !waits)
         return;
-    RecordNotice told;
-    told.event = u"away "_s + source.label;
+    RecordNotice message;
+    message.event = u"away "_s + source.label;
     if (isLoss) {
         if (source.awaySince == 0)
             source.awaySince = Platform::services().clock->hostTime();
         const QString what = event == Event::DeviceLost ? source.label : u"The sound server"_s;
-        told.text = waits ? u"%1 went away. The wait for the first sound continues when it is back."_s.arg(what)
-                          : u"%1 went away. The recording so far is kept and continues when it is back."_s.arg(what);
+        message.text = waits ? u"%1 went away. The wait for the first sound continues when it is back."_s.arg(what)
+                             : u"%1 went away. The recording so far is kept and continues when it is back."_s.arg(what);
     } else {
         if (source.awaySince != 0)
             source.awaySeconds += secondsSince(source.awaySince);
         source.awaySince = 0;
-        told.text = waits ? u"%1 is back. The wait for the first sound goes on."_s.arg(source.label)
-                          : u"%1 s are missing: %2 was away. The recording goes on."_s.arg(
-                                secondsText(source.awaySeconds), inSentence(source.label));
+        message.text = waits ? u"%1 is back. The wait for the first sound goes on."_s.arg(source.label)
+                             : u"%1 s are missing: %2 was away. The recording goes on."_s.arg(
+                                   secondsText(source.awaySeconds), inSentence(source.label));
     }
-    notice(told);
+    notice(message);
 }
 
 void RecordStateController::Private::showLosses() {
@@ -191,7 +191,7 @@ void RecordStateController::Private::showWriteProblem() {
         fullSince_ = 0;
 }
 
-/// Asks the disks how long they will do, at times.
+/// Queries the free space now and then; see TicksBetweenLooks.
 void RecordStateController::Private::lookForRoom() {
     if (!isActive()) {
         ticksToRoom_ = 0;
@@ -213,10 +213,10 @@ void RecordStateController::Private::followRoom(const RecordRoom::Room& room) {
         if (fullBytes_ < 0)
             fullBytes_ = room.bytes;
         else if (room.bytes >= fullBytes_ + EnoughBytes && q->recordState_() == 1)
-            goOnAfterFullDisk();
+            continueAfterFullDisk();
         return;
     }
-    int stage = 0; // counts the stages that are reached
+    int stage = 0; // number of reached stages
     for (const int minutes : Stages)
         stage += room.seconds < minutes * 60 ? 1 : 0;
     if (stage == 0) {
@@ -224,24 +224,24 @@ void RecordStateController::Private::followRoom(const RecordRoom::Room& room) {
         notices_.withdraw(DiskEvent);
         return;
     }
-    const RecordNotice told{
+    const RecordNotice message{
         .text = u"The disk is nearly full: there is room for %1 of recording."_s.arg(RecordRoom::words(room.seconds)),
         .help = RecordNotice::Help::FreeSpace,
         .target = room.folder,
         .event = DiskEvent};
     if (stage > roomStage_)
-        notices_.show(told);
+        notices_.show(message);
     else
-        notices_.update(told);
+        notices_.update(message);
     roomStage_ = stage;
 }
 
-/// There is room again: the recording goes on in another file, since the one at hand is broken off.
-void RecordStateController::Private::goOnAfterFullDisk() {
+/// There is space again: continues in a new file, because nothing is appended to a file after a write error.
+void RecordStateController::Private::continueAfterFullDisk() {
     const double missing = secondsSince(fullSince_);
     cut(false);
     if (writeError()) {
-        fullBytes_ = -1; // not enough room after all
+        fullBytes_ = -1; // the space was not sufficient
         return;
     }
     fullSince_ = 0;

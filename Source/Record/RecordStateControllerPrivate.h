@@ -32,8 +32,8 @@ struct RecordSource {
     std::int64_t framesBefore = 0;    ///< frames to come that still belong to the file before a cut
     bool away = false;                ///< the device or the server is lost now; guarded by the mutex
     bool wasAway = false;             ///< it was lost during the current file; guarded by the mutex
-    std::uint64_t awaySince = 0;      ///< host time, 0 while it is there; main thread
-    double awaySeconds = 0;           ///< of the recording, without a loss that still lasts; main thread
+    std::uint64_t awaySince = 0;      ///< host time; 0 while it is present; main thread
+    double awaySeconds = 0;           ///< in this recording, without the present absence; main thread
 
     [[nodiscard]] bool takesPart() const { return checked && !off; }
     /// Whether the engine is recording or paused, and has a file.
@@ -66,7 +66,8 @@ struct RecordStateController::Private {
     RecordSource& computer = sources[1];
     std::unique_ptr<RecordSources> devices;
     QTimer recordTimerForTime_;
-    /// Posted work asks whether it expired. I/O threads copy it, so it changes only with the whole object.
+    /// Posted work is dropped when this was destroyed. I/O threads copy it, so it must not change while the object
+    /// lives.
     const Platform::MainQueue::WhileAlive alive;
 
     std::atomic<RecordState> state{RecordState::Idle};
@@ -81,7 +82,7 @@ struct RecordStateController::Private {
 
     std::mutex mutex; ///< guards the next three; never held while waiting for an I/O thread
     SilenceSplitter splitter;
-    RecordLosses lostBefore_; ///< of the last recording
+    RecordLosses lostBefore_; ///< of the closed files of the current or last recording
     QString audioRecordPath_; ///< of the current recording; empty when a job has taken it over
 
     // Main thread only.
@@ -91,11 +92,11 @@ struct RecordStateController::Private {
     RecordNotices notices_;
     std::uint64_t lostShown_ = 0;
     RecordRoom room_;
-    int ticksToRoom_ = 0; ///< until the disks are asked again
-    int roomStage_ = 0;   ///< how little room was told; see followRoom()
+    int ticksToRoom_ = 0; ///< until the disks are queried again
+    int roomStage_ = 0;   ///< how many limits of free space were passed; see followRoom()
     bool writeProblemShown_ = false;
     std::uint64_t fullSince_ = 0; ///< host time; 0 while the disk is not full
-    qint64 fullBytes_ = -1;       ///< free on the full disk when it was; -1 when not yet known
+    qint64 fullBytes_ = -1;       ///< free bytes when the disk became full; -1 when not yet known
 
     /// Counts the starts: a notice of an earlier recording that arrives late is not shown. Any thread.
     std::atomic<int> recordingNumber_{0};
@@ -103,15 +104,15 @@ struct RecordStateController::Private {
     void onMain(std::function<void()> work);
     void changed();
     void notice(RecordNotice notice);
-    void queueNotice(const RecordNotice& told);
+    void queueNotice(const RecordNotice& message);
     void withdrawNotice(const QString& event);
     void deviceEvent(Platform::InputUnit::Event event, RecordSource& source);
     void showLosses();
     void showWriteProblem();
     void lookForRoom();
     void followRoom(const RecordRoom::Room& room);
-    void goOnAfterFullDisk();
-    /// The first error of the files at hand.
+    void continueAfterFullDisk();
+    /// The first error of the current files.
     [[nodiscard]] Platform::Error writeError() const;
     [[nodiscard]] bool grows() const;
     void keepAwake();
@@ -122,10 +123,10 @@ struct RecordStateController::Private {
     void isRecordingFlushTheFace(bool recording);
     void startRecord();
     void stopRecord();
-    void leaveUnheardRecording();
-    void forgetLeftWait();
-    void endWhatAStopLeft();
-    void forgetWait();
+    void leaveWaitRunning();
+    void discardHiddenWait();
+    void endHiddenRecording();
+    void discardWait();
     void pauseRecord();
     void resumeRecord();
     void setPaused(bool paused);
@@ -153,7 +154,7 @@ struct RecordStateController::Private {
     [[nodiscard]] QString recordFolder() const;
     // With cycles held and the mutex locked.
     [[nodiscard]] static QString rawPath(const RecordSource& source);
-    /// Under which a source is told that takes no part.
+    /// The event of the notice about a source that is off.
     [[nodiscard]] static QString offEvent(const RecordSource& source);
     void beginFile(RecordSource& source, bool record);
     [[nodiscard]] Ending describeEnding();

@@ -19,7 +19,7 @@ QFileInfoList files() {
         .entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDir::Time | QDir::Reversed);
 }
 
-/// A file as it is stored: another one that comes under its name was not seen.
+/// Identifies a file in the stored list by name and time: a later file of the same name counts as unseen.
 QString stamp(const QFileInfo& file) {
     return file.fileName() + u'/' + QString::number(file.lastModified().toMSecsSinceEpoch());
 }
@@ -44,7 +44,7 @@ void markSeen(const QStringList& paths) {
         return;
     const QStringList before = seenStamps();
     QStringList seen;
-    for (const QFileInfo& file : files()) // those that are gone are forgotten
+    for (const QFileInfo& file : files()) // files that are gone are dropped from the list
         if (before.contains(stamp(file)) || paths.contains(file.filePath()))
             seen.append(stamp(file));
     if (seen != before)

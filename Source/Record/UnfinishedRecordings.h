@@ -6,15 +6,15 @@
 
 #include <optional>
 
-/// Recordings that could not be finished lie in FileManager::unfinishedFolder(), also those of earlier runs. The user
-/// is told of each until he has seen it. Main thread.
+/// Recordings that could not be finished, in this run or earlier ones, are in FileManager::unfinishedFolder(). Each
+/// start shows them until the user has dismissed the notice. Main thread.
 namespace UnfinishedRecordings {
 
 /// Paths of the files in the folder that were not seen yet, oldest first.
 [[nodiscard]] QStringList unseen();
-/// These need not be named again. Paths in other folders are ignored.
+/// Later starts do not show these files. Paths in other folders are ignored.
 void markSeen(const QStringList& paths);
-/// What to tell about the unseen ones at a start; nothing when there are none.
+/// The notice about the unseen files, for the start; nothing when there are none.
 [[nodiscard]] std::optional<RecordNotice> notice();
 
 } // namespace UnfinishedRecordings

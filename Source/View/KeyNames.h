@@ -5,8 +5,8 @@
 /// The names of the modifier keys.
 namespace KeyNames {
 
-/// Gives menus and tool tips the names that a Linux keyboard has and that the shortcut fields show: Control and Super,
-/// where Qt says Ctrl and Meta. Once per process, with an application. Main thread.
+/// Makes menus and tool tips use the names on a Linux keyboard, as the shortcut fields do: Control and Super instead of
+/// Qt's Ctrl and Meta. Call it once per process, after the application object was created. Main thread.
 void install();
 
 } // namespace KeyNames

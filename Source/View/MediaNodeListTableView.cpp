@@ -67,12 +67,12 @@ QModelIndex MediaNodeListTableView::moveCursor(CursorAction action, Qt::Keyboard
 QWidget* MediaNodeListTableView::editCell(const QModelIndex& cell) {
     if (!QTableView::edit(cell, AllEditTriggers, nullptr))
         return nullptr;
-    isFresh_ = false; // whoever closes the field and presses here has the focus already
+    isFresh_ = false; // closing the editor returns the focus to the table, but not by a click
     return indexWidget(cell);
 }
 
 bool MediaNodeListTableView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
-    // A click that chooses one of several rows, or that brings the focus back, is no second click.
+    // A click that reduces a selection to one row, or that only returns the focus, must not open the editor.
     if (trigger == SelectedClicked && !pressedAlone_)
         return false;
     return QTableView::edit(index, trigger, event);
@@ -108,7 +108,7 @@ void MediaNodeListTableView::mousePressEvent(QMouseEvent* event) {
 }
 
 void MediaNodeListTableView::mouseDoubleClickEvent(QMouseEvent* event) {
-    pressedAlone_ = false; // its release would open the editor
+    pressedAlone_ = false; // otherwise the release of the button would open the editor
     QTableView::mouseDoubleClickEvent(event);
 }
 

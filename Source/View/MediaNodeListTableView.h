@@ -31,7 +31,7 @@ public:
     /// The column that is searched for typed letters, whichever cell was clicked last.
     void setSearchColumn(int column) { searchColumn_ = column; }
     void keyboardSearch(const QString& search) override;
-    /// Opens the editor of a cell and answers it; null when the cell cannot be edited.
+    /// Opens the editor of a cell and returns it; null when the cell cannot be edited.
     QWidget* editCell(const QModelIndex& cell);
 
 protected:
@@ -49,6 +49,6 @@ private:
     QString emptyText_;
     QString emptyImage_;
     int searchColumn_ = 0;
-    bool pressedAlone_ = false; ///< one row was selected when the button was pressed
-    bool isFresh_ = false;      ///< the next press may have been meant to bring the focus here
+    bool pressedAlone_ = false; ///< exactly one row was selected when the button was pressed
+    bool isFresh_ = false;      ///< the table just got the focus: the next press may only have been meant for that
 };

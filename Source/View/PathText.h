@@ -4,8 +4,8 @@
 
 #include <QString>
 
-/// How a path, or a sentence with one in it, is shown. A folder or file whose name reads from right to left would swap
-/// places with its neighbours and carry the slashes along: each part between two slashes is isolated, and the whole
-/// reads from left to right. A text without such names, or without a slash, is returned as it is. The result is only
-/// for the eye: it holds signs that no file name has.
+/// Prepares a path, or a sentence that contains one, for display. Without this, a name that reads from right to left
+/// would change places with its neighbours: so each part between two slashes is isolated, and the whole reads from left
+/// to right. A text without such names, or without a slash, is returned unchanged. Use the result for display only: it
+/// contains control characters.
 [[nodiscard]] QString pathText(const QString& text);

@@ -22,7 +22,7 @@ void SearchField::begin() {
 }
 
 bool SearchField::event(QEvent* event) {
-    // Enter is the window's key for playing, also with the focus here.
+    // Otherwise the window's shortcuts would handle these keys, for example Enter would play.
     if (event->type() == QEvent::ShortcutOverride) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape) {

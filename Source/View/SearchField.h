@@ -4,8 +4,8 @@
 
 #include <QLineEdit>
 
-/// A field that searches as one types. Escape empties it and leaves it; Enter and Down leave it for the list that was
-/// found.
+/// The search field of the library. Escape clears it and moves the focus to the list; Enter and Down move the focus to
+/// the list and keep the text.
 class SearchField : public QLineEdit {
     Q_OBJECT
 public:
@@ -15,7 +15,7 @@ public:
     void begin();
 
 Q_SIGNALS:
-    /// The focus is to go to the list. @p toFirst: to its first row.
+    /// The list should take the focus. @p toFirst: select its first row.
     void left(bool toFirst);
 
 protected:

@@ -43,9 +43,9 @@ public:
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
-    /// The title of a recording whose file is there can be typed over.
+    /// A title can be edited when the recording's file exists.
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
-    /// Takes a typed title: titleTyped() when it differs. The row changes when the library has the new entry.
+    /// Emits titleTyped() when the title differs. The row changes when the library has the new entry.
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     /// A negative column restores the library's own order.
@@ -86,11 +86,11 @@ private:
     QVariantList entries_;                         ///< in the library's order, shared with the node
     int rows_ = 0;                                 ///< equals the size of entries_, except while a change is applied
     Order order_;           ///< row to place in entries_; empty while rows are in the library's order
-    Sorting applied_;       ///< what order_ follows
-    Sorting wanted_;        ///< what the user asked for last
+    Sorting applied_;       ///< the sorting of order_
+    Sorting wanted_;        ///< the sorting that the user chose last
     bool isSettled_ = true; ///< false while rows at the end wait until the worker has sorted the list
     bool sorting_ = false;
-    std::uint64_t generation_ = 0; ///< counts changes of entries_: an order sorted from older ones is of no use
+    std::uint64_t generation_ = 0; ///< counts changes of entries_, to discard an order made from older ones
     QString playingPath_;
     QThreadPool worker_; ///< last member: its work uses the others
 };

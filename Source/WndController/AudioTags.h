@@ -4,7 +4,8 @@
 
 #include "Platform/Foundation/Dictionary.h"
 
-/// How the columns of the library's table read an entry. A new column starts here: key and value; then AudioTableModel.
+/// Maps the columns of the library's table to keys and values of an entry. For a new column, add its key and value here
+/// and then extend AudioTableModel.
 namespace AudioTags {
 
 /// The entry key of a column's identifier; any other text is a key already.

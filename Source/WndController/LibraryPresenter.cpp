@@ -136,7 +136,8 @@ void LibraryPresenter::outlineSelectionDidChange() {
 }
 
 void LibraryPresenter::show(const std::shared_ptr<const MediaLibraryNode>& node, bool keepSelection) {
-    // The rows of a few recordings are found again; many are a selection of the whole list, which is another list now.
+    // A selection of a few recordings is restored in the new list. A larger one usually is the whole old list;
+    // searching its rows would take too long.
     constexpr qsizetype most = 100;
     QStringList selected;
     if (keepSelection && selectedRowCount() <= most)
@@ -471,7 +472,7 @@ void LibraryPresenter::deleteAudioFile() {
     const QString path = tableModel_->entry(next).value(AudioRecordEntry::SavePath).toString();
     removeMediaLibraryArray(chosen);
     search_->update();
-    // A list that was built anew has lost the index.
+    // When the search has replaced the list, the persistent index is invalid.
     const int row = successor.isValid() ? successor.row() : path.isEmpty() ? -1 : tableModel_->rowOfPath(path);
     if (row >= 0)
         selectRow(row);

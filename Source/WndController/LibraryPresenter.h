@@ -131,7 +131,7 @@ Q_SIGNALS:
     void playbackChanged();
     /// A request of the user failed; one sentence.
     void problem(const QString& text);
-    /// The search was given up, because a file that it hides is to be seen.
+    /// The search was cleared, because a file that it hides must be shown.
     void searchEnded();
 
 private:

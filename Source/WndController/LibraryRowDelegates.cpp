@@ -20,7 +20,8 @@ QIcon::Mode markMode(const QStyleOptionViewItem& cell) {
                                                                                                     : QIcon::Normal;
 }
 
-// What became of a title that the window opened by itself. An editor that the user opened has no such property: Taken.
+// What the user has done with a title editor that the window opened by itself: nothing, clicked into it, or typed
+// (Taken). An editor that the user opened does not have the property and so counts as Taken.
 constexpr const char* kOffer = "offer";
 enum Offer { Taken, Clicked, Untouched };
 
@@ -97,7 +98,7 @@ QWidget* AudioRowDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
 
 void AudioRowDelegate::offer(QWidget& editor) {
     editor.setProperty(kOffer, Untouched);
-    editor.setContextMenuPolicy(Qt::NoContextMenu); // the table shows its own
+    editor.setContextMenuPolicy(Qt::NoContextMenu); // the table shows its own menu
 }
 
 bool AudioRowDelegate::eventFilter(QObject* watched, QEvent* event) {
@@ -121,9 +122,9 @@ bool AudioRowDelegate::eventFilter(QObject* watched, QEvent* event) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (offer == Untouched && (key == Qt::Key_Space || key == Qt::Key_Delete)) {
             event->ignore();
-            return true; // the field would take it for its text
+            return true; // otherwise the field would handle the key as text input
         }
-        if (endsEditing(key)) { // Enter would play the recording
+        if (endsEditing(key)) { // otherwise Enter would play the recording
             event->accept();
             return true;
         }
@@ -132,12 +133,12 @@ bool AudioRowDelegate::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyPress: {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (endsEditing(key)) {
-            // Tab would open the next cell.
+            // The base class would open the next cell on Tab.
             Q_EMIT commitData(field);
             Q_EMIT closeEditor(field, NoHint);
             return true;
         }
-        if (offer != Taken && key < Qt::Key_Shift) { // and no modifier alone
+        if (offer != Taken && key < Qt::Key_Shift) { // a modifier key alone does not count as typing
             field->setProperty(kOffer, Taken);
             field->setContextMenuPolicy(Qt::DefaultContextMenu);
         }

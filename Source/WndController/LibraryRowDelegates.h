@@ -30,8 +30,8 @@ class AudioRowDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    /// Marks an editor that the window opened by itself. Until something is typed, Space, Delete, a double click and
-    /// the context menu mean the recording and not the text.
+    /// Marks an editor that the window opened without a request of the user. Until the user types something, Space,
+    /// Delete, a double click and the context menu act on the recording, not on the text.
     static void offer(QWidget& editor);
 
     [[nodiscard]] static int rowHeight(const QTableView& table);

@@ -90,7 +90,7 @@ void LibrarySearch::search(bool sameNode) {
         give(matching(entries, words_), sameNode);
         return;
     }
-    if (!sameNode) // the old list must not stand under the new node
+    if (!sameNode) // the new node must not show the old list
         give({}, false);
     worker_.start([this, entries = QVariantList(entries), words = words_, generation = generation_]() mutable {
         auto result = matching(entries, words);
@@ -103,7 +103,7 @@ void LibrarySearch::search(bool sameNode) {
 }
 
 void LibrarySearch::give(QVariantList entries, bool sameNode) {
-    // A node of its own, which no change of the library is about.
+    // A separate node: the library's change signals do not refer to it.
     auto shown = std::make_shared<MediaLibraryNode>();
     shown->setKey(QStringLiteral("search:") + node_->key());
     shown->setLeafNode(std::move(entries));

@@ -14,8 +14,8 @@
 
 class MediaLibrary;
 
-/// The search field's side of the list: gives the table the entries of a node whose title, artist or album has the
-/// words that were typed. Without words it gives the node itself. A long list is searched by a worker. Main thread.
+/// Filters the shown list by the typed words: the table gets those entries of the node whose title, artist or album
+/// contains all of them. Without words the table gets the node itself. A worker searches long lists. Main thread.
 class LibrarySearch : public QObject {
     Q_OBJECT
 public:
@@ -23,8 +23,8 @@ public:
     /// Waits for the worker.
     ~LibrarySearch() override;
 
-    /// Whether each word is part of the title, the artist or the album, in any case. An entry without a title goes by
-    /// its file's name, which the list shows; the artist and the album that every recording begins with do not count.
+    /// Whether each word is part of the title, the artist or the album, in upper or lower case. For an entry without a
+    /// title the name of its file counts, which the list shows. The default artist and album do not count.
     [[nodiscard]] static bool matches(const Dictionary& entry, const QStringList& words);
 
     /// The node to search in; null for none.
@@ -32,11 +32,11 @@ public:
     void setText(const QString& text);
     [[nodiscard]] QString text() const { return text_; }
     [[nodiscard]] bool isActive() const { return !words_.isEmpty(); }
-    /// Takes over now what the library changed. It is taken over anyway when the event loop runs.
+    /// Searches again now if the library has changed. Otherwise this happens when the event loop runs.
     void update();
 
 Q_SIGNALS:
-    /// What the table shows from now on; null for nothing. @p sameNode: the same list, searched again.
+    /// The node for the table to show; null for none. @p sameNode: the result of another search in the same node.
     void found(const std::shared_ptr<const MediaLibraryNode>& node, bool sameNode);
 
 private:
@@ -47,6 +47,6 @@ private:
     QString text_;
     QStringList words_;
     QTimer changed_;               ///< joins several changes of the library into one search
-    std::uint64_t generation_ = 0; ///< counts searches: the result of an older one is not shown
+    std::uint64_t generation_ = 0; ///< counts searches, to discard the results of older ones
     QThreadPool worker_;           ///< last member: its work uses the others
 };

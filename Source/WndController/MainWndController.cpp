@@ -135,7 +135,7 @@ void MainWndController::bindLibrary() {
         ui_->btnPlayAudio_->setToolTip(playing ? QStringLiteral("Pause") : QStringLiteral("Play"));
         ui_->btnPlayAudio_->setEnabled(enabled);
         menus_->update();
-        if (playing) { // earlier problems are over
+        if (playing) { // removes the message about an earlier problem
             shownSelection_.reset();
             showSelection();
         }
@@ -146,7 +146,7 @@ void MainWndController::bindLibrary() {
     connect(&record_, &RecordStateController::stateChanged, this, &MainWndController::chooseInstalledDevice);
     if (auto* hardware = Platform::services().audioHardware)
         connect(hardware, &Platform::AudioHardware::devicesChanged, this, &MainWndController::chooseInstalledDevice,
-                Qt::QueuedConnection); // after the recording side has seen it
+                Qt::QueuedConnection); // after the recording side has handled the signal
     connect(&record_, &RecordStateController::recordingFinished, this, &MainWndController::recordingFinished);
     showEmptyText();
     showSelection();
@@ -386,7 +386,7 @@ void MainWndController::systemAudioRecordDeviceInstalled() {
 }
 
 void MainWndController::chooseInstalledDevice() {
-    // Without the device the choice would ask for its installation once more.
+    // Without the device this choice would offer its installation again.
     if (!awaitsDevice_ || !record_.hasComputerAudioDevice() || record_.isStateAudioRecord())
         return;
     awaitsDevice_ = false;
@@ -433,7 +433,7 @@ void MainWndController::leaveSearch(bool toFirst) {
 }
 
 void MainWndController::offerTitle() {
-    // Only where the keys go to the library anyway.
+    // Only when the library has the keyboard focus: the editor must not take it from another control.
     MediaNodeListTableView* table = ui_->audioTableView_;
     const QWidget* focus = window_->focusWidget();
     if (!window_->isActiveWindow() || (focus && focus != table && focus != ui_->outlineLibraryView_))
@@ -463,8 +463,7 @@ void MainWndController::showSelection() {
 }
 
 void MainWndController::showStatus(const QString& text) {
-    // Also without a text the line keeps its room: a list that grew by it between two clicks would move under the
-    // pointer.
+    // The line keeps its height without a text. Otherwise the list would move under the pointer between two clicks.
     ui_->lblStatus_->setText(text);
 }
 

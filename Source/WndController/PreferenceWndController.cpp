@@ -199,7 +199,7 @@ void PreferenceWndController::applyAutostart() {
         ui_->autostartCheckBox->setChecked(autostart_->isEnabled());
         if (problem.isEmpty())
             return;
-        // After the window is closed: it is on its way.
+        // Posted, because the window is just closing.
         Platform::MainQueue::post(this, [wanted, problem] {
             Platform::services().alerts->runModal(wanted ? tr("Sonaphex cannot be started with the desktop.")
                                                          : tr("Sonaphex is still started with the desktop."),
@@ -227,7 +227,7 @@ void PreferenceWndController::chooseFolder(QLineEdit* field) {
                 field->setText(*path);
                 return;
             }
-            // After the sheet is closed: an alert above a closing sheet would lose the focus.
+            // Posted until the sheet is closed: an alert above a closing sheet would lose the focus.
             Platform::MainQueue::post(this, [] {
                 Platform::services().alerts->runModal(
                     u"Warning:"_s, u"You cannot save files in the folder. Read and write privilege is needed."_s,

@@ -48,5 +48,5 @@ private:
     ConvertingTipView* fileConvertingTipView_; ///< a child of the library's pane
     QTimer conversion_;                        ///< runs during the first half second of a conversion
     bool conversionLasts_ = false;
-    bool wasRecording_ = false; ///< as it is shown
+    bool wasRecording_ = false; ///< the state that is shown
 };

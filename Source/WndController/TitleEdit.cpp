@@ -19,7 +19,7 @@ void TitleEdit::save(const Dictionary& entry, const QString& title) {
     using namespace AudioRecordEntry;
     Dictionary edited = entry;
     edited.insert(Title, title);
-    // The file gets all five texts. One that the entry does not have is empty.
+    // All five texts are written to the file; those that the entry lacks are empty.
     for (const QString& key : {Artist, Album, Genre})
         edited.insert(key, entry.contains(key) ? Platform::stringForm(entry.value(key)) : QString());
     edited.insert(Year, Platform::intValue(entry.value(Year)));

@@ -8,21 +8,21 @@
 #include <QObject>
 #include <QThreadPool>
 
-/// Writes a title that was typed over in the list: into the file's tags, and as the name of the file, as the tag window
-/// does it. Main thread; the files are written by a worker, one after the other.
+/// Saves a title that the user edited in the list: writes the tag and renames the file, like the tag window. Main
+/// thread; a worker changes the files, one after the other.
 class TitleEdit : public QObject {
     Q_OBJECT
 public:
     explicit TitleEdit(QObject* parent = nullptr);
-    /// Waits for titles that are being written.
+    /// Waits until all titles are saved.
     ~TitleEdit() override;
 
     void save(const Dictionary& entry, const QString& title);
 
 Q_SIGNALS:
-    /// The file is at @p path now, and @p entry is what it says of itself.
+    /// The file is at @p path now; @p entry is its entry with the new tags.
     void saved(const QString& path, const Dictionary& entry);
-    /// What could not be done; one sentence.
+    /// A part of the save failed; one sentence.
     void problem(const QString& text);
 
 private:

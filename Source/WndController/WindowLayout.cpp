@@ -22,9 +22,9 @@ const QString kSort = QStringLiteral("sort");
 const QString kDescending = QStringLiteral("descending");
 constexpr int kNarrowestColumn = 24;
 constexpr int kFirstLibraryWidth = 216;
-constexpr int kTableRoom = 520;    ///< the pane of the library gives way below this width of the table
-constexpr int kTitleRoom = 260;    ///< columns in which nothing stands give way below this width of the titles
-constexpr int kRowsLookedAt = 500; ///< of a long list; a column that says nothing in so many rows is taken for empty
+constexpr int kTableRoom = 520;    ///< when the table is narrower, the library's pane shrinks
+constexpr int kTitleRoom = 260;    ///< when the titles are narrower, empty columns are hidden
+constexpr int kRowsLookedAt = 500; ///< rows of a long list that are checked for an empty column
 
 int firstWidth(int column) {
     switch (column) {
@@ -115,7 +115,7 @@ void WindowLayout::fit() {
 }
 
 bool WindowLayout::saysNothing(int column) const {
-    // The texts that a recording has when nobody gave it others.
+    // The default texts of a new recording count as empty.
     const QString none = column == AudioTableModel::Artist ? QStringLiteral("NO Artist") : QStringLiteral("NO Album");
     const QAbstractItemModel* rows = table_.model();
     for (int row = 0; row < qMin(rows->rowCount(), kRowsLookedAt); ++row) {
@@ -174,7 +174,7 @@ void WindowLayout::save() {
 
 bool WindowLayout::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Resize && restored_) {
-        // When the splitter has its new width: it divides up any other by its own rule.
+        // Deferred until the splitter has its new width, because it distributes a new width by its own rule.
         QTimer::singleShot(0, this, &WindowLayout::fit);
         later_.start();
     }

@@ -14,8 +14,8 @@ class QSplitter;
 class QTableView;
 
 /// Stores the size of the main window, the widths of its columns and the sorting of its table in the user's defaults;
-/// not its position, because the window is centred whenever it is shown. In a narrow window the library's pane and the
-/// empty columns give room to the titles. Main thread.
+/// not its position, because the window is centred whenever it is shown. In a narrow window the library's pane gets
+/// narrower and empty columns are hidden, so that the titles stay readable. Main thread.
 class WindowLayout : public QObject {
     Q_OBJECT
 public:
@@ -43,7 +43,7 @@ private:
     QTableView& table_;
     QTimer later_;         ///< joins the steps of a mouse drag into one change
     QTimer fit_;           ///< joins the changes of several rows into one
-    int libraryWidth_ = 0; ///< as the user chose it; the pane is narrower in a narrow window
+    int libraryWidth_ = 0; ///< chosen by the user; a narrow window shows a narrower pane
     bool restored_ = false;
-    std::array<int, AudioTableModel::ColumnCount> widths_{}; ///< of columns that are hidden
+    std::array<int, AudioTableModel::ColumnCount> widths_{}; ///< the widths of hidden columns
 };

@@ -62,7 +62,7 @@ bool Driver::start(const std::string& configuration) {
     pw_properties_set(properties_.get(), "factory.name", "support.null-audio-sink");
     // The server removes the node when this process ends.
     pw_properties_set(properties_.get(), "object.linger", "false");
-    // PipeWire 1.4 takes a link for passive only when its node is: with an ordinary input no output could go to sleep.
+    // PipeWire 1.4 treats a link as passive only when its node is passive. Otherwise no output could be suspended.
     pw_properties_set(properties_.get(), PW_KEY_NODE_PASSIVE, "in");
 
     loop_.reset(pw_main_loop_new(nullptr));

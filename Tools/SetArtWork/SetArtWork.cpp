@@ -12,7 +12,7 @@ namespace {
 constexpr const char* usage =
     "usage: SetArtWork SOURCE IMAGE DESTINATION\n"
     "Writes a copy of the MPEG-4 audio file SOURCE to DESTINATION, with IMAGE (a JPEG or PNG\n"
-    "file, told by its content) as its cover. DESTINATION appears whole or not at all.\n";
+    "file, detected by its content) as its cover. DESTINATION appears complete or not at all.\n";
 }
 
 /// @return 0 success, 1 failure (with the reason in one line), 2 wrong usage

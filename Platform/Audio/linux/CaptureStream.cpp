@@ -205,7 +205,7 @@ void CaptureStream::deviceGone(AudioObjectID device) {
 void CaptureStream::serverGone() {
     gone_ = false;
     closeStream();
-    // A server that is told to end takes its devices away first (PipeWire 1.4): the server is what is missing.
+    // PipeWire 1.4 removes its devices before it shuts down: what is missing then is the server, not the device.
     if (missing_ == Missing::Device)
         missing_ = Missing::Nothing;
     lose(Change::ServerLost);

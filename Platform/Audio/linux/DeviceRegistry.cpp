@@ -294,14 +294,15 @@ void DeviceRegistry::Node::onParam(std::uint32_t id, const spa_pod* pod) {
         if (const auto format = NodeFormat::read(pod); format.known() && !offered.known())
             offered = format;
     } else if (id == SPA_PARAM_Props) {
-        // PipeWire 1.4 keeps telling the values from before ours while the node has never run. Only a change is news.
-        auto volumes = toldVolumes;
-        bool muted = toldMuted;
+        // While a node has never run, PipeWire 1.4 keeps reporting the values from before they were set here. So only
+        // values that differ from the last report are adopted.
+        auto volumes = reportedVolumes;
+        bool muted = reportedMuted;
         info.hasVolume = readVolumes(pod, volumes, muted) || info.hasVolume;
-        if (volumes != toldVolumes)
-            info.volumes = toldVolumes = std::move(volumes);
-        if (muted != toldMuted)
-            info.muted = toldMuted = muted;
+        if (volumes != reportedVolumes)
+            info.volumes = reportedVolumes = std::move(volumes);
+        if (muted != reportedMuted)
+            info.muted = reportedMuted = muted;
     }
     if (announced)
         owner.publish(*this);

@@ -25,8 +25,8 @@ struct DeviceRegistry::Node {
     NodeFormat chosen;  ///< the format it uses since it was opened; may be unknown
     int sequence = -1;  ///< sync number; its answer comes after the node described itself
     bool announced = false;
-    std::vector<float> toldVolumes; ///< as the server told last; ours in info are newer until it tells others
-    bool toldMuted = false;
+    std::vector<float> reportedVolumes; ///< the last reported ones; info may hold newer ones that were set here
+    bool reportedMuted = false;
     PipeWire::NodePtr proxy;
     PipeWire::Hook listener;
 };

@@ -18,7 +18,7 @@ std::unique_ptr<AudioHardware> createAudioHardware(bool testTone) {
 
 PipeWireAudioHardware::PipeWireAudioHardware(bool testTone) : registry_(DeviceRegistry::shared()), testTone_(testTone) {
     registry_->add(*this);
-    toldConnected_ = connected();
+    reportedConnected_ = connected();
 }
 
 PipeWireAudioHardware::~PipeWireAudioHardware() {
@@ -191,8 +191,8 @@ void PipeWireAudioHardware::postDefaultOutputChanged() {
 
 void PipeWireAudioHardware::postConnected() {
     MainQueue::post(this, [this] {
-        if (const bool now = connected(); now != toldConnected_) {
-            toldConnected_ = now;
+        if (const bool now = connected(); now != reportedConnected_) {
+            reportedConnected_ = now;
             Q_EMIT connectedChanged(now);
         }
     });

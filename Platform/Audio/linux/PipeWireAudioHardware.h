@@ -51,7 +51,7 @@ private:
     std::shared_ptr<DeviceRegistry> registry_;
     std::atomic<bool> devicesPosted_{false};
     std::atomic<bool> defaultPosted_{false};
-    bool toldConnected_ = false; ///< main thread
+    bool reportedConnected_ = false; ///< main thread
     const bool testTone_;
     mutable std::atomic<bool> patient_{true}; ///< settle() still waits
 };

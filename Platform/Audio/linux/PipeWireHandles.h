@@ -90,8 +90,8 @@ inline void unhookFromDataThread(pw_context* context, Hook& listener) {
         0, nullptr, 0, true, &listener);
 }
 
-/// Properties for a context whose data thread runs in real time: without that a busy machine loses audio. PipeWire 1.4
-/// has it in the ordinary configuration of clients and warns about the name of the other one.
+/// Properties for a context whose data thread runs in real time; without real time a busy machine loses audio. PipeWire
+/// 1.4 has the real-time thread in "client.conf" and warns about "client-rt.conf".
 [[nodiscard]] inline pw_properties* realTimeClient() {
     return pw_properties_new(PW_KEY_CONFIG_NAME, PW_CHECK_VERSION(1, 3, 81) ? "client.conf" : "client-rt.conf",
                              nullptr);

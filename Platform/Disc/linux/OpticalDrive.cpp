@@ -74,7 +74,7 @@ bool OpticalDrive::ejectMedia() {
     return true;
 }
 
-void OpticalDrive::told() {
+void OpticalDrive::notifyObservers() {
     if (const auto center = center_.lock())
         center->deliver({DRDeviceStatusChangedNotification, shared_from_this()});
 }
@@ -92,7 +92,7 @@ void OpticalDrive::update(const FoundDrive& found) {
     mediaState_ = found.media;
     facts_ = {};
     lookAgain_ = false;
-    told();
+    notifyObservers();
 }
 
 /// Examines the disc. Until the drive has answered, the state is "inserting".
@@ -100,7 +100,7 @@ void OpticalDrive::look() {
     if (mediaState_ != DRDeviceMediaStateInTransition) {
         mediaState_ = DRDeviceMediaStateInTransition;
         facts_ = {};
-        told();
+        notifyObservers();
     }
     lookAgain_ = isLooking_;
     if (isLooking_)
@@ -127,7 +127,7 @@ void OpticalDrive::look() {
             const bool isPresent = facts.isPresent || !facts.problem.isEmpty();
             self->facts_ = facts;
             self->mediaState_ = isPresent ? DRDeviceMediaStateMediaPresent : DRDeviceMediaStateNone;
-            self->told();
+            self->notifyObservers();
         });
     });
 }
@@ -141,7 +141,7 @@ void OpticalDrive::setBusy(bool busy) {
         return;
     isBusy_ = busy;
     source_.setQuiet(found_.path, busy);
-    told();
+    notifyObservers();
     if (!busy)
         look(); // another disc is in the drive now
 }

@@ -32,7 +32,7 @@ public:
 private:
     void look();
     void setBusy(bool busy);
-    void told();
+    void notifyObservers();
     [[nodiscard]] QString whyNotOpened() const;
 
     std::weak_ptr<DRNotificationCenter> center_;

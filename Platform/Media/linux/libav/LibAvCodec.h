@@ -10,8 +10,9 @@ extern "C" {
 
 namespace Av {
 
-/// What we call of libavcodec, which is loaded when the first sound is encoded or decoded. Ninety libraries come with
-/// it, most of them for pictures: a window is painted before they are loaded (Platform::prepareCodecs()).
+/// The functions of libavcodec that are used here. The library is loaded when the first sound is encoded or decoded. It
+/// depends on ninety other libraries, most of them for pictures, so a window is painted first (see
+/// Platform::prepareCodecs()).
 struct CodecLibrary {
     decltype(&::avcodec_find_decoder) findDecoder;
     decltype(&::avcodec_find_encoder_by_name) findEncoderByName;
@@ -34,10 +35,10 @@ struct CodecLibrary {
     decltype(&::av_packet_get_side_data) packetSideData;
 };
 
-/// Null when the library is missing; @p why then says so. Once loaded it stays. Any thread.
+/// Null when the library is missing, with the reason in @p why. Once loaded it stays loaded. Any thread.
 [[nodiscard]] const CodecLibrary* codecLibrary(std::string* why = nullptr);
 
-/// The library, after codecLibrary() was seen to be there.
+/// The library. Call it only after codecLibrary() has returned a library.
 [[nodiscard]] inline const CodecLibrary& codecs() {
     return *codecLibrary();
 }

@@ -9,7 +9,7 @@ namespace Av {
 namespace {
 
 struct LoadedFormats {
-    // The version that the headers are of belongs to that of libavcodec: streams and packets go from one to the other.
+    // The major version of the headers, which fits that of libavcodec: both libraries use the same streams and packets.
     LoadedFormats() : file("libavformat.so." AV_STRINGIFY(LIBAVFORMAT_VERSION_MAJOR)) {
         file.find(library.allocIo, "avio_alloc_context");
         file.find(library.freeIo, "avio_context_free");
@@ -27,7 +27,7 @@ struct LoadedFormats {
     }
     LoadedLibrary file;
     FormatLibrary library = {};
-    std::string codecsMissing; // why
+    std::string codecsMissing; // why libavcodec cannot be used; empty when it can
 };
 
 } // namespace

@@ -7,10 +7,10 @@
 
 namespace Av {
 
-/// A library of libav that is loaded while the program runs, and why it cannot be used.
+/// A library of libav that is loaded while the program runs, or the reason why it cannot be used.
 class LoadedLibrary {
 public:
-    /// @p name has the version that the headers are of: other versions have other structures.
+    /// @p name must contain the major version of the headers, because the structures differ between versions.
     explicit LoadedLibrary(const char* name) : handle_(dlopen(name, RTLD_LAZY | RTLD_LOCAL)) {
         if (!handle_)
             complain(name);
@@ -22,7 +22,7 @@ public:
         if (!function && why_.empty())
             complain(symbol);
     }
-    /// Empty when the library and all that was looked for are there.
+    /// Why the library, or one of the functions, is missing; empty when all were found.
     [[nodiscard]] const std::string& why() const { return why_; }
 
 private:
@@ -31,7 +31,7 @@ private:
         why_ = error ? error : what;
     }
 
-    void* handle_; // never closed: objects of the library live anywhere
+    void* handle_; // never closed: objects of the library may still be in use
     std::string why_;
 };
 
