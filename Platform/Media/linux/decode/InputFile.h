@@ -50,6 +50,9 @@ private:
     Result<> openDecoder();
     void findLength();
     void countPackets();
+    [[nodiscard]] bool isPcm() const;
+    /// @p name: libavformat's short name of a container, "mp4".
+    [[nodiscard]] bool formatIs(const char* name) const;
     [[nodiscard]] bool timestampsAreExact() const;
     [[nodiscard]] bool timesAreFine() const;
 
