@@ -10,6 +10,7 @@
 #include "tests/fakes/FakeAdminShell.h"
 #include "tests/fakes/FakeBundle.h"
 #include "tests/fakes/FakeIORegistry.h"
+#include "tests/support/FileContent.h"
 #include "tests/support/WaitFor.h"
 
 #include <QDir>
@@ -20,6 +21,7 @@
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
+using FileContent::put;
 
 namespace {
 
@@ -63,18 +65,12 @@ protected:
     void makeBundle(const QString& parent, const QByteArray& version) {
         const auto path = parent + u"/ComputerAudioCapture.kext"_s;
         ASSERT_TRUE(QDir().mkpath(path));
-        write(path + u"/version"_s, version);
-        write(path + u"/CaptureDriver"_s, "#!/bin/sh\n[ \"$1\" = --check ] || touch '" + marker.toLocal8Bit() + "'\n");
+        put(path + u"/version"_s, version);
+        put(path + u"/CaptureDriver"_s, "#!/bin/sh\n[ \"$1\" = --check ] || touch '" + marker.toLocal8Bit() + "'\n");
         QFile(path + u"/CaptureDriver"_s).setPermissions(QFile::Permissions(0x7755));
     }
-    static void write(const QString& path, const QByteArray& content) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
     [[nodiscard]] QByteArray installedVersion() const {
-        QFile file(KextInstallControl::installedBundlePath() + u"/version"_s);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        return FileContent::get(KextInstallControl::installedBundlePath() + u"/version"_s);
     }
 
     Platform::ServicesScope scope;
@@ -106,8 +102,8 @@ TEST_F(KextInstallControlTest, InstallsTheBundleAndLoadsTheDriver) {
 
 TEST_F(KextInstallControlTest, ReplacesAnOlderBundleWithOnePromptThenEndsItsDriver) {
     makeBundle(extensions, "old");
-    write(extensions + u"/ComputerAudioCapture.kext/left over"_s, "x");
-    write(marker, "");
+    put(extensions + u"/ComputerAudioCapture.kext/left over"_s, "x");
+    put(marker, "");
     bool runningAtThePrompt = false;
     QByteArray installedAtThePrompt;
     shell.before = [&] {
@@ -137,10 +133,10 @@ TEST_F(KextInstallControlTest, KeepsTheOldDriverWhenAnyStepFails) {
         QDir(tools).removeRecursively();
         QDir().mkpath(tools);
         makeBundle(extensions, "old");
-        write(marker, "");
-        write(tools + u'/' + QLatin1StringView(command),
-              "#!/bin/sh\necho >> \"${0%/*}/calls\"\n[ $(wc -l < \"${0%/*}/calls\") -eq " + QByteArray::number(call) +
-                  " ] && exit 1\nPATH='" + path + "' exec " + command + " \"$@\"\n");
+        put(marker, "");
+        put(tools + u'/' + QLatin1StringView(command),
+            "#!/bin/sh\necho >> \"${0%/*}/calls\"\n[ $(wc -l < \"${0%/*}/calls\") -eq " + QByteArray::number(call) +
+                " ] && exit 1\nPATH='" + path + "' exec " + command + " \"$@\"\n");
         QFile(tools + u'/' + QLatin1StringView(command)).setPermissions(QFile::Permissions(0x7755));
         qputenv("PATH", tools.toLocal8Bit() + ':' + path);
         EXPECT_FALSE(KextInstallControl::install());
@@ -155,9 +151,9 @@ TEST_F(KextInstallControlTest, KeepsTheOldDriverWhenAnyStepFails) {
 
 TEST_F(KextInstallControlTest, KeepsTheOldDriverWithoutAPromptWhenTheNewOneCannotRun) {
     makeBundle(extensions, "old");
-    write(marker, "");
-    write(bundle.resources + u"/ComputerAudioCapture.kext/CaptureDriver"_s,
-          "#!/bin/sh\necho 'a library is missing' >&2\nexit 127\n");
+    put(marker, "");
+    put(bundle.resources + u"/ComputerAudioCapture.kext/CaptureDriver"_s,
+        "#!/bin/sh\necho 'a library is missing' >&2\nexit 127\n");
     EXPECT_FALSE(KextInstallControl::install());
     EXPECT_EQ(KextInstallControl::lastError(), u"a library is missing"_s);
     QDir(bundle.resources).removeRecursively();
@@ -207,7 +203,7 @@ TEST_F(KextInstallControlTest, FailsWhenThePromptIsCancelled) {
 
 TEST_F(KextInstallControlTest, KeepsTheDeviceWhenThePromptIsCancelled) {
     makeBundle(extensions, "old");
-    write(marker, "");
+    put(marker, "");
     shell.refusal = Platform::Error{Platform::Error::Kind::Cancelled, u"the password prompt was cancelled"_s};
     EXPECT_FALSE(KextInstallControl::uninstall());
     EXPECT_TRUE(CaptureDriver::isLoaded());
@@ -217,8 +213,8 @@ TEST_F(KextInstallControlTest, KeepsTheDeviceWhenThePromptIsCancelled) {
 }
 
 TEST_F(KextInstallControlTest, FailsWhenTheDriverDoesNotStart) {
-    write(bundle.resources + u"/ComputerAudioCapture.kext/CaptureDriver"_s,
-          "#!/bin/sh\n[ \"$1\" = --check ] && exit 0\nexit 1\n");
+    put(bundle.resources + u"/ComputerAudioCapture.kext/CaptureDriver"_s,
+        "#!/bin/sh\n[ \"$1\" = --check ] && exit 0\nexit 1\n");
     EXPECT_FALSE(KextInstallControl::install());
     EXPECT_EQ(shell.commands.size(), 1);
     EXPECT_FALSE(KextInstallControl::lastError().isEmpty());
@@ -260,7 +256,7 @@ TEST_F(KextInstallControlTest, LoadsAnInstalledDriverAtLaunchWhenItIsMissing) {
 
 TEST_F(KextInstallControlTest, StopsWaitingForADriverThatDoesNotAppear) {
     makeBundle(extensions, "new");
-    write(extensions + u"/ComputerAudioCapture.kext/CaptureDriver"_s, "#!/bin/sh\nexit 0\n");
+    put(extensions + u"/ComputerAudioCapture.kext/CaptureDriver"_s, "#!/bin/sh\nexit 0\n");
     QElapsedTimer timer;
     timer.start();
     EXPECT_FALSE(KextInstallControl::loadIfInstalled());

@@ -6,6 +6,7 @@
 #include "tests/CommandLine/CommandRun.h"
 #include "tests/fakes/FakeDiscRecording.h"
 #include "tests/support/Environment.h"
+#include "tests/support/FileContent.h"
 #include "tests/support/RunTool.h"
 
 #include <QDir>
@@ -182,13 +183,7 @@ protected:
     [[nodiscard]] QStringList burnInto(const QString& image) const {
         return {u"burn"_s, at(u"a.flac"_s), at(u"a.flac"_s), u"--image"_s, image};
     }
-    static QStringList everything(const QString& path) {
-        return QDir(path).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
-    }
-    static QByteArray contentOf(const QString& path) {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    static QStringList everything(const QString& path) { return FileContent::namesIn(path); }
 
     QTemporaryDir folder;
     EnvironmentScope config{"XDG_CONFIG_HOME", folder.path().toUtf8()};
@@ -202,7 +197,7 @@ TEST_F(BurnImageProgram, LeavesACompleteImageOrNothingWhenItIsKilled) {
     const auto whole = runTool(QStringLiteral(SONAPHEX_PROGRAM), burnInto(at(u"whole"_s)));
     ASSERT_EQ(whole.status, 0) << whole.errors.data();
     const auto lasts = int(timer.elapsed());
-    const QByteArray bin = contentOf(at(u"whole.bin"_s));
+    const QByteArray bin = FileContent::get(at(u"whole.bin"_s));
     ASSERT_EQ(bin.size(), 2 * (75 + 120 * 75) * 2352);
     int missing = 0;
     for (int i = 0; i < 20; ++i) {
@@ -219,8 +214,9 @@ TEST_F(BurnImageProgram, LeavesACompleteImageOrNothingWhenItIsKilled) {
             continue;
         }
         ASSERT_EQ(left, (QStringList{u"disc.bin"_s, u"disc.cue"_s}));
-        EXPECT_EQ(contentOf(images + u"/disc.bin"_s), bin);
-        EXPECT_EQ(contentOf(images + u"/disc.cue"_s).replace("disc.bin", "whole.bin"), contentOf(at(u"whole.cue"_s)));
+        EXPECT_EQ(FileContent::get(images + u"/disc.bin"_s), bin);
+        EXPECT_EQ(FileContent::get(images + u"/disc.cue"_s).replace("disc.bin", "whole.bin"),
+                  FileContent::get(at(u"whole.cue"_s)));
         QFile::remove(images + u"/disc.bin"_s);
         QFile::remove(images + u"/disc.cue"_s);
     }

@@ -5,6 +5,7 @@
 #include "Platform/Foundation/Services.h"
 #include "tests/CommandLine/CommandRun.h"
 #include "tests/fakes/FakeSourceFiles.h"
+#include "tests/support/FileContent.h"
 
 #include <QDir>
 #include <QImage>
@@ -16,6 +17,8 @@
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
+using FileContent::get;
+using FileContent::put;
 
 namespace {
 
@@ -27,9 +30,7 @@ protected:
     }
 
     [[nodiscard]] QString at(const QString& name) const { return folder.filePath(name); }
-    [[nodiscard]] QStringList everything() const {
-        return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
-    }
+    [[nodiscard]] QStringList everything() const { return FileContent::namesIn(folder.path()); }
     int run(const CommandLine::Command& command, const QStringList& arguments) {
         const CommandRun ran(command, arguments);
         out = ran.out;
@@ -38,15 +39,6 @@ protected:
     }
     int convert(const QStringList& arguments) { return run(CommandLine::convertCommand, arguments); }
     int waveform(const QStringList& arguments) { return run(CommandLine::waveformCommand, arguments); }
-    static void write(const QString& path, const QByteArray& content) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
-    static QByteArray read(const QString& path) {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
 
     Platform::ServicesScope scope;
     FakeSourceFiles files;
@@ -85,13 +77,13 @@ TEST_F(ConvertCommandTest, FadesAndRepeatsWhenALengthIsGiven) {
 TEST_F(ConvertCommandTest, WritesNoEmptyFileWhenTheRangeStartsBeyondTheEnd) {
     source = at(u"50%2%1.wav"_s);
     files.addSource(source, 4, [](int, std::int64_t) { return 0.5F; });
-    write(target, "precious");
+    put(target, "precious");
     for (const auto& fade : {QStringList{}, QStringList{u"--fade-in"_s, u"1"_s}}) {
         EXPECT_EQ(convert(QStringList{source, target, u"--overwrite"_s, u"--from"_s, u"4"_s} + fade),
                   CommandLine::Failed);
         EXPECT_EQ(err, u"sonaphex: "_s + source + u": it ends at second 4, there is nothing from second 4 on\n"_s);
     }
-    EXPECT_EQ(read(target), "precious");
+    EXPECT_EQ(get(target), "precious");
     EXPECT_EQ(convert({source, target, u"--overwrite"_s, u"--from"_s, u"3.9"_s}), CommandLine::Done);
 }
 
@@ -116,25 +108,25 @@ TEST_F(ConvertCommandTest, RefusesWrongUsageAndPrintsTheUsage) {
 }
 
 TEST_F(ConvertCommandTest, KeepsAnExistingTargetUnlessForced) {
-    write(target, "precious");
+    put(target, "precious");
     EXPECT_EQ(convert({source, target}), CommandLine::Failed);
-    EXPECT_EQ(read(target), "precious");
+    EXPECT_EQ(get(target), "precious");
     EXPECT_EQ(err.count(u'\n'), 1);
     EXPECT_EQ(convert({source, target, u"--overwrite"_s}), CommandLine::Done);
-    EXPECT_NE(read(target), "precious");
+    EXPECT_NE(get(target), "precious");
     EXPECT_EQ(everything().size(), 2);
 }
 
 TEST_F(ConvertCommandTest, LeavesNothingBehindWhenTheSourceCannotBeRead) {
     const auto text = at(u"notes.txt"_s);
-    write(text, "no sound in here");
-    write(target, "precious");
+    put(text, "no sound in here");
+    put(target, "precious");
     for (const auto& bad : {text, at(u"missing.wav"_s)}) {
         EXPECT_EQ(convert({bad, target, u"--overwrite"_s}), CommandLine::Failed);
         EXPECT_EQ(err.count(u'\n'), 1) << qPrintable(err);
         EXPECT_TRUE(err.contains(bad));
     }
-    EXPECT_EQ(read(target), "precious");
+    EXPECT_EQ(get(target), "precious");
     EXPECT_EQ(everything(), (QStringList{u"notes.txt"_s, u"source.wav"_s, u"target.m4a"_s}));
 }
 
@@ -144,10 +136,10 @@ TEST_F(ConvertCommandTest, ReportsAFullDiskAndRemovesTheIncompleteFile) {
             files.last().writeStatus = -34;
         return 0.5F;
     };
-    write(target, "precious");
+    put(target, "precious");
     EXPECT_EQ(convert({source, target, u"--overwrite"_s}), CommandLine::Failed);
     EXPECT_EQ(err, u"sonaphex: No space left on device\n"_s);
-    EXPECT_EQ(read(target), "precious");
+    EXPECT_EQ(get(target), "precious");
     EXPECT_EQ(everything(), (QStringList{u"source.wav"_s, u"target.m4a"_s}));
 }
 
@@ -157,10 +149,10 @@ TEST_F(ConvertCommandTest, StopsAtAnInterruptAndLeavesNoIncompleteFile) {
             std::raise(SIGINT);
         return 0.5F;
     };
-    write(target, "precious");
+    put(target, "precious");
     EXPECT_EQ(convert({source, target, u"--overwrite"_s}), CommandLine::Failed);
     EXPECT_LT(files.last().samples.at(0).size(), 100000U);
-    EXPECT_EQ(read(target), "precious");
+    EXPECT_EQ(get(target), "precious");
     EXPECT_EQ(everything(), (QStringList{u"source.wav"_s, u"target.m4a"_s}));
 }
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/Platform/Media/MediaTestSupport.h"
+#include "tests/support/FileContent.h"
 #include "tests/support/RunTool.h"
 #include "tests/support/WaitFor.h"
 
@@ -26,15 +27,8 @@ protected:
         return QDir(folder.path())
             .entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System, QDir::Name);
     }
-    void write(const QString& name, const QByteArray& content) const {
-        QFile file(at(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
-    [[nodiscard]] QByteArray read(const QString& name) const {
-        QFile file(at(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    void write(const QString& name, const QByteArray& content) const { FileContent::put(at(name), content); }
+    [[nodiscard]] QByteArray read(const QString& name) const { return FileContent::get(at(name)); }
     /// An hour of silence in a sparse file.
     void writeLongWave(const QString& name) const {
         MediaTest::Samples rows(2, std::vector<float>(512));

@@ -5,34 +5,25 @@
 #include "Platform/Foundation/linux/PropertyListDefaults.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
-#include "Source/Model/MediaLibraryStore.h"
-#include "Source/Preferences/PreferenceStore.h"
 #include "Source/ProcessRequests/MediaLibraryRequests.h"
+#include "tests/CommandLine/ProgramHome.h"
 #include "tests/Platform/Media/MediaTestSupport.h"
 #include "tests/fakes/FakeClock.h"
-#include "tests/support/Environment.h"
 #include "tests/support/LeafNotes.h"
 #include "tests/support/Mpeg4Files.h"
 #include "tests/support/WaitFor.h"
 
 #include <QJsonArray>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString identifier = u"com.korvane.Sonaphex"_s;
-
 class LibraryCommand : public testing::Test {
 protected:
-    LibraryCommand() {
-        for (const char* name : {"XDG_CONFIG_HOME", "XDG_RUNTIME_DIR", "XDG_DATA_HOME", "XDG_CACHE_HOME", "HOME"})
-            environment_.push_back(std::make_unique<EnvironmentScope>(name, folder_.path().toUtf8()));
-    }
     [[nodiscard]] Dictionary entry(const QString& name) const {
-        const QString path = folder_.filePath(name);
+        const QString path = home_.filePath(name);
         EXPECT_TRUE(Mpeg4Files::write(path, "audio"));
         return {{AudioRecordEntry::NodeDataKey, QString(path + u"_817430400.500000"_s)},
                 {AudioRecordEntry::SavePath, path},
@@ -41,21 +32,15 @@ protected:
                 {AudioRecordEntry::Length, 83.9}};
     }
     static QString keyOf(const Dictionary& entry) { return entry.value(AudioRecordEntry::NodeDataKey).toString(); }
-    static void store(const QVariantList& records, const QVariantList& ringtones) {
-        const auto defaults = Platform::createUserDefaults(identifier);
-        defaults->setObject(PreferenceStore::kMediaLibrarySavedKey, MediaLibraryStore::value(records, ringtones));
-        ASSERT_TRUE(defaults->flush());
-    }
     static ToolResult library(const QStringList& arguments) {
-        return runTool(QStringLiteral(SONAPHEX_PROGRAM), QStringList{u"library"_s} + arguments);
+        return ProgramHome::sonaphex(QStringList{u"library"_s} + arguments);
     }
     static ToolResult tag(const QStringList& arguments) {
-        return runTool(QStringLiteral(SONAPHEX_PROGRAM), QStringList{u"tag"_s} + arguments);
+        return ProgramHome::sonaphex(QStringList{u"tag"_s} + arguments);
     }
-    static QJsonDocument listed() { return QJsonDocument::fromJson(library({u"--json"_s}).output); }
+    static QJsonDocument listed() { return ProgramHome::library(); }
 
-    QTemporaryDir folder_;
-    std::vector<std::unique_ptr<EnvironmentScope>> environment_;
+    ProgramHome home_;
 };
 
 } // namespace
@@ -63,13 +48,13 @@ protected:
 TEST_F(LibraryCommand, ListsBothCollections) {
     const Dictionary record = entry(u"a b.m4a"_s);
     Dictionary ringtone = entry(u"r.m4r"_s);
-    store({record}, {ringtone});
-    ASSERT_TRUE(QFile::remove(folder_.filePath(u"r.m4r"_s)));
+    ProgramHome::store({record}, {ringtone});
+    ASSERT_TRUE(QFile::remove(home_.filePath(u"r.m4r"_s)));
     const QJsonDocument json = listed();
     ASSERT_EQ(json[u"records"_s].toArray().size(), 1);
     const QJsonObject first = json[u"records"_s][0].toObject();
     EXPECT_EQ(first[u"key"_s], keyOf(record));
-    EXPECT_EQ(first[u"path"_s], folder_.filePath(u"a b.m4a"_s));
+    EXPECT_EQ(first[u"path"_s], home_.filePath(u"a b.m4a"_s));
     EXPECT_EQ(first[u"title"_s], u"Title of a b.m4a"_s);
     EXPECT_EQ(first[u"seconds"_s], 83.9);
     EXPECT_EQ(first[u"exists"_s], true);
@@ -88,7 +73,7 @@ TEST_F(LibraryCommand, ListsAnEmptyLibrary) {
 TEST_F(LibraryCommand, RemovesEntriesAndTheirFiles) {
     const Dictionary gone = entry(u"$(x) \"gone\".m4a"_s);
     const Dictionary stays = entry(u"stays.m4a"_s);
-    store({gone, stays}, {});
+    ProgramHome::store({gone, stays}, {});
     const ToolResult result = library({u"remove"_s, keyOf(gone), u"--json"_s});
     EXPECT_EQ(result.status, 0) << result.errors.constData();
     EXPECT_EQ(QJsonDocument::fromJson(result.output)[u"removed"_s][0], keyOf(gone));
@@ -99,7 +84,7 @@ TEST_F(LibraryCommand, RemovesEntriesAndTheirFiles) {
 
 TEST_F(LibraryCommand, RemovesNothingWhenAKeyIsUnknown) {
     const Dictionary stays = entry(u"stays.m4a"_s);
-    store({stays}, {});
+    ProgramHome::store({stays}, {});
     const ToolResult result = library({u"remove"_s, keyOf(stays), u"no such key"_s});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.errors, "sonaphex: no entry has the key no such key (nothing was removed)\n");
@@ -120,7 +105,7 @@ TEST_F(LibraryCommand, TwoProcessesAtOnceLoseNothing) {
     QVariantList records;
     for (int i = 0; i < 12; ++i)
         records.append(entry(u"%1.m4a"_s.arg(i)));
-    store(records, {});
+    ProgramHome::store(records, {});
     std::vector<std::unique_ptr<QProcess>> processes;
     for (int i = 0; i < 8; ++i) {
         processes.push_back(std::make_unique<QProcess>());
@@ -139,22 +124,22 @@ TEST_F(LibraryCommand, ShowsTheTagsWrittenIntoItsFiles) {
     const Dictionary other = entry(u"other.m4a"_s);
     const QString path = one.value(AudioRecordEntry::SavePath).toString();
     ASSERT_TRUE(Mpeg4Files::make(path));
-    ASSERT_TRUE(QDir(folder_.path()).mkdir(u"links"_s));
-    const QString link = folder_.filePath(u"links/one.m4a"_s);
+    ASSERT_TRUE(QDir(home_.path()).mkdir(u"links"_s));
+    const QString link = home_.filePath(u"links/one.m4a"_s);
     ASSERT_TRUE(QFile::link(path, link));
-    store({other, one}, {one});
+    ProgramHome::store({other, one}, {one});
 
     const ToolResult result =
         tag({link, u"--title"_s, u"$(x) \"日本\""_s, u"--artist"_s, QString(), u"--year"_s, u"1984"_s});
     EXPECT_EQ(result.status, 0) << result.errors.constData();
     const QJsonDocument document = listed();
     EXPECT_EQ(document[u"records"_s][0][u"title"_s], u"Title of other.m4a"_s);
-    for (const QJsonValue& told : {document[u"records"_s][1], document[u"ringtones"_s][0]}) {
-        EXPECT_EQ(told[u"key"_s], keyOf(one));
-        EXPECT_EQ(told[u"title"_s], u"$(x) \"日本\""_s);
-        EXPECT_EQ(told[u"artist"_s], QString());
-        EXPECT_EQ(told[u"year"_s], 1984);
-        EXPECT_EQ(told[u"added"_s], u"2026/11/21"_s);
+    for (const QJsonValue& listedEntry : {document[u"records"_s][1], document[u"ringtones"_s][0]}) {
+        EXPECT_EQ(listedEntry[u"key"_s], keyOf(one));
+        EXPECT_EQ(listedEntry[u"title"_s], u"$(x) \"日本\""_s);
+        EXPECT_EQ(listedEntry[u"artist"_s], QString());
+        EXPECT_EQ(listedEntry[u"year"_s], 1984);
+        EXPECT_EQ(listedEntry[u"added"_s], u"2026/11/21"_s);
     }
 
     // When the file was not written, the library entry does not change either.
@@ -166,7 +151,7 @@ TEST_F(LibraryCommand, KeepsTheTagsOfSeveralProcessesAtOnce) {
     const Dictionary one = entry(u"one.m4a"_s);
     const QString path = one.value(AudioRecordEntry::SavePath).toString();
     ASSERT_TRUE(Mpeg4Files::make(path));
-    store({one}, {});
+    ProgramHome::store({one}, {});
     for (int round = 0; round < 5; ++round) {
         const QString text = u"round %1"_s.arg(round);
         std::vector<std::unique_ptr<QProcess>> processes;
@@ -191,8 +176,8 @@ TEST_F(LibraryCommand, KeepsTheTagsOfSeveralProcessesAtOnce) {
 class LibraryCommandBesideAWindow : public LibraryCommand {
 protected:
     void open(const QVariantList& records) {
-        store(records, {});
-        defaults_ = Platform::createUserDefaults(identifier);
+        ProgramHome::store(records, {});
+        defaults_ = Platform::createUserDefaults(ProgramHome::identifier);
         Platform::services().userDefaults = defaults_.get();
         shared_.loadMediaLibraryList();
         shared_.loadDefaultMediaLibrary();
@@ -211,7 +196,7 @@ protected:
 
     /// Changes the library as a subcommand does when it cannot reach the window.
     void addBesideTheWindow(const Dictionary& entry) {
-        const auto defaults = Platform::createUserDefaults(identifier);
+        const auto defaults = Platform::createUserDefaults(ProgramHome::identifier);
         Platform::services().userDefaults = defaults.get();
         MediaLibrary().addRecordFile(entry);
         EXPECT_TRUE(defaults->flush());
@@ -221,7 +206,7 @@ protected:
     const Platform::ServicesScope scope_;
     std::unique_ptr<Platform::UserDefaults> defaults_;
     MediaLibrary& shared_ = MediaLibrary::shareLibrary();
-    std::unique_ptr<Platform::RunningProgram> running_ = Platform::RunningProgram::create(identifier);
+    std::unique_ptr<Platform::RunningProgram> running_ = Platform::RunningProgram::create(ProgramHome::identifier);
 };
 
 TEST_F(LibraryCommandBesideAWindow, MakesItRemoveEntries) {

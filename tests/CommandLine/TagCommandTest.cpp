@@ -1,11 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Platform/Foundation/linux/PropertyListDefaults.h"
 #include "Platform/Media/BasicID3Change.h"
 #include "Source/Model/AudioRecordEntry.h"
-#include "Source/Model/MediaLibraryStore.h"
-#include "Source/Preferences/PreferenceStore.h"
-#include "tests/support/Environment.h"
+#include "tests/CommandLine/ProgramHome.h"
+#include "tests/support/FileContent.h"
 #include "tests/support/Mpeg4Files.h"
 
 #include <QDir>
@@ -23,7 +21,7 @@ protected:
     TagCommand() { EXPECT_TRUE(Mpeg4Files::make(path())); }
     [[nodiscard]] QString path(const QString& name = u"a.m4a"_s) const { return folder_.filePath(name); }
     static ToolResult tag(const QStringList& arguments) {
-        return runTool(QStringLiteral(SONAPHEX_PROGRAM), QStringList{u"tag"_s} + arguments);
+        return ProgramHome::sonaphex(QStringList{u"tag"_s} + arguments);
     }
     static QJsonObject json(const ToolResult& result) { return QJsonDocument::fromJson(result.output).object(); }
 
@@ -34,28 +32,13 @@ protected:
 class TagRename : public TagCommand {
 protected:
     TagRename() {
-        for (const char* name : {"XDG_CONFIG_HOME", "XDG_RUNTIME_DIR", "XDG_DATA_HOME", "XDG_CACHE_HOME", "HOME"})
-            environment_.push_back(std::make_unique<EnvironmentScope>(name, home_.path().toUtf8()));
-        const auto defaults = Platform::createUserDefaults(identifier());
-        const Dictionary entry{{AudioRecordEntry::NodeDataKey, u"the key"_s},
-                               {AudioRecordEntry::SavePath, path()},
-                               {AudioRecordEntry::Title, u"a"_s},
-                               {AudioRecordEntry::Length, 3.0}};
-        defaults->setObject(PreferenceStore::kMediaLibrarySavedKey, MediaLibraryStore::value({entry}, {}));
-        EXPECT_TRUE(defaults->flush());
+        ProgramHome::store({Dictionary{{AudioRecordEntry::NodeDataKey, u"the key"_s},
+                                       {AudioRecordEntry::SavePath, path()},
+                                       {AudioRecordEntry::Title, u"a"_s},
+                                       {AudioRecordEntry::Length, 3.0}}});
     }
-    static QString identifier() { return u"com.korvane.Sonaphex"_s; }
-    static QJsonObject listed() {
-        const auto told = runTool(QStringLiteral(SONAPHEX_PROGRAM), {u"library"_s, u"--json"_s});
-        return QJsonDocument::fromJson(told.output)[u"records"_s].toArray().at(0).toObject();
-    }
-    [[nodiscard]] QStringList files() const {
-        return QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
-    }
-    /// Notes about unfinished edits.
-    [[nodiscard]] QStringList notes() const {
-        return QDir(home_.filePath(identifier() + u"/Edits"_s)).entryList(QDir::Files);
-    }
+    static QJsonObject listed() { return ProgramHome::library()[u"records"_s].toArray().at(0).toObject(); }
+    [[nodiscard]] QStringList files() const { return FileContent::namesIn(folder_.path()); }
     static void expectKept(const ToolResult& result, const QByteArray& why) {
         EXPECT_EQ(result.status, 1);
         EXPECT_EQ(result.errors.count('\n'), 1) << result.errors.constData();
@@ -63,8 +46,7 @@ protected:
         EXPECT_TRUE(result.errors.contains(why)) << result.errors.constData();
     }
 
-    QTemporaryDir home_;
-    std::vector<std::unique_ptr<EnvironmentScope>> environment_;
+    ProgramHome home_;
 };
 
 } // namespace
@@ -78,13 +60,13 @@ TEST_F(TagCommand, WritesTheGivenTagsAndKeepsTheRest) {
     EXPECT_TRUE(first.output.isEmpty() && first.errors.isEmpty()) << first.errors.constData();
     const ToolResult second = tag({path(), u"--album"_s, u"B"_s, u"--artist"_s, u""_s, u"--json"_s});
     EXPECT_EQ(second.status, 0);
-    const QJsonObject told = json(second);
-    EXPECT_EQ(told[u"title"_s], u"$(x) \"日本\""_s);
-    EXPECT_EQ(told[u"artist"_s], u""_s);
-    EXPECT_EQ(told[u"album"_s], u"B"_s);
-    EXPECT_EQ(told[u"year"_s], 1984);
-    EXPECT_EQ(told[u"artwork"_s][u"type"_s], u"image/jpeg"_s);
-    EXPECT_EQ(told[u"artwork"_s][u"bytes"_s], Mpeg4Files::contentOf(cover).size());
+    const QJsonObject shown = json(second);
+    EXPECT_EQ(shown[u"title"_s], u"$(x) \"日本\""_s);
+    EXPECT_EQ(shown[u"artist"_s], u""_s);
+    EXPECT_EQ(shown[u"album"_s], u"B"_s);
+    EXPECT_EQ(shown[u"year"_s], 1984);
+    EXPECT_EQ(shown[u"artwork"_s][u"type"_s], u"image/jpeg"_s);
+    EXPECT_EQ(shown[u"artwork"_s][u"bytes"_s], Mpeg4Files::contentOf(cover).size());
     EXPECT_EQ(Mpeg4Files::probe(path())[u"title"_s].toString(), u"$(x) \"日本\""_s);
 }
 
@@ -134,7 +116,7 @@ TEST_F(TagRename, NamesTheFileAfterItsTitleAndTheEntryFollows) {
     EXPECT_EQ(listed()[u"path"_s].toString(), path(u"Morning.m4a"_s));
     EXPECT_EQ(listed()[u"title"_s].toString(), u"Morning"_s);
     EXPECT_EQ(listed()[u"seconds"_s].toDouble(), 3);
-    EXPECT_TRUE(notes().isEmpty());
+    EXPECT_TRUE(home_.notes().isEmpty());
 }
 
 TEST_F(TagRename, UsesTheFilesTitleAndKeepsAFileOfThatName) {
@@ -160,7 +142,7 @@ TEST_F(TagRename, AgreesInFileTagsAndEntryWhateverTheTitleIs) {
         EXPECT_EQ(listed()[u"path"_s].toString(), now);
         EXPECT_EQ(listed()[u"title"_s].toString(), title);
     }
-    EXPECT_TRUE(notes().isEmpty());
+    EXPECT_TRUE(home_.notes().isEmpty());
 }
 
 TEST_F(TagRename, KeepsTheNameWhenTheTitleCannotBeAFileName) {
@@ -178,7 +160,7 @@ TEST_F(TagRename, KeepsTheNameWhenTheTitleCannotBeAFileName) {
         EXPECT_EQ(listed()[u"title"_s].toString(), title);
     }
     EXPECT_EQ(Mpeg4Files::audioOf(path()), sound);
-    EXPECT_TRUE(notes().isEmpty());
+    EXPECT_TRUE(home_.notes().isEmpty());
 }
 
 TEST_F(TagRename, NeverTakesTheNameOfAnotherFile) {
@@ -191,5 +173,5 @@ TEST_F(TagRename, NeverTakesTheNameOfAnotherFile) {
     }
     EXPECT_EQ(files(), (QStringList{u"Link.m4a"_s, u"Taken.m4a"_s, u"a.m4a"_s}));
     EXPECT_EQ(Mpeg4Files::contentOf(path(u"Taken.m4a"_s)), "another");
-    EXPECT_TRUE(notes().isEmpty());
+    EXPECT_TRUE(home_.notes().isEmpty());
 }

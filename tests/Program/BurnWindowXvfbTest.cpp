@@ -1,20 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The whole program burns recordings of its library into a disc image: real files, real window, real keys.
-#include "AppWindows.h"
 #include "Platform/Disc/CDFormat.h"
-#include "Platform/Foundation/Bundle.h"
-#include "Platform/Foundation/Services.h"
-#include "Platform/LinuxServices.h"
 #include "Source/CDBurn/AudioDataSourceView.h"
 #include "Source/Model/AudioRecordEntry.h"
-#include "Source/Model/MediaLibrary.h"
 #include "Source/WndController/LibraryOutlineModel.h"
-#include "Source/WndController/LibraryPresenter.h"
 #include "Source/WndController/MainMenus.h"
-#include "Source/WndController/MainWndController.h"
-#include "tests/Program/DesktopProgram.h"
-#include "tests/support/XvfbSession.h"
+#include "tests/Program/MainWindowOnADesktop.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -37,7 +29,7 @@ namespace {
 constexpr int kTracks = 10;
 constexpr int kSeconds = 180;
 
-class BurnsFromTheLibrary : public testing::Test {
+class BurnsFromTheLibrary : public MainWindowOnADesktop {
 protected:
     static void SetUpTestSuite() {
         sounds = std::make_unique<QTemporaryDir>();
@@ -47,10 +39,13 @@ protected:
     static void TearDownTestSuite() { sounds.reset(); }
     void SetUp() override {
         QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-        services.install(Platform::LinuxServices::Mode::Window);
-        const auto audio = services.startAudio();
-        ASSERT_TRUE(audio) << qPrintable(audio.error().text);
         ASSERT_TRUE(QDir().mkpath(images()));
+        MainWindowOnADesktop::SetUp();
+        auto& outline = *controller->window()->findChild<QTreeView*>(u"outlineLibraryView_"_s);
+        outline.setCurrentIndex(controller->library().outlineModel().indexOfKey(u"all-record"_s));
+        ASSERT_TRUE(waitFor([&] { return controller->menus().window(WindowCommands::Window::CDBurn)->isEnabled(); }));
+    }
+    [[nodiscard]] QVariantList records() const override {
         QVariantList records;
         for (int i = 0; i < kTracks; ++i) {
             const QString path = sound(i);
@@ -59,26 +54,7 @@ protected:
                                       {AudioRecordEntry::SavePath, path},
                                       {AudioRecordEntry::Length, double(kSeconds)}});
         }
-        // The process's only library lives longer than each test's folders.
-        auto& library = MediaLibrary::shareLibrary();
-        library.setRecords(records);
-        library.setRingtones({});
-        library.setCurrentNewArray({});
-        library.saveMediaLibraryList();
-        running = Platform::RunningProgram::create(Platform::services().bundle->bundleIdentifier());
-        windows = createAppWindows();
-        application = std::make_unique<AppDelegate>(*windows, *running);
-        ASSERT_TRUE(application->applicationDidFinishLaunching()) << qPrintable(application->lastError());
-        controller = static_cast<MainWndController*>(application->mainWndController());
-        ASSERT_TRUE(waitFor([&] { return controller->window()->isActiveWindow(); }));
-        auto& outline = *controller->window()->findChild<QTreeView*>(u"outlineLibraryView_"_s);
-        outline.setCurrentIndex(controller->library().outlineModel().indexOfKey(u"all-record"_s));
-        ASSERT_TRUE(waitFor([&] { return controller->menus().window(WindowCommands::Window::CDBurn)->isEnabled(); }));
-    }
-    void TearDown() override {
-        application->applicationWillTerminate();
-        application.reset();
-        windows.reset();
+        return records;
     }
 
     [[nodiscard]] QString images() const { return user.folder.filePath(u"Disc images"_s); }
@@ -99,7 +75,7 @@ protected:
                 kind + QStringList{sound(number)});
         ASSERT_EQ(made.status, 0) << made.errors.constData();
     }
-    static bool xdotool(const QStringList& arguments) { return XvfbSession::current()->xdotool(arguments); }
+    static bool xdotool(const QStringList& arguments) { return desktop().xdotool(arguments); }
     static void keys(const QString& combination) { EXPECT_TRUE(xdotool({u"key"_s, combination})); }
     /// Whether the pointer is on the widget and has clicked it.
     static bool click(const QWidget& widget) {
@@ -186,12 +162,6 @@ protected:
     }
 
     static inline std::unique_ptr<QTemporaryDir> sounds;
-    Home user;
-    Platform::LinuxServices services;
-    std::unique_ptr<Platform::RunningProgram> running;
-    std::unique_ptr<AppDelegate::Windows> windows;
-    std::unique_ptr<AppDelegate> application;
-    MainWndController* controller = nullptr;
 };
 
 } // namespace

@@ -35,7 +35,7 @@ protected:
         PreferenceStore::setPreferenceValue(0, PreferenceStore::PreferenceFilterKey);
         // The process's only library lives longer than each test's folders.
         auto& library = MediaLibrary::shareLibrary();
-        library.setRecords({});
+        library.setRecords(records());
         library.setRingtones({});
         library.setCurrentNewArray({});
         library.saveMediaLibraryList();
@@ -52,6 +52,9 @@ protected:
         application.reset();
         windows.reset();
     }
+
+    /// The recordings that the library has when the window opens.
+    [[nodiscard]] virtual QVariantList records() const { return {}; }
 
     static XvfbSession& desktop() { return *XvfbSession::current(); }
     [[nodiscard]] QWidget& outlet(const char* name) const {

@@ -6,12 +6,15 @@
 #include "Source/Control/ConverterAudioControl.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "tests/fakes/FakeSourceFiles.h"
+#include "tests/support/FileContent.h"
 
 #include <QDir>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
+using FileContent::get;
+using FileContent::put;
 
 namespace {
 
@@ -24,18 +27,7 @@ protected:
     RingtoneFile::Result write(const std::function<bool(double)>& progress = [](double) { return true; }) {
         return RingtoneFile::write(converter, task, progress);
     }
-    [[nodiscard]] QStringList everything() const {
-        return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-    }
-    static void put(const QString& path, const QByteArray& content) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
-    static QByteArray read(const QString& path) {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    [[nodiscard]] QStringList everything() const { return FileContent::namesIn(folder.path()); }
 
     Platform::ServicesScope scope;
     FakeSourceFiles files;
@@ -62,7 +54,7 @@ TEST_F(RingtoneFileTest, ReplacesTheGivenFileAndAnOldTemporaryOne) {
     put(task.target, "old");
     put(folder.filePath(u"TempRingtoneMakerAudio.m4r"_s), "left over");
     EXPECT_EQ(write().path, task.target);
-    EXPECT_NE(read(task.target), "old");
+    EXPECT_NE(get(task.target), "old");
     EXPECT_EQ(everything(), (QStringList{u"Ringtone.m4r"_s, u"source.m4a"_s}));
 }
 
@@ -72,7 +64,7 @@ TEST_F(RingtoneFileTest, KeepsAFileThatAppearsAtTheTargetMeanwhile) {
         return true;
     });
     EXPECT_EQ(result.path, folder.filePath(u"Ringtone1.m4r"_s));
-    EXPECT_EQ(read(task.target), "of another program");
+    EXPECT_EQ(get(task.target), "of another program");
 }
 
 TEST_F(RingtoneFileTest, LeavesNothingWhenItIsStopped) {

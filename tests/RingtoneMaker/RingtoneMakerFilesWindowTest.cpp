@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/linux/MediaFilesLinux.h"
 #include "tests/RingtoneMaker/RingtoneWorld.h"
+#include "tests/support/FileContent.h"
 #include "tests/support/FullDisk.h"
 #include "tests/support/Mpeg4Files.h"
 
@@ -47,14 +48,10 @@ protected:
     void open(int seconds) {
         source = world.folder.filePath(u"Track1.m4a"_s);
         ASSERT_TRUE(Mpeg4Files::make(source, Mpeg4Files::Shape::IndexAtEnd, seconds));
-        content = read(source);
+        content = FileContent::get(source);
         world.sounds.lengths.insert(source, seconds);
         world.maker.openFile(source, LibraryWorld::entry(u"key"_s, u"Track1"_s, source, seconds));
         world.show();
-    }
-    static QByteArray read(const QString& path) {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
     void pressTheButton() {
         auto& button = world.outlet<QPushButton>("makeButton");
@@ -70,7 +67,7 @@ protected:
         EXPECT_EQ(world.alerts.shown[0].text.count(u'\n'), 0);
         std::printf("said: %s\n", qPrintable(world.alerts.shown[0].text));
         EXPECT_TRUE(world.paths.isEmpty());
-        EXPECT_EQ(read(source), content);
+        EXPECT_EQ(FileContent::get(source), content);
         EXPECT_TRUE(QDir(g_strTmpPath).isEmpty());
         EXPECT_TRUE(QDir(world.folder.filePath(u"made"_s)).isEmpty());
     }
@@ -107,7 +104,7 @@ TEST_F(RingtoneMakerOnADisk, WritesARingtone) {
     EXPECT_TRUE(world.alerts.shown.isEmpty());
     ASSERT_EQ(world.paths, QStringList(world.folder.filePath(u"made/Ringtone.m4r"_s)));
     EXPECT_FALSE(Mpeg4Files::audioOf(world.paths[0]).isEmpty());
-    EXPECT_EQ(read(source), content);
+    EXPECT_EQ(FileContent::get(source), content);
 }
 
 /// Memory of this process, without mapped files.

@@ -4,6 +4,7 @@
 #include "Platform/Desktop/linux/LinuxHotKeys.h"
 #include "Platform/Desktop/linux/PortalRegistry.h"
 
+#include "tests/Platform/Desktop/PortalShortcut.h"
 #include "tests/support/WaitFor.h"
 
 #include <QDBusArgument>
@@ -29,27 +30,10 @@ const auto backEndName = u"org.freedesktop.impl.portal.desktop.test"_s;
 const auto backEndPath = u"/org/freedesktop/portal/desktop"_s;
 const auto backEndInterface = u"org.freedesktop.impl.portal.GlobalShortcuts"_s;
 
-struct GivenShortcut {
-    QString id;
-    QVariantMap properties;
-};
-[[maybe_unused]] QDBusArgument& operator<<(QDBusArgument& argument, const GivenShortcut& shortcut) {
-    argument.beginStructure();
-    argument << shortcut.id << shortcut.properties;
-    argument.endStructure();
-    return argument;
-}
-[[maybe_unused]] const QDBusArgument& operator>>(const QDBusArgument& argument, GivenShortcut& shortcut) {
-    argument.beginStructure();
-    argument >> shortcut.id >> shortcut.properties;
-    argument.endStructure();
-    return argument;
-}
-
-QVariant listOf(const QList<GivenShortcut>& shortcuts) {
+QVariant listOf(const QList<PortalShortcut>& shortcuts) {
     QDBusArgument list;
-    list.beginArray(QMetaType::fromType<GivenShortcut>());
-    for (const GivenShortcut& shortcut : shortcuts)
+    list.beginArray(QMetaType::fromType<PortalShortcut>());
+    for (const PortalShortcut& shortcut : shortcuts)
         list << shortcut;
     list.endArray();
     return QVariant::fromValue(list);
@@ -60,7 +44,7 @@ QVariant listOf(const QList<GivenShortcut>& shortcuts) {
 class BackEnd : public QDBusVirtualObject {
 public:
     BackEnd() : bus_(QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), u"back end"_s)) {
-        qDBusRegisterMetaType<GivenShortcut>();
+        qDBusRegisterMetaType<PortalShortcut>();
         EXPECT_TRUE(bus_.registerVirtualObject(u"/"_s, this, QDBusConnection::SubPath));
         EXPECT_TRUE(bus_.registerService(backEndName));
     }
@@ -78,9 +62,9 @@ public:
             session = message.arguments().at(1).value<QDBusObjectPath>().path();
             bus.send(message.createReply({0U, QVariantMap()}));
         } else if (member == u"BindShortcuts") {
-            QList<GivenShortcut> given;
+            QList<PortalShortcut> given;
             preferred.clear();
-            for (const auto& asked : qdbus_cast<QList<GivenShortcut>>(message.arguments().at(2))) {
+            for (const auto& asked : qdbus_cast<QList<PortalShortcut>>(message.arguments().at(2))) {
                 preferred.insert(asked.id, asked.properties.value(u"preferred_trigger"_s).toString());
                 given.append({asked.id,
                               {{u"description"_s, asked.properties.value(u"description"_s)},

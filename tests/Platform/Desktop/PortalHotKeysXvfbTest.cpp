@@ -3,6 +3,7 @@
 #include "Platform/Desktop/linux/LinuxHotKeys.h"
 #include "Platform/Desktop/linux/PortalColorScheme.h"
 
+#include "tests/Platform/Desktop/PortalShortcut.h"
 #include "tests/support/WaitFor.h"
 
 #include <QDBusArgument>
@@ -25,28 +26,11 @@ const auto portalName = u"org.freedesktop.portal.Desktop"_s;
 const auto portalPath = u"/org/freedesktop/portal/desktop"_s;
 const auto shortcutsInterface = u"org.freedesktop.portal.GlobalShortcuts"_s;
 
-struct ListedShortcut {
-    QString id;
-    QVariantMap properties;
-};
-[[maybe_unused]] QDBusArgument& operator<<(QDBusArgument& argument, const ListedShortcut& shortcut) {
-    argument.beginStructure();
-    argument << shortcut.id << shortcut.properties;
-    argument.endStructure();
-    return argument;
-}
-[[maybe_unused]] const QDBusArgument& operator>>(const QDBusArgument& argument, ListedShortcut& shortcut) {
-    argument.beginStructure();
-    argument >> shortcut.id >> shortcut.properties;
-    argument.endStructure();
-    return argument;
-}
-
 // A desktop portal on the private bus; the test decides its answers and the keys that its user presses.
 class Portal : public QDBusVirtualObject {
 public:
     Portal() : bus_(QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), u"portal"_s)) {
-        qDBusRegisterMetaType<ListedShortcut>();
+        qDBusRegisterMetaType<PortalShortcut>();
         EXPECT_TRUE(bus_.registerVirtualObject(u"/"_s, this, QDBusConnection::SubPath));
         EXPECT_TRUE(bus_.registerService(portalName));
     }
@@ -118,10 +102,10 @@ public:
 private:
     [[nodiscard]] QVariant granted() const {
         QDBusArgument list;
-        list.beginArray(QMetaType::fromType<ListedShortcut>());
+        list.beginArray(QMetaType::fromType<PortalShortcut>());
         for (auto each = bound.cbegin(); each != bound.cend(); ++each)
             if (!refused.contains(each.key()))
-                list << ListedShortcut{
+                list << PortalShortcut{
                     each.key(), {{u"trigger_description"_s, withoutKeys.contains(each.key()) ? u""_s : u"Keys"_s}}};
         list.endArray();
         return QVariant::fromValue(list);

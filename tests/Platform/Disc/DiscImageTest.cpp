@@ -19,9 +19,7 @@ namespace {
 class DiscImageTest : public testing::Test {
 protected:
     [[nodiscard]] QString at(const QString& name) const { return folder.filePath(name); }
-    [[nodiscard]] QStringList everything() const {
-        return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
-    }
+    [[nodiscard]] QStringList everything() const { return FileContent::namesIn(folder.path()); }
     /// An audio file of two tones, made by sox: @p format like "-r 48000 -b 24 -c 2".
     QString tones(const QString& name, const QString& format, const QString& seconds, const QString& vol = u"0.5"_s) {
         const QString path = at(name);
@@ -96,7 +94,7 @@ TEST_F(DiscImageTest, ContainsTheAudioOfTenFileFormats) {
 
     std::int64_t sectors = 0;
     QStringList starts;
-    const QByteArray bin = contentOf(at(u"disc.bin"_s));
+    const QByteArray bin = get(at(u"disc.bin"_s));
     for (std::size_t i = 0; i < layout.size(); ++i) {
         EXPECT_EQ(bin.mid(qsizetype(sectors * 2352), 75 * 2352), QByteArray(75 * 2352, '\0')) << i;
         sectors += 75;
@@ -104,7 +102,7 @@ TEST_F(DiscImageTest, ContainsTheAudioOfTenFileFormats) {
         const QString raw = at(u"reference.raw"_s);
         sox({paths[qsizetype(i)], u"-r"_s, u"44100"_s, u"-c"_s, u"2"_s, u"-b"_s, u"16"_s, u"-e"_s, u"signed"_s, raw,
              u"rate"_s, u"-v"_s});
-        const auto reference = samplesOf(contentOf(raw));
+        const auto reference = samplesOf(get(raw));
         const auto ours = samplesOf(bin.mid(qsizetype(sectors * 2352), qsizetype(layout[i]->sectors() * 2352)));
         ASSERT_GE(ours.size(), reference.size()) << i;
         EXPECT_LT(ours.size() - reference.size(), std::max<std::size_t>(1176 + 4, 300 * 1176 - reference.size() + 4))
@@ -123,7 +121,7 @@ TEST_F(DiscImageTest, ContainsTheAudioOfTenFileFormats) {
     const auto bits = [&](int number) {
         const QString raw = at(u"bits.raw"_s);
         sox({u"-D"_s, paths[number], u"-e"_s, u"signed"_s, u"-b"_s, u"16"_s, u"-c"_s, u"2"_s, raw});
-        return contentOf(raw);
+        return get(raw);
     };
     EXPECT_EQ(bin.mid(75 * 2352, 4 * 198450), bits(0));
     const auto eighth = bits(7);
@@ -143,7 +141,7 @@ TEST_F(DiscImageTest, ContainsTheAudioOfTenFileFormats) {
     const auto chunks = runTool(u"bchunk"_s, {u"-w"_s, at(u"disc.bin"_s), at(u"disc.cue"_s), at(u"chunk"_s)});
     ASSERT_EQ(chunks.status, 0) << chunks.errors.data();
     for (int i = 1; i <= 10; ++i) {
-        const QByteArray wave = contentOf(at(u"chunk%1.wav"_s.arg(i, 2, 10, QChar(u'0'))));
+        const QByteArray wave = get(at(u"chunk%1.wav"_s.arg(i, 2, 10, QChar(u'0'))));
         const auto& made = layout[std::size_t(i - 1)];
         EXPECT_EQ(wave.mid(44, qsizetype(made->sectors() * 2352)),
                   bin.mid(qsizetype(starts[i - 1].toLongLong() * 2352), qsizetype(made->sectors() * 2352)))
@@ -160,7 +158,7 @@ TEST_F(DiscImageTest, JoinsThePartsOfOneRecordingWithoutAClick) {
     discs.setImagePath(at(u"parts"_s));
     const DRLayout layout = layoutOf({at(u"a.wav"_s), at(u"b.wav"_s), at(u"c.wav"_s)});
     ASSERT_EQ(burn(layout).state, DRStatusStateDone);
-    const QByteArray bin = contentOf(at(u"parts.bin"_s));
+    const QByteArray bin = get(at(u"parts.bin"_s));
     QByteArray played;
     qsizetype place = 0;
     for (const auto& [part, frames] : {std::pair(0, 200001), std::pair(1, 250037), std::pair(2, 343762)}) {
@@ -173,7 +171,7 @@ TEST_F(DiscImageTest, JoinsThePartsOfOneRecordingWithoutAClick) {
         place += bytes;
     }
     sox({whole, at(u"whole.raw"_s)});
-    EXPECT_EQ(played, contentOf(at(u"whole.raw"_s)));
+    EXPECT_EQ(played, get(at(u"whole.raw"_s)));
 }
 
 TEST_F(DiscImageTest, WritesTitlesAndArtistsIntoTheCueSheet) {
@@ -185,16 +183,16 @@ TEST_F(DiscImageTest, WritesTitlesAndArtistsIntoTheCueSheet) {
               0);
     discs.setImagePath(at(u"x.bin"_s));
     ASSERT_EQ(burn(layoutOf({at(u"plain name.wav"_s), at(u"b.m4a"_s)})).state, DRStatusStateDone);
-    EXPECT_EQ(contentOf(at(u"x.cue"_s)), "FILE \"x.bin\" BINARY\r\n"
-                                         "  TRACK 01 AUDIO\r\n"
-                                         "    TITLE \"plain name\"\r\n"
-                                         "    INDEX 00 00:00:00\r\n"
-                                         "    INDEX 01 00:01:00\r\n"
-                                         "  TRACK 02 AUDIO\r\n"
-                                         "    TITLE \"Sæson '7'\"\r\n"
-                                         "    PERFORMER \"The Band\"\r\n"
-                                         "    INDEX 00 00:05:00\r\n"
-                                         "    INDEX 01 00:06:00\r\n");
+    EXPECT_EQ(get(at(u"x.cue"_s)), "FILE \"x.bin\" BINARY\r\n"
+                                   "  TRACK 01 AUDIO\r\n"
+                                   "    TITLE \"plain name\"\r\n"
+                                   "    INDEX 00 00:00:00\r\n"
+                                   "    INDEX 01 00:01:00\r\n"
+                                   "  TRACK 02 AUDIO\r\n"
+                                   "    TITLE \"Sæson '7'\"\r\n"
+                                   "    PERFORMER \"The Band\"\r\n"
+                                   "    INDEX 00 00:05:00\r\n"
+                                   "    INDEX 01 00:06:00\r\n");
 }
 
 TEST_F(DiscImageTest, RefusesToReplaceFiles) {
@@ -208,7 +206,7 @@ TEST_F(DiscImageTest, RefusesToReplaceFiles) {
         const DRStatus status = burn(layout);
         EXPECT_EQ(status.state, DRStatusStateFailed);
         EXPECT_TRUE(status.reason.startsWith(at(existing) + u": exists already"_s)) << qPrintable(status.reason);
-        EXPECT_EQ(contentOf(at(existing)), "mine");
+        EXPECT_EQ(get(at(existing)), "mine");
         EXPECT_EQ(everything(), (QStringList{u"a.wav"_s, existing}));
         file.remove();
     }
@@ -290,7 +288,7 @@ TEST_F(DiscImageTest, BurnsASourceThatWasDeletedAfterItWasMeasured) {
     ASSERT_TRUE(QFile::remove(path));
     discs.setImagePath(at(u"disc"_s));
     ASSERT_EQ(burn(layout).state, DRStatusStateDone);
-    EXPECT_EQ(contentOf(at(u"disc.bin"_s)).mid(75 * 2352, 5 * 176400), contentOf(at(u"a.raw"_s)));
+    EXPECT_EQ(get(at(u"disc.bin"_s)).mid(75 * 2352, 5 * 176400), get(at(u"a.raw"_s)));
 }
 
 TEST_F(DiscImageTest, AsksForAPathUntilOneIsFree) {

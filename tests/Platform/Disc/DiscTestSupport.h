@@ -4,6 +4,7 @@
 
 #include "Platform/Disc/linux/LinuxDiscRecording.h"
 #include "Platform/Media/linux/MediaFilesLinux.h"
+#include "tests/support/FileContent.h"
 #include "tests/support/RunTool.h"
 #include "tests/support/WaitFor.h"
 
@@ -18,10 +19,7 @@
 
 namespace DiscTest {
 
-inline QByteArray contentOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
+using FileContent::get;
 
 /// Interleaved 16-bit samples.
 inline std::vector<std::int16_t> samplesOf(const QByteArray& bytes) {

@@ -3,6 +3,7 @@
 #include "Platform/Foundation/FileManager.h"
 
 #include "tests/support/Environment.h"
+#include "tests/support/FileContent.h"
 
 #include <gtest/gtest.h>
 
@@ -18,6 +19,8 @@ namespace Files = Platform::FileManager;
 
 namespace {
 
+using FileContent::put;
+
 struct FileManager : testing::Test {
     QTemporaryDir dir;
     /// A folder on another file system, so that a move becomes a copy. Null when the machine has none.
@@ -25,15 +28,7 @@ struct FileManager : testing::Test {
     EnvironmentScope data{"XDG_DATA_HOME", dir.filePath(QStringLiteral("share")).toUtf8()};
 
     [[nodiscard]] QString path(const char* name) const { return dir.filePath(QString::fromUtf8(name)); }
-    static void put(const QString& path, const QByteArray& content) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(path);
-        file.write(content);
-    }
-    static QByteArray get(const QString& path) {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
-    }
+    static QByteArray get(const QString& path) { return FileContent::get(path, "(missing)"); }
     [[nodiscard]] static QStringList all(const QString& folder) {
         return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                                       QDir::Name);

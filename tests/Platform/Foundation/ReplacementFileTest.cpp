@@ -4,6 +4,7 @@
 
 #include "tests/support/ChildProcess.h"
 #include "tests/support/DiskCalls.h"
+#include "tests/support/FileContent.h"
 
 #include <QDir>
 #include <QFile>
@@ -15,6 +16,7 @@
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
+using FileContent::put;
 using Existing = Platform::ReplacementFile::Existing;
 using Link = Platform::ReplacementFile::Link;
 
@@ -24,18 +26,8 @@ struct ReplacementFile : testing::Test {
     QTemporaryDir folder;
     QString target = folder.filePath(u"a.m4a"_s);
 
-    static void put(const QString& path, const QByteArray& content) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
-    static QByteArray get(const QString& path) {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
-    }
-    [[nodiscard]] QStringList names() const {
-        return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
-    }
+    static QByteArray get(const QString& path) { return FileContent::get(path, "(missing)"); }
+    [[nodiscard]] QStringList names() const { return FileContent::namesIn(folder.path()); }
 };
 
 struct ReplacementFileWritten : ReplacementFile, testing::WithParamInterface<bool> {
