@@ -78,7 +78,7 @@ void measureLibrary(int count) {
     Platform::PropertyListDefaults defaults(path);
     Platform::services().userDefaults = &defaults;
     MediaLibrary library;
-    library.prepareForChanges(); // as the window does when it stands
+    library.prepareForChanges(); // as the window does after its start
     int next = count;
     double save = 0;
     const double add = median([&] {

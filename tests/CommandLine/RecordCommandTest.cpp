@@ -317,7 +317,7 @@ TEST_F(RecordCommandTest, ReportsAnUnusableDeviceOrFile) {
         << qPrintable(err);
     media.createFails = true;
     EXPECT_EQ(record({u"--for"_s, u"1"_s}), CommandLine::Failed);
-    EXPECT_EQ(err, u"sonaphex: The input device is not being recorded: the file was told to fail.\n"_s);
+    EXPECT_EQ(err, u"sonaphex: The input device is not being recorded: the file is set to fail.\n"_s);
     EXPECT_EQ(recordings(), QStringList());
     EXPECT_EQ(temporaries(), QStringList());
 }

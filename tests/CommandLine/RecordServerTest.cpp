@@ -69,7 +69,7 @@ TEST_F(RecordServer, DoesNotChangeADeviceThatItDoesNotRecord) {
     ASSERT_TRUE(Platform::PipeWire::serverIsThere(30000, true, "test.left.alone"));
     {
         TestCapture capture({.target = "test.left.alone", .monitor = false});
-        ASSERT_TRUE(capture.start()); // PipeWire 1.4 tells the volumes of a node that has run
+        ASSERT_TRUE(capture.start()); // PipeWire 1.4 reports volumes only of a node that has run
     }
     const QString driver = QStringLiteral(SONAPHEX_BIN_DIR "/Resources/ComputerAudioCapture.kext/CaptureDriver");
     QProcess computerAudio;

@@ -50,10 +50,10 @@ protected:
 TEST_F(RingtoneCommand, WritesTheRangeAndAddsItToTheLibrary) {
     const auto result = ringtone({source(), u"--from"_s, u"2"_s, u"--to"_s, u"10"_s, u"--json"_s});
     ASSERT_EQ(result.status, 0) << result.errors.constData();
-    const auto told = QJsonDocument::fromJson(result.output);
-    EXPECT_EQ(told[u"path"_s].toString(), folder() + u"/Ringtone.m4r"_s);
-    EXPECT_EQ(told[u"title"_s].toString(), u"Ringtone"_s) << "a title that begins with Track gives way to the name";
-    EXPECT_EQ(told[u"seconds"_s].toDouble(), 8);
+    const auto printed = QJsonDocument::fromJson(result.output);
+    EXPECT_EQ(printed[u"path"_s].toString(), folder() + u"/Ringtone.m4r"_s);
+    EXPECT_EQ(printed[u"title"_s].toString(), u"Ringtone"_s) << "a title that begins with Track gives way to the name";
+    EXPECT_EQ(printed[u"seconds"_s].toDouble(), 8);
     EXPECT_EQ(made(), QStringList{u"Ringtone.m4r"_s});
     EXPECT_TRUE(temporaries().isEmpty());
     const auto entries = listed();

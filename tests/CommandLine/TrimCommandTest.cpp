@@ -89,11 +89,11 @@ TEST_F(TrimCommand, WritesANewFileAndKeepsTheRecordingAndItsEntry) {
     const auto result =
         trim({path, u"--from"_s, u"1"_s, u"--to"_s, u"4"_s, u"--save-as"_s, at(u"Two.wav"_s), u"--json"_s});
     ASSERT_EQ(result.status, 0) << result.errors.constData();
-    const auto told = QJsonDocument::fromJson(result.output);
-    EXPECT_EQ(told[u"path"_s].toString(), at(u"Two.m4a"_s));
-    EXPECT_EQ(told[u"from"_s].toDouble(), 1);
-    EXPECT_EQ(told[u"to"_s].toDouble(), 4);
-    EXPECT_EQ(told[u"seconds"_s].toDouble(), 3);
+    const auto printed = QJsonDocument::fromJson(result.output);
+    EXPECT_EQ(printed[u"path"_s].toString(), at(u"Two.m4a"_s));
+    EXPECT_EQ(printed[u"from"_s].toDouble(), 1);
+    EXPECT_EQ(printed[u"to"_s].toDouble(), 4);
+    EXPECT_EQ(printed[u"seconds"_s].toDouble(), 3);
     EXPECT_EQ(Mpeg4Files::contentOf(path), before);
     EXPECT_NEAR(secondsOf(at(u"Two.m4a"_s)), 3, 0.03);
     EXPECT_EQ(Mpeg4Files::probe(at(u"Two.m4a"_s))[u"title"_s].toString(), u"Rain"_s);

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The desktop starts and steers the program by its name on the session bus: a bus that starts services, and gio as the
+// The desktop starts and controls the program through its name on the session bus. The bus starts services; gio is the
 // launcher.
 #include "tests/Program/DesktopProgram.h"
 #include "tests/Program/StartingBus.h"
@@ -40,7 +40,7 @@ protected:
                     {u"com.korvane.Sonaphex"_s})
             .output.contains("true");
     }
-    /// What the desktop does when its user clicks the program's icon, or opens files with it.
+    /// Does what the desktop does when the user clicks the program's icon, or opens files with it.
     static ToolResult launch(const QStringList& files = {}) {
         return runTool(
             u"gio"_s,

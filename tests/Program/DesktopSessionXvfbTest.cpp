@@ -119,7 +119,7 @@ TEST_F(ProgramInASession, ALogoutFinishesTheRecordingBeforeItContinues) {
     manager.askToSaveForTheEnd();
     ASSERT_TRUE(waitFor([this] { return manager.allSaved(); }, 60000));
     expectAWholeRecording(); // from here on the session may end the program in any way
-    EXPECT_EQ(program.process().state(), QProcess::Running) << "it is not told to end yet";
+    EXPECT_EQ(program.process().state(), QProcess::Running) << "it has not been asked to end yet";
     manager.tellToDie();
     EXPECT_TRUE(program.endsWell());
 }

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Recordings that end in the background, told by dunst: a notification server of others.
+// Notifications about recordings that end in the background, shown by dunst, an independent notification server.
 #include "tests/Program/DesktopProgram.h"
 #include "tests/support/XvfbSession.h"
 
@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// dunst on the display of the test. Nothing goes by itself.
+/// dunst on the display of the test. Its notifications do not expire.
 class Dunst {
 public:
     explicit Dunst(const QTemporaryDir& folder) {
@@ -37,7 +37,7 @@ public:
         return waitFor([] { return control({u"is-paused"_s}).output.trimmed() == "false"; });
     }
     [[nodiscard]] static int displayed() { return control({u"count"_s, u"displayed"_s}).output.trimmed().toInt(); }
-    /// Of the notifications that were closed, the newest one first.
+    /// The closed notifications, newest first.
     [[nodiscard]] static QByteArray history() { return control({u"history"_s}).output; }
 
 private:

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// sway refuses to run as root, so it runs as nobody there.
+/// sway refuses to run as root; then the user nobody runs it.
 class Sway {
 public:
     Sway() {
@@ -89,7 +89,7 @@ protected:
         ASSERT_TRUE(QFile::copy(QStringLiteral(SONAPHEX_SOURCE_DIR "/Resources/com.korvane.Sonaphex.desktop"),
                                 user.folder.filePath(u".local/share/applications/com.korvane.Sonaphex.desktop"_s)));
     }
-    /// What the program told the compositor and heard of it.
+    /// The messages between the program and the compositor.
     [[nodiscard]] QByteArray spoken() const {
         QFile file(user.folder.filePath(u"wayland.log"_s));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();

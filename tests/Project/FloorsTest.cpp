@@ -95,9 +95,9 @@ QStringList faults(const QString& root, const QString& path) {
     QStringList found;
     for (const auto& [own, include] : includesOf(contentOf(root, path))) {
         if (include.contains(u"../"_s))
-            found << u"%1: %2 climbs"_s.arg(path, include);
+            found << u"%1: %2 is a relative path"_s.arg(path, include);
         if (isOfASystemLibrary(include) && !mayUseSystemLibraries(path))
-            found << u"%1: %2 belongs behind the platform's door"_s.arg(path, include);
+            found << u"%1: only Platform/*/linux may include %2"_s.arg(path, include);
         if (own && QFile::exists(root + u'/' + include)) {
             const Floor here = floorOf(path);
             const Floor there = floorOf(include);
@@ -106,7 +106,7 @@ QStringList faults(const QString& root, const QString& path) {
                 found << u"%1: %2 is on a higher floor"_s.arg(path, include);
         }
         if (own && include.contains(u"/linux/"_s) && floorOf(path) != Platform && !mayUseSystemLibraries(path))
-            found << u"%1: %2 is behind the platform's door"_s.arg(path, include);
+            found << u"%1: %2 is private to the platform"_s.arg(path, include);
     }
     return found;
 }
@@ -140,12 +140,12 @@ QString stemOf(const QString& path) {
     return path.left(path.lastIndexOf(u'.'));
 }
 
-/// All tools together are one room. Tests have no room.
+/// All tools count as one folder. Tests are not in the order.
 QString roomOf(const QString& path) {
     return floorOf(path) == Tools ? u"Tools"_s : folderOf(path);
 }
 
-/// Includes that break the order of the folders (rooms), and folders that are not in it.
+/// Includes that break the order of the folders, and folders that are not in it.
 QStringList roomFaultsOf(const QString& root, const QStringList& rooms) {
     QStringList found;
     for (const QString& path : pathsOf(root)) {
@@ -153,10 +153,10 @@ QStringList roomFaultsOf(const QString& root, const QStringList& rooms) {
             continue;
         const auto here = rooms.indexOf(roomOf(path));
         if (here < 0)
-            found << u"%1: its room has no place in the order"_s.arg(path);
+            found << u"%1: its folder is not in the list of folders"_s.arg(path);
         for (const auto& [own, include] : includesOf(contentOf(root, path)))
             if (own && QFile::exists(root + u'/' + include) && here >= 0 && rooms.indexOf(roomOf(include)) > here)
-                found << u"%1: %2 is in a later room"_s.arg(path, include);
+                found << u"%1: %2 is in a later folder"_s.arg(path, include);
     }
     return found;
 }
@@ -267,7 +267,7 @@ TEST(Floors, IncludeOnlyLowerFloors) {
     EXPECT_EQ(faultsOf(QStringLiteral(SONAPHEX_SOURCE_DIR)).join(u'\n').toStdString(), "");
 }
 
-TEST(Floors, HaveRoomsInTheirOrder) {
+TEST(Floors, IncludeFoldersInTheirOrder) {
     const QStringList rooms = listed(u"Rooms.txt"_s);
     EXPECT_EQ(roomFaultsOf(QStringLiteral(SONAPHEX_SOURCE_DIR), rooms).join(u'\n').toStdString(), "");
     for (const QString& room : rooms)
@@ -294,7 +294,7 @@ TEST(Floors, MatchTheSortingOfTheBuild) {
     EXPECT_EQ(floorOf(u"main.cpp"_s), Program);
 }
 
-TEST_F(BadTree, LetsTheFloorsFall) {
+TEST_F(BadTree, IncludesHigherFloorsAndSystemLibraries) {
     put(u"AppDelegate.h"_s, "#include <QObject>\n");
     put(u"Platform/Audio/Good.h"_s, "#pragma once\n#include <vector>\n");
     put(u"Platform/Audio/Leaky.h"_s, "#include <pipewire/pipewire.h>\n");
@@ -311,18 +311,18 @@ TEST_F(BadTree, LetsTheFloorsFall) {
     put(u"build/dev/moc.cpp"_s, "#include \"../../Source/View/Theme.h\"\n");
     EXPECT_EQ(faultsOf(dir.path()),
               (QStringList{
-                  u"Platform/Audio/Leaky.h: pipewire/pipewire.h belongs behind the platform's door"_s,
+                  u"Platform/Audio/Leaky.h: only Platform/*/linux may include pipewire/pipewire.h"_s,
                   u"Platform/Audio/Upwards.cpp: Source/Control/Engine.h is on a higher floor"_s,
-                  u"Source/Control/Climber.cpp: ../Control/Engine.h climbs"_s,
+                  u"Source/Control/Climber.cpp: ../Control/Engine.h is a relative path"_s,
                   u"Source/Control/Sneaky.cpp: Source/View/Theme.h is on a higher floor"_s,
-                  u"Source/Control/Sneaky.cpp: taglib/tag.h belongs behind the platform's door"_s,
-                  u"Source/Control/Sneaky.cpp: Platform/Audio/linux/Door.h is behind the platform's door"_s,
+                  u"Source/Control/Sneaky.cpp: only Platform/*/linux may include taglib/tag.h"_s,
+                  u"Source/Control/Sneaky.cpp: Platform/Audio/linux/Door.h is private to the platform"_s,
                   u"Source/View/Theme.h: AppDelegate.h is on a higher floor"_s,
                   u"Tools/Tone/main.cpp: Source/Control/Engine.h is on a higher floor"_s,
               }));
 }
 
-TEST_F(BadTree, BreaksTheOrderOfTheRooms) {
+TEST_F(BadTree, BreaksTheOrderOfTheFolders) {
     put(u"Source/Low/A.h"_s, "#include \"Source/High/B.h\"\n");
     put(u"Source/High/B.h"_s, "#include \"Source/Low/C.h\"\n#include \"Source/High/D.h\"\n");
     put(u"Source/High/D.h"_s, "\n");
@@ -330,11 +330,11 @@ TEST_F(BadTree, BreaksTheOrderOfTheRooms) {
     put(u"Source/New/E.cpp"_s, "#include \"Source/Low/C.h\"\n");
     put(u"tests/Source/LowTest.cpp"_s, "#include \"Source/High/B.h\"\n");
     EXPECT_EQ(roomFaultsOf(dir.path(), {u"Source/Low"_s, u"Source/High"_s}),
-              (QStringList{u"Source/Low/A.h: Source/High/B.h is in a later room"_s,
-                           u"Source/New/E.cpp: its room has no place in the order"_s}));
+              (QStringList{u"Source/Low/A.h: Source/High/B.h is in a later folder"_s,
+                           u"Source/New/E.cpp: its folder is not in the list of folders"_s}));
 }
 
-TEST_F(BadTree, HasCircles) {
+TEST_F(BadTree, IncludesInACircle) {
     put(u"Source/A.h"_s, "class A {\n};\n");
     put(u"Source/A.cpp"_s, "#include \"Source/A.h\"\n#include \"Source/B.h\"\n");
     put(u"Source/B.h"_s, "#include \"Source/C.h\"\n");
@@ -348,7 +348,7 @@ TEST_F(BadTree, HasCircles) {
     EXPECT_EQ(circlesOf(dir.path()), (QStringList{u"Source/A"_s, u"Source/B"_s, u"Source/C"_s}));
 }
 
-TEST_F(BadTree, HasClassesAwayFromHome) {
+TEST_F(BadTree, DefinesClassesInFilesOfOtherNames) {
     put(u"Source/Recorder.h"_s, "class Recorder {\n    void start();\n};\n");
     put(u"Source/Recorder.cpp"_s, "void Recorder::start() {\n}\n");
     put(u"Source/RecorderFiles.cpp"_s, "void Recorder::open() {\n}\n");

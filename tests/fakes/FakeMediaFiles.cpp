@@ -77,7 +77,7 @@ FakeMediaFiles::createWriter(const QString& path, std::uint32_t fileType, const 
                              std::uint32_t flags) {
     QFile real(path);
     if (createFails || !real.open(QIODevice::WriteOnly))
-        return Platform::Error{Platform::Error::Kind::NotPermitted, QStringLiteral("the file was told to fail")};
+        return Platform::Error{Platform::Error::Kind::NotPermitted, QStringLiteral("the file is set to fail")};
     auto file = std::make_shared<File>();
     file->path = path;
     file->inode = inodeOf(path);

@@ -4,7 +4,7 @@
 
 #include "Platform/Desktop/Notifications.h"
 
-/// Notes what would be shown.
+/// Records the notifications.
 class FakeNotifications : public Platform::Notifications {
 public:
     void show(const Notification& notification) override {

@@ -5,7 +5,7 @@
 #include <atomic>
 #include <cstdint>
 
-/// While it lives, every file system tells this process that so many bytes are free (statvfs()). One at a time.
+/// While it lives, statvfs() reports this number of free bytes for every file system. One object at a time.
 class DiskRoom {
 public:
     explicit DiskRoom(std::int64_t bytes) { free() = bytes; }
@@ -14,6 +14,6 @@ public:
     DiskRoom& operator=(const DiskRoom&) = delete;
     void set(std::int64_t bytes) { free() = bytes; }
 
-    /// -1 for the truth.
+    /// -1: the real number.
     static std::atomic<std::int64_t>& free();
 };

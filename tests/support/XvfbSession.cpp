@@ -170,8 +170,8 @@ struct XvfbSession::Private {
         const QByteArray address = bus->readLine().trimmed();
         if (address.isEmpty())
             problem = u"dbus-daemon names no address"_s;
-        // It plays the system's bus too. libdbus reads both addresses when the first connection is made, and Qt 6.8
-        // makes one before a test begins: a test that changes the address is too late.
+        // The same bus also serves as the system bus. libdbus reads both addresses at the first connection, which Qt
+        // 6.8 makes before a test begins: a test could not change the address any more.
         for (const char* name : {"DBUS_SESSION_BUS_ADDRESS", "DBUS_SYSTEM_BUS_ADDRESS"})
             qputenv(name, address);
         return problem.isEmpty();

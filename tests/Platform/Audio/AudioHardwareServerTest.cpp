@@ -165,7 +165,7 @@ TEST_F(AudioHardwareTest, SetsVolumeAndMuteOfTheDeviceItself) {
     EXPECT_NE(hardware_->setVolumeScalar(device, 0, 1.0f), noErr);
     bool mute = false;
     EXPECT_TRUE(waitFor([&] { return hardware_->getMute(device, 1, mute) == noErr && mute; }));
-    // A second connection to the server must find them there, at the latest when the node has run.
+    // A second connection to the server must see the same values, at the latest when the node has run.
     TestCapture capture({.target = "test.volume", .monitor = false});
     ASSERT_TRUE(capture.start());
     EXPECT_TRUE(waitFor([&] {
@@ -182,7 +182,8 @@ TEST_F(AudioHardwareTest, ReportsAVolumeThatAnotherProgramSet) {
     const auto device = waitForDevice(*hardware_, u"Others Volume"_s);
     float volume = 0;
     ASSERT_TRUE(waitFor([&] { return hardware_->getVolumeScalar(device, 1, volume) == noErr; }));
-    TestCapture capture({.target = "test.other", .monitor = false}); // PipeWire 1.4 tells it of a node that has run
+    TestCapture capture(
+        {.target = "test.other", .monitor = false}); // PipeWire 1.4 reports it only of a node that has run
     ASSERT_TRUE(capture.start());
     asked(u"pw-cli"_s, {u"set-param"_s, u"test.other"_s, u"Props"_s, u"{ channelVolumes: [ 0.125, 0.75 ] }"_s});
     EXPECT_TRUE(waitFor([&] { return hardware_->getVolumeScalar(device, 2, volume) == noErr && volume == 0.75f; }));
@@ -251,7 +252,8 @@ TEST_F(AudioHardwareTest, SetsVolumeAndMuteOnTheNodeWhereTheRouteHasNone) {
     float volume = 0;
     ASSERT_TRUE(waitFor([&] { return hardware_->getVolumeScalar(device, 1, volume) == noErr; }));
     ASSERT_EQ(hardware_->setVolumeScalar(device, 1, 0.25f), noErr);
-    TestCapture capture({.target = "test.card.mic", .monitor = false}); // PipeWire 1.4 tells it of a node that has run
+    TestCapture capture(
+        {.target = "test.card.mic", .monitor = false}); // PipeWire 1.4 reports it only of a node that has run
     ASSERT_TRUE(capture.start());
     EXPECT_TRUE(waitFor([] {
         return asked(u"pw-dump"_s, {u"test.card.mic"_s}).simplified().contains("\"channelVolumes\": [ 0.250000,");

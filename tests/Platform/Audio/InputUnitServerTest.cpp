@@ -244,16 +244,17 @@ TEST_F(InputUnitTest, ContinuesWhenTheServerReturns) {
 }
 
 TEST_F(InputUnitTest, ReportsThatNothingComesWhileTheServerIsStopped) {
-    // On the server's clock: since PipeWire 1.4 a source with its own wakes who captures it without the server.
+    // The source follows the server's clock: since PipeWire 1.4 a source with its own clock wakes its listeners even
+    // while the server is stopped.
     TestSource source({.description = "Standing still", .ownClock = false});
     UnitCapture capture(*hardware_, add(source));
     ASSERT_TRUE(capture.start());
     ASSERT_TRUE(captured(capture, 0.3));
     EXPECT_FALSE(capture.heard(Event::DeviceLost));
     ASSERT_EQ(kill(session_.serverProcess(), SIGSTOP), 0);
-    const bool told = waitFor([&] { return capture.heard(Event::NothingComes); });
+    const bool reported = waitFor([&] { return capture.heard(Event::NothingComes); });
     ASSERT_EQ(kill(session_.serverProcess(), SIGCONT), 0);
-    EXPECT_TRUE(told);
+    EXPECT_TRUE(reported);
     const auto frames = capture.frames();
     EXPECT_TRUE(waitFor([&] { return capture.frames() > frames + 4800; }));
 }

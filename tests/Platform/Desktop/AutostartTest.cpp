@@ -29,7 +29,7 @@ protected:
         file.write(text);
     }
     static QString set(Autostart& autostart, bool enabled) {
-        QString problem = u"not told"_s;
+        QString problem = u"not called"_s;
         autostart.setEnabled(enabled, [&](const QString& why) { problem = why; });
         return problem;
     }

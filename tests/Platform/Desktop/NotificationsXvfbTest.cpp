@@ -19,7 +19,7 @@ namespace {
 const auto service = u"org.freedesktop.Notifications"_s;
 const auto path = u"/org/freedesktop/Notifications"_s;
 
-/// A notification server on the private bus, which shows nothing and notes everything.
+/// A notification server on the private bus, which shows nothing and records every call.
 class Server : public QDBusVirtualObject {
 public:
     struct Shown {
@@ -133,7 +133,7 @@ TEST_F(DesktopNotifications, ReplaceTheOneBefore) {
     EXPECT_EQ(server.shown[1].replaces, 7U);
     ASSERT_TRUE(choosesShown(server, 7)) << "by now its number is known";
     server.tell(u"NotificationClosed"_s, {7U, 2U});
-    ASSERT_TRUE(waitFor([&] { // until a choice of a closed one leads to nothing
+    ASSERT_TRUE(waitFor([&] { // until an action of a closed notification is ignored
         chosen.clear();
         server.tell(u"ActionInvoked"_s, {7U, u"play"_s});
         return !waitFor([&] { return !chosen.isEmpty(); }, 300);

@@ -39,8 +39,7 @@ QVariant listOf(const QList<PortalShortcut>& shortcuts) {
     return QVariant::fromValue(list);
 }
 
-/// The desktop's side of the portal: gives each program the keys that it prefers, as long as its user says nothing
-/// else.
+/// The desktop's side of the portal: assigns the keys that a program prefers, unless the user has chosen others.
 class BackEnd : public QDBusVirtualObject {
 public:
     BackEnd() : bus_(QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), u"back end"_s)) {
@@ -142,7 +141,7 @@ protected:
 } // namespace
 
 TEST_F(PortalFrontEnd, BindsActsAndFollowsTheUsersOwnKeys) {
-    Platform::introduceToPortal(u"com.korvane.Sonaphex"_s); // this version does not know the question
+    Platform::introduceToPortal(u"com.korvane.Sonaphex"_s); // this version of the portal does not have the call
     makeHotKeys();
     hotKeys->describe({0x73737273, 1}, u"Start or stop"_s);
     const auto start = hotKeys->registerHotKey(1, 256 + 4096, {0x73737273, 1});

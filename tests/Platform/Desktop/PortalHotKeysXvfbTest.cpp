@@ -207,9 +207,9 @@ TEST(PortalOfTheDesktop, WithoutGlobalShortcutsNoHotKeysAreAvailable) {
     Portal portal;
     portal.hasShortcuts = false;
     const auto hotKeys = Platform::createPortalHotKeys();
-    bool told = false;
-    hotKeys->setWayChangedHandler([&] { told = true; });
-    ASSERT_TRUE(waitFor([&] { return told; }));
+    bool called = false;
+    hotKeys->setWayChangedHandler([&] { called = true; });
+    ASSERT_TRUE(waitFor([&] { return called; }));
     EXPECT_EQ(hotKeys->way(), HotKeys::Way::None);
     EXPECT_EQ(hotKeys->registerHotKey(1, 256, {1, 1}), 0U);
 }

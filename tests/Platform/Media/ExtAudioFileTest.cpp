@@ -52,9 +52,9 @@ TEST_F(WrittenFiles, Mpeg4AndCafHaveTheExactLengthAndPosition) {
                 continue;
             EXPECT_GT(signalToError(source[0], back.rows[0]), 20);
             EXPECT_GT(signalToError(source[1], back.rows[1]), 20);
-            const auto told = media().info(path);
-            ASSERT_TRUE(told) << told.error().text.toStdString();
-            const AudioFileInfo& info = *told;
+            const auto described = media().info(path);
+            ASSERT_TRUE(described) << described.error().text.toStdString();
+            const AudioFileInfo& info = *described;
             EXPECT_EQ(info.frameCount, std::int64_t(frames));
             EXPECT_EQ(info.dataFormat.mFormatID, kAudioFormatMPEG4AAC);
             EXPECT_EQ(info.dataFormat.mSampleRate, 44100);
@@ -73,9 +73,9 @@ TEST_F(WrittenFiles, TheDescriptionOfOwnFilesMatchesADecoder) {
             auto writer = newWriter(path, kAudioFileM4AType, aacFormat(rate, channels), clientFormat(rate, channels));
             writeAll(*writer, source);
             ASSERT_EQ(writer->dispose(), noErr);
-            const auto told = media().info(path);
-            ASSERT_TRUE(told) << told.error().text.toStdString();
-            const AudioFileInfo& info = *told;
+            const auto described = media().info(path);
+            ASSERT_TRUE(described) << described.error().text.toStdString();
+            const AudioFileInfo& info = *described;
             auto opened = Platform::InputFile::open(path, true);
             ASSERT_TRUE(opened) << opened.error().text.toStdString();
             const auto read = *std::move(opened);

@@ -141,12 +141,12 @@ struct SaveBoundaries : testing::Test {
     /// searches both for tags may find the new ones before the others do.
     QStringList titles() const {
         const auto own = BasicID3Change::read(path);
-        const QString told = QString::fromUtf8(runTool(u"AtomicParsley"_s, {path, u"-t"_s}).output);
+        const QString listed = QString::fromUtf8(runTool(u"AtomicParsley"_s, {path, u"-t"_s}).output);
         const QString before = u"\"©nam\" contains: "_s;
-        const auto at = told.indexOf(before) + before.size();
+        const auto at = listed.indexOf(before) + before.size();
         return {own ? u""_s + own->title : QString(), Mpeg4Files::probe(path)[u"title"_s].toString(),
                 QString::fromUtf8(runTool(u"mediainfo"_s, {u"--Output=General;%Title%"_s, path}).output).trimmed(),
-                told.contains(before) ? told.mid(at, told.indexOf(u'\n', at) - at) : QString()};
+                listed.contains(before) ? listed.mid(at, listed.indexOf(u'\n', at) - at) : QString()};
     }
 
     void leaveAFileThatEveryProgramReads(Shape shape);

@@ -59,9 +59,9 @@ TEST_P(SourceFormats, AreReadWithTheRightLengthRateAndSoundAndSeekExactly) {
     const auto made = tool(u"ffmpeg"_s, arguments << path);
     ASSERT_EQ(made.status, 0) << made.err.toStdString();
 
-    const auto told = media().info(path);
-    ASSERT_TRUE(told) << told.error().text.toStdString();
-    const AudioFileInfo& info = *told;
+    const auto described = media().info(path);
+    ASSERT_TRUE(described) << described.error().text.toStdString();
+    const AudioFileInfo& info = *described;
     EXPECT_EQ(info.dataFormat.mSampleRate, source.rate);
     EXPECT_EQ(int(info.dataFormat.mChannelsPerFrame), source.channels);
 

@@ -374,7 +374,7 @@ TEST_F(BuildInAudioRecordTest, ReportsAFileThatCannotBeCreated) {
     EXPECT_FALSE(engine.setOutPutAudioPath(path(), 1));
     EXPECT_FALSE(engine.hasSetM4aExportFile());
     EXPECT_EQ(engine.outPutFilePath(), path());
-    EXPECT_EQ(engine.lastError(), QStringLiteral("the file was told to fail"));
+    EXPECT_EQ(engine.lastError(), QStringLiteral("the file is set to fail"));
     media.createFails = false;
     media.clientFormatStatus = -2;
     EXPECT_FALSE(engine.setOutPutAudioPath(path(), 1));

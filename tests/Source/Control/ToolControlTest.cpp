@@ -109,8 +109,8 @@ TEST(ToolControl, ReportsFreeSpaceInBinaryMegabytes) {
     struct statfs status {};
     ASSERT_EQ(::statfs("/tmp", &status), 0);
     const auto expected = static_cast<double>(status.f_bfree) * static_cast<double>(status.f_bsize) / 1048576.0;
-    const auto told = static_cast<double>(ToolControl::getLocalSize(u"/tmp"_s));
-    EXPECT_NEAR(told, expected, expected / 20 + 2); // other processes write to the disk, too
+    const auto megabytes = static_cast<double>(ToolControl::getLocalSize(u"/tmp"_s));
+    EXPECT_NEAR(megabytes, expected, expected / 20 + 2); // other processes write to the disk, too
     EXPECT_EQ(ToolControl::getLocalSize(u"/no/such/folder"_s), 0);
 }
 

@@ -33,7 +33,7 @@ void note(QStringList& words, QChar sign, const std::vector<LeafChange::Rows>& r
 
 /// Result notation: "-2.4" removes the third to fifth row, "+0" inserts and "=0" replaces the first, "~1,0" swaps two
 /// rows.
-QString told(const QVariantList& before, const QVariantList& after) {
+QString stepsOf(const QVariantList& before, const QVariantList& after) {
     const LeafChange change = LeafChanges::between(before, after);
     EXPECT_EQ(change.entries, after);
     QStringList words;
@@ -71,33 +71,33 @@ QVariantList applied(const QVariantList& before, const LeafChange& change) {
 } // namespace
 
 TEST(LeafChanges, AreTheRowsThatDiffer) {
-    const auto told = [](const char* before, const char* after) { return ::told(list(before), list(after)); };
-    EXPECT_EQ(told("", ""), QString());
-    EXPECT_EQ(told("a b c", "a b c"), QString());
-    EXPECT_EQ(told("a b c", "x a b c"), u"+0"_s);
-    EXPECT_EQ(told("a b c", "a b x c y"), u"+2 +4"_s);
-    EXPECT_EQ(told("a b c", "a b1 c"), u"=1"_s);
-    EXPECT_EQ(told("a b c", "b"), u"-2 -0"_s);
-    EXPECT_EQ(told("a b c d", "x y b1 d"), u"-2 -0 +0.1 =2"_s);
-    EXPECT_EQ(told("a b", "c d"), u"-0.1 +0.1"_s);
-    EXPECT_EQ(told("-1 a -2", "-1 -2 -3"), u"-1 +2"_s);
-    EXPECT_EQ(told("a1 a2 a3", "a1 a3"), u"-1"_s);
-    EXPECT_EQ(told("a1 a2", "a3"), u"-1 =0"_s);
-    EXPECT_EQ(told("a b", "b a"), u"~1,0"_s);
-    EXPECT_EQ(told("x a b c y", "x c n a b1 y"), u"~0,3,1,2,4 +2 =4"_s);
+    const auto stepsOf = [](const char* before, const char* after) { return ::stepsOf(list(before), list(after)); };
+    EXPECT_EQ(stepsOf("", ""), QString());
+    EXPECT_EQ(stepsOf("a b c", "a b c"), QString());
+    EXPECT_EQ(stepsOf("a b c", "x a b c"), u"+0"_s);
+    EXPECT_EQ(stepsOf("a b c", "a b x c y"), u"+2 +4"_s);
+    EXPECT_EQ(stepsOf("a b c", "a b1 c"), u"=1"_s);
+    EXPECT_EQ(stepsOf("a b c", "b"), u"-2 -0"_s);
+    EXPECT_EQ(stepsOf("a b c d", "x y b1 d"), u"-2 -0 +0.1 =2"_s);
+    EXPECT_EQ(stepsOf("a b", "c d"), u"-0.1 +0.1"_s);
+    EXPECT_EQ(stepsOf("-1 a -2", "-1 -2 -3"), u"-1 +2"_s);
+    EXPECT_EQ(stepsOf("a1 a2 a3", "a1 a3"), u"-1"_s);
+    EXPECT_EQ(stepsOf("a1 a2", "a3"), u"-1 =0"_s);
+    EXPECT_EQ(stepsOf("a b", "b a"), u"~1,0"_s);
+    EXPECT_EQ(stepsOf("x a b c y", "x c n a b1 y"), u"~0,3,1,2,4 +2 =4"_s);
 }
 
 TEST(LeafChanges, AreRangesHoweverManyRowsDiffer) {
     QVariantList many;
     for (int i = 0; i < 200; ++i)
         many.append(Dictionary{{AudioRecordEntry::NodeDataKey, QString::number(i)}});
-    EXPECT_EQ(told(many, many.mid(0, 100)), u"-100.199"_s);
-    EXPECT_EQ(told(many.mid(0, 100), many), u"+100.199"_s);
+    EXPECT_EQ(stepsOf(many, many.mid(0, 100)), u"-100.199"_s);
+    EXPECT_EQ(stepsOf(many.mid(0, 100), many), u"+100.199"_s);
     QVariantList others = many;
     for (int i = 0; i < 100; ++i)
         others[i] = Dictionary{{AudioRecordEntry::NodeDataKey, QString::number(i)}, {AudioRecordEntry::Title, u"x"_s}};
-    EXPECT_EQ(told(many, others), u"=0.99"_s);
-    EXPECT_EQ(told(many, {}), u"-0.199"_s);
+    EXPECT_EQ(stepsOf(many, others), u"=0.99"_s);
+    EXPECT_EQ(stepsOf(many, {}), u"-0.199"_s);
 }
 
 TEST(LeafChanges, TransformOneListIntoTheOther) {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// What the recorder tells: each event once and up to date, the cause first, and nothing of an earlier recording.
+// The recorder's notices: one for each event, up to date, with the cause first, and none of an earlier recording.
 #include "Source/Record/RecordRoom.h"
 #include "Source/Record/UnfinishedRecordings.h"
 #include "tests/Source/Record/RecordFixture.h"
@@ -23,7 +23,7 @@ protected:
         for (int i = 0; i < times; ++i)
             controller->recordFlushTime();
     }
-    /// The only notice, once it says @p words.
+    /// Waits until there is exactly one notice, which contains @p words.
     [[nodiscard]] bool tells(const QString& words) {
         return waitFor([&] {
             return controller->noticeList().size() == 1 && controller->noticeList().front().sentence().contains(words);
@@ -111,8 +111,8 @@ TEST_F(RecordNoticesTest, ADeviceThatOpensAfterAllIsNoNoticeAnyMore) {
     EXPECT_TRUE(waitFor([&] { return controller->notices().isEmpty(); }));
 }
 
-TEST_F(RecordNoticesTest, ADiskThatFillsUpIsToldInMinutesAndOnceAStage) {
-    // Of 18 kB a second.
+TEST_F(RecordNoticesTest, ADiskThatFillsUpIsReportedInMinutesAndOncePerStage) {
+    // A recording needs 18 kB per second.
     DiskRoom room(25LL * 60 * 18000 + 9000);
     addMicrophone();
     begin();
@@ -170,7 +170,7 @@ TEST_F(RecordNoticesTest, TheTimeStandsStillWhileTheDiskIsFullAndTheRecordingGoe
     ASSERT_TRUE(tells(u"The disk is full. Nothing more is recorded until there is room"_s));
     EXPECT_EQ(only().help, Help::FreeSpace);
     EXPECT_EQ(only().target, g_strTmpPath);
-    // A little room is none.
+    // A little free space is not enough.
     room.set(1'000'000);
     tick();
     EXPECT_FALSE(waitFor([&] { return media.files.size() > 1; }, 100));
@@ -189,7 +189,7 @@ TEST_F(RecordNoticesTest, TheTimeStandsStillWhileTheDiskIsFullAndTheRecordingGoe
     EXPECT_EQ(delegate.paths, (QStringList{track(0), track(1)}));
 }
 
-TEST_F(RecordNoticesTest, AnUnfinishedRecordingIsNamedAtEachStartUntilItWasSeen) {
+TEST_F(RecordNoticesTest, AnUnfinishedRecordingIsShownAtEachStartUntilItIsDismissed) {
     const QString first = makeUnfinished(u"Track3.m4a"_s);
     addMicrophone();
     begin();
@@ -198,18 +198,18 @@ TEST_F(RecordNoticesTest, AnUnfinishedRecordingIsNamedAtEachStartUntilItWasSeen)
     EXPECT_EQ(only().help, Help::Show);
     EXPECT_EQ(only().path, first);
     controller->startAndStopRecord();
-    EXPECT_EQ(controller->notices().size(), 1) << "a start is no reading";
+    EXPECT_EQ(controller->notices().size(), 1) << "a new recording does not dismiss it";
     controller->startAndStopRecord();
     controller.reset();
     begin();
     controller->tellUnfinishedRecordings();
-    EXPECT_TRUE(tells(first)) << "not seen yet";
+    EXPECT_TRUE(tells(first)) << "not dismissed yet";
     controller->dismissNotices();
     controller.reset();
     begin();
     controller->tellUnfinishedRecordings();
     expectNoNotice();
-    // Another one: only that is named. Two together are named by their folder.
+    // Only the new one is shown. For two the notice shows their folder.
     const QString second = makeUnfinished(u"Track4.m4a"_s);
     controller->tellUnfinishedRecordings();
     EXPECT_TRUE(tells(second));
@@ -217,7 +217,7 @@ TEST_F(RecordNoticesTest, AnUnfinishedRecordingIsNamedAtEachStartUntilItWasSeen)
     controller->tellUnfinishedRecordings();
     EXPECT_TRUE(tells(u"2 earlier recordings could not be finished. They are kept in "_s +
                       Platform::FileManager::unfinishedFolder()));
-    // A terminal's reader is not the window's.
+    // Printing the notices in a terminal does not dismiss them for the window.
     EXPECT_FALSE(controller->takeNotices().isEmpty());
     EXPECT_EQ(UnfinishedRecordings::unseen().size(), 2);
     controller->tellUnfinishedRecordings();

@@ -18,7 +18,7 @@ qreal placeOf(const QString& text, const QString& part) {
     layout.beginLayout();
     const QTextLine line = layout.createLine();
     layout.endLayout();
-    return line.cursorToX(int(text.indexOf(part)) + 1); // inside the part: at its ends two places are meant
+    return line.cursorToX(int(text.indexOf(part)) + 1); // inside the part: the positions of its ends are ambiguous
 }
 
 } // namespace

@@ -213,7 +213,7 @@ TEST_F(TrimWindow, SavesAsANewFileAndKeepsTheEntry) {
     waitForSheet();
     EXPECT_NEAR(secondsOf(world.at(u"Two.m4a"_s)), 5, 0.02);
     EXPECT_NEAR(secondsOf(path), 10, 0.05);
-    ASSERT_EQ(world.updatedPaths, QStringList{path}) << "the recording's path is told, not the new one";
+    ASSERT_EQ(world.updatedPaths, QStringList{path}) << "the path of the recording is reported, not the new one";
     EXPECT_EQ(world.updatedTags[0].value(AudioRecordEntry::Length), 10);
 }
 

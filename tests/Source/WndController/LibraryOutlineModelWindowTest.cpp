@@ -85,7 +85,7 @@ TEST_F(Outline, ARebuiltTreeIsShown) {
     QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
     const QModelIndex shown = model.index(0, 0);
     library.loadDefaultMediaLibrary();
-    EXPECT_EQ(reset.count(), 1) << "the library's new leaves are told of, and the model looks for them";
+    EXPECT_EQ(reset.count(), 1) << "the library announces new leaves, and the model looks for them";
     EXPECT_NE(model.node(model.index(0, 0)), shown.internalPointer());
     EXPECT_EQ(model.sharedNode(model.index(0, 0)).get(), library.rootNode().nonLeafNode().front().get());
     EXPECT_EQ(model.sharedNode({}), nullptr);

@@ -62,11 +62,11 @@ TEST_F(DesktopPlayer, ReportsTheTrackAndEachChangeOnce) {
     EXPECT_EQ(desktop->state.track.file.toLocalFile(), library().playingPath());
     EXPECT_TRUE(desktop->state.canPause && desktop->state.canSeek);
     EXPECT_TRUE(desktop->state.canGoNext && desktop->state.canGoPrevious);
-    const auto told = desktop->states.size();
+    const auto sent = desktop->states.size();
     for (int i = 0; i < 20; ++i) // the display reads the sound's state ten times a second
         world.controller->display().audioPlayUpdateTimerFireMethod();
     QCoreApplication::processEvents();
-    EXPECT_EQ(desktop->states.size(), told) << "nothing changed";
+    EXPECT_EQ(desktop->states.size(), sent) << "nothing changed";
 }
 
 TEST_F(DesktopPlayer, FollowsTheWindowsOwnButtons) {

@@ -27,7 +27,7 @@ protected:
     }
     [[nodiscard]] QString pathOf(const QString& title) const { return world.folder.filePath(title + u".m4a"_s); }
     [[nodiscard]] QLineEdit* editor() const { return table().findChild<QLineEdit*>(u"titleEditor"_s); }
-    /// A second click, which opens the editor when it is certain that no third one follows.
+    /// A second click. The editor opens when the time for a double click has passed.
     void clickAgain(int row) {
         clickRow(row);
         ASSERT_TRUE(waitFor([&] { return editor() && editor()->hasFocus(); }));
