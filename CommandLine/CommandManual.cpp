@@ -85,7 +85,7 @@ QString manualPage(const Commands& commands) {
                     sentence(example.sentence) + u"\n.RE\n"_s;
     }
     page += u".SH EXIT STATUS\n.TP\n.B 0\nAll went well.\n.TP\n.B 1\nSomething failed; one line on standard error says "
-            "what and why.\n.TP\n.B 2\nThe command was not understood.\n"_s;
+            "what and why.\n.TP\n.B 2\nThe command line is invalid.\n"_s;
     page += u".SH ENVIRONMENT\n.BR HOME , \" XDG_CONFIG_HOME\" , \" XDG_CACHE_HOME\" , \" XDG_DATA_HOME\" , "
             "\" XDG_RUNTIME_DIR\" \" and\" \" TMPDIR\"\nare honoured.\n"_s;
     page += u".SH FILES\n.TP\n.I ~/Music/com.korvane.Sonaphex\nRecordings and ringtones, unless other folders are "

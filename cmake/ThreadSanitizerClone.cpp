@@ -9,7 +9,7 @@
 // the child its own memory leaves the parent's state alone; the sanitizer itself turns vfork() into fork() for the same
 // reason.
 #ifndef __SANITIZE_THREAD__
-#error "this is of use only beside the thread sanitizer"
+#error "this file is only needed with ThreadSanitizer"
 #endif
 
 #include <cstdarg>

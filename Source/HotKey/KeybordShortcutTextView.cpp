@@ -162,7 +162,7 @@ void KeybordShortcutTextView::setDesktopTrigger(const std::optional<QString>& tr
     desktopTrigger_ = trigger;
     setToolTip(!trigger             ? QString()
                : trigger->isEmpty() ? tr("The desktop has no keys for this. Choose some in its settings.")
-                                    : tr("The desktop's settings say these keys."));
+                                    : tr("These keys are set in the desktop's settings."));
     setPlaceholderText(trigger && trigger->isEmpty() ? tr("No keys in the desktop's settings")
                                                      : tr("Click, then press the keys"));
     updateShortcutValue();

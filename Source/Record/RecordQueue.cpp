@@ -382,7 +382,7 @@ void RecordQueue::tagFile(const ExportJob& job) {
     onMain([this, finalPath, tags, tagged] {
         if (!tagged)
             Q_EMIT noticed(
-                {.text = u"%1 could not be tagged. Its sound is whole."_s.arg(QFileInfo(finalPath).fileName()),
+                {.text = u"%1 could not be tagged. Its audio is complete."_s.arg(QFileInfo(finalPath).fileName()),
                  .path = {},
                  .help = RecordNotice::Help::Show,
                  .target = finalPath});

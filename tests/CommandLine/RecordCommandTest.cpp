@@ -107,7 +107,7 @@ struct RecordCommandTest : testing::Test {
         err = ran.err;
         // The double's files contain no audio, so they cannot carry tags.
         err.remove(QRegularExpression(
-            u"sonaphex(: Track[0-9]+\\.m4a could not be tagged\\. Its sound is whole\\.|\\.media: .*)\n"_s));
+            u"sonaphex(: Track[0-9]+\\.m4a could not be tagged\\. Its audio is complete\\.|\\.media: .*)\n"_s));
         return ran.status;
     }
     int record(QStringList arguments) {
