@@ -85,8 +85,8 @@ build_once() {
         { print; fflush() }' >&2
 }
 
-# build PRESET [targets]: configures if needed, then builds. Two files of one batch may define the same
-# name, which is no defect of either: what does not build in batches is built file by file.
+# build PRESET [targets]: configures if needed, then builds. When a build in batches fails, for example because two files
+# of a batch define the same name, it builds file by file.
 build() {
     build_once "$@" && return
     grep -q '^SONAPHEX_UNITY:BOOL=ON$' "build/$1/CMakeCache.txt" || die "the build failed"
