@@ -42,6 +42,7 @@ std::vector<std::uint32_t> Driver::portsOf(std::uint32_t node, PortKind kind) co
             byNumber[port.number] = id;
     }
     std::vector<std::uint32_t> list;
+    list.reserve(byNumber.size());
     for (const auto& [number, id] : byNumber)
         list.push_back(id);
     return list;
@@ -79,6 +80,7 @@ std::set<Driver::Ports> Driver::directLinks(const std::vector<std::uint32_t>& fr
 /// Each channel into the mixer, and the mixer's two outputs to the source.
 Driver::Wiring Driver::mixedLinks(const std::vector<std::uint32_t>& from) {
     std::vector<std::string> channels;
+    channels.reserve(from.size());
     for (const auto each : from)
         channels.push_back(ports_.at(each).channel);
     Wiring result;
