@@ -126,7 +126,7 @@ const Command recordCommand{
     {{"input", "NAME|none", "Record the input device with this name, UID or id; none records no input device.",
       "the device and the choice stored in the preferences"},
      {"computer", "", "Record what the computer plays."},
-     {"for", "S", "Stop after S seconds of recorded sound, over all files.", "until Ctrl+C"},
+     {"for", "S", "Stop after S seconds of recorded sound, over all files.", "until Control+C"},
      {"wait", "S", "When waiting for the first sound, give up after S seconds.", "no limit"},
      {"split", "MS|off", "Begin a new file after a silence of MS milliseconds of computer audio.",
       "as in the preferences"},
@@ -134,7 +134,7 @@ const Command recordCommand{
      {"folder", "DIR", "Put the recordings into DIR, which is made when it is missing.", "as in the preferences"},
      kJsonOption},
     {{"record --for 10", "Record ten seconds of the input device."},
-     {"record --input \"USB Mic\" --folder .", "Record a named device into the current folder until Ctrl+C."},
+     {"record --input \"USB Mic\" --folder .", "Record a named device into the current folder until Control+C."},
      {"record --input none --computer --split 300 --wait 60",
       "Record what the computer plays, one file for each song, and give up when nothing plays for a minute."}},
     run};

@@ -25,8 +25,9 @@ AudioWaveTrimView::AudioWaveTrimView(QWidget* parent)
     setAccessibleName(tr("Selection"));
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
-    setToolTip(tr("Drag the edges or the middle. Left and Right move the selection, with Ctrl its begin, with Alt its "
-                  "end; with Shift by a second."));
+    setToolTip(
+        tr("Drag the edges or the middle. Left and Right move the selection, with Control its begin, with Alt its "
+           "end; with Shift by a second."));
 }
 
 void AudioWaveTrimView::setAudioFrom(float x) {

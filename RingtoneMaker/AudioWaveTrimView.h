@@ -51,8 +51,8 @@ public:
     void doDragAction(DragType type, QPointF from, QPointF to);
     /// One step, and the scrolling that keeps the changed edge visible; for a drag or a key.
     void dragStep(DragType type, QPointF from, QPointF to);
-    /// Handles Left and Right for the whole window: with Ctrl they move the begin, with Alt the end, else the box; by
-    /// 0.1 s, with Shift by 1 s. @return whether the key was one of them
+    /// Handles Left and Right for the whole window: with Control they move the begin, with Alt the end, else the box;
+    /// by 0.1 s, with Shift by 1 s. @return whether the key was one of them
     bool moveByKey(const QKeyEvent& event);
 
     [[nodiscard]] QAccessible::Role spokenRole() const override { return QAccessible::Slider; }

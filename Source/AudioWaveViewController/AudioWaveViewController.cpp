@@ -22,6 +22,7 @@ namespace {
 
 constexpr int tickMilliseconds = 100;
 constexpr qreal timePointSize = 28;
+constexpr int wordsFrom = 420; ///< a narrower panel has no room for the words on the button beside a notice
 
 // "3:07", "1:02:03"; a minus sign marks remaining time.
 QString clockText(double seconds, bool left) {
@@ -54,15 +55,23 @@ QString inLines(int lines, const QString& text, const QFontMetrics& metrics, int
     return text.left(end) + u'\n' + inLines(lines - 1, text.mid(end + 1), metrics, room);
 }
 
-/// A notice in two lines. A path is on the second line, elided in the middle. @p more is appended.
-QString inTwoLines(const RecordNotice& notice, const QString& more, const QFontMetrics& metrics, int room) {
+/// A notice in two lines. A path is on the second line, elided in the middle.
+QString inTwoLines(const RecordNotice& notice, const QFontMetrics& metrics, int room) {
     if (notice.path.isEmpty())
-        return inLines(2, notice.text + more, metrics, room);
+        return inLines(2, notice.text, metrics, room);
     QString path = notice.path;
     if (const QString home = QDir::homePath(); path.startsWith(home + u'/'))
         path = u'~' + path.mid(home.size());
     return metrics.elidedText(notice.text, Qt::ElideRight, room) + u'\n' +
-           metrics.elidedText(path, Qt::ElideMiddle, room - metrics.horizontalAdvance(more)) + more;
+           metrics.elidedText(path, Qt::ElideMiddle, room);
+}
+
+/// Notices about one event replace each other.
+qsizetype indexOf(const RecordNotice& wanted, const QList<RecordNotice>& notices) {
+    for (qsizetype i = 0; i < notices.size(); ++i)
+        if (wanted.event.isEmpty() ? notices[i] == wanted : notices[i].event == wanted.event)
+            return i;
+    return -1;
 }
 
 void setElided(QLabel* label, const QString& text) {
@@ -82,6 +91,20 @@ QString helpText(RecordNotice::Help help) {
         return AudioWaveViewController::tr("Choose Device");
     case RecordNotice::Help::FreeSpace:
         return AudioWaveViewController::tr("Free Space …");
+    }
+    return {};
+}
+
+QString helpImage(RecordNotice::Help help) {
+    switch (help) {
+    case RecordNotice::Help::None:
+        break;
+    case RecordNotice::Help::Show:
+        return u"show"_s;
+    case RecordNotice::Help::ChooseDevice:
+        return u"microphone"_s;
+    case RecordNotice::Help::FreeSpace:
+        return u"folder"_s;
     }
     return {};
 }
@@ -122,7 +145,6 @@ void AudioWaveViewController::awakeFromNib() {
     ui_->stateField->setFont(scaled(font, font.pointSizeF() + 2, QFont::DemiBold));
     ui_->timeField->setFont(scaled(font, timePointSize, QFont::Medium));
     ui_->timeField->setReserve(u"00:00"_s);
-    ui_->hintField->setFont(scaled(font, font.pointSizeF(), QFont::DemiBold));
     ui_->hintField->hide();
     ui_->titleField->setFont(scaled(font, font.pointSizeF() + 3, QFont::DemiBold));
     QPalette dim = view_->palette();
@@ -145,13 +167,20 @@ void AudioWaveViewController::awakeFromNib() {
     ui_->audioPlayProgressView->setDelegate(this);
     connect(ui_->changeTabViewButton, &QToolButton::clicked, this, &AudioWaveViewController::changeTabView);
     ui_->helpButton->setFont(scaled(font, font.pointSizeF() - 1.5, QFont::DemiBold));
-    connect(ui_->helpButton, &QToolButton::clicked, this, [this] {
-        if (!notices_.isEmpty())
-            Q_EMIT helpRequested(notices_.last());
-    });
+    connect(ui_->helpButton, &QToolButton::clicked, this, &AudioWaveViewController::askForHelp);
+    ui_->nextNoticeButton->setFont(scaled(font, font.pointSizeF() - 1.5, QFont::DemiBold));
+    ui_->nextNoticeButton->setIcon(NamedImages::icon(u"warning"_s, [](QIcon::Mode) { return QColor(0xffc857); }));
+    ui_->nextNoticeButton->setIconSize({16, 16});
+    ui_->nextNoticeButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    connect(ui_->nextNoticeButton, &QToolButton::clicked, this, &AudioWaveViewController::showNextNotice);
     connect(ui_->dismissNoticeButton, &QToolButton::clicked, this, [this] {
-        setNotices({});
-        Q_EMIT noticesDismissed();
+        if (notices_.isEmpty())
+            return;
+        const RecordNotice seen = notices_[shownNotice_];
+        QList<RecordNotice> others = notices_;
+        others.removeAt(shownNotice_);
+        setNotices(others);
+        Q_EMIT noticeDismissed(seen);
     });
     showNotices();
 
@@ -207,7 +236,16 @@ void AudioWaveViewController::showHint() {
     if (!view_)
         return;
     ui_->hintField->setVisible(!hint_.isEmpty());
-    ui_->hintField->setText(inLines(4, hint_, ui_->hintField->fontMetrics(), std::max(ui_->hintField->width(), 16)));
+    // A narrow panel shows the sentence in smaller letters instead of cutting it off.
+    const QFont font = view_->font();
+    const int room = std::max(ui_->hintField->width(), 16);
+    ui_->hintField->setFont(scaled(font, font.pointSizeF(), QFont::DemiBold));
+    QString text = inLines(4, hint_, ui_->hintField->fontMetrics(), room);
+    if (text.simplified() != hint_) {
+        ui_->hintField->setFont(scaled(font, font.pointSizeF() - 1.5, QFont::DemiBold));
+        text = inLines(5, hint_, ui_->hintField->fontMetrics(), room);
+    }
+    ui_->hintField->setText(text);
     ui_->hintField->setToolTip(hint_);
 }
 
@@ -309,8 +347,32 @@ void AudioWaveViewController::setAudioPosition(float seconds) {
 void AudioWaveViewController::setNotices(const QList<RecordNotice>& notices) {
     if (notices == notices_)
         return;
+    // A new notice is shown at once. Another change leaves the shown one in its place: the user may be about to click.
+    const RecordNotice shown = notices_.value(shownNotice_);
+    qsizetype next = notices_.isEmpty() ? -1 : indexOf(shown, notices);
+    for (const RecordNotice& each : notices)
+        if (indexOf(each, notices_) < 0)
+            next = notices.size() - 1;
     notices_ = notices;
+    shownNotice_ = next < 0 ? std::max<qsizetype>(notices.size() - 1, 0) : next;
     showNotices();
+}
+
+QString AudioWaveViewController::noticeHelp() const {
+    return notices_.isEmpty() ? QString() : helpText(notices_[shownNotice_].help);
+}
+
+void AudioWaveViewController::askForHelp() {
+    if (!noticeHelp().isEmpty())
+        Q_EMIT helpRequested(RecordNotice(notices_[shownNotice_])); // a copy: the answer may remove it from the list
+}
+
+void AudioWaveViewController::showNextNotice() {
+    if (notices_.size() < 2)
+        return;
+    shownNotice_ = (shownNotice_ + notices_.size() - 1) % notices_.size(); // the newest one first
+    showNotices();
+    Q_EMIT shownNoticeChanged();
 }
 
 void AudioWaveViewController::showNotices() {
@@ -319,20 +381,30 @@ void AudioWaveViewController::showNotices() {
     ui_->noticeLine->setVisible(!notices_.isEmpty());
     if (notices_.isEmpty())
         return;
-    // The line shows the newest notice, its tool tip shows all of them.
-    const RecordNotice& newest = notices_.last();
-    const QString help = helpText(newest.help);
+    // The line shows one notice, its tool tip shows all of them.
+    const RecordNotice& shown = notices_[shownNotice_];
+    const QString help = helpText(shown.help);
+    if (!help.isEmpty())
+        setGlassIcon(ui_->helpButton, helpImage(shown.help));
+    ui_->helpButton->setIconSize({16, 16});
+    ui_->helpButton->setToolButtonStyle(view_->width() < wordsFrom ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextOnly);
     ui_->helpButton->setText(help);
+    ui_->helpButton->setToolTip(help);
     ui_->helpButton->setVisible(!help.isEmpty());
     ui_->helpButton->setAccessibleName(help);
-    const QString more = notices_.size() > 1 ? u' ' + tr("(and %1 more)").arg(int(notices_.size()) - 1) : QString();
+    // With several notices the mark is the button that leads through them.
+    const auto place = notices_.size() - shownNotice_;
+    ui_->noticeMark->setVisible(notices_.size() == 1);
+    ui_->nextNoticeButton->setVisible(notices_.size() > 1);
+    ui_->nextNoticeButton->setText(u"%1/%2"_s.arg(place).arg(notices_.size()));
+    ui_->nextNoticeButton->setAccessibleName(tr("Notice %1 of %2. Show the next one").arg(place).arg(notices_.size()));
     QStringList all;
     for (const RecordNotice& notice : notices_)
         all.append(notice.sentence());
     ui_->noticeField->setText(
-        inTwoLines(newest, more, ui_->noticeField->fontMetrics(), std::max(ui_->noticeField->width(), 16)));
+        inTwoLines(shown, ui_->noticeField->fontMetrics(), std::max(ui_->noticeField->width(), 16)));
     ui_->noticeField->setToolTip(all.join(u'\n'));
-    ui_->noticeField->setAccessibleDescription(all.join(u'\n'));
+    ui_->noticeField->setAccessibleDescription(shown.sentence());
 }
 
 bool AudioWaveViewController::eventFilter(QObject* watched, QEvent* event) {

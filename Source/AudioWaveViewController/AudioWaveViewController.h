@@ -100,9 +100,11 @@ public:
     [[nodiscard]] float playLeftTime() const;
     void setAudioPosition(float seconds) override;
 
-    /// Messages for the user, newest last; shown until dismissed. An empty list hides the line.
+    /// Messages for the user, newest last. One is shown at a time, a new one at once. An empty list hides the line.
     void setNotices(const QList<RecordNotice>& notices);
     [[nodiscard]] const QList<RecordNotice>& notices() const { return notices_; }
+    /// What the shown notice offers, as on its button; empty when it offers nothing.
+    [[nodiscard]] QString noticeHelp() const;
 
     void createDudioPlayUpdateTimer();
     void destroyDudioPlayUpdateTimer();
@@ -116,6 +118,10 @@ public:
 
 public Q_SLOTS:
     void changeTabView();
+    /// Shows the notice before the shown one; after the oldest follows the newest.
+    void showNextNotice();
+    /// Asks for the help that the shown notice offers.
+    void askForHelp();
 
 Q_SIGNALS:
     void tabViewShowWaveChanged();
@@ -130,9 +136,11 @@ Q_SIGNALS:
     void playSoundProgressChanged();
     /// The user moved the position of the sound; in seconds.
     void audioPositionSet(double seconds);
-    /// The user dismissed the notices.
-    void noticesDismissed();
-    /// The user asks for the help that the newest notice offers.
+    /// The user went on to another notice.
+    void shownNoticeChanged();
+    /// The user dismissed the notice that was shown.
+    void noticeDismissed(const RecordNotice& notice);
+    /// The user asks for the help that the shown notice offers.
     void helpRequested(const RecordNotice& notice);
 
 private:
@@ -158,4 +166,5 @@ private:
     RecordState recordState_{};
     QString hint_;
     QList<RecordNotice> notices_;
+    qsizetype shownNotice_ = 0; ///< index of the notice in the line
 };

@@ -152,7 +152,12 @@ void KeybordShortcutTextView::updateShortcutValue() {
     prepend(OptionFlag, u"Alt + "_s);
     prepend(ControlFlag, u"Control + "_s);
     modifierFlags_ = mask;
-    setText(mask == 0 ? QString() : desktopTrigger_.value_or(text));
+    // A trigger that names keys as Qt does gets the names that the modifiers have everywhere in the program.
+    if (desktopTrigger_) {
+        const QKeySequence keys = shownKeys();
+        text = keys.isEmpty() ? *desktopTrigger_ : keys.toString(QKeySequence::NativeText);
+    }
+    setText(mask == 0 ? QString() : text);
 }
 
 void KeybordShortcutTextView::setDesktopTrigger(const std::optional<QString>& trigger) {

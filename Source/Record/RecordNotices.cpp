@@ -24,9 +24,11 @@ QStringList RecordNotices::sentences() const {
     return all;
 }
 
-void RecordNotices::show(const RecordNotice& notice) {
+void RecordNotices::show(RecordNotice notice) {
+    if (notice.event.isEmpty())
+        notice.event = notice.sentence(); // it can be dismissed without the others
     const auto same = [&](const RecordNotice& other) {
-        return other.sentence() == notice.sentence() || (!notice.event.isEmpty() && other.event == notice.event);
+        return other.sentence() == notice.sentence() || other.event == notice.event;
     };
     if (!list_.isEmpty() && list_.last() == notice)
         return;

@@ -19,8 +19,8 @@ public:
     [[nodiscard]] QStringList sentences() const;
 
     /// Adds a notice as the newest one and removes an earlier one about the same event or with the same text. Does
-    /// nothing when the newest notice is equal.
-    void show(const RecordNotice& notice);
+    /// nothing when the newest notice is equal. A notice without an event gets one of its own.
+    void show(RecordNotice notice);
     /// Calls show() only when the list has a notice about this event: a dismissed notice does not return.
     void update(const RecordNotice& notice);
     /// Removes the notice about an event that is over.

@@ -78,6 +78,13 @@ bool MediaNodeListTableView::edit(const QModelIndex& index, EditTrigger trigger,
     return QTableView::edit(index, trigger, event);
 }
 
+void MediaNodeListTableView::initViewItemOption(QStyleOptionViewItem* option) const {
+    QTableView::initViewItemOption(option);
+    // The base class draws a view as inactive when its own editor has the focus.
+    if (state() == EditingState && isActiveWindow())
+        option->state |= QStyle::State_Active;
+}
+
 void MediaNodeListTableView::contextMenuEvent(QContextMenuEvent* event) {
     if (QMenu* menu = menuForEvent(*event)) {
         Q_EMIT menu->aboutToShow();

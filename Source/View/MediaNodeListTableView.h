@@ -38,6 +38,8 @@ protected:
     /// Home and End go to the first and the last row.
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
+    /// The selection keeps its colour while a title in it is typed over.
+    void initViewItemOption(QStyleOptionViewItem* option) const override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;

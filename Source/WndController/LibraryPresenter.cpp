@@ -431,8 +431,8 @@ void LibraryPresenter::playSoundButtonAction() {
         playbackDidChange();
         return;
     }
-    // It may have been paused, or stopped by a recording, and its file deleted since.
-    if (sound->isStop() && !QFileInfo::exists(sound->path())) {
+    // It was paused, or stopped by a recording, and its file may have been deleted since.
+    if (!QFileInfo::exists(sound->path())) {
         missing_->forget(sound->path());
         sayWhyNothingPlays(*sound);
         letSoundGo();

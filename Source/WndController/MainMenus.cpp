@@ -15,6 +15,10 @@
 
 using Window = WindowCommands::Window;
 
+namespace {
+constexpr int kSkipSeconds = 10;
+} // namespace
+
 MainMenus::MainMenus(Ui::MainWnd& ui, RecordStateController& record, LibraryPresenter& library,
                      WindowCommands& commands, AudioWaveViewController& display, Validate validate, QObject* parent)
     : QObject(parent), ui_(ui), record_(record), library_(library), commands_(commands), display_(display),
@@ -112,6 +116,13 @@ void MainMenus::makeLibraryMenu() {
     ui_.audioTableView_->addAction(playSelected_);
     // Space is only displayed here: WindowKeys handles it, also while nothing can be played.
     play_->setShortcutContext(Qt::WidgetShortcut);
+    back_ = add(menu, tr("Back %1 Seconds").arg(kSkipSeconds), {}, {}, {QKeySequence(Qt::CTRL | Qt::Key_Left)});
+    forward_ = add(menu, tr("Forward %1 Seconds").arg(kSkipSeconds), {}, {}, {QKeySequence(Qt::CTRL | Qt::Key_Right)});
+    for (QAction* skip : {back_, forward_}) {
+        const double seconds = skip == back_ ? -kSkipSeconds : kSkipSeconds;
+        connect(skip, &QAction::triggered, &display_,
+                [this, seconds] { display_.setAudioPosition(static_cast<float>(display_.currentTime() + seconds)); });
+    }
     menu->addSeparator();
     show_ = add(menu, tr("S&how in Folder"), QStringLiteral("show"), tr("Show the file in the file manager"),
                 {QKeySequence(Qt::CTRL | Qt::Key_E)});
@@ -130,6 +141,17 @@ void MainMenus::makeViewMenu() {
         add(menu, tr("&Switch the Display"), QStringLiteral("switch-display"),
             tr("Level of the recording, or position of the playback"), {QKeySequence(Qt::CTRL | Qt::Key_D)});
     connect(change, &QAction::triggered, &display_, &AudioWaveViewController::changeTabView);
+    menu->addSeparator();
+    menu->setToolTipsVisible(true);
+    nextNotice_ = add(menu, tr("Show the Next &Notice"), {}, tr("Several notices stand in the display"),
+                      {QKeySequence(Qt::Key_F8)});
+    noticeHelp_ = add(menu, {}, {}, {}, {QKeySequence(Qt::SHIFT | Qt::Key_F8)});
+    dismissNotices_ = add(menu, tr("&Dismiss All Notices"), {}, {});
+    connect(nextNotice_, &QAction::triggered, &display_, &AudioWaveViewController::showNextNotice);
+    connect(noticeHelp_, &QAction::triggered, &display_, &AudioWaveViewController::askForHelp);
+    connect(dismissNotices_, &QAction::triggered, &record_, &RecordStateController::dismissNotices);
+    connect(&display_, &AudioWaveViewController::shownNoticeChanged, this, &MainMenus::update);
+    connect(menu, &QMenu::aboutToShow, this, &MainMenus::update);
 }
 
 void MainMenus::makeHelpMenu() {
@@ -231,6 +253,20 @@ void MainMenus::update() {
     play_->setText(playing ? tr("&Pause") : tr("&Play"));
     play_->setIcon(NamedImages::icon(playing ? QStringLiteral("pause") : QStringLiteral("play")));
     play_->setEnabled(library_.isPlaySoundButtonEnable());
+    const bool hasPosition = display_.duration() > 0 && library_.isPlaySoundButtonEnable();
+    for (QAction* skip : {back_, forward_}) {
+        skip->setEnabled(hasPosition);
+        say(skip, tr("Nothing is playing."));
+    }
+    const auto notices = display_.notices().size();
+    const QString help = display_.noticeHelp();
+    nextNotice_->setEnabled(notices > 1);
+    noticeHelp_->setText(help.isEmpty() ? tr("&Answer the Notice") : tr("&Answer the Notice: %1").arg(help));
+    noticeHelp_->setEnabled(!help.isEmpty());
+    dismissNotices_->setEnabled(notices > 0);
+    say(nextNotice_, tr("There is no other notice."));
+    say(noticeHelp_, notices > 0 ? tr("This notice offers nothing.") : tr("There is no notice."));
+    say(dismissNotices_, tr("There is no notice."));
     playSelected_->setEnabled(library_.tableViewPlayEnable());
     show_->setEnabled(library_.tableViewShowEnable());
     open_->setEnabled(library_.tableViewShowEnable());

@@ -91,6 +91,11 @@ private:
     QAction* quit_ = nullptr;
     QAction* preferences_ = nullptr;
     QAction* about_ = nullptr;
+    QAction* back_ = nullptr;
+    QAction* forward_ = nullptr;
+    QAction* nextNotice_ = nullptr;
+    QAction* noticeHelp_ = nullptr;
+    QAction* dismissNotices_ = nullptr;
     QAction* support_ = nullptr;
     QAction* audioDevice_ = nullptr;
     std::array<QAction*, WindowCommands::kWindows> windows_{};

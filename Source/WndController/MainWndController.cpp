@@ -142,6 +142,7 @@ void MainWndController::bindLibrary() {
     });
     connect(ui_->btnPlayAudio_, &QAbstractButton::clicked, this, &MainWndController::playSoundButtonAction);
     connect(&record_, &RecordStateController::stateChanged, menus_.get(), update);
+    connect(&record_, &RecordStateController::noticesChanged, menus_.get(), update);
     connect(&record_, &RecordStateController::stateChanged, this, &MainWndController::showEmptyText);
     connect(&record_, &RecordStateController::stateChanged, this, &MainWndController::chooseInstalledDevice);
     if (auto* hardware = Platform::services().audioHardware)

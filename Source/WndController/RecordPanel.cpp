@@ -42,8 +42,8 @@ RecordPanel::RecordPanel(Ui::MainWnd& ui, RecordStateController& record, AudioWa
         showState();
     });
     connect(ui_.popBuiltInDevice_, &QComboBox::activated, &record_, &RecordStateController::chooseBuiltInDevice);
-    connect(&display_, &AudioWaveViewController::noticesDismissed, &record_, &RecordStateController::dismissNotices);
-
+    connect(&display_, &AudioWaveViewController::noticeDismissed, &record_,
+            [this](const RecordNotice& notice) { record_.dismissNotice(notice.event); });
     connect(&display_, &AudioWaveViewController::helpRequested, this, &RecordPanel::help);
     connect(&record_, &RecordStateController::stateChanged, this, &RecordPanel::showState);
     connect(&record_, &RecordStateController::displayChanged, this, &RecordPanel::showDisplay);

@@ -123,7 +123,8 @@ bool WindowLayout::saysNothing(int column) const {
         if (!text.isEmpty() && text != none)
             return false;
     }
-    return rows->rowCount() > 0;
+    // A list without rows leaves the columns as they are: a search that finds nothing must not move them.
+    return rows->rowCount() > 0 || table_.isColumnHidden(column);
 }
 
 void WindowLayout::fitColumns() {

@@ -39,6 +39,9 @@ protected:
         library.setRingtones({});
         library.setCurrentNewArray({});
         library.saveMediaLibraryList();
+        launch();
+    }
+    void launch() {
         running = Platform::RunningProgram::create(Platform::services().bundle->bundleIdentifier());
         windows = createAppWindows();
         application = std::make_unique<AppDelegate>(*windows, *running);
@@ -51,6 +54,12 @@ protected:
         application->applicationWillTerminate();
         application.reset();
         windows.reset();
+    }
+    /// Ends the program and starts it again, with the same folders and the same sound server.
+    void restart() {
+        TearDown();
+        running.reset();
+        launch();
     }
 
     /// The recordings that the library has when the window opens.

@@ -136,6 +136,24 @@ TEST(NamedImages, RecordingAndPlaybackHaveDifferentPauseSymbols) {
     EXPECT_FALSE(contains(picture(u"Pause.png"_s, Qt::black), QColor(0xe5383b)));
 }
 
+TEST(NamedImages, TheStatusBarTellsEachStateByItsShape) {
+    QList<QImage> shapes;
+    for (const char* state : {"start", "armed", "recording", "paused"}) {
+        const QImage shape = NamedImages::pixmap(u"record-status-bar-"_s + QLatin1String(state), {20, 20}, 1)
+                                 .toImage()
+                                 .createAlphaMask();
+        ASSERT_FALSE(shape.isNull()) << state;
+        for (const QImage& other : shapes) {
+            int differing = 0;
+            for (int y = 0; y < 20; ++y)
+                for (int x = 0; x < 20; ++x)
+                    differing += shape.pixelIndex(x, y) != other.pixelIndex(x, y) ? 1 : 0;
+            EXPECT_GT(differing, 30) << state << " is seen without colours";
+        }
+        shapes.append(shape);
+    }
+}
+
 TEST(NamedImages, DisabledIconsLookDisabled) {
     const QIcon icon = NamedImages::icon(u"RecorderStart.png"_s);
     const QImage on = icon.pixmap(QSize(48, 48), 1.0, QIcon::Normal).toImage();

@@ -217,6 +217,18 @@ TEST_F(Presenter, AMissingOrBrokenFileIsReleased) {
     presenter.playSoundButtonAction();
     EXPECT_EQ(problem.count(), 1);
     EXPECT_FALSE(display.playSound());
+    // Deleted by another program while it was paused.
+    select({1});
+    presenter.playSoundButtonAction();
+    presenter.playSoundButtonAction();
+    ASSERT_TRUE(display.playSound() && display.playSound()->isPause());
+    ASSERT_TRUE(QFile::remove(display.playSound()->path()));
+    select({2});
+    presenter.playSoundButtonAction();
+    EXPECT_EQ(problem.count(), 2);
+    EXPECT_FALSE(display.playSound());
+    presenter.playSoundButtonAction();
+    EXPECT_TRUE(presenter.isPlaySoundPlaying()) << "Play follows the selection";
 }
 
 TEST_F(Presenter, ADeletedRecordingStops) {

@@ -111,7 +111,7 @@ TEST_F(StateOfTheMainWindow, LostFramesAndNoticesAreShown) {
     world.record->recordFlushTime();
     ASSERT_TRUE(waitFor([&] { return controller.display().notices().value(0).text.contains(u"(960 frames)"_s); }));
     EXPECT_EQ(controller.display().notices().size(), 1) << "a loss that grows is one notice";
-    Q_EMIT controller.display().noticesDismissed();
+    world.click("dismissNoticeButton");
     EXPECT_TRUE(world.record->notices().isEmpty());
     world.click("btnSatrtRecord_");
 }
@@ -140,6 +140,51 @@ TEST_F(StateOfTheMainWindow, ChooseDeviceOpensTheListOfDevices) {
     world.click("helpButton");
     ASSERT_TRUE(waitFor([&] { return devices.view()->isVisible(); }));
     devices.hidePopup();
+}
+
+TEST_F(StateOfTheMainWindow, EachNoticeIsAnsweredWithTheKeyboard) {
+    const EnvironmentScope data("XDG_DATA_HOME", QFile::encodeName(world.folder.filePath(u"data"_s)));
+    const QString kept = Platform::FileManager::unfinishedFolder() + u"/Track7.m4a"_s;
+    ASSERT_TRUE(QFile(kept).open(QIODevice::WriteOnly));
+    world.hardware.list.push_back({30, u"USB Headset"_s, u"usb"_s});
+    world.open();
+    auto& devices = world.outlet<QComboBox>("popBuiltInDevice_");
+    const auto key = [&](int code, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(world.controller->window()->windowHandle(), Qt::Key(code), modifiers);
+    };
+    world.record->tellUnfinishedRecordings();
+    world.hardware.remove(WindowWorld::kMicrophone);
+    ASSERT_TRUE(waitFor([&] { return world.record->noticeList().size() == 2; }));
+    EXPECT_EQ(world.outlet<QToolButton>("helpButton").text(), u"Choose Device"_s);
+    key(Qt::Key_F8);
+    EXPECT_EQ(world.outlet<QToolButton>("helpButton").text(), u"Show"_s);
+    key(Qt::Key_F8, Qt::ShiftModifier);
+    EXPECT_EQ(world.workspace.selected, QStringList{kept});
+    EXPECT_EQ(world.record->noticeList().size(), 1) << "it was seen";
+    key(Qt::Key_F8, Qt::ShiftModifier);
+    ASSERT_TRUE(waitFor([&] { return devices.view()->isVisible(); }));
+    devices.hidePopup();
+    EXPECT_EQ(world.record->noticeList().size(), 1);
+}
+
+TEST_F(StateOfTheMainWindow, AfterTheInstallationTheWindowSaysSoAndTicksTheBox) {
+    std::erase_if(world.hardware.list, [](const auto& each) { return each.id == WindowWorld::kComputer; });
+    MainWndController& controller = world.open();
+    auto& box = world.outlet<QAbstractButton>("btnComputerAudioRecord_");
+    controller.systemAudioRecordDeviceInstalled();
+    EXPECT_EQ(status(), u"The computer-audio device is installed."_s);
+    EXPECT_FALSE(box.isChecked()) << "its source is not there yet";
+    world.hardware.add({WindowWorld::kComputer, u"Korvane System Audio"_s, u"korvane"_s});
+    EXPECT_TRUE(waitFor([&] { return box.isChecked(); }));
+    EXPECT_EQ(status(), u"The computer-audio device is installed. What the computer plays is recorded from now on."_s);
+    EXPECT_TRUE(world.alerts.shown.isEmpty()) << "it must not ask for the installation once more";
+    // Chosen once: the user may switch it off.
+    world.click("btnComputerAudioRecord_");
+    EXPECT_FALSE(box.isChecked());
+    world.hardware.remove(WindowWorld::kComputer);
+    world.hardware.add({WindowWorld::kComputer, u"Korvane System Audio"_s, u"korvane"_s});
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(box.isChecked());
 }
 
 TEST_F(StateOfTheMainWindow, TitleAndButtonShowTheState) {

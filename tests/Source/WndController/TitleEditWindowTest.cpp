@@ -61,6 +61,19 @@ TEST_F(TitlesOfTheWindow, ASecondClickOpensTheTitleAndEnterWritesIt) {
         << "as another program reads it";
 }
 
+TEST_F(TitlesOfTheWindow, TheRowKeepsItsHighlightWhileItsTitleIsTypedOver) {
+    clickRow(1);
+    const auto ground = [&] {
+        const QRect cell = table().visualRect(table().model()->index(1, AudioTableModel::Date));
+        return table().viewport()->grab().toImage().pixelColor(cell.right() - 4, cell.top() + 3);
+    };
+    const QColor selected = ground();
+    EXPECT_EQ(selected, table().palette().color(QPalette::Active, QPalette::Highlight));
+    clickRow(1);
+    ASSERT_NO_FATAL_FAILURE(clickAgain(1));
+    EXPECT_EQ(ground(), selected);
+}
+
 TEST_F(TitlesOfTheWindow, EscapeLeavesTheTitle) {
     clickRow(1);
     clickRow(1);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/WndController/WindowKeys.h"
 
+#include "RingtoneMaker/CustomSound.h"
 #include "tests/Source/WndController/LibraryWindow.h"
 
 #include <QAbstractButton>
@@ -141,4 +142,21 @@ TEST_F(KeysOfTheWindow, TypedLettersFindATitleWhicheverCellWasClicked) {
     QTest::mouseClick(handle(), Qt::LeftButton, {}, placeOf(0, AudioTableModel::Time));
     key(Qt::Key_C);
     EXPECT_EQ(selectedTitles(), QStringList{u"Charlie"_s});
+}
+
+TEST_F(KeysOfTheWindow, ControlWithTheArrowsSkipsTenSeconds) {
+    clickRow(1);
+    key(Qt::Key_Left, Qt::ControlModifier);
+    EXPECT_EQ(world.controller->display().playSound(), nullptr) << "nothing plays";
+    key(Qt::Key_Space);
+    ASSERT_TRUE(plays());
+    auto& sound = static_cast<FakeSound&>(*world.controller->display().playSound()->sound());
+    sound.seconds = 60;
+    sound.time = 5;
+    key(Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_NEAR(world.controller->display().currentTime(), 15, 0.01);
+    key(Qt::Key_Left, Qt::ControlModifier);
+    key(Qt::Key_Left, Qt::ControlModifier);
+    EXPECT_NEAR(world.controller->display().currentTime(), 0, 0.01) << "not before the beginning";
+    EXPECT_TRUE(plays());
 }
