@@ -22,6 +22,7 @@ namespace {
 
 constexpr int tickMilliseconds = 100;
 constexpr qreal timePointSize = 28;
+constexpr int timesFrom = 160; ///< a narrower playback side shows no times beside its bar
 constexpr int wordsFrom = 420; ///< a narrower panel has no room for the words on the button beside a notice
 
 // "3:07", "1:02:03"; a minus sign marks remaining time.
@@ -281,6 +282,9 @@ void AudioWaveViewController::showTitles() {
         return;
     setElided(ui_->titleField, title_);
     setElided(ui_->artistField, artist_);
+    // Beside the state of a recording a narrow panel has room for the bar only.
+    for (QWidget* time : {ui_->currentTimeField, ui_->playLeftTimeField})
+        time->setVisible(ui_->titleField->width() >= timesFrom);
 }
 
 void AudioWaveViewController::setStateString(const QString& state) {
@@ -385,7 +389,8 @@ void AudioWaveViewController::showNotices() {
     const RecordNotice& shown = notices_[shownNotice_];
     const QString help = helpText(shown.help);
     if (!help.isEmpty())
-        setGlassIcon(ui_->helpButton, helpImage(shown.help));
+        ui_->helpButton->setIcon(
+            NamedImages::icon(helpImage(shown.help), [](QIcon::Mode) { return Theme::Glass::text(); }));
     ui_->helpButton->setIconSize({16, 16});
     ui_->helpButton->setToolButtonStyle(view_->width() < wordsFrom ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextOnly);
     ui_->helpButton->setText(help);

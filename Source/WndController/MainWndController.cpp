@@ -83,6 +83,11 @@ void MainWndController::setUpViews() {
     outline->setTextElideMode(Qt::ElideMiddle);
     outline->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 
+    if (window_->isRightToLeft()) { // layouts do not mirror their margins
+        const QMargins margins = ui_->statusLayout->contentsMargins();
+        ui_->statusLayout->setContentsMargins(margins.right(), margins.top(), margins.left(), margins.bottom());
+    }
+
     // Makes the pane's own background visible.
     outline->viewport()->setAutoFillBackground(false);
 

@@ -165,6 +165,7 @@ void RecordPanel::showDevices() {
         ui_.popBuiltInDevice_->addItem(name);
         ui_.popBuiltInDevice_->setItemData(ui_.popBuiltInDevice_->count() - 1, name, Qt::ToolTipRole);
     }
+    ui_.popBuiltInDevice_->setPlaceholderText(tr("No device"));
     ui_.popBuiltInDevice_->setCurrentIndex(record_.selectedDevice());
     showDeviceToolTip();
     showHealth();

@@ -42,9 +42,15 @@ protected:
     /// Selects a row with the keyboard: typed letters find its title.
     void choose(const QString& title) {
         table().setFocus();
-        keys(u"Home"_s);
-        type(title);
-        ASSERT_TRUE(waitFor([&] { return selected() == QStringList{title}; })) << qPrintable(selected().join(u','));
+        // A pause between two letters begins another search.
+        ASSERT_TRUE(waitFor(
+            [&] {
+                keys(u"Home"_s);
+                type(title);
+                return waitFor([&] { return selected() == QStringList{title}; }, 1000);
+            },
+            60000))
+            << qPrintable(selected().join(u','));
     }
     void remove() {
         bool asked = false;
@@ -55,7 +61,8 @@ protected:
             asked = true;
         });
         keys(u"Delete"_s);
-        ASSERT_TRUE(waitFor([&] { return asked && !QApplication::activeModalWidget(); }));
+        ASSERT_TRUE(waitFor(
+            [&] { return asked && !QApplication::activeModalWidget() && controller->window()->isActiveWindow(); }));
     }
     void type(const QString& text) const { ASSERT_TRUE(desktop().xdotool({u"type"_s, u"--delay"_s, u"20"_s, text})); }
 };
@@ -127,7 +134,7 @@ TEST_F(ListOnADesktop, TheKeysOfEachListMoveInItAndSeveralRowsSayHowManyTheyAre)
     keys(u"shift+Home"_s);
     ASSERT_TRUE(waitFor([&] { return selected().size() == 4; }));
     const auto& line = static_cast<ElidedLabel&>(outlet("lblStatus_"));
-    EXPECT_TRUE(waitFor([&] { return line.text().startsWith(u"4 selected, 00:00:0"_s); })) << qPrintable(line.text());
+    EXPECT_TRUE(waitFor([&] { return line.text().startsWith(u"4 selected, 00:00:"_s); })) << qPrintable(line.text());
     choose(u"Track2"_s);
     EXPECT_EQ(line.text(), user.recording(2));
 }
@@ -215,7 +222,7 @@ TEST_F(ListOnADesktop, AnUnfinishedRecordingIsNamedAtEachStartUntilItWasSeen) {
     ASSERT_TRUE(QFile(kept).open(QIODevice::WriteOnly));
     const auto isNamed = [&] {
         const auto& line = static_cast<QLabel&>(outlet("noticeField"));
-        return line.isVisible() && line.toolTip().endsWith(kept);
+        return line.isVisible() && line.toolTip().contains(kept);
     };
     restart();
     ASSERT_TRUE(waitFor(isNamed));
@@ -280,8 +287,7 @@ TEST_F(ListOnADesktop, TheKeyboardAloneRecordsFindsPlaysTagsAndDeletes) {
     const QString path = QFileInfo(user.recording(0)).path() + u"/Rain.m4a"_s;
     EXPECT_TRUE(waitFor([&] { return FileTags::texts(path).value(AudioRecordEntry::Artist) == u"Ada"_s; }, 60000));
 
-    ASSERT_TRUE(waitFor([&] { return controller->window()->isActiveWindow(); }));
-    table().setFocus();
+    ASSERT_TRUE(waitFor([&] { return controller->window()->isActiveWindow() && table().hasFocus(); }));
     bool asked = false;
     whenAsked([&](QMessageBox& box) {
         asked = true;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Source/AudioWaveViewController/AudioRecordWaveView.h"
+#include "Source/View/TabularLabel.h"
 #include "Source/View/Theme.h"
 #include "tests/Source/WndController/WindowWorld.h"
 #include "tests/support/Screenshot.h"
@@ -96,6 +97,8 @@ protected:
         for (const QWidget* each : window->findChildren<QWidget*>()) {
             if (!each->isVisible() || each->visibleRegion().isEmpty())
                 continue;
+            if (qobject_cast<const TabularLabel*>(each) && each->width() < each->sizeHint().width())
+                names.append(each->objectName());
             const auto* label = qobject_cast<const QLabel*>(each);
             const auto* button = qobject_cast<const QAbstractButton*>(each);
             if (label && !label->text().isEmpty() && label->toolTip().isEmpty()) {
@@ -103,7 +106,7 @@ protected:
                 if (text.width() > label->width() + 1 || text.height() > label->height() + 1)
                     names.append(label->objectName() + u": "_s + label->text());
             }
-            if (button && button->sizeHint().width() > button->width())
+            if (button && !button->text().isEmpty() && button->sizeHint().width() > button->width())
                 names.append(button->objectName() + u": "_s + button->text());
         }
         return names;

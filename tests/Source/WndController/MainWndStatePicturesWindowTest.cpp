@@ -108,6 +108,7 @@ TEST_F(StatePictures, FinishingTwoSources) {
     openFilled(true, true);
     record();
     world.controller->startAndStopRecord();
+    tick();
     auto& tip = world.controller->recordPanel().fileConvertingTipView();
     ASSERT_TRUE(waitFor([&] { return tip.isVisible() && tip.y() == tip.parentWidget()->height() - tip.height(); }));
     takeAll(u"state-finishing"_s);
