@@ -78,15 +78,17 @@ protected:
         }
         Theme::apply(Theme::Shade::Light);
     }
-    /// Takes the picture in the smallest window and in a full screen. Where pictures are saved also at 1.5 and at 2
-    /// pixels per point; the layout is the same there.
+    /// Pixels per point. All of them only when the pictures are saved: the layout is the same.
+    [[nodiscard]] static QList<qreal> ratios() {
+        return qEnvironmentVariableIsSet("SONAPHEX_SCREENSHOTS") ? QList<qreal>{1, 1.5, 2} : QList<qreal>{1};
+    }
+    /// Takes the picture in the smallest window and on a full screen.
     void takeAll(const QString& name) {
-        const bool areSaved = qEnvironmentVariableIsSet("SONAPHEX_SCREENSHOTS");
         for (const QSize size : {QSize(720, 480), QSize(1920, 1080)}) {
             world.controller->window()->resize(size);
             QCoreApplication::processEvents();
             EXPECT_EQ(cutOff(), QStringList()) << qPrintable(name) << " at " << size.width();
-            for (const qreal ratio : areSaved ? QList<qreal>{1, 1.5, 2} : QList<qreal>{1})
+            for (const qreal ratio : ratios())
                 take(u"%1-%2-at-%3"_s.arg(name).arg(size.width()).arg(ratio), ratio);
         }
     }

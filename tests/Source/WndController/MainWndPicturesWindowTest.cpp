@@ -105,7 +105,7 @@ TEST_F(Pictures, EachStateOfTheListAtEachScale) {
         levels();
         auto& table = world.outlet<MediaNodeListTableView>("audioTableView_");
         const auto shoot = [&](const QString& state) {
-            for (const qreal ratio : {1.0, 1.5, 2.0})
+            for (const qreal ratio : ratios())
                 take(u"%1-%2-at-%3"_s.arg(state).arg(size.width()).arg(ratio), ratio);
         };
         table.selectRow(1);
