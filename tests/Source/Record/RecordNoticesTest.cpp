@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The recorder's notices: one for each event, up to date, with the cause first, and none of an earlier recording.
+#include "Source/Record/RecordNotices.h"
+
 #include "Source/Record/RecordRoom.h"
 #include "Source/Record/UnfinishedRecordings.h"
 #include "tests/Source/Record/RecordFixture.h"
@@ -223,4 +225,12 @@ TEST_F(RecordNoticesTest, AnUnfinishedRecordingIsShownAtEachStartUntilItIsDismis
     controller->tellUnfinishedRecordings();
     controller->dismissNotice(only().event);
     EXPECT_TRUE(UnfinishedRecordings::unseen().isEmpty());
+}
+
+TEST(RecordNotices, ANoticeWithoutAnEventIsDismissedAlone) {
+    RecordNotices notices;
+    notices.show({.text = QStringLiteral("first")});
+    notices.show({.text = QStringLiteral("second")});
+    notices.dismiss(notices.list().first().event);
+    EXPECT_EQ(notices.sentences(), QStringList{QStringLiteral("second")});
 }
