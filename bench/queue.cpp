@@ -110,9 +110,8 @@ int main(int argc, char** argv) {
     QElapsedTimer timer;
     timer.start();
     if (writer)
-        writer->disposeLater([guard = queue.guard(), job](OSStatus status) {
-            RecordQueue::rawFileClosed(guard, job, job->path(ExportJob::BuiltInAudioTempPath), status);
-        });
+        writer->disposeLater(
+            [guard = queue.guard(), job](OSStatus status) { RecordQueue::rawFileClosed(guard, job, status); });
     queue.append(job);
     QCoreApplication::exec();
     std::printf("%.3f\n", double(timer.nsecsElapsed()) / 1e9);

@@ -15,6 +15,15 @@ namespace Platform {
 using namespace PipeWire;
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Frames that the server may deliver at once, at rates up to 48 kHz. A recorder needs no shorter blocks, because the
+/// capture times are exact in blocks of any length, and every block wakes a thread. A power of two, to which the server
+/// rounds down, and its longest quantum by default. It uses less when another program asks for less.
+constexpr std::uint32_t longestBlock = 2048;
+
+} // namespace
+
 CaptureStream::CaptureStream(std::shared_ptr<DeviceRegistry> registry, Target target, CaptureRing& ring,
                              Observer observer)
     : registry_(std::move(registry)), target_(std::move(target)), ring_(ring), observer_(std::move(observer)),
@@ -74,7 +83,9 @@ bool CaptureStream::connectStream(const AudioDeviceInfo& device) {
                                          "false", "state.restore-target", "false", nullptr);
     pw_properties_setf(properties, PW_KEY_TARGET_OBJECT, "%llu", static_cast<unsigned long long>(device.serial));
     pw_properties_setf(properties, PW_KEY_NODE_RATE, "1/%u", target_.sampleRate);
-    pw_properties_setf(properties, PW_KEY_NODE_LATENCY, "%u/%u", target_.cycleFrames, target_.sampleRate);
+    pw_properties_setf(properties, PW_KEY_NODE_LATENCY, "%u/%u",
+                       std::max(target_.cycleFrames, longestBlock * std::max(1u, target_.sampleRate / 44100)),
+                       target_.sampleRate);
     stream_.reset(pw_stream_new(core, "Sonaphex", properties));
     if (!stream_)
         return false;

@@ -6,9 +6,13 @@
 #include "Platform/Foundation/Clock.h"
 #include "Platform/Foundation/MainQueue.h"
 
+#include <QCoreApplication>
+#include <QThread>
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <utility>
 
 namespace Platform {
 
@@ -23,8 +27,12 @@ constexpr int openMs = 1000;
 /// A linked stream that delivers nothing for this long is dead although no event said so. This happens when only the
 /// session manager ends.
 constexpr auto dryAfter = 2s;
-/// When no cycle follows, the last level is shown for this long at most.
-constexpr auto silentAfter = 100ms;
+/// When no cycle follows, the last level is shown for this long at most. Longer than two blocks and two looks.
+constexpr auto silentAfter = 200ms;
+/// How often the I/O thread looks into the ring. The data thread cannot wake it: that would be a system call. Nothing
+/// waits for a cycle, so several may be taken at once; holdCycles() takes them earlier.
+constexpr auto look = 40ms;
+constexpr auto catchUpAtMost = 100ms;
 
 } // namespace
 
@@ -176,12 +184,10 @@ std::uint64_t PipeWireInputUnit::overrunFrames() const {
 
 void PipeWireInputUnit::runCycles() {
     CycleAssembler assembler(*ring_, target_.sampleRate, target_.cycleFrames);
-    // The data thread cannot wake this thread: that would be a system call. So this thread polls.
-    const auto look =
-        std::chrono::milliseconds(std::clamp(int(500.0 * target_.cycleFrames / target_.sampleRate), 2, 10));
     std::uint64_t seenBlocks = 0;
     std::uint64_t toldLost = 0;
     lastBlockAt_ = std::chrono::steady_clock::now();
+    std::uint64_t asked = 0;
     for (;;) {
         CaptureCycle cycle;
         // The device is gone: deliver the incomplete cycle, the rest will not arrive.
@@ -192,9 +198,19 @@ void PipeWireInputUnit::runCycles() {
         }
         watch(seenBlocks, toldLost);
         std::unique_lock lock(cycleMutex_);
-        if (cycleChanged_.wait_for(lock, look, [this] { return stopping_; }))
+        if (std::exchange(catchUpsDone_, asked) != asked)
+            cycleChanged_.notify_all();
+        cycleChanged_.wait_for(lock, look, [&] { return stopping_ || catchUpsAsked_ != asked; });
+        if (stopping_)
             return;
+        asked = catchUpsAsked_;
     }
+}
+
+void PipeWireInputUnit::catchUp(std::unique_lock<std::mutex>& lock) {
+    const std::uint64_t wanted = ++catchUpsAsked_;
+    cycleChanged_.notify_all();
+    cycleChanged_.wait_for(lock, catchUpAtMost, [&] { return catchUpsDone_ >= wanted; });
 }
 
 bool PipeWireInputUnit::runCycle(const CycleAssembler& assembler, const CaptureCycle& cycle) {
@@ -269,6 +285,8 @@ OSStatus PipeWireInputUnit::render(std::uint32_t*, const AudioTimeStamp*, std::u
 
 void PipeWireInputUnit::holdCycles() {
     std::unique_lock lock(cycleMutex_);
+    if (holds_ == 0 && QThread::currentThread() == QCoreApplication::instance()->thread() && ioThread_.joinable())
+        catchUp(lock);
     ++holds_;
     if (!inCycle_ || ioThreadId_ != std::this_thread::get_id())
         cycleChanged_.wait(lock, [this] { return !inCycle_; });

@@ -34,6 +34,8 @@ public:
     OSStatus stop() override;
     OSStatus render(std::uint32_t* actionFlags, const AudioTimeStamp* timeStamp, std::uint32_t busNumber,
                     std::uint32_t frames, AudioBufferList* data) override;
+    /// On the main thread, first delivers the cycles that were captured already: a command that stops, pauses or cuts a
+    /// recording takes effect at the time at which it is given.
     void holdCycles() override;
     void releaseCycles() override;
     std::uint64_t lostFrames() const override;
@@ -48,6 +50,9 @@ private:
     void runCycles();
     /// Waits for the end of a hold, then runs the callback. False when the unit stops.
     bool runCycle(const CycleAssembler& assembler, const CaptureCycle& cycle);
+    /// Has the I/O thread take what is in the ring, and waits for it, at most a tenth of a second. Not on an I/O
+    /// thread: two of them could wait for each other.
+    void catchUp(std::unique_lock<std::mutex>& lock);
     void watch(std::uint64_t& seenBlocks, std::uint64_t& toldLost);
 
     const std::shared_ptr<DeviceRegistry> registry_;
@@ -65,6 +70,8 @@ private:
     int holds_ = 0;
     bool inCycle_ = false;
     bool stopping_ = false;
+    std::uint64_t catchUpsAsked_ = 0;
+    std::uint64_t catchUpsDone_ = 0;
     std::thread::id ioThreadId_;
 
     // The current cycle; I/O thread.

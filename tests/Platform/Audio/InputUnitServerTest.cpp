@@ -12,6 +12,7 @@
 #include <chrono>
 #include <cmath>
 #include <csignal>
+#include <set>
 #include <thread>
 
 using namespace Platform;
@@ -92,6 +93,53 @@ TEST_F(InputUnitTest, DeliversCyclesOfTheAnnouncedSize) {
     capture.stop();
     for (const auto& each : capture.cycles())
         ASSERT_EQ(each.frames, capture.cycleFrames());
+    EXPECT_TRUE(isUnbrokenRamp(capture.samples(0), 0));
+}
+
+TEST_F(InputUnitTest, DeliversEverySampleWithItsTimeWhenTheServerDeliversLongBlocks) {
+    for (const std::uint32_t rate : {44100u, 48000u}) {
+        // Sound cards ask for no cycle length; the listeners decide.
+        TestSource source({.description = "Long blocks " + std::to_string(rate), .rate = rate, .cycle = 8192});
+        UnitCapture capture(*hardware_, add(source));
+        ASSERT_TRUE(capture.start());
+        ASSERT_TRUE(captured(capture, 0.5));
+        std::set<std::uint64_t> positions;
+        ASSERT_TRUE(waitFor([&] {
+            positions.insert(source.position());
+            return double(capture.frames()) > 2 * capture.sampleRate();
+        }));
+        capture.stop();
+        // With blocks of 1024 frames there would be twice as many positions.
+        EXPECT_LT(double(positions.size()), 1.4 * double(*positions.rbegin() - *positions.begin()) / 2048);
+        EXPECT_TRUE(isUnbrokenRamp(capture.samples(0), 0));
+        EXPECT_TRUE(isUnbrokenRamp(capture.samples(1), 1));
+        EXPECT_EQ(capture.unit().lostFrames(), 0u);
+        const auto cycles = capture.cycles();
+        for (std::size_t i = 1; i < cycles.size(); ++i) {
+            EXPECT_EQ(cycles[i - 1].frames, capture.cycleFrames());
+            EXPECT_NEAR(double(cycles[i].hostTime - cycles[i - 1].hostTime) * 1e-9,
+                        capture.cycleFrames() / capture.sampleRate(), 0.0005);
+        }
+    }
+}
+
+TEST_F(InputUnitTest, AHoldFirstDeliversWhatWasCaptured) {
+    TestSource source({.description = "Behind"});
+    UnitCapture capture(*hardware_, add(source));
+    ASSERT_TRUE(capture.start());
+    int complete = 0; // the hold waits for a tenth of a second only: a busy machine may need more
+    for (int i = 0; i < 5; ++i) {
+        capture.unit().holdCycles();
+        const auto before = capture.frames();
+        const auto played = source.position();
+        EXPECT_TRUE(waitFor([&] { return source.position() > played + 24000; }));
+        capture.unit().releaseCycles();
+        capture.unit().holdCycles();
+        complete += capture.frames() >= before + 20000 ? 1 : 0;
+        capture.unit().releaseCycles();
+    }
+    capture.stop();
+    EXPECT_GE(complete, 3);
     EXPECT_TRUE(isUnbrokenRamp(capture.samples(0), 0));
 }
 

@@ -22,6 +22,10 @@ constexpr std::size_t framesAtOnce = 8192;
 /// Limit of the samples that wait in a parallel encoding, whatever the length of the file.
 constexpr std::int64_t stretchBytes = 64'000'000;
 constexpr int shortestStretchSeconds = 120;
+/// How much of a second the file's thread encodes at once while a recording grows. Waking it for every cycle costs as
+/// much as a tenth of the encoding, and cold caches more. Together with a fragment of the file it must stay below the
+/// second that a killed recording may lack.
+constexpr double recordedAtOnce = 0.25;
 
 using namespace std::chrono_literals;
 
@@ -202,7 +206,7 @@ OSStatus FileWriter::writeAsync(std::uint32_t frames, const AudioBufferList* dat
     if (core_->disposed || !core_->client)
         return kMediaInvalidStateError;
     start(false);
-    return push(frames, data, 1);
+    return push(frames, data, std::size_t(recordedAtOnce * core_->client->mSampleRate));
 }
 
 /// @p wakeAfter: the file's thread is woken when this many frames wait. Waking it for each small block would cost more

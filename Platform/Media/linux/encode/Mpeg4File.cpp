@@ -22,7 +22,7 @@ public:
     bool begin(const AacStreamInfo& info) override {
         info_ = info;
         created_ = std::uint64_t(std::time(nullptr)) + secondsFrom1904To1970;
-        packetsPerFragment_ = std::size_t(std::max(1, info.sampleRate / info.framesPerPacket - 3)); // about 0.93 s
+        packetsPerFragment_ = std::size_t(std::max(1, info.sampleRate * 3 / 5 / info.framesPerPacket)); // below 0.6 s
         writeFileType();
         growingStart_ = std::int64_t(out_.size());
         writeIndex(0, true);
