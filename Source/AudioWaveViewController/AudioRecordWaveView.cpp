@@ -6,6 +6,7 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QWindow>
 
 #include <cmath>
 
@@ -21,9 +22,13 @@ void AudioRecordWaveView::addCurrentLevel(float level) {
         audioLevelArray_.append(level);
     while (audioLevelArray_.size() > width())
         isLeftToRight() ? audioLevelArray_.removeLast() : audioLevelArray_.removeFirst();
-    if (!scrollPicture())
+    // In a hidden or iconified window nothing is drawn.
+    const QWindow* screen = isVisible() ? window()->windowHandle() : nullptr;
+    const bool isShown = screen && screen->isExposed();
+    if (!isShown || !scrollPicture())
         pictureIsOld_ = true;
-    update();
+    if (isShown)
+        update();
 }
 
 void AudioRecordWaveView::drawColumn(QPainter& painter, int index) const {

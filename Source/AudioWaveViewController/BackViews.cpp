@@ -25,11 +25,30 @@ void AudioWaveformBackView::setRecording(bool recording) {
     if (recording == recording_)
         return;
     recording_ = recording;
+    picture_ = {};
     update();
 }
 
+void AudioWaveformBackView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange)
+        picture_ = {};
+    QWidget::changeEvent(event);
+}
+
 void AudioWaveformBackView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
+    const qreal ratio = devicePixelRatioF();
+    const QSize size = (QSizeF(this->size()) * ratio).toSize();
+    if (picture_.size() != size || picture_.devicePixelRatio() != ratio) {
+        picture_ = QPixmap(size);
+        picture_.setDevicePixelRatio(ratio);
+        picture_.fill(Qt::transparent);
+        QPainter painter(&picture_);
+        draw(painter);
+    }
+    QPainter(this).drawPixmap(0, 0, picture_);
+}
+
+void AudioWaveformBackView::draw(QPainter& painter) {
     painter.setRenderHint(QPainter::Antialiasing);
     QPainterPath outline;
     outline.addRoundedRect(QRectF(rect()), 8, 8);

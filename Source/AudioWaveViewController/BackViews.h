@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QPixmap>
 #include <QWidget>
 
-/// The dark background of the display.
+/// The dark background of the display. It is kept as a picture: the level history above it is drawn ten times a second.
 class AudioWaveformBackView : public QWidget {
     Q_OBJECT
 public:
@@ -14,9 +15,13 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void draw(QPainter& painter);
+
     bool recording_ = false;
+    QPixmap picture_; ///< null when it must be drawn
 };
 
 /// The background of the library.

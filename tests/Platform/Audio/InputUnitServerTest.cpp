@@ -109,8 +109,10 @@ TEST_F(InputUnitTest, DeliversEverySampleWithItsTimeWhenTheServerDeliversLongBlo
             return double(capture.frames()) > 2 * capture.sampleRate();
         }));
         capture.stop();
-        // With blocks of 1024 frames there would be twice as many positions.
-        EXPECT_LT(double(positions.size()), 1.4 * double(*positions.rbegin() - *positions.begin()) / 2048);
+        // With blocks of 1024 frames there would be twice as many positions. At 44.1 kHz the server's limit, scaled to
+        // the rate and rounded to a power of two, is 1024.
+        const double frames = double(*positions.rbegin() - *positions.begin());
+        EXPECT_LT(double(positions.size()), 1.4 * frames / (rate == 48000 ? 2048 : 1024));
         EXPECT_TRUE(isUnbrokenRamp(capture.samples(0), 0));
         EXPECT_TRUE(isUnbrokenRamp(capture.samples(1), 1));
         EXPECT_EQ(capture.unit().lostFrames(), 0u);

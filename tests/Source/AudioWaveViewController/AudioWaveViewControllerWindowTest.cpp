@@ -6,6 +6,7 @@
 #include "RingtoneMaker/CustomSound.h"
 #include "Source/AudioWaveViewController/AudioRecordWaveView.h"
 #include "Source/AudioWaveViewController/BackViews.h"
+#include "Source/Record/RecordState.h"
 #include "Source/View/TabularLabel.h"
 #include "Source/View/Theme.h"
 #include "tests/support/Screenshot.h"
@@ -98,11 +99,60 @@ protected:
     QWidget* panel = controller.view();
 };
 
+/// Counts the paint events of all widgets and windows.
+class PaintCounter : public QObject {
+public:
+    PaintCounter() { qApp->installEventFilter(this); }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return QObject::eventFilter(watched, event);
+    }
+    int count = 0;
+};
+
 bool isLevelColor(QRgb pixel) {
     return qRed(pixel) == 78 && qGreen(pixel) == 242 && qBlue(pixel) == 255;
 }
 
 } // namespace
+
+TEST_F(LiveDisplay, AHiddenWindowDrawsNothingAndShowsTheWholeHistoryAgain) {
+    PaintCounter paints;
+    const auto tick = [&] {
+        controller.audioPlayUpdateTimerFireMethod();
+        QApplication::processEvents();
+    };
+    tick();
+    EXPECT_GT(paints.count, 0) << "a window on the screen draws the level";
+    panel->hide();
+    QApplication::processEvents();
+    paints.count = 0;
+    for (int i = 0; i < 20; ++i)
+        tick();
+    EXPECT_EQ(paints.count, 0);
+    EXPECT_EQ(controller.audioRecordWaveView()->audioLevelArray().size(), 21);
+
+    panel->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(panel, 30000));
+    const auto* view = controller.audioRecordWaveView();
+    const QImage shown = panel->grab(QRect(view->mapTo(panel, QPoint(0, 0)), view->size())).toImage();
+    for (int x = 0; x < 21; ++x)
+        EXPECT_TRUE(isLevelColor(shown.pixel(x, shown.height() / 2))) << "column " << x;
+}
+
+TEST_F(LiveDisplay, TheBackgroundFollowsItsSizeAndTheRecording) {
+    const auto frameAtBottom = [this] {
+        const QImage shown = panel->grab().toImage();
+        return QColor(shown.pixel(shown.width() / 2, shown.height() - 1)).red();
+    };
+    const int idle = frameAtBottom();
+    controller.setRecordState(RecordState::Recording, true);
+    EXPECT_GT(frameAtBottom(), idle + 60);
+    panel->resize(600, 140);
+    EXPECT_GT(frameAtBottom(), idle + 60);
+    controller.setRecordState(RecordState::Idle, false);
+    EXPECT_LT(frameAtBottom(), idle + 60);
+}
 
 TEST_F(LiveDisplay, StartsOnTheRecordingSideWithATimerAndBlackState) {
     AudioWaveViewController fresh;
