@@ -17,7 +17,7 @@ apt_test="libgtest-dev libgmock-dev xvfb xauth x11-utils x11-xkb-utils dbus dbus
 apt_package="build-essential debhelper dpkg-dev lintian appstream desktop-file-utils git"
 apt_check="clang-format clang-tidy clazy git"
 apt_const="clang-tidy-15"
-apt_bench="$apt_test qmmp"
+apt_bench="$apt_test qmmp pavucontrol"
 
 dnf_build="cmake ninja-build gcc-c++ ccache pkgconf qt6-qtbase-devel qt6-qtsvg-devel pipewire-devel ffmpeg-free-devel
   taglib-devel libplist-devel libxcb-devel xcb-util-keysyms-devel libburn-devel systemd-devel"
