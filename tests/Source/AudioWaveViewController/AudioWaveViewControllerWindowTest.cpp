@@ -507,6 +507,8 @@ TEST_F(LiveDisplay, EachOfSeveralNoticesIsShownAndAnswered) {
     help->click();
     EXPECT_EQ(asked, (QStringList{u"gone"_s, u"disk"_s}));
     // What is shown stays in its place while it is updated, and when another one goes.
+    controller.setNotices({disk, gone, {.text = u"more lost"_s, .event = u"lost"_s}});
+    EXPECT_EQ(shown(), u"disk"_s);
     disk.text = u"less room"_s;
     controller.setNotices({gone, lost, disk});
     EXPECT_EQ(shown(), u"less room"_s);
