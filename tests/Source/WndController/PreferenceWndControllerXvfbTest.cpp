@@ -67,9 +67,11 @@ protected:
     void keys(const QStringList& arguments) { EXPECT_TRUE(XvfbSession::current()->xdotool(arguments)); }
     void type(const QString& combination) { keys({u"key"_s, combination}); }
     void click(QWidget* widget) {
-        // The window manager may still be moving the window: the field itself reports when the pointer is on it.
+        // The window manager may still be moving the window: the field itself reports when the pointer is on it. A
+        // pointer that does not move sends no event, so each try goes to another place.
+        int tries = 0;
         EXPECT_TRUE(waitFor([&] {
-            const QPoint at = widget->mapToGlobal(widget->rect().center());
+            const QPoint at = widget->mapToGlobal(widget->rect().center()) + QPoint(++tries % 2, 0);
             keys({u"mousemove"_s, QString::number(at.x()), QString::number(at.y())});
             return waitFor([&] { return widget->underMouse(); }, 500);
         }));
