@@ -3,6 +3,12 @@
 #include "CommandLine/LibraryChange.h"
 
 #include "CommandLine/CommandLine.h"
+#include "Platform/Foundation/Clock.h"
+#include "Platform/Foundation/Services.h"
+#include "Platform/Foundation/UserDefaults.h"
+#include "Source/Model/AudioRecordEntry.h"
+#include "Source/Model/MediaLibrary.h"
+#include "Source/ProcessRequests/ControlRequests.h"
 #include "Source/ProcessRequests/MediaLibraryRequests.h"
 
 #include <optional>
@@ -21,6 +27,26 @@ QString tellLibrary(const QString& path, const Dictionary& changed, const QStrin
         stored = MediaLibraryRequests::retag(path, changed);
     }
     return *stored ? QString() : done + u", but the library could not be saved"_s;
+}
+
+QString addRecording(const QString& path, const Dictionary& tags) {
+    // Create the entry and its identity first. A window that answers too late still adds it; with the same identity the
+    // library then contains it once.
+    const Dictionary entry = MediaLibrary::entryForFile(path, tags);
+    QByteArray rest;
+    if (const auto answer = askWindow(ControlRequests::libraryAdd(path, entry));
+        answer && ControlRequests::isOk(*answer, rest))
+        return {};
+    MediaLibrary library;
+    library.addRecordFile(entry);
+    return Platform::services().userDefaults->flush() ? QString() : u"%1 could not be added to the library"_s.arg(path);
+}
+
+QString addRecording(const QString& path, const Dictionary& tags, double seconds) {
+    Dictionary entry = tags;
+    entry.insert(AudioRecordEntry::AddDate, Platform::services().clock->now().toString(u"yyyy/MM/dd"_s));
+    entry.insert(AudioRecordEntry::Length, seconds);
+    return addRecording(path, entry);
 }
 
 } // namespace CommandLine

@@ -11,4 +11,10 @@ namespace CommandLine {
 /// @return the error; empty on success, also when the library has no entry for the file
 [[nodiscard]] QString tellLibrary(const QString& path, const Dictionary& changed, const QString& done);
 
+/// Adds a finished file to the recordings of the library, through the running window or else in the stored library.
+/// @return the error; empty on success
+[[nodiscard]] QString addRecording(const QString& path, const Dictionary& tags);
+/// The same for a file that was made from a recording: with its length, and today as its date.
+[[nodiscard]] QString addRecording(const QString& path, const Dictionary& tags, double seconds);
+
 } // namespace CommandLine

@@ -7,9 +7,11 @@
 #include "CommandLine/DevicesCommand.h"
 #include "CommandLine/DriverCommand.h"
 #include "CommandLine/DrivesCommand.h"
+#include "CommandLine/JoinCommand.h"
 #include "CommandLine/LibraryCommand.h"
 #include "CommandLine/RecordCommand.h"
 #include "CommandLine/RingtoneCommand.h"
+#include "CommandLine/SplitCommand.h"
 #include "CommandLine/TagCommand.h"
 #include "CommandLine/TrimCommand.h"
 
@@ -23,9 +25,9 @@ Commands byName(std::initializer_list<const Command*> commands) {
 }
 
 const Commands& plainCommands() {
-    static const Commands plain =
-        byName({&burnCommand, &controlCommand, &convertCommand, &devicesCommand, &driverCommand, &drivesCommand,
-                &libraryCommand, &recordCommand, &ringtoneCommand, &tagCommand, &trimCommand});
+    static const Commands plain = byName({&burnCommand, &controlCommand, &convertCommand, &devicesCommand,
+                                          &driverCommand, &drivesCommand, &joinCommand, &libraryCommand, &recordCommand,
+                                          &ringtoneCommand, &splitCommand, &tagCommand, &trimCommand});
     return plain;
 }
 

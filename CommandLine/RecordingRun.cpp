@@ -3,13 +3,12 @@
 #include "CommandLine/RecordingRun.h"
 
 #include "CommandLine/CommandLine.h"
+#include "CommandLine/LibraryChange.h"
 #include "CommandLine/ProgressBar.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/TerminationSignals.h"
-#include "Platform/Foundation/UserDefaults.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
-#include "Source/ProcessRequests/ControlRequests.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -167,17 +166,7 @@ void RecordingRun::tellNotices() {
 
 /// Adds the recording through the running window, which holds the library in memory, else directly.
 void RecordingRun::addRecordFile(const QString& path, const Dictionary& tags) {
-    // Create the entry and its identity first. A window that answers too late still adds it; with the same identity the
-    // library then contains it once.
-    const Dictionary entry = MediaLibrary::entryForFile(path, tags);
-    QByteArray rest;
-    if (const auto answer = askWindow(ControlRequests::libraryAdd(path, entry));
-        answer && ControlRequests::isOk(*answer, rest))
-        return;
-    MediaLibrary library;
-    library.addRecordFile(entry);
-    if (!Platform::services().userDefaults->flush()) {
-        const QString problem = u"%1 could not be added to the library"_s.arg(path);
+    if (const QString problem = addRecording(path, tags); !problem.isEmpty()) {
         if (problem_.isEmpty())
             problem_ = problem;
         else

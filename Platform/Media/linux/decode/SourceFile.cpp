@@ -115,6 +115,7 @@ ContainerFacts readMpeg4Facts(const SourceFile& file, int rate) {
         if (!(edited >= 0 && edited < longestBelieved))
             return true;
         const bool rounded = movieScale < rate && std::abs(edited - double(left)) <= double(rate) / double(movieScale);
+        facts.editStart = edit->start;
         facts.validFrames = rounded ? left : std::min(left, std::int64_t(std::llround(edited)));
         return true;
     });

@@ -32,6 +32,7 @@ private:
 struct ContainerFacts {
     std::optional<std::int64_t> validFrames; ///< length without priming and padding
     std::int64_t primingFrames = 0;          ///< frames to skip where libavformat does not (CAF)
+    std::int64_t editStart = 0;              ///< MPEG-4: where the only entry of the edit list begins, in frames
     bool ownEncoder = false;                 ///< written by this program
     bool fragmented = false;
 };

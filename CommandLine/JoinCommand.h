@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "CommandLine/CommandLine.h"
+
+namespace CommandLine {
+
+/// Makes one recording of several.
+extern const Command joinCommand;
+
+} // namespace CommandLine
