@@ -45,19 +45,23 @@ void takeSettings(Arguments& arguments, OverriddenPreferences& preferences) {
         const QString folder = arguments.value(u"folder"_s);
         preferences.setValue(QDir::cleanPath(QFileInfo(folder).absoluteFilePath()), Settings::savePath);
     }
+    if (arguments.isSet(u"pre-roll"_s))
+        preferences.setValue(arguments.whole(u"pre-roll"_s, 0), Settings::preRollMS);
     g_SplitTimeMS = Settings::storedSplitTimeMS();
     if (arguments.isSet(u"split"_s))
         g_SplitTimeMS = arguments.value(u"split"_s) == u"off"_s ? -1 : arguments.whole(u"split"_s, 0);
 }
 
 /// Why the combination of options is invalid; empty when it is valid.
-QString whyWrong(const Arguments& arguments, const RecordingTask& task) {
+QString whyWrong(Arguments& arguments, const RecordingTask& task) {
     if (!arguments.problem().isEmpty())
         return arguments.problem();
     if (!arguments.positional().isEmpty())
         return u"record takes options only"_s;
     if (arguments.isSet(u"for"_s) && task.seconds <= 0)
         return u"--for takes a time above 0"_s;
+    if (arguments.whole(u"pre-roll"_s, 0) > Settings::LongestPreRollMS)
+        return u"--pre-roll takes at most %1 milliseconds"_s.arg(Settings::LongestPreRollMS);
     if (arguments.isSet(u"folder"_s) && arguments.value(u"folder"_s).isEmpty())
         return u"--folder takes a folder"_s;
     if (arguments.value(u"input"_s) == u"none"_s && !arguments.isSet(u"computer"_s))
@@ -129,6 +133,8 @@ const Command recordCommand{
      {"for", "S", "Stop after S seconds of recorded sound, over all files.", "until Control+C"},
      {"wait", "S", "When waiting for the first sound, give up after S seconds.", "no limit"},
      {"split", "MS|off", "Begin a new file after a silence of MS milliseconds of computer audio.",
+      "as in the preferences"},
+     {"pre-roll", "MS", "When waiting for the first sound, begin MS milliseconds before it, at most 5000.",
       "as in the preferences"},
      {"filter", "S|off", "Drop a recording shorter than S seconds.", "as in the preferences"},
      {"folder", "DIR", "Put the recordings into DIR, which is made when it is missing.", "as in the preferences"},

@@ -90,6 +90,8 @@ QString helpText(RecordNotice::Help help) {
         return AudioWaveViewController::tr("Show");
     case RecordNotice::Help::ChooseDevice:
         return AudioWaveViewController::tr("Choose Device");
+    case RecordNotice::Help::Unmute:
+        return AudioWaveViewController::tr("Unmute");
     case RecordNotice::Help::FreeSpace:
         return AudioWaveViewController::tr("Free Space …");
     }

@@ -31,6 +31,17 @@ void logFirstFrame(std::uint64_t hostTime) {
     qCDebug(engineLog, "first frame captured at %.4f", double(QDateTime::currentMSecsSinceEpoch()) / 1000 - ago);
 }
 
+/// Index of the first frame with a sample other than 0, @p frames when there is none.
+std::uint32_t firstSoundIn(const AudioBufferList& list, std::uint32_t frames) {
+    std::uint32_t first = frames;
+    for (std::uint32_t i = 0; i < list.mNumberBuffers; ++i) {
+        const auto* samples = static_cast<const float*>(list.mBuffers[i].mData);
+        const auto* sound = std::find_if(samples, samples + first, [](float sample) { return sample != 0; });
+        first = std::uint32_t(sound - samples);
+    }
+    return first;
+}
+
 /// Uses every third sample of the first channel. Without samples the level is NaN, and is passed on.
 float levelOf(const AudioBufferList& list) {
     const auto* samples = static_cast<const float*>(list.mBuffers[0].mData);
@@ -143,6 +154,7 @@ bool BuildInAudioRecord::configureAudioUnit(AudioObjectID device) {
     audioBuffer_.reset(allocateAudioBufferList(format.mChannelsPerFrame, bufferSize_));
     if (!audioBuffer_)
         return fail("not enough memory");
+    allocatePreRoll();
     previousHostTime_ = 0;
     measuredFrames_ = 0;
     measuredNanoseconds_ = 0;
@@ -176,9 +188,62 @@ OSStatus BuildInAudioRecord::renderCycle(std::uint32_t* actionFlags, const Audio
         clientRecievedBuiltInAudioData(level);
     // The delegate may have started the recording because of this cycle, which is then its first one.
     if (!recording && recordStatus_ == 1)
-        if (const OSStatus written = writeFiles(*timeStamp, frames); written != noErr)
+        if (const OSStatus written = writeFirstSound(*timeStamp, frames); written != noErr)
             return written;
+    keepForPreRoll(*timeStamp, frames);
     return status;
+}
+
+void BuildInAudioRecord::setPreRoll(std::chrono::milliseconds length) {
+    if (length == preRollLength_)
+        return;
+    const Platform::HeldCycles held(audioUnit_.get());
+    preRollLength_ = length;
+    allocatePreRoll();
+}
+
+void BuildInAudioRecord::allocatePreRoll() {
+    const double seconds = std::chrono::duration<double>(preRollLength_).count();
+    preRoll_.allocate(actualOutputFormat_.mChannelsPerFrame,
+                      std::uint32_t(std::llround(seconds * actualOutputFormat_.mSampleRate)));
+    preRollBuffer_.reset(seconds > 0 ? allocateAudioBufferList(actualOutputFormat_.mChannelsPerFrame, bufferSize_)
+                                     : nullptr);
+}
+
+void BuildInAudioRecord::keepForPreRoll(const AudioTimeStamp& timeStamp, std::uint32_t frames) {
+    if (!preRollBuffer_)
+        return;
+    if (timeStamp.mStartsAnew || timeStamp.mSampleTime != preRollSampleTime_ || recordStatus_ != 0)
+        preRoll_.clear();
+    preRollSampleTime_ = timeStamp.mSampleTime + frames;
+    if (recordStatus_ == 0)
+        preRoll_.append(*audioBuffer_, frames);
+}
+
+/// Writes the pre-roll and then the cycle in which the sound begins.
+OSStatus BuildInAudioRecord::writeFirstSound(const AudioTimeStamp& timeStamp, std::uint32_t frames) {
+    if (!preRollBuffer_)
+        return writeFiles(timeStamp, frames);
+    if (timeStamp.mStartsAnew || timeStamp.mSampleTime != preRollSampleTime_)
+        preRoll_.clear();
+    const double rate = actualOutputFormat_.mSampleRate;
+    const auto length = std::uint32_t(std::llround(std::chrono::duration<double>(preRollLength_).count() * rate));
+    const std::uint32_t sound = firstSoundIn(*audioBuffer_, frames);
+    const std::uint32_t skipped = sound > length ? sound - length : 0;
+    const std::uint32_t cycle = bufferSize_ / 4;
+    for (std::uint32_t ago = std::min(preRoll_.count(), length - (sound - skipped)); ago > 0;) {
+        const std::uint32_t part = std::min(ago, cycle);
+        preRoll_.copy(ago, part, *preRollBuffer_);
+        AudioTimeStamp earlier = timeStamp;
+        earlier.mHostTime -= std::uint64_t(ago / rate * 1e9);
+        audioBuffer_.swap(preRollBuffer_);
+        const OSStatus written = writePart(earlier, 0, part);
+        audioBuffer_.swap(preRollBuffer_);
+        if (written != noErr)
+            return written;
+        ago -= part;
+    }
+    return writePart(timeStamp, skipped, frames - skipped);
 }
 
 OSStatus BuildInAudioRecord::writeFiles(const AudioTimeStamp& timeStamp, std::uint32_t frames) {

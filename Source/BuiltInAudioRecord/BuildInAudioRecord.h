@@ -7,8 +7,10 @@
 #include "Platform/Foundation/Dictionary.h"
 #include "Platform/Media/ExtAudioFile.h"
 #include "Source/BuiltInAudioRecord/PauseSpan.h"
+#include "Source/BuiltInAudioRecord/PreRoll.h"
 
 #include <atomic>
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -50,6 +52,8 @@ public:
     [[nodiscard]] static bool isInputDeviceID(AudioObjectID device);
     /// Sets input channels 1 and 2 to full volume and clears the mute of those whose volume could be set.
     static void setMaxVolume(AudioObjectID device);
+    /// Whether one of input channels 1 and 2 is muted or has no volume. False when that cannot be read.
+    [[nodiscard]] static bool isMuted(AudioObjectID device);
 
     /// Opens, configures and starts the input unit on a device; from then on it delivers levels, recording or not. When
     /// the engine already has a unit, it closes that one first. A unit whose configuration failed stays open and
@@ -65,7 +69,9 @@ public:
     [[nodiscard]] std::unique_ptr<Platform::ExtAudioFileWriter> setOutAudioPath(const QString& path, int forType);
     /// The data format of export type 0 or 1; all zeros for any other.
     [[nodiscard]] AudioStreamBasicDescription exportDescription(int type) const;
-    /// Starts to write cycles. False while recording or paused, and without a unit.
+    /// Starts to write cycles. False while recording or paused, and without a unit. When the delegate starts it from
+    /// inside a cycle, because of a sound, the file begins setPreRoll() before the first frame of that cycle that is
+    /// not silent.
     virtual bool startRecordAudio();
     /// Ends the recording and closes its files; waits until they are complete. Always true.
     virtual bool stopRecordAudio();
@@ -139,6 +145,10 @@ public:
     virtual void releaseCycles();
     /// See InputUnit::setFillLostFrames(); also applied to the next device. Main thread.
     virtual void setFillLostFrames(bool on);
+    /// How much of the time before a first sound a recording contains; 0, the initial value, begins with the cycle of
+    /// the sound. The engine then keeps that much of what the device delivers while nothing is recorded: never frames
+    /// of an earlier recording, nor frames before a gap. Main thread.
+    virtual void setPreRoll(std::chrono::milliseconds length);
     /// Device and server events of the unit, on the main thread.
     virtual void setEventHandler(Platform::InputUnit::EventHandler handler);
 
@@ -150,6 +160,9 @@ private:
                          std::uint32_t frames);
     void measureTime(const AudioTimeStamp& timeStamp, std::uint32_t frames);
     OSStatus writeFiles(const AudioTimeStamp& timeStamp, std::uint32_t frames);
+    OSStatus writeFirstSound(const AudioTimeStamp& timeStamp, std::uint32_t frames);
+    void keepForPreRoll(const AudioTimeStamp& timeStamp, std::uint32_t frames);
+    void allocatePreRoll();
     OSStatus writePart(const AudioTimeStamp& timeStamp, std::uint32_t first, std::uint32_t frames);
     OSStatus writeM4a(const AudioTimeStamp& timeStamp, std::uint32_t first, std::uint32_t frames);
     OSStatus writeCycle(Export& file, std::uint32_t first, std::uint32_t frames);
@@ -177,7 +190,8 @@ private:
         QString path;
     };
 
-    std::unique_ptr<AudioBufferList, BufferListDeleter> audioBuffer_;
+    using BufferList = std::unique_ptr<AudioBufferList, BufferListDeleter>;
+    BufferList audioBuffer_;
     std::uint32_t bufferSize_ = 0; // bytes of one channel in audioBuffer_
     /// The unit that the callback uses: still valid while audioUnit_ is already null and waits for its last cycle.
     Platform::InputUnit* renderUnit_ = nullptr;
@@ -215,6 +229,12 @@ private:
     std::uint32_t previousFrames_ = 0;
     bool cycleStartsAnew_ = false;
     PauseSpan pause_;
+
+    // Changed while cycles are held, or before the unit starts.
+    std::chrono::milliseconds preRollLength_{0};
+    PreRoll preRoll_;
+    BufferList preRollBuffer_;     ///< as long as a cycle; empty without a pre-roll
+    double preRollSampleTime_ = 0; ///< of the frame that would follow in preRoll_
 
     /// Guards members that other threads read: the unit, the writers, the paths and the errors. Never held while a
     /// thread waits. A cycle only takes it when a recording starts or a file is exchanged.

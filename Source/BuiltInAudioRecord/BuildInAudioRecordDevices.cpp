@@ -40,3 +40,18 @@ void BuildInAudioRecord::setMaxVolume(AudioObjectID device) {
         if (hardware.setVolumeScalar(device, element, 1.0F) == noErr)
             (void)hardware.setMute(device, element, false);
 }
+
+bool BuildInAudioRecord::isMuted(AudioObjectID device) {
+    if (device == 0)
+        return false;
+    auto& hardware = *Platform::services().audioHardware;
+    for (const std::uint32_t element : {1U, 2U}) {
+        bool mute = false;
+        float volume = 1;
+        if (hardware.getMute(device, element, mute) == noErr && mute)
+            return true;
+        if (hardware.getVolumeScalar(device, element, volume) == noErr && volume <= 0)
+            return true;
+    }
+    return false;
+}

@@ -24,6 +24,8 @@ inline const QString PreferenceSplitKey = QStringLiteral("PreferenceSplitKey");
 inline const QString PreferenceSplitTimeMSKey = QStringLiteral("PreferenceSplitTimeMSKey");
 inline const QString PreferenceFilterKey = QStringLiteral("PreferenceFilterKey");
 inline const QString PreferenceFilterTimeKey = QStringLiteral("PreferenceFilterTimeKey");
+/// Milliseconds of the time before the first sound with which an armed recording begins; a number, 0 by default.
+inline const QString PreferencePreRollMSKey = QStringLiteral("PreferencePreRollMSKey");
 inline const QString PreferenceSavePathKey = QStringLiteral("PreferenceSavePathKey");
 inline const QString PreferenceRingtoneSavePathKey = QStringLiteral("PreferenceRingtoneSavePathKey");
 /// Whether desktop notifications report recordings while the window is not in front; a number, 1 by default.

@@ -29,6 +29,7 @@ inline const Setting split{PreferenceStore::PreferenceSplitKey, Type::Number, 0}
 inline const Setting splitTimeMS{PreferenceStore::PreferenceSplitTimeMSKey, Type::Number, QStringLiteral("300")};
 inline const Setting filter{PreferenceStore::PreferenceFilterKey, Type::Number, 1};
 inline const Setting filterTime{PreferenceStore::PreferenceFilterTimeKey, Type::Number, QStringLiteral("5")};
+inline const Setting preRollMS{PreferenceStore::PreferencePreRollMSKey, Type::Number, 0};
 inline const Setting savePath{PreferenceStore::PreferenceSavePathKey, Type::Folder};
 inline const Setting ringtoneSavePath{PreferenceStore::PreferenceRingtoneSavePathKey, Type::Folder};
 inline const Setting notifications{PreferenceStore::PreferenceNotificationsKey, Type::Number, 1};
@@ -52,5 +53,8 @@ void setValue(const QVariant& object, const Setting& setting);
 
 /// The value of g_SplitTimeMS at launch: -1 when splitting is off, else the leading integer of the stored time.
 [[nodiscard]] std::int32_t storedSplitTimeMS();
+
+/// Largest value of preRollMS; larger ones count as this one, negative ones as 0.
+inline constexpr int LongestPreRollMS = 5000;
 
 } // namespace Settings

@@ -14,6 +14,7 @@ struct RecordNotice {
         None,
         Show,         ///< the file or folder in the file manager
         ChooseDevice, ///< the list of input devices
+        Unmute,       ///< the muted input device
         FreeSpace     ///< the folder on the full disk in the file manager
     };
 

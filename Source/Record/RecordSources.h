@@ -35,6 +35,8 @@ public:
     void setRecording(bool recording);
 
     [[nodiscard]] QStringList deviceNames() const;
+    /// The device of the input engine; 0 when there is none.
+    [[nodiscard]] AudioObjectID boundDevice() const { return boundDevice_; }
     [[nodiscard]] int selectedDevice() const { return selected_; }
     /// -1 when the device is not in the list.
     [[nodiscard]] int indexOfDevice(AudioObjectID device) const;

@@ -95,6 +95,7 @@ void RecordStateController::awakeFromNib() {
         source.engine->setEventHandler(
             [this, &source](Platform::InputUnit::Event event) { d->deviceEvent(event, source); });
     }
+    d->applyPreRoll();
     d->devices = std::make_unique<RecordSources>(*d->builtIn.engine, *d->computer.engine);
     connect(d->devices.get(), &RecordSources::devicesChanged, this, &RecordStateController::devicesChanged);
     connect(d->devices.get(), &RecordSources::computerAudioDeviceChanged, this, [this] {
@@ -157,6 +158,10 @@ void RecordStateController::chooseRecordComputerAudio(bool on) {
 
 void RecordStateController::chooseBuiltInDevice(int index) {
     d->devices->chooseBuiltInDevice(index);
+}
+
+void RecordStateController::unmuteBuiltInDevice() {
+    BuildInAudioRecord::setMaxVolume(d->devices->boundDevice());
 }
 
 bool RecordStateController::windowShouldClose() {
@@ -343,6 +348,7 @@ void RecordStateController::recordFlushTime() {
         Q_EMIT displayChanged();
     }
     d->showLosses();
+    d->showSilences();
     d->lookForRoom();
     if (jobsInQueue() > 0)
         Q_EMIT queueChanged();

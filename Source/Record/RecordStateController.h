@@ -80,6 +80,8 @@ public:
     void chooseRecordBuiltIn(bool on);
     void chooseRecordComputerAudio(bool on);
     void chooseBuiltInDevice(int index);
+    /// Sets the input device to full volume and clears its mute.
+    void unmuteBuiltInDevice();
     /// Shows the stored choices again, if their devices exist.
     void refreshTheFace();
     /// Always false: the window never closes. Ends the program when nothing is recorded, else shows an alert.

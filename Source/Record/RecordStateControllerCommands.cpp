@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <chrono>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -92,6 +93,7 @@ void RecordStateController::finishAll() {
 
 void RecordStateController::clientRecievedBuiltInAudioData(float level) {
     d->builtInLevelValue_ = level;
+    Private::followSilence(d->builtIn, level, Platform::services().clock->hostTime());
     d->followCycle(d->builtIn);
 }
 
@@ -116,7 +118,19 @@ void RecordStateController::clientRecievedComputerAudioData(float level) {
         d->changed();
     if (wantsCut)
         d->cut(true);
+    Private::followSilence(d->computer, level, now);
     d->followCycle(d->computer);
+}
+
+/// Called once per cycle on the source's I/O thread.
+void RecordStateController::Private::followSilence(RecordSource& source, float level, std::uint64_t now) {
+    const bool isSilent = level < SilenceSplitter::AudibleLevel;
+    if (source.engine->recordStatus() != 1 || !isSilent)
+        source.silentSince = 0;
+    else if (source.silentSince == 0)
+        source.silentSince = now;
+    if (source.engine->recordStatus() == 1 && !isSilent)
+        source.sounded = true;
 }
 
 /// Called once per cycle on the source's I/O thread. No frame is written after the limit, however late the main thread
@@ -153,6 +167,7 @@ void RecordStateController::Private::isRecordingFlushTheFace(bool recording) {
 
 void RecordStateController::Private::startRecord() {
     endHiddenRecording();
+    applyPreRoll();
     devices->setRecording(false); // handles devices that left while an armed wait was still recording
     ++recordingNumber_;
     notices_.beginRecording();
@@ -174,6 +189,9 @@ void RecordStateController::Private::startRecord() {
         source.away = source.wasAway = false;
         source.awaySince = 0;
         source.awaySeconds = 0;
+        source.silentSince = 0;
+        source.sounded = false;
+        source.silenceShown = false;
     }
     if (builtIn.checked)
         beginFile(builtIn, true);
@@ -207,6 +225,13 @@ void RecordStateController::Private::startRecord() {
     notice({.text = text,
             .help = canChoose ? RecordNotice::Help::ChooseDevice : RecordNotice::Help::None,
             .event = u"source"_s});
+}
+
+/// Only computer audio waits for a first sound. Its engine keeps the pre-roll from the program's start on, so that a
+/// recording that is armed and begins at once has one too.
+void RecordStateController::Private::applyPreRoll() {
+    const int length = Platform::intValue(preferences->value(Settings::preRollMS));
+    computer.engine->setPreRoll(std::chrono::milliseconds(std::clamp(length, 0, Settings::LongestPreRollMS)));
 }
 
 /// A stop before the first sound: the wait continues and keeps its name and its open file. A recording that never had a

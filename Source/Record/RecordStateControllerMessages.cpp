@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The notices of the record state controller: devices that disappear, lost audio, disks that fill up.
+// The notices of the record state controller: devices that disappear, lost audio, silent sources, disks that fill up.
+#include "Platform/Audio/AudioHardware.h"
 #include "Platform/Foundation/Clock.h"
 #include "Platform/Foundation/Services.h"
 #include "Source/Record/RecordStateControllerPrivate.h"
@@ -20,6 +21,9 @@ constexpr int TicksBetweenLooks = 10;
 constexpr std::array Stages{60, 30, 10, 5, 2, 1};
 /// The recording continues on a full disk when this many more bytes are free: an hour of one source.
 constexpr qint64 EnoughBytes = 64'000'000;
+
+/// Seconds of digital silence after which a source is named.
+constexpr double LongSilence = 10;
 
 const QString DiskEvent = u"disk"_s;
 
@@ -189,6 +193,57 @@ void RecordStateController::Private::showWriteProblem() {
     writeProblemShown_ = bool(problem);
     if (!problem)
         fullSince_ = 0;
+}
+
+/// A silent recording is often noticed too late. So a source that delivers only digital silence is named until it
+/// delivers a sound, and after a stop until the next start.
+void RecordStateController::Private::showSilences() {
+    for (RecordSource& source : sources) {
+        if (!source.writes())
+            continue;
+        const bool isSilent = isSilentTooLong(source);
+        if (isSilent && !source.silenceShown)
+            notice(silenceNotice(source));
+        else if (!isSilent && source.silenceShown)
+            withdrawNotice(u"silent "_s + source.label);
+        source.silenceShown = isSilent;
+    }
+}
+
+bool RecordStateController::Private::isSilentTooLong(const RecordSource& source) const {
+    const std::uint64_t since = source.silentSince;
+    if (since == 0 || source.awaySince != 0 || secondsSince(since) < LongSilence)
+        return false;
+    if (&source == &builtIn)
+        return true;
+    // Silence is expected between the parts of a recording that is cut at silences, and beside an input device once
+    // the computer was heard.
+    return builtIn.takesPart() ? !source.sounded : g_SplitTimeMS < 0;
+}
+
+RecordNotice RecordStateController::Private::silenceNotice(const RecordSource& source) const {
+    const QString seconds = QString::number(int(LongSilence));
+    RecordNotice told;
+    told.event = u"silent "_s + source.label;
+    if (&source == &computer) {
+        AudioObjectID output = 0;
+        QString name;
+        auto& hardware = *Platform::services().audioHardware;
+        if (hardware.getDefaultOutputDevice(output) == noErr)
+            (void)hardware.getDeviceName(output, name);
+        told.text =
+            name.isEmpty()
+                ? u"Computer audio has been silent for %1 s: nothing plays."_s.arg(seconds)
+                : u"Computer audio has been silent for %1 s: nothing plays on %2, the output that is recorded."_s.arg(
+                      seconds, name);
+    } else if (BuildInAudioRecord::isMuted(devices->boundDevice())) {
+        told.text = u"The input device is muted: only silence has been recorded for %1 s."_s.arg(seconds);
+        told.help = RecordNotice::Help::Unmute;
+    } else {
+        told.text = u"The input device has delivered only silence for %1 s. It may be switched off, or the wrong one: "
+                    "another one can be chosen when the recording is stopped."_s.arg(seconds);
+    }
+    return told;
 }
 
 /// Queries the free space now and then; see TicksBetweenLooks.

@@ -35,6 +35,10 @@ struct RecordSource {
     std::uint64_t awaySince = 0;      ///< host time; 0 while it is present; main thread
     double awaySeconds = 0;           ///< in this recording, without the present absence; main thread
 
+    std::atomic<std::uint64_t> silentSince{0}; ///< capture time, 0 while there is sound or nothing is recorded
+    std::atomic<bool> sounded{false};          ///< this recording contains a sound of it
+    bool silenceShown = false;                 ///< main thread
+
     [[nodiscard]] bool takesPart() const { return checked && !off; }
     /// Whether the engine is recording or paused, and has a file.
     [[nodiscard]] bool writes() const { return hasFile && engine->recordStatus() != 0; }
@@ -109,6 +113,9 @@ struct RecordStateController::Private {
     void deviceEvent(Platform::InputUnit::Event event, RecordSource& source);
     void showLosses();
     void showWriteProblem();
+    void showSilences();
+    [[nodiscard]] bool isSilentTooLong(const RecordSource& source) const;
+    [[nodiscard]] RecordNotice silenceNotice(const RecordSource& source) const;
     void lookForRoom();
     void followRoom(const RecordRoom::Room& room);
     void continueAfterFullDisk();
@@ -135,6 +142,7 @@ struct RecordStateController::Private {
     [[nodiscard]] double secondsAtHand() const;
     [[nodiscard]] RecordLosses engineLosses() const;
     void followCycle(RecordSource& source);
+    static void followSilence(RecordSource& source, float level, std::uint64_t now);
 
     /// How the file of one source ends.
     struct FileEnding {
@@ -152,6 +160,7 @@ struct RecordStateController::Private {
     };
 
     [[nodiscard]] QString recordFolder() const;
+    void applyPreRoll();
     // With cycles held and the mutex locked.
     [[nodiscard]] static QString rawPath(const RecordSource& source);
     /// The event of the notice about a source that is off.

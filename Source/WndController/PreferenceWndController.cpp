@@ -81,6 +81,9 @@ void PreferenceWndController::awakeFromNib() {
         });
     ui_->splitTimePopUp->addItems(splitTimes);
     ui_->filterTimePopUp->addItems(filterTimes);
+    ui_->preRollField->setMaximum(Settings::LongestPreRollMS);
+    // A screen reader finds the spin box's own line edit.
+    ui_->preRollField->findChild<QLineEdit*>()->setAccessibleName(ui_->preRollField->accessibleName());
 
     using Self = PreferenceWndController;
     connect(ui_->chooseAudioPathButton, &QPushButton::clicked, this, &Self::chooseOutAudioPath);
@@ -136,6 +139,7 @@ void PreferenceWndController::initPerferceInterface() {
     chooseFilterEffect();
     select(ui_->splitTimePopUp, Platform::stringForm(Settings::value(Settings::splitTimeMS)));
     select(ui_->filterTimePopUp, Platform::stringForm(Settings::value(Settings::filterTime)));
+    ui_->preRollField->setValue(Platform::intValue(Settings::value(Settings::preRollMS)));
     ui_->notificationsCheckBox->setChecked(Platform::boolValue(Settings::value(Settings::notifications)));
     ui_->autostartCheckBox->setVisible(autostart_ != nullptr);
     ui_->autostartCheckBox->setChecked(autostart_ && autostart_->isEnabled());
@@ -186,6 +190,8 @@ bool PreferenceWndController::windowShouldClose() {
     g_SplitTimeMS = split ? Platform::intValue(splitTime) : -1;
     setPreferenceValue(splitTime, PreferenceSplitTimeMSKey);
     setPreferenceValue(ui_->filterTimePopUp->currentText(), PreferenceFilterTimeKey);
+    if (ui_->preRollField->value() != Platform::intValue(Settings::value(Settings::preRollMS)))
+        setPreferenceValue(qlonglong(ui_->preRollField->value()), PreferencePreRollMSKey);
     setPreferenceValue(qlonglong(ui_->notificationsCheckBox->isChecked()), PreferenceNotificationsKey);
     applyAutostart();
     return true;

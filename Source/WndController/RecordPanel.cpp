@@ -205,6 +205,10 @@ void RecordPanel::help(const RecordNotice& notice) {
         ui_.popBuiltInDevice_->setFocus(Qt::OtherFocusReason);
         ui_.popBuiltInDevice_->showPopup();
         break;
+    case RecordNotice::Help::Unmute:
+        record_.unmuteBuiltInDevice();
+        record_.dismissNotice(notice.event);
+        break;
     case RecordNotice::Help::FreeSpace:
         if (workspace)
             (void)workspace->openUrl(QUrl::fromLocalFile(target));

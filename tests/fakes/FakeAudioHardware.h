@@ -55,6 +55,8 @@ public:
     OSStatus feed(const std::vector<std::vector<float>>& channels, std::uint64_t hostTime = 0);
     /// Runs one cycle with the same sample in every channel.
     OSStatus feedValue(float value, std::uint32_t frames, std::uint64_t hostTime = 0);
+    /// The next cycle comes so many frames later.
+    void loseFrames(std::uint32_t frames) { sampleTime_ += frames; }
     /// Calls the event handler.
     void tell(Event event) {
         if (handler_)

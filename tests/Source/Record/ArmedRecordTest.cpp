@@ -79,6 +79,43 @@ TEST_F(ArmedRecordTest, TheFileBeginsWithTheCycleOfTheFirstSound) {
     EXPECT_EQ(media.last().framesAccepted, 480 + 48000);
 }
 
+TEST_F(ArmedRecordTest, TheFileBeginsTheSetTimeBeforeTheFirstSound) {
+    for (const auto& [stored, frames] :
+         {std::pair<QVariant, int>{500, 24000}, {u"250"_s, 12000}, {-1, 0}, {60000, 5 * 48000}, {QVariantList{}, 0}}) {
+        controller.reset();
+        defaults.setObject(PreferenceStore::PreferencePreRollMSKey, stored);
+        beginWithComputerAudioOnly();
+        play(ComputerAudio, 0, 3);
+        controller->startAndStopRecord();
+        play(ComputerAudio, 0, 3);
+        play(ComputerAudio, 0.25F, 6);
+        EXPECT_EQ(media.last().framesAccepted, frames + 6 * 48000) << stored.typeName();
+        EXPECT_NEAR(controller->recordedSeconds(), frames / 48000.0 + 6, 1e-6);
+    }
+}
+
+TEST_F(ArmedRecordTest, ATimeBeforeTheFirstSoundThatIsSetLaterAppliesToTheNextStart) {
+    beginWithComputerAudioOnly();
+    defaults.setObject(PreferenceStore::PreferencePreRollMSKey, 500);
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0, 3);
+    play(ComputerAudio, 0.25F, 6);
+    EXPECT_EQ(media.last().framesAccepted, 24000 + 6 * 48000);
+}
+
+TEST_F(ArmedRecordTest, AfterACutTheNextSoundRepeatsNothing) {
+    beginWithComputerAudioOnly();
+    setFilter(false);
+    defaults.setObject(PreferenceStore::PreferencePreRollMSKey, 500);
+    g_SplitTimeMS = 300;
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0, 1);
+    play(ComputerAudio, 0.25F, 2);
+    play(ComputerAudio, 0, 1);
+    play(ComputerAudio, 0.25F, 2);
+    EXPECT_EQ(framesWritten(), 24000 + 5 * 48000);
+}
+
 TEST_F(ArmedRecordTest, StopBeforeAnySoundKeepsWaitingAndReportsIt) {
     beginWithComputerAudioOnly();
     controller->startAndStopRecord();

@@ -65,6 +65,104 @@ TEST_F(RecordNoticesTest, AnOutageIsOneNoticeInSecondsHoweverOftenTheDeviceGoes)
     controller->startAndStopRecord();
 }
 
+TEST_F(RecordNoticesTest, TenSecondsOfDigitalSilenceAreNamedUntilThereIsASound) {
+    addMicrophone();
+    begin();
+    controller->startAndStopRecord();
+    play(Microphone, 0.5F, 1);
+    play(Microphone, 0, 9.9);
+    tick();
+    expectNoNotice();
+    play(Microphone, 0, 0.2);
+    tick();
+    ASSERT_TRUE(tells(u"The input device has delivered only silence for 10 s."_s));
+    tick(3);
+    EXPECT_TRUE(tells(u"only silence"_s)) << "once";
+    play(Microphone, 0.001F, 0.01);
+    tick();
+    expectNoNotice();
+    play(Microphone, 0, 10.1);
+    tick();
+    ASSERT_TRUE(tells(u"only silence"_s));
+    controller->startAndStopRecord();
+    tick();
+    EXPECT_TRUE(tells(u"only silence"_s)) << "whoever comes back finds out why the recording is silent";
+}
+
+TEST_F(RecordNoticesTest, AMutedInputIsNamedWithTheWayToUnmuteIt) {
+    addMicrophone();
+    begin();
+    controller->startAndStopRecord();
+    hardware.find(Microphone)->elements[1] = {.volume = 1, .mute = true};
+    play(Microphone, 0, 11);
+    tick();
+    ASSERT_TRUE(tells(u"The input device is muted"_s));
+    EXPECT_EQ(only().help, Help::Unmute);
+    controller->unmuteBuiltInDevice();
+    EXPECT_FALSE(hardware.find(Microphone)->elements[1].mute);
+}
+
+TEST_F(RecordNoticesTest, APauseIsNoSilence) {
+    addMicrophone();
+    begin();
+    controller->startAndStopRecord();
+    play(Microphone, 0, 9);
+    controller->pauseAndResumeRecord();
+    play(Microphone, 0, 9);
+    tick();
+    expectNoNotice();
+    controller->pauseAndResumeRecord();
+    play(Microphone, 0, 9);
+    tick();
+    expectNoNotice();
+}
+
+TEST_F(RecordNoticesTest, SilentComputerAudioIsNamedWithTheOutputThatIsRecorded) {
+    add(30, u"Headphones"_s);
+    hardware.defaultOutput = 30;
+    beginWithComputerAudioOnly();
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0, 20);
+    tick();
+    expectNoNotice(); // it waits for the first sound
+    play(ComputerAudio, 0.5F, 1);
+    play(ComputerAudio, 0, 10.1);
+    tick();
+    EXPECT_TRUE(tells(u"nothing plays on Headphones, the output that is recorded."_s));
+}
+
+TEST_F(RecordNoticesTest, SilenceIsExpectedWhereItCutsAndBesideAnInputDevice) {
+    g_SplitTimeMS = 20000;
+    beginWithComputerAudioOnly();
+    controller->startAndStopRecord();
+    play(ComputerAudio, 0.5F, 1);
+    play(ComputerAudio, 0, 11);
+    tick();
+    expectNoNotice();
+    controller->startAndStopRecord();
+    ASSERT_TRUE(queueDone());
+    controller->chooseRecordBuiltIn(true);
+    controller->startAndStopRecord();
+    playBoth(0.5F, 1);
+    for (int i = 0; i < 1100; ++i) {
+        hardware.unitOf(Microphone)->feedValue(0.5F, 480, clock.hostTime());
+        hardware.unitOf(ComputerAudio)->feedValue(0, 480, clock.hostTime());
+        clock.advance(0.01);
+    }
+    tick();
+    expectNoNotice();
+    controller->startAndStopRecord();
+    ASSERT_TRUE(queueDone());
+    controller->startAndStopRecord();
+    for (int i = 0; i < 1100; ++i) {
+        hardware.unitOf(Microphone)->feedValue(0.5F, 480, clock.hostTime());
+        hardware.unitOf(ComputerAudio)->feedValue(0, 480, clock.hostTime());
+        clock.advance(0.01);
+    }
+    tick();
+    EXPECT_TRUE(tells(u"Computer audio has been silent for 10 s"_s)) << "it was never heard in this recording";
+}
+
 TEST_F(RecordNoticesTest, NoticesOfARecordingGoWhenTheNextOneStarts) {
     addMicrophone();
     begin();

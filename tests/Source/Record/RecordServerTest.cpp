@@ -39,6 +39,37 @@ TEST_F(RecordServer, ComputerAudioAloneWaitsForTheFirstSound) {
     EXPECT_NEAR(AudioCheck::pitchOf(AudioCheck::inner(samples[0], 6000), 44100), 440, 1);
 }
 
+TEST_F(RecordServer, TheSetTimeBeforeTheFirstSoundIsInTheRecording) {
+    std::atomic<std::int64_t> begins{-1};
+    TestSource computer(computerAudio([&](std::uint64_t frame, std::uint32_t) {
+        const std::int64_t sound = begins;
+        return sound >= 0 && frame >= std::uint64_t(sound) ? Signal::tone(frame, 440, 48000, 0.25) : 0.0F;
+    }));
+    ASSERT_TRUE(computer.start());
+    ASSERT_TRUE(deviceIsThere(RecordSources::ComputerAudioName));
+    defaults.setObject(PreferenceStore::PreferenceFilterKey, 0);
+    defaults.setObject(PreferenceStore::PreferencePreRollMSKey, 500);
+    begin(false, true);
+    std::mt19937 random(815);
+    for (int round = 0; round < 10; ++round) {
+        begins = -1;
+        const auto silent = computer.position() + 48000;
+        ASSERT_TRUE(waitFor([&] { return computer.position() > silent; }));
+        controller->startAndStopRecord();
+        // A whole number of periods, so that the sound begins with its first rising edge wherever it begins.
+        begins = std::int64_t(computer.position() + 9600 + random() % 4800) / 1200 * 1200;
+        ASSERT_TRUE(recorded(0.8));
+        controller->finishAll();
+        ASSERT_EQ(delegate.paths.size(), round + 1);
+        const auto samples = decoded(delegate.paths.back());
+        ASSERT_EQ(samples.size(), 2U);
+        const auto sound =
+            std::find_if(samples[0].begin(), samples[0].end(), [](float sample) { return std::fabs(sample) > 0.1F; });
+        // From 0 to 0.1 the tone takes 7 frames. The rest is what the encoder smears over the edge.
+        EXPECT_NEAR(double(sound - samples[0].begin()), 0.5 * 44100 + 7, 4) << "round " << round;
+    }
+}
+
 TEST_F(RecordServer, SilencesBetweenSongsCutTheRecording) {
     constexpr double pitches[] = {330, 550, 770};
     constexpr std::uint64_t song = 2 * 48000;

@@ -24,6 +24,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -228,6 +229,22 @@ TEST_F(Preferences, ClosingAppliesAndStoresEverything) {
         {u"PreferenceSplitTimeMSKey"_s, u"1000"_s},     {u"PreferenceFilterTimeKey"_s, u"10"_s},
         {u"PreferenceNotificationsKey"_s, qlonglong(1)}};
     EXPECT_EQ(defaults.values(), expected);
+}
+
+TEST_F(Preferences, TheTimeBeforeTheFirstSoundIsStoredOnceItIsChanged) {
+    open();
+    auto* field = find<QSpinBox>("preRollField");
+    EXPECT_EQ(field->value(), 0);
+    EXPECT_EQ(field->maximum(), 5000);
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_Up);
+    controller->window()->close();
+    EXPECT_EQ(defaults.objectForKey(u"PreferencePreRollMSKey"_s), qlonglong(100));
+    defaults.setObject(u"PreferencePreRollMSKey"_s, u"700"_s);
+    open();
+    EXPECT_EQ(find<QSpinBox>("preRollField")->value(), 700);
+    controller->window()->close();
+    EXPECT_EQ(defaults.objectForKey(u"PreferencePreRollMSKey"_s), u"700"_s) << "unchanged";
 }
 
 TEST_F(Preferences, TurningSplittingOffStillStoresItsTime) {
