@@ -3,6 +3,7 @@
 #pragma once
 
 #include <csignal>
+#include <initializer_list>
 
 /// Gives the signals that end a recording their default action. When the tests run in the background or under nohup,
 /// the programs that they start would inherit the ignored signals and keep them ignored.
