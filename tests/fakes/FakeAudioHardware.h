@@ -101,7 +101,7 @@ public:
     std::uint64_t lostFrames() const override { return state_->lost; }
     void setFillLostFrames(bool on) override { state_->fillsLost = on; }
     void setEventHandler(EventHandler handler) override { handler_ = std::move(handler); }
-    QString lastError() const override { return QStringLiteral("the step was told to fail"); }
+    QString lastError() const override { return QStringLiteral("the step is set to fail"); }
 
 private:
     OSStatus step(Step which) {
