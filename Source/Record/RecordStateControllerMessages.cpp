@@ -223,27 +223,28 @@ bool RecordStateController::Private::isSilentTooLong(const RecordSource& source)
 
 RecordNotice RecordStateController::Private::silenceNotice(const RecordSource& source) const {
     const QString seconds = QString::number(int(LongSilence));
-    RecordNotice told;
-    told.event = u"silent "_s + source.label;
+    RecordNotice message;
+    message.event = u"silent "_s + source.label;
     if (&source == &computer) {
         AudioObjectID output = 0;
         QString name;
         auto& hardware = *Platform::services().audioHardware;
         if (hardware.getDefaultOutputDevice(output) == noErr)
             (void)hardware.getDeviceName(output, name);
-        told.text =
+        message.text =
             name.isEmpty()
                 ? u"Computer audio has been silent for %1 s: nothing plays."_s.arg(seconds)
                 : u"Computer audio has been silent for %1 s: nothing plays on %2, the output that is recorded."_s.arg(
                       seconds, name);
     } else if (BuildInAudioRecord::isMuted(devices->boundDevice())) {
-        told.text = u"The input device is muted: only silence has been recorded for %1 s."_s.arg(seconds);
-        told.help = RecordNotice::Help::Unmute;
+        message.text = u"The input device is muted: only silence has been recorded for %1 s."_s.arg(seconds);
+        message.help = RecordNotice::Help::Unmute;
     } else {
-        told.text = u"The input device has delivered only silence for %1 s. It may be switched off, or the wrong one: "
-                    "another one can be chosen when the recording is stopped."_s.arg(seconds);
+        message.text =
+            u"The input device has delivered only silence for %1 s. It may be switched off, or the wrong one: "
+            "another one can be chosen when the recording is stopped."_s.arg(seconds);
     }
-    return told;
+    return message;
 }
 
 /// Queries the free space now and then; see TicksBetweenLooks.
