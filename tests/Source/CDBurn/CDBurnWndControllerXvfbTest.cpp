@@ -33,6 +33,7 @@ protected:
     /// Clicks a widget once the pointer is on it: the window manager may still be moving the window.
     static void click(const QWidget& widget) {
         ASSERT_TRUE(waitFor([&] {
+            pointTo(QPoint()); // a pointer that does not move sends no event
             pointTo(widget.mapToGlobal(widget.rect().center()));
             return waitFor([&] { return widget.underMouse(); }, 500);
         }));
