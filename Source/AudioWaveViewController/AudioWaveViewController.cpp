@@ -105,6 +105,7 @@ QString helpImage(RecordNotice::Help help) {
     case RecordNotice::Help::Show:
         return u"show"_s;
     case RecordNotice::Help::ChooseDevice:
+    case RecordNotice::Help::Unmute:
         return u"microphone"_s;
     case RecordNotice::Help::FreeSpace:
         return u"folder"_s;
