@@ -76,6 +76,16 @@ const QDateTime& referenceDate() {
     return date;
 }
 
+/// libplist 2.2 writes an unsigned number as a signed one, and has no other. Since 2.3 it writes it unsigned, so that a
+/// negative number would become a huge one, and has a function for signed numbers; PLIST_UINT is a macro since then.
+plist_t integerNode(qlonglong value) {
+#ifdef PLIST_UINT
+    return plist_new_int(value);
+#else
+    return plist_new_uint(static_cast<std::uint64_t>(value));
+#endif
+}
+
 plist_t nodeFrom(const QVariant& object);
 
 template <typename Map>
@@ -102,7 +112,7 @@ plist_t nodeFrom(const QVariant& object) {
     case QMetaType::Char:
     case QMetaType::SChar:
     case QMetaType::UChar:
-        return plist_new_uint(static_cast<std::uint64_t>(object.toLongLong()));
+        return integerNode(object.toLongLong());
     case QMetaType::ULong:
     case QMetaType::ULongLong:
         return plist_new_uint(object.toULongLong());

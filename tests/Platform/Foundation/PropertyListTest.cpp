@@ -9,6 +9,7 @@
 #include <QTimeZone>
 #include <clocale>
 #include <gtest/gtest.h>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 namespace PropertyList = Platform::PropertyList;
@@ -66,6 +67,14 @@ TEST(PropertyList, WritesNumbersIndependentlyOfTheLocale) {
     EXPECT_TRUE(PropertyList::toXml(one).contains("5400.25"));
     EXPECT_EQ(thereAndBack(one), one);
     std::setlocale(LC_ALL, "C");
+}
+
+TEST(PropertyList, WritesNegativeNumbersWithTheirSign) {
+    const Dictionary one{{u"least"_s, std::numeric_limits<qlonglong>::min()}, {u"one"_s, -1}};
+    const QByteArray xml = PropertyList::toXml(one);
+    EXPECT_TRUE(xml.contains("<integer>-1</integer>")) << xml.constData();
+    EXPECT_TRUE(xml.contains("<integer>-9223372036854775808</integer>")) << xml.constData();
+    EXPECT_EQ(thereAndBack(one), one);
 }
 
 TEST(PropertyList, OmitsValuesThatAPropertyListCannotHold) {
