@@ -209,6 +209,13 @@ TEST_F(ListOnADesktop, TheSortingIsRememberedAndADoubleClickHitsTheLastRowTwice)
     EXPECT_TRUE(waitFor([&] { return titles() == descending; })) << qPrintable(titles().join(u','));
 
     table().clearSelection();
+    // The window manager may still be moving the new window.
+    ASSERT_TRUE(waitFor([&] {
+        const QPoint place = rowPlace(2);
+        EXPECT_TRUE(desktop().xdotool(
+            {u"mousemove"_s, u"0"_s, u"0"_s, u"mousemove"_s, QString::number(place.x()), QString::number(place.y())}));
+        return waitFor([&] { return table().viewport()->underMouse() && rowPlace(2) == place; }, 500);
+    }));
     const int interval = QApplication::doubleClickInterval();
     QApplication::setDoubleClickInterval(30000);
     clickAt(rowPlace(2), 1, 2);
