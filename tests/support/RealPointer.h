@@ -15,12 +15,6 @@
 /// while xdotool runs.
 namespace RealPointer {
 
-/// Whether the window manager shows @p window and has made it the active one.
-[[nodiscard]] inline bool shown(QWidget& window) {
-    return waitFor([&] { return window.windowHandle() && window.windowHandle()->isExposed(); }) &&
-           waitFor([&] { return window.isActiveWindow(); });
-}
-
 /// The screen position of a point of @p widget.
 [[nodiscard]] inline QPoint onScreen(const QWidget& widget, QPointF place) {
     return widget.mapToGlobal(place.toPoint());
@@ -36,6 +30,34 @@ namespace RealPointer {
     QProcess pointer;
     pointer.start(QStringLiteral("xdotool"), words);
     return waitFor([&] { return pointer.state() == QProcess::NotRunning; }, 60000) && pointer.exitCode() == 0;
+}
+
+/// Notes where the pointer is in a window, by the X server's events.
+class PointerNote : public QObject {
+public:
+    explicit PointerNote(QWindow& window) { window.installEventFilter(this); }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::MouseMove || event->type() == QEvent::Enter)
+            place = static_cast<QSinglePointEvent*>(event)->position().toPoint();
+        return QObject::eventFilter(watched, event);
+    }
+    QPoint place{-1, -1};
+};
+
+/// Whether the window manager shows @p window, has made it the active one, and no longer moves it: the pointer, sent to
+/// its middle, arrives there.
+[[nodiscard]] inline bool shown(QWidget& window) {
+    if (!waitFor([&] { return window.windowHandle() && window.windowHandle()->isExposed(); }) ||
+        !waitFor([&] { return window.isActiveWindow(); }))
+        return false;
+    PointerNote note(*window.windowHandle());
+    return waitFor([&] {
+        note.place = {-1, -1};
+        const QPoint middle = window.rect().center();
+        // A pointer that does not move sends no event.
+        return run(moveTo({0, 0}) + moveTo(window.mapToGlobal(middle))) &&
+               waitFor([&] { return note.place == middle; }, 500);
+    });
 }
 
 /// The arguments that press the left button at @p from and move in steps to @p to. The button stays pressed.
