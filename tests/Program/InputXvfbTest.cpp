@@ -72,6 +72,9 @@ TEST_F(InputOnADesktop, AStartWithoutADeviceStaysIdleAndSaysWhyUntilOneIsConnect
     expectIdle();
     keys(u"ctrl+r"_s);
     keys(u"ctrl+n"_s);
+    // Keys arrive in their order: a start that came after the device would succeed.
+    keys(u"ctrl+f"_s);
+    ASSERT_TRUE(waitFor([&] { return outlet("searchField_").hasFocus(); }));
     expectIdle();
     TestSource microphone({.name = "test.microphone", .description = "Test Microphone"});
     ASSERT_TRUE(microphone.start());
