@@ -23,6 +23,7 @@ QIcon::Mode markMode(const QStyleOptionViewItem& cell) {
 // What the user has done with a title editor that the window opened by itself: nothing, clicked into it, or typed
 // (Taken). An editor that the user opened does not have the property and so counts as Taken.
 constexpr const char* kOffer = "offer";
+constexpr const char* kFilled = "filled";
 enum Offer { Taken, Clicked, Untouched };
 
 bool endsEditing(int key) {
@@ -94,6 +95,13 @@ QWidget* AudioRowDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
     editor->setObjectName(QStringLiteral("titleEditor"));
     editor->setAccessibleName(tr("Title"));
     return editor;
+}
+
+void AudioRowDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
+    if (editor->property(kFilled).toBool())
+        return;
+    editor->setProperty(kFilled, true);
+    QStyledItemDelegate::setEditorData(editor, index);
 }
 
 void AudioRowDelegate::offer(QWidget& editor) {

@@ -37,6 +37,9 @@ public:
     [[nodiscard]] static int rowHeight(const QTableView& table);
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    /// Fills the editor once. The table asks for it again whenever the row changes; the text that the user has typed or
+    /// selected must stay.
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

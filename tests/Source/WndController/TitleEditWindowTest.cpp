@@ -74,6 +74,21 @@ TEST_F(TitlesOfTheWindow, TheRowKeepsItsHighlightWhileItsTitleIsTypedOver) {
     EXPECT_EQ(ground(), selected);
 }
 
+TEST_F(TitlesOfTheWindow, AChangeOfTheRowLeavesWhatIsSelectedAndTyped) {
+    clickRow(1);
+    clickRow(1);
+    ASSERT_NO_FATAL_FAILURE(clickAgain(1));
+    auto& model = *table().model();
+    Q_EMIT model.dataChanged(model.index(1, 0), model.index(1, model.columnCount() - 1));
+    EXPECT_EQ(editor()->selectedText(), u"Bravo"_s);
+    type(u"Typ"_s);
+    Q_EMIT model.dataChanged(model.index(1, 0), model.index(1, model.columnCount() - 1));
+    EXPECT_EQ(editor()->text(), u"Typ"_s);
+    type(u"ed"_s);
+    key(Qt::Key_Return);
+    EXPECT_TRUE(waitFor([&] { return isTitled(u"Typed"_s); }));
+}
+
 TEST_F(TitlesOfTheWindow, EscapeLeavesTheTitle) {
     clickRow(1);
     clickRow(1);
