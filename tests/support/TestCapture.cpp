@@ -35,6 +35,8 @@ struct TestCapture::Connection : ClientConnection {
         pw_properties_setf(properties, PW_KEY_NODE_RATE, "1/%u", options.rate);
         if (options.monitor)
             pw_properties_set(properties, PW_KEY_STREAM_CAPTURE_SINK, "true");
+        if (options.exclusive)
+            pw_properties_set(properties, PW_KEY_NODE_EXCLUSIVE, "true");
         stream.reset(pw_stream_new(core.get(), "test capture", properties));
         // Not in real time, so it may lock: the process callback runs on the loop's thread.
         static constexpr pw_stream_events events = {

@@ -24,6 +24,7 @@ public:
         bool monitor = true;                    ///< false for an input device
         std::uint32_t rate = 48000;
         std::uint32_t channels = 2;
+        bool exclusive = false; ///< the session manager refuses the target to everyone else
     };
 
     explicit TestCapture(Options options);

@@ -14,6 +14,7 @@ namespace Platform {
 
 using namespace PipeWire;
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -21,6 +22,11 @@ namespace {
 /// capture times are exact in blocks of any length, and every block wakes a thread. A power of two, to which the server
 /// rounds down, and its longest quantum by default. It uses less when another program asks for less.
 constexpr std::uint32_t longestBlock = 2048;
+
+/// The session manager refuses a device for a moment when it does not know it yet, or when an older link to it is still
+/// being removed. The time between two requests doubles from the first to the longest.
+constexpr std::chrono::milliseconds firstPause = 50ms;
+constexpr std::chrono::milliseconds longestPause = 2000ms;
 
 } // namespace
 
@@ -33,6 +39,9 @@ CaptureStream::CaptureStream(std::shared_ptr<DeviceRegistry> registry, Target ta
     work_ = LoopSource(loop,
                        pw_loop_add_event(
                            loop, [](void* data, std::uint64_t) { static_cast<CaptureStream*>(data)->onWork(); }, this));
+    askAgainTimer_ = LoopSource(
+        loop, pw_loop_add_timer(
+                  loop, [](void* data, std::uint64_t) { static_cast<CaptureStream*>(data)->revive(); }, this));
     registry_->add(*this);
 }
 
@@ -40,6 +49,7 @@ CaptureStream::~CaptureStream() {
     LoopLock lock(registry_->connection()->threadLoop());
     registry_->remove(*this);
     closeStream();
+    askAgainTimer_.reset();
     work_.reset();
 }
 
@@ -52,19 +62,25 @@ bool CaptureStream::open(int milliseconds, QString& why) {
             why = missing_ == Missing::Device ? u"the device is not there"_s : registry_->connection()->lastError();
             return false;
         }
+        opening_ = true;
         if (!connectStream(*device)) {
+            opening_ = false;
             why = u"the sound server refused to capture the device"_s;
             return false;
         }
     }
-    std::unique_lock lock(stateMutex_);
-    stateChanged_.wait_for(lock, std::chrono::milliseconds(milliseconds),
-                           [this] { return state_ != State::Connecting; });
-    if (state_ == State::Failed || state_ == State::Closed) {
-        why = QString::fromStdString(error_);
-        return false;
+    {
+        std::unique_lock lock(stateMutex_);
+        stateChanged_.wait_for(lock, std::chrono::milliseconds(milliseconds),
+                               [this] { return state_ == State::Streaming || state_ == State::Closed; });
     }
-    return true; // still connecting on a very busy machine: the stream starts later
+    LoopLock lock(registry_->connection()->threadLoop());
+    opening_ = false;
+    std::lock_guard guard(stateMutex_);
+    if (state_ == State::Streaming || (state_ == State::Connecting && error_.empty()))
+        return true; // still connecting on a very busy machine: the stream starts later
+    why = QString::fromStdString(error_);
+    return false;
 }
 
 bool CaptureStream::connectStream(const AudioDeviceInfo& device) {
@@ -119,12 +135,23 @@ bool CaptureStream::connectStream(const AudioDeviceInfo& device) {
 }
 
 void CaptureStream::closeStream() {
+    setAskAgainTimer(0ms);
     if (stream_)
         unhookFromDataThread(registry_->connection()->context(), listener_);
     stream_.reset();
     position_ = nullptr;
     if (state_ != State::Failed)
         setState(State::Closed);
+}
+
+void CaptureStream::setAskAgainTimer(std::chrono::milliseconds after) {
+    timespec value = {.tv_sec = after.count() / 1000, .tv_nsec = after.count() % 1000 * 1000000};
+    pw_loop_update_timer(registry_->connection()->loop(), askAgainTimer_.get(), &value, nullptr, false);
+}
+
+void CaptureStream::askAgainSoon() {
+    askAgainAfter_ = std::clamp(askAgainAfter_ * 2, firstPause, longestPause);
+    setAskAgainTimer(askAgainAfter_);
 }
 
 void CaptureStream::setState(State state, const char* error) {
@@ -141,6 +168,7 @@ void CaptureStream::onStateChanged(pw_stream_state state, const char* error) {
     switch (state) {
     case PW_STREAM_STATE_STREAMING:
         setState(State::Streaming);
+        askAgainAfter_ = 0ms;
         if (missing_ != Missing::Nothing) {
             observer_(missing_ == Missing::Server ? Change::ServerReturned : Change::DeviceReturned);
             missing_ = Missing::Nothing;
@@ -166,15 +194,17 @@ void CaptureStream::onWork() {
     if (gone_) {
         gone_ = false;
         closeStream();
-        lose(Change::DeviceLost);
+        if (!opening_)
+            lose(Change::DeviceLost);
         // The device may still exist, or exist again; then its deviceAppeared() was already delivered.
-        if (const auto device = registry_->device(target_.device); device && revive_.exchange(false))
-            connectStream(*device);
+        if (registry_->device(target_.device))
+            askAgainSoon();
         return;
     }
     if (revive_.exchange(false)) {
         if (const auto device = registry_->device(target_.device)) {
-            lose(Change::DeviceLost);
+            if (!opening_)
+                lose(Change::DeviceLost);
             connectStream(*device);
         }
         return;
@@ -202,14 +232,17 @@ void CaptureStream::lose(Change reason) {
 }
 
 void CaptureStream::deviceAppeared(const AudioDeviceInfo& device) {
-    if (device.id == target_.device && state_ != State::Streaming)
-        connectStream(device);
+    if (device.id != target_.device || state_ == State::Streaming)
+        return;
+    askAgainAfter_ = 0ms;
+    connectStream(device);
 }
 
 void CaptureStream::deviceGone(AudioObjectID device) {
     if (device != target_.device)
         return;
     closeStream();
+    setState(State::Closed, "the device went away");
     lose(Change::DeviceLost);
 }
 

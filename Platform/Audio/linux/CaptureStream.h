@@ -6,6 +6,7 @@
 #include "Platform/Audio/linux/DeviceRegistry.h"
 
 #include <atomic>
+#include <chrono>
 #include <condition_variable>
 #include <functional>
 #include <mutex>
@@ -36,8 +37,9 @@ public:
     CaptureStream(const CaptureStream&) = delete;
     CaptureStream& operator=(const CaptureStream&) = delete;
 
-    /// Connects to the device and waits until it is linked, at most @p milliseconds. False with @p why when the device
-    /// does not exist or refuses; it is still captured when it appears later.
+    /// Connects to the device and waits until it is linked, at most @p milliseconds. A session manager that refuses a
+    /// listed device is asked again in that time. False with @p why when the device does not exist or was refused to
+    /// the end.
     [[nodiscard]] bool open(int milliseconds, QString& why);
     /// Blocks pushed so far; used to notice a stream that stopped delivering. Any thread.
     [[nodiscard]] std::uint64_t blocks() const { return blocks_.load(std::memory_order_relaxed); }
@@ -61,6 +63,8 @@ private:
     void closeStream();
     void setState(State state, const char* error = nullptr);
     void lose(Change reason);
+    void askAgainSoon();
+    void setAskAgainTimer(std::chrono::milliseconds after); ///< 0: never
 
     void processRt() noexcept REC_NONBLOCKING;
     [[nodiscard]] std::uint64_t lostBeforeRt(const spa_io_clock& clock, std::uint64_t start) noexcept REC_NONBLOCKING;
@@ -75,6 +79,8 @@ private:
     Missing missing_ = Missing::Nothing;
     bool gone_ = false; ///< the stream lost its device and must be closed outside its own callback
     bool setVolume_ = false;
+    bool opening_ = false; ///< open() waits: a refusal is not a loss yet
+    std::chrono::milliseconds askAgainAfter_{0};
     std::atomic<bool> revive_{false};
 
     std::atomic<State> state_{State::Closed};
@@ -96,6 +102,7 @@ private:
 
     // Destroyed in reverse order.
     PipeWire::LoopSource work_;
+    PipeWire::LoopSource askAgainTimer_;
     PipeWire::StreamPtr stream_;
     PipeWire::Hook listener_;
 };

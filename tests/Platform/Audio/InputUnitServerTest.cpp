@@ -4,6 +4,8 @@
 
 #include "tests/support/BusyLoops.h"
 #include "tests/support/PrivateAudioSession.h"
+#include "tests/support/ServerWatch.h"
+#include "tests/support/TestCapture.h"
 #include "tests/support/TestSource.h"
 #include "tests/support/UnitCapture.h"
 #include "tests/support/WaitFor.h"
@@ -12,6 +14,7 @@
 #include <chrono>
 #include <cmath>
 #include <csignal>
+#include <memory>
 #include <set>
 #include <thread>
 
@@ -463,6 +466,41 @@ TEST_F(InputUnitTest, DoesNotStartOnARemovedDevice) {
     ASSERT_TRUE(waitFor([&] { return deviceNamed(*hardware_, u"Left before"_s) == 0; }));
     EXPECT_NE(capture.unit().start(), noErr);
     EXPECT_EQ(capture.unit().lastError(), u"the device is not there"_s);
+}
+
+TEST_F(InputUnitTest, AsksAgainForADeviceThatIsRefusedForAMoment) {
+    TestSource source({.name = "test.taken", .description = "Taken"});
+    UnitCapture capture(*hardware_, add(source));
+    auto taker = std::make_unique<TestCapture>(
+        TestCapture::Options{.target = "test.taken", .monitor = false, .exclusive = true});
+    ASSERT_TRUE(taker->start());
+    ServerWatch watch;
+    ASSERT_TRUE(watch.start());
+    std::atomic<bool> ended{false};
+    std::thread release([&] {
+        const auto wait = [&](bool forNode) {
+            while (!ended && watch.stateOf("sonaphex.capture").empty() == forNode)
+                std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        };
+        wait(true);
+        wait(false); // its node is gone: the first request was refused
+        taker.reset();
+    });
+    const auto started = capture.start();
+    ended = true;
+    release.join();
+    ASSERT_TRUE(started);
+    EXPECT_TRUE(captured(capture, 0.1));
+    EXPECT_FALSE(capture.heard(Event::DeviceLost));
+}
+
+TEST_F(InputUnitTest, TellsThatADeviceStaysRefused) {
+    TestSource source({.name = "test.kept", .description = "Kept"});
+    UnitCapture capture(*hardware_, add(source));
+    TestCapture taker({.target = "test.kept", .monitor = false, .exclusive = true});
+    ASSERT_TRUE(taker.start());
+    EXPECT_FALSE(capture.start());
+    EXPECT_FALSE(capture.unit().lastError().isEmpty());
 }
 
 TEST_F(InputUnitTest, KeepsUnityGainWhateverTheSessionManagerStored) {
