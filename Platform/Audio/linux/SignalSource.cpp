@@ -179,6 +179,8 @@ pw_properties* SignalSource::Connection::properties() const {
         pw_properties_set(list, PW_KEY_MEDIA_CATEGORY, "Playback");
     if (!options.target.empty())
         pw_properties_set(list, PW_KEY_TARGET_OBJECT, options.target.c_str());
+    if (options.staysAtTarget)
+        pw_properties_set(list, "node.dont-reconnect", "true");
     if (options.ownClock)
         pw_properties_set(list, PW_KEY_PRIORITY_DRIVER, "3000");
     if (options.sessionPriority > 0)
