@@ -11,6 +11,9 @@ namespace CaptureComputerAudio {
 
 namespace {
 
+/// The engine's property that says that it can choose programs.
+const auto kProgramsProperty = u"korvane.engine.programs"_s;
+
 void steer(const QString& value) {
     auto engines = IOService::getServicesByClassName(kEngineClass);
     if (!engines.empty())
@@ -31,6 +34,13 @@ void startCaptureComputerAudio() {
 
 void stopCaptureComputerAudio() {
     steer(kCaptureDriverPathKey);
+}
+
+bool choosePrograms(const Platform::ProgramChoice& choice) {
+    auto engines = IOService::getServicesByClassName(kEngineClass);
+    if (engines.empty() || engines.back().getProperty(kProgramsProperty).toString() != u"true"_s)
+        return choice.mode == Platform::ProgramChoice::Mode::Everything;
+    return engines.back().setProperty(QString::fromStdString(choice.encoded()), kCaptureDriverProgramsKey) == noErr;
 }
 
 bool captureComputerAudioIsUSBDevice() {

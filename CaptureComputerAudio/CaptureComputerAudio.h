@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Audio/ProgramChoice.h"
+
 #include <QString>
 
 /// Controls whether the capture driver carries the computer's audio. Main thread.
@@ -14,12 +16,17 @@ inline const QString kEngineClass = QStringLiteral("com_Korvane_driver_CaptureEn
 /// The engine's property that selects the output to capture, by its registry path. The key itself as value selects no
 /// output.
 inline const QString kCaptureDriverPathKey = QStringLiteral("kCaptureDriverPathKey");
+/// The engine's property that chooses programs: Platform::ProgramChoice::encoded().
+inline const QString kCaptureDriverProgramsKey = QStringLiteral("kCaptureDriverProgramsKey");
 
 /// Makes the capture driver capture the default output. Does nothing without a driver. The recorder calls it again
 /// whenever the default output changes.
 void startCaptureComputerAudio();
 /// Makes the driver capture nothing: the device remains and is silent.
 void stopCaptureComputerAudio();
+/// Makes the driver carry only the streams of the chosen programs, on whatever output they play, or everything again.
+/// False when there is no driver, or an older one that cannot choose: it goes on carrying everything.
+[[nodiscard]] bool choosePrograms(const Platform::ProgramChoice& choice);
 /// Whether the default output is a USB device.
 [[nodiscard]] bool captureComputerAudioIsUSBDevice();
 

@@ -4,6 +4,7 @@
 
 #include "Platform/Audio/AudioTypes.h"
 #include "Platform/Audio/InputUnit.h"
+#include "Platform/Audio/PlayingProgram.h"
 
 #include <memory>
 #include <vector>
@@ -43,6 +44,10 @@ public:
     /// opened.
     [[nodiscard]] virtual std::unique_ptr<InputUnit> openOutputUnit(bool& found) = 0;
 
+    /// The programs that have a stream for playing, sorted by name. The server is watched from the first call on, which
+    /// may return an empty list: playingProgramsChanged() follows.
+    [[nodiscard]] virtual std::vector<PlayingProgram> playingPrograms() { return {}; }
+
     /// Whether the sound server is the private one that this program starts on a machine without one: its input device
     /// is a test tone.
     [[nodiscard]] virtual bool isTestTone() const { return false; }
@@ -55,6 +60,8 @@ Q_SIGNALS:
     void devicesChanged();
     void defaultOutputDeviceChanged();
     void connectedChanged(bool connected);
+    /// Only after playingPrograms() was called once.
+    void playingProgramsChanged();
 };
 
 /// Makes the Linux implementation. It connects at once and keeps trying while there is no server. Main thread. @p

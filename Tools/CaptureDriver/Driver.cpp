@@ -8,11 +8,14 @@
 #include <cstdlib>
 #include <cstring>
 
+using namespace Platform;
 using namespace Platform::PipeWire;
 
 namespace {
 
 constexpr char kQuitKey[] = "korvane.driver.quit";
+/// The property of our node that says that programs can be chosen. An older driver has none.
+constexpr char kProgramsProperty[] = "korvane.engine.programs";
 
 std::string text(const spa_dict* properties, const char* key) {
     const char* value = properties ? spa_dict_lookup(properties, key) : nullptr;
@@ -45,6 +48,7 @@ std::string nameIn(const char* json) {
 } // namespace
 
 Driver::~Driver() {
+    streams_.reset();
     links_.clear();
     mixers_.clear();
     metadataListener_.remove();
@@ -62,6 +66,7 @@ bool Driver::start(const std::string& configuration) {
     pw_properties_set(properties_.get(), "factory.name", "support.null-audio-sink");
     // The server removes the node when this process ends.
     pw_properties_set(properties_.get(), "object.linger", "false");
+    pw_properties_set(properties_.get(), kProgramsProperty, "true");
     // PipeWire 1.4 treats a link as passive only when its node is passive. Otherwise no output could be suspended.
     pw_properties_set(properties_.get(), PW_KEY_NODE_PASSIVE, "in");
 
@@ -191,7 +196,7 @@ void Driver::onGlobalRemoved(std::uint32_t id) {
 void Driver::leave() {
     leaving_ = true;
     if (metadata_ && ownId_ != SPA_ID_INVALID)
-        for (const char* key : {kPathKey, kQuitKey})
+        for (const char* key : {kPathKey, kProgramsKey, kQuitKey})
             pw_metadata_set_property(metadata_.get(), ownId_, key, nullptr, nullptr);
     lookAgain();
 }
@@ -204,9 +209,17 @@ void Driver::onSteered(const std::string& key, const std::string& value) {
     }
     if (key == kPathKey)
         steering_ = value;
+    else if (key == kProgramsKey)
+        choosePrograms(value);
     else if (!value.empty())
         leave();
     lookAgain();
+}
+
+void Driver::choosePrograms(const std::string& value) {
+    choice_ = ProgramChoice::decoded(value);
+    if (choice_.mode != ProgramChoice::Mode::Everything && !streams_)
+        streams_ = std::make_unique<StreamWatch>(core_.get(), [this] { lookAgain(); });
 }
 
 void Driver::onMetadata(std::uint32_t subject, const char* key, const char* value) {
@@ -214,7 +227,7 @@ void Driver::onMetadata(std::uint32_t subject, const char* key, const char* valu
         return;
     if (subject == PW_ID_CORE && key && strcmp(key, "default.audio.sink") == 0) {
         defaultOutput_ = value ? nameIn(value) : "";
-    } else if (key && (strcmp(key, kPathKey) == 0 || strcmp(key, kQuitKey) == 0)) {
+    } else if (key && (strcmp(key, kPathKey) == 0 || strcmp(key, kProgramsKey) == 0 || strcmp(key, kQuitKey) == 0)) {
         // Before our node is created, all metadata belongs to other nodes, whose id may become ours.
         if (!created_)
             stale_[{subject, key}] = value ? value : "";

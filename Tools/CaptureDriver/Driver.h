@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Audio/ProgramChoice.h"
 #include "Platform/Audio/linux/PipeWireHandles.h"
+#include "Platform/Audio/linux/StreamWatch.h"
 #include "Tools/CaptureDriver/Mixer.h"
 
 #include <chrono>
@@ -15,12 +17,14 @@
 #include <vector>
 
 /// The computer-audio driver: creates a source in the sound server and feeds it from the monitor of an output, the
-/// default one unless another is selected. Everything runs on the one thread of the main loop. Members are destroyed in
-/// reverse order.
+/// default one unless another is selected; or from the streams of chosen programs, on any output. Everything runs on
+/// the one thread of the main loop. Members are destroyed in reverse order.
 class Driver {
 public:
     /// The metadata key of our node that selects the output; as a value it selects no output.
     static constexpr char kPathKey[] = "kCaptureDriverPathKey";
+    /// The metadata key of our node that chooses programs: an encoded Platform::ProgramChoice.
+    static constexpr char kProgramsKey[] = "kCaptureDriverProgramsKey";
 
     Driver() = default;
     ~Driver();
@@ -63,16 +67,17 @@ private:
         bool refused = false; ///< the server refused it
         bool gone = false;
     };
-    /// The links that carry the selected output to the driver's source.
+    /// The links that carry the selected output, or the chosen programs, to the driver's source.
     struct Wiring {
         std::set<Ports> links;
-        const Mixer* mixer = nullptr; ///< used when the links go through a mixer; null when they are direct
-        bool complete = true;         ///< false while a node or some of its ports are missing
+        std::set<const Mixer*> mixers; ///< through which links go
+        bool complete = true;          ///< false while a node or some of its ports are missing
     };
 
     void quit() { pw_main_loop_quit(loop_.get()); }
     void leave();
     void onSteered(const std::string& key, const std::string& value);
+    void choosePrograms(const std::string& value);
     void bindMetadata(std::uint32_t id);
     void createNode();
     void onGlobal(std::uint32_t id, const char* type, const spa_dict* properties);
@@ -88,9 +93,13 @@ private:
     enum class PortKind { Input, Output, Monitor };
     [[nodiscard]] std::vector<std::uint32_t> portsOf(std::uint32_t node, PortKind kind) const;
     [[nodiscard]] Wiring wiring();
-    [[nodiscard]] std::set<Ports> directLinks(const std::vector<std::uint32_t>& from) const;
-    [[nodiscard]] Wiring mixedLinks(const std::vector<std::uint32_t>& from);
-    [[nodiscard]] const Mixer* mixerFor(std::uint32_t output, const std::vector<std::string>& channels);
+    void wire(const std::vector<std::uint32_t>& from, Wiring& wiring);
+    void wirePrograms(Wiring& wiring);
+    void wireDirectly(const std::vector<std::uint32_t>& from, Wiring& wiring) const;
+    void wireThroughMixer(const std::vector<std::uint32_t>& from, Wiring& wiring);
+    [[nodiscard]] const Mixer* mixerFor(std::uint32_t node, const std::vector<std::string>& channels);
+    [[nodiscard]] std::set<std::uint32_t> nodesWithOutput() const;
+    void removeAllBut(const Wiring& wanted);
     [[nodiscard]] bool isLinkedByOthers(Ports ports) const;
     void connect(Ports ports);
 
@@ -118,12 +127,15 @@ private:
     std::map<std::uint32_t, Node> nodes_;
     std::map<std::uint32_t, Port> ports_;
     std::map<std::uint32_t, Ports> serverLinks_; ///< all links of the server, by its id
-    std::vector<std::unique_ptr<Mixer>>
-        mixers_; ///< the selected output's, and the previous one's until the new one delivers
+    /// Of the selected output, and of the previous one until the new one delivers; or of programs.
+    std::vector<std::unique_ptr<Mixer>> mixers_;
     std::map<Ports, Link> links_;
     std::map<Ports, SteadyClock::time_point> refused_; ///< when the server refused or removed a link of the driver
     SteadyClock::time_point mixerFailedAt_{};
     std::map<std::pair<std::uint32_t, std::string>, std::string> stale_; ///< by id and key
     std::string defaultOutput_;
     std::string steering_; ///< a registry path; the key itself selects nothing; empty follows the default output
+    Platform::ProgramChoice choice_;
+    bool carriesPrograms_ = false;                   ///< the links were made for chosen programs
+    std::unique_ptr<Platform::StreamWatch> streams_; ///< exists since programs were chosen for the first time
 };

@@ -49,68 +49,105 @@ std::vector<std::uint32_t> Driver::portsOf(std::uint32_t node, PortKind kind) co
 }
 
 Driver::Wiring Driver::wiring() {
-    const auto node = target();
-    if (node == SPA_ID_INVALID || ownId_ == SPA_ID_INVALID)
-        return {};
-    const auto from = portsOf(node, PortKind::Monitor);
-    // One or two channels are linked directly, bit for bit. More channels need a mixer.
-    return from.size() > 2 ? mixedLinks(from) : Wiring{directLinks(from), nullptr, true};
+    Wiring result;
+    if (ownId_ == SPA_ID_INVALID)
+        return result;
+    if (choice_.mode != ProgramChoice::Mode::Everything)
+        wirePrograms(result);
+    else if (const auto node = target(); node != SPA_ID_INVALID)
+        wire(portsOf(node, PortKind::Monitor), result);
+    return result;
+}
+
+/// One or two channels are linked directly, bit for bit. More channels need a mixer.
+void Driver::wire(const std::vector<std::uint32_t>& from, Wiring& wiring) {
+    if (from.size() > 2)
+        wireThroughMixer(from, wiring);
+    else
+        wireDirectly(from, wiring);
+}
+
+/// The streams of the chosen programs, as they leave the programs: the streams' own links are not changed. A stream
+/// that no output plays is left alone. Our link alone could make it run, and the user would miss what it plays
+/// meanwhile.
+void Driver::wirePrograms(Wiring& wiring) {
+    if (steering_ == kPathKey || !streams_)
+        return;
+    const auto heard = nodesWithOutput();
+    for (const auto& [id, stream] : streams_->streams())
+        if (stream.known && !stream.isEffect && heard.contains(id) && choice_.takes(stream.program))
+            wire(portsOf(id, PortKind::Output), wiring);
+}
+
+/// The nodes with a link to an output.
+std::set<std::uint32_t> Driver::nodesWithOutput() const {
+    std::set<std::uint32_t> found;
+    for (const auto& [id, ports] : serverLinks_) {
+        const auto from = ports_.find(ports.first);
+        const auto to = ports_.find(ports.second);
+        if (from == ports_.end() || to == ports_.end())
+            continue;
+        const auto output = nodes_.find(to->second.node);
+        if (output != nodes_.end() &&
+            (output->second.mediaClass == "Audio/Sink" || output->second.mediaClass == "Audio/Duplex"))
+            found.insert(from->second.node);
+    }
+    return found;
 }
 
 /// Left to left, right to right; a single channel goes to both sides; other channels by their order.
-std::set<Driver::Ports> Driver::directLinks(const std::vector<std::uint32_t>& from) const {
-    std::set<Ports> pairs;
+void Driver::wireDirectly(const std::vector<std::uint32_t>& from, Wiring& wiring) const {
     for (const auto to : portsOf(ownId_, PortKind::Input)) {
         const auto& channel = ports_.at(to).channel;
         bool found = false;
         for (const auto each : from) {
             const auto& name = ports_.at(each).channel;
             if (name == channel || name == "MONO") {
-                pairs.insert({each, to});
+                wiring.links.insert({each, to});
                 found = true;
             }
         }
         const std::size_t index = channel == "FR" ? 1 : 0;
         if (!found && from.size() > index && ports_.at(from[0]).channel != "FL" && ports_.at(from[0]).channel != "FR")
-            pairs.insert({from[index], to});
+            wiring.links.insert({from[index], to});
     }
-    return pairs;
 }
 
 /// Each channel into the mixer, and the mixer's two outputs to the source.
-Driver::Wiring Driver::mixedLinks(const std::vector<std::uint32_t>& from) {
+void Driver::wireThroughMixer(const std::vector<std::uint32_t>& from, Wiring& wiring) {
     std::vector<std::string> channels;
     channels.reserve(from.size());
     for (const auto each : from)
         channels.push_back(ports_.at(each).channel);
-    Wiring result;
-    result.mixer = mixerFor(ports_.at(from[0]).node, channels);
-    const auto node = result.mixer ? result.mixer->node() : SPA_ID_INVALID;
+    const Mixer* mixer = mixerFor(ports_.at(from[0]).node, channels);
+    if (mixer)
+        wiring.mixers.insert(mixer);
+    const auto node = mixer ? mixer->node() : SPA_ID_INVALID;
     const auto into = portsOf(node, PortKind::Input);
     const auto outOf = portsOf(node, PortKind::Output);
     const auto to = portsOf(ownId_, PortKind::Input);
-    result.complete = node != SPA_ID_INVALID && into.size() == from.size() && outOf.size() == 2 && to.size() == 2;
-    if (!result.complete)
-        return result;
+    if (node == SPA_ID_INVALID || into.size() != from.size() || outOf.size() != 2 || to.size() != 2) {
+        wiring.complete = false;
+        return;
+    }
     for (std::size_t i = 0; i < from.size(); ++i)
-        result.links.insert({from[i], into[i]});
+        wiring.links.insert({from[i], into[i]});
     for (std::size_t i = 0; i < to.size(); ++i)
-        result.links.insert({outOf[i], to[i]});
-    return result;
+        wiring.links.insert({outOf[i], to[i]});
 }
 
 /// Null when none can be created.
-const Mixer* Driver::mixerFor(std::uint32_t output, const std::vector<std::string>& channels) {
+const Mixer* Driver::mixerFor(std::uint32_t node, const std::vector<std::string>& channels) {
     if (std::erase_if(mixers_, [](const auto& each) { return each->broken(); }) > 0)
         mixerFailedAt_ = SteadyClock::now();
     for (const auto& each : mixers_)
-        if (each->output() == output && each->channels() == channels)
+        if (each->source() == node && each->channels() == channels)
             return each.get();
     if (SteadyClock::now() - mixerFailedAt_ < kRetryAfter) {
         retryLater();
         return nullptr;
     }
-    mixers_.push_back(std::make_unique<Mixer>(context_.get(), core_.get(), output, channels, [this] { lookAgain(); }));
+    mixers_.push_back(std::make_unique<Mixer>(context_.get(), core_.get(), node, channels, [this] { lookAgain(); }));
     return mixers_.back().get();
 }
 
@@ -205,6 +242,12 @@ void Driver::reconcile() {
     }
     forgetLostLinks();
     const Wiring wanted = wiring();
+    // An output that is carried beside its programs would double them, and a program that is not chosen must not be
+    // carried any longer than that.
+    if (const bool programs = choice_.mode != ProgramChoice::Mode::Everything; programs || carriesPrograms_) {
+        carriesPrograms_ = programs;
+        removeAllBut(wanted);
+    }
     bool complete = wanted.complete;
     for (const auto& each : wanted.links) {
         if (const auto own = links_.find(each); own != links_.end()) {
@@ -220,6 +263,10 @@ void Driver::reconcile() {
     // The old output is unlinked when the new one delivers.
     if (!complete)
         return;
+    removeAllBut(wanted);
+}
+
+void Driver::removeAllBut(const Wiring& wanted) {
     std::erase_if(links_, [&wanted](const auto& each) { return !wanted.links.contains(each.first); });
-    std::erase_if(mixers_, [&wanted](const auto& each) { return each.get() != wanted.mixer; });
+    std::erase_if(mixers_, [&wanted](const auto& each) { return !wanted.mixers.contains(each.get()); });
 }

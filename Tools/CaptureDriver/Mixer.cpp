@@ -7,9 +7,9 @@
 using namespace Platform;
 using namespace Platform::PipeWire;
 
-Mixer::Mixer(pw_context* context, pw_core* core, std::uint32_t output, std::vector<std::string> channels,
+Mixer::Mixer(pw_context* context, pw_core* core, std::uint32_t source, std::vector<std::string> channels,
              std::function<void()> failed)
-    : context_(context), output_(output), channels_(std::move(channels)), failed_(std::move(failed)) {
+    : context_(context), source_(source), channels_(std::move(channels)), failed_(std::move(failed)) {
     // No media class: the session manager links and suspends only nodes that have a media class.
     // Passive: while nothing captures the device, the output that the mixer reads may go to sleep.
     filter_.reset(pw_filter_new(core, "Korvane System Audio Mix",

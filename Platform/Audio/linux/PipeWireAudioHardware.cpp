@@ -140,6 +140,12 @@ std::unique_ptr<InputUnit> PipeWireAudioHardware::openOutputUnit(bool& found) {
     return std::make_unique<PipeWireInputUnit>(registry_);
 }
 
+std::vector<PlayingProgram> PipeWireAudioHardware::playingPrograms() {
+    if (!programs_)
+        programs_ = std::make_unique<ProgramList>([this] { postProgramsChanged(); });
+    return programs_->programs();
+}
+
 bool PipeWireAudioHardware::connected() const {
     return registry_->connection()->connected();
 }
@@ -186,6 +192,15 @@ void PipeWireAudioHardware::postDefaultOutputChanged() {
     MainQueue::post(this, [this] {
         defaultPosted_ = false;
         Q_EMIT defaultOutputDeviceChanged();
+    });
+}
+
+void PipeWireAudioHardware::postProgramsChanged() {
+    if (programsPosted_.exchange(true))
+        return;
+    MainQueue::post(this, [this] {
+        programsPosted_ = false;
+        Q_EMIT playingProgramsChanged();
     });
 }
 

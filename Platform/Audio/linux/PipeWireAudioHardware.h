@@ -4,6 +4,7 @@
 
 #include "Platform/Audio/AudioHardware.h"
 #include "Platform/Audio/linux/DeviceRegistry.h"
+#include "Platform/Audio/linux/ProgramList.h"
 
 #include <atomic>
 
@@ -27,6 +28,7 @@ public:
     OSStatus getDefaultOutputDevice(AudioObjectID& device) override;
     OSStatus getInputFormat(AudioObjectID device, double& sampleRate, std::uint32_t& channels) override;
     std::unique_ptr<InputUnit> openOutputUnit(bool& found) override;
+    std::vector<PlayingProgram> playingPrograms() override;
     bool isTestTone() const override { return testTone_; }
     bool connected() const override;
     QString lastError() const override;
@@ -42,6 +44,7 @@ private:
     void postDevicesChanged();
     void postDefaultOutputChanged();
     void postConnected();
+    void postProgramsChanged();
     /// Waits a moment for a server that is still describing its devices, once per connection: if each call waited, the
     /// window would stop responding.
     void settle() const;
@@ -51,9 +54,11 @@ private:
     std::shared_ptr<DeviceRegistry> registry_;
     std::atomic<bool> devicesPosted_{false};
     std::atomic<bool> defaultPosted_{false};
+    std::atomic<bool> programsPosted_{false};
     bool reportedConnected_ = false; ///< main thread
     const bool testTone_;
     mutable std::atomic<bool> patient_{true}; ///< settle() still waits
+    std::unique_ptr<ProgramList> programs_;   ///< exists when it was asked for; destroyed first
 };
 
 } // namespace Platform

@@ -1,0 +1,272 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The real driver carries the streams of chosen programs only.
+#include "CaptureComputerAudio/CaptureComputerAudio.h"
+#include "CaptureComputerAudio/CaptureDriver.h"
+#include "Platform/Audio/AudioHardware.h"
+#include "Platform/Audio/IORegistry.h"
+#include "Platform/Foundation/Services.h"
+#include "tests/support/HeardFrames.h"
+#include "tests/support/PrivateAudioSession.h"
+#include "tests/support/RunTool.h"
+#include "tests/support/ServerWatch.h"
+#include "tests/support/TestCapture.h"
+#include "tests/support/TestSource.h"
+#include "tests/support/WaitFor.h"
+
+#include <QFileInfo>
+#include <QProcess>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+using Platform::ProgramChoice;
+using Mode = ProgramChoice::Mode;
+
+namespace {
+
+const QString kBundle = QStringLiteral(SONAPHEX_BIN_DIR "/Resources/ComputerAudioCapture.kext");
+constexpr double kRate = 48000;
+
+class Programs : public testing::Test {
+protected:
+    Programs() {
+        Platform::services().audioHardware = hardware.get();
+        Platform::services().ioRegistry = registry.get();
+        QString why;
+        EXPECT_TRUE(CaptureDriver::load(kBundle, why, 10000)) << qPrintable(why);
+        EXPECT_TRUE(waitFor([] { return CaptureComputerAudio::choosePrograms({Mode::AllBut, {}}); }));
+        EXPECT_TRUE(CaptureComputerAudio::choosePrograms({}));
+    }
+    ~Programs() override {
+        EXPECT_TRUE(CaptureDriver::unload(20000));
+        second.closeWriteChannel();
+        second.terminate();
+        second.waitForFinished();
+    }
+
+    /// A program with a tone; @p name is its application id.
+    static std::unique_ptr<TestPlayer> tone(const std::string& name, double pitch, const std::string& target = "") {
+        auto player = std::make_unique<TestPlayer>(TestSource::Options{.name = name,
+                                                                       .description = name,
+                                                                       .content = TestSource::Content::Tone,
+                                                                       .frequency = pitch,
+                                                                       .target = target});
+        EXPECT_TRUE(player->start());
+        return player;
+    }
+    void choose(Mode mode, std::vector<std::string> programs) {
+        ASSERT_TRUE(CaptureComputerAudio::choosePrograms({mode, std::move(programs)}));
+    }
+    void expectFeeders(const std::set<std::string>& wanted) {
+        EXPECT_TRUE(waitFor([&] { return server.feedersOf("korvane.system-audio") == wanted; }))
+            << testing::PrintToString(server.feedersOf("korvane.system-audio"));
+    }
+    /// The level of a tone in the last second of a capture, in dB below full scale.
+    static double levelOf(const TestCapture& capture, double pitch) {
+        const auto before = capture.frames();
+        EXPECT_TRUE(waitFor([&] { return capture.frames() >= before + std::uint64_t(kRate) + 4096; }));
+        const auto all = capture.interleaved();
+        const auto frames = std::size_t(kRate);
+        const auto from = all.size() - 2 * frames;
+        double sine = 0;
+        double cosine = 0;
+        for (std::size_t i = 0; i < frames; ++i) {
+            // A window with low side lobes: one lost cycle would otherwise spread each tone over all others.
+            const double phase = 2 * std::numbers::pi * double(i) / double(frames);
+            const double window =
+                0.35875 - 0.48829 * std::cos(phase) + 0.14128 * std::cos(2 * phase) - 0.01168 * std::cos(3 * phase);
+            const double angle = 2 * std::numbers::pi * pitch * double(i) / kRate;
+            const double sample = double(all[from + 2 * i]) * window;
+            sine += sample * std::sin(angle);
+            cosine += sample * std::cos(angle);
+        }
+        return 20 * std::log10(std::max(2 * std::hypot(sine, cosine) / (0.35875 * double(frames)), 1e-12));
+    }
+
+    PrivateAudioSession& session = PrivateAudioSession::shared();
+    Platform::ServicesScope scope;
+    std::unique_ptr<Platform::AudioHardware> hardware = Platform::createAudioHardware();
+    std::unique_ptr<Platform::IORegistry> registry = Platform::createIORegistry();
+    ServerWatch server;
+    QProcess second;
+};
+
+TEST_F(Programs, OnlyTheChosenOneIsCarried) {
+    const auto one = tone("test.one", 440);
+    const auto two = tone("test.two", 1000);
+    TestCapture capture({.target = "korvane.system-audio", .monitor = false});
+    TestCapture heard({.target = "sonaphex.output", .monitor = true});
+    ASSERT_TRUE(capture.start());
+    ASSERT_TRUE(heard.start());
+    ASSERT_TRUE(server.start());
+    choose(Mode::Only, {"test.one"});
+    expectFeeders({"test.one"});
+    EXPECT_NEAR(levelOf(capture, 440), -12.04, 0.1);
+    EXPECT_LT(levelOf(capture, 1000), -90);
+    choose(Mode::AllBut, {"test.one"});
+    expectFeeders({"test.two"});
+    EXPECT_NEAR(levelOf(capture, 1000), -12.04, 0.1);
+    EXPECT_LT(levelOf(capture, 440), -90);
+    // The user goes on hearing both.
+    EXPECT_NEAR(levelOf(heard, 440), -12.04, 0.1);
+    EXPECT_NEAR(levelOf(heard, 1000), -12.04, 0.1);
+    choose(Mode::Everything, {});
+    expectFeeders({"sonaphex.output"});
+    EXPECT_NEAR(levelOf(capture, 440), -12.04, 0.1);
+    EXPECT_NEAR(levelOf(capture, 1000), -12.04, 0.1);
+}
+
+TEST_F(Programs, AChosenProgramIsCarriedExactly) {
+    choose(Mode::Only, {"test.ramp"});
+    const auto other = tone("test.other", 440);
+    TestCapture capture({.target = "korvane.system-audio", .monitor = false});
+    ASSERT_TRUE(capture.start());
+    TestPlayer player({.name = "test.ramp"});
+    ASSERT_TRUE(player.start());
+    ASSERT_TRUE(waitFor([&] { return HeardFrames(capture.interleaved()).longestRun > 48000; }));
+    // The two channels may be linked in two cycles, the first of which has one of them only.
+    auto samples = capture.interleaved();
+    std::size_t first = 0;
+    while (first + 1 < samples.size() && (samples[first] == 0 || samples[first + 1] == 0))
+        first += 2;
+    samples.erase(samples.begin(), samples.begin() + std::ptrdiff_t(first));
+    const HeardFrames heard(samples);
+    EXPECT_TRUE(heard.exact);
+    EXPECT_EQ(heard.silentWithin % HeardFrames::cycle, 0U);
+}
+
+TEST_F(Programs, AProgramThatStartsAgainIsBackWithin50Milliseconds) {
+    for (const Mode mode : {Mode::Only, Mode::AllBut}) {
+        choose(mode, {mode == Mode::Only ? "test.ramp" : "test.other"});
+        const auto other = tone("test.other", 440);
+        TestCapture capture({.target = "korvane.system-audio", .monitor = false});
+        ASSERT_TRUE(capture.start());
+        for (int round = 0; round < 5; ++round) {
+            const auto begin = capture.interleaved().size();
+            TestPlayer player({.name = "test.ramp"}); // its first frame is frame 0
+            ASSERT_TRUE(player.start());
+            std::vector<float> samples;
+            std::size_t sound = 0;
+            ASSERT_TRUE(waitFor([&] {
+                samples = capture.interleaved();
+                for (sound = begin; sound + 1 < samples.size(); sound += 2)
+                    if (samples[sound] != 0)
+                        return true;
+                return false;
+            }));
+            EXPECT_LT(Signal::rampFrame(samples[sound], 0), 2400U) << "frames were missed in round " << round;
+            RecordProperty("missed" + std::to_string(int(mode)) + std::to_string(round),
+                           int(Signal::rampFrame(samples[sound], 0)));
+            player.remove();
+            ASSERT_TRUE(waitFor([&] { return capture.recentPeak(4800) == 0; }));
+        }
+    }
+}
+
+TEST_F(Programs, SeveralStreamsOnSeveralOutputsAreAdded) {
+    second.start(u"pw-cli"_s, QStringList());
+    second.write(
+        "create-node adapter { factory.name=support.null-audio-sink node.name=test.second media.class=Audio/Sink "
+        "audio.position=[FL FR] priority.session=1 }\n");
+    ASSERT_TRUE(server.start());
+    ASSERT_TRUE(waitFor([&] { return !server.stateOf("test.second").empty(); }));
+    const auto constant = [](const std::string& name, float value, const std::string& target) {
+        TestSource::Options options{.name = name, .target = target};
+        options.sample = [value](std::uint64_t, std::uint32_t channel) { return channel ? 2 * value : value; };
+        auto player = std::make_unique<TestPlayer>(options);
+        EXPECT_TRUE(player->start());
+        return player;
+    };
+    const auto one = constant("test.one", 0.125F, "");
+    const auto two = constant("test.two", 0.0625F, "test.second");
+    const auto three = constant("test.three", 0.03125F, "");
+    TestCapture capture({.target = "korvane.system-audio", .monitor = false});
+    ASSERT_TRUE(capture.start());
+    const auto ends = [&](float left) {
+        return waitFor([&] {
+            const auto samples = capture.interleaved();
+            return samples.size() > 1 && samples[samples.size() - 2] == left && samples.back() == 2 * left;
+        });
+    };
+    choose(Mode::Only, {"test.one", "TEST.TWO"});
+    EXPECT_TRUE(ends(0.1875F));
+    choose(Mode::AllBut, {"test.one"});
+    EXPECT_TRUE(ends(0.09375F));
+    choose(Mode::AllBut, {});
+    EXPECT_TRUE(ends(0.21875F));
+    choose(Mode::Only, {});
+    EXPECT_TRUE(ends(0));
+}
+
+TEST_F(Programs, AStreamThatNoOutputPlaysIsLeftAlone) {
+    TestSource::Options options{.name = "test.silent", .target = "test.no.such.output"};
+    TestPlayer player(options);
+    ASSERT_TRUE(player.start());
+    const auto other = tone("test.other", 440);
+    ASSERT_TRUE(server.start());
+    // Unlink it from the output, as a user can.
+    for (const QString& channel : {u"FL"_s, u"FR"_s})
+        ASSERT_TRUE(waitFor([&] {
+            return runTool(u"pw-link"_s,
+                           {u"-d"_s, u"test.silent:output_"_s + channel, u"sonaphex.output:playback_"_s + channel})
+                       .status == 0;
+        }));
+    choose(Mode::AllBut, {"nothing"});
+    TestCapture capture({.target = "korvane.system-audio", .monitor = false});
+    ASSERT_TRUE(capture.start());
+    expectFeeders({"test.other"});
+    const auto position = player.position();
+    EXPECT_LT(levelOf(capture, 440), 0);
+    EXPECT_EQ(player.position(), position) << "it was made to play";
+    for (const QString& channel : {u"FL"_s, u"FR"_s})
+        ASSERT_EQ(runTool(u"pw-link"_s, {u"test.silent:output_"_s + channel, u"sonaphex.output:playback_"_s + channel})
+                      .status,
+                  0);
+    expectFeeders({"test.other", "test.silent"});
+}
+
+TEST_F(Programs, AVirtualOutputPlaysNothingTwice) {
+    // A program plays into the virtual output, whose stream plays it on the real one.
+    QProcess loopback;
+    loopback.start(u"pw-loopback"_s, {u"--capture-props"_s, u"{ media.class=Audio/Sink node.name=test.virtual }"_s,
+                                      u"--playback-props"_s, u"{ node.name=test.virtual.output }"_s});
+    ASSERT_TRUE(server.start());
+    ASSERT_TRUE(waitFor([&] { return !server.stateOf("test.virtual.output").empty(); }));
+    const auto one = tone("test.one", 440, "test.virtual");
+    TestCapture capture({.target = "korvane.system-audio", .monitor = false});
+    ASSERT_TRUE(capture.start());
+    choose(Mode::AllBut, {"nothing"});
+    expectFeeders({"test.one"});
+    EXPECT_NEAR(levelOf(capture, 440), -12.04, 0.1);
+    choose(Mode::AllBut, {"test.one"});
+    expectFeeders({});
+    EXPECT_LT(levelOf(capture, 440), -90);
+    loopback.terminate();
+    loopback.waitForFinished();
+}
+
+TEST_F(Programs, TheProgramsThatPlayAreListed) {
+    EXPECT_TRUE(hardware->playingPrograms().empty());
+    const auto found = [&](const QString& id) {
+        const auto all = hardware->playingPrograms();
+        const auto program = std::ranges::find(all, id, &Platform::PlayingProgram::id);
+        return program == all.end() ? Platform::PlayingProgram{} : *program;
+    };
+    int changes = 0;
+    const QObject context;
+    QObject::connect(hardware.get(), &Platform::AudioHardware::playingProgramsChanged, &context, [&] { ++changes; });
+    const auto two = tone("test.two", 1000);
+    auto one = tone("test.one", 440);
+    ASSERT_TRUE(waitFor([&] { return found(u"test.one"_s).isPlaying && found(u"test.two"_s).isPlaying; }));
+    EXPECT_GT(changes, 0);
+    // The executable is a property of the program's connection, not of its stream.
+    const QString binary = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
+    EXPECT_TRUE(found(u"test.one"_s).parts.contains(binary)) << qPrintable(found(u"test.one"_s).parts.join(u' '));
+    one->remove();
+    EXPECT_TRUE(waitFor([&] { return found(u"test.one"_s).id.isEmpty(); }));
+    EXPECT_TRUE(found(u"test.two"_s).isPlaying);
+}
+
+} // namespace
