@@ -67,7 +67,7 @@ bool AppDelegate::applicationDidFinishLaunching(bool hidden) {
 bool AppDelegate::recreateTemporaryFolder() {
     // Raw recordings of an earlier run are deleted on purpose, but never those of a running program.
     if (!running_.acquire()) {
-        lastError_ = running_.lastError().isEmpty() ? QStringLiteral("it is already running") : running_.lastError();
+        lastError_ = running_.lastError().isEmpty() ? tr("it is already running") : running_.lastError();
         return false;
     }
     const auto temporary = Platform::Folders::temporary();
@@ -129,7 +129,8 @@ void AppDelegate::performAction(const QString& action, const QByteArray& token) 
 void AppDelegate::openFile(const QString& path) {
     ToolControl::showWindowNib(*mainWndController_);
     if (const QString why = windows_.openFile(*mainWndController_, path); !why.isEmpty())
-        (void)Platform::services().alerts->runModal(tr("The file cannot be opened."), why, {tr("OK")});
+        (void)Platform::services().alerts->runModal(tr("The file cannot be opened."), why,
+                                                    {Platform::Alerts::okLabel()});
 }
 
 void AppDelegate::perference(QObject*) {

@@ -12,12 +12,14 @@
 #include "Platform/Foundation/Bundle.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/TerminationSignals.h"
+#include "Platform/Foundation/Translations.h"
 #include "Platform/LinuxServices.h"
 #include "Source/ProcessRequests/Launch.h"
 #include "Source/Record/CutOffRecordings.h"
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QLocale>
 #include <QProgressDialog>
 #include <QSessionManager>
 #include <QTimer>
@@ -78,7 +80,8 @@ int openInRunningProgram(Platform::RunningProgram& running, const QString& file)
     QByteArray answer;
     if (running.ask("open " + QUrl::toPercentEncoding(file), answer) && answer == "ok")
         return CommandLine::Done;
-    return CommandLine::fail(QStringLiteral("%1 was not opened: the running program does not answer").arg(file));
+    return CommandLine::fail(
+        QCoreApplication::translate("DesktopMain", "%1 was not opened: the running program does not answer").arg(file));
 }
 
 int runWindows(int argc, char** argv) {
@@ -86,6 +89,8 @@ int runWindows(int argc, char** argv) {
     const bool hidden = startsHidden(argc, argv);
     const QByteArray launchToken = Platform::Activation::launchToken();
     QApplication application(argc, argv);
+    const QString language = Platform::Translations::install();
+    QApplication::setLayoutDirection(QLocale(language).textDirection());
     // Closing the last visible window does not end the program: all windows but the main one may be closed.
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setApplicationName(QStringLiteral("Sonaphex"));
@@ -94,7 +99,7 @@ int runWindows(int argc, char** argv) {
     Platform::LinuxServices services;
     services.install(Platform::LinuxServices::Mode::Window);
     const auto tell = [](const QString& what, const QString& why) {
-        (void)Platform::services().alerts->runModal(what, why, {QStringLiteral("OK")});
+        (void)Platform::services().alerts->runModal(what, why, {Platform::Alerts::okLabel()});
     };
 
     const auto running = Platform::RunningProgram::create(Platform::services().bundle->bundleIdentifier());
@@ -105,7 +110,8 @@ int runWindows(int argc, char** argv) {
     case Launch::Outcome::Raised:
         return file.isEmpty() ? CommandLine::Done : openInRunningProgram(*running, file);
     case Launch::Outcome::NobodyAnswers:
-        return CommandLine::fail(QStringLiteral("it is already running, but does not answer"));
+        return CommandLine::fail(
+            QCoreApplication::translate("DesktopMain", "it is already running, but does not answer"));
     case Launch::Outcome::First:
     case Launch::Outcome::NoPlace: // the delegate reports the reason
         break;
@@ -119,12 +125,12 @@ int runWindows(int argc, char** argv) {
     if (const auto audio =
             services.startAudio([waiting = std::make_shared<WaitingForServer>()] { return waiting->goOn(); });
         !audio)
-        tell(QStringLiteral("Nothing can be recorded or played."), audio.error().text);
+        tell(QCoreApplication::translate("DesktopMain", "Nothing can be recorded or played."), audio.error().text);
     KextInstallControl::loadIfInstalled(); // before the devices are listed
 
     AppDelegate delegate(*windows, *running);
     if (!delegate.applicationDidFinishLaunching(hidden)) {
-        tell(QStringLiteral("Sonaphex cannot start."), delegate.lastError());
+        tell(QCoreApplication::translate("DesktopMain", "Sonaphex cannot start."), delegate.lastError());
         return CommandLine::Failed;
     }
     const Platform::TerminationSignals ending([&delegate](int) { delegate.terminate(); });

@@ -57,7 +57,10 @@ bool canRun(const QString& bundlePath, QString& why) {
     if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
         return true;
     const auto said = QString::fromLocal8Bit(process.readAllStandardError()).trimmed().section(u'\n', 0, 0);
-    why = said.isEmpty() ? u"%1: the driver does not run on this machine"_s.arg(program) : said;
+    why = said.isEmpty()
+              ? QCoreApplication::translate("CaptureComputerAudio", "%1: the driver does not run on this machine")
+                    .arg(program)
+              : said;
     return false;
 }
 
@@ -66,7 +69,7 @@ bool load(const QString& bundlePath, QString& why, int patienceMs) {
         return true;
     const auto program = programIn(bundlePath);
     if (!QFileInfo(program).isExecutable()) {
-        why = u"%1: no such program"_s.arg(program);
+        why = QCoreApplication::translate("CaptureComputerAudio", "%1: no such program").arg(program);
         return false;
     }
     QProcess process;
@@ -80,7 +83,8 @@ bool load(const QString& bundlePath, QString& why, int patienceMs) {
         return false;
     }
     if (!becomesTrue(isLoaded, patienceMs)) {
-        why = u"the driver was started, but its device did not appear"_s;
+        why = QCoreApplication::translate("CaptureComputerAudio",
+                                          "the driver was started, but its device did not appear");
         return false;
     }
     return true;

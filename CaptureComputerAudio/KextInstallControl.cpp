@@ -8,6 +8,7 @@
 #include "Platform/Foundation/PlainText.h"
 #include "Platform/Foundation/Services.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QThread>
@@ -39,7 +40,8 @@ public:
 
 bool refused() {
     if (busy)
-        whyFailed = u"the system audio device is being installed or removed already"_s;
+        whyFailed = QCoreApplication::translate("CaptureComputerAudio",
+                                                "the system audio device is being installed or removed already");
     return busy;
 }
 
@@ -48,7 +50,7 @@ bool refused() {
 bool runWithAdmin(const QString& command) {
     auto* shell = Platform::services().adminShell;
     if (!shell) {
-        whyFailed = u"there is no way to get administrator rights"_s;
+        whyFailed = QCoreApplication::translate("CaptureComputerAudio", "there is no way to get administrator rights");
         return false;
     }
     Platform::Result<> result;
@@ -139,7 +141,9 @@ bool install() {
     // place.
     const auto source = resourceBundlePath();
     if (!QFileInfo(CaptureDriver::programIn(source)).isExecutable()) {
-        whyFailed = u"%1: the driver is missing from the program's resources"_s.arg(source);
+        whyFailed = QCoreApplication::translate("CaptureComputerAudio",
+                                                "%1: the driver is missing from the program's resources")
+                        .arg(source);
         return false;
     }
     if (!CaptureDriver::canRun(source, whyFailed) || !runWithAdmin(replaceCommand(source)))

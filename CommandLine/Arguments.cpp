@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandLine/Arguments.h"
 
+#include <QCoreApplication>
+
 #include <cstdint>
 #include <limits>
 
@@ -25,7 +27,8 @@ double Arguments::seconds(const QString& option, double otherwise) {
     const auto seconds = parser_.value(option).toDouble(&isNumber);
     // Longer than 68 years is a mistake, and millisecond counters would overflow.
     if (!isNumber || !(seconds >= 0 && seconds <= std::numeric_limits<std::int32_t>::max())) {
-        problem_ = u"--%1: %2 is not a time in seconds"_s.arg(option, parser_.value(option));
+        problem_ = QCoreApplication::translate("CommandLine", "--%1: %2 is not a time in seconds")
+                       .arg(option, parser_.value(option));
         return otherwise;
     }
     return seconds;
@@ -37,7 +40,8 @@ int Arguments::whole(const QString& option, int otherwise) {
     bool isNumber = false;
     const int number = parser_.value(option).toInt(&isNumber);
     if (!isNumber || number < 0) {
-        problem_ = u"--%1: %2 is not a whole number"_s.arg(option, parser_.value(option));
+        problem_ = QCoreApplication::translate("CommandLine", "--%1: %2 is not a whole number")
+                       .arg(option, parser_.value(option));
         return otherwise;
     }
     return number;

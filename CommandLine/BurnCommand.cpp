@@ -10,6 +10,7 @@
 #include "Platform/Foundation/Services.h"
 #include "Source/CDBurn/BurnControl.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -46,8 +47,12 @@ int chosen(const Drives& drives, const Task& task, QString& why) {
     });
     if (found != drives.end())
         return int(found - drives.begin());
-    why = task.drive.isEmpty() ? u"there is no drive that writes discs (--image FILE writes a disc image)"_s
-                               : u"%1: there is no such drive (\"sonaphex drives\" lists them)"_s.arg(task.drive);
+    why =
+        task.drive.isEmpty()
+            ? QCoreApplication::translate("CommandLine",
+                                          "there is no drive that writes discs (--image FILE writes a disc image)")
+            : QCoreApplication::translate("CommandLine", "%1: there is no such drive (\"sonaphex drives\" lists them)")
+                  .arg(task.drive);
     return -1;
 }
 
@@ -57,13 +62,15 @@ QString discProblem(const Platform::DRDevice& drive) {
     if (!status.problem.isEmpty())
         return u"%1: %2"_s.arg(drive.displayName(), status.problem);
     if (status.isBusy)
-        return u"%1: the drive is busy"_s.arg(drive.displayName());
+        return QCoreApplication::translate("CommandLine", "%1: the drive is busy").arg(drive.displayName());
     if (status.mediaState != Platform::DRDeviceMediaStateMediaPresent)
-        return u"%1: there is no disc in the drive"_s.arg(drive.displayName());
+        return QCoreApplication::translate("CommandLine", "%1: there is no disc in the drive").arg(drive.displayName());
     if (!drive.mediaIsBlank())
-        return u"%1: the disc is not blank%2"_s.arg(drive.displayName(), drive.mediaIsErasable()
-                                                                             ? u": erase it, or put another one in"_s
-                                                                             : u": put another one in"_s);
+        return (drive.mediaIsErasable()
+                    ? QCoreApplication::translate("CommandLine",
+                                                  "%1: the disc is not blank: erase it, or put another one in")
+                    : QCoreApplication::translate("CommandLine", "%1: the disc is not blank: put another one in"))
+            .arg(drive.displayName());
     return {};
 }
 
@@ -143,12 +150,13 @@ int burn(const Task& task) {
                         {TrackEntry::ChooseTheAudio, true}});
     control.burnMusicToCD(entries, task.eject);
     if (!control.burn())
-        return fail(u"%1: no burn can be made with this drive"_s.arg(drive.displayName()));
+        return fail(QCoreApplication::translate("CommandLine", "%1: no burn can be made with this drive")
+                        .arg(drive.displayName()));
     if (!waitForTheEnd(control)) {
         const QString reason = control.failureReason();
         if (control.layout().empty())
-            return fail(u"%1; nothing was burned"_s.arg(reason));
-        return fail(reason.isEmpty() ? u"the burn failed"_s : reason);
+            return fail(QCoreApplication::translate("CommandLine", "%1; nothing was burned").arg(reason));
+        return fail(reason.isEmpty() ? QCoreApplication::translate("CommandLine", "the burn failed") : reason);
     }
     if (task.json)
         printJson(drive, task, control.layout());
@@ -162,11 +170,13 @@ int run(const QStringList& given) {
     const Task task{arguments.positional(), arguments.value(u"drive"_s), arguments.value(u"image"_s),
                     arguments.isSet(u"eject"_s), arguments.isSet(u"json"_s)};
     if (task.files.isEmpty())
-        return wrongUsage(burnCommand, u"burn takes the files that become tracks"_s);
+        return wrongUsage(burnCommand,
+                          QCoreApplication::translate("CommandLine", "burn takes the files that become tracks"));
     if (arguments.isSet(u"image"_s) && task.image.isEmpty())
-        return wrongUsage(burnCommand, u"--image takes the name of a file"_s);
+        return wrongUsage(burnCommand, QCoreApplication::translate("CommandLine", "--image takes the name of a file"));
     if (!task.image.isEmpty() && !task.drive.isEmpty())
-        return wrongUsage(burnCommand, u"--image and --drive exclude each other"_s);
+        return wrongUsage(burnCommand,
+                          QCoreApplication::translate("CommandLine", "--image and --drive exclude each other"));
     return burn(task);
 }
 
@@ -175,13 +185,17 @@ int run(const QStringList& given) {
 const Command burnCommand{
     "burn",
     "FILE...",
-    "burn sound files as an audio CD, one track each, or write a disc image",
-    {{"drive", "NAME", "The drive, by its name or its path (\"sonaphex drives\" lists them).", "the first drive"},
-     {"image", "FILE", "Write FILE.cue and FILE.bin instead of a disc. Existing files are never replaced."},
-     {"eject", "", "Eject the disc when it is done."},
+    QT_TRANSLATE_NOOP("CommandLine", "burn sound files as an audio CD, one track each, or write a disc image"),
+    {{"drive", "NAME",
+      QT_TRANSLATE_NOOP("CommandLine", "The drive, by its name or its path (\"sonaphex drives\" lists them)."),
+      QT_TRANSLATE_NOOP("CommandLine", "the first drive")},
+     {"image", "FILE",
+      QT_TRANSLATE_NOOP("CommandLine",
+                        "Write FILE.cue and FILE.bin instead of a disc. Existing files are never replaced.")},
+     {"eject", "", QT_TRANSLATE_NOOP("CommandLine", "Eject the disc when it is done.")},
      kJsonOption},
-    {{"burn one.m4a two.m4a --eject", "Burn two tracks and eject the disc."},
-     {"burn *.m4a --image concert", "Write concert.cue and concert.bin."}},
+    {{"burn one.m4a two.m4a --eject", QT_TRANSLATE_NOOP("CommandLine", "Burn two tracks and eject the disc.")},
+     {"burn *.m4a --image concert", QT_TRANSLATE_NOOP("CommandLine", "Write concert.cue and concert.bin.")}},
     run};
 
 } // namespace CommandLine

@@ -7,6 +7,7 @@
 #include "Platform/Foundation/Bundle.h"
 #include "Platform/Foundation/RunningProgram.h"
 #include "Platform/Foundation/Services.h"
+#include "Platform/Foundation/Translations.h"
 #include "Platform/LinuxServices.h"
 
 #include <QCoreApplication>
@@ -31,11 +32,12 @@ std::optional<int> runOneOf(const Commands& known, int argc, char** argv) {
     if (found == known.end())
         return {};
     const Command& command = *found->second;
+    QCoreApplication application(argc, argv);
+    Platform::Translations::install();
     if (argc > 2 && (std::strcmp(argv[2], "--help") == 0 || std::strcmp(argv[2], "-h") == 0)) {
         print(CommandHelp::whole(command).trimmed());
         return ended(Done);
     }
-    QCoreApplication application(argc, argv);
     Platform::LinuxServices services;
     services.install(Platform::LinuxServices::Mode::CommandLine);
     installed = &services;
@@ -48,7 +50,8 @@ Platform::Result<> startAudio() {
     if (!installed && Platform::services().audioHardware)
         return {};
     if (!installed)
-        return Platform::Error{Platform::Error::Kind::NotFound, u"there is no sound server"_s};
+        return Platform::Error{Platform::Error::Kind::NotFound,
+                               QCoreApplication::translate("CommandLine", "there is no sound server")};
     auto started = installed->startAudio();
     if (started)
         KextInstallControl::loadIfInstalled(); // before the devices are listed
@@ -89,7 +92,8 @@ int ended(int status) {
     // As with "sonaphex library | head -1": the reader closed the pipe on purpose.
     if (outputError == EPIPE)
         return Failed;
-    return fail(u"standard output could not be written: "_s + qt_error_string(outputError));
+    return fail(QCoreApplication::translate("CommandLine", "standard output could not be written: %1")
+                    .arg(qt_error_string(outputError)));
 }
 
 } // namespace CommandLine

@@ -9,6 +9,7 @@
 #include "Platform/Foundation/Services.h"
 #include "Source/Control/ConverterAudioControl.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <optional>
@@ -45,9 +46,9 @@ struct Task {
 /// The message for a failed copy.
 QString failure(const ConverterAudioControl& converter, const QString& source) {
     if (Interrupt::requested())
-        return u"stopped before the end: nothing was written"_s;
+        return QCoreApplication::translate("CommandLine", "stopped before the end: nothing was written");
     const auto error = converter.sourceError();
-    return error ? error.text : u"%1 cannot be converted"_s.arg(source);
+    return error ? error.text : QCoreApplication::translate("CommandLine", "%1 cannot be converted").arg(source);
 }
 
 /// Output errors name the hidden file that is being written; the message must name the target.
@@ -67,8 +68,9 @@ int convert(const Task& task) {
         if (!info)
             return fail(info.error().text);
         if (task.from >= info->seconds)
-            return fail(u"%1: it ends at second %2, there is nothing from second %3 on"_s.arg(
-                task.source, QString::number(info->seconds), QString::number(task.from)));
+            return fail(QCoreApplication::translate("CommandLine",
+                                                    "%1: it ends at second %2, there is nothing from second %3 on")
+                            .arg(task.source, QString::number(info->seconds), QString::number(task.from)));
         if (task.fading && to <= 0)
             to = info->seconds;
         if (task.fading && length <= 0)
@@ -99,7 +101,8 @@ int convert(const Task& task) {
     if (const auto problem = part.commit(); !problem.isEmpty())
         return fail(problem);
     if (const auto damage = converter.sourceError())
-        fail(u"the source is damaged, what could be read was converted: %1"_s.arg(damage.text));
+        fail(QCoreApplication::translate("CommandLine", "the source is damaged, what could be read was converted: %1")
+                 .arg(damage.text));
     return Done;
 }
 
@@ -117,20 +120,22 @@ int run(const QStringList& given) {
     if (!arguments.problem().isEmpty())
         return wrongUsage(convertCommand, arguments.problem());
     if (arguments.positional().size() != 2)
-        return wrongUsage(convertCommand, u"convert takes a source and a target"_s);
+        return wrongUsage(convertCommand,
+                          QCoreApplication::translate("CommandLine", "convert takes a source and a target"));
     task.source = arguments.positional().at(0);
     task.target = arguments.positional().at(1);
     const auto typeName =
         arguments.isSet(u"type"_s) ? arguments.value(u"type"_s) : QFileInfo(task.target).suffix().toLower();
     const auto type = outputType(typeName);
     if (!type)
-        return wrongUsage(convertCommand, u"--type is wav, m4a or caf"_s);
+        return wrongUsage(convertCommand, QCoreApplication::translate("CommandLine", "--type is wav, m4a or caf"));
     task.type = *type;
     // The engine treats a range shorter than this as "to the end".
     if (arguments.isSet(u"to"_s) && task.to < 0.1)
-        return wrongUsage(convertCommand, u"--to is a tenth of a second or more"_s);
+        return wrongUsage(convertCommand,
+                          QCoreApplication::translate("CommandLine", "--to is a tenth of a second or more"));
     if (arguments.isSet(u"to"_s) && task.to <= task.from)
-        return wrongUsage(convertCommand, u"--to is before --from"_s);
+        return wrongUsage(convertCommand, QCoreApplication::translate("CommandLine", "--to is before --from"));
     return convert(task);
 }
 
@@ -139,17 +144,23 @@ int run(const QStringList& given) {
 const Command convertCommand{
     "convert",
     "SRC DST",
-    "copy a range of an audio file into a new file",
-    {{"type", "wav|m4a|caf", "The type of the new file.", "from the ending of DST"},
-     {"from", "S", "Begin at second S of the source.", "0"},
-     {"to", "S", "End at second S of the source.", "its end"},
-     {"fade-in", "S", "Fade in over S seconds; a fade shorter than one second is left out.", "0"},
-     {"fade-out", "S", "Fade out over S seconds; a fade shorter than one second is left out.", "0"},
-     {"length", "S", "Repeat the range until the new file is S seconds long.", "the length of the range"},
-     {"overwrite", "", "Replace DST when it exists."}},
-    {{"convert a.m4a b.wav --from 10 --to 20.5", "Copy ten and a half seconds into a WAVE file."},
+    QT_TRANSLATE_NOOP("CommandLine", "copy a range of an audio file into a new file"),
+    {{"type", "wav|m4a|caf", QT_TRANSLATE_NOOP("CommandLine", "The type of the new file."),
+      QT_TRANSLATE_NOOP("CommandLine", "from the ending of DST")},
+     {"from", "S", QT_TRANSLATE_NOOP("CommandLine", "Begin at second S of the source."), "0"},
+     {"to", "S", QT_TRANSLATE_NOOP("CommandLine", "End at second S of the source."),
+      QT_TRANSLATE_NOOP("CommandLine", "its end")},
+     {"fade-in", "S",
+      QT_TRANSLATE_NOOP("CommandLine", "Fade in over S seconds; a fade shorter than one second is left out."), "0"},
+     {"fade-out", "S",
+      QT_TRANSLATE_NOOP("CommandLine", "Fade out over S seconds; a fade shorter than one second is left out."), "0"},
+     {"length", "S", QT_TRANSLATE_NOOP("CommandLine", "Repeat the range until the new file is S seconds long."),
+      QT_TRANSLATE_NOOP("CommandLine", "the length of the range")},
+     {"overwrite", "", QT_TRANSLATE_NOOP("CommandLine", "Replace DST when it exists.")}},
+    {{"convert a.m4a b.wav --from 10 --to 20.5",
+      QT_TRANSLATE_NOOP("CommandLine", "Copy ten and a half seconds into a WAVE file.")},
      {"convert a.m4a b.m4a --from 10 --to 20 --fade-in 1 --fade-out 2 --length 30",
-      "Repeat ten seconds for half a minute, with fades."}},
+      QT_TRANSLATE_NOOP("CommandLine", "Repeat ten seconds for half a minute, with fades.")}},
     run};
 
 } // namespace CommandLine

@@ -7,9 +7,11 @@
 #include "Platform/Audio/AudioHardware.h"
 #include "Platform/Foundation/Services.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocale>
 
 using namespace Qt::StringLiterals;
 
@@ -53,7 +55,7 @@ int run(const QStringList& given) {
     if (!arguments.problem().isEmpty())
         return wrongUsage(devicesCommand, arguments.problem());
     if (!arguments.positional().isEmpty())
-        return wrongUsage(devicesCommand, u"devices takes no names"_s);
+        return wrongUsage(devicesCommand, QCoreApplication::translate("CommandLine", "devices takes no names"));
     if (const auto started = startAudio(); !started)
         return fail(started.error().text);
     const auto devices = inputDevices();
@@ -62,21 +64,30 @@ int run(const QStringList& given) {
         printJson(devices, output);
         return Done;
     }
-    for (const InputDevice& device : devices)
-        print(u"%1\t%2 channel%3, %4 Hz%5"_s.arg(
-            device.name.isEmpty() ? device.uid : device.name, QString::number(device.channels),
-            device.channels == 1 ? u""_s : u"s"_s, QString::number(device.sampleRate, 'f', 0),
-            device.isComputerAudio() ? u", what the computer plays"_s : u""_s));
+    for (const InputDevice& device : devices) {
+        const QString channels = device.channels == 1 ? QCoreApplication::translate("CommandLine", "1 channel")
+                                                      : QCoreApplication::translate("CommandLine", "%n channels",
+                                                                                    nullptr, int(device.channels));
+        const QString facts =
+            (device.isComputerAudio() ? QCoreApplication::translate("CommandLine", "%1, %2 Hz, what the computer plays")
+                                      : QCoreApplication::translate("CommandLine", "%1, %2 Hz"))
+                .arg(channels, QLocale().toString(device.sampleRate, 'f', 0));
+        print(u"%1\t%2"_s.arg(device.name.isEmpty() ? device.uid : device.name, facts));
+    }
     if (devices.empty())
-        print(u"no input devices"_s);
-    print(u"default output: "_s + (output.id == 0 ? u"none"_s : output.name));
+        print(QCoreApplication::translate("CommandLine", "no input devices"));
+    print(QCoreApplication::translate("CommandLine", "default output: %1")
+              .arg(output.id == 0 ? QCoreApplication::translate("CommandLine", "none", "output device") : output.name));
     return Done;
 }
 
 } // namespace
 
-const Command devicesCommand{
-    "devices", "", "list the input devices", {kJsonOption}, {{"devices --json", "List the devices for a script."}},
-    run};
+const Command devicesCommand{"devices",
+                             "",
+                             QT_TRANSLATE_NOOP("CommandLine", "list the input devices"),
+                             {kJsonOption},
+                             {{"devices --json", QT_TRANSLATE_NOOP("CommandLine", "List the devices for a script.")}},
+                             run};
 
 } // namespace CommandLine

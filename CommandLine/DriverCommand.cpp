@@ -12,6 +12,7 @@
 #include "Platform/Foundation/Services.h"
 #include "Source/ProcessRequests/ControlRequests.h"
 
+#include <QCoreApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -50,11 +51,16 @@ int status(bool json) {
                                     .toJson(QJsonDocument::Compact)));
         return Done;
     }
-    print(installed ? u"installed: "_s + KextInstallControl::installedBundlePath() : u"installed: no"_s);
+    print(
+        installed
+            ? QCoreApplication::translate("CommandLine", "installed: %1").arg(KextInstallControl::installedBundlePath())
+            : QCoreApplication::translate("CommandLine", "installed: no"));
     if (loaded)
-        print(u"loaded: "_s + CaptureComputerAudio::kDeviceName);
+        print(QCoreApplication::translate("CommandLine", "loaded: %1").arg(CaptureComputerAudio::kDeviceName));
     else
-        print(RunningServer::answers() ? u"loaded: no"_s : u"loaded: no (no sound server answers)"_s);
+        print(RunningServer::answers()
+                  ? QCoreApplication::translate("CommandLine", "loaded: no")
+                  : QCoreApplication::translate("CommandLine", "loaded: no (no sound server answers)"));
     return Done;
 }
 
@@ -70,19 +76,23 @@ bool windowRecords() {
 
 int install() {
     if (windowRecords())
-        return fail(u"the driver stays as it is while the window records: stop the recording first"_s);
+        return fail(QCoreApplication::translate(
+            "CommandLine", "the driver stays as it is while the window records: stop the recording first"));
     if (!RunningServer::answers())
-        return fail(u"the driver cannot be loaded: no sound server answers"_s);
+        return fail(QCoreApplication::translate("CommandLine", "the driver cannot be loaded: no sound server answers"));
     if (!KextInstallControl::install())
-        return fail(u"the driver was not installed: "_s + KextInstallControl::lastError());
+        return fail(QCoreApplication::translate("CommandLine", "the driver was not installed: %1")
+                        .arg(KextInstallControl::lastError()));
     return status(false);
 }
 
 int remove() {
     if (windowRecords())
-        return fail(u"the driver stays as it is while the window records: stop the recording first"_s);
+        return fail(QCoreApplication::translate(
+            "CommandLine", "the driver stays as it is while the window records: stop the recording first"));
     if (!KextInstallControl::uninstall())
-        return fail(u"the driver was not removed: "_s + KextInstallControl::lastError());
+        return fail(QCoreApplication::translate("CommandLine", "the driver was not removed: %1")
+                        .arg(KextInstallControl::lastError()));
     return Done;
 }
 
@@ -92,7 +102,8 @@ int run(const QStringList& given) {
         return wrongUsage(driverCommand, arguments.problem());
     const auto words = arguments.positional();
     if (words.size() != 1)
-        return wrongUsage(driverCommand, u"driver takes one of status, install, remove"_s);
+        return wrongUsage(driverCommand,
+                          QCoreApplication::translate("CommandLine", "driver takes one of status, install, remove"));
     const RunningServer server;
     if (words.constFirst() == u"status")
         return status(arguments.isSet(u"json"_s));
@@ -100,7 +111,8 @@ int run(const QStringList& given) {
         return install();
     if (words.constFirst() == u"remove")
         return remove();
-    return wrongUsage(driverCommand, u"driver takes one of status, install, remove"_s);
+    return wrongUsage(driverCommand,
+                      QCoreApplication::translate("CommandLine", "driver takes one of status, install, remove"));
 }
 
 } // namespace
@@ -108,9 +120,10 @@ int run(const QStringList& given) {
 const Command driverCommand{
     "driver",
     "status|install|remove",
-    "show, install or remove the device that carries what the computer plays",
+    QT_TRANSLATE_NOOP("CommandLine", "show, install or remove the device that carries what the computer plays"),
     {kJsonOption},
-    {{"driver install", "Install the device and load it. Asks for the administrator's password."}},
+    {{"driver install",
+      QT_TRANSLATE_NOOP("CommandLine", "Install the device and load it. Asks for the administrator's password.")}},
     run};
 
 } // namespace CommandLine

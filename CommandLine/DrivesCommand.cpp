@@ -5,6 +5,7 @@
 #include "CommandLine/Arguments.h"
 #include "CommandLine/SettledDrives.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -20,16 +21,21 @@ QString inWords(const Platform::DRDevice& drive) {
     if (!status.problem.isEmpty())
         return status.problem;
     if (status.isBusy)
-        return u"busy"_s;
+        return QCoreApplication::translate("CommandLine", "busy");
     if (status.mediaState == Platform::DRDeviceMediaStateInTransition)
-        return u"the drive is not ready yet"_s;
+        return QCoreApplication::translate("CommandLine", "the drive is not ready yet");
     if (status.mediaState == Platform::DRDeviceMediaStateNone)
-        return u"no disc"_s;
-    const QString kind = status.mediaKind.isEmpty() ? u"disc"_s : status.mediaKind;
+        return QCoreApplication::translate("CommandLine", "no disc");
+    const QString kind = status.mediaKind.isEmpty()
+                             ? QCoreApplication::translate("CommandLine", "disc", "of unknown kind")
+                             : status.mediaKind;
     if (!drive.mediaIsBlank())
-        return drive.mediaIsErasable() ? u"%1, not blank, can be erased"_s.arg(kind) : u"%1, not blank"_s.arg(kind);
+        return drive.mediaIsErasable()
+                   ? QCoreApplication::translate("CommandLine", "%1, not blank, can be erased").arg(kind)
+                   : QCoreApplication::translate("CommandLine", "%1, not blank").arg(kind);
     const auto seconds = status.mediaBlocksFree / 75;
-    return u"%1, blank, %2 min %3 s of audio"_s.arg(kind, QString::number(seconds / 60), QString::number(seconds % 60));
+    return QCoreApplication::translate("CommandLine", "%1, blank, %2 min %3 s of audio")
+        .arg(kind, QString::number(seconds / 60), QString::number(seconds % 60));
 }
 
 QString stateOf(const Platform::DRDeviceStatus& status) {
@@ -48,7 +54,7 @@ int run(const QStringList& given) {
     if (!arguments.problem().isEmpty())
         return wrongUsage(drivesCommand, arguments.problem());
     if (!arguments.positional().isEmpty())
-        return wrongUsage(drivesCommand, u"drives takes no names"_s);
+        return wrongUsage(drivesCommand, QCoreApplication::translate("CommandLine", "drives takes no names"));
     QJsonArray list;
     for (const auto& drive : settledDrives()) {
         const Platform::DRDeviceStatus status = drive->status();
@@ -79,9 +85,9 @@ int run(const QStringList& given) {
 
 const Command drivesCommand{"drives",
                             "",
-                            "list the drives that write discs, and what is in them",
+                            QT_TRANSLATE_NOOP("CommandLine", "list the drives that write discs, and what is in them"),
                             {kJsonOption},
-                            {{"drives --json", "List the drives for a script."}},
+                            {{"drives --json", QT_TRANSLATE_NOOP("CommandLine", "List the drives for a script.")}},
                             run};
 
 } // namespace CommandLine

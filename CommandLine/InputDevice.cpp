@@ -4,8 +4,10 @@
 
 #include "Platform/Audio/AudioHardware.h"
 #include "Platform/Foundation/Services.h"
+#include "Platform/Foundation/Translations.h"
 #include "Source/BuiltInAudioRecord/BuildInAudioRecord.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 namespace CommandLine {
@@ -39,9 +41,11 @@ bool findInputDevice(const QString& wanted, InputDevice& device, QString& why) {
     QStringList names;
     for (const InputDevice& one : devices)
         names << (one.name.isEmpty() ? one.uid : one.name);
-    why = QStringLiteral("there is no input device \"%1\"").arg(wanted) +
-          (names.isEmpty() ? QStringLiteral(": there is none at all")
-                           : QStringLiteral(": there are %1").arg(names.join(QStringLiteral(", "))));
+    why = names.isEmpty()
+              ? QCoreApplication::translate("CommandLine", "there is no input device \"%1\": there is none at all")
+                    .arg(wanted)
+              : QCoreApplication::translate("CommandLine", "there is no input device \"%1\": there are %2")
+                    .arg(wanted, Platform::Translations::list(names));
     return false;
 }
 

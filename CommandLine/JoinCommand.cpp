@@ -13,6 +13,7 @@
 #include "Source/Control/RecordingParts.h"
 #include "Source/Preferences/PreferenceStore.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -57,18 +58,20 @@ int run(const QStringList& given) {
     if (!arguments.problem().isEmpty())
         return wrongUsage(joinCommand, arguments.problem());
     if (arguments.positional().size() < 2)
-        return wrongUsage(joinCommand, u"join takes two files or more"_s);
+        return wrongUsage(joinCommand, QCoreApplication::translate("CommandLine", "join takes two files or more"));
     if (arguments.value(u"to"_s).isEmpty())
-        return wrongUsage(joinCommand, u"join needs --to with the file to write"_s);
+        return wrongUsage(joinCommand,
+                          QCoreApplication::translate("CommandLine", "join needs --to with the file to write"));
     QStringList sources;
     for (const QString& source : arguments.positional()) {
         sources.append(QFileInfo(source).absoluteFilePath());
         if (!QFileInfo(source).isFile())
-            return fail(u"%1: there is no such file"_s.arg(source));
+            return fail(QCoreApplication::translate("CommandLine", "%1: there is no such file").arg(source));
     }
     const QString path = AudioTrimSave::exportPath(QFileInfo(arguments.value(u"to"_s)).absoluteFilePath());
     if (!QFileInfo(QFileInfo(path).path()).isDir())
-        return fail(u"%1: there is no such folder"_s.arg(QFileInfo(path).path()));
+        return fail(
+            QCoreApplication::translate("CommandLine", "%1: there is no such folder").arg(QFileInfo(path).path()));
     return join(sources, path, arguments.isSet(u"json"_s));
 }
 
@@ -77,10 +80,12 @@ int run(const QStringList& given) {
 const Command joinCommand{
     "join",
     "FILE...",
-    "make one recording of several, in the given order",
-    {{"to", "DST", "The recording to write. An existing file is kept."}, kJsonOption},
+    QT_TRANSLATE_NOOP("CommandLine", "make one recording of several, in the given order"),
+    {{"to", "DST", QT_TRANSLATE_NOOP("CommandLine", "The recording to write. An existing file is kept.")}, kJsonOption},
     {{"join \"a 1.m4a\" \"a 2.m4a\" --to b.m4a",
-      "Join two parts of one recording without encoding them again. Other files are decoded and encoded."}},
+      QT_TRANSLATE_NOOP(
+          "CommandLine",
+          "Join two parts of one recording without encoding them again. Other files are decoded and encoded.")}},
     run};
 
 } // namespace CommandLine

@@ -11,6 +11,8 @@
 #include "Source/ProcessRequests/ControlRequests.h"
 #include "Source/ProcessRequests/MediaLibraryRequests.h"
 
+#include <QCoreApplication>
+
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -22,11 +24,14 @@ QString tellLibrary(const QString& path, const Dictionary& changed, const QStrin
     if (const auto answer = askWindow(MediaLibraryRequests::retagRequest(path, changed))) {
         stored = MediaLibraryRequests::retaggingOf(*answer);
         if (!stored)
-            return done + u", but the running program does not know this request: it is another version"_s;
+            return QCoreApplication::translate(
+                       "CommandLine", "%1, but the running program does not know this request: it is another version")
+                .arg(done);
     } else {
         stored = MediaLibraryRequests::retag(path, changed);
     }
-    return *stored ? QString() : done + u", but the library could not be saved"_s;
+    return *stored ? QString()
+                   : QCoreApplication::translate("CommandLine", "%1, but the library could not be saved").arg(done);
 }
 
 QString addRecording(const QString& path, const Dictionary& tags) {
@@ -39,7 +44,9 @@ QString addRecording(const QString& path, const Dictionary& tags) {
         return {};
     MediaLibrary library;
     library.addRecordFile(entry);
-    return Platform::services().userDefaults->flush() ? QString() : u"%1 could not be added to the library"_s.arg(path);
+    return Platform::services().userDefaults->flush()
+               ? QString()
+               : QCoreApplication::translate("CommandLine", "%1 could not be added to the library").arg(path);
 }
 
 QString addRecording(const QString& path, const Dictionary& tags, double seconds) {

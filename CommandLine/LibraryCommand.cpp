@@ -10,6 +10,7 @@
 #include "Source/Model/MediaLibrary.h"
 #include "Source/ProcessRequests/MediaLibraryRequests.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -46,15 +47,24 @@ QJsonArray asJson(const QVariantList& entries) {
 
 void printCollection(const QString& title, const QVariantList& entries) {
     using namespace AudioRecordEntry;
-    print(u"%1: %2"_s.arg(title).arg(entries.size()));
+    print(u"%1: %L2"_s.arg(title).arg(entries.size()));
+    QString file = QCoreApplication::translate("CommandLine", "file", "the path of a recording");
+    QString key = QCoreApplication::translate("CommandLine", "key", "names an entry of the library");
+    const qsizetype width = std::max(file.size(), key.size());
+    file = file.leftJustified(width);
+    key = key.leftJustified(width);
     for (const QVariant& object : entries) {
         const Dictionary entry = object.toMap();
         const QString path = text(entry, SavePath);
         print(u"  %1  %2  %3"_s.arg(text(entry, AddDate),
                                     ToolControl::getTimeString(Platform::longLongValue(entry.value(Length))),
                                     Platform::onOneLine(text(entry, Title))));
-        print(u"      file "_s + Platform::onOneLine(path) + (QFileInfo::exists(path) ? QString() : u" (missing)"_s));
-        print(u"      key  "_s + Platform::onOneLine(text(entry, NodeDataKey)));
+        const QString line = u"      %1 %2"_s;
+        const QString shown = Platform::onOneLine(path);
+        print(line.arg(file, QFileInfo::exists(path)
+                                 ? shown
+                                 : QCoreApplication::translate("CommandLine", "%1 (missing)").arg(shown)));
+        print(line.arg(key, Platform::onOneLine(text(entry, NodeDataKey))));
     }
 }
 
@@ -67,8 +77,8 @@ int list(bool json) {
         print(QString::fromUtf8(QJsonDocument(document).toJson().trimmed()));
         return Done;
     }
-    printCollection(u"recordings"_s, library.records());
-    printCollection(u"ringtones"_s, library.ringtones());
+    printCollection(QCoreApplication::translate("CommandLine", "recordings"), library.records());
+    printCollection(QCoreApplication::translate("CommandLine", "ringtones"), library.ringtones());
     return Done;
 }
 
@@ -79,16 +89,18 @@ int remove(const QStringList& keys, bool json) {
     if (const auto answer = askWindow(MediaLibraryRequests::removeRequest(keys))) {
         const auto removed = MediaLibraryRequests::removalOf(*answer);
         if (!removed)
-            return fail(u"the running program does not know this request: it is another version"_s);
+            return fail(QCoreApplication::translate(
+                "CommandLine", "the running program does not know this request: it is another version"));
         removal = *removed;
     } else {
         removal = MediaLibraryRequests::remove(keys);
     }
     if (!removal.unknown.isEmpty())
-        return fail(
-            u"no entry has the key %1 (nothing was removed)"_s.arg(Platform::onOneLine(removal.unknown.first())));
+        return fail(QCoreApplication::translate("CommandLine", "no entry has the key %1 (nothing was removed)")
+                        .arg(Platform::onOneLine(removal.unknown.first())));
     if (!removal.stored)
-        return fail(u"the files are deleted, but the library could not be saved"_s);
+        return fail(
+            QCoreApplication::translate("CommandLine", "the files are deleted, but the library could not be saved"));
     if (json) {
         const QJsonObject document{{u"removed"_s, QJsonArray::fromStringList(removal.removed)}};
         print(QString::fromUtf8(QJsonDocument(document).toJson().trimmed()));
@@ -105,20 +117,24 @@ int run(const QStringList& given) {
     if (words.isEmpty() || words == QStringList{u"list"_s})
         return list(json);
     if (words.first() != u"remove"_s)
-        return wrongUsage(libraryCommand, u"library knows list and remove, not %1"_s.arg(words.first()));
+        return wrongUsage(
+            libraryCommand,
+            QCoreApplication::translate("CommandLine", "library knows list and remove, not %1").arg(words.first()));
     if (words.size() < 2)
-        return wrongUsage(libraryCommand, u"library remove takes the keys of entries"_s);
+        return wrongUsage(libraryCommand,
+                          QCoreApplication::translate("CommandLine", "library remove takes the keys of entries"));
     return remove(words.mid(1), json);
 }
 
 } // namespace
 
-const Command libraryCommand{"library",
-                             "[list | remove KEY...]",
-                             "list recordings and ringtones, or remove some with their files",
-                             {kJsonOption},
-                             {{"library", "List both collections with the key of each entry."},
-                              {"library remove KEY", "Remove an entry and delete its file."}},
-                             run};
+const Command libraryCommand{
+    "library",
+    "[list | remove KEY...]",
+    QT_TRANSLATE_NOOP("CommandLine", "list recordings and ringtones, or remove some with their files"),
+    {kJsonOption},
+    {{"library", QT_TRANSLATE_NOOP("CommandLine", "List both collections with the key of each entry.")},
+     {"library remove KEY", QT_TRANSLATE_NOOP("CommandLine", "Remove an entry and delete its file.")}},
+    run};
 
 } // namespace CommandLine

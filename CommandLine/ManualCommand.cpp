@@ -5,6 +5,8 @@
 #include "CommandLine/Arguments.h"
 #include "CommandLine/CommandManual.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace CommandLine {
@@ -13,7 +15,7 @@ namespace {
 int printManual(const QStringList& given) {
     const Arguments arguments(given, manualCommand);
     if (!arguments.problem().isEmpty() || !arguments.positional().isEmpty())
-        return wrongUsage(manualCommand, u"manual takes nothing"_s);
+        return wrongUsage(manualCommand, QCoreApplication::translate("CommandLine", "manual takes nothing"));
     print(CommandManual::manualPage(allCommands()).trimmed());
     return Done;
 }
@@ -28,21 +30,27 @@ int printCompletions(const QStringList& given) {
     else if (arguments.problem().isEmpty() && shells == QStringList{u"fish"_s})
         print(CommandManual::fishCompletion(allCommands()).trimmed());
     else
-        return wrongUsage(completionsCommand, u"completions takes one of bash, zsh, fish"_s);
+        return wrongUsage(completionsCommand,
+                          QCoreApplication::translate("CommandLine", "completions takes one of bash, zsh, fish"));
     return Done;
 }
 
 } // namespace
 
-const Command manualCommand{
-    "manual", "", "print the manual page", {}, {{"manual | man -l -", "Read the manual page."}}, printManual};
+const Command manualCommand{"manual",
+                            "",
+                            QT_TRANSLATE_NOOP("CommandLine", "print the manual page"),
+                            {},
+                            {{"manual | man -l -", QT_TRANSLATE_NOOP("CommandLine", "Read the manual page.")}},
+                            printManual};
 
-const Command completionsCommand{"completions",
-                                 "bash|zsh|fish",
-                                 "print the completions for a shell",
-                                 {},
-                                 {{"completions bash > ~/.local/share/bash-completion/completions/sonaphex",
-                                   "Install the completions for the current user's bash."}},
-                                 printCompletions};
+const Command completionsCommand{
+    "completions",
+    "bash|zsh|fish",
+    QT_TRANSLATE_NOOP("CommandLine", "print the completions for a shell"),
+    {},
+    {{"completions bash > ~/.local/share/bash-completion/completions/sonaphex",
+      QT_TRANSLATE_NOOP("CommandLine", "Install the completions for the current user's bash.")}},
+    printCompletions};
 
 } // namespace CommandLine

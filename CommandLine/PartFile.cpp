@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandLine/PartFile.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -18,13 +19,14 @@ PartFile::PartFile(const QString& target, bool overwrite)
 QString PartFile::problem() const {
     const QFileInfo info(target_);
     if (info.isDir())
-        return u"%1: is a folder"_s.arg(target_);
+        return QCoreApplication::translate("CommandLine", "%1: is a folder").arg(target_);
     if (!QFileInfo(info.path()).isDir())
-        return u"%1: no such folder"_s.arg(info.path());
+        return QCoreApplication::translate("CommandLine", "%1: no such folder").arg(info.path());
     if (info.exists() && !info.isFile())
-        return u"%1: that path is not a regular file"_s.arg(target_); // a device, a pipe
+        return QCoreApplication::translate("CommandLine", "%1: that path is not a regular file")
+            .arg(target_); // a device, a pipe
     if (!overwrite_ && (info.exists() || info.isSymLink()))
-        return u"%1: exists already (--overwrite replaces it)"_s.arg(target_);
+        return QCoreApplication::translate("CommandLine", "%1: exists already (--overwrite replaces it)").arg(target_);
     return {};
 }
 

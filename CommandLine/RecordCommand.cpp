@@ -10,6 +10,7 @@
 #include "Platform/Foundation/TemporaryFolder.h"
 #include "Source/Preferences/Settings.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -27,9 +28,10 @@ namespace {
 QString whyNotWritable(const QString& folder) {
     (void)QDir().mkpath(folder);
     if (!QFileInfo(folder).isDir())
-        return u"the folder %1 cannot be created"_s.arg(folder);
+        return QCoreApplication::translate("CommandLine", "the folder %1 cannot be created").arg(folder);
     if (faccessat(AT_FDCWD, QFile::encodeName(folder).constData(), W_OK | X_OK, AT_EACCESS) != 0)
-        return u"the folder %1 cannot be written: %2"_s.arg(folder, qt_error_string(errno));
+        return QCoreApplication::translate("CommandLine", "the folder %1 cannot be written: %2")
+            .arg(folder, qt_error_string(errno));
     return {};
 }
 
@@ -57,15 +59,17 @@ QString whyWrong(Arguments& arguments, const RecordingTask& task) {
     if (!arguments.problem().isEmpty())
         return arguments.problem();
     if (!arguments.positional().isEmpty())
-        return u"record takes options only"_s;
+        return QCoreApplication::translate("CommandLine", "record takes options only");
     if (arguments.isSet(u"for"_s) && task.seconds <= 0)
-        return u"--for takes a time above 0"_s;
+        return QCoreApplication::translate("CommandLine", "--for takes a time above 0");
     if (arguments.whole(u"pre-roll"_s, 0) > Settings::LongestPreRollMS)
-        return u"--pre-roll takes at most %1 milliseconds"_s.arg(Settings::LongestPreRollMS);
+        return QCoreApplication::translate("CommandLine", "--pre-roll takes at most %1 milliseconds")
+            .arg(Settings::LongestPreRollMS);
     if (arguments.isSet(u"folder"_s) && arguments.value(u"folder"_s).isEmpty())
-        return u"--folder takes a folder"_s;
+        return QCoreApplication::translate("CommandLine", "--folder takes a folder");
     if (arguments.value(u"input"_s) == u"none"_s && !arguments.isSet(u"computer"_s))
-        return u"without an input device and without --computer there is nothing to record"_s;
+        return QCoreApplication::translate("CommandLine",
+                                           "without an input device and without --computer there is nothing to record");
     return {};
 }
 
@@ -126,23 +130,36 @@ int run(const QStringList& given) {
 const Command recordCommand{
     "record",
     "",
-    "record an input device, what the computer plays, or both into .m4a files",
-    {{"input", "NAME|none", "Record the input device with this name, UID or id; none records no input device.",
-      "the device and the choice stored in the preferences"},
-     {"computer", "", "Record what the computer plays."},
-     {"for", "S", "Stop after S seconds of recorded sound, over all files.", "until Control+C"},
-     {"wait", "S", "When waiting for the first sound, give up after S seconds.", "no limit"},
-     {"split", "MS|off", "Begin a new file after a silence of MS milliseconds of computer audio.",
-      "as in the preferences"},
-     {"pre-roll", "MS", "When waiting for the first sound, begin MS milliseconds before it, at most 5000.",
-      "as in the preferences"},
-     {"filter", "S|off", "Drop a recording shorter than S seconds.", "as in the preferences"},
-     {"folder", "DIR", "Put the recordings into DIR, which is made when it is missing.", "as in the preferences"},
+    QT_TRANSLATE_NOOP("CommandLine", "record an input device, what the computer plays, or both into .m4a files"),
+    {{"input", "NAME|none",
+      QT_TRANSLATE_NOOP("CommandLine",
+                        "Record the input device with this name, UID or id; none records no input device."),
+      QT_TRANSLATE_NOOP("CommandLine", "the device and the choice stored in the preferences")},
+     {"computer", "", QT_TRANSLATE_NOOP("CommandLine", "Record what the computer plays.")},
+     {"for", "S", QT_TRANSLATE_NOOP("CommandLine", "Stop after S seconds of recorded sound, over all files."),
+      QT_TRANSLATE_NOOP("CommandLine", "until Control+C")},
+     {"wait", "S", QT_TRANSLATE_NOOP("CommandLine", "When waiting for the first sound, give up after S seconds."),
+      QT_TRANSLATE_NOOP("CommandLine", "no limit")},
+     {"split", "MS|off",
+      QT_TRANSLATE_NOOP("CommandLine", "Begin a new file after a silence of MS milliseconds of computer audio."),
+      QT_TRANSLATE_NOOP("CommandLine", "as in the preferences")},
+     {"pre-roll", "MS",
+      QT_TRANSLATE_NOOP("CommandLine",
+                        "When waiting for the first sound, begin MS milliseconds before it, at most 5000."),
+      QT_TRANSLATE_NOOP("CommandLine", "as in the preferences")},
+     {"filter", "S|off", QT_TRANSLATE_NOOP("CommandLine", "Drop a recording shorter than S seconds."),
+      QT_TRANSLATE_NOOP("CommandLine", "as in the preferences")},
+     {"folder", "DIR",
+      QT_TRANSLATE_NOOP("CommandLine", "Put the recordings into DIR, which is made when it is missing."),
+      QT_TRANSLATE_NOOP("CommandLine", "as in the preferences")},
      kJsonOption},
-    {{"record --for 10", "Record ten seconds of the input device."},
-     {"record --input \"USB Mic\" --folder .", "Record a named device into the current folder until Control+C."},
+    {{"record --for 10", QT_TRANSLATE_NOOP("CommandLine", "Record ten seconds of the input device.")},
+     {"record --input \"USB Mic\" --folder .",
+      QT_TRANSLATE_NOOP("CommandLine", "Record a named device into the current folder until Control+C.")},
      {"record --input none --computer --split 300 --wait 60",
-      "Record what the computer plays, one file for each song, and give up when nothing plays for a minute."}},
+      QT_TRANSLATE_NOOP(
+          "CommandLine",
+          "Record what the computer plays, one file for each song, and give up when nothing plays for a minute.")}},
     run};
 
 } // namespace CommandLine

@@ -7,6 +7,7 @@
 #include "CommandLine/ProgressBar.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/TerminationSignals.h"
+#include "Platform/Foundation/Translations.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
 
@@ -72,8 +73,10 @@ RecordingRun::RecordingRun(RecordPreferences& preferences, const RecordingTask& 
                              recordings_.append(described(path, info.seconds));
                          }
                          if (problem_.isEmpty())
-                             problem_ = controller_.notices().isEmpty() ? u"a recording could not be finished"_s
-                                                                        : controller_.notices().constLast();
+                             problem_ =
+                                 controller_.notices().isEmpty()
+                                     ? QCoreApplication::translate("CommandLine", "a recording could not be finished")
+                                     : controller_.notices().constLast();
                          told_ = controller_.notices().size();
                      });
 }
@@ -90,28 +93,31 @@ int RecordingRun::run() {
 QString RecordingRun::begin() {
     if (task_.wantsComputerAudio && !controller_.hasComputerAudioDevice() &&
         (task_.computerAudioNamed || !task_.wantsInput))
-        return u"computer audio: its driver is not installed (see sonaphex driver install)"_s;
+        return QCoreApplication::translate("CommandLine",
+                                           "computer audio: its driver is not installed (see sonaphex driver install)");
     // The first device of the list is already open. Choosing it again would reopen it.
     if (const int index = controller_.indexOfDevice(task_.device);
         task_.device != 0 && index != controller_.selectedDevice())
         controller_.chooseBuiltInDevice(index);
     if (task_.wantsInput && controller_.deviceNames().isEmpty() && !controller_.hasComputerAudioDevice())
-        return u"there is no input device"_s;
+        return QCoreApplication::translate("CommandLine", "there is no input device");
     if (!controller_.canRecord())
-        return u"there is no source to record: name one with --input or --computer"_s;
+        return QCoreApplication::translate("CommandLine",
+                                           "there is no source to record: name one with --input or --computer");
     controller_.setRecordLimit(task_.seconds);
     controller_.startAndStopRecord();
     QCoreApplication::sendPostedEvents(); // delivers the notices
     if (controller_.hasFile())
         return {};
     const QStringList notices = controller_.notices();
-    return notices.isEmpty() ? u"nothing can be recorded"_s : notices.first();
+    return notices.isEmpty() ? QCoreApplication::translate("CommandLine", "nothing can be recorded") : notices.first();
 }
 
 QString RecordingRun::state() const {
     if (controller_.isWaittingForSound())
-        return u"waiting for the first sound"_s;
-    return controller_.recordState_() == 1 ? u"recording"_s : u"finishing"_s;
+        return QCoreApplication::translate("CommandLine", "waiting for the first sound");
+    return controller_.recordState_() == 1 ? QCoreApplication::translate("CommandLine", "recording", "now")
+                                           : QCoreApplication::translate("CommandLine", "finishing");
 }
 
 void RecordingRun::recordUntilTheEnd() {
@@ -130,7 +136,7 @@ void RecordingRun::recordUntilTheEnd() {
             loop.quit();
         } else if (task_.waitSeconds >= 0 && controller_.isWaittingForSound() &&
                    double(armed_.elapsed()) >= task_.waitSeconds * 1000) {
-            meter_.say(u"no sound came: nothing was recorded"_s);
+            meter_.say(QCoreApplication::translate("CommandLine", "no sound came: nothing was recorded"));
             loop.quit();
         }
         meter_.show(seconds, controller_.getAudioWaveLevelValue(), state());
@@ -143,7 +149,7 @@ void RecordingRun::recordUntilTheEnd() {
 
 void RecordingRun::finish() {
     {
-        ProgressBar bar(u"finishing"_s);
+        ProgressBar bar(QCoreApplication::translate("CommandLine", "finishing"));
         QTimer progress;
         QObject::connect(&progress, &QTimer::timeout, &controller_, [&] {
             if (const double share = controller_.jobProgress(); share > 0)
@@ -177,8 +183,11 @@ void RecordingRun::addRecordFile(const QString& path, const Dictionary& tags) {
 int RecordingRun::report() {
     if (dropped_ > 0)
         meter_.say(dropped_ == 1
-                       ? u"one recording was shorter than the filter's time and was not kept"_s
-                       : u"%1 recordings were shorter than the filter's time and were not kept"_s.arg(dropped_));
+                       ? QCoreApplication::translate(
+                             "CommandLine", "one recording was shorter than the filter's time and was not kept")
+                       : QCoreApplication::translate(
+                             "CommandLine", "%n recordings were shorter than the filter's time and were not kept",
+                             nullptr, dropped_));
     bool printed = true;
     if (task_.json) {
         const QJsonObject all{{u"recordings"_s, recordings_},
@@ -190,11 +199,13 @@ int RecordingRun::report() {
     }
     // The recording is complete, but its path could not be printed.
     if (!printed && problem_.isEmpty())
-        problem_ = u"standard output could not be written: "_s + qt_error_string(errno);
+        problem_ = QCoreApplication::translate("CommandLine", "standard output could not be written: %1")
+                       .arg(qt_error_string(errno));
     if (problem_.isEmpty())
         return Done;
     return fail(paths_.isEmpty() ? problem_
-                                 : u"%1: what was recorded is kept in %2"_s.arg(problem_, paths_.join(u", "_s)));
+                                 : QCoreApplication::translate("CommandLine", "%1: what was recorded is kept in %2")
+                                       .arg(problem_, Platform::Translations::list(paths_)));
 }
 
 } // namespace CommandLine

@@ -19,6 +19,7 @@
 #include "Source/ProcessRequests/MediaLibraryRequests.h"
 #include "Source/Record/RecordingNames.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -62,11 +63,16 @@ QString tellLibrary(const QString& path, const Dictionary& tags) {
     if (const auto answer = askWindow(MediaLibraryRequests::addRingtoneRequest(path, tags))) {
         stored = MediaLibraryRequests::addingOf(*answer);
         if (!stored)
-            return u"%1 is made, but the running program does not know this request: it is another version"_s.arg(path);
+            return QCoreApplication::translate(
+                       "CommandLine",
+                       "%1 is made, but the running program does not know this request: it is another version")
+                .arg(path);
     } else {
         stored = MediaLibraryRequests::addRingtone(path, tags);
     }
-    return *stored ? QString() : u"%1 is made, but the library could not be saved"_s.arg(path);
+    return *stored
+               ? QString()
+               : QCoreApplication::translate("CommandLine", "%1 is made, but the library could not be saved").arg(path);
 }
 
 int make(RingtoneFile::Task task, bool json) {
@@ -74,8 +80,8 @@ int make(RingtoneFile::Task task, bool json) {
     if (!info)
         return fail(info.error().text);
     if (double(task.to) > info->seconds + 0.001)
-        return fail(u"%1: it ends at second %2, --to is %3"_s.arg(task.source, QString::number(info->seconds),
-                                                                  QString::number(double(task.to))));
+        return fail(QCoreApplication::translate("CommandLine", "%1: it ends at second %2, --to is %3")
+                        .arg(task.source, QString::number(info->seconds), QString::number(double(task.to))));
 
     const auto temporary =
         Platform::TemporaryFolder::create(Platform::services().bundle->bundleIdentifier() + u".ringtone"_s);
@@ -95,7 +101,9 @@ int make(RingtoneFile::Task task, bool json) {
         });
     }
     if (result.path.isEmpty())
-        return fail(result.problem.isEmpty() ? u"stopped before the end: no ringtone was made"_s : result.problem);
+        return fail(result.problem.isEmpty()
+                        ? QCoreApplication::translate("CommandLine", "stopped before the end: no ringtone was made")
+                        : result.problem);
 
     const float seconds = task.to - task.from;
     Dictionary recording = entryOf(task.source);
@@ -105,7 +113,9 @@ int make(RingtoneFile::Task task, bool json) {
     if (const QString problem = tellLibrary(result.path, tags); !problem.isEmpty())
         return fail(problem);
     if (!result.damage.isEmpty())
-        fail(u"the source is damaged, the ringtone is silent where it could not be read: %1"_s.arg(result.damage));
+        fail(QCoreApplication::translate("CommandLine",
+                                         "the source is damaged, the ringtone is silent where it could not be read: %1")
+                 .arg(result.damage));
     if (json) {
         const QJsonObject document{{u"path"_s, result.path},
                                    {u"title"_s, Platform::stringForm(tags.value(AudioRecordEntry::Title))},
@@ -127,11 +137,12 @@ int run(const QStringList& given) {
     if (!arguments.problem().isEmpty())
         return wrongUsage(ringtoneCommand, arguments.problem());
     if (arguments.positional().size() != 1)
-        return wrongUsage(ringtoneCommand, u"ringtone takes one file"_s);
+        return wrongUsage(ringtoneCommand, QCoreApplication::translate("CommandLine", "ringtone takes one file"));
     if (!arguments.isSet(u"from"_s) || !arguments.isSet(u"to"_s))
-        return wrongUsage(ringtoneCommand, u"ringtone needs --from and --to"_s);
+        return wrongUsage(ringtoneCommand,
+                          QCoreApplication::translate("CommandLine", "ringtone needs --from and --to"));
     if (task.to <= task.from)
-        return wrongUsage(ringtoneCommand, u"--to is not after --from"_s);
+        return wrongUsage(ringtoneCommand, QCoreApplication::translate("CommandLine", "--to is not after --from"));
     task.source = QFileInfo(arguments.positional().constFirst()).absoluteFilePath();
     return make(task, arguments.isSet(u"json"_s));
 }
@@ -141,13 +152,15 @@ int run(const QStringList& given) {
 const Command ringtoneCommand{
     "ringtone",
     "FILE",
-    "make a ringtone from a range of a recording and add it to the library",
-    {{"from", "S", "Begin at second S of the recording."},
-     {"to", "S", "End at second S of the recording."},
-     {"fade-in", "S", "Fade in over S seconds; a fade shorter than one second is left out.", "5"},
-     {"fade-out", "S", "Fade out over S seconds; a fade shorter than one second is left out.", "5"},
+    QT_TRANSLATE_NOOP("CommandLine", "make a ringtone from a range of a recording and add it to the library"),
+    {{"from", "S", QT_TRANSLATE_NOOP("CommandLine", "Begin at second S of the recording.")},
+     {"to", "S", QT_TRANSLATE_NOOP("CommandLine", "End at second S of the recording.")},
+     {"fade-in", "S",
+      QT_TRANSLATE_NOOP("CommandLine", "Fade in over S seconds; a fade shorter than one second is left out."), "5"},
+     {"fade-out", "S",
+      QT_TRANSLATE_NOOP("CommandLine", "Fade out over S seconds; a fade shorter than one second is left out."), "5"},
      kJsonOption},
-    {{"ringtone a.m4a --from 10 --to 40", "Make a ringtone of this half minute."}},
+    {{"ringtone a.m4a --from 10 --to 40", QT_TRANSLATE_NOOP("CommandLine", "Make a ringtone of this half minute.")}},
     run};
 
 } // namespace CommandLine

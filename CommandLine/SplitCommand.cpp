@@ -13,6 +13,7 @@
 #include "Source/Control/SilenceFinder.h"
 #include "Source/Preferences/PreferenceStore.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -54,7 +55,7 @@ int list(const SilenceFinder::Found& found, const std::vector<std::int64_t>& cut
         times.append(double(cut) / found.sampleRate);
         lines.append(seconds(double(cut) / found.sampleRate));
     }
-    lines.append(u"longest silence found: %1 s"_s.arg(seconds(longest)));
+    lines.append(QCoreApplication::translate("CommandLine", "longest silence found: %1 s").arg(seconds(longest)));
     if (json)
         printJson({{u"cuts"_s, times}, {u"longestSilence"_s, longest}});
     else
@@ -75,8 +76,9 @@ int split(const Task& task) {
     if (task.dryRun)
         return list(*found, cuts, task.json);
     if (cuts.empty())
-        return fail(u"%1: no silence of %2 s; the longest one has %3 s"_s.arg(
-            task.source, seconds(task.rule.seconds), seconds(double(found->longest) / found->sampleRate)));
+        return fail(
+            QCoreApplication::translate("CommandLine", "%1: no silence of %2 s; the longest one has %3 s")
+                .arg(task.source, seconds(task.rule.seconds), seconds(double(found->longest) / found->sampleRate)));
 
     const auto folder =
         Platform::TemporaryFolder::create(Platform::services().bundle->bundleIdentifier() + u".split"_s);
@@ -113,22 +115,25 @@ int run(const QStringList& given) {
     if (!arguments.problem().isEmpty())
         return wrongUsage(splitCommand, arguments.problem());
     if (arguments.positional().size() != 1)
-        return wrongUsage(splitCommand, u"split takes one file"_s);
+        return wrongUsage(splitCommand, QCoreApplication::translate("CommandLine", "split takes one file"));
     if (arguments.whole(u"silence"_s, 0) < ShortestSilence)
-        return wrongUsage(splitCommand, u"split needs --silence with at least %1 milliseconds"_s.arg(ShortestSilence));
+        return wrongUsage(splitCommand, QCoreApplication::translate(
+                                            "CommandLine", "split needs --silence with at least %1 milliseconds")
+                                            .arg(ShortestSilence));
     if (arguments.isSet(u"level"_s)) {
         bool isNumber = false;
         task.rule.level = arguments.value(u"level"_s).toDouble(&isNumber);
         if (!isNumber || !(task.rule.level >= LowestLevel && task.rule.level < 0))
-            return wrongUsage(splitCommand, u"--level takes decibels from -120 to below 0"_s);
+            return wrongUsage(splitCommand, QCoreApplication::translate("CommandLine",
+                                                                        "--level takes decibels from -120 to below 0"));
     }
     task.source = QFileInfo(arguments.positional().constFirst()).absoluteFilePath();
     if (!QFileInfo(task.source).isFile())
-        return fail(u"%1: there is no such file"_s.arg(task.source));
+        return fail(QCoreApplication::translate("CommandLine", "%1: there is no such file").arg(task.source));
     task.folder = arguments.isSet(u"folder"_s) ? QFileInfo(arguments.value(u"folder"_s)).absoluteFilePath()
                                                : QFileInfo(task.source).path();
     if (!QFileInfo(task.folder).isDir())
-        return fail(u"%1: there is no such folder"_s.arg(task.folder));
+        return fail(QCoreApplication::translate("CommandLine", "%1: there is no such folder").arg(task.folder));
     task.dryRun = arguments.isSet(u"dry-run"_s);
     task.json = arguments.isSet(u"json"_s);
     return split(task);
@@ -139,14 +144,19 @@ int run(const QStringList& given) {
 const Command splitCommand{
     "split",
     "FILE",
-    "cut a recording into several at its silences, without encoding it again",
-    {{"silence", "MS", "Cut in the middle of each silence of at least MS milliseconds, 50 or more."},
-     {"level", "DB", "A silence lies below DB decibels of full scale, from -120 to below 0.", "-60"},
-     {"folder", "DIR", "Put the parts into DIR.", "the folder of the recording"},
-     {"dry-run", "", "Only list the cuts and the longest silence; write nothing."},
+    QT_TRANSLATE_NOOP("CommandLine", "cut a recording into several at its silences, without encoding it again"),
+    {{"silence", "MS",
+      QT_TRANSLATE_NOOP("CommandLine", "Cut in the middle of each silence of at least MS milliseconds, 50 or more.")},
+     {"level", "DB",
+      QT_TRANSLATE_NOOP("CommandLine", "A silence lies below DB decibels of full scale, from -120 to below 0."), "-60"},
+     {"folder", "DIR", QT_TRANSLATE_NOOP("CommandLine", "Put the parts into DIR."),
+      QT_TRANSLATE_NOOP("CommandLine", "the folder of the recording")},
+     {"dry-run", "", QT_TRANSLATE_NOOP("CommandLine", "Only list the cuts and the longest silence; write nothing.")},
      kJsonOption},
-    {{"split a.m4a --silence 800", "Make a 1.m4a, a 2.m4a and so on beside a.m4a, which stays as it is."},
-     {"split a.m4a --silence 800 --level -50 --dry-run", "See where the cuts would be."}},
+    {{"split a.m4a --silence 800",
+      QT_TRANSLATE_NOOP("CommandLine", "Make a 1.m4a, a 2.m4a and so on beside a.m4a, which stays as it is.")},
+     {"split a.m4a --silence 800 --level -50 --dry-run",
+      QT_TRANSLATE_NOOP("CommandLine", "See where the cuts would be.")}},
     run};
 
 } // namespace CommandLine

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <initializer_list>
@@ -21,7 +22,8 @@ struct Option {
     const char* byDefault = ""; ///< the default, as help shows it; empty when there is none
 };
 
-inline constexpr Option kJsonOption{"json", "", "Print one JSON document instead of text."};
+inline constexpr Option kJsonOption{"json", "",
+                                    QT_TRANSLATE_NOOP("CommandLine", "Print one JSON document instead of text.")};
 
 /// An example of the manual page: the arguments after the program's name, and what they do.
 struct Example {

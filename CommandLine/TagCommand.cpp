@@ -13,12 +13,16 @@
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/ProcessRequests/MediaLibraryRequests.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
 
 #include <optional>
+
+#include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using Platform::BasicID3Change;
@@ -47,13 +51,22 @@ void show(const QString& path, const BasicID3Change::Tags& tags, bool json) {
         print(QString::fromUtf8(QJsonDocument(document).toJson().trimmed()));
         return;
     }
-    print(u"title:   "_s + Platform::onOneLine(tags.title));
-    print(u"artist:  "_s + Platform::onOneLine(tags.artist));
-    print(u"album:   "_s + Platform::onOneLine(tags.album));
-    print(u"year:    "_s + (tags.year == 0 ? QString() : QString::number(tags.year)));
-    print(u"genre:   "_s + Platform::onOneLine(tags.genre));
-    print(u"artwork: "_s +
-          (tags.artwork.isEmpty() ? u"none"_s : u"%1, %2 bytes"_s.arg(kindOf(tags.artwork)).arg(tags.artwork.size())));
+    const QString cover = tags.artwork.isEmpty() ? QCoreApplication::translate("CommandLine", "none", "cover")
+                                                 : QCoreApplication::translate("CommandLine", "%1, %L2 bytes")
+                                                       .arg(kindOf(tags.artwork))
+                                                       .arg(tags.artwork.size());
+    const std::pair<QString, QString> lines[] = {
+        {QCoreApplication::translate("CommandLine", "title:"), Platform::onOneLine(tags.title)},
+        {QCoreApplication::translate("CommandLine", "artist:"), Platform::onOneLine(tags.artist)},
+        {QCoreApplication::translate("CommandLine", "album:"), Platform::onOneLine(tags.album)},
+        {QCoreApplication::translate("CommandLine", "year:"), tags.year == 0 ? QString() : QString::number(tags.year)},
+        {QCoreApplication::translate("CommandLine", "genre:"), Platform::onOneLine(tags.genre)},
+        {QCoreApplication::translate("CommandLine", "artwork:"), cover}};
+    qsizetype width = 0;
+    for (const auto& [name, value] : lines)
+        width = std::max(width, name.size());
+    for (const auto& [name, value] : lines)
+        print(name.leftJustified(width + 1) + value);
 }
 
 /// A helper program reads the image, so that this one needs none of the desktop's libraries. @return the error; empty
@@ -67,7 +80,9 @@ QString setArtwork(const QString& path, const QString& image) {
         return {};
     const QString errors = QString::fromLocal8Bit(tool.readAllStandardError()).trimmed();
     const QString problem = errors.section(u": "_s, 1);
-    return problem.isEmpty() ? u"the artwork of %1 could not be written"_s.arg(path) : problem;
+    return problem.isEmpty()
+               ? QCoreApplication::translate("CommandLine", "the artwork of %1 could not be written").arg(path)
+               : problem;
 }
 
 int run(const QStringList& given) {
@@ -75,13 +90,14 @@ int run(const QStringList& given) {
     if (!arguments.problem().isEmpty())
         return wrongUsage(tagCommand, arguments.problem());
     if (arguments.positional().size() != 1)
-        return wrongUsage(tagCommand, u"tag takes one file"_s);
+        return wrongUsage(tagCommand, QCoreApplication::translate("CommandLine", "tag takes one file"));
     QString path = arguments.positional().constFirst();
     bool isYear = true;
     const QString yearText = arguments.value(u"year"_s);
     const int year = yearText.isEmpty() ? 0 : yearText.toInt(&isYear);
     if (!isYear)
-        return wrongUsage(tagCommand, u"--year: %1 is not a number"_s.arg(yearText));
+        return wrongUsage(tagCommand,
+                          QCoreApplication::translate("CommandLine", "--year: %1 is not a number").arg(yearText));
 
     auto tags = BasicID3Change::read(path);
     if (!tags)
@@ -130,7 +146,9 @@ int run(const QStringList& given) {
                 changed.insert(AudioRecordEntry::SavePath, path);
         }
         if (!changed.isEmpty())
-            if (const QString problem = tellLibrary(before, changed, u"the file is changed"_s); !problem.isEmpty())
+            if (const QString problem =
+                    tellLibrary(before, changed, QCoreApplication::translate("CommandLine", "the file is changed"));
+                !problem.isEmpty())
                 return fail(problem);
         note->end();
     }
@@ -151,18 +169,23 @@ int run(const QStringList& given) {
 const Command tagCommand{
     "tag",
     "FILE",
-    "print or write the tags and the cover of an MPEG-4 audio file",
-    {{"title", "T", "Write this title. An empty text removes the tag; the same holds for the other texts."},
-     {"artist", "A", "Write this artist."},
-     {"album", "B", "Write this album."},
-     {"year", "Y", "Write this year; 0 removes the tag."},
-     {"genre", "G", "Write this genre."},
-     {"artwork", "IMAGE", "Take the cover from this picture file."},
-     {"rename", "", "Rename the file after its title, unless the name is taken or not possible."},
+    QT_TRANSLATE_NOOP("CommandLine", "print or write the tags and the cover of an MPEG-4 audio file"),
+    {{"title", "T",
+      QT_TRANSLATE_NOOP("CommandLine",
+                        "Write this title. An empty text removes the tag; the same holds for the other texts.")},
+     {"artist", "A", QT_TRANSLATE_NOOP("CommandLine", "Write this artist.")},
+     {"album", "B", QT_TRANSLATE_NOOP("CommandLine", "Write this album.")},
+     {"year", "Y", QT_TRANSLATE_NOOP("CommandLine", "Write this year; 0 removes the tag.")},
+     {"genre", "G", QT_TRANSLATE_NOOP("CommandLine", "Write this genre.")},
+     {"artwork", "IMAGE", QT_TRANSLATE_NOOP("CommandLine", "Take the cover from this picture file.")},
+     {"rename", "",
+      QT_TRANSLATE_NOOP("CommandLine", "Rename the file after its title, unless the name is taken or not possible.")},
      kJsonOption},
-    {{"tag a.m4a", "Print the tags."},
-     {"tag a.m4a --title \"Morning\" --artwork cover.jpg", "Write a title and a cover."},
-     {"tag a.m4a --title \"Morning\" --rename", "Write a title and name the file Morning.m4a."}},
+    {{"tag a.m4a", QT_TRANSLATE_NOOP("CommandLine", "Print the tags.")},
+     {"tag a.m4a --title \"Morning\" --artwork cover.jpg",
+      QT_TRANSLATE_NOOP("CommandLine", "Write a title and a cover.")},
+     {"tag a.m4a --title \"Morning\" --rename",
+      QT_TRANSLATE_NOOP("CommandLine", "Write a title and name the file Morning.m4a.")}},
     run};
 
 } // namespace CommandLine

@@ -17,6 +17,7 @@
 #include "Source/ProcessRequests/ControlRequests.h"
 #include "Source/ProcessRequests/MediaLibraryRequests.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -42,16 +43,17 @@ bool isPlayed(const QString& path) {
 
 int trim(const QString& source, double from, double to, const QString& saveAs, bool json) {
     if (!QFileInfo(source).isFile())
-        return fail(u"%1: there is no such file"_s.arg(source));
+        return fail(QCoreApplication::translate("CommandLine", "%1: there is no such file").arg(source));
     const auto info = Platform::services().mediaFiles->info(source);
     if (!info)
         return fail(info.error().text);
     if (from >= info->seconds)
-        return fail(u"%1: it ends at second %2, there is nothing from second %3 on"_s.arg(
-            source, QString::number(info->seconds), QString::number(from)));
-    if (to > info->seconds + kRounding)
         return fail(
-            u"%1: it ends at second %2, --to is %3"_s.arg(source, QString::number(info->seconds), QString::number(to)));
+            QCoreApplication::translate("CommandLine", "%1: it ends at second %2, there is nothing from second %3 on")
+                .arg(source, QString::number(info->seconds), QString::number(from)));
+    if (to > info->seconds + kRounding)
+        return fail(QCoreApplication::translate("CommandLine", "%1: it ends at second %2, --to is %3")
+                        .arg(source, QString::number(info->seconds), QString::number(to)));
     if (to <= 0 || to > info->seconds)
         to = info->seconds;
 
@@ -63,11 +65,12 @@ int trim(const QString& source, double from, double to, const QString& saveAs, b
     task.to = float(to);
     task.entry = FileTags::texts(source);
     if (!task.replace && (QFileInfo::exists(task.exportPath) || QFileInfo(task.exportPath).isSymLink()))
-        return fail(u"%1: This path exists, please change the path or name."_s.arg(task.exportPath));
+        return fail(QCoreApplication::translate("CommandLine", "%1: This path exists, please change the path or name.")
+                        .arg(task.exportPath));
     if (const QString into = QFileInfo(task.exportPath).path(); !QFileInfo(into).isDir())
-        return fail(u"%1: there is no such folder"_s.arg(into));
+        return fail(QCoreApplication::translate("CommandLine", "%1: there is no such folder").arg(into));
     if (task.replace && isPlayed(source))
-        return fail(u"%1: the file is being played"_s.arg(source));
+        return fail(QCoreApplication::translate("CommandLine", "%1: the file is being played").arg(source));
 
     const auto folder = Platform::TemporaryFolder::create(Platform::services().bundle->bundleIdentifier() + u".trim"_s);
     if (!folder)
@@ -88,7 +91,8 @@ int trim(const QString& source, double from, double to, const QString& saveAs, b
     const double seconds = double(task.to) - double(task.from);
     QString problem;
     if (task.replace)
-        problem = tellLibrary(source, {{AudioRecordEntry::Length, seconds}}, u"the file is trimmed"_s);
+        problem = tellLibrary(source, {{AudioRecordEntry::Length, seconds}},
+                              QCoreApplication::translate("CommandLine", "the file is trimmed"));
     if (!problem.isEmpty())
         return fail(problem);
     result.note->end();
@@ -109,13 +113,14 @@ int run(const QStringList& given) {
     if (!arguments.problem().isEmpty())
         return wrongUsage(trimCommand, arguments.problem());
     if (arguments.positional().size() != 1)
-        return wrongUsage(trimCommand, u"trim takes one file"_s);
+        return wrongUsage(trimCommand, QCoreApplication::translate("CommandLine", "trim takes one file"));
     if (!arguments.isSet(u"from"_s) && !arguments.isSet(u"to"_s))
-        return wrongUsage(trimCommand, u"trim takes --from, --to or both"_s);
+        return wrongUsage(trimCommand, QCoreApplication::translate("CommandLine", "trim takes --from, --to or both"));
     if (arguments.isSet(u"to"_s) && to - from < AudioTrimSave::kShortestRange)
-        return wrongUsage(trimCommand, u"--to must be at least a tenth of a second after --from"_s);
+        return wrongUsage(trimCommand, QCoreApplication::translate(
+                                           "CommandLine", "--to must be at least a tenth of a second after --from"));
     if (arguments.isSet(u"save-as"_s) && arguments.value(u"save-as"_s).isEmpty())
-        return wrongUsage(trimCommand, u"--save-as names no file"_s);
+        return wrongUsage(trimCommand, QCoreApplication::translate("CommandLine", "--save-as names no file"));
     EditNote::recover(MediaLibraryRequests::retag);
     return trim(QFileInfo(arguments.positional().constFirst()).absoluteFilePath(), from, to,
                 arguments.value(u"save-as"_s), arguments.isSet(u"json"_s));
@@ -126,14 +131,18 @@ int run(const QStringList& given) {
 const Command trimCommand{
     "trim",
     "FILE",
-    "cut a recording down to a range, in its place or into a new file",
-    {{"from", "S", "Begin at second S of the recording.", "0"},
-     {"to", "S", "End at second S of the recording.", "its end"},
-     {"save-as", "DST", "Write a new file and leave the recording as it is. An existing file is kept.",
-      "the recording is replaced"},
+    QT_TRANSLATE_NOOP("CommandLine", "cut a recording down to a range, in its place or into a new file"),
+    {{"from", "S", QT_TRANSLATE_NOOP("CommandLine", "Begin at second S of the recording."), "0"},
+     {"to", "S", QT_TRANSLATE_NOOP("CommandLine", "End at second S of the recording."),
+      QT_TRANSLATE_NOOP("CommandLine", "its end")},
+     {"save-as", "DST",
+      QT_TRANSLATE_NOOP("CommandLine", "Write a new file and leave the recording as it is. An existing file is kept."),
+      QT_TRANSLATE_NOOP("CommandLine", "the recording is replaced")},
      kJsonOption},
-    {{"trim a.m4a --from 2.5 --to 60", "Cut off the first two and a half seconds and all after a minute."},
-     {"trim a.m4a --from 10 --to 20 --save-as b.m4a", "Copy ten seconds into a new recording."}},
+    {{"trim a.m4a --from 2.5 --to 60",
+      QT_TRANSLATE_NOOP("CommandLine", "Cut off the first two and a half seconds and all after a minute.")},
+     {"trim a.m4a --from 10 --to 20 --save-as b.m4a",
+      QT_TRANSLATE_NOOP("CommandLine", "Copy ten seconds into a new recording.")}},
     run};
 
 } // namespace CommandLine

@@ -9,6 +9,7 @@
 #include "RingtoneMaker/AudioExtractWave.h"
 #include "RingtoneMaker/WaveImage.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QImageWriter>
 #include <QJsonArray>
@@ -32,7 +33,9 @@ QString drawTo(const QString& target, bool overwrite, const QList<float>& values
         return problem;
     const auto picture = WaveImage::drawOnStrip(values);
     if (picture.isNull())
-        return target + u": %1 values are too few for a picture"_s.arg(values.size());
+        return QCoreApplication::translate("CommandLine", "%1: %n values are too few for a picture", nullptr,
+                                           int(values.size()))
+            .arg(target);
     QImageWriter writer(part.path(), "png");
     if (!writer.write(picture))
         return u"%1: %2"_s.arg(target, writer.errorString());
@@ -44,7 +47,7 @@ int run(const QStringList& given) {
     if (!arguments.problem().isEmpty())
         return wrongUsage(waveformCommand, arguments.problem());
     if (arguments.positional().size() != 1)
-        return wrongUsage(waveformCommand, u"waveform takes one file"_s);
+        return wrongUsage(waveformCommand, QCoreApplication::translate("CommandLine", "waveform takes one file"));
     const auto source = arguments.positional().constFirst();
 
     const Interrupt interrupt;
@@ -61,9 +64,10 @@ int run(const QStringList& given) {
         values = wave.extractSamplePoint();
     }
     if (Interrupt::requested())
-        return fail(u"stopped before the end"_s);
+        return fail(QCoreApplication::translate("CommandLine", "stopped before the end"));
     if (const auto damage = wave.error())
-        fail(u"the file is damaged, what could be read is shown: %1"_s.arg(damage.text));
+        fail(QCoreApplication::translate("CommandLine", "the file is damaged, what could be read is shown: %1")
+                 .arg(damage.text));
 
     if (arguments.isSet(u"png"_s))
         if (const auto problem = drawTo(arguments.value(u"png"_s), arguments.isSet(u"overwrite"_s), values);
@@ -89,13 +93,14 @@ int run(const QStringList& given) {
 
 } // namespace
 
-const Command waveformCommand{"waveform",
-                              "SRC",
-                              "print ten values of a file's outline for each second",
-                              {{"png", "FILE", "Draw the outline into a PNG file instead of printing it."},
-                               {"overwrite", "", "Replace FILE when it exists."},
-                               kJsonOption},
-                              {{"waveform a.m4a --png outline.png", "Draw the outline of a recording."}},
-                              run};
+const Command waveformCommand{
+    "waveform",
+    "SRC",
+    QT_TRANSLATE_NOOP("CommandLine", "print ten values of a file's outline for each second"),
+    {{"png", "FILE", QT_TRANSLATE_NOOP("CommandLine", "Draw the outline into a PNG file instead of printing it.")},
+     {"overwrite", "", QT_TRANSLATE_NOOP("CommandLine", "Replace FILE when it exists.")},
+     kJsonOption},
+    {{"waveform a.m4a --png outline.png", QT_TRANSLATE_NOOP("CommandLine", "Draw the outline of a recording.")}},
+    run};
 
 } // namespace CommandLine

@@ -19,6 +19,8 @@
 #include "Platform/Media/linux/MediaFilesLinux.h"
 #include "Platform/Media/linux/play/PipeWireSounds.h"
 
+#include <QCoreApplication>
+
 #include <cstdio>
 #include <optional>
 
@@ -84,9 +86,10 @@ Result<> LinuxServices::startAudio(const std::function<bool()>& whileWaiting) {
             std::fputs("sonaphex: no sound server answers: a private one was started, its input device is a tone\n",
                        stderr);
     } else if (server == PrivateSession::Server::Silent) {
-        d->audio = Error{Error::Kind::Busy,
-                         QStringLiteral("the sound server accepts connections but does not answer. Restart it "
-                                        "(systemctl --user restart pipewire) and try again")};
+        d->audio = Error{
+            Error::Kind::Busy,
+            QCoreApplication::translate("Audio", "the sound server accepts connections but does not answer. Restart it "
+                                                 "(systemctl --user restart pipewire) and try again")};
     }
     services().audioHardware = (d->audioHardware = createAudioHardware(d->session != nullptr)).get();
     services().ioRegistry = (d->ioRegistry = createIORegistry()).get();

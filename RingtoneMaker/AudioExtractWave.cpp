@@ -5,6 +5,7 @@
 #include "Platform/Audio/ClientFormat.h"
 #include "Platform/Foundation/Services.h"
 
+#include <QCoreApplication>
 #include <QLoggingCategory>
 
 #include <algorithm>
@@ -41,7 +42,8 @@ AudioExtractWave::~AudioExtractWave() = default;
 
 bool AudioExtractWave::openFile(const QString& path) {
     infile_.reset();
-    openError_ = {Platform::Error::Kind::Other, u"%1 cannot be read"_s.arg(path)};
+    openError_ = {Platform::Error::Kind::Other,
+                  QCoreApplication::translate("RingtoneMaker", "%1 cannot be read").arg(path)};
     auto* files = Platform::services().mediaFiles;
     if (!files)
         return false;

@@ -8,6 +8,7 @@
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Record/RecordingNames.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -25,7 +26,7 @@ bool exists(const QString& path) {
 /// @return the error; empty on success
 QString land(const QString& temporary, const Task& task, bool replace, QString& landed) {
     if (task.target.isEmpty())
-        return u"no folder for ringtones is known"_s;
+        return QCoreApplication::translate("RingtoneMaker", "no folder for ringtones is known");
     if (replace) {
         // Renames over the old file, so that a file exists at every moment.
         if (const auto copied = Platform::FileManager::copy(temporary, task.target, true); !copied)
@@ -68,7 +69,9 @@ Result write(ConverterAudioControl& converter, const Task& task, const std::func
     converter.closeExportFile(); // a failed copy leaves it open
     if (!stopped) {
         if (!created)
-            result.problem = createError ? createError.text : u"%1 cannot be written"_s.arg(temporary);
+            result.problem = createError
+                                 ? createError.text
+                                 : QCoreApplication::translate("RingtoneMaker", "%1 cannot be written").arg(temporary);
         else if (const auto error = converter.exportError())
             result.problem = error.text;
         else if (!copied)

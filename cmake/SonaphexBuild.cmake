@@ -121,3 +121,24 @@ function(sonaphex_resources)
     add_custom_target(sonaphex_resource_files ALL DEPENDS ${stamp})
     add_dependencies(sonaphex sonaphex_resource_files)
 endfunction()
+
+# Makes Resources/translations/*.ts into the files that the program loads. The target `translations` brings the .ts files up
+# to date with the texts of the sources. The .ts files contain no line numbers: each edit of a source would change them.
+function(sonaphex_translations)
+    file(GLOB files CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/Resources/translations/*.ts)
+    set(out ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Resources/translations)
+    set(made)
+    foreach(file IN LISTS files)
+        get_filename_component(name ${file} NAME_WE)
+        add_custom_command(OUTPUT ${out}/${name}.qm
+            COMMAND ${CMAKE_COMMAND} -E make_directory ${out}
+            COMMAND Qt6::lrelease -silent ${file} -qm ${out}/${name}.qm
+            DEPENDS ${file} VERBATIM)
+        list(APPEND made ${out}/${name}.qm)
+    endforeach()
+    add_custom_target(sonaphex_translation_files ALL DEPENDS ${made})
+    add_dependencies(sonaphex sonaphex_translation_files)
+    add_custom_target(translations
+        COMMAND ${CMAKE_SOURCE_DIR}/scripts/translations $<TARGET_FILE:Qt6::lupdate>
+        COMMENT "Collecting the texts of the sources" VERBATIM)
+endfunction()

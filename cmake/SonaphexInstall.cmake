@@ -15,6 +15,8 @@ install(FILES ${CMAKE_SOURCE_DIR}/Resources/ComputerAudioCapture.kext/driver.con
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/Resources/AudioSession DESTINATION ${CMAKE_INSTALL_DATADIR}/sonaphex)
 install(FILES ${CMAKE_SOURCE_DIR}/Resources/AudioArtwork.png ${CMAKE_SOURCE_DIR}/Resources/computer-audio.html
     ${CMAKE_SOURCE_DIR}/Resources/support.html DESTINATION ${CMAKE_INSTALL_DATADIR}/sonaphex)
+install(DIRECTORY ${resources_out}/translations DESTINATION ${CMAKE_INSTALL_DATADIR}/sonaphex
+    FILES_MATCHING PATTERN "*.qm")
 
 install(FILES ${CMAKE_SOURCE_DIR}/Resources/${desktop_id}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 configure_file(${CMAKE_SOURCE_DIR}/Resources/${desktop_id}.service.in ${CMAKE_BINARY_DIR}/${desktop_id}.service @ONLY)
@@ -28,7 +30,7 @@ set(manual_files)
 function(sonaphex_printed file)
     add_custom_command(OUTPUT ${manual}/${file}
         COMMAND ${CMAKE_COMMAND} -E make_directory ${manual}
-        COMMAND ${CMAKE_COMMAND} -E env LC_ALL=C.UTF-8 $<TARGET_FILE:sonaphex> ${ARGN} > ${manual}/${file}
+        COMMAND ${CMAKE_COMMAND} -E env --unset=LANGUAGE LC_ALL=C.UTF-8 $<TARGET_FILE:sonaphex> ${ARGN} > ${manual}/${file}
         DEPENDS sonaphex sonaphex_desktop VERBATIM)
     set(manual_files ${manual_files} ${manual}/${file} PARENT_SCOPE)
 endfunction()

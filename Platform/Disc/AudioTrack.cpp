@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Disc/AudioTrack.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <utility>
 
@@ -10,7 +12,8 @@ namespace Platform {
 Result<std::unique_ptr<ExtAudioFileReader>> AudioTrack::openReader() {
     auto reader = files_.openReader(path_);
     if (reader && (*reader)->setClientDataFormat(planarFloatFormat(CDFormat::kRate, 2)) != noErr)
-        return Error{Error::Kind::UnknownFormat, path_ + QStringLiteral(": its rate cannot be converted")};
+        return Error{Error::Kind::UnknownFormat,
+                     QCoreApplication::translate("Disc", "%1: its rate cannot be converted").arg(path_)};
     return reader;
 }
 
@@ -24,7 +27,7 @@ Result<std::shared_ptr<AudioTrack>> AudioTrack::open(MediaFiles& files, const QS
     const AudioStreamBasicDescription format = reader.fileDataFormat();
     const std::int64_t length = reader.fileLengthFrames();
     if (length <= 0 || format.mSampleRate <= 0)
-        return Error{Error::Kind::NoAudio, path + QStringLiteral(": contains no audio")};
+        return Error{Error::Kind::NoAudio, QCoreApplication::translate("Disc", "%1: contains no audio").arg(path)};
     const auto rate = std::int64_t(format.mSampleRate);
     track->frames_ = rate == CDFormat::kRate ? length : (length * CDFormat::kRate + rate / 2) / rate;
     track->sectors_ = std::max(CDFormat::kShortestTrack,

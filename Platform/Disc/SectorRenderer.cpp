@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Disc/SectorRenderer.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cstring>
 #include <new>
@@ -97,14 +99,18 @@ Result<> SectorRenderer::render(std::span<std::byte> out) {
         std::uint32_t frames = ask;
         if (reader_->read(frames, &buffers.list) != noErr) {
             const Error error = reader_->firstError();
-            return error ? error : Error{Error::Kind::Damaged, path_ + QStringLiteral(": cannot be read")};
+            return error ? error
+                         : Error{Error::Kind::Damaged,
+                                 QCoreApplication::translate("Disc", "%1: cannot be read").arg(path_)};
         }
         if (frames == 0)
             break;
         done += frames;
     }
     if (fromFile - done > 0 && frames_ - (at_ + done) > kToleratedFrames)
-        return Error{Error::Kind::Damaged, path_ + QStringLiteral(": the file ends earlier than when it was measured")};
+        return Error{
+            Error::Kind::Damaged,
+            QCoreApplication::translate("Disc", "%1: the file ends earlier than when it was measured").arg(path_)};
     samples_.resize(std::size_t(done) * 2);
     dither_.interleave(rows_[0].data(), rows_[1].data(), samples_.data(), std::size_t(done), exact_);
     std::memcpy(out.data(), samples_.data(), samples_.size() * 2);

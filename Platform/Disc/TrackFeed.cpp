@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Disc/TrackFeed.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cstring>
 
@@ -52,7 +54,8 @@ void TrackFeed::decode() {
         const auto track = std::dynamic_pointer_cast<AudioTrack>(each);
         const auto renderer =
             track ? track->renderer()
-                  : Error{Error::Kind::NoAudio, each->path() + QStringLiteral(": is not an audio file")};
+                  : Error{Error::Kind::NoAudio,
+                          QCoreApplication::translate("Disc", "%1: is not an audio file").arg(each->path())};
         error = renderer.error();
         bool goesOn = bool(renderer);
         for (std::int64_t left = each->sectors(); goesOn && left > 0; left -= kBlockSectors) {

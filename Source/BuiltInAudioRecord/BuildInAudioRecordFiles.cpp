@@ -8,6 +8,8 @@
 #include "Platform/Foundation/Services.h"
 #include "Source/BuiltInAudioRecord/ExportFormat.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -57,7 +59,7 @@ std::unique_ptr<ExtAudioFileWriter> BuildInAudioRecord::createWriter(const QStri
 
 bool BuildInAudioRecord::noteFailure(const Platform::Error& error, const QString& path) {
     const std::lock_guard lock(mutex_);
-    lastError_ = error ? error.text : QStringLiteral("%1 cannot be written").arg(path);
+    lastError_ = error ? error.text : QCoreApplication::translate("Record", "%1 cannot be written").arg(path);
     return false;
 }
 

@@ -6,6 +6,7 @@
 #include "Platform/Foundation/NotificationCenter.h"
 #include "Platform/Foundation/Services.h"
 
+#include <QCoreApplication>
 #include <QLoggingCategory>
 
 #include <algorithm>
@@ -163,7 +164,7 @@ float BurnControl::getcurrentDVDFreeSize() const {
 
 QString BurnControl::deviceProblem() const {
     const auto device = deviceAt(recordNum_);
-    return device ? device->status().problem : QStringLiteral("there is no drive");
+    return device ? device->status().problem : QCoreApplication::translate("BurnControl", "there is no drive");
 }
 
 // ---- burning -------------------------------------------------------------------------------------------------------

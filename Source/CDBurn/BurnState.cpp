@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/CDBurn/BurnState.h"
 
+#include <QCoreApplication>
+
 BurnState burnState(const BurnConditions& conditions) {
     if (conditions.listIsEmpty)
         return BurnState::NoMusic;
@@ -15,17 +17,17 @@ BurnState burnState(const BurnConditions& conditions) {
 QString burnStateMessage(BurnState state) {
     switch (state) {
     case BurnState::NoMusic:
-        return QStringLiteral("Waiting for the import Music File");
+        return QCoreApplication::translate("BurnState", "Waiting for the import Music File");
     case BurnState::NoDisc:
-        return QStringLiteral("Waiting for the inserted Disc");
+        return QCoreApplication::translate("BurnState", "Waiting for the inserted Disc");
     case BurnState::Erasable:
-        return QStringLiteral("Is not blank, Please erase the Disc");
+        return QCoreApplication::translate("BurnState", "Is not blank, Please erase the Disc");
     case BurnState::NotBlank:
-        return QStringLiteral("Is not blank, Please replace the Disc");
+        return QCoreApplication::translate("BurnState", "Is not blank, Please replace the Disc");
     case BurnState::NoRoom:
-        return QStringLiteral("Disc space not enough for music");
+        return QCoreApplication::translate("BurnState", "Disc space not enough for music");
     case BurnState::Ready:
-        return QStringLiteral("Ready to burn");
+        return QCoreApplication::translate("BurnState", "Ready to burn");
     }
     return {};
 }

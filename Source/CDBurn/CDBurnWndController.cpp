@@ -141,7 +141,7 @@ void CDBurnWndController::setAudioDataForCDBurn(const QVariantList& records) {
 void CDBurnWndController::addFilesToData() {
     // The sheet belongs to the window, which may be destroyed before it is answered.
     const QPointer<CDBurnWndController> self(this);
-    Platform::services().panels->chooseFilesAndFolders(window_.get(), u"Select"_s, Platform::Folders::home(),
+    Platform::services().panels->chooseFilesAndFolders(window_.get(), tr("Select"), Platform::Folders::home(),
                                                        [self](const QStringList& paths) {
                                                            if (!self || paths.isEmpty())
                                                                return;
@@ -169,7 +169,7 @@ void CDBurnWndController::startBurnCD() {
     if (ui_->trackList_->dataCountNum() == 0) {
         Platform::services().alerts->runModal(tr("There is nothing to burn."),
                                               tr("Tick the files that are to become tracks, then press Burn."),
-                                              {tr("OK")});
+                                              {Platform::Alerts::okLabel()});
         return;
     }
     // The disc may just have been removed. A burn that cannot start sends no notification, and its sheet would stay.

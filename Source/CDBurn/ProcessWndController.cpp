@@ -55,13 +55,13 @@ ProcessWndController::~ProcessWndController() {
 }
 
 void ProcessWndController::awakeFromNib() {
-    ui_->lblTitle_->setText(u"Burn Progress:"_s);
+    ui_->lblTitle_->setText(tr("Burn Progress:"));
     ui_->lblTitle_->setFont(BurnWindowFont::ofSize(20));
     ui_->lblPercent_->setFont(BurnWindowFont::ofSize(20));
     ui_->lblMessage_->setFont(BurnWindowFont::ofSize(16));
     // As wide as its longest text, so that the layout does not move.
     ui_->lblPercent_->setMinimumWidth(ui_->lblPercent_->fontMetrics().horizontalAdvance(u"99  %"_s));
-    ui_->btnCancel_->setText(u"Cancel"_s);
+    ui_->btnCancel_->setText(Platform::Alerts::cancelLabel());
     connect(ui_->btnCancel_, &QPushButton::clicked, this, &ProcessWndController::cancelBurn);
     window_->installEventFilter(this);
     applyColors();
@@ -158,8 +158,9 @@ void ProcessWndController::burnError() {
 }
 
 void ProcessWndController::cancelBurn() {
-    const int answer = Platform::services().alerts->runModal(u"Warning:"_s, u"Are you sure to end the task?"_s,
-                                                             {u"Cancel"_s, u"OK"_s});
+    const int answer =
+        Platform::services().alerts->runModal(tr("Warning:"), tr("Are you sure to end the task?"),
+                                              {Platform::Alerts::cancelLabel(), Platform::Alerts::okLabel()});
     // The burn may have ended while the question was open.
     if (answer != 1 || finished_ || !didEnd_)
         return;

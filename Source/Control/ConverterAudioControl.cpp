@@ -8,6 +8,7 @@
 #include "Source/BuiltInAudioRecord/ExportFormat.h"
 #include "Source/Control/Fades.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QLoggingCategory>
 
@@ -73,7 +74,8 @@ bool ConverterAudioControl::createOutPutFile(const QString& path, int type) {
     auto* files = Platform::services().mediaFiles;
     const auto folder = QFileInfo(path).path();
     if (!files || !QFileInfo(folder).isDir()) {
-        exportError_ = {Platform::Error::Kind::NotFound, u"%1: no such folder"_s.arg(folder)};
+        exportError_ = {Platform::Error::Kind::NotFound,
+                        QCoreApplication::translate("Control", "%1: no such folder").arg(folder)};
         return false;
     }
 
@@ -99,7 +101,8 @@ bool ConverterAudioControl::openSource(const QString& path, Source& source) {
     sourceError_ = {};
     auto* files = Platform::services().mediaFiles;
     if (!files || !QFileInfo::exists(path)) {
-        sourceError_ = {Platform::Error::Kind::NotFound, u"%1: no such file"_s.arg(path)};
+        sourceError_ = {Platform::Error::Kind::NotFound,
+                        QCoreApplication::translate("Control", "%1: no such file").arg(path)};
         return false;
     }
     auto file = files->openReader(path);

@@ -11,6 +11,7 @@
 #include "Platform/Media/ExtAudioFile.h"
 #include "Source/Model/AudioRecordEntry.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -76,7 +77,8 @@ Platform::Result<EditNote> EditNote::begin(const QString& path, const QString& n
     using Platform::Error;
     const QString folder = notesFolder();
     if (!QDir().mkpath(folder))
-        return Error{Error::Kind::Other, u"%1: the folder cannot be created"_s.arg(folder)};
+        return Error{Error::Kind::Other,
+                     QCoreApplication::translate("Control", "%1: the folder cannot be created").arg(folder)};
     Platform::FileLock lock;
     const QString name = folder + u'/' + QString::number(QRandomGenerator::global()->generate64(), 36) + kEnding;
     if (const auto taken = lock.take(name); !taken)

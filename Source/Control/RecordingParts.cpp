@@ -15,6 +15,7 @@
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Preferences/PreferenceStore.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QScopeGuard>
 
@@ -66,7 +67,8 @@ public:
         ID3ChangeControl::changeID3(temporary, file.path(), tags, cover_);
         if (FileTags::agree(file.path(), tags).valueOr(false))
             return {};
-        return failure(Error::Kind::Other, file.target(), u"the file or its tags could not be written"_s);
+        return failure(Error::Kind::Other, file.target(),
+                       QCoreApplication::translate("Control", "the file or its tags could not be written"));
     }
 
 private:
@@ -94,7 +96,8 @@ private:
 };
 
 Error existsError(const QString& path) {
-    return failure(Error::Kind::Exists, path, u"This path exists, please change the path or name."_s);
+    return failure(Error::Kind::Exists, path,
+                   QCoreApplication::translate("Control", "This path exists, please change the path or name."));
 }
 
 bool isTaken(const QString& path) {
@@ -148,7 +151,8 @@ Result<std::int64_t> copyFrames(const QString& source, Platform::ExtAudioFileWri
             return writer.firstError();
         copied += frames;
         if (progress && blocks % BlocksPerReport == 0 && !progress(std::min(1.0, double(copied) / total)))
-            return failure(Error::Kind::Cancelled, source, u"stopped before the end"_s);
+            return failure(Error::Kind::Cancelled, source,
+                           QCoreApplication::translate("Control", "stopped before the end"));
     }
 }
 

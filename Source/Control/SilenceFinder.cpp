@@ -6,6 +6,8 @@
 #include "Platform/Foundation/Services.h"
 #include "Platform/Media/ExtAudioFile.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 
@@ -73,13 +75,15 @@ Platform::Result<Found> find(const QString& path, const Rule& rule, const std::f
     for (int blocks = 1;; ++blocks) {
         std::uint32_t frames = block.prepare(format);
         if (reader.read(frames, block.list()) != noErr)
-            return failure(Error::Kind::Damaged, path, u"a part of it is damaged and cannot be measured"_s,
+            return failure(Error::Kind::Damaged, path,
+                           QCoreApplication::translate("Control", "a part of it is damaged and cannot be measured"),
                            reader.firstError().forLog());
         if (frames == 0)
             break;
         collector.add(*block.list(), frames);
         if (progress && blocks % BlocksPerReport == 0 && !progress(double(collector.found.frames) / total))
-            return failure(Error::Kind::Cancelled, path, u"stopped before the end"_s);
+            return failure(Error::Kind::Cancelled, path,
+                           QCoreApplication::translate("Control", "stopped before the end"));
     }
     collector.endSilence();
     collector.found.sampleRate = format.mSampleRate;

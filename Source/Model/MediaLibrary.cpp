@@ -10,6 +10,7 @@
 #include "Source/Model/MediaLibraryStore.h"
 #include "Source/Preferences/PreferenceStore.h"
 
+#include <QCoreApplication>
 #include <QLoggingCategory>
 #include <QSet>
 
@@ -113,12 +114,14 @@ void MediaLibrary::saveMediaLibraryList() {
 void MediaLibrary::loadDefaultMediaLibrary() {
     const QString recordIcon = u"all-record-node-icon"_s;
     const QString ringtoneIcon = u"all-ringtone-node-icon"_s;
-    const auto records = makeNode(u"Record Library"_s);
+    const auto records = makeNode(QCoreApplication::translate("MediaLibrary", "Record Library"));
     records->setNonLeafNode(
-        {makeNode(u"Newly Recorded"_s, recordIcon, newRecord), makeNode(u"All Recorded"_s, recordIcon, allRecord)});
-    const auto ringtones = makeNode(u"Ringtone Library"_s);
-    ringtones->setNonLeafNode({makeNode(u"Newly Ringtone"_s, ringtoneIcon, newRingtone),
-                               makeNode(u"All Ringtone"_s, ringtoneIcon, allRingtone)});
+        {makeNode(QCoreApplication::translate("MediaLibrary", "Newly Recorded"), recordIcon, newRecord),
+         makeNode(QCoreApplication::translate("MediaLibrary", "All Recorded"), recordIcon, allRecord)});
+    const auto ringtones = makeNode(QCoreApplication::translate("MediaLibrary", "Ringtone Library"));
+    ringtones->setNonLeafNode(
+        {makeNode(QCoreApplication::translate("MediaLibrary", "Newly Ringtone"), ringtoneIcon, newRingtone),
+         makeNode(QCoreApplication::translate("MediaLibrary", "All Ringtone"), ringtoneIcon, allRingtone)});
     rootNode_ = std::make_shared<MediaLibraryNode>();
     rootNode_->setNonLeafNode({records, ringtones});
     loadMediaLibraryNode(*rootNode_);

@@ -7,6 +7,7 @@
 #include "Source/ProcessRequests/MediaLibraryRequests.h"
 #include "Source/Record/RecordStateController.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -17,6 +18,7 @@ namespace {
 
 const QByteArray Ok = "ok";
 
+/// The reason is English on the way between the processes; the one that shows it translates it.
 QByteArray failed(const QByteArray& why) {
     return "failed " + why;
 }
@@ -38,12 +40,14 @@ Platform::RunningProgram::Reply ControlRequests::answer(const QByteArray& reques
     const QByteArray rest = blank < 0 ? QByteArray() : line.mid(blank + 1);
     if (command == "start-stop") {
         if (!controller_.isStateAudioCanStartRecord())
-            return failed(controller_.canRecord() ? "the program is ending" : "there is no source to record");
+            return failed(controller_.canRecord()
+                              ? QT_TRANSLATE_NOOP("ControlRequests", "the program is ending")
+                              : QT_TRANSLATE_NOOP("ControlRequests", "there is no source to record"));
         return {Ok, [&controller = controller_] { controller.startAndStopRecord(); }};
     }
     if (command == "pause-resume" || command == "split") {
         if (!controller_.isStateAudioRecord())
-            return failed("nothing is being recorded");
+            return failed(QT_TRANSLATE_NOOP("ControlRequests", "nothing is being recorded"));
         const auto act =
             command == "split" ? &RecordStateController::splitTheRecord : &RecordStateController::pauseAndResumeRecord;
         return {Ok, [&controller = controller_, act] { (controller.*act)(); }};
@@ -54,7 +58,7 @@ Platform::RunningProgram::Reply ControlRequests::answer(const QByteArray& reques
         return addToLibrary(rest);
     if (const auto answered = MediaLibraryRequests::answer(line))
         return *answered;
-    return failed("unknown request");
+    return failed(QT_TRANSLATE_NOOP("ControlRequests", "unknown request"));
 }
 
 Dictionary ControlRequests::status() const {
@@ -77,7 +81,7 @@ QByteArray ControlRequests::addToLibrary(const QByteArray& json) const {
     const QJsonObject object = QJsonDocument::fromJson(json).object();
     const QString path = object.value(u"path").toString();
     if (!QFileInfo(path).isAbsolute())
-        return failed("there is no path");
+        return failed(QT_TRANSLATE_NOOP("ControlRequests", "there is no path"));
     Dictionary entry = object.value(u"tags").toObject().toVariantMap();
     // JSON has only one number type.
     entry.insert(AudioRecordEntry::Year, entry.value(AudioRecordEntry::Year).toInt());

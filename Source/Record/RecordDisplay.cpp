@@ -4,6 +4,8 @@
 
 #include "Source/Record/RecordState.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -27,11 +29,13 @@ RecordDisplay RecordDisplay::of(int recordState, float seconds, bool blinkOn) {
     const QString minutesAndSeconds = minutes + u':' + twoDigits(whole % 60);
     switch (recordState) {
     case 1:
-        return {blinkOn ? u"Rec.."_s : u"Rec"_s, minutesAndSeconds, Qt::red};
+        return {blinkOn ? QCoreApplication::translate("Record", "Rec..") : QCoreApplication::translate("Record", "Rec"),
+                minutesAndSeconds, Qt::red};
     case 2:
-        return {u"Pause"_s, blinkOn ? minutesAndSeconds : minutes + u':', Qt::black};
+        return {QCoreApplication::translate("Record", "Pause"), blinkOn ? minutesAndSeconds : minutes + u':',
+                Qt::black};
     default:
-        return {u"Ready"_s, blinkOn ? u"00:00"_s : u"00:"_s, Qt::black};
+        return {QCoreApplication::translate("Record", "Ready"), blinkOn ? u"00:00"_s : u"00:"_s, Qt::black};
     }
 }
 
@@ -40,13 +44,13 @@ QString RecordDisplay::headline(RecordState state, double seconds) {
     case RecordState::Idle:
         return {};
     case RecordState::Armed:
-        return u"Waiting for the first sound"_s;
+        return QCoreApplication::translate("Record", "Waiting for the first sound");
     case RecordState::Recording:
-        return u"Recording %1"_s.arg(clock(seconds));
+        return QCoreApplication::translate("Record", "Recording %1").arg(clock(seconds));
     case RecordState::Paused:
-        return u"Paused %1"_s.arg(clock(seconds));
+        return QCoreApplication::translate("Record", "Paused %1").arg(clock(seconds));
     case RecordState::Finishing:
-        return u"Finishing the recording"_s;
+        return QCoreApplication::translate("Record", "Finishing the recording");
     }
     return {};
 }
@@ -57,6 +61,6 @@ bool RecordDisplay::blinkOn(double timeIntervalSinceReferenceDate) {
 }
 
 QString RecordDisplay::convertingTip(bool blinkOn) {
-    return blinkOn ? u"         Audio File Converting\n         Please Wait .."_s
-                   : u"         Audio File Converting\n         Please Wait "_s;
+    return blinkOn ? QCoreApplication::translate("Record", "         Audio File Converting\n         Please Wait ..")
+                   : QCoreApplication::translate("Record", "         Audio File Converting\n         Please Wait ");
 }

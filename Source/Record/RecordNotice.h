@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QCoreApplication>
 #include <QMetaType>
 #include <QString>
 #include <QStringList>
@@ -34,7 +35,8 @@ struct RecordNotice {
     /// Text and path as one sentence.
     [[nodiscard]] QString sentence() const {
         if (kept.size() == 2)
-            return text + u' ' + kept.join(QStringLiteral(" and "));
+            return text + u' ' +
+                   QCoreApplication::translate("Record", "%1 and %2", "two paths").arg(kept.at(0), kept.at(1));
         return path.isEmpty() ? text : text + u' ' + path;
     }
     friend bool operator==(const RecordNotice&, const RecordNotice&) = default;

@@ -12,8 +12,10 @@
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Record/CutOffRecordings.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QLocale>
 #include <QThread>
 
 #include <algorithm>
@@ -33,7 +35,7 @@ constexpr double LargestDrift = 2e-3;
 
 /// The error text of a failed step, for the middle of a sentence.
 QString reason(const Error& error) {
-    return error.text.isEmpty() ? u"the reason is unknown"_s : error.text;
+    return error.text.isEmpty() ? QCoreApplication::translate("Record", "the reason is unknown") : error.text;
 }
 
 /// Deletes a file whose audio is in another file by now.
@@ -44,15 +46,40 @@ void removeTemporaryFile(const QString& path) {
                  qUtf8Printable(removed.error().forLog()));
 }
 
-/// A notice that ends with the place where files were kept. @p what names the files, as the beginning of a sentence.
-RecordNotice keptNotice(const QString& text, const QString& what, const QStringList& kept) {
+/// What was kept.
+enum class Kept { Recording, Source, MadeFrom };
+
+/// A sentence that the path of the kept file follows.
+QString keptSentence(Kept what, bool waits) {
+    switch (what) {
+    case Kept::Recording:
+        return waits ? QCoreApplication::translate(
+                           "Record", "The recording is kept, and moved by the next start when there is room, at",
+                           "a path follows")
+                     : QCoreApplication::translate("Record", "The recording is kept at", "a path follows");
+    case Kept::Source:
+        return waits ? QCoreApplication::translate("Record",
+                                                   "It is kept, and moved by the next start when there is room, at",
+                                                   "the source of a recording; a path follows")
+                     : QCoreApplication::translate("Record", "It is kept at",
+                                                   "the source of a recording; a path follows");
+    case Kept::MadeFrom:
+        break;
+    }
+    return waits ? QCoreApplication::translate(
+                       "Record", "What it was made from is kept, and moved by the next start when there is room, at",
+                       "a path follows")
+                 : QCoreApplication::translate("Record", "What it was made from is kept at", "a path follows");
+}
+
+/// A notice that ends with the place where files were kept.
+RecordNotice keptNotice(const QString& text, Kept what, const QStringList& kept) {
     RecordNotice notice{.text = text};
     if (kept.isEmpty())
         return notice;
     const QString folder = Platform::FileManager::unfinishedFolder();
     const bool waits = std::ranges::any_of(kept, [&](const QString& path) { return QFileInfo(path).path() != folder; });
-    notice.text += waits ? u" %1 is kept, and moved by the next start when there is room, at"_s.arg(what)
-                         : u" %1 is kept at"_s.arg(what);
+    notice.text += u' ' + keptSentence(what, waits);
     notice.path = kept.front();
     notice.kept = kept;
     notice.help = RecordNotice::Help::Show;
@@ -130,8 +157,10 @@ void RecordQueue::rawFileClosed(const Guard& guard, const std::shared_ptr<Export
     guard.alive.post([&queue = *guard.queue, status] {
         if (status != noErr)
             Q_EMIT queue.noticed(
-                {.text = u"A part of the recording could not be written (error %1). What was written is kept."_s.arg(
-                     status),
+                {.text =
+                     QCoreApplication::translate(
+                         "Record", "A part of the recording could not be written (error %1). What was written is kept.")
+                         .arg(status),
                  .event = UnwrittenEvent});
         if (queue.isConverterTherecordAudio_ && !queue.working_)
             queue.converterTherecordAudio();
@@ -186,8 +215,8 @@ bool RecordQueue::deliver(const std::shared_ptr<ExportJob>& job, const QString& 
         Platform::FileManager::moveToFreeName(file, wished, [this](const QString&) { return owner_.nextFreeName(); });
     if (!landed) {
         setAside(job, {file},
-                 u"%1: %2 could not be saved in “%3”."_s.arg(landed.error().text, QFileInfo(wished).fileName(),
-                                                             QDir(QFileInfo(wished).path()).dirName()));
+                 QCoreApplication::translate("Record", "%1: %2 could not be saved in “%3”.")
+                     .arg(landed.error().text, QFileInfo(wished).fileName(), QDir(QFileInfo(wished).path()).dirName()));
         return false;
     }
     CutOffRecordings::remove(file);
@@ -215,7 +244,9 @@ void RecordQueue::openMovies(const std::shared_ptr<ExportJob>& job) {
     auto second = media->openMovie(raws.at(1));
     const QString name = QFileInfo(job->path(ExportJob::OutPutPath)).fileName();
     if (!first && !second) {
-        setAside(job, raws, u"%1 could not be finished: %2."_s.arg(name, reason(first.error())));
+        setAside(
+            job, raws,
+            QCoreApplication::translate("Record", "%1 could not be finished: %2.").arg(name, reason(first.error())));
         return;
     }
     if (!first || !second) {
@@ -226,9 +257,10 @@ void RecordQueue::openMovies(const std::shared_ptr<ExportJob>& job) {
             const QString kept = Platform::MovedFiles::setAside(bad, QFileInfo(bad).fileName());
             CutOffRecordings::remove(bad);
             onMain([this, name, kept, why = reason(first ? second.error() : first.error())] {
-                Q_EMIT noticed(
-                    keptNotice(u"One source of %1 could not be read (%2) and is missing in it."_s.arg(name, why),
-                               u"It"_s, {kept}));
+                Q_EMIT noticed(keptNotice(QCoreApplication::translate(
+                                              "Record", "One source of %1 could not be read (%2) and is missing in it.")
+                                              .arg(name, why),
+                                          Kept::Source, {kept}));
             });
         }
         moveRawFile(job, good);
@@ -248,16 +280,19 @@ void RecordQueue::converterMovie(const std::shared_ptr<ExportJob>& job) {
     const QStringList raws{job->path(ExportJob::BuiltInAudioTempPath), job->path(ExportJob::ComputerAudioTempPath)};
     const QString name = QFileInfo(job->path(ExportJob::OutPutPath)).fileName();
     if (const auto removed = Platform::FileManager::removeFile(wave); !removed) {
-        setAside(job, raws, u"%1 could not be mixed: %2."_s.arg(name, removed.error().text));
+        setAside(job, raws,
+                 QCoreApplication::translate("Record", "%1 could not be mixed: %2.").arg(name, removed.error().text));
         return;
     }
     const double needed = qtMovieForRecord_->duration() * MixBytesPerSecond;
     const qint64 available = Platform::FileManager::availableBytes(QFileInfo(wave).path());
     if (available >= 0 && double(available) < needed) {
         qtMovieForRecord_.reset();
-        setAside(job, raws,
-                 u"The disk is nearly full: %1 could not be mixed, which needs %2 MB; %3 MB are left."_s.arg(
-                     name, QString::number(std::llround(needed / 1e6)), QString::number(available / 1000000)));
+        setAside(
+            job, raws,
+            QCoreApplication::translate(
+                "Record", "The disk is nearly full: %1 could not be mixed, which needs %2 MB; %3 MB are left.")
+                .arg(name, QLocale().toString(std::llround(needed / 1e6)), QLocale().toString(available / 1000000)));
         return;
     }
     const auto mixed = qtMovieForRecord_->writeWave(wave, [this](double share) {
@@ -269,7 +304,8 @@ void RecordQueue::converterMovie(const std::shared_ptr<ExportJob>& job) {
     if (cancelled_)
         return;
     if (!mixed) {
-        setAside(job, raws, u"%1 could not be mixed: %2."_s.arg(name, reason(mixed.error())));
+        setAside(job, raws,
+                 QCoreApplication::translate("Record", "%1 could not be mixed: %2.").arg(name, reason(mixed.error())));
         return;
     }
     CutOffRecordings::add(wave);
@@ -305,7 +341,9 @@ void RecordQueue::converterAudio(const std::shared_ptr<ExportJob>& job) {
     whole = whole && !error;
     if (!whole) {
         (void)Platform::FileManager::removeFile(encoded);
-        setAside(job, {wave}, u"%1 could not be encoded: %2."_s.arg(name, reason(error ? error : damage)));
+        setAside(job, {wave},
+                 QCoreApplication::translate("Record", "%1 could not be encoded: %2.")
+                     .arg(name, reason(error ? error : damage)));
         return;
     }
     CutOffRecordings::add(encoded);
@@ -348,15 +386,16 @@ void RecordQueue::keepDamaged(ExportJob& job, const QStringList& keys, const Err
         job.paths.remove(key); // so that the job does not delete it
     const QString name = QFileInfo(job.path(ExportJob::OutPutPath)).fileName();
     const RecordNotice notice =
-        keptNotice(u"A part of %1 could not be read (%2) and is missing in it."_s.arg(name, reason(damage)),
-                   u"What it was made from"_s, kept);
+        keptNotice(QCoreApplication::translate("Record", "A part of %1 could not be read (%2) and is missing in it.")
+                       .arg(name, reason(damage)),
+                   Kept::MadeFrom, kept);
     onMain([this, notice] { Q_EMIT noticed(notice); });
 }
 
 void RecordQueue::setAside(const std::shared_ptr<ExportJob>& job, const QStringList& files, const QString& why) {
     const QString wished = job->path(ExportJob::OutPutPath);
     const QStringList kept = keepFiles(*job, files);
-    const RecordNotice notice = keptNotice(why, u"The recording"_s, kept);
+    const RecordNotice notice = keptNotice(why, Kept::Recording, kept);
     onMain([this, wished, kept, notice] {
         Q_EMIT noticed(notice);
         Q_EMIT recordingSetAside(wished, kept);
@@ -382,7 +421,8 @@ void RecordQueue::tagFile(const ExportJob& job) {
     onMain([this, finalPath, tags, tagged] {
         if (!tagged)
             Q_EMIT noticed(
-                {.text = u"%1 could not be tagged. Its audio is complete."_s.arg(QFileInfo(finalPath).fileName()),
+                {.text = QCoreApplication::translate("Record", "%1 could not be tagged. Its audio is complete.")
+                             .arg(QFileInfo(finalPath).fileName()),
                  .path = {},
                  .help = RecordNotice::Help::Show,
                  .target = finalPath});

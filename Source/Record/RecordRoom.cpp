@@ -5,6 +5,7 @@
 #include "Platform/Foundation/FileManager.h"
 #include "Platform/Foundation/MainQueue.h"
 
+#include <QCoreApplication>
 #include <QStorageInfo>
 
 #include <algorithm>
@@ -66,10 +67,10 @@ RecordRoom::Room RecordRoom::measure(const Recording& recording) {
 QString RecordRoom::words(double seconds) {
     int minutes = int(std::min(seconds / 60, 1e6));
     if (minutes < 1)
-        return u"less than a minute"_s;
+        return QCoreApplication::translate("Record", "less than a minute");
     if (minutes == 1)
-        return u"about 1 minute"_s;
+        return QCoreApplication::translate("Record", "about 1 minute");
     if (minutes > 10)
         minutes -= minutes % 5;
-    return u"about %1 minutes"_s.arg(minutes);
+    return QCoreApplication::translate("Record", "about %n minutes", nullptr, minutes);
 }

@@ -9,6 +9,7 @@
 #include "Platform/Foundation/MainQueue.h"
 #include "Platform/Foundation/Services.h"
 
+#include <QCoreApplication>
 #include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
@@ -29,11 +30,13 @@ AudioObjectID idOf(const QVariant& device) {
 
 void warnOfUsbHeadset() {
     if (auto* alerts = Platform::services().alerts)
-        alerts->runModal(u"Waring:"_s,
-                         u"The application is reading your USB headset data, please do not unplug your USB headset, if "
-                         u"you want to unplug your USB headset please turn off this application first， Otherwise give "
-                         u"your computer some trouble."_s,
-                         {u"OK"_s});
+        alerts->runModal(
+            QCoreApplication::translate("Record", "Waring:"),
+            QCoreApplication::translate(
+                "Record", "The application is reading your USB headset data, please do not unplug your USB headset, if "
+                          "you want to unplug your USB headset please turn off this application first， Otherwise give "
+                          "your computer some trouble."),
+            {Platform::Alerts::okLabel()});
 }
 
 } // namespace
@@ -140,11 +143,12 @@ void RecordSources::bind(BuildInAudioRecord& engine, AudioObjectID device, const
     if (unopened_.contains(device))
         return;
     unopened_.append(device);
-    Q_EMIT noticed(
-        {.text = u"%1 cannot be opened: %2. Nothing is heard from it until it can."_s.arg(name, engine.lastError()),
-         .help = RecordNotice::Help::ChooseDevice,
-         .event = event,
-         .outlivesRecording = true});
+    Q_EMIT noticed({.text = QCoreApplication::translate(
+                                "Record", "%1 cannot be opened: %2. Nothing is heard from it until it can.")
+                                .arg(name, engine.lastError()),
+                    .help = RecordNotice::Help::ChooseDevice,
+                    .event = event,
+                    .outlivesRecording = true});
 }
 
 void RecordSources::openAgain() {
@@ -233,11 +237,13 @@ void RecordSources::followDevices() {
 
 /// The captured device is gone: informs the user which device replaces it.
 void RecordSources::tellReplacement(const QString& gone) {
-    RecordNotice notice{.text = u"%1 is gone. There is no other input device: connect one."_s.arg(gone),
-                        .event = ReplacedEvent};
+    RecordNotice notice{
+        .text =
+            QCoreApplication::translate("Record", "%1 is gone. There is no other input device: connect one.").arg(gone),
+        .event = ReplacedEvent};
     if (selected_ >= 0) {
-        notice.text =
-            u"%1 is gone. %2 takes its place until it is back."_s.arg(gone, nameOf(aryInputAudioDevice_.at(selected_)));
+        notice.text = QCoreApplication::translate("Record", "%1 is gone. %2 takes its place until it is back.")
+                          .arg(gone, nameOf(aryInputAudioDevice_.at(selected_)));
         notice.help = RecordNotice::Help::ChooseDevice;
     }
     Q_EMIT noticed(notice);

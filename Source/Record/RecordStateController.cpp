@@ -11,6 +11,7 @@
 #include "Source/Model/MediaLibrary.h"
 #include "Source/Record/RecordStateControllerPrivate.h"
 
+#include <QCoreApplication>
 #include <QLoggingCategory>
 #include <QThread>
 
@@ -32,11 +33,13 @@ RecordStateController::RecordStateController(EngineFactory factory, QObject* par
     d->namesWorker.setMaxThreadCount(1);
     const auto make = [&factory] { return factory ? factory() : std::make_unique<BuildInAudioRecord>(); };
     d->builtIn.engine = make();
-    d->builtIn.label = u"The input device"_s;
+    d->builtIn.label = QCoreApplication::translate("Record", "The input device");
+    d->builtIn.labelInSentence = QCoreApplication::translate("Record", "the input device");
     d->builtIn.rawName = u"/BuiltInA"_s;
     d->builtIn.jobKey = ExportJob::BuiltInAudioTempPath;
     d->computer.engine = make();
-    d->computer.label = u"Computer audio"_s;
+    d->computer.label = QCoreApplication::translate("Record", "Computer audio");
+    d->computer.labelInSentence = QCoreApplication::translate("Record", "computer audio");
     d->computer.rawName = u"/ComputerA"_s;
     d->computer.jobKey = ExportJob::ComputerAudioTempPath;
 
@@ -142,11 +145,14 @@ void RecordStateController::chooseRecordComputerAudio(bool on) {
     const bool present = d->devices->computerAudioDeviceID() != 0;
     if (!present) {
         const int button = Platform::services().alerts->runModal(
-            u"Add-on required to record the system audio."_s,
-            u"KorvanAudioDevice is easy to use, it simply accept system audio data, allowing any audio application to "
-            u"send and receive audio with no other support needed. KorvanAudioDevice is free, and runs on Linux "
-            u"computers. This driver will only be used by Sonaphex."_s,
-            {u"Install"_s, u"Cancel"_s});
+            QCoreApplication::translate("Record", "Add-on required to record the system audio."),
+            QCoreApplication::translate(
+                "Record",
+                "KorvanAudioDevice is easy to use, it simply accept system audio data, allowing any audio application "
+                "to "
+                "send and receive audio with no other support needed. KorvanAudioDevice is free, and runs on Linux "
+                "computers. This driver will only be used by Sonaphex."),
+            {QCoreApplication::translate("Record", "Install"), Platform::Alerts::cancelLabel()});
         if (button == 0)
             d->delegate->insertTheSystemAudioRecordDevice();
     }
@@ -169,7 +175,9 @@ bool RecordStateController::windowShouldClose() {
     if (recordState_() == 0)
         d->delegate->terminate();
     else
-        Platform::services().alerts->runModal(u"Waring:"_s, u"Please stop your recording."_s, {u"OK"_s});
+        Platform::services().alerts->runModal(QCoreApplication::translate("Record", "Waring:"),
+                                              QCoreApplication::translate("Record", "Please stop your recording."),
+                                              {Platform::Alerts::okLabel()});
     return false;
 }
 
@@ -252,11 +260,12 @@ bool RecordStateController::computerAudioChecked() const {
 }
 
 QString RecordStateController::startToolTip() const {
-    return d->isActive() ? u"Stop Record"_s : u"Start Record"_s;
+    return d->isActive() ? QCoreApplication::translate("Record", "Stop Record")
+                         : QCoreApplication::translate("Record", "Start Record");
 }
 
 QString RecordStateController::startImage() const {
-    return d->isActive() ? u"RecorderStop.png"_s : u"RecorderStart.png"_s;
+    return d->isActive() ? QCoreApplication::translate("Record", "RecorderStop.png") : u"RecorderStart.png"_s;
 }
 
 QString RecordStateController::startPressedImage() const {
@@ -264,11 +273,11 @@ QString RecordStateController::startPressedImage() const {
 }
 
 QString RecordStateController::pauseToolTip() const {
-    return d->isRecordPause_ ? u"Resume Record"_s : u"Pause Record"_s;
+    return d->isRecordPause_ ? u"Resume Record"_s : QCoreApplication::translate("Record", "Pause Record");
 }
 
 QString RecordStateController::pauseImage() const {
-    return d->isRecordPause_ ? u"RecorderResume.png"_s : u"RecorderPause.png"_s;
+    return d->isRecordPause_ ? QCoreApplication::translate("Record", "RecorderResume.png") : u"RecorderPause.png"_s;
 }
 
 QString RecordStateController::stateString() const {
@@ -285,7 +294,9 @@ Qt::GlobalColor RecordStateController::stateColor() const {
 
 QString RecordStateController::headline() const {
     const QString headline = RecordDisplay::headline(d->state, double(d->fRecordTime_));
-    return d->state == RecordState::Recording && !isGrowing() ? u"Nothing is being recorded"_s : headline;
+    return d->state == RecordState::Recording && !isGrowing()
+               ? QCoreApplication::translate("Record", "Nothing is being recorded")
+               : headline;
 }
 
 QString RecordStateController::fileConvertTip() const {

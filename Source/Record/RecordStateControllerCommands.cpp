@@ -215,13 +215,14 @@ void RecordStateController::Private::startRecord() {
         withdrawNotice(offEvent(source));
     const bool canChoose = builtIn.checked && !devices->deviceNames().isEmpty();
     const QString why = builtIn.engine->lastError();
-    QString text = u"The input device does not deliver. Nothing is recorded."_s;
+    QString text = QCoreApplication::translate("Record", "The input device does not deliver. Nothing is recorded.");
     if (!builtIn.checked)
-        text = u"Computer audio does not deliver. Nothing is recorded."_s;
+        text = QCoreApplication::translate("Record", "Computer audio does not deliver. Nothing is recorded.");
     else if (devices->deviceNames().isEmpty())
-        text = u"There is no input device. Nothing is recorded."_s;
+        text = QCoreApplication::translate("Record", "There is no input device. Nothing is recorded.");
     else if (!why.isEmpty())
-        text = u"The input device does not deliver (%1). Nothing is recorded."_s.arg(why);
+        text = QCoreApplication::translate("Record", "The input device does not deliver (%1). Nothing is recorded.")
+                   .arg(why);
     notice({.text = text,
             .help = canChoose ? RecordNotice::Help::ChooseDevice : RecordNotice::Help::None,
             .event = u"source"_s});

@@ -5,6 +5,8 @@
 #include "Source/Record/CutOffRecordings.h"
 #include "Source/Record/RecordStateControllerPrivate.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 
@@ -50,16 +52,22 @@ void RecordStateController::Private::beginFile(RecordSource& source, bool record
     if (!source.engine->isRunning()) {
         source.off = true;
         const QString why = source.engine->lastError();
-        notice({.text = u"%1 is off: it did not start%2. This recording goes without it."_s.arg(
-                    source.label, why.isEmpty() ? QString() : u" (%1)"_s.arg(why)),
-                .event = offEvent(source)});
+        notice(
+            {.text = (why.isEmpty() ? QCoreApplication::translate(
+                                          "Record", "%1 is off: it did not start. This recording goes without it.")
+                                          .arg(source.label)
+                                    : QCoreApplication::translate(
+                                          "Record", "%1 is off: it did not start (%2). This recording goes without it.")
+                                          .arg(source.label, why)),
+             .event = offEvent(source)});
         return;
     }
     const QString path = rawPath(source);
     (void)removeFile(path);
     source.hasFile = source.engine->setOutPutAudioPath(path, 1);
     if (!source.hasFile)
-        notice({.text = u"%1 is not being recorded: %2."_s.arg(source.label, source.engine->lastError()),
+        notice({.text = QCoreApplication::translate("Record", "%1 is not being recorded: %2.")
+                            .arg(source.label, source.engine->lastError()),
                 .event = offEvent(source)});
     if (record)
         source.engine->startRecordAudio();
@@ -261,8 +269,9 @@ bool RecordStateController::Private::exchangeFiles(Ending& ending) {
             continue;
         }
         --ending.job->openFiles;
-        notice({.text = u"The recording could not be split (%1). It continues in the same file."_s.arg(
-                    source.engine->lastError()),
+        notice({.text = QCoreApplication::translate(
+                            "Record", "The recording could not be split (%1). It continues in the same file.")
+                            .arg(source.engine->lastError()),
                 .event = u"split"_s});
         if (!exchanged)
             return false;

@@ -8,6 +8,9 @@
 #include "Source/Record/RecordStateControllerPrivate.h"
 #include "Source/Record/UnfinishedRecordings.h"
 
+#include <QCoreApplication>
+#include <QLocale>
+
 #include <algorithm>
 #include <array>
 
@@ -29,16 +32,11 @@ const QString DiskEvent = u"disk"_s;
 
 /// Seconds as text: in thousandths below one second, else in tenths.
 QString secondsText(double seconds) {
-    return QString::number(seconds, 'f', seconds < 1 ? 3 : 1);
+    return QLocale().toString(seconds, 'f', seconds < 1 ? 3 : 1);
 }
 
 double secondsSince(std::uint64_t hostTime) {
     return double(Platform::services().clock->hostTime() - hostTime) * 1e-9;
-}
-
-/// "The input device" within a sentence.
-QString inSentence(const QString& label) {
-    return label.left(1).toLower() + label.mid(1);
 }
 
 } // namespace
@@ -142,16 +140,24 @@ void RecordStateController::Private::deviceEvent(Platform::InputUnit::Event even
     if (isLoss) {
         if (source.awaySince == 0)
             source.awaySince = Platform::services().clock->hostTime();
-        const QString what = event == Event::DeviceLost ? source.label : u"The sound server"_s;
-        message.text = waits ? u"%1 went away. The wait for the first sound continues when it is back."_s.arg(what)
-                             : u"%1 went away. The recording so far is kept and continues when it is back."_s.arg(what);
+        const QString what =
+            event == Event::DeviceLost ? source.label : QCoreApplication::translate("Record", "The sound server");
+        message.text =
+            waits ? QCoreApplication::translate("Record",
+                                                "%1 went away. The wait for the first sound continues when it is back.")
+                        .arg(what)
+                  : QCoreApplication::translate(
+                        "Record", "%1 went away. The recording so far is kept and continues when it is back.")
+                        .arg(what);
     } else {
         if (source.awaySince != 0)
             source.awaySeconds += secondsSince(source.awaySince);
         source.awaySince = 0;
-        message.text = waits ? u"%1 is back. The wait for the first sound goes on."_s.arg(source.label)
-                             : u"%1 s are missing: %2 was away. The recording goes on."_s.arg(
-                                   secondsText(source.awaySeconds), inSentence(source.label));
+        message.text =
+            waits ? QCoreApplication::translate("Record", "%1 is back. The wait for the first sound goes on.")
+                        .arg(source.label)
+                  : QCoreApplication::translate("Record", "%1 s are missing: %2 was away. The recording goes on.")
+                        .arg(secondsText(source.awaySeconds), source.labelInSentence);
     }
     notice(message);
 }
@@ -165,8 +171,9 @@ void RecordStateController::Private::showLosses() {
         lost.seconds += lostBefore_.seconds;
     }
     if (lost.frames != lostShown_ && lost.frames > 0)
-        notice({.text = u"%1 s are missing (%2 frames): the computer was too busy to take them."_s.arg(
-                    secondsText(lost.seconds), QString::number(lost.frames)),
+        notice({.text = QCoreApplication::translate(
+                            "Record", "%1 s are missing (%2 frames): the computer was too busy to take them.")
+                            .arg(secondsText(lost.seconds), QLocale().toString(lost.frames)),
                 .event = u"lost"_s});
     lostShown_ = lost.frames;
     showWriteProblem();
@@ -180,13 +187,17 @@ void RecordStateController::Private::showWriteProblem() {
             fullSince_ = Platform::services().clock->hostTime();
             fullBytes_ = -1;
             notices_.withdraw(DiskEvent);
-            notice({.text = u"The disk is full. Nothing more is recorded until there is room; what was recorded is "
-                            "kept."_s,
-                    .help = RecordNotice::Help::FreeSpace,
-                    .target = g_strTmpPath,
-                    .event = RecordQueue::UnwrittenEvent});
+            notice(
+                {.text = QCoreApplication::translate(
+                     "Record", "The disk is full. Nothing more is recorded until there is room; what was recorded is "
+                               "kept."),
+                 .help = RecordNotice::Help::FreeSpace,
+                 .target = g_strTmpPath,
+                 .event = RecordQueue::UnwrittenEvent});
         } else {
-            notice({.text = u"%1. Nothing more is recorded; what was recorded is kept."_s.arg(problem.text),
+            notice({.text = QCoreApplication::translate("Record",
+                                                        "%1. Nothing more is recorded; what was recorded is kept.")
+                                .arg(problem.text),
                     .event = RecordQueue::UnwrittenEvent});
         }
     }
@@ -222,7 +233,7 @@ bool RecordStateController::Private::isSilentTooLong(const RecordSource& source)
 }
 
 RecordNotice RecordStateController::Private::silenceNotice(const RecordSource& source) const {
-    const QString seconds = QString::number(int(LongSilence));
+    const QString seconds = QLocale().toString(int(LongSilence));
     RecordNotice message;
     message.event = u"silent "_s + source.label;
     if (&source == &computer) {
@@ -233,16 +244,24 @@ RecordNotice RecordStateController::Private::silenceNotice(const RecordSource& s
             (void)hardware.getDeviceName(output, name);
         message.text =
             name.isEmpty()
-                ? u"Computer audio has been silent for %1 s: nothing plays."_s.arg(seconds)
-                : u"Computer audio has been silent for %1 s: nothing plays on %2, the output that is recorded."_s.arg(
-                      seconds, name);
+                ? QCoreApplication::translate("Record", "Computer audio has been silent for %1 s: nothing plays.")
+                      .arg(seconds)
+                : QCoreApplication::translate(
+                      "Record",
+                      "Computer audio has been silent for %1 s: nothing plays on %2, the output that is recorded.")
+                      .arg(seconds, name);
     } else if (BuildInAudioRecord::isMuted(devices->boundDevice())) {
-        message.text = u"The input device is muted: only silence has been recorded for %1 s."_s.arg(seconds);
+        message.text =
+            QCoreApplication::translate("Record", "The input device is muted: only silence has been recorded for %1 s.")
+                .arg(seconds);
         message.help = RecordNotice::Help::Unmute;
     } else {
         message.text =
-            u"The input device has delivered only silence for %1 s. It may be switched off, or the wrong one: "
-            "another one can be chosen when the recording is stopped."_s.arg(seconds);
+            QCoreApplication::translate(
+                "Record",
+                "The input device has delivered only silence for %1 s. It may be switched off, or the wrong one: "
+                "another one can be chosen when the recording is stopped.")
+                .arg(seconds);
     }
     return message;
 }
@@ -281,7 +300,8 @@ void RecordStateController::Private::followRoom(const RecordRoom::Room& room) {
         return;
     }
     const RecordNotice message{
-        .text = u"The disk is nearly full: there is room for %1 of recording."_s.arg(RecordRoom::words(room.seconds)),
+        .text = QCoreApplication::translate("Record", "The disk is nearly full: there is room for %1 of recording.")
+                    .arg(RecordRoom::words(room.seconds)),
         .help = RecordNotice::Help::FreeSpace,
         .target = room.folder,
         .event = DiskEvent};
@@ -303,7 +323,8 @@ void RecordStateController::Private::continueAfterFullDisk() {
     fullSince_ = 0;
     writeProblemShown_ = false;
     roomStage_ = 0;
-    notice({.text = u"%1 s are missing: the disk was full. The recording went on in another file."_s.arg(
-                secondsText(missing)),
+    notice({.text = QCoreApplication::translate(
+                        "Record", "%1 s are missing: the disk was full. The recording went on in another file.")
+                        .arg(secondsText(missing)),
             .event = RecordQueue::UnwrittenEvent});
 }

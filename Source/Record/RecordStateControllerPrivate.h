@@ -22,7 +22,8 @@
 /// One of the two sources of a recording, with its engine.
 struct RecordSource {
     std::unique_ptr<BuildInAudioRecord> engine;
-    QString label;                    ///< for the user
+    QString label;                    ///< for the user, as the beginning of a sentence
+    QString labelInSentence;          ///< the same within a sentence
     QString rawName;                  ///< of the raw files; the number and the extension follow
     QString jobKey;                   ///< key of the raw file in a job
     std::atomic<bool> checked{false}; ///< state of the check box

@@ -5,6 +5,7 @@
 #include "Platform/Foundation/FileManager.h"
 #include "Source/Preferences/PreferenceStore.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
@@ -61,10 +62,13 @@ std::optional<RecordNotice> notice() {
     notice.kept = paths;
     notice.outlivesRecording = true;
     if (paths.size() == 1) {
-        notice.text = u"An earlier recording could not be finished. It is kept at"_s;
+        notice.text = QCoreApplication::translate("Record", "An earlier recording could not be finished. It is kept at",
+                                                  "a path follows");
         notice.path = paths.front();
     } else {
-        notice.text = u"%1 earlier recordings could not be finished. They are kept in"_s.arg(paths.size());
+        notice.text =
+            QCoreApplication::translate("Record", "%n earlier recordings could not be finished. They are kept in",
+                                        "a path follows", int(paths.size()));
         notice.path = Platform::FileManager::unfinishedFolder();
     }
     return notice;

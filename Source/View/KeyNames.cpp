@@ -10,6 +10,8 @@
 namespace {
 
 class Names : public QTranslator {
+    Q_DECLARE_TR_FUNCTIONS(KeyNames)
+
 public:
     using QTranslator::QTranslator;
 
@@ -17,9 +19,14 @@ public:
         using namespace std::string_view_literals;
         if (context != "QShortcut"sv)
             return {};
-        return text == "Ctrl"sv ? QStringLiteral("Control") : text == "Meta"sv ? QStringLiteral("Super") : QString();
+        return text == "Ctrl"sv ? control_ : text == "Meta"sv ? super_ : QString();
     }
     [[nodiscard]] bool isEmpty() const override { return false; }
+
+private:
+    // Translated now: translate() runs under a lock that looking up another text would take again.
+    const QString control_ = tr("Control", "a key of the keyboard");
+    const QString super_ = tr("Super", "a key of the keyboard");
 };
 
 } // namespace

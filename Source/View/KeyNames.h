@@ -6,7 +6,8 @@
 namespace KeyNames {
 
 /// Makes menus and tool tips use the names on a Linux keyboard, as the shortcut fields do: Control and Super instead of
-/// Qt's Ctrl and Meta. Call it once per process, after the application object was created. Main thread.
+/// Qt's Ctrl and Meta, in the language of the texts. Call it once per process, after the texts' translation was
+/// installed. Main thread.
 void install();
 
 } // namespace KeyNames

@@ -110,7 +110,7 @@ void AudioTrimWndController::setTrimAudioSourceData(const Dictionary& entry) {
 
 void AudioTrimWndController::runModal() {
     window_->restoreSize();
-    ui_->btnCancel_->setText(tr("Cancel"));
+    ui_->btnCancel_->setText(Platform::Alerts::cancelLabel());
     ui_->audioTrimEditView_->setFocus();
     ToolControl::showWindowNib(*this);
     const QPointer<AudioTrimWndController> self(this);
@@ -264,7 +264,8 @@ bool AudioTrimWndController::refuse() {
         why = tr("The file is being played.");
     if (why.isEmpty())
         return false;
-    (void)Platform::services().alerts->runModal(tr("The recording cannot be saved."), why, {u"OK"_s});
+    (void)Platform::services().alerts->runModal(tr("The recording cannot be saved."), why,
+                                                {Platform::Alerts::okLabel()});
     return true;
 }
 
@@ -275,7 +276,8 @@ void AudioTrimWndController::saveAudio() {
     if (refuse())
         return;
     const QString question = quoted(u"Do you want to replace \""_s, sourcePath(), u"\" audio file."_s);
-    if (Platform::services().alerts->runModal(u"Waring:"_s, question, {u"OK"_s, u"Cancel"_s}) != 0)
+    if (Platform::services().alerts->runModal(tr("Waring:"), question,
+                                              {Platform::Alerts::okLabel(), Platform::Alerts::cancelLabel()}) != 0)
         return;
     stopAudio();
     strExportAudioPath_ = AudioTrimSave::exportPath(sourcePath());
@@ -295,8 +297,8 @@ void AudioTrimWndController::saveAsAudio() {
     strExportAudioPath_ = AudioTrimSave::exportPath(*chosen);
     const QFileInfo target(strExportAudioPath_);
     if (target.exists() || target.isSymLink()) {
-        (void)Platform::services().alerts->runModal(u"Warning:"_s,
-                                                    u"This path exists, please change the path or name."_s, {u"OK"_s});
+        (void)Platform::services().alerts->runModal(
+            tr("Warning:"), tr("This path exists, please change the path or name."), {Platform::Alerts::okLabel()});
         return;
     }
     save(false);
@@ -310,7 +312,7 @@ void AudioTrimWndController::save(bool replace) {
 
 void AudioTrimWndController::startConverter() {
     waitWndController_->beginSheet(window_, [this] { converterSheetDidEnd(); });
-    waitWndController_->setIsWorking(u"Converting Audio......"_s);
+    waitWndController_->setIsWorking(tr("Converting Audio......"));
 }
 
 void AudioTrimWndController::converterAudio() {
@@ -360,7 +362,8 @@ void AudioTrimWndController::converterSheetDidEnd() {
     if (result.note)
         result.note->end();
     if (!result.done) {
-        (void)Platform::services().alerts->runModal(tr("The recording was not saved."), result.problem, {u"OK"_s});
+        (void)Platform::services().alerts->runModal(tr("The recording was not saved."), result.problem,
+                                                    {Platform::Alerts::okLabel()});
         return;
     }
     // Nothing is left to cancel. The window continues with the file that is at the path now.

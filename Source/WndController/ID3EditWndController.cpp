@@ -87,7 +87,8 @@ void ID3EditWndController::runModal() {
 void ID3EditWndController::chooseImageForArtwork() {
     if (const auto path = Platform::services().panels->chooseFile(window_, tr("Choose"), {}, {}))
         if (!ui_->artworkView_->hasImageFile({*path}))
-            (void)Platform::services().alerts->runModal(tr("This file is not a picture."), *path, {u"OK"_s});
+            (void)Platform::services().alerts->runModal(tr("This file is not a picture."), *path,
+                                                        {Platform::Alerts::okLabel()});
 }
 
 void ID3EditWndController::controlTextDidEndEditing() {
@@ -108,7 +109,7 @@ void ID3EditWndController::cancelEditID3() {
 
 void ID3EditWndController::startConverter() {
     waitWndController_->beginSheet(window_, [this] { converterSheetDidEnd(); });
-    waitWndController_->setIsWorking(u"ID3 converter......"_s);
+    waitWndController_->setIsWorking(tr("ID3 converter......"));
 }
 
 void ID3EditWndController::StartID3Edit() {
@@ -152,7 +153,8 @@ void ID3EditWndController::written(ID3EditSave::Result result) {
 void ID3EditWndController::converterSheetDidEnd() {
     window_->done(QDialog::Accepted);
     if (!notice_.isEmpty())
-        (void)Platform::services().alerts->runModal(tr("Not everything could be saved."), notice_, {u"OK"_s});
+        (void)Platform::services().alerts->runModal(tr("Not everything could be saved."), notice_,
+                                                    {Platform::Alerts::okLabel()});
 }
 
 void ID3EditWndController::updateFile(const QString& path, const Dictionary& tags) {

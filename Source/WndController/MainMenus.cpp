@@ -10,6 +10,7 @@
 #include "Source/WndController/LibraryPresenter.h"
 #include "ui_MainWnd.h"
 
+#include <QCoreApplication>
 #include <QMenu>
 #include <QMessageBox>
 
@@ -60,8 +61,10 @@ QAction* MainMenus::window(Window window) const {
 void MainMenus::makeRecordMenu() {
     QMenu* menu = ui_.mainMenu_->addMenu(tr("&Record"));
     menu->setToolTipsVisible(true);
-    startStop_ = add(menu, QStringLiteral("Start Record"), {}, {}, {QKeySequence(Qt::CTRL | Qt::Key_R)});
-    pauseResume_ = add(menu, QStringLiteral("Pause Record"), {}, {}, {QKeySequence(Qt::CTRL | Qt::Key_P)});
+    startStop_ =
+        add(menu, QCoreApplication::translate("Record", "Start Record"), {}, {}, {QKeySequence(Qt::CTRL | Qt::Key_R)});
+    pauseResume_ =
+        add(menu, QCoreApplication::translate("Record", "Pause Record"), {}, {}, {QKeySequence(Qt::CTRL | Qt::Key_P)});
     split_ = add(menu, tr("&Cut to Another Recording"), {}, tr("Close this file and go on in a new one"),
                  {QKeySequence(Qt::CTRL | Qt::Key_N)});
     startStop_->setProperty(kActionProperty, QStringLiteral("startAndStopRecord:"));

@@ -22,6 +22,7 @@
 #include "ui_MainWnd.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLocale>
@@ -137,7 +138,7 @@ void MainWndController::bindLibrary() {
         if (ui_->btnPlayAudio_->image() == image && ui_->btnPlayAudio_->isEnabled() == enabled)
             return;
         ui_->btnPlayAudio_->setImage(image);
-        ui_->btnPlayAudio_->setToolTip(playing ? QStringLiteral("Pause") : QStringLiteral("Play"));
+        ui_->btnPlayAudio_->setToolTip(playing ? tr("Pause") : tr("Play"));
         ui_->btnPlayAudio_->setEnabled(enabled);
         menus_->update();
         if (playing) { // removes the message about an earlier problem
@@ -231,12 +232,14 @@ bool MainWndController::eventFilter(QObject* watched, QEvent* event) {
 }
 
 QString MainWndController::startStopMenuString() const {
-    return record_.isStateAudioRecord() ? QStringLiteral("Stop Record") : QStringLiteral("Start Record");
+    return record_.isStateAudioRecord() ? QCoreApplication::translate("Record", "Stop Record")
+                                        : QCoreApplication::translate("Record", "Start Record");
 }
 
 QString MainWndController::pauseResumeMenuString() const {
-    return record_.isStateAudioRecord() && record_.isRecordPause_() ? QStringLiteral("Resume Record")
-                                                                    : QStringLiteral("Pause Record");
+    return record_.isStateAudioRecord() && record_.isRecordPause_()
+               ? QCoreApplication::translate("Record", "Resume Record")
+               : QCoreApplication::translate("Record", "Pause Record");
 }
 
 void MainWndController::bindMenus() {

@@ -209,7 +209,7 @@ void PreferenceWndController::applyAutostart() {
         Platform::MainQueue::post(this, [wanted, problem] {
             Platform::services().alerts->runModal(wanted ? tr("Sonaphex cannot be started with the desktop.")
                                                          : tr("Sonaphex is still started with the desktop."),
-                                                  problem, {u"OK"_s});
+                                                  problem, {Platform::Alerts::okLabel()});
         });
     });
 }
@@ -236,8 +236,8 @@ void PreferenceWndController::chooseFolder(QLineEdit* field) {
             // Posted until the sheet is closed: an alert above a closing sheet would lose the focus.
             Platform::MainQueue::post(this, [] {
                 Platform::services().alerts->runModal(
-                    u"Warning:"_s, u"You cannot save files in the folder. Read and write privilege is needed."_s,
-                    {u"OK"_s});
+                    tr("Warning:"), tr("You cannot save files in the folder. Read and write privilege is needed."),
+                    {Platform::Alerts::okLabel()});
             });
         });
 }
@@ -292,8 +292,8 @@ void PreferenceWndController::insertTheSystemAudioRecordDevice() {
     installProblem_ = installed ? QString() : device_.lastError();
     showDeviceWork({});
     const auto complain = [] {
-        Platform::services().alerts->runModal(u"Can not insert the system audio device, Please try it again."_s,
-                                              QString(), {u"OK"_s});
+        Platform::services().alerts->runModal(tr("Can not insert the system audio device, Please try it again."),
+                                              QString(), {Platform::Alerts::okLabel()});
     };
     if (!installed && QThread::currentThread() == thread())
         complain();

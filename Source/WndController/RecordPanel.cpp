@@ -11,6 +11,7 @@
 #include "Source/View/NamedImages.h"
 #include "ui_MainWnd.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 #include <QSignalBlocker>
 #include <QUrl>
@@ -69,10 +70,10 @@ RecordPanel::RecordPanel(Ui::MainWnd& ui, RecordStateController& record, AudioWa
 }
 
 void RecordPanel::initToopTip() {
-    ui_.btnSatrtRecord_->setToolTip(QStringLiteral("Start Record"));
-    ui_.btnPauseRecord_->setToolTip(QStringLiteral("Pause Record"));
-    ui_.btnSplitRecord_->setToolTip(QStringLiteral("Cut to another recording"));
-    ui_.btnPlayAudio_->setToolTip(QStringLiteral("Play"));
+    ui_.btnSatrtRecord_->setToolTip(QCoreApplication::translate("Record", "Start Record"));
+    ui_.btnPauseRecord_->setToolTip(QCoreApplication::translate("Record", "Pause Record"));
+    ui_.btnSplitRecord_->setToolTip(tr("Cut to another recording"));
+    ui_.btnPlayAudio_->setToolTip(tr("Play"));
     const QString idle = tr("Nothing is being recorded.");
     ui_.btnSatrtRecord_->setDisabledReason(tr("Choose the input, computer audio, or both first."));
     ui_.btnPauseRecord_->setDisabledReason(idle);
@@ -125,7 +126,7 @@ void RecordPanel::showDisplay() {
 void RecordPanel::showHealth() {
     const QString headline = record_.headline();
     ui_.contentView_->window()->setWindowTitle(headline.isEmpty() ? QStringLiteral("Sonaphex")
-                                                                  : QStringLiteral("%1 \u2013 Sonaphex").arg(headline));
+                                                                  : tr("%1 \u2013 Sonaphex").arg(headline));
     display_.setHint(hint());
 
     const auto lost = static_cast<qulonglong>(record_.lostFrames());

@@ -10,10 +10,10 @@
 
 StatusBarItem::StatusBarItem(MainWndController& mainWndController, QObject* parent)
     : QObject(parent), mainWndController_(mainWndController),
-      startStopMenu_(add(QStringLiteral("Start Record"), QStringLiteral("startAndStopRecord:"),
+      startStopMenu_(add(QCoreApplication::translate("Record", "Start Record"), QStringLiteral("startAndStopRecord:"),
                          &MainWndController::startAndStopRecord)),
-      pauseResumeMenu_(add(QStringLiteral("Pause Record"), QStringLiteral("pauseAndResumeRecord:"),
-                           &MainWndController::pauseAndResumeRecord)),
+      pauseResumeMenu_(add(QCoreApplication::translate("Record", "Pause Record"),
+                           QStringLiteral("pauseAndResumeRecord:"), &MainWndController::pauseAndResumeRecord)),
       startNewRecordMenu_(
           add(tr("Cut to Another Recording"), QStringLiteral("splitTheRecord:"), &MainWndController::splitTheRecord)) {
     systemBarMenu_.addSeparator();

@@ -6,10 +6,10 @@ say() { printf '\033[1m==>\033[0m %s\n' "$*" >&2; }
 die() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; exit 1; }
 
 # Package lists: for building, running, testing and benchmarking.
-apt_build="cmake ninja-build g++ ccache pkg-config qt6-base-dev qt6-svg-dev libpipewire-0.3-dev libavcodec-dev libavformat-dev
+apt_build="cmake ninja-build g++ ccache pkg-config qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-l10n-tools libpipewire-0.3-dev libavcodec-dev libavformat-dev
   libavutil-dev libswresample-dev libtag1-dev libplist-dev libxcb1-dev libxcb-keysyms1-dev libburn-dev libudev-dev"
 apt_run="pipewire pipewire-bin wireplumber libspa-0.2-modules libqt6svg6 qt6-image-formats-plugins fonts-inter
-  fonts-droid-fallback file findutils xdg-utils"
+  fonts-droid-fallback qt6-translations-l10n file findutils xdg-utils"
 apt_test="libgtest-dev libgmock-dev xvfb xauth x11-utils x11-xkb-utils dbus dbus-daemon xdotool openbox trayer playerctl libglib2.0-bin
   libgtk-3-bin dunst xdg-desktop-portal qt6-wayland sway desktop-file-utils ffmpeg faad
   mediainfo atomicparsley sox libsox-fmt-all gstreamer1.0-tools gstreamer1.0-plugins-base gstreamer1.0-plugins-good
@@ -19,12 +19,12 @@ apt_check="clang-format clang-tidy clazy git"
 apt_const="clang-tidy-15"
 apt_bench="$apt_test qmmp pavucontrol"
 
-dnf_build="cmake ninja-build gcc-c++ ccache pkgconf qt6-qtbase-devel qt6-qtsvg-devel pipewire-devel ffmpeg-free-devel
+dnf_build="cmake ninja-build gcc-c++ ccache pkgconf qt6-qtbase-devel qt6-qtsvg-devel qt6-qttools-devel pipewire-devel ffmpeg-free-devel
   taglib-devel libplist-devel libxcb-devel xcb-util-keysyms-devel libburn-devel systemd-devel"
-dnf_run="pipewire pipewire-utils wireplumber qt6-qtsvg qt6-qtimageformats rsms-inter-fonts file findutils xdg-utils"
-pacman_build="cmake ninja gcc ccache pkgconf qt6-base qt6-svg libpipewire ffmpeg taglib libplist libxcb
+dnf_run="pipewire pipewire-utils wireplumber qt6-qtsvg qt6-qtimageformats qt6-qttranslations rsms-inter-fonts file findutils xdg-utils"
+pacman_build="cmake ninja gcc ccache pkgconf qt6-base qt6-svg qt6-tools libpipewire ffmpeg taglib libplist libxcb
   xcb-util-keysyms libburn systemd-libs"
-pacman_run="pipewire wireplumber qt6-svg qt6-imageformats inter-font file findutils xdg-utils"
+pacman_run="pipewire wireplumber qt6-svg qt6-imageformats qt6-translations inter-font file findutils xdg-utils"
 
 as_root() {
     if [ "$(id -u)" = 0 ]; then

@@ -59,13 +59,14 @@ bool CaptureStream::open(int milliseconds, QString& why) {
         const auto device = registry_->device(target_.device);
         if (!device) {
             missing_ = registry_->connection()->connected() ? Missing::Device : Missing::Server;
-            why = missing_ == Missing::Device ? u"the device is not there"_s : registry_->connection()->lastError();
+            why = missing_ == Missing::Device ? QCoreApplication::translate("Audio", "the device is not there")
+                                              : registry_->connection()->lastError();
             return false;
         }
         opening_ = true;
         if (!connectStream(*device)) {
             opening_ = false;
-            why = u"the sound server refused to capture the device"_s;
+            why = QCoreApplication::translate("Audio", "the sound server refused to capture the device");
             return false;
         }
     }

@@ -92,7 +92,9 @@ Result<std::unique_ptr<LinuxPrivateSession>> LinuxPrivateSession::start(const Op
         const QString path = QStandardPaths::findExecutable(name);
         if (path.isEmpty())
             return Error{Error::Kind::NotFound,
-                         u"%1 is not installed: no sound server answers and none can be started"_s.arg(name)};
+                         QCoreApplication::translate(
+                             "Audio", "%1 is not installed: no sound server answers and none can be started")
+                             .arg(name)};
         arguments << path;
     }
     for (const QString& each : options.programs) {
@@ -106,8 +108,10 @@ Result<std::unique_ptr<LinuxPrivateSession>> LinuxPrivateSession::start(const Op
         return spawned.error();
     const QByteArray line = session->readLine(8000);
     if (!line.startsWith("ready "))
-        return Error{Error::Kind::Other, line.startsWith("failed ") ? QString::fromLocal8Bit(line.mid(7))
-                                                                    : u"the private sound server did not start"_s};
+        return Error{Error::Kind::Other,
+                     line.startsWith("failed ")
+                         ? QString::fromLocal8Bit(line.mid(7))
+                         : QCoreApplication::translate("Audio", "the private sound server did not start")};
     session->runtimeFolder_ = QString::fromLocal8Bit(line.mid(6));
     session->hadRuntimeFolder_ = qEnvironmentVariableIsSet("PIPEWIRE_RUNTIME_DIR");
     session->previousRuntimeFolder_ = qgetenv("PIPEWIRE_RUNTIME_DIR");
@@ -115,7 +119,8 @@ Result<std::unique_ptr<LinuxPrivateSession>> LinuxPrivateSession::start(const Op
     // If the user set a remote name, it would be looked up in the private folder.
     qunsetenv("PIPEWIRE_REMOTE");
     if (!PipeWire::serverIsThere(8000, true, options.expectedSource))
-        return Error{Error::Kind::Other, u"the private sound server came up without its devices"_s};
+        return Error{Error::Kind::Other,
+                     QCoreApplication::translate("Audio", "the private sound server came up without its devices")};
     return session;
 }
 

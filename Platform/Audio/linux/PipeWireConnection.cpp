@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Audio/linux/PipeWireConnection.h"
 
+#include <QCoreApplication>
+
 #include <cerrno>
 #include <cstring>
 #include <ctime>
@@ -61,7 +63,8 @@ void PipeWireConnection::connect() {
     if (context_)
         core_.reset(pw_context_connect(context_.get(), nullptr, 0));
     if (!core_) {
-        lastError_ = u"no sound server answers: %1"_s.arg(QString::fromLocal8Bit(strerror(errno)));
+        lastError_ = QCoreApplication::translate("Audio", "no sound server answers: %1")
+                         .arg(QString::fromLocal8Bit(strerror(errno)));
         retryLater();
         return;
     }
@@ -88,7 +91,7 @@ void PipeWireConnection::onServerGone() {
     if (!core_)
         return;
     connected_ = false;
-    lastError_ = u"the sound server went away"_s;
+    lastError_ = QCoreApplication::translate("Audio", "the sound server went away");
     const std::vector<Client*> clients(clients_.rbegin(), clients_.rend());
     for (auto* each : clients)
         each->serverLost();

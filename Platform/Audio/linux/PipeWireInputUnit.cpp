@@ -54,18 +54,23 @@ OSStatus PipeWireInputUnit::setEnableInput(bool on) {
 }
 
 OSStatus PipeWireInputUnit::setEnableOutput(bool on) {
-    return on ? fail(kAudioUnitErr_InvalidPropertyValue, u"this unit captures only"_s) : noErr;
+    return on ? fail(kAudioUnitErr_InvalidPropertyValue,
+                     QCoreApplication::translate("Audio", "this unit captures only"))
+              : noErr;
 }
 
 OSStatus PipeWireInputUnit::setCurrentDevice(AudioObjectID device) {
     if (stream_)
-        return fail(kAudioUnitErr_CannotDoInCurrentContext, u"the unit is running"_s);
+        return fail(kAudioUnitErr_CannotDoInCurrentContext,
+                    QCoreApplication::translate("Audio", "the unit is running"));
     const auto info = registry_->device(device);
     if (!info)
-        return fail(kAudioHardwareBadDeviceError, u"there is no device number %1"_s.arg(device));
+        return fail(kAudioHardwareBadDeviceError,
+                    QCoreApplication::translate("Audio", "there is no device number %1").arg(device));
     if (info->captureStreams == 0)
-        return fail(kAudioUnitErr_InvalidPropertyValue,
-                    u"%1 has no input"_s.arg(QString::fromStdString(info->description)));
+        return fail(
+            kAudioUnitErr_InvalidPropertyValue,
+            QCoreApplication::translate("Audio", "%1 has no input").arg(QString::fromStdString(info->description)));
     target_.device = device;
     target_.sampleRate = std::uint32_t(std::lround(info->sampleRate));
     target_.channels = info->channels;
@@ -78,7 +83,8 @@ OSStatus PipeWireInputUnit::setCurrentDevice(AudioObjectID device) {
 
 OSStatus PipeWireInputUnit::setInputCallback(RenderCallback callback, void* refCon) {
     if (stream_)
-        return fail(kAudioUnitErr_CannotDoInCurrentContext, u"the unit is running"_s);
+        return fail(kAudioUnitErr_CannotDoInCurrentContext,
+                    QCoreApplication::translate("Audio", "the unit is running"));
     callback_ = callback;
     refCon_ = refCon;
     return noErr;
@@ -86,45 +92,48 @@ OSStatus PipeWireInputUnit::setInputCallback(RenderCallback callback, void* refC
 
 OSStatus PipeWireInputUnit::getDeviceFormat(AudioStreamBasicDescription& format) {
     if (target_.device == 0)
-        return fail(kAudioUnitErr_Uninitialized, u"no device is set"_s);
+        return fail(kAudioUnitErr_Uninitialized, QCoreApplication::translate("Audio", "no device is set"));
     format = planarFloatFormat(target_.sampleRate, target_.channels);
     return noErr;
 }
 
 OSStatus PipeWireInputUnit::setClientFormat(const AudioStreamBasicDescription& format) {
     if (target_.device == 0)
-        return fail(kAudioUnitErr_Uninitialized, u"no device is set"_s);
+        return fail(kAudioUnitErr_Uninitialized, QCoreApplication::translate("Audio", "no device is set"));
     const auto own = planarFloatFormat(target_.sampleRate, format.mChannelsPerFrame);
     const bool supported = format.mFormatID == own.mFormatID && format.mFormatFlags == own.mFormatFlags &&
                            format.mBitsPerChannel == own.mBitsPerChannel && format.mChannelsPerFrame >= 1 &&
                            format.mSampleRate == own.mSampleRate;
     if (!supported)
         return fail(kAudioUnitErr_FormatNotSupported,
-                    u"the unit delivers 32-bit float, one buffer a channel, at the device's rate only"_s);
+                    QCoreApplication::translate(
+                        "Audio", "the unit delivers 32-bit float, one buffer a channel, at the device's rate only"));
     return noErr;
 }
 
 OSStatus PipeWireInputUnit::getBufferFrameSize(std::uint32_t& frames) {
     if (target_.device == 0)
-        return fail(kAudioUnitErr_Uninitialized, u"no device is set"_s);
+        return fail(kAudioUnitErr_Uninitialized, QCoreApplication::translate("Audio", "no device is set"));
     frames = target_.cycleFrames;
     return noErr;
 }
 
 OSStatus PipeWireInputUnit::initialize() {
     if (target_.device == 0 || !callback_)
-        return fail(kAudioUnitErr_Uninitialized, u"no device or no callback is set"_s);
+        return fail(kAudioUnitErr_Uninitialized,
+                    QCoreApplication::translate("Audio", "no device or no callback is set"));
     if (!inputEnabled_)
-        return fail(kAudioUnitErr_Uninitialized, u"the input is not enabled"_s);
+        return fail(kAudioUnitErr_Uninitialized, QCoreApplication::translate("Audio", "the input is not enabled"));
     if (stream_)
-        return fail(kAudioUnitErr_CannotDoInCurrentContext, u"the unit is running"_s);
+        return fail(kAudioUnitErr_CannotDoInCurrentContext,
+                    QCoreApplication::translate("Audio", "the unit is running"));
     initialized_ = true;
     return noErr;
 }
 
 OSStatus PipeWireInputUnit::start() {
     if (!initialized_)
-        return fail(kAudioUnitErr_Uninitialized, u"the unit is not initialised"_s);
+        return fail(kAudioUnitErr_Uninitialized, QCoreApplication::translate("Audio", "the unit is not initialised"));
     if (stream_)
         return noErr;
     ring_ = std::make_unique<CaptureRing>(target_.channels, std::size_t(ringSeconds * target_.sampleRate));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Desktop/linux/LinuxAdminShell.h"
 
+#include <QCoreApplication>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QThread>
@@ -14,7 +15,10 @@ namespace Platform {
 
 namespace {
 
-const Error kCancelled{Error::Kind::Cancelled, u"the password prompt was cancelled"_s};
+Error cancelled() {
+    return {Error::Kind::Cancelled, QCoreApplication::translate("Desktop", "the password prompt was cancelled")};
+}
+
 /// How often the worker checks for an interruption request.
 constexpr int kLookMs = 100;
 
@@ -28,7 +32,8 @@ public:
             const auto helper = QStandardPaths::findExecutable(u"pkexec"_s);
             if (helper.isEmpty())
                 return Error{Error::Kind::NotFound,
-                             u"pkexec is not installed: administrator rights cannot be requested"_s};
+                             QCoreApplication::translate(
+                                 "Desktop", "pkexec is not installed: administrator rights cannot be requested")};
             words.prepend(helper);
         }
         QProcess process;
@@ -49,7 +54,7 @@ public:
             isCancelled = true;
         }
         if (isCancelled && process.exitStatus() == QProcess::CrashExit)
-            return kCancelled;
+            return cancelled();
         return resultOf(process);
     }
 
@@ -59,12 +64,16 @@ private:
             return {};
         // 126 and 127 are exit codes of pkexec itself, so they only count when the command ran through it.
         if (!haveRights_ && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 126)
-            return kCancelled;
+            return cancelled();
         if (!haveRights_ && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 127)
-            return Error{Error::Kind::NotPermitted, u"administrator rights were not given"_s};
+            return Error{Error::Kind::NotPermitted,
+                         QCoreApplication::translate("Desktop", "administrator rights were not given")};
         const auto said = QString::fromLocal8Bit(process.readAllStandardError()).trimmed().section(u'\n', 0, 0);
-        return Error{Error::Kind::Other,
-                     said.isEmpty() ? u"the command ended with status %1"_s.arg(process.exitCode()) : said};
+        return Error{
+            Error::Kind::Other,
+            said.isEmpty()
+                ? QCoreApplication::translate("Desktop", "the command ended with status %1").arg(process.exitCode())
+                : said};
     }
 
     bool haveRights_;

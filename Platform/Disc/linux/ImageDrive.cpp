@@ -7,6 +7,7 @@
 #include "Platform/Disc/linux/ImageWriter.h"
 #include "Platform/Foundation/Services.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -30,17 +31,21 @@ ImagePaths::ImagePaths(const QString& named) {
 QString ImagePaths::problem() const {
     const QFileInfo info(cue);
     if (!QFileInfo(info.path()).isDir())
-        return u"%1: no such folder"_s.arg(info.path());
+        return QCoreApplication::translate("Disc", "%1: no such folder").arg(info.path());
     for (const QString& path : {cue, bin}) {
         const QFileInfo file(path);
         if (file.exists() || file.isSymLink())
-            return u"%1: exists already, and an image replaces no file; choose another name"_s.arg(path);
+            return QCoreApplication::translate("Disc",
+                                               "%1: exists already, and an image replaces no file; choose another name")
+                .arg(path);
     }
     const QString name = QFileInfo(bin).fileName();
     for (const QChar c : name)
         if (c == u'"' || c.category() == QChar::Other_Control)
-            return u"%1: a cue sheet cannot name a file with quotation marks or line ends; choose another name"_s.arg(
-                bin);
+            return QCoreApplication::translate(
+                       "Disc",
+                       "%1: a cue sheet cannot name a file with quotation marks or line ends; choose another name")
+                .arg(bin);
     return {};
 }
 
@@ -51,16 +56,19 @@ QString playingTime(std::int64_t sectors) {
 
 QString layoutProblem(const std::optional<DRLayout>& layout, std::int64_t freeSectors, std::int64_t leadingGap) {
     if (!layout)
-        return u"a file cannot be read: nothing was burned"_s;
+        return QCoreApplication::translate("Disc", "a file cannot be read: nothing was burned");
     if (layout->empty())
-        return u"there is nothing to burn: no file is ticked"_s;
+        return QCoreApplication::translate("Disc", "there is nothing to burn: no file is ticked");
     if (layout->size() > CDFormat::kMostTracks)
-        return u"an audio CD holds at most %1 tracks, these are %2"_s.arg(CDFormat::kMostTracks).arg(layout->size());
+        return QCoreApplication::translate("Disc", "an audio CD holds at most %1 tracks, these are %2")
+            .arg(CDFormat::kMostTracks)
+            .arg(layout->size());
     std::int64_t needed = -leadingGap;
     for (const auto& track : *layout)
         needed += track->properties().preGapLength + track->sectors();
     if (needed > freeSectors)
-        return u"there is not enough room on the disc: the tracks need %1 minutes (%2 sectors), %3 minutes (%4 sectors) are free"_s
+        return QCoreApplication::translate("Disc", "there is not enough room on the disc: the tracks need %1 minutes "
+                                                   "(%L2 sectors), %3 minutes (%L4 sectors) are free")
             .arg(playingTime(needed))
             .arg(needed)
             .arg(playingTime(freeSectors))
@@ -84,7 +92,8 @@ bool ImageBurn::askForPath() {
     for (int n = 2; !ImagePaths(start).problem().isEmpty() && n < 1000; ++n)
         start = folder + u"/Audio CD %1.cue"_s.arg(n);
     for (;;) {
-        const auto chosen = panels->saveFile(nullptr, u"Write Disc Image"_s, start, Panels::Existing::Unasked);
+        const auto chosen = panels->saveFile(nullptr, QCoreApplication::translate("Disc", "Write Disc Image"), start,
+                                             Panels::Existing::Unasked);
         if (!chosen)
             return false;
         const QString problem = ImagePaths(*chosen).problem();
@@ -94,7 +103,8 @@ bool ImageBurn::askForPath() {
         }
         start = *chosen;
         if (services().alerts)
-            services().alerts->runModal(u"The image cannot be written there."_s, problem, {u"OK"_s});
+            services().alerts->runModal(QCoreApplication::translate("Disc", "The image cannot be written there."),
+                                        problem, {Alerts::okLabel()});
     }
 }
 
@@ -109,7 +119,7 @@ void ImageBurn::writeLayout(const std::optional<DRLayout>& layout) {
         return;
     }
     if (path_.isEmpty())
-        return fail(u"no path was given for the disc image"_s);
+        return fail(QCoreApplication::translate("Disc", "no path was given for the disc image"));
     const ImagePaths paths(path_);
     if (const QString problem = paths.problem(); !problem.isEmpty())
         return fail(problem);

@@ -7,6 +7,7 @@
 #include "Platform/Foundation/ReplacementFile.h"
 #include "Platform/Foundation/linux/Descriptor.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -28,7 +29,7 @@ constexpr unsigned kMostThreads = 8;
 constexpr auto kBetweenReports = std::chrono::milliseconds(100);
 
 QString megabytes(std::int64_t bytes) {
-    return QString::number((bytes + 999'999) / 1'000'000) + u" MB"_s;
+    return QCoreApplication::translate("Disc", "%L1 MB").arg((bytes + 999'999) / 1'000'000);
 }
 
 } // namespace
@@ -65,25 +66,28 @@ void ImageWriter::stop(const QString& problem) {
 
 QString ImageWriter::inWords(int error) const {
     if (error == ENOSPC || error == EDQUOT)
-        return u"%1: the disk is full: the image needs %2, %3 are free"_s.arg(
-            bin_, megabytes(total_ * CDFormat::kBytesPerSector), megabytes(FileManager::availableBytes(bin_)));
+        return QCoreApplication::translate("Disc", "%1: the disk is full: the image needs %2, %3 are free")
+            .arg(bin_, megabytes(total_ * CDFormat::kBytesPerSector), megabytes(FileManager::availableBytes(bin_)));
     if (error == EEXIST)
-        return u"%1: exists already, and an image replaces no file; choose another name"_s.arg(bin_);
-    return u"%1: cannot be written: %2"_s.arg(bin_, qt_error_string(error));
+        return QCoreApplication::translate("Disc",
+                                           "%1: exists already, and an image replaces no file; choose another name")
+            .arg(bin_);
+    return QCoreApplication::translate("Disc", "%1: cannot be written: %2").arg(bin_, qt_error_string(error));
 }
 
 QString ImageWriter::render(const Stretch& stretch, std::unique_ptr<SectorRenderer>& renderer,
                             std::vector<std::byte>& memory) {
     const QString& path = layout_[stretch.track]->path();
     if (!renderer->seek(stretch.first))
-        return path + u": cannot be read"_s;
+        return QCoreApplication::translate("Disc", "%1: cannot be read").arg(path);
     for (std::int64_t done = 0; done < stretch.sectors;) {
         if (aborted_ || stopped_)
             return {};
         const auto sectors = std::min(kImageBlockSectors, stretch.sectors - done);
         const auto block = std::span(memory).first(std::size_t(sectors * CDFormat::kBytesPerSector));
         if (const auto rendered = renderer->render(block); !rendered)
-            return rendered.error().text.isEmpty() ? path + u": cannot be read"_s : rendered.error().text;
+            return rendered.error().text.isEmpty() ? QCoreApplication::translate("Disc", "%1: cannot be read").arg(path)
+                                                   : rendered.error().text;
         const std::int64_t at = (stretch.place + done) * CDFormat::kBytesPerSector;
         if (!writeAllAt(file_, QByteArrayView(block.data(), qsizetype(block.size())), at))
             return inWords(errno);
@@ -105,7 +109,8 @@ void ImageWriter::work() {
             track = stretch.track;
             const auto audio = std::dynamic_pointer_cast<AudioTrack>(layout_[track]);
             if (!audio)
-                return stop(layout_[track]->path() + u": is not an audio file"_s);
+                return stop(
+                    QCoreApplication::translate("Disc", "%1: is not an audio file").arg(layout_[track]->path()));
             auto opened = audio->renderer();
             if (!opened)
                 return stop(opened.error().text);
@@ -163,7 +168,7 @@ QString ImageWriter::write(const Progress& progress) {
     if (!aborted_ && ::fdatasync(file_) != 0)
         return inWords(errno);
     if (aborted_)
-        return u"it was stopped before the end: nothing was written"_s;
+        return QCoreApplication::translate("Disc", "it was stopped before the end: nothing was written");
     const int error = ReplacementFile::commitTogether(data, sheet);
     return error == 0 ? QString() : inWords(error);
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Disc/linux/LibBurn.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <array>
@@ -102,7 +103,7 @@ MediaFacts lookAt(const QString& path, const std::stop_token& stop) {
     if (!drive.get()) {
         facts.problem = message();
         if (facts.problem.isEmpty())
-            facts.problem = u"the drive cannot be opened"_s;
+            facts.problem = QCoreApplication::translate("Disc", "the drive cannot be opened");
         return facts;
     }
     const auto status = drive.discStatus(stop);
@@ -125,7 +126,7 @@ QString eject(const QString& path) {
         return {};
     }
     const QString said = message();
-    return said.isEmpty() ? u"the drive cannot be opened"_s : said;
+    return said.isEmpty() ? QCoreApplication::translate("Disc", "the drive cannot be opened") : said;
 }
 
 } // namespace Platform::LibBurn

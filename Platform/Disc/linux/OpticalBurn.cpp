@@ -6,6 +6,7 @@
 #include "Platform/Disc/linux/TrackSource.h"
 #include "Platform/Foundation/MainQueue.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <array>
@@ -30,7 +31,8 @@ QString firstOf(const QString& first, const QString& otherwise) {
 
 QString whyNotHeld(const OpticalTarget& target) {
     const QString why = target.whyNotOpened ? target.whyNotOpened() : QString();
-    return u"%1: %2"_s.arg(target.name, firstOf(firstOf(why, LibBurn::message()), u"the drive cannot be opened"_s));
+    return u"%1: %2"_s.arg(target.name, firstOf(firstOf(why, LibBurn::message()),
+                                                QCoreApplication::translate("Disc", "the drive cannot be opened")));
 }
 
 /// Why a disc in this state cannot be written; empty when it can.
@@ -39,14 +41,14 @@ QString whyNotBlank(const OpticalTarget& target, burn_disc_status status) {
     case BURN_DISC_BLANK:
         return {};
     case BURN_DISC_EMPTY:
-        return u"%1: there is no disc in the drive"_s.arg(target.name);
+        return QCoreApplication::translate("Disc", "%1: there is no disc in the drive").arg(target.name);
     case BURN_DISC_APPENDABLE:
     case BURN_DISC_FULL:
-        return u"%1: the disc is not blank"_s.arg(target.name);
+        return QCoreApplication::translate("Disc", "%1: the disc is not blank").arg(target.name);
     case BURN_DISC_UNREADY:
-        return u"%1: the drive does not get ready"_s.arg(target.name);
+        return QCoreApplication::translate("Disc", "%1: the drive does not get ready").arg(target.name);
     default:
-        return u"%1: this disc cannot be written to"_s.arg(target.name);
+        return QCoreApplication::translate("Disc", "%1: this disc cannot be written to").arg(target.name);
     }
 }
 
@@ -97,8 +99,9 @@ QString prepare(burn_write_opts* options, burn_disc* disc, bool isAudio, DRBurnS
         return {};
     if (!isAudio && burn_write_opts_auto_write_type(options, disc, reasons.data(), 0) != BURN_WRITE_NONE)
         return {};
-    return u"the disc cannot be written like this: %1"_s.arg(firstOf(
-        firstOf(QString::fromLatin1(reasons.data()).simplified(), LibBurn::message()), u"the drive gave no reason"_s));
+    return QCoreApplication::translate("Disc", "the disc cannot be written like this: %1")
+        .arg(firstOf(firstOf(QString::fromLatin1(reasons.data()).simplified(), LibBurn::message()),
+                     QCoreApplication::translate("Disc", "the drive gave no reason")));
 }
 
 /// The written part of the layout, from 0 to 1.
@@ -156,7 +159,8 @@ void OpticalBurn::writeLayout(const std::optional<DRLayout>& layout) {
 }
 
 QString OpticalBurn::run(const DRLayout& layout, const std::stop_token& stop) {
-    const QString stopped = u"it was stopped before the end: the disc may be unusable"_s;
+    const QString stopped =
+        QCoreApplication::translate("Disc", "it was stopped before the end: the disc may be unusable");
     report(DRStatusStatePreparing, -1);
     const bool isAudio = std::dynamic_pointer_cast<AudioTrack>(layout.front()) != nullptr;
     std::optional<TrackFeed> feed;
@@ -167,7 +171,7 @@ QString OpticalBurn::run(const DRLayout& layout, const std::stop_token& stop) {
             return feed->error().text;
     }
     if (aborted_)
-        return u"it was stopped before the first sector: the disc is as it was"_s;
+        return QCoreApplication::translate("Disc", "it was stopped before the first sector: the disc is as it was");
 
     LibBurn::HeldDrive drive(target_.path, true);
     if (!drive.get())
@@ -177,8 +181,8 @@ QString OpticalBurn::run(const DRLayout& layout, const std::stop_token& stop) {
     QString kind;
     const int profile = drive.profile(&kind);
     if (isAudio && profile != LibBurn::kProfileCDR && profile != LibBurn::kProfileCDRW)
-        return u"%1: an audio CD needs a CD-R or a CD-RW, this is a %2"_s.arg(target_.name,
-                                                                              firstOf(kind, u"disc of another kind"_s));
+        return QCoreApplication::translate("Disc", "%1: an audio CD needs a CD-R or a CD-RW, this is a %2")
+            .arg(target_.name, firstOf(kind, QCoreApplication::translate("Disc", "disc of another kind")));
     const auto leading = std::min<std::int64_t>(layout.front()->properties().preGapLength, kFirstGapBeforeTheDisc);
     if (const QString why = layoutProblem(layout, LibBurn::freeBlocks(drive.get(), profile), leading); !why.isEmpty())
         return why;
@@ -186,13 +190,14 @@ QString OpticalBurn::run(const DRLayout& layout, const std::stop_token& stop) {
     Composed made;
     const LibBurn::WriteOptionsPtr options(burn_write_opts_new(drive.get()));
     if (!options || !compose(layout, feed ? &*feed : nullptr, made))
-        return firstOf(LibBurn::message(), u"the layout of the disc could not be made"_s);
+        return firstOf(LibBurn::message(),
+                       QCoreApplication::translate("Disc", "the layout of the disc could not be made"));
     if (const QString why = prepare(options.get(), made.disc.get(), isAudio, properties_.strategy); !why.isEmpty())
         return u"%1: %2"_s.arg(target_.name, why);
     burn_drive_set_speed(drive.get(), 0, speed_ > 0 ? int(speed_) : 0);
     drive.ejectAtTheEnd(properties_.completionAction == DRBurnCompletionActionEject);
     if (aborted_)
-        return u"it was stopped before the first sector: the disc is as it was"_s;
+        return QCoreApplication::translate("Disc", "it was stopped before the first sector: the disc is as it was");
 
     burn_disc_write(options.get(), made.disc.get());
     bool cancelled = false;
@@ -215,12 +220,13 @@ QString OpticalBurn::run(const DRLayout& layout, const std::stop_token& stop) {
         std::this_thread::sleep_for(kBetweenLooks);
     }
     if (feed && feed->error())
-        return feed->error().text + u" (the disc is unusable)"_s;
+        return QCoreApplication::translate("Disc", "%1 (the disc is unusable)").arg(feed->error().text);
     if (aborted_ && cancelled)
         return stopped;
     if (burn_drive_wrote_well(drive.get()) != 1)
-        return u"%1: the burn failed: %2"_s.arg(target_.name,
-                                                firstOf(LibBurn::message(), u"the drive gave no reason"_s));
+        return QCoreApplication::translate("Disc", "%1: the burn failed: %2")
+            .arg(target_.name,
+                 firstOf(LibBurn::message(), QCoreApplication::translate("Disc", "the drive gave no reason")));
     return {};
 }
 
@@ -254,7 +260,7 @@ QString OpticalErase::run(const std::stop_token& stop) {
     if (status == BURN_DISC_EMPTY)
         return whyNotBlank(target_, status);
     if (burn_disc_erasable(drive.get()) == 0)
-        return u"%1: this disc cannot be erased"_s.arg(target_.name);
+        return QCoreApplication::translate("Disc", "%1: this disc cannot be erased").arg(target_.name);
     burn_disc_erase(drive.get(), type_ == DREraseTypeQuick ? 1 : 0);
     // Interrupting an erase would damage the disc: the end of the program waits for it.
     for (;;) {
@@ -265,8 +271,9 @@ QString OpticalErase::run(const std::stop_token& stop) {
         std::this_thread::sleep_for(kBetweenLooks);
     }
     if (burn_drive_wrote_well(drive.get()) != 1)
-        return u"%1: the erase failed: %2"_s.arg(target_.name,
-                                                 firstOf(LibBurn::message(), u"the drive gave no reason"_s));
+        return QCoreApplication::translate("Disc", "%1: the erase failed: %2")
+            .arg(target_.name,
+                 firstOf(LibBurn::message(), QCoreApplication::translate("Disc", "the drive gave no reason")));
     return {};
 }
 

@@ -5,6 +5,7 @@
 #include "Platform/Disc/linux/LibBurn.h"
 #include "Platform/Foundation/MainQueue.h"
 
+#include <QCoreApplication>
 #include <QLoggingCategory>
 
 #include <cerrno>
@@ -23,15 +24,17 @@ QString inWords(const QString& path, int error) {
         return {};
     case EACCES:
     case EPERM:
-        return u"no right to use %1: join the group that owns it (often \"cdrom\") and log in again"_s.arg(path);
+        return QCoreApplication::translate(
+                   "Disc", "no right to use %1: join the group that owns it (often \"cdrom\") and log in again")
+            .arg(path);
     case EBUSY:
-        return u"another program uses the drive, or its disc is mounted"_s;
+        return QCoreApplication::translate("Disc", "another program uses the drive, or its disc is mounted");
     case ENOENT:
     case ENODEV:
     case ENXIO:
-        return u"the drive is gone"_s;
+        return QCoreApplication::translate("Disc", "the drive is gone");
     default:
-        return u"%1 cannot be opened: %2"_s.arg(path, qt_error_string(error));
+        return QCoreApplication::translate("Disc", "%1 cannot be opened: %2").arg(path, qt_error_string(error));
     }
 }
 

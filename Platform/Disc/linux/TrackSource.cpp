@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Disc/linux/TrackSource.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -71,13 +72,14 @@ LibBurn::SourcePtr feedSource(TrackFeed& feed, std::int64_t bytes) {
 Result<std::shared_ptr<ImageFileTrack>> ImageFileTrack::open(const QString& path) {
     const QFileInfo info(path);
     if (!info.exists())
-        return Error{Error::Kind::NotFound, path + u": no such file"_s};
+        return Error{Error::Kind::NotFound, QCoreApplication::translate("Disc", "%1: no such file").arg(path)};
     if (!info.isFile())
-        return Error{Error::Kind::NotAFile, path + u": is not a file"_s};
+        return Error{Error::Kind::NotAFile, QCoreApplication::translate("Disc", "%1: is not a file").arg(path)};
     if (!info.isReadable())
-        return Error{Error::Kind::NotPermitted, path + u": no right to read it"_s};
+        return Error{Error::Kind::NotPermitted,
+                     QCoreApplication::translate("Disc", "%1: no right to read it").arg(path)};
     if (info.size() == 0)
-        return Error{Error::Kind::UnknownFormat, path + u": is empty"_s};
+        return Error{Error::Kind::UnknownFormat, QCoreApplication::translate("Disc", "%1: is empty").arg(path)};
     auto track = std::make_shared<ImageFileTrack>();
     track->path_ = info.absoluteFilePath();
     track->bytes_ = info.size();

@@ -4,6 +4,7 @@
 
 #include "Platform/Foundation/linux/LockedFile.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <cerrno>
@@ -38,7 +39,8 @@ Result<> openLocked(const QString& path, const std::function<Descriptor()>& open
         if (errno != EWOULDBLOCK && errno != EINTR)
             return Error::ofErrno(errno, path);
         if (std::chrono::steady_clock::now() >= deadline)
-            return Error{Error::Kind::Busy, path + QStringLiteral(": another program is using it")};
+            return Error{Error::Kind::Busy,
+                         QCoreApplication::translate("Foundation", "%1: another program is using it").arg(path)};
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
 }

@@ -9,6 +9,7 @@
 #include "Platform/Foundation/linux/Descriptor.h"
 #include "Platform/Foundation/linux/OpenFile.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -114,7 +115,7 @@ Result<> removeFile(const QString& path) {
     if (S_ISDIR(is.st_mode))
         return Error::ofErrno(EISDIR);
     if (!S_ISREG(is.st_mode) && !S_ISLNK(is.st_mode))
-        return Error{Error::Kind::NotAFile, QStringLiteral("not a regular file")};
+        return Error{Error::Kind::NotAFile, QCoreApplication::translate("Foundation", "not a regular file")};
     return resultOf(unlink(name.constData()) == 0 || errno == ENOENT ? 0 : errno);
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Foundation/Folders.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
@@ -24,13 +25,13 @@ QString whyNotPrivate(const QString& path) {
     if (lstat(QFile::encodeName(path).constData(), &is) != 0)
         return QStringLiteral("%1: %2").arg(path, qt_error_string(errno));
     if (S_ISLNK(is.st_mode))
-        return QStringLiteral("%1 is a link").arg(path);
+        return QCoreApplication::translate("Foundation", "%1 is a link").arg(path);
     if (!S_ISDIR(is.st_mode))
-        return QStringLiteral("%1 is no folder").arg(path);
+        return QCoreApplication::translate("Foundation", "%1 is no folder").arg(path);
     if (is.st_uid != geteuid())
-        return QStringLiteral("%1 belongs to another user").arg(path);
+        return QCoreApplication::translate("Foundation", "%1 belongs to another user").arg(path);
     if (is.st_mode & 077)
-        return QStringLiteral("%1 is open to others").arg(path);
+        return QCoreApplication::translate("Foundation", "%1 is open to others").arg(path);
     return {};
 }
 

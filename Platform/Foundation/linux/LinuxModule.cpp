@@ -4,6 +4,7 @@
 
 #include "Platform/Foundation/linux/LinuxFoundation.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <dlfcn.h>
@@ -16,7 +17,8 @@ Result<void*> loadModuleFunction(const QString& file, const char* name) {
     void* const function = module ? dlsym(module, name) : nullptr;
     if (!function)
         return Error{Error::Kind::NotFound,
-                     QStringLiteral("a part of the program is missing: ") + QString::fromLocal8Bit(dlerror())};
+                     QCoreApplication::translate("Foundation", "a part of the program is missing: %1")
+                         .arg(QString::fromLocal8Bit(dlerror()))};
     return function;
 }
 

@@ -5,6 +5,7 @@
 #include "Platform/Foundation/MainQueue.h"
 #include "Platform/Foundation/RunningProgram.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLocalServer>
@@ -50,7 +51,7 @@ public:
         QLocalSocket probe;
         probe.connectToServer(path);
         if (probe.waitForConnected(200)) {
-            lastError_ = QStringLiteral("%1 is already answered").arg(path);
+            lastError_ = QCoreApplication::translate("Foundation", "%1 is already answered").arg(path);
             return false;
         }
         if (!removeDeadSocket(path))
@@ -102,7 +103,7 @@ private:
         if (lstat(name.constData(), &status) != 0)
             return true;
         if (!S_ISSOCK(status.st_mode) || status.st_uid != geteuid()) {
-            lastError_ = QStringLiteral("%1 is not a socket of this user").arg(path);
+            lastError_ = QCoreApplication::translate("Foundation", "%1 is not a socket of this user").arg(path);
             return false;
         }
         return QLocalServer::removeServer(path);

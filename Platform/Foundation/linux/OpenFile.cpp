@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Foundation/linux/OpenFile.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QLocale>
 
@@ -19,15 +20,16 @@ constexpr std::int64_t largestWithoutLimit = std::int64_t(64) << 20;
 /// Why the rules refuse the file; empty when they accept it.
 QString refusal(const struct stat& status, const FileRules& rules) {
     if (S_ISLNK(status.st_mode))
-        return u"is a link"_s;
+        return QCoreApplication::translate("Foundation", "is a link");
     if (S_ISDIR(status.st_mode))
-        return u"is a folder"_s;
+        return QCoreApplication::translate("Foundation", "is a folder");
     if (!S_ISREG(status.st_mode))
-        return u"not a regular file"_s;
+        return QCoreApplication::translate("Foundation", "not a regular file");
     if (rules.ownUser && status.st_uid != ::geteuid() && status.st_uid != 0)
-        return u"belongs to another user"_s;
+        return QCoreApplication::translate("Foundation", "belongs to another user");
     if (rules.largest >= 0 && status.st_size > rules.largest)
-        return u"is larger than %1"_s.arg(QLocale::c().formattedDataSize(rules.largest));
+        return QCoreApplication::translate("Foundation", "is larger than %1")
+            .arg(QLocale().formattedDataSize(rules.largest));
     return {};
 }
 

@@ -6,6 +6,8 @@
 #include "Platform/Media/linux/decode/SourceFile.h"
 #include "Platform/Media/linux/encode/FileWriter.h"
 
+#include <QCoreApplication>
+
 namespace Platform {
 
 namespace {
@@ -34,7 +36,8 @@ public:
                                                              const AudioStreamBasicDescription& format,
                                                              std::uint32_t flags) override {
         if (!canBeWritten(fileType, format))
-            return makeError(Error::Kind::UnknownFormat, path, QStringLiteral("this format cannot be written"));
+            return makeError(Error::Kind::UnknownFormat, path,
+                             QCoreApplication::translate("Media", "this format cannot be written"));
         auto writer = std::make_unique<FileWriter>(path, fileType, format);
         if (const auto opened = writer->open(flags & kAudioFileFlags_EraseFile); !opened)
             return opened.error();

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/linux/PacketCopy.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace Platform {
@@ -53,10 +55,12 @@ Result<> PacketCopy::copy(const QString& path, std::int64_t first, std::int64_t 
     for (std::int64_t i = firstPacket; goesOn && i < endPacket; ++i) {
         const auto bytes = packet(i);
         if (bytes.empty())
-            return makeError(Error::Kind::Damaged, path, QStringLiteral("a packet of the recording cannot be read"));
+            return makeError(Error::Kind::Damaged, path,
+                             QCoreApplication::translate("Media", "a packet of the recording cannot be read"));
         goesOn = container->add(bytes);
         if (progress && !progress(double(i - firstPacket) / double(endPacket - firstPacket)))
-            return makeError(Error::Kind::Cancelled, path, QStringLiteral("stopped before the end"));
+            return makeError(Error::Kind::Cancelled, path,
+                             QCoreApplication::translate("Media", "stopped before the end"));
     }
     container->finish(end - first);
     file.sync();

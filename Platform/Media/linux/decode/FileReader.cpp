@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/linux/decode/FileReader.h"
 
+#include <QCoreApplication>
+
 #include <cmath>
 #include <cstring>
 #include <numeric>
@@ -61,8 +63,8 @@ OSStatus FileReader::seek(std::int64_t clientFrame) {
     atStart_ = false;
     if (!input_->seek(source)) {
         ended_ = true;
-        const auto error =
-            makeError(Error::Kind::Damaged, input_->path(), QStringLiteral("cannot be read from the beginning"));
+        const auto error = makeError(Error::Kind::Damaged, input_->path(),
+                                     QCoreApplication::translate("Media", "cannot be read from the beginning"));
         if (!firstError_)
             firstError_ = error;
         return statusOf(error);

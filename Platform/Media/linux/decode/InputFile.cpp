@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/linux/decode/InputFile.h"
 
+#include <QCoreApplication>
+
 namespace Platform {
 
 namespace {
@@ -59,7 +61,8 @@ Result<std::unique_ptr<InputFile>> InputFile::open(const QString& path, bool dec
     input->av_ = Av::formatLibrary(&why);
     if (!input->av_)
         return makeError(Error::Kind::Other, path,
-                         QStringLiteral("audio files cannot be read: ") + QString::fromLocal8Bit(why.c_str()));
+                         QCoreApplication::translate("Media", "audio files cannot be read: %1")
+                             .arg(QString::fromLocal8Bit(why.c_str())));
     input->frame_.reset(av_frame_alloc());
     input->packet_.reset(Av::codecs().allocPacket());
     if (const auto opened = input->openContainer(); !opened)
@@ -86,16 +89,16 @@ Result<> InputFile::openContainer() {
         io_.reset(av_->allocIo(buffer, ioBufferBytes, 0, reading.get(), readSome, nullptr, seekTo));
         if (!io_) {
             av_free(buffer);
-            return makeError(Error::Kind::Other, path_, QStringLiteral("out of memory"));
+            return makeError(Error::Kind::Other, path_, QCoreApplication::translate("Media", "out of memory"));
         }
         (void)reading.release(); // freed with the file
     }
     if (av_->seekIo(io_.get(), 0, SEEK_SET) < 0) {
-        return makeError(Error::Kind::Damaged, path_, QStringLiteral("cannot be read"));
+        return makeError(Error::Kind::Damaged, path_, QCoreApplication::translate("Media", "cannot be read"));
     }
     AVFormatContext* context = av_->allocContext();
     if (!context) {
-        return makeError(Error::Kind::Other, path_, QStringLiteral("out of memory"));
+        return makeError(Error::Kind::Other, path_, QCoreApplication::translate("Media", "out of memory"));
     }
     context->pb = io_.get();
     context->io_open = openNothing;
@@ -104,7 +107,7 @@ Result<> InputFile::openContainer() {
     if (code < 0) {
         const bool unknown = code == AVERROR_INVALIDDATA || code == AVERROR_EOF;
         return makeError(Error::Kind::UnknownFormat, path_,
-                         unknown ? QStringLiteral("not an audio file, or too damaged to be read")
+                         unknown ? QCoreApplication::translate("Media", "not an audio file, or too damaged to be read")
                                  : QString::fromStdString(Av::text(code)),
                          QStringLiteral("libavformat: ") + QString::fromStdString(Av::text(code)));
     }
@@ -112,7 +115,8 @@ Result<> InputFile::openContainer() {
     code = av_->findStreamInfo(context, nullptr);
     const int best = av_->findBestStream(context, AVMEDIA_TYPE_AUDIO, -1, -1, nullptr, 0);
     if (best < 0) {
-        return makeError(Error::Kind::NoAudio, path_, QStringLiteral("the file contains no audio"));
+        return makeError(Error::Kind::NoAudio, path_,
+                         QCoreApplication::translate("Media", "the file contains no audio"));
     }
     stream_ = context->streams[best];
     for (unsigned i = 0; i < context->nb_streams; ++i) {
@@ -123,7 +127,8 @@ Result<> InputFile::openContainer() {
     channels_ = stream_->codecpar->ch_layout.nb_channels;
     if (code < 0 || rate_ <= 0 || rate_ > mostRate || channels_ <= 0 || channels_ > 64 || stream_->time_base.num <= 0 ||
         stream_->time_base.den <= 0) {
-        return makeError(Error::Kind::Damaged, path_, QStringLiteral("its audio format is not supported"));
+        return makeError(Error::Kind::Damaged, path_,
+                         QCoreApplication::translate("Media", "its audio format is not supported"));
     }
     if (formatIs("mp4"))
         facts_ = readMpeg4Facts(file_, rate_);
@@ -136,7 +141,8 @@ Result<> InputFile::openDecoder() {
     codec_ = Av::createDecoder(*stream_);
     if (!codec_ || Av::codecs().open(codec_.get(), nullptr, nullptr) < 0) {
         codec_.reset();
-        return makeError(Error::Kind::UnknownFormat, path_, QStringLiteral("no decoder for its audio format"));
+        return makeError(Error::Kind::UnknownFormat, path_,
+                         QCoreApplication::translate("Media", "no decoder for its audio format"));
     }
     if (outputChannels_ == 0)
         outputChannels_ = channels_;
@@ -165,7 +171,8 @@ Result<> InputFile::openDecoder() {
         return {};
     }
     if (got == Got::Silence) {
-        return makeError(Error::Kind::Damaged, path_, QStringLiteral("its audio cannot be decoded"));
+        return makeError(Error::Kind::Damaged, path_,
+                         QCoreApplication::translate("Media", "its audio cannot be decoded"));
     }
     if (ignored) {
         return *ignored;
@@ -204,9 +211,10 @@ void InputFile::setOutputChannels(int channels) {
 /// Decodes the next frame, or gives the length of the silence that replaces a damaged one.
 InputFile::Got InputFile::decodeOne(std::optional<Error>& error) {
     const auto damaged = [&](int code) {
-        error = makeError(
-            Error::Kind::Damaged, path_,
-            QStringLiteral("damaged at frame %1 (%2)").arg(position_).arg(QString::fromStdString(Av::text(code))));
+        error = makeError(Error::Kind::Damaged, path_,
+                          QCoreApplication::translate("Media", "damaged at frame %1 (%2)")
+                              .arg(position_)
+                              .arg(QString::fromStdString(Av::text(code))));
     };
     for (;;) {
         av_frame_unref(frame_.get());
@@ -342,7 +350,8 @@ InputFile::Block InputFile::convert(std::int64_t skip, std::int64_t most) {
         if (!mixer_ || swr_init(mixer_.get()) < 0) {
             mixer_.reset();
             block.frames = 0;
-            block.error = makeError(Error::Kind::Damaged, path_, QStringLiteral("channels that cannot be mixed"));
+            block.error = makeError(Error::Kind::Damaged, path_,
+                                    QCoreApplication::translate("Media", "channels that cannot be mixed"));
             return block;
         }
         mixerFormat_ = frame_->format;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/linux/decode/PacketReader.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <span>
 
@@ -86,14 +88,15 @@ Result<std::shared_ptr<PacketReader>> PacketReader::open(const QString& path) {
         file, {0, file.size()},
         {fourCharCode("moov"), fourCharCode("trak"), fourCharCode("mdia"), fourCharCode("minf"), fourCharCode("stbl")});
     if (!own || !table)
-        return makeError(Error::Kind::UnknownFormat, path, QStringLiteral("not a finished recording of Sonaphex"));
+        return makeError(Error::Kind::UnknownFormat, path,
+                         QCoreApplication::translate("Media", "not a finished recording of Sonaphex"));
     reader->info_.sampleRate = int(own->dataFormat.mSampleRate);
     reader->info_.channels = int(own->dataFormat.mChannelsPerFrame);
     reader->info_.framesPerPacket = int(own->dataFormat.mFramesPerPacket);
     reader->info_.primingFrames = int(readMpeg4Facts(file, reader->info_.sampleRate).editStart);
     reader->validFrames_ = own->frameCount;
     if (!reader->readDescription(*table) || !reader->readPackets(*table))
-        return makeError(Error::Kind::Damaged, path, QStringLiteral("its index is damaged"));
+        return makeError(Error::Kind::Damaged, path, QCoreApplication::translate("Media", "its index is damaged"));
     return reader;
 }
 

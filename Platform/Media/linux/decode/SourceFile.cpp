@@ -5,6 +5,7 @@
 #include "Platform/Foundation/linux/OpenFile.h"
 #include "Platform/Media/linux/encode/PacketFile.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <cerrno>
@@ -26,7 +27,7 @@ Result<> SourceFile::open(const QString& path) {
     if (!opened.file)
         return makeError(opened.error.kind, path, opened.error.text, opened.error.detail);
     if (opened.status.st_size == 0)
-        return makeError(Error::Kind::UnknownFormat, path, QStringLiteral("the file is empty"));
+        return makeError(Error::Kind::UnknownFormat, path, QCoreApplication::translate("Media", "the file is empty"));
     fd_ = opened.file.release();
     ::posix_fadvise(fd_, 0, 0, POSIX_FADV_SEQUENTIAL);
     return {};

@@ -5,6 +5,8 @@
 #include "Platform/Media/linux/encode/SerialEncoder.h"
 #include "Platform/Media/linux/encode/StretchEncoder.h"
 
+#include <QCoreApplication>
+
 namespace Platform {
 
 namespace {
@@ -41,7 +43,8 @@ public:
 private:
     void store() {
         if (!encoder_.valid())
-            file_.fail(makeError(Error::Kind::Encoder, file_.path(), QStringLiteral("the AAC encoder failed")));
+            file_.fail(makeError(Error::Kind::Encoder, file_.path(),
+                                 QCoreApplication::translate("Media", "the AAC encoder failed")));
         for (const auto& packet : packets_) {
             if (!file_.failed())
                 container_->add(packet);

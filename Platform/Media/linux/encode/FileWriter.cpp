@@ -6,6 +6,8 @@
 #include "Platform/Media/linux/libav/LibAvCodec.h"
 #include "Platform/Media/linux/libav/RateConverter.h"
 
+#include <QCoreApplication>
+
 #include <chrono>
 #include <cmath>
 #include <condition_variable>
@@ -185,10 +187,11 @@ void FileWriter::start(bool parallel) {
     if (!core.sink) {
         std::string why;
         const bool isMissing = core.format.mFormatID == kAudioFormatMPEG4AAC && !Av::codecLibrary(&why);
-        core.file.fail(makeError(Error::Kind::Encoder, core.path,
-                                 isMissing
-                                     ? QStringLiteral("the encoder is missing: ") + QString::fromLocal8Bit(why.c_str())
-                                     : QStringLiteral("the encoder does not take this rate or channel count")));
+        core.file.fail(makeError(
+            Error::Kind::Encoder, core.path,
+            isMissing ? QCoreApplication::translate("Media", "the encoder is missing: %1")
+                            .arg(QString::fromLocal8Bit(why.c_str()))
+                      : QCoreApplication::translate("Media", "the encoder does not take this rate or channel count")));
     }
     core.ring = std::make_unique<PlaneRing>(core.channels.size(), std::size_t(clientRate) * ringSeconds);
     core.started = true;
@@ -301,7 +304,8 @@ void FileWriter::Core::run() {
         stream = std::make_shared<ConversionStream>(
             channels.size(), client ? int(std::lround(client->mSampleRate)) : fileRate, fileRate);
         if (!stream->valid())
-            file.fail(makeError(Error::Kind::Encoder, path, QStringLiteral("the rate cannot be converted")));
+            file.fail(makeError(Error::Kind::Encoder, path,
+                                QCoreApplication::translate("Media", "the rate cannot be converted")));
     }
     std::shared_ptr<CutTail> tail;
     std::vector<const float*> rows;

@@ -4,6 +4,7 @@
 
 #include "Platform/Foundation/linux/Descriptor.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <cerrno>
@@ -28,7 +29,7 @@ Result<> OutputFile::create(const QString& path, bool overwrite) {
     struct stat info = {};
     if (::fstat(fd_, &info) == 0 && !S_ISREG(info.st_mode)) {
         close();
-        return makeError(Error::Kind::NotAFile, path, QStringLiteral("not a regular file"));
+        return makeError(Error::Kind::NotAFile, path, QCoreApplication::translate("Media", "not a regular file"));
     }
     if (::ftruncate(fd_, 0) < 0) {
         const Error error = Error::ofErrno(errno, path);

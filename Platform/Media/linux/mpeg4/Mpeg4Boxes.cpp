@@ -4,6 +4,8 @@
 
 #include "Platform/Foundation/linux/Descriptor.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
 #include <sys/stat.h>
@@ -32,21 +34,21 @@ public:
         if (!isOneOf(box.type, containers))
             return tableFits(box);
         if (depth > deepestTree)
-            return refuse(u"too deeply nested"_s);
+            return refuse(QCoreApplication::translate("Media", "too deeply nested"));
         const bool hasVersion = box.type == fourCharCode("meta") && isFullBox(box.content());
         box.inner = box.content() + (hasVersion ? 4 : 0);
         if (box.inner > box.end())
-            return refuse(u"a box of impossible size"_s);
+            return refuse(QCoreApplication::translate("Media", "a box of impossible size"));
         for (std::int64_t at = box.inner; at < box.end(); at = box.children.back().end()) {
             if (box.end() - at == 4)
                 return true; // some writers end a list of boxes with four zero bytes
             if (++count_ > mostBoxes)
-                return refuse(u"too many boxes"_s);
+                return refuse(QCoreApplication::translate("Media", "too many boxes"));
             auto child = readBoxHeader(source_, at, box.end());
             if (!child)
-                return refuse(u"a box of impossible size"_s);
+                return refuse(QCoreApplication::translate("Media", "a box of impossible size"));
             if (child->end() > box.end())
-                return refuse(u"a box larger than the one around it"_s);
+                return refuse(QCoreApplication::translate("Media", "a box larger than the one around it"));
             if (!read(*child, depth + 1))
                 return false;
             box.children.push_back(std::move(*child));
@@ -65,10 +67,10 @@ private:
         const std::int64_t length = box.length - box.header;
         const std::int64_t entry = box.type == fourCharCode("stco") ? 4 : box.type == fourCharCode("co64") ? 8 : 0;
         if (entry > 0 && (length < 8 || std::int64_t(numberAt(source_, box.content() + 4, 4)) * entry > length - 8))
-            return refuse(u"a table that is larger than its box"_s);
+            return refuse(QCoreApplication::translate("Media", "a table that is larger than its box"));
         if (box.type == fourCharCode("tfhd") &&
             (length < 8 || ((numberAt(source_, box.content(), 4) & 1) != 0 && length < 16)))
-            return refuse(u"a box of impossible size"_s);
+            return refuse(QCoreApplication::translate("Media", "a box of impossible size"));
         return true;
     }
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/linux/mpeg4/Mpeg4Layout.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace Platform {
@@ -29,7 +31,7 @@ std::optional<Mpeg4Layout> readLayout(const ByteSource& file, QString& why) {
         return std::nullopt;
     };
     if (numberAt(file, 4, 4) != fourCharCode("ftyp"))
-        return refuse(u"not an MPEG-4 file"_s);
+        return refuse(QCoreApplication::translate("Media", "not an MPEG-4 file"));
     Mpeg4Layout layout;
     bool hasIndex = false;
     for (std::int64_t at = 0; at < file.size(); at = layout.boxes.back().end()) {
@@ -38,15 +40,15 @@ std::optional<Mpeg4Layout> readLayout(const ByteSource& file, QString& why) {
         if (!isWhole && hasIndex && !layout.fragmented && isUnfinished(box, file.size() - at))
             break;
         if (!box && file.size() - at >= 8)
-            return refuse(u"a box of impossible size"_s);
+            return refuse(QCoreApplication::translate("Media", "a box of impossible size"));
         layout.complete = box && box->end() <= file.size();
         if (!box)
             break;
         const bool isIndex = box->type == fourCharCode("moov");
         if (!layout.complete && (isIndex || box->type == fourCharCode("moof")))
-            return refuse(u"the file ends within its index"_s);
+            return refuse(QCoreApplication::translate("Media", "the file ends within its index"));
         if (layout.boxes.size() >= mostLaidOutBoxes)
-            return refuse(u"too many boxes"_s);
+            return refuse(QCoreApplication::translate("Media", "too many boxes"));
         layout.fragmented = layout.fragmented || box->type == fourCharCode("moof");
         box->length = std::min(box->length, file.size() - at);
         if (!isFree(*box) && !(isIndex && hasIndex))
@@ -61,7 +63,7 @@ std::optional<Mpeg4Layout> readLayout(const ByteSource& file, QString& why) {
         layout.boxes.push_back(std::move(*box));
     }
     if (!hasIndex)
-        return refuse(u"the file has no index"_s);
+        return refuse(QCoreApplication::translate("Media", "the file has no index"));
     return layout;
 }
 

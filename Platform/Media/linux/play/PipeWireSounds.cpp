@@ -5,6 +5,7 @@
 #include "Platform/Media/ExtAudioFile.h"
 #include "Platform/Media/linux/play/SoundPlayer.h"
 
+#include <QCoreApplication>
 #include <QLoggingCategory>
 #include <QTimer>
 
@@ -29,7 +30,7 @@ public:
         if (reader_ && !open())
             reader_.reset();
         if (!reader_)
-            lastError_ = error ? error.text : path + QStringLiteral(" cannot be played");
+            lastError_ = error ? error.text : QCoreApplication::translate("Media", "%1 cannot be played").arg(path);
         timer_.setInterval(kLookEveryMs);
         connect(&timer_, &QTimer::timeout, this, &PipeWireSound::look);
     }
@@ -111,7 +112,7 @@ private:
         if (!player_ || isPlaying())
             return;
         if (player_->lost())
-            lastError_ = QStringLiteral("the sound server went away");
+            lastError_ = QCoreApplication::translate("Media", "the sound server went away");
         end();
     }
     void end() {

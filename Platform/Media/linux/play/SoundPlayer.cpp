@@ -5,6 +5,8 @@
 #include "Platform/Audio/linux/NodeFormat.h"
 #include "Platform/Audio/linux/PipeWireHandles.h"
 
+#include <QCoreApplication>
+
 #include <array>
 #include <cerrno>
 #include <condition_variable>
@@ -150,7 +152,8 @@ bool SoundPlayer::Connection::start(QString& why) {
     LoopLock lock(loop.get());
     core.reset(pw_context_connect(context.get(), nullptr, 0));
     if (!core) {
-        why = QStringLiteral("no sound server answers: ") + QString::fromLocal8Bit(strerror(errno));
+        why = QCoreApplication::translate("Media", "no sound server answers: %1")
+                  .arg(QString::fromLocal8Bit(strerror(errno)));
         return false;
     }
     static constexpr pw_core_events coreEvents = {
@@ -188,7 +191,7 @@ bool SoundPlayer::Connection::start(QString& why) {
     constexpr auto flags =
         pw_stream_flags(PW_STREAM_FLAG_AUTOCONNECT | PW_STREAM_FLAG_MAP_BUFFERS | PW_STREAM_FLAG_RT_PROCESS);
     if (pw_stream_connect(stream.get(), PW_DIRECTION_OUTPUT, PW_ID_ANY, flags, params, 1) < 0) {
-        why = QStringLiteral("the sound server refused the stream");
+        why = QCoreApplication::translate("Media", "the sound server refused the stream");
         return false;
     }
     return true;

@@ -11,6 +11,7 @@
 #include <array>
 #include <cstring>
 
+#include <QCoreApplication>
 #include <QLoggingCategory>
 
 #include <taglib/mp4coverart.h>
@@ -99,7 +100,7 @@ Media::IndexEdit Media::editOfTags(const std::vector<const char*>& changed,
             edit(*fresh.tag());
         const auto added = fresh.tag() ? fresh.saved() : std::nullopt;
         if (!added) {
-            why = u"its tags cannot be written"_s;
+            why = QCoreApplication::translate("Media", "its tags cannot be written");
             return std::nullopt;
         }
         return withTagItems(index, items + *added, why);
@@ -130,7 +131,8 @@ Result<> BasicID3Change::writeTexts(const QString& path, const Texts& texts) {
             setText(tag, item, value);
     });
     if (!Media::saveInPlace(path, edit, why))
-        return Error{Error::Kind::Other, u"cannot write the tags of %1: %2"_s.arg(path, why)};
+        return Error{Error::Kind::Other,
+                     QCoreApplication::translate("Media", "cannot write the tags of %1: %2").arg(path, why)};
     return {};
 }
 
@@ -144,7 +146,8 @@ bool BasicID3Change::setMpeg4ID3Information(const QString& path, const QString& 
 
 Result<BasicID3Change::Tags> BasicID3Change::read(const QString& path) {
     const auto refuse = [&](const QString& why) {
-        return Error{Error::Kind::Damaged, u"cannot read the tags of %1: %2"_s.arg(path, why)};
+        return Error{Error::Kind::Damaged,
+                     QCoreApplication::translate("Media", "cannot read the tags of %1: %2").arg(path, why)};
     };
     Descriptor file;
     QString why;
@@ -163,7 +166,7 @@ Result<BasicID3Change::Tags> BasicID3Change::read(const QString& path) {
     const TagsInMemory inMemory(items);
     const TagLib::MP4::Tag* const tag = inMemory.tag();
     if (!tag)
-        return refuse(u"its tags cannot be read"_s);
+        return refuse(QCoreApplication::translate("Media", "its tags cannot be read"));
 
     Tags tags{text(tag->title()), text(tag->artist()), text(tag->album()), text(tag->genre()), 0, {}};
     if (const TagLib::MP4::Item year = tag->item(yearItem); year.isValid())

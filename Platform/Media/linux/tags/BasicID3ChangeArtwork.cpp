@@ -7,6 +7,7 @@
 #include "Platform/Media/linux/tags/Mpeg4Tags.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QImageReader>
 
@@ -38,11 +39,14 @@ std::optional<TagLib::MP4::CoverArt::Format> formatOf(QByteArray& image) {
 Result<> BasicID3Change::copyWithArtwork(const QString& source, const QString& image, const QString& destination) {
     auto bytes = readFile(image, {.largest = largestImage});
     if (!bytes)
-        return Error{bytes.error().kind, u"cannot read the image %1: %2"_s.arg(image, bytes.error().text),
-                     bytes.error().detail};
+        return Error{
+            bytes.error().kind,
+            QCoreApplication::translate("Media", "cannot read the image %1: %2").arg(image, bytes.error().text),
+            bytes.error().detail};
     const auto format = formatOf(*bytes);
     if (!format)
-        return Error{Error::Kind::UnknownFormat, u"%1 is neither a JPEG nor a PNG image"_s.arg(image)};
+        return Error{Error::Kind::UnknownFormat,
+                     QCoreApplication::translate("Media", "%1 is neither a JPEG nor a PNG image").arg(image)};
 
     const auto edit = Media::editOfTags({Media::artworkItem}, [&](TagLib::MP4::Tag& tag) {
         TagLib::MP4::CoverArtList covers;
@@ -55,7 +59,9 @@ Result<> BasicID3Change::copyWithArtwork(const QString& source, const QString& i
     const bool ontoItself = !real.isEmpty() && real == QFileInfo(destination).canonicalFilePath();
     if (ontoItself ? Media::saveInPlace(real, edit, why) : Media::saveCopy(source, destination, edit, why))
         return {};
-    return Error{Error::Kind::Other, u"cannot write the artwork of %1 to %2: %3"_s.arg(source, destination, why)};
+    return Error{
+        Error::Kind::Other,
+        QCoreApplication::translate("Media", "cannot write the artwork of %1 to %2: %3").arg(source, destination, why)};
 }
 
 } // namespace Platform

@@ -8,6 +8,7 @@
 #include "Platform/Media/linux/mpeg4/Mpeg4IndexWriter.h"
 #include "Platform/Media/linux/mpeg4/Mpeg4Offsets.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -36,7 +37,7 @@ bool openLockedFile(const QString& path, bool writable, LockKind kind, std::chro
     if (locked)
         return true;
     if (locked.error().kind == Error::Kind::Busy) {
-        why = u"another program is changing it"_s;
+        why = QCoreApplication::translate("Media", "another program is changing it");
         return false;
     }
     if (file) // a file system that does not support locks
@@ -53,7 +54,7 @@ bool makeAnew(const QString& path, int source, const Mpeg4Layout& layout, QByteA
     const std::int64_t delta = index.size() - old.length;
     if (rest > 0 && delta != 0) {
         if (!moveChunkOffsets(index, old.end(), delta)) {
-            why = u"its index cannot hold more"_s;
+            why = QCoreApplication::translate("Media", "its index cannot hold more");
             return false;
         }
     }
@@ -85,15 +86,15 @@ std::optional<Edited> editIndex(int fd, const IndexEdit& edit, QString& why) {
     if (!layout)
         return std::nullopt;
     if (!layout->complete)
-        why = u"the file is cut off"_s;
+        why = QCoreApplication::translate("Media", "the file is cut off");
     else if (layout->moov().length > largestIndex)
-        why = u"its index is too large"_s;
+        why = QCoreApplication::translate("Media", "its index is too large");
     if (!why.isEmpty())
         return std::nullopt;
     QByteArray index(qsizetype(layout->moov().length), Qt::Uninitialized);
     if (!file.readAll(layout->moov().offset,
                       {reinterpret_cast<std::uint8_t*>(index.data()), std::size_t(index.size())})) {
-        why = u"it cannot be read"_s;
+        why = QCoreApplication::translate("Media", "it cannot be read");
         return std::nullopt;
     }
     auto edited = edit(index, why);
@@ -134,7 +135,7 @@ bool saveCopy(const QString& source, const QString& destination, const IndexEdit
     if (!edited)
         return false;
     if (QFileInfo::exists(destination) && !QFileInfo(destination).isFile()) {
-        why = u"that path is not a regular file"_s; // a device, a pipe, a folder
+        why = QCoreApplication::translate("Media", "that path is not a regular file"); // a device, a pipe, a folder
         return false;
     }
     return makeAnew(destination, file.get(), edited->layout, edited->index, why);

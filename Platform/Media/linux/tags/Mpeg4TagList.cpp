@@ -4,6 +4,8 @@
 
 #include "Platform/Media/linux/mpeg4/ByteWriter.h"
 
+#include <QCoreApplication>
+
 #include <iterator>
 
 using namespace Qt::StringLiterals;
@@ -98,7 +100,7 @@ std::optional<QByteArray> withTagItems(const QByteArray& index, const QByteArray
                 if (next.offset == to && next.type == fourCharCode("free") && i + 2 == std::size(path))
                     to = next.end();
         } else if (!children.empty() && children.back().openEnded) {
-            why = u"its last box has no size"_s;
+            why = QCoreApplication::translate("Media", "its last box has no size");
             return std::nullopt;
         }
         const QByteArray before = index.mid(around.content(), from - around.content());

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Foundation/Translations.h"
+#include "Platform/Foundation/linux/LinuxFoundation.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace Platform::Translations {
+namespace {
+
+const QString kPrefix = u"sonaphex_"_s;
+
+/// Whether messages are in the locale without a language. As in other programs, LANGUAGE has no effect then.
+bool isLocaleC() {
+    for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        if (const QByteArray locale = qgetenv(name); !locale.isEmpty())
+            return locale == "C" || locale == "POSIX";
+    }
+    return false;
+}
+
+/// The application object owns the translator. The file is mapped, not read.
+bool load(const QString& name, const QString& folder) {
+    auto translator = std::make_unique<QTranslator>();
+    if (!translator->load(name, folder) || !QCoreApplication::installTranslator(translator.get()))
+        return false;
+    translator.release()->setParent(QCoreApplication::instance());
+    return true;
+}
+
+} // namespace
+
+QString choose(const QStringList& languages, const QStringList& available) {
+    for (const QString& language : languages) {
+        QStringList parts = language.split(u'-');
+        if (parts.first() == u"en"_s || parts.first() == u"C"_s)
+            return {};
+        for (; !parts.isEmpty(); parts.removeLast()) { // "pt-Latn-BR", "pt-Latn", "pt"
+            if (available.contains(parts.join(u'_')))
+                return parts.join(u'_');
+        }
+    }
+    return {};
+}
+
+QString list(const QStringList& items) {
+    return items.join(QCoreApplication::translate("Foundation", ", ", "between the items of a list"));
+}
+
+QString install() {
+    const QString english = u"en"_s;
+    if (isLocaleC())
+        return english;
+    const QDir folder(createBundle()->pathForResource(u"translations"_s));
+    QStringList available;
+    for (const QString& file : folder.entryList({kPrefix + u"*.qm"_s}, QDir::Files))
+        available << file.sliced(kPrefix.size()).chopped(3);
+    const QString language = choose(QLocale().uiLanguages(), available);
+    if (language.isEmpty())
+        return english;
+    // The translator that is installed last is asked first.
+    if (QCoreApplication::instance()->inherits("QGuiApplication"))
+        (void)load(u"qtbase_"_s + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    return load(kPrefix + language, folder.path()) ? language : english;
+}
+
+} // namespace Platform::Translations
