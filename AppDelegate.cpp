@@ -13,6 +13,7 @@
 #include "Source/Preferences/PreferenceStore.h"
 #include "Source/Preferences/Settings.h"
 #include "Source/ProcessRequests/MediaLibraryRequests.h"
+#include "Source/View/HelpPages.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -26,8 +27,7 @@
 namespace {
 
 void openPage(const QString& name) {
-    const auto& services = Platform::services();
-    (void)services.workspace->openUrl(QUrl::fromLocalFile(services.bundle->pathForResource(name)));
+    (void)Platform::services().workspace->openUrl(QUrl::fromLocalFile(HelpPages::path(name)));
 }
 
 } // namespace

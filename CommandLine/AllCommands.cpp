@@ -4,7 +4,9 @@
 #include "CommandLine/CommandLine.h"
 #include "CommandLine/ManualCommand.h"
 #include "CommandLine/WaveformCommand.h"
+#include "Platform/Foundation/Translations.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <cstdio>
@@ -12,6 +14,16 @@
 using namespace Qt::StringLiterals;
 
 namespace CommandLine {
+
+namespace {
+
+/// The texts in the user's language. Only a command has an application object of its own.
+struct Texts {
+    Texts(int& argc, char** argv) : application(argc, argv) { Platform::Translations::install(); }
+    QCoreApplication application;
+};
+
+} // namespace
 
 const Commands& allCommands() {
     static const Commands all = [] {
@@ -27,6 +39,7 @@ std::optional<int> runCommand(int argc, char** argv) {
         return {};
     const auto name = QString::fromLocal8Bit(argv[1]);
     if (name == u"help"_s || name == u"--help"_s || name == u"-h"_s) {
+        const Texts texts(argc, argv);
         print(CommandHelp::overview(allCommands()).trimmed());
         return ended(Done);
     }
@@ -38,7 +51,9 @@ std::optional<int> runCommand(int argc, char** argv) {
         return status;
     if (name.startsWith(u'-') || QFileInfo(QFile::decodeName(argv[1])).isFile())
         return {};
-    std::fprintf(stderr, "sonaphex: %s: no such command and no such file (see sonaphex help)\n", argv[1]);
+    const Texts texts(argc, argv);
+    fail(QCoreApplication::translate("CommandLine", "%1: no such command and no such file (see sonaphex help)")
+             .arg(name));
     return WrongUsage;
 }
 

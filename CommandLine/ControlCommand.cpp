@@ -4,6 +4,7 @@
 
 #include "CommandLine/Arguments.h"
 #include "Platform/Desktop/Activation.h"
+#include "Platform/Foundation/Translations.h"
 #include "Source/ProcessRequests/ControlRequests.h"
 
 #include <QCoreApplication>
@@ -41,7 +42,8 @@ void showStatus(const QByteArray& json, bool asJson) {
     if (state == u"recording"_s || state == u"paused"_s)
         line += u" %1:%2"_s.arg(seconds / 60, 2, 10, QChar(u'0')).arg(seconds % 60, 2, 10, QChar(u'0'));
     if (queue > 0)
-        line = QCoreApplication::translate("CommandLine", "%1, %L2 being finished").arg(line).arg(queue);
+        line = QCoreApplication::translate("CommandLine", "%1, %2 being finished")
+                   .arg(line, Platform::Translations::number(qint64(queue)));
     print(line);
 }
 

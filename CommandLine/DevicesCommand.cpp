@@ -6,12 +6,12 @@
 #include "CommandLine/InputDevice.h"
 #include "Platform/Audio/AudioHardware.h"
 #include "Platform/Foundation/Services.h"
+#include "Platform/Foundation/Translations.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLocale>
 
 using namespace Qt::StringLiterals;
 
@@ -71,7 +71,7 @@ int run(const QStringList& given) {
         const QString facts =
             (device.isComputerAudio() ? QCoreApplication::translate("CommandLine", "%1, %2 Hz, what the computer plays")
                                       : QCoreApplication::translate("CommandLine", "%1, %2 Hz"))
-                .arg(channels, QLocale().toString(device.sampleRate, 'f', 0));
+                .arg(channels, Platform::Translations::number(double(device.sampleRate), 'f', 0));
         print(u"%1\t%2"_s.arg(device.name.isEmpty() ? device.uid : device.name, facts));
     }
     if (devices.empty())

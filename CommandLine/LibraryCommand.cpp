@@ -4,6 +4,7 @@
 
 #include "CommandLine/Arguments.h"
 #include "Platform/Foundation/PlainText.h"
+#include "Platform/Foundation/Translations.h"
 #include "Source/Control/EditNote.h"
 #include "Source/Control/ToolControl.h"
 #include "Source/Model/AudioRecordEntry.h"
@@ -47,7 +48,7 @@ QJsonArray asJson(const QVariantList& entries) {
 
 void printCollection(const QString& title, const QVariantList& entries) {
     using namespace AudioRecordEntry;
-    print(u"%1: %L2"_s.arg(title).arg(entries.size()));
+    print(u"%1: %2"_s.arg(title, Platform::Translations::number(qint64(entries.size()))));
     QString file = QCoreApplication::translate("CommandLine", "file", "the path of a recording");
     QString key = QCoreApplication::translate("CommandLine", "key", "names an entry of the library");
     const qsizetype width = std::max(file.size(), key.size());

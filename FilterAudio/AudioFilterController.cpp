@@ -122,7 +122,7 @@ bool AudioFilterController::eventFilter(QObject* watched, QEvent* event) {
 bool AudioFilterController::runRemoveAudioAlert() {
     // "Cancel" is the default button, so that an accidental Enter keeps the files.
     return Platform::services().alerts->runModal(tr("Do you want to move these items to the trash?"), {},
-                                                 {QStringLiteral("Cancel"), tr("Remove")}) == 1;
+                                                 {Platform::Alerts::cancelLabel(), tr("Remove")}) == 1;
 }
 
 void AudioFilterController::removeAudio() {

@@ -83,8 +83,10 @@ Result<> LinuxServices::startAudio(const std::function<bool()>& whileWaiting) {
         d->audio = started.error();
         d->session = std::move(started).valueOr(nullptr);
         if (d->session)
-            std::fputs("sonaphex: no sound server answers: a private one was started, its input device is a tone\n",
-                       stderr);
+            std::fprintf(
+                stderr, "sonaphex: %s\n",
+                qUtf8Printable(QCoreApplication::translate(
+                    "Audio", "no sound server answers: a private one was started, its input device is a tone")));
     } else if (server == PrivateSession::Server::Silent) {
         d->audio = Error{
             Error::Kind::Busy,

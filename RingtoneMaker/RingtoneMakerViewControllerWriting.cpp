@@ -23,7 +23,7 @@ namespace {
 constexpr int kProgressTick = 50; ///< ms
 
 void tell(const QString& title, const QString& text) {
-    (void)Platform::services().alerts->runModal(title, text, {QStringLiteral("OK")});
+    (void)Platform::services().alerts->runModal(title, text, {Platform::Alerts::okLabel()});
 }
 
 } // namespace

@@ -22,7 +22,15 @@ namespace Platform::Translations {
 /// @return the language of the texts: "de", "en"
 QString install();
 
+/// What install() returned; "en" before.
+[[nodiscard]] QString language();
+
 /// The items with the separator of the language between them: "a, b, c". Any thread.
 [[nodiscard]] QString list(const QStringList& items);
+
+/// A number for people: with the digits and the decimal sign of the locale, and without separators of thousands. Any
+/// thread.
+[[nodiscard]] QString number(qint64 value);
+[[nodiscard]] QString number(double value, char format = 'g', int precision = 6);
 
 } // namespace Platform::Translations

@@ -5,6 +5,7 @@
 #include "Platform/Audio/AudioHardware.h"
 #include "Platform/Foundation/Services.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QLoggingCategory>
 
@@ -91,7 +92,7 @@ void BuildInAudioRecord::destroyAudioBufferList(AudioBufferList* list) {
 bool BuildInAudioRecord::fail(const char* step) {
     const QString reason = audioUnit_ ? audioUnit_->lastError() : Platform::services().audioHardware->lastError();
     const std::lock_guard lock(mutex_);
-    lastError_ = QString::fromLatin1(step);
+    lastError_ = QCoreApplication::translate("Record", step);
     if (!reason.isEmpty())
         lastError_ += QStringLiteral(": ") + reason;
     return false;
@@ -118,7 +119,8 @@ bool BuildInAudioRecord::configureAudioUnit(AudioObjectID device) {
     bool found = false;
     auto opened = Platform::services().audioHardware->openOutputUnit(found);
     if (!opened)
-        return fail(found ? "the input unit cannot be opened" : "there is no input unit");
+        return fail(found ? QT_TRANSLATE_NOOP("Record", "the input unit cannot be opened")
+                          : QT_TRANSLATE_NOOP("Record", "there is no input unit"));
     {
         const std::lock_guard lock(mutex_);
         lastError_.clear();
@@ -131,35 +133,35 @@ bool BuildInAudioRecord::configureAudioUnit(AudioObjectID device) {
 
     // The input may be enabled although the unit refuses to enable it.
     if (unit.setEnableInput(true) == noErr && unit.setEnableOutput(false) != noErr)
-        return fail("the unit's output cannot be switched off");
+        return fail(QT_TRANSLATE_NOOP("Record", "the unit's output cannot be switched off"));
     if (unit.setCurrentDevice(device) != noErr)
-        return fail("the device cannot be used");
+        return fail(QT_TRANSLATE_NOOP("Record", "the device cannot be used"));
     if (unit.setInputCallback(&BuildInAudioRecord::AudioInputProc, this) != noErr)
-        return fail("the device accepts no callback");
+        return fail(QT_TRANSLATE_NOOP("Record", "the device accepts no callback"));
     if (unit.getDeviceFormat(deviceFormat_) != noErr)
-        return fail("the device's format cannot be read");
+        return fail(QT_TRANSLATE_NOOP("Record", "the device's format cannot be read"));
 
     // A mono device is captured as two channels.
     const auto format = planarFloatFormat(deviceFormat_.mSampleRate, std::max(2U, deviceFormat_.mChannelsPerFrame));
     actualOutputFormat_ = format;
     if (unit.setClientFormat(format) != noErr)
-        return fail("the device's format cannot be captured");
+        return fail(QT_TRANSLATE_NOOP("Record", "the device's format cannot be captured"));
 
     std::uint32_t frames = 0;
     if (unit.getBufferFrameSize(frames) != noErr)
-        return fail("the device's buffer size cannot be read");
+        return fail(QT_TRANSLATE_NOOP("Record", "the device's buffer size cannot be read"));
     if (unit.initialize() != noErr)
-        return fail("the unit cannot be initialised");
+        return fail(QT_TRANSLATE_NOOP("Record", "the unit cannot be initialised"));
     bufferSize_ = frames * format.mBytesPerFrame;
     audioBuffer_.reset(allocateAudioBufferList(format.mChannelsPerFrame, bufferSize_));
     if (!audioBuffer_)
-        return fail("not enough memory");
+        return fail(QT_TRANSLATE_NOOP("Record", "not enough memory"));
     allocatePreRoll();
     previousHostTime_ = 0;
     measuredFrames_ = 0;
     measuredNanoseconds_ = 0;
     if (unit.start() != noErr)
-        return fail("the device cannot be started");
+        return fail(QT_TRANSLATE_NOOP("Record", "the device cannot be started"));
     const std::lock_guard lock(mutex_);
     isRunning_ = true;
     return true;

@@ -6,6 +6,7 @@
 #include "Platform/Desktop/Panels.h"
 #include "Platform/Foundation/Folders.h"
 #include "Platform/Foundation/Services.h"
+#include "Platform/Foundation/Translations.h"
 #include "Source/CDBurn/BurnControl.h"
 #include "Source/CDBurn/BurnWindowFont.h"
 #include "Source/CDBurn/ProcessWndController.h"
@@ -195,8 +196,8 @@ bool CDBurnWndController::windowShouldClose() {
 }
 
 void CDBurnWndController::flushOtherInfo() {
-    ui_->lblSummary_->setText(
-        u" %1 Items     Size: %2 MB"_s.arg(trackList().dataCountNum()).arg(trackList().dataSizeForMusic()));
+    ui_->lblSummary_->setText(tr(" %n Items     Size: %1 MB", nullptr, trackList().dataCountNum())
+                                  .arg(Platform::Translations::number(double(trackList().dataSizeForMusic()))));
     ui_->lblTotalTime_->setText(tr("Time: %1").arg(ToolControl::getTimeString(trackList().tracks().tickedSeconds())));
     burnStateControl();
 }

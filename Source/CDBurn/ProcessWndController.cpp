@@ -9,6 +9,7 @@
 #include "Source/View/Theme.h"
 #include "ui_ProcessWnd.h"
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <QEvent>
 #include <algorithm>
@@ -19,8 +20,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kWaiting = QStringLiteral("Please waiting a moment ...");
-const QString kBurning = QStringLiteral("Burning Disc...");
+const char* const kWaiting = QT_TRANSLATE_NOOP("ProcessWndController", "Please waiting a moment ...");
+const char* const kBurning = QT_TRANSLATE_NOOP("ProcessWndController", "Burning Disc...");
 
 constexpr int kMostPercent = 99;      ///< the sheet never shows 100
 constexpr int kCancelFromPercent = 4; ///< a drive that has just started should not be stopped
@@ -104,7 +105,7 @@ bool ProcessWndController::eventFilter(QObject* watched, QEvent* event) {
 void ProcessWndController::initProcessWnd() {
     linger_.stop();
     finished_ = false;
-    ui_->lblMessage_->setText(kWaiting);
+    ui_->lblMessage_->setText(tr(kWaiting));
     ui_->progressBar_->setValue(0);
     setProcess(0);
     ui_->btnCancel_->setEnabled(false);
@@ -124,14 +125,14 @@ void ProcessWndController::burnProcess(const Dictionary& userInfo) {
         return;
     const int percent = std::min(int(std::clamp(share, -1.0, 1.0) * 100), kMostPercent);
     if (percent == kUnknownPercent) {
-        ui_->lblMessage_->setText(kWaiting);
+        ui_->lblMessage_->setText(tr(kWaiting));
         return;
     }
     if (percent >= kCancelFromPercent && !finished_) {
         ui_->btnCancel_->setEnabled(true);
         ui_->btnCancel_->setToolTip(tr("Stops the burn; the disc is then unusable."));
     }
-    ui_->lblMessage_->setText(kBurning);
+    ui_->lblMessage_->setText(tr(kBurning));
     // Finer than the percentage, so that the bar moves visibly for a whole disc.
     ui_->progressBar_->setValue(int(std::clamp(share, 0.0, kMostPercent / 100.0) * ui_->progressBar_->maximum()));
     setProcess(percent);

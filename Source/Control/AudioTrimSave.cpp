@@ -46,15 +46,16 @@ QString convert(ConverterAudioControl& converter, const Task& task, const QStrin
     });
     const auto forget = qScopeGuard([&] { converter.setProgress({}); });
     if (!converter.createOutPutFile(temporary, 1))
-        return withoutTemporaryName(converter.exportError().text, temporary, text("the new file"));
+        return withoutTemporaryName(converter.exportError().text, temporary,
+                                    text(QT_TRANSLATE_NOOP("AudioTrimSave", "the new file")));
     const bool copied = converter.startConverterSource(task.source, task.from, task.to);
     converter.closeExportFile();
     if (stopped)
-        return text("It was stopped before the end.");
+        return text(QT_TRANSLATE_NOOP("AudioTrimSave", "It was stopped before the end."));
     if (!copied)
         return converter.sourceError().text;
     if (const auto error = converter.exportError())
-        return withoutTemporaryName(error.text, temporary, text("the new file"));
+        return withoutTemporaryName(error.text, temporary, text(QT_TRANSLATE_NOOP("AudioTrimSave", "the new file")));
     // A damaged part is silence in the copy. The recording is kept: other tools may recover more of it.
     if (const auto damage = converter.sourceError(); damage && task.replace)
         return damage.text;

@@ -28,13 +28,13 @@ QString text(const char* sentence) {
 /// Why a file cannot have this name, as the end of a sentence; empty when it can.
 QString objection(const QString& title, const QString& fileName) {
     if (title.isEmpty())
-        return text("the title is empty");
+        return text(QT_TRANSLATE_NOOP("RecordingRename", "the title is empty"));
     if (title.contains(u'/'))
-        return text("a file name cannot contain “/”");
+        return text(QT_TRANSLATE_NOOP("RecordingRename", "a file name cannot contain “/”"));
     if (title.contains(QChar(u'\0')) || QFile::decodeName(QFile::encodeName(fileName)) != fileName)
-        return text("the title has a character that no file name can contain");
+        return text(QT_TRANSLATE_NOOP("RecordingRename", "the title has a character that no file name can contain"));
     if (QFile::encodeName(fileName).size() > kLongestName)
-        return text("the title is longer than a file name can be");
+        return text(QT_TRANSLATE_NOOP("RecordingRename", "the title is longer than a file name can be"));
     return {};
 }
 
@@ -52,7 +52,8 @@ Outcome rename(const QString& path, const QString& title) {
     const QString name = title + u'.' + QFileInfo(path).suffix();
     QString why = objection(title, name);
     if (why.isEmpty() && (QFileInfo::exists(target) || QFileInfo(target).isSymLink()))
-        why = text("there is already a file named “%1” in its folder").replace(u"%1"_s, shown(name));
+        why = text(QT_TRANSLATE_NOOP("RecordingRename", "there is already a file named “%1” in its folder"))
+                  .replace(u"%1"_s, shown(name));
     if (why.isEmpty()) {
         why = Platform::FileManager::move(path, target)
                   .error()
@@ -63,8 +64,8 @@ Outcome rename(const QString& path, const QString& title) {
             return {target, {}};
         }
     }
-    const QString sentence = text("The file keeps its name “%1”: ");
-    return {path, QString(sentence).replace(u"%1"_s, shown(QFileInfo(path).fileName())) + why + u'.'};
+    return {path, text(QT_TRANSLATE_NOOP("RecordingRename", "The file keeps its name “%1”: %2."))
+                      .arg(shown(QFileInfo(path).fileName()), why)};
 }
 
 } // namespace RecordingRename

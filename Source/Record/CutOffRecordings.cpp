@@ -59,6 +59,7 @@ void keep() {
         if (!QFileInfo::exists(path))
             continue;
         const QString kept = Platform::MovedFiles::setAside(path, QFileInfo(path).fileName());
+        // Runs in exit(), when the translation is gone.
         std::fprintf(stderr, "sonaphex: ended in the middle of a recording: it is kept in %s\n", qUtf8Printable(kept));
     }
 }

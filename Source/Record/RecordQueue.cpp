@@ -7,6 +7,7 @@
 #include "Platform/Foundation/MainQueue.h"
 #include "Platform/Foundation/MovedFiles.h"
 #include "Platform/Foundation/Services.h"
+#include "Platform/Foundation/Translations.h"
 #include "Source/Control/ID3ChangeControl.h"
 #include "Source/Control/ToolControl.h"
 #include "Source/Model/AudioRecordEntry.h"
@@ -15,7 +16,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QLocale>
 #include <QThread>
 
 #include <algorithm>
@@ -288,11 +288,11 @@ void RecordQueue::converterMovie(const std::shared_ptr<ExportJob>& job) {
     const qint64 available = Platform::FileManager::availableBytes(QFileInfo(wave).path());
     if (available >= 0 && double(available) < needed) {
         qtMovieForRecord_.reset();
-        setAside(
-            job, raws,
-            QCoreApplication::translate(
-                "Record", "The disk is nearly full: %1 could not be mixed, which needs %2 MB; %3 MB are left.")
-                .arg(name, QLocale().toString(std::llround(needed / 1e6)), QLocale().toString(available / 1000000)));
+        setAside(job, raws,
+                 QCoreApplication::translate(
+                     "Record", "The disk is nearly full: %1 could not be mixed, which needs %2 MB; %3 MB are left.")
+                     .arg(name, Platform::Translations::number(qint64(std::llround(needed / 1e6))),
+                          Platform::Translations::number(available / 1000000)));
         return;
     }
     const auto mixed = qtMovieForRecord_->writeWave(wave, [this](double share) {

@@ -265,7 +265,7 @@ QString RecordStateController::startToolTip() const {
 }
 
 QString RecordStateController::startImage() const {
-    return d->isActive() ? QCoreApplication::translate("Record", "RecorderStop.png") : u"RecorderStart.png"_s;
+    return d->isActive() ? u"RecorderStop.png"_s : u"RecorderStart.png"_s;
 }
 
 QString RecordStateController::startPressedImage() const {
@@ -273,11 +273,12 @@ QString RecordStateController::startPressedImage() const {
 }
 
 QString RecordStateController::pauseToolTip() const {
-    return d->isRecordPause_ ? u"Resume Record"_s : QCoreApplication::translate("Record", "Pause Record");
+    return d->isRecordPause_ ? QCoreApplication::translate("Record", "Resume Record")
+                             : QCoreApplication::translate("Record", "Pause Record");
 }
 
 QString RecordStateController::pauseImage() const {
-    return d->isRecordPause_ ? QCoreApplication::translate("Record", "RecorderResume.png") : u"RecorderPause.png"_s;
+    return d->isRecordPause_ ? u"RecorderResume.png"_s : u"RecorderPause.png"_s;
 }
 
 QString RecordStateController::stateString() const {

@@ -15,12 +15,12 @@ int QtAlerts::runModal(const QString& title, const QString& text, const QStringL
     box.setText(title);
     box.setInformativeText(text);
     QList<QPushButton*> made;
-    const QStringList labels = buttons.isEmpty() ? QStringList{QObject::tr("OK")} : buttons;
+    const QStringList labels = buttons.isEmpty() ? QStringList{Platform::Alerts::okLabel()} : buttons;
     for (qsizetype i = 0; i < labels.size(); ++i)
         made.append(box.addButton(labels.at(i), i == 0 ? QMessageBox::AcceptRole : QMessageBox::RejectRole));
     box.setDefaultButton(made.first());
     // Escape must never trigger an action: it means Cancel where there is one.
-    const auto cancel = labels.indexOf(QStringLiteral("Cancel"));
+    const auto cancel = labels.indexOf(Platform::Alerts::cancelLabel());
     const qsizetype escape = cancel >= 0 ? cancel : labels.size() - 1;
     box.setEscapeButton(made.at(escape));
     box.exec();

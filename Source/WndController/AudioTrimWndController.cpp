@@ -31,10 +31,6 @@ constexpr auto kProgressEvery = std::chrono::milliseconds(100);
 constexpr QSize kTrimWindowSize(720, 320);
 
 /// Inserts a name into a text without arg(), because the name may contain "%1".
-QString quoted(const QString& before, const QString& path, const QString& after) {
-    return before + path + after;
-}
-
 } // namespace
 
 AudioTrimWndController::AudioTrimWndController(QWidget* mainWindow, QObject* parent)
@@ -275,7 +271,7 @@ void AudioTrimWndController::saveAudio() {
     pauseAudio();
     if (refuse())
         return;
-    const QString question = quoted(u"Do you want to replace \""_s, sourcePath(), u"\" audio file."_s);
+    const QString question = tr("Do you want to replace \"%1\" audio file.").arg(sourcePath());
     if (Platform::services().alerts->runModal(tr("Waring:"), question,
                                               {Platform::Alerts::okLabel(), Platform::Alerts::cancelLabel()}) != 0)
         return;

@@ -65,7 +65,7 @@ void StatusBarItem::showToolTip() {
     if (!icon_)
         return;
     const QString headline = mainWndController_.record().headline();
-    const QString text = headline.isEmpty() ? QStringLiteral("Sonaphex") : QStringLiteral("Sonaphex: ") + headline;
+    const QString text = headline.isEmpty() ? QStringLiteral("Sonaphex") : tr("Sonaphex: %1").arg(headline);
     if (icon_->toolTip() != text)
         icon_->setToolTip(text);
 }

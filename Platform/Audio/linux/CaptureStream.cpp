@@ -80,7 +80,7 @@ bool CaptureStream::open(int milliseconds, QString& why) {
     std::lock_guard guard(stateMutex_);
     if (state_ == State::Streaming || (state_ == State::Connecting && error_.empty()))
         return true; // still connecting on a very busy machine: the stream starts later
-    why = QString::fromStdString(error_);
+    why = QCoreApplication::translate("Audio", error_.c_str());
     return false;
 }
 
@@ -176,11 +176,11 @@ void CaptureStream::onStateChanged(pw_stream_state state, const char* error) {
         }
         break;
     case PW_STREAM_STATE_ERROR:
-        setState(State::Failed, error ? error : "the stream failed");
+        setState(State::Failed, error ? error : QT_TRANSLATE_NOOP("Audio", "the stream failed"));
         gone_ = true;
         break;
     case PW_STREAM_STATE_UNCONNECTED:
-        setState(State::Failed, "the device went away");
+        setState(State::Failed, QT_TRANSLATE_NOOP("Audio", "the device went away"));
         gone_ = true;
         break;
     case PW_STREAM_STATE_PAUSED:
@@ -243,7 +243,7 @@ void CaptureStream::deviceGone(AudioObjectID device) {
     if (device != target_.device)
         return;
     closeStream();
-    setState(State::Closed, "the device went away");
+    setState(State::Closed, QT_TRANSLATE_NOOP("Audio", "the device went away"));
     lose(Change::DeviceLost);
 }
 

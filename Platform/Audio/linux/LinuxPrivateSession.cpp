@@ -64,8 +64,9 @@ PrivateSession::Server PrivateSession::waitForServer(const std::function<bool()>
     const auto server = lookForServer(first);
     if (server != Server::Silent)
         return server;
-    std::fprintf(stderr, "sonaphex: the sound server does not answer: waiting for it, at most %d seconds\n",
-                 patienceMs / 1000);
+    const QString line = QCoreApplication::translate(
+        "Audio", "the sound server does not answer: waiting for it, at most %n seconds", nullptr, patienceMs / 1000);
+    std::fprintf(stderr, "sonaphex: %s\n", qUtf8Printable(line));
     return lookForServer(patienceMs - first, goOn);
 }
 

@@ -6,6 +6,7 @@
 #include "Platform/Desktop/Panels.h"
 #include "Platform/Disc/linux/ImageWriter.h"
 #include "Platform/Foundation/Services.h"
+#include "Platform/Foundation/Translations.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -68,11 +69,11 @@ QString layoutProblem(const std::optional<DRLayout>& layout, std::int64_t freeSe
         needed += track->properties().preGapLength + track->sectors();
     if (needed > freeSectors)
         return QCoreApplication::translate("Disc", "there is not enough room on the disc: the tracks need %1 minutes "
-                                                   "(%L2 sectors), %3 minutes (%L4 sectors) are free")
+                                                   "(%2 sectors), %3 minutes (%4 sectors) are free")
             .arg(playingTime(needed))
-            .arg(needed)
+            .arg(Translations::number(needed))
             .arg(playingTime(freeSectors))
-            .arg(freeSectors);
+            .arg(Translations::number(freeSectors));
     return {};
 }
 

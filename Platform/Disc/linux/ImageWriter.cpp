@@ -5,6 +5,7 @@
 #include "Platform/Disc/CueSheet.h"
 #include "Platform/Foundation/FileManager.h"
 #include "Platform/Foundation/ReplacementFile.h"
+#include "Platform/Foundation/Translations.h"
 #include "Platform/Foundation/linux/Descriptor.h"
 
 #include <QCoreApplication>
@@ -29,7 +30,7 @@ constexpr unsigned kMostThreads = 8;
 constexpr auto kBetweenReports = std::chrono::milliseconds(100);
 
 QString megabytes(std::int64_t bytes) {
-    return QCoreApplication::translate("Disc", "%L1 MB").arg((bytes + 999'999) / 1'000'000);
+    return QCoreApplication::translate("Disc", "%1 MB").arg(Translations::number((bytes + 999'999) / 1'000'000));
 }
 
 } // namespace

@@ -17,6 +17,8 @@ namespace Platform::Translations {
 namespace {
 
 const QString kPrefix = u"sonaphex_"_s;
+const QString english = u"en"_s;
+QString installed = english;
 
 /// Whether messages are in the locale without a language. As in other programs, LANGUAGE has no effect then.
 bool isLocaleC() {
@@ -25,6 +27,12 @@ bool isLocaleC() {
             return locale == "C" || locale == "POSIX";
     }
     return false;
+}
+
+QLocale plainNumbers() {
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale;
 }
 
 /// The application object owns the translator. The file is mapped, not read.
@@ -55,21 +63,35 @@ QString list(const QStringList& items) {
     return items.join(QCoreApplication::translate("Foundation", ", ", "between the items of a list"));
 }
 
+QString number(qint64 value) {
+    return plainNumbers().toString(value);
+}
+
+QString number(double value, char format, int precision) {
+    return plainNumbers().toString(value, format, precision);
+}
+
+QString language() {
+    return installed;
+}
+
 QString install() {
-    const QString english = u"en"_s;
+    installed = english;
     if (isLocaleC())
-        return english;
+        return installed;
     const QDir folder(createBundle()->pathForResource(u"translations"_s));
     QStringList available;
     for (const QString& file : folder.entryList({kPrefix + u"*.qm"_s}, QDir::Files))
         available << file.sliced(kPrefix.size()).chopped(3);
-    const QString language = choose(QLocale().uiLanguages(), available);
-    if (language.isEmpty())
-        return english;
+    const QString chosen = choose(QLocale().uiLanguages(), available);
+    if (chosen.isEmpty())
+        return installed;
     // The translator that is installed last is asked first.
     if (QCoreApplication::instance()->inherits("QGuiApplication"))
-        (void)load(u"qtbase_"_s + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    return load(kPrefix + language, folder.path()) ? language : english;
+        (void)load(u"qtbase_"_s + chosen, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    if (load(kPrefix + chosen, folder.path()))
+        installed = chosen;
+    return installed;
 }
 
 } // namespace Platform::Translations
