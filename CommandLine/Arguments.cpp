@@ -10,6 +10,16 @@
 using namespace Qt::StringLiterals;
 
 namespace CommandLine {
+namespace {
+
+/// The errors of Qt's parser, so that they are translated where Qt's own translations are not installed.
+[[maybe_unused]] constexpr const char* kParserErrors[] = {
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Unknown option '%1'."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Unknown options: %1."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Missing value after '%1'."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Unexpected value after '%1'.")};
+
+} // namespace
 
 Arguments::Arguments(const QStringList& arguments, const Command& command) {
     parser_.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);

@@ -106,7 +106,7 @@ bool waitForTheEnd(BurnControl& control) {
                                              [&](const QString&, const Dictionary&) { end = End::Done; });
     const auto failed = center.addObserver(BurnControlBurnDidFailedNotification,
                                            [&](const QString&, const Dictionary&) { end = End::Failed; });
-    ProgressBar bar(u"burning"_s);
+    ProgressBar bar(QCoreApplication::translate("CommandLine", "burning"));
     bool stopping = false;
     const auto burn = control.burn();
     while (end == End::NotYet && burn) {

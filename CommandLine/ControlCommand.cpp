@@ -43,7 +43,7 @@ void showStatus(const QByteArray& json, bool asJson) {
         line += u" %1:%2"_s.arg(seconds / 60, 2, 10, QChar(u'0')).arg(seconds % 60, 2, 10, QChar(u'0'));
     if (queue > 0)
         line = QCoreApplication::translate("CommandLine", "%1, %2 being finished")
-                   .arg(line, Platform::Translations::number(qint64(queue)));
+                   .arg(line, Platform::Translations::number(queue));
     print(line);
 }
 

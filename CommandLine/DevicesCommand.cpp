@@ -71,7 +71,7 @@ int run(const QStringList& given) {
         const QString facts =
             (device.isComputerAudio() ? QCoreApplication::translate("CommandLine", "%1, %2 Hz, what the computer plays")
                                       : QCoreApplication::translate("CommandLine", "%1, %2 Hz"))
-                .arg(channels, Platform::Translations::number(double(device.sampleRate), 'f', 0));
+                .arg(channels, Platform::Translations::decimal(double(device.sampleRate), 'f', 0));
         print(u"%1\t%2"_s.arg(device.name.isEmpty() ? device.uid : device.name, facts));
     }
     if (devices.empty())

@@ -28,7 +28,7 @@ QString inWords(const Platform::DRDevice& drive) {
         return QCoreApplication::translate("CommandLine", "no disc");
     const QString kind = status.mediaKind.isEmpty()
                              ? QCoreApplication::translate("CommandLine", "disc", "of unknown kind")
-                             : status.mediaKind;
+                             : QCoreApplication::translate("CommandLine", status.mediaKind.toUtf8().constData());
     if (!drive.mediaIsBlank())
         return drive.mediaIsErasable()
                    ? QCoreApplication::translate("CommandLine", "%1, not blank, can be erased").arg(kind)

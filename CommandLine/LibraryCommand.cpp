@@ -48,7 +48,7 @@ QJsonArray asJson(const QVariantList& entries) {
 
 void printCollection(const QString& title, const QVariantList& entries) {
     using namespace AudioRecordEntry;
-    print(u"%1: %2"_s.arg(title, Platform::Translations::number(qint64(entries.size()))));
+    print(u"%1: %2"_s.arg(title, Platform::Translations::number(entries.size())));
     QString file = QCoreApplication::translate("CommandLine", "file", "the path of a recording");
     QString key = QCoreApplication::translate("CommandLine", "key", "names an entry of the library");
     const qsizetype width = std::max(file.size(), key.size());

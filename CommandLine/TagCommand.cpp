@@ -52,11 +52,10 @@ void show(const QString& path, const BasicID3Change::Tags& tags, bool json) {
         print(QString::fromUtf8(QJsonDocument(document).toJson().trimmed()));
         return;
     }
-    const QString cover =
-        tags.artwork.isEmpty()
-            ? QCoreApplication::translate("CommandLine", "none", "cover")
-            : QCoreApplication::translate("CommandLine", "%1, %2 bytes")
-                  .arg(kindOf(tags.artwork), Platform::Translations::number(qint64(tags.artwork.size())));
+    const QString cover = tags.artwork.isEmpty()
+                              ? QCoreApplication::translate("CommandLine", "none", "cover")
+                              : QCoreApplication::translate("CommandLine", "%1, %2 bytes")
+                                    .arg(kindOf(tags.artwork), Platform::Translations::number(tags.artwork.size()));
     const std::pair<QString, QString> lines[] = {
         {QCoreApplication::translate("CommandLine", "title:"), Platform::onOneLine(tags.title)},
         {QCoreApplication::translate("CommandLine", "artist:"), Platform::onOneLine(tags.artist)},

@@ -31,6 +31,6 @@ QString install();
 /// A number for people: with the digits and the decimal sign of the locale, and without separators of thousands. Any
 /// thread.
 [[nodiscard]] QString number(qint64 value);
-[[nodiscard]] QString number(double value, char format = 'g', int precision = 6);
+[[nodiscard]] QString decimal(double value, char format = 'g', int precision = 6);
 
 } // namespace Platform::Translations

@@ -108,6 +108,18 @@
         <source>the sound server accepts connections but does not answer. Restart it (systemctl --user restart pipewire) and try again</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>the stream failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the device went away</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no sound server answers: a private one was started, its input device is a tone</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AudioDataSourceView</name>
@@ -290,6 +302,14 @@
         <source>The tags could not be written.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>the new file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It was stopped before the end.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AudioTrimWnd</name>
@@ -398,6 +418,10 @@
     </message>
     <message>
         <source>Converting Audio......</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to replace &quot;%1&quot; audio file.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -593,6 +617,13 @@
         <source>Select</source>
         <translation type="unfinished"></translation>
     </message>
+    <message numerus="yes">
+        <source> %n Items     Size: %1 MB</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>CaptureComputerAudio</name>
@@ -763,10 +794,6 @@ commands:
     </message>
     <message>
         <source>paused</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1, %L2 being finished</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1401,10 +1428,6 @@ commands:
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1, %L2 bytes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>title:</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1571,6 +1594,26 @@ commands:
         <source>Draw the outline of a recording.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1: no such command and no such file (see sonaphex help)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>burning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2 being finished</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2 bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>disc image</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Control</name>
@@ -1706,10 +1749,6 @@ commands:
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>there is not enough room on the disc: the tracks need %1 minutes (%L2 sectors), %3 minutes (%L4 sectors) are free</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Write Disc Image</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1719,10 +1758,6 @@ commands:
     </message>
     <message>
         <source>no path was given for the disc image</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%L1 MB</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1845,6 +1880,14 @@ commands:
         <source>%1: the file ends earlier than when it was measured</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>there is not enough room on the disc: the tracks need %1 minutes (%2 sectors), %3 minutes (%4 sectors) are free</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>EditWindows</name>
@@ -1925,6 +1968,73 @@ commands:
     </message>
     <message>
         <source>is larger than %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>HelpPages</name>
+    <message>
+        <source>Sonaphex support</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is recorded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look whether a source is chosen in the main window: an input device, the computer&apos;s audio, or both. In a terminal, &lt;code&gt;sonaphex devices&lt;/code&gt; lists the input devices that the sound server offers.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A recording of the computer&apos;s audio alone begins with the first sound that the computer plays.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A recording is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recordings shorter than the time that is set in the preferences are dropped; switch the filter off to keep them. What could not be finished, for instance on a full disk, lies in &lt;code&gt;~/.local/share/com.korvane.Sonaphex/Unfinished&lt;/code&gt;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The computer&apos;s audio cannot be chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It needs a small add-on: see &lt;a href=&quot;computer-audio.html&quot;&gt;recording the computer&apos;s audio&lt;/a&gt;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The settings are gone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>They are in &lt;code&gt;~/.config/com.korvane.Sonaphex.plist&lt;/code&gt;. A damaged file is kept beside it under a name that ends in &lt;code&gt;.damaged-&lt;/code&gt; and the date.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording the computer&apos;s audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The add-on is an input device named “Korvane System Audio” that hears what the default output plays. It is a small program of the user&apos;s session that speaks to the sound server; it changes nothing in what you hear, and it never becomes the default microphone of other programs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Install</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose Install in the preferences window, or run &lt;code&gt;sonaphex driver install&lt;/code&gt;. The password of an administrator is asked for once: the add-on is installed for all users of the computer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose Remove in the same place, or run &lt;code&gt;sonaphex driver remove&lt;/code&gt;.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2038,6 +2148,16 @@ commands:
     </message>
     <message>
         <source>Super</source>
+        <comment>a key of the keyboard</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <comment>a key of the keyboard</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt</source>
         <comment>a key of the keyboard</comment>
         <translation type="unfinished"></translation>
     </message>
@@ -3073,6 +3193,33 @@ commands:
         <source>Are you sure to end the task?</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Please waiting a moment ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Burning Disc...</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -3086,10 +3233,6 @@ commands:
     </message>
     <message>
         <source>The device stays as it is until the recording ends.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>OK</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3292,15 +3435,7 @@ commands:
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>RecorderStop.png</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Pause Record</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>RecorderResume.png</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3410,6 +3545,50 @@ commands:
     </message>
     <message>
         <source>Resume Record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the input unit cannot be opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no input unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the unit&apos;s output cannot be switched off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the device cannot be used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the device accepts no callback</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the device&apos;s format cannot be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the device&apos;s format cannot be captured</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the device&apos;s buffer size cannot be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the unit cannot be initialised</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not enough memory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the device cannot be started</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3538,6 +3717,33 @@ commands:
     </message>
     <message>
         <source>Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RecordingRename</name>
+    <message>
+        <source>the title is empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a file name cannot contain “/”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the title has a character that no file name can contain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the title is longer than a file name can be</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is already a file named “%1” in its folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file keeps its name “%1”: %2.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3721,6 +3927,10 @@ commands:
     </message>
     <message>
         <source>Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sonaphex: %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

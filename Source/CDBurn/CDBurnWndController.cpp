@@ -197,7 +197,7 @@ bool CDBurnWndController::windowShouldClose() {
 
 void CDBurnWndController::flushOtherInfo() {
     ui_->lblSummary_->setText(tr(" %n Items     Size: %1 MB", nullptr, trackList().dataCountNum())
-                                  .arg(Platform::Translations::number(double(trackList().dataSizeForMusic()))));
+                                  .arg(Platform::Translations::decimal(double(trackList().dataSizeForMusic()))));
     ui_->lblTotalTime_->setText(tr("Time: %1").arg(ToolControl::getTimeString(trackList().tracks().tickedSeconds())));
     burnStateControl();
 }

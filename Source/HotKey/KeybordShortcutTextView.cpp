@@ -141,16 +141,16 @@ void KeybordShortcutTextView::saveUserDefault() {
 void KeybordShortcutTextView::updateShortcutValue() {
     QString text = characters_.toUpper();
     std::uint32_t mask = 0;
-    const auto prepend = [&](std::uint32_t flag, const QString& prefix) {
+    const auto prepend = [&](std::uint32_t flag, const QString& name) {
         if (!(modifierFlags_ & flag))
             return;
-        text.prepend(prefix);
+        text.prepend(name + u" + "_s);
         mask |= flag;
     };
-    prepend(ShiftFlag, u"Shift + "_s);
-    prepend(CommandFlag, u"Super + "_s);
-    prepend(OptionFlag, u"Alt + "_s);
-    prepend(ControlFlag, u"Control + "_s);
+    prepend(ShiftFlag, QCoreApplication::translate("KeyNames", "Shift", "a key of the keyboard"));
+    prepend(CommandFlag, QCoreApplication::translate("KeyNames", "Super", "a key of the keyboard"));
+    prepend(OptionFlag, QCoreApplication::translate("KeyNames", "Alt", "a key of the keyboard"));
+    prepend(ControlFlag, QCoreApplication::translate("KeyNames", "Control", "a key of the keyboard"));
     modifierFlags_ = mask;
     // A trigger that names keys as Qt does gets the names that the modifiers have everywhere in the program.
     if (desktopTrigger_) {

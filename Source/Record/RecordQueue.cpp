@@ -291,7 +291,7 @@ void RecordQueue::converterMovie(const std::shared_ptr<ExportJob>& job) {
         setAside(job, raws,
                  QCoreApplication::translate(
                      "Record", "The disk is nearly full: %1 could not be mixed, which needs %2 MB; %3 MB are left.")
-                     .arg(name, Platform::Translations::number(qint64(std::llround(needed / 1e6))),
+                     .arg(name, Platform::Translations::number(std::llround(needed / 1e6)),
                           Platform::Translations::number(available / 1000000)));
         return;
     }

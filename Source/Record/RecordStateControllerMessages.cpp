@@ -32,7 +32,7 @@ const QString DiskEvent = u"disk"_s;
 
 /// Seconds as text: in thousandths below one second, else in tenths.
 QString secondsText(double seconds) {
-    return Platform::Translations::number(seconds, 'f', seconds < 1 ? 3 : 1);
+    return Platform::Translations::decimal(seconds, 'f', seconds < 1 ? 3 : 1);
 }
 
 double secondsSince(std::uint64_t hostTime) {
@@ -173,7 +173,7 @@ void RecordStateController::Private::showLosses() {
     if (lost.frames != lostShown_ && lost.frames > 0)
         notice({.text = QCoreApplication::translate(
                             "Record", "%1 s are missing (%2 frames): the computer was too busy to take them.")
-                            .arg(secondsText(lost.seconds), Platform::Translations::number(qint64(lost.frames))),
+                            .arg(secondsText(lost.seconds), Platform::Translations::number(lost.frames)),
                 .event = u"lost"_s});
     lostShown_ = lost.frames;
     showWriteProblem();
@@ -233,7 +233,7 @@ bool RecordStateController::Private::isSilentTooLong(const RecordSource& source)
 }
 
 RecordNotice RecordStateController::Private::silenceNotice(const RecordSource& source) const {
-    const QString seconds = Platform::Translations::number(qint64(LongSilence));
+    const QString seconds = Platform::Translations::number(LongSilence);
     RecordNotice message;
     message.event = u"silent "_s + source.label;
     if (&source == &computer) {

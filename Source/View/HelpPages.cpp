@@ -69,8 +69,8 @@ QString translated(const QString& html) {
     }
     const QLocale locale(Platform::Translations::language());
     const QString direction = locale.textDirection() == Qt::RightToLeft ? u"rtl"_s : u"ltr"_s;
-    return (page + html.mid(end))
-        .replace(u"<html lang=\"en\">"_s, u"<html lang=\"%1\" dir=\"%2\">"_s.arg(locale.bcp47Name(), direction));
+    page += html.mid(end);
+    return page.replace(u"<html lang=\"en\">"_s, u"<html lang=\"%1\" dir=\"%2\">"_s.arg(locale.bcp47Name(), direction));
 }
 
 QString path(const QString& name) {

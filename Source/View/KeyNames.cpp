@@ -19,13 +19,19 @@ public:
         using namespace std::string_view_literals;
         if (context != "QShortcut"sv)
             return {};
-        return text == "Ctrl"sv ? control_ : text == "Meta"sv ? super_ : QString();
+        return text == "Ctrl"sv    ? control_
+               : text == "Meta"sv  ? super_
+               : text == "Shift"sv ? shift_
+               : text == "Alt"sv   ? alt_
+                                   : QString();
     }
     [[nodiscard]] bool isEmpty() const override { return false; }
 
 private:
     // Translated now: translate() runs under a lock that looking up another text would take again.
     const QString control_ = tr("Control", "a key of the keyboard");
+    const QString shift_ = tr("Shift", "a key of the keyboard");
+    const QString alt_ = tr("Alt", "a key of the keyboard");
     const QString super_ = tr("Super", "a key of the keyboard");
 };
 

@@ -4,11 +4,11 @@
 
 #include "Platform/Audio/linux/NodeFormat.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <chrono>
 #include <cmath>
-
-#include <QCoreApplication>
 
 namespace Platform {
 

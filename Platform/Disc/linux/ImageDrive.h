@@ -5,6 +5,8 @@
 #include "Platform/Disc/BurnJobs.h"
 #include "Platform/Disc/CDFormat.h"
 
+#include <QCoreApplication>
+
 #include <atomic>
 
 namespace Platform {
@@ -20,7 +22,7 @@ public:
         DRDeviceStatus status;
         status.mediaState = DRDeviceMediaStateMediaPresent;
         status.mediaBlocksFree = CDFormat::kSectorsOf80Minutes;
-        status.mediaKind = QStringLiteral("disc image");
+        status.mediaKind = QStringLiteral(QT_TRANSLATE_NOOP("CommandLine", "disc image"));
         return status;
     }
     [[nodiscard]] bool mediaIsBlank() const override { return true; }

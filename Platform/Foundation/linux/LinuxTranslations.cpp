@@ -67,7 +67,7 @@ QString number(qint64 value) {
     return plainNumbers().toString(value);
 }
 
-QString number(double value, char format, int precision) {
+QString decimal(double value, char format, int precision) {
     return plainNumbers().toString(value, format, precision);
 }
 
