@@ -20,12 +20,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 struct Message {
-    QString context;
-    QString source;
-    QString comment;
-    QString type; ///< of the translation: empty when it is finished
+    QString context{};
+    QString source{};
+    QString comment{};
+    QString type{}; ///< of the translation: empty when it is finished
     bool isPlural = false;
-    QStringList forms; ///< one, or one for each plural form
+    QStringList forms{}; ///< one, or one for each plural form
 
     /// Identifies the text.
     [[nodiscard]] QString key() const {
@@ -48,13 +48,13 @@ QList<Message> messagesOf(QXmlStreamReader& xml) {
         } else if (xml.name() == u"message") {
             message = {};
             message.context = context;
-            message.isPlural = xml.attributes().value(u"numerus") == u"yes";
+            message.isPlural = xml.attributes().value(u"numerus"_s) == u"yes";
         } else if (xml.name() == u"source") {
             message.source = xml.readElementText();
         } else if (xml.name() == u"comment") {
             message.comment = xml.readElementText();
         } else if (xml.name() == u"translation") {
-            message.type = xml.attributes().value(u"type").toString();
+            message.type = xml.attributes().value(u"type"_s).toString();
             if (!message.isPlural)
                 message.forms = {xml.readElementText()};
         } else if (xml.name() == u"numerusform") {
