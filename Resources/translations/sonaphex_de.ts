@@ -5,108 +5,108 @@
     <name>AcceptDragImageView</name>
     <message>
         <source>Cover</source>
-        <translation type="unfinished"></translation>
+        <translation>Cover</translation>
     </message>
     <message>
         <source>No picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Bild</translation>
     </message>
     <message>
         <source>A picture; Delete removes it</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild; Entf entfernt es</translation>
     </message>
 </context>
 <context>
     <name>Alerts</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>AppDelegate</name>
     <message>
         <source>The file cannot be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei kann nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>it is already running</source>
-        <translation type="unfinished"></translation>
+        <translation>das Programm läuft bereits</translation>
     </message>
 </context>
 <context>
     <name>Audio</name>
     <message>
         <source>the device is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>das Gerät ist nicht vorhanden</translation>
     </message>
     <message>
         <source>the sound server refused to capture the device</source>
-        <translation type="unfinished"></translation>
+        <translation>der Soundserver hat die Aufnahme vom Gerät verweigert</translation>
     </message>
     <message>
         <source>%1 is not installed: no sound server answers and none can be started</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nicht installiert: kein Soundserver antwortet, und es kann keiner gestartet werden</translation>
     </message>
     <message>
         <source>the private sound server did not start</source>
-        <translation type="unfinished"></translation>
+        <translation>der private Soundserver ist nicht gestartet</translation>
     </message>
     <message>
         <source>the private sound server came up without its devices</source>
-        <translation type="unfinished"></translation>
+        <translation>der private Soundserver ist ohne seine Geräte gestartet</translation>
     </message>
     <message>
         <source>no sound server answers: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Soundserver antwortet: %1</translation>
     </message>
     <message>
         <source>the sound server went away</source>
-        <translation type="unfinished"></translation>
+        <translation>die Verbindung zum Soundserver ist abgebrochen</translation>
     </message>
     <message>
         <source>this unit captures only</source>
-        <translation type="unfinished"></translation>
+        <translation>diese Einheit nimmt nur auf</translation>
     </message>
     <message>
         <source>the unit is running</source>
-        <translation type="unfinished"></translation>
+        <translation>die Einheit läuft</translation>
     </message>
     <message>
         <source>there is no device number %1</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt kein Gerät mit der Nummer %1</translation>
     </message>
     <message>
         <source>%1 has no input</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat keinen Eingang</translation>
     </message>
     <message>
         <source>no device is set</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist kein Gerät gesetzt</translation>
     </message>
     <message>
         <source>the unit delivers 32-bit float, one buffer a channel, at the device&apos;s rate only</source>
-        <translation type="unfinished"></translation>
+        <translation>die Einheit liefert nur 32-Bit-Gleitkomma, einen Puffer je Kanal, mit der Abtastrate des Geräts</translation>
     </message>
     <message>
         <source>no device or no callback is set</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist kein Gerät oder kein Callback gesetzt</translation>
     </message>
     <message>
         <source>the input is not enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>der Eingang ist nicht aktiviert</translation>
     </message>
     <message>
         <source>the unit is not initialised</source>
-        <translation type="unfinished"></translation>
+        <translation>die Einheit ist nicht initialisiert</translation>
     </message>
     <message>
         <source>the sound server accepts connections but does not answer. Restart it (systemctl --user restart pipewire) and try again</source>
-        <translation type="unfinished"></translation>
+        <translation>der Soundserver nimmt Verbindungen an, antwortet aber nicht. Starten Sie ihn neu (systemctl --user restart pipewire) und versuchen Sie es noch einmal</translation>
     </message>
     <message>
         <source>the stream failed</source>
@@ -125,182 +125,182 @@
     <name>AudioDataSourceView</name>
     <message>
         <source>&amp;Tick or Untick</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Häkchen umschalten</translation>
     </message>
     <message>
         <source>Move &amp;Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;oben</translation>
     </message>
     <message>
         <source>Move &amp;Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;unten</translation>
     </message>
     <message>
         <source>&amp;Remove from This List</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus der &amp;Liste entfernen</translation>
     </message>
     <message>
         <source>The file itself stays</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei selbst bleibt erhalten</translation>
     </message>
     <message>
         <source>No music yet. Press “Add Files…” or drop sound files here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Musik. Klicken Sie auf „Dateien hinzufügen…“ oder ziehen Sie Audiodateien hierher.</translation>
     </message>
 </context>
 <context>
     <name>AudioEditTimeView</name>
     <message>
         <source>Play position</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabeposition</translation>
     </message>
 </context>
 <context>
     <name>AudioFilterController</name>
     <message>
         <source>Short Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurze Aufnahmen</translation>
     </message>
     <message>
         <source>Recordings of at &amp;most</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahmen von &amp;höchstens</translation>
     </message>
     <message>
         <source>0 shows every recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>0 zeigt alle Aufnahmen.</translation>
     </message>
     <message>
         <source>Recordings of at most this many seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahmen von höchstens so vielen Sekunden</translation>
     </message>
     <message>
         <source> seconds</source>
-        <translation type="unfinished"></translation>
+        <translation> Sekunden</translation>
     </message>
     <message>
         <source>Short recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurze Aufnahmen</translation>
     </message>
     <message>
         <source>Ticked recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Angehakte Aufnahmen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Entfernen</translation>
     </message>
     <message>
         <source>%1 ticked, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 angehakt, %2</translation>
     </message>
     <message>
         <source>Do you want to move these items to the trash?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie diese Einträge in den Papierkorb verschieben?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
 </context>
 <context>
     <name>AudioPlayProgressView</name>
     <message>
         <source>Playback position</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabeposition</translation>
     </message>
 </context>
 <context>
     <name>AudioPointerLineView</name>
     <message>
         <source>Play pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabezeiger</translation>
     </message>
 </context>
 <context>
     <name>AudioRecordWaveView</name>
     <message>
         <source>Level history</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegelverlauf</translation>
     </message>
 </context>
 <context>
     <name>AudioRowDelegate</name>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
 </context>
 <context>
     <name>AudioTableModel</name>
     <message>
         <source>The file is no longer there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist nicht mehr vorhanden.</translation>
     </message>
     <message>
         <source>Playing</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird wiedergegeben</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Status</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>Artist</source>
-        <translation type="unfinished"></translation>
+        <translation>Interpret</translation>
     </message>
     <message>
         <source>Album</source>
-        <translation type="unfinished"></translation>
+        <translation>Album</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Pfad</translation>
     </message>
 </context>
 <context>
     <name>AudioTrimEditView</name>
     <message>
         <source>Range to keep</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu behaltender Bereich</translation>
     </message>
 </context>
 <context>
     <name>AudioTrimSave</name>
     <message>
         <source>The file “%1” is no longer there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei „%1“ ist nicht mehr vorhanden.</translation>
     </message>
     <message>
         <source>The file “%1” is still being recorded to.</source>
-        <translation type="unfinished"></translation>
+        <translation>In die Datei „%1“ wird noch aufgenommen.</translation>
     </message>
     <message>
         <source>The range is shorter than a tenth of a second.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bereich ist kürzer als eine Zehntelsekunde.</translation>
     </message>
     <message>
         <source>There is no room left on the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem Datenträger ist kein Platz mehr.</translation>
     </message>
     <message>
         <source>The tags could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tags konnten nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>the new file</source>
@@ -315,110 +315,110 @@
     <name>AudioTrimWnd</name>
     <message>
         <source>Trim</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuschneiden</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme</translation>
     </message>
     <message>
         <source>Play time</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabezeit</translation>
     </message>
     <message>
         <source>Begin of the range</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfang des Bereichs</translation>
     </message>
     <message>
         <source>Length of the range</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge des Bereichs</translation>
     </message>
     <message>
         <source>End of the range</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende des Bereichs</translation>
     </message>
     <message>
         <source>Set here</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier setzen</translation>
     </message>
     <message>
         <source>Move the begin of the range to the play position</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfang des Bereichs auf die Wiedergabeposition setzen</translation>
     </message>
     <message>
         <source>Move the end of the range to the play position</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende des Bereichs auf die Wiedergabeposition setzen</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe</translation>
     </message>
     <message>
         <source>P&amp;review</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorhören</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern &amp;unter…</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Speichern</translation>
     </message>
 </context>
 <context>
     <name>AudioTrimWndController</name>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe</translation>
     </message>
     <message>
         <source>The range is shorter than a tenth of a second.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bereich ist kürzer als eine Zehntelsekunde.</translation>
     </message>
     <message>
         <source>The file is being played.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei wird gerade wiedergegeben.</translation>
     </message>
     <message>
         <source>The recording cannot be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufnahme kann nicht gespeichert werden.</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern unter</translation>
     </message>
     <message>
         <source>The recording was not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufnahme wurde nicht gespeichert.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Waring:</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung:</translation>
     </message>
     <message>
         <source>Warning:</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung:</translation>
     </message>
     <message>
         <source>This path exists, please change the path or name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Pfad existiert bereits, bitte ändern Sie den Pfad oder den Namen.</translation>
     </message>
     <message>
         <source>Converting Audio......</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio wird umgewandelt......</translation>
     </message>
     <message>
         <source>Do you want to replace &quot;%1&quot; audio file.</source>
@@ -429,193 +429,193 @@
     <name>AudioWaveEditView</name>
     <message>
         <source>Outline</source>
-        <translation type="unfinished"></translation>
+        <translation>Wellenform</translation>
     </message>
 </context>
 <context>
     <name>AudioWaveTrimView</name>
     <message>
         <source>Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl</translation>
     </message>
     <message>
         <source>Drag the edges or the middle. Left and Right move the selection, with Control its begin, with Alt its end; with Shift by a second.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen Sie an den Rändern oder in der Mitte. Links und Rechts verschieben die Auswahl, mit Strg ihren Anfang, mit Alt ihr Ende; mit Umschalt um eine Sekunde.</translation>
     </message>
     <message>
         <source>from %1 to %2, %3 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>von %1 bis %2, %3 Sekunden</translation>
     </message>
 </context>
 <context>
     <name>AudioWaveViewController</name>
     <message>
         <source>Recording state</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahmestatus</translation>
     </message>
     <message>
         <source>Input</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingang</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>Artist</source>
-        <translation type="unfinished"></translation>
+        <translation>Interpret</translation>
     </message>
     <message>
         <source>Switch between recording and playback</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischen Aufnahme und Wiedergabe umschalten</translation>
     </message>
     <message>
         <source>Show the next notice</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächsten Hinweis anzeigen</translation>
     </message>
     <message>
         <source>Notice</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweis</translation>
     </message>
     <message>
         <source>What can be done about the notice</source>
-        <translation type="unfinished"></translation>
+        <translation>Was sich zu dem Hinweis tun lässt</translation>
     </message>
     <message>
         <source>Dismiss this notice</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Hinweis schließen</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeigen</translation>
     </message>
     <message>
         <source>Choose Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerät wählen</translation>
     </message>
     <message>
         <source>Unmute</source>
-        <translation type="unfinished"></translation>
+        <translation>Ton einschalten</translation>
     </message>
     <message>
         <source>Free Space …</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz schaffen …</translation>
     </message>
     <message>
         <source>Notice %1 of %2. Show the next one</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweis %1 von %2. Den nächsten anzeigen</translation>
     </message>
 </context>
 <context>
     <name>BurnControl</name>
     <message>
         <source>there is no drive</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt kein Laufwerk</translation>
     </message>
 </context>
 <context>
     <name>BurnState</name>
     <message>
         <source>Waiting for the import Music File</source>
-        <translation type="unfinished"></translation>
+        <translation>Warten auf Musikdateien</translation>
     </message>
     <message>
         <source>Waiting for the inserted Disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Warten auf eine Disc</translation>
     </message>
     <message>
         <source>Is not blank, Please erase the Disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Disc nicht leer, bitte löschen Sie sie</translation>
     </message>
     <message>
         <source>Is not blank, Please replace the Disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Disc nicht leer, bitte wechseln Sie sie</translation>
     </message>
     <message>
         <source>Disc space not enough for music</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu wenig Platz auf der Disc für die Musik</translation>
     </message>
     <message>
         <source>Ready to burn</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit zum Brennen</translation>
     </message>
 </context>
 <context>
     <name>CDBurnWnd</name>
     <message>
         <source>Burn to Disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Disc brennen</translation>
     </message>
     <message>
         <source>&amp;Drive:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Laufwerk:</translation>
     </message>
     <message>
         <source>Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Laufwerk</translation>
     </message>
     <message>
         <source>Eject the disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Disc auswerfen</translation>
     </message>
     <message>
         <source>Problem of the drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Problem des Laufwerks</translation>
     </message>
     <message>
         <source>Tracks</source>
-        <translation type="unfinished"></translation>
+        <translation>Tracks</translation>
     </message>
     <message>
         <source>&amp;Add Files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien &amp;hinzufügen…</translation>
     </message>
     <message>
         <source>Items and size</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl und Größe</translation>
     </message>
     <message>
         <source>Total time</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamtdauer</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Status</translation>
     </message>
     <message>
         <source>&amp;Eject when done</source>
-        <translation type="unfinished"></translation>
+        <translation>Danach &amp;auswerfen</translation>
     </message>
     <message>
         <source>&amp;Burn</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Brennen</translation>
     </message>
 </context>
 <context>
     <name>CDBurnWndController</name>
     <message>
         <source>There is nothing to burn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt nichts zu brennen.</translation>
     </message>
     <message>
         <source>Tick the files that are to become tracks, then press Burn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haken Sie die Dateien an, die zu Tracks werden sollen, und klicken Sie dann auf „Brennen“.</translation>
     </message>
     <message>
         <source>Time: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer: %1</translation>
     </message>
     <message>
         <source>Eject the disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Disc auswerfen</translation>
     </message>
     <message>
         <source>There is no disc in the drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Laufwerk liegt keine Disc.</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswählen</translation>
     </message>
     <message numerus="yes">
         <source> %n Items     Size: %1 MB</source>
@@ -629,130 +629,130 @@
     <name>CaptureComputerAudio</name>
     <message>
         <source>%1: the driver does not run on this machine</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: der Treiber läuft auf diesem Rechner nicht</translation>
     </message>
     <message>
         <source>%1: no such program</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: kein solches Programm</translation>
     </message>
     <message>
         <source>the driver was started, but its device did not appear</source>
-        <translation type="unfinished"></translation>
+        <translation>der Treiber wurde gestartet, aber sein Gerät ist nicht erschienen</translation>
     </message>
     <message>
         <source>the system audio device is being installed or removed already</source>
-        <translation type="unfinished"></translation>
+        <translation>das System-Audiogerät wird bereits installiert oder entfernt</translation>
     </message>
     <message>
         <source>there is no way to get administrator rights</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keinen Weg, Administratorrechte zu erhalten</translation>
     </message>
     <message>
         <source>%1: the driver is missing from the program&apos;s resources</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: der Treiber fehlt in den Ressourcen des Programms</translation>
     </message>
 </context>
 <context>
     <name>CommandLine</name>
     <message>
         <source>--%1: %2 is not a time in seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1: %2 ist keine Zeit in Sekunden</translation>
     </message>
     <message>
         <source>--%1: %2 is not a whole number</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1: %2 ist keine ganze Zahl</translation>
     </message>
     <message>
         <source>there is no drive that writes discs (--image FILE writes a disc image)</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt kein Laufwerk, das Discs beschreibt (--image FILE schreibt ein Disc-Abbild)</translation>
     </message>
     <message>
         <source>%1: there is no such drive (&quot;sonaphex drives&quot; lists them)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: kein solches Laufwerk („sonaphex drives“ listet sie auf)</translation>
     </message>
     <message>
         <source>%1: the drive is busy</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: das Laufwerk ist belegt</translation>
     </message>
     <message>
         <source>%1: there is no disc in the drive</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: im Laufwerk liegt keine Disc</translation>
     </message>
     <message>
         <source>%1: the disc is not blank: erase it, or put another one in</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: die Disc ist nicht leer: löschen Sie sie oder legen Sie eine andere ein</translation>
     </message>
     <message>
         <source>%1: the disc is not blank: put another one in</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: die Disc ist nicht leer: legen Sie eine andere ein</translation>
     </message>
     <message>
         <source>%1: no burn can be made with this drive</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: mit diesem Laufwerk kann nicht gebrannt werden</translation>
     </message>
     <message>
         <source>%1; nothing was burned</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; es wurde nichts gebrannt</translation>
     </message>
     <message>
         <source>the burn failed</source>
-        <translation type="unfinished"></translation>
+        <translation>das Brennen ist fehlgeschlagen</translation>
     </message>
     <message>
         <source>burn takes the files that become tracks</source>
-        <translation type="unfinished"></translation>
+        <translation>burn erwartet die Dateien, die zu Tracks werden</translation>
     </message>
     <message>
         <source>--image takes the name of a file</source>
-        <translation type="unfinished"></translation>
+        <translation>--image erwartet den Namen einer Datei</translation>
     </message>
     <message>
         <source>--image and --drive exclude each other</source>
-        <translation type="unfinished"></translation>
+        <translation>--image und --drive schließen einander aus</translation>
     </message>
     <message>
         <source>burn sound files as an audio CD, one track each, or write a disc image</source>
-        <translation type="unfinished"></translation>
+        <translation>Audiodateien als Audio-CD brennen, je Datei ein Track, oder ein Disc-Abbild schreiben</translation>
     </message>
     <message>
         <source>The drive, by its name or its path (&quot;sonaphex drives&quot; lists them).</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Laufwerk, mit Namen oder Pfad („sonaphex drives“ listet sie auf).</translation>
     </message>
     <message>
         <source>the first drive</source>
-        <translation type="unfinished"></translation>
+        <translation>das erste Laufwerk</translation>
     </message>
     <message>
         <source>Write FILE.cue and FILE.bin instead of a disc. Existing files are never replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>FILE.cue und FILE.bin statt einer Disc schreiben. Vorhandene Dateien werden nie ersetzt.</translation>
     </message>
     <message>
         <source>Eject the disc when it is done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Disc auswerfen, wenn sie fertig ist.</translation>
     </message>
     <message>
         <source>Burn two tracks and eject the disc.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwei Tracks brennen und die Disc auswerfen.</translation>
     </message>
     <message>
         <source>Write concert.cue and concert.bin.</source>
-        <translation type="unfinished"></translation>
+        <translation>concert.cue und concert.bin schreiben.</translation>
     </message>
     <message>
         <source>%1 (default: %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (Vorgabe: %2)</translation>
     </message>
     <message>
         <source>usage: sonaphex %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufruf: sonaphex %1</translation>
     </message>
     <message>
         <source>options:</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionen:</translation>
     </message>
     <message>
         <source>examples:</source>
-        <translation type="unfinished"></translation>
+        <translation>Beispiele:</translation>
     </message>
     <message>
         <source>usage: sonaphex            open the window
@@ -761,838 +761,845 @@
 
 commands:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Aufruf: sonaphex            das Fenster öffnen
+        sonaphex FILE       das Fenster öffnen und eine Audiodatei zuschneiden
+        sonaphex COMMAND    etwas Bestimmtes tun und enden
+
+Befehle:
+</translation>
     </message>
     <message>
         <source>
 &quot;sonaphex COMMAND --help&quot; lists the options of a command, &quot;sonaphex --version&quot; the version.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+„sonaphex COMMAND --help“ listet die Optionen eines Befehls auf, „sonaphex --version“ nennt die Version.
+</translation>
     </message>
     <message>
         <source>there is no sound server</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keinen Soundserver</translation>
     </message>
     <message>
         <source>standard output could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>die Standardausgabe konnte nicht geschrieben werden: %1</translation>
     </message>
     <message>
         <source>idle</source>
         <comment>no recording</comment>
-        <translation type="unfinished"></translation>
+        <translation>inaktiv</translation>
     </message>
     <message>
         <source>armed</source>
         <comment>waits for the first sound</comment>
-        <translation type="unfinished"></translation>
+        <translation>wartet auf den ersten Ton</translation>
     </message>
     <message>
         <source>recording</source>
         <comment>now</comment>
-        <translation type="unfinished"></translation>
+        <translation>nimmt auf</translation>
     </message>
     <message>
         <source>paused</source>
-        <translation type="unfinished"></translation>
+        <translation>pausiert</translation>
     </message>
     <message>
         <source>control takes a command</source>
-        <translation type="unfinished"></translation>
+        <translation>control erwartet einen Befehl</translation>
     </message>
     <message>
         <source>%1: no such command</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: kein solcher Befehl</translation>
     </message>
     <message>
         <source>the program is not running</source>
-        <translation type="unfinished"></translation>
+        <translation>das Programm läuft nicht</translation>
     </message>
     <message>
         <source>act on the running program</source>
-        <translation type="unfinished"></translation>
+        <translation>auf das laufende Programm einwirken</translation>
     </message>
     <message>
         <source>Start a recording in the open window, or stop it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Aufnahme im offenen Fenster starten oder stoppen.</translation>
     </message>
     <message>
         <source>Print the state of the running program for a script.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Zustand des laufenden Programms für ein Skript ausgeben.</translation>
     </message>
     <message>
         <source>stopped before the end: nothing was written</source>
-        <translation type="unfinished"></translation>
+        <translation>vor dem Ende abgebrochen: es wurde nichts geschrieben</translation>
     </message>
     <message>
         <source>%1 cannot be converted</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht umgewandelt werden</translation>
     </message>
     <message>
         <source>%1: it ends at second %2, there is nothing from second %3 on</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: endet bei Sekunde %2, ab Sekunde %3 ist nichts vorhanden</translation>
     </message>
     <message>
         <source>the source is damaged, what could be read was converted: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>die Quelle ist beschädigt, was lesbar war, wurde umgewandelt: %1</translation>
     </message>
     <message>
         <source>convert takes a source and a target</source>
-        <translation type="unfinished"></translation>
+        <translation>convert erwartet eine Quelle und ein Ziel</translation>
     </message>
     <message>
         <source>--type is wav, m4a or caf</source>
-        <translation type="unfinished"></translation>
+        <translation>--type ist wav, m4a oder caf</translation>
     </message>
     <message>
         <source>--to is a tenth of a second or more</source>
-        <translation type="unfinished"></translation>
+        <translation>--to ist mindestens eine Zehntelsekunde</translation>
     </message>
     <message>
         <source>--to is before --from</source>
-        <translation type="unfinished"></translation>
+        <translation>--to liegt vor --from</translation>
     </message>
     <message>
         <source>copy a range of an audio file into a new file</source>
-        <translation type="unfinished"></translation>
+        <translation>einen Bereich einer Audiodatei in eine neue Datei kopieren</translation>
     </message>
     <message>
         <source>The type of the new file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Typ der neuen Datei.</translation>
     </message>
     <message>
         <source>from the ending of DST</source>
-        <translation type="unfinished"></translation>
+        <translation>nach der Endung von DST</translation>
     </message>
     <message>
         <source>Begin at second S of the source.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei Sekunde S der Quelle beginnen.</translation>
     </message>
     <message>
         <source>End at second S of the source.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei Sekunde S der Quelle enden.</translation>
     </message>
     <message>
         <source>its end</source>
-        <translation type="unfinished"></translation>
+        <translation>ihr Ende</translation>
     </message>
     <message>
         <source>Fade in over S seconds; a fade shorter than one second is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Über S Sekunden einblenden; eine Blende unter einer Sekunde entfällt.</translation>
     </message>
     <message>
         <source>Fade out over S seconds; a fade shorter than one second is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Über S Sekunden ausblenden; eine Blende unter einer Sekunde entfällt.</translation>
     </message>
     <message>
         <source>Repeat the range until the new file is S seconds long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Bereich wiederholen, bis die neue Datei S Sekunden lang ist.</translation>
     </message>
     <message>
         <source>the length of the range</source>
-        <translation type="unfinished"></translation>
+        <translation>die Länge des Bereichs</translation>
     </message>
     <message>
         <source>Replace DST when it exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>DST ersetzen, wenn es existiert.</translation>
     </message>
     <message>
         <source>Copy ten and a half seconds into a WAVE file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zehneinhalb Sekunden in eine WAVE-Datei kopieren.</translation>
     </message>
     <message>
         <source>Repeat ten seconds for half a minute, with fades.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zehn Sekunden eine halbe Minute lang wiederholen, mit Blenden.</translation>
     </message>
     <message>
         <source>devices takes no names</source>
-        <translation type="unfinished"></translation>
+        <translation>devices erwartet keine Namen</translation>
     </message>
     <message>
         <source>1 channel</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Kanal</translation>
     </message>
     <message numerus="yes">
         <source>%n channels</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Kanal</numerusform>
+            <numerusform>%n Kanäle</numerusform>
         </translation>
     </message>
     <message>
         <source>%1, %2 Hz, what the computer plays</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 Hz, was der Computer wiedergibt</translation>
     </message>
     <message>
         <source>%1, %2 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 Hz</translation>
     </message>
     <message>
         <source>no input devices</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Eingabegeräte</translation>
     </message>
     <message>
         <source>default output: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard-Ausgabegerät: %1</translation>
     </message>
     <message>
         <source>none</source>
         <comment>output device</comment>
-        <translation type="unfinished"></translation>
+        <translation>keins</translation>
     </message>
     <message>
         <source>list the input devices</source>
-        <translation type="unfinished"></translation>
+        <translation>die Eingabegeräte auflisten</translation>
     </message>
     <message>
         <source>List the devices for a script.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Geräte für ein Skript auflisten.</translation>
     </message>
     <message>
         <source>installed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>installiert: %1</translation>
     </message>
     <message>
         <source>installed: no</source>
-        <translation type="unfinished"></translation>
+        <translation>installiert: nein</translation>
     </message>
     <message>
         <source>loaded: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>geladen: %1</translation>
     </message>
     <message>
         <source>loaded: no</source>
-        <translation type="unfinished"></translation>
+        <translation>geladen: nein</translation>
     </message>
     <message>
         <source>loaded: no (no sound server answers)</source>
-        <translation type="unfinished"></translation>
+        <translation>geladen: nein (kein Soundserver antwortet)</translation>
     </message>
     <message>
         <source>the driver stays as it is while the window records: stop the recording first</source>
-        <translation type="unfinished"></translation>
+        <translation>der Treiber bleibt, wie er ist, solange das Fenster aufnimmt: stoppen Sie zuerst die Aufnahme</translation>
     </message>
     <message>
         <source>the driver cannot be loaded: no sound server answers</source>
-        <translation type="unfinished"></translation>
+        <translation>der Treiber kann nicht geladen werden: kein Soundserver antwortet</translation>
     </message>
     <message>
         <source>the driver was not installed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>der Treiber wurde nicht installiert: %1</translation>
     </message>
     <message>
         <source>the driver was not removed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>der Treiber wurde nicht entfernt: %1</translation>
     </message>
     <message>
         <source>driver takes one of status, install, remove</source>
-        <translation type="unfinished"></translation>
+        <translation>driver erwartet status, install oder remove</translation>
     </message>
     <message>
         <source>show, install or remove the device that carries what the computer plays</source>
-        <translation type="unfinished"></translation>
+        <translation>das Gerät für den Computerton anzeigen, installieren oder entfernen</translation>
     </message>
     <message>
         <source>Install the device and load it. Asks for the administrator&apos;s password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gerät installieren und laden. Fragt nach dem Administratorpasswort.</translation>
     </message>
     <message>
         <source>busy</source>
-        <translation type="unfinished"></translation>
+        <translation>belegt</translation>
     </message>
     <message>
         <source>the drive is not ready yet</source>
-        <translation type="unfinished"></translation>
+        <translation>das Laufwerk ist noch nicht bereit</translation>
     </message>
     <message>
         <source>no disc</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Disc</translation>
     </message>
     <message>
         <source>disc</source>
         <comment>of unknown kind</comment>
-        <translation type="unfinished"></translation>
+        <translation>Disc</translation>
     </message>
     <message>
         <source>%1, not blank, can be erased</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, nicht leer, kann gelöscht werden</translation>
     </message>
     <message>
         <source>%1, not blank</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, nicht leer</translation>
     </message>
     <message>
         <source>%1, blank, %2 min %3 s of audio</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, leer, %2 min %3 s Audio</translation>
     </message>
     <message>
         <source>drives takes no names</source>
-        <translation type="unfinished"></translation>
+        <translation>drives erwartet keine Namen</translation>
     </message>
     <message>
         <source>list the drives that write discs, and what is in them</source>
-        <translation type="unfinished"></translation>
+        <translation>die Laufwerke auflisten, die Discs beschreiben, und was darin liegt</translation>
     </message>
     <message>
         <source>List the drives for a script.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Laufwerke für ein Skript auflisten.</translation>
     </message>
     <message>
         <source>there is no input device &quot;%1&quot;: there is none at all</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt kein Eingabegerät „%1“: es gibt überhaupt keins</translation>
     </message>
     <message>
         <source>there is no input device &quot;%1&quot;: there are %2</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt kein Eingabegerät „%1“: vorhanden sind %2</translation>
     </message>
     <message>
         <source>join takes two files or more</source>
-        <translation type="unfinished"></translation>
+        <translation>join erwartet zwei oder mehr Dateien</translation>
     </message>
     <message>
         <source>join needs --to with the file to write</source>
-        <translation type="unfinished"></translation>
+        <translation>join braucht --to mit der zu schreibenden Datei</translation>
     </message>
     <message>
         <source>%1: there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: diese Datei gibt es nicht</translation>
     </message>
     <message>
         <source>%1: there is no such folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: diesen Ordner gibt es nicht</translation>
     </message>
     <message>
         <source>make one recording of several, in the given order</source>
-        <translation type="unfinished"></translation>
+        <translation>mehrere Aufnahmen in der angegebenen Reihenfolge zu einer verbinden</translation>
     </message>
     <message>
         <source>The recording to write. An existing file is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die zu schreibende Aufnahme. Eine vorhandene Datei bleibt erhalten.</translation>
     </message>
     <message>
         <source>Join two parts of one recording without encoding them again. Other files are decoded and encoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwei Teile einer Aufnahme ohne erneutes Kodieren verbinden. Andere Dateien werden dekodiert und kodiert.</translation>
     </message>
     <message>
         <source>%1, but the running program does not know this request: it is another version</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, aber das laufende Programm kennt diese Anfrage nicht: es ist eine andere Version</translation>
     </message>
     <message>
         <source>%1, but the library could not be saved</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, aber die Bibliothek konnte nicht gespeichert werden</translation>
     </message>
     <message>
         <source>%1 could not be added to the library</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht zur Bibliothek hinzugefügt werden</translation>
     </message>
     <message>
         <source>file</source>
         <comment>the path of a recording</comment>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>key</source>
         <comment>names an entry of the library</comment>
-        <translation type="unfinished"></translation>
+        <translation>Schlüssel</translation>
     </message>
     <message>
         <source>%1 (missing)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (fehlt)</translation>
     </message>
     <message>
         <source>recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahmen</translation>
     </message>
     <message>
         <source>ringtones</source>
-        <translation type="unfinished"></translation>
+        <translation>Klingeltöne</translation>
     </message>
     <message>
         <source>the running program does not know this request: it is another version</source>
-        <translation type="unfinished"></translation>
+        <translation>das laufende Programm kennt diese Anfrage nicht: es ist eine andere Version</translation>
     </message>
     <message>
         <source>no entry has the key %1 (nothing was removed)</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Eintrag hat den Schlüssel %1 (es wurde nichts entfernt)</translation>
     </message>
     <message>
         <source>the files are deleted, but the library could not be saved</source>
-        <translation type="unfinished"></translation>
+        <translation>die Dateien sind gelöscht, aber die Bibliothek konnte nicht gespeichert werden</translation>
     </message>
     <message>
         <source>library knows list and remove, not %1</source>
-        <translation type="unfinished"></translation>
+        <translation>library kennt list und remove, nicht %1</translation>
     </message>
     <message>
         <source>library remove takes the keys of entries</source>
-        <translation type="unfinished"></translation>
+        <translation>library remove erwartet die Schlüssel von Einträgen</translation>
     </message>
     <message>
         <source>list recordings and ringtones, or remove some with their files</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahmen und Klingeltöne auflisten oder einige samt ihren Dateien entfernen</translation>
     </message>
     <message>
         <source>List both collections with the key of each entry.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beide Sammlungen mit dem Schlüssel jedes Eintrags auflisten.</translation>
     </message>
     <message>
         <source>Remove an entry and delete its file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Eintrag entfernen und seine Datei löschen.</translation>
     </message>
     <message>
         <source>manual takes nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>manual erwartet keine Argumente</translation>
     </message>
     <message>
         <source>completions takes one of bash, zsh, fish</source>
-        <translation type="unfinished"></translation>
+        <translation>completions erwartet bash, zsh oder fish</translation>
     </message>
     <message>
         <source>print the manual page</source>
-        <translation type="unfinished"></translation>
+        <translation>die Handbuchseite ausgeben</translation>
     </message>
     <message>
         <source>Read the manual page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Handbuchseite lesen.</translation>
     </message>
     <message>
         <source>print the completions for a shell</source>
-        <translation type="unfinished"></translation>
+        <translation>die Vervollständigungen für eine Shell ausgeben</translation>
     </message>
     <message>
         <source>Install the completions for the current user&apos;s bash.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Vervollständigungen für die bash des aktuellen Benutzers installieren.</translation>
     </message>
     <message>
         <source>%1: is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: ist ein Ordner</translation>
     </message>
     <message>
         <source>%1: no such folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: kein solcher Ordner</translation>
     </message>
     <message>
         <source>%1: that path is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: dieser Pfad ist keine reguläre Datei</translation>
     </message>
     <message>
         <source>%1: exists already (--overwrite replaces it)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: existiert bereits (--overwrite ersetzt sie)</translation>
     </message>
     <message>
         <source>the folder %1 cannot be created</source>
-        <translation type="unfinished"></translation>
+        <translation>der Ordner %1 kann nicht angelegt werden</translation>
     </message>
     <message>
         <source>the folder %1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>in den Ordner %1 kann nicht geschrieben werden: %2</translation>
     </message>
     <message>
         <source>record takes options only</source>
-        <translation type="unfinished"></translation>
+        <translation>record erwartet nur Optionen</translation>
     </message>
     <message>
         <source>--for takes a time above 0</source>
-        <translation type="unfinished"></translation>
+        <translation>--for erwartet eine Zeit über 0</translation>
     </message>
     <message>
         <source>--pre-roll takes at most %1 milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>--pre-roll erwartet höchstens %1 Millisekunden</translation>
     </message>
     <message>
         <source>--folder takes a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>--folder erwartet einen Ordner</translation>
     </message>
     <message>
         <source>without an input device and without --computer there is nothing to record</source>
-        <translation type="unfinished"></translation>
+        <translation>ohne Eingabegerät und ohne --computer gibt es nichts aufzunehmen</translation>
     </message>
     <message>
         <source>record an input device, what the computer plays, or both into .m4a files</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Eingabegerät, den Computerton oder beides in .m4a-Dateien aufnehmen</translation>
     </message>
     <message>
         <source>Record the input device with this name, UID or id; none records no input device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Eingabegerät mit diesem Namen, dieser UID oder ID aufnehmen; none nimmt kein Eingabegerät auf.</translation>
     </message>
     <message>
         <source>the device and the choice stored in the preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>das Gerät und die Wahl aus den Einstellungen</translation>
     </message>
     <message>
         <source>Record what the computer plays.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnehmen, was der Computer wiedergibt.</translation>
     </message>
     <message>
         <source>Stop after S seconds of recorded sound, over all files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach S Sekunden aufgenommenem Ton stoppen, über alle Dateien gerechnet.</translation>
     </message>
     <message>
         <source>until Control+C</source>
-        <translation type="unfinished"></translation>
+        <translation>bis Strg+C</translation>
     </message>
     <message>
         <source>When waiting for the first sound, give up after S seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Warten auf den ersten Ton nach S Sekunden aufgeben.</translation>
     </message>
     <message>
         <source>no limit</source>
-        <translation type="unfinished"></translation>
+        <translation>unbegrenzt</translation>
     </message>
     <message>
         <source>Begin a new file after a silence of MS milliseconds of computer audio.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach einer Stille von MS Millisekunden im Computerton eine neue Datei beginnen.</translation>
     </message>
     <message>
         <source>as in the preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>wie in den Einstellungen</translation>
     </message>
     <message>
         <source>When waiting for the first sound, begin MS milliseconds before it, at most 5000.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Warten auf den ersten Ton MS Millisekunden davor beginnen, höchstens 5000.</translation>
     </message>
     <message>
         <source>Drop a recording shorter than S seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Aufnahme, die kürzer als S Sekunden ist, verwerfen.</translation>
     </message>
     <message>
         <source>Put the recordings into DIR, which is made when it is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufnahmen in DIR ablegen; es wird bei Bedarf angelegt.</translation>
     </message>
     <message>
         <source>Record ten seconds of the input device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zehn Sekunden vom Eingabegerät aufnehmen.</translation>
     </message>
     <message>
         <source>Record a named device into the current folder until Control+C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein benanntes Gerät bis Strg+C in den aktuellen Ordner aufnehmen.</translation>
     </message>
     <message>
         <source>Record what the computer plays, one file for each song, and give up when nothing plays for a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnehmen, was der Computer wiedergibt, eine Datei je Lied, und aufgeben, wenn eine Minute lang nichts läuft.</translation>
     </message>
     <message>
         <source>a recording could not be finished</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Aufnahme konnte nicht fertiggestellt werden</translation>
     </message>
     <message>
         <source>computer audio: its driver is not installed (see sonaphex driver install)</source>
-        <translation type="unfinished"></translation>
+        <translation>Computerton: der Treiber ist nicht installiert (siehe sonaphex driver install)</translation>
     </message>
     <message>
         <source>there is no input device</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt kein Eingabegerät</translation>
     </message>
     <message>
         <source>there is no source to record: name one with --input or --computer</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine Quelle zum Aufnehmen: nennen Sie eine mit --input oder --computer</translation>
     </message>
     <message>
         <source>nothing can be recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>es kann nichts aufgenommen werden</translation>
     </message>
     <message>
         <source>waiting for the first sound</source>
-        <translation type="unfinished"></translation>
+        <translation>wartet auf den ersten Ton</translation>
     </message>
     <message>
         <source>finishing</source>
-        <translation type="unfinished"></translation>
+        <translation>stellt fertig</translation>
     </message>
     <message>
         <source>no sound came: nothing was recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>es kam kein Ton: nichts wurde aufgenommen</translation>
     </message>
     <message>
         <source>one recording was shorter than the filter&apos;s time and was not kept</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Aufnahme war kürzer als die Zeit des Filters und wurde nicht behalten</translation>
     </message>
     <message numerus="yes">
         <source>%n recordings were shorter than the filter&apos;s time and were not kept</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Aufnahme war kürzer als die Zeit des Filters und wurde nicht behalten</numerusform>
+            <numerusform>%n Aufnahmen waren kürzer als die Zeit des Filters und wurden nicht behalten</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: what was recorded is kept in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: das Aufgenommene bleibt in %2 erhalten</translation>
     </message>
     <message>
         <source>%1 is made, but the running program does not know this request: it is another version</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist erstellt, aber das laufende Programm kennt diese Anfrage nicht: es ist eine andere Version</translation>
     </message>
     <message>
         <source>%1 is made, but the library could not be saved</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist erstellt, aber die Bibliothek konnte nicht gespeichert werden</translation>
     </message>
     <message>
         <source>%1: it ends at second %2, --to is %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: endet bei Sekunde %2, --to ist %3</translation>
     </message>
     <message>
         <source>stopped before the end: no ringtone was made</source>
-        <translation type="unfinished"></translation>
+        <translation>vor dem Ende abgebrochen: es wurde kein Klingelton erstellt</translation>
     </message>
     <message>
         <source>the source is damaged, the ringtone is silent where it could not be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>die Quelle ist beschädigt, der Klingelton ist still, wo sie nicht lesbar war: %1</translation>
     </message>
     <message>
         <source>ringtone takes one file</source>
-        <translation type="unfinished"></translation>
+        <translation>ringtone erwartet eine Datei</translation>
     </message>
     <message>
         <source>ringtone needs --from and --to</source>
-        <translation type="unfinished"></translation>
+        <translation>ringtone braucht --from und --to</translation>
     </message>
     <message>
         <source>--to is not after --from</source>
-        <translation type="unfinished"></translation>
+        <translation>--to liegt nicht nach --from</translation>
     </message>
     <message>
         <source>make a ringtone from a range of a recording and add it to the library</source>
-        <translation type="unfinished"></translation>
+        <translation>aus einem Bereich einer Aufnahme einen Klingelton erstellen und zur Bibliothek hinzufügen</translation>
     </message>
     <message>
         <source>Begin at second S of the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei Sekunde S der Aufnahme beginnen.</translation>
     </message>
     <message>
         <source>End at second S of the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei Sekunde S der Aufnahme enden.</translation>
     </message>
     <message>
         <source>Make a ringtone of this half minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus dieser halben Minute einen Klingelton erstellen.</translation>
     </message>
     <message>
         <source>longest silence found: %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>längste gefundene Stille: %1 s</translation>
     </message>
     <message>
         <source>%1: no silence of %2 s; the longest one has %3 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: keine Stille von %2 s; die längste dauert %3 s</translation>
     </message>
     <message>
         <source>split takes one file</source>
-        <translation type="unfinished"></translation>
+        <translation>split erwartet eine Datei</translation>
     </message>
     <message>
         <source>split needs --silence with at least %1 milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>split braucht --silence mit mindestens %1 Millisekunden</translation>
     </message>
     <message>
         <source>--level takes decibels from -120 to below 0</source>
-        <translation type="unfinished"></translation>
+        <translation>--level erwartet Dezibel von -120 bis unter 0</translation>
     </message>
     <message>
         <source>cut a recording into several at its silences, without encoding it again</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Aufnahme an stillen Stellen in mehrere teilen, ohne sie neu zu kodieren</translation>
     </message>
     <message>
         <source>Cut in the middle of each silence of at least MS milliseconds, 50 or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Mitte jeder Stille von mindestens MS Millisekunden (50 oder mehr) schneiden.</translation>
     </message>
     <message>
         <source>A silence lies below DB decibels of full scale, from -120 to below 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Stille gilt, was unter DB Dezibel bezogen auf Vollpegel liegt, von -120 bis unter 0.</translation>
     </message>
     <message>
         <source>Put the parts into DIR.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Teile in DIR ablegen.</translation>
     </message>
     <message>
         <source>the folder of the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>der Ordner der Aufnahme</translation>
     </message>
     <message>
         <source>Only list the cuts and the longest silence; write nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur die Schnitte und die längste Stille auflisten; nichts schreiben.</translation>
     </message>
     <message>
         <source>Make a 1.m4a, a 2.m4a and so on beside a.m4a, which stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>a 1.m4a, a 2.m4a und so weiter neben a.m4a erstellen, das unverändert bleibt.</translation>
     </message>
     <message>
         <source>See where the cuts would be.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ansehen, wo die Schnitte lägen.</translation>
     </message>
     <message>
         <source>Print one JSON document instead of text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein JSON-Dokument statt Text ausgeben.</translation>
     </message>
     <message>
         <source>none</source>
         <comment>cover</comment>
-        <translation type="unfinished"></translation>
+        <translation>keins</translation>
     </message>
     <message>
         <source>title:</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel:</translation>
     </message>
     <message>
         <source>artist:</source>
-        <translation type="unfinished"></translation>
+        <translation>Interpret:</translation>
     </message>
     <message>
         <source>album:</source>
-        <translation type="unfinished"></translation>
+        <translation>Album:</translation>
     </message>
     <message>
         <source>year:</source>
-        <translation type="unfinished"></translation>
+        <translation>Jahr:</translation>
     </message>
     <message>
         <source>genre:</source>
-        <translation type="unfinished"></translation>
+        <translation>Genre:</translation>
     </message>
     <message>
         <source>artwork:</source>
-        <translation type="unfinished"></translation>
+        <translation>Cover:</translation>
     </message>
     <message>
         <source>the artwork of %1 could not be written</source>
-        <translation type="unfinished"></translation>
+        <translation>das Cover von %1 konnte nicht geschrieben werden</translation>
     </message>
     <message>
         <source>tag takes one file</source>
-        <translation type="unfinished"></translation>
+        <translation>tag erwartet eine Datei</translation>
     </message>
     <message>
         <source>--year: %1 is not a number</source>
-        <translation type="unfinished"></translation>
+        <translation>--year: %1 ist keine Zahl</translation>
     </message>
     <message>
         <source>the file is changed</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei ist geändert</translation>
     </message>
     <message>
         <source>print or write the tags and the cover of an MPEG-4 audio file</source>
-        <translation type="unfinished"></translation>
+        <translation>die Tags und das Cover einer MPEG-4-Audiodatei ausgeben oder schreiben</translation>
     </message>
     <message>
         <source>Write this title. An empty text removes the tag; the same holds for the other texts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Titel schreiben. Ein leerer Text entfernt das Tag; das gilt auch für die anderen Texte.</translation>
     </message>
     <message>
         <source>Write this artist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Interpreten schreiben.</translation>
     </message>
     <message>
         <source>Write this album.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Album schreiben.</translation>
     </message>
     <message>
         <source>Write this year; 0 removes the tag.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Jahr schreiben; 0 entfernt das Tag.</translation>
     </message>
     <message>
         <source>Write this genre.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Genre schreiben.</translation>
     </message>
     <message>
         <source>Take the cover from this picture file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Cover aus dieser Bilddatei nehmen.</translation>
     </message>
     <message>
         <source>Rename the file after its title, unless the name is taken or not possible.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei nach ihrem Titel umbenennen, sofern der Name frei und möglich ist.</translation>
     </message>
     <message>
         <source>Print the tags.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tags ausgeben.</translation>
     </message>
     <message>
         <source>Write a title and a cover.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Titel und ein Cover schreiben.</translation>
     </message>
     <message>
         <source>Write a title and name the file Morning.m4a.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Titel schreiben und die Datei Morning.m4a nennen.</translation>
     </message>
     <message>
         <source>%1: This path exists, please change the path or name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Dieser Pfad existiert bereits, bitte ändern Sie den Pfad oder den Namen.</translation>
     </message>
     <message>
         <source>%1: the file is being played</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: die Datei wird gerade wiedergegeben</translation>
     </message>
     <message>
         <source>the file is trimmed</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei ist zugeschnitten</translation>
     </message>
     <message>
         <source>trim takes one file</source>
-        <translation type="unfinished"></translation>
+        <translation>trim erwartet eine Datei</translation>
     </message>
     <message>
         <source>trim takes --from, --to or both</source>
-        <translation type="unfinished"></translation>
+        <translation>trim erwartet --from, --to oder beides</translation>
     </message>
     <message>
         <source>--to must be at least a tenth of a second after --from</source>
-        <translation type="unfinished"></translation>
+        <translation>--to muss mindestens eine Zehntelsekunde nach --from liegen</translation>
     </message>
     <message>
         <source>--save-as names no file</source>
-        <translation type="unfinished"></translation>
+        <translation>--save-as nennt keine Datei</translation>
     </message>
     <message>
         <source>cut a recording down to a range, in its place or into a new file</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Aufnahme auf einen Bereich zuschneiden, an ihrer Stelle oder in eine neue Datei</translation>
     </message>
     <message>
         <source>Write a new file and leave the recording as it is. An existing file is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine neue Datei schreiben und die Aufnahme unverändert lassen. Eine vorhandene Datei bleibt erhalten.</translation>
     </message>
     <message>
         <source>the recording is replaced</source>
-        <translation type="unfinished"></translation>
+        <translation>die Aufnahme wird ersetzt</translation>
     </message>
     <message>
         <source>Cut off the first two and a half seconds and all after a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ersten zweieinhalb Sekunden und alles nach einer Minute abschneiden.</translation>
     </message>
     <message>
         <source>Copy ten seconds into a new recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zehn Sekunden in eine neue Aufnahme kopieren.</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n values are too few for a picture</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %n Wert ist zu wenig für ein Bild</numerusform>
+            <numerusform>%1: %n Werte sind zu wenig für ein Bild</numerusform>
         </translation>
     </message>
     <message>
         <source>waveform takes one file</source>
-        <translation type="unfinished"></translation>
+        <translation>waveform erwartet eine Datei</translation>
     </message>
     <message>
         <source>stopped before the end</source>
-        <translation type="unfinished"></translation>
+        <translation>vor dem Ende abgebrochen</translation>
     </message>
     <message>
         <source>the file is damaged, what could be read is shown: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei ist beschädigt, angezeigt wird, was lesbar war: %1</translation>
     </message>
     <message>
         <source>print ten values of a file&apos;s outline for each second</source>
-        <translation type="unfinished"></translation>
+        <translation>zehn Werte der Wellenform einer Datei je Sekunde ausgeben</translation>
     </message>
     <message>
         <source>Draw the outline into a PNG file instead of printing it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Wellenform in eine PNG-Datei zeichnen, statt sie auszugeben.</translation>
     </message>
     <message>
         <source>Replace FILE when it exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>FILE ersetzen, wenn es existiert.</translation>
     </message>
     <message>
         <source>Draw the outline of a recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Wellenform einer Aufnahme zeichnen.</translation>
     </message>
     <message>
         <source>%1: no such command and no such file (see sonaphex help)</source>
@@ -1619,266 +1626,266 @@ commands:
     <name>Control</name>
     <message>
         <source>%1: no such folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: kein solcher Ordner</translation>
     </message>
     <message>
         <source>%1: no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: keine solche Datei</translation>
     </message>
     <message>
         <source>%1: the folder cannot be created</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: der Ordner kann nicht angelegt werden</translation>
     </message>
     <message>
         <source>the file or its tags could not be written</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei oder ihre Tags konnten nicht geschrieben werden</translation>
     </message>
     <message>
         <source>This path exists, please change the path or name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Pfad existiert bereits, bitte ändern Sie den Pfad oder den Namen.</translation>
     </message>
     <message>
         <source>stopped before the end</source>
-        <translation type="unfinished"></translation>
+        <translation>vor dem Ende abgebrochen</translation>
     </message>
     <message>
         <source>a part of it is damaged and cannot be measured</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Teil davon ist beschädigt und kann nicht gemessen werden</translation>
     </message>
 </context>
 <context>
     <name>ControlRequests</name>
     <message>
         <source>the program is ending</source>
-        <translation type="unfinished"></translation>
+        <translation>das Programm wird gerade beendet</translation>
     </message>
     <message>
         <source>there is no source to record</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine Quelle zum Aufnehmen</translation>
     </message>
     <message>
         <source>nothing is being recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>es wird nichts aufgenommen</translation>
     </message>
     <message>
         <source>unknown request</source>
-        <translation type="unfinished"></translation>
+        <translation>unbekannte Anfrage</translation>
     </message>
     <message>
         <source>there is no path</source>
-        <translation type="unfinished"></translation>
+        <translation>es fehlt ein Pfad</translation>
     </message>
 </context>
 <context>
     <name>ConvertingTipView</name>
     <message>
         <source>Converting notice</source>
-        <translation type="unfinished"></translation>
+        <translation>Umwandlungshinweis</translation>
     </message>
 </context>
 <context>
     <name>Desktop</name>
     <message>
         <source>the password prompt was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>die Passwortabfrage wurde abgebrochen</translation>
     </message>
     <message>
         <source>pkexec is not installed: administrator rights cannot be requested</source>
-        <translation type="unfinished"></translation>
+        <translation>pkexec ist nicht installiert: Administratorrechte können nicht angefordert werden</translation>
     </message>
     <message>
         <source>administrator rights were not given</source>
-        <translation type="unfinished"></translation>
+        <translation>Administratorrechte wurden nicht erteilt</translation>
     </message>
     <message>
         <source>the command ended with status %1</source>
-        <translation type="unfinished"></translation>
+        <translation>der Befehl endete mit Status %1</translation>
     </message>
 </context>
 <context>
     <name>DesktopMain</name>
     <message>
         <source>%1 was not opened: the running program does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde nicht geöffnet: das laufende Programm antwortet nicht</translation>
     </message>
     <message>
         <source>it is already running, but does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>das Programm läuft bereits, antwortet aber nicht</translation>
     </message>
     <message>
         <source>Nothing can be recorded or played.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es kann nichts aufgenommen oder wiedergegeben werden.</translation>
     </message>
     <message>
         <source>Sonaphex cannot start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonaphex kann nicht starten.</translation>
     </message>
 </context>
 <context>
     <name>Disc</name>
     <message>
         <source>%1: its rate cannot be converted</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: die Abtastrate kann nicht umgewandelt werden</translation>
     </message>
     <message>
         <source>%1: contains no audio</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: enthält kein Audio</translation>
     </message>
     <message>
         <source>%1: no such folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: kein solcher Ordner</translation>
     </message>
     <message>
         <source>%1: exists already, and an image replaces no file; choose another name</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: existiert bereits, und ein Abbild ersetzt keine Datei; wählen Sie einen anderen Namen</translation>
     </message>
     <message>
         <source>%1: a cue sheet cannot name a file with quotation marks or line ends; choose another name</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: ein Cue-Sheet kann keine Datei mit Anführungszeichen oder Zeilenumbrüchen nennen; wählen Sie einen anderen Namen</translation>
     </message>
     <message>
         <source>a file cannot be read: nothing was burned</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Datei kann nicht gelesen werden: es wurde nichts gebrannt</translation>
     </message>
     <message>
         <source>there is nothing to burn: no file is ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt nichts zu brennen: keine Datei ist angehakt</translation>
     </message>
     <message>
         <source>an audio CD holds at most %1 tracks, these are %2</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Audio-CD fasst höchstens %1 Tracks, dies sind %2</translation>
     </message>
     <message>
         <source>Write Disc Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Disc-Abbild schreiben</translation>
     </message>
     <message>
         <source>The image cannot be written there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Abbild kann dort nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>no path was given for the disc image</source>
-        <translation type="unfinished"></translation>
+        <translation>für das Disc-Abbild wurde kein Pfad angegeben</translation>
     </message>
     <message>
         <source>%1: the disk is full: the image needs %2, %3 are free</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: der Datenträger ist voll: das Abbild braucht %2, %3 sind frei</translation>
     </message>
     <message>
         <source>%1: cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: kann nicht geschrieben werden: %2</translation>
     </message>
     <message>
         <source>%1: cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>%1: is not an audio file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: ist keine Audiodatei</translation>
     </message>
     <message>
         <source>it was stopped before the end: nothing was written</source>
-        <translation type="unfinished"></translation>
+        <translation>vor dem Ende abgebrochen: es wurde nichts geschrieben</translation>
     </message>
     <message>
         <source>the drive cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>das Laufwerk kann nicht geöffnet werden</translation>
     </message>
     <message>
         <source>%1: there is no disc in the drive</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: im Laufwerk liegt keine Disc</translation>
     </message>
     <message>
         <source>%1: the disc is not blank</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: die Disc ist nicht leer</translation>
     </message>
     <message>
         <source>%1: the drive does not get ready</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: das Laufwerk wird nicht betriebsbereit</translation>
     </message>
     <message>
         <source>%1: this disc cannot be written to</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: diese Disc kann nicht beschrieben werden</translation>
     </message>
     <message>
         <source>the disc cannot be written like this: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>die Disc kann so nicht beschrieben werden: %1</translation>
     </message>
     <message>
         <source>the drive gave no reason</source>
-        <translation type="unfinished"></translation>
+        <translation>das Laufwerk nannte keinen Grund</translation>
     </message>
     <message>
         <source>it was stopped before the end: the disc may be unusable</source>
-        <translation type="unfinished"></translation>
+        <translation>vor dem Ende abgebrochen: die Disc ist möglicherweise unbrauchbar</translation>
     </message>
     <message>
         <source>it was stopped before the first sector: the disc is as it was</source>
-        <translation type="unfinished"></translation>
+        <translation>vor dem ersten Sektor abgebrochen: die Disc ist unverändert</translation>
     </message>
     <message>
         <source>%1: an audio CD needs a CD-R or a CD-RW, this is a %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: eine Audio-CD braucht eine CD-R oder CD-RW, eingelegt ist: %2</translation>
     </message>
     <message>
         <source>disc of another kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Disc anderer Art</translation>
     </message>
     <message>
         <source>the layout of the disc could not be made</source>
-        <translation type="unfinished"></translation>
+        <translation>die Struktur der Disc konnte nicht erstellt werden</translation>
     </message>
     <message>
         <source>%1 (the disc is unusable)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (die Disc ist unbrauchbar)</translation>
     </message>
     <message>
         <source>%1: the burn failed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: das Brennen ist fehlgeschlagen: %2</translation>
     </message>
     <message>
         <source>%1: this disc cannot be erased</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: diese Disc kann nicht gelöscht werden</translation>
     </message>
     <message>
         <source>%1: the erase failed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: das Löschen ist fehlgeschlagen: %2</translation>
     </message>
     <message>
         <source>no right to use %1: join the group that owns it (often &quot;cdrom&quot;) and log in again</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Rechte für %1: treten Sie der Gruppe bei, der es gehört (oft „cdrom“), und melden Sie sich neu an</translation>
     </message>
     <message>
         <source>another program uses the drive, or its disc is mounted</source>
-        <translation type="unfinished"></translation>
+        <translation>ein anderes Programm benutzt das Laufwerk, oder die Disc ist eingehängt</translation>
     </message>
     <message>
         <source>the drive is gone</source>
-        <translation type="unfinished"></translation>
+        <translation>das Laufwerk ist nicht mehr vorhanden</translation>
     </message>
     <message>
         <source>%1 cannot be opened: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geöffnet werden: %2</translation>
     </message>
     <message>
         <source>%1: no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: keine solche Datei</translation>
     </message>
     <message>
         <source>%1: is not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: ist keine Datei</translation>
     </message>
     <message>
         <source>%1: no right to read it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: keine Leserechte</translation>
     </message>
     <message>
         <source>%1: is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: ist leer</translation>
     </message>
     <message>
         <source>%1: the file ends earlier than when it was measured</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: die Datei endet früher als beim Messen</translation>
     </message>
     <message>
         <source>there is not enough room on the disc: the tracks need %1 minutes (%2 sectors), %3 minutes (%4 sectors) are free</source>
@@ -1893,82 +1900,82 @@ commands:
     <name>EditWindows</name>
     <message>
         <source>%1 cannot be opened: close the open dialog first.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geöffnet werden: schließen Sie zuerst den offenen Dialog.</translation>
     </message>
 </context>
 <context>
     <name>FilteredAudioModel</name>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
 </context>
 <context>
     <name>Foundation</name>
     <message>
         <source>%1: another program is using it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: wird von einem anderen Programm benutzt</translation>
     </message>
     <message>
         <source>not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>keine reguläre Datei</translation>
     </message>
     <message>
         <source>%1 is a link</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist eine Verknüpfung</translation>
     </message>
     <message>
         <source>%1 is no folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist kein Ordner</translation>
     </message>
     <message>
         <source>%1 belongs to another user</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gehört einem anderen Benutzer</translation>
     </message>
     <message>
         <source>%1 is open to others</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist für andere zugänglich</translation>
     </message>
     <message>
         <source>a part of the program is missing: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Teil des Programms fehlt: %1</translation>
     </message>
     <message>
         <source>%1 is already answered</source>
-        <translation type="unfinished"></translation>
+        <translation>an %1 antwortet bereits ein Programm</translation>
     </message>
     <message>
         <source>%1 is not a socket of this user</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist kein Socket dieses Benutzers</translation>
     </message>
     <message>
         <source>, </source>
         <comment>between the items of a list</comment>
-        <translation type="unfinished"></translation>
+        <translation>, </translation>
     </message>
     <message>
         <source>is a link</source>
-        <translation type="unfinished"></translation>
+        <translation>ist eine Verknüpfung</translation>
     </message>
     <message>
         <source>is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>ist ein Ordner</translation>
     </message>
     <message>
         <source>belongs to another user</source>
-        <translation type="unfinished"></translation>
+        <translation>gehört einem anderen Benutzer</translation>
     </message>
     <message>
         <source>is larger than %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ist größer als %1</translation>
     </message>
 </context>
 <context>
@@ -2042,101 +2049,101 @@ commands:
     <name>ID3EditSave</name>
     <message>
         <source>The file “%1” is no longer there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei „%1“ ist nicht mehr vorhanden.</translation>
     </message>
     <message>
         <source>The cover of “%1” could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Cover von „%1“ konnte nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>The tags of “%1” could not be written</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tags von „%1“ konnten nicht geschrieben werden</translation>
     </message>
 </context>
 <context>
     <name>ID3EditWnd</name>
     <message>
         <source>Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Tags</translation>
     </message>
     <message>
         <source>&amp;Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus&amp;wählen…</translation>
     </message>
     <message>
         <source>Choose a picture for the cover</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild für das Cover auswählen</translation>
     </message>
     <message>
         <source>Drop a picture here. Drag it out to remove it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen Sie ein Bild hierher. Zum Entfernen ziehen Sie es heraus.</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Titel:</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>A&amp;rtist:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Interpret:</translation>
     </message>
     <message>
         <source>Artist</source>
-        <translation type="unfinished"></translation>
+        <translation>Interpret</translation>
     </message>
     <message>
         <source>Al&amp;bum:</source>
-        <translation type="unfinished"></translation>
+        <translation>Al&amp;bum:</translation>
     </message>
     <message>
         <source>Album</source>
-        <translation type="unfinished"></translation>
+        <translation>Album</translation>
     </message>
     <message>
         <source>&amp;Year:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jahr:</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Jahr</translation>
     </message>
     <message>
         <source>&amp;Genre:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Genre:</translation>
     </message>
     <message>
         <source>Genre</source>
-        <translation type="unfinished"></translation>
+        <translation>Genre</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>&amp;Done</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fertig</translation>
     </message>
 </context>
 <context>
     <name>ID3EditWndController</name>
     <message>
         <source>Choose</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswählen</translation>
     </message>
     <message>
         <source>This file is not a picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei ist kein Bild.</translation>
     </message>
     <message>
         <source>Not everything could be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht alles konnte gespeichert werden.</translation>
     </message>
     <message>
         <source>ID3 converter......</source>
-        <translation type="unfinished"></translation>
+        <translation>ID3-Umwandlung......</translation>
     </message>
 </context>
 <context>
@@ -2144,12 +2151,12 @@ commands:
     <message>
         <source>Control</source>
         <comment>a key of the keyboard</comment>
-        <translation type="unfinished"></translation>
+        <translation>Strg</translation>
     </message>
     <message>
         <source>Super</source>
         <comment>a key of the keyboard</comment>
-        <translation type="unfinished"></translation>
+        <translation>Super</translation>
     </message>
     <message>
         <source>Shift</source>
@@ -2166,1032 +2173,1034 @@ commands:
     <name>KeybordShortcutTextView</name>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keins</translation>
     </message>
     <message>
         <source>The desktop has no keys for this. Choose some in its settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Desktop hat hierfür keine Tasten. Legen Sie in seinen Einstellungen welche fest.</translation>
     </message>
     <message>
         <source>These keys are set in the desktop&apos;s settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Tasten sind in den Desktop-Einstellungen festgelegt.</translation>
     </message>
     <message>
         <source>No keys in the desktop&apos;s settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Tasten in den Desktop-Einstellungen</translation>
     </message>
     <message>
         <source>Click, then press the keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken, dann Tasten drücken</translation>
     </message>
     <message>
         <source>Press the keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasten drücken</translation>
     </message>
 </context>
 <context>
     <name>LibraryOutlineModel</name>
     <message numerus="yes">
         <source>%n recording(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Aufnahme</numerusform>
+            <numerusform>%n Aufnahmen</numerusform>
         </translation>
     </message>
     <message>
         <source>Library</source>
-        <translation type="unfinished"></translation>
+        <translation>Bibliothek</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien</translation>
     </message>
 </context>
 <context>
     <name>LibraryPresenter</name>
     <message>
         <source>The file is no longer there: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist nicht mehr vorhanden: %1</translation>
     </message>
     <message>
         <source>“%1” cannot be played.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht wiedergegeben werden.</translation>
     </message>
     <message>
         <source>“%1” cannot be played: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht wiedergegeben werden: %2</translation>
     </message>
     <message>
         <source>The folder of “%1” could not be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner von „%1“ konnte nicht angezeigt werden.</translation>
     </message>
     <message>
         <source>No player could be opened for “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für „%1“ konnte kein Player geöffnet werden.</translation>
     </message>
 </context>
 <context>
     <name>MainMenus</name>
     <message>
         <source>&amp;Record</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aufnahme</translation>
     </message>
     <message>
         <source>&amp;Cut to Another Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>In neuer Aufnahme &amp;fortfahren</translation>
     </message>
     <message>
         <source>Close this file and go on in a new one</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei schließen und in einer neuen weitermachen</translation>
     </message>
     <message>
         <source>Record the &amp;Input Device</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eingabegerät aufnehmen</translation>
     </message>
     <message>
         <source>Record Computer &amp;Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Computerton aufnehmen</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>Edit &amp;Tags…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tags bearbeiten…</translation>
     </message>
     <message>
         <source>Title, artist, album and cover of the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel, Interpret, Album und Cover der Aufnahme</translation>
     </message>
     <message>
         <source>T&amp;rim…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zuschneiden…</translation>
     </message>
     <message>
         <source>Keep a part of the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Teil der Aufnahme behalten</translation>
     </message>
     <message>
         <source>Make a &amp;Ringtone…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Klingelton erstellen…</translation>
     </message>
     <message>
         <source>Cut a ringtone out of the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Klingelton aus der Aufnahme schneiden</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Löschen</translation>
     </message>
     <message>
         <source>Delete the selected recordings and their files</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ausgewählten Aufnahmen und ihre Dateien löschen</translation>
     </message>
     <message>
         <source>&amp;Search…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Suchen…</translation>
     </message>
     <message>
         <source>Search titles, artists and albums</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel, Interpreten und Alben durchsuchen</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alles auswählen</translation>
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einstellungen…</translation>
     </message>
     <message>
         <source>&amp;Library</source>
-        <translation type="unfinished"></translation>
+        <translation>Bib&amp;liothek</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiedergabe</translation>
     </message>
     <message>
         <source>Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe oder Pause</translation>
     </message>
     <message>
         <source>Play the &amp;Selected Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ausgewählte Aufnahme abspielen</translation>
     </message>
     <message>
         <source>Play from its beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>Von Anfang an abspielen</translation>
     </message>
     <message>
         <source>Back %1 Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Sekunden zurück</translation>
     </message>
     <message>
         <source>Forward %1 Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Sekunden vor</translation>
     </message>
     <message>
         <source>S&amp;how in Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Im &amp;Ordner anzeigen</translation>
     </message>
     <message>
         <source>Show the file in the file manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei in der Dateiverwaltung anzeigen</translation>
     </message>
     <message>
         <source>&amp;Open in Player</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Pla&amp;yer öffnen</translation>
     </message>
     <message>
         <source>Open the file in your music player</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei in Ihrem Musik-Player öffnen</translation>
     </message>
     <message>
         <source>&amp;Burn to Disc…</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf &amp;Disc brennen…</translation>
     </message>
     <message>
         <source>Make an audio CD of this list</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus dieser Liste eine Audio-CD erstellen</translation>
     </message>
     <message>
         <source>&amp;Find Short Recordings…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kurze Aufnahmen finden…</translation>
     </message>
     <message>
         <source>Find recordings that are too short to keep</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahmen finden, die zum Behalten zu kurz sind</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nsicht</translation>
     </message>
     <message>
         <source>&amp;Switch the Display</source>
-        <translation type="unfinished"></translation>
+        <translation>An&amp;zeige umschalten</translation>
     </message>
     <message>
         <source>Level of the recording, or position of the playback</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegel der Aufnahme oder Position der Wiedergabe</translation>
     </message>
     <message>
         <source>Show the Next &amp;Notice</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächsten Hinweis anzeigen</translation>
     </message>
     <message>
         <source>Several notices stand in the display</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Anzeige stehen mehrere Hinweise</translation>
     </message>
     <message>
         <source>&amp;Dismiss All Notices</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Hinweise &amp;schließen</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>&amp;Support Page</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Support-Seite</translation>
     </message>
     <message>
         <source>Computer-Audio &amp;Add-on Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite der Computerton-&amp;Erweiterung</translation>
     </message>
     <message>
         <source>&amp;Install the Computer-Audio Device…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Computerton-Gerät installieren…</translation>
     </message>
     <message>
         <source>A&amp;bout Sonaphex</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Über Sonaphex</translation>
     </message>
     <message>
         <source>Trim</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuschneiden</translation>
     </message>
     <message>
         <source>Ringtone</source>
-        <translation type="unfinished"></translation>
+        <translation>Klingelton</translation>
     </message>
     <message>
         <source>Edit Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Tags bearbeiten</translation>
     </message>
     <message>
         <source>Burn</source>
-        <translation type="unfinished"></translation>
+        <translation>Brennen</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeigen</translation>
     </message>
     <message>
         <source>Open in player</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Player öffnen</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Choose the input, computer audio, or both first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie zuerst den Eingang, den Computerton oder beides.</translation>
     </message>
     <message>
         <source>Nothing is being recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wird nichts aufgenommen.</translation>
     </message>
     <message>
         <source>It is installed already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist bereits installiert.</translation>
     </message>
     <message>
         <source>The device stays as it is until the recording ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gerät bleibt bis zum Ende der Aufnahme, wie es ist.</translation>
     </message>
     <message>
         <source>The sources stay as they are until the recording ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Quellen bleiben bis zum Ende der Aufnahme, wie sie sind.</translation>
     </message>
     <message>
         <source>&amp;Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pause</translation>
     </message>
     <message>
         <source>Nothing is playing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wird nichts wiedergegeben.</translation>
     </message>
     <message>
         <source>&amp;Answer the Notice</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Hinweis &amp;reagieren</translation>
     </message>
     <message>
         <source>&amp;Answer the Notice: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Hinweis &amp;reagieren: %1</translation>
     </message>
     <message>
         <source>There is no other notice.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen weiteren Hinweis.</translation>
     </message>
     <message>
         <source>This notice offers nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Hinweis bietet nichts an.</translation>
     </message>
     <message>
         <source>There is no notice.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Hinweis.</translation>
     </message>
     <message>
         <source>Select a recording first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie zuerst eine Aufnahme aus.</translation>
     </message>
     <message>
         <source>Select a recording first. Nothing is played while recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie zuerst eine Aufnahme aus. Während der Aufnahme wird nichts wiedergegeben.</translation>
     </message>
     <message>
         <source>Arrives in a later version of Sonaphex.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommt in einer späteren Version von Sonaphex.</translation>
     </message>
     <message>
         <source>There is nothing in this list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Liste ist leer.</translation>
     </message>
     <message>
         <source>About Sonaphex</source>
-        <translation type="unfinished"></translation>
+        <translation>Über Sonaphex</translation>
     </message>
     <message>
         <source>Sonaphex %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonaphex %1</translation>
     </message>
     <message>
         <source>Records what the computer plays, what a microphone hears, or both.
 
 © 2026 The Sonaphex authors. Free software under the GNU General Public License, version 3 or later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt auf, was der Computer wiedergibt, was ein Mikrofon hört, oder beides.
+
+© 2026 Die Sonaphex-Autoren. Freie Software unter der GNU General Public License, Version 3 oder neuer.</translation>
     </message>
 </context>
 <context>
     <name>MainWnd</name>
     <message>
         <source>Start or stop recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme starten oder stoppen</translation>
     </message>
     <message>
         <source>Pause or resume recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme pausieren oder fortsetzen</translation>
     </message>
     <message>
         <source>Cut to another recording</source>
-        <translation type="unfinished"></translation>
+        <translation>In neuer Aufnahme fortfahren</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeige</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eingang</translation>
     </message>
     <message>
         <source>Record the chosen input device</source>
-        <translation type="unfinished"></translation>
+        <translation>Das gewählte Eingabegerät aufnehmen</translation>
     </message>
     <message>
         <source>Record the input device</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Eingabegerät aufnehmen</translation>
     </message>
     <message>
         <source>Input device</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingabegerät</translation>
     </message>
     <message>
         <source>&amp;Computer audio</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Computerton</translation>
     </message>
     <message>
         <source>Record what the computer plays</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnehmen, was der Computer wiedergibt</translation>
     </message>
     <message>
         <source>Record computer audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Computerton aufnehmen</translation>
     </message>
     <message>
         <source>Lost frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlorene Frames</translation>
     </message>
     <message>
         <source>Library</source>
-        <translation type="unfinished"></translation>
+        <translation>Bibliothek</translation>
     </message>
     <message>
         <source>Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahmen</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Status</translation>
     </message>
 </context>
 <context>
     <name>MainWndController</name>
     <message>
         <source>The computer-audio device is installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Computerton-Gerät ist installiert.</translation>
     </message>
     <message>
         <source>The computer-audio device is installed. What the computer plays is recorded from now on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Computerton-Gerät ist installiert. Was der Computer wiedergibt, wird ab jetzt aufgenommen.</translation>
     </message>
     <message>
         <source>“%1” was not added: it is shorter than %2 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wurde nicht hinzugefügt: kürzer als %2 s.</translation>
     </message>
     <message>
         <source>%1 selected, %2 together</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ausgewählt, zusammen %2</translation>
     </message>
     <message>
         <source>No title, artist or album here has “%1” in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Titel, Interpret oder Album hier enthält „%1“.</translation>
     </message>
     <message>
         <source>The recording appears here when it has ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufnahme erscheint hier, wenn sie beendet ist.</translation>
     </message>
     <message>
         <source>Nothing here yet. Press the red button to make your first recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nichts da. Klicken Sie auf den roten Knopf, um Ihre erste Aufnahme zu machen.</translation>
     </message>
     <message>
         <source>Ringtones that you make of your recordings appear here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klingeltöne, die Sie aus Ihren Aufnahmen erstellen, erscheinen hier.</translation>
     </message>
     <message>
         <source>Recordings that you make now appear here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahmen, die Sie jetzt machen, erscheinen hier.</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe</translation>
     </message>
 </context>
 <context>
     <name>Media</name>
     <message>
         <source>cannot be read from the beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>kann nicht von Anfang an gelesen werden</translation>
     </message>
     <message>
         <source>audio files cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Audiodateien können nicht gelesen werden: %1</translation>
     </message>
     <message>
         <source>out of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht genug Arbeitsspeicher</translation>
     </message>
     <message>
         <source>cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>not an audio file, or too damaged to be read</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Audiodatei oder zu stark beschädigt, um gelesen zu werden</translation>
     </message>
     <message>
         <source>the file contains no audio</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei enthält kein Audio</translation>
     </message>
     <message>
         <source>its audio format is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>das Audioformat wird nicht unterstützt</translation>
     </message>
     <message>
         <source>no decoder for its audio format</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Decoder für das Audioformat</translation>
     </message>
     <message>
         <source>its audio cannot be decoded</source>
-        <translation type="unfinished"></translation>
+        <translation>das Audio kann nicht dekodiert werden</translation>
     </message>
     <message>
         <source>damaged at frame %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>beschädigt bei Frame %1 (%2)</translation>
     </message>
     <message>
         <source>channels that cannot be mixed</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanäle, die nicht gemischt werden können</translation>
     </message>
     <message>
         <source>not a finished recording of Sonaphex</source>
-        <translation type="unfinished"></translation>
+        <translation>keine fertiggestellte Aufnahme von Sonaphex</translation>
     </message>
     <message>
         <source>its index is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>der Index ist beschädigt</translation>
     </message>
     <message>
         <source>the file is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei ist leer</translation>
     </message>
     <message>
         <source>the AAC encoder failed</source>
-        <translation type="unfinished"></translation>
+        <translation>der AAC-Encoder ist fehlgeschlagen</translation>
     </message>
     <message>
         <source>the encoder is missing: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>der Encoder fehlt: %1</translation>
     </message>
     <message>
         <source>the encoder does not take this rate or channel count</source>
-        <translation type="unfinished"></translation>
+        <translation>der Encoder nimmt diese Abtastrate oder Kanalzahl nicht an</translation>
     </message>
     <message>
         <source>the rate cannot be converted</source>
-        <translation type="unfinished"></translation>
+        <translation>die Abtastrate kann nicht umgewandelt werden</translation>
     </message>
     <message>
         <source>not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>keine reguläre Datei</translation>
     </message>
     <message>
         <source>this format cannot be written</source>
-        <translation type="unfinished"></translation>
+        <translation>dieses Format kann nicht geschrieben werden</translation>
     </message>
     <message>
         <source>too deeply nested</source>
-        <translation type="unfinished"></translation>
+        <translation>zu tief verschachtelt</translation>
     </message>
     <message>
         <source>a box of impossible size</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Box von unmöglicher Größe</translation>
     </message>
     <message>
         <source>too many boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>zu viele Boxen</translation>
     </message>
     <message>
         <source>a box larger than the one around it</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Box, die größer als die umgebende ist</translation>
     </message>
     <message>
         <source>a table that is larger than its box</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Tabelle, die größer als ihre Box ist</translation>
     </message>
     <message>
         <source>not an MPEG-4 file</source>
-        <translation type="unfinished"></translation>
+        <translation>keine MPEG-4-Datei</translation>
     </message>
     <message>
         <source>the file ends within its index</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei endet innerhalb ihres Index</translation>
     </message>
     <message>
         <source>the file has no index</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei hat keinen Index</translation>
     </message>
     <message>
         <source>a packet of the recording cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Paket der Aufnahme kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>stopped before the end</source>
-        <translation type="unfinished"></translation>
+        <translation>vor dem Ende abgebrochen</translation>
     </message>
     <message>
         <source>%1 cannot be played</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht wiedergegeben werden</translation>
     </message>
     <message>
         <source>the sound server went away</source>
-        <translation type="unfinished"></translation>
+        <translation>die Verbindung zum Soundserver ist abgebrochen</translation>
     </message>
     <message>
         <source>no sound server answers: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Soundserver antwortet: %1</translation>
     </message>
     <message>
         <source>the sound server refused the stream</source>
-        <translation type="unfinished"></translation>
+        <translation>der Soundserver hat den Datenstrom verweigert</translation>
     </message>
     <message>
         <source>its tags cannot be written</source>
-        <translation type="unfinished"></translation>
+        <translation>die Tags können nicht geschrieben werden</translation>
     </message>
     <message>
         <source>cannot write the tags of %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>die Tags von %1 können nicht geschrieben werden: %2</translation>
     </message>
     <message>
         <source>cannot read the tags of %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>die Tags von %1 können nicht gelesen werden: %2</translation>
     </message>
     <message>
         <source>its tags cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>die Tags können nicht gelesen werden</translation>
     </message>
     <message>
         <source>cannot read the image %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>das Bild %1 kann nicht gelesen werden: %2</translation>
     </message>
     <message>
         <source>%1 is neither a JPEG nor a PNG image</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist weder ein JPEG- noch ein PNG-Bild</translation>
     </message>
     <message>
         <source>cannot write the artwork of %1 to %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>das Cover von %1 kann nicht nach %2 geschrieben werden: %3</translation>
     </message>
     <message>
         <source>another program is changing it</source>
-        <translation type="unfinished"></translation>
+        <translation>ein anderes Programm ändert die Datei gerade</translation>
     </message>
     <message>
         <source>its index cannot hold more</source>
-        <translation type="unfinished"></translation>
+        <translation>der Index fasst nicht mehr</translation>
     </message>
     <message>
         <source>the file is cut off</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei ist abgeschnitten</translation>
     </message>
     <message>
         <source>its index is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>der Index ist zu groß</translation>
     </message>
     <message>
         <source>it cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>that path is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>dieser Pfad ist keine reguläre Datei</translation>
     </message>
     <message>
         <source>its last box has no size</source>
-        <translation type="unfinished"></translation>
+        <translation>die letzte Box hat keine Größe</translation>
     </message>
 </context>
 <context>
     <name>MediaLibrary</name>
     <message>
         <source>Record Library</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahmen</translation>
     </message>
     <message>
         <source>Newly Recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Aufnahmen</translation>
     </message>
     <message>
         <source>All Recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Aufnahmen</translation>
     </message>
     <message>
         <source>Ringtone Library</source>
-        <translation type="unfinished"></translation>
+        <translation>Klingeltöne</translation>
     </message>
     <message>
         <source>Newly Ringtone</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Klingeltöne</translation>
     </message>
     <message>
         <source>All Ringtone</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Klingeltöne</translation>
     </message>
 </context>
 <context>
     <name>Platform::PortalAutostart</name>
     <message>
         <source>Sonaphex waits in the status bar.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonaphex wartet in der Systemleiste.</translation>
     </message>
     <message>
         <source>the desktop did not allow it</source>
-        <translation type="unfinished"></translation>
+        <translation>der Desktop hat es nicht erlaubt</translation>
     </message>
 </context>
 <context>
     <name>PreferenceWnd</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>&amp;Recordings:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aufnahmen:</translation>
     </message>
     <message>
         <source>Folder of recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner der Aufnahmen</translation>
     </message>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswählen…</translation>
     </message>
     <message>
         <source>Choose the folder of recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Ordner der Aufnahmen auswählen</translation>
     </message>
     <message>
         <source>Sho&amp;w</source>
-        <translation type="unfinished"></translation>
+        <translation>An&amp;zeigen</translation>
     </message>
     <message>
         <source>Show the folder of recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Ordner der Aufnahmen anzeigen</translation>
     </message>
     <message>
         <source>Rin&amp;gtones:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Klingeltöne:</translation>
     </message>
     <message>
         <source>Folder of ringtones</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner der Klingeltöne</translation>
     </message>
     <message>
         <source>Choose the folder of ringtones</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Ordner der Klingeltöne auswählen</translation>
     </message>
     <message>
         <source>S&amp;how</source>
-        <translation type="unfinished"></translation>
+        <translation>Anz&amp;eigen</translation>
     </message>
     <message>
         <source>Show the folder of ringtones</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Ordner der Klingeltöne anzeigen</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme</translation>
     </message>
     <message>
         <source>&amp;Split computer audio at a silence of</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Computerton teilen bei Stille von</translation>
     </message>
     <message>
         <source>Split computer audio at silences</source>
-        <translation type="unfinished"></translation>
+        <translation>Computerton bei Stille teilen</translation>
     </message>
     <message>
         <source>Length of silence in milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge der Stille in Millisekunden</translation>
     </message>
     <message>
         <source>milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Millisekunden</translation>
     </message>
     <message>
         <source>&amp;Leave out recordings shorter than</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahmen &amp;verwerfen unter</translation>
     </message>
     <message>
         <source>Leave out short recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurze Aufnahmen verwerfen</translation>
     </message>
     <message>
         <source>Shortest recording in seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Kürzeste Aufnahme in Sekunden</translation>
     </message>
     <message>
         <source>seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden</translation>
     </message>
     <message>
         <source>&amp;Begin before the first sound by</source>
-        <translation type="unfinished"></translation>
+        <translation>Vor dem ersten Ton &amp;beginnen um</translation>
     </message>
     <message>
         <source>Time before the first sound in milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit vor dem ersten Ton in Millisekunden</translation>
     </message>
     <message>
         <source>A recording of computer audio waits for the first sound. It then contains this much of the time before it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Aufnahme des Computertons wartet auf den ersten Ton. Sie enthält dann so viel von der Zeit davor.</translation>
     </message>
     <message>
         <source>Computer audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Computerton</translation>
     </message>
     <message>
         <source>State of the computer-audio device</source>
-        <translation type="unfinished"></translation>
+        <translation>Status des Computerton-Geräts</translation>
     </message>
     <message>
         <source>&amp;Install</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Installieren</translation>
     </message>
     <message>
         <source>Install the computer-audio device</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Computerton-Gerät installieren</translation>
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation type="unfinished"></translation>
+        <translation>En&amp;tfernen</translation>
     </message>
     <message>
         <source>Remove the computer-audio device</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Computerton-Gerät entfernen</translation>
     </message>
     <message>
         <source>Working on the computer-audio device</source>
-        <translation type="unfinished"></translation>
+        <translation>Arbeit am Computerton-Gerät läuft</translation>
     </message>
     <message>
         <source>Problem of the computer-audio device</source>
-        <translation type="unfinished"></translation>
+        <translation>Problem des Computerton-Geräts</translation>
     </message>
     <message>
         <source>Shortcuts from any program</source>
-        <translation type="unfinished"></translation>
+        <translation>Globale Tastenkürzel</translation>
     </message>
     <message>
         <source>Star&amp;t or stop:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Start oder Stopp:</translation>
     </message>
     <message>
         <source>Shortcut for start and stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenkürzel für Start und Stopp</translation>
     </message>
     <message>
         <source>&amp;Pause or resume:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pause oder weiter:</translation>
     </message>
     <message>
         <source>Shortcut for pause and resume</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenkürzel für Pause und Fortsetzen</translation>
     </message>
     <message>
         <source>&amp;New recording:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neue Aufnahme:</translation>
     </message>
     <message>
         <source>Shortcut for a new recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenkürzel für eine neue Aufnahme</translation>
     </message>
     <message>
         <source>Use the &amp;Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Stan&amp;dard verwenden</translation>
     </message>
     <message>
         <source>Use the default shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Standard-Tastenkürzel verwenden</translation>
     </message>
     <message>
         <source>How to bind keys on this desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasten auf diesem Desktop belegen</translation>
     </message>
     <message>
         <source>Commands to bind</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuzuweisende Befehle</translation>
     </message>
     <message>
         <source>Desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Desktop</translation>
     </message>
     <message>
         <source>N&amp;otify when a recording ends in the background</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende einer Aufnahme im Hintergrund &amp;melden</translation>
     </message>
     <message>
         <source>Notify when a recording ends in the background</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende einer Aufnahme im Hintergrund melden</translation>
     </message>
     <message>
         <source>A notification tells of finished and cut recordings, and of problems, while the window is not in front.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Benachrichtigung meldet fertige und geteilte Aufnahmen sowie Probleme, solange das Fenster nicht im Vordergrund ist.</translation>
     </message>
     <message>
         <source>St&amp;art with the desktop, hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Anmelden verborgen sta&amp;rten</translation>
     </message>
     <message>
         <source>Start with the desktop, hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Anmelden verborgen starten</translation>
     </message>
     <message>
         <source>Sonaphex waits in the status bar after you log in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonaphex wartet nach Ihrer Anmeldung in der Systemleiste.</translation>
     </message>
 </context>
 <context>
     <name>PreferenceWndController</name>
     <message>
         <source>Start or stop the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufnahme starten oder stoppen</translation>
     </message>
     <message>
         <source>Pause or resume the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufnahme pausieren oder fortsetzen</translation>
     </message>
     <message>
         <source>Start a new recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine neue Aufnahme beginnen</translation>
     </message>
     <message>
         <source>Sonaphex cannot be started with the desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonaphex kann nicht beim Anmelden gestartet werden.</translation>
     </message>
     <message>
         <source>Sonaphex is still started with the desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonaphex wird weiterhin beim Anmelden gestartet.</translation>
     </message>
     <message>
         <source>Choose</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswählen</translation>
     </message>
     <message>
         <source>Nothing is split at a silence: check the box first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei Stille wird nicht geteilt: haken Sie zuerst das Kästchen an.</translation>
     </message>
     <message>
         <source>All recordings are kept: check the box first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Aufnahmen werden behalten: haken Sie zuerst das Kästchen an.</translation>
     </message>
     <message>
         <source>Installing the computer-audio device…</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Computerton-Gerät wird installiert…</translation>
     </message>
     <message>
         <source>Removing the computer-audio device…</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Computerton-Gerät wird entfernt…</translation>
     </message>
     <message>
         <source>The computer-audio device is installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Computerton-Gerät ist installiert.</translation>
     </message>
     <message>
         <source>The computer-audio device is not installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Computerton-Gerät ist nicht installiert.</translation>
     </message>
     <message>
         <source>It is installed already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist bereits installiert.</translation>
     </message>
     <message>
         <source>There is nothing to remove.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt nichts zu entfernen.</translation>
     </message>
     <message>
         <source>This desktop does not allow global shortcuts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Desktop erlaubt keine globalen Tastenkürzel.</translation>
     </message>
     <message>
         <source>This desktop does not allow global shortcuts. Bind these commands to keys in the desktop&apos;s own keyboard settings:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Desktop erlaubt keine globalen Tastenkürzel. Weisen Sie diesen Befehlen in den Tastatureinstellungen des Desktops Tasten zu:</translation>
     </message>
     <message>
         <source>Warning:</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung:</translation>
     </message>
     <message>
         <source>You cannot save files in the folder. Read and write privilege is needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie können in diesem Ordner keine Dateien speichern. Lese- und Schreibrechte sind erforderlich.</translation>
     </message>
     <message>
         <source>Can not insert the system audio device, Please try it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das System-Audiogerät kann nicht eingerichtet werden, bitte versuchen Sie es noch einmal.</translation>
     </message>
 </context>
 <context>
     <name>ProcessWnd</name>
     <message>
         <source>Burn Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Brennfortschritt</translation>
     </message>
     <message>
         <source>Burn progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Brennfortschritt</translation>
     </message>
     <message>
         <source>Burn state</source>
-        <translation type="unfinished"></translation>
+        <translation>Brennstatus</translation>
     </message>
 </context>
 <context>
     <name>ProcessWndController</name>
     <message>
         <source>A burn cannot be stopped before it has written 4 %.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Brennen kann erst abgebrochen werden, wenn 4 % geschrieben sind.</translation>
     </message>
     <message>
         <source>Stops the burn; the disc is then unusable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bricht das Brennen ab; die Disc ist danach unbrauchbar.</translation>
     </message>
     <message>
         <source>Burn Progress:</source>
-        <translation type="unfinished"></translation>
+        <translation>Brennfortschritt:</translation>
     </message>
     <message>
         <source>Warning:</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung:</translation>
     </message>
     <message>
         <source>Are you sure to end the task?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie den Vorgang wirklich beenden?</translation>
     </message>
     <message>
         <source>Please waiting a moment ...</source>
@@ -3225,327 +3234,329 @@ commands:
     <name>QObject</name>
     <message>
         <source>The sound server does not answer yet. Waiting for it…</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Soundserver antwortet noch nicht. Warten auf den Server…</translation>
     </message>
     <message>
         <source>Do Not Wait</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht warten</translation>
     </message>
     <message>
         <source>The device stays as it is until the recording ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gerät bleibt bis zum Ende der Aufnahme, wie es ist.</translation>
     </message>
 </context>
 <context>
     <name>Record</name>
     <message>
         <source>%1 cannot be written</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geschrieben werden</translation>
     </message>
     <message>
         <source>Rec..</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufn..</translation>
     </message>
     <message>
         <source>Rec</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufn</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit</translation>
     </message>
     <message>
         <source>Waiting for the first sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Warten auf den ersten Ton</translation>
     </message>
     <message>
         <source>Recording %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme %1</translation>
     </message>
     <message>
         <source>Paused %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pausiert %1</translation>
     </message>
     <message>
         <source>Finishing the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme wird fertiggestellt</translation>
     </message>
     <message>
         <source>         Audio File Converting
          Please Wait ..</source>
-        <translation type="unfinished"></translation>
+        <translation>         Audiodatei wird umgewandelt
+         Bitte warten ..</translation>
     </message>
     <message>
         <source>         Audio File Converting
          Please Wait </source>
-        <translation type="unfinished"></translation>
+        <translation>         Audiodatei wird umgewandelt
+         Bitte warten </translation>
     </message>
     <message>
         <source>%1 and %2</source>
         <comment>two paths</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 und %2</translation>
     </message>
     <message>
         <source>the reason is unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>der Grund ist unbekannt</translation>
     </message>
     <message>
         <source>The recording is kept, and moved by the next start when there is room, at</source>
         <comment>a path follows</comment>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufnahme bleibt erhalten und wird beim nächsten Start verschoben, wenn genug Platz ist. Sie liegt unter</translation>
     </message>
     <message>
         <source>The recording is kept at</source>
         <comment>a path follows</comment>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufnahme bleibt erhalten unter</translation>
     </message>
     <message>
         <source>It is kept, and moved by the next start when there is room, at</source>
         <comment>the source of a recording; a path follows</comment>
-        <translation type="unfinished"></translation>
+        <translation>Sie bleibt erhalten und wird beim nächsten Start verschoben, wenn genug Platz ist. Sie liegt unter</translation>
     </message>
     <message>
         <source>It is kept at</source>
         <comment>the source of a recording; a path follows</comment>
-        <translation type="unfinished"></translation>
+        <translation>Sie bleibt erhalten unter</translation>
     </message>
     <message>
         <source>What it was made from is kept, and moved by the next start when there is room, at</source>
         <comment>a path follows</comment>
-        <translation type="unfinished"></translation>
+        <translation>Das Ausgangsmaterial bleibt erhalten und wird beim nächsten Start verschoben, wenn genug Platz ist. Es liegt unter</translation>
     </message>
     <message>
         <source>What it was made from is kept at</source>
         <comment>a path follows</comment>
-        <translation type="unfinished"></translation>
+        <translation>Das Ausgangsmaterial bleibt erhalten unter</translation>
     </message>
     <message>
         <source>A part of the recording could not be written (error %1). What was written is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Teil der Aufnahme konnte nicht geschrieben werden (Fehler %1). Was geschrieben wurde, bleibt erhalten.</translation>
     </message>
     <message>
         <source>%1: %2 could not be saved in “%3”.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 konnte nicht in „%3“ gespeichert werden.</translation>
     </message>
     <message>
         <source>%1 could not be finished: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht fertiggestellt werden: %2.</translation>
     </message>
     <message>
         <source>One source of %1 could not be read (%2) and is missing in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Quelle von %1 konnte nicht gelesen werden (%2) und fehlt darin.</translation>
     </message>
     <message>
         <source>%1 could not be mixed: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht gemischt werden: %2.</translation>
     </message>
     <message>
         <source>The disk is nearly full: %1 could not be mixed, which needs %2 MB; %3 MB are left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenträger ist fast voll: %1 konnte nicht gemischt werden, dafür sind %2 MB nötig; %3 MB sind noch frei.</translation>
     </message>
     <message>
         <source>%1 could not be encoded: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht kodiert werden: %2.</translation>
     </message>
     <message>
         <source>A part of %1 could not be read (%2) and is missing in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Teil von %1 konnte nicht gelesen werden (%2) und fehlt darin.</translation>
     </message>
     <message>
         <source>%1 could not be tagged. Its audio is complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht mit Tags versehen werden. Der Ton ist vollständig.</translation>
     </message>
     <message>
         <source>less than a minute</source>
-        <translation type="unfinished"></translation>
+        <translation>weniger als eine Minute</translation>
     </message>
     <message>
         <source>about 1 minute</source>
-        <translation type="unfinished"></translation>
+        <translation>etwa 1 Minute</translation>
     </message>
     <message numerus="yes">
         <source>about %n minutes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>etwa %n Minute</numerusform>
+            <numerusform>etwa %n Minuten</numerusform>
         </translation>
     </message>
     <message>
         <source>Waring:</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung:</translation>
     </message>
     <message>
         <source>The application is reading your USB headset data, please do not unplug your USB headset, if you want to unplug your USB headset please turn off this application first， Otherwise give your computer some trouble.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Programm liest gerade Daten von Ihrem USB-Headset, bitte ziehen Sie es nicht ab. Wenn Sie Ihr USB-Headset abziehen möchten, beenden Sie bitte zuerst dieses Programm, sonst kann es auf Ihrem Computer zu Problemen kommen.</translation>
     </message>
     <message>
         <source>%1 cannot be opened: %2. Nothing is heard from it until it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geöffnet werden: %2. Solange das so bleibt, ist davon nichts zu hören.</translation>
     </message>
     <message>
         <source>%1 is gone. There is no other input device: connect one.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nicht mehr da. Es gibt kein anderes Eingabegerät: schließen Sie eines an.</translation>
     </message>
     <message>
         <source>%1 is gone. %2 takes its place until it is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nicht mehr da. %2 dient bis zur Rückkehr als Ersatz.</translation>
     </message>
     <message>
         <source>The input device</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Eingabegerät</translation>
     </message>
     <message>
         <source>the input device</source>
-        <translation type="unfinished"></translation>
+        <translation>das Eingabegerät</translation>
     </message>
     <message>
         <source>Computer audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Computerton</translation>
     </message>
     <message>
         <source>computer audio</source>
-        <translation type="unfinished"></translation>
+        <translation>der Computerton</translation>
     </message>
     <message>
         <source>Add-on required to record the system audio.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Aufnehmen des System-Audios ist eine Erweiterung erforderlich.</translation>
     </message>
     <message>
         <source>KorvanAudioDevice is easy to use, it simply accept system audio data, allowing any audio application to send and receive audio with no other support needed. KorvanAudioDevice is free, and runs on Linux computers. This driver will only be used by Sonaphex.</source>
-        <translation type="unfinished"></translation>
+        <translation>KorvanAudioDevice ist einfach zu benutzen: Es nimmt System-Audiodaten entgegen, sodass jedes Audioprogramm ohne weitere Hilfsmittel Ton senden und empfangen kann. KorvanAudioDevice ist kostenlos und läuft auf Linux-Computern. Dieser Treiber wird nur von Sonaphex benutzt.</translation>
     </message>
     <message>
         <source>Install</source>
-        <translation type="unfinished"></translation>
+        <translation>Installieren</translation>
     </message>
     <message>
         <source>Please stop your recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte stoppen Sie Ihre Aufnahme.</translation>
     </message>
     <message>
         <source>Stop Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme stoppen</translation>
     </message>
     <message>
         <source>Start Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme starten</translation>
     </message>
     <message>
         <source>Pause Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme pausieren</translation>
     </message>
     <message>
         <source>Nothing is being recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wird nichts aufgenommen</translation>
     </message>
     <message>
         <source>The input device does not deliver. Nothing is recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Eingabegerät liefert nichts. Es wird nichts aufgenommen.</translation>
     </message>
     <message>
         <source>Computer audio does not deliver. Nothing is recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Computerton liefert nichts. Es wird nichts aufgenommen.</translation>
     </message>
     <message>
         <source>There is no input device. Nothing is recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein Eingabegerät. Es wird nichts aufgenommen.</translation>
     </message>
     <message>
         <source>The input device does not deliver (%1). Nothing is recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Eingabegerät liefert nichts (%1). Es wird nichts aufgenommen.</translation>
     </message>
     <message>
         <source>%1 is off: it did not start. This recording goes without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist aus: Start fehlgeschlagen. Diese Aufnahme läuft ohne diese Quelle.</translation>
     </message>
     <message>
         <source>%1 is off: it did not start (%2). This recording goes without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist aus: Start fehlgeschlagen (%2). Diese Aufnahme läuft ohne diese Quelle.</translation>
     </message>
     <message>
         <source>%1 is not being recorded: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird nicht aufgenommen: %2.</translation>
     </message>
     <message>
         <source>The recording could not be split (%1). It continues in the same file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufnahme konnte nicht geteilt werden (%1). Sie geht in derselben Datei weiter.</translation>
     </message>
     <message>
         <source>The sound server</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Soundserver</translation>
     </message>
     <message>
         <source>%1 went away. The wait for the first sound continues when it is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist ausgefallen. Das Warten auf den ersten Ton geht nach der Rückkehr weiter.</translation>
     </message>
     <message>
         <source>%1 went away. The recording so far is kept and continues when it is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist ausgefallen. Die bisherige Aufnahme bleibt erhalten und geht nach der Rückkehr weiter.</translation>
     </message>
     <message>
         <source>%1 is back. The wait for the first sound goes on.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist wieder da. Das Warten auf den ersten Ton geht weiter.</translation>
     </message>
     <message>
         <source>%1 s are missing: %2 was away. The recording goes on.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s fehlen: %2 war weg. Die Aufnahme geht weiter.</translation>
     </message>
     <message>
         <source>%1 s are missing (%2 frames): the computer was too busy to take them.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s fehlen (%2 Frames): der Computer war zu stark ausgelastet, um sie anzunehmen.</translation>
     </message>
     <message>
         <source>The disk is full. Nothing more is recorded until there is room; what was recorded is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenträger ist voll. Es wird nichts mehr aufgenommen, bis Platz ist; das Aufgenommene bleibt erhalten.</translation>
     </message>
     <message>
         <source>%1. Nothing more is recorded; what was recorded is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Es wird nichts mehr aufgenommen; das Aufgenommene bleibt erhalten.</translation>
     </message>
     <message>
         <source>Computer audio has been silent for %1 s: nothing plays.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Computerton ist seit %1 s still: es wird nichts wiedergegeben.</translation>
     </message>
     <message>
         <source>Computer audio has been silent for %1 s: nothing plays on %2, the output that is recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Computerton ist seit %1 s still: es wird nichts auf %2 wiedergegeben, dem aufgenommenen Ausgang.</translation>
     </message>
     <message>
         <source>The input device is muted: only silence has been recorded for %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Eingabegerät ist stummgeschaltet: seit %1 s wird nur Stille aufgenommen.</translation>
     </message>
     <message>
         <source>The input device has delivered only silence for %1 s. It may be switched off, or the wrong one: another one can be chosen when the recording is stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Eingabegerät liefert seit %1 s nur Stille. Vielleicht ist es ausgeschaltet oder das falsche: ein anderes kann gewählt werden, wenn die Aufnahme gestoppt ist.</translation>
     </message>
     <message>
         <source>The disk is nearly full: there is room for %1 of recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenträger ist fast voll: noch Platz für %1 Aufnahme.</translation>
     </message>
     <message>
         <source>%1 s are missing: the disk was full. The recording went on in another file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s fehlen: der Datenträger war voll. Die Aufnahme ging in einer anderen Datei weiter.</translation>
     </message>
     <message>
         <source>An earlier recording could not be finished. It is kept at</source>
         <comment>a path follows</comment>
-        <translation type="unfinished"></translation>
+        <translation>Eine frühere Aufnahme konnte nicht fertiggestellt werden. Sie bleibt erhalten unter</translation>
     </message>
     <message numerus="yes">
         <source>%n earlier recordings could not be finished. They are kept in</source>
         <comment>a path follows</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n frühere Aufnahme konnte nicht fertiggestellt werden. Sie bleibt erhalten in</numerusform>
+            <numerusform>%n frühere Aufnahmen konnten nicht fertiggestellt werden. Sie bleiben erhalten in</numerusform>
         </translation>
     </message>
     <message>
         <source>Resume Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme fortsetzen</translation>
     </message>
     <message>
         <source>the input unit cannot be opened</source>
@@ -3596,128 +3607,128 @@ commands:
     <name>RecordPanel</name>
     <message>
         <source>Nothing is being recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wird nichts aufgenommen.</translation>
     </message>
     <message>
         <source>Choose the input, computer audio, or both first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie zuerst den Eingang, den Computerton oder beides.</translation>
     </message>
     <message>
         <source>Select a recording first. Nothing is played while recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie zuerst eine Aufnahme aus. Während der Aufnahme wird nichts wiedergegeben.</translation>
     </message>
     <message>
         <source>The sources stay as they are until the recording ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Quellen bleiben bis zum Ende der Aufnahme, wie sie sind.</translation>
     </message>
     <message>
         <source>Record the chosen input device</source>
-        <translation type="unfinished"></translation>
+        <translation>Das gewählte Eingabegerät aufnehmen</translation>
     </message>
     <message>
         <source>Record what the computer plays</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnehmen, was der Computer wiedergibt</translation>
     </message>
     <message>
         <source>%1 s lost</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s verloren</translation>
     </message>
     <message>
         <source>No frames lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Frames verloren</translation>
     </message>
     <message>
         <source>%1 frames</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Frames</translation>
     </message>
     <message>
         <source>Nothing is being recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wird nichts aufgenommen</translation>
     </message>
     <message>
         <source>No sound server</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Soundserver</translation>
     </message>
     <message>
         <source>No input device</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Eingabegerät</translation>
     </message>
     <message>
         <source>Waiting for the first sound of computer audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Warten auf den ersten Ton des Computers</translation>
     </message>
     <message>
         <source>No sound server: a test tone is recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Soundserver: ein Testton wird aufgenommen</translation>
     </message>
     <message>
         <source>No device</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Gerät</translation>
     </message>
     <message>
         <source>No input device was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde kein Eingabegerät gefunden.</translation>
     </message>
     <message>
         <source>The input is not recorded: check the box first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Eingang wird nicht aufgenommen: haken Sie zuerst das Kästchen an.</translation>
     </message>
     <message>
         <source>Cut to another recording</source>
-        <translation type="unfinished"></translation>
+        <translation>In neuer Aufnahme fortfahren</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe</translation>
     </message>
     <message>
         <source>%1 – Sonaphex</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – Sonaphex</translation>
     </message>
 </context>
 <context>
     <name>RecordStateController</name>
     <message>
         <source>A recording is running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Aufnahme läuft.</translation>
     </message>
 </context>
 <context>
     <name>RecordingNotifier</name>
     <message>
         <source>“%1” was not kept: it is too short.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wurde nicht behalten: zu kurz.</translation>
     </message>
     <message>
         <source>Recording not kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme nicht behalten</translation>
     </message>
     <message>
         <source>About the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur Aufnahme</translation>
     </message>
     <message>
         <source>Recording cut; the next one runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme geteilt; die nächste läuft</translation>
     </message>
     <message>
         <source>Recording finished</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahme fertig</translation>
     </message>
     <message numerus="yes">
         <source>%n recordings finished</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Aufnahme fertig</numerusform>
+            <numerusform>%n Aufnahmen fertig</numerusform>
         </translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeigen</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Abspielen</translation>
     </message>
 </context>
 <context>
@@ -3751,183 +3762,183 @@ commands:
     <name>RingtoneMaker</name>
     <message>
         <source>%1 cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>no folder for ringtones is known</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist kein Ordner für Klingeltöne bekannt</translation>
     </message>
     <message>
         <source>%1 cannot be written</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geschrieben werden</translation>
     </message>
 </context>
 <context>
     <name>RingtoneMakerBackgroundView</name>
     <message>
         <source>Ringtone</source>
-        <translation type="unfinished"></translation>
+        <translation>Klingelton</translation>
     </message>
 </context>
 <context>
     <name>RingtoneMakerViewController</name>
     <message>
         <source>Outline of the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Wellenform der Aufnahme</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiedergabe</translation>
     </message>
     <message>
         <source>Pre&amp;view</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorhören</translation>
     </message>
     <message>
         <source>Play the selection again and again</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Auswahl immer wieder abspielen</translation>
     </message>
     <message>
         <source>&amp;From</source>
-        <translation type="unfinished"></translation>
+        <translation>V&amp;on</translation>
     </message>
     <message>
         <source>Begin of the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfang der Auswahl</translation>
     </message>
     <message>
         <source>&amp;To</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bis</translation>
     </message>
     <message>
         <source>End of the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende der Auswahl</translation>
     </message>
     <message>
         <source>Length of the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge der Auswahl</translation>
     </message>
     <message>
         <source>Fade &amp;in</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einblenden</translation>
     </message>
     <message>
         <source>Seconds of the fade-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden der Einblendung</translation>
     </message>
     <message>
         <source> s</source>
-        <translation type="unfinished"></translation>
+        <translation> s</translation>
     </message>
     <message>
         <source>Fade &amp;out</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ausblenden</translation>
     </message>
     <message>
         <source>Seconds of the fade-out</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden der Ausblendung</translation>
     </message>
     <message>
         <source>The boxes are for listening. The ringtone fades over these times; under one second there is no fade.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kästchen gelten für das Anhören. Der Klingelton wird über diese Zeiten ein- und ausgeblendet; unter einer Sekunde entfällt die Blende.</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished"></translation>
+        <translation>Problem</translation>
     </message>
     <message>
         <source>Open in the player when &amp;done</source>
-        <translation type="unfinished"></translation>
+        <translation>Danach im Pla&amp;yer öffnen</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>&amp;Make Ringtone</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Klingelton erstellen</translation>
     </message>
     <message>
         <source>&amp;Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pause</translation>
     </message>
     <message>
         <source>Ringtone from “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Klingelton aus „%1“</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>This recording cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Aufnahme kann nicht gelesen werden: %1</translation>
     </message>
     <message>
         <source>%1 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Sekunden</translation>
     </message>
     <message>
         <source>This recording cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Aufnahme kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>Select a part of the recording first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie zuerst einen Teil der Aufnahme aus.</translation>
     </message>
     <message>
         <source>This recording cannot be played.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Aufnahme kann nicht wiedergegeben werden.</translation>
     </message>
     <message>
         <source>This recording cannot be played: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Aufnahme kann nicht wiedergegeben werden: %1</translation>
     </message>
     <message>
         <source>The ringtone could not be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Klingelton konnte nicht erstellt werden.</translation>
     </message>
     <message>
         <source>The recording is damaged. The ringtone is silent where it could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufnahme ist beschädigt. Der Klingelton ist still, wo sie nicht gelesen werden konnte.</translation>
     </message>
     <message>
         <source>No player could be opened for “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für „%1“ konnte kein Player geöffnet werden.</translation>
     </message>
     <message>
         <source>The ringtone is in the library.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Klingelton ist in der Bibliothek.</translation>
     </message>
 </context>
 <context>
     <name>SearchField</name>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>Search titles, artists and albums</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel, Interpreten und Alben durchsuchen</translation>
     </message>
 </context>
 <context>
     <name>StatusBarItem</name>
     <message>
         <source>Cut to Another Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>In neuer Aufnahme fortfahren</translation>
     </message>
     <message>
         <source>Show Sonaphex</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonaphex anzeigen</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden</translation>
     </message>
     <message>
         <source>Sonaphex: %1</source>
@@ -3938,34 +3949,34 @@ commands:
     <name>TrackListModel</name>
     <message>
         <source>The file is no longer there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist nicht mehr vorhanden.</translation>
     </message>
     <message>
         <source>Only files with a tick are burned</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur angehakte Dateien werden gebrannt</translation>
     </message>
     <message>
         <source>Burn</source>
-        <translation type="unfinished"></translation>
+        <translation>Brennen</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer</translation>
     </message>
 </context>
 <context>
     <name>WaitWnd</name>
     <message>
         <source>Please wait</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte warten</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt</translation>
     </message>
 </context>
 </TS>

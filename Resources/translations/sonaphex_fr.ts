@@ -5,108 +5,108 @@
     <name>AcceptDragImageView</name>
     <message>
         <source>Cover</source>
-        <translation type="unfinished"></translation>
+        <translation>Pochette</translation>
     </message>
     <message>
         <source>No picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune image</translation>
     </message>
     <message>
         <source>A picture; Delete removes it</source>
-        <translation type="unfinished"></translation>
+        <translation>Une image ; Suppr la retire</translation>
     </message>
 </context>
 <context>
     <name>Alerts</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>AppDelegate</name>
     <message>
         <source>The file cannot be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir le fichier.</translation>
     </message>
     <message>
         <source>it is already running</source>
-        <translation type="unfinished"></translation>
+        <translation>il est déjà en cours d’exécution</translation>
     </message>
 </context>
 <context>
     <name>Audio</name>
     <message>
         <source>the device is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>le périphérique est absent</translation>
     </message>
     <message>
         <source>the sound server refused to capture the device</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur de son a refusé la capture du périphérique</translation>
     </message>
     <message>
         <source>%1 is not installed: no sound server answers and none can be started</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est pas installé : aucun serveur de son ne répond et aucun ne peut être démarré</translation>
     </message>
     <message>
         <source>the private sound server did not start</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur de son privé n’a pas démarré</translation>
     </message>
     <message>
         <source>the private sound server came up without its devices</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur de son privé a démarré sans ses périphériques</translation>
     </message>
     <message>
         <source>no sound server answers: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun serveur de son ne répond : %1</translation>
     </message>
     <message>
         <source>the sound server went away</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur de son a disparu</translation>
     </message>
     <message>
         <source>this unit captures only</source>
-        <translation type="unfinished"></translation>
+        <translation>cette unité ne sait que capturer</translation>
     </message>
     <message>
         <source>the unit is running</source>
-        <translation type="unfinished"></translation>
+        <translation>l’unité est en marche</translation>
     </message>
     <message>
         <source>there is no device number %1</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas de périphérique numéro %1</translation>
     </message>
     <message>
         <source>%1 has no input</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’a pas d’entrée</translation>
     </message>
     <message>
         <source>no device is set</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun périphérique n’est défini</translation>
     </message>
     <message>
         <source>the unit delivers 32-bit float, one buffer a channel, at the device&apos;s rate only</source>
-        <translation type="unfinished"></translation>
+        <translation>l’unité ne fournit que des flottants 32 bits, un tampon par canal, à la fréquence du périphérique</translation>
     </message>
     <message>
         <source>no device or no callback is set</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun périphérique ou aucune fonction de rappel n’est défini</translation>
     </message>
     <message>
         <source>the input is not enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>l’entrée n’est pas activée</translation>
     </message>
     <message>
         <source>the unit is not initialised</source>
-        <translation type="unfinished"></translation>
+        <translation>l’unité n’est pas initialisée</translation>
     </message>
     <message>
         <source>the sound server accepts connections but does not answer. Restart it (systemctl --user restart pipewire) and try again</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur de son accepte les connexions mais ne répond pas. Redémarrez-le (systemctl --user restart pipewire) et réessayez</translation>
     </message>
     <message>
         <source>the stream failed</source>
@@ -125,182 +125,182 @@
     <name>AudioDataSourceView</name>
     <message>
         <source>&amp;Tick or Untick</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cocher ou décocher</translation>
     </message>
     <message>
         <source>Move &amp;Up</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Monter</translation>
     </message>
     <message>
         <source>Move &amp;Down</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Descendre</translation>
     </message>
     <message>
         <source>&amp;Remove from This List</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Retirer de cette liste</translation>
     </message>
     <message>
         <source>The file itself stays</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier lui-même est conservé</translation>
     </message>
     <message>
         <source>No music yet. Press “Add Files…” or drop sound files here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore de musique. Cliquez sur « Ajouter des fichiers… » ou déposez ici des fichiers audio.</translation>
     </message>
 </context>
 <context>
     <name>AudioEditTimeView</name>
     <message>
         <source>Play position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position de lecture</translation>
     </message>
 </context>
 <context>
     <name>AudioFilterController</name>
     <message>
         <source>Short Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements courts</translation>
     </message>
     <message>
         <source>Recordings of at &amp;most</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements d’au &amp;plus</translation>
     </message>
     <message>
         <source>0 shows every recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>0 affiche tous les enregistrements.</translation>
     </message>
     <message>
         <source>Recordings of at most this many seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements d’au plus ce nombre de secondes</translation>
     </message>
     <message>
         <source> seconds</source>
-        <translation type="unfinished"></translation>
+        <translation> secondes</translation>
     </message>
     <message>
         <source>Short recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements courts</translation>
     </message>
     <message>
         <source>Ticked recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements cochés</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Supprimer</translation>
     </message>
     <message>
         <source>%1 ticked, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Cochés : %1 (%2)</translation>
     </message>
     <message>
         <source>Do you want to move these items to the trash?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous mettre ces éléments à la corbeille ?</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
 </context>
 <context>
     <name>AudioPlayProgressView</name>
     <message>
         <source>Playback position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position de lecture</translation>
     </message>
 </context>
 <context>
     <name>AudioPointerLineView</name>
     <message>
         <source>Play pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Curseur de lecture</translation>
     </message>
 </context>
 <context>
     <name>AudioRecordWaveView</name>
     <message>
         <source>Level history</source>
-        <translation type="unfinished"></translation>
+        <translation>Historique du niveau</translation>
     </message>
 </context>
 <context>
     <name>AudioRowDelegate</name>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
 </context>
 <context>
     <name>AudioTableModel</name>
     <message>
         <source>The file is no longer there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n’existe plus.</translation>
     </message>
     <message>
         <source>Playing</source>
-        <translation type="unfinished"></translation>
+        <translation>En lecture</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>État</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
     <message>
         <source>Artist</source>
-        <translation type="unfinished"></translation>
+        <translation>Artiste</translation>
     </message>
     <message>
         <source>Album</source>
-        <translation type="unfinished"></translation>
+        <translation>Album</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Chemin</translation>
     </message>
 </context>
 <context>
     <name>AudioTrimEditView</name>
     <message>
         <source>Range to keep</source>
-        <translation type="unfinished"></translation>
+        <translation>Plage à conserver</translation>
     </message>
 </context>
 <context>
     <name>AudioTrimSave</name>
     <message>
         <source>The file “%1” is no longer there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier « %1 » n’existe plus.</translation>
     </message>
     <message>
         <source>The file “%1” is still being recorded to.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier « %1 » est encore en cours d’enregistrement.</translation>
     </message>
     <message>
         <source>The range is shorter than a tenth of a second.</source>
-        <translation type="unfinished"></translation>
+        <translation>La plage dure moins d’un dixième de seconde.</translation>
     </message>
     <message>
         <source>There is no room left on the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a plus de place sur le disque.</translation>
     </message>
     <message>
         <source>The tags could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire les étiquettes.</translation>
     </message>
     <message>
         <source>the new file</source>
@@ -315,110 +315,110 @@
     <name>AudioTrimWnd</name>
     <message>
         <source>Trim</source>
-        <translation type="unfinished"></translation>
+        <translation>Rogner</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement</translation>
     </message>
     <message>
         <source>Play time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps de lecture</translation>
     </message>
     <message>
         <source>Begin of the range</source>
-        <translation type="unfinished"></translation>
+        <translation>Début de la plage</translation>
     </message>
     <message>
         <source>Length of the range</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée de la plage</translation>
     </message>
     <message>
         <source>End of the range</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin de la plage</translation>
     </message>
     <message>
         <source>Set here</source>
-        <translation type="unfinished"></translation>
+        <translation>Placer ici</translation>
     </message>
     <message>
         <source>Move the begin of the range to the play position</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer le début de la plage à la position de lecture</translation>
     </message>
     <message>
         <source>Move the end of the range to the play position</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer la fin de la plage à la position de lecture</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire</translation>
     </message>
     <message>
         <source>P&amp;review</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aperçu</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>
-        <translation type="unfinished"></translation>
+        <translation>Sauvegarder s&amp;ous…</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sauvegarder</translation>
     </message>
 </context>
 <context>
     <name>AudioTrimWndController</name>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire</translation>
     </message>
     <message>
         <source>The range is shorter than a tenth of a second.</source>
-        <translation type="unfinished"></translation>
+        <translation>La plage dure moins d’un dixième de seconde.</translation>
     </message>
     <message>
         <source>The file is being played.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est en cours de lecture.</translation>
     </message>
     <message>
         <source>The recording cannot be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de sauvegarder l’enregistrement.</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Sauvegarder sous</translation>
     </message>
     <message>
         <source>The recording was not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement n’a pas été sauvegardé.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Waring:</source>
-        <translation type="unfinished"></translation>
+        <translation>Attention :</translation>
     </message>
     <message>
         <source>Warning:</source>
-        <translation type="unfinished"></translation>
+        <translation>Attention :</translation>
     </message>
     <message>
         <source>This path exists, please change the path or name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce chemin existe déjà, veuillez changer le chemin ou le nom.</translation>
     </message>
     <message>
         <source>Converting Audio......</source>
-        <translation type="unfinished"></translation>
+        <translation>Conversion de l’audio......</translation>
     </message>
     <message>
         <source>Do you want to replace &quot;%1&quot; audio file.</source>
@@ -429,193 +429,193 @@
     <name>AudioWaveEditView</name>
     <message>
         <source>Outline</source>
-        <translation type="unfinished"></translation>
+        <translation>Forme d’onde</translation>
     </message>
 </context>
 <context>
     <name>AudioWaveTrimView</name>
     <message>
         <source>Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélection</translation>
     </message>
     <message>
         <source>Drag the edges or the middle. Left and Right move the selection, with Control its begin, with Alt its end; with Shift by a second.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faites glisser les bords ou le milieu. Gauche et Droite déplacent la sélection, avec Ctrl son début, avec Alt sa fin ; avec Maj d’une seconde.</translation>
     </message>
     <message>
         <source>from %1 to %2, %3 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>de %1 à %2, %3 secondes</translation>
     </message>
 </context>
 <context>
     <name>AudioWaveViewController</name>
     <message>
         <source>Recording state</source>
-        <translation type="unfinished"></translation>
+        <translation>État de l’enregistrement</translation>
     </message>
     <message>
         <source>Input</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrée</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
     <message>
         <source>Artist</source>
-        <translation type="unfinished"></translation>
+        <translation>Artiste</translation>
     </message>
     <message>
         <source>Switch between recording and playback</source>
-        <translation type="unfinished"></translation>
+        <translation>Basculer entre enregistrement et lecture</translation>
     </message>
     <message>
         <source>Show the next notice</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher l’avis suivant</translation>
     </message>
     <message>
         <source>Notice</source>
-        <translation type="unfinished"></translation>
+        <translation>Avis</translation>
     </message>
     <message>
         <source>What can be done about the notice</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui peut être fait au sujet de l’avis</translation>
     </message>
     <message>
         <source>Dismiss this notice</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer cet avis</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher</translation>
     </message>
     <message>
         <source>Choose Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un périphérique</translation>
     </message>
     <message>
         <source>Unmute</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir le son</translation>
     </message>
     <message>
         <source>Free Space …</source>
-        <translation type="unfinished"></translation>
+        <translation>Libérer de l’espace …</translation>
     </message>
     <message>
         <source>Notice %1 of %2. Show the next one</source>
-        <translation type="unfinished"></translation>
+        <translation>Avis %1 sur %2. Afficher le suivant</translation>
     </message>
 </context>
 <context>
     <name>BurnControl</name>
     <message>
         <source>there is no drive</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas de graveur</translation>
     </message>
 </context>
 <context>
     <name>BurnState</name>
     <message>
         <source>Waiting for the import Music File</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente de l’ajout de fichiers audio</translation>
     </message>
     <message>
         <source>Waiting for the inserted Disc</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente de l’insertion d’un disque</translation>
     </message>
     <message>
         <source>Is not blank, Please erase the Disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Disque non vierge, veuillez l’effacer</translation>
     </message>
     <message>
         <source>Is not blank, Please replace the Disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Disque non vierge, veuillez le remplacer</translation>
     </message>
     <message>
         <source>Disc space not enough for music</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace insuffisant sur le disque</translation>
     </message>
     <message>
         <source>Ready to burn</source>
-        <translation type="unfinished"></translation>
+        <translation>Prêt à graver</translation>
     </message>
 </context>
 <context>
     <name>CDBurnWnd</name>
     <message>
         <source>Burn to Disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Graver sur un disque</translation>
     </message>
     <message>
         <source>&amp;Drive:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gra&amp;veur :</translation>
     </message>
     <message>
         <source>Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Graveur</translation>
     </message>
     <message>
         <source>Eject the disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Éjecter le disque</translation>
     </message>
     <message>
         <source>Problem of the drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Problème du graveur</translation>
     </message>
     <message>
         <source>Tracks</source>
-        <translation type="unfinished"></translation>
+        <translation>Pistes</translation>
     </message>
     <message>
         <source>&amp;Add Files…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ajouter des fichiers…</translation>
     </message>
     <message>
         <source>Items and size</source>
-        <translation type="unfinished"></translation>
+        <translation>Éléments et taille</translation>
     </message>
     <message>
         <source>Total time</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée totale</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>État</translation>
     </message>
     <message>
         <source>&amp;Eject when done</source>
-        <translation type="unfinished"></translation>
+        <translation>É&amp;jecter à la fin</translation>
     </message>
     <message>
         <source>&amp;Burn</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Graver</translation>
     </message>
 </context>
 <context>
     <name>CDBurnWndController</name>
     <message>
         <source>There is nothing to burn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a rien à graver.</translation>
     </message>
     <message>
         <source>Tick the files that are to become tracks, then press Burn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cochez les fichiers qui doivent devenir des pistes, puis cliquez sur Graver.</translation>
     </message>
     <message>
         <source>Time: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée : %1</translation>
     </message>
     <message>
         <source>Eject the disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Éjecter le disque</translation>
     </message>
     <message>
         <source>There is no disc in the drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de disque dans le graveur.</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionner</translation>
     </message>
     <message numerus="yes">
         <source> %n Items     Size: %1 MB</source>
@@ -629,130 +629,130 @@
     <name>CaptureComputerAudio</name>
     <message>
         <source>%1: the driver does not run on this machine</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : le pilote ne fonctionne pas sur cette machine</translation>
     </message>
     <message>
         <source>%1: no such program</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : programme introuvable</translation>
     </message>
     <message>
         <source>the driver was started, but its device did not appear</source>
-        <translation type="unfinished"></translation>
+        <translation>le pilote a été démarré, mais son périphérique n’est pas apparu</translation>
     </message>
     <message>
         <source>the system audio device is being installed or removed already</source>
-        <translation type="unfinished"></translation>
+        <translation>l’installation ou la désinstallation du périphérique de son du système est déjà en cours</translation>
     </message>
     <message>
         <source>there is no way to get administrator rights</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a aucun moyen d’obtenir les droits d’administrateur</translation>
     </message>
     <message>
         <source>%1: the driver is missing from the program&apos;s resources</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : le pilote manque dans les ressources du programme</translation>
     </message>
 </context>
 <context>
     <name>CommandLine</name>
     <message>
         <source>--%1: %2 is not a time in seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 : %2 n’est pas une durée en secondes</translation>
     </message>
     <message>
         <source>--%1: %2 is not a whole number</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 : %2 n’est pas un nombre entier</translation>
     </message>
     <message>
         <source>there is no drive that writes discs (--image FILE writes a disc image)</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas de graveur de disques (--image FILE écrit une image disque)</translation>
     </message>
     <message>
         <source>%1: there is no such drive (&quot;sonaphex drives&quot; lists them)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : graveur introuvable (« sonaphex drives » en donne la liste)</translation>
     </message>
     <message>
         <source>%1: the drive is busy</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : le graveur est occupé</translation>
     </message>
     <message>
         <source>%1: there is no disc in the drive</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : il n’y a pas de disque dans le graveur</translation>
     </message>
     <message>
         <source>%1: the disc is not blank: erase it, or put another one in</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : le disque n’est pas vierge : effacez-le ou insérez-en un autre</translation>
     </message>
     <message>
         <source>%1: the disc is not blank: put another one in</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : le disque n’est pas vierge : insérez-en un autre</translation>
     </message>
     <message>
         <source>%1: no burn can be made with this drive</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : aucune gravure n’est possible avec ce graveur</translation>
     </message>
     <message>
         <source>%1; nothing was burned</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ; rien n’a été gravé</translation>
     </message>
     <message>
         <source>the burn failed</source>
-        <translation type="unfinished"></translation>
+        <translation>la gravure a échoué</translation>
     </message>
     <message>
         <source>burn takes the files that become tracks</source>
-        <translation type="unfinished"></translation>
+        <translation>burn attend les fichiers qui deviendront des pistes</translation>
     </message>
     <message>
         <source>--image takes the name of a file</source>
-        <translation type="unfinished"></translation>
+        <translation>--image attend un nom de fichier</translation>
     </message>
     <message>
         <source>--image and --drive exclude each other</source>
-        <translation type="unfinished"></translation>
+        <translation>--image et --drive s’excluent mutuellement</translation>
     </message>
     <message>
         <source>burn sound files as an audio CD, one track each, or write a disc image</source>
-        <translation type="unfinished"></translation>
+        <translation>graver des fichiers audio sur un CD audio, une piste par fichier, ou écrire une image disque</translation>
     </message>
     <message>
         <source>The drive, by its name or its path (&quot;sonaphex drives&quot; lists them).</source>
-        <translation type="unfinished"></translation>
+        <translation>Le graveur, par son nom ou son chemin (« sonaphex drives » en donne la liste).</translation>
     </message>
     <message>
         <source>the first drive</source>
-        <translation type="unfinished"></translation>
+        <translation>le premier graveur</translation>
     </message>
     <message>
         <source>Write FILE.cue and FILE.bin instead of a disc. Existing files are never replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire FILE.cue et FILE.bin au lieu d’un disque. Les fichiers existants ne sont jamais remplacés.</translation>
     </message>
     <message>
         <source>Eject the disc when it is done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Éjecter le disque à la fin.</translation>
     </message>
     <message>
         <source>Burn two tracks and eject the disc.</source>
-        <translation type="unfinished"></translation>
+        <translation>Graver deux pistes et éjecter le disque.</translation>
     </message>
     <message>
         <source>Write concert.cue and concert.bin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire concert.cue et concert.bin.</translation>
     </message>
     <message>
         <source>%1 (default: %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (par défaut : %2)</translation>
     </message>
     <message>
         <source>usage: sonaphex %1</source>
-        <translation type="unfinished"></translation>
+        <translation>utilisation : sonaphex %1</translation>
     </message>
     <message>
         <source>options:</source>
-        <translation type="unfinished"></translation>
+        <translation>options :</translation>
     </message>
     <message>
         <source>examples:</source>
-        <translation type="unfinished"></translation>
+        <translation>exemples :</translation>
     </message>
     <message>
         <source>usage: sonaphex            open the window
@@ -761,838 +761,845 @@
 
 commands:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>utilisation : sonaphex            ouvrir la fenêtre
+              sonaphex FILE       ouvrir la fenêtre et rogner un fichier audio
+              sonaphex COMMAND    exécuter une action et terminer
+
+commandes :
+</translation>
     </message>
     <message>
         <source>
 &quot;sonaphex COMMAND --help&quot; lists the options of a command, &quot;sonaphex --version&quot; the version.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+« sonaphex COMMAND --help » donne les options d’une commande, « sonaphex --version » la version.
+</translation>
     </message>
     <message>
         <source>there is no sound server</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas de serveur de son</translation>
     </message>
     <message>
         <source>standard output could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d’écrire sur la sortie standard : %1</translation>
     </message>
     <message>
         <source>idle</source>
         <comment>no recording</comment>
-        <translation type="unfinished"></translation>
+        <translation>inactif</translation>
     </message>
     <message>
         <source>armed</source>
         <comment>waits for the first sound</comment>
-        <translation type="unfinished"></translation>
+        <translation>en attente du premier son</translation>
     </message>
     <message>
         <source>recording</source>
         <comment>now</comment>
-        <translation type="unfinished"></translation>
+        <translation>enregistrement</translation>
     </message>
     <message>
         <source>paused</source>
-        <translation type="unfinished"></translation>
+        <translation>en pause</translation>
     </message>
     <message>
         <source>control takes a command</source>
-        <translation type="unfinished"></translation>
+        <translation>control attend une commande</translation>
     </message>
     <message>
         <source>%1: no such command</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : commande inconnue</translation>
     </message>
     <message>
         <source>the program is not running</source>
-        <translation type="unfinished"></translation>
+        <translation>le programme n’est pas en cours d’exécution</translation>
     </message>
     <message>
         <source>act on the running program</source>
-        <translation type="unfinished"></translation>
+        <translation>agir sur le programme en cours d’exécution</translation>
     </message>
     <message>
         <source>Start a recording in the open window, or stop it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrer un enregistrement dans la fenêtre ouverte, ou l’arrêter.</translation>
     </message>
     <message>
         <source>Print the state of the running program for a script.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher l’état du programme en cours d’exécution pour un script.</translation>
     </message>
     <message>
         <source>stopped before the end: nothing was written</source>
-        <translation type="unfinished"></translation>
+        <translation>arrêt avant la fin : rien n’a été écrit</translation>
     </message>
     <message>
         <source>%1 cannot be converted</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de convertir %1</translation>
     </message>
     <message>
         <source>%1: it ends at second %2, there is nothing from second %3 on</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : il se termine à la seconde %2, il n’y a rien à partir de la seconde %3</translation>
     </message>
     <message>
         <source>the source is damaged, what could be read was converted: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>la source est endommagée, ce qui a pu être lu a été converti : %1</translation>
     </message>
     <message>
         <source>convert takes a source and a target</source>
-        <translation type="unfinished"></translation>
+        <translation>convert attend une source et une cible</translation>
     </message>
     <message>
         <source>--type is wav, m4a or caf</source>
-        <translation type="unfinished"></translation>
+        <translation>--type vaut wav, m4a ou caf</translation>
     </message>
     <message>
         <source>--to is a tenth of a second or more</source>
-        <translation type="unfinished"></translation>
+        <translation>--to vaut au moins un dixième de seconde</translation>
     </message>
     <message>
         <source>--to is before --from</source>
-        <translation type="unfinished"></translation>
+        <translation>--to est avant --from</translation>
     </message>
     <message>
         <source>copy a range of an audio file into a new file</source>
-        <translation type="unfinished"></translation>
+        <translation>copier une plage d’un fichier audio dans un nouveau fichier</translation>
     </message>
     <message>
         <source>The type of the new file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le type du nouveau fichier.</translation>
     </message>
     <message>
         <source>from the ending of DST</source>
-        <translation type="unfinished"></translation>
+        <translation>selon l’extension de DST</translation>
     </message>
     <message>
         <source>Begin at second S of the source.</source>
-        <translation type="unfinished"></translation>
+        <translation>Commencer à la seconde S de la source.</translation>
     </message>
     <message>
         <source>End at second S of the source.</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminer à la seconde S de la source.</translation>
     </message>
     <message>
         <source>its end</source>
-        <translation type="unfinished"></translation>
+        <translation>sa fin</translation>
     </message>
     <message>
         <source>Fade in over S seconds; a fade shorter than one second is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondu en ouverture de S secondes ; un fondu de moins d’une seconde est omis.</translation>
     </message>
     <message>
         <source>Fade out over S seconds; a fade shorter than one second is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondu en fermeture de S secondes ; un fondu de moins d’une seconde est omis.</translation>
     </message>
     <message>
         <source>Repeat the range until the new file is S seconds long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Répéter la plage jusqu’à ce que le nouveau fichier dure S secondes.</translation>
     </message>
     <message>
         <source>the length of the range</source>
-        <translation type="unfinished"></translation>
+        <translation>la durée de la plage</translation>
     </message>
     <message>
         <source>Replace DST when it exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer DST s’il existe.</translation>
     </message>
     <message>
         <source>Copy ten and a half seconds into a WAVE file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier dix secondes et demie dans un fichier WAVE.</translation>
     </message>
     <message>
         <source>Repeat ten seconds for half a minute, with fades.</source>
-        <translation type="unfinished"></translation>
+        <translation>Répéter dix secondes pendant une demi-minute, avec des fondus.</translation>
     </message>
     <message>
         <source>devices takes no names</source>
-        <translation type="unfinished"></translation>
+        <translation>devices n’accepte aucun nom</translation>
     </message>
     <message>
         <source>1 channel</source>
-        <translation type="unfinished"></translation>
+        <translation>1 canal</translation>
     </message>
     <message numerus="yes">
         <source>%n channels</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n canal</numerusform>
+            <numerusform>%n canaux</numerusform>
         </translation>
     </message>
     <message>
         <source>%1, %2 Hz, what the computer plays</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 Hz, le son joué par l’ordinateur</translation>
     </message>
     <message>
         <source>%1, %2 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 Hz</translation>
     </message>
     <message>
         <source>no input devices</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun périphérique d’entrée</translation>
     </message>
     <message>
         <source>default output: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>sortie par défaut : %1</translation>
     </message>
     <message>
         <source>none</source>
         <comment>output device</comment>
-        <translation type="unfinished"></translation>
+        <translation>aucune</translation>
     </message>
     <message>
         <source>list the input devices</source>
-        <translation type="unfinished"></translation>
+        <translation>lister les périphériques d’entrée</translation>
     </message>
     <message>
         <source>List the devices for a script.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lister les périphériques pour un script.</translation>
     </message>
     <message>
         <source>installed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>installé : %1</translation>
     </message>
     <message>
         <source>installed: no</source>
-        <translation type="unfinished"></translation>
+        <translation>installé : non</translation>
     </message>
     <message>
         <source>loaded: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>chargé : %1</translation>
     </message>
     <message>
         <source>loaded: no</source>
-        <translation type="unfinished"></translation>
+        <translation>chargé : non</translation>
     </message>
     <message>
         <source>loaded: no (no sound server answers)</source>
-        <translation type="unfinished"></translation>
+        <translation>chargé : non (aucun serveur de son ne répond)</translation>
     </message>
     <message>
         <source>the driver stays as it is while the window records: stop the recording first</source>
-        <translation type="unfinished"></translation>
+        <translation>le pilote reste tel quel tant que la fenêtre enregistre : arrêtez d’abord l’enregistrement</translation>
     </message>
     <message>
         <source>the driver cannot be loaded: no sound server answers</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de charger le pilote : aucun serveur de son ne répond</translation>
     </message>
     <message>
         <source>the driver was not installed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>le pilote n’a pas été installé : %1</translation>
     </message>
     <message>
         <source>the driver was not removed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>le pilote n’a pas été désinstallé : %1</translation>
     </message>
     <message>
         <source>driver takes one of status, install, remove</source>
-        <translation type="unfinished"></translation>
+        <translation>driver attend status, install ou remove</translation>
     </message>
     <message>
         <source>show, install or remove the device that carries what the computer plays</source>
-        <translation type="unfinished"></translation>
+        <translation>afficher, installer ou désinstaller le périphérique qui transporte le son de l’ordinateur</translation>
     </message>
     <message>
         <source>Install the device and load it. Asks for the administrator&apos;s password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installer le périphérique et le charger. Demande le mot de passe de l’administrateur.</translation>
     </message>
     <message>
         <source>busy</source>
-        <translation type="unfinished"></translation>
+        <translation>occupé</translation>
     </message>
     <message>
         <source>the drive is not ready yet</source>
-        <translation type="unfinished"></translation>
+        <translation>le graveur n’est pas encore prêt</translation>
     </message>
     <message>
         <source>no disc</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de disque</translation>
     </message>
     <message>
         <source>disc</source>
         <comment>of unknown kind</comment>
-        <translation type="unfinished"></translation>
+        <translation>disque</translation>
     </message>
     <message>
         <source>%1, not blank, can be erased</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, non vierge, effaçable</translation>
     </message>
     <message>
         <source>%1, not blank</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, non vierge</translation>
     </message>
     <message>
         <source>%1, blank, %2 min %3 s of audio</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, vierge, %2 min %3 s d’audio</translation>
     </message>
     <message>
         <source>drives takes no names</source>
-        <translation type="unfinished"></translation>
+        <translation>drives n’accepte aucun nom</translation>
     </message>
     <message>
         <source>list the drives that write discs, and what is in them</source>
-        <translation type="unfinished"></translation>
+        <translation>lister les graveurs de disques et ce qu’ils contiennent</translation>
     </message>
     <message>
         <source>List the drives for a script.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lister les graveurs pour un script.</translation>
     </message>
     <message>
         <source>there is no input device &quot;%1&quot;: there is none at all</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas de périphérique d’entrée « %1 » : il n’y en a aucun</translation>
     </message>
     <message>
         <source>there is no input device &quot;%1&quot;: there are %2</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas de périphérique d’entrée « %1 » ; disponibles : %2</translation>
     </message>
     <message>
         <source>join takes two files or more</source>
-        <translation type="unfinished"></translation>
+        <translation>join attend au moins deux fichiers</translation>
     </message>
     <message>
         <source>join needs --to with the file to write</source>
-        <translation type="unfinished"></translation>
+        <translation>join nécessite --to avec le fichier à écrire</translation>
     </message>
     <message>
         <source>%1: there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : fichier introuvable</translation>
     </message>
     <message>
         <source>%1: there is no such folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : dossier introuvable</translation>
     </message>
     <message>
         <source>make one recording of several, in the given order</source>
-        <translation type="unfinished"></translation>
+        <translation>réunir plusieurs enregistrements en un seul, dans l’ordre donné</translation>
     </message>
     <message>
         <source>The recording to write. An existing file is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement à écrire. Un fichier existant est conservé.</translation>
     </message>
     <message>
         <source>Join two parts of one recording without encoding them again. Other files are decoded and encoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Réunir deux parties d’un même enregistrement sans les réencoder. Les autres fichiers sont décodés et encodés.</translation>
     </message>
     <message>
         <source>%1, but the running program does not know this request: it is another version</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, mais le programme en cours d’exécution ne connaît pas cette requête : c’est une autre version</translation>
     </message>
     <message>
         <source>%1, but the library could not be saved</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, mais la bibliothèque n’a pas pu être sauvegardée</translation>
     </message>
     <message>
         <source>%1 could not be added to the library</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’a pas pu être ajouté à la bibliothèque</translation>
     </message>
     <message>
         <source>file</source>
         <comment>the path of a recording</comment>
-        <translation type="unfinished"></translation>
+        <translation>fichier</translation>
     </message>
     <message>
         <source>key</source>
         <comment>names an entry of the library</comment>
-        <translation type="unfinished"></translation>
+        <translation>clé</translation>
     </message>
     <message>
         <source>%1 (missing)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (absent)</translation>
     </message>
     <message>
         <source>recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>enregistrements</translation>
     </message>
     <message>
         <source>ringtones</source>
-        <translation type="unfinished"></translation>
+        <translation>sonneries</translation>
     </message>
     <message>
         <source>the running program does not know this request: it is another version</source>
-        <translation type="unfinished"></translation>
+        <translation>le programme en cours d’exécution ne connaît pas cette requête : c’est une autre version</translation>
     </message>
     <message>
         <source>no entry has the key %1 (nothing was removed)</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune entrée n’a la clé %1 (rien n’a été supprimé)</translation>
     </message>
     <message>
         <source>the files are deleted, but the library could not be saved</source>
-        <translation type="unfinished"></translation>
+        <translation>les fichiers sont supprimés, mais la bibliothèque n’a pas pu être sauvegardée</translation>
     </message>
     <message>
         <source>library knows list and remove, not %1</source>
-        <translation type="unfinished"></translation>
+        <translation>library connaît list et remove, pas %1</translation>
     </message>
     <message>
         <source>library remove takes the keys of entries</source>
-        <translation type="unfinished"></translation>
+        <translation>library remove attend les clés des entrées</translation>
     </message>
     <message>
         <source>list recordings and ringtones, or remove some with their files</source>
-        <translation type="unfinished"></translation>
+        <translation>lister les enregistrements et les sonneries, ou en supprimer avec leurs fichiers</translation>
     </message>
     <message>
         <source>List both collections with the key of each entry.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lister les deux collections avec la clé de chaque entrée.</translation>
     </message>
     <message>
         <source>Remove an entry and delete its file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer une entrée et son fichier.</translation>
     </message>
     <message>
         <source>manual takes nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>manual n’accepte aucun argument</translation>
     </message>
     <message>
         <source>completions takes one of bash, zsh, fish</source>
-        <translation type="unfinished"></translation>
+        <translation>completions attend bash, zsh ou fish</translation>
     </message>
     <message>
         <source>print the manual page</source>
-        <translation type="unfinished"></translation>
+        <translation>afficher la page de manuel</translation>
     </message>
     <message>
         <source>Read the manual page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire la page de manuel.</translation>
     </message>
     <message>
         <source>print the completions for a shell</source>
-        <translation type="unfinished"></translation>
+        <translation>afficher les complétions pour un shell</translation>
     </message>
     <message>
         <source>Install the completions for the current user&apos;s bash.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installer les complétions pour le bash de l’utilisateur actuel.</translation>
     </message>
     <message>
         <source>%1: is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : est un dossier</translation>
     </message>
     <message>
         <source>%1: no such folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : dossier introuvable</translation>
     </message>
     <message>
         <source>%1: that path is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : ce chemin n’est pas un fichier ordinaire</translation>
     </message>
     <message>
         <source>%1: exists already (--overwrite replaces it)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : existe déjà (--overwrite le remplace)</translation>
     </message>
     <message>
         <source>the folder %1 cannot be created</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de créer le dossier %1</translation>
     </message>
     <message>
         <source>the folder %1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d’écrire dans le dossier %1 : %2</translation>
     </message>
     <message>
         <source>record takes options only</source>
-        <translation type="unfinished"></translation>
+        <translation>record n’accepte que des options</translation>
     </message>
     <message>
         <source>--for takes a time above 0</source>
-        <translation type="unfinished"></translation>
+        <translation>--for attend une durée supérieure à 0</translation>
     </message>
     <message>
         <source>--pre-roll takes at most %1 milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>--pre-roll accepte au plus %1 millisecondes</translation>
     </message>
     <message>
         <source>--folder takes a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>--folder attend un dossier</translation>
     </message>
     <message>
         <source>without an input device and without --computer there is nothing to record</source>
-        <translation type="unfinished"></translation>
+        <translation>sans périphérique d’entrée et sans --computer, il n’y a rien à enregistrer</translation>
     </message>
     <message>
         <source>record an input device, what the computer plays, or both into .m4a files</source>
-        <translation type="unfinished"></translation>
+        <translation>enregistrer un périphérique d’entrée, le son de l’ordinateur, ou les deux, dans des fichiers .m4a</translation>
     </message>
     <message>
         <source>Record the input device with this name, UID or id; none records no input device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le périphérique d’entrée ayant ce nom, cet UID ou cet identifiant ; none n’en enregistre aucun.</translation>
     </message>
     <message>
         <source>the device and the choice stored in the preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>le périphérique et le choix mémorisés dans les préférences</translation>
     </message>
     <message>
         <source>Record what the computer plays.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le son joué par l’ordinateur.</translation>
     </message>
     <message>
         <source>Stop after S seconds of recorded sound, over all files.</source>
-        <translation type="unfinished"></translation>
+        <translation>S’arrêter après S secondes de son enregistré, tous fichiers confondus.</translation>
     </message>
     <message>
         <source>until Control+C</source>
-        <translation type="unfinished"></translation>
+        <translation>jusqu’à Ctrl+C</translation>
     </message>
     <message>
         <source>When waiting for the first sound, give up after S seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pendant l’attente du premier son, abandonner après S secondes.</translation>
     </message>
     <message>
         <source>no limit</source>
-        <translation type="unfinished"></translation>
+        <translation>sans limite</translation>
     </message>
     <message>
         <source>Begin a new file after a silence of MS milliseconds of computer audio.</source>
-        <translation type="unfinished"></translation>
+        <translation>Commencer un nouveau fichier après un silence de MS millisecondes du son de l’ordinateur.</translation>
     </message>
     <message>
         <source>as in the preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>comme dans les préférences</translation>
     </message>
     <message>
         <source>When waiting for the first sound, begin MS milliseconds before it, at most 5000.</source>
-        <translation type="unfinished"></translation>
+        <translation>En cas d’attente du premier son, commencer MS millisecondes avant lui, au plus 5000.</translation>
     </message>
     <message>
         <source>Drop a recording shorter than S seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rejeter un enregistrement de moins de S secondes.</translation>
     </message>
     <message>
         <source>Put the recordings into DIR, which is made when it is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Placer les enregistrements dans DIR, qui est créé s’il n’existe pas.</translation>
     </message>
     <message>
         <source>Record ten seconds of the input device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer dix secondes du périphérique d’entrée.</translation>
     </message>
     <message>
         <source>Record a named device into the current folder until Control+C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer un périphérique désigné par son nom dans le dossier actuel jusqu’à Ctrl+C.</translation>
     </message>
     <message>
         <source>Record what the computer plays, one file for each song, and give up when nothing plays for a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le son de l’ordinateur, un fichier par morceau, et abandonner quand rien n’est joué pendant une minute.</translation>
     </message>
     <message>
         <source>a recording could not be finished</source>
-        <translation type="unfinished"></translation>
+        <translation>un enregistrement n’a pas pu être terminé</translation>
     </message>
     <message>
         <source>computer audio: its driver is not installed (see sonaphex driver install)</source>
-        <translation type="unfinished"></translation>
+        <translation>son de l’ordinateur : son pilote n’est pas installé (voir sonaphex driver install)</translation>
     </message>
     <message>
         <source>there is no input device</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas de périphérique d’entrée</translation>
     </message>
     <message>
         <source>there is no source to record: name one with --input or --computer</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a aucune source à enregistrer : indiquez-en une avec --input ou --computer</translation>
     </message>
     <message>
         <source>nothing can be recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>rien ne peut être enregistré</translation>
     </message>
     <message>
         <source>waiting for the first sound</source>
-        <translation type="unfinished"></translation>
+        <translation>en attente du premier son</translation>
     </message>
     <message>
         <source>finishing</source>
-        <translation type="unfinished"></translation>
+        <translation>finalisation</translation>
     </message>
     <message>
         <source>no sound came: nothing was recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun son n’est arrivé : rien n’a été enregistré</translation>
     </message>
     <message>
         <source>one recording was shorter than the filter&apos;s time and was not kept</source>
-        <translation type="unfinished"></translation>
+        <translation>un enregistrement était plus court que la durée du filtre et n’a pas été conservé</translation>
     </message>
     <message numerus="yes">
         <source>%n recordings were shorter than the filter&apos;s time and were not kept</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n enregistrement était plus court que la durée du filtre et n’a pas été conservé</numerusform>
+            <numerusform>%n enregistrements étaient plus courts que la durée du filtre et n’ont pas été conservés</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: what was recorded is kept in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : ce qui a été enregistré est conservé dans %2</translation>
     </message>
     <message>
         <source>%1 is made, but the running program does not know this request: it is another version</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est créé, mais le programme en cours d’exécution ne connaît pas cette requête : c’est une autre version</translation>
     </message>
     <message>
         <source>%1 is made, but the library could not be saved</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est créé, mais la bibliothèque n’a pas pu être sauvegardée</translation>
     </message>
     <message>
         <source>%1: it ends at second %2, --to is %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : il se termine à la seconde %2, --to vaut %3</translation>
     </message>
     <message>
         <source>stopped before the end: no ringtone was made</source>
-        <translation type="unfinished"></translation>
+        <translation>arrêt avant la fin : aucune sonnerie n’a été créée</translation>
     </message>
     <message>
         <source>the source is damaged, the ringtone is silent where it could not be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>la source est endommagée, la sonnerie est muette aux endroits illisibles : %1</translation>
     </message>
     <message>
         <source>ringtone takes one file</source>
-        <translation type="unfinished"></translation>
+        <translation>ringtone attend un seul fichier</translation>
     </message>
     <message>
         <source>ringtone needs --from and --to</source>
-        <translation type="unfinished"></translation>
+        <translation>ringtone nécessite --from et --to</translation>
     </message>
     <message>
         <source>--to is not after --from</source>
-        <translation type="unfinished"></translation>
+        <translation>--to n’est pas après --from</translation>
     </message>
     <message>
         <source>make a ringtone from a range of a recording and add it to the library</source>
-        <translation type="unfinished"></translation>
+        <translation>créer une sonnerie à partir d’une plage d’un enregistrement et l’ajouter à la bibliothèque</translation>
     </message>
     <message>
         <source>Begin at second S of the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Commencer à la seconde S de l’enregistrement.</translation>
     </message>
     <message>
         <source>End at second S of the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminer à la seconde S de l’enregistrement.</translation>
     </message>
     <message>
         <source>Make a ringtone of this half minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer une sonnerie de cette demi-minute.</translation>
     </message>
     <message>
         <source>longest silence found: %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>plus long silence trouvé : %1 s</translation>
     </message>
     <message>
         <source>%1: no silence of %2 s; the longest one has %3 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : aucun silence de %2 s ; le plus long dure %3 s</translation>
     </message>
     <message>
         <source>split takes one file</source>
-        <translation type="unfinished"></translation>
+        <translation>split attend un seul fichier</translation>
     </message>
     <message>
         <source>split needs --silence with at least %1 milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>split nécessite --silence avec au moins %1 millisecondes</translation>
     </message>
     <message>
         <source>--level takes decibels from -120 to below 0</source>
-        <translation type="unfinished"></translation>
+        <translation>--level attend des décibels, de -120 à moins de 0</translation>
     </message>
     <message>
         <source>cut a recording into several at its silences, without encoding it again</source>
-        <translation type="unfinished"></translation>
+        <translation>diviser un enregistrement en plusieurs à ses silences, sans le réencoder</translation>
     </message>
     <message>
         <source>Cut in the middle of each silence of at least MS milliseconds, 50 or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Couper au milieu de chaque silence d’au moins MS millisecondes, 50 ou plus.</translation>
     </message>
     <message>
         <source>A silence lies below DB decibels of full scale, from -120 to below 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un silence est inférieur à DB décibels par rapport à la pleine échelle, de -120 à moins de 0.</translation>
     </message>
     <message>
         <source>Put the parts into DIR.</source>
-        <translation type="unfinished"></translation>
+        <translation>Placer les parties dans DIR.</translation>
     </message>
     <message>
         <source>the folder of the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>le dossier de l’enregistrement</translation>
     </message>
     <message>
         <source>Only list the cuts and the longest silence; write nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lister seulement les coupes et le plus long silence ; ne rien écrire.</translation>
     </message>
     <message>
         <source>Make a 1.m4a, a 2.m4a and so on beside a.m4a, which stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer a 1.m4a, a 2.m4a, etc. à côté de a.m4a, qui reste tel quel.</translation>
     </message>
     <message>
         <source>See where the cuts would be.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voir où se situeraient les coupes.</translation>
     </message>
     <message>
         <source>Print one JSON document instead of text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher un document JSON au lieu de texte.</translation>
     </message>
     <message>
         <source>none</source>
         <comment>cover</comment>
-        <translation type="unfinished"></translation>
+        <translation>aucune</translation>
     </message>
     <message>
         <source>title:</source>
-        <translation type="unfinished"></translation>
+        <translation>titre :</translation>
     </message>
     <message>
         <source>artist:</source>
-        <translation type="unfinished"></translation>
+        <translation>artiste :</translation>
     </message>
     <message>
         <source>album:</source>
-        <translation type="unfinished"></translation>
+        <translation>album :</translation>
     </message>
     <message>
         <source>year:</source>
-        <translation type="unfinished"></translation>
+        <translation>année :</translation>
     </message>
     <message>
         <source>genre:</source>
-        <translation type="unfinished"></translation>
+        <translation>genre :</translation>
     </message>
     <message>
         <source>artwork:</source>
-        <translation type="unfinished"></translation>
+        <translation>pochette :</translation>
     </message>
     <message>
         <source>the artwork of %1 could not be written</source>
-        <translation type="unfinished"></translation>
+        <translation>la pochette de %1 n’a pas pu être écrite</translation>
     </message>
     <message>
         <source>tag takes one file</source>
-        <translation type="unfinished"></translation>
+        <translation>tag attend un seul fichier</translation>
     </message>
     <message>
         <source>--year: %1 is not a number</source>
-        <translation type="unfinished"></translation>
+        <translation>--year : %1 n’est pas un nombre</translation>
     </message>
     <message>
         <source>the file is changed</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier a été modifié</translation>
     </message>
     <message>
         <source>print or write the tags and the cover of an MPEG-4 audio file</source>
-        <translation type="unfinished"></translation>
+        <translation>afficher ou écrire les étiquettes et la pochette d’un fichier audio MPEG-4</translation>
     </message>
     <message>
         <source>Write this title. An empty text removes the tag; the same holds for the other texts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire ce titre. Un texte vide supprime l’étiquette ; il en va de même pour les autres textes.</translation>
     </message>
     <message>
         <source>Write this artist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire cet artiste.</translation>
     </message>
     <message>
         <source>Write this album.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire cet album.</translation>
     </message>
     <message>
         <source>Write this year; 0 removes the tag.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire cette année ; 0 supprime l’étiquette.</translation>
     </message>
     <message>
         <source>Write this genre.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire ce genre.</translation>
     </message>
     <message>
         <source>Take the cover from this picture file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre la pochette dans ce fichier image.</translation>
     </message>
     <message>
         <source>Rename the file after its title, unless the name is taken or not possible.</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer le fichier d’après son titre, sauf si le nom est pris ou impossible.</translation>
     </message>
     <message>
         <source>Print the tags.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les étiquettes.</translation>
     </message>
     <message>
         <source>Write a title and a cover.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire un titre et une pochette.</translation>
     </message>
     <message>
         <source>Write a title and name the file Morning.m4a.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire un titre et nommer le fichier Morning.m4a.</translation>
     </message>
     <message>
         <source>%1: This path exists, please change the path or name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : Ce chemin existe déjà, veuillez changer le chemin ou le nom.</translation>
     </message>
     <message>
         <source>%1: the file is being played</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : le fichier est en cours de lecture</translation>
     </message>
     <message>
         <source>the file is trimmed</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier a été rogné</translation>
     </message>
     <message>
         <source>trim takes one file</source>
-        <translation type="unfinished"></translation>
+        <translation>trim attend un seul fichier</translation>
     </message>
     <message>
         <source>trim takes --from, --to or both</source>
-        <translation type="unfinished"></translation>
+        <translation>trim attend --from, --to ou les deux</translation>
     </message>
     <message>
         <source>--to must be at least a tenth of a second after --from</source>
-        <translation type="unfinished"></translation>
+        <translation>--to doit être au moins un dixième de seconde après --from</translation>
     </message>
     <message>
         <source>--save-as names no file</source>
-        <translation type="unfinished"></translation>
+        <translation>--save-as n’indique aucun fichier</translation>
     </message>
     <message>
         <source>cut a recording down to a range, in its place or into a new file</source>
-        <translation type="unfinished"></translation>
+        <translation>réduire un enregistrement à une plage, sur place ou dans un nouveau fichier</translation>
     </message>
     <message>
         <source>Write a new file and leave the recording as it is. An existing file is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire un nouveau fichier et laisser l’enregistrement tel quel. Un fichier existant est conservé.</translation>
     </message>
     <message>
         <source>the recording is replaced</source>
-        <translation type="unfinished"></translation>
+        <translation>l’enregistrement est remplacé</translation>
     </message>
     <message>
         <source>Cut off the first two and a half seconds and all after a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer les deux premières secondes et demie et tout ce qui suit la première minute.</translation>
     </message>
     <message>
         <source>Copy ten seconds into a new recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier dix secondes dans un nouvel enregistrement.</translation>
     </message>
     <message numerus="yes">
         <source>%1: %n values are too few for a picture</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 : %n valeur ne suffit pas pour une image</numerusform>
+            <numerusform>%1 : %n valeurs ne suffisent pas pour une image</numerusform>
         </translation>
     </message>
     <message>
         <source>waveform takes one file</source>
-        <translation type="unfinished"></translation>
+        <translation>waveform attend un seul fichier</translation>
     </message>
     <message>
         <source>stopped before the end</source>
-        <translation type="unfinished"></translation>
+        <translation>arrêt avant la fin</translation>
     </message>
     <message>
         <source>the file is damaged, what could be read is shown: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier est endommagé, ce qui a pu être lu est affiché : %1</translation>
     </message>
     <message>
         <source>print ten values of a file&apos;s outline for each second</source>
-        <translation type="unfinished"></translation>
+        <translation>afficher, pour chaque seconde, dix valeurs de la forme d’onde d’un fichier</translation>
     </message>
     <message>
         <source>Draw the outline into a PNG file instead of printing it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessiner la forme d’onde dans un fichier PNG au lieu de l’afficher.</translation>
     </message>
     <message>
         <source>Replace FILE when it exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer FILE s’il existe.</translation>
     </message>
     <message>
         <source>Draw the outline of a recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessiner la forme d’onde d’un enregistrement.</translation>
     </message>
     <message>
         <source>%1: no such command and no such file (see sonaphex help)</source>
@@ -1619,266 +1626,266 @@ commands:
     <name>Control</name>
     <message>
         <source>%1: no such folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : dossier introuvable</translation>
     </message>
     <message>
         <source>%1: no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : fichier introuvable</translation>
     </message>
     <message>
         <source>%1: the folder cannot be created</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : impossible de créer le dossier</translation>
     </message>
     <message>
         <source>the file or its tags could not be written</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d’écrire le fichier ou ses étiquettes</translation>
     </message>
     <message>
         <source>This path exists, please change the path or name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce chemin existe déjà, veuillez changer le chemin ou le nom.</translation>
     </message>
     <message>
         <source>stopped before the end</source>
-        <translation type="unfinished"></translation>
+        <translation>arrêt avant la fin</translation>
     </message>
     <message>
         <source>a part of it is damaged and cannot be measured</source>
-        <translation type="unfinished"></translation>
+        <translation>une partie est endommagée et ne peut pas être mesurée</translation>
     </message>
 </context>
 <context>
     <name>ControlRequests</name>
     <message>
         <source>the program is ending</source>
-        <translation type="unfinished"></translation>
+        <translation>le programme se termine</translation>
     </message>
     <message>
         <source>there is no source to record</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a aucune source à enregistrer</translation>
     </message>
     <message>
         <source>nothing is being recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun enregistrement en cours</translation>
     </message>
     <message>
         <source>unknown request</source>
-        <translation type="unfinished"></translation>
+        <translation>requête inconnue</translation>
     </message>
     <message>
         <source>there is no path</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas de chemin</translation>
     </message>
 </context>
 <context>
     <name>ConvertingTipView</name>
     <message>
         <source>Converting notice</source>
-        <translation type="unfinished"></translation>
+        <translation>Avis de conversion</translation>
     </message>
 </context>
 <context>
     <name>Desktop</name>
     <message>
         <source>the password prompt was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>la demande de mot de passe a été annulée</translation>
     </message>
     <message>
         <source>pkexec is not installed: administrator rights cannot be requested</source>
-        <translation type="unfinished"></translation>
+        <translation>pkexec n’est pas installé : impossible de demander les droits d’administrateur</translation>
     </message>
     <message>
         <source>administrator rights were not given</source>
-        <translation type="unfinished"></translation>
+        <translation>les droits d’administrateur n’ont pas été accordés</translation>
     </message>
     <message>
         <source>the command ended with status %1</source>
-        <translation type="unfinished"></translation>
+        <translation>la commande s’est terminée avec l’état %1</translation>
     </message>
 </context>
 <context>
     <name>DesktopMain</name>
     <message>
         <source>%1 was not opened: the running program does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’a pas été ouvert : le programme en cours d’exécution ne répond pas</translation>
     </message>
     <message>
         <source>it is already running, but does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>il est déjà en cours d’exécution, mais ne répond pas</translation>
     </message>
     <message>
         <source>Nothing can be recorded or played.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne peut être enregistré ni lu.</translation>
     </message>
     <message>
         <source>Sonaphex cannot start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonaphex ne peut pas démarrer.</translation>
     </message>
 </context>
 <context>
     <name>Disc</name>
     <message>
         <source>%1: its rate cannot be converted</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : impossible de convertir sa fréquence d’échantillonnage</translation>
     </message>
     <message>
         <source>%1: contains no audio</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : ne contient pas d’audio</translation>
     </message>
     <message>
         <source>%1: no such folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : dossier introuvable</translation>
     </message>
     <message>
         <source>%1: exists already, and an image replaces no file; choose another name</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : existe déjà, et une image ne remplace aucun fichier ; choisissez un autre nom</translation>
     </message>
     <message>
         <source>%1: a cue sheet cannot name a file with quotation marks or line ends; choose another name</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : une feuille CUE ne peut pas nommer un fichier contenant des guillemets ou des fins de ligne ; choisissez un autre nom</translation>
     </message>
     <message>
         <source>a file cannot be read: nothing was burned</source>
-        <translation type="unfinished"></translation>
+        <translation>un fichier est illisible : rien n’a été gravé</translation>
     </message>
     <message>
         <source>there is nothing to burn: no file is ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a rien à graver : aucun fichier n’est coché</translation>
     </message>
     <message>
         <source>an audio CD holds at most %1 tracks, these are %2</source>
-        <translation type="unfinished"></translation>
+        <translation>un CD audio contient au plus %1 pistes, il y en a ici %2</translation>
     </message>
     <message>
         <source>Write Disc Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire une image disque</translation>
     </message>
     <message>
         <source>The image cannot be written there.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image ne peut pas être écrite à cet endroit.</translation>
     </message>
     <message>
         <source>no path was given for the disc image</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun chemin n’a été indiqué pour l’image disque</translation>
     </message>
     <message>
         <source>%1: the disk is full: the image needs %2, %3 are free</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : le disque est plein : l’image nécessite %2, %3 sont libres</translation>
     </message>
     <message>
         <source>%1: cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : écriture impossible : %2</translation>
     </message>
     <message>
         <source>%1: cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : lecture impossible</translation>
     </message>
     <message>
         <source>%1: is not an audio file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : n’est pas un fichier audio</translation>
     </message>
     <message>
         <source>it was stopped before the end: nothing was written</source>
-        <translation type="unfinished"></translation>
+        <translation>arrêt avant la fin : rien n’a été écrit</translation>
     </message>
     <message>
         <source>the drive cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d’ouvrir le graveur</translation>
     </message>
     <message>
         <source>%1: there is no disc in the drive</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : il n’y a pas de disque dans le graveur</translation>
     </message>
     <message>
         <source>%1: the disc is not blank</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : le disque n’est pas vierge</translation>
     </message>
     <message>
         <source>%1: the drive does not get ready</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : le graveur ne devient pas prêt</translation>
     </message>
     <message>
         <source>%1: this disc cannot be written to</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : impossible d’écrire sur ce disque</translation>
     </message>
     <message>
         <source>the disc cannot be written like this: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d’écrire le disque ainsi : %1</translation>
     </message>
     <message>
         <source>the drive gave no reason</source>
-        <translation type="unfinished"></translation>
+        <translation>le graveur n’a donné aucune raison</translation>
     </message>
     <message>
         <source>it was stopped before the end: the disc may be unusable</source>
-        <translation type="unfinished"></translation>
+        <translation>arrêt avant la fin : le disque est peut-être inutilisable</translation>
     </message>
     <message>
         <source>it was stopped before the first sector: the disc is as it was</source>
-        <translation type="unfinished"></translation>
+        <translation>arrêt avant le premier secteur : le disque est resté tel quel</translation>
     </message>
     <message>
         <source>%1: an audio CD needs a CD-R or a CD-RW, this is a %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : un CD audio nécessite un CD-R ou un CD-RW, disque présent : %2</translation>
     </message>
     <message>
         <source>disc of another kind</source>
-        <translation type="unfinished"></translation>
+        <translation>disque d’un autre type</translation>
     </message>
     <message>
         <source>the layout of the disc could not be made</source>
-        <translation type="unfinished"></translation>
+        <translation>la disposition du disque n’a pas pu être créée</translation>
     </message>
     <message>
         <source>%1 (the disc is unusable)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (le disque est inutilisable)</translation>
     </message>
     <message>
         <source>%1: the burn failed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : la gravure a échoué : %2</translation>
     </message>
     <message>
         <source>%1: this disc cannot be erased</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : ce disque ne peut pas être effacé</translation>
     </message>
     <message>
         <source>%1: the erase failed: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : l’effacement a échoué : %2</translation>
     </message>
     <message>
         <source>no right to use %1: join the group that owns it (often &quot;cdrom&quot;) and log in again</source>
-        <translation type="unfinished"></translation>
+        <translation>pas le droit d’utiliser %1 : rejoignez le groupe qui le possède (souvent « cdrom ») et reconnectez-vous</translation>
     </message>
     <message>
         <source>another program uses the drive, or its disc is mounted</source>
-        <translation type="unfinished"></translation>
+        <translation>un autre programme utilise le graveur, ou son disque est monté</translation>
     </message>
     <message>
         <source>the drive is gone</source>
-        <translation type="unfinished"></translation>
+        <translation>le graveur a disparu</translation>
     </message>
     <message>
         <source>%1 cannot be opened: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d’ouvrir %1 : %2</translation>
     </message>
     <message>
         <source>%1: no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : fichier introuvable</translation>
     </message>
     <message>
         <source>%1: is not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : n’est pas un fichier</translation>
     </message>
     <message>
         <source>%1: no right to read it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : pas le droit de le lire</translation>
     </message>
     <message>
         <source>%1: is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : est vide</translation>
     </message>
     <message>
         <source>%1: the file ends earlier than when it was measured</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : le fichier se termine plus tôt que lors de sa mesure</translation>
     </message>
     <message>
         <source>there is not enough room on the disc: the tracks need %1 minutes (%2 sectors), %3 minutes (%4 sectors) are free</source>
@@ -1893,82 +1900,82 @@ commands:
     <name>EditWindows</name>
     <message>
         <source>%1 cannot be opened: close the open dialog first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir %1 : fermez d’abord la boîte de dialogue ouverte.</translation>
     </message>
 </context>
 <context>
     <name>FilteredAudioModel</name>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
 </context>
 <context>
     <name>Foundation</name>
     <message>
         <source>%1: another program is using it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : un autre programme l’utilise</translation>
     </message>
     <message>
         <source>not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>pas un fichier ordinaire</translation>
     </message>
     <message>
         <source>%1 is a link</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est un lien</translation>
     </message>
     <message>
         <source>%1 is no folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est pas un dossier</translation>
     </message>
     <message>
         <source>%1 belongs to another user</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 appartient à un autre utilisateur</translation>
     </message>
     <message>
         <source>%1 is open to others</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est ouvert à d’autres utilisateurs</translation>
     </message>
     <message>
         <source>a part of the program is missing: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>une partie du programme manque : %1</translation>
     </message>
     <message>
         <source>%1 is already answered</source>
-        <translation type="unfinished"></translation>
+        <translation>un programme répond déjà sur %1</translation>
     </message>
     <message>
         <source>%1 is not a socket of this user</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est pas un socket de cet utilisateur</translation>
     </message>
     <message>
         <source>, </source>
         <comment>between the items of a list</comment>
-        <translation type="unfinished"></translation>
+        <translation>, </translation>
     </message>
     <message>
         <source>is a link</source>
-        <translation type="unfinished"></translation>
+        <translation>est un lien</translation>
     </message>
     <message>
         <source>is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>est un dossier</translation>
     </message>
     <message>
         <source>belongs to another user</source>
-        <translation type="unfinished"></translation>
+        <translation>appartient à un autre utilisateur</translation>
     </message>
     <message>
         <source>is larger than %1</source>
-        <translation type="unfinished"></translation>
+        <translation>dépasse %1</translation>
     </message>
 </context>
 <context>
@@ -2042,101 +2049,101 @@ commands:
     <name>ID3EditSave</name>
     <message>
         <source>The file “%1” is no longer there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier « %1 » n’existe plus.</translation>
     </message>
     <message>
         <source>The cover of “%1” could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>La pochette de « %1 » n’a pas pu être écrite.</translation>
     </message>
     <message>
         <source>The tags of “%1” could not be written</source>
-        <translation type="unfinished"></translation>
+        <translation>Les étiquettes de « %1 » n’ont pas pu être écrites</translation>
     </message>
 </context>
 <context>
     <name>ID3EditWnd</name>
     <message>
         <source>Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquettes</translation>
     </message>
     <message>
         <source>&amp;Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Choisir…</translation>
     </message>
     <message>
         <source>Choose a picture for the cover</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir une image pour la pochette</translation>
     </message>
     <message>
         <source>Drop a picture here. Drag it out to remove it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Déposez une image ici. Faites-la glisser dehors pour la retirer.</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Titre :</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
     <message>
         <source>A&amp;rtist:</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;rtiste :</translation>
     </message>
     <message>
         <source>Artist</source>
-        <translation type="unfinished"></translation>
+        <translation>Artiste</translation>
     </message>
     <message>
         <source>Al&amp;bum:</source>
-        <translation type="unfinished"></translation>
+        <translation>Al&amp;bum :</translation>
     </message>
     <message>
         <source>Album</source>
-        <translation type="unfinished"></translation>
+        <translation>Album</translation>
     </message>
     <message>
         <source>&amp;Year:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Année :</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Année</translation>
     </message>
     <message>
         <source>&amp;Genre:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Genre :</translation>
     </message>
     <message>
         <source>Genre</source>
-        <translation type="unfinished"></translation>
+        <translation>Genre</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>&amp;Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Ter&amp;miné</translation>
     </message>
 </context>
 <context>
     <name>ID3EditWndController</name>
     <message>
         <source>Choose</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir</translation>
     </message>
     <message>
         <source>This file is not a picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier n’est pas une image.</translation>
     </message>
     <message>
         <source>Not everything could be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout n’a pas pu être sauvegardé.</translation>
     </message>
     <message>
         <source>ID3 converter......</source>
-        <translation type="unfinished"></translation>
+        <translation>Conversion ID3......</translation>
     </message>
 </context>
 <context>
@@ -2144,12 +2151,12 @@ commands:
     <message>
         <source>Control</source>
         <comment>a key of the keyboard</comment>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl</translation>
     </message>
     <message>
         <source>Super</source>
         <comment>a key of the keyboard</comment>
-        <translation type="unfinished"></translation>
+        <translation>Super</translation>
     </message>
     <message>
         <source>Shift</source>
@@ -2166,1032 +2173,1034 @@ commands:
     <name>KeybordShortcutTextView</name>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun</translation>
     </message>
     <message>
         <source>The desktop has no keys for this. Choose some in its settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bureau n’a pas de touches pour ceci. Choisissez-en dans ses paramètres.</translation>
     </message>
     <message>
         <source>These keys are set in the desktop&apos;s settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces touches sont définies dans les paramètres du bureau.</translation>
     </message>
     <message>
         <source>No keys in the desktop&apos;s settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune touche dans les paramètres du bureau</translation>
     </message>
     <message>
         <source>Click, then press the keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez, puis appuyez sur les touches</translation>
     </message>
     <message>
         <source>Press the keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Appuyez sur les touches</translation>
     </message>
 </context>
 <context>
     <name>LibraryOutlineModel</name>
     <message numerus="yes">
         <source>%n recording(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n enregistrement</numerusform>
+            <numerusform>%n enregistrements</numerusform>
         </translation>
     </message>
     <message>
         <source>Library</source>
-        <translation type="unfinished"></translation>
+        <translation>Bibliothèque</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers</translation>
     </message>
 </context>
 <context>
     <name>LibraryPresenter</name>
     <message>
         <source>The file is no longer there: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n’existe plus : %1</translation>
     </message>
     <message>
         <source>“%1” cannot be played.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire « %1 ».</translation>
     </message>
     <message>
         <source>“%1” cannot be played: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire « %1 » : %2</translation>
     </message>
     <message>
         <source>The folder of “%1” could not be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’afficher le dossier de « %1 ».</translation>
     </message>
     <message>
         <source>No player could be opened for “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir un lecteur pour « %1 ».</translation>
     </message>
 </context>
 <context>
     <name>MainMenus</name>
     <message>
         <source>&amp;Record</source>
-        <translation type="unfinished"></translation>
+        <translation>En&amp;registrement</translation>
     </message>
     <message>
         <source>&amp;Cut to Another Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Passer à un &amp;nouvel enregistrement</translation>
     </message>
     <message>
         <source>Close this file and go on in a new one</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer ce fichier et continuer dans un nouveau</translation>
     </message>
     <message>
         <source>Record the &amp;Input Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le périphérique d’&amp;entrée</translation>
     </message>
     <message>
         <source>Record Computer &amp;Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le son de l’&amp;ordinateur</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitter</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>É&amp;dition</translation>
     </message>
     <message>
         <source>Edit &amp;Tags…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modifier les étiquettes…</translation>
     </message>
     <message>
         <source>Title, artist, album and cover of the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre, artiste, album et pochette de l’enregistrement</translation>
     </message>
     <message>
         <source>T&amp;rim…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rogner…</translation>
     </message>
     <message>
         <source>Keep a part of the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserver une partie de l’enregistrement</translation>
     </message>
     <message>
         <source>Make a &amp;Ringtone…</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer une &amp;sonnerie…</translation>
     </message>
     <message>
         <source>Cut a ringtone out of the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Découper une sonnerie dans l’enregistrement</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;upprimer</translation>
     </message>
     <message>
         <source>Delete the selected recordings and their files</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer les enregistrements sélectionnés et leurs fichiers</translation>
     </message>
     <message>
         <source>&amp;Search…</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;chercher…</translation>
     </message>
     <message>
         <source>Search titles, artists and albums</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher dans les titres, artistes et albums</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tout sélectionner</translation>
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Préférences…</translation>
     </message>
     <message>
         <source>&amp;Library</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bibliothèque</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lire</translation>
     </message>
     <message>
         <source>Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire ou mettre en pause</translation>
     </message>
     <message>
         <source>Play the &amp;Selected Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire l’enregistrement &amp;sélectionné</translation>
     </message>
     <message>
         <source>Play from its beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire depuis le début</translation>
     </message>
     <message>
         <source>Back %1 Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Reculer de %1 secondes</translation>
     </message>
     <message>
         <source>Forward %1 Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Avancer de %1 secondes</translation>
     </message>
     <message>
         <source>S&amp;how in Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher dans le &amp;dossier</translation>
     </message>
     <message>
         <source>Show the file in the file manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher le fichier dans le gestionnaire de fichiers</translation>
     </message>
     <message>
         <source>&amp;Open in Player</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir dans le lecteur</translation>
     </message>
     <message>
         <source>Open the file in your music player</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir le fichier dans votre lecteur de musique</translation>
     </message>
     <message>
         <source>&amp;Burn to Disc…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Graver sur un disque…</translation>
     </message>
     <message>
         <source>Make an audio CD of this list</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer un CD audio de cette liste</translation>
     </message>
     <message>
         <source>&amp;Find Short Recordings…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Trouver les enregistrements courts…</translation>
     </message>
     <message>
         <source>Find recordings that are too short to keep</source>
-        <translation type="unfinished"></translation>
+        <translation>Trouver les enregistrements trop courts pour être conservés</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Affichage</translation>
     </message>
     <message>
         <source>&amp;Switch the Display</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Basculer l’afficheur</translation>
     </message>
     <message>
         <source>Level of the recording, or position of the playback</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau de l’enregistrement, ou position de la lecture</translation>
     </message>
     <message>
         <source>Show the Next &amp;Notice</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher l’avis &amp;suivant</translation>
     </message>
     <message>
         <source>Several notices stand in the display</source>
-        <translation type="unfinished"></translation>
+        <translation>Plusieurs avis figurent dans l’afficheur</translation>
     </message>
     <message>
         <source>&amp;Dismiss All Notices</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fermer tous les avis</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aid&amp;e</translation>
     </message>
     <message>
         <source>&amp;Support Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Page d’&amp;assistance</translation>
     </message>
     <message>
         <source>Computer-Audio &amp;Add-on Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Page du &amp;module du son de l’ordinateur</translation>
     </message>
     <message>
         <source>&amp;Install the Computer-Audio Device…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Installer le périphérique du son de l’ordinateur…</translation>
     </message>
     <message>
         <source>A&amp;bout Sonaphex</source>
-        <translation type="unfinished"></translation>
+        <translation>À &amp;propos de Sonaphex</translation>
     </message>
     <message>
         <source>Trim</source>
-        <translation type="unfinished"></translation>
+        <translation>Rogner</translation>
     </message>
     <message>
         <source>Ringtone</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonnerie</translation>
     </message>
     <message>
         <source>Edit Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquettes</translation>
     </message>
     <message>
         <source>Burn</source>
-        <translation type="unfinished"></translation>
+        <translation>Graver</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrer</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher</translation>
     </message>
     <message>
         <source>Open in player</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Choose the input, computer audio, or both first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez d’abord l’entrée, le son de l’ordinateur, ou les deux.</translation>
     </message>
     <message>
         <source>Nothing is being recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun enregistrement en cours.</translation>
     </message>
     <message>
         <source>It is installed already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il est déjà installé.</translation>
     </message>
     <message>
         <source>The device stays as it is until the recording ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le périphérique reste tel quel jusqu’à la fin de l’enregistrement.</translation>
     </message>
     <message>
         <source>The sources stay as they are until the recording ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les sources restent telles quelles jusqu’à la fin de l’enregistrement.</translation>
     </message>
     <message>
         <source>&amp;Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pause</translation>
     </message>
     <message>
         <source>Nothing is playing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune lecture en cours.</translation>
     </message>
     <message>
         <source>&amp;Answer the Notice</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Répondre à l’avis</translation>
     </message>
     <message>
         <source>&amp;Answer the Notice: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Répondre à l’avis : %1</translation>
     </message>
     <message>
         <source>There is no other notice.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas d’autre avis.</translation>
     </message>
     <message>
         <source>This notice offers nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cet avis ne propose rien.</translation>
     </message>
     <message>
         <source>There is no notice.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas d’avis.</translation>
     </message>
     <message>
         <source>Select a recording first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez d’abord un enregistrement.</translation>
     </message>
     <message>
         <source>Select a recording first. Nothing is played while recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez d’abord un enregistrement. Rien n’est lu pendant un enregistrement.</translation>
     </message>
     <message>
         <source>Arrives in a later version of Sonaphex.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrivera dans une version ultérieure de Sonaphex.</translation>
     </message>
     <message>
         <source>There is nothing in this list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a rien dans cette liste.</translation>
     </message>
     <message>
         <source>About Sonaphex</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos de Sonaphex</translation>
     </message>
     <message>
         <source>Sonaphex %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonaphex %1</translation>
     </message>
     <message>
         <source>Records what the computer plays, what a microphone hears, or both.
 
 © 2026 The Sonaphex authors. Free software under the GNU General Public License, version 3 or later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistre le son joué par l’ordinateur, celui d’un micro, ou les deux.
+
+© 2026 Les auteurs de Sonaphex. Logiciel libre sous licence publique générale GNU, version 3 ou ultérieure.</translation>
     </message>
 </context>
 <context>
     <name>MainWnd</name>
     <message>
         <source>Start or stop recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrer ou arrêter l’enregistrement</translation>
     </message>
     <message>
         <source>Pause or resume recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Suspendre ou reprendre l’enregistrement</translation>
     </message>
     <message>
         <source>Cut to another recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Passer à un nouvel enregistrement</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficheur</translation>
     </message>
     <message>
         <source>&amp;Input</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;ntrée</translation>
     </message>
     <message>
         <source>Record the chosen input device</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le périphérique d’entrée choisi</translation>
     </message>
     <message>
         <source>Record the input device</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le périphérique d’entrée</translation>
     </message>
     <message>
         <source>Input device</source>
-        <translation type="unfinished"></translation>
+        <translation>Périphérique d’entrée</translation>
     </message>
     <message>
         <source>&amp;Computer audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Son de l’&amp;ordinateur</translation>
     </message>
     <message>
         <source>Record what the computer plays</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le son joué par l’ordinateur</translation>
     </message>
     <message>
         <source>Record computer audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le son de l’ordinateur</translation>
     </message>
     <message>
         <source>Lost frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Trames perdues</translation>
     </message>
     <message>
         <source>Library</source>
-        <translation type="unfinished"></translation>
+        <translation>Bibliothèque</translation>
     </message>
     <message>
         <source>Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>État</translation>
     </message>
 </context>
 <context>
     <name>MainWndController</name>
     <message>
         <source>The computer-audio device is installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le périphérique du son de l’ordinateur est installé.</translation>
     </message>
     <message>
         <source>The computer-audio device is installed. What the computer plays is recorded from now on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le périphérique du son de l’ordinateur est installé. Le son joué par l’ordinateur est désormais enregistré.</translation>
     </message>
     <message>
         <source>“%1” was not added: it is shorter than %2 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’a pas été ajouté : il dure moins de %2 s.</translation>
     </message>
     <message>
         <source>%1 selected, %2 together</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sélectionnés, %2 au total</translation>
     </message>
     <message>
         <source>No title, artist or album here has “%1” in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun titre, artiste ou album ne contient ici « %1 ».</translation>
     </message>
     <message>
         <source>The recording appears here when it has ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement apparaîtra ici lorsqu’il sera terminé.</translation>
     </message>
     <message>
         <source>Nothing here yet. Press the red button to make your first recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Encore rien ici. Cliquez sur le bouton rouge pour faire votre premier enregistrement.</translation>
     </message>
     <message>
         <source>Ringtones that you make of your recordings appear here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les sonneries que vous créez à partir de vos enregistrements apparaissent ici.</translation>
     </message>
     <message>
         <source>Recordings that you make now appear here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les enregistrements que vous faites maintenant apparaissent ici.</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire</translation>
     </message>
 </context>
 <context>
     <name>Media</name>
     <message>
         <source>cannot be read from the beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>lecture impossible depuis le début</translation>
     </message>
     <message>
         <source>audio files cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de lire les fichiers audio : %1</translation>
     </message>
     <message>
         <source>out of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>mémoire insuffisante</translation>
     </message>
     <message>
         <source>cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>lecture impossible</translation>
     </message>
     <message>
         <source>not an audio file, or too damaged to be read</source>
-        <translation type="unfinished"></translation>
+        <translation>pas un fichier audio, ou trop endommagé pour être lu</translation>
     </message>
     <message>
         <source>the file contains no audio</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier ne contient pas d’audio</translation>
     </message>
     <message>
         <source>its audio format is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>son format audio n’est pas pris en charge</translation>
     </message>
     <message>
         <source>no decoder for its audio format</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun décodeur pour son format audio</translation>
     </message>
     <message>
         <source>its audio cannot be decoded</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de décoder son audio</translation>
     </message>
     <message>
         <source>damaged at frame %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>endommagé à la trame %1 (%2)</translation>
     </message>
     <message>
         <source>channels that cannot be mixed</source>
-        <translation type="unfinished"></translation>
+        <translation>canaux impossibles à mixer</translation>
     </message>
     <message>
         <source>not a finished recording of Sonaphex</source>
-        <translation type="unfinished"></translation>
+        <translation>pas un enregistrement terminé de Sonaphex</translation>
     </message>
     <message>
         <source>its index is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>son index est endommagé</translation>
     </message>
     <message>
         <source>the file is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier est vide</translation>
     </message>
     <message>
         <source>the AAC encoder failed</source>
-        <translation type="unfinished"></translation>
+        <translation>l’encodeur AAC a échoué</translation>
     </message>
     <message>
         <source>the encoder is missing: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>l’encodeur manque : %1</translation>
     </message>
     <message>
         <source>the encoder does not take this rate or channel count</source>
-        <translation type="unfinished"></translation>
+        <translation>l’encodeur n’accepte pas cette fréquence d’échantillonnage ou ce nombre de canaux</translation>
     </message>
     <message>
         <source>the rate cannot be converted</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de convertir la fréquence d’échantillonnage</translation>
     </message>
     <message>
         <source>not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>pas un fichier ordinaire</translation>
     </message>
     <message>
         <source>this format cannot be written</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d’écrire ce format</translation>
     </message>
     <message>
         <source>too deeply nested</source>
-        <translation type="unfinished"></translation>
+        <translation>imbrication trop profonde</translation>
     </message>
     <message>
         <source>a box of impossible size</source>
-        <translation type="unfinished"></translation>
+        <translation>une boîte de taille impossible</translation>
     </message>
     <message>
         <source>too many boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>trop de boîtes</translation>
     </message>
     <message>
         <source>a box larger than the one around it</source>
-        <translation type="unfinished"></translation>
+        <translation>une boîte plus grande que celle qui l’entoure</translation>
     </message>
     <message>
         <source>a table that is larger than its box</source>
-        <translation type="unfinished"></translation>
+        <translation>une table plus grande que sa boîte</translation>
     </message>
     <message>
         <source>not an MPEG-4 file</source>
-        <translation type="unfinished"></translation>
+        <translation>pas un fichier MPEG-4</translation>
     </message>
     <message>
         <source>the file ends within its index</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier se termine au milieu de son index</translation>
     </message>
     <message>
         <source>the file has no index</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier n’a pas d’index</translation>
     </message>
     <message>
         <source>a packet of the recording cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>un paquet de l’enregistrement est illisible</translation>
     </message>
     <message>
         <source>stopped before the end</source>
-        <translation type="unfinished"></translation>
+        <translation>arrêt avant la fin</translation>
     </message>
     <message>
         <source>%1 cannot be played</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de lire %1</translation>
     </message>
     <message>
         <source>the sound server went away</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur de son a disparu</translation>
     </message>
     <message>
         <source>no sound server answers: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun serveur de son ne répond : %1</translation>
     </message>
     <message>
         <source>the sound server refused the stream</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur de son a refusé le flux</translation>
     </message>
     <message>
         <source>its tags cannot be written</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d’écrire ses étiquettes</translation>
     </message>
     <message>
         <source>cannot write the tags of %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d’écrire les étiquettes de %1 : %2</translation>
     </message>
     <message>
         <source>cannot read the tags of %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de lire les étiquettes de %1 : %2</translation>
     </message>
     <message>
         <source>its tags cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de lire ses étiquettes</translation>
     </message>
     <message>
         <source>cannot read the image %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de lire l’image %1 : %2</translation>
     </message>
     <message>
         <source>%1 is neither a JPEG nor a PNG image</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est une image ni JPEG ni PNG</translation>
     </message>
     <message>
         <source>cannot write the artwork of %1 to %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d’écrire la pochette de %1 dans %2 : %3</translation>
     </message>
     <message>
         <source>another program is changing it</source>
-        <translation type="unfinished"></translation>
+        <translation>un autre programme est en train de le modifier</translation>
     </message>
     <message>
         <source>its index cannot hold more</source>
-        <translation type="unfinished"></translation>
+        <translation>son index ne peut pas contenir davantage</translation>
     </message>
     <message>
         <source>the file is cut off</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier est tronqué</translation>
     </message>
     <message>
         <source>its index is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>son index est trop grand</translation>
     </message>
     <message>
         <source>it cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>il ne peut pas être lu</translation>
     </message>
     <message>
         <source>that path is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>ce chemin n’est pas un fichier ordinaire</translation>
     </message>
     <message>
         <source>its last box has no size</source>
-        <translation type="unfinished"></translation>
+        <translation>sa dernière boîte n’a pas de taille</translation>
     </message>
 </context>
 <context>
     <name>MediaLibrary</name>
     <message>
         <source>Record Library</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements</translation>
     </message>
     <message>
         <source>Newly Recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveaux</translation>
     </message>
     <message>
         <source>All Recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous</translation>
     </message>
     <message>
         <source>Ringtone Library</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonneries</translation>
     </message>
     <message>
         <source>Newly Ringtone</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelles</translation>
     </message>
     <message>
         <source>All Ringtone</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes</translation>
     </message>
 </context>
 <context>
     <name>Platform::PortalAutostart</name>
     <message>
         <source>Sonaphex waits in the status bar.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonaphex attend dans la zone de notification.</translation>
     </message>
     <message>
         <source>the desktop did not allow it</source>
-        <translation type="unfinished"></translation>
+        <translation>le bureau ne l’a pas autorisé</translation>
     </message>
 </context>
 <context>
     <name>PreferenceWnd</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Préférences</translation>
     </message>
     <message>
         <source>Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossiers</translation>
     </message>
     <message>
         <source>&amp;Recordings:</source>
-        <translation type="unfinished"></translation>
+        <translation>En&amp;registrements :</translation>
     </message>
     <message>
         <source>Folder of recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier des enregistrements</translation>
     </message>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir…</translation>
     </message>
     <message>
         <source>Choose the folder of recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir le dossier des enregistrements</translation>
     </message>
     <message>
         <source>Sho&amp;w</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Afficher</translation>
     </message>
     <message>
         <source>Show the folder of recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher le dossier des enregistrements</translation>
     </message>
     <message>
         <source>Rin&amp;gtones:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonn&amp;eries :</translation>
     </message>
     <message>
         <source>Folder of ringtones</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier des sonneries</translation>
     </message>
     <message>
         <source>Choose the folder of ringtones</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir le dossier des sonneries</translation>
     </message>
     <message>
         <source>S&amp;how</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;fficher</translation>
     </message>
     <message>
         <source>Show the folder of ringtones</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher le dossier des sonneries</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement</translation>
     </message>
     <message>
         <source>&amp;Split computer audio at a silence of</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diviser le son de l’ordinateur aux silences de</translation>
     </message>
     <message>
         <source>Split computer audio at silences</source>
-        <translation type="unfinished"></translation>
+        <translation>Diviser le son de l’ordinateur aux silences</translation>
     </message>
     <message>
         <source>Length of silence in milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée du silence en millisecondes</translation>
     </message>
     <message>
         <source>milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>millisecondes</translation>
     </message>
     <message>
         <source>&amp;Leave out recordings shorter than</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ignorer les enregistrements de moins de</translation>
     </message>
     <message>
         <source>Leave out short recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorer les enregistrements courts</translation>
     </message>
     <message>
         <source>Shortest recording in seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée minimale d’un enregistrement en secondes</translation>
     </message>
     <message>
         <source>seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>secondes</translation>
     </message>
     <message>
         <source>&amp;Begin before the first sound by</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Conserver avant le premier son</translation>
     </message>
     <message>
         <source>Time before the first sound in milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps avant le premier son en millisecondes</translation>
     </message>
     <message>
         <source>A recording of computer audio waits for the first sound. It then contains this much of the time before it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un enregistrement du son de l’ordinateur attend le premier son. Il contient alors aussi cette durée précédant celui-ci.</translation>
     </message>
     <message>
         <source>Computer audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Son de l’ordinateur</translation>
     </message>
     <message>
         <source>State of the computer-audio device</source>
-        <translation type="unfinished"></translation>
+        <translation>État du périphérique du son de l’ordinateur</translation>
     </message>
     <message>
         <source>&amp;Install</source>
-        <translation type="unfinished"></translation>
+        <translation>I&amp;nstaller</translation>
     </message>
     <message>
         <source>Install the computer-audio device</source>
-        <translation type="unfinished"></translation>
+        <translation>Installer le périphérique du son de l’ordinateur</translation>
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation type="unfinished"></translation>
+        <translation>Dé&amp;sinstaller</translation>
     </message>
     <message>
         <source>Remove the computer-audio device</source>
-        <translation type="unfinished"></translation>
+        <translation>Désinstaller le périphérique du son de l’ordinateur</translation>
     </message>
     <message>
         <source>Working on the computer-audio device</source>
-        <translation type="unfinished"></translation>
+        <translation>Opération en cours sur le périphérique du son de l’ordinateur</translation>
     </message>
     <message>
         <source>Problem of the computer-audio device</source>
-        <translation type="unfinished"></translation>
+        <translation>Problème du périphérique du son de l’ordinateur</translation>
     </message>
     <message>
         <source>Shortcuts from any program</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccourcis depuis tout programme</translation>
     </message>
     <message>
         <source>Star&amp;t or stop:</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrage ou arrê&amp;t :</translation>
     </message>
     <message>
         <source>Shortcut for start and stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccourci pour démarrer et arrêter</translation>
     </message>
     <message>
         <source>&amp;Pause or resume:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pause ou reprise :</translation>
     </message>
     <message>
         <source>Shortcut for pause and resume</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccourci pour la pause et la reprise</translation>
     </message>
     <message>
         <source>&amp;New recording:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nou&amp;vel enregistrement :</translation>
     </message>
     <message>
         <source>Shortcut for a new recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccourci pour un nouvel enregistrement</translation>
     </message>
     <message>
         <source>Use the &amp;Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs par défa&amp;ut</translation>
     </message>
     <message>
         <source>Use the default shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser les raccourcis par défaut</translation>
     </message>
     <message>
         <source>How to bind keys on this desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment associer des touches sur ce bureau</translation>
     </message>
     <message>
         <source>Commands to bind</source>
-        <translation type="unfinished"></translation>
+        <translation>Commandes à associer</translation>
     </message>
     <message>
         <source>Desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Bureau</translation>
     </message>
     <message>
         <source>N&amp;otify when a recording ends in the background</source>
-        <translation type="unfinished"></translation>
+        <translation>N&amp;otifier la fin d’un enregistrement en arrière-plan</translation>
     </message>
     <message>
         <source>Notify when a recording ends in the background</source>
-        <translation type="unfinished"></translation>
+        <translation>Notifier la fin d’un enregistrement en arrière-plan</translation>
     </message>
     <message>
         <source>A notification tells of finished and cut recordings, and of problems, while the window is not in front.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une notification signale les enregistrements terminés ou coupés, et les problèmes, quand la fenêtre n’est pas au premier plan.</translation>
     </message>
     <message>
         <source>St&amp;art with the desktop, hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrer avec le &amp;bureau, masqué</translation>
     </message>
     <message>
         <source>Start with the desktop, hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrer avec le bureau, masqué</translation>
     </message>
     <message>
         <source>Sonaphex waits in the status bar after you log in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonaphex attend dans la zone de notification après votre connexion.</translation>
     </message>
 </context>
 <context>
     <name>PreferenceWndController</name>
     <message>
         <source>Start or stop the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrer ou arrêter l’enregistrement</translation>
     </message>
     <message>
         <source>Pause or resume the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Suspendre ou reprendre l’enregistrement</translation>
     </message>
     <message>
         <source>Start a new recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrer un nouvel enregistrement</translation>
     </message>
     <message>
         <source>Sonaphex cannot be started with the desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonaphex ne peut pas être démarré avec le bureau.</translation>
     </message>
     <message>
         <source>Sonaphex is still started with the desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonaphex démarre toujours avec le bureau.</translation>
     </message>
     <message>
         <source>Choose</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir</translation>
     </message>
     <message>
         <source>Nothing is split at a silence: check the box first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune division aux silences : cochez d’abord la case.</translation>
     </message>
     <message>
         <source>All recordings are kept: check the box first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les enregistrements sont conservés : cochez d’abord la case.</translation>
     </message>
     <message>
         <source>Installing the computer-audio device…</source>
-        <translation type="unfinished"></translation>
+        <translation>Installation du périphérique du son de l’ordinateur…</translation>
     </message>
     <message>
         <source>Removing the computer-audio device…</source>
-        <translation type="unfinished"></translation>
+        <translation>Désinstallation du périphérique du son de l’ordinateur…</translation>
     </message>
     <message>
         <source>The computer-audio device is installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le périphérique du son de l’ordinateur est installé.</translation>
     </message>
     <message>
         <source>The computer-audio device is not installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le périphérique du son de l’ordinateur n’est pas installé.</translation>
     </message>
     <message>
         <source>It is installed already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il est déjà installé.</translation>
     </message>
     <message>
         <source>There is nothing to remove.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a rien à désinstaller.</translation>
     </message>
     <message>
         <source>This desktop does not allow global shortcuts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce bureau n’autorise pas les raccourcis globaux.</translation>
     </message>
     <message>
         <source>This desktop does not allow global shortcuts. Bind these commands to keys in the desktop&apos;s own keyboard settings:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce bureau n’autorise pas les raccourcis globaux. Associez ces commandes à des touches dans les paramètres de clavier du bureau :</translation>
     </message>
     <message>
         <source>Warning:</source>
-        <translation type="unfinished"></translation>
+        <translation>Attention :</translation>
     </message>
     <message>
         <source>You cannot save files in the folder. Read and write privilege is needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous ne pouvez pas sauvegarder de fichiers dans ce dossier. Les droits de lecture et d’écriture sont nécessaires.</translation>
     </message>
     <message>
         <source>Can not insert the system audio device, Please try it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’insérer le périphérique de son du système, veuillez réessayer.</translation>
     </message>
 </context>
 <context>
     <name>ProcessWnd</name>
     <message>
         <source>Burn Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression de la gravure</translation>
     </message>
     <message>
         <source>Burn progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression de la gravure</translation>
     </message>
     <message>
         <source>Burn state</source>
-        <translation type="unfinished"></translation>
+        <translation>État de la gravure</translation>
     </message>
 </context>
 <context>
     <name>ProcessWndController</name>
     <message>
         <source>A burn cannot be stopped before it has written 4 %.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une gravure ne peut pas être arrêtée avant d’avoir écrit 4 %.</translation>
     </message>
     <message>
         <source>Stops the burn; the disc is then unusable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrête la gravure ; le disque est alors inutilisable.</translation>
     </message>
     <message>
         <source>Burn Progress:</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression de la gravure :</translation>
     </message>
     <message>
         <source>Warning:</source>
-        <translation type="unfinished"></translation>
+        <translation>Attention :</translation>
     </message>
     <message>
         <source>Are you sure to end the task?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous vraiment mettre fin à la tâche ?</translation>
     </message>
     <message>
         <source>Please waiting a moment ...</source>
@@ -3225,327 +3234,329 @@ commands:
     <name>QObject</name>
     <message>
         <source>The sound server does not answer yet. Waiting for it…</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur de son ne répond pas encore. En attente de sa réponse…</translation>
     </message>
     <message>
         <source>Do Not Wait</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne pas attendre</translation>
     </message>
     <message>
         <source>The device stays as it is until the recording ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le périphérique reste tel quel jusqu’à la fin de l’enregistrement.</translation>
     </message>
 </context>
 <context>
     <name>Record</name>
     <message>
         <source>%1 cannot be written</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d’écrire %1</translation>
     </message>
     <message>
         <source>Rec..</source>
-        <translation type="unfinished"></translation>
+        <translation>Enr..</translation>
     </message>
     <message>
         <source>Rec</source>
-        <translation type="unfinished"></translation>
+        <translation>Enr</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Prêt</translation>
     </message>
     <message>
         <source>Waiting for the first sound</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente du premier son</translation>
     </message>
     <message>
         <source>Recording %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement %1</translation>
     </message>
     <message>
         <source>Paused %1</source>
-        <translation type="unfinished"></translation>
+        <translation>En pause %1</translation>
     </message>
     <message>
         <source>Finishing the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Finalisation de l’enregistrement</translation>
     </message>
     <message>
         <source>         Audio File Converting
          Please Wait ..</source>
-        <translation type="unfinished"></translation>
+        <translation>         Conversion du fichier audio
+         Veuillez patienter ..</translation>
     </message>
     <message>
         <source>         Audio File Converting
          Please Wait </source>
-        <translation type="unfinished"></translation>
+        <translation>         Conversion du fichier audio
+         Veuillez patienter </translation>
     </message>
     <message>
         <source>%1 and %2</source>
         <comment>two paths</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 et %2</translation>
     </message>
     <message>
         <source>the reason is unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>raison inconnue</translation>
     </message>
     <message>
         <source>The recording is kept, and moved by the next start when there is room, at</source>
         <comment>a path follows</comment>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement est conservé et sera déplacé au prochain démarrage s’il y a de la place ; il se trouve ici :</translation>
     </message>
     <message>
         <source>The recording is kept at</source>
         <comment>a path follows</comment>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement est conservé ici :</translation>
     </message>
     <message>
         <source>It is kept, and moved by the next start when there is room, at</source>
         <comment>the source of a recording; a path follows</comment>
-        <translation type="unfinished"></translation>
+        <translation>Elle est conservée et sera déplacée au prochain démarrage s’il y a de la place ; elle se trouve ici :</translation>
     </message>
     <message>
         <source>It is kept at</source>
         <comment>the source of a recording; a path follows</comment>
-        <translation type="unfinished"></translation>
+        <translation>Elle est conservée ici :</translation>
     </message>
     <message>
         <source>What it was made from is kept, and moved by the next start when there is room, at</source>
         <comment>a path follows</comment>
-        <translation type="unfinished"></translation>
+        <translation>Ses données d’origine sont conservées et seront déplacées au prochain démarrage s’il y a de la place ; elles se trouvent ici :</translation>
     </message>
     <message>
         <source>What it was made from is kept at</source>
         <comment>a path follows</comment>
-        <translation type="unfinished"></translation>
+        <translation>Ses données d’origine sont conservées ici :</translation>
     </message>
     <message>
         <source>A part of the recording could not be written (error %1). What was written is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une partie de l’enregistrement n’a pas pu être écrite (erreur %1). Ce qui a été écrit est conservé.</translation>
     </message>
     <message>
         <source>%1: %2 could not be saved in “%3”.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2 n’a pas pu être sauvegardé dans « %3 ».</translation>
     </message>
     <message>
         <source>%1 could not be finished: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’a pas pu être terminé : %2.</translation>
     </message>
     <message>
         <source>One source of %1 could not be read (%2) and is missing in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une source de %1 n’a pas pu être lue (%2) et y manque.</translation>
     </message>
     <message>
         <source>%1 could not be mixed: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’a pas pu être mixé : %2.</translation>
     </message>
     <message>
         <source>The disk is nearly full: %1 could not be mixed, which needs %2 MB; %3 MB are left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque est presque plein : %1 n’a pas pu être mixé, ce qui nécessite %2 Mo ; il reste %3 Mo.</translation>
     </message>
     <message>
         <source>%1 could not be encoded: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’a pas pu être encodé : %2.</translation>
     </message>
     <message>
         <source>A part of %1 could not be read (%2) and is missing in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une partie de %1 n’a pas pu être lue (%2) et y manque.</translation>
     </message>
     <message>
         <source>%1 could not be tagged. Its audio is complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les étiquettes de %1 n’ont pas pu être écrites. Son audio est complet.</translation>
     </message>
     <message>
         <source>less than a minute</source>
-        <translation type="unfinished"></translation>
+        <translation>moins d’une minute</translation>
     </message>
     <message>
         <source>about 1 minute</source>
-        <translation type="unfinished"></translation>
+        <translation>environ 1 minute</translation>
     </message>
     <message numerus="yes">
         <source>about %n minutes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>environ %n minute</numerusform>
+            <numerusform>environ %n minutes</numerusform>
         </translation>
     </message>
     <message>
         <source>Waring:</source>
-        <translation type="unfinished"></translation>
+        <translation>Attention :</translation>
     </message>
     <message>
         <source>The application is reading your USB headset data, please do not unplug your USB headset, if you want to unplug your USB headset please turn off this application first， Otherwise give your computer some trouble.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’application lit les données de votre casque USB, veuillez ne pas le débrancher. Si vous voulez débrancher votre casque USB, veuillez d’abord quitter cette application, sinon votre ordinateur pourrait rencontrer des problèmes.</translation>
     </message>
     <message>
         <source>%1 cannot be opened: %2. Nothing is heard from it until it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir %1 : %2. Aucun son n’en parviendra tant que cela dure.</translation>
     </message>
     <message>
         <source>%1 is gone. There is no other input device: connect one.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a disparu. Il n’y a pas d’autre périphérique d’entrée : connectez-en un.</translation>
     </message>
     <message>
         <source>%1 is gone. %2 takes its place until it is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a disparu. %2 prend sa place jusqu’à son retour.</translation>
     </message>
     <message>
         <source>The input device</source>
-        <translation type="unfinished"></translation>
+        <translation>Le périphérique d’entrée</translation>
     </message>
     <message>
         <source>the input device</source>
-        <translation type="unfinished"></translation>
+        <translation>le périphérique d’entrée</translation>
     </message>
     <message>
         <source>Computer audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Le son de l’ordinateur</translation>
     </message>
     <message>
         <source>computer audio</source>
-        <translation type="unfinished"></translation>
+        <translation>le son de l’ordinateur</translation>
     </message>
     <message>
         <source>Add-on required to record the system audio.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un module complémentaire est nécessaire pour enregistrer le son du système.</translation>
     </message>
     <message>
         <source>KorvanAudioDevice is easy to use, it simply accept system audio data, allowing any audio application to send and receive audio with no other support needed. KorvanAudioDevice is free, and runs on Linux computers. This driver will only be used by Sonaphex.</source>
-        <translation type="unfinished"></translation>
+        <translation>KorvanAudioDevice est facile à utiliser : il reçoit simplement le son du système et permet à toute application audio d’envoyer et de recevoir du son sans autre composant. KorvanAudioDevice est gratuit et fonctionne sur les ordinateurs Linux. Ce pilote ne sera utilisé que par Sonaphex.</translation>
     </message>
     <message>
         <source>Install</source>
-        <translation type="unfinished"></translation>
+        <translation>Installer</translation>
     </message>
     <message>
         <source>Please stop your recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez arrêter votre enregistrement.</translation>
     </message>
     <message>
         <source>Stop Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter l’enregistrement</translation>
     </message>
     <message>
         <source>Start Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrer l’enregistrement</translation>
     </message>
     <message>
         <source>Pause Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Suspendre l’enregistrement</translation>
     </message>
     <message>
         <source>Nothing is being recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun enregistrement en cours</translation>
     </message>
     <message>
         <source>The input device does not deliver. Nothing is recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le périphérique d’entrée ne fournit aucune donnée. Rien n’est enregistré.</translation>
     </message>
     <message>
         <source>Computer audio does not deliver. Nothing is recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le son de l’ordinateur ne fournit aucune donnée. Rien n’est enregistré.</translation>
     </message>
     <message>
         <source>There is no input device. Nothing is recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de périphérique d’entrée. Rien n’est enregistré.</translation>
     </message>
     <message>
         <source>The input device does not deliver (%1). Nothing is recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le périphérique d’entrée ne fournit aucune donnée (%1). Rien n’est enregistré.</translation>
     </message>
     <message>
         <source>%1 is off: it did not start. This recording goes without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est inactif : le démarrage a échoué. Cet enregistrement se fait sans cette source.</translation>
     </message>
     <message>
         <source>%1 is off: it did not start (%2). This recording goes without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est inactif : le démarrage a échoué (%2). Cet enregistrement se fait sans cette source.</translation>
     </message>
     <message>
         <source>%1 is not being recorded: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est pas enregistré : %2.</translation>
     </message>
     <message>
         <source>The recording could not be split (%1). It continues in the same file.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement n’a pas pu être divisé (%1). Il continue dans le même fichier.</translation>
     </message>
     <message>
         <source>The sound server</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur de son</translation>
     </message>
     <message>
         <source>%1 went away. The wait for the first sound continues when it is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a disparu. L’attente du premier son continuera à son retour.</translation>
     </message>
     <message>
         <source>%1 went away. The recording so far is kept and continues when it is back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a disparu. L’enregistrement effectué jusqu’ici est conservé et continuera à son retour.</translation>
     </message>
     <message>
         <source>%1 is back. The wait for the first sound goes on.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est de retour. L’attente du premier son continue.</translation>
     </message>
     <message>
         <source>%1 s are missing: %2 was away. The recording goes on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il manque %1 s : %2 était absent. L’enregistrement continue.</translation>
     </message>
     <message>
         <source>%1 s are missing (%2 frames): the computer was too busy to take them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il manque %1 s (%2 trames) : l’ordinateur était trop occupé pour les recevoir.</translation>
     </message>
     <message>
         <source>The disk is full. Nothing more is recorded until there is room; what was recorded is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque est plein. Plus rien n’est enregistré tant qu’il n’y a pas de place ; ce qui a été enregistré est conservé.</translation>
     </message>
     <message>
         <source>%1. Nothing more is recorded; what was recorded is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Plus rien n’est enregistré ; ce qui a été enregistré est conservé.</translation>
     </message>
     <message>
         <source>Computer audio has been silent for %1 s: nothing plays.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le son de l’ordinateur est muet depuis %1 s : rien n’est joué.</translation>
     </message>
     <message>
         <source>Computer audio has been silent for %1 s: nothing plays on %2, the output that is recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le son de l’ordinateur est muet depuis %1 s : rien n’est joué sur %2, la sortie qui est enregistrée.</translation>
     </message>
     <message>
         <source>The input device is muted: only silence has been recorded for %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le périphérique d’entrée est en sourdine : seul du silence est enregistré depuis %1 s.</translation>
     </message>
     <message>
         <source>The input device has delivered only silence for %1 s. It may be switched off, or the wrong one: another one can be chosen when the recording is stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le périphérique d’entrée ne fournit que du silence depuis %1 s. Il est peut-être éteint, ou ce n’est pas le bon : vous pourrez en choisir un autre une fois l’enregistrement arrêté.</translation>
     </message>
     <message>
         <source>The disk is nearly full: there is room for %1 of recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque est presque plein : il reste de la place pour %1 d’enregistrement.</translation>
     </message>
     <message>
         <source>%1 s are missing: the disk was full. The recording went on in another file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il manque %1 s : le disque était plein. L’enregistrement a continué dans un autre fichier.</translation>
     </message>
     <message>
         <source>An earlier recording could not be finished. It is kept at</source>
         <comment>a path follows</comment>
-        <translation type="unfinished"></translation>
+        <translation>Un enregistrement antérieur n’a pas pu être terminé. Il est conservé ici :</translation>
     </message>
     <message numerus="yes">
         <source>%n earlier recordings could not be finished. They are kept in</source>
         <comment>a path follows</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n enregistrement antérieur n’a pas pu être terminé. Il est conservé dans</numerusform>
+            <numerusform>%n enregistrements antérieurs n’ont pas pu être terminés. Ils sont conservés dans</numerusform>
         </translation>
     </message>
     <message>
         <source>Resume Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre l’enregistrement</translation>
     </message>
     <message>
         <source>the input unit cannot be opened</source>
@@ -3596,128 +3607,128 @@ commands:
     <name>RecordPanel</name>
     <message>
         <source>Nothing is being recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun enregistrement en cours.</translation>
     </message>
     <message>
         <source>Choose the input, computer audio, or both first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez d’abord l’entrée, le son de l’ordinateur, ou les deux.</translation>
     </message>
     <message>
         <source>Select a recording first. Nothing is played while recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez d’abord un enregistrement. Rien n’est lu pendant un enregistrement.</translation>
     </message>
     <message>
         <source>The sources stay as they are until the recording ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les sources restent telles quelles jusqu’à la fin de l’enregistrement.</translation>
     </message>
     <message>
         <source>Record the chosen input device</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le périphérique d’entrée choisi</translation>
     </message>
     <message>
         <source>Record what the computer plays</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le son joué par l’ordinateur</translation>
     </message>
     <message>
         <source>%1 s lost</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s perdues</translation>
     </message>
     <message>
         <source>No frames lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune trame perdue</translation>
     </message>
     <message>
         <source>%1 frames</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 trames</translation>
     </message>
     <message>
         <source>Nothing is being recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun enregistrement en cours</translation>
     </message>
     <message>
         <source>No sound server</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de serveur de son</translation>
     </message>
     <message>
         <source>No input device</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de périphérique d’entrée</translation>
     </message>
     <message>
         <source>Waiting for the first sound of computer audio</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente du premier son de l’ordinateur</translation>
     </message>
     <message>
         <source>No sound server: a test tone is recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de serveur de son : un signal d’essai est enregistré</translation>
     </message>
     <message>
         <source>No device</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de périphérique</translation>
     </message>
     <message>
         <source>No input device was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun périphérique d’entrée n’a été trouvé.</translation>
     </message>
     <message>
         <source>The input is not recorded: check the box first.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’entrée n’est pas enregistrée : cochez d’abord la case.</translation>
     </message>
     <message>
         <source>Cut to another recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Passer à un nouvel enregistrement</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire</translation>
     </message>
     <message>
         <source>%1 – Sonaphex</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – Sonaphex</translation>
     </message>
 </context>
 <context>
     <name>RecordStateController</name>
     <message>
         <source>A recording is running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un enregistrement est en cours.</translation>
     </message>
 </context>
 <context>
     <name>RecordingNotifier</name>
     <message>
         <source>“%1” was not kept: it is too short.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’a pas été conservé : il est trop court.</translation>
     </message>
     <message>
         <source>Recording not kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement non conservé</translation>
     </message>
     <message>
         <source>About the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Au sujet de l’enregistrement</translation>
     </message>
     <message>
         <source>Recording cut; the next one runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement coupé ; le suivant est en cours</translation>
     </message>
     <message>
         <source>Recording finished</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement terminé</translation>
     </message>
     <message numerus="yes">
         <source>%n recordings finished</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n enregistrement terminé</numerusform>
+            <numerusform>%n enregistrements terminés</numerusform>
         </translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire</translation>
     </message>
 </context>
 <context>
@@ -3751,183 +3762,183 @@ commands:
     <name>RingtoneMaker</name>
     <message>
         <source>%1 cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de lire %1</translation>
     </message>
     <message>
         <source>no folder for ringtones is known</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun dossier de sonneries n’est connu</translation>
     </message>
     <message>
         <source>%1 cannot be written</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d’écrire %1</translation>
     </message>
 </context>
 <context>
     <name>RingtoneMakerBackgroundView</name>
     <message>
         <source>Ringtone</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonnerie</translation>
     </message>
 </context>
 <context>
     <name>RingtoneMakerViewController</name>
     <message>
         <source>Outline of the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Forme d’onde de l’enregistrement</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lire</translation>
     </message>
     <message>
         <source>Pre&amp;view</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aperçu</translation>
     </message>
     <message>
         <source>Play the selection again and again</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire la sélection en boucle</translation>
     </message>
     <message>
         <source>&amp;From</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;De</translation>
     </message>
     <message>
         <source>Begin of the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Début de la sélection</translation>
     </message>
     <message>
         <source>&amp;To</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jusqu’à</translation>
     </message>
     <message>
         <source>End of the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin de la sélection</translation>
     </message>
     <message>
         <source>Length of the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée de la sélection</translation>
     </message>
     <message>
         <source>Fade &amp;in</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondu en &amp;ouverture</translation>
     </message>
     <message>
         <source>Seconds of the fade-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes du fondu en ouverture</translation>
     </message>
     <message>
         <source> s</source>
-        <translation type="unfinished"></translation>
+        <translation> s</translation>
     </message>
     <message>
         <source>Fade &amp;out</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondu en &amp;fermeture</translation>
     </message>
     <message>
         <source>Seconds of the fade-out</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes du fondu en fermeture</translation>
     </message>
     <message>
         <source>The boxes are for listening. The ringtone fades over these times; under one second there is no fade.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les cases servent à l’écoute. La sonnerie a des fondus de ces durées ; en dessous d’une seconde, il n’y a pas de fondu.</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished"></translation>
+        <translation>Problème</translation>
     </message>
     <message>
         <source>Open in the player when &amp;done</source>
-        <translation type="unfinished"></translation>
+        <translation>O&amp;uvrir dans le lecteur à la fin</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>&amp;Make Ringtone</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Créer la sonnerie</translation>
     </message>
     <message>
         <source>&amp;Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pause</translation>
     </message>
     <message>
         <source>Ringtone from “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonnerie tirée de « %1 »</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>This recording cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire cet enregistrement : %1</translation>
     </message>
     <message>
         <source>%1 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 secondes</translation>
     </message>
     <message>
         <source>This recording cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire cet enregistrement.</translation>
     </message>
     <message>
         <source>Select a part of the recording first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez d’abord une partie de l’enregistrement.</translation>
     </message>
     <message>
         <source>This recording cannot be played.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écouter cet enregistrement.</translation>
     </message>
     <message>
         <source>This recording cannot be played: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écouter cet enregistrement : %1</translation>
     </message>
     <message>
         <source>The ringtone could not be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de créer la sonnerie.</translation>
     </message>
     <message>
         <source>The recording is damaged. The ringtone is silent where it could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement est endommagé. La sonnerie est muette aux endroits illisibles.</translation>
     </message>
     <message>
         <source>No player could be opened for “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir un lecteur pour « %1 ».</translation>
     </message>
     <message>
         <source>The ringtone is in the library.</source>
-        <translation type="unfinished"></translation>
+        <translation>La sonnerie est dans la bibliothèque.</translation>
     </message>
 </context>
 <context>
     <name>SearchField</name>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher</translation>
     </message>
     <message>
         <source>Search titles, artists and albums</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher dans les titres, artistes et albums</translation>
     </message>
 </context>
 <context>
     <name>StatusBarItem</name>
     <message>
         <source>Cut to Another Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Passer à un nouvel enregistrement</translation>
     </message>
     <message>
         <source>Show Sonaphex</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher Sonaphex</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>Sonaphex: %1</source>
@@ -3938,34 +3949,34 @@ commands:
     <name>TrackListModel</name>
     <message>
         <source>The file is no longer there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n’existe plus.</translation>
     </message>
     <message>
         <source>Only files with a tick are burned</source>
-        <translation type="unfinished"></translation>
+        <translation>Seuls les fichiers cochés sont gravés</translation>
     </message>
     <message>
         <source>Burn</source>
-        <translation type="unfinished"></translation>
+        <translation>Graver</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée</translation>
     </message>
 </context>
 <context>
     <name>WaitWnd</name>
     <message>
         <source>Please wait</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez patienter</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression</translation>
     </message>
 </context>
 </TS>
