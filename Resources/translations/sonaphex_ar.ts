@@ -110,15 +110,15 @@
     </message>
     <message>
         <source>the stream failed</source>
-        <translation type="unfinished"></translation>
+        <translation>فشل الدفق</translation>
     </message>
     <message>
         <source>the device went away</source>
-        <translation type="unfinished"></translation>
+        <translation>اختفى الجهاز</translation>
     </message>
     <message>
         <source>no sound server answers: a private one was started, its input device is a tone</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يستجيب أي خادوم صوت: بدأ تشغيل خادوم خاص، وجهاز إدخاله نغمة اختبار</translation>
     </message>
 </context>
 <context>
@@ -304,11 +304,11 @@
     </message>
     <message>
         <source>the new file</source>
-        <translation type="unfinished"></translation>
+        <translation>الملف الجديد</translation>
     </message>
     <message>
         <source>It was stopped before the end.</source>
-        <translation type="unfinished"></translation>
+        <translation>أُوقف قبل النهاية.</translation>
     </message>
 </context>
 <context>
@@ -422,7 +422,7 @@
     </message>
     <message>
         <source>Do you want to replace &quot;%1&quot; audio file.</source>
-        <translation type="unfinished"></translation>
+        <translation>أتريد استبدال ملف الصوت «%1»؟</translation>
     </message>
 </context>
 <context>
@@ -619,13 +619,13 @@
     </message>
     <message numerus="yes">
         <source> %n Items     Size: %1 MB</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> لا عناصر     الحجم: %1 م.بايت</numerusform>
+            <numerusform> عنصر واحد     الحجم: %1 م.بايت</numerusform>
+            <numerusform> عنصران     الحجم: %1 م.بايت</numerusform>
+            <numerusform> %n عناصر     الحجم: %1 م.بايت</numerusform>
+            <numerusform> %n عنصرًا     الحجم: %1 م.بايت</numerusform>
+            <numerusform> %n عنصر     الحجم: %1 م.بايت</numerusform>
         </translation>
     </message>
 </context>
@@ -1619,23 +1619,23 @@ commands:
     </message>
     <message>
         <source>%1: no such command and no such file (see sonaphex help)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: لا أمر ولا ملف بهذا الاسم (راجع sonaphex help)</translation>
     </message>
     <message>
         <source>burning</source>
-        <translation type="unfinished"></translation>
+        <translation>يجري الحرق</translation>
     </message>
     <message>
         <source>%1, %2 being finished</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، ويجري إنهاء %2</translation>
     </message>
     <message>
         <source>%1, %2 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، %2 بايت</translation>
     </message>
     <message>
         <source>disc image</source>
-        <translation type="unfinished"></translation>
+        <translation>صورة قرص</translation>
     </message>
 </context>
 <context>
@@ -1905,11 +1905,11 @@ commands:
     </message>
     <message>
         <source>there is not enough room on the disc: the tracks need %1 minutes (%2 sectors), %3 minutes (%4 sectors) are free</source>
-        <translation type="unfinished"></translation>
+        <translation>لا مساحة كافية على القرص: تحتاج المقطوعات إلى %1 دقيقة (%2 قطاع)، والمتاح %3 دقيقة (%4 قطاع)</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 م.بايت</translation>
     </message>
 </context>
 <context>
@@ -1998,67 +1998,67 @@ commands:
     <name>HelpPages</name>
     <message>
         <source>Sonaphex support</source>
-        <translation type="unfinished"></translation>
+        <translation>دعم Sonaphex</translation>
     </message>
     <message>
         <source>Nothing is recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُسجَّل شيء</translation>
     </message>
     <message>
         <source>Look whether a source is chosen in the main window: an input device, the computer&apos;s audio, or both. In a terminal, &lt;code&gt;sonaphex devices&lt;/code&gt; lists the input devices that the sound server offers.</source>
-        <translation type="unfinished"></translation>
+        <translation>تحقق من اختيار مصدر في النافذة الرئيسية: جهاز إدخال أو صوت الحاسوب أو كليهما. في الطرفية، يسرد &lt;code&gt;sonaphex devices&lt;/code&gt; أجهزة الإدخال التي يقدّمها خادوم الصوت.</translation>
     </message>
     <message>
         <source>A recording of the computer&apos;s audio alone begins with the first sound that the computer plays.</source>
-        <translation type="unfinished"></translation>
+        <translation>يبدأ تسجيل صوت الحاسوب وحده مع أول صوت يشغّله الحاسوب.</translation>
     </message>
     <message>
         <source>A recording is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>أحد التسجيلات مفقود</translation>
     </message>
     <message>
         <source>Recordings shorter than the time that is set in the preferences are dropped; switch the filter off to keep them. What could not be finished, for instance on a full disk, lies in &lt;code&gt;~/.local/share/com.korvane.Sonaphex/Unfinished&lt;/code&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>تُهمل التسجيلات الأقصر من المدة المحددة في التفضيلات؛ عطّل المرشّح للاحتفاظ بها. أما ما تعذّر إنهاؤه، بسبب امتلاء القرص مثلًا، فتجده في ‎&lt;code&gt;~/.local/share/com.korvane.Sonaphex/Unfinished&lt;/code&gt;.</translation>
     </message>
     <message>
         <source>The computer&apos;s audio cannot be chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن اختيار صوت الحاسوب</translation>
     </message>
     <message>
         <source>It needs a small add-on: see &lt;a href=&quot;computer-audio.html&quot;&gt;recording the computer&apos;s audio&lt;/a&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>يلزم لذلك ملحق صغير: راجع &lt;a href=&quot;computer-audio.html&quot;&gt;تسجيل صوت الحاسوب&lt;/a&gt;.</translation>
     </message>
     <message>
         <source>The settings are gone</source>
-        <translation type="unfinished"></translation>
+        <translation>اختفت الإعدادات</translation>
     </message>
     <message>
         <source>They are in &lt;code&gt;~/.config/com.korvane.Sonaphex.plist&lt;/code&gt;. A damaged file is kept beside it under a name that ends in &lt;code&gt;.damaged-&lt;/code&gt; and the date.</source>
-        <translation type="unfinished"></translation>
+        <translation>توجد الإعدادات في ‎&lt;code&gt;~/.config/com.korvane.Sonaphex.plist&lt;/code&gt;. ويُحفظ الملف التالف بجانبه باسم ينتهي بـ ‎&lt;code&gt;.damaged-&lt;/code&gt;‎ ثم التاريخ.</translation>
     </message>
     <message>
         <source>Recording the computer&apos;s audio</source>
-        <translation type="unfinished"></translation>
+        <translation>تسجيل صوت الحاسوب</translation>
     </message>
     <message>
         <source>The add-on is an input device named “Korvane System Audio” that hears what the default output plays. It is a small program of the user&apos;s session that speaks to the sound server; it changes nothing in what you hear, and it never becomes the default microphone of other programs.</source>
-        <translation type="unfinished"></translation>
+        <translation>الملحق جهاز إدخال اسمه «Korvane System Audio» يلتقط ما يشغّله جهاز الإخراج المبدئي. إنه برنامج صغير في جلسة المستخدم يتخاطب مع خادوم الصوت؛ لا يغيّر شيئًا مما تسمعه، ولا يصير أبدًا الميكروفون المبدئي للبرامج الأخرى.</translation>
     </message>
     <message>
         <source>Install</source>
-        <translation type="unfinished"></translation>
+        <translation>التثبيت</translation>
     </message>
     <message>
         <source>Choose Install in the preferences window, or run &lt;code&gt;sonaphex driver install&lt;/code&gt;. The password of an administrator is asked for once: the add-on is installed for all users of the computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>اختر «ثبّت» في نافذة التفضيلات، أو شغّل &lt;code&gt;sonaphex driver install&lt;/code&gt;. تُطلب كلمة سر المدير مرة واحدة: يُثبَّت الملحق لجميع مستخدمي الحاسوب.</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>الإزالة</translation>
     </message>
     <message>
         <source>Choose Remove in the same place, or run &lt;code&gt;sonaphex driver remove&lt;/code&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>اختر «أزل» في المكان نفسه، أو شغّل &lt;code&gt;sonaphex driver remove&lt;/code&gt;.</translation>
     </message>
 </context>
 <context>
@@ -2177,12 +2177,12 @@ commands:
     <message>
         <source>Shift</source>
         <comment>a key of the keyboard</comment>
-        <translation type="unfinished"></translation>
+        <translation>Shift</translation>
     </message>
     <message>
         <source>Alt</source>
         <comment>a key of the keyboard</comment>
-        <translation type="unfinished"></translation>
+        <translation>Alt</translation>
     </message>
 </context>
 <context>
@@ -3224,30 +3224,30 @@ commands:
     </message>
     <message>
         <source>Please waiting a moment ...</source>
-        <translation type="unfinished"></translation>
+        <translation>يُرجى الانتظار لحظة ...</translation>
     </message>
     <message>
         <source>Burning Disc...</source>
-        <translation type="unfinished"></translation>
+        <translation>يجري حرق القرص...</translation>
     </message>
 </context>
 <context>
     <name>QCommandLineParser</name>
     <message>
         <source>Unknown option &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>خيار غير معروف «%1».</translation>
     </message>
     <message>
         <source>Unknown options: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>خيارات غير معروفة: %1.</translation>
     </message>
     <message>
         <source>Missing value after &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>قيمة ناقصة بعد «%1».</translation>
     </message>
     <message>
         <source>Unexpected value after &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>قيمة غير متوقعة بعد «%1».</translation>
     </message>
 </context>
 <context>
@@ -3588,47 +3588,47 @@ commands:
     </message>
     <message>
         <source>the input unit cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن فتح وحدة الإدخال</translation>
     </message>
     <message>
         <source>there is no input unit</source>
-        <translation type="unfinished"></translation>
+        <translation>لا وحدة إدخال</translation>
     </message>
     <message>
         <source>the unit&apos;s output cannot be switched off</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن تعطيل إخراج الوحدة</translation>
     </message>
     <message>
         <source>the device cannot be used</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن استخدام الجهاز</translation>
     </message>
     <message>
         <source>the device accepts no callback</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يقبل الجهاز دالة رد نداء</translation>
     </message>
     <message>
         <source>the device&apos;s format cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>لا تمكن قراءة صيغة الجهاز</translation>
     </message>
     <message>
         <source>the device&apos;s format cannot be captured</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن الالتقاط بصيغة الجهاز</translation>
     </message>
     <message>
         <source>the device&apos;s buffer size cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>لا تمكن قراءة حجم المخزن المؤقت للجهاز</translation>
     </message>
     <message>
         <source>the unit cannot be initialised</source>
-        <translation type="unfinished"></translation>
+        <translation>لا تمكن تهيئة الوحدة</translation>
     </message>
     <message>
         <source>not enough memory</source>
-        <translation type="unfinished"></translation>
+        <translation>لا ذاكرة كافية</translation>
     </message>
     <message>
         <source>the device cannot be started</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن بدء تشغيل الجهاز</translation>
     </message>
 </context>
 <context>
@@ -3767,27 +3767,27 @@ commands:
     <name>RecordingRename</name>
     <message>
         <source>the title is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>العنوان فارغ</translation>
     </message>
     <message>
         <source>a file name cannot contain “/”</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن أن يحوي اسم الملف «/»</translation>
     </message>
     <message>
         <source>the title has a character that no file name can contain</source>
-        <translation type="unfinished"></translation>
+        <translation>في العنوان محرف لا يمكن أن يحويه اسم ملف</translation>
     </message>
     <message>
         <source>the title is longer than a file name can be</source>
-        <translation type="unfinished"></translation>
+        <translation>العنوان أطول مما يتسع له اسم ملف</translation>
     </message>
     <message>
         <source>there is already a file named “%1” in its folder</source>
-        <translation type="unfinished"></translation>
+        <translation>يوجد بالفعل ملف باسم «%1» في المجلد نفسه</translation>
     </message>
     <message>
         <source>The file keeps its name “%1”: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتفظ الملف باسمه «%1»: %2.</translation>
     </message>
 </context>
 <context>
@@ -3974,7 +3974,7 @@ commands:
     </message>
     <message>
         <source>Sonaphex: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonaphex: %1</translation>
     </message>
 </context>
 <context>

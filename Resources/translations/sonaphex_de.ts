@@ -110,15 +110,15 @@
     </message>
     <message>
         <source>the stream failed</source>
-        <translation type="unfinished"></translation>
+        <translation>der Stream ist fehlgeschlagen</translation>
     </message>
     <message>
         <source>the device went away</source>
-        <translation type="unfinished"></translation>
+        <translation>das Gerät ist nicht mehr da</translation>
     </message>
     <message>
         <source>no sound server answers: a private one was started, its input device is a tone</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Soundserver antwortet: ein privater wurde gestartet, sein Eingabegerät ist ein Testton</translation>
     </message>
 </context>
 <context>
@@ -304,11 +304,11 @@
     </message>
     <message>
         <source>the new file</source>
-        <translation type="unfinished"></translation>
+        <translation>die neue Datei</translation>
     </message>
     <message>
         <source>It was stopped before the end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Vorgang wurde vor dem Ende abgebrochen.</translation>
     </message>
 </context>
 <context>
@@ -422,7 +422,7 @@
     </message>
     <message>
         <source>Do you want to replace &quot;%1&quot; audio file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie die Audiodatei „%1“ ersetzen?</translation>
     </message>
 </context>
 <context>
@@ -619,9 +619,9 @@
     </message>
     <message numerus="yes">
         <source> %n Items     Size: %1 MB</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> %n Eintrag     Größe: %1 MB</numerusform>
+            <numerusform> %n Einträge     Größe: %1 MB</numerusform>
         </translation>
     </message>
 </context>
@@ -1603,23 +1603,23 @@ Befehle:
     </message>
     <message>
         <source>%1: no such command and no such file (see sonaphex help)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: kein solcher Befehl und keine solche Datei (siehe sonaphex help)</translation>
     </message>
     <message>
         <source>burning</source>
-        <translation type="unfinished"></translation>
+        <translation>brennt</translation>
     </message>
     <message>
         <source>%1, %2 being finished</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 in Fertigstellung</translation>
     </message>
     <message>
         <source>%1, %2 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 Byte</translation>
     </message>
     <message>
         <source>disc image</source>
-        <translation type="unfinished"></translation>
+        <translation>Disc-Abbild</translation>
     </message>
 </context>
 <context>
@@ -1889,11 +1889,11 @@ Befehle:
     </message>
     <message>
         <source>there is not enough room on the disc: the tracks need %1 minutes (%2 sectors), %3 minutes (%4 sectors) are free</source>
-        <translation type="unfinished"></translation>
+        <translation>auf der Disc ist nicht genug Platz: die Tracks brauchen %1 Minuten (%2 Sektoren), %3 Minuten (%4 Sektoren) sind frei</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB</translation>
     </message>
 </context>
 <context>
@@ -1982,67 +1982,67 @@ Befehle:
     <name>HelpPages</name>
     <message>
         <source>Sonaphex support</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonaphex-Support</translation>
     </message>
     <message>
         <source>Nothing is recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wird nichts aufgenommen</translation>
     </message>
     <message>
         <source>Look whether a source is chosen in the main window: an input device, the computer&apos;s audio, or both. In a terminal, &lt;code&gt;sonaphex devices&lt;/code&gt; lists the input devices that the sound server offers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfen Sie, ob im Hauptfenster eine Quelle gewählt ist: ein Eingabegerät, der Computerton oder beides. In einem Terminal listet &lt;code&gt;sonaphex devices&lt;/code&gt; die Eingabegeräte auf, die der Soundserver anbietet.</translation>
     </message>
     <message>
         <source>A recording of the computer&apos;s audio alone begins with the first sound that the computer plays.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Aufnahme des Computertons allein beginnt mit dem ersten Ton, den der Computer wiedergibt.</translation>
     </message>
     <message>
         <source>A recording is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Aufnahme fehlt</translation>
     </message>
     <message>
         <source>Recordings shorter than the time that is set in the preferences are dropped; switch the filter off to keep them. What could not be finished, for instance on a full disk, lies in &lt;code&gt;~/.local/share/com.korvane.Sonaphex/Unfinished&lt;/code&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufnahmen, die kürzer sind als die in den Einstellungen gesetzte Zeit, werden verworfen; schalten Sie den Filter aus, um sie zu behalten. Was nicht fertiggestellt werden konnte, etwa weil der Datenträger voll war, liegt in &lt;code&gt;~/.local/share/com.korvane.Sonaphex/Unfinished&lt;/code&gt;.</translation>
     </message>
     <message>
         <source>The computer&apos;s audio cannot be chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Computerton lässt sich nicht wählen</translation>
     </message>
     <message>
         <source>It needs a small add-on: see &lt;a href=&quot;computer-audio.html&quot;&gt;recording the computer&apos;s audio&lt;/a&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dazu ist eine kleine Erweiterung nötig: siehe &lt;a href=&quot;computer-audio.html&quot;&gt;Computerton aufnehmen&lt;/a&gt;.</translation>
     </message>
     <message>
         <source>The settings are gone</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen sind verschwunden</translation>
     </message>
     <message>
         <source>They are in &lt;code&gt;~/.config/com.korvane.Sonaphex.plist&lt;/code&gt;. A damaged file is kept beside it under a name that ends in &lt;code&gt;.damaged-&lt;/code&gt; and the date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie stehen in &lt;code&gt;~/.config/com.korvane.Sonaphex.plist&lt;/code&gt;. Eine beschädigte Datei bleibt daneben erhalten, unter einem Namen, der mit &lt;code&gt;.damaged-&lt;/code&gt; und dem Datum endet.</translation>
     </message>
     <message>
         <source>Recording the computer&apos;s audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Computerton aufnehmen</translation>
     </message>
     <message>
         <source>The add-on is an input device named “Korvane System Audio” that hears what the default output plays. It is a small program of the user&apos;s session that speaks to the sound server; it changes nothing in what you hear, and it never becomes the default microphone of other programs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Erweiterung ist ein Eingabegerät namens „Korvane System Audio“, das hört, was das Standard-Ausgabegerät wiedergibt. Sie ist ein kleines Programm der Benutzersitzung, das mit dem Soundserver spricht; sie ändert nichts an dem, was Sie hören, und wird nie zum Standardmikrofon anderer Programme.</translation>
     </message>
     <message>
         <source>Install</source>
-        <translation type="unfinished"></translation>
+        <translation>Installieren</translation>
     </message>
     <message>
         <source>Choose Install in the preferences window, or run &lt;code&gt;sonaphex driver install&lt;/code&gt;. The password of an administrator is asked for once: the add-on is installed for all users of the computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie „Installieren“ im Einstellungsfenster oder führen Sie &lt;code&gt;sonaphex driver install&lt;/code&gt; aus. Es wird einmal nach dem Passwort eines Administrators gefragt: die Erweiterung wird für alle Benutzer des Computers installiert.</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Choose Remove in the same place, or run &lt;code&gt;sonaphex driver remove&lt;/code&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie „Entfernen“ an derselben Stelle oder führen Sie &lt;code&gt;sonaphex driver remove&lt;/code&gt; aus.</translation>
     </message>
 </context>
 <context>
@@ -2161,12 +2161,12 @@ Befehle:
     <message>
         <source>Shift</source>
         <comment>a key of the keyboard</comment>
-        <translation type="unfinished"></translation>
+        <translation>Umschalt</translation>
     </message>
     <message>
         <source>Alt</source>
         <comment>a key of the keyboard</comment>
-        <translation type="unfinished"></translation>
+        <translation>Alt</translation>
     </message>
 </context>
 <context>
@@ -3204,30 +3204,30 @@ Befehle:
     </message>
     <message>
         <source>Please waiting a moment ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte warten Sie einen Moment ...</translation>
     </message>
     <message>
         <source>Burning Disc...</source>
-        <translation type="unfinished"></translation>
+        <translation>Disc wird gebrannt...</translation>
     </message>
 </context>
 <context>
     <name>QCommandLineParser</name>
     <message>
         <source>Unknown option &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannte Option „%1“.</translation>
     </message>
     <message>
         <source>Unknown options: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannte Optionen: %1.</translation>
     </message>
     <message>
         <source>Missing value after &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach „%1“ fehlt ein Wert.</translation>
     </message>
     <message>
         <source>Unexpected value after &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unerwarteter Wert nach „%1“.</translation>
     </message>
 </context>
 <context>
@@ -3560,47 +3560,47 @@ Befehle:
     </message>
     <message>
         <source>the input unit cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>die Eingabeeinheit kann nicht geöffnet werden</translation>
     </message>
     <message>
         <source>there is no input unit</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine Eingabeeinheit</translation>
     </message>
     <message>
         <source>the unit&apos;s output cannot be switched off</source>
-        <translation type="unfinished"></translation>
+        <translation>der Ausgang der Einheit kann nicht ausgeschaltet werden</translation>
     </message>
     <message>
         <source>the device cannot be used</source>
-        <translation type="unfinished"></translation>
+        <translation>das Gerät kann nicht benutzt werden</translation>
     </message>
     <message>
         <source>the device accepts no callback</source>
-        <translation type="unfinished"></translation>
+        <translation>das Gerät nimmt keinen Callback an</translation>
     </message>
     <message>
         <source>the device&apos;s format cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>das Format des Geräts kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>the device&apos;s format cannot be captured</source>
-        <translation type="unfinished"></translation>
+        <translation>das Format des Geräts kann nicht aufgenommen werden</translation>
     </message>
     <message>
         <source>the device&apos;s buffer size cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>die Puffergröße des Geräts kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>the unit cannot be initialised</source>
-        <translation type="unfinished"></translation>
+        <translation>die Einheit kann nicht initialisiert werden</translation>
     </message>
     <message>
         <source>not enough memory</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht genug Arbeitsspeicher</translation>
     </message>
     <message>
         <source>the device cannot be started</source>
-        <translation type="unfinished"></translation>
+        <translation>das Gerät kann nicht gestartet werden</translation>
     </message>
 </context>
 <context>
@@ -3735,27 +3735,27 @@ Befehle:
     <name>RecordingRename</name>
     <message>
         <source>the title is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>der Titel ist leer</translation>
     </message>
     <message>
         <source>a file name cannot contain “/”</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Dateiname kann kein „/“ enthalten</translation>
     </message>
     <message>
         <source>the title has a character that no file name can contain</source>
-        <translation type="unfinished"></translation>
+        <translation>der Titel enthält ein Zeichen, das kein Dateiname enthalten kann</translation>
     </message>
     <message>
         <source>the title is longer than a file name can be</source>
-        <translation type="unfinished"></translation>
+        <translation>der Titel ist länger, als ein Dateiname sein kann</translation>
     </message>
     <message>
         <source>there is already a file named “%1” in its folder</source>
-        <translation type="unfinished"></translation>
+        <translation>im selben Ordner gibt es bereits eine Datei namens „%1“</translation>
     </message>
     <message>
         <source>The file keeps its name “%1”: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei behält ihren Namen „%1“: %2.</translation>
     </message>
 </context>
 <context>
@@ -3942,7 +3942,7 @@ Befehle:
     </message>
     <message>
         <source>Sonaphex: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonaphex: %1</translation>
     </message>
 </context>
 <context>

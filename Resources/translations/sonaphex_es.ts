@@ -110,15 +110,15 @@
     </message>
     <message>
         <source>the stream failed</source>
-        <translation type="unfinished"></translation>
+        <translation>el flujo falló</translation>
     </message>
     <message>
         <source>the device went away</source>
-        <translation type="unfinished"></translation>
+        <translation>el dispositivo dejó de estar disponible</translation>
     </message>
     <message>
         <source>no sound server answers: a private one was started, its input device is a tone</source>
-        <translation type="unfinished"></translation>
+        <translation>no responde ningún servidor de sonido: se inició uno privado, cuyo dispositivo de entrada es un tono de prueba</translation>
     </message>
 </context>
 <context>
@@ -304,11 +304,11 @@
     </message>
     <message>
         <source>the new file</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo nuevo</translation>
     </message>
     <message>
         <source>It was stopped before the end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se detuvo antes del final.</translation>
     </message>
 </context>
 <context>
@@ -422,7 +422,7 @@
     </message>
     <message>
         <source>Do you want to replace &quot;%1&quot; audio file.</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Desea reemplazar el archivo de audio «%1»?</translation>
     </message>
 </context>
 <context>
@@ -619,9 +619,9 @@
     </message>
     <message numerus="yes">
         <source> %n Items     Size: %1 MB</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> %n elemento     Tamaño: %1 MB</numerusform>
+            <numerusform> %n elementos     Tamaño: %1 MB</numerusform>
         </translation>
     </message>
 </context>
@@ -1603,23 +1603,23 @@ commands:
     </message>
     <message>
         <source>%1: no such command and no such file (see sonaphex help)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: no existe esa orden ni ese archivo (véase sonaphex help)</translation>
     </message>
     <message>
         <source>burning</source>
-        <translation type="unfinished"></translation>
+        <translation>grabando el disco</translation>
     </message>
     <message>
         <source>%1, %2 being finished</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 por finalizar</translation>
     </message>
     <message>
         <source>%1, %2 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 bytes</translation>
     </message>
     <message>
         <source>disc image</source>
-        <translation type="unfinished"></translation>
+        <translation>imagen de disco</translation>
     </message>
 </context>
 <context>
@@ -1889,11 +1889,11 @@ commands:
     </message>
     <message>
         <source>there is not enough room on the disc: the tracks need %1 minutes (%2 sectors), %3 minutes (%4 sectors) are free</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay espacio suficiente en el disco: las pistas necesitan %1 minutos (%2 sectores) y quedan libres %3 minutos (%4 sectores)</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB</translation>
     </message>
 </context>
 <context>
@@ -1982,67 +1982,67 @@ commands:
     <name>HelpPages</name>
     <message>
         <source>Sonaphex support</source>
-        <translation type="unfinished"></translation>
+        <translation>Soporte de Sonaphex</translation>
     </message>
     <message>
         <source>Nothing is recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>No se graba nada</translation>
     </message>
     <message>
         <source>Look whether a source is chosen in the main window: an input device, the computer&apos;s audio, or both. In a terminal, &lt;code&gt;sonaphex devices&lt;/code&gt; lists the input devices that the sound server offers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Compruebe si hay una fuente elegida en la ventana principal: un dispositivo de entrada, el audio del equipo o ambos. En un terminal, &lt;code&gt;sonaphex devices&lt;/code&gt; muestra los dispositivos de entrada que ofrece el servidor de sonido.</translation>
     </message>
     <message>
         <source>A recording of the computer&apos;s audio alone begins with the first sound that the computer plays.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una grabación solo del audio del equipo empieza con el primer sonido que reproduce el equipo.</translation>
     </message>
     <message>
         <source>A recording is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta una grabación</translation>
     </message>
     <message>
         <source>Recordings shorter than the time that is set in the preferences are dropped; switch the filter off to keep them. What could not be finished, for instance on a full disk, lies in &lt;code&gt;~/.local/share/com.korvane.Sonaphex/Unfinished&lt;/code&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las grabaciones más cortas que el tiempo fijado en las preferencias se descartan; desactive el filtro para conservarlas. Lo que no se pudo finalizar, por ejemplo porque el disco estaba lleno, está en &lt;code&gt;~/.local/share/com.korvane.Sonaphex/Unfinished&lt;/code&gt;.</translation>
     </message>
     <message>
         <source>The computer&apos;s audio cannot be chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede elegir el audio del equipo</translation>
     </message>
     <message>
         <source>It needs a small add-on: see &lt;a href=&quot;computer-audio.html&quot;&gt;recording the computer&apos;s audio&lt;/a&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Necesita un pequeño complemento: véase &lt;a href=&quot;computer-audio.html&quot;&gt;grabar el audio del equipo&lt;/a&gt;.</translation>
     </message>
     <message>
         <source>The settings are gone</source>
-        <translation type="unfinished"></translation>
+        <translation>Los ajustes han desaparecido</translation>
     </message>
     <message>
         <source>They are in &lt;code&gt;~/.config/com.korvane.Sonaphex.plist&lt;/code&gt;. A damaged file is kept beside it under a name that ends in &lt;code&gt;.damaged-&lt;/code&gt; and the date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Están en &lt;code&gt;~/.config/com.korvane.Sonaphex.plist&lt;/code&gt;. Un archivo dañado se conserva al lado con un nombre que termina en &lt;code&gt;.damaged-&lt;/code&gt; y la fecha.</translation>
     </message>
     <message>
         <source>Recording the computer&apos;s audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabar el audio del equipo</translation>
     </message>
     <message>
         <source>The add-on is an input device named “Korvane System Audio” that hears what the default output plays. It is a small program of the user&apos;s session that speaks to the sound server; it changes nothing in what you hear, and it never becomes the default microphone of other programs.</source>
-        <translation type="unfinished"></translation>
+        <translation>El complemento es un dispositivo de entrada llamado «Korvane System Audio» que oye lo que reproduce la salida predeterminada. Es un pequeño programa de la sesión del usuario que se comunica con el servidor de sonido; no cambia nada de lo que usted oye y nunca se convierte en el micrófono predeterminado de otros programas.</translation>
     </message>
     <message>
         <source>Install</source>
-        <translation type="unfinished"></translation>
+        <translation>Instalar</translation>
     </message>
     <message>
         <source>Choose Install in the preferences window, or run &lt;code&gt;sonaphex driver install&lt;/code&gt;. The password of an administrator is asked for once: the add-on is installed for all users of the computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija «Instalar» en la ventana de preferencias o ejecute &lt;code&gt;sonaphex driver install&lt;/code&gt;. Se pide una vez la contraseña de un administrador: el complemento se instala para todos los usuarios del equipo.</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Desinstalar</translation>
     </message>
     <message>
         <source>Choose Remove in the same place, or run &lt;code&gt;sonaphex driver remove&lt;/code&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija «Desinstalar» en el mismo lugar o ejecute &lt;code&gt;sonaphex driver remove&lt;/code&gt;.</translation>
     </message>
 </context>
 <context>
@@ -2161,12 +2161,12 @@ commands:
     <message>
         <source>Shift</source>
         <comment>a key of the keyboard</comment>
-        <translation type="unfinished"></translation>
+        <translation>Mayús</translation>
     </message>
     <message>
         <source>Alt</source>
         <comment>a key of the keyboard</comment>
-        <translation type="unfinished"></translation>
+        <translation>Alt</translation>
     </message>
 </context>
 <context>
@@ -3204,30 +3204,30 @@ commands:
     </message>
     <message>
         <source>Please waiting a moment ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Espere un momento ...</translation>
     </message>
     <message>
         <source>Burning Disc...</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabando el disco...</translation>
     </message>
 </context>
 <context>
     <name>QCommandLineParser</name>
     <message>
         <source>Unknown option &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Opción «%1» desconocida.</translation>
     </message>
     <message>
         <source>Unknown options: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones desconocidas: %1.</translation>
     </message>
     <message>
         <source>Missing value after &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta un valor después de «%1».</translation>
     </message>
     <message>
         <source>Unexpected value after &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor inesperado después de «%1».</translation>
     </message>
 </context>
 <context>
@@ -3560,47 +3560,47 @@ commands:
     </message>
     <message>
         <source>the input unit cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede abrir la unidad de entrada de audio</translation>
     </message>
     <message>
         <source>there is no input unit</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ninguna unidad de entrada de audio</translation>
     </message>
     <message>
         <source>the unit&apos;s output cannot be switched off</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede desactivar la salida de la unidad de audio</translation>
     </message>
     <message>
         <source>the device cannot be used</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede usar el dispositivo</translation>
     </message>
     <message>
         <source>the device accepts no callback</source>
-        <translation type="unfinished"></translation>
+        <translation>el dispositivo no acepta ninguna función de retorno</translation>
     </message>
     <message>
         <source>the device&apos;s format cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede leer el formato del dispositivo</translation>
     </message>
     <message>
         <source>the device&apos;s format cannot be captured</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede capturar el formato del dispositivo</translation>
     </message>
     <message>
         <source>the device&apos;s buffer size cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede leer el tamaño del búfer del dispositivo</translation>
     </message>
     <message>
         <source>the unit cannot be initialised</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede inicializar la unidad de audio</translation>
     </message>
     <message>
         <source>not enough memory</source>
-        <translation type="unfinished"></translation>
+        <translation>memoria insuficiente</translation>
     </message>
     <message>
         <source>the device cannot be started</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede iniciar el dispositivo</translation>
     </message>
 </context>
 <context>
@@ -3735,27 +3735,27 @@ commands:
     <name>RecordingRename</name>
     <message>
         <source>the title is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>el título está vacío</translation>
     </message>
     <message>
         <source>a file name cannot contain “/”</source>
-        <translation type="unfinished"></translation>
+        <translation>un nombre de archivo no puede contener «/»</translation>
     </message>
     <message>
         <source>the title has a character that no file name can contain</source>
-        <translation type="unfinished"></translation>
+        <translation>el título tiene un carácter que ningún nombre de archivo puede contener</translation>
     </message>
     <message>
         <source>the title is longer than a file name can be</source>
-        <translation type="unfinished"></translation>
+        <translation>el título es más largo de lo que puede ser un nombre de archivo</translation>
     </message>
     <message>
         <source>there is already a file named “%1” in its folder</source>
-        <translation type="unfinished"></translation>
+        <translation>ya hay un archivo llamado «%1» en su carpeta</translation>
     </message>
     <message>
         <source>The file keeps its name “%1”: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo conserva su nombre «%1»: %2.</translation>
     </message>
 </context>
 <context>
@@ -3942,7 +3942,7 @@ commands:
     </message>
     <message>
         <source>Sonaphex: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonaphex: %1</translation>
     </message>
 </context>
 <context>

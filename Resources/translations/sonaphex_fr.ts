@@ -110,15 +110,15 @@
     </message>
     <message>
         <source>the stream failed</source>
-        <translation type="unfinished"></translation>
+        <translation>le flux a échoué</translation>
     </message>
     <message>
         <source>the device went away</source>
-        <translation type="unfinished"></translation>
+        <translation>le périphérique a disparu</translation>
     </message>
     <message>
         <source>no sound server answers: a private one was started, its input device is a tone</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun serveur de son ne répond : un serveur privé a été démarré, son périphérique d’entrée est un signal d’essai</translation>
     </message>
 </context>
 <context>
@@ -304,11 +304,11 @@
     </message>
     <message>
         <source>the new file</source>
-        <translation type="unfinished"></translation>
+        <translation>le nouveau fichier</translation>
     </message>
     <message>
         <source>It was stopped before the end.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’opération a été arrêtée avant la fin.</translation>
     </message>
 </context>
 <context>
@@ -422,7 +422,7 @@
     </message>
     <message>
         <source>Do you want to replace &quot;%1&quot; audio file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous remplacer le fichier audio « %1 » ?</translation>
     </message>
 </context>
 <context>
@@ -619,9 +619,9 @@
     </message>
     <message numerus="yes">
         <source> %n Items     Size: %1 MB</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> %n élément     Taille : %1 Mo</numerusform>
+            <numerusform> %n éléments     Taille : %1 Mo</numerusform>
         </translation>
     </message>
 </context>
@@ -1603,23 +1603,23 @@ commandes :
     </message>
     <message>
         <source>%1: no such command and no such file (see sonaphex help)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : ni commande ni fichier de ce nom (voir sonaphex help)</translation>
     </message>
     <message>
         <source>burning</source>
-        <translation type="unfinished"></translation>
+        <translation>gravure</translation>
     </message>
     <message>
         <source>%1, %2 being finished</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 en cours de finalisation</translation>
     </message>
     <message>
         <source>%1, %2 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 octets</translation>
     </message>
     <message>
         <source>disc image</source>
-        <translation type="unfinished"></translation>
+        <translation>image disque</translation>
     </message>
 </context>
 <context>
@@ -1889,11 +1889,11 @@ commandes :
     </message>
     <message>
         <source>there is not enough room on the disc: the tracks need %1 minutes (%2 sectors), %3 minutes (%4 sectors) are free</source>
-        <translation type="unfinished"></translation>
+        <translation>place insuffisante sur le disque : les pistes nécessitent %1 minutes (%2 secteurs), %3 minutes (%4 secteurs) sont libres</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Mo</translation>
     </message>
 </context>
 <context>
@@ -1982,67 +1982,67 @@ commandes :
     <name>HelpPages</name>
     <message>
         <source>Sonaphex support</source>
-        <translation type="unfinished"></translation>
+        <translation>Assistance de Sonaphex</translation>
     </message>
     <message>
         <source>Nothing is recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’est enregistré</translation>
     </message>
     <message>
         <source>Look whether a source is chosen in the main window: an input device, the computer&apos;s audio, or both. In a terminal, &lt;code&gt;sonaphex devices&lt;/code&gt; lists the input devices that the sound server offers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifiez qu’une source est choisie dans la fenêtre principale : un périphérique d’entrée, le son de l’ordinateur, ou les deux. Dans un terminal, &lt;code&gt;sonaphex devices&lt;/code&gt; donne la liste des périphériques d’entrée que propose le serveur de son.</translation>
     </message>
     <message>
         <source>A recording of the computer&apos;s audio alone begins with the first sound that the computer plays.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un enregistrement du son de l’ordinateur seul commence au premier son que joue l’ordinateur.</translation>
     </message>
     <message>
         <source>A recording is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Un enregistrement manque</translation>
     </message>
     <message>
         <source>Recordings shorter than the time that is set in the preferences are dropped; switch the filter off to keep them. What could not be finished, for instance on a full disk, lies in &lt;code&gt;~/.local/share/com.korvane.Sonaphex/Unfinished&lt;/code&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les enregistrements plus courts que la durée définie dans les préférences sont rejetés ; désactivez le filtre pour les conserver. Ce qui n’a pas pu être terminé, par exemple parce que le disque était plein, se trouve dans &lt;code&gt;~/.local/share/com.korvane.Sonaphex/Unfinished&lt;/code&gt;.</translation>
     </message>
     <message>
         <source>The computer&apos;s audio cannot be chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Le son de l’ordinateur ne peut pas être choisi</translation>
     </message>
     <message>
         <source>It needs a small add-on: see &lt;a href=&quot;computer-audio.html&quot;&gt;recording the computer&apos;s audio&lt;/a&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un petit module complémentaire est nécessaire : voir &lt;a href=&quot;computer-audio.html&quot;&gt;enregistrer le son de l’ordinateur&lt;/a&gt;.</translation>
     </message>
     <message>
         <source>The settings are gone</source>
-        <translation type="unfinished"></translation>
+        <translation>Les réglages ont disparu</translation>
     </message>
     <message>
         <source>They are in &lt;code&gt;~/.config/com.korvane.Sonaphex.plist&lt;/code&gt;. A damaged file is kept beside it under a name that ends in &lt;code&gt;.damaged-&lt;/code&gt; and the date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ils se trouvent dans &lt;code&gt;~/.config/com.korvane.Sonaphex.plist&lt;/code&gt;. Un fichier endommagé est conservé à côté, sous un nom qui se termine par &lt;code&gt;.damaged-&lt;/code&gt; et la date.</translation>
     </message>
     <message>
         <source>Recording the computer&apos;s audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le son de l’ordinateur</translation>
     </message>
     <message>
         <source>The add-on is an input device named “Korvane System Audio” that hears what the default output plays. It is a small program of the user&apos;s session that speaks to the sound server; it changes nothing in what you hear, and it never becomes the default microphone of other programs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le module complémentaire est un périphérique d’entrée nommé « Korvane System Audio », qui capte ce que joue la sortie par défaut. C’est un petit programme de la session de l’utilisateur qui communique avec le serveur de son ; il ne change rien à ce que vous entendez et ne devient jamais le microphone par défaut d’autres programmes.</translation>
     </message>
     <message>
         <source>Install</source>
-        <translation type="unfinished"></translation>
+        <translation>Installer</translation>
     </message>
     <message>
         <source>Choose Install in the preferences window, or run &lt;code&gt;sonaphex driver install&lt;/code&gt;. The password of an administrator is asked for once: the add-on is installed for all users of the computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez « Installer » dans la fenêtre des préférences, ou exécutez &lt;code&gt;sonaphex driver install&lt;/code&gt;. Le mot de passe d’un administrateur est demandé une fois : le module est installé pour tous les utilisateurs de l’ordinateur.</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Désinstaller</translation>
     </message>
     <message>
         <source>Choose Remove in the same place, or run &lt;code&gt;sonaphex driver remove&lt;/code&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez « Désinstaller » au même endroit, ou exécutez &lt;code&gt;sonaphex driver remove&lt;/code&gt;.</translation>
     </message>
 </context>
 <context>
@@ -2161,12 +2161,12 @@ commandes :
     <message>
         <source>Shift</source>
         <comment>a key of the keyboard</comment>
-        <translation type="unfinished"></translation>
+        <translation>Maj</translation>
     </message>
     <message>
         <source>Alt</source>
         <comment>a key of the keyboard</comment>
-        <translation type="unfinished"></translation>
+        <translation>Alt</translation>
     </message>
 </context>
 <context>
@@ -3204,30 +3204,30 @@ commandes :
     </message>
     <message>
         <source>Please waiting a moment ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez patienter un instant ...</translation>
     </message>
     <message>
         <source>Burning Disc...</source>
-        <translation type="unfinished"></translation>
+        <translation>Gravure du disque...</translation>
     </message>
 </context>
 <context>
     <name>QCommandLineParser</name>
     <message>
         <source>Unknown option &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Option « %1 » inconnue.</translation>
     </message>
     <message>
         <source>Unknown options: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Options inconnues : %1.</translation>
     </message>
     <message>
         <source>Missing value after &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur manquante après « %1 ».</translation>
     </message>
     <message>
         <source>Unexpected value after &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur inattendue après « %1 ».</translation>
     </message>
 </context>
 <context>
@@ -3560,47 +3560,47 @@ commandes :
     </message>
     <message>
         <source>the input unit cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d’ouvrir l’unité d’entrée</translation>
     </message>
     <message>
         <source>there is no input unit</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas d’unité d’entrée</translation>
     </message>
     <message>
         <source>the unit&apos;s output cannot be switched off</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de désactiver la sortie de l’unité</translation>
     </message>
     <message>
         <source>the device cannot be used</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d’utiliser le périphérique</translation>
     </message>
     <message>
         <source>the device accepts no callback</source>
-        <translation type="unfinished"></translation>
+        <translation>le périphérique n’accepte aucune fonction de rappel</translation>
     </message>
     <message>
         <source>the device&apos;s format cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de lire le format du périphérique</translation>
     </message>
     <message>
         <source>the device&apos;s format cannot be captured</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de capturer le format du périphérique</translation>
     </message>
     <message>
         <source>the device&apos;s buffer size cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de lire la taille du tampon du périphérique</translation>
     </message>
     <message>
         <source>the unit cannot be initialised</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d’initialiser l’unité</translation>
     </message>
     <message>
         <source>not enough memory</source>
-        <translation type="unfinished"></translation>
+        <translation>mémoire insuffisante</translation>
     </message>
     <message>
         <source>the device cannot be started</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de démarrer le périphérique</translation>
     </message>
 </context>
 <context>
@@ -3735,27 +3735,27 @@ commandes :
     <name>RecordingRename</name>
     <message>
         <source>the title is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>le titre est vide</translation>
     </message>
     <message>
         <source>a file name cannot contain “/”</source>
-        <translation type="unfinished"></translation>
+        <translation>un nom de fichier ne peut pas contenir « / »</translation>
     </message>
     <message>
         <source>the title has a character that no file name can contain</source>
-        <translation type="unfinished"></translation>
+        <translation>le titre contient un caractère qu’aucun nom de fichier ne peut contenir</translation>
     </message>
     <message>
         <source>the title is longer than a file name can be</source>
-        <translation type="unfinished"></translation>
+        <translation>le titre est plus long que ne peut l’être un nom de fichier</translation>
     </message>
     <message>
         <source>there is already a file named “%1” in its folder</source>
-        <translation type="unfinished"></translation>
+        <translation>il y a déjà un fichier nommé « %1 » dans son dossier</translation>
     </message>
     <message>
         <source>The file keeps its name “%1”: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier garde son nom « %1 » : %2.</translation>
     </message>
 </context>
 <context>
@@ -3942,7 +3942,7 @@ commandes :
     </message>
     <message>
         <source>Sonaphex: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonaphex : %1</translation>
     </message>
 </context>
 <context>

@@ -110,15 +110,15 @@
     </message>
     <message>
         <source>the stream failed</source>
-        <translation type="unfinished"></translation>
+        <translation>ストリームが失敗しました</translation>
     </message>
     <message>
         <source>the device went away</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスが使えなくなりました</translation>
     </message>
     <message>
         <source>no sound server answers: a private one was started, its input device is a tone</source>
-        <translation type="unfinished"></translation>
+        <translation>サウンドサーバーの応答がありません: 専用のサーバーを起動しました。その入力デバイスはテスト音です</translation>
     </message>
 </context>
 <context>
@@ -304,11 +304,11 @@
     </message>
     <message>
         <source>the new file</source>
-        <translation type="unfinished"></translation>
+        <translation>新しいファイル</translation>
     </message>
     <message>
         <source>It was stopped before the end.</source>
-        <translation type="unfinished"></translation>
+        <translation>途中で中止しました。</translation>
     </message>
 </context>
 <context>
@@ -422,7 +422,7 @@
     </message>
     <message>
         <source>Do you want to replace &quot;%1&quot; audio file.</source>
-        <translation type="unfinished"></translation>
+        <translation>音声ファイル「%1」を置き換えますか?</translation>
     </message>
 </context>
 <context>
@@ -619,8 +619,8 @@
     </message>
     <message numerus="yes">
         <source> %n Items     Size: %1 MB</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> %n 項目     サイズ: %1 MB</numerusform>
         </translation>
     </message>
 </context>
@@ -1599,23 +1599,23 @@ commands:
     </message>
     <message>
         <source>%1: no such command and no such file (see sonaphex help)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: そのようなコマンドもファイルもありません (sonaphex help を参照)</translation>
     </message>
     <message>
         <source>burning</source>
-        <translation type="unfinished"></translation>
+        <translation>書き込み中</translation>
     </message>
     <message>
         <source>%1, %2 being finished</source>
-        <translation type="unfinished"></translation>
+        <translation>%1、仕上げ処理中 %2 件</translation>
     </message>
     <message>
         <source>%1, %2 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1、%2 バイト</translation>
     </message>
     <message>
         <source>disc image</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスクイメージ</translation>
     </message>
 </context>
 <context>
@@ -1885,11 +1885,11 @@ commands:
     </message>
     <message>
         <source>there is not enough room on the disc: the tracks need %1 minutes (%2 sectors), %3 minutes (%4 sectors) are free</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスクの空き容量が足りません: トラックには %1 分 (%2 セクター) 必要ですが、空きは %3 分 (%4 セクター) です</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB</translation>
     </message>
 </context>
 <context>
@@ -1978,67 +1978,67 @@ commands:
     <name>HelpPages</name>
     <message>
         <source>Sonaphex support</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonaphex サポート</translation>
     </message>
     <message>
         <source>Nothing is recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>何も録音されない</translation>
     </message>
     <message>
         <source>Look whether a source is chosen in the main window: an input device, the computer&apos;s audio, or both. In a terminal, &lt;code&gt;sonaphex devices&lt;/code&gt; lists the input devices that the sound server offers.</source>
-        <translation type="unfinished"></translation>
+        <translation>メインウィンドウでソース (入力デバイス、コンピューター音声、または両方) が選択されているか確認してください。端末で &lt;code&gt;sonaphex devices&lt;/code&gt; を実行すると、サウンドサーバーが提供する入力デバイスを一覧表示します。</translation>
     </message>
     <message>
         <source>A recording of the computer&apos;s audio alone begins with the first sound that the computer plays.</source>
-        <translation type="unfinished"></translation>
+        <translation>コンピューター音声だけの録音は、コンピューターが最初の音を再生したときに始まります。</translation>
     </message>
     <message>
         <source>A recording is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>録音が見つからない</translation>
     </message>
     <message>
         <source>Recordings shorter than the time that is set in the preferences are dropped; switch the filter off to keep them. What could not be finished, for instance on a full disk, lies in &lt;code&gt;~/.local/share/com.korvane.Sonaphex/Unfinished&lt;/code&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定ウィンドウで指定した時間より短い録音は破棄されます。残すには、フィルターをオフにしてください。ディスクがいっぱいのときなど、完了できなかった録音は &lt;code&gt;~/.local/share/com.korvane.Sonaphex/Unfinished&lt;/code&gt; にあります。</translation>
     </message>
     <message>
         <source>The computer&apos;s audio cannot be chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>コンピューター音声を選択できない</translation>
     </message>
     <message>
         <source>It needs a small add-on: see &lt;a href=&quot;computer-audio.html&quot;&gt;recording the computer&apos;s audio&lt;/a&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>小さなアドオンが必要です: &lt;a href=&quot;computer-audio.html&quot;&gt;コンピューター音声の録音&lt;/a&gt;を参照してください。</translation>
     </message>
     <message>
         <source>The settings are gone</source>
-        <translation type="unfinished"></translation>
+        <translation>設定が消えた</translation>
     </message>
     <message>
         <source>They are in &lt;code&gt;~/.config/com.korvane.Sonaphex.plist&lt;/code&gt;. A damaged file is kept beside it under a name that ends in &lt;code&gt;.damaged-&lt;/code&gt; and the date.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定は &lt;code&gt;~/.config/com.korvane.Sonaphex.plist&lt;/code&gt; にあります。破損したファイルは、末尾に &lt;code&gt;.damaged-&lt;/code&gt; と日付を付けた名前で同じ場所に残されます。</translation>
     </message>
     <message>
         <source>Recording the computer&apos;s audio</source>
-        <translation type="unfinished"></translation>
+        <translation>コンピューター音声の録音</translation>
     </message>
     <message>
         <source>The add-on is an input device named “Korvane System Audio” that hears what the default output plays. It is a small program of the user&apos;s session that speaks to the sound server; it changes nothing in what you hear, and it never becomes the default microphone of other programs.</source>
-        <translation type="unfinished"></translation>
+        <translation>アドオンは、既定の出力の再生音を取り込む「Korvane System Audio」という名前の入力デバイスです。ユーザーのセッションで動作し、サウンドサーバーと通信する小さなプログラムです。聞こえる音には影響せず、ほかのプログラムの既定のマイクになることもありません。</translation>
     </message>
     <message>
         <source>Install</source>
-        <translation type="unfinished"></translation>
+        <translation>インストール</translation>
     </message>
     <message>
         <source>Choose Install in the preferences window, or run &lt;code&gt;sonaphex driver install&lt;/code&gt;. The password of an administrator is asked for once: the add-on is installed for all users of the computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定ウィンドウで「インストール」を選ぶか、&lt;code&gt;sonaphex driver install&lt;/code&gt; を実行します。管理者のパスワードが 1 回だけ必要です。アドオンはコンピューターのすべてのユーザーにインストールされます。</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>削除</translation>
     </message>
     <message>
         <source>Choose Remove in the same place, or run &lt;code&gt;sonaphex driver remove&lt;/code&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>同じ場所で「削除」を選ぶか、&lt;code&gt;sonaphex driver remove&lt;/code&gt; を実行します。</translation>
     </message>
 </context>
 <context>
@@ -2157,12 +2157,12 @@ commands:
     <message>
         <source>Shift</source>
         <comment>a key of the keyboard</comment>
-        <translation type="unfinished"></translation>
+        <translation>Shift</translation>
     </message>
     <message>
         <source>Alt</source>
         <comment>a key of the keyboard</comment>
-        <translation type="unfinished"></translation>
+        <translation>Alt</translation>
     </message>
 </context>
 <context>
@@ -3199,30 +3199,30 @@ commands:
     </message>
     <message>
         <source>Please waiting a moment ...</source>
-        <translation type="unfinished"></translation>
+        <translation>しばらくお待ちください ...</translation>
     </message>
     <message>
         <source>Burning Disc...</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスクに書き込んでいます...</translation>
     </message>
 </context>
 <context>
     <name>QCommandLineParser</name>
     <message>
         <source>Unknown option &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>不明なオプション「%1」です。</translation>
     </message>
     <message>
         <source>Unknown options: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>不明なオプションです: %1。</translation>
     </message>
     <message>
         <source>Missing value after &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」の後に値がありません。</translation>
     </message>
     <message>
         <source>Unexpected value after &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」の後に予期しない値があります。</translation>
     </message>
 </context>
 <context>
@@ -3553,47 +3553,47 @@ commands:
     </message>
     <message>
         <source>the input unit cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>入力ユニットを開けません</translation>
     </message>
     <message>
         <source>there is no input unit</source>
-        <translation type="unfinished"></translation>
+        <translation>入力ユニットがありません</translation>
     </message>
     <message>
         <source>the unit&apos;s output cannot be switched off</source>
-        <translation type="unfinished"></translation>
+        <translation>ユニットの出力をオフにできません</translation>
     </message>
     <message>
         <source>the device cannot be used</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスを使用できません</translation>
     </message>
     <message>
         <source>the device accepts no callback</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスがコールバックを受け付けません</translation>
     </message>
     <message>
         <source>the device&apos;s format cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスの形式を読み取れません</translation>
     </message>
     <message>
         <source>the device&apos;s format cannot be captured</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスの形式では取り込めません</translation>
     </message>
     <message>
         <source>the device&apos;s buffer size cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスのバッファーサイズを読み取れません</translation>
     </message>
     <message>
         <source>the unit cannot be initialised</source>
-        <translation type="unfinished"></translation>
+        <translation>ユニットを初期化できません</translation>
     </message>
     <message>
         <source>not enough memory</source>
-        <translation type="unfinished"></translation>
+        <translation>メモリーが足りません</translation>
     </message>
     <message>
         <source>the device cannot be started</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスを開始できません</translation>
     </message>
 </context>
 <context>
@@ -3727,27 +3727,27 @@ commands:
     <name>RecordingRename</name>
     <message>
         <source>the title is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>タイトルが空です</translation>
     </message>
     <message>
         <source>a file name cannot contain “/”</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル名に「/」は使えません</translation>
     </message>
     <message>
         <source>the title has a character that no file name can contain</source>
-        <translation type="unfinished"></translation>
+        <translation>タイトルにファイル名に使えない文字が含まれています</translation>
     </message>
     <message>
         <source>the title is longer than a file name can be</source>
-        <translation type="unfinished"></translation>
+        <translation>タイトルがファイル名の長さの上限を超えています</translation>
     </message>
     <message>
         <source>there is already a file named “%1” in its folder</source>
-        <translation type="unfinished"></translation>
+        <translation>同じフォルダーに「%1」という名前のファイルがすでにあります</translation>
     </message>
     <message>
         <source>The file keeps its name “%1”: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル名は「%1」のままです: %2。</translation>
     </message>
 </context>
 <context>
@@ -3934,7 +3934,7 @@ commands:
     </message>
     <message>
         <source>Sonaphex: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonaphex: %1</translation>
     </message>
 </context>
 <context>
