@@ -10,7 +10,7 @@ apt_build="cmake ninja-build g++ ccache pkg-config qt6-base-dev qt6-svg-dev qt6-
   libavutil-dev libswresample-dev libtag1-dev libplist-dev libxcb1-dev libxcb-keysyms1-dev libburn-dev libudev-dev"
 apt_run="pipewire pipewire-bin wireplumber libspa-0.2-modules libqt6svg6 qt6-image-formats-plugins fonts-inter
   fonts-droid-fallback qt6-translations-l10n file findutils xdg-utils"
-apt_test="libgtest-dev libgmock-dev xvfb xauth x11-utils x11-xkb-utils dbus dbus-daemon xdotool openbox trayer playerctl libglib2.0-bin
+apt_test="libgtest-dev libgmock-dev xvfb xauth x11-utils x11-xkb-utils dbus dbus-daemon xdotool openbox trayer|stalonetray playerctl libglib2.0-bin
   libgtk-3-bin dunst xdg-desktop-portal qt6-wayland sway desktop-file-utils ffmpeg faad
   mediainfo atomicparsley sox libsox-fmt-all gstreamer1.0-tools gstreamer1.0-plugins-base gstreamer1.0-plugins-good
   gstreamer1.0-plugins-bad gstreamer1.0-libav pipewire-pulse procps libcdio-utils bchunk groff-base zsh fish time"
@@ -36,17 +36,29 @@ as_root() {
     fi
 }
 
-# need_packages build run ...: installs the missing packages of the named lists.
+# first_available A|B: prints the first of the packages that apt can install.
+first_available() {
+    local name
+    for name in ${1//|/ }; do
+        if apt-cache show "$name" >/dev/null 2>&1; then break; fi
+    done
+    printf '%s' "$name"
+}
+
+# need_packages build run ...: installs the missing packages of the named lists. Of "A|B" either will do: no package has
+# that name in every distribution.
 need_packages() {
     local kind names="" missing="" name
     if command -v apt-get >/dev/null; then
         for kind in "$@"; do local list="apt_$kind"; names+=" ${!list}"; done
         local have
         have=" $(dpkg-query -W -f='${db:Status-Status} ${Package}\n' 2>/dev/null | sed -n 's/^installed //p' | tr '\n' ' ') "
-        for name in $names; do [[ "$have" == *" $name "* ]] || missing+=" $name"; done
+        for name in $names; do [[ "$have" == *" ${name%|*} "* || "$have" == *" ${name#*|} "* ]] || missing+=" $name"; done
         [ -n "$missing" ] || return 0
-        say "installing with apt:$missing"
         as_root apt-get -o DPkg::Lock::Timeout=300 update -q >&2 || say "apt-get update failed; trying with the lists at hand"
+        names=$missing missing=
+        for name in $names; do missing+=" $(first_available "$name")"; done
+        say "installing with apt:$missing"
         # shellcheck disable=SC2086
         as_root env DEBIAN_FRONTEND=noninteractive apt-get -o DPkg::Lock::Timeout=300 install -y -q --no-install-recommends $missing >&2 ||
             die "apt could not install:$missing"

@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QThread>
 
@@ -218,12 +219,17 @@ QString XvfbSession::display() const {
 }
 
 bool XvfbSession::startTray() {
-    return d->start(u"trayer"_s, {u"--edge"_s, u"bottom"_s, u"--widthtype"_s, u"request"_s}) &&
-           eventually([this] { return rootHas(d->display, "_NET_SYSTEM_TRAY_S0", true); });
+    // A distribution has one or the other.
+    const bool started = QStandardPaths::findExecutable(u"trayer"_s).isEmpty()
+                             ? d->start(u"stalonetray"_s, {u"--geometry"_s, u"4x1-0-0"_s})
+                             : d->start(u"trayer"_s, {u"--edge"_s, u"bottom"_s, u"--widthtype"_s, u"request"_s});
+    return started && eventually([this] { return rootHas(d->display, "_NET_SYSTEM_TRAY_S0", true); });
 }
 
 void XvfbSession::stopTray() {
-    const auto tray = std::ranges::find(d->processes, u"trayer"_s, [](const auto& each) { return each->program(); });
+    const auto tray = std::ranges::find_if(d->processes, [](const auto& each) {
+        return each->program() == u"trayer" || each->program() == u"stalonetray";
+    });
     if (tray == d->processes.end())
         return;
     end(**tray);

@@ -71,9 +71,30 @@ bool isTooDeep(const QByteArray& xml) {
     return false;
 }
 
-const QDateTime& referenceDate() {
-    static const QDateTime date(QDate(2001, 1, 1), QTime(0, 0), QTimeZone::utc());
-    return date;
+/// libplist 2.7 replaced the functions of dates, whose times began in 2001. Templates, so that only the functions that
+/// exist are used.
+constexpr std::int64_t secondsTo2001 = 978307200; ///< from 1970-01-01 to 2001-01-01, UTC
+
+template <typename Seconds>
+plist_t dateNode(Seconds since1970) {
+    if constexpr (requires { plist_new_unix_date(since1970); })
+        return plist_new_unix_date(since1970);
+    else
+        return plist_new_date(Seconds(since1970 - secondsTo2001), 0);
+}
+
+template <typename Node>
+std::int64_t secondsSince1970(Node date) {
+    std::int64_t seconds = 0;
+    if constexpr (requires { plist_get_unix_date_val(date, &seconds); }) {
+        plist_get_unix_date_val(date, &seconds);
+        return seconds;
+    } else {
+        std::int32_t since2001 = 0;
+        std::int32_t microseconds = 0;
+        plist_get_date_val(date, &since2001, &microseconds);
+        return secondsTo2001 + since2001;
+    }
 }
 
 /// libplist 2.2 writes an unsigned number as a signed one, and has no other. Since 2.3 it writes it unsigned, so that a
@@ -124,7 +145,7 @@ plist_t nodeFrom(const QVariant& object) {
         return plist_new_data(data.constData(), static_cast<std::uint64_t>(data.size()));
     }
     case QMetaType::QDateTime:
-        return plist_new_date(static_cast<std::int32_t>(referenceDate().secsTo(object.toDateTime())), 0);
+        return dateNode(std::int64_t(object.toDateTime().toSecsSinceEpoch()));
     case QMetaType::QVariantList:
     case QMetaType::QStringList: {
         plist_t node = plist_new_array();
@@ -170,12 +191,8 @@ public:
             const char* data = plist_get_data_ptr(node, &length);
             return QByteArray(data, static_cast<qsizetype>(length));
         }
-        case PLIST_DATE: {
-            std::int32_t seconds = 0;
-            std::int32_t microseconds = 0;
-            plist_get_date_val(node, &seconds, &microseconds);
-            return referenceDate().addSecs(seconds);
-        }
+        case PLIST_DATE:
+            return QDateTime::fromSecsSinceEpoch(secondsSince1970(node), QTimeZone::utc());
         case PLIST_ARRAY:
             return array(node);
         case PLIST_DICT:
