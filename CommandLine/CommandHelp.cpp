@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandLine/CommandHelp.h"
 
+#include "CommandLine/TerminalColumns.h"
+
 #include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
@@ -22,22 +24,8 @@ QString shown(const Option& option) {
     return *option.value ? name + u' ' + QString::fromUtf8(option.value) : name;
 }
 
-/// Joins @p words with spaces and wraps long lines.
 QString wrapped(const QString& first, const QStringList& words, qsizetype indent) {
-    QString text = first;
-    qsizetype column = first.size();
-    for (const QString& word : words) {
-        if (column + 1 + word.size() > kLineLength) {
-            text += u'\n' + QString(indent, u' ');
-            column = indent;
-        } else {
-            text += u' ';
-            ++column;
-        }
-        text += word;
-        column += word.size();
-    }
-    return text;
+    return TerminalColumns::wrapped(first, words, indent, kLineLength);
 }
 
 /// An option's sentence, with its default in brackets.

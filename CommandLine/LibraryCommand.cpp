@@ -3,6 +3,7 @@
 #include "CommandLine/LibraryCommand.h"
 
 #include "CommandLine/Arguments.h"
+#include "CommandLine/TerminalColumns.h"
 #include "Platform/Foundation/PlainText.h"
 #include "Platform/Foundation/Translations.h"
 #include "Source/Control/EditNote.h"
@@ -48,12 +49,13 @@ QJsonArray asJson(const QVariantList& entries) {
 
 void printCollection(const QString& title, const QVariantList& entries) {
     using namespace AudioRecordEntry;
-    print(u"%1: %2"_s.arg(title, Platform::Translations::number(entries.size())));
+    print(QCoreApplication::translate("CommandLine", "%1: %2", "a list of the library and how many are in it")
+              .arg(title, Platform::Translations::number(entries.size())));
     QString file = QCoreApplication::translate("CommandLine", "file", "the path of a recording");
     QString key = QCoreApplication::translate("CommandLine", "key", "names an entry of the library");
-    const qsizetype width = std::max(file.size(), key.size());
-    file = file.leftJustified(width);
-    key = key.leftJustified(width);
+    const qsizetype width = std::max(TerminalColumns::of(file), TerminalColumns::of(key));
+    file = TerminalColumns::padded(file, width);
+    key = TerminalColumns::padded(key, width);
     for (const QVariant& object : entries) {
         const Dictionary entry = object.toMap();
         const QString path = text(entry, SavePath);

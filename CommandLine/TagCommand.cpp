@@ -4,6 +4,7 @@
 
 #include "CommandLine/Arguments.h"
 #include "CommandLine/LibraryChange.h"
+#include "CommandLine/TerminalColumns.h"
 #include "Platform/Foundation/Bundle.h"
 #include "Platform/Foundation/PlainText.h"
 #include "Platform/Foundation/Services.h"
@@ -65,9 +66,9 @@ void show(const QString& path, const BasicID3Change::Tags& tags, bool json) {
         {QCoreApplication::translate("CommandLine", "artwork:"), cover}};
     qsizetype width = 0;
     for (const auto& [name, value] : lines)
-        width = std::max(width, name.size());
+        width = std::max(width, TerminalColumns::of(name));
     for (const auto& [name, value] : lines)
-        print(name.leftJustified(width + 1) + value);
+        print(TerminalColumns::padded(name, width + 1) + value);
 }
 
 /// A helper program reads the image, so that this one needs none of the desktop's libraries. @return the error; empty

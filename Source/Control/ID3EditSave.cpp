@@ -79,8 +79,10 @@ Result save(const Dictionary& before, const Dictionary& edited, const Artwork& a
     (void)ID3ChangeControl::changeID3Info(path, edited);
     if (const auto agrees = FileTags::agree(path, edited); !agrees || !*agrees) {
         const QString why = agrees.error().text;
-        result.notice = sentence(QT_TRANSLATE_NOOP("ID3EditSave", "The tags of “%1” could not be written"), path) +
-                        (why.isEmpty() ? u"."_s : u": "_s + why);
+        result.notice = why.isEmpty()
+                            ? sentence(QT_TRANSLATE_NOOP("ID3EditSave", "The tags of “%1” could not be written."), path)
+                            : QCoreApplication::translate("ID3EditSave", "The tags of “%1” could not be written: %2")
+                                  .arg(QFileInfo(path).fileName(), why);
         note->end();
         return result;
     }
