@@ -1637,6 +1637,11 @@ commands:
         <source>disc image</source>
         <translation>صورة قرص</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a list of the library and how many are in it</comment>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>Control</name>
@@ -2072,8 +2077,12 @@ commands:
         <translation>تعذّرت كتابة غلاف «%1».</translation>
     </message>
     <message>
-        <source>The tags of “%1” could not be written</source>
-        <translation>تعذّرت كتابة وسوم «%1»</translation>
+        <source>The tags of “%1” could not be written.</source>
+        <translation>تعذّرت كتابة وسوم «%1».</translation>
+    </message>
+    <message>
+        <source>The tags of “%1” could not be written: %2</source>
+        <translation>تعذّرت كتابة وسوم «%1»: %2</translation>
     </message>
 </context>
 <context>

@@ -1621,6 +1621,11 @@ Befehle:
         <source>disc image</source>
         <translation>Disc-Abbild</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a list of the library and how many are in it</comment>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>Control</name>
@@ -2056,8 +2061,12 @@ Befehle:
         <translation>Das Cover von „%1“ konnte nicht geschrieben werden.</translation>
     </message>
     <message>
-        <source>The tags of “%1” could not be written</source>
-        <translation>Die Tags von „%1“ konnten nicht geschrieben werden</translation>
+        <source>The tags of “%1” could not be written.</source>
+        <translation>Die Tags von „%1“ konnten nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The tags of “%1” could not be written: %2</source>
+        <translation>Die Tags von „%1“ konnten nicht geschrieben werden: %2</translation>
     </message>
 </context>
 <context>

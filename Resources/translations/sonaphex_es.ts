@@ -1621,6 +1621,11 @@ commands:
         <source>disc image</source>
         <translation>imagen de disco</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a list of the library and how many are in it</comment>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>Control</name>
@@ -2056,8 +2061,12 @@ commands:
         <translation>No se pudo escribir la carátula de «%1».</translation>
     </message>
     <message>
-        <source>The tags of “%1” could not be written</source>
-        <translation>No se pudieron escribir las etiquetas de «%1»</translation>
+        <source>The tags of “%1” could not be written.</source>
+        <translation>No se pudieron escribir las etiquetas de «%1».</translation>
+    </message>
+    <message>
+        <source>The tags of “%1” could not be written: %2</source>
+        <translation>No se pudieron escribir las etiquetas de «%1»: %2</translation>
     </message>
 </context>
 <context>
@@ -3184,7 +3193,7 @@ commands:
     <name>ProcessWndController</name>
     <message>
         <source>A burn cannot be stopped before it has written 4 %.</source>
-        <translation>La grabación del disco no se puede detener hasta que se haya escrito el 4 %.</translation>
+        <translation>La grabación del disco no se puede detener hasta que se haya escrito el 4&#xa0;%.</translation>
     </message>
     <message>
         <source>Stops the burn; the disc is then unusable.</source>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>A picture; Delete removes it</source>
-        <translation>Une image ; Suppr la retire</translation>
+        <translation>Une image&#xa0;; Suppr la retire</translation>
     </message>
 </context>
 <context>
@@ -50,7 +50,7 @@
     </message>
     <message>
         <source>%1 is not installed: no sound server answers and none can be started</source>
-        <translation>%1 n’est pas installé : aucun serveur de son ne répond et aucun ne peut être démarré</translation>
+        <translation>%1 n’est pas installé&#xa0;: aucun serveur de son ne répond et aucun ne peut être démarré</translation>
     </message>
     <message>
         <source>the private sound server did not start</source>
@@ -62,7 +62,7 @@
     </message>
     <message>
         <source>no sound server answers: %1</source>
-        <translation>aucun serveur de son ne répond : %1</translation>
+        <translation>aucun serveur de son ne répond&#xa0;: %1</translation>
     </message>
     <message>
         <source>the sound server went away</source>
@@ -118,7 +118,7 @@
     </message>
     <message>
         <source>no sound server answers: a private one was started, its input device is a tone</source>
-        <translation>aucun serveur de son ne répond : un serveur privé a été démarré, son périphérique d’entrée est un signal d’essai</translation>
+        <translation>aucun serveur de son ne répond&#xa0;: un serveur privé a été démarré, son périphérique d’entrée est un signal d’essai</translation>
     </message>
 </context>
 <context>
@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>No music yet. Press “Add Files…” or drop sound files here.</source>
-        <translation>Pas encore de musique. Cliquez sur « Ajouter des fichiers… » ou déposez ici des fichiers audio.</translation>
+        <translation>Pas encore de musique. Cliquez sur «&#xa0;Ajouter des fichiers…&#xa0;» ou déposez ici des fichiers audio.</translation>
     </message>
 </context>
 <context>
@@ -195,11 +195,11 @@
     </message>
     <message>
         <source>%1 ticked, %2</source>
-        <translation>Cochés : %1 (%2)</translation>
+        <translation>Cochés&#xa0;: %1 (%2)</translation>
     </message>
     <message>
         <source>Do you want to move these items to the trash?</source>
-        <translation>Voulez-vous mettre ces éléments à la corbeille ?</translation>
+        <translation>Voulez-vous mettre ces éléments à la corbeille&#xa0;?</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -284,11 +284,11 @@
     <name>AudioTrimSave</name>
     <message>
         <source>The file “%1” is no longer there.</source>
-        <translation>Le fichier « %1 » n’existe plus.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» n’existe plus.</translation>
     </message>
     <message>
         <source>The file “%1” is still being recorded to.</source>
-        <translation>Le fichier « %1 » est encore en cours d’enregistrement.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» est encore en cours d’enregistrement.</translation>
     </message>
     <message>
         <source>The range is shorter than a tenth of a second.</source>
@@ -406,11 +406,11 @@
     </message>
     <message>
         <source>Waring:</source>
-        <translation>Attention :</translation>
+        <translation>Attention&#xa0;:</translation>
     </message>
     <message>
         <source>Warning:</source>
-        <translation>Attention :</translation>
+        <translation>Attention&#xa0;:</translation>
     </message>
     <message>
         <source>This path exists, please change the path or name.</source>
@@ -422,7 +422,7 @@
     </message>
     <message>
         <source>Do you want to replace &quot;%1&quot; audio file.</source>
-        <translation>Voulez-vous remplacer le fichier audio « %1 » ?</translation>
+        <translation>Voulez-vous remplacer le fichier audio «&#xa0;%1&#xa0;»&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -440,7 +440,7 @@
     </message>
     <message>
         <source>Drag the edges or the middle. Left and Right move the selection, with Control its begin, with Alt its end; with Shift by a second.</source>
-        <translation>Faites glisser les bords ou le milieu. Gauche et Droite déplacent la sélection, avec Ctrl son début, avec Alt sa fin ; avec Maj d’une seconde.</translation>
+        <translation>Faites glisser les bords ou le milieu. Gauche et Droite déplacent la sélection, avec Ctrl son début, avec Alt sa fin&#xa0;; avec Maj d’une seconde.</translation>
     </message>
     <message>
         <source>from %1 to %2, %3 seconds</source>
@@ -548,7 +548,7 @@
     </message>
     <message>
         <source>&amp;Drive:</source>
-        <translation>Gra&amp;veur :</translation>
+        <translation>Gra&amp;veur&#xa0;:</translation>
     </message>
     <message>
         <source>Drive</source>
@@ -603,7 +603,7 @@
     </message>
     <message>
         <source>Time: %1</source>
-        <translation>Durée : %1</translation>
+        <translation>Durée&#xa0;: %1</translation>
     </message>
     <message>
         <source>Eject the disc</source>
@@ -620,8 +620,8 @@
     <message numerus="yes">
         <source> %n Items     Size: %1 MB</source>
         <translation>
-            <numerusform> %n élément     Taille : %1 Mo</numerusform>
-            <numerusform> %n éléments     Taille : %1 Mo</numerusform>
+            <numerusform> %n élément     Taille&#xa0;: %1&#xa0;Mo</numerusform>
+            <numerusform> %n éléments     Taille&#xa0;: %1&#xa0;Mo</numerusform>
         </translation>
     </message>
 </context>
@@ -629,11 +629,11 @@
     <name>CaptureComputerAudio</name>
     <message>
         <source>%1: the driver does not run on this machine</source>
-        <translation>%1 : le pilote ne fonctionne pas sur cette machine</translation>
+        <translation>%1&#xa0;: le pilote ne fonctionne pas sur cette machine</translation>
     </message>
     <message>
         <source>%1: no such program</source>
-        <translation>%1 : programme introuvable</translation>
+        <translation>%1&#xa0;: programme introuvable</translation>
     </message>
     <message>
         <source>the driver was started, but its device did not appear</source>
@@ -649,18 +649,18 @@
     </message>
     <message>
         <source>%1: the driver is missing from the program&apos;s resources</source>
-        <translation>%1 : le pilote manque dans les ressources du programme</translation>
+        <translation>%1&#xa0;: le pilote manque dans les ressources du programme</translation>
     </message>
 </context>
 <context>
     <name>CommandLine</name>
     <message>
         <source>--%1: %2 is not a time in seconds</source>
-        <translation>--%1 : %2 n’est pas une durée en secondes</translation>
+        <translation>--%1&#xa0;: %2 n’est pas une durée en secondes</translation>
     </message>
     <message>
         <source>--%1: %2 is not a whole number</source>
-        <translation>--%1 : %2 n’est pas un nombre entier</translation>
+        <translation>--%1&#xa0;: %2 n’est pas un nombre entier</translation>
     </message>
     <message>
         <source>there is no drive that writes discs (--image FILE writes a disc image)</source>
@@ -668,31 +668,31 @@
     </message>
     <message>
         <source>%1: there is no such drive (&quot;sonaphex drives&quot; lists them)</source>
-        <translation>%1 : graveur introuvable (« sonaphex drives » en donne la liste)</translation>
+        <translation>%1&#xa0;: graveur introuvable («&#xa0;sonaphex drives&#xa0;» en donne la liste)</translation>
     </message>
     <message>
         <source>%1: the drive is busy</source>
-        <translation>%1 : le graveur est occupé</translation>
+        <translation>%1&#xa0;: le graveur est occupé</translation>
     </message>
     <message>
         <source>%1: there is no disc in the drive</source>
-        <translation>%1 : il n’y a pas de disque dans le graveur</translation>
+        <translation>%1&#xa0;: il n’y a pas de disque dans le graveur</translation>
     </message>
     <message>
         <source>%1: the disc is not blank: erase it, or put another one in</source>
-        <translation>%1 : le disque n’est pas vierge : effacez-le ou insérez-en un autre</translation>
+        <translation>%1&#xa0;: le disque n’est pas vierge&#xa0;: effacez-le ou insérez-en un autre</translation>
     </message>
     <message>
         <source>%1: the disc is not blank: put another one in</source>
-        <translation>%1 : le disque n’est pas vierge : insérez-en un autre</translation>
+        <translation>%1&#xa0;: le disque n’est pas vierge&#xa0;: insérez-en un autre</translation>
     </message>
     <message>
         <source>%1: no burn can be made with this drive</source>
-        <translation>%1 : aucune gravure n’est possible avec ce graveur</translation>
+        <translation>%1&#xa0;: aucune gravure n’est possible avec ce graveur</translation>
     </message>
     <message>
         <source>%1; nothing was burned</source>
-        <translation>%1 ; rien n’a été gravé</translation>
+        <translation>%1&#xa0;; rien n’a été gravé</translation>
     </message>
     <message>
         <source>the burn failed</source>
@@ -716,7 +716,7 @@
     </message>
     <message>
         <source>The drive, by its name or its path (&quot;sonaphex drives&quot; lists them).</source>
-        <translation>Le graveur, par son nom ou son chemin (« sonaphex drives » en donne la liste).</translation>
+        <translation>Le graveur, par son nom ou son chemin («&#xa0;sonaphex drives&#xa0;» en donne la liste).</translation>
     </message>
     <message>
         <source>the first drive</source>
@@ -740,19 +740,19 @@
     </message>
     <message>
         <source>%1 (default: %2)</source>
-        <translation>%1 (par défaut : %2)</translation>
+        <translation>%1 (par défaut&#xa0;: %2)</translation>
     </message>
     <message>
         <source>usage: sonaphex %1</source>
-        <translation>utilisation : sonaphex %1</translation>
+        <translation>utilisation&#xa0;: sonaphex %1</translation>
     </message>
     <message>
         <source>options:</source>
-        <translation>options :</translation>
+        <translation>options&#xa0;:</translation>
     </message>
     <message>
         <source>examples:</source>
-        <translation>exemples :</translation>
+        <translation>exemples&#xa0;:</translation>
     </message>
     <message>
         <source>usage: sonaphex            open the window
@@ -761,11 +761,11 @@
 
 commands:
 </source>
-        <translation>utilisation : sonaphex            ouvrir la fenêtre
+        <translation>utilisation&#xa0;: sonaphex            ouvrir la fenêtre
               sonaphex FILE       ouvrir la fenêtre et rogner un fichier audio
               sonaphex COMMAND    exécuter une action et terminer
 
-commandes :
+commandes&#xa0;:
 </translation>
     </message>
     <message>
@@ -773,7 +773,7 @@ commandes :
 &quot;sonaphex COMMAND --help&quot; lists the options of a command, &quot;sonaphex --version&quot; the version.
 </source>
         <translation>
-« sonaphex COMMAND --help » donne les options d’une commande, « sonaphex --version » la version.
+«&#xa0;sonaphex COMMAND --help&#xa0;» donne les options d’une commande, «&#xa0;sonaphex --version&#xa0;» la version.
 </translation>
     </message>
     <message>
@@ -782,7 +782,7 @@ commandes :
     </message>
     <message>
         <source>standard output could not be written: %1</source>
-        <translation>impossible d’écrire sur la sortie standard : %1</translation>
+        <translation>impossible d’écrire sur la sortie standard&#xa0;: %1</translation>
     </message>
     <message>
         <source>idle</source>
@@ -809,7 +809,7 @@ commandes :
     </message>
     <message>
         <source>%1: no such command</source>
-        <translation>%1 : commande inconnue</translation>
+        <translation>%1&#xa0;: commande inconnue</translation>
     </message>
     <message>
         <source>the program is not running</source>
@@ -829,7 +829,7 @@ commandes :
     </message>
     <message>
         <source>stopped before the end: nothing was written</source>
-        <translation>arrêt avant la fin : rien n’a été écrit</translation>
+        <translation>arrêt avant la fin&#xa0;: rien n’a été écrit</translation>
     </message>
     <message>
         <source>%1 cannot be converted</source>
@@ -837,11 +837,11 @@ commandes :
     </message>
     <message>
         <source>%1: it ends at second %2, there is nothing from second %3 on</source>
-        <translation>%1 : il se termine à la seconde %2, il n’y a rien à partir de la seconde %3</translation>
+        <translation>%1&#xa0;: il se termine à la seconde %2, il n’y a rien à partir de la seconde %3</translation>
     </message>
     <message>
         <source>the source is damaged, what could be read was converted: %1</source>
-        <translation>la source est endommagée, ce qui a pu être lu a été converti : %1</translation>
+        <translation>la source est endommagée, ce qui a pu être lu a été converti&#xa0;: %1</translation>
     </message>
     <message>
         <source>convert takes a source and a target</source>
@@ -885,11 +885,11 @@ commandes :
     </message>
     <message>
         <source>Fade in over S seconds; a fade shorter than one second is left out.</source>
-        <translation>Fondu en ouverture de S secondes ; un fondu de moins d’une seconde est omis.</translation>
+        <translation>Fondu en ouverture de S secondes&#xa0;; un fondu de moins d’une seconde est omis.</translation>
     </message>
     <message>
         <source>Fade out over S seconds; a fade shorter than one second is left out.</source>
-        <translation>Fondu en fermeture de S secondes ; un fondu de moins d’une seconde est omis.</translation>
+        <translation>Fondu en fermeture de S secondes&#xa0;; un fondu de moins d’une seconde est omis.</translation>
     </message>
     <message>
         <source>Repeat the range until the new file is S seconds long.</source>
@@ -928,11 +928,11 @@ commandes :
     </message>
     <message>
         <source>%1, %2 Hz, what the computer plays</source>
-        <translation>%1, %2 Hz, le son joué par l’ordinateur</translation>
+        <translation>%1, %2&#xa0;Hz, le son joué par l’ordinateur</translation>
     </message>
     <message>
         <source>%1, %2 Hz</source>
-        <translation>%1, %2 Hz</translation>
+        <translation>%1, %2&#xa0;Hz</translation>
     </message>
     <message>
         <source>no input devices</source>
@@ -940,7 +940,7 @@ commandes :
     </message>
     <message>
         <source>default output: %1</source>
-        <translation>sortie par défaut : %1</translation>
+        <translation>sortie par défaut&#xa0;: %1</translation>
     </message>
     <message>
         <source>none</source>
@@ -957,39 +957,39 @@ commandes :
     </message>
     <message>
         <source>installed: %1</source>
-        <translation>installé : %1</translation>
+        <translation>installé&#xa0;: %1</translation>
     </message>
     <message>
         <source>installed: no</source>
-        <translation>installé : non</translation>
+        <translation>installé&#xa0;: non</translation>
     </message>
     <message>
         <source>loaded: %1</source>
-        <translation>chargé : %1</translation>
+        <translation>chargé&#xa0;: %1</translation>
     </message>
     <message>
         <source>loaded: no</source>
-        <translation>chargé : non</translation>
+        <translation>chargé&#xa0;: non</translation>
     </message>
     <message>
         <source>loaded: no (no sound server answers)</source>
-        <translation>chargé : non (aucun serveur de son ne répond)</translation>
+        <translation>chargé&#xa0;: non (aucun serveur de son ne répond)</translation>
     </message>
     <message>
         <source>the driver stays as it is while the window records: stop the recording first</source>
-        <translation>le pilote reste tel quel tant que la fenêtre enregistre : arrêtez d’abord l’enregistrement</translation>
+        <translation>le pilote reste tel quel tant que la fenêtre enregistre&#xa0;: arrêtez d’abord l’enregistrement</translation>
     </message>
     <message>
         <source>the driver cannot be loaded: no sound server answers</source>
-        <translation>impossible de charger le pilote : aucun serveur de son ne répond</translation>
+        <translation>impossible de charger le pilote&#xa0;: aucun serveur de son ne répond</translation>
     </message>
     <message>
         <source>the driver was not installed: %1</source>
-        <translation>le pilote n’a pas été installé : %1</translation>
+        <translation>le pilote n’a pas été installé&#xa0;: %1</translation>
     </message>
     <message>
         <source>the driver was not removed: %1</source>
-        <translation>le pilote n’a pas été désinstallé : %1</translation>
+        <translation>le pilote n’a pas été désinstallé&#xa0;: %1</translation>
     </message>
     <message>
         <source>driver takes one of status, install, remove</source>
@@ -1030,7 +1030,7 @@ commandes :
     </message>
     <message>
         <source>%1, blank, %2 min %3 s of audio</source>
-        <translation>%1, vierge, %2 min %3 s d’audio</translation>
+        <translation>%1, vierge, %2&#xa0;min %3&#xa0;s d’audio</translation>
     </message>
     <message>
         <source>drives takes no names</source>
@@ -1046,11 +1046,11 @@ commandes :
     </message>
     <message>
         <source>there is no input device &quot;%1&quot;: there is none at all</source>
-        <translation>il n’y a pas de périphérique d’entrée « %1 » : il n’y en a aucun</translation>
+        <translation>il n’y a pas de périphérique d’entrée «&#xa0;%1&#xa0;»&#xa0;: il n’y en a aucun</translation>
     </message>
     <message>
         <source>there is no input device &quot;%1&quot;: there are %2</source>
-        <translation>il n’y a pas de périphérique d’entrée « %1 » ; disponibles : %2</translation>
+        <translation>il n’y a pas de périphérique d’entrée «&#xa0;%1&#xa0;»&#xa0;; disponibles&#xa0;: %2</translation>
     </message>
     <message>
         <source>join takes two files or more</source>
@@ -1062,11 +1062,11 @@ commandes :
     </message>
     <message>
         <source>%1: there is no such file</source>
-        <translation>%1 : fichier introuvable</translation>
+        <translation>%1&#xa0;: fichier introuvable</translation>
     </message>
     <message>
         <source>%1: there is no such folder</source>
-        <translation>%1 : dossier introuvable</translation>
+        <translation>%1&#xa0;: dossier introuvable</translation>
     </message>
     <message>
         <source>make one recording of several, in the given order</source>
@@ -1082,7 +1082,7 @@ commandes :
     </message>
     <message>
         <source>%1, but the running program does not know this request: it is another version</source>
-        <translation>%1, mais le programme en cours d’exécution ne connaît pas cette requête : c’est une autre version</translation>
+        <translation>%1, mais le programme en cours d’exécution ne connaît pas cette requête&#xa0;: c’est une autre version</translation>
     </message>
     <message>
         <source>%1, but the library could not be saved</source>
@@ -1116,7 +1116,7 @@ commandes :
     </message>
     <message>
         <source>the running program does not know this request: it is another version</source>
-        <translation>le programme en cours d’exécution ne connaît pas cette requête : c’est une autre version</translation>
+        <translation>le programme en cours d’exécution ne connaît pas cette requête&#xa0;: c’est une autre version</translation>
     </message>
     <message>
         <source>no entry has the key %1 (nothing was removed)</source>
@@ -1172,19 +1172,19 @@ commandes :
     </message>
     <message>
         <source>%1: is a folder</source>
-        <translation>%1 : est un dossier</translation>
+        <translation>%1&#xa0;: est un dossier</translation>
     </message>
     <message>
         <source>%1: no such folder</source>
-        <translation>%1 : dossier introuvable</translation>
+        <translation>%1&#xa0;: dossier introuvable</translation>
     </message>
     <message>
         <source>%1: that path is not a regular file</source>
-        <translation>%1 : ce chemin n’est pas un fichier ordinaire</translation>
+        <translation>%1&#xa0;: ce chemin n’est pas un fichier ordinaire</translation>
     </message>
     <message>
         <source>%1: exists already (--overwrite replaces it)</source>
-        <translation>%1 : existe déjà (--overwrite le remplace)</translation>
+        <translation>%1&#xa0;: existe déjà (--overwrite le remplace)</translation>
     </message>
     <message>
         <source>the folder %1 cannot be created</source>
@@ -1192,7 +1192,7 @@ commandes :
     </message>
     <message>
         <source>the folder %1 cannot be written: %2</source>
-        <translation>impossible d’écrire dans le dossier %1 : %2</translation>
+        <translation>impossible d’écrire dans le dossier %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>record takes options only</source>
@@ -1220,7 +1220,7 @@ commandes :
     </message>
     <message>
         <source>Record the input device with this name, UID or id; none records no input device.</source>
-        <translation>Enregistrer le périphérique d’entrée ayant ce nom, cet UID ou cet identifiant ; none n’en enregistre aucun.</translation>
+        <translation>Enregistrer le périphérique d’entrée ayant ce nom, cet UID ou cet identifiant&#xa0;; none n’en enregistre aucun.</translation>
     </message>
     <message>
         <source>the device and the choice stored in the preferences</source>
@@ -1284,7 +1284,7 @@ commandes :
     </message>
     <message>
         <source>computer audio: its driver is not installed (see sonaphex driver install)</source>
-        <translation>son de l’ordinateur : son pilote n’est pas installé (voir sonaphex driver install)</translation>
+        <translation>son de l’ordinateur&#xa0;: son pilote n’est pas installé (voir sonaphex driver install)</translation>
     </message>
     <message>
         <source>there is no input device</source>
@@ -1292,7 +1292,7 @@ commandes :
     </message>
     <message>
         <source>there is no source to record: name one with --input or --computer</source>
-        <translation>il n’y a aucune source à enregistrer : indiquez-en une avec --input ou --computer</translation>
+        <translation>il n’y a aucune source à enregistrer&#xa0;: indiquez-en une avec --input ou --computer</translation>
     </message>
     <message>
         <source>nothing can be recorded</source>
@@ -1308,7 +1308,7 @@ commandes :
     </message>
     <message>
         <source>no sound came: nothing was recorded</source>
-        <translation>aucun son n’est arrivé : rien n’a été enregistré</translation>
+        <translation>aucun son n’est arrivé&#xa0;: rien n’a été enregistré</translation>
     </message>
     <message>
         <source>one recording was shorter than the filter&apos;s time and was not kept</source>
@@ -1323,11 +1323,11 @@ commandes :
     </message>
     <message>
         <source>%1: what was recorded is kept in %2</source>
-        <translation>%1 : ce qui a été enregistré est conservé dans %2</translation>
+        <translation>%1&#xa0;: ce qui a été enregistré est conservé dans %2</translation>
     </message>
     <message>
         <source>%1 is made, but the running program does not know this request: it is another version</source>
-        <translation>%1 est créé, mais le programme en cours d’exécution ne connaît pas cette requête : c’est une autre version</translation>
+        <translation>%1 est créé, mais le programme en cours d’exécution ne connaît pas cette requête&#xa0;: c’est une autre version</translation>
     </message>
     <message>
         <source>%1 is made, but the library could not be saved</source>
@@ -1335,15 +1335,15 @@ commandes :
     </message>
     <message>
         <source>%1: it ends at second %2, --to is %3</source>
-        <translation>%1 : il se termine à la seconde %2, --to vaut %3</translation>
+        <translation>%1&#xa0;: il se termine à la seconde %2, --to vaut %3</translation>
     </message>
     <message>
         <source>stopped before the end: no ringtone was made</source>
-        <translation>arrêt avant la fin : aucune sonnerie n’a été créée</translation>
+        <translation>arrêt avant la fin&#xa0;: aucune sonnerie n’a été créée</translation>
     </message>
     <message>
         <source>the source is damaged, the ringtone is silent where it could not be read: %1</source>
-        <translation>la source est endommagée, la sonnerie est muette aux endroits illisibles : %1</translation>
+        <translation>la source est endommagée, la sonnerie est muette aux endroits illisibles&#xa0;: %1</translation>
     </message>
     <message>
         <source>ringtone takes one file</source>
@@ -1375,11 +1375,11 @@ commandes :
     </message>
     <message>
         <source>longest silence found: %1 s</source>
-        <translation>plus long silence trouvé : %1 s</translation>
+        <translation>plus long silence trouvé&#xa0;: %1&#xa0;s</translation>
     </message>
     <message>
         <source>%1: no silence of %2 s; the longest one has %3 s</source>
-        <translation>%1 : aucun silence de %2 s ; le plus long dure %3 s</translation>
+        <translation>%1&#xa0;: aucun silence de %2&#xa0;s&#xa0;; le plus long dure %3&#xa0;s</translation>
     </message>
     <message>
         <source>split takes one file</source>
@@ -1415,7 +1415,7 @@ commandes :
     </message>
     <message>
         <source>Only list the cuts and the longest silence; write nothing.</source>
-        <translation>Lister seulement les coupes et le plus long silence ; ne rien écrire.</translation>
+        <translation>Lister seulement les coupes et le plus long silence&#xa0;; ne rien écrire.</translation>
     </message>
     <message>
         <source>Make a 1.m4a, a 2.m4a and so on beside a.m4a, which stays as it is.</source>
@@ -1436,27 +1436,27 @@ commandes :
     </message>
     <message>
         <source>title:</source>
-        <translation>titre :</translation>
+        <translation>titre&#xa0;:</translation>
     </message>
     <message>
         <source>artist:</source>
-        <translation>artiste :</translation>
+        <translation>artiste&#xa0;:</translation>
     </message>
     <message>
         <source>album:</source>
-        <translation>album :</translation>
+        <translation>album&#xa0;:</translation>
     </message>
     <message>
         <source>year:</source>
-        <translation>année :</translation>
+        <translation>année&#xa0;:</translation>
     </message>
     <message>
         <source>genre:</source>
-        <translation>genre :</translation>
+        <translation>genre&#xa0;:</translation>
     </message>
     <message>
         <source>artwork:</source>
-        <translation>pochette :</translation>
+        <translation>pochette&#xa0;:</translation>
     </message>
     <message>
         <source>the artwork of %1 could not be written</source>
@@ -1468,7 +1468,7 @@ commandes :
     </message>
     <message>
         <source>--year: %1 is not a number</source>
-        <translation>--year : %1 n’est pas un nombre</translation>
+        <translation>--year&#xa0;: %1 n’est pas un nombre</translation>
     </message>
     <message>
         <source>the file is changed</source>
@@ -1480,7 +1480,7 @@ commandes :
     </message>
     <message>
         <source>Write this title. An empty text removes the tag; the same holds for the other texts.</source>
-        <translation>Écrire ce titre. Un texte vide supprime l’étiquette ; il en va de même pour les autres textes.</translation>
+        <translation>Écrire ce titre. Un texte vide supprime l’étiquette&#xa0;; il en va de même pour les autres textes.</translation>
     </message>
     <message>
         <source>Write this artist.</source>
@@ -1492,7 +1492,7 @@ commandes :
     </message>
     <message>
         <source>Write this year; 0 removes the tag.</source>
-        <translation>Écrire cette année ; 0 supprime l’étiquette.</translation>
+        <translation>Écrire cette année&#xa0;; 0 supprime l’étiquette.</translation>
     </message>
     <message>
         <source>Write this genre.</source>
@@ -1520,11 +1520,11 @@ commandes :
     </message>
     <message>
         <source>%1: This path exists, please change the path or name.</source>
-        <translation>%1 : Ce chemin existe déjà, veuillez changer le chemin ou le nom.</translation>
+        <translation>%1&#xa0;: Ce chemin existe déjà, veuillez changer le chemin ou le nom.</translation>
     </message>
     <message>
         <source>%1: the file is being played</source>
-        <translation>%1 : le fichier est en cours de lecture</translation>
+        <translation>%1&#xa0;: le fichier est en cours de lecture</translation>
     </message>
     <message>
         <source>the file is trimmed</source>
@@ -1569,8 +1569,8 @@ commandes :
     <message numerus="yes">
         <source>%1: %n values are too few for a picture</source>
         <translation>
-            <numerusform>%1 : %n valeur ne suffit pas pour une image</numerusform>
-            <numerusform>%1 : %n valeurs ne suffisent pas pour une image</numerusform>
+            <numerusform>%1&#xa0;: %n valeur ne suffit pas pour une image</numerusform>
+            <numerusform>%1&#xa0;: %n valeurs ne suffisent pas pour une image</numerusform>
         </translation>
     </message>
     <message>
@@ -1583,7 +1583,7 @@ commandes :
     </message>
     <message>
         <source>the file is damaged, what could be read is shown: %1</source>
-        <translation>le fichier est endommagé, ce qui a pu être lu est affiché : %1</translation>
+        <translation>le fichier est endommagé, ce qui a pu être lu est affiché&#xa0;: %1</translation>
     </message>
     <message>
         <source>print ten values of a file&apos;s outline for each second</source>
@@ -1603,7 +1603,7 @@ commandes :
     </message>
     <message>
         <source>%1: no such command and no such file (see sonaphex help)</source>
-        <translation>%1 : ni commande ni fichier de ce nom (voir sonaphex help)</translation>
+        <translation>%1&#xa0;: ni commande ni fichier de ce nom (voir sonaphex help)</translation>
     </message>
     <message>
         <source>burning</source>
@@ -1621,20 +1621,25 @@ commandes :
         <source>disc image</source>
         <translation>image disque</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a list of the library and how many are in it</comment>
+        <translation>%1 : %2</translation>
+    </message>
 </context>
 <context>
     <name>Control</name>
     <message>
         <source>%1: no such folder</source>
-        <translation>%1 : dossier introuvable</translation>
+        <translation>%1&#xa0;: dossier introuvable</translation>
     </message>
     <message>
         <source>%1: no such file</source>
-        <translation>%1 : fichier introuvable</translation>
+        <translation>%1&#xa0;: fichier introuvable</translation>
     </message>
     <message>
         <source>%1: the folder cannot be created</source>
-        <translation>%1 : impossible de créer le dossier</translation>
+        <translation>%1&#xa0;: impossible de créer le dossier</translation>
     </message>
     <message>
         <source>the file or its tags could not be written</source>
@@ -1691,7 +1696,7 @@ commandes :
     </message>
     <message>
         <source>pkexec is not installed: administrator rights cannot be requested</source>
-        <translation>pkexec n’est pas installé : impossible de demander les droits d’administrateur</translation>
+        <translation>pkexec n’est pas installé&#xa0;: impossible de demander les droits d’administrateur</translation>
     </message>
     <message>
         <source>administrator rights were not given</source>
@@ -1706,7 +1711,7 @@ commandes :
     <name>DesktopMain</name>
     <message>
         <source>%1 was not opened: the running program does not answer</source>
-        <translation>%1 n’a pas été ouvert : le programme en cours d’exécution ne répond pas</translation>
+        <translation>%1 n’a pas été ouvert&#xa0;: le programme en cours d’exécution ne répond pas</translation>
     </message>
     <message>
         <source>it is already running, but does not answer</source>
@@ -1725,31 +1730,31 @@ commandes :
     <name>Disc</name>
     <message>
         <source>%1: its rate cannot be converted</source>
-        <translation>%1 : impossible de convertir sa fréquence d’échantillonnage</translation>
+        <translation>%1&#xa0;: impossible de convertir sa fréquence d’échantillonnage</translation>
     </message>
     <message>
         <source>%1: contains no audio</source>
-        <translation>%1 : ne contient pas d’audio</translation>
+        <translation>%1&#xa0;: ne contient pas d’audio</translation>
     </message>
     <message>
         <source>%1: no such folder</source>
-        <translation>%1 : dossier introuvable</translation>
+        <translation>%1&#xa0;: dossier introuvable</translation>
     </message>
     <message>
         <source>%1: exists already, and an image replaces no file; choose another name</source>
-        <translation>%1 : existe déjà, et une image ne remplace aucun fichier ; choisissez un autre nom</translation>
+        <translation>%1&#xa0;: existe déjà, et une image ne remplace aucun fichier&#xa0;; choisissez un autre nom</translation>
     </message>
     <message>
         <source>%1: a cue sheet cannot name a file with quotation marks or line ends; choose another name</source>
-        <translation>%1 : une feuille CUE ne peut pas nommer un fichier contenant des guillemets ou des fins de ligne ; choisissez un autre nom</translation>
+        <translation>%1&#xa0;: une feuille CUE ne peut pas nommer un fichier contenant des guillemets ou des fins de ligne&#xa0;; choisissez un autre nom</translation>
     </message>
     <message>
         <source>a file cannot be read: nothing was burned</source>
-        <translation>un fichier est illisible : rien n’a été gravé</translation>
+        <translation>un fichier est illisible&#xa0;: rien n’a été gravé</translation>
     </message>
     <message>
         <source>there is nothing to burn: no file is ticked</source>
-        <translation>il n’y a rien à graver : aucun fichier n’est coché</translation>
+        <translation>il n’y a rien à graver&#xa0;: aucun fichier n’est coché</translation>
     </message>
     <message>
         <source>an audio CD holds at most %1 tracks, these are %2</source>
@@ -1769,23 +1774,23 @@ commandes :
     </message>
     <message>
         <source>%1: the disk is full: the image needs %2, %3 are free</source>
-        <translation>%1 : le disque est plein : l’image nécessite %2, %3 sont libres</translation>
+        <translation>%1&#xa0;: le disque est plein&#xa0;: l’image nécessite %2, %3 sont libres</translation>
     </message>
     <message>
         <source>%1: cannot be written: %2</source>
-        <translation>%1 : écriture impossible : %2</translation>
+        <translation>%1&#xa0;: écriture impossible&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1: cannot be read</source>
-        <translation>%1 : lecture impossible</translation>
+        <translation>%1&#xa0;: lecture impossible</translation>
     </message>
     <message>
         <source>%1: is not an audio file</source>
-        <translation>%1 : n’est pas un fichier audio</translation>
+        <translation>%1&#xa0;: n’est pas un fichier audio</translation>
     </message>
     <message>
         <source>it was stopped before the end: nothing was written</source>
-        <translation>arrêt avant la fin : rien n’a été écrit</translation>
+        <translation>arrêt avant la fin&#xa0;: rien n’a été écrit</translation>
     </message>
     <message>
         <source>the drive cannot be opened</source>
@@ -1793,23 +1798,23 @@ commandes :
     </message>
     <message>
         <source>%1: there is no disc in the drive</source>
-        <translation>%1 : il n’y a pas de disque dans le graveur</translation>
+        <translation>%1&#xa0;: il n’y a pas de disque dans le graveur</translation>
     </message>
     <message>
         <source>%1: the disc is not blank</source>
-        <translation>%1 : le disque n’est pas vierge</translation>
+        <translation>%1&#xa0;: le disque n’est pas vierge</translation>
     </message>
     <message>
         <source>%1: the drive does not get ready</source>
-        <translation>%1 : le graveur ne devient pas prêt</translation>
+        <translation>%1&#xa0;: le graveur ne devient pas prêt</translation>
     </message>
     <message>
         <source>%1: this disc cannot be written to</source>
-        <translation>%1 : impossible d’écrire sur ce disque</translation>
+        <translation>%1&#xa0;: impossible d’écrire sur ce disque</translation>
     </message>
     <message>
         <source>the disc cannot be written like this: %1</source>
-        <translation>impossible d’écrire le disque ainsi : %1</translation>
+        <translation>impossible d’écrire le disque ainsi&#xa0;: %1</translation>
     </message>
     <message>
         <source>the drive gave no reason</source>
@@ -1817,15 +1822,15 @@ commandes :
     </message>
     <message>
         <source>it was stopped before the end: the disc may be unusable</source>
-        <translation>arrêt avant la fin : le disque est peut-être inutilisable</translation>
+        <translation>arrêt avant la fin&#xa0;: le disque est peut-être inutilisable</translation>
     </message>
     <message>
         <source>it was stopped before the first sector: the disc is as it was</source>
-        <translation>arrêt avant le premier secteur : le disque est resté tel quel</translation>
+        <translation>arrêt avant le premier secteur&#xa0;: le disque est resté tel quel</translation>
     </message>
     <message>
         <source>%1: an audio CD needs a CD-R or a CD-RW, this is a %2</source>
-        <translation>%1 : un CD audio nécessite un CD-R ou un CD-RW, disque présent : %2</translation>
+        <translation>%1&#xa0;: un CD audio nécessite un CD-R ou un CD-RW, disque présent&#xa0;: %2</translation>
     </message>
     <message>
         <source>disc of another kind</source>
@@ -1841,19 +1846,19 @@ commandes :
     </message>
     <message>
         <source>%1: the burn failed: %2</source>
-        <translation>%1 : la gravure a échoué : %2</translation>
+        <translation>%1&#xa0;: la gravure a échoué&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1: this disc cannot be erased</source>
-        <translation>%1 : ce disque ne peut pas être effacé</translation>
+        <translation>%1&#xa0;: ce disque ne peut pas être effacé</translation>
     </message>
     <message>
         <source>%1: the erase failed: %2</source>
-        <translation>%1 : l’effacement a échoué : %2</translation>
+        <translation>%1&#xa0;: l’effacement a échoué&#xa0;: %2</translation>
     </message>
     <message>
         <source>no right to use %1: join the group that owns it (often &quot;cdrom&quot;) and log in again</source>
-        <translation>pas le droit d’utiliser %1 : rejoignez le groupe qui le possède (souvent « cdrom ») et reconnectez-vous</translation>
+        <translation>pas le droit d’utiliser %1&#xa0;: rejoignez le groupe qui le possède (souvent «&#xa0;cdrom&#xa0;») et reconnectez-vous</translation>
     </message>
     <message>
         <source>another program uses the drive, or its disc is mounted</source>
@@ -1865,42 +1870,42 @@ commandes :
     </message>
     <message>
         <source>%1 cannot be opened: %2</source>
-        <translation>impossible d’ouvrir %1 : %2</translation>
+        <translation>impossible d’ouvrir %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1: no such file</source>
-        <translation>%1 : fichier introuvable</translation>
+        <translation>%1&#xa0;: fichier introuvable</translation>
     </message>
     <message>
         <source>%1: is not a file</source>
-        <translation>%1 : n’est pas un fichier</translation>
+        <translation>%1&#xa0;: n’est pas un fichier</translation>
     </message>
     <message>
         <source>%1: no right to read it</source>
-        <translation>%1 : pas le droit de le lire</translation>
+        <translation>%1&#xa0;: pas le droit de le lire</translation>
     </message>
     <message>
         <source>%1: is empty</source>
-        <translation>%1 : est vide</translation>
+        <translation>%1&#xa0;: est vide</translation>
     </message>
     <message>
         <source>%1: the file ends earlier than when it was measured</source>
-        <translation>%1 : le fichier se termine plus tôt que lors de sa mesure</translation>
+        <translation>%1&#xa0;: le fichier se termine plus tôt que lors de sa mesure</translation>
     </message>
     <message>
         <source>there is not enough room on the disc: the tracks need %1 minutes (%2 sectors), %3 minutes (%4 sectors) are free</source>
-        <translation>place insuffisante sur le disque : les pistes nécessitent %1 minutes (%2 secteurs), %3 minutes (%4 secteurs) sont libres</translation>
+        <translation>place insuffisante sur le disque&#xa0;: les pistes nécessitent %1 minutes (%2 secteurs), %3 minutes (%4 secteurs) sont libres</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 Mo</translation>
+        <translation>%1&#xa0;Mo</translation>
     </message>
 </context>
 <context>
     <name>EditWindows</name>
     <message>
         <source>%1 cannot be opened: close the open dialog first.</source>
-        <translation>Impossible d’ouvrir %1 : fermez d’abord la boîte de dialogue ouverte.</translation>
+        <translation>Impossible d’ouvrir %1&#xa0;: fermez d’abord la boîte de dialogue ouverte.</translation>
     </message>
 </context>
 <context>
@@ -1922,7 +1927,7 @@ commandes :
     <name>Foundation</name>
     <message>
         <source>%1: another program is using it</source>
-        <translation>%1 : un autre programme l’utilise</translation>
+        <translation>%1&#xa0;: un autre programme l’utilise</translation>
     </message>
     <message>
         <source>not a regular file</source>
@@ -1946,7 +1951,7 @@ commandes :
     </message>
     <message>
         <source>a part of the program is missing: %1</source>
-        <translation>une partie du programme manque : %1</translation>
+        <translation>une partie du programme manque&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 is already answered</source>
@@ -1990,7 +1995,7 @@ commandes :
     </message>
     <message>
         <source>Look whether a source is chosen in the main window: an input device, the computer&apos;s audio, or both. In a terminal, &lt;code&gt;sonaphex devices&lt;/code&gt; lists the input devices that the sound server offers.</source>
-        <translation>Vérifiez qu’une source est choisie dans la fenêtre principale : un périphérique d’entrée, le son de l’ordinateur, ou les deux. Dans un terminal, &lt;code&gt;sonaphex devices&lt;/code&gt; donne la liste des périphériques d’entrée que propose le serveur de son.</translation>
+        <translation>Vérifiez qu’une source est choisie dans la fenêtre principale&#xa0;: un périphérique d’entrée, le son de l’ordinateur, ou les deux. Dans un terminal, &lt;code&gt;sonaphex devices&lt;/code&gt; donne la liste des périphériques d’entrée que propose le serveur de son.</translation>
     </message>
     <message>
         <source>A recording of the computer&apos;s audio alone begins with the first sound that the computer plays.</source>
@@ -2002,7 +2007,7 @@ commandes :
     </message>
     <message>
         <source>Recordings shorter than the time that is set in the preferences are dropped; switch the filter off to keep them. What could not be finished, for instance on a full disk, lies in &lt;code&gt;~/.local/share/com.korvane.Sonaphex/Unfinished&lt;/code&gt;.</source>
-        <translation>Les enregistrements plus courts que la durée définie dans les préférences sont rejetés ; désactivez le filtre pour les conserver. Ce qui n’a pas pu être terminé, par exemple parce que le disque était plein, se trouve dans &lt;code&gt;~/.local/share/com.korvane.Sonaphex/Unfinished&lt;/code&gt;.</translation>
+        <translation>Les enregistrements plus courts que la durée définie dans les préférences sont rejetés&#xa0;; désactivez le filtre pour les conserver. Ce qui n’a pas pu être terminé, par exemple parce que le disque était plein, se trouve dans &lt;code&gt;~/.local/share/com.korvane.Sonaphex/Unfinished&lt;/code&gt;.</translation>
     </message>
     <message>
         <source>The computer&apos;s audio cannot be chosen</source>
@@ -2010,7 +2015,7 @@ commandes :
     </message>
     <message>
         <source>It needs a small add-on: see &lt;a href=&quot;computer-audio.html&quot;&gt;recording the computer&apos;s audio&lt;/a&gt;.</source>
-        <translation>Un petit module complémentaire est nécessaire : voir &lt;a href=&quot;computer-audio.html&quot;&gt;enregistrer le son de l’ordinateur&lt;/a&gt;.</translation>
+        <translation>Un petit module complémentaire est nécessaire&#xa0;: voir &lt;a href=&quot;computer-audio.html&quot;&gt;enregistrer le son de l’ordinateur&lt;/a&gt;.</translation>
     </message>
     <message>
         <source>The settings are gone</source>
@@ -2026,7 +2031,7 @@ commandes :
     </message>
     <message>
         <source>The add-on is an input device named “Korvane System Audio” that hears what the default output plays. It is a small program of the user&apos;s session that speaks to the sound server; it changes nothing in what you hear, and it never becomes the default microphone of other programs.</source>
-        <translation>Le module complémentaire est un périphérique d’entrée nommé « Korvane System Audio », qui capte ce que joue la sortie par défaut. C’est un petit programme de la session de l’utilisateur qui communique avec le serveur de son ; il ne change rien à ce que vous entendez et ne devient jamais le microphone par défaut d’autres programmes.</translation>
+        <translation>Le module complémentaire est un périphérique d’entrée nommé «&#xa0;Korvane System Audio&#xa0;», qui capte ce que joue la sortie par défaut. C’est un petit programme de la session de l’utilisateur qui communique avec le serveur de son&#xa0;; il ne change rien à ce que vous entendez et ne devient jamais le microphone par défaut d’autres programmes.</translation>
     </message>
     <message>
         <source>Install</source>
@@ -2034,7 +2039,7 @@ commandes :
     </message>
     <message>
         <source>Choose Install in the preferences window, or run &lt;code&gt;sonaphex driver install&lt;/code&gt;. The password of an administrator is asked for once: the add-on is installed for all users of the computer.</source>
-        <translation>Choisissez « Installer » dans la fenêtre des préférences, ou exécutez &lt;code&gt;sonaphex driver install&lt;/code&gt;. Le mot de passe d’un administrateur est demandé une fois : le module est installé pour tous les utilisateurs de l’ordinateur.</translation>
+        <translation>Choisissez «&#xa0;Installer&#xa0;» dans la fenêtre des préférences, ou exécutez &lt;code&gt;sonaphex driver install&lt;/code&gt;. Le mot de passe d’un administrateur est demandé une fois&#xa0;: le module est installé pour tous les utilisateurs de l’ordinateur.</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -2042,22 +2047,26 @@ commandes :
     </message>
     <message>
         <source>Choose Remove in the same place, or run &lt;code&gt;sonaphex driver remove&lt;/code&gt;.</source>
-        <translation>Choisissez « Désinstaller » au même endroit, ou exécutez &lt;code&gt;sonaphex driver remove&lt;/code&gt;.</translation>
+        <translation>Choisissez «&#xa0;Désinstaller&#xa0;» au même endroit, ou exécutez &lt;code&gt;sonaphex driver remove&lt;/code&gt;.</translation>
     </message>
 </context>
 <context>
     <name>ID3EditSave</name>
     <message>
         <source>The file “%1” is no longer there.</source>
-        <translation>Le fichier « %1 » n’existe plus.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» n’existe plus.</translation>
     </message>
     <message>
         <source>The cover of “%1” could not be written.</source>
-        <translation>La pochette de « %1 » n’a pas pu être écrite.</translation>
+        <translation>La pochette de «&#xa0;%1&#xa0;» n’a pas pu être écrite.</translation>
     </message>
     <message>
-        <source>The tags of “%1” could not be written</source>
-        <translation>Les étiquettes de « %1 » n’ont pas pu être écrites</translation>
+        <source>The tags of “%1” could not be written.</source>
+        <translation>Les étiquettes de « %1 » n’ont pas pu être écrites.</translation>
+    </message>
+    <message>
+        <source>The tags of “%1” could not be written: %2</source>
+        <translation>Les étiquettes de « %1 » n’ont pas pu être écrites : %2</translation>
     </message>
 </context>
 <context>
@@ -2080,7 +2089,7 @@ commandes :
     </message>
     <message>
         <source>&amp;Title:</source>
-        <translation>&amp;Titre :</translation>
+        <translation>&amp;Titre&#xa0;:</translation>
     </message>
     <message>
         <source>Title</source>
@@ -2088,7 +2097,7 @@ commandes :
     </message>
     <message>
         <source>A&amp;rtist:</source>
-        <translation>A&amp;rtiste :</translation>
+        <translation>A&amp;rtiste&#xa0;:</translation>
     </message>
     <message>
         <source>Artist</source>
@@ -2096,7 +2105,7 @@ commandes :
     </message>
     <message>
         <source>Al&amp;bum:</source>
-        <translation>Al&amp;bum :</translation>
+        <translation>Al&amp;bum&#xa0;:</translation>
     </message>
     <message>
         <source>Album</source>
@@ -2104,7 +2113,7 @@ commandes :
     </message>
     <message>
         <source>&amp;Year:</source>
-        <translation>&amp;Année :</translation>
+        <translation>&amp;Année&#xa0;:</translation>
     </message>
     <message>
         <source>Year</source>
@@ -2112,7 +2121,7 @@ commandes :
     </message>
     <message>
         <source>&amp;Genre:</source>
-        <translation>&amp;Genre :</translation>
+        <translation>&amp;Genre&#xa0;:</translation>
     </message>
     <message>
         <source>Genre</source>
@@ -2218,23 +2227,23 @@ commandes :
     <name>LibraryPresenter</name>
     <message>
         <source>The file is no longer there: %1</source>
-        <translation>Le fichier n’existe plus : %1</translation>
+        <translation>Le fichier n’existe plus&#xa0;: %1</translation>
     </message>
     <message>
         <source>“%1” cannot be played.</source>
-        <translation>Impossible de lire « %1 ».</translation>
+        <translation>Impossible de lire «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>“%1” cannot be played: %2</source>
-        <translation>Impossible de lire « %1 » : %2</translation>
+        <translation>Impossible de lire «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>The folder of “%1” could not be shown.</source>
-        <translation>Impossible d’afficher le dossier de « %1 ».</translation>
+        <translation>Impossible d’afficher le dossier de «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>No player could be opened for “%1”.</source>
-        <translation>Impossible d’ouvrir un lecteur pour « %1 ».</translation>
+        <translation>Impossible d’ouvrir un lecteur pour «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -2485,7 +2494,7 @@ commandes :
     </message>
     <message>
         <source>&amp;Answer the Notice: %1</source>
-        <translation>&amp;Répondre à l’avis : %1</translation>
+        <translation>&amp;Répondre à l’avis&#xa0;: %1</translation>
     </message>
     <message>
         <source>There is no other notice.</source>
@@ -2611,7 +2620,7 @@ commandes :
     </message>
     <message>
         <source>“%1” was not added: it is shorter than %2 s.</source>
-        <translation>« %1 » n’a pas été ajouté : il dure moins de %2 s.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été ajouté&#xa0;: il dure moins de %2&#xa0;s.</translation>
     </message>
     <message>
         <source>%1 selected, %2 together</source>
@@ -2619,7 +2628,7 @@ commandes :
     </message>
     <message>
         <source>No title, artist or album here has “%1” in it.</source>
-        <translation>Aucun titre, artiste ou album ne contient ici « %1 ».</translation>
+        <translation>Aucun titre, artiste ou album ne contient ici «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The recording appears here when it has ended.</source>
@@ -2654,7 +2663,7 @@ commandes :
     </message>
     <message>
         <source>audio files cannot be read: %1</source>
-        <translation>impossible de lire les fichiers audio : %1</translation>
+        <translation>impossible de lire les fichiers audio&#xa0;: %1</translation>
     </message>
     <message>
         <source>out of memory</source>
@@ -2710,7 +2719,7 @@ commandes :
     </message>
     <message>
         <source>the encoder is missing: %1</source>
-        <translation>l’encodeur manque : %1</translation>
+        <translation>l’encodeur manque&#xa0;: %1</translation>
     </message>
     <message>
         <source>the encoder does not take this rate or channel count</source>
@@ -2778,7 +2787,7 @@ commandes :
     </message>
     <message>
         <source>no sound server answers: %1</source>
-        <translation>aucun serveur de son ne répond : %1</translation>
+        <translation>aucun serveur de son ne répond&#xa0;: %1</translation>
     </message>
     <message>
         <source>the sound server refused the stream</source>
@@ -2790,11 +2799,11 @@ commandes :
     </message>
     <message>
         <source>cannot write the tags of %1: %2</source>
-        <translation>impossible d’écrire les étiquettes de %1 : %2</translation>
+        <translation>impossible d’écrire les étiquettes de %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>cannot read the tags of %1: %2</source>
-        <translation>impossible de lire les étiquettes de %1 : %2</translation>
+        <translation>impossible de lire les étiquettes de %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>its tags cannot be read</source>
@@ -2802,7 +2811,7 @@ commandes :
     </message>
     <message>
         <source>cannot read the image %1: %2</source>
-        <translation>impossible de lire l’image %1 : %2</translation>
+        <translation>impossible de lire l’image %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 is neither a JPEG nor a PNG image</source>
@@ -2810,7 +2819,7 @@ commandes :
     </message>
     <message>
         <source>cannot write the artwork of %1 to %2: %3</source>
-        <translation>impossible d’écrire la pochette de %1 dans %2 : %3</translation>
+        <translation>impossible d’écrire la pochette de %1 dans %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>another program is changing it</source>
@@ -2891,7 +2900,7 @@ commandes :
     </message>
     <message>
         <source>&amp;Recordings:</source>
-        <translation>En&amp;registrements :</translation>
+        <translation>En&amp;registrements&#xa0;:</translation>
     </message>
     <message>
         <source>Folder of recordings</source>
@@ -2915,7 +2924,7 @@ commandes :
     </message>
     <message>
         <source>Rin&amp;gtones:</source>
-        <translation>Sonn&amp;eries :</translation>
+        <translation>Sonn&amp;eries&#xa0;:</translation>
     </message>
     <message>
         <source>Folder of ringtones</source>
@@ -3019,7 +3028,7 @@ commandes :
     </message>
     <message>
         <source>Star&amp;t or stop:</source>
-        <translation>Démarrage ou arrê&amp;t :</translation>
+        <translation>Démarrage ou arrê&amp;t&#xa0;:</translation>
     </message>
     <message>
         <source>Shortcut for start and stop</source>
@@ -3027,7 +3036,7 @@ commandes :
     </message>
     <message>
         <source>&amp;Pause or resume:</source>
-        <translation>&amp;Pause ou reprise :</translation>
+        <translation>&amp;Pause ou reprise&#xa0;:</translation>
     </message>
     <message>
         <source>Shortcut for pause and resume</source>
@@ -3035,7 +3044,7 @@ commandes :
     </message>
     <message>
         <source>&amp;New recording:</source>
-        <translation>Nou&amp;vel enregistrement :</translation>
+        <translation>Nou&amp;vel enregistrement&#xa0;:</translation>
     </message>
     <message>
         <source>Shortcut for a new recording</source>
@@ -3114,11 +3123,11 @@ commandes :
     </message>
     <message>
         <source>Nothing is split at a silence: check the box first.</source>
-        <translation>Aucune division aux silences : cochez d’abord la case.</translation>
+        <translation>Aucune division aux silences&#xa0;: cochez d’abord la case.</translation>
     </message>
     <message>
         <source>All recordings are kept: check the box first.</source>
-        <translation>Tous les enregistrements sont conservés : cochez d’abord la case.</translation>
+        <translation>Tous les enregistrements sont conservés&#xa0;: cochez d’abord la case.</translation>
     </message>
     <message>
         <source>Installing the computer-audio device…</source>
@@ -3150,11 +3159,11 @@ commandes :
     </message>
     <message>
         <source>This desktop does not allow global shortcuts. Bind these commands to keys in the desktop&apos;s own keyboard settings:</source>
-        <translation>Ce bureau n’autorise pas les raccourcis globaux. Associez ces commandes à des touches dans les paramètres de clavier du bureau :</translation>
+        <translation>Ce bureau n’autorise pas les raccourcis globaux. Associez ces commandes à des touches dans les paramètres de clavier du bureau&#xa0;:</translation>
     </message>
     <message>
         <source>Warning:</source>
-        <translation>Attention :</translation>
+        <translation>Attention&#xa0;:</translation>
     </message>
     <message>
         <source>You cannot save files in the folder. Read and write privilege is needed.</source>
@@ -3184,23 +3193,23 @@ commandes :
     <name>ProcessWndController</name>
     <message>
         <source>A burn cannot be stopped before it has written 4 %.</source>
-        <translation>Une gravure ne peut pas être arrêtée avant d’avoir écrit 4 %.</translation>
+        <translation>Une gravure ne peut pas être arrêtée avant d’avoir écrit 4&#xa0;%.</translation>
     </message>
     <message>
         <source>Stops the burn; the disc is then unusable.</source>
-        <translation>Arrête la gravure ; le disque est alors inutilisable.</translation>
+        <translation>Arrête la gravure&#xa0;; le disque est alors inutilisable.</translation>
     </message>
     <message>
         <source>Burn Progress:</source>
-        <translation>Progression de la gravure :</translation>
+        <translation>Progression de la gravure&#xa0;:</translation>
     </message>
     <message>
         <source>Warning:</source>
-        <translation>Attention :</translation>
+        <translation>Attention&#xa0;:</translation>
     </message>
     <message>
         <source>Are you sure to end the task?</source>
-        <translation>Voulez-vous vraiment mettre fin à la tâche ?</translation>
+        <translation>Voulez-vous vraiment mettre fin à la tâche&#xa0;?</translation>
     </message>
     <message>
         <source>Please waiting a moment ...</source>
@@ -3215,19 +3224,19 @@ commandes :
     <name>QCommandLineParser</name>
     <message>
         <source>Unknown option &apos;%1&apos;.</source>
-        <translation>Option « %1 » inconnue.</translation>
+        <translation>Option «&#xa0;%1&#xa0;» inconnue.</translation>
     </message>
     <message>
         <source>Unknown options: %1.</source>
-        <translation>Options inconnues : %1.</translation>
+        <translation>Options inconnues&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Missing value after &apos;%1&apos;.</source>
-        <translation>Valeur manquante après « %1 ».</translation>
+        <translation>Valeur manquante après «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Unexpected value after &apos;%1&apos;.</source>
-        <translation>Valeur inattendue après « %1 ».</translation>
+        <translation>Valeur inattendue après «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -3307,32 +3316,32 @@ commandes :
     <message>
         <source>The recording is kept, and moved by the next start when there is room, at</source>
         <comment>a path follows</comment>
-        <translation>L’enregistrement est conservé et sera déplacé au prochain démarrage s’il y a de la place ; il se trouve ici :</translation>
+        <translation>L’enregistrement est conservé et sera déplacé au prochain démarrage s’il y a de la place&#xa0;; il se trouve ici&#xa0;:</translation>
     </message>
     <message>
         <source>The recording is kept at</source>
         <comment>a path follows</comment>
-        <translation>L’enregistrement est conservé ici :</translation>
+        <translation>L’enregistrement est conservé ici&#xa0;:</translation>
     </message>
     <message>
         <source>It is kept, and moved by the next start when there is room, at</source>
         <comment>the source of a recording; a path follows</comment>
-        <translation>Elle est conservée et sera déplacée au prochain démarrage s’il y a de la place ; elle se trouve ici :</translation>
+        <translation>Elle est conservée et sera déplacée au prochain démarrage s’il y a de la place&#xa0;; elle se trouve ici&#xa0;:</translation>
     </message>
     <message>
         <source>It is kept at</source>
         <comment>the source of a recording; a path follows</comment>
-        <translation>Elle est conservée ici :</translation>
+        <translation>Elle est conservée ici&#xa0;:</translation>
     </message>
     <message>
         <source>What it was made from is kept, and moved by the next start when there is room, at</source>
         <comment>a path follows</comment>
-        <translation>Ses données d’origine sont conservées et seront déplacées au prochain démarrage s’il y a de la place ; elles se trouvent ici :</translation>
+        <translation>Ses données d’origine sont conservées et seront déplacées au prochain démarrage s’il y a de la place&#xa0;; elles se trouvent ici&#xa0;:</translation>
     </message>
     <message>
         <source>What it was made from is kept at</source>
         <comment>a path follows</comment>
-        <translation>Ses données d’origine sont conservées ici :</translation>
+        <translation>Ses données d’origine sont conservées ici&#xa0;:</translation>
     </message>
     <message>
         <source>A part of the recording could not be written (error %1). What was written is kept.</source>
@@ -3340,11 +3349,11 @@ commandes :
     </message>
     <message>
         <source>%1: %2 could not be saved in “%3”.</source>
-        <translation>%1 : %2 n’a pas pu être sauvegardé dans « %3 ».</translation>
+        <translation>%1&#xa0;: %2 n’a pas pu être sauvegardé dans «&#xa0;%3&#xa0;».</translation>
     </message>
     <message>
         <source>%1 could not be finished: %2.</source>
-        <translation>%1 n’a pas pu être terminé : %2.</translation>
+        <translation>%1 n’a pas pu être terminé&#xa0;: %2.</translation>
     </message>
     <message>
         <source>One source of %1 could not be read (%2) and is missing in it.</source>
@@ -3352,15 +3361,15 @@ commandes :
     </message>
     <message>
         <source>%1 could not be mixed: %2.</source>
-        <translation>%1 n’a pas pu être mixé : %2.</translation>
+        <translation>%1 n’a pas pu être mixé&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The disk is nearly full: %1 could not be mixed, which needs %2 MB; %3 MB are left.</source>
-        <translation>Le disque est presque plein : %1 n’a pas pu être mixé, ce qui nécessite %2 Mo ; il reste %3 Mo.</translation>
+        <translation>Le disque est presque plein&#xa0;: %1 n’a pas pu être mixé, ce qui nécessite %2&#xa0;Mo&#xa0;; il reste %3&#xa0;Mo.</translation>
     </message>
     <message>
         <source>%1 could not be encoded: %2.</source>
-        <translation>%1 n’a pas pu être encodé : %2.</translation>
+        <translation>%1 n’a pas pu être encodé&#xa0;: %2.</translation>
     </message>
     <message>
         <source>A part of %1 could not be read (%2) and is missing in it.</source>
@@ -3387,7 +3396,7 @@ commandes :
     </message>
     <message>
         <source>Waring:</source>
-        <translation>Attention :</translation>
+        <translation>Attention&#xa0;:</translation>
     </message>
     <message>
         <source>The application is reading your USB headset data, please do not unplug your USB headset, if you want to unplug your USB headset please turn off this application first， Otherwise give your computer some trouble.</source>
@@ -3395,11 +3404,11 @@ commandes :
     </message>
     <message>
         <source>%1 cannot be opened: %2. Nothing is heard from it until it can.</source>
-        <translation>Impossible d’ouvrir %1 : %2. Aucun son n’en parviendra tant que cela dure.</translation>
+        <translation>Impossible d’ouvrir %1&#xa0;: %2. Aucun son n’en parviendra tant que cela dure.</translation>
     </message>
     <message>
         <source>%1 is gone. There is no other input device: connect one.</source>
-        <translation>%1 a disparu. Il n’y a pas d’autre périphérique d’entrée : connectez-en un.</translation>
+        <translation>%1 a disparu. Il n’y a pas d’autre périphérique d’entrée&#xa0;: connectez-en un.</translation>
     </message>
     <message>
         <source>%1 is gone. %2 takes its place until it is back.</source>
@@ -3427,7 +3436,7 @@ commandes :
     </message>
     <message>
         <source>KorvanAudioDevice is easy to use, it simply accept system audio data, allowing any audio application to send and receive audio with no other support needed. KorvanAudioDevice is free, and runs on Linux computers. This driver will only be used by Sonaphex.</source>
-        <translation>KorvanAudioDevice est facile à utiliser : il reçoit simplement le son du système et permet à toute application audio d’envoyer et de recevoir du son sans autre composant. KorvanAudioDevice est gratuit et fonctionne sur les ordinateurs Linux. Ce pilote ne sera utilisé que par Sonaphex.</translation>
+        <translation>KorvanAudioDevice est facile à utiliser&#xa0;: il reçoit simplement le son du système et permet à toute application audio d’envoyer et de recevoir du son sans autre composant. KorvanAudioDevice est gratuit et fonctionne sur les ordinateurs Linux. Ce pilote ne sera utilisé que par Sonaphex.</translation>
     </message>
     <message>
         <source>Install</source>
@@ -3471,15 +3480,15 @@ commandes :
     </message>
     <message>
         <source>%1 is off: it did not start. This recording goes without it.</source>
-        <translation>%1 est inactif : le démarrage a échoué. Cet enregistrement se fait sans cette source.</translation>
+        <translation>%1 est inactif&#xa0;: le démarrage a échoué. Cet enregistrement se fait sans cette source.</translation>
     </message>
     <message>
         <source>%1 is off: it did not start (%2). This recording goes without it.</source>
-        <translation>%1 est inactif : le démarrage a échoué (%2). Cet enregistrement se fait sans cette source.</translation>
+        <translation>%1 est inactif&#xa0;: le démarrage a échoué (%2). Cet enregistrement se fait sans cette source.</translation>
     </message>
     <message>
         <source>%1 is not being recorded: %2.</source>
-        <translation>%1 n’est pas enregistré : %2.</translation>
+        <translation>%1 n’est pas enregistré&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The recording could not be split (%1). It continues in the same file.</source>
@@ -3503,48 +3512,48 @@ commandes :
     </message>
     <message>
         <source>%1 s are missing: %2 was away. The recording goes on.</source>
-        <translation>Il manque %1 s : %2 était absent. L’enregistrement continue.</translation>
+        <translation>Il manque %1&#xa0;s&#xa0;: %2 était absent. L’enregistrement continue.</translation>
     </message>
     <message>
         <source>%1 s are missing (%2 frames): the computer was too busy to take them.</source>
-        <translation>Il manque %1 s (%2 trames) : l’ordinateur était trop occupé pour les recevoir.</translation>
+        <translation>Il manque %1&#xa0;s (%2 trames)&#xa0;: l’ordinateur était trop occupé pour les recevoir.</translation>
     </message>
     <message>
         <source>The disk is full. Nothing more is recorded until there is room; what was recorded is kept.</source>
-        <translation>Le disque est plein. Plus rien n’est enregistré tant qu’il n’y a pas de place ; ce qui a été enregistré est conservé.</translation>
+        <translation>Le disque est plein. Plus rien n’est enregistré tant qu’il n’y a pas de place&#xa0;; ce qui a été enregistré est conservé.</translation>
     </message>
     <message>
         <source>%1. Nothing more is recorded; what was recorded is kept.</source>
-        <translation>%1. Plus rien n’est enregistré ; ce qui a été enregistré est conservé.</translation>
+        <translation>%1. Plus rien n’est enregistré&#xa0;; ce qui a été enregistré est conservé.</translation>
     </message>
     <message>
         <source>Computer audio has been silent for %1 s: nothing plays.</source>
-        <translation>Le son de l’ordinateur est muet depuis %1 s : rien n’est joué.</translation>
+        <translation>Le son de l’ordinateur est muet depuis %1&#xa0;s&#xa0;: rien n’est joué.</translation>
     </message>
     <message>
         <source>Computer audio has been silent for %1 s: nothing plays on %2, the output that is recorded.</source>
-        <translation>Le son de l’ordinateur est muet depuis %1 s : rien n’est joué sur %2, la sortie qui est enregistrée.</translation>
+        <translation>Le son de l’ordinateur est muet depuis %1&#xa0;s&#xa0;: rien n’est joué sur %2, la sortie qui est enregistrée.</translation>
     </message>
     <message>
         <source>The input device is muted: only silence has been recorded for %1 s.</source>
-        <translation>Le périphérique d’entrée est en sourdine : seul du silence est enregistré depuis %1 s.</translation>
+        <translation>Le périphérique d’entrée est en sourdine&#xa0;: seul du silence est enregistré depuis %1&#xa0;s.</translation>
     </message>
     <message>
         <source>The input device has delivered only silence for %1 s. It may be switched off, or the wrong one: another one can be chosen when the recording is stopped.</source>
-        <translation>Le périphérique d’entrée ne fournit que du silence depuis %1 s. Il est peut-être éteint, ou ce n’est pas le bon : vous pourrez en choisir un autre une fois l’enregistrement arrêté.</translation>
+        <translation>Le périphérique d’entrée ne fournit que du silence depuis %1&#xa0;s. Il est peut-être éteint, ou ce n’est pas le bon&#xa0;: vous pourrez en choisir un autre une fois l’enregistrement arrêté.</translation>
     </message>
     <message>
         <source>The disk is nearly full: there is room for %1 of recording.</source>
-        <translation>Le disque est presque plein : il reste de la place pour %1 d’enregistrement.</translation>
+        <translation>Le disque est presque plein&#xa0;: il reste de la place pour %1 d’enregistrement.</translation>
     </message>
     <message>
         <source>%1 s are missing: the disk was full. The recording went on in another file.</source>
-        <translation>Il manque %1 s : le disque était plein. L’enregistrement a continué dans un autre fichier.</translation>
+        <translation>Il manque %1&#xa0;s&#xa0;: le disque était plein. L’enregistrement a continué dans un autre fichier.</translation>
     </message>
     <message>
         <source>An earlier recording could not be finished. It is kept at</source>
         <comment>a path follows</comment>
-        <translation>Un enregistrement antérieur n’a pas pu être terminé. Il est conservé ici :</translation>
+        <translation>Un enregistrement antérieur n’a pas pu être terminé. Il est conservé ici&#xa0;:</translation>
     </message>
     <message numerus="yes">
         <source>%n earlier recordings could not be finished. They are kept in</source>
@@ -3631,7 +3640,7 @@ commandes :
     </message>
     <message>
         <source>%1 s lost</source>
-        <translation>%1 s perdues</translation>
+        <translation>%1&#xa0;s perdues</translation>
     </message>
     <message>
         <source>No frames lost</source>
@@ -3659,7 +3668,7 @@ commandes :
     </message>
     <message>
         <source>No sound server: a test tone is recorded</source>
-        <translation>Pas de serveur de son : un signal d’essai est enregistré</translation>
+        <translation>Pas de serveur de son&#xa0;: un signal d’essai est enregistré</translation>
     </message>
     <message>
         <source>No device</source>
@@ -3671,7 +3680,7 @@ commandes :
     </message>
     <message>
         <source>The input is not recorded: check the box first.</source>
-        <translation>L’entrée n’est pas enregistrée : cochez d’abord la case.</translation>
+        <translation>L’entrée n’est pas enregistrée&#xa0;: cochez d’abord la case.</translation>
     </message>
     <message>
         <source>Cut to another recording</source>
@@ -3697,7 +3706,7 @@ commandes :
     <name>RecordingNotifier</name>
     <message>
         <source>“%1” was not kept: it is too short.</source>
-        <translation>« %1 » n’a pas été conservé : il est trop court.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été conservé&#xa0;: il est trop court.</translation>
     </message>
     <message>
         <source>Recording not kept</source>
@@ -3709,7 +3718,7 @@ commandes :
     </message>
     <message>
         <source>Recording cut; the next one runs</source>
-        <translation>Enregistrement coupé ; le suivant est en cours</translation>
+        <translation>Enregistrement coupé&#xa0;; le suivant est en cours</translation>
     </message>
     <message>
         <source>Recording finished</source>
@@ -3739,7 +3748,7 @@ commandes :
     </message>
     <message>
         <source>a file name cannot contain “/”</source>
-        <translation>un nom de fichier ne peut pas contenir « / »</translation>
+        <translation>un nom de fichier ne peut pas contenir «&#xa0;/&#xa0;»</translation>
     </message>
     <message>
         <source>the title has a character that no file name can contain</source>
@@ -3751,11 +3760,11 @@ commandes :
     </message>
     <message>
         <source>there is already a file named “%1” in its folder</source>
-        <translation>il y a déjà un fichier nommé « %1 » dans son dossier</translation>
+        <translation>il y a déjà un fichier nommé «&#xa0;%1&#xa0;» dans son dossier</translation>
     </message>
     <message>
         <source>The file keeps its name “%1”: %2.</source>
-        <translation>Le fichier garde son nom « %1 » : %2.</translation>
+        <translation>Le fichier garde son nom «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -3840,7 +3849,7 @@ commandes :
     </message>
     <message>
         <source>The boxes are for listening. The ringtone fades over these times; under one second there is no fade.</source>
-        <translation>Les cases servent à l’écoute. La sonnerie a des fondus de ces durées ; en dessous d’une seconde, il n’y a pas de fondu.</translation>
+        <translation>Les cases servent à l’écoute. La sonnerie a des fondus de ces durées&#xa0;; en dessous d’une seconde, il n’y a pas de fondu.</translation>
     </message>
     <message>
         <source>Problem</source>
@@ -3868,7 +3877,7 @@ commandes :
     </message>
     <message>
         <source>Ringtone from “%1”</source>
-        <translation>Sonnerie tirée de « %1 »</translation>
+        <translation>Sonnerie tirée de «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -3876,7 +3885,7 @@ commandes :
     </message>
     <message>
         <source>This recording cannot be read: %1</source>
-        <translation>Impossible de lire cet enregistrement : %1</translation>
+        <translation>Impossible de lire cet enregistrement&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 seconds</source>
@@ -3896,7 +3905,7 @@ commandes :
     </message>
     <message>
         <source>This recording cannot be played: %1</source>
-        <translation>Impossible d’écouter cet enregistrement : %1</translation>
+        <translation>Impossible d’écouter cet enregistrement&#xa0;: %1</translation>
     </message>
     <message>
         <source>The ringtone could not be made.</source>
@@ -3908,7 +3917,7 @@ commandes :
     </message>
     <message>
         <source>No player could be opened for “%1”.</source>
-        <translation>Impossible d’ouvrir un lecteur pour « %1 ».</translation>
+        <translation>Impossible d’ouvrir un lecteur pour «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The ringtone is in the library.</source>
@@ -3942,7 +3951,7 @@ commandes :
     </message>
     <message>
         <source>Sonaphex: %1</source>
-        <translation>Sonaphex : %1</translation>
+        <translation>Sonaphex&#xa0;: %1</translation>
     </message>
 </context>
 <context>

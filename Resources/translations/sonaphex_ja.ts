@@ -1617,6 +1617,11 @@ commands:
         <source>disc image</source>
         <translation>ディスクイメージ</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a list of the library and how many are in it</comment>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>Control</name>
@@ -2052,8 +2057,12 @@ commands:
         <translation>「%1」のカバーを書き込めませんでした。</translation>
     </message>
     <message>
-        <source>The tags of “%1” could not be written</source>
-        <translation>「%1」のタグを書き込めませんでした</translation>
+        <source>The tags of “%1” could not be written.</source>
+        <translation>「%1」のタグを書き込めませんでした。</translation>
+    </message>
+    <message>
+        <source>The tags of “%1” could not be written: %2</source>
+        <translation>「%1」のタグを書き込めませんでした: %2</translation>
     </message>
 </context>
 <context>

@@ -40,7 +40,7 @@ as_root() {
 first_available() {
     local name
     for name in ${1//|/ }; do
-        if apt-cache show "$name" >/dev/null 2>&1; then break; fi
+        if LC_ALL=C apt-cache policy "$name" 2>/dev/null | grep -q 'Candidate: [^(]'; then break; fi
     done
     printf '%s' "$name"
 }
