@@ -96,7 +96,7 @@ private:
         if (::ftruncate(fd_, room.end()) == 0 && fill(room, bytes, layout_.end, index.first(4)))
             return true;
         const int error = errno;
-        (void)::ftruncate(fd_, layout_.end);
+        [[maybe_unused]] const int cutBack = ::ftruncate(fd_, layout_.end); // else the next save does it
         errno = error;
         return false;
     }
