@@ -244,10 +244,30 @@ bool RingtoneMakerViewController::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void RingtoneMakerViewController::keyPressed(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Space || writing_ || !ui_->btnPlay->isEnabled())
+    if (writing_ || !ui_->btnPlay->isEnabled() || (event->modifiers() & ~Qt::KeypadModifier))
         return;
+    // I and O draw a selection of any length, as a drag on the outline does: one end is at the pointer, the other stays.
+    const AudioWaveTrimView& selection = *ui_->audioWaveTrimView;
+    const double pointer = double(ui_->audioPointerLineView->position());
+    const double begin = double(selection.audioFrom());
+    const double end = begin + double(selection.audioLength());
+    switch (event->key()) {
+    case Qt::Key_Space:
+        setPlaySound(!playSound());
+        break;
+    case Qt::Key_P:
+        setPreviewSound(!previewSound());
+        break;
+    case Qt::Key_I:
+        trimAudioFromPoint({pointer, 0}, {end, 0});
+        break;
+    case Qt::Key_O:
+        trimAudioFromPoint({begin, 0}, {pointer, 0});
+        break;
+    default:
+        return;
+    }
     event->accept();
-    setPlaySound(!playSound());
 }
 
 void RingtoneMakerViewController::followSelection() {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/AudioWaveViewController/AudioPlayProgressView.h"
 
+#include "Source/Control/ToolControl.h"
 #include "Source/View/NamedImages.h"
 
 #include <QKeyEvent>
@@ -53,6 +54,12 @@ void AudioPlayProgressView::setAudioPosition(double x) {
 void AudioPlayProgressView::askFor(double seconds) {
     if (delegate_)
         delegate_->setAudioPosition(static_cast<float>(seconds));
+    announceValue(*this);
+}
+
+QString AudioPlayProgressView::spokenValue() const {
+    return tr("%1 of %2").arg(ToolControl::getTimeString(qint64(currentTime_)),
+                              ToolControl::getTimeString(qint64(duration_)));
 }
 
 void AudioPlayProgressView::mousePressEvent(QMouseEvent* event) {
@@ -74,7 +81,8 @@ void AudioPlayProgressView::mouseReleaseEvent(QMouseEvent*) {
 }
 
 void AudioPlayProgressView::keyPressEvent(QKeyEvent* event) {
-    constexpr double step = 5; // seconds
+    const double step = event->modifiers() & Qt::ShiftModifier ? 1 : 5; // seconds
+    constexpr double page = 30;
     switch (event->key()) {
     case Qt::Key_Left:
         askFor(currentTime_ - step);
@@ -82,8 +90,17 @@ void AudioPlayProgressView::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Right:
         askFor(currentTime_ + step);
         break;
+    case Qt::Key_PageUp:
+        askFor(currentTime_ + page);
+        break;
+    case Qt::Key_PageDown:
+        askFor(currentTime_ - page);
+        break;
     case Qt::Key_Home:
         askFor(0);
+        break;
+    case Qt::Key_End:
+        askFor(duration_);
         break;
     default:
         QWidget::keyPressEvent(event);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Source/View/SpokenView.h"
+
 #include <QWidget>
 
 /// What the progress bar calls on its owner.
@@ -12,8 +14,9 @@ public:
     virtual void setAudioPosition(float /*seconds*/) {}
 };
 
-/// The bar of a playing file; a click or a drag on it seeks. Main thread.
-class AudioPlayProgressView : public QWidget {
+/// The bar of a playing file; a click or a drag on it seeks. Left and Right seek by 5 seconds, with Shift by 1 second,
+/// Page Up and Page Down by 30 seconds, Home and End to the ends. Main thread.
+class AudioPlayProgressView : public QWidget, public SpokenView {
     Q_OBJECT
 public:
     explicit AudioPlayProgressView(QWidget* parent = nullptr);
@@ -34,6 +37,12 @@ public:
 
     /// A drag on the bar seeks; it never moves the window.
     [[nodiscard]] bool mouseDownCanMoveWindow() const { return false; }
+
+    [[nodiscard]] QAccessible::Role spokenRole() const override { return QAccessible::Slider; }
+    [[nodiscard]] QString spokenValue() const override;
+    [[nodiscard]] QVariant spokenNumber() const override { return currentTime_; }
+    [[nodiscard]] QVariant spokenMaximum() const override { return duration_; }
+    void setSpokenNumber(const QVariant& number) override { askFor(number.toDouble()); }
 
     [[nodiscard]] QSize sizeHint() const override { return {240, 20}; }
     [[nodiscard]] QSize minimumSizeHint() const override { return {80, 20}; }

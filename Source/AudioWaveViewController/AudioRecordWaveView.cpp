@@ -8,11 +8,12 @@
 #include <QPainter>
 #include <QWindow>
 
+#include <algorithm>
 #include <cmath>
 
 AudioRecordWaveView::AudioRecordWaveView(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    setAccessibleName(tr("Level history"));
+    setAccessibleName(tr("Recording level"));
 }
 
 void AudioRecordWaveView::addCurrentLevel(float level) {
@@ -29,6 +30,17 @@ void AudioRecordWaveView::addCurrentLevel(float level) {
         pictureIsOld_ = true;
     if (isShown)
         update();
+}
+
+QVariant AudioRecordWaveView::spokenNumber() const {
+    const float newest = audioLevelArray_.isEmpty()  ? 0
+                         : isLeftToRight() ? audioLevelArray_.first()
+                                           : audioLevelArray_.last();
+    return std::isfinite(newest) ? std::round(std::clamp(double(newest), 0.0, 1.0) * 100) : 0.0;
+}
+
+QString AudioRecordWaveView::spokenValue() const {
+    return tr("%1 %").arg(spokenNumber().toInt());
 }
 
 void AudioRecordWaveView::drawColumn(QPainter& painter, int index) const {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Source/View/SpokenView.h"
+
 #include <QList>
 #include <QPixmap>
 #include <QWidget>
@@ -10,7 +12,7 @@
 ///
 /// Between two levels only one column changes; the rest is a picture that moves by one point. A full redraw ten times
 /// a second costs three times as much.
-class AudioRecordWaveView : public QWidget {
+class AudioRecordWaveView : public QWidget, public SpokenView {
     Q_OBJECT
 public:
     explicit AudioRecordWaveView(QWidget* parent = nullptr);
@@ -20,6 +22,13 @@ public:
     [[nodiscard]] const QList<float>& audioLevelArray() const { return audioLevelArray_; }
     /// Levels range from 0 to 1; greater ones are clipped at the view's edge.
     void addCurrentLevel(float level);
+
+    /// The newest level in percent. Screen readers read it on request: it changes ten times a second, so changes are not
+    /// announced.
+    [[nodiscard]] QAccessible::Role spokenRole() const override { return QAccessible::ProgressBar; }
+    [[nodiscard]] QString spokenValue() const override;
+    [[nodiscard]] QVariant spokenNumber() const override;
+    [[nodiscard]] QVariant spokenMaximum() const override { return 100.0; }
 
     [[nodiscard]] QSize sizeHint() const override { return {240, 64}; }
     [[nodiscard]] QSize minimumSizeHint() const override { return {80, 32}; }

@@ -7,7 +7,9 @@
 #include "Source/AudioWaveViewController/AudioRecordWaveView.h"
 #include "Source/AudioWaveViewController/BackViews.h"
 #include "Source/Record/RecordStateController.h"
+#include "Source/View/Announcement.h"
 #include "Source/View/NamedImages.h"
+#include "Source/View/SpokenField.h"
 #include "Source/View/Theme.h"
 #include "ui_AudioWaveViewController.h"
 
@@ -80,6 +82,24 @@ void setElided(QLabel* label, const QString& text) {
     const QString shown = label->fontMetrics().elidedText(text, Qt::ElideMiddle, room);
     label->setText(shown);
     label->setToolTip(shown == text ? QString() : text);
+    SpokenField::setText(*label, text);
+}
+
+QString stateSentence(RecordState state, bool isRecording) {
+    switch (state) {
+    case RecordState::Idle:
+        break;
+    case RecordState::Armed:
+        return AudioWaveViewController::tr("Waiting for the first sound");
+    case RecordState::Recording:
+        return isRecording ? AudioWaveViewController::tr("Recording")
+                           : AudioWaveViewController::tr("Nothing is being recorded");
+    case RecordState::Paused:
+        return AudioWaveViewController::tr("Paused");
+    case RecordState::Finishing:
+        return AudioWaveViewController::tr("Finishing the recording");
+    }
+    return AudioWaveViewController::tr("Not recording");
 }
 
 QString helpText(RecordNotice::Help help) {
@@ -223,6 +243,13 @@ void AudioWaveViewController::showTab() {
 void AudioWaveViewController::setRecordState(RecordState state, bool isRecording) {
     if (view_)
         view_->setRecording(isRecording);
+    // The shown text blinks, so screen readers get their own.
+    if (const QString sentence = stateSentence(state, isRecording); view_ && sentence != stateSentence_) {
+        SpokenField::setText(*ui_->stateField, sentence);
+        if (!stateSentence_.isEmpty())
+            Announcement::say(*view_, sentence);
+        stateSentence_ = sentence;
+    }
     if (state == recordState_)
         return;
     recordState_ = state;
@@ -234,6 +261,8 @@ void AudioWaveViewController::setHint(const QString& hint) {
         return;
     hint_ = hint;
     showHint();
+    if (view_)
+        Announcement::say(*view_, hint_);
 }
 
 void AudioWaveViewController::showHint() {
@@ -250,6 +279,7 @@ void AudioWaveViewController::showHint() {
         text = inLines(5, hint_, ui_->hintField->fontMetrics(), room);
     }
     ui_->hintField->setText(text);
+    SpokenField::setText(*ui_->hintField, hint_);
     ui_->hintField->setToolTip(hint_);
 }
 
@@ -357,9 +387,13 @@ void AudioWaveViewController::setNotices(const QList<RecordNotice>& notices) {
     // A new notice is shown at once. Another change leaves the shown one in its place: the user may be about to click.
     const RecordNotice shown = notices_.value(shownNotice_);
     qsizetype next = notices_.isEmpty() ? -1 : indexOf(shown, notices);
-    for (const RecordNotice& each : notices)
-        if (indexOf(each, notices_) < 0)
-            next = notices.size() - 1;
+    for (const RecordNotice& each : notices) {
+        if (indexOf(each, notices_) >= 0)
+            continue;
+        next = notices.size() - 1;
+        if (view_)
+            Announcement::say(*view_, each.sentence());
+    }
     notices_ = notices;
     shownNotice_ = next < 0 ? std::max<qsizetype>(notices.size() - 1, 0) : next;
     showNotices();
@@ -412,7 +446,7 @@ void AudioWaveViewController::showNotices() {
     ui_->noticeField->setText(
         inTwoLines(shown, ui_->noticeField->fontMetrics(), std::max(ui_->noticeField->width(), 16)));
     ui_->noticeField->setToolTip(all.join(u'\n'));
-    ui_->noticeField->setAccessibleDescription(shown.sentence());
+    SpokenField::setText(*ui_->noticeField, shown.sentence());
 }
 
 bool AudioWaveViewController::eventFilter(QObject* watched, QEvent* event) {

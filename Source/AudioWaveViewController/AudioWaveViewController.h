@@ -163,6 +163,7 @@ private:
     QString stateString_;
     QString timeString_;
     QColor stateColor_;
+    QString stateSentence_; ///< the state for screen readers; empty until it is known
     RecordState recordState_{};
     QString hint_;
     QList<RecordNotice> notices_;

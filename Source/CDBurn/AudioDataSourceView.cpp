@@ -3,6 +3,7 @@
 #include "Source/CDBurn/AudioDataSourceView.h"
 
 #include "Source/CDBurn/CDTextControl.h"
+#include "Source/View/FocusFrame.h"
 #include "Source/View/NamedImages.h"
 
 #include <QAction>
@@ -244,10 +245,16 @@ void AudioDataSourceView::dropEvent(QDropEvent* event) {
 
 void AudioDataSourceView::paintEvent(QPaintEvent* event) {
     QTreeView::paintEvent(event);
+    FocusFrame::draw(*this);
     if (!isNullForData())
         return;
     QPainter painter(viewport());
     painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
     painter.drawText(viewport()->rect().adjusted(24, 24, -24, -24), Qt::AlignCenter | Qt::TextWordWrap,
                      tr("No music yet. Press “Add Files…” or drop sound files here."));
+}
+
+void AudioDataSourceView::scrollContentsBy(int dx, int dy) {
+    QTreeView::scrollContentsBy(dx, dy);
+    FocusFrame::scrolled(*this);
 }

@@ -5,6 +5,7 @@
 #include "Source/View/NamedImages.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCursor>
 #include <QDrag>
 #include <QFileInfo>
@@ -81,6 +82,7 @@ AcceptDragImageView::AcceptDragImageView(QWidget* parent) : QWidget(parent) {
     setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setAccessibleName(tr("Cover"));
+    setAccessibleDescription(tr("No picture"));
 }
 
 void AcceptDragImageView::setImgShow(const QImage& image) {
@@ -153,10 +155,16 @@ void AcceptDragImageView::dropEvent(QDropEvent* event) {
     event->accept();
     if (event->source() == this)
         return; // dropped back on its source
-    const QMimeData& data = *event->mimeData();
+    (void)takeData(*event->mimeData());
+}
+
+bool AcceptDragImageView::takeData(const QMimeData& data) {
     // A browser supplies the address of a picture and the picture: an address that is not a local file is skipped.
-    if (!hasImageFile(localFiles(data)) && data.hasImage())
+    if (hasImageFile(localFiles(data)))
+        return true;
+    if (data.hasImage())
         takeImage(qvariant_cast<QImage>(data.imageData()));
+    return data.hasImage();
 }
 
 void AcceptDragImageView::mousePressEvent(QMouseEvent* event) {
@@ -174,13 +182,17 @@ void AcceptDragImageView::mouseMoveEvent(QMouseEvent* event) {
     startDrag();
 }
 
+QImage AcceptDragImageView::plainImage() const {
+    QImage plain = imgShow_;
+    plain.setDevicePixelRatio(1);
+    return plain;
+}
+
 void AcceptDragImageView::startDrag() {
     // Qt deletes it when the other program has fetched the picture, possibly after exec() has returned.
     auto* const drag = new QDrag(this);
     auto* const data = new QMimeData;
-    QImage plain = imgShow_;
-    plain.setDevicePixelRatio(1);
-    data->setImageData(plain);
+    data->setImageData(plainImage());
     drag->setMimeData(data);
     const QPixmap shown = QPixmap::fromImage(imgShow_);
     drag->setPixmap(shown);
@@ -198,6 +210,12 @@ void AcceptDragImageView::startDrag() {
 void AcceptDragImageView::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace)
         removeImage();
+    else if (event->matches(QKeySequence::Copy) && !imgShow_.isNull())
+        QGuiApplication::clipboard()->setImage(plainImage());
+    else if (event->matches(QKeySequence::Paste))
+        (void)takeData(*QGuiApplication::clipboard()->mimeData());
+    else if (event->key() == Qt::Key_Space)
+        Q_EMIT fileWanted();
     else
         QWidget::keyPressEvent(event);
 }

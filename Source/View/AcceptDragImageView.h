@@ -2,13 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Source/View/SpokenView.h"
+
 #include <QImage>
 #include <QStringList>
 #include <QWidget>
 
+class QMimeData;
+
 /// The artwork well: shows a cover, accepts a dropped one (a file, or a picture itself) and removes it when it is
-/// dragged out. Main thread.
-class AcceptDragImageView : public QWidget {
+/// dragged out. Keys: Delete removes the cover, Copy and Paste exchange it with other programs, Space asks for a file.
+/// Main thread.
+class AcceptDragImageView : public QWidget, public SpokenView {
     Q_OBJECT
 public:
     /// Side of a cover in pixels: pictures are scaled to this square.
@@ -32,12 +37,17 @@ public:
     /// Clears the well.
     void removeImage();
 
+    [[nodiscard]] QAccessible::Role spokenRole() const override { return QAccessible::Graphic; }
+    [[nodiscard]] QString spokenValue() const override { return accessibleDescription(); }
+
     [[nodiscard]] QSize sizeHint() const override { return {128, 128}; }
     [[nodiscard]] QSize minimumSizeHint() const override { return {96, 96}; }
 
 Q_SIGNALS:
     /// The user changed the picture.
     void imageChanged();
+    /// The user wants to choose a file.
+    void fileWanted();
 
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -51,6 +61,9 @@ protected:
 
 private:
     void startDrag();
+    /// Takes the picture of a drop or of the clipboard. @return whether there was one
+    bool takeData(const QMimeData& data);
+    [[nodiscard]] QImage plainImage() const; ///< with one pixel per point
     [[nodiscard]] QRectF wellRect() const;
 
     QImage imgShow_;

@@ -5,6 +5,7 @@
 #include "Source/Control/ToolControl.h"
 #include "Source/View/NamedImages.h"
 #include "Source/View/OutlineDrawing.h"
+#include "Source/View/SpokenView.h"
 #include "Source/View/Theme.h"
 
 #include <QKeyEvent>
@@ -13,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -24,11 +26,59 @@ constexpr const char* kButton = "TrimPlaybtn.png";
 constexpr const char* kBack = "ProcessBack.png";
 constexpr const char* kArea = "TrimArea.png";
 
+constexpr double kPage = 10; ///< seconds that Page Up and Page Down move a handle
+
 QString name(const char* image) {
     return QString::fromLatin1(image);
 }
 
+QString tenthsText(double seconds) {
+    const auto tenths = qint64(seconds * 10);
+    return ToolControl::getTimeString(tenths / 10) + u'.' + QString::number(tenths % 10);
+}
+
 } // namespace
+
+/// The focus stop and the slider of one handle. The bar draws the handle and takes the mouse; keys reach the bar because
+/// this widget ignores them.
+class TrimHandle : public QWidget, public SpokenView {
+public:
+    TrimHandle(AudioTrimEditView& bar, AudioTrimEditView::DragType type, const QString& name)
+        : QWidget(&bar), bar_(bar), type_(type) {
+        setFocusPolicy(Qt::TabFocus);
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setAccessibleName(name);
+    }
+    [[nodiscard]] QAccessible::Role spokenRole() const override { return QAccessible::Slider; }
+    [[nodiscard]] QString spokenValue() const override { return tenthsText(spokenNumber().toDouble()); }
+    [[nodiscard]] QVariant spokenNumber() const override { return bar_.duration() * double(bar_.rateOf(type_)); }
+    [[nodiscard]] QVariant spokenMaximum() const override { return bar_.duration(); }
+    void setSpokenNumber(const QVariant& number) override {
+        if (bar_.duration() > 0)
+            bar_.moveHandle(type_, float(number.toDouble() / bar_.duration()));
+    }
+    /// Takes the place of its handle. A screen reader follows the focused one.
+    void show(float rate) {
+        setGeometry(bar_.rectOf(type_).toAlignedRect());
+        if (std::exchange(shown_, rate) != rate && hasFocus())
+            announceValue(*this);
+    }
+
+protected:
+    void focusInEvent(QFocusEvent* event) override {
+        QWidget::focusInEvent(event);
+        bar_.setLastHandle(type_);
+    }
+    void focusOutEvent(QFocusEvent* event) override {
+        QWidget::focusOutEvent(event);
+        bar_.update();
+    }
+
+private:
+    AudioTrimEditView& bar_;
+    AudioTrimEditView::DragType type_;
+    float shown_ = -1;
+};
 
 AudioTrimEditView::AudioTrimEditView(QWidget* parent)
     : QWidget(parent), trimBtnHeight_(NamedImages::naturalSize(name(kLeft)).height()),
@@ -38,6 +88,10 @@ AudioTrimEditView::AudioTrimEditView(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setAccessibleName(tr("Range to keep"));
+    handles_ = {new TrimHandle(*this, Seek, tr("Play position")),
+                new TrimHandle(*this, LeftHandle, tr("Begin of the range to keep")),
+                new TrimHandle(*this, RightHandle, tr("End of the range to keep"))};
+    setFocusProxy(handles_[LeftHandle]);
 }
 
 QSize AudioTrimEditView::sizeHint() const {
@@ -50,17 +104,17 @@ QSize AudioTrimEditView::minimumSizeHint() const {
 
 void AudioTrimEditView::setLeftTrimRate(float rate) {
     leftTrimRate_ = std::min(rate, rightTrimRate_);
-    update();
+    showHandles();
 }
 
 void AudioTrimEditView::setRightTrimRate(float rate) {
     rightTrimRate_ = std::max(rate, leftTrimRate_);
-    update();
+    showHandles();
 }
 
 void AudioTrimEditView::setPlayRate(float rate) {
     playRate_ = rate;
-    update();
+    showHandles();
 }
 
 void AudioTrimEditView::setDuration(double seconds) {
@@ -73,8 +127,42 @@ void AudioTrimEditView::setOutline(const QList<float>& values) {
 }
 
 void AudioTrimEditView::setLastHandle(DragType handle) {
+    const bool focused = hasFocus();
     lastHandle_ = handle;
+    if (focusProxy() != handles_[handle]) {
+        setFocusProxy(handles_[handle]);
+        if (focused)
+            handles_[handle]->setFocus(Qt::OtherFocusReason);
+    }
     update();
+}
+
+float AudioTrimEditView::rateOf(DragType handle) const {
+    return handle == Seek ? playRate_ : handle == LeftHandle ? leftTrimRate_ : rightTrimRate_;
+}
+
+QRectF AudioTrimEditView::rectOf(DragType handle) const {
+    return handle == Seek ? playButtonRect() : handle == LeftHandle ? leftHandleRect() : rightHandleRect();
+}
+
+void AudioTrimEditView::moveHandle(DragType handle, float rate) {
+    if (handle == RightHandle)
+        setRightTrim(std::clamp(rate, leftTrimRate_, 1.0F));
+    else if (handle == LeftHandle)
+        setLeftTrim(std::clamp(rate, 0.0F, rightTrimRate_));
+    else
+        seekPlay(std::clamp(rate, 0.0F, 1.0F));
+}
+
+void AudioTrimEditView::showHandles() {
+    for (const DragType handle : {Seek, LeftHandle, RightHandle})
+        handles_[handle]->show(rateOf(handle));
+    update();
+}
+
+void AudioTrimEditView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    showHandles();
 }
 
 double AudioTrimEditView::usableLength() const {
@@ -176,31 +264,27 @@ void AudioTrimEditView::mouseReleaseEvent(QMouseEvent* event) {
 void AudioTrimEditView::nudge(double seconds) {
     if (duration_ <= 0)
         return;
-    const auto step = float(seconds / duration_);
-    if (lastHandle_ == RightHandle)
-        setRightTrim(std::clamp(rightTrimRate_ + step, leftTrimRate_, 1.0F));
-    else
-        setLeftTrim(std::clamp(leftTrimRate_ + step, 0.0F, rightTrimRate_));
+    moveHandle(lastHandle_, rateOf(lastHandle_) + float(seconds / duration_));
 }
 
 void AudioTrimEditView::keyPressEvent(QKeyEvent* event) {
     const double step = event->modifiers() & Qt::ShiftModifier ? 1 : 0.1; // seconds
-    if (event->key() == Qt::Key_Left)
-        nudge(-step);
-    else if (event->key() == Qt::Key_Right)
-        nudge(step);
-    else
+    switch (event->key()) {
+    case Qt::Key_Left:
+        return nudge(-step);
+    case Qt::Key_Right:
+        return nudge(step);
+    case Qt::Key_PageDown:
+        return nudge(-kPage);
+    case Qt::Key_PageUp:
+        return nudge(kPage);
+    case Qt::Key_Home:
+        return moveHandle(lastHandle_, 0);
+    case Qt::Key_End:
+        return moveHandle(lastHandle_, 1);
+    default:
         QWidget::keyPressEvent(event);
-}
-
-void AudioTrimEditView::focusInEvent(QFocusEvent* event) {
-    QWidget::focusInEvent(event);
-    update();
-}
-
-void AudioTrimEditView::focusOutEvent(QFocusEvent* event) {
-    QWidget::focusOutEvent(event);
-    update();
+    }
 }
 
 void AudioTrimEditView::paintEvent(QPaintEvent*) {
@@ -218,19 +302,16 @@ void AudioTrimEditView::paintEvent(QPaintEvent*) {
 
     NamedImages::draw(painter, leftHandleRect(), name(kLeft));
     NamedImages::draw(painter, rightHandleRect(), name(kRight));
-    if (hasFocus()) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(
-            (lastHandle_ == RightHandle ? rightHandleRect() : leftHandleRect()).adjusted(1, 1, -1, -1), 4, 4);
-    }
-
     const QRectF button = playButtonRect();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(Theme::Glass::text(), 1));
     painter.drawLine(QPointF(button.center().x(), strip.top()), QPointF(button.center().x(), strip.bottom()));
     NamedImages::draw(painter, button, name(kButton));
+    if (hasFocus()) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(rectOf(lastHandle_).adjusted(1, 1, -1, -1), 4, 4);
+    }
     drawTime(painter);
 }
 
@@ -238,8 +319,7 @@ void AudioTrimEditView::drawTime(QPainter& painter) const {
     if (!dragX_ || duration_ <= 0)
         return;
     const double seconds = duration_ * double(mousePointRate({*dragX_, 0}));
-    const auto tenths = qint64(seconds * 10);
-    const QString text = ToolControl::getTimeString(tenths / 10) + u'.' + QString::number(tenths % 10);
+    const QString text = tenthsText(seconds);
     QRectF box(0, 0, painter.fontMetrics().horizontalAdvance(text) + 12, painter.fontMetrics().height() + 6);
     box.moveCenter({*dragX_, backStripRect().center().y()});
     box.moveLeft(std::clamp(box.left(), 0.0, std::max(0.0, width() - box.width())));

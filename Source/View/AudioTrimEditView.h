@@ -5,7 +5,10 @@
 #include <QList>
 #include <QWidget>
 
+#include <array>
 #include <optional>
+
+class TrimHandle;
 
 /// Called when the user drags the handles of an AudioTrimEditView. Rates are fractions 0 to 1 of the file's duration.
 class AudioTrimEditViewDelegate {
@@ -17,7 +20,8 @@ public:
 };
 
 /// The bar of the trim window: a seek strip with the play button along the top, the outline of the file with the range
-/// in its middle, and the two handles along the bottom. Left and Right move the handle that was used last. Main thread.
+/// in its middle, and the two handles along the bottom. Left and Right move the handle that was used last, or that has
+/// the focus: the play button and both handles are focus stops of their own, and sliders for screen readers. Main thread.
 class AudioTrimEditView : public QWidget {
     Q_OBJECT
 public:
@@ -46,6 +50,12 @@ public:
     /// Sets which handle the keys move.
     void setLastHandle(DragType handle);
     [[nodiscard]] DragType lastHandle() const { return lastHandle_; }
+    /// The rate that @p handle stands at, and its place.
+    [[nodiscard]] float rateOf(DragType handle) const;
+    [[nodiscard]] QRectF rectOf(DragType handle) const;
+    /// Moves @p handle as a drag does, within its limits.
+    void moveHandle(DragType handle, float rate);
+    [[nodiscard]] double duration() const { return duration_; }
 
     // ---- geometry, in points with the origin at the upper left corner
     [[nodiscard]] QRectF seekStripRect() const;
@@ -73,11 +83,11 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     [[nodiscard]] double usableLength() const;
+    void showHandles();
     void nudge(double seconds);
     void drawTime(QPainter& painter) const;
 
@@ -93,5 +103,6 @@ private:
     double duration_ = 0;
     QList<float> outline_;
     DragType lastHandle_ = LeftHandle;
+    std::array<TrimHandle*, 3> handles_{}; ///< by DragType; children
     std::optional<double> dragX_; ///< the pointer's position during a drag
 };

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/View/ConvertingTipView.h"
 
+#include "Source/View/Announcement.h"
+#include "Source/View/SpokenField.h"
+
 #include <QEvent>
 #include <QPainter>
 
@@ -34,6 +37,12 @@ QPoint ConvertingTipView::place(bool shown) const {
 void ConvertingTipView::showFileConvertTipView(bool working, const QString& text, double progress) {
     if (working != shown_) {
         shown_ = working;
+        // Without the dots, which blink.
+        QString spoken = text.simplified();
+        while (spoken.endsWith(u'.') || spoken.endsWith(u' '))
+            spoken.chop(1);
+        SpokenField::setText(*this, working ? spoken : QString());
+        Announcement::say(*this, working ? spoken : tr("The recording is converted."));
         if (working) {
             resize(parentWidget()->width(), kHeight);
             move(place(false));

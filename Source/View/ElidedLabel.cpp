@@ -3,6 +3,7 @@
 #include "Source/View/ElidedLabel.h"
 
 #include "Source/View/PathText.h"
+#include "Source/View/SpokenField.h"
 
 #include <QPainter>
 #include <QStyle>
@@ -18,7 +19,7 @@ ElidedLabel::ElidedLabel(QWidget* parent) : QWidget(parent) {
 void ElidedLabel::setText(const QString& text) {
     text_ = text;
     setToolTip(pathText(text));
-    setAccessibleDescription(text);
+    SpokenField::setText(*this, text);
     update();
 }
 

@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Source/View/SpokenView.h"
+
 #include <QWidget>
 
 /// One line of text that is elided in the middle where it does not fit; the tool tip shows the whole text.
-class ElidedLabel : public QWidget {
+class ElidedLabel : public QWidget, public SpokenView {
     Q_OBJECT
 public:
     explicit ElidedLabel(QWidget* parent = nullptr);
@@ -14,6 +16,9 @@ public:
     void setText(const QString& text);
     /// Margin at both ends, in points; 8 by default.
     void setMargin(int points);
+    [[nodiscard]] QAccessible::Role spokenRole() const override { return QAccessible::StaticText; }
+    [[nodiscard]] QString spokenValue() const override { return text_; }
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/View/LibraryOutlineView.h"
 
+#include "Source/View/FocusFrame.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -77,4 +79,14 @@ void LibraryOutlineView::drawRow(QPainter* painter, const QStyleOptionViewItem& 
     const QPointF mark[] = {{-kMarkWidth / 2, -kMarkWidth / 4}, {0, kMarkWidth / 4}, {kMarkWidth / 2, -kMarkWidth / 4}};
     painter->drawPolyline(mark, 3);
     painter->restore();
+}
+
+void LibraryOutlineView::paintEvent(QPaintEvent* event) {
+    QTreeView::paintEvent(event);
+    FocusFrame::draw(*this);
+}
+
+void LibraryOutlineView::scrollContentsBy(int dx, int dy) {
+    QTreeView::scrollContentsBy(dx, dy);
+    FocusFrame::scrolled(*this);
 }

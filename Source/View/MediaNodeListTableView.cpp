@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/View/MediaNodeListTableView.h"
 
+#include "Source/View/FocusFrame.h"
 #include "Source/View/NamedImages.h"
 
 #include <QContextMenuEvent>
@@ -121,6 +122,7 @@ void MediaNodeListTableView::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void MediaNodeListTableView::paintEvent(QPaintEvent* event) {
     QTableView::paintEvent(event);
+    FocusFrame::draw(*this);
     if (emptyText_.isEmpty() || !model() || model()->rowCount() > 0)
         return;
     QPainter painter(viewport());
@@ -138,4 +140,9 @@ void MediaNodeListTableView::paintEvent(QPaintEvent* event) {
         painter.scale(-1, 1);
     }
     NamedImages::draw(painter, image, emptyImage_, faint);
+}
+
+void MediaNodeListTableView::scrollContentsBy(int dx, int dy) {
+    QTableView::scrollContentsBy(dx, dy);
+    FocusFrame::scrolled(*this);
 }

@@ -12,8 +12,10 @@ public:
     Interface(QWidget& widget, SpokenView& view) : QAccessibleWidget(&widget, view.spokenRole()), view_(view) {}
 
     QString text(QAccessible::Text which) const override {
-        const bool value = which == QAccessible::Value || which == QAccessible::Description;
-        return value ? view_.spokenValue() : QAccessibleWidget::text(which);
+        if (which != QAccessible::Value && which != QAccessible::Description)
+            return QAccessibleWidget::text(which);
+        const QString value = view_.spokenValue();
+        return value.isEmpty() ? QAccessibleWidget::text(which) : value;
     }
     void* interface_cast(QAccessible::InterfaceType type) override {
         if (type == QAccessible::ValueInterface && view_.spokenNumber().isValid())

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/View/TabularLabel.h"
 
+#include "Source/View/SpokenField.h"
+
 #include <QEvent>
 #include <QFontMetricsF>
 #include <QPainter>
@@ -18,7 +20,9 @@ void TabularLabel::setText(const QString& text) {
         return;
     const bool sameRoom = text.size() == text_.size();
     text_ = text;
-    setAccessibleName(text);
+    // A blinking time is without its seconds every other half second.
+    if (!text.endsWith(u':'))
+        SpokenField::setText(*this, text);
     if (!sameRoom)
         updateGeometry();
     update();

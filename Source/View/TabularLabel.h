@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Source/View/SpokenView.h"
+
 #include <QWidget>
 
-/// One line of text with digits of equal width, so that a running time does not shift. Accessible as its text.
-class TabularLabel : public QWidget {
+/// One line of text with digits of equal width, so that a running time does not shift. Screen readers speak its
+/// accessible name and the text.
+class TabularLabel : public QWidget, public SpokenView {
     Q_OBJECT
     Q_PROPERTY(QString text READ text WRITE setText)
     Q_PROPERTY(Qt::Alignment alignment READ alignment WRITE setAlignment)
@@ -17,6 +20,9 @@ public:
     void setAlignment(Qt::Alignment alignment);
     /// Also reserves the width of this text, so that a blinking text does not move its neighbours.
     void setReserve(const QString& text);
+    [[nodiscard]] QAccessible::Role spokenRole() const override { return QAccessible::StaticText; }
+    [[nodiscard]] QString spokenValue() const override { return text_; }
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 

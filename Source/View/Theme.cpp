@@ -4,6 +4,7 @@
 
 #include "Platform/Desktop/ColorScheme.h"
 #include "Source/View/NamedImages.h"
+#include "Source/View/SpokenField.h"
 
 #include <QApplication>
 #include <QFontDatabase>
@@ -216,6 +217,7 @@ void apply(Shade shade) {
 }
 
 void install(QApplication& application, Platform::ColorScheme* scheme) {
+    SpokenField::install();
     QApplication::setStyle(new SonaphexStyle);
     QFont font = QApplication::font();
     if (QFontDatabase::hasFamily(u"Inter"_s))

@@ -56,6 +56,7 @@ void ID3EditWndController::awakeFromNib() {
     connect(ui_->btnCancel_, &QPushButton::clicked, this, &Self::cancelEditID3);
     connect(window_, &EditDialog::cancelled, this, &Self::cancelEditID3);
     connect(ui_->yearField_, &QLineEdit::editingFinished, this, &Self::controlTextDidEndEditing);
+    connect(ui_->artworkView_, &AcceptDragImageView::fileWanted, this, &Self::chooseImageForArtwork);
     connect(ui_->artworkView_, &AcceptDragImageView::imageChanged, this, [this] { imageChanged_ = true; });
 }
 

@@ -7,10 +7,12 @@
 #include "Source/Record/RecordStateController.h"
 #include "Source/View/NamedImages.h"
 #include "Source/View/Theme.h"
+#include "Source/WndController/AudioTableModel.h"
 #include "Source/WndController/LibraryPresenter.h"
 #include "ui_MainWnd.h"
 
 #include <QCoreApplication>
+#include <QHeaderView>
 #include <QMenu>
 #include <QMessageBox>
 
@@ -144,6 +146,7 @@ void MainMenus::makeViewMenu() {
         add(menu, tr("&Switch the Display"), QStringLiteral("switch-display"),
             tr("Level of the recording, or position of the playback"), {QKeySequence(Qt::CTRL | Qt::Key_D)});
     connect(change, &QAction::triggered, &display_, &AudioWaveViewController::changeTabView);
+    makeSortMenu(menu->addMenu(tr("S&ort By")));
     menu->addSeparator();
     menu->setToolTipsVisible(true);
     nextNotice_ = add(menu, tr("Show the Next &Notice"), {}, tr("Several notices stand in the display"),
@@ -155,6 +158,25 @@ void MainMenus::makeViewMenu() {
     connect(dismissNotices_, &QAction::triggered, &record_, &RecordStateController::dismissNotices);
     connect(&display_, &AudioWaveViewController::shownNoticeChanged, this, &MainMenus::update);
     connect(menu, &QMenu::aboutToShow, this, &MainMenus::update);
+}
+
+void MainMenus::makeSortMenu(QMenu* menu) {
+    // What a click on a column heading does; a second choice of the same column reverses the order.
+    QTableView* table = ui_.audioTableView_;
+    for (int column = AudioTableModel::Title; column < AudioTableModel::ColumnCount; ++column) {
+        if (column == AudioTableModel::Path)
+            continue;
+        QAction* item = menu->addAction(table->model()->headerData(column, Qt::Horizontal).toString());
+        connect(item, &QAction::triggered, table, [table, column] {
+            const QHeaderView& header = *table->horizontalHeader();
+            const bool again =
+                header.sortIndicatorSection() == column && header.sortIndicatorOrder() == Qt::AscendingOrder;
+            table->sortByColumn(column, again ? Qt::DescendingOrder : Qt::AscendingOrder);
+        });
+    }
+    menu->addSeparator();
+    connect(menu->addAction(tr("&Unsorted")), &QAction::triggered, table,
+            [table] { table->sortByColumn(-1, Qt::AscendingOrder); });
 }
 
 void MainMenus::makeHelpMenu() {

@@ -65,6 +65,7 @@ private:
     void makeEditMenu();
     void makeLibraryMenu();
     void makeViewMenu();
+    void makeSortMenu(QMenu* menu);
     void makeHelpMenu();
     void makeContextMenu();
     void makeStrip();

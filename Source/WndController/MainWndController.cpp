@@ -8,6 +8,7 @@
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
 #include "Source/Preferences/Settings.h"
+#include "Source/View/Announcement.h"
 #include "Source/View/MediaLibraryNodeSizeFieldCell.h"
 #include "Source/View/NamedImages.h"
 #include "Source/WndController/AudioTableModel.h"
@@ -474,6 +475,9 @@ void MainWndController::showSelection() {
 void MainWndController::showStatus(const QString& text) {
     // The line keeps its height without a text. Otherwise the list would move under the pointer between two clicks.
     ui_->lblStatus_->setText(text);
+    // The path of a selected row is no news.
+    if (shownSelection_ != text)
+        Announcement::say(*window_, text);
 }
 
 void MainWndController::showEmptyText() {
