@@ -132,7 +132,11 @@ bool FilteredAudioModel::setData(const QModelIndex& index, const QVariant& value
 }
 
 QVariant FilteredAudioModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    if (orientation != Qt::Horizontal) // hidden, but read by screen readers
+        return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
+    if (role == Qt::AccessibleTextRole && section == Tick)
+        return tr("Remove");
+    if (role != Qt::DisplayRole)
         return {};
     switch (section) {
     case Title:

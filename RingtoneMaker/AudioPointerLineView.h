@@ -19,7 +19,7 @@ public:
     /// Moves the frame horizontally so that its middle is at @p x.
     void setPosition(float x);
 
-    [[nodiscard]] QAccessible::Role spokenRole() const override { return QAccessible::Indicator; }
+    [[nodiscard]] QAccessible::Role spokenRole() const override { return QAccessible::Graphic; }
     [[nodiscard]] QString spokenValue() const override;
 
 protected:

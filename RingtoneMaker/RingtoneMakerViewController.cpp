@@ -8,6 +8,7 @@
 #include "RingtoneMaker/WaveImage.h"
 #include "Source/Control/ConverterAudioControl.h"
 #include "Source/Model/AudioRecordEntry.h"
+#include "Source/View/Announcement.h"
 #include "Source/View/EditDialog.h"
 #include "Source/View/NamedImages.h"
 #include "ui_RingtoneMakerViewController.h"
@@ -246,7 +247,8 @@ bool RingtoneMakerViewController::eventFilter(QObject* watched, QEvent* event) {
 void RingtoneMakerViewController::keyPressed(QKeyEvent* event) {
     if (writing_ || !ui_->btnPlay->isEnabled() || (event->modifiers() & ~Qt::KeypadModifier))
         return;
-    // I and O draw a selection of any length, as a drag on the outline does: one end is at the pointer, the other stays.
+    // I and O draw a selection of any length, as a drag on the outline does: one end is at the pointer, the other
+    // stays.
     const AudioWaveTrimView& selection = *ui_->audioWaveTrimView;
     const double pointer = double(ui_->audioPointerLineView->position());
     const double begin = double(selection.audioFrom());
@@ -294,6 +296,7 @@ void RingtoneMakerViewController::updateEnabled() {
 void RingtoneMakerViewController::showProblem(const QString& text) {
     ui_->problemLabel->setText(text);
     ui_->problemLabel->setVisible(!text.isEmpty());
+    Announcement::say(*window_, text);
 }
 
 // ---- listening ------------------------------------------------------------------------------------------------------

@@ -58,8 +58,8 @@ void AudioPlayProgressView::askFor(double seconds) {
 }
 
 QString AudioPlayProgressView::spokenValue() const {
-    return tr("%1 of %2").arg(ToolControl::getTimeString(qint64(currentTime_)),
-                              ToolControl::getTimeString(qint64(duration_)));
+    return tr("%1 of %2")
+        .arg(ToolControl::getTimeString(qint64(currentTime_)), ToolControl::getTimeString(qint64(duration_)));
 }
 
 void AudioPlayProgressView::mousePressEvent(QMouseEvent* event) {

@@ -33,9 +33,9 @@ void AudioRecordWaveView::addCurrentLevel(float level) {
 }
 
 QVariant AudioRecordWaveView::spokenNumber() const {
-    const float newest = audioLevelArray_.isEmpty()  ? 0
-                         : isLeftToRight() ? audioLevelArray_.first()
-                                           : audioLevelArray_.last();
+    const float newest = audioLevelArray_.isEmpty() ? 0
+                         : isLeftToRight()          ? audioLevelArray_.first()
+                                                    : audioLevelArray_.last();
     return std::isfinite(newest) ? std::round(std::clamp(double(newest), 0.0, 1.0) * 100) : 0.0;
 }
 

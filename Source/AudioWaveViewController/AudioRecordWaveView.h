@@ -23,8 +23,8 @@ public:
     /// Levels range from 0 to 1; greater ones are clipped at the view's edge.
     void addCurrentLevel(float level);
 
-    /// The newest level in percent. Screen readers read it on request: it changes ten times a second, so changes are not
-    /// announced.
+    /// The newest level in percent. Screen readers read it on request: it changes ten times a second, so changes are
+    /// not announced.
     [[nodiscard]] QAccessible::Role spokenRole() const override { return QAccessible::ProgressBar; }
     [[nodiscard]] QString spokenValue() const override;
     [[nodiscard]] QVariant spokenNumber() const override;

@@ -166,7 +166,8 @@ AudioWaveViewController::~AudioWaveViewController() {
 
 void AudioWaveViewController::awakeFromNib() {
     const QFont font = view_->font();
-    ui_->stateField->setFont(scaled(font, font.pointSizeF() + 2, QFont::DemiBold));
+    // Large letters: red on the glass has too little contrast for small ones.
+    ui_->stateField->setFont(scaled(font, font.pointSizeF() + 4, QFont::Bold));
     ui_->timeField->setFont(scaled(font, timePointSize, QFont::Medium));
     ui_->timeField->setReserve(u"00:00"_s);
     ui_->hintField->hide();
@@ -177,7 +178,7 @@ void AudioWaveViewController::awakeFromNib() {
                            static_cast<QWidget*>(ui_->playLeftTimeField)})
         field->setPalette(dim);
     ui_->playLeftTimeField->setAlignment(Qt::AlignRight);
-    ui_->noticeMark->setPixmap(NamedImages::pixmap(u"warning"_s, {16, 16}, 2, QColor(0xffc857)));
+    ui_->noticeMark->setPixmap(NamedImages::pixmap(u"warning"_s, {16, 16}, 2, Theme::Glass::warning()));
     setGlassIcon(ui_->changeTabViewButton, u"switch-display"_s);
     setGlassIcon(ui_->dismissNoticeButton, u"close"_s);
     // The line uses free space below the time, so the panel keeps its height.
@@ -193,7 +194,8 @@ void AudioWaveViewController::awakeFromNib() {
     ui_->helpButton->setFont(scaled(font, font.pointSizeF() - 1.5, QFont::DemiBold));
     connect(ui_->helpButton, &QToolButton::clicked, this, &AudioWaveViewController::askForHelp);
     ui_->nextNoticeButton->setFont(scaled(font, font.pointSizeF() - 1.5, QFont::DemiBold));
-    ui_->nextNoticeButton->setIcon(NamedImages::icon(u"warning"_s, [](QIcon::Mode) { return QColor(0xffc857); }));
+    ui_->nextNoticeButton->setIcon(
+        NamedImages::icon(u"warning"_s, [](QIcon::Mode) { return Theme::Glass::warning(); }));
     ui_->nextNoticeButton->setIconSize({16, 16});
     ui_->nextNoticeButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     connect(ui_->nextNoticeButton, &QToolButton::clicked, this, &AudioWaveViewController::showNextNotice);
@@ -216,6 +218,11 @@ void AudioWaveViewController::awakeFromNib() {
 
 QWidget* AudioWaveViewController::view() const {
     return view_;
+}
+
+QList<QWidget*> AudioWaveViewController::controls() const {
+    return {ui_->audioPlayProgressView, ui_->changeTabViewButton, ui_->nextNoticeButton, ui_->helpButton,
+            ui_->dismissNoticeButton};
 }
 
 AudioPlayProgressView* AudioWaveViewController::audioPlayProgressView() const {

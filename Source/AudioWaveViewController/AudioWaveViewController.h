@@ -56,6 +56,8 @@ public:
 
     /// The panel to put into a window. Owned by its parent widget, else by this controller.
     [[nodiscard]] QWidget* view() const;
+    /// Its controls in reading order, for the window's tab order.
+    [[nodiscard]] QList<QWidget*> controls() const;
     void setDelegate(AudioWaveViewControllerDelegate* delegate) { delegate_ = delegate; }
     [[nodiscard]] AudioWaveViewControllerDelegate* delegate() const { return delegate_; }
     [[nodiscard]] AudioPlayProgressView* audioPlayProgressView() const;

@@ -18,6 +18,7 @@ AudioWaveformBackView::AudioWaveformBackView(QWidget* parent) : QWidget(parent) 
         glass.setColor(role, Theme::Glass::text());
     // The images on its buttons are light, too, so a button under the pointer stays dark.
     glass.setColor(QPalette::Button, Theme::Glass::button());
+    glass.setColor(QPalette::Highlight, Theme::Glass::focus());
     setPalette(glass);
 }
 
@@ -77,6 +78,7 @@ void AdditionalControlBackView::takeColors() {
     if (palette().color(QPalette::Active, QPalette::ButtonText) == Theme::Strip::text(true))
         return;
     QPalette colors;
+    colors.setColor(QPalette::Highlight, Theme::Strip::focus());
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         colors.setColor(role, Theme::Strip::text(true));
         colors.setColor(QPalette::Disabled, role, Theme::Strip::text(false));

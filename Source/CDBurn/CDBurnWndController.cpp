@@ -11,8 +11,10 @@
 #include "Source/CDBurn/BurnWindowFont.h"
 #include "Source/CDBurn/ProcessWndController.h"
 #include "Source/Control/ToolControl.h"
+#include "Source/View/Announcement.h"
 #include "Source/View/EditDialog.h"
 #include "Source/View/NamedImages.h"
+#include "Source/View/Theme.h"
 #include "ui_CDBurnWnd.h"
 
 #include <QDialog>
@@ -235,9 +237,14 @@ void CDBurnWndController::burnStateControl() {
     } else {
         QPalette warning;
         warning.setColor(QPalette::WindowText, Qt::red);
+        warning.setColor(QPalette::Window, Theme::alarmGround());
         ui_->lblState_->setPalette(warning);
         ui_->lblState_->setFont(BurnWindowFont::ofSize(kWarningFont));
     }
+    ui_->lblState_->setAutoFillBackground(!ready);
+    ui_->lblState_->setMargin(ready ? 0 : 4);
+    if (window_->isVisible() && ui_->lblState_->text() != message)
+        Announcement::say(*window_, message);
     ui_->lblState_->setText(message);
     ui_->btnBurn_->setEnabled(ready);
     ui_->btnBurn_->setIcon(NamedImages::icon(ready ? u"burn1.png"_s : u"burn3.png"_s));

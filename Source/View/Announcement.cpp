@@ -14,7 +14,7 @@ void Announcement::say(QWidget& widget, const QString& text) {
     if (!QAccessible::isActive() || text.isEmpty())
         return;
     QWidget& window = *widget.window();
-    auto* view = window.findChild<Announcement*>(Qt::FindDirectChildrenOnly);
+    auto* view = window.findChild<Announcement*>(QString(), Qt::FindDirectChildrenOnly);
     if (!view)
         view = new Announcement(window);
     view->setAccessibleName(text);

@@ -39,8 +39,8 @@ QString tenthsText(double seconds) {
 
 } // namespace
 
-/// The focus stop and the slider of one handle. The bar draws the handle and takes the mouse; keys reach the bar because
-/// this widget ignores them.
+/// The focus stop and the slider of one handle. The bar draws the handle and takes the mouse; keys reach the bar
+/// because this widget ignores them.
 class TrimHandle : public QWidget, public SpokenView {
 public:
     TrimHandle(AudioTrimEditView& bar, AudioTrimEditView::DragType type, const QString& name)
@@ -85,7 +85,6 @@ AudioTrimEditView::AudioTrimEditView(QWidget* parent)
       trimBackHeight_(NamedImages::naturalSize(name(kBack)).height()),
       trimAreaHeight_(NamedImages::naturalSize(name(kArea)).height()),
       btnSize_(NamedImages::naturalSize(name(kButton))) {
-    setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setAccessibleName(tr("Range to keep"));
     handles_ = {new TrimHandle(*this, Seek, tr("Play position")),
@@ -224,6 +223,7 @@ void AudioTrimEditView::mousePressEvent(QMouseEvent* event) {
     event->accept();
     if (event->button() != Qt::LeftButton)
         return;
+    setFocus(Qt::MouseFocusReason); // of the handle that was used last
     const QPointF place = event->position();
     if (seekStripRect().contains(place))
         dragType_ = Seek;

@@ -21,7 +21,8 @@ public:
 
 /// The bar of the trim window: a seek strip with the play button along the top, the outline of the file with the range
 /// in its middle, and the two handles along the bottom. Left and Right move the handle that was used last, or that has
-/// the focus: the play button and both handles are focus stops of their own, and sliders for screen readers. Main thread.
+/// the focus: the play button and both handles are focus stops of their own, and sliders for screen readers. Main
+/// thread.
 class AudioTrimEditView : public QWidget {
     Q_OBJECT
 public:
@@ -104,5 +105,5 @@ private:
     QList<float> outline_;
     DragType lastHandle_ = LeftHandle;
     std::array<TrimHandle*, 3> handles_{}; ///< by DragType; children
-    std::optional<double> dragX_; ///< the pointer's position during a drag
+    std::optional<double> dragX_;          ///< the pointer's position during a drag
 };

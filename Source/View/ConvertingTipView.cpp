@@ -4,6 +4,7 @@
 
 #include "Source/View/Announcement.h"
 #include "Source/View/SpokenField.h"
+#include "Source/View/Theme.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -18,10 +19,11 @@ ConvertingTipView::ConvertingTipView(QWidget* parent) : QLabel(parent), slide_(t
     setAccessibleName(tr("Converting notice"));
     setTextFormat(Qt::PlainText);
     setAutoFillBackground(true);
-    setBackgroundRole(QPalette::Base);
+    setBackgroundRole(QPalette::Window);
     setForegroundRole(QPalette::WindowText);
     QPalette colors = palette();
     colors.setColor(QPalette::WindowText, Qt::red);
+    colors.setColor(QPalette::Window, Theme::alarmGround());
     setPalette(colors);
     slide_.setDuration(kSlideMs);
     slide_.setEasingCurve(QEasingCurve::OutCubic);

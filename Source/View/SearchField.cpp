@@ -12,7 +12,11 @@ SearchField::SearchField(QWidget* parent) : QLineEdit(parent) {
     setAccessibleName(tr("Search titles, artists and albums"));
     setToolTip(tr("Search titles, artists and albums"));
     setClearButtonEnabled(true);
+    // The name of the button for screen readers.
+    if (auto* clearing = findChild<QAction*>(QStringLiteral("_q_qlineeditclearaction")))
+        clearing->setText(tr("Clear the search"));
     QAction* lens = addAction(NamedImages::icon(QStringLiteral("search")), LeadingPosition);
+    lens->setText(tr("Search"));
     connect(lens, &QAction::triggered, this, &SearchField::begin);
 }
 

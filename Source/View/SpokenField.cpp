@@ -35,8 +35,7 @@ public:
             return label_.accessibleName();
         return joined(label_.accessibleName(), plainText());
     }
-    QList<QPair<QAccessibleInterface*, QAccessible::Relation>>
-    relations(QAccessible::Relation match) const override {
+    QList<QPair<QAccessibleInterface*, QAccessible::Relation>> relations(QAccessible::Relation match) const override {
         auto found = QAccessibleWidget::relations(match);
         if (label_.buddy() && (match & QAccessible::Labelled))
             found.append({QAccessible::queryAccessibleInterface(label_.buddy()), QAccessible::Labelled});
@@ -59,7 +58,13 @@ private:
 
 QAccessibleInterface* interfaceOf(const QString& className, QObject* object) {
     auto* const label = className == QLatin1StringView("QLabel") ? qobject_cast<QLabel*>(object) : nullptr;
-    return label ? new LabelInterface(*label) : nullptr;
+    if (label)
+        return new LabelInterface(*label);
+    // Qt gives only main windows and dialogs the role of a window.
+    auto* const widget = className == QLatin1StringView("QWidget") ? qobject_cast<QWidget*>(object) : nullptr;
+    const bool isWindow =
+        widget && widget->windowType() == Qt::Window && qstrcmp(widget->metaObject()->className(), "QWidget") == 0;
+    return isWindow ? new QAccessibleWidget(widget, QAccessible::Window) : nullptr;
 }
 
 } // namespace

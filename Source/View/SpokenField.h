@@ -11,7 +11,7 @@ class QWidget;
 namespace SpokenField {
 /// From now on, labels with an accessible name are called "name: text". Once per process; later calls do nothing.
 void install();
-/// The same for a field whose shown text is not the one to be spoken, because it is elided or blinks. The caption is the
-/// accessible name that the field had at the first call; a field without one is named by its text.
+/// The same for a field whose shown text is not the one to be spoken, because it is elided or blinks. The caption is
+/// the accessible name that the field had at the first call; a field without one is named by its text.
 void setText(QWidget& field, const QString& text);
 } // namespace SpokenField

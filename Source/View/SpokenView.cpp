@@ -17,6 +17,13 @@ public:
         const QString value = view_.spokenValue();
         return value.isEmpty() ? QAccessibleWidget::text(which) : value;
     }
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        // A view that takes the focus only by a click is no control.
+        if (!(widget()->focusPolicy() & Qt::TabFocus))
+            state.focusable = false;
+        return state;
+    }
     void* interface_cast(QAccessible::InterfaceType type) override {
         if (type == QAccessible::ValueInterface && view_.spokenNumber().isValid())
             return static_cast<QAccessibleValueInterface*>(this);

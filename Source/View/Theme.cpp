@@ -6,8 +6,12 @@
 #include "Source/View/NamedImages.h"
 #include "Source/View/SpokenField.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QFontDatabase>
+#include <QLabel>
+#include <QMessageBox>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QStyleFactory>
@@ -31,6 +35,10 @@ public:
             drawFieldFrame(*option, *painter);
             return;
         }
+        if (element == PE_FrameFocusRect) {
+            drawFocus(*option, *painter, option->rect);
+            return;
+        }
         const bool box = element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck;
         if (!box && element != PE_IndicatorRadioButton) {
             QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -41,8 +49,7 @@ public:
         const auto group = enabled ? QPalette::Active : QPalette::Disabled;
         const bool on = option->state & (State_On | State_NoChange);
         const QColor accent = colors.color(group, QPalette::Highlight);
-        QColor outline = colors.color(group, QPalette::WindowText);
-        outline.setAlphaF(enabled ? 0.55F : 0.3F);
+        QColor outline = Theme::outline(colors, enabled);
         if (option->state & State_MouseOver && enabled)
             outline = accent;
         QColor fill = on ? accent : colors.color(group, QPalette::Base);
@@ -81,19 +88,36 @@ public:
         painter->restore();
     }
 
+    // Fusion shows the focus only after Tab was pressed, and thinly. A dialog or a command may give it to a control, too.
+    static void drawFocus(const QStyleOption& option, QPainter& painter, const QRectF& rect) {
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(option.palette.color(QPalette::Active, QPalette::Highlight), 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(rect.adjusted(1, 1, -1, -1), 3, 3);
+        painter.restore();
+    }
+
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        if ((control == CC_ComboBox || control == CC_SpinBox) && option->state & State_HasFocus)
+            drawFocus(*option, *painter, option->rect);
+    }
+
     // The frame of a text field has the same problem.
     static void drawFieldFrame(const QStyleOption& option, QPainter& painter) {
         const bool enabled = option.state & State_Enabled;
         const auto group = enabled ? QPalette::Active : QPalette::Disabled;
-        QColor outline = option.palette.color(group, QPalette::WindowText);
-        outline.setAlphaF(enabled ? 0.32F : 0.2F);
-        if (enabled && option.state & State_HasFocus)
-            outline = option.palette.color(group, QPalette::Highlight);
+        const bool focused = enabled && option.state & State_HasFocus;
+        const QColor outline =
+            focused ? option.palette.color(group, QPalette::Highlight) : Theme::outline(option.palette, enabled);
         painter.save();
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(outline, 1));
+        painter.setPen(QPen(outline, focused ? 2 : 1));
         painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+        const qreal inset = focused ? 1 : 0.5;
+        painter.drawRoundedRect(QRectF(option.rect).adjusted(inset, inset, -inset, -inset), 3, 3);
         painter.restore();
     }
 
@@ -120,6 +144,24 @@ public:
         painter->drawPixmap(NamedImages::onWholePixels(*painter, place.topLeft()), pixmap);
     }
 
+    // Names for screen readers that Qt leaves empty.
+    void polish(QWidget* widget) override {
+        QProxyStyle::polish(widget);
+        if (auto* box = qobject_cast<QComboBox*>(widget); box && !box->accessibleName().isEmpty()) {
+            // Qt names a combo box after its current item, and its list not at all.
+            box->view()->setAccessibleName(box->accessibleName());
+            if (box->accessibleDescription().isEmpty())
+                box->setAccessibleDescription(box->accessibleName());
+        }
+        auto* sign = qobject_cast<QLabel*>(widget);
+        if (const auto* box = sign ? qobject_cast<QMessageBox*>(sign->parentWidget()) : nullptr;
+            box && sign->objectName() == u"qt_msgboxex_icon_label")
+            sign->setAccessibleName(box->icon() == QMessageBox::Warning
+                                        ? QCoreApplication::translate("Theme", "Warning")
+                                        : QGuiApplication::applicationDisplayName());
+    }
+    using QProxyStyle::polish;
+
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* more) const override {
         if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
@@ -130,8 +172,7 @@ public:
     QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override {
         if (which != SP_MessageBoxWarning)
             return QProxyStyle::standardIcon(which, option, widget);
-        const QColor amber = currentShade == Theme::Shade::Dark ? QColor(0xffc857) : QColor(0xc97a00);
-        return NamedImages::icon(u"warning"_s, [amber](QIcon::Mode) { return amber; });
+        return NamedImages::icon(u"warning"_s, [](QIcon::Mode) { return Theme::warning(); });
     }
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
@@ -160,9 +201,9 @@ struct Colors {
 Colors colors(Theme::Shade shade) {
     if (shade == Theme::Shade::Dark)
         return {QColor(0x24272b), QColor(0x1b1e21), QColor(0x202327), QColor(0xe8eaed),
-                QColor(0x34383d), QColor(0x2f7dd1), QColor(0xffffff), QColor(0x6cb4ff),
+                QColor(0x34383d), QColor(0x2c75c5), QColor(0xffffff), QColor(0x6cb4ff),
                 QColor(0x9aa0a7), QColor(0x858b92), QColor(0x3a3f45), QColor(0xf2f3f5)};
-    return {QColor(0xf2f3f5), QColor(0xffffff), QColor(0xf7f8fa), QColor(0x1d2125), QColor(0xfbfbfc), QColor(0x2f7dd1),
+    return {QColor(0xf2f3f5), QColor(0xffffff), QColor(0xf7f8fa), QColor(0x1d2125), QColor(0xfbfbfc), QColor(0x2c75c5),
             QColor(0xffffff), QColor(0x1a63ad), QColor(0x666c73), QColor(0x9aa0a6), QColor(0x2b3035), QColor(0xf2f3f5)};
 }
 
@@ -209,6 +250,20 @@ Shade shade() {
     return currentShade;
 }
 
+QColor outline(const QPalette& colors, bool enabled) {
+    QColor color = colors.color(enabled ? QPalette::Active : QPalette::Disabled, QPalette::WindowText);
+    color.setAlphaF(enabled ? 0.55F : 0.3F);
+    return color;
+}
+
+QColor warning() {
+    return currentShade == Shade::Dark ? QColor(0xffc857) : QColor(0xc07400);
+}
+
+QColor alarmGround() {
+    return QColor(0x101418);
+}
+
 void apply(Shade shade) {
     currentShade = shade;
     QApplication::setPalette(palette(shade));
@@ -236,6 +291,18 @@ void install(QApplication& application, Platform::ColorScheme* scheme) {
 }
 
 namespace Glass {
+QColor top() {
+    return QColor(0x22303b);
+}
+QColor bottom() {
+    return QColor(0x111b24);
+}
+QColor warning() {
+    return QColor(0xffc857);
+}
+QColor focus() {
+    return QColor(0x6cb4ff);
+}
 QColor text() {
     return QColor(0xf0f6fa);
 }
@@ -243,7 +310,7 @@ QColor dimText() {
     return QColor(0x93a6b4);
 }
 QColor recording() {
-    return QColor(0xd9373d);
+    return QColor(0xe5434a);
 }
 QColor level() {
     return QColor::fromRgbF(78.0F / 255, 242.0F / 255, 1.0F);
@@ -261,6 +328,9 @@ QColor text(bool enabled) {
     if (currentShade == Shade::Dark)
         return palette(Shade::Dark).color(enabled ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText);
     return enabled ? QColor(0x1f242a) : QColor(0x80, 0x83, 0x88);
+}
+QColor focus() {
+    return currentShade == Shade::Dark ? QColor(0x6cb4ff) : QColor(0x1a5fa8);
 }
 } // namespace Strip
 

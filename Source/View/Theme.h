@@ -23,12 +23,25 @@ void apply(Shade shade);
 [[nodiscard]] Shade shade();
 
 [[nodiscard]] QPalette palette(Shade shade);
+/// The outline of fields and empty boxes, for the palette of the widget.
+[[nodiscard]] QColor outline(const QPalette& colors, bool enabled);
+/// The sign of a warning.
+[[nodiscard]] QColor warning();
+/// A ground on which red text can be read: on a light window it would be too faint.
+[[nodiscard]] QColor alarmGround();
 
 /// Colours of the display's dark glass, the same in both themes.
 namespace Glass {
 [[nodiscard]] QColor text();
 [[nodiscard]] QColor dimText();
 [[nodiscard]] QColor level();
+/// The ends of the glass's gradient.
+[[nodiscard]] QColor top();
+[[nodiscard]] QColor bottom();
+/// The mark of a notice.
+[[nodiscard]] QColor warning();
+/// The frame of the control with the keyboard focus.
+[[nodiscard]] QColor focus();
 /// Background of a button under the pointer.
 [[nodiscard]] QColor button();
 /// Colour of the frame while sound is recorded.
@@ -39,6 +52,8 @@ namespace Glass {
 namespace Strip {
 [[nodiscard]] QColor ground();
 [[nodiscard]] QColor text(bool enabled);
+/// The frame of the control with the keyboard focus.
+[[nodiscard]] QColor focus();
 } // namespace Strip
 
 } // namespace Theme

@@ -351,14 +351,16 @@ QVariant AudioTableModel::stateData(const Dictionary& entry, int role) const {
     if (role == Qt::ToolTipRole || role == Qt::AccessibleTextRole) {
         if (missing)
             return tr("The file is no longer there.");
-        return playing ? QVariant(tr("Playing")) : QVariant();
+        if (playing)
+            return tr("Playing");
+        return role == Qt::AccessibleTextRole ? QVariant(tr("No mark")) : QVariant();
     }
     return {};
 }
 
 QVariant AudioTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal)
-        return {};
+    if (orientation != Qt::Horizontal) // hidden, but read by screen readers
+        return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
     if (role == Qt::TextAlignmentRole)
         return QVariant((section == Time                                         ? Qt::AlignHCenter
                          : QGuiApplication::layoutDirection() == Qt::RightToLeft ? Qt::AlignRight

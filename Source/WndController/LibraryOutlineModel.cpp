@@ -129,7 +129,8 @@ QVariant LibraryOutlineModel::data(const QModelIndex& index, int role) const {
         return index.column() == Name
                    ? here.name()
                    : (here.isLeaf() ? tr("%n recording(s)", nullptr, static_cast<int>(here.leafNode().size()))
-                                    : QString());
+                      : role == Qt::AccessibleTextRole ? tr("Heading")
+                                                       : QString());
     if (index.column() == Count)
         return role == Qt::DisplayRole && here.isLeaf() ? QVariant(QString::number(here.leafNode().size()))
                                                         : QVariant();

@@ -46,6 +46,11 @@ MainWndController::MainWndController(RecordStateController& record, MediaLibrary
     host->setContentsMargins(0, 0, 0, 0);
     display_ = std::make_unique<AudioWaveViewController>(ui_->audioWaveBackgroundView_);
     host->addWidget(display_->view());
+    QWidget* before = ui_->btnPlayAudio_;
+    for (QWidget* control : display_->controls()) {
+        QWidget::setTabOrder(before, control);
+        before = control;
+    }
 
     setUpViews();
     library_ = std::make_unique<LibraryPresenter>(library, *ui_->outlineLibraryView_, *ui_->audioTableView_, *display_,

@@ -180,6 +180,8 @@ void RecordPanel::showDeviceToolTip() {
     else if (!record_.popUpEnabled() && !names.isEmpty())
         lines << tr("The input is not recorded: check the box first.");
     ui_.popBuiltInDevice_->setToolTip(lines.join(u'\n'));
+    lines.replace(0, ui_.popBuiltInDevice_->accessibleName());
+    ui_.popBuiltInDevice_->setAccessibleDescription(lines.join(u'\n'));
 }
 
 void RecordPanel::showNotices() {

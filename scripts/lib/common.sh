@@ -11,7 +11,7 @@ apt_build="cmake ninja-build g++ ccache pkg-config qt6-base-dev qt6-svg-dev qt6-
 apt_run="pipewire pipewire-bin wireplumber libspa-0.2-modules libqt6svg6 qt6-image-formats-plugins fonts-inter
   fonts-droid-fallback qt6-translations-l10n file findutils xdg-utils"
 apt_test="libgtest-dev libgmock-dev xvfb xauth x11-utils x11-xkb-utils dbus dbus-daemon xdotool openbox trayer|stalonetray playerctl libglib2.0-bin
-  libgtk-3-bin dunst xdg-desktop-portal qt6-wayland sway desktop-file-utils ffmpeg faad
+  libgtk-3-bin dunst xdg-desktop-portal qt6-wayland sway desktop-file-utils at-spi2-core libatspi2.0-dev ffmpeg faad
   mediainfo atomicparsley sox libsox-fmt-all gstreamer1.0-tools gstreamer1.0-plugins-base gstreamer1.0-plugins-good
   gstreamer1.0-plugins-bad gstreamer1.0-libav pipewire-pulse procps libcdio-utils bchunk groff-base zsh fish time"
 apt_package="build-essential debhelper dpkg-dev lintian appstream desktop-file-utils git"

@@ -402,7 +402,7 @@ TEST_F(RingtoneMaker, DescribesEachPartToScreenReaders) {
           Expected{"audioWaveEditView", u"Outline"_s, QAccessible::Graphic, u"Track2, 00:01:40"_s},
           Expected{"audioWaveTrimView", u"Selection"_s, QAccessible::Slider,
                    u"from 00:00:10 to 00:00:40, 30.0 seconds"_s},
-          Expected{"audioPointerLineView", u"Play pointer"_s, QAccessible::Indicator, u"00:00:00"_s}}) {
+          Expected{"audioPointerLineView", u"Play pointer"_s, QAccessible::Graphic, u"00:00:00"_s}}) {
         auto* const spoken = QAccessible::queryAccessibleInterface(&world.outlet(outlet));
         ASSERT_TRUE(spoken) << outlet;
         EXPECT_EQ(spoken->text(QAccessible::Name), name) << outlet;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/XvfbSession.h"
 
+#include <QAccessible>
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
@@ -118,7 +120,7 @@ struct XvfbSession::Private {
 
     QProcess* start(const QString& program, const QStringList& arguments) {
         auto process = std::make_unique<QProcess>();
-        process->setStandardErrorFile(folder.filePath(program + u".log"_s));
+        process->setStandardErrorFile(folder.filePath(program.section(u'/', -1) + u".log"_s));
         // When a test crashes, these processes end with it.
         process->setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
         process->start(program, arguments);
@@ -224,6 +226,21 @@ bool XvfbSession::startTray() {
                              ? d->start(u"stalonetray"_s, {u"--geometry"_s, u"4x1-0-0"_s})
                              : d->start(u"trayer"_s, {u"--edge"_s, u"bottom"_s, u"--widthtype"_s, u"request"_s});
     return started && eventually([this] { return rootHas(d->display, "_NET_SYSTEM_TRAY_S0", true); });
+}
+
+bool XvfbSession::startAccessibility() {
+    if (QAccessible::isActive())
+        return true;
+    // Qt reads this when the bus appears: no screen reader has asked for it yet.
+    qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
+    for (const QString& folder : {u"/usr/libexec/"_s, u"/usr/lib/at-spi2-core/"_s})
+        if (QFile::exists(folder + u"at-spi-bus-launcher"_s))
+            return d->start(folder + u"at-spi-bus-launcher"_s, {u"--launch-immediately"_s}) && eventually([] {
+                       QCoreApplication::processEvents();
+                       return QAccessible::isActive();
+                   });
+    d->problem = u"at-spi2-core is not installed"_s;
+    return false;
 }
 
 void XvfbSession::stopTray() {

@@ -28,6 +28,9 @@ public:
     [[nodiscard]] bool startTray();
     /// Ends the tray; returns when the selection is free again.
     void stopTray();
+    /// The accessibility bus and its registry, as on a desktop with a screen reader; returns when Qt serves it. It
+    /// stays until the session ends.
+    [[nodiscard]] bool startAccessibility();
     /// The windows that a root window property lists ("_NET_ACTIVE_WINDOW", "_NET_CLIENT_LIST_STACKING" with the lowest
     /// first).
     [[nodiscard]] QList<quint32> windowsOfRoot(const QByteArray& property) const;
