@@ -323,8 +323,10 @@ void AudioWaveViewController::showTitles() {
     setElided(ui_->titleField, title_);
     setElided(ui_->artistField, artist_);
     // Beside the state of a recording a narrow panel has room for the bar only.
+    const int needed = ui_->currentTimeField->sizeHint().width() + ui_->playLeftTimeField->sizeHint().width() +
+                       ui_->audioPlayProgressView->minimumSizeHint().width() + 2 * ui_->progressLayout->spacing();
     for (QWidget* time : {ui_->currentTimeField, ui_->playLeftTimeField})
-        time->setVisible(ui_->titleField->width() >= timesFrom);
+        time->setVisible(ui_->titleField->width() >= std::max(timesFrom, needed));
 }
 
 void AudioWaveViewController::setStateString(const QString& state) {

@@ -3,15 +3,20 @@
 #pragma once
 
 #include <QFont>
+#include <QGuiApplication>
+
+#include <algorithm>
 
 /// The typeface of the burn window's messages.
 namespace BurnWindowFont {
-/// @p points are 1/72 inch at 100 % scale, so they equal Qt's pixels. Falls back to the program's own typeface where
+/// @p points are 1/72 inch at 100 % scale, so they equal Qt's pixels; larger where the program's own typeface is larger
+/// than usual. Falls back to the program's own typeface where
 /// this one is not installed.
 [[nodiscard]] inline QFont ofSize(int points) {
     QFont font;
     font.setFamilies(QStringList{QStringLiteral("Lucida Grande")} + font.families());
-    font.setPixelSize(points);
+    constexpr double usual = 10; // points
+    font.setPixelSize(int(points * std::max(1.0, QGuiApplication::font().pointSizeF() / usual)));
     return font;
 }
 } // namespace BurnWindowFont

@@ -67,7 +67,9 @@ public:
 protected:
     void focusInEvent(QFocusEvent* event) override {
         QWidget::focusInEvent(event);
-        bar_.setLastHandle(type_);
+        if (type_ != AudioTrimEditView::Seek)
+            bar_.setLastHandle(type_);
+        bar_.update();
     }
     void focusOutEvent(QFocusEvent* event) override {
         QWidget::focusOutEvent(event);
@@ -126,7 +128,7 @@ void AudioTrimEditView::setOutline(const QList<float>& values) {
 }
 
 void AudioTrimEditView::setLastHandle(DragType handle) {
-    const bool focused = hasFocus();
+    const bool focused = focusedHandle().has_value();
     lastHandle_ = handle;
     if (focusProxy() != handles_[handle]) {
         setFocusProxy(handles_[handle]);
@@ -134,6 +136,13 @@ void AudioTrimEditView::setLastHandle(DragType handle) {
             handles_[handle]->setFocus(Qt::OtherFocusReason);
     }
     update();
+}
+
+std::optional<AudioTrimEditView::DragType> AudioTrimEditView::focusedHandle() const {
+    for (const DragType handle : {Seek, LeftHandle, RightHandle})
+        if (handles_[handle]->hasFocus())
+            return handle;
+    return std::nullopt;
 }
 
 float AudioTrimEditView::rateOf(DragType handle) const {
@@ -264,7 +273,8 @@ void AudioTrimEditView::mouseReleaseEvent(QMouseEvent* event) {
 void AudioTrimEditView::nudge(double seconds) {
     if (duration_ <= 0)
         return;
-    moveHandle(lastHandle_, rateOf(lastHandle_) + float(seconds / duration_));
+    const DragType handle = focusedHandle().value_or(lastHandle_);
+    moveHandle(handle, rateOf(handle) + float(seconds / duration_));
 }
 
 void AudioTrimEditView::keyPressEvent(QKeyEvent* event) {
@@ -279,9 +289,9 @@ void AudioTrimEditView::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_PageUp:
         return nudge(kPage);
     case Qt::Key_Home:
-        return moveHandle(lastHandle_, 0);
+        return moveHandle(focusedHandle().value_or(lastHandle_), 0);
     case Qt::Key_End:
-        return moveHandle(lastHandle_, 1);
+        return moveHandle(focusedHandle().value_or(lastHandle_), 1);
     default:
         QWidget::keyPressEvent(event);
     }
@@ -307,10 +317,10 @@ void AudioTrimEditView::paintEvent(QPaintEvent*) {
     painter.setPen(QPen(Theme::Glass::text(), 1));
     painter.drawLine(QPointF(button.center().x(), strip.top()), QPointF(button.center().x(), strip.bottom()));
     NamedImages::draw(painter, button, name(kButton));
-    if (hasFocus()) {
+    if (const auto focused = focusedHandle()) {
         painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
         painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(rectOf(lastHandle_).adjusted(1, 1, -1, -1), 4, 4);
+        painter.drawRoundedRect(rectOf(*focused).adjusted(1, 1, -1, -1), 4, 4);
     }
     drawTime(painter);
 }

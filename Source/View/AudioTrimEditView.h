@@ -89,6 +89,7 @@ protected:
 private:
     [[nodiscard]] double usableLength() const;
     void showHandles();
+    [[nodiscard]] std::optional<DragType> focusedHandle() const;
     void nudge(double seconds);
     void drawTime(QPainter& painter) const;
 

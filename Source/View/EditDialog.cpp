@@ -8,7 +8,10 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QScreen>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -39,6 +42,20 @@ void EditDialog::center() {
     QRect frame = frameGeometry();
     frame.moveCenter(around.center());
     move(frame.topLeft());
+}
+
+void EditDialog::showEvent(QShowEvent* event) {
+    if (QLayout* const content = layout()) {
+        content->activate();
+        QSize least = minimumSize().expandedTo(content->totalMinimumSize());
+        if (content->hasHeightForWidth()) // wrapped texts
+            least.setHeight(std::max(least.height(), content->totalMinimumHeightForWidth(std::max(width(), least.width()))));
+        if (const QScreen* const its = screen())
+            least = least.boundedTo(its->availableSize());
+        setMinimumSize(least);
+        resize(size().expandedTo(least));
+    }
+    QDialog::showEvent(event);
 }
 
 void EditDialog::keyPressEvent(QKeyEvent* event) {

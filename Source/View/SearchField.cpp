@@ -6,17 +6,16 @@
 
 #include <QAction>
 #include <QKeyEvent>
+#include <QToolButton>
 
 SearchField::SearchField(QWidget* parent) : QLineEdit(parent) {
     setPlaceholderText(tr("Search"));
     setAccessibleName(tr("Search titles, artists and albums"));
     setToolTip(tr("Search titles, artists and albums"));
     setClearButtonEnabled(true);
-    // The name of the button for screen readers.
-    if (auto* clearing = findChild<QAction*>(QStringLiteral("_q_qlineeditclearaction")))
-        clearing->setText(tr("Clear the search"));
     QAction* lens = addAction(NamedImages::icon(QStringLiteral("search")), LeadingPosition);
-    lens->setText(tr("Search"));
+    for (auto* button : findChildren<QToolButton*>())
+        button->setAccessibleName(button->defaultAction() == lens ? tr("Search") : tr("Clear the search"));
     connect(lens, &QAction::triggered, this, &SearchField::begin);
 }
 

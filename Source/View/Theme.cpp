@@ -42,6 +42,8 @@ public:
         const bool box = element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck;
         if (!box && element != PE_IndicatorRadioButton) {
             QProxyStyle::drawPrimitive(element, option, painter, widget);
+            if (element == PE_PanelButtonCommand && option->state & State_HasFocus)
+                drawFocus(*option, *painter, option->rect);
             return;
         }
         const QPalette& colors = option->palette;

@@ -16,10 +16,14 @@
 #include <QMenu>
 #include <QMessageBox>
 
+#include <algorithm>
+#include <array>
+
 using Window = WindowCommands::Window;
 
 namespace {
 constexpr int kSkipSeconds = 10;
+constexpr int kCompactBelow = 760; ///< a narrower window shows no texts in the strip
 } // namespace
 
 MainMenus::MainMenus(Ui::MainWnd& ui, RecordStateController& record, LibraryPresenter& library,
@@ -243,10 +247,18 @@ void MainMenus::place(QToolButton* button, QAction* action, const QString& icon,
     connect(button, &QToolButton::clicked, action, &QAction::trigger);
 }
 
-void MainMenus::setCompact(bool compact) {
-    for (QToolButton* button : {ui_.btnTrim_, ui_.btnRingtone_, ui_.btnEditTags_, ui_.btnBurn_, ui_.btnFilter_,
-                                ui_.btnShow_, ui_.btnOpen_, ui_.btnDelete_})
-        button->setToolButtonStyle(compact ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon);
+void MainMenus::fitStrip(int width) {
+    const std::array buttons{ui_.btnTrim_,   ui_.btnRingtone_, ui_.btnEditTags_, ui_.btnBurn_,
+                             ui_.btnFilter_, ui_.btnShow_,     ui_.btnOpen_,     ui_.btnDelete_};
+    const QMargins margins = ui_.additionalLayout->contentsMargins();
+    int needed = margins.left() + margins.right();
+    for (QToolButton* button : buttons) {
+        button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        needed += button->sizeHint().width() + ui_.additionalLayout->spacing();
+    }
+    if (width < std::max(needed, kCompactBelow))
+        for (QToolButton* button : buttons)
+            button->setToolButtonStyle(Qt::ToolButtonIconOnly);
 }
 
 void MainMenus::update() {

@@ -34,8 +34,8 @@ public:
     /// Updates titles and enabled states of all actions from recording and selection. Shortcuts of disabled actions do
     /// nothing, so call this at each change instead of when a menu opens.
     void update();
-    /// Shows only icons in the strip below the library, for narrow windows.
-    void setCompact(bool compact);
+    /// Shows only icons in the strip below the library when the texts do not fit into a window of this width.
+    void fitStrip(int width);
 
     [[nodiscard]] QMenu* audioTableViewMenu() const { return audioTableViewMenu_; }
     [[nodiscard]] QAction* startStop() const { return startStop_; }

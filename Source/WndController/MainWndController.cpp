@@ -31,10 +31,6 @@
 #include <QScreen>
 #include <QWindow>
 
-namespace {
-constexpr int kCompactBelow = 760; ///< below this width the strip's texts do not fit
-}
-
 MainWndController::MainWndController(RecordStateController& record, MediaLibrary& library, QObject* parent)
     : QObject(parent), record_(record), window_(std::make_unique<QMainWindow>()), ui_(std::make_unique<Ui::MainWnd>()),
       filter_(std::make_unique<AudioFilterController>()) {
@@ -120,6 +116,7 @@ void MainWndController::bindLibrary() {
     table->horizontalHeader()->setSortIndicatorClearable(true);
     table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     table->setSortingEnabled(true);
+    menus_->fitStrip(0); // the smallest window shows icons only
     layout_->restore();
 
     LibraryPresenter* library = library_.get();
@@ -232,7 +229,7 @@ bool MainWndController::eventFilter(QObject* watched, QEvent* event) {
             return true;
         }
         if (event->type() == QEvent::Resize)
-            menus_->setCompact(window_->width() < kCompactBelow);
+            menus_->fitStrip(window_->width());
     }
     return QObject::eventFilter(watched, event);
 }

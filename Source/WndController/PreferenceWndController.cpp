@@ -21,8 +21,11 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
+#include <QStyle>
 #include <QThread>
+#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 using namespace PreferenceStore;
@@ -376,8 +379,29 @@ void PreferenceWndController::fitHeight() {
     const int width = std::max(window_->width(), window_->minimumSizeHint().width());
     const int needed =
         layout->hasHeightForWidth() ? layout->totalHeightForWidth(width) : layout->totalSizeHint().height();
+    // Large text may need more than the screen: then the window scrolls.
+    const QSize room = window_->screen()->availableSize();
+    if (needed > room.height() && !scrollArea_) {
+        makeScrollable();
+        window_->resize(std::min(width + window_->style()->pixelMetric(QStyle::PM_ScrollBarExtent), room.width()),
+                        room.height());
+        return;
+    }
     if (needed > window_->height() || width > window_->width())
         window_->resize(width, std::max(needed, window_->height()));
+}
+
+void PreferenceWndController::makeScrollable() {
+    auto* content = new QWidget;
+    content->setLayout(window_->layout()); // takes the controls with it
+    scrollArea_ = new QScrollArea;
+    scrollArea_->setFrameShape(QFrame::NoFrame);
+    scrollArea_->setFocusPolicy(Qt::NoFocus);
+    scrollArea_->setWidgetResizable(true);
+    scrollArea_->setWidget(content);
+    auto* layout = new QVBoxLayout(window_.get());
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(scrollArea_);
 }
 
 bool PreferenceWndController::eventFilter(QObject* watched, QEvent* event) {
@@ -402,7 +426,8 @@ void PreferenceWndController::showWindow() {
 
 void PreferenceWndController::makeKeyAndOrderFront() {
     window_->layout()->activate();
-    window_->adjustSize();
+    if (!scrollArea_)
+        window_->adjustSize();
     fitHeight();
     window_->show();
     window_->raise();

@@ -14,6 +14,7 @@
 class KeybordShortcutTextView;
 class QComboBox;
 class QLineEdit;
+class QScrollArea;
 class QWidget;
 namespace Ui {
 class PreferenceWnd;
@@ -88,6 +89,7 @@ private:
     void showDeviceWork(const QString& work);
     void showHotKeyWay();
     void fitHeight();
+    void makeScrollable();
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     [[nodiscard]] QString whyDeviceStays() const;
@@ -96,5 +98,6 @@ private:
     std::unique_ptr<Platform::Autostart> autostart_;
     QString installProblem_; ///< why the last installation failed; a failed removal shows no message
     std::unique_ptr<QWidget> window_;
+    QScrollArea* scrollArea_ = nullptr; ///< only when the window does not fit the screen
     std::unique_ptr<Ui::PreferenceWnd> ui_;
 };

@@ -7,6 +7,7 @@
 
 #include <QEvent>
 #include <QHeaderView>
+#include <QLayout>
 #include <QMainWindow>
 #include <QScreen>
 #include <QSplitter>
@@ -79,6 +80,14 @@ void WindowLayout::restore() {
         size = {900, 600};
     if (const QScreen* screen = window_.screen())
         size = size.boundedTo(screen->availableSize());
+    // Large text needs more room than the smallest size that was designed.
+    if (QLayout* content = window_.layout()) {
+        content->activate();
+        QSize least = window_.minimumSize().expandedTo(content->totalMinimumSize());
+        if (const QScreen* screen = window_.screen())
+            least = least.boundedTo(screen->availableSize());
+        window_.setMinimumSize(least);
+    }
     window_.resize(size.expandedTo(window_.minimumSize()));
 
     const int library = Platform::intValue(stored.value(kLibrary));
