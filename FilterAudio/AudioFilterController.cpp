@@ -11,6 +11,8 @@
 
 #include <QKeyEvent>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -63,8 +65,9 @@ void AudioFilterController::bindControls() {
     columns.setMinimumSectionSize(24);
     columns.setSectionResizeMode(FilteredAudioModel::Title, QHeaderView::Stretch);
     columns.resizeSection(FilteredAudioModel::Tick, 32);
-    columns.resizeSection(FilteredAudioModel::Length, 88);
-    columns.resizeSection(FilteredAudioModel::Date, 104);
+    const QFontMetrics letters = table.fontMetrics();
+    columns.resizeSection(FilteredAudioModel::Length, std::max(88, letters.horizontalAdvance(u"00:00:00"_s) + 20));
+    columns.resizeSection(FilteredAudioModel::Date, std::max(104, letters.horizontalAdvance(u"0000/00/00"_s) + 20));
     table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().height() + 10);
     table.installEventFilter(this);
     ui_->lessThanSecondField->installEventFilter(this);

@@ -74,7 +74,8 @@ AudioDataSourceView::AudioDataSourceView(QWidget* parent) : QTreeView(parent) {
     columns->resizeSection(TrackListModel::Choose, kChooseWidth);
     columns->setSectionResizeMode(TrackListModel::AudioName, QHeaderView::Stretch);
     columns->setSectionResizeMode(TrackListModel::Time, QHeaderView::Fixed);
-    columns->resizeSection(TrackListModel::Time, kTimeWidth);
+    columns->resizeSection(TrackListModel::Time,
+                           std::max(kTimeWidth, fontMetrics().horizontalAdvance(QStringLiteral("00:00:00")) + 20));
     columns->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 
     makeActions();

@@ -49,7 +49,8 @@ void EditDialog::showEvent(QShowEvent* event) {
         content->activate();
         QSize least = minimumSize().expandedTo(content->totalMinimumSize());
         if (content->hasHeightForWidth()) // wrapped texts
-            least.setHeight(std::max(least.height(), content->totalMinimumHeightForWidth(std::max(width(), least.width()))));
+            least.setHeight(
+                std::max(least.height(), content->totalMinimumHeightForWidth(std::max(width(), least.width()))));
         if (const QScreen* const its = screen())
             least = least.boundedTo(its->availableSize());
         setMinimumSize(least);

@@ -90,7 +90,8 @@ public:
         painter->restore();
     }
 
-    // Fusion shows the focus only after Tab was pressed, and thinly. A dialog or a command may give it to a control, too.
+    // Fusion shows the focus only after Tab was pressed, and thinly. A dialog or a command may give it to a control,
+    // too.
     static void drawFocus(const QStyleOption& option, QPainter& painter, const QRectF& rect) {
         painter.save();
         painter.setRenderHint(QPainter::Antialiasing);

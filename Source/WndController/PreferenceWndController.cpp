@@ -402,6 +402,8 @@ void PreferenceWndController::makeScrollable() {
     auto* layout = new QVBoxLayout(window_.get());
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(scrollArea_);
+    window_->setMinimumSize(0, 0); // was set by the old layout
+    layout->activate();
 }
 
 bool PreferenceWndController::eventFilter(QObject* watched, QEvent* event) {

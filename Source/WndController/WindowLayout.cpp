@@ -13,6 +13,8 @@
 #include <QSplitter>
 #include <QTableView>
 
+#include <algorithm>
+
 namespace {
 
 const QString kWidth = QStringLiteral("width");
@@ -27,6 +29,8 @@ constexpr int kTableRoom = 520;    ///< when the table is narrower, the library'
 constexpr int kTitleRoom = 260;    ///< when the titles are narrower, empty columns are hidden
 constexpr int kRowsLookedAt = 500; ///< rows of a long list that are checked for an empty column
 
+constexpr int kCellMargins = 20;
+
 int firstWidth(int column) {
     switch (column) {
     case AudioTableModel::State:
@@ -38,6 +42,15 @@ int firstWidth(int column) {
     default:
         return 100;
     }
+}
+
+/// The width for a time or a date in the table's letters; 0 for other columns. A shortened number says nothing.
+int neededWidth(int column, const QFontMetrics& letters) {
+    if (column == AudioTableModel::Time)
+        return letters.horizontalAdvance(QStringLiteral("00:00:00")) + kCellMargins;
+    if (column == AudioTableModel::Date)
+        return letters.horizontalAdvance(QStringLiteral("0000/00/00")) + kCellMargins;
+    return 0;
 }
 
 } // namespace
@@ -101,7 +114,10 @@ void WindowLayout::restore() {
     for (int column = 0; column < AudioTableModel::ColumnCount; ++column) {
         const int width = Platform::intValue(columns.value(column));
         if (!header->isSectionHidden(column) && column != AudioTableModel::Title)
-            header->resizeSection(column, width >= kNarrowestColumn ? width : firstWidth(column));
+            header->resizeSection(column,
+                                  width >= kNarrowestColumn
+                                      ? width
+                                      : std::max(firstWidth(column), neededWidth(column, table_.fontMetrics())));
     }
     // The title column takes the remaining width, so that the columns always fill the table.
     header->setSectionResizeMode(AudioTableModel::Title, QHeaderView::Stretch);
