@@ -28,6 +28,13 @@
     </message>
 </context>
 <context>
+    <name>Announcement</name>
+    <message>
+        <source>Announcements</source>
+        <translation>الإعلانات</translation>
+    </message>
+</context>
+<context>
     <name>AppDelegate</name>
     <message>
         <source>The file cannot be opened.</source>
@@ -212,6 +219,10 @@
         <source>Playback position</source>
         <translation>موضع التشغيل</translation>
     </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 من %2</translation>
+    </message>
 </context>
 <context>
     <name>AudioPointerLineView</name>
@@ -223,8 +234,12 @@
 <context>
     <name>AudioRecordWaveView</name>
     <message>
-        <source>Level history</source>
-        <translation>سجل المستوى</translation>
+        <source>Recording level</source>
+        <translation>مستوى التسجيل</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>
@@ -272,12 +287,28 @@
         <source>Path</source>
         <translation>المسار</translation>
     </message>
+    <message>
+        <source>No mark</source>
+        <translation>بلا علامة</translation>
+    </message>
 </context>
 <context>
     <name>AudioTrimEditView</name>
     <message>
         <source>Range to keep</source>
         <translation>النطاق المُبقى</translation>
+    </message>
+    <message>
+        <source>Play position</source>
+        <translation>موضع التشغيل</translation>
+    </message>
+    <message>
+        <source>Begin of the range to keep</source>
+        <translation>بداية الجزء المُبقى</translation>
+    </message>
+    <message>
+        <source>End of the range to keep</source>
+        <translation>نهاية الجزء المُبقى</translation>
     </message>
 </context>
 <context>
@@ -504,6 +535,46 @@
     <message>
         <source>Notice %1 of %2. Show the next one</source>
         <translation>التنبيه %1 من %2. اعرض التالي</translation>
+    </message>
+    <message>
+        <source>Recording time</source>
+        <translation>مدة التسجيل</translation>
+    </message>
+    <message>
+        <source>Played</source>
+        <translation>ما شُغِّل</translation>
+    </message>
+    <message>
+        <source>Remaining</source>
+        <translation>المتبقي</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>تحذير</translation>
+    </message>
+    <message>
+        <source>Waiting for the first sound</source>
+        <translation>في انتظار أول صوت</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>جارٍ التسجيل</translation>
+    </message>
+    <message>
+        <source>Nothing is being recorded</source>
+        <translation>لا يُسجَّل شيء</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>متوقف مؤقتًا</translation>
+    </message>
+    <message>
+        <source>Finishing the recording</source>
+        <translation>يجري إنهاء التسجيل</translation>
+    </message>
+    <message>
+        <source>Not recording</source>
+        <translation>لا تسجيل</translation>
     </message>
 </context>
 <context>
@@ -1703,6 +1774,10 @@ commands:
         <source>Converting notice</source>
         <translation>تنبيه التحويل</translation>
     </message>
+    <message>
+        <source>The recording is converted.</source>
+        <translation>اكتمل تحويل التسجيل.</translation>
+    </message>
 </context>
 <context>
     <name>Desktop</name>
@@ -1937,6 +2012,10 @@ commands:
     <message>
         <source>Date</source>
         <translation>التاريخ</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>إزالة</translation>
     </message>
 </context>
 <context>
@@ -2241,6 +2320,10 @@ commands:
     <message>
         <source>Files</source>
         <translation>الملفات</translation>
+    </message>
+    <message>
+        <source>Heading</source>
+        <translation>عنوان</translation>
     </message>
 </context>
 <context>
@@ -2559,6 +2642,14 @@ commands:
         <translation>يسجّل ما يشغّله الحاسوب، أو ما يسمعه الميكروفون، أو كليهما.
 
 © 2026 مؤلفو Sonaphex. برمجية حرة بموجب رخصة جنو العمومية العامة (GNU GPL)، الإصدار 3 أو ما يليه.</translation>
+    </message>
+    <message>
+        <source>S&amp;ort By</source>
+        <translation>ال&amp;ترتيب حسب</translation>
+    </message>
+    <message>
+        <source>&amp;Unsorted</source>
+        <translation>&amp;بلا ترتيب</translation>
     </message>
 </context>
 <context>
@@ -3966,6 +4057,17 @@ commands:
         <source>Search titles, artists and albums</source>
         <translation>ابحث في العناوين والفنانين والألبومات</translation>
     </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>مسح البحث</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenField</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>StatusBarItem</name>
@@ -3984,6 +4086,13 @@ commands:
     <message>
         <source>Sonaphex: %1</source>
         <translation>Sonaphex: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Warning</source>
+        <translation>تحذير</translation>
     </message>
 </context>
 <context>

@@ -28,6 +28,13 @@
     </message>
 </context>
 <context>
+    <name>Announcement</name>
+    <message>
+        <source>Announcements</source>
+        <translation>Ansagen</translation>
+    </message>
+</context>
+<context>
     <name>AppDelegate</name>
     <message>
         <source>The file cannot be opened.</source>
@@ -212,6 +219,10 @@
         <source>Playback position</source>
         <translation>Wiedergabeposition</translation>
     </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
 </context>
 <context>
     <name>AudioPointerLineView</name>
@@ -223,8 +234,12 @@
 <context>
     <name>AudioRecordWaveView</name>
     <message>
-        <source>Level history</source>
-        <translation>Pegelverlauf</translation>
+        <source>Recording level</source>
+        <translation>Aufnahmepegel</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>
@@ -272,12 +287,28 @@
         <source>Path</source>
         <translation>Pfad</translation>
     </message>
+    <message>
+        <source>No mark</source>
+        <translation>Keine Markierung</translation>
+    </message>
 </context>
 <context>
     <name>AudioTrimEditView</name>
     <message>
         <source>Range to keep</source>
         <translation>Zu behaltender Bereich</translation>
+    </message>
+    <message>
+        <source>Play position</source>
+        <translation>Abspielposition</translation>
+    </message>
+    <message>
+        <source>Begin of the range to keep</source>
+        <translation>Anfang des Bereichs, der bleibt</translation>
+    </message>
+    <message>
+        <source>End of the range to keep</source>
+        <translation>Ende des Bereichs, der bleibt</translation>
     </message>
 </context>
 <context>
@@ -504,6 +535,46 @@
     <message>
         <source>Notice %1 of %2. Show the next one</source>
         <translation>Hinweis %1 von %2. Den nächsten anzeigen</translation>
+    </message>
+    <message>
+        <source>Recording time</source>
+        <translation>Aufnahmezeit</translation>
+    </message>
+    <message>
+        <source>Played</source>
+        <translation>Gespielt</translation>
+    </message>
+    <message>
+        <source>Remaining</source>
+        <translation>Verbleibend</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Waiting for the first sound</source>
+        <translation>Wartet auf den ersten Ton</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Aufnahme läuft</translation>
+    </message>
+    <message>
+        <source>Nothing is being recorded</source>
+        <translation>Es wird nichts aufgenommen</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Pausiert</translation>
+    </message>
+    <message>
+        <source>Finishing the recording</source>
+        <translation>Die Aufnahme wird abgeschlossen</translation>
+    </message>
+    <message>
+        <source>Not recording</source>
+        <translation>Keine Aufnahme</translation>
     </message>
 </context>
 <context>
@@ -1687,6 +1758,10 @@ Befehle:
         <source>Converting notice</source>
         <translation>Umwandlungshinweis</translation>
     </message>
+    <message>
+        <source>The recording is converted.</source>
+        <translation>Die Aufnahme ist umgewandelt.</translation>
+    </message>
 </context>
 <context>
     <name>Desktop</name>
@@ -1921,6 +1996,10 @@ Befehle:
     <message>
         <source>Date</source>
         <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
     </message>
 </context>
 <context>
@@ -2221,6 +2300,10 @@ Befehle:
     <message>
         <source>Files</source>
         <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Heading</source>
+        <translation>Überschrift</translation>
     </message>
 </context>
 <context>
@@ -2539,6 +2622,14 @@ Befehle:
         <translation>Nimmt auf, was der Computer wiedergibt, was ein Mikrofon hört, oder beides.
 
 © 2026 Die Sonaphex-Autoren. Freie Software unter der GNU General Public License, Version 3 oder neuer.</translation>
+    </message>
+    <message>
+        <source>S&amp;ort By</source>
+        <translation>S&amp;ortieren nach</translation>
+    </message>
+    <message>
+        <source>&amp;Unsorted</source>
+        <translation>&amp;Unsortiert</translation>
     </message>
 </context>
 <context>
@@ -3934,6 +4025,17 @@ Befehle:
         <source>Search titles, artists and albums</source>
         <translation>Titel, Interpreten und Alben durchsuchen</translation>
     </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>Suche leeren</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenField</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>StatusBarItem</name>
@@ -3952,6 +4054,13 @@ Befehle:
     <message>
         <source>Sonaphex: %1</source>
         <translation>Sonaphex: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
     </message>
 </context>
 <context>

@@ -28,6 +28,13 @@
     </message>
 </context>
 <context>
+    <name>Announcement</name>
+    <message>
+        <source>Announcements</source>
+        <translation>Avisos</translation>
+    </message>
+</context>
+<context>
     <name>AppDelegate</name>
     <message>
         <source>The file cannot be opened.</source>
@@ -212,6 +219,10 @@
         <source>Playback position</source>
         <translation>Posición de reproducción</translation>
     </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
 </context>
 <context>
     <name>AudioPointerLineView</name>
@@ -223,8 +234,12 @@
 <context>
     <name>AudioRecordWaveView</name>
     <message>
-        <source>Level history</source>
-        <translation>Historial del nivel</translation>
+        <source>Recording level</source>
+        <translation>Nivel de grabación</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>
@@ -272,12 +287,28 @@
         <source>Path</source>
         <translation>Ruta</translation>
     </message>
+    <message>
+        <source>No mark</source>
+        <translation>Sin marca</translation>
+    </message>
 </context>
 <context>
     <name>AudioTrimEditView</name>
     <message>
         <source>Range to keep</source>
         <translation>Intervalo que se conserva</translation>
+    </message>
+    <message>
+        <source>Play position</source>
+        <translation>Posición de reproducción</translation>
+    </message>
+    <message>
+        <source>Begin of the range to keep</source>
+        <translation>Inicio de la parte que se conserva</translation>
+    </message>
+    <message>
+        <source>End of the range to keep</source>
+        <translation>Final de la parte que se conserva</translation>
     </message>
 </context>
 <context>
@@ -504,6 +535,46 @@
     <message>
         <source>Notice %1 of %2. Show the next one</source>
         <translation>Aviso %1 de %2. Mostrar el siguiente</translation>
+    </message>
+    <message>
+        <source>Recording time</source>
+        <translation>Tiempo de grabación</translation>
+    </message>
+    <message>
+        <source>Played</source>
+        <translation>Transcurrido</translation>
+    </message>
+    <message>
+        <source>Remaining</source>
+        <translation>Restante</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>Waiting for the first sound</source>
+        <translation>A la espera del primer sonido</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Grabando</translation>
+    </message>
+    <message>
+        <source>Nothing is being recorded</source>
+        <translation>No se graba nada</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pausa</translation>
+    </message>
+    <message>
+        <source>Finishing the recording</source>
+        <translation>Se está terminando la grabación</translation>
+    </message>
+    <message>
+        <source>Not recording</source>
+        <translation>No se está grabando</translation>
     </message>
 </context>
 <context>
@@ -1687,6 +1758,10 @@ commands:
         <source>Converting notice</source>
         <translation>Aviso de conversión</translation>
     </message>
+    <message>
+        <source>The recording is converted.</source>
+        <translation>La grabación está convertida.</translation>
+    </message>
 </context>
 <context>
     <name>Desktop</name>
@@ -1921,6 +1996,10 @@ commands:
     <message>
         <source>Date</source>
         <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
     </message>
 </context>
 <context>
@@ -2221,6 +2300,10 @@ commands:
     <message>
         <source>Files</source>
         <translation>Núm.</translation>
+    </message>
+    <message>
+        <source>Heading</source>
+        <translation>Encabezado</translation>
     </message>
 </context>
 <context>
@@ -2539,6 +2622,14 @@ commands:
         <translation>Graba lo que reproduce el equipo, lo que capta un micrófono, o ambas cosas.
 
 © 2026 Los autores de Sonaphex. Software libre bajo la Licencia Pública General de GNU, versión 3 o posterior.</translation>
+    </message>
+    <message>
+        <source>S&amp;ort By</source>
+        <translation>&amp;Ordenar por</translation>
+    </message>
+    <message>
+        <source>&amp;Unsorted</source>
+        <translation>&amp;Sin ordenar</translation>
     </message>
 </context>
 <context>
@@ -3934,6 +4025,17 @@ commands:
         <source>Search titles, artists and albums</source>
         <translation>Buscar en títulos, artistas y álbumes</translation>
     </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>Borrar la búsqueda</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenField</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>StatusBarItem</name>
@@ -3952,6 +4054,13 @@ commands:
     <message>
         <source>Sonaphex: %1</source>
         <translation>Sonaphex: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
     </message>
 </context>
 <context>

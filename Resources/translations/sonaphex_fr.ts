@@ -28,6 +28,13 @@
     </message>
 </context>
 <context>
+    <name>Announcement</name>
+    <message>
+        <source>Announcements</source>
+        <translation>Annonces</translation>
+    </message>
+</context>
+<context>
     <name>AppDelegate</name>
     <message>
         <source>The file cannot be opened.</source>
@@ -212,6 +219,10 @@
         <source>Playback position</source>
         <translation>Position de lecture</translation>
     </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
 </context>
 <context>
     <name>AudioPointerLineView</name>
@@ -223,8 +234,12 @@
 <context>
     <name>AudioRecordWaveView</name>
     <message>
-        <source>Level history</source>
-        <translation>Historique du niveau</translation>
+        <source>Recording level</source>
+        <translation>Niveau d’enregistrement</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>
@@ -272,12 +287,28 @@
         <source>Path</source>
         <translation>Chemin</translation>
     </message>
+    <message>
+        <source>No mark</source>
+        <translation>Aucune marque</translation>
+    </message>
 </context>
 <context>
     <name>AudioTrimEditView</name>
     <message>
         <source>Range to keep</source>
         <translation>Plage à conserver</translation>
+    </message>
+    <message>
+        <source>Play position</source>
+        <translation>Position de lecture</translation>
+    </message>
+    <message>
+        <source>Begin of the range to keep</source>
+        <translation>Début de la partie à conserver</translation>
+    </message>
+    <message>
+        <source>End of the range to keep</source>
+        <translation>Fin de la partie à conserver</translation>
     </message>
 </context>
 <context>
@@ -504,6 +535,46 @@
     <message>
         <source>Notice %1 of %2. Show the next one</source>
         <translation>Avis %1 sur %2. Afficher le suivant</translation>
+    </message>
+    <message>
+        <source>Recording time</source>
+        <translation>Durée d’enregistrement</translation>
+    </message>
+    <message>
+        <source>Played</source>
+        <translation>Écoulé</translation>
+    </message>
+    <message>
+        <source>Remaining</source>
+        <translation>Restant</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Waiting for the first sound</source>
+        <translation>En attente du premier son</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Enregistrement en cours</translation>
+    </message>
+    <message>
+        <source>Nothing is being recorded</source>
+        <translation>Rien n’est enregistré</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pause</translation>
+    </message>
+    <message>
+        <source>Finishing the recording</source>
+        <translation>Finalisation de l’enregistrement</translation>
+    </message>
+    <message>
+        <source>Not recording</source>
+        <translation>Pas d’enregistrement</translation>
     </message>
 </context>
 <context>
@@ -1624,7 +1695,7 @@ commandes&#xa0;:
     <message>
         <source>%1: %2</source>
         <comment>a list of the library and how many are in it</comment>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -1686,6 +1757,10 @@ commandes&#xa0;:
     <message>
         <source>Converting notice</source>
         <translation>Avis de conversion</translation>
+    </message>
+    <message>
+        <source>The recording is converted.</source>
+        <translation>L’enregistrement est converti.</translation>
     </message>
 </context>
 <context>
@@ -1922,6 +1997,10 @@ commandes&#xa0;:
         <source>Date</source>
         <translation>Date</translation>
     </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
 </context>
 <context>
     <name>Foundation</name>
@@ -2062,11 +2141,11 @@ commandes&#xa0;:
     </message>
     <message>
         <source>The tags of “%1” could not be written.</source>
-        <translation>Les étiquettes de « %1 » n’ont pas pu être écrites.</translation>
+        <translation>Les étiquettes de «&#xa0;%1&#xa0;» n’ont pas pu être écrites.</translation>
     </message>
     <message>
         <source>The tags of “%1” could not be written: %2</source>
-        <translation>Les étiquettes de « %1 » n’ont pas pu être écrites : %2</translation>
+        <translation>Les étiquettes de «&#xa0;%1&#xa0;» n’ont pas pu être écrites&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -2221,6 +2300,10 @@ commandes&#xa0;:
     <message>
         <source>Files</source>
         <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>Heading</source>
+        <translation>Titre</translation>
     </message>
 </context>
 <context>
@@ -2539,6 +2622,14 @@ commandes&#xa0;:
         <translation>Enregistre le son joué par l’ordinateur, celui d’un micro, ou les deux.
 
 © 2026 Les auteurs de Sonaphex. Logiciel libre sous licence publique générale GNU, version 3 ou ultérieure.</translation>
+    </message>
+    <message>
+        <source>S&amp;ort By</source>
+        <translation>&amp;Trier par</translation>
+    </message>
+    <message>
+        <source>&amp;Unsorted</source>
+        <translation>&amp;Non trié</translation>
     </message>
 </context>
 <context>
@@ -3934,6 +4025,17 @@ commandes&#xa0;:
         <source>Search titles, artists and albums</source>
         <translation>Rechercher dans les titres, artistes et albums</translation>
     </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>Effacer la recherche</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenField</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
 </context>
 <context>
     <name>StatusBarItem</name>
@@ -3952,6 +4054,13 @@ commandes&#xa0;:
     <message>
         <source>Sonaphex: %1</source>
         <translation>Sonaphex&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
     </message>
 </context>
 <context>

@@ -28,6 +28,13 @@
     </message>
 </context>
 <context>
+    <name>Announcement</name>
+    <message>
+        <source>Announcements</source>
+        <translation>お知らせ</translation>
+    </message>
+</context>
+<context>
     <name>AppDelegate</name>
     <message>
         <source>The file cannot be opened.</source>
@@ -212,6 +219,10 @@
         <source>Playback position</source>
         <translation>再生位置</translation>
     </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2 中 %1</translation>
+    </message>
 </context>
 <context>
     <name>AudioPointerLineView</name>
@@ -223,8 +234,12 @@
 <context>
     <name>AudioRecordWaveView</name>
     <message>
-        <source>Level history</source>
-        <translation>レベルの履歴</translation>
+        <source>Recording level</source>
+        <translation>録音レベル</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>
@@ -272,12 +287,28 @@
         <source>Path</source>
         <translation>パス</translation>
     </message>
+    <message>
+        <source>No mark</source>
+        <translation>印なし</translation>
+    </message>
 </context>
 <context>
     <name>AudioTrimEditView</name>
     <message>
         <source>Range to keep</source>
         <translation>残す範囲</translation>
+    </message>
+    <message>
+        <source>Play position</source>
+        <translation>再生位置</translation>
+    </message>
+    <message>
+        <source>Begin of the range to keep</source>
+        <translation>残す範囲の始まり</translation>
+    </message>
+    <message>
+        <source>End of the range to keep</source>
+        <translation>残す範囲の終わり</translation>
     </message>
 </context>
 <context>
@@ -504,6 +535,46 @@
     <message>
         <source>Notice %1 of %2. Show the next one</source>
         <translation>お知らせ %1/%2。次を表示</translation>
+    </message>
+    <message>
+        <source>Recording time</source>
+        <translation>録音時間</translation>
+    </message>
+    <message>
+        <source>Played</source>
+        <translation>再生済み</translation>
+    </message>
+    <message>
+        <source>Remaining</source>
+        <translation>残り</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Waiting for the first sound</source>
+        <translation>最初の音を待っています</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>録音中</translation>
+    </message>
+    <message>
+        <source>Nothing is being recorded</source>
+        <translation>何も録音されていません</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>一時停止中</translation>
+    </message>
+    <message>
+        <source>Finishing the recording</source>
+        <translation>録音を仕上げています</translation>
+    </message>
+    <message>
+        <source>Not recording</source>
+        <translation>録音していません</translation>
     </message>
 </context>
 <context>
@@ -1683,6 +1754,10 @@ commands:
         <source>Converting notice</source>
         <translation>変換中のお知らせ</translation>
     </message>
+    <message>
+        <source>The recording is converted.</source>
+        <translation>録音の変換が終わりました。</translation>
+    </message>
 </context>
 <context>
     <name>Desktop</name>
@@ -1917,6 +1992,10 @@ commands:
     <message>
         <source>Date</source>
         <translation>日付</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
     </message>
 </context>
 <context>
@@ -2216,6 +2295,10 @@ commands:
     <message>
         <source>Files</source>
         <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Heading</source>
+        <translation>見出し</translation>
     </message>
 </context>
 <context>
@@ -2534,6 +2617,14 @@ commands:
         <translation>コンピューターの再生音、マイクの音、または両方を録音します。
 
 © 2026 The Sonaphex authors. GNU General Public License バージョン 3 以降に基づく自由ソフトウェアです。</translation>
+    </message>
+    <message>
+        <source>S&amp;ort By</source>
+        <translation>並べ替え(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Unsorted</source>
+        <translation>並べ替えなし(&amp;U)</translation>
     </message>
 </context>
 <context>
@@ -3926,6 +4017,17 @@ commands:
         <source>Search titles, artists and albums</source>
         <translation>タイトル、アーティスト、アルバムを検索</translation>
     </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>検索を消去</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenField</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>StatusBarItem</name>
@@ -3944,6 +4046,13 @@ commands:
     <message>
         <source>Sonaphex: %1</source>
         <translation>Sonaphex: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
     </message>
 </context>
 <context>

@@ -160,9 +160,11 @@ TEST(Translations, ContainAllTextsOfTheSources) {
         const QSet<QString> wanted = keysOf(messagesOfFile(scratch.filePath(fileOf(language))));
         EXPECT_GT(wanted.size(), 500);
         const char* help = "scripts/translations adds and removes texts";
-        for (const QString& key : QSet(wanted).subtract(stored))
+        const QSet<QString> lacking = wanted - stored;
+        const QSet<QString> old = stored - wanted;
+        for (const QString& key : lacking)
             ADD_FAILURE() << qPrintable(fileOf(language)) << " lacks " << qPrintable(key) << ": " << help;
-        for (const QString& key : QSet(stored).subtract(wanted))
+        for (const QString& key : old)
             ADD_FAILURE() << qPrintable(fileOf(language)) << " has the old text " << qPrintable(key) << ": " << help;
     }
 }
