@@ -59,7 +59,7 @@ void printCollection(const QString& title, const QVariantList& entries) {
     for (const QVariant& object : entries) {
         const Dictionary entry = object.toMap();
         const QString path = text(entry, SavePath);
-        print(u"  %1  %2  %3"_s.arg(text(entry, AddDate),
+        print(u"  %1  %2  %3"_s.arg(Platform::Translations::date(text(entry, AddDate)),
                                     ToolControl::getTimeString(Platform::longLongValue(entry.value(Length))),
                                     Platform::onOneLine(text(entry, Title))));
         const QString line = u"      %1 %2"_s;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "FilterAudio/FilteredAudioModel.h"
 
+#include "Platform/Foundation/Translations.h"
 #include "Source/Control/ToolControl.h"
 #include "Source/Model/AudioRecordEntry.h"
 
@@ -115,7 +116,7 @@ QVariant FilteredAudioModel::data(const QModelIndex& index, int role) const {
         if (index.column() == Length)
             return ToolControl::getTimeString(Platform::longLongValue(entry.value(AudioRecordEntry::Length)));
         if (index.column() == Date)
-            return text(entry, AudioRecordEntry::AddDate);
+            return Platform::Translations::date(text(entry, AudioRecordEntry::AddDate));
         return {};
     default:
         return {};

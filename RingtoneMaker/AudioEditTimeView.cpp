@@ -31,6 +31,7 @@ QString timeText(double seconds) {
 AudioEditTimeView::AudioEditTimeView(QWidget* parent)
     : ImageCacheView(parent),
       scroll_(*this, [this](QPoint global) { setAudioPosition(float(mapFromGlobal(global).x())); }) {
+    setLayoutDirection(Qt::LeftToRight); // time runs from left to right in every language
     setAccessibleName(tr("Play position"));
     setFocusPolicy(Qt::StrongFocus);
     QFont letters = font();

@@ -13,6 +13,7 @@
 using namespace Qt::StringLiterals;
 
 AudioPointerLineView::AudioPointerLineView(QWidget* parent) : QWidget(parent) {
+    setLayoutDirection(Qt::LeftToRight); // time runs from left to right in every language
     setAccessibleName(tr("Play pointer"));
     setFocusPolicy(Qt::ClickFocus);
     setAttribute(Qt::WA_TransparentForMouseEvents);

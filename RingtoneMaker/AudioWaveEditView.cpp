@@ -20,6 +20,7 @@ QColor ground() {
 AudioWaveEditView::AudioWaveEditView(QWidget* parent)
     : ImageCacheView(parent),
       scroll_(*this, [this](QPoint global) { trimAudioFromPoint(pressed_, QPointF(mapFromGlobal(global))); }) {
+    setLayoutDirection(Qt::LeftToRight); // time runs from left to right in every language
     setAccessibleName(tr("Outline"));
     setFocusPolicy(Qt::ClickFocus);
     // Moves without a pressed button are also reported; they have no effect.

@@ -22,6 +22,7 @@ bool holds(const QRectF& rect, QPointF point) {
 
 AudioWaveTrimView::AudioWaveTrimView(QWidget* parent)
     : QWidget(parent), scroll_(*this, [this](QPoint global) { drag(global); }) {
+    setLayoutDirection(Qt::LeftToRight); // time runs from left to right in every language
     setAccessibleName(tr("Selection"));
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);

@@ -81,6 +81,7 @@ void RingtoneMakerViewController::layViews() {
     area.setFixedHeight(height + area.horizontalScrollBar()->sizeHint().height());
     area.horizontalScrollBar()->setSingleStep(int(kPointsPerSecond));
     area.viewport()->setAutoFillBackground(false);
+    area.setLayoutDirection(Qt::LeftToRight); // time runs from left to right in every language
     ui_->audioEditContainerView->setAutoFillBackground(false);
     ui_->audioEditContainerView->resize(100, height);
     area.viewport()->installEventFilter(this);

@@ -31,6 +31,8 @@ QString install();
 /// A number for people: with the digits and the decimal sign of the locale, and without separators of thousands. Any
 /// thread.
 [[nodiscard]] QString number(qint64 value);
+/// A stored date ("2026/11/21") as the locale writes it. Any thread.
+[[nodiscard]] QString date(const QString& stored);
 [[nodiscard]] QString decimal(double value, char format = 'g', int precision = 6);
 
 } // namespace Platform::Translations

@@ -13,6 +13,7 @@ using namespace Qt::StringLiterals;
 
 AudioPlayProgressView::AudioPlayProgressView(QWidget* parent) : QWidget(parent) {
     setFocusPolicy(Qt::StrongFocus);
+    setLayoutDirection(Qt::LeftToRight); // time runs from left to right in every language
     setAccessibleName(tr("Playback position"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }

@@ -12,6 +12,7 @@
 #include <cmath>
 
 AudioRecordWaveView::AudioRecordWaveView(QWidget* parent) : QWidget(parent) {
+    setLayoutDirection(Qt::LeftToRight); // time runs from left to right in every language
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAccessibleName(tr("Recording level"));
 }

@@ -87,6 +87,7 @@ AudioTrimEditView::AudioTrimEditView(QWidget* parent)
       trimBackHeight_(NamedImages::naturalSize(name(kBack)).height()),
       trimAreaHeight_(NamedImages::naturalSize(name(kArea)).height()),
       btnSize_(NamedImages::naturalSize(name(kButton))) {
+    setLayoutDirection(Qt::LeftToRight); // time runs from left to right in every language
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setAccessibleName(tr("Range to keep"));
     handles_ = {new TrimHandle(*this, Seek, tr("Play position")),

@@ -14,6 +14,7 @@ constexpr int kGap = 8;
 }
 
 RangeTimesView::RangeTimesView(QWidget* parent) : QWidget(parent) {
+    setLayoutDirection(Qt::LeftToRight); // time runs from left to right in every language
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 

@@ -12,6 +12,7 @@
 #include <utility>
 
 TabularLabel::TabularLabel(QWidget* parent) : QWidget(parent) {
+    setLayoutDirection(Qt::LeftToRight); // time runs from left to right in every language
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
 }
 

@@ -3,6 +3,7 @@
 #include "Source/WndController/AudioTableModel.h"
 
 #include "Platform/Foundation/MainQueue.h"
+#include "Platform/Foundation/Translations.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
 #include "Source/Model/MissingFiles.h"
@@ -311,6 +312,8 @@ QVariant AudioTableModel::data(const QModelIndex& index, int role) const {
     }
     if (index.column() == State)
         return stateData(entry, role);
+    if (role == Qt::DisplayRole && index.column() == Date)
+        return Platform::Translations::date(Platform::stringForm(AudioTags::audioTag(entry, identifier(Date))));
     if (role == Qt::DisplayRole)
         return index.column() == Title && hasNoTitle(entry) ? QVariant(QFileInfo(path).fileName())
                                                             : AudioTags::audioTag(entry, identifier(index.column()));

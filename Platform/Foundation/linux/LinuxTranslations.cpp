@@ -4,6 +4,7 @@
 #include "Platform/Foundation/linux/LinuxFoundation.h"
 
 #include <QCoreApplication>
+#include <QDate>
 #include <QDir>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -69,6 +70,18 @@ QString number(qint64 value) {
 
 QString decimal(double value, char format, int precision) {
     return plainNumbers().toString(value, format, precision);
+}
+
+QString date(const QString& stored) {
+    const QLocale locale;
+    const QDate date = QDate::fromString(stored, u"yyyy/MM/dd"_s);
+    if (!date.isValid() || locale.language() == QLocale::C)
+        return stored;
+    // The year with all its digits: recordings may be kept for decades.
+    QString format = locale.dateFormat(QLocale::ShortFormat);
+    if (!format.contains(u"yyyy"_s))
+        format.replace(u"yy"_s, u"yyyy"_s);
+    return locale.toString(date, format);
 }
 
 QString language() {

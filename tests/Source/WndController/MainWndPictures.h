@@ -3,13 +3,11 @@
 #pragma once
 
 #include "Source/AudioWaveViewController/AudioRecordWaveView.h"
-#include "Source/View/TabularLabel.h"
 #include "Source/View/Theme.h"
 #include "tests/Source/WndController/WindowWorld.h"
+#include "tests/support/CutOffTexts.h"
 #include "tests/support/Screenshot.h"
 
-#include <QAbstractButton>
-#include <QLabel>
 #include <QTableView>
 #include <cmath>
 #include <gtest/gtest.h>
@@ -92,27 +90,8 @@ protected:
                 take(u"%1-%2-at-%3"_s.arg(name).arg(size.width()).arg(ratio), ratio);
         }
     }
-    /// The visible texts that do not fit their widgets and that no tool tip shows whole.
-    [[nodiscard]] QStringList cutOff() const {
-        QStringList names;
-        const QWidget* window = world.controller->window();
-        for (const QWidget* each : window->findChildren<QWidget*>()) {
-            if (!each->isVisible() || each->visibleRegion().isEmpty())
-                continue;
-            if (qobject_cast<const TabularLabel*>(each) && each->width() < each->sizeHint().width())
-                names.append(each->objectName());
-            const auto* label = qobject_cast<const QLabel*>(each);
-            const auto* button = qobject_cast<const QAbstractButton*>(each);
-            if (label && !label->text().isEmpty() && label->toolTip().isEmpty()) {
-                const QSize text = label->fontMetrics().size(0, label->text());
-                if (text.width() > label->width() + 1 || text.height() > label->height() + 1)
-                    names.append(label->objectName() + u": "_s + label->text());
-            }
-            if (button && !button->text().isEmpty() && button->sizeHint().width() > button->width())
-                names.append(button->objectName() + u": "_s + button->text());
-        }
-        return names;
-    }
+    /// The visible texts that do not fit.
+    [[nodiscard]] QStringList cutOff() const { return cutOffTexts(*world.controller->window()); }
     void feed(float level, AudioObjectID device = WindowWorld::kMicrophone) {
         world.hardware.unitOf(device)->feedValue(level, 512);
     }
