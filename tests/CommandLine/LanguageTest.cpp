@@ -4,6 +4,7 @@
 #include "CommandLine/CommandHelp.h"
 #include "CommandLine/CommandManual.h"
 #include "Platform/Foundation/Translations.h"
+#include "Source/Model/AudioRecordEntry.h"
 #include "tests/CommandLine/CommandRun.h"
 #include "tests/CommandLine/ProgramHome.h"
 #include "tests/support/Mpeg4Files.h"
@@ -158,11 +159,9 @@ TEST(Language, NoErrorBypassesTranslation) {
         {"record", {u"--for"_s}},
         {"ringtone", {u"a"_s}},
         {"split", {u"a"_s}},
-        {"split", {u"/none/a"_s, u"--silence"_s, u"100"_s}},
         {"tag", {}},
         {"tag", {u"a"_s, u"--year"_s, u"x"_s}},
         {"trim", {u"a"_s}},
-        {"trim", {u"/none/a"_s, u"--from"_s, u"1"_s}},
         {"waveform", {}},
         {"manual", {u"x"_s}},
         {"completions", {}}};

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QRegularExpression>
 #include <QSet>
@@ -131,6 +132,66 @@ QSet<QString> keysOf(const QList<Message>& messages) {
     return keys;
 }
 
+/// Texts in code that are the same in every language: protocols, stored values, names of devices, commands.
+bool isTheSameInEveryLanguage(const QString& path, const QString& literal) {
+    static const QStringList all{u"Korvane System Audio"_s,
+                                 u"NO Title"_s,
+                                 u"NO Artist"_s,
+                                 u"NO Album"_s,
+                                 u"NO General"_s,
+                                 u"Audio CD"_s,
+                                 u"Audio Name"_s,
+                                 u"Disc Image (CUE/BIN)"_s,
+                                 u"Lucida Grande"_s,
+                                 u"sonaphex control "_s,
+                                 u"Only recordings of the library are played."_s,
+                                 u"no path"_s,
+                                 u"no list of keys"_s,
+                                 u"html lang="_s,
+                                 u"rm -rf"_s,
+                                 u"umask "_s,
+                                 u"mkdir -p"_s,
+                                 u"mv -T"_s,
+                                 u"ended in the middle of a recording"_s};
+    return path == u"CommandLine/CommandManual.cpp"_s ||
+           std::ranges::any_of(all, [&literal](const QString& each) { return literal.contains(each); });
+}
+
+/// Literals of two words and more that a user would read untranslated: QString literals, and what is printed directly.
+/// Translated texts are neither, because tr() takes plain characters.
+QStringList untranslatedIn(const QString& path, QString code) {
+    static const QRegularExpression comment(u"^\\s*//[^\\n]*"_s, QRegularExpression::MultilineOption);
+    static const QRegularExpression literal(
+        u"u(\"(?:[^\"\\\\\\n]|\\\\.)*\"(?:\\s*u?\"(?:[^\"\\\\\\n]|\\\\.)*\")*)_s"
+        "|QStringLiteral\\(\\s*(\"(?:[^\"\\\\\\n]|\\\\.)*\"(?:\\s*\"(?:[^\"\\\\\\n]|\\\\.)*\")*)"
+        "|(?:printf|fputs)\\((?:std(?:err|out),\\s*)?(\"(?:[^\"\\\\\\n]|\\\\.)*\")"_s);
+    static const QRegularExpression words(u"[A-Za-z]{2,},? [A-Za-z]{2,}"_s);
+    QStringList found;
+    code.remove(comment);
+    for (auto matches = literal.globalMatch(code); matches.hasNext();) {
+        const auto match = matches.next();
+        const QString text = match.captured(1) + match.captured(2) + match.captured(3);
+        if (text.contains(words) && !isTheSameInEveryLanguage(path, text))
+            found << path + u": "_s + text;
+    }
+    return found;
+}
+
+QStringList untranslatedTexts() {
+    const QDir root(QStringLiteral(SONAPHEX_SOURCE_DIR));
+    QStringList found;
+    QDirIterator tree(root.path(), {u"*.h"_s, u"*.cpp"_s}, QDir::Files, QDirIterator::Subdirectories);
+    while (tree.hasNext()) {
+        const QString path = root.relativeFilePath(tree.next());
+        static const QRegularExpression shown(
+            u"^(Platform|Source|CaptureComputerAudio|FilterAudio|RingtoneMaker|CommandLine|[A-Za-z]+\\.(h|cpp)$)"_s);
+        QFile file(root.filePath(path));
+        if (path.contains(shown) && file.open(QIODevice::ReadOnly))
+            found << untranslatedIn(path, QString::fromUtf8(file.readAll()));
+    }
+    return found;
+}
+
 Message plain(const QString& source, const QString& translation) {
     return {.context = u"C"_s, .source = source, .forms = {translation}};
 }
@@ -191,4 +252,20 @@ TEST(Translations, AFaultInATranslationIsFound) {
     EXPECT_NE(faultOf(message), QString());
     message.forms = {u"%n"_s, u"%n von %1"_s};
     EXPECT_NE(faultOf(message), QString());
+}
+
+TEST(Translations, NoTextInTheCodeBypassesTranslation) {
+    for (const QString& text : untranslatedTexts())
+        ADD_FAILURE() << qPrintable(text) << ": use tr() or QCoreApplication::translate()";
+}
+
+TEST(Translations, ATextInTheCodeThatBypassesTranslationIsFound) {
+    const auto count = [](const char* code) { return untranslatedIn(u"a.cpp"_s, QString::fromUtf8(code)).size(); };
+    EXPECT_EQ(count(R"(why = u"the disk is full"_s;)"), 1);
+    EXPECT_EQ(count(R"(why = QStringLiteral("the disk " "is full");)"), 1);
+    EXPECT_EQ(count(R"(std::fprintf(stderr, "sonaphex: the disk is full\n");)"), 1);
+    EXPECT_EQ(count(R"(why = tr("the disk is full");)"), 0);
+    EXPECT_EQ(count(R"(key = u"PreferenceFilterKey"_s;)"), 0);
+    EXPECT_EQ(count(R"(artist == u"NO Artist"_s)"), 0);
+    EXPECT_EQ(count(R"(// u"the disk is full"_s)"), 0);
 }
