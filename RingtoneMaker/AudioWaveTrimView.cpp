@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "RingtoneMaker/AudioWaveTrimView.h"
 
+#include "Platform/Foundation/Translations.h"
 #include "RingtoneMaker/ValueTransformers.h"
 
 #include <QKeyEvent>
@@ -208,7 +209,7 @@ QString AudioWaveTrimView::spokenValue() const {
     const AudioWaveTime2TimeStringTransformer time;
     return tr("from %1 to %2, %3 seconds")
         .arg(time.transformedValue(audioFromTime()).toString(), time.transformedValue(audioToTime()).toString(),
-             QString::number(double(audioLength()) / 10, 'f', 1));
+             Platform::Translations::decimal(double(audioLength()) / 10, 'f', 1));
 }
 
 QVariant AudioWaveTrimView::spokenMaximum() const {

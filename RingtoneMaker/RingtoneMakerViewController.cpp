@@ -3,6 +3,7 @@
 #include "RingtoneMaker/RingtoneMakerViewController.h"
 
 #include "Platform/Foundation/MainQueue.h"
+#include "Platform/Foundation/Translations.h"
 #include "RingtoneMaker/AudioOutline.h"
 #include "RingtoneMaker/ValueTransformers.h"
 #include "RingtoneMaker/WaveImage.h"
@@ -277,7 +278,9 @@ void RingtoneMakerViewController::followSelection() {
     const AudioWaveTrimView& selection = *ui_->audioWaveTrimView;
     ui_->fromField->setSeconds(selection.audioFromTime());
     ui_->toField->setSeconds(selection.audioToTime());
-    ui_->lengthLabel->setText(tr("%1 seconds").arg(double(selection.audioLength() / kPointsPerSecond), 0, 'f', 1));
+    ui_->lengthLabel->setText(
+        tr("%1 seconds")
+            .arg(Platform::Translations::decimal(double(selection.audioLength() / kPointsPerSecond), 'f', 1)));
     updateEnabled();
 }
 

@@ -169,6 +169,9 @@ public:
                   QStyleHintReturn* more) const override {
         if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
             return 0;
+        // Qt draws an underlined letter by itself, which breaks the joined letters of Arabic. The key works anyway.
+        if (hint == SH_UnderlineShortcut && QGuiApplication::isRightToLeft())
+            return 0;
         return QProxyStyle::styleHint(hint, option, widget, more);
     }
 

@@ -250,15 +250,23 @@ void MainMenus::place(QToolButton* button, QAction* action, const QString& icon,
 void MainMenus::fitStrip(int width) {
     const std::array buttons{ui_.btnTrim_,   ui_.btnRingtone_, ui_.btnEditTags_, ui_.btnBurn_,
                              ui_.btnFilter_, ui_.btnShow_,     ui_.btnOpen_,     ui_.btnDelete_};
-    const QMargins margins = ui_.additionalLayout->contentsMargins();
-    int needed = margins.left() + margins.right();
-    for (QToolButton* button : buttons) {
-        button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-        needed += button->sizeHint().width() + ui_.additionalLayout->spacing();
-    }
-    if (width < std::max(needed, kCompactBelow))
-        for (QToolButton* button : buttons)
-            button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    QBoxLayout& strip = *ui_.additionalLayout;
+    const auto fits = [&](Qt::ToolButtonStyle style, int spacing) {
+        strip.setSpacing(spacing);
+        const QMargins margins = strip.contentsMargins();
+        int needed =
+            margins.left() + margins.right() + ui_.stripSpacer->sizeHint().width() + spacing * int(buttons.size());
+        for (QToolButton* button : buttons) {
+            button->setToolButtonStyle(style);
+            needed += button->sizeHint().width();
+        }
+        return needed <= width;
+    };
+    constexpr int wide = 8;
+    constexpr int narrow = 2; // some languages need more room than English
+    if (width < kCompactBelow ||
+        (!fits(Qt::ToolButtonTextBesideIcon, wide) && !fits(Qt::ToolButtonTextBesideIcon, narrow)))
+        (void)fits(Qt::ToolButtonIconOnly, wide);
 }
 
 void MainMenus::update() {

@@ -3,10 +3,13 @@
 // The language of the command line: chosen by the user, complete, and without effect on what scripts read.
 #include "CommandLine/CommandHelp.h"
 #include "CommandLine/CommandManual.h"
+#include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/Translations.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "tests/CommandLine/CommandRun.h"
 #include "tests/CommandLine/ProgramHome.h"
+#include "tests/fakes/FakeBundle.h"
+#include "tests/fakes/FakeUserDefaults.h"
 #include "tests/support/Mpeg4Files.h"
 #include "tests/support/TestLanguage.h"
 
@@ -138,6 +141,11 @@ TEST(Language, NoHelpBypassesTranslation) {
 
 TEST(Language, NoErrorBypassesTranslation) {
     const MarkedTexts marks;
+    const Platform::ServicesScope scope;
+    FakeUserDefaults defaults;
+    FakeBundle bundle;
+    Platform::services().userDefaults = &defaults;
+    Platform::services().bundle = &bundle;
     const QList<std::pair<const char*, QStringList>> wrong{
         {"burn", {}},
         {"burn", {u"--image"_s, u"x"_s, u"--drive"_s, u"y"_s, u"z"_s}},

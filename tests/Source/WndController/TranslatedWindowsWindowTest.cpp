@@ -110,7 +110,7 @@ QString withoutNames(QString left) {
 QStringList bypassing(const QList<Shown>& all) {
     QStringList found;
     for (const auto& [place, text] : all) {
-        const bool isPath = text.startsWith(u'/');
+        const bool isPath = text.startsWith(u'/') || text.endsWith(u".m4a"_s);
         const bool isCommands = text.startsWith(u"sonaphex control "_s);
         if (const QString left = withoutNames(MarkedTexts::unmarked(text)); left.size() > 1 && !isPath && !isCommands)
             found.append(u"%1: “%2” of “%3”"_s.arg(place, left, text));
@@ -165,7 +165,7 @@ TEST_F(TranslatedWindows, EveryTextFitsInEachLanguage) {
         QApplication::setLayoutDirection(QLocale(language).textDirection());
         const bool takesPictures = language != u"fr"_s && language != u"es"_s;
         EveryWindow::lookAtAll([&](QWidget& window, const QString& name) {
-            EXPECT_EQ(cutOffTexts(window), QStringList()) << qPrintable(language + u": "_s + name);
+            EXPECT_EQ(cutOffTexts(window).join(u" | "_s).toStdString(), "") << qPrintable(language + u": "_s + name);
             for (const auto shade : {Theme::Shade::Light, Theme::Shade::Dark}) {
                 if (!takesPictures)
                     continue;
@@ -177,6 +177,18 @@ TEST_F(TranslatedWindows, EveryTextFitsInEachLanguage) {
             }
             Theme::apply(Theme::Shade::Light);
         });
+    }
+}
+
+TEST_F(TranslatedWindows, TheSmallestMainWindowCutsNoTextOff) {
+    for (const QString& language : {u"de"_s, u"ja"_s, u"ar"_s, u"fr"_s, u"es"_s}) {
+        const TestLanguage texts(language);
+        QApplication::setLayoutDirection(QLocale(language).textDirection());
+        WindowWorld world;
+        world.open({720, 480});
+        QCoreApplication::processEvents();
+        EXPECT_EQ(cutOffTexts(*world.controller->window()).join(u" | "_s).toStdString(), "") << qPrintable(language);
+        Screenshot::take(*world.controller->window(), language + u"-main-small"_s);
     }
 }
 
