@@ -6,6 +6,9 @@
 
 #include <algorithm>
 
+#include <QFile>
+#include <gtest/gtest.h>
+
 /// A FakeMediaFiles that can also be read: each source is a function of channel and frame, at the client rate.
 class FakeSourceFiles : public FakeMediaFiles {
 public:
@@ -28,7 +31,7 @@ public:
 
     /// A file of two channels. Creates an empty file on the disk, so that it exists.
     Source& addSource(const QString& path, double seconds, Signal signal) {
-        QFile(path).open(QIODevice::WriteOnly);
+        EXPECT_TRUE(QFile(path).open(QIODevice::WriteOnly));
         auto& source = sources[path];
         source.signal = std::move(signal);
         source.frames = std::int64_t(std::llround(seconds * 44100));
