@@ -76,7 +76,8 @@ AudioDataSourceView::AudioDataSourceView(QWidget* parent) : QTreeView(parent) {
     columns->setSectionResizeMode(TrackListModel::Time, QHeaderView::Fixed);
     columns->resizeSection(TrackListModel::Time,
                            std::max(kTimeWidth, fontMetrics().horizontalAdvance(QStringLiteral("00:00:00")) + 20));
-    columns->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    // Qt does not mirror the alignment of headers.
+    columns->setDefaultAlignment((isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
 
     makeActions();
     connect(&tracks_, &TrackListModel::ticksChanged, this, &AudioDataSourceView::flushOtherInfo);

@@ -365,10 +365,10 @@ QVariant AudioTableModel::headerData(int section, Qt::Orientation orientation, i
     if (orientation != Qt::Horizontal) // hidden, but read by screen readers
         return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
     if (role == Qt::TextAlignmentRole)
-        return QVariant((section == Time                                         ? Qt::AlignHCenter
-                         : QGuiApplication::layoutDirection() == Qt::RightToLeft ? Qt::AlignRight
-                                                                                 : Qt::AlignLeft) |
-                        Qt::AlignVCenter);
+        return int((section == Time                    ? Qt::AlignHCenter
+                    : QGuiApplication::isRightToLeft() ? Qt::AlignRight // Qt does not mirror headers
+                                                       : Qt::AlignLeft) |
+                   Qt::AlignVCenter);
     if (role == Qt::AccessibleTextRole && section == State)
         return tr("State");
     if (role != Qt::DisplayRole)
