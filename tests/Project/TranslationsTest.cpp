@@ -230,6 +230,22 @@ TEST(Translations, ContainAllTextsOfTheSources) {
     }
 }
 
+TEST(Translations, ContainAllTextsOfTheHelpPages) {
+    const QSet<QString> stored = keysOf(messagesOfFile(folder() + fileOf(u"de"_s)));
+    static const QRegularExpression element(u"<(title|h1|h2|p)>(.*?)</\\1>"_s,
+                                            QRegularExpression::DotMatchesEverythingOption);
+    for (const QString& name : {u"support.html"_s, u"computer-audio.html"_s}) {
+        QFile page(QStringLiteral(SONAPHEX_SOURCE_DIR "/Resources/") + name);
+        ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+        int texts = 0;
+        for (auto matches = element.globalMatch(QString::fromUtf8(page.readAll())); matches.hasNext(); ++texts) {
+            const QString text = matches.next().captured(2).simplified();
+            EXPECT_TRUE(stored.contains(u"HelpPages | "_s + text)) << qPrintable(name + u": "_s + text);
+        }
+        EXPECT_GT(texts, 5);
+    }
+}
+
 TEST(Translations, AFaultInATranslationIsFound) {
     EXPECT_EQ(faultOf(plain(u"Save %1"_s, u"%1 sichern"_s)), QString());
     EXPECT_NE(faultOf(plain(u"Save %1"_s, u"Sichern"_s)), QString());
