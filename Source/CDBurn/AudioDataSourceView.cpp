@@ -39,7 +39,7 @@ protected:
         option->state &= ~QStyle::State_HasFocus;
         if (!index.data(TrackListModel::MissingRole).toBool())
             return;
-        option->palette.setColor(QPalette::Text, option->palette.color(QPalette::Disabled, QPalette::Text));
+        option->palette.setColor(QPalette::Text, option->palette.color(QPalette::Active, QPalette::PlaceholderText));
         if (index.column() == TrackListModel::AudioName) {
             option->features |= QStyleOptionViewItem::HasDecoration;
             option->icon = NamedImages::icon(QStringLiteral("broken-link"));
@@ -251,7 +251,7 @@ void AudioDataSourceView::paintEvent(QPaintEvent* event) {
     if (!isNullForData())
         return;
     QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
+    painter.setPen(palette().color(QPalette::Active, QPalette::PlaceholderText));
     painter.drawText(viewport()->rect().adjusted(24, 24, -24, -24), Qt::AlignCenter | Qt::TextWordWrap,
                      tr("No music yet. Press “Add Files…” or drop sound files here."));
 }

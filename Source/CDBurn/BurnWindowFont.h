@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QFont>
-#include <QGuiApplication>
+#include "Source/View/Theme.h"
 
-#include <algorithm>
+#include <QFont>
 
 /// The typeface of the burn window's messages.
 namespace BurnWindowFont {
@@ -15,8 +14,7 @@ namespace BurnWindowFont {
 [[nodiscard]] inline QFont ofSize(int points) {
     QFont font;
     font.setFamilies(QStringList{QStringLiteral("Lucida Grande")} + font.families());
-    constexpr double usual = 10; // points
-    font.setPixelSize(int(points * std::max(1.0, QGuiApplication::font().pointSizeF() / usual)));
+    font.setPixelSize(Theme::enlarged(points));
     return font;
 }
 } // namespace BurnWindowFont

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/View/MediaLibraryNodeSizeFieldCell.h"
 
+#include "Source/View/Theme.h"
+
 #include <QApplication>
 #include <QFontMetrics>
 #include <QPainter>
@@ -12,7 +14,7 @@ namespace {
 constexpr qreal kCornerX = 10;
 
 QFont badgeFont(QFont font) {
-    font.setPixelSize(11);
+    font.setPixelSize(Theme::enlarged(11));
     font.setBold(true);
     return font;
 }

@@ -126,7 +126,7 @@ void MediaNodeListTableView::paintEvent(QPaintEvent* event) {
     if (emptyText_.isEmpty() || !model() || model()->rowCount() > 0)
         return;
     QPainter painter(viewport());
-    const QColor faint = palette().color(QPalette::Disabled, QPalette::Text);
+    const QColor faint = palette().color(QPalette::Active, QPalette::PlaceholderText);
     painter.setPen(faint);
     const QRect area = viewport()->rect().adjusted(24, 24, -24, -24);
     painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, emptyText_);

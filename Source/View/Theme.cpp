@@ -17,6 +17,8 @@
 #include <QStyleFactory>
 #include <QStyleOption>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -254,6 +256,11 @@ QPalette palette(Shade shade) {
 
 Shade shade() {
     return currentShade;
+}
+
+int enlarged(int pixels) {
+    constexpr double usual = 10; // points
+    return int(pixels * std::max(1.0, QGuiApplication::font().pointSizeF() / usual));
 }
 
 QColor outline(const QPalette& colors, bool enabled) {

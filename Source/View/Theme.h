@@ -23,6 +23,8 @@ void apply(Shade shade);
 [[nodiscard]] Shade shade();
 
 [[nodiscard]] QPalette palette(Shade shade);
+/// A size in pixels that was designed for text of 10 points, larger when the program's text is larger.
+[[nodiscard]] int enlarged(int pixels);
 /// The outline of fields and empty boxes, for the palette of the widget.
 [[nodiscard]] QColor outline(const QPalette& colors, bool enabled);
 /// The sign of a warning.

@@ -299,7 +299,7 @@ QVariant AudioTableModel::data(const QModelIndex& index, int role) const {
         return !path.isEmpty() && path == playingPath_;
     case Qt::ForegroundRole:
         if (missing_.isMissing(path))
-            return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+            return QGuiApplication::palette().brush(QPalette::Active, QPalette::PlaceholderText);
         if (index.column() == Title && hasNoTitle(entry))
             return QGuiApplication::palette().brush(QPalette::PlaceholderText);
         return {};

@@ -4,6 +4,7 @@
 
 #include "Source/Model/MediaLibrary.h"
 #include "Source/View/NamedImages.h"
+#include "Source/View/Theme.h"
 
 #include <QGuiApplication>
 #include <QPalette>
@@ -12,7 +13,7 @@ namespace {
 
 QFont systemFont(int size) {
     QFont font = QGuiApplication::font();
-    font.setPixelSize(size);
+    font.setPixelSize(Theme::enlarged(size));
     return font;
 }
 
@@ -141,7 +142,7 @@ QVariant LibraryOutlineModel::data(const QModelIndex& index, int role) const {
     case Qt::FontRole:
         return title.font;
     case Qt::ForegroundRole:
-        return title.grey ? QVariant(QGuiApplication::palette().brush(QPalette::Disabled, QPalette::WindowText))
+        return title.grey ? QVariant(QGuiApplication::palette().brush(QPalette::Active, QPalette::PlaceholderText))
                           : QVariant();
     case Qt::DecorationRole:
         return title.icon.isEmpty() ? QVariant() : QVariant(NamedImages::icon(title.icon));

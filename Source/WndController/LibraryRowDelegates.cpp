@@ -3,6 +3,7 @@
 #include "Source/WndController/LibraryRowDelegates.h"
 
 #include "Source/View/NamedImages.h"
+#include "Source/View/Theme.h"
 #include "Source/WndController/AudioTableModel.h"
 #include "Source/WndController/LibraryOutlineModel.h"
 
@@ -34,7 +35,8 @@ bool endsEditing(int key) {
 
 QSize OutlineRowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
     QSize size = QStyledItemDelegate::sizeHint(option, index);
-    size.setHeight(index.data(LibraryOutlineModel::GroupRole).toBool() ? groupRowHeight(kRowHeight) : kRowHeight);
+    const int row = Theme::enlarged(kRowHeight);
+    size.setHeight(index.data(LibraryOutlineModel::GroupRole).toBool() ? groupRowHeight(row) : row);
     return size;
 }
 

@@ -11,6 +11,7 @@
 #include "Source/View/Announcement.h"
 #include "Source/View/MediaLibraryNodeSizeFieldCell.h"
 #include "Source/View/NamedImages.h"
+#include "Source/View/Theme.h"
 #include "Source/WndController/AudioTableModel.h"
 #include "Source/WndController/LibraryOutlineModel.h"
 #include "Source/WndController/LibraryPresenter.h"
@@ -107,7 +108,7 @@ void MainWndController::bindLibrary() {
     columns->setSectionResizeMode(LibraryOutlineModel::Name, QHeaderView::Stretch);
     columns->setSectionResizeMode(LibraryOutlineModel::Count, QHeaderView::Fixed);
     columns->setMinimumSectionSize(24);
-    columns->resizeSection(LibraryOutlineModel::Count, 48);
+    columns->resizeSection(LibraryOutlineModel::Count, Theme::enlarged(48));
 
     MediaNodeListTableView* table = ui_->audioTableView_;
     table->verticalHeader()->setDefaultSectionSize(AudioRowDelegate::rowHeight(*table));

@@ -212,7 +212,7 @@ TEST_F(AudioTable, AMissingFileIsGreyWithABrokenLinkUntilItReturns) {
     }));
     EXPECT_EQ(model.index(0, AudioTableModel::State).data(Qt::DecorationRole).value<QIcon>().name(), u"broken-link"_s);
     EXPECT_EQ(model.index(0, AudioTableModel::Title).data(Qt::ForegroundRole).value<QBrush>().color(),
-              QGuiApplication::palette().color(QPalette::Disabled, QPalette::Text));
+              QGuiApplication::palette().color(QPalette::Active, QPalette::PlaceholderText));
     EXPECT_TRUE(model.index(0, AudioTableModel::Title).data(Qt::ToolTipRole).toString().contains(path));
     world.file(u"One.m4a"_s);
     ASSERT_TRUE(waitFor([&] { return !gone(); })) << "the folder is watched";
