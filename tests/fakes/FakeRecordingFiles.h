@@ -11,6 +11,8 @@
 #include <set>
 #include <thread>
 
+#include <gtest/gtest.h>
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -85,7 +87,7 @@ private:
                     return Platform::Error{Platform::Error::Kind::Other, QStringLiteral("stopped")};
             if (files_.mixError)
                 return files_.mixError;
-            QFile(path).open(QIODevice::WriteOnly);
+            EXPECT_TRUE(QFile(path).open(QIODevice::WriteOnly));
             const std::scoped_lock lock(files_.mutex_);
             files_.mixes_.push_back({path_, second_, timings_, path});
             return {};

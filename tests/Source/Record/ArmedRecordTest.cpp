@@ -277,7 +277,7 @@ TEST_F(ArmedRecordTest, APartAfterASilenceIsNamedWithoutReadingTheFolder) {
     play(ComputerAudio, 0.25F, 1);
     // Another process creates a file with the next part's name.
     QDir().mkpath(folder());
-    QFile(track(1)).open(QIODevice::WriteOnly);
+    EXPECT_TRUE(QFile(track(1)).open(QIODevice::WriteOnly));
     play(ComputerAudio, 0, 0.3);
     play(ComputerAudio, 0.25F, 1);
     play(ComputerAudio, 0, 0.3);

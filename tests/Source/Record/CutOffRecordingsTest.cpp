@@ -120,7 +120,7 @@ TEST_F(CutOffRecordingsTest, AnExitKeepsFilesBeforeTheNextLaunchCanDeleteThem) {
     // exit() does not run the caller's destructors: its objects, such as the lock of the running program, stay until
     // the end.
     const QString raw = g_strTmpPath + u"/BuiltInA0.m4a"_s;
-    QFile(raw).open(QIODevice::WriteOnly);
+    EXPECT_TRUE(QFile(raw).open(QIODevice::WriteOnly));
     EXPECT_EXIT(
         {
             const CutOffRecordings::Keeper keeper;

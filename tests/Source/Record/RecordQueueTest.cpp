@@ -438,7 +438,7 @@ TEST(RecordQueueMovies, AMissingMovieIsReplacedByTheOther) {
 
     QTemporaryDir folder;
     const QString path = folder.filePath(u"a.m4a"_s);
-    QFile(path).open(QIODevice::WriteOnly);
+    EXPECT_TRUE(QFile(path).open(QIODevice::WriteOnly));
     FakeRecordingFiles media;
     std::unique_ptr<Platform::Movie> movie;
     EXPECT_TRUE(RecordQueue::addAudioIntoMove(movie, *media.openMovie(path)));

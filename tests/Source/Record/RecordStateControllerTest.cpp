@@ -294,7 +294,7 @@ TEST_F(RecordStateControllerTest, APauseThatEndsAtOnceOmitsNothing) {
 TEST_F(RecordStateControllerTest, NamesSkipFilesAndReservedNames) {
     addMicrophone();
     QDir().mkpath(folder());
-    QFile(track(0)).open(QIODevice::WriteOnly);
+    EXPECT_TRUE(QFile(track(0)).open(QIODevice::WriteOnly));
     begin();
     EXPECT_EQ(controller->getAudioRecordPath(), track(1));
     EXPECT_EQ(controller->getAudioRecordPath(), track(2));
@@ -305,7 +305,7 @@ TEST_F(RecordStateControllerTest, RingtonesGetTheFirstFreeName) {
     defaults.setObject(PreferenceStore::PreferenceRingtoneSavePathKey, folder());
     begin();
     EXPECT_EQ(controller->nextRingtoneMakerFilePath(), folder() + u"/Ringtone.m4r"_s);
-    QFile(folder() + u"/Ringtone.m4r"_s).open(QIODevice::WriteOnly);
+    EXPECT_TRUE(QFile(folder() + u"/Ringtone.m4r"_s).open(QIODevice::WriteOnly));
     EXPECT_EQ(controller->nextRingtoneMakerFilePath(), folder() + u"/Ringtone1.m4r"_s);
 }
 
