@@ -5,6 +5,9 @@
 #include "CaptureComputerAudio/AudioDevice.h"
 #include "CaptureComputerAudio/IOService.h"
 
+#include <QDeadlineTimer>
+#include <QThread>
+
 using namespace Qt::StringLiterals;
 
 namespace CaptureComputerAudio {
@@ -36,11 +39,22 @@ void stopCaptureComputerAudio() {
     steer(kCaptureDriverPathKey);
 }
 
-bool choosePrograms(const Platform::ProgramChoice& choice) {
+Choosing choosePrograms(const Platform::ProgramChoice& choice, int patienceMs) {
+    const bool everything = choice.mode == Platform::ProgramChoice::Mode::Everything;
     auto engines = IOService::getServicesByClassName(kEngineClass);
     if (engines.empty() || engines.back().getProperty(kProgramsProperty).toString() != u"true"_s)
-        return choice.mode == Platform::ProgramChoice::Mode::Everything;
-    return engines.back().setProperty(QString::fromStdString(choice.encoded()), kCaptureDriverProgramsKey) == noErr;
+        return everything ? Choosing::Unchanged : Choosing::NotPossible;
+    auto& engine = engines.back();
+    const auto wanted = QString::fromStdString(choice.encoded());
+    const auto isApplied = [&] { return engine.getProperty(kCaptureDriverProgramsAppliedKey).toString() == wanted; };
+    if (isApplied())
+        return Choosing::Unchanged;
+    if (engine.setProperty(wanted, kCaptureDriverProgramsKey) != noErr)
+        return Choosing::NotPossible;
+    for (const QDeadlineTimer deadline(patienceMs); !isApplied(); QThread::msleep(1))
+        if (deadline.hasExpired())
+            return patienceMs > 0 ? Choosing::NotPossible : Choosing::Changed;
+    return Choosing::Changed;
 }
 
 bool captureComputerAudioIsUSBDevice() {

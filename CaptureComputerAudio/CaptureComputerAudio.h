@@ -24,9 +24,17 @@ inline const QString kCaptureDriverProgramsKey = QStringLiteral("kCaptureDriverP
 void startCaptureComputerAudio();
 /// Makes the driver capture nothing: the device remains and is silent.
 void stopCaptureComputerAudio();
+/// The engine's property with the choice that it follows now; empty for everything.
+inline const QString kCaptureDriverProgramsAppliedKey = QStringLiteral("kCaptureDriverProgramsAppliedKey");
+
+enum class Choosing {
+    Unchanged,  ///< the driver follows this choice already
+    Changed,    ///< it follows it from now on
+    NotPossible ///< no driver, one that is older than this program and carries everything, or no answer
+};
 /// Makes the driver carry only the streams of the chosen programs, on whatever output they play, or everything again.
-/// False when there is no driver, or an older one that cannot choose: it goes on carrying everything.
-[[nodiscard]] bool choosePrograms(const Platform::ProgramChoice& choice);
+/// Waits at most @p patienceMs until the driver carries nothing else; with 0 it does not wait.
+[[nodiscard]] Choosing choosePrograms(const Platform::ProgramChoice& choice, int patienceMs = 2000);
 /// Whether the default output is a USB device.
 [[nodiscard]] bool captureComputerAudioIsUSBDevice();
 

@@ -20,6 +20,8 @@ public:
     [[nodiscard]] QStringList positional() const { return parser_.positionalArguments(); }
     [[nodiscard]] bool isSet(const QString& option) const { return parser_.isSet(option); }
     [[nodiscard]] QString value(const QString& option) const { return parser_.value(option); }
+    /// Of an option that may be given several times.
+    [[nodiscard]] QStringList values(const QString& option) const { return parser_.values(option); }
     /// A time in seconds, 0 to 2^31 - 1; @p otherwise when the option is not set.
     [[nodiscard]] double seconds(const QString& option, double otherwise);
     /// A whole number, 0 to 2^31 - 1; @p otherwise when the option is not set.

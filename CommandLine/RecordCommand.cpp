@@ -9,6 +9,7 @@
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/TemporaryFolder.h"
 #include "Source/Preferences/Settings.h"
+#include "Source/Record/RecordPrograms.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -35,6 +36,11 @@ QString whyNotWritable(const QString& folder) {
     return {};
 }
 
+/// Whether an option asks for computer audio. Naming its programs does.
+bool namesComputerAudio(const Arguments& arguments) {
+    return arguments.isSet(u"computer"_s) || arguments.isSet(u"app"_s) || arguments.isSet(u"not-app"_s);
+}
+
 /// Overrides the stored preferences with the options. Invalid values set the arguments' problem().
 void takeSettings(Arguments& arguments, OverriddenPreferences& preferences) {
     if (arguments.isSet(u"filter"_s)) {
@@ -49,6 +55,14 @@ void takeSettings(Arguments& arguments, OverriddenPreferences& preferences) {
     }
     if (arguments.isSet(u"pre-roll"_s))
         preferences.setValue(arguments.whole(u"pre-roll"_s, 0), Settings::preRollMS);
+    // Computer audio that is asked for is all of it, unless its programs are named.
+    if (namesComputerAudio(arguments)) {
+        const bool isOnly = arguments.isSet(u"app"_s);
+        preferences.setValue(RecordPrograms::named(isOnly ? RecordPrograms::Mode::Only : RecordPrograms::Mode::AllBut,
+                                                   arguments.values(isOnly ? u"app"_s : u"not-app"_s))
+                                 .toStored(),
+                             Settings::recordPrograms);
+    }
     g_SplitTimeMS = Settings::storedSplitTimeMS();
     if (arguments.isSet(u"split"_s))
         g_SplitTimeMS = arguments.value(u"split"_s) == u"off"_s ? -1 : arguments.whole(u"split"_s, 0);
@@ -67,7 +81,12 @@ QString whyWrong(Arguments& arguments, const RecordingTask& task) {
             .arg(Settings::LongestPreRollMS);
     if (arguments.isSet(u"folder"_s) && arguments.value(u"folder"_s).isEmpty())
         return QCoreApplication::translate("CommandLine", "--folder takes a folder");
-    if (arguments.value(u"input"_s) == u"none"_s && !arguments.isSet(u"computer"_s))
+    if (arguments.isSet(u"app"_s) && arguments.isSet(u"not-app"_s))
+        return QCoreApplication::translate("CommandLine", "--app and --not-app exclude each other");
+    for (const QString& option : {u"app"_s, u"not-app"_s})
+        if (arguments.values(option).contains(QString()))
+            return QCoreApplication::translate("CommandLine", "--%1 takes the name of a program").arg(option);
+    if (arguments.value(u"input"_s) == u"none"_s && !namesComputerAudio(arguments))
         return QCoreApplication::translate("CommandLine",
                                            "without an input device and without --computer there is nothing to record");
     return {};
@@ -76,7 +95,7 @@ QString whyWrong(Arguments& arguments, const RecordingTask& task) {
 /// Finds the named devices and decides which sources are recorded.
 bool takeSources(const Arguments& arguments, OverriddenPreferences& preferences, RecordingTask& task, QString& why) {
     const QString input = arguments.value(u"input"_s);
-    bool computer = arguments.isSet(u"computer"_s);
+    bool computer = namesComputerAudio(arguments);
     if (!input.isEmpty() || computer) {
         bool builtIn = !input.isEmpty() && input != u"none"_s;
         InputDevice device;
@@ -84,6 +103,8 @@ bool takeSources(const Arguments& arguments, OverriddenPreferences& preferences,
             return false;
         if (builtIn && device.isComputerAudio()) {
             builtIn = false;
+            if (!computer)
+                preferences.setValue(RecordPrograms().toStored(), Settings::recordPrograms);
             computer = true;
         }
         task.device = device.id;
@@ -136,6 +157,12 @@ const Command recordCommand{
                         "Record the input device with this name, UID or id; none records no input device."),
       QT_TRANSLATE_NOOP("CommandLine", "the device and the choice stored in the preferences")},
      {"computer", "", QT_TRANSLATE_NOOP("CommandLine", "Record what the computer plays.")},
+     {"app", "NAME",
+      QT_TRANSLATE_NOOP("CommandLine", "Of computer audio, record only this program; may be given several times."),
+      QT_TRANSLATE_NOOP("CommandLine", "with --computer everything, else as in the preferences")},
+     {"not-app", "NAME",
+      QT_TRANSLATE_NOOP("CommandLine",
+                        "Of computer audio, record everything but this program; may be given several times.")},
      {"for", "S", QT_TRANSLATE_NOOP("CommandLine", "Stop after S seconds of recorded sound, over all files."),
       QT_TRANSLATE_NOOP("CommandLine", "until Control+C")},
      {"wait", "S", QT_TRANSLATE_NOOP("CommandLine", "When waiting for the first sound, give up after S seconds."),
@@ -159,7 +186,9 @@ const Command recordCommand{
      {"record --input none --computer --split 300 --wait 60",
       QT_TRANSLATE_NOOP(
           "CommandLine",
-          "Record what the computer plays, one file for each song, and give up when nothing plays for a minute.")}},
+          "Record what the computer plays, one file for each song, and give up when nothing plays for a minute.")},
+     {"record --input none --app Firefox",
+      QT_TRANSLATE_NOOP("CommandLine", "Record one program, whatever else plays.")}},
     run};
 
 } // namespace CommandLine

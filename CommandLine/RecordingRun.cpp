@@ -114,6 +114,8 @@ QString RecordingRun::begin() {
 }
 
 QString RecordingRun::state() const {
+    if (const QString waiting = controller_.waitingForPrograms(); !waiting.isEmpty())
+        return waiting.left(1).toLower() + waiting.mid(1);
     if (controller_.isWaittingForSound())
         return QCoreApplication::translate("CommandLine", "waiting for the first sound");
     return controller_.recordState_() == 1 ? QCoreApplication::translate("CommandLine", "recording", "now")

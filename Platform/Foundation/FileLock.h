@@ -30,6 +30,8 @@ public:
     /// Takes the lock; waits for another holder at most @p patience. The file at @p path is created when it is missing;
     /// a link is not followed. Error::Kind::Busy: another process or object still holds the lock.
     Result<> take(const QString& path, std::chrono::milliseconds patience = {});
+    /// As take(), but other shared locks on the file are allowed.
+    Result<> takeShared(const QString& path, std::chrono::milliseconds patience = {});
     [[nodiscard]] bool isHeld() const { return descriptor_ >= 0; }
     [[nodiscard]] QString path() const { return path_; }
     void release();
@@ -37,6 +39,8 @@ public:
     void removeAndRelease();
 
 private:
+    Result<> take(const QString& path, bool shared, std::chrono::milliseconds patience);
+
     int descriptor_ = -1;
     QString path_;
 };

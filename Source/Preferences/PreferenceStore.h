@@ -32,6 +32,8 @@ inline const QString PreferenceRingtoneSavePathKey = QStringLiteral("PreferenceR
 inline const QString PreferenceNotificationsKey = QStringLiteral("PreferenceNotificationsKey");
 inline const QString ChooseRecordBuiltIn = QStringLiteral("ChooseRecordBuiltIn");
 inline const QString ChooseRecordComputerAudio = QStringLiteral("ChooseRecordComputerAudio");
+/// Which programs a recording of computer audio takes: a dictionary, see RecordPrograms.
+inline const QString ChooseRecordPrograms = QStringLiteral("ChooseRecordPrograms");
 inline const QString PreferenceStartStopShortcutKey = QStringLiteral("PreferenceStartStopShortcutKey");
 inline const QString PreferencePauseResumeShortcutKey = QStringLiteral("PreferencePauseResumeShortcutKey");
 inline const QString PreferenceStartNewRecordShortcutKey = QStringLiteral("PreferenceStartNewRecordShortcutKey");

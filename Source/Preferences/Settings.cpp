@@ -7,14 +7,32 @@
 namespace Settings {
 
 QVariant Setting::defaultObject() const {
-    return type == Type::Folder ? QVariant(PreferenceStore::defaultMusicFolder()) : byDefault;
+    switch (type) {
+    case Type::Number:
+        break;
+    case Type::Folder:
+        return PreferenceStore::defaultMusicFolder();
+    case Type::Dictionary:
+        return ::Dictionary();
+    }
+    return byDefault;
 }
 
 QVariant Setting::usable(const QVariant& stored) const {
     const bool isText = stored.typeId() == QMetaType::QString;
-    // A relative path would depend on where the program was started.
-    const bool fits = type == Type::Folder ? isText && QDir::isAbsolutePath(stored.toString())
-                                           : isText || stored.typeId() == QMetaType::Bool || Platform::isNumber(stored);
+    bool fits = false;
+    switch (type) {
+    case Type::Number:
+        fits = isText || stored.typeId() == QMetaType::Bool || Platform::isNumber(stored);
+        break;
+    case Type::Folder:
+        // A relative path would depend on where the program was started.
+        fits = isText && QDir::isAbsolutePath(stored.toString());
+        break;
+    case Type::Dictionary:
+        fits = stored.typeId() == QMetaType::QVariantMap;
+        break;
+    }
     return fits ? stored : defaultObject();
 }
 

@@ -11,8 +11,9 @@
 namespace Settings {
 
 enum class Type {
-    Number, ///< a number, a boolean or a text; Platform::intValue() and similar functions convert texts
-    Folder  ///< a text, an absolute path. The default is PreferenceStore::defaultMusicFolder()
+    Number,    ///< a number, a boolean or a text; Platform::intValue() and similar functions convert texts
+    Folder,    ///< a text, an absolute path. The default is PreferenceStore::defaultMusicFolder()
+    Dictionary ///< a dictionary; by default an empty one
 };
 
 struct Setting {
@@ -35,6 +36,7 @@ inline const Setting ringtoneSavePath{PreferenceStore::PreferenceRingtoneSavePat
 inline const Setting notifications{PreferenceStore::PreferenceNotificationsKey, Type::Number, 1};
 inline const Setting recordBuiltIn{PreferenceStore::ChooseRecordBuiltIn, Type::Number, true};
 inline const Setting recordComputerAudio{PreferenceStore::ChooseRecordComputerAudio, Type::Number, false};
+inline const Setting recordPrograms{PreferenceStore::ChooseRecordPrograms, Type::Dictionary};
 
 /// A key combination. KeybordShortcutTextView defines the stored object and decides which objects are usable.
 struct Shortcut {

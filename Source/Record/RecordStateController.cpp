@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/Record/RecordStateController.h"
 
+#include "CaptureComputerAudio/CaptureComputerAudio.h"
 #include "Platform/Desktop/Alerts.h"
 #include "Platform/Desktop/SleepInhibitor.h"
 #include "Platform/Foundation/Clock.h"
@@ -74,6 +75,9 @@ RecordStateController::~RecordStateController() {
         d->builtIn.engine->cleanUp();
     }
     d->computer.engine->cleanUp();
+    // Other programs may record from the driver, too.
+    if (d->programsChosen_)
+        (void)CaptureComputerAudio::choosePrograms({}, 0);
     // Cycles use the engines through these pointers: all cycles have ended by now.
     for (RecordSource& source : d->sources)
         source.engine.reset();
@@ -103,12 +107,17 @@ void RecordStateController::awakeFromNib() {
     connect(d->devices.get(), &RecordSources::devicesChanged, this, &RecordStateController::devicesChanged);
     connect(d->devices.get(), &RecordSources::computerAudioDeviceChanged, this, [this] {
         d->discardHiddenWait();
+        (void)d->applyPrograms(0);
         refreshTheFace();
     });
     connect(d->devices.get(), &RecordSources::noticed, this, [this](const RecordNotice& notice) { d->notice(notice); });
     connect(d->devices.get(), &RecordSources::settled, this,
             [this](const QString& event) { d->withdrawNotice(event); });
+    d->readPrograms();
     d->devices->awakeFromNib();
+    if (d->programs_.mode != RecordPrograms::Mode::Everything)
+        watchPrograms();
+    (void)d->applyPrograms(0);
 
     d->isRecordingFlushTheFace(false);
     refreshTheFace();
@@ -295,6 +304,9 @@ Qt::GlobalColor RecordStateController::stateColor() const {
 
 QString RecordStateController::headline() const {
     const QString headline = RecordDisplay::headline(d->state, double(d->fRecordTime_));
+    if (d->state == RecordState::Armed)
+        if (const QString waiting = waitingForPrograms(); !waiting.isEmpty())
+            return waiting;
     return d->state == RecordState::Recording && !isGrowing()
                ? QCoreApplication::translate("Record", "Nothing is being recorded")
                : headline;
@@ -359,6 +371,7 @@ void RecordStateController::recordFlushTime() {
         d->convertTip_ = tip;
         Q_EMIT displayChanged();
     }
+    d->keepPrograms();
     d->showLosses();
     d->showSilences();
     d->lookForRoom();

@@ -5,6 +5,7 @@
 #include "Source/BuiltInAudioRecord/BuildInAudioRecord.h"
 #include "Source/Preferences/RecordPreferences.h"
 #include "Source/Record/RecordNotice.h"
+#include "Source/Record/RecordPrograms.h"
 #include "Source/Record/RecordState.h"
 
 #include <QObject>
@@ -79,6 +80,8 @@ public:
     void splitTheRecord();
     void chooseRecordBuiltIn(bool on);
     void chooseRecordComputerAudio(bool on);
+    /// Which programs the computer-audio source takes. Ignored while something is recorded.
+    void chooseRecordPrograms(const RecordPrograms& programs);
     void chooseBuiltInDevice(int index);
     /// Sets the input device to full volume and clears its mute.
     void unmuteBuiltInDevice();
@@ -110,6 +113,13 @@ public:
     [[nodiscard]] bool popUpEnabled() const;
     [[nodiscard]] bool builtInChecked() const;
     [[nodiscard]] bool computerAudioChecked() const;
+    /// The stored choice, and the programs that played lately.
+    [[nodiscard]] const RecordPrograms& recordPrograms() const;
+    /// "Waiting for Firefox" while a recording runs or is armed that takes only programs of which none plays; else
+    /// empty.
+    [[nodiscard]] QString waitingForPrograms() const;
+    /// From now on, programs that play are remembered in recordPrograms(). A choice of programs does this by itself.
+    void watchPrograms();
     [[nodiscard]] QString startToolTip() const;
     [[nodiscard]] QString startImage() const;
     [[nodiscard]] QString startPressedImage() const;
@@ -187,6 +197,8 @@ Q_SIGNALS:
     void displayChanged();
     void devicesChanged();
     void queueChanged();
+    /// A program began or ended to play; see watchPrograms().
+    void programsChanged();
     void noticesChanged();
     /// A finished recording was added to the library (or dropped by the filter: then @p entry is empty).
     void recordingFinished(const QString& path, const Dictionary& entry);

@@ -173,6 +173,8 @@ void RecordStateController::Private::startRecord() {
     notices_.beginRecording();
     // Before cycles are held: the search may take long on a slow share.
     const QString path = names.getAudioRecordPath(recordFolder());
+    claim_.release();
+    const QString whyNoComputer = computer.checked ? whyNoPrograms() : QString();
     const CycleHold hold(sources);
     const std::scoped_lock lock(mutex);
     audioRecordPath_ = path;
@@ -195,7 +197,12 @@ void RecordStateController::Private::startRecord() {
     }
     if (builtIn.checked)
         beginFile(builtIn, true);
-    if (computer.checked) {
+    if (!whyNoComputer.isEmpty()) {
+        computer.off = true;
+        notice({.text = QCoreApplication::translate("RecordStateController", "%1 is off: %2.")
+                            .arg(computer.label, whyNoComputer),
+                .event = offEvent(computer)});
+    } else if (computer.checked) {
         beginFile(computer, builtIn.takesPart());
         if (!builtIn.takesPart() && computer.takesPart())
             splitter.arm();
@@ -211,6 +218,10 @@ void RecordStateController::Private::startRecord() {
     }
     // The window must not show a recording.
     names.giveBack(audioRecordPath_);
+    if (!whyNoComputer.isEmpty() && !builtIn.checked) {
+        claim_.release();
+        return;
+    }
     for (const RecordSource& source : sources)
         withdrawNotice(offEvent(source));
     const bool canChoose = builtIn.checked && !devices->deviceNames().isEmpty();

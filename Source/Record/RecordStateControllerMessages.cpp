@@ -133,6 +133,8 @@ void RecordStateController::Private::deviceEvent(Platform::InputUnit::Event even
         if (isLoss && records)
             source.wasAway = true;
     }
+    if (!isLoss && &source == &computer)
+        keepPrograms();
     if (!records && !waits)
         return;
     RecordNotice message;
@@ -227,6 +229,8 @@ bool RecordStateController::Private::isSilentTooLong(const RecordSource& source)
         return false;
     if (&source == &builtIn)
         return true;
+    if (!q->waitingForPrograms().isEmpty())
+        return false; // the display says what is waited for
     // Silence is expected between the parts of a recording that is cut at silences, and beside an input device once
     // the computer was heard.
     return builtIn.takesPart() ? !source.sounded : g_SplitTimeMS < 0;
@@ -236,7 +240,11 @@ RecordNotice RecordStateController::Private::silenceNotice(const RecordSource& s
     const QString seconds = Platform::Translations::number(LongSilence);
     RecordNotice message;
     message.event = u"silent "_s + source.label;
-    if (&source == &computer) {
+    if (&source == &computer && programs_.mode != RecordPrograms::Mode::Everything) {
+        message.text = QCoreApplication::translate("RecordStateController",
+                                                   "Computer audio (%1) has been silent for %2 s: nothing plays.")
+                           .arg(programs_.title(), seconds);
+    } else if (&source == &computer) {
         AudioObjectID output = 0;
         QString name;
         auto& hardware = *Platform::services().audioHardware;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "CaptureComputerAudio/ComputerAudioClaim.h"
 #include "Platform/Foundation/MainQueue.h"
 #include "Platform/Foundation/Result.h"
 #include "Source/Record/RecordDisplay.h"
@@ -13,6 +14,7 @@
 #include "Source/Record/RecordingNames.h"
 #include "Source/Record/SilenceSplitter.h"
 
+#include <QElapsedTimer>
 #include <QThreadPool>
 #include <QTimer>
 
@@ -94,6 +96,11 @@ struct RecordStateController::Private {
     bool popUpEnabled_ = true;
     RecordDisplay display_;
     QString convertTip_;
+    RecordPrograms programs_;
+    ComputerAudioClaim claim_;    ///< held while computer audio is recorded or armed
+    bool programsChosen_ = false; ///< the driver has got a choice from here
+    bool programsWatched_ = false;
+    QElapsedTimer programsSent_; ///< since the driver got another choice
     RecordNotices notices_;
     std::uint64_t lostShown_ = 0;
     RecordRoom room_;
@@ -162,6 +169,12 @@ struct RecordStateController::Private {
 
     [[nodiscard]] QString recordFolder() const;
     void applyPreRoll();
+    void readPrograms();
+    [[nodiscard]] bool applyPrograms(int patienceMs);
+    void keepPrograms();
+    void releaseClaim();
+    void forgetPreRoll();
+    [[nodiscard]] QString whyNoPrograms();
     // With cycles held and the mutex locked.
     [[nodiscard]] static QString rawPath(const RecordSource& source);
     /// The event of the notice about a source that is off.

@@ -9,6 +9,7 @@
 #include "Source/Record/RecordStateController.h"
 #include "Source/View/ConvertingTipView.h"
 #include "Source/View/NamedImages.h"
+#include "Source/WndController/ProgramsMenu.h"
 #include "ui_MainWnd.h"
 
 #include <QCoreApplication>
@@ -24,6 +25,7 @@ RecordPanel::RecordPanel(Ui::MainWnd& ui, RecordStateController& record, AudioWa
                          QObject* parent)
     : QObject(parent), ui_(ui), record_(record), display_(display),
       fileConvertingTipView_(new ConvertingTipView(ui.libraryView_)) {
+    new ProgramsMenu(*ui_.btnRecordPrograms_, record_, this);
     ui_.btnSatrtRecord_->setImageSize(52);
     ui_.btnSplitRecord_->setImage(QStringLiteral("split"));
     ui_.btnPlayAudio_->setImage(QStringLiteral("Play.png"));
@@ -51,6 +53,7 @@ RecordPanel::RecordPanel(Ui::MainWnd& ui, RecordStateController& record, AudioWa
     connect(&record_, &RecordStateController::devicesChanged, this, &RecordPanel::showDevices);
     connect(&record_, &RecordStateController::noticesChanged, this, &RecordPanel::showNotices);
     connect(&record_, &RecordStateController::queueChanged, this, &RecordPanel::showFileConvertTipView);
+    connect(&record_, &RecordStateController::programsChanged, this, &RecordPanel::showHealth);
     if (const auto* hardware = Platform::services().audioHardware)
         connect(hardware, &Platform::AudioHardware::connectedChanged, this, &RecordPanel::showHealth);
 
@@ -149,6 +152,8 @@ QString RecordPanel::hint() const {
         return tr("No sound server");
     if (record_.builtInChecked() && record_.deviceNames().isEmpty())
         return tr("No input device");
+    if (const QString waiting = record_.waitingForPrograms(); !waiting.isEmpty())
+        return waiting;
     // An armed recording has no time yet, but must be visible as a recording.
     if (record_.isStateAudioRecord() && record_.isWaittingForSound())
         return tr("Waiting for the first sound of computer audio");

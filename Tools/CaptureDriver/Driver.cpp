@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Tools/CaptureDriver/Driver.h"
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
@@ -195,10 +197,33 @@ void Driver::onGlobalRemoved(std::uint32_t id) {
 /// node was created and is ignored.
 void Driver::leave() {
     leaving_ = true;
-    if (metadata_ && ownId_ != SPA_ID_INVALID)
-        for (const char* key : {kPathKey, kProgramsKey, kQuitKey})
-            pw_metadata_set_property(metadata_.get(), ownId_, key, nullptr, nullptr);
+    for (const char* key : {kPathKey, kProgramsKey, kProgramsAppliedKey, kQuitKey})
+        removeMetadata(key);
     lookAgain();
+}
+
+void Driver::removeMetadata(const char* key) {
+    if (metadata_ && ownId_ != SPA_ID_INVALID)
+        pw_metadata_set_property(metadata_.get(), ownId_, key, nullptr, nullptr);
+}
+
+/// A driver that was killed may have left its choice at the id that is ours now. Programs would take it for our answer,
+/// and the server would not report the same choice again.
+void Driver::removeStaleMetadata() {
+    for (const char* key : {kProgramsKey, kProgramsAppliedKey})
+        if (stale_.contains({ownId_, key}))
+            removeMetadata(key);
+}
+
+/// Everything else is unlinked: the server handles our requests in their order.
+void Driver::confirmChoice() {
+    if (confirmedChoice_ == choiceText_ || !metadata_)
+        return;
+    confirmedChoice_ = choiceText_;
+    if (choiceText_.empty())
+        removeMetadata(kProgramsAppliedKey);
+    else
+        pw_metadata_set_property(metadata_.get(), ownId_, kProgramsAppliedKey, "Spa:String", choiceText_.c_str());
 }
 
 void Driver::onSteered(const std::string& key, const std::string& value) {
@@ -217,21 +242,23 @@ void Driver::onSteered(const std::string& key, const std::string& value) {
 }
 
 void Driver::choosePrograms(const std::string& value) {
+    choiceText_ = value;
     choice_ = ProgramChoice::decoded(value);
     if (choice_.mode != ProgramChoice::Mode::Everything && !streams_)
         streams_ = std::make_unique<StreamWatch>(core_.get(), [this] { lookAgain(); });
 }
 
 void Driver::onMetadata(std::uint32_t subject, const char* key, const char* value) {
+    static constexpr std::array ownKeys = {kPathKey, kProgramsKey, kProgramsAppliedKey, kQuitKey};
     if (leaving_)
         return;
     if (subject == PW_ID_CORE && key && strcmp(key, "default.audio.sink") == 0) {
         defaultOutput_ = value ? nameIn(value) : "";
-    } else if (key && (strcmp(key, kPathKey) == 0 || strcmp(key, kProgramsKey) == 0 || strcmp(key, kQuitKey) == 0)) {
+    } else if (key && std::ranges::any_of(ownKeys, [key](const char* own) { return strcmp(key, own) == 0; })) {
         // Before our node is created, all metadata belongs to other nodes, whose id may become ours.
         if (!created_)
             stale_[{subject, key}] = value ? value : "";
-        else if (subject == ownId_)
+        else if (subject == ownId_ && strcmp(key, kProgramsAppliedKey) != 0)
             onSteered(key, value ? value : "");
         return;
     } else {

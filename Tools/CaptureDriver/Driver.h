@@ -25,6 +25,8 @@ public:
     static constexpr char kPathKey[] = "kCaptureDriverPathKey";
     /// The metadata key of our node that chooses programs: an encoded Platform::ProgramChoice.
     static constexpr char kProgramsKey[] = "kCaptureDriverProgramsKey";
+    /// The driver copies the value of kProgramsKey to this key when the links of everything else are removed.
+    static constexpr char kProgramsAppliedKey[] = "kCaptureDriverProgramsAppliedKey";
 
     Driver() = default;
     ~Driver();
@@ -100,6 +102,9 @@ private:
     [[nodiscard]] const Mixer* mixerFor(std::uint32_t node, const std::vector<std::string>& channels);
     [[nodiscard]] std::set<std::uint32_t> nodesWithOutput() const;
     void removeAllBut(const Wiring& wanted);
+    void confirmChoice();
+    void removeMetadata(const char* key);
+    void removeStaleMetadata();
     [[nodiscard]] bool isLinkedByOthers(Ports ports) const;
     void connect(Ports ports);
 
@@ -135,7 +140,9 @@ private:
     std::map<std::pair<std::uint32_t, std::string>, std::string> stale_; ///< by id and key
     std::string defaultOutput_;
     std::string steering_; ///< a registry path; the key itself selects nothing; empty follows the default output
+    std::string choiceText_; ///< encoded
     Platform::ProgramChoice choice_;
+    std::string confirmedChoice_; ///< the last value of kProgramsAppliedKey
     bool carriesPrograms_ = false;                   ///< the links were made for chosen programs
     std::unique_ptr<Platform::StreamWatch> streams_; ///< exists since programs were chosen for the first time
 };

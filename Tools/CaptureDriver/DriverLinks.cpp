@@ -235,6 +235,7 @@ void Driver::reconcile() {
         // The server does not send metadata about an object that the client does not know yet, so values set on our
         // node in its first moments are lost. Subscribing now delivers all of them.
         listening_ = true;
+        removeStaleMetadata();
         if (metadataId_ != SPA_ID_INVALID)
             bindMetadata(metadataId_);
         lookAgain();
@@ -248,6 +249,7 @@ void Driver::reconcile() {
         carriesPrograms_ = programs;
         removeAllBut(wanted);
     }
+    confirmChoice();
     bool complete = wanted.complete;
     for (const auto& each : wanted.links) {
         if (const auto own = links_.find(each); own != links_.end()) {

@@ -22,6 +22,7 @@
 
 using namespace Qt::StringLiterals;
 using Platform::ProgramChoice;
+using CaptureComputerAudio::Choosing;
 using Mode = ProgramChoice::Mode;
 
 namespace {
@@ -36,8 +37,8 @@ protected:
         Platform::services().ioRegistry = registry.get();
         QString why;
         EXPECT_TRUE(CaptureDriver::load(kBundle, why, 10000)) << qPrintable(why);
-        EXPECT_TRUE(waitFor([] { return CaptureComputerAudio::choosePrograms({Mode::AllBut, {}}); }));
-        EXPECT_TRUE(CaptureComputerAudio::choosePrograms({}));
+        EXPECT_TRUE(waitFor([] { return CaptureComputerAudio::choosePrograms({Mode::AllBut, {}}) == Choosing::Changed; }));
+        EXPECT_EQ(CaptureComputerAudio::choosePrograms({}), Choosing::Changed);
     }
     ~Programs() override {
         EXPECT_TRUE(CaptureDriver::unload(20000));
@@ -57,7 +58,7 @@ protected:
         return player;
     }
     void choose(Mode mode, std::vector<std::string> programs) {
-        ASSERT_TRUE(CaptureComputerAudio::choosePrograms({mode, std::move(programs)}));
+        ASSERT_NE(CaptureComputerAudio::choosePrograms({mode, std::move(programs)}), Choosing::NotPossible);
     }
     void expectFeeders(const std::set<std::string>& wanted) {
         EXPECT_TRUE(waitFor([&] { return server.feedersOf("korvane.system-audio") == wanted; }))

@@ -383,9 +383,10 @@ TEST_F(RecordCommandTest, RefusesWrongUsageAndPrintsTheUsage) {
          {QStringList{u"--for"_s, u"abc"_s}, QStringList{u"--for"_s, u"0"_s}, QStringList{u"--for"_s, u"-1"_s},
           QStringList{u"--filter"_s, u"maybe"_s}, QStringList{u"file"_s}, QStringList{u"--unknown"_s},
           QStringList{u"--input"_s, u"none"_s}, QStringList{u"--split"_s, u"2147483648"_s},
-          QStringList{u"--pre-roll"_s, u"5001"_s}, QStringList{u"--pre-roll"_s, u"-1"_s},
-          QStringList{u"--filter"_s, u"2.5"_s}, QStringList{u"--wait"_s, u"inf"_s},
-          QStringList{u"--for"_s, u"nan"_s}}) {
+          QStringList{u"--app"_s, u"a"_s, u"--not-app"_s, u"b"_s}, QStringList{u"--app"_s, u""_s},
+          QStringList{u"--not-app"_s, u""_s}, QStringList{u"--pre-roll"_s, u"5001"_s},
+          QStringList{u"--pre-roll"_s, u"-1"_s}, QStringList{u"--filter"_s, u"2.5"_s},
+          QStringList{u"--wait"_s, u"inf"_s}, QStringList{u"--for"_s, u"nan"_s}}) {
         EXPECT_EQ(record(arguments), CommandLine::WrongUsage) << qPrintable(arguments.join(u' '));
         EXPECT_TRUE(err.contains(u"usage: sonaphex record"_s));
     }

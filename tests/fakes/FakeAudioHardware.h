@@ -145,6 +145,7 @@ public:
     bool unitOpens = true;
     bool isConnected = true;
     bool testTone = false;
+    std::vector<Platform::PlayingProgram> programs;
     /// How units of a device behave; nextUnit is used for a device without an entry. Created on demand.
     std::shared_ptr<FakeInputUnit::State> nextUnit = std::make_shared<FakeInputUnit::State>();
     std::function<void()> onOpen; ///< called before a unit is opened
@@ -155,6 +156,10 @@ public:
     void add(Device device) {
         list.push_back(std::move(device));
         Q_EMIT devicesChanged();
+    }
+    void setPrograms(std::vector<Platform::PlayingProgram> playing) {
+        programs = std::move(playing);
+        Q_EMIT playingProgramsChanged();
     }
     void remove(AudioObjectID id) {
         std::erase_if(list, [id](const Device& device) { return device.id == id; });
@@ -192,6 +197,7 @@ public:
     OSStatus getDefaultOutputDevice(AudioObjectID& device) override;
     OSStatus getInputFormat(AudioObjectID device, double& sampleRate, std::uint32_t& channels) override;
     std::unique_ptr<Platform::InputUnit> openOutputUnit(bool& found) override;
+    std::vector<Platform::PlayingProgram> playingPrograms() override { return programs; }
     bool isTestTone() const override { return testTone; }
     bool connected() const override { return isConnected; }
     QString lastError() const override { return isConnected ? QString() : QStringLiteral("no sound server answers"); }

@@ -120,6 +120,7 @@ void DeviceRegistry::serverLost() {
         known_ = false;
         picture_.clear();
         defaultSink_.clear();
+        driverMetadata_.clear();
     }
     changed_.notify_all();
     if (wasConnected)
@@ -184,6 +185,8 @@ void DeviceRegistry::onGlobalRemove(std::uint32_t id) {
     {
         std::lock_guard guard(mutex_);
         picture_.erase(node->info.id);
+        // The server reuses the id for other nodes.
+        std::erase_if(driverMetadata_, [id](const auto& each) { return each.first.first == id; });
     }
     for (auto* each : std::vector(listeners_))
         each->deviceGone(node->info.id);
@@ -327,6 +330,14 @@ void DeviceRegistry::bindMetadata(std::uint32_t id, const std::string& name) {
 }
 
 void DeviceRegistry::onMetadata(Metadata& metadata, std::uint32_t subject, const char* key, const char* value) {
+    if (key && metadata.name == "default" && std::string_view(key).starts_with("kCaptureDriver")) {
+        std::lock_guard guard(mutex_);
+        if (value)
+            driverMetadata_[{subject, key}] = value;
+        else
+            driverMetadata_.erase({subject, key});
+        return;
+    }
     if (subject != PW_ID_CORE)
         return;
     if (metadata.name == "settings") {
@@ -354,6 +365,12 @@ void DeviceRegistry::onMetadata(Metadata& metadata, std::uint32_t subject, const
     }
     for (auto* each : std::vector(listeners_))
         each->defaultSinkChanged();
+}
+
+std::string DeviceRegistry::driverMetadata(std::uint32_t subject, const std::string& key) const {
+    std::lock_guard guard(mutex_);
+    const auto found = driverMetadata_.find({subject, key});
+    return found != driverMetadata_.end() ? found->second : std::string();
 }
 
 bool DeviceRegistry::waitUntilKnown(int milliseconds) const {

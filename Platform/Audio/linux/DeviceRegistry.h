@@ -84,6 +84,8 @@ public:
     /// loop's lock.
     OSStatus setMetadata(std::uint32_t subject, const std::string& key, const std::string& type,
                          const std::string& value);
+    /// The value of a driver's key ("kCaptureDriver...") of the server's metadata "default"; empty when there is none.
+    [[nodiscard]] std::string driverMetadata(std::uint32_t subject, const std::string& key) const;
 
     void serverConnected() override;
     void serverLost() override;
@@ -134,6 +136,7 @@ private:
     bool known_ = false;
     std::map<AudioObjectID, AudioDeviceInfo> picture_;
     std::string defaultSink_;
+    std::map<std::pair<std::uint32_t, std::string>, std::string> driverMetadata_; ///< by subject and key
     std::uint32_t clockRate_ = 48000;
     std::uint32_t quantum_ = 1024;
     std::uint32_t forcedQuantum_ = 0;

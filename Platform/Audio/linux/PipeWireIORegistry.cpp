@@ -76,6 +76,8 @@ QVariant PipeWireIORegistry::property(Object object, const QString& key) {
         return {};
     if (const auto value = propertyOf(*device, key.toUtf8().constData()); !value.empty())
         return QString::fromStdString(value);
+    if (const auto value = registry_->driverMetadata(device->nodeId, key.toStdString()); !value.empty())
+        return QString::fromStdString(value);
     const auto ours = set_.find(object);
     return ours != set_.end() ? ours->second.value(key) : QVariant();
 }

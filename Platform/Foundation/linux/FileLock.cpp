@@ -46,13 +46,21 @@ Result<> openLocked(const QString& path, const std::function<Descriptor()>& open
 }
 
 Result<> FileLock::take(const QString& path, std::chrono::milliseconds patience) {
+    return take(path, false, patience);
+}
+
+Result<> FileLock::takeShared(const QString& path, std::chrono::milliseconds patience) {
+    return take(path, true, patience);
+}
+
+Result<> FileLock::take(const QString& path, bool shared, std::chrono::milliseconds patience) {
     release();
     path_ = path;
     const auto open = [name = QFile::encodeName(path)] {
         return Descriptor(::open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0600));
     };
     Descriptor file;
-    auto taken = openLocked(path, open, LockKind::Exclusive, patience, file);
+    auto taken = openLocked(path, open, shared ? LockKind::Shared : LockKind::Exclusive, patience, file);
     if (taken)
         descriptor_ = file.release();
     return taken;

@@ -54,6 +54,10 @@ TEST_F(StoredSettings, HaveTheirDefaultsWhenWhatIsStoredIsOfAnotherKind) {
             EXPECT_EQ(Settings::value(*setting), setting->defaultObject())
                 << qPrintable(setting->key) << ' ' << stored.typeName();
         }
+    for (const QVariant& stored : {QVariant(12), QVariant(u"only"_s), QVariant(QVariantList{1})}) {
+        defaults.setObject(PreferenceStore::ChooseRecordPrograms, stored);
+        EXPECT_EQ(Settings::value(Settings::recordPrograms), QVariant(Dictionary())) << stored.typeName();
+    }
     for (const QVariant& stored : {QVariant(12), QVariant(u""_s), QVariant(u"relative/folder"_s)}) {
         defaults.setObject(PreferenceStore::PreferenceSavePathKey, stored);
         EXPECT_EQ(Settings::value(Settings::savePath), PreferenceStore::defaultMusicFolder()) << stored.typeName();

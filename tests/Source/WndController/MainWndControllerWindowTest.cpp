@@ -510,9 +510,10 @@ TEST_F(MainWindow, TabReachesEveryControl) {
             reached.insert(focus->objectName());
         key(Qt::Key_Tab);
     }
-    for (const QString& name : {u"btnSatrtRecord_"_s, u"btnPlayAudio_"_s, u"btnBuiltInRecord_"_s,
-                                u"popBuiltInDevice_"_s, u"btnComputerAudioRecord_"_s, u"outlineLibraryView_"_s,
-                                u"audioTableView_"_s, u"btnShow_"_s, u"btnOpen_"_s, u"btnDelete_"_s})
+    for (const QString& name :
+         {u"btnSatrtRecord_"_s, u"btnPlayAudio_"_s, u"btnBuiltInRecord_"_s, u"popBuiltInDevice_"_s,
+          u"btnComputerAudioRecord_"_s, u"btnRecordPrograms_"_s, u"outlineLibraryView_"_s, u"audioTableView_"_s,
+          u"btnShow_"_s, u"btnOpen_"_s, u"btnDelete_"_s})
         EXPECT_TRUE(reached.contains(name)) << qPrintable(name);
 }
 

@@ -1,0 +1,163 @@
+// SPDX-FileCopyrightText: 2026 The Sonaphex authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The real program records chosen programs with the real driver.
+#include "tests/CommandLine/RecordServerFixture.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace {
+
+class RecordPrograms : public RecordServer {
+protected:
+    RecordPrograms() {
+        driver_.start(QStringLiteral(SONAPHEX_BIN_DIR "/Resources/ComputerAudioCapture.kext/CaptureDriver"),
+                      QStringList());
+        EXPECT_TRUE(Platform::PipeWire::serverIsThere(30000, true, "korvane.system-audio"));
+    }
+    ~RecordPrograms() override {
+        driver_.terminate();
+        driver_.waitForFinished();
+    }
+
+    static TestSource::Options tone(const std::string& name, double pitch) {
+        return {.name = name, .description = name, .content = TestSource::Content::Tone, .frequency = pitch};
+    }
+    [[nodiscard]] QStringList arguments(const QStringList& more) const {
+        return QStringList{u"record"_s,   u"--input"_s, u"none"_s,    u"--folder"_s, folder_,
+                           u"--filter"_s, u"off"_s,     u"--split"_s, u"off"_s} +
+               more;
+    }
+    /// The level of a tone in a part of a file, in dB below full scale.
+    static double levelOf(const std::vector<float>& samples, double pitch, double rate = 44100) {
+        double sine = 0;
+        double cosine = 0;
+        for (std::size_t i = 0; i < samples.size(); ++i) {
+            // A window with low side lobes separates the tones.
+            const double phase = 2 * std::numbers::pi * double(i) / double(samples.size());
+            const double window =
+                0.35875 - 0.48829 * std::cos(phase) + 0.14128 * std::cos(2 * phase) - 0.01168 * std::cos(3 * phase);
+            const double angle = 2 * std::numbers::pi * pitch * double(i) / rate;
+            sine += double(samples[i]) * window * std::sin(angle);
+            cosine += double(samples[i]) * window * std::cos(angle);
+        }
+        return 20 * std::log10(std::max(2 * std::hypot(sine, cosine) / (0.35875 * double(samples.size())), 1e-12));
+    }
+    /// The left channel of a recording without its first and last tenth of a second.
+    static std::vector<float> middleOf(const QString& path) {
+        const auto decoded = AudioCheck::decodedByFfmpeg(path);
+        EXPECT_EQ(decoded.size(), 2U) << qPrintable(path);
+        return decoded.empty() ? std::vector<float>(1) : AudioCheck::inner(decoded[0], 4410);
+    }
+    static QByteArray metadata() { return runTool(u"pw-metadata"_s, {}).output; }
+
+    QProcess driver_;
+};
+
+TEST_F(RecordPrograms, OnlyTheChosenOnesAreInTheFile) {
+    TestPlayer one(tone("test.one", 440));
+    TestPlayer two(tone("test.two", 1000));
+    TestPlayer three(tone("test.three", 3000));
+    ASSERT_TRUE(one.start());
+    ASSERT_TRUE(two.start());
+    ASSERT_TRUE(three.start());
+    struct Case {
+        QStringList options;
+        bool hasOne;
+        bool hasTwo;
+        bool hasThree;
+    };
+    for (const Case& each :
+         {Case{{u"--app"_s, u"test.one"_s}, true, false, false},
+          Case{{u"--app"_s, u"TEST.two"_s, u"--app"_s, u"test.three"_s}, false, true, true},
+          Case{{u"--not-app"_s, u"test.two"_s}, true, false, true}, Case{{u"--computer"_s}, true, true, true}}) {
+        const auto result = sonaphex(arguments(each.options + QStringList{u"--for"_s, u"2"_s}));
+        ASSERT_EQ(result.status, 0) << result.errors.toStdString();
+        const auto samples = middleOf(QString::fromUtf8(result.output.trimmed()));
+        const auto check = [&](bool has, double pitch) {
+            const double level = levelOf(samples, pitch);
+            RecordProperty((each.options.join(u'_') + QString::number(pitch)).toStdString(), std::to_string(level));
+            if (has)
+                EXPECT_NEAR(level, -12.04, 0.5) << pitch << qPrintable(each.options.join(u' '));
+            else
+                EXPECT_LT(level, -90) << pitch << qPrintable(each.options.join(u' '));
+        };
+        check(each.hasOne, 440);
+        check(each.hasTwo, 1000);
+        check(each.hasThree, 3000);
+        EXPECT_FALSE(metadata().contains("kCaptureDriverPrograms")) << "the driver carries everything again";
+    }
+}
+
+TEST_F(RecordPrograms, AProgramThatStartsAgainIsInTheFileWithin50Milliseconds) {
+    // The first 50 ms of the program have a pitch of their own.
+    auto options = tone("test.one", 0);
+    options.sample = [](std::uint64_t frame, std::uint32_t) {
+        return Signal::tone(frame, frame < 2400 ? 5000 : 440, 48000, 0.25);
+    };
+    TestPlayer other(tone("test.other", 1000));
+    ASSERT_TRUE(other.start());
+    for (const QStringList& choice : {QStringList{u"--app"_s, u"test.one"_s}, {u"--not-app"_s, u"test.other"_s}}) {
+        TestPlayer player(options);
+        QProcess process;
+        process.start(QStringLiteral(SONAPHEX_PROGRAM), arguments(choice));
+        // Armed: only the chosen program begins the recording.
+        ASSERT_TRUE(waitFor([] { return metadata().contains("kCaptureDriverProgramsAppliedKey"); }));
+        ASSERT_TRUE(player.start());
+        ASSERT_FALSE(rawFile(8000).isEmpty());
+        for (int round = 0; round < 3; ++round) {
+            player.remove();
+            const auto silent = other.position() + 14400;
+            ASSERT_TRUE(waitFor([&] { return other.position() > silent; }));
+            ASSERT_TRUE(player.start());
+            ASSERT_TRUE(waitFor([&] { return player.position() > 24000; }));
+        }
+        ::kill(pid_t(process.processId()), SIGINT);
+        ASSERT_TRUE(process.waitForFinished());
+        const auto samples = middleOf(QString::fromUtf8(process.readAllStandardOutput().trimmed()));
+        ASSERT_GT(samples.size(), 44100U);
+        // Without the beginning of a tone, which contains every pitch.
+        EXPECT_LT(levelOf({samples.end() - 13230, samples.end()}, 1000), -90);
+        // Stretches of 5 ms in which the first pitch is heard: each start gives some of them.
+        constexpr std::size_t stretch = 220;
+        int starts = 0;
+        bool before = true; // the first start may lie before the middle
+        for (std::size_t i = 0; i + stretch < samples.size(); i += stretch) {
+            const bool now =
+                levelOf({samples.begin() + std::ptrdiff_t(i), samples.begin() + std::ptrdiff_t(i + stretch)}, 5000) >
+                -30;
+            starts += now && !before;
+            before = now;
+        }
+        EXPECT_EQ(starts, 3) << qPrintable(choice.join(u' '));
+    }
+}
+
+TEST_F(RecordPrograms, ARecordingWithOtherProgramsIsRefused) {
+    TestPlayer player(tone("test.one", 440));
+    ASSERT_TRUE(player.start());
+    QProcess process;
+    process.start(QStringLiteral(SONAPHEX_PROGRAM), arguments({u"--app"_s, u"test.one"_s}));
+    ASSERT_FALSE(rawFile(8000).isEmpty());
+    const auto second = sonaphex(arguments({u"--computer"_s, u"--for"_s, u"1"_s}));
+    EXPECT_EQ(second.status, 1);
+    EXPECT_TRUE(second.errors.contains("another recording of computer audio runs with other programs"))
+        << second.errors.toStdString();
+    // However it ends, it stands in nobody's way afterwards.
+    process.kill();
+    ASSERT_TRUE(process.waitForFinished());
+    const auto third = sonaphex(arguments({u"--computer"_s, u"--for"_s, u"1"_s}));
+    EXPECT_EQ(third.status, 0) << third.errors.toStdString();
+}
+
+TEST_F(RecordPrograms, AProgramThatPlaysNothingIsWaitedFor) {
+    TestPlayer other(tone("test.other", 1000));
+    ASSERT_TRUE(other.start());
+    const auto result = sonaphex(arguments({u"--app"_s, u"test.one"_s, u"--wait"_s, u"1"_s}));
+    EXPECT_EQ(result.status, 0) << result.errors.toStdString();
+    EXPECT_TRUE(result.errors.contains("no sound came: nothing was recorded")) << result.errors.toStdString();
+    EXPECT_EQ(result.output, QByteArray());
+}
+
+} // namespace
