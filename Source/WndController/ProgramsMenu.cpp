@@ -36,7 +36,7 @@ ProgramsMenu::ProgramsMenu(QToolButton& button, RecordStateController& record, Q
     button_.setMenu(menu_);
     button_.setPopupMode(QToolButton::InstantPopup);
     button_.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    button_.setFocusPolicy(Qt::StrongFocus);
+    button_.setFocusPolicy(Qt::TabFocus);
     button_.installEventFilter(this);
     menu_->setAccessibleName(tr("Programs to record"));
     connect(menu_, &QMenu::aboutToShow, this, [this] {
@@ -66,7 +66,7 @@ QIcon ProgramsMenu::iconOf(const RecordPrograms::Program& program) {
                                 QStringLiteral("applications-multimedia")})
         if (const QIcon icon = name.isEmpty() ? QIcon() : QIcon::fromTheme(name); !icon.isNull())
             return icon;
-    return NamedImages::icon(QStringLiteral("audio-playing"));
+    return NamedImages::icon(QStringLiteral("audio-playing-icon"));
 }
 
 void ProgramsMenu::show() {

@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QShortcut>
+#include <QToolButton>
 
 WindowKeys::WindowKeys(QWidget& window, QAction& play, QObject* parent) : QObject(parent) {
     // Not the action's own shortcut: a disabled action would leave the key to the focused widget.
@@ -30,11 +31,13 @@ bool WindowKeys::eventFilter(QObject* watched, QEvent* event) {
         return QObject::eventFilter(watched, event);
     const auto& key = static_cast<const QKeyEvent&>(*event);
     auto* button = qobject_cast<QAbstractButton*>(watched);
-    const bool keepsSpace = !button || qobject_cast<QCheckBox*>(watched);
+    const auto* tool = qobject_cast<const QToolButton*>(watched);
+    const bool isBox = qobject_cast<QCheckBox*>(watched) != nullptr;
+    const bool keepsSpace = !button || isBox || (tool && tool->menu());
     if (event->type() == QEvent::ShortcutOverride) {
         if (key.key() == Qt::Key_Space && keepsSpace)
             event->accept();
-    } else if (button && !keepsSpace && (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter)) {
+    } else if (button && !isBox && (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter)) {
         if (!key.isAutoRepeat())
             button->click();
         return true;

@@ -7,6 +7,7 @@
 #include "tests/fakes/FakeIORegistry.h"
 
 #include <QMenu>
+#include <QScopeGuard>
 #include <QTimer>
 #include <QToolButton>
 
@@ -35,20 +36,27 @@ protected:
     }
     QToolButton& button() { return world.outlet<QToolButton>("btnRecordPrograms_"); }
     /// Opens the menu with the keyboard and does the steps while it is open: it runs an event loop of its own.
-    void inMenu(const std::function<void(QMenu&)>& steps) {
+    void inMenu(const std::function<void(QMenu&)>& steps, Qt::Key opens = Qt::Key_Space) {
         QMenu& menu = *button().menu();
         bool done = false;
         QTimer::singleShot(0, &menu, [&] {
-            ASSERT_TRUE(waitFor([&] { return menu.isVisible(); }));
+            const auto closed = qScopeGuard([&] { menu.hide(); });
+            ASSERT_TRUE(waitFor([&] { return menu.isVisible(); }, 5000));
             steps(menu);
-            menu.hide();
             done = true;
         });
         button().setFocus();
-        QTest::keyClick(&button(), Qt::Key_Space);
-        EXPECT_TRUE(done);
+        QTest::keyClick(&button(), opens);
+        ASSERT_TRUE(done);
     }
     static void key(QWidget& widget, Qt::Key key) { QTest::keyClick(&widget, key); }
+    static void click(QMenu& menu, QAction& action) {
+        const QPoint place = menu.actionGeometry(&action).center();
+        // A menu ignores a click of a pointer that has not moved since it was opened.
+        QTest::mouseMove(menu.windowHandle(), place - QPoint(20, 1));
+        QTest::mouseMove(menu.windowHandle(), place);
+        QTest::mouseClick(menu.windowHandle(), Qt::LeftButton, {}, place);
+    }
     static QStringList texts(const QMenu& menu) {
         QStringList list;
         for (const QAction* action : menu.actions())
@@ -106,11 +114,10 @@ TEST_F(MenuOfPrograms, IsUsedWithTheMouse) {
                                       {1, u"Everything"_s}}) {
         inMenu([row = row](QMenu& menu) {
             QAction* action = menu.actions().at(3);
-            QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(action).center());
+            click(menu, *action);
             QMenu* list = action->menu();
-            ASSERT_TRUE(waitFor([&] { return list->isVisible(); }));
-            QAction* program = list->actions().at(row);
-            QTest::mouseClick(list, Qt::LeftButton, {}, list->actionGeometry(program).center());
+            ASSERT_TRUE(waitFor([&] { return list->isVisible(); }, 5000));
+            click(*list, *list->actions().at(row));
         });
         EXPECT_EQ(programs().title(), wanted);
     }
@@ -138,14 +145,15 @@ TEST_F(MenuOfPrograms, ListsProgramsThatPlayedLatelyBelowThoseThatPlay) {
 TEST_F(MenuOfPrograms, SaysThatNoProgramHasPlayed) {
     world.hardware.programs.clear();
     world.open();
-    inMenu([this](QMenu& menu) {
+    const auto steps = [this](QMenu& menu) {
         const QMenu* only = menu.actions().at(2)->menu();
         EXPECT_EQ(texts(*only), QStringList{u"No program has played yet"_s});
         EXPECT_FALSE(only->actions().first()->isEnabled());
         // The first answer of the server arrives while the menu is open.
         world.hardware.setPrograms({program(u"vlc"_s, u"VLC"_s)});
         EXPECT_EQ(texts(*only), QStringList{u"VLC"_s});
-    });
+    };
+    inMenu(steps, Qt::Key_Return);
 }
 
 TEST_F(MenuOfPrograms, RestsWhileSomethingIsRecordedAndTheDisplaySaysWhatIsWaitedFor) {
