@@ -31,6 +31,7 @@ protected:
         PreferenceStore::setPreferenceValue(true, PreferenceStore::ChooseRecordComputerAudio);
         world.hardware.programs = {program(u"firefox"_s, u"Firefox"_s), program(u"vlc"_s, u"Tom & Jerry"_s)};
     }
+    ~MenuOfPrograms() override { Platform::services().ioRegistry = nullptr; } // the world outlives it
     static Platform::PlayingProgram program(const QString& id, const QString& name, bool playing = true) {
         return {.id = id, .name = name, .iconName = {}, .parts = {id, name}, .isPlaying = playing};
     }
