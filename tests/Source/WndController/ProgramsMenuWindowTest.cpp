@@ -194,6 +194,7 @@ TEST_F(MenuOfPrograms, FitsTheSmallestWindow) {
         RecordPrograms::named(Mode::AllBut, {u"Firefox"_s, u"A music player with a long name"_s}));
     QCoreApplication::processEvents();
     takeAll(u"programs-chosen"_s);
+    world.hardware.programs.clear();
     world.record->chooseRecordPrograms(RecordPrograms::named(Mode::Only, {u"Firefox"_s}));
     world.click("btnSatrtRecord_");
     tick();
