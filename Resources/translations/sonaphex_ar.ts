@@ -1713,6 +1713,30 @@ commands:
         <comment>a list of the library and how many are in it</comment>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>--app and --not-app exclude each other</source>
+        <translation>لا يمكن الجمع بين --app و --not-app</translation>
+    </message>
+    <message>
+        <source>--%1 takes the name of a program</source>
+        <translation>يتطلب --%1 اسم برنامج</translation>
+    </message>
+    <message>
+        <source>Of computer audio, record only this program; may be given several times.</source>
+        <translation>تسجيل هذا البرنامج فقط من صوت الحاسوب؛ يمكن تكراره.</translation>
+    </message>
+    <message>
+        <source>with --computer everything, else as in the preferences</source>
+        <translation>مع --computer كل شيء، وإلا كما في التفضيلات</translation>
+    </message>
+    <message>
+        <source>Of computer audio, record everything but this program; may be given several times.</source>
+        <translation>تسجيل كل صوت الحاسوب عدا هذا البرنامج؛ يمكن تكراره.</translation>
+    </message>
+    <message>
+        <source>Record one program, whatever else plays.</source>
+        <translation>تسجيل برنامج واحد أيًّا كان ما يُشغَّل غيره.</translation>
+    </message>
 </context>
 <context>
     <name>Control</name>
@@ -2718,6 +2742,10 @@ commands:
         <source>Status</source>
         <translation>الحالة</translation>
     </message>
+    <message>
+        <source>Programs to record</source>
+        <translation>البرامج المراد تسجيلها</translation>
+    </message>
 </context>
 <context>
     <name>MainWndController</name>
@@ -3332,6 +3360,45 @@ commands:
     </message>
 </context>
 <context>
+    <name>ProgramsMenu</name>
+    <message>
+        <source>Programs to record</source>
+        <translation>البرامج المراد تسجيلها</translation>
+    </message>
+    <message>
+        <source>Programs to record: %1</source>
+        <translation>البرامج المراد تسجيلها: %1</translation>
+    </message>
+    <message>
+        <source>Of computer audio, this is recorded: %1</source>
+        <translation>ما يُسجَّل من صوت الحاسوب: %1</translation>
+    </message>
+    <message>
+        <source>The sources stay as they are until the recording ends.</source>
+        <translation>تبقى المصادر على حالها حتى ينتهي التسجيل.</translation>
+    </message>
+    <message>
+        <source>The computer-audio device is not installed.</source>
+        <translation>جهاز صوت الحاسوب غير مثبّت.</translation>
+    </message>
+    <message>
+        <source>&amp;Everything</source>
+        <translation>&amp;كل شيء</translation>
+    </message>
+    <message>
+        <source>&amp;Only</source>
+        <translation>&amp;فقط</translation>
+    </message>
+    <message>
+        <source>Everything &amp;but</source>
+        <translation>كل شيء &amp;عدا</translation>
+    </message>
+    <message>
+        <source>No program has played yet</source>
+        <translation>لم يشغّل أي برنامج شيئًا بعد</translation>
+    </message>
+</context>
+<context>
     <name>QCommandLineParser</name>
     <message>
         <source>Unknown option &apos;%1&apos;.</source>
@@ -3815,10 +3882,53 @@ commands:
     </message>
 </context>
 <context>
+    <name>RecordPrograms</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 و %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>، </translation>
+    </message>
+    <message>
+        <source>Only %1</source>
+        <translation>%1 فقط</translation>
+    </message>
+    <message>
+        <source>Everything but %1</source>
+        <translation>كل شيء عدا %1</translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation>كل شيء</translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>في انتظار %1</translation>
+    </message>
+</context>
+<context>
     <name>RecordStateController</name>
     <message>
         <source>A recording is running.</source>
         <translation>هناك تسجيل جارٍ.</translation>
+    </message>
+    <message>
+        <source>%1 is off: %2.</source>
+        <translation>%1 متوقف: %2.</translation>
+    </message>
+    <message>
+        <source>Computer audio (%1) has been silent for %2 s: nothing plays.</source>
+        <translation>صوت الحاسوب (%1) صامت منذ %2 ث: لا شيء يُشغَّل.</translation>
+    </message>
+    <message>
+        <source>another recording of computer audio runs with other programs</source>
+        <translation>يجري تسجيل آخر لصوت الحاسوب ببرامج أخرى</translation>
+    </message>
+    <message>
+        <source>the computer-audio device cannot choose programs; remove it and install it again</source>
+        <translation>لا يستطيع جهاز صوت الحاسوب اختيار البرامج؛ أزله ثم ثبّته من جديد</translation>
     </message>
 </context>
 <context>

@@ -1697,6 +1697,30 @@ Befehle:
         <comment>a list of the library and how many are in it</comment>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>--app and --not-app exclude each other</source>
+        <translation>--app und --not-app schließen einander aus</translation>
+    </message>
+    <message>
+        <source>--%1 takes the name of a program</source>
+        <translation>--%1 verlangt den Namen eines Programms</translation>
+    </message>
+    <message>
+        <source>Of computer audio, record only this program; may be given several times.</source>
+        <translation>Vom Computerton nur dieses Programm aufnehmen; mehrmals möglich.</translation>
+    </message>
+    <message>
+        <source>with --computer everything, else as in the preferences</source>
+        <translation>mit --computer alles, sonst wie in den Einstellungen</translation>
+    </message>
+    <message>
+        <source>Of computer audio, record everything but this program; may be given several times.</source>
+        <translation>Vom Computerton alles außer diesem Programm aufnehmen; mehrmals möglich.</translation>
+    </message>
+    <message>
+        <source>Record one program, whatever else plays.</source>
+        <translation>Ein Programm aufnehmen, was auch sonst spielt.</translation>
+    </message>
 </context>
 <context>
     <name>Control</name>
@@ -2698,6 +2722,10 @@ Befehle:
         <source>Status</source>
         <translation>Status</translation>
     </message>
+    <message>
+        <source>Programs to record</source>
+        <translation>Aufzunehmende Programme</translation>
+    </message>
 </context>
 <context>
     <name>MainWndController</name>
@@ -3312,6 +3340,45 @@ Befehle:
     </message>
 </context>
 <context>
+    <name>ProgramsMenu</name>
+    <message>
+        <source>Programs to record</source>
+        <translation>Aufzunehmende Programme</translation>
+    </message>
+    <message>
+        <source>Programs to record: %1</source>
+        <translation>Aufzunehmende Programme: %1</translation>
+    </message>
+    <message>
+        <source>Of computer audio, this is recorded: %1</source>
+        <translation>Vom Computerton wird aufgenommen: %1</translation>
+    </message>
+    <message>
+        <source>The sources stay as they are until the recording ends.</source>
+        <translation>Die Quellen bleiben bis zum Ende der Aufnahme, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>The computer-audio device is not installed.</source>
+        <translation>Das Computerton-Gerät ist nicht installiert.</translation>
+    </message>
+    <message>
+        <source>&amp;Everything</source>
+        <translation>&amp;Alles</translation>
+    </message>
+    <message>
+        <source>&amp;Only</source>
+        <translation>&amp;Nur</translation>
+    </message>
+    <message>
+        <source>Everything &amp;but</source>
+        <translation>Alles a&amp;ußer</translation>
+    </message>
+    <message>
+        <source>No program has played yet</source>
+        <translation>Noch hat kein Programm etwas gespielt</translation>
+    </message>
+</context>
+<context>
     <name>QCommandLineParser</name>
     <message>
         <source>Unknown option &apos;%1&apos;.</source>
@@ -3787,10 +3854,53 @@ Befehle:
     </message>
 </context>
 <context>
+    <name>RecordPrograms</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Only %1</source>
+        <translation>Nur %1</translation>
+    </message>
+    <message>
+        <source>Everything but %1</source>
+        <translation>Alles außer %1</translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation>Alles</translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>Warten auf %1</translation>
+    </message>
+</context>
+<context>
     <name>RecordStateController</name>
     <message>
         <source>A recording is running.</source>
         <translation>Eine Aufnahme läuft.</translation>
+    </message>
+    <message>
+        <source>%1 is off: %2.</source>
+        <translation>%1 ist aus: %2.</translation>
+    </message>
+    <message>
+        <source>Computer audio (%1) has been silent for %2 s: nothing plays.</source>
+        <translation>Der Computerton (%1) ist seit %2 s still: Nichts spielt.</translation>
+    </message>
+    <message>
+        <source>another recording of computer audio runs with other programs</source>
+        <translation>eine andere Aufnahme des Computertons läuft mit anderen Programmen</translation>
+    </message>
+    <message>
+        <source>the computer-audio device cannot choose programs; remove it and install it again</source>
+        <translation>das Computerton-Gerät kann keine Programme auswählen; entfernen und neu installieren</translation>
     </message>
 </context>
 <context>

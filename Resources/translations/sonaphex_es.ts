@@ -1697,6 +1697,30 @@ commands:
         <comment>a list of the library and how many are in it</comment>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>--app and --not-app exclude each other</source>
+        <translation>--app y --not-app se excluyen</translation>
+    </message>
+    <message>
+        <source>--%1 takes the name of a program</source>
+        <translation>--%1 necesita el nombre de un programa</translation>
+    </message>
+    <message>
+        <source>Of computer audio, record only this program; may be given several times.</source>
+        <translation>Del audio del equipo, grabar solo este programa; se puede repetir.</translation>
+    </message>
+    <message>
+        <source>with --computer everything, else as in the preferences</source>
+        <translation>con --computer todo, si no, como en las preferencias</translation>
+    </message>
+    <message>
+        <source>Of computer audio, record everything but this program; may be given several times.</source>
+        <translation>Del audio del equipo, grabar todo menos este programa; se puede repetir.</translation>
+    </message>
+    <message>
+        <source>Record one program, whatever else plays.</source>
+        <translation>Grabar un programa, suene lo que suene además.</translation>
+    </message>
 </context>
 <context>
     <name>Control</name>
@@ -2698,6 +2722,10 @@ commands:
         <source>Status</source>
         <translation>Estado</translation>
     </message>
+    <message>
+        <source>Programs to record</source>
+        <translation>Programas que se graban</translation>
+    </message>
 </context>
 <context>
     <name>MainWndController</name>
@@ -3312,6 +3340,45 @@ commands:
     </message>
 </context>
 <context>
+    <name>ProgramsMenu</name>
+    <message>
+        <source>Programs to record</source>
+        <translation>Programas que se graban</translation>
+    </message>
+    <message>
+        <source>Programs to record: %1</source>
+        <translation>Programas que se graban: %1</translation>
+    </message>
+    <message>
+        <source>Of computer audio, this is recorded: %1</source>
+        <translation>Del audio del equipo se graba: %1</translation>
+    </message>
+    <message>
+        <source>The sources stay as they are until the recording ends.</source>
+        <translation>Las fuentes se quedan como están hasta que termine la grabación.</translation>
+    </message>
+    <message>
+        <source>The computer-audio device is not installed.</source>
+        <translation>El dispositivo de audio del equipo no está instalado.</translation>
+    </message>
+    <message>
+        <source>&amp;Everything</source>
+        <translation>&amp;Todo</translation>
+    </message>
+    <message>
+        <source>&amp;Only</source>
+        <translation>&amp;Solo</translation>
+    </message>
+    <message>
+        <source>Everything &amp;but</source>
+        <translation>Todo &amp;menos</translation>
+    </message>
+    <message>
+        <source>No program has played yet</source>
+        <translation>Aún no ha sonado ningún programa</translation>
+    </message>
+</context>
+<context>
     <name>QCommandLineParser</name>
     <message>
         <source>Unknown option &apos;%1&apos;.</source>
@@ -3787,10 +3854,53 @@ commands:
     </message>
 </context>
 <context>
+    <name>RecordPrograms</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 y %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Only %1</source>
+        <translation>Solo %1</translation>
+    </message>
+    <message>
+        <source>Everything but %1</source>
+        <translation>Todo menos %1</translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation>Todo</translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>A la espera de %1</translation>
+    </message>
+</context>
+<context>
     <name>RecordStateController</name>
     <message>
         <source>A recording is running.</source>
         <translation>Hay una grabación en curso.</translation>
+    </message>
+    <message>
+        <source>%1 is off: %2.</source>
+        <translation>%1 está desactivado: %2.</translation>
+    </message>
+    <message>
+        <source>Computer audio (%1) has been silent for %2 s: nothing plays.</source>
+        <translation>El audio del equipo (%1) lleva %2 s en silencio: no suena nada.</translation>
+    </message>
+    <message>
+        <source>another recording of computer audio runs with other programs</source>
+        <translation>otra grabación del audio del equipo está en marcha con otros programas</translation>
+    </message>
+    <message>
+        <source>the computer-audio device cannot choose programs; remove it and install it again</source>
+        <translation>el dispositivo de audio del equipo no puede elegir programas; quítelo y vuelva a instalarlo</translation>
     </message>
 </context>
 <context>

@@ -1697,6 +1697,30 @@ commandes&#xa0;:
         <comment>a list of the library and how many are in it</comment>
         <translation>%1&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>--app and --not-app exclude each other</source>
+        <translation>--app et --not-app s’excluent</translation>
+    </message>
+    <message>
+        <source>--%1 takes the name of a program</source>
+        <translation>--%1 demande le nom d’un programme</translation>
+    </message>
+    <message>
+        <source>Of computer audio, record only this program; may be given several times.</source>
+        <translation>De l’audio de l’ordinateur, enregistrer seulement ce programme ; peut être répété.</translation>
+    </message>
+    <message>
+        <source>with --computer everything, else as in the preferences</source>
+        <translation>avec --computer tout, sinon comme dans les préférences</translation>
+    </message>
+    <message>
+        <source>Of computer audio, record everything but this program; may be given several times.</source>
+        <translation>De l’audio de l’ordinateur, enregistrer tout sauf ce programme ; peut être répété.</translation>
+    </message>
+    <message>
+        <source>Record one program, whatever else plays.</source>
+        <translation>Enregistrer un programme, quoi que jouent les autres.</translation>
+    </message>
 </context>
 <context>
     <name>Control</name>
@@ -2698,6 +2722,10 @@ commandes&#xa0;:
         <source>Status</source>
         <translation>État</translation>
     </message>
+    <message>
+        <source>Programs to record</source>
+        <translation>Programmes à enregistrer</translation>
+    </message>
 </context>
 <context>
     <name>MainWndController</name>
@@ -3312,6 +3340,45 @@ commandes&#xa0;:
     </message>
 </context>
 <context>
+    <name>ProgramsMenu</name>
+    <message>
+        <source>Programs to record</source>
+        <translation>Programmes à enregistrer</translation>
+    </message>
+    <message>
+        <source>Programs to record: %1</source>
+        <translation>Programmes à enregistrer : %1</translation>
+    </message>
+    <message>
+        <source>Of computer audio, this is recorded: %1</source>
+        <translation>De l’audio de l’ordinateur, on enregistre : %1</translation>
+    </message>
+    <message>
+        <source>The sources stay as they are until the recording ends.</source>
+        <translation>Les sources restent telles quelles jusqu’à la fin de l’enregistrement.</translation>
+    </message>
+    <message>
+        <source>The computer-audio device is not installed.</source>
+        <translation>Le périphérique du son de l’ordinateur n’est pas installé.</translation>
+    </message>
+    <message>
+        <source>&amp;Everything</source>
+        <translation>&amp;Tout</translation>
+    </message>
+    <message>
+        <source>&amp;Only</source>
+        <translation>&amp;Seulement</translation>
+    </message>
+    <message>
+        <source>Everything &amp;but</source>
+        <translation>Tout sau&amp;f</translation>
+    </message>
+    <message>
+        <source>No program has played yet</source>
+        <translation>Aucun programme n’a encore joué</translation>
+    </message>
+</context>
+<context>
     <name>QCommandLineParser</name>
     <message>
         <source>Unknown option &apos;%1&apos;.</source>
@@ -3787,10 +3854,53 @@ commandes&#xa0;:
     </message>
 </context>
 <context>
+    <name>RecordPrograms</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 et %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Only %1</source>
+        <translation>Seulement %1</translation>
+    </message>
+    <message>
+        <source>Everything but %1</source>
+        <translation>Tout sauf %1</translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation>Tout</translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>En attente de %1</translation>
+    </message>
+</context>
+<context>
     <name>RecordStateController</name>
     <message>
         <source>A recording is running.</source>
         <translation>Un enregistrement est en cours.</translation>
+    </message>
+    <message>
+        <source>%1 is off: %2.</source>
+        <translation>%1 : désactivé, %2.</translation>
+    </message>
+    <message>
+        <source>Computer audio (%1) has been silent for %2 s: nothing plays.</source>
+        <translation>L’audio de l’ordinateur (%1) est silencieux depuis %2 s : rien ne joue.</translation>
+    </message>
+    <message>
+        <source>another recording of computer audio runs with other programs</source>
+        <translation>un autre enregistrement de l’audio de l’ordinateur est en cours avec d’autres programmes</translation>
+    </message>
+    <message>
+        <source>the computer-audio device cannot choose programs; remove it and install it again</source>
+        <translation>le périphérique d’audio de l’ordinateur ne peut pas choisir de programmes ; supprimez-le et réinstallez-le</translation>
     </message>
 </context>
 <context>

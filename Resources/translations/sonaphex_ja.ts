@@ -1693,6 +1693,30 @@ commands:
         <comment>a list of the library and how many are in it</comment>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>--app and --not-app exclude each other</source>
+        <translation>--app と --not-app は同時に使えません</translation>
+    </message>
+    <message>
+        <source>--%1 takes the name of a program</source>
+        <translation>--%1 にはプログラム名が必要です</translation>
+    </message>
+    <message>
+        <source>Of computer audio, record only this program; may be given several times.</source>
+        <translation>コンピューターの音声のうち、このプログラムだけを録音します。複数回指定できます。</translation>
+    </message>
+    <message>
+        <source>with --computer everything, else as in the preferences</source>
+        <translation>--computer ではすべて、それ以外は環境設定のとおり</translation>
+    </message>
+    <message>
+        <source>Of computer audio, record everything but this program; may be given several times.</source>
+        <translation>コンピューターの音声のうち、このプログラム以外をすべて録音します。複数回指定できます。</translation>
+    </message>
+    <message>
+        <source>Record one program, whatever else plays.</source>
+        <translation>ほかに何が再生されていても、1つのプログラムだけを録音します。</translation>
+    </message>
 </context>
 <context>
     <name>Control</name>
@@ -2693,6 +2717,10 @@ commands:
         <source>Status</source>
         <translation>状態</translation>
     </message>
+    <message>
+        <source>Programs to record</source>
+        <translation>録音するプログラム</translation>
+    </message>
 </context>
 <context>
     <name>MainWndController</name>
@@ -3307,6 +3335,45 @@ commands:
     </message>
 </context>
 <context>
+    <name>ProgramsMenu</name>
+    <message>
+        <source>Programs to record</source>
+        <translation>録音するプログラム</translation>
+    </message>
+    <message>
+        <source>Programs to record: %1</source>
+        <translation>録音するプログラム: %1</translation>
+    </message>
+    <message>
+        <source>Of computer audio, this is recorded: %1</source>
+        <translation>コンピューターの音声のうち録音するもの: %1</translation>
+    </message>
+    <message>
+        <source>The sources stay as they are until the recording ends.</source>
+        <translation>録音が終わるまでソースは変更できません。</translation>
+    </message>
+    <message>
+        <source>The computer-audio device is not installed.</source>
+        <translation>コンピューター音声デバイスはインストールされていません。</translation>
+    </message>
+    <message>
+        <source>&amp;Everything</source>
+        <translation>すべて(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Only</source>
+        <translation>次だけ(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Everything &amp;but</source>
+        <translation>次を除くすべて(&amp;B)</translation>
+    </message>
+    <message>
+        <source>No program has played yet</source>
+        <translation>まだ再生したプログラムはありません</translation>
+    </message>
+</context>
+<context>
     <name>QCommandLineParser</name>
     <message>
         <source>Unknown option &apos;%1&apos;.</source>
@@ -3780,10 +3847,53 @@ commands:
     </message>
 </context>
 <context>
+    <name>RecordPrograms</name>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 と %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>Only %1</source>
+        <translation>%1 だけ</translation>
+    </message>
+    <message>
+        <source>Everything but %1</source>
+        <translation>%1 以外のすべて</translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>%1 を待っています</translation>
+    </message>
+</context>
+<context>
     <name>RecordStateController</name>
     <message>
         <source>A recording is running.</source>
         <translation>録音中です。</translation>
+    </message>
+    <message>
+        <source>%1 is off: %2.</source>
+        <translation>%1 はオフです: %2。</translation>
+    </message>
+    <message>
+        <source>Computer audio (%1) has been silent for %2 s: nothing plays.</source>
+        <translation>コンピューターの音声 (%1) は %2 秒間無音です。何も再生されていません。</translation>
+    </message>
+    <message>
+        <source>another recording of computer audio runs with other programs</source>
+        <translation>別のプログラムを選んだコンピューターの音声の録音が実行中です</translation>
+    </message>
+    <message>
+        <source>the computer-audio device cannot choose programs; remove it and install it again</source>
+        <translation>コンピューター音声のデバイスはプログラムを選べません。削除してからもう一度インストールしてください</translation>
     </message>
 </context>
 <context>

@@ -139,10 +139,10 @@ private:
     SteadyClock::time_point mixerFailedAt_{};
     std::map<std::pair<std::uint32_t, std::string>, std::string> stale_; ///< by id and key
     std::string defaultOutput_;
-    std::string steering_; ///< a registry path; the key itself selects nothing; empty follows the default output
+    std::string steering_;   ///< a registry path; the key itself selects nothing; empty follows the default output
     std::string choiceText_; ///< encoded
     Platform::ProgramChoice choice_;
-    std::string confirmedChoice_; ///< the last value of kProgramsAppliedKey
+    std::string confirmedChoice_;                    ///< the last value of kProgramsAppliedKey
     bool carriesPrograms_ = false;                   ///< the links were made for chosen programs
     std::unique_ptr<Platform::StreamWatch> streams_; ///< exists since programs were chosen for the first time
 };

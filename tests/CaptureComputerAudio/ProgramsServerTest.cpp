@@ -21,8 +21,8 @@
 #include <cmath>
 
 using namespace Qt::StringLiterals;
-using Platform::ProgramChoice;
 using CaptureComputerAudio::Choosing;
+using Platform::ProgramChoice;
 using Mode = ProgramChoice::Mode;
 
 namespace {
@@ -37,7 +37,9 @@ protected:
         Platform::services().ioRegistry = registry.get();
         QString why;
         EXPECT_TRUE(CaptureDriver::load(kBundle, why, 10000)) << qPrintable(why);
-        EXPECT_TRUE(waitFor([] { return CaptureComputerAudio::choosePrograms({Mode::AllBut, {}}) == Choosing::Changed; }));
+        EXPECT_TRUE(waitFor([] {
+            return CaptureComputerAudio::choosePrograms({Mode::AllBut, {}}) == Choosing::Changed;
+        }));
         EXPECT_EQ(CaptureComputerAudio::choosePrograms({}), Choosing::Changed);
     }
     ~Programs() override {

@@ -22,7 +22,8 @@ public:
     void retain(Object object) override;
     void release(Object object) override;
     QString path(Object object) override;
-    /// A property of the node, else the driver's metadata of the node, else the value that this process set. Numbers and booleans are returned as texts.
+    /// A property of the node, else the driver's metadata of the node, else the value that this process set. Numbers
+    /// and booleans are returned as texts.
     QVariant property(Object object, const QString& key) override;
     /// Written to the server's metadata of the node, as text.
     OSStatus setProperty(Object object, const QString& key, const QVariant& value) override;
