@@ -39,7 +39,7 @@ private:
     SpokenView& view_;
 };
 
-QAccessibleInterface* interfaceOf(const QString& /*className*/, QObject* object) {
+QAccessibleInterface* spokenInterfaceOf(const QString& /*className*/, QObject* object) {
     auto* const widget = qobject_cast<QWidget*>(object);
     auto* const view = dynamic_cast<SpokenView*>(widget);
     return view ? new Interface(*widget, *view) : nullptr;
@@ -49,7 +49,7 @@ QAccessibleInterface* interfaceOf(const QString& /*className*/, QObject* object)
 
 SpokenView::SpokenView() {
     static const bool once = [] {
-        QAccessible::installFactory(interfaceOf);
+        QAccessible::installFactory(spokenInterfaceOf);
         return true;
     }();
     Q_UNUSED(once)
