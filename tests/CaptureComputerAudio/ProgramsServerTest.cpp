@@ -88,6 +88,26 @@ protected:
         return 20 * std::log10(std::max(2 * std::hypot(sine, cosine) / (0.35875 * double(frames)), 1e-12));
     }
 
+    /// Waits for a second in which the capture has these tones at their full level and none of the others. A busy
+    /// machine loses cycles of the sound server: a tone with a gap is too weak, and has traces of every other pitch.
+    static void expectTones(const TestCapture& capture, const std::vector<double>& present,
+                            const std::vector<double>& absent) {
+        std::string levels;
+        for (int attempt = 0; attempt < 15; ++attempt) {
+            bool isGood = true;
+            levels.clear();
+            for (const bool wanted : {true, false})
+                for (const double pitch : wanted ? present : absent) {
+                    const double level = levelOf(capture, pitch);
+                    isGood = isGood && (wanted ? std::abs(level + 12.04) < 0.1 : level < -90);
+                    levels += std::to_string(pitch) + " Hz: " + std::to_string(level) + " dB  ";
+                }
+            if (isGood)
+                return;
+        }
+        ADD_FAILURE() << levels;
+    }
+
     PrivateAudioSession& session = PrivateAudioSession::shared();
     Platform::ServicesScope scope;
     std::unique_ptr<Platform::AudioHardware> hardware = Platform::createAudioHardware();
@@ -106,19 +126,15 @@ TEST_F(Programs, OnlyTheChosenOneIsCarried) {
     ASSERT_TRUE(server.start());
     choose(Mode::Only, {"test.one"});
     expectFeeders({"test.one"});
-    EXPECT_NEAR(levelOf(capture, 440), -12.04, 0.1);
-    EXPECT_LT(levelOf(capture, 1000), -90);
+    expectTones(capture, {440}, {1000});
     choose(Mode::AllBut, {"test.one"});
     expectFeeders({"test.two"});
-    EXPECT_NEAR(levelOf(capture, 1000), -12.04, 0.1);
-    EXPECT_LT(levelOf(capture, 440), -90);
+    expectTones(capture, {1000}, {440});
     // The user goes on hearing both.
-    EXPECT_NEAR(levelOf(heard, 440), -12.04, 0.1);
-    EXPECT_NEAR(levelOf(heard, 1000), -12.04, 0.1);
+    expectTones(heard, {440, 1000}, {});
     choose(Mode::Everything, {});
     expectFeeders({"sonaphex.output"});
-    EXPECT_NEAR(levelOf(capture, 440), -12.04, 0.1);
-    EXPECT_NEAR(levelOf(capture, 1000), -12.04, 0.1);
+    expectTones(capture, {440, 1000}, {});
 }
 
 TEST_F(Programs, AChosenProgramIsCarriedExactly) {
@@ -242,7 +258,7 @@ TEST_F(Programs, AVirtualOutputPlaysNothingTwice) {
     ASSERT_TRUE(capture.start());
     choose(Mode::AllBut, {"nothing"});
     expectFeeders({"test.one"});
-    EXPECT_NEAR(levelOf(capture, 440), -12.04, 0.1);
+    expectTones(capture, {440}, {});
     choose(Mode::AllBut, {"test.one"});
     expectFeeders({});
     EXPECT_LT(levelOf(capture, 440), -90);
