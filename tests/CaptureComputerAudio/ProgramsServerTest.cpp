@@ -66,13 +66,16 @@ protected:
         EXPECT_TRUE(waitFor([&] { return server.feedersOf("korvane.system-audio") == wanted; }))
             << testing::PrintToString(server.feedersOf("korvane.system-audio"));
     }
-    /// The level of a tone in the last second of a capture, in dB below full scale.
-    static double levelOf(const TestCapture& capture, double pitch) {
+    /// The next second of a capture, interleaved.
+    static std::vector<float> nextSecond(const TestCapture& capture) {
         const auto before = capture.frames();
         EXPECT_TRUE(waitFor([&] { return capture.frames() >= before + std::uint64_t(kRate) + 4096; }));
         const auto all = capture.interleaved();
-        const auto frames = std::size_t(kRate);
-        const auto from = all.size() - 2 * frames;
+        return {all.end() - 2 * std::ptrdiff_t(kRate), all.end()};
+    }
+    /// The level of a tone in the left channel, in dB below full scale.
+    static double levelOf(const std::vector<float>& stereo, double pitch) {
+        const auto frames = stereo.size() / 2;
         double sine = 0;
         double cosine = 0;
         for (std::size_t i = 0; i < frames; ++i) {
@@ -81,7 +84,7 @@ protected:
             const double window =
                 0.35875 - 0.48829 * std::cos(phase) + 0.14128 * std::cos(2 * phase) - 0.01168 * std::cos(3 * phase);
             const double angle = 2 * std::numbers::pi * pitch * double(i) / kRate;
-            const double sample = double(all[from + 2 * i]) * window;
+            const double sample = double(stereo[2 * i]) * window;
             sine += sample * std::sin(angle);
             cosine += sample * std::cos(angle);
         }
@@ -93,12 +96,13 @@ protected:
     static void expectTones(const TestCapture& capture, const std::vector<double>& present,
                             const std::vector<double>& absent) {
         std::string levels;
-        for (int attempt = 0; attempt < 15; ++attempt) {
+        for (int attempt = 0; attempt < 30; ++attempt) {
+            const auto second = nextSecond(capture);
             bool isGood = true;
             levels.clear();
             for (const bool wanted : {true, false})
                 for (const double pitch : wanted ? present : absent) {
-                    const double level = levelOf(capture, pitch);
+                    const double level = levelOf(second, pitch);
                     isGood = isGood && (wanted ? std::abs(level + 12.04) < 0.1 : level < -90);
                     levels += std::to_string(pitch) + " Hz: " + std::to_string(level) + " dB  ";
                 }
@@ -237,7 +241,7 @@ TEST_F(Programs, AStreamThatNoOutputPlaysIsLeftAlone) {
     ASSERT_TRUE(capture.start());
     expectFeeders({"test.other"});
     const auto position = player.position();
-    EXPECT_LT(levelOf(capture, 440), 0);
+    (void)nextSecond(capture);
     EXPECT_EQ(player.position(), position) << "it was made to play";
     for (const QString& channel : {u"FL"_s, u"FR"_s})
         ASSERT_EQ(runTool(u"pw-link"_s, {u"test.silent:output_"_s + channel, u"sonaphex.output:playback_"_s + channel})
@@ -261,7 +265,7 @@ TEST_F(Programs, AVirtualOutputPlaysNothingTwice) {
     expectTones(capture, {440}, {});
     choose(Mode::AllBut, {"test.one"});
     expectFeeders({});
-    EXPECT_LT(levelOf(capture, 440), -90);
+    expectTones(capture, {}, {440});
     loopback.terminate();
     loopback.waitForFinished();
 }
