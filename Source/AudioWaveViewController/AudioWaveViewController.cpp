@@ -9,6 +9,7 @@
 #include "Source/Record/RecordStateController.h"
 #include "Source/View/Announcement.h"
 #include "Source/View/NamedImages.h"
+#include "Source/View/PathText.h"
 #include "Source/View/SpokenField.h"
 #include "Source/View/Theme.h"
 #include "ui_AudioWaveViewController.h"
@@ -66,7 +67,7 @@ QString inTwoLines(const RecordNotice& notice, const QFontMetrics& metrics, int 
     if (const QString home = QDir::homePath(); path.startsWith(home + u'/'))
         path = u'~' + path.mid(home.size());
     return metrics.elidedText(notice.text, Qt::ElideRight, room) + u'\n' +
-           metrics.elidedText(path, Qt::ElideMiddle, room);
+           pathText(metrics.elidedText(path, Qt::ElideMiddle, room));
 }
 
 /// Notices about one event replace each other.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/View/PathText.h"
 
+#include <QGuiApplication>
 #include <QStringList>
 
 #include <algorithm>
@@ -19,7 +20,9 @@ bool readsFromRight(QChar letter) {
 } // namespace
 
 QString pathText(const QString& text) {
-    if (!text.contains(u'/') || std::none_of(text.begin(), text.end(), readsFromRight))
+    // In a window that reads from right to left, a leading "~/." would stand at the end.
+    if (!text.contains(u'/') ||
+        (!QGuiApplication::isRightToLeft() && std::none_of(text.begin(), text.end(), readsFromRight)))
         return text;
     QStringList parts = text.split(u'/');
     for (QString& part : parts)

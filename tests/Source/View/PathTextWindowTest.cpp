@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/View/PathText.h"
 
+#include <QGuiApplication>
 #include <QTextLayout>
 #include <gtest/gtest.h>
 
@@ -13,7 +14,7 @@ namespace {
 qreal placeOf(const QString& text, const QString& part) {
     QTextLayout layout(text);
     QTextOption option;
-    option.setTextDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    option.setTextDirection(text.isRightToLeft() ? Qt::RightToLeft : QGuiApplication::layoutDirection());
     layout.setTextOption(option);
     layout.beginLayout();
     const QTextLine line = layout.createLine();
@@ -41,4 +42,13 @@ TEST(PathText, APathThatBeginsWithSuchANameBeginsAtTheLeftToo) {
     const QString shown = pathText(u"/שירים/home/a.m4a"_s);
     EXPECT_LT(placeOf(shown, u"שירים"_s), placeOf(shown, u"home"_s));
     EXPECT_LT(placeOf(shown, u"home"_s), placeOf(shown, u"a.m4a"_s));
+}
+
+TEST(PathText, ADotAtTheBeginningStaysThereInAWindowThatReadsFromRightToLeft) {
+    const QString path = u"~/.local/share"_s;
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    const QString shown = pathText(path);
+    EXPECT_LT(placeOf(shown, u"~"_s), placeOf(shown, u"local"_s));
+    EXPECT_GT(placeOf(path, u"~"_s), placeOf(path, u"local"_s)) << "as it was without";
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
 }
