@@ -175,7 +175,7 @@ void RecordStateController::Private::showLosses() {
     if (lost.frames != lostShown_ && lost.frames > 0)
         notice({.text = QCoreApplication::translate(
                             "Record", "%1 s are missing (%2 frames): the computer was too busy to take them.")
-                            .arg(secondsText(lost.seconds), Platform::Translations::number(lost.frames)),
+                            .arg(secondsText(lost.seconds), Platform::Translations::number(qint64(lost.frames))),
                 .event = u"lost"_s});
     lostShown_ = lost.frames;
     showWriteProblem();
