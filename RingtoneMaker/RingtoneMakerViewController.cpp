@@ -252,8 +252,8 @@ void RingtoneMakerViewController::keyPressed(QKeyEvent* event) {
     // I and O draw a selection of any length, as a drag on the outline does: one end is at the pointer, the other
     // stays.
     const AudioWaveTrimView& selection = *ui_->audioWaveTrimView;
-    const double pointer = double(ui_->audioPointerLineView->position());
-    const double begin = double(selection.audioFrom());
+    const auto pointer = double(ui_->audioPointerLineView->position());
+    const auto begin = double(selection.audioFrom());
     const double end = begin + double(selection.audioLength());
     switch (event->key()) {
     case Qt::Key_Space:
