@@ -9,6 +9,7 @@ Platform::SignalSource::Options sourceOptions(const TestSource::Options& options
             .description = options.description,
             .mediaClass = options.mediaClass,
             .target = options.target,
+            .connects = options.connects,
             .staysAtTarget = options.staysAtTarget,
             .rate = options.rate,
             .channels = options.channels,

@@ -74,6 +74,7 @@ public:
         std::uint32_t cycle = 1024;
         std::string mediaClass = "Audio/Source";
         std::string target{};
+        bool connects = true;       ///< false: a player that no output plays
         bool staysAtTarget = false; ///< WirePlumber 0.4 moves a player of the default output with the default
         int sessionPriority = 0;
         /// Replaces the content: one sample of a channel, by the frame's index. Runs on the data thread.

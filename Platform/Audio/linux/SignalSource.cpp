@@ -155,7 +155,7 @@ bool SignalSource::Connection::start(std::string& why) {
     int flags = PW_STREAM_FLAG_MAP_BUFFERS | PW_STREAM_FLAG_RT_PROCESS;
     if (options.ownClock)
         flags |= PW_STREAM_FLAG_DRIVER;
-    if (options.mediaClass != "Audio/Source" && options.mediaClass != "Audio/Source/Virtual")
+    if (options.connects && options.mediaClass != "Audio/Source" && options.mediaClass != "Audio/Source/Virtual")
         flags |= PW_STREAM_FLAG_AUTOCONNECT;
     if (pw_stream_connect(stream.get(), PW_DIRECTION_OUTPUT, PW_ID_ANY, pw_stream_flags(flags), params, 1) < 0) {
         why = "the sound server refused the stream";

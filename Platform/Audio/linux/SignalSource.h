@@ -26,6 +26,7 @@ public:
         std::string mediaClass = "Audio/Source";
         /// node.name of the output to play into; empty is the default output.
         std::string target{};
+        bool connects = true;       ///< false: the session manager links a player to no output
         bool staysAtTarget = false; ///< the session manager never moves it to another output
         std::uint32_t rate = 48000; ///< Hz
         std::uint32_t channels = 2;
