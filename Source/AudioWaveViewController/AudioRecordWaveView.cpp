@@ -11,19 +11,28 @@
 #include <algorithm>
 #include <cmath>
 
+namespace {
+
+/// The mark of a clipped column, in points.
+constexpr qsizetype MarkWidth = 3;
+constexpr double MarkHeight = 3;
+
+} // namespace
+
 AudioRecordWaveView::AudioRecordWaveView(QWidget* parent) : QWidget(parent) {
     setLayoutDirection(Qt::LeftToRight); // time runs from left to right in every language
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAccessibleName(tr("Recording level"));
 }
 
-void AudioRecordWaveView::addCurrentLevel(float level) {
-    if (isLeftToRight())
-        audioLevelArray_.prepend(level);
-    else
-        audioLevelArray_.append(level);
-    while (audioLevelArray_.size() > width())
-        isLeftToRight() ? audioLevelArray_.removeLast() : audioLevelArray_.removeFirst();
+void AudioRecordWaveView::addCurrentLevel(float level, bool clipped) {
+    const auto add = [this](auto& list, auto value) {
+        isLeftToRight() ? list.prepend(value) : list.append(value);
+        while (list.size() > width())
+            isLeftToRight() ? list.removeLast() : list.removeFirst();
+    };
+    add(audioLevelArray_, level);
+    add(clipped_, clipped);
     // In a hidden or iconified window nothing is drawn.
     const QWindow* screen = isVisible() ? window()->windowHandle() : nullptr;
     const bool isShown = screen && screen->isExposed();
@@ -41,7 +50,8 @@ QVariant AudioRecordWaveView::spokenNumber() const {
 }
 
 QString AudioRecordWaveView::spokenValue() const {
-    return tr("%1 %").arg(spokenNumber().toInt());
+    const bool isClipped = !clipped_.isEmpty() && (isLeftToRight() ? clipped_.first() : clipped_.last());
+    return isClipped ? tr("%1 %, clipped").arg(spokenNumber().toInt()) : tr("%1 %").arg(spokenNumber().toInt());
 }
 
 void AudioRecordWaveView::drawColumn(QPainter& painter, int index) const {
@@ -53,7 +63,14 @@ void AudioRecordWaveView::drawColumn(QPainter& painter, int index) const {
     const qreal ratio = painter.device()->devicePixelRatioF();
     const qreal left = std::round(index * ratio) / ratio;
     const qreal right = std::round((index + 1) * ratio) / ratio;
-    painter.fillRect(QRectF(left, (1 - v) * middle, right - left, 2 * v * middle), Theme::Glass::level());
+    painter.fillRect(QRectF(left, (1 - v) * middle, right - left, 2 * v * middle),
+                     clipped_.at(index) ? Theme::Glass::clipping() : Theme::Glass::level());
+    // The mark is as wide as three columns, to be seen without its colour: it covers the two columns after a clipped
+    // one.
+    const auto last = std::min<qsizetype>(index + MarkWidth, clipped_.size());
+    if (std::find(clipped_.cbegin() + index, clipped_.cbegin() + last, true) != clipped_.cbegin() + last)
+        for (const double top : {0.0, height() - MarkHeight})
+            painter.fillRect(QRectF(left, top, right - left, MarkHeight), Theme::Glass::clipping());
 }
 
 void AudioRecordWaveView::redrawAll() {

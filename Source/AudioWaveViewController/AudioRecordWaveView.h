@@ -20,8 +20,9 @@ public:
     [[nodiscard]] bool isLeftToRight() const { return true; }
     /// Newest first; at most as many as the view is wide in points.
     [[nodiscard]] const QList<float>& audioLevelArray() const { return audioLevelArray_; }
-    /// Levels range from 0 to 1; greater ones are clipped at the view's edge.
-    void addCurrentLevel(float level);
+    /// Levels range from 0 to 1; greater ones are clipped at the view's edge. @p clipped: the sound was clipped since
+    /// the last level; its column is red and has a mark above and below.
+    void addCurrentLevel(float level, bool clipped = false);
 
     /// The newest level in percent. Screen readers read it on request: it changes ten times a second, so changes are
     /// not announced.
@@ -45,6 +46,7 @@ private:
     bool scrollPicture();
 
     QList<float> audioLevelArray_;
+    QList<bool> clipped_; ///< for each level
     QPixmap picture_;
     bool pictureIsOld_ = true;
 };

@@ -516,7 +516,7 @@ void AudioWaveViewController::updateAudioWaveRecordState() {
 
 void AudioWaveViewController::updateAudioWaveView() {
     if (view_)
-        ui_->audioRecordWaveView->addCurrentLevel(getAudioWaveLevelValue());
+        ui_->audioRecordWaveView->addCurrentLevel(getAudioWaveLevelValue(), delegate_ && delegate_->takeClipping());
 }
 
 float AudioWaveViewController::getAudioWaveLevelValue() const {

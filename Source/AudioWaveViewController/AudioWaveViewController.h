@@ -25,6 +25,8 @@ public:
     virtual ~AudioWaveViewControllerDelegate() = default;
     /// The current level, 0 to 1.
     virtual float getAudioWaveLevelValue() { return 0; }
+    /// Whether the sound was clipped since the last call.
+    virtual bool takeClipping() { return false; }
     /// Compare the recording state with isRecording() now.
     virtual void updateAudioWaveRecordState() {}
     /// Read the state of the sound again now.

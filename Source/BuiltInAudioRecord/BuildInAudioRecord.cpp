@@ -54,6 +54,28 @@ float levelOf(const AudioBufferList& list) {
     return float(sum) / float(taken) * 12.0F;
 }
 
+/// Whether three consecutive samples of a channel are at full scale. A single one can be the peak of an unclipped wave.
+bool isClipped(const AudioBufferList& list) {
+    constexpr float fullScale = 0.9999F; // the greatest 16-bit sample is 0.99997
+    const auto isFull = [](float sample) { return std::fabs(sample) >= fullScale; };
+    for (std::uint32_t i = 0; i < list.mNumberBuffers; ++i) {
+        const auto* samples = static_cast<const float*>(list.mBuffers[i].mData);
+        const std::size_t count = list.mBuffers[i].mDataByteSize / 4;
+        // Three consecutive samples include one of every third; only its neighbours have to be looked at.
+        for (std::size_t at = 2; at < count; at += 3) {
+            if (!isFull(samples[at]))
+                continue;
+            const std::size_t end = std::min(at + 3, count);
+            std::size_t run = 0;
+            for (std::size_t near = at - 2; near < end && run < 3; ++near)
+                run = isFull(samples[near]) ? run + 1 : 0;
+            if (run == 3)
+                return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 BuildInAudioRecord::BuildInAudioRecord() = default;
@@ -183,6 +205,8 @@ OSStatus BuildInAudioRecord::renderCycle(std::uint32_t* actionFlags, const Audio
     if (recordStatus_ != 0)
         if (const OSStatus written = writeFiles(*timeStamp, frames); written != noErr)
             return written;
+    if (isClipped(*audioBuffer_))
+        ++clippedCycles_;
     const float level = levelOf(*audioBuffer_);
     if (isRecordComputerAudio_)
         clientRecievedComputerAudioData(level);
@@ -454,6 +478,10 @@ bool BuildInAudioRecord::isRunning() const {
 std::uint64_t BuildInAudioRecord::lostFrames() const {
     const std::lock_guard lock(mutex_);
     return std::uint64_t(lostBefore_ + (audioUnit_ ? std::int64_t(audioUnit_->lostFrames()) : 0));
+}
+
+std::uint64_t BuildInAudioRecord::clippedCycles() const {
+    return clippedCycles_;
 }
 
 std::int64_t BuildInAudioRecord::framesAccepted() const {

@@ -104,6 +104,9 @@ public:
     [[nodiscard]] virtual bool isRunning() const;
     /// Frames lost since the last startRecordAudio(). Any thread.
     [[nodiscard]] virtual std::uint64_t lostFrames() const;
+    /// Cycles with clipped sound, recorded or not, since the engine was created: at least three consecutive samples of
+    /// a channel at full scale or above. Any thread.
+    [[nodiscard]] virtual std::uint64_t clippedCycles() const;
     /// Frames that the open M4A writer accepted, at the device's rate. Any thread.
     [[nodiscard]] virtual std::int64_t framesAccepted() const;
     /// The device's rate in Hz, read at configuration; 0 before.
@@ -219,7 +222,8 @@ private:
     Platform::InputUnit::EventHandler eventHandler_;
     bool fillLostFrames_ = false;
     std::atomic<std::int64_t> framesAccepted_{0}; // negative while a cut waits
-    std::int64_t lostBefore_ = 0;                 // subtracted from the unit's count to get that of the recording
+    std::atomic<std::uint64_t> clippedCycles_{0};
+    std::int64_t lostBefore_ = 0; // subtracted from the unit's count to get that of the recording
 
     // Measures the device's clock against the steady clock; written in the callback.
     std::atomic<std::uint64_t> firstHostTime_{0};

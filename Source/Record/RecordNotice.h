@@ -27,6 +27,8 @@ struct RecordNotice {
     QString target{};
     /// Identifies the event: a newer notice about an event replaces the older one. Empty when nothing replaces it.
     QString event{};
+    /// Grows when the event becomes more urgent; the user is then told again.
+    int stage = 0;
     /// Files in the folder of unfinished recordings. Each start shows them again until the user has dismissed them.
     QStringList kept{};
     /// The notice stays when the next recording starts.

@@ -22,6 +22,12 @@ constexpr double MixedBytes = 353000;
 /// Seconds that are assumed when the free space of a disk is unknown.
 constexpr double Unknown = 1e9;
 
+/// Above ten minutes in steps of five: the estimate is not more exact, and the text changes less often.
+int roundedMinutes(double seconds) {
+    const int minutes = int(std::min(seconds / 60, 1e6));
+    return minutes > 10 ? minutes - minutes % 5 : minutes;
+}
+
 } // namespace
 
 RecordRoom::RecordRoom(QObject* parent) : QObject(parent) {
@@ -65,12 +71,21 @@ RecordRoom::Room RecordRoom::measure(const Recording& recording) {
 }
 
 QString RecordRoom::words(double seconds) {
-    int minutes = int(std::min(seconds / 60, 1e6));
+    const int minutes = roundedMinutes(seconds);
     if (minutes < 1)
         return QCoreApplication::translate("Record", "less than a minute");
     if (minutes == 1)
         return QCoreApplication::translate("Record", "about 1 minute");
-    if (minutes > 10)
-        minutes -= minutes % 5;
     return QCoreApplication::translate("Record", "about %n minutes", nullptr, minutes);
+}
+
+QString RecordRoom::sentence(double seconds) {
+    const int minutes = roundedMinutes(seconds);
+    if (minutes < 1)
+        return QCoreApplication::translate("Record", "Less than a minute left on this disk");
+    if (minutes < 60)
+        return QCoreApplication::translate("Record", "About %1 min left on this disk").arg(minutes);
+    return QCoreApplication::translate("Record", "About %1 h %2 min left on this disk")
+        .arg(minutes / 60)
+        .arg(minutes % 60);
 }

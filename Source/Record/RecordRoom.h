@@ -35,6 +35,8 @@ public:
     [[nodiscard]] static Room measure(const Recording& recording);
     /// "about 25 minutes"; rounded down.
     [[nodiscard]] static QString words(double seconds);
+    /// "About 3 h 10 min left on this disk"; rounded down.
+    [[nodiscard]] static QString sentence(double seconds);
 
 Q_SIGNALS:
     void measured(const RecordRoom::Room& room);

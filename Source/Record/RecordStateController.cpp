@@ -244,6 +244,16 @@ float RecordStateController::getAudioWaveLevelValue() const {
     return level;
 }
 
+bool RecordStateController::takeClipping() {
+    bool isClipped = false;
+    for (RecordSource& source : d->sources) {
+        const std::uint64_t cycles = source.engine->clippedCycles();
+        if (cycles != std::exchange(source.clippedCyclesSeen, cycles) && source.checked)
+            isClipped = true;
+    }
+    return isClipped;
+}
+
 bool RecordStateController::isShowWaveRecordFullTime() const {
     return RecordDisplay::blinkOn(Platform::services().clock->timeIntervalSinceReferenceDate());
 }

@@ -107,6 +107,11 @@ public:
     void setIsRecordPause_(bool paused);
     [[nodiscard]] bool canRecord() const;
     [[nodiscard]] float getAudioWaveLevelValue() const;
+    /// Whether a checked source was clipped since the last call; see BuildInAudioRecord::clippedCycles().
+    [[nodiscard]] bool takeClipping();
+    /// "About 3 h 10 min left on this disk" while a recording runs that would fill the disk within ten hours; else
+    /// empty.
+    [[nodiscard]] QString roomLeft() const;
     [[nodiscard]] bool isShowWaveRecordFullTime() const;
     [[nodiscard]] bool splitEnabled() const;
     [[nodiscard]] bool sourcesEnabled() const;

@@ -186,6 +186,7 @@ void RecordStateController::Private::startRecord() {
     fullSince_ = 0;
     ticksToRoom_ = 0;
     roomStage_ = 0;
+    roomSeconds_ = -1;
     for (RecordSource& source : sources) {
         source.off = false;
         source.away = source.wasAway = false;

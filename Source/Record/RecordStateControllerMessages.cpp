@@ -21,7 +21,9 @@ namespace {
 /// Ticks of the display's clock between two queries of the disks: 5 s. A full disk is queried at each tick.
 constexpr int TicksBetweenLooks = 10;
 /// Remaining minutes at which the notice about a nearly full disk appears, also again after it was dismissed.
-constexpr std::array Stages{60, 30, 10, 5, 2, 1};
+constexpr std::array Stages{60, 30, 15, 10, 5, 2, 1};
+/// Below this, the display shows how long the recording can continue.
+constexpr double ShownRoom = 10 * 3600;
 /// The recording continues on a full disk when this many more bytes are free: an hour of one source.
 constexpr qint64 EnoughBytes = 64'000'000;
 
@@ -299,6 +301,7 @@ void RecordStateController::Private::followRoom(const RecordRoom::Room& room) {
             continueAfterFullDisk();
         return;
     }
+    roomSeconds_ = room.seconds;
     int stage = 0; // number of reached stages
     for (const int minutes : Stages)
         stage += room.seconds < minutes * 60 ? 1 : 0;
@@ -312,12 +315,18 @@ void RecordStateController::Private::followRoom(const RecordRoom::Room& room) {
                     .arg(RecordRoom::words(room.seconds)),
         .help = RecordNotice::Help::FreeSpace,
         .target = room.folder,
-        .event = DiskEvent};
+        .event = DiskEvent,
+        .stage = stage};
     if (stage > roomStage_)
         notices_.show(message);
     else
         notices_.update(message);
     roomStage_ = stage;
+}
+
+QString RecordStateController::roomLeft() const {
+    const bool isShown = d->isActive() && d->fullSince_ == 0 && d->roomSeconds_ >= 0 && d->roomSeconds_ < ShownRoom;
+    return isShown ? RecordRoom::sentence(d->roomSeconds_) : QString();
 }
 
 /// There is space again: continues in a new file, because nothing is appended to a file after a write error.

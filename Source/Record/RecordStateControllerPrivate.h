@@ -41,6 +41,7 @@ struct RecordSource {
     std::atomic<std::uint64_t> silentSince{0}; ///< capture time, 0 while there is sound or nothing is recorded
     std::atomic<bool> sounded{false};          ///< this recording contains a sound of it
     bool silenceShown = false;                 ///< main thread
+    std::uint64_t clippedCyclesSeen = 0;       ///< by takeClipping(); main thread
 
     [[nodiscard]] bool takesPart() const { return checked && !off; }
     /// Whether the engine is recording or paused, and has a file.
@@ -104,8 +105,9 @@ struct RecordStateController::Private {
     RecordNotices notices_;
     std::uint64_t lostShown_ = 0;
     RecordRoom room_;
-    int ticksToRoom_ = 0; ///< until the disks are queried again
-    int roomStage_ = 0;   ///< how many limits of free space were passed; see followRoom()
+    int ticksToRoom_ = 0;     ///< until the disks are queried again
+    int roomStage_ = 0;       ///< how many limits of free space were passed; see followRoom()
+    double roomSeconds_ = -1; ///< until the disk is full; -1 when not yet known
     bool writeProblemShown_ = false;
     std::uint64_t fullSince_ = 0; ///< host time; 0 while the disk is not full
     qint64 fullBytes_ = -1;       ///< free bytes when the disk became full; -1 when not yet known

@@ -328,6 +328,9 @@ QColor recording() {
 QColor level() {
     return QColor::fromRgbF(78.0F / 255, 242.0F / 255, 1.0F);
 }
+QColor clipping() {
+    return QColor(0xff6b5e);
+}
 QColor button() {
     return QColor(0x2c3f4d);
 }

@@ -37,6 +37,8 @@ namespace Glass {
 [[nodiscard]] QColor text();
 [[nodiscard]] QColor dimText();
 [[nodiscard]] QColor level();
+/// A level with clipped sound.
+[[nodiscard]] QColor clipping();
 /// The ends of the glass's gradient.
 [[nodiscard]] QColor top();
 [[nodiscard]] QColor bottom();

@@ -411,6 +411,10 @@ float MainWndController::getAudioWaveLevelValue() {
     return record_.getAudioWaveLevelValue();
 }
 
+bool MainWndController::takeClipping() {
+    return record_.takeClipping();
+}
+
 void MainWndController::updateAudioWaveRecordState() {
     if (display_->isRecording() != record_.isStateAudioRecord())
         display_->setIsRecording(record_.isStateAudioRecord());

@@ -99,6 +99,7 @@ public:
 
     // ---- called by the display
     float getAudioWaveLevelValue() override;
+    bool takeClipping() override;
     void updateAudioWaveRecordState() override;
     void updatePlaySoundButton() override;
 

@@ -160,7 +160,7 @@ QString RecordPanel::hint() const {
     // Without a sound server only the test tone is recorded. The user must be able to see that.
     if (hardware && hardware->isTestTone())
         return tr("No sound server: a test tone is recorded");
-    return {};
+    return record_.roomLeft();
 }
 
 void RecordPanel::showDevices() {

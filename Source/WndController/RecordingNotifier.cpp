@@ -22,17 +22,17 @@ namespace {
 const auto showKey = u"show"_s;
 const auto playKey = u"play"_s;
 
-/// Notices that differ only in their numbers count as the same notice.
-QString withoutNumbers(QString notice) {
+/// Notices that differ only in their numbers count as the same notice, unless it became more urgent.
+bool isKnown(const RecordNotice& notice, const RecordNotice& before) {
     static const QRegularExpression numbers(u"[0-9][0-9.,]*"_s);
-    return notice.remove(numbers);
+    return notice.sentence().remove(numbers) == before.sentence().remove(numbers) && notice.stage <= before.stage;
 }
 
 } // namespace
 
 RecordingNotifier::RecordingNotifier(MainWndController& window, std::unique_ptr<Platform::Notifications> desktop,
                                      QObject* parent)
-    : QObject(parent), window_(window), desktop_(std::move(desktop)), noticesBefore_(window.record().notices()) {
+    : QObject(parent), window_(window), desktop_(std::move(desktop)), noticesBefore_(window.record().noticeList()) {
     connect(&window_.record(), &RecordStateController::recordingFinished, this, &RecordingNotifier::recordingFinished);
     connect(&window_.record(), &RecordStateController::noticesChanged, this, &RecordingNotifier::noticesChanged);
     connect(desktop_.get(), &Platform::Notifications::actionInvoked, this, &RecordingNotifier::act);
@@ -64,15 +64,15 @@ void RecordingNotifier::recordingFinished(const QString& path, const Dictionary&
 }
 
 void RecordingNotifier::noticesChanged() {
-    const QStringList notices = window_.record().notices();
-    const QStringList before = std::exchange(noticesBefore_, notices);
+    const QList<RecordNotice> notices = window_.record().noticeList();
+    const QList<RecordNotice> before = std::exchange(noticesBefore_, notices);
     if (notices.isEmpty() || !mayNotify())
         return;
-    const QString& newest = notices.last();
-    for (const QString& old : before)
-        if (withoutNumbers(old) == withoutNumbers(newest))
+    const RecordNotice& newest = notices.last();
+    for (const RecordNotice& old : before)
+        if (isKnown(newest, old))
             return;
-    problem_ = newest;
+    problem_ = newest.sentence();
     goesOn_ = window_.record().isStateAudioRecord();
     show();
 }

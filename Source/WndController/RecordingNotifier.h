@@ -4,9 +4,11 @@
 
 #include "Platform/Desktop/Notifications.h"
 #include "Platform/Foundation/Dictionary.h"
+#include "Source/Record/RecordNotice.h"
 
+#include <QList>
 #include <QObject>
-#include <QStringList>
+#include <QString>
 
 #include <memory>
 
@@ -36,5 +38,5 @@ private:
     QString newest_;  ///< path of the newest recording
     QString text_;    ///< text about the newest recording
     QString problem_; ///< the newest notice since the user last saw the program
-    QStringList noticesBefore_;
+    QList<RecordNotice> noticesBefore_;
 };

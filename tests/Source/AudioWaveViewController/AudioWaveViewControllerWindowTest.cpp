@@ -305,18 +305,37 @@ TEST(LevelHistory, DrawsEachLevelAroundTheMiddleAndSilenceAsAThinLine) {
     EXPECT_FALSE(isLevelColor(image.pixel(1, 24)));
 }
 
+TEST(LevelHistory, MarksClippedSoundByColourAndByAMarkAtTheEdges) {
+    AudioRecordWaveView view;
+    view.resize(100, 100);
+    view.addCurrentLevel(0.5F, true);
+    EXPECT_EQ(view.spokenValue(), u"50 %, clipped"_s);
+    for (int i = 0; i < 4; ++i)
+        view.addCurrentLevel(0.5F);
+    EXPECT_EQ(view.spokenValue(), u"50 %"_s);
+    const QImage image = Screenshot::take(view, u"level-history-clipped"_s);
+    const auto isClippingColor = [&](int x, int y) { return image.pixel(x, y) == Theme::Glass::clipping().rgb(); };
+    for (int x = 0; x < 10; ++x) {
+        EXPECT_EQ(isClippingColor(x, 50), x == 4) << x;
+        EXPECT_EQ(isLevelColor(image.pixel(x, 50)), x < 4) << x;
+        for (const int y : {0, 99})
+            EXPECT_EQ(isClippingColor(x, y), x >= 2 && x <= 4) << x << ", " << y;
+    }
+}
+
 TEST(LevelHistory, AMovedPictureEqualsADrawnOne) {
     const auto level = [](int i) { return float(std::sin(i) * std::sin(i)); };
+    const auto isClipped = [](int i) { return i % 7 == 0; };
     AudioRecordWaveView moved;
     moved.resize(64, 40);
     for (int i = 0; i < 80; ++i) {
-        moved.addCurrentLevel(level(i));
+        moved.addCurrentLevel(level(i), isClipped(i));
         moved.grab(); // draws once, so that the next level scrolls the picture
     }
     AudioRecordWaveView drawn;
     drawn.resize(64, 40);
     for (int i = 0; i < 80; ++i)
-        drawn.addCurrentLevel(level(i));
+        drawn.addCurrentLevel(level(i), isClipped(i));
     EXPECT_EQ(moved.grab().toImage(), drawn.grab().toImage());
 }
 

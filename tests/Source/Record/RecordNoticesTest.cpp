@@ -230,6 +230,9 @@ TEST_F(RecordNoticesTest, ADiskThatFillsUpIsReportedInMinutesAndOncePerStage) {
         return waitFor([&] { return !controller->notices().isEmpty(); }, 200);
     };
     EXPECT_FALSE(isAsked()) << "the user knows";
+    room.set(14LL * 60 * 18000);
+    ASSERT_TRUE(waitFor(isAsked)) << "a quarter of an hour is left";
+    controller->dismissNotices();
     room.set(9LL * 60 * 18000 + 9000);
     ASSERT_TRUE(waitFor(isAsked));
     EXPECT_TRUE(tells(u"about 9 minutes"_s));
@@ -239,6 +242,32 @@ TEST_F(RecordNoticesTest, ADiskThatFillsUpIsReportedInMinutesAndOncePerStage) {
         return controller->notices().isEmpty();
     })) << "somebody made room";
     controller->startAndStopRecord();
+}
+
+TEST_F(RecordNoticesTest, TheTimeThatIsLeftIsShownBelowTenHours) {
+    DiskRoom room(11LL * 3600 * 18000);
+    addMicrophone();
+    begin();
+    EXPECT_EQ(controller->roomLeft(), QString());
+    controller->startAndStopRecord();
+    const auto shows = [&](const QString& text) {
+        return waitFor([&] {
+            tick(10);
+            return controller->roomLeft() == text;
+        });
+    };
+    EXPECT_TRUE(shows({}));
+    room.set(193LL * 60 * 18000);
+    EXPECT_TRUE(shows(u"About 3 h 10 min left on this disk"_s));
+    EXPECT_TRUE(controller->notices().isEmpty()) << "nothing is urgent yet";
+    room.set(11LL * 3600 * 18000);
+    EXPECT_TRUE(shows({}));
+    room.set(9LL * 60 * 18000 + 9000);
+    EXPECT_TRUE(shows(u"About 9 min left on this disk"_s));
+    room.set(9000);
+    EXPECT_TRUE(shows(u"Less than a minute left on this disk"_s));
+    controller->startAndStopRecord();
+    EXPECT_EQ(controller->roomLeft(), QString());
 }
 
 TEST_F(RecordNoticesTest, TwoSourcesNeedRoomForTheirMix) {

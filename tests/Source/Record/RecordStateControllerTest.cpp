@@ -347,6 +347,22 @@ TEST_F(RecordStateControllerTest, TheMeterAlternatesBetweenTwoSources) {
     EXPECT_FLOAT_EQ(controller->getAudioWaveLevelValue(), 0.25F);
 }
 
+TEST_F(RecordStateControllerTest, TellsClippingOfTheCheckedSourcesOnce) {
+    beginWithBoth();
+    play(Microphone, 0.5F, 0.02);
+    EXPECT_FALSE(controller->takeClipping());
+    play(Microphone, 1, 0.02);
+    EXPECT_TRUE(controller->takeClipping()) << "also while nothing is recorded";
+    EXPECT_FALSE(controller->takeClipping());
+    play(ComputerAudio, 1, 0.02);
+    EXPECT_TRUE(controller->takeClipping());
+    controller->chooseRecordBuiltIn(false);
+    play(Microphone, 1, 0.02);
+    EXPECT_FALSE(controller->takeClipping());
+    controller->chooseRecordBuiltIn(true);
+    EXPECT_FALSE(controller->takeClipping()) << "that was before the source was checked";
+}
+
 TEST_F(RecordStateControllerTest, LevelsArriveWhileNothingIsRecorded) {
     addMicrophone();
     begin();

@@ -5,6 +5,7 @@
 #include "RingtoneMaker/CustomSound.h"
 #include "tests/Source/WndController/WindowWorld.h"
 #include "tests/fakes/FakeNotifications.h"
+#include "tests/support/DiskRoom.h"
 
 #include <QGuiApplication>
 #include <QPushButton>
@@ -119,6 +120,20 @@ TEST_F(Notifier, AFaultIsToldAndStaysInTheNotification) {
     EXPECT_EQ(desktop->all.last().title, u"Recording finished"_s);
     EXPECT_TRUE(desktop->all.last().text.startsWith(u"Half (00:01:05)\n"_s));
     EXPECT_TRUE(desktop->all.last().text.contains(u"went away"_s)) << "an update does not hide it";
+}
+
+TEST_F(Notifier, ADiskThatFillsUpIsToldAgainAtAQuarterOfAnHour) {
+    DiskRoom room(25LL * 60 * 18000 + 9000);
+    world.controller->startAndStopRecord();
+    ASSERT_TRUE(waitFor([&] { return desktop->all.size() == 1; }));
+    EXPECT_TRUE(desktop->all[0].text.contains(u"room for about 25 minutes"_s)) << desktop->all[0].text.toStdString();
+    room.set(21LL * 60 * 18000 + 9000);
+    ASSERT_TRUE(waitFor([&] { return world.record->notices().last().contains(u"about 20 minutes"_s); }));
+    EXPECT_EQ(desktop->all.size(), 1) << "another number alone is not told again";
+    room.set(14LL * 60 * 18000 + 9000);
+    ASSERT_TRUE(waitFor([&] { return desktop->all.size() == 2; }));
+    EXPECT_TRUE(desktop->all[1].text.contains(u"room for about 10 minutes"_s)) << desktop->all[1].text.toStdString();
+    world.controller->startAndStopRecord();
 }
 
 TEST_F(Notifier, SaysNothingInFrontOrWhenItIsSwitchedOff) {
