@@ -24,6 +24,9 @@ namespace {
 
 constexpr std::array deviceClasses = {"Audio/Sink", "Audio/Source", "Audio/Source/Virtual", "Audio/Duplex"};
 
+/// How long the end of the registry waits for a server that does not answer.
+constexpr std::chrono::seconds RequestPatience{2};
+
 /// The value of "name" in {"name":"..."}.
 std::string nameIn(const char* json) {
     spa_json outer;
@@ -66,6 +69,12 @@ DeviceRegistry::DeviceRegistry() : connection_(PipeWireConnection::shared()) {
 }
 
 DeviceRegistry::~DeviceRegistry() {
+    {
+        // The server drops what it has not read yet when a program disconnects. A choice that stays in the server would
+        // also apply to other programs.
+        std::unique_lock lock(mutex_);
+        changed_.wait_for(lock, RequestPatience, [this] { return requestsAreHandled_; });
+    }
     connection_->remove(*this);
     LoopLock lock(connection_->threadLoop());
     serverLost();
@@ -118,6 +127,7 @@ void DeviceRegistry::serverLost() {
     {
         std::lock_guard guard(mutex_);
         known_ = false;
+        requestsAreHandled_ = true;
         picture_.clear();
         defaultSink_.clear();
         driverMetadata_.clear();
@@ -192,7 +202,19 @@ void DeviceRegistry::onGlobalRemove(std::uint32_t id) {
         each->deviceGone(node->info.id);
 }
 
+/// Called after each request, with the loop's lock.
+void DeviceRegistry::followRequest() {
+    requestSequence_ = pw_core_sync(connection_->core(), PW_ID_CORE, 0);
+    std::lock_guard guard(mutex_);
+    requestsAreHandled_ = false;
+}
+
 void DeviceRegistry::onDone(int sequence) {
+    if (sequence == requestSequence_) {
+        std::lock_guard guard(mutex_);
+        requestsAreHandled_ = true;
+        changed_.notify_all();
+    }
     for (auto& [id, node] : nodes_) {
         if (node->sequence == sequence && !node->announced)
             announce(*node);
@@ -418,6 +440,7 @@ OSStatus DeviceRegistry::setMetadata(std::uint32_t subject, const std::string& k
             continue;
         const char* text = value.empty() ? nullptr : value.c_str();
         const int result = pw_metadata_set_property(metadata->proxy.get(), subject, key.c_str(), type.c_str(), text);
+        followRequest();
         return result < 0 ? kAudioHardwareIllegalOperationError : noErr;
     }
     return kAudioHardwareNotRunningError;

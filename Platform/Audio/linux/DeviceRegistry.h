@@ -107,6 +107,7 @@ private:
     void onMetadata(Metadata& metadata, std::uint32_t subject, const char* key, const char* value);
     void bindMetadata(std::uint32_t id, const std::string& name);
     void bindCard(std::uint32_t id);
+    void followRequest();
     void announce(Node& node);
     void publish(const Node& node);
     [[nodiscard]] AudioObjectID numberFor(const std::string& nodeName);
@@ -128,12 +129,15 @@ private:
     bool routesAsked_ = false;
     int knownSequence_ = -1; ///< sync number; its answer comes after all those objects described themselves
 
+    int requestSequence_ = -1; ///< sync number; its answer comes after the server has handled the newest request
+
     /// All numbers ever given to a name, oldest first. Lives as long as the process, longer than any registry.
     static std::unordered_map<std::string, std::vector<AudioObjectID>>& numbers();
 
     mutable std::mutex mutex_; ///< guards the members below; never held while a listener is called
     mutable std::condition_variable changed_;
     bool known_ = false;
+    bool requestsAreHandled_ = true;
     std::map<AudioObjectID, AudioDeviceInfo> picture_;
     std::string defaultSink_;
     std::map<std::pair<std::uint32_t, std::string>, std::string> driverMetadata_; ///< by subject and key

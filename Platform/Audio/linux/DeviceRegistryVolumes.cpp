@@ -105,6 +105,7 @@ OSStatus DeviceRegistry::setVolume(AudioObjectID device, std::uint32_t element, 
     const int result =
         card ? pw_device_set_param(card->proxy.get(), SPA_PARAM_Route, 0, route->withVolumes(volumes).get())
              : pw_node_set_param(node->proxy.get(), SPA_PARAM_Props, 0, volumesPod(volumes).get());
+    followRequest();
     if (result < 0)
         return kAudioHardwareIllegalOperationError;
     (route ? route->volumes : node->info.volumes) = volumes;
@@ -120,6 +121,7 @@ OSStatus DeviceRegistry::setMute(AudioObjectID device, bool mute) {
     const auto [card, route] = routeOf(*node);
     const int result = card ? pw_device_set_param(card->proxy.get(), SPA_PARAM_Route, 0, route->withMute(mute).get())
                             : pw_node_set_param(node->proxy.get(), SPA_PARAM_Props, 0, mutePod(mute).get());
+    followRequest();
     if (result < 0)
         return kAudioHardwareIllegalOperationError;
     (route ? route->muted : node->info.muted) = mute;

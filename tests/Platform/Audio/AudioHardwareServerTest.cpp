@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Audio/AudioHardware.h"
+#include "Platform/Audio/IORegistry.h"
 
 #include "tests/support/PrivateAudioSession.h"
 #include "tests/support/TestCapture.h"
@@ -12,6 +13,10 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSignalSpy>
+
+#include <chrono>
+#include <csignal>
+#include <thread>
 
 using namespace Platform;
 using namespace Qt::StringLiterals;
@@ -174,6 +179,25 @@ TEST_F(AudioHardwareTest, SetsVolumeAndMuteOfTheDeviceItself) {
     })) << asked(u"pw-dump"_s, {u"test.volume"_s}).toStdString();
     EXPECT_TRUE(waitFor([&] { return hardware_->getMute(device, 1, mute) == noErr && mute; }));
     EXPECT_TRUE(waitFor([&] { return hardware_->getVolumeScalar(device, 2, volume) == noErr && volume == 0.5f; }));
+}
+
+TEST_F(AudioHardwareTest, ARequestRightBeforeTheEndReachesABusyServer) {
+    auto registry = createIORegistry();
+    const auto output = deviceNamed(*hardware_, u"Silent Output"_s);
+    ASSERT_NE(output, 0u);
+    hardware_.reset();
+    const pid_t server = session_.serverProcess();
+    ASSERT_EQ(kill(server, SIGSTOP), 0);
+    std::thread continuing([server] {
+        // Long enough for an end that does not wait.
+        std::this_thread::sleep_for(std::chrono::milliseconds(200));
+        kill(server, SIGCONT);
+    });
+    EXPECT_EQ(registry->setProperty(output, u"kCaptureDriverPathKey"_s, u"/the/last"_s), noErr);
+    registry.reset();
+    continuing.join();
+    EXPECT_TRUE(asked(u"pw-metadata"_s, {}).contains("/the/last"));
+    createIORegistry()->setProperty(output, u"kCaptureDriverPathKey"_s, QString());
 }
 
 TEST_F(AudioHardwareTest, ReportsAVolumeThatAnotherProgramSet) {
