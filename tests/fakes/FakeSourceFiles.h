@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include <QFile>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 /// A FakeMediaFiles that can also be read: each source is a function of channel and frame, at the client rate.
@@ -37,6 +38,8 @@ public:
         source.frames = std::int64_t(std::llround(seconds * 44100));
         return source;
     }
+    /// A path in a folder that lives as long as this object.
+    [[nodiscard]] QString at(const QString& name) const { return folder_.filePath(name); }
     std::map<QString, Source> sources;
 
     Platform::Result<std::unique_ptr<Platform::ExtAudioFileWriter>>
@@ -114,4 +117,6 @@ private:
         Source& source_;
         std::int64_t position_ = 0;
     };
+
+    QTemporaryDir folder_;
 };

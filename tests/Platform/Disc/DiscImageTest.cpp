@@ -224,8 +224,8 @@ TEST_F(DiscImageTest, FailsBeforeWritingWithoutTracksOrSpace) {
     EXPECT_EQ(burn(DRLayout(100, track(path))).reason, u"an audio CD holds at most 99 tracks, these are 100"_s);
     FakeSourceFiles sources;
     LinuxDiscRecording other(sources, noDrives);
-    sources.addSource(u"/two hours"_s, 7200, [](int, std::int64_t) { return 0.F; });
-    const auto tooLong = other.trackForAudioFile(u"/two hours"_s).valueOr(nullptr);
+    sources.addSource(sources.at(u"long"_s), 7200, [](int, std::int64_t) { return 0.F; });
+    const auto tooLong = other.trackForAudioFile(sources.at(u"long"_s)).valueOr(nullptr);
     ASSERT_TRUE(tooLong);
     tooLong->setProperties({75});
     EXPECT_EQ(
@@ -251,7 +251,7 @@ TEST_F(DiscImageTest, LeavesNothingWhenItIsAborted) {
     LinuxDiscRecording slow(sources, noDrives);
     std::atomic<bool> asked{false};
     std::atomic<bool> goOn{false};
-    sources.addSource(u"/slow"_s, 600, [&](int, std::int64_t frame) {
+    sources.addSource(sources.at(u"slow"_s), 600, [&](int, std::int64_t frame) {
         asked = asked || frame > 441000;
         while (frame > 441000 && !goOn)
             std::this_thread::yield();
@@ -260,7 +260,7 @@ TEST_F(DiscImageTest, LeavesNothingWhenItIsAborted) {
     slow.setImagePath(at(u"disc"_s));
     const auto burn = slow.burnWithDevice(slow.devices().back());
     const BurnWatch watch(slow.currentRunLoopCenter(), burn);
-    burn->writeLayout(DRLayout{slow.trackForAudioFile(u"/slow"_s).valueOr(nullptr)});
+    burn->writeLayout(DRLayout{slow.trackForAudioFile(sources.at(u"slow"_s)).valueOr(nullptr)});
     ASSERT_TRUE(waitFor([&] { return asked.load(); }));
     burn->abort();
     goOn = true;

@@ -41,8 +41,8 @@ protected:
         const auto ramp = [](int channel, std::int64_t frame) {
             return float((frame * (channel + 1)) % 20000) / 32768;
         };
-        files.addSource(u"/one"_s, 8, ramp);
-        files.addSource(u"/two"_s, 5, ramp);
+        files.addSource(files.at(u"one"_s), 8, ramp);
+        files.addSource(files.at(u"two"_s), 5, ramp);
         discs = std::make_unique<LinuxDiscRecording>(files, [this](std::function<void()> changed) {
             auto made = std::make_unique<TestDrives>(std::move(changed));
             drives = made.get();
@@ -62,7 +62,7 @@ protected:
     }
     DRLayout layout() {
         DRLayout made;
-        for (const QString& path : {u"/one"_s, u"/two"_s}) {
+        for (const QString& path : {files.at(u"one"_s), files.at(u"two"_s)}) {
             made.push_back(discs->trackForAudioFile(path).valueOr(nullptr));
             made.back()->setProperties({75});
         }
@@ -271,18 +271,19 @@ TEST_F(OpticalBurnTest, AbortsOnceAndOnlyWhileItWrites) {
 
 TEST_F(OpticalBurnTest, StopsWhenASourceFailsAndNamesIt) {
     drive();
-    files.sources[u"/two"_s].failingRead = 3;
+    files.sources[files.at(u"two"_s)].failingRead = 3;
     // Longer than the ring, so that the failure comes while the disc is being written.
-    files.addSource(u"/one"_s, 400, [](int, std::int64_t) { return 0.25F; });
+    files.addSource(files.at(u"one"_s), 400, [](int, std::int64_t) { return 0.25F; });
     const DRStatus status = burned();
     EXPECT_EQ(status.state, DRStatusStateFailed);
-    EXPECT_TRUE(status.reason.startsWith(u"/two: cannot be read"_s)) << qPrintable(status.reason);
+    EXPECT_TRUE(status.reason.startsWith(QString(files.at(u"two"_s) + u": cannot be read"_s)))
+        << qPrintable(status.reason);
 }
 
 TEST_F(OpticalBurnTest, WritesNothingWhenASourceFailsWhileTheBufferFills) {
     drive();
-    files.sources[u"/one"_s].failingRead = 1;
-    EXPECT_EQ(burned().reason, u"/one: cannot be read"_s);
+    files.sources[files.at(u"one"_s)].failingRead = 1;
+    EXPECT_EQ(burned().reason, files.at(u"one"_s) + u": cannot be read"_s);
     EXPECT_EQ(callsOfTheBurn(), QStringList());
 }
 

@@ -15,7 +15,8 @@ class TrackFeedTest : public testing::Test {
 protected:
     ~TrackFeedTest() override { stalled = false; }
     /// A source that stops delivering frames, from a given frame on, while stalled is true.
-    std::shared_ptr<DRTrack> track(const QString& path, double seconds, std::int64_t stallsAt = INT64_MAX) {
+    std::shared_ptr<DRTrack> track(const QString& name, double seconds, std::int64_t stallsAt = INT64_MAX) {
+        const QString path = files.at(name);
         files.addSource(path, seconds, [this, stallsAt](int, std::int64_t frame) {
             while (frame >= stallsAt && stalled)
                 std::this_thread::yield();
@@ -36,7 +37,7 @@ protected:
 };
 
 TEST_F(TrackFeedTest, DeliversTheTracksInOrderInWholeSectors) {
-    const DRLayout layout{track(u"/a"_s, 4.005), track(u"/b"_s, 5)};
+    const DRLayout layout{track(u"a"_s, 4.005), track(u"b"_s, 5)};
     TrackFeed feed(layout, 1 << 20); // less than both tracks
     ASSERT_TRUE(feed.fill());
     std::vector<std::byte> bytes(std::size_t((301 + 375) * 2352));
@@ -58,7 +59,7 @@ TEST_F(TrackFeedTest, BridgesFiveSecondsWithoutDataFromTheSources) {
     for (const auto& [speed, times] : {std::pair(0.F, 52), std::pair(8467.F, 48), std::pair(706.F, 4)}) {
         stalled = true;
         const std::int64_t filled = std::int64_t(TrackFeed::bytesFor(speed) / 2352) + 150;
-        TrackFeed feed({track(u"/long"_s, 3000, filled * 588)}, TrackFeed::bytesFor(speed));
+        TrackFeed feed({track(u"long"_s, 3000, filled * 588)}, TrackFeed::bytesFor(speed));
         ASSERT_TRUE(feed.fill());
         EXPECT_TRUE(takeSectors(feed, std::int64_t(times) * 75 * 5));
         EXPECT_EQ(feed.waits(), 0U) << times;
@@ -69,7 +70,7 @@ TEST_F(TrackFeedTest, BridgesFiveSecondsWithoutDataFromTheSources) {
 }
 
 TEST_F(TrackFeedTest, CancelReleasesAWaitingDrive) {
-    TrackFeed feed({track(u"/stuck"_s, 60, 0)}, 1 << 20);
+    TrackFeed feed({track(u"stuck"_s, 60, 0)}, 1 << 20);
     auto filled = std::async(std::launch::async, [&] { return feed.fill(); });
     feed.cancel();
     EXPECT_FALSE(filled.get());
@@ -79,11 +80,11 @@ TEST_F(TrackFeedTest, CancelReleasesAWaitingDrive) {
 }
 
 TEST_F(TrackFeedTest, NamesTheSourceThatFailed) {
-    const DRLayout layout{track(u"/good"_s, 5), track(u"/bad"_s, 5)};
-    files.sources[u"/bad"_s].failingRead = 2;
+    const DRLayout layout{track(u"good"_s, 5), track(u"bad"_s, 5)};
+    files.sources[files.at(u"bad"_s)].failingRead = 2;
     TrackFeed feed(layout, 1 << 24);
     EXPECT_FALSE(feed.fill());
-    EXPECT_TRUE(feed.error().text.startsWith(u"/bad"_s)) << qPrintable(feed.error().text);
+    EXPECT_TRUE(feed.error().text.startsWith(files.at(u"bad"_s))) << qPrintable(feed.error().text);
 }
 
 TEST(DitherTest, AddsTriangularNoiseThatDecorrelatesTheRoundingError) {
