@@ -83,6 +83,8 @@ void MainMenus::makeRecordMenu() {
     recordComputer_ = add(menu, tr("Record Computer &Audio"), {}, {});
     recordComputer_->setCheckable(true);
     connect(recordComputer_, &QAction::triggered, ui_.btnComputerAudioRecord_, &QAbstractButton::click);
+    programs_ = ui_.btnRecordPrograms_->menu()->menuAction();
+    menu->addAction(programs_);
     menu->addSeparator();
     quit_ = add(menu, tr("&Quit"), {}, {}, {QKeySequence(Qt::CTRL | Qt::Key_Q)});
     connect(menu, &QMenu::aboutToShow, this, &MainMenus::update);
@@ -291,6 +293,7 @@ void MainMenus::update() {
     say(installDevice_,
         installed ? tr("It is installed already.") : tr("The device stays as it is until the recording ends."));
     recordComputer_->setEnabled(record_.sourcesEnabled());
+    programs_->setEnabled(record_.sourcesEnabled() && record_.hasComputerAudioDevice());
     for (QAction* action : {recordInput_, recordComputer_})
         say(action, tr("The sources stay as they are until the recording ends."));
 

@@ -84,6 +84,7 @@ private:
     QAction* recordInput_ = nullptr;
     QAction* installDevice_ = nullptr;
     QAction* recordComputer_ = nullptr;
+    QAction* programs_ = nullptr; ///< opens the menu of the button beside "Computer audio"
     QAction* play_ = nullptr;
     QAction* playSelected_ = nullptr;
     QAction* show_ = nullptr;

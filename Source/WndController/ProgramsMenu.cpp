@@ -39,6 +39,7 @@ ProgramsMenu::ProgramsMenu(QToolButton& button, RecordStateController& record, Q
     button_.setFocusPolicy(Qt::TabFocus);
     button_.installEventFilter(this);
     menu_->setAccessibleName(tr("Programs to record"));
+    menu_->setTitle(tr("P&rograms to Record")); // in the menu bar
     connect(menu_, &QMenu::aboutToShow, this, [this] {
         record_.watchPrograms();
         fill();

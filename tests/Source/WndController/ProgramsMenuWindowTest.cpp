@@ -7,6 +7,7 @@
 #include "tests/fakes/FakeIORegistry.h"
 
 #include <QMenu>
+#include <QMenuBar>
 #include <QScopeGuard>
 #include <QTimer>
 #include <QToolButton>
@@ -181,6 +182,29 @@ TEST_F(MenuOfPrograms, RestsWithoutTheComputerAudioDevice) {
     world.open();
     EXPECT_FALSE(button().isEnabled());
     EXPECT_TRUE(button().toolTip().contains(u"not installed."_s));
+}
+
+TEST_F(MenuOfPrograms, IsInTheMenuBarToo) {
+    world.open();
+    world.record->watchPrograms();
+    QMenu* record = world.outlet<QMenuBar>("mainMenu_").actions().first()->menu();
+    QAction* entry = button().menu()->menuAction();
+    ASSERT_TRUE(record->actions().contains(entry));
+    record->popup(world.controller->window()->mapToGlobal(QPoint(0, 20)));
+    ASSERT_TRUE(waitFor([&] { return record->isVisible(); }));
+    key(*record, Qt::Key_R);
+    ASSERT_TRUE(waitFor([&] { return button().menu()->isVisible(); }));
+    key(*button().menu(), Qt::Key_B);
+    QMenu* allBut = button().menu()->actions().at(3)->menu();
+    ASSERT_TRUE(waitFor([&] { return allBut->isVisible(); }));
+    while (allBut->activeAction() != allBut->actions().at(0))
+        key(*allBut, Qt::Key_Down);
+    key(*allBut, Qt::Key_Return);
+    EXPECT_EQ(programs().title(), u"Everything but Firefox"_s);
+    EXPECT_TRUE(entry->isEnabled());
+    world.click("btnSatrtRecord_");
+    EXPECT_FALSE(entry->isEnabled());
+    world.click("btnSatrtRecord_");
 }
 
 TEST_F(MenuOfPrograms, IsReachedByTab) {
