@@ -6,6 +6,7 @@
 #include "Platform/Audio/AudioHardware.h"
 #include "Platform/Audio/IORegistry.h"
 #include "Platform/Foundation/Services.h"
+#include "tests/support/AudioCheck.h"
 #include "tests/support/HeardFrames.h"
 #include "tests/support/PrivateAudioSession.h"
 #include "tests/support/RunTool.h"
@@ -66,31 +67,16 @@ protected:
         EXPECT_TRUE(waitFor([&] { return server.feedersOf("korvane.system-audio") == wanted; }))
             << testing::PrintToString(server.feedersOf("korvane.system-audio"));
     }
-    /// The next second of a capture, interleaved.
+    /// The left channel of the next second of a capture.
     static std::vector<float> nextSecond(const TestCapture& capture) {
         const auto before = capture.frames();
         EXPECT_TRUE(waitFor([&] { return capture.frames() >= before + std::uint64_t(kRate) + 4096; }));
         const auto all = capture.interleaved();
-        return {all.end() - 2 * std::ptrdiff_t(kRate), all.end()};
+        std::vector<float> left;
+        for (auto i = all.size() - 2 * std::size_t(kRate); i < all.size(); i += 2)
+            left.push_back(all[i]);
+        return left;
     }
-    /// The level of a tone in the left channel, in dB below full scale.
-    static double levelOf(const std::vector<float>& stereo, double pitch) {
-        const auto frames = stereo.size() / 2;
-        double sine = 0;
-        double cosine = 0;
-        for (std::size_t i = 0; i < frames; ++i) {
-            // A window with low side lobes: one lost cycle would otherwise spread each tone over all others.
-            const double phase = 2 * std::numbers::pi * double(i) / double(frames);
-            const double window =
-                0.35875 - 0.48829 * std::cos(phase) + 0.14128 * std::cos(2 * phase) - 0.01168 * std::cos(3 * phase);
-            const double angle = 2 * std::numbers::pi * pitch * double(i) / kRate;
-            const double sample = double(stereo[2 * i]) * window;
-            sine += sample * std::sin(angle);
-            cosine += sample * std::cos(angle);
-        }
-        return 20 * std::log10(std::max(2 * std::hypot(sine, cosine) / (0.35875 * double(frames)), 1e-12));
-    }
-
     /// Waits for a second in which the capture has these tones at their full level and none of the others. A busy
     /// machine loses cycles of the sound server: a tone with a gap is too weak, and has traces of every other pitch.
     static void expectTones(const TestCapture& capture, const std::vector<double>& present,
@@ -102,7 +88,7 @@ protected:
             levels.clear();
             for (const bool wanted : {true, false})
                 for (const double pitch : wanted ? present : absent) {
-                    const double level = levelOf(second, pitch);
+                    const double level = AudioCheck::toneLevel(second, pitch, kRate);
                     isGood = isGood && (wanted ? std::abs(level + 12.04) < 0.1 : level < -90);
                     levels += std::to_string(pitch) + " Hz: " + std::to_string(level) + " dB  ";
                 }

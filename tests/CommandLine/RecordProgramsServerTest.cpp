@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace {
 
@@ -28,21 +27,6 @@ protected:
         return QStringList{u"record"_s,   u"--input"_s, u"none"_s,    u"--folder"_s, folder_,
                            u"--filter"_s, u"off"_s,     u"--split"_s, u"off"_s} +
                more;
-    }
-    /// The level of a tone in a part of a file, in dB below full scale.
-    static double levelOf(const std::vector<float>& samples, double pitch, double rate = 44100) {
-        double sine = 0;
-        double cosine = 0;
-        for (std::size_t i = 0; i < samples.size(); ++i) {
-            // A window with low side lobes separates the tones.
-            const double phase = 2 * std::numbers::pi * double(i) / double(samples.size());
-            const double window =
-                0.35875 - 0.48829 * std::cos(phase) + 0.14128 * std::cos(2 * phase) - 0.01168 * std::cos(3 * phase);
-            const double angle = 2 * std::numbers::pi * pitch * double(i) / rate;
-            sine += double(samples[i]) * window * std::sin(angle);
-            cosine += double(samples[i]) * window * std::cos(angle);
-        }
-        return 20 * std::log10(std::max(2 * std::hypot(sine, cosine) / (0.35875 * double(samples.size())), 1e-12));
     }
     /// The left channel of a recording without its first and last tenth of a second.
     static std::vector<float> middleOf(const QString& path) {
@@ -83,7 +67,7 @@ TEST_F(RecordPrograms, OnlyTheChosenOnesAreInTheFile) {
             levels.clear();
             for (const auto& [has, pitch] :
                  {std::pair{each.hasOne, 440.0}, {each.hasTwo, 1000.0}, {each.hasThree, 3000.0}}) {
-                const double level = levelOf(samples, pitch);
+                const double level = AudioCheck::toneLevel(samples, pitch, 44100);
                 isGood = isGood && (has ? std::abs(level + 12.04) < 0.5 : level < -90);
                 levels += std::to_string(level) + " dB  ";
             }
@@ -123,15 +107,15 @@ TEST_F(RecordPrograms, AProgramThatStartsAgainIsInTheFileWithin50Milliseconds) {
         const auto samples = middleOf(QString::fromUtf8(process.readAllStandardOutput().trimmed()));
         ASSERT_GT(samples.size(), 44100U);
         // Without the beginning of a tone, which contains every pitch.
-        EXPECT_LT(levelOf({samples.end() - 13230, samples.end()}, 1000), -90);
+        EXPECT_LT(AudioCheck::toneLevel({samples.end() - 13230, samples.end()}, 1000, 44100), -90);
         // Stretches of 5 ms in which the first pitch is heard: each start gives some of them.
         constexpr std::size_t stretch = 220;
         int starts = 0;
         bool before = true; // the first start may lie before the middle
         for (std::size_t i = 0; i + stretch < samples.size(); i += stretch) {
-            const bool now =
-                levelOf({samples.begin() + std::ptrdiff_t(i), samples.begin() + std::ptrdiff_t(i + stretch)}, 5000) >
-                -30;
+            const bool now = AudioCheck::toneLevel(
+                                 {samples.begin() + std::ptrdiff_t(i), samples.begin() + std::ptrdiff_t(i + stretch)},
+                                 5000, 44100) > -30;
             starts += now && !before;
             before = now;
         }
