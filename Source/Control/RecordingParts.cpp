@@ -4,6 +4,7 @@
 
 #include "Platform/Audio/ClientFormat.h"
 #include "Platform/Desktop/Workspace.h"
+#include "Platform/Foundation/Clock.h"
 #include "Platform/Foundation/FileManager.h"
 #include "Platform/Foundation/ReplacementFile.h"
 #include "Platform/Foundation/Services.h"
@@ -19,6 +20,7 @@
 #include <QFileInfo>
 #include <QScopeGuard>
 
+#include <algorithm>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -55,9 +57,13 @@ public:
     Labels& operator=(const Labels&) = delete;
 
     [[nodiscard]] const Dictionary& tags() const { return tags_; }
-    /// With a number added to the title.
-    [[nodiscard]] Dictionary numbered(int number) const {
+    /// With this title; if it is empty, with a number added to the source's.
+    [[nodiscard]] Dictionary titled(const QString& typed, int number) const {
         Dictionary tags = tags_;
+        if (!typed.isEmpty()) {
+            tags.insert(AudioRecordEntry::Title, typed);
+            return tags;
+        }
         const QString title = Platform::stringForm(tags_.value(AudioRecordEntry::Title));
         tags.insert(AudioRecordEntry::Title, u"%1 %2"_s.arg(title, QString::number(number)));
         return tags;
@@ -98,6 +104,13 @@ private:
 Error existsError(const QString& path) {
     return failure(Error::Kind::Exists, path,
                    QCoreApplication::translate("Control", "This path exists, please change the path or name."));
+}
+
+QStringList namedPartPaths(const QString& name, const QString& folder, std::size_t count) {
+    QStringList paths;
+    for (std::size_t i = 1; i <= count; ++i)
+        paths.append(u"%1/%2 %3.m4a"_s.arg(folder, name, QString::number(i)));
+    return paths;
 }
 
 bool isTaken(const QString& path) {
@@ -183,15 +196,35 @@ Result<double> encode(const QStringList& sources, const QString& path, const Pro
 } // namespace
 
 QStringList partPaths(const QString& source, const QString& folder, std::size_t count) {
+    return namedPartPaths(QFileInfo(source).completeBaseName(), folder, count);
+}
+
+QStringList freePartPaths(const QString& source, const QString& folder, std::size_t count) {
     const QString name = QFileInfo(source).completeBaseName();
-    QStringList paths;
-    for (std::size_t i = 1; i <= count; ++i)
-        paths.append(u"%1/%2 %3.m4a"_s.arg(folder, name, QString::number(i)));
+    QStringList paths = namedPartPaths(name, folder, count);
+    for (int number = 2; std::any_of(paths.cbegin(), paths.cend(), isTaken); ++number)
+        paths = namedPartPaths(u"%1 (%2)"_s.arg(name, QString::number(number)), folder, count);
     return paths;
 }
 
+Dictionary entryOf(const Part& part) {
+    Dictionary entry = part.tags;
+    entry.insert(AudioRecordEntry::AddDate, Platform::services().clock->now().toString(u"yyyy/MM/dd"_s));
+    entry.insert(AudioRecordEntry::Length, part.seconds);
+    return entry;
+}
+
+QString joinedPath(const QString& firstSource) {
+    const QFileInfo file(firstSource);
+    const QString name = QCoreApplication::translate("Control", "%1 joined").arg(file.completeBaseName());
+    QString path = u"%1/%2.m4a"_s.arg(file.path(), name);
+    for (int number = 2; isTaken(path); ++number)
+        path = u"%1/%2 %3.m4a"_s.arg(file.path(), name, QString::number(number));
+    return path;
+}
+
 Result<QList<Part>> split(const QString& source, const std::vector<std::int64_t>& cuts, const QStringList& paths,
-                          const Progress& progress) {
+                          const Progress& progress, const QStringList& titles) {
     const auto audio = Platform::openEncodedAudio(source);
     if (!audio)
         return audio.error();
@@ -212,7 +245,7 @@ Result<QList<Part>> split(const QString& source, const std::vector<std::int64_t>
         if (!copied)
             return temporary.named(copied.error(), paths.at(i));
         files.push_back(std::make_unique<ReplacementFile>(paths.at(i), ReplacementFile::Existing::Kept));
-        parts.append({paths.at(i), double(end - first) / (*audio)->sampleRate(), labels.numbered(int(i) + 1)});
+        parts.append({paths.at(i), double(end - first) / (*audio)->sampleRate(), labels.titled(titles.value(i), int(i) + 1)});
         if (const auto labelled = labels.apply(parts.constLast().tags, temporary.path(), *files.back()); !labelled)
             return labelled.error();
         first = end;

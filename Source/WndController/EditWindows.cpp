@@ -12,6 +12,8 @@
 #include "Source/WndController/LibraryPresenter.h"
 #include "Source/WndController/MainMenus.h"
 #include "Source/WndController/MainWndController.h"
+#include "Source/WndController/RecordingJoin.h"
+#include "Source/WndController/SplitWndController.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -32,6 +34,14 @@ EditWindows::EditWindows(MainWndController& main, QObject* parent) : QObject(par
         id3EditWndController().setID3EditDataSource(entry);
         id3EditWndController().runModal();
     });
+    main_.commands().setOpener(Window::Split, [this](const QVariantList& entries) {
+        splitWndController().setRecording(entries.value(0).toMap());
+        splitWndController().runModal();
+    });
+    join_ = std::make_unique<RecordingJoin>(main_.window());
+    join_->setDelegate(this);
+    connect(join_.get(), &RecordingJoin::joined, this, [this](const QString& notice) { main_.showStatus(notice); });
+    main_.commands().setOpener(Window::Join, [this](const QVariantList& entries) { join_->join(entries); });
     main_.menus().update();
 }
 
@@ -62,6 +72,22 @@ ID3EditWndController& EditWindows::id3EditWndController() {
         tags_->setDelegate(this);
     }
     return *tags_;
+}
+
+SplitWndController& EditWindows::splitWndController() {
+    if (!split_) {
+        split_ = std::make_unique<SplitWndController>(main_.window());
+        split_->setDelegate(this);
+    }
+    return *split_;
+}
+
+void EditWindows::removeRecording(const Dictionary& entry) {
+    main_.library().removeMediaLibraryArray({entry});
+}
+
+void EditWindows::showFile(const QString& path) {
+    (void)main_.library().selectFile(path);
 }
 
 void EditWindows::updateFile(const QString& path, const Dictionary& tags) {

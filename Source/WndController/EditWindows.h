@@ -11,8 +11,11 @@
 class AudioTrimWndController;
 class ID3EditWndController;
 class MainWndController;
+class RecordingJoin;
+class SplitWndController;
 
-/// Opens the trim window and the tag window for the main window's commands and updates the library with their results.
+/// Opens the trim, tag and split windows for the main window's commands, joins recordings, and updates the library with
+/// the results.
 /// Main thread.
 class EditWindows : public QObject, public RecordingEditDelegate {
     Q_OBJECT
@@ -29,11 +32,18 @@ public:
     [[nodiscard]] AudioTrimWndController& audioTrimWndController();
     [[nodiscard]] ID3EditWndController& id3EditWndController();
 
+    [[nodiscard]] SplitWndController& splitWndController();
+    [[nodiscard]] RecordingJoin& recordingJoin() { return *join_; }
+
     void updateFile(const QString& path, const Dictionary& tags) override;
+    void removeRecording(const Dictionary& entry) override;
+    void showFile(const QString& path) override;
     bool isFilePlaying(const QString& path) override;
 
 private:
     MainWndController& main_;
     std::unique_ptr<AudioTrimWndController> trim_;
     std::unique_ptr<ID3EditWndController> tags_;
+    std::unique_ptr<SplitWndController> split_;
+    std::unique_ptr<RecordingJoin> join_;
 };

@@ -256,6 +256,10 @@ bool LibraryPresenter::tableViewCanEditSelectionAudioRecord() const {
     return tableViewPlayEnable() && !tableViewSelectionAudioIsRingtone();
 }
 
+bool LibraryPresenter::canJoinSelection() const {
+    return selectedRowCount() > 1 && !isStateAudioRecord_() && !tableViewSelectionAudioIsRingtone();
+}
+
 bool LibraryPresenter::canFilterAudio() const {
     return tableModel_->rowCount() > 0;
 }

@@ -81,6 +81,8 @@ public:
     [[nodiscard]] bool tableViewDeleteEnable() const;
     [[nodiscard]] bool tableViewSelectionAudioIsRingtone() const;
     [[nodiscard]] bool tableViewCanEditSelectionAudioRecord() const;
+    /// Whether two recordings or more are selected, and nothing records.
+    [[nodiscard]] bool canJoinSelection() const;
     [[nodiscard]] bool canFilterAudio() const;
     /// Whether there are neither recordings nor ringtones.
     [[nodiscard]] bool libraryIsEmpty() const;

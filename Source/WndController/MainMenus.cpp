@@ -97,6 +97,10 @@ void MainMenus::makeEditMenu() {
               tr("Title, artist, album and cover of the recording"), {QKeySequence(Qt::Key_F2)});
     addWindow(menu, Window::AudioTrim, tr("T&rim…"), QStringLiteral("trim"), tr("Keep a part of the recording"),
               {QKeySequence(Qt::CTRL | Qt::Key_T)});
+    addWindow(menu, Window::Split, tr("Sp&lit at Silences…"), {}, tr("Cut the recording into several at its silences"),
+              {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T)});
+    addWindow(menu, Window::Join, tr("&Join…"), {}, tr("Make one recording of the selected ones, in the order of the list"),
+              {QKeySequence(Qt::CTRL | Qt::Key_J)});
     addWindow(menu, Window::RingtoneMaker, tr("Make a &Ringtone…"), QStringLiteral("ringtone"),
               tr("Cut a ringtone out of the recording"), {QKeySequence(Qt::CTRL | Qt::Key_M)});
     menu->addSeparator();
@@ -209,7 +213,7 @@ void MainMenus::makeContextMenu() {
     };
     item(playSelected_);
     audioTableViewMenu_->addSeparator();
-    for (const Window each : {Window::ID3Edit, Window::AudioTrim, Window::RingtoneMaker})
+    for (const Window each : {Window::ID3Edit, Window::AudioTrim, Window::Split, Window::Join, Window::RingtoneMaker})
         item(window(each));
     audioTableViewMenu_->addSeparator();
     item(show_);
@@ -330,6 +334,7 @@ void MainMenus::update() {
         const bool wholeList = which == Window::CDBurn || which == Window::Filter;
         say(windows_[i], !commands_.hasOpener(which) ? tr("Arrives in a later version of Sonaphex.")
                          : wholeList                 ? tr("There is nothing in this list.")
+                         : which == Window::Join     ? tr("Select two recordings or more first.")
                                                      : selectFirst);
     }
     for (const auto& [copy, original] : contextItems_) {

@@ -259,6 +259,8 @@ void MainWndController::bindMenus() {
     bind(menus_->window(Window::ID3Edit), &Self::openID3EditFace);
     bind(menus_->window(Window::AudioTrim), &Self::openAudioTrimFace);
     bind(menus_->window(Window::RingtoneMaker), &Self::openRingtoneMakerWindow);
+    connect(menus_->window(Window::Split), &QAction::triggered, this, [this] { commands_->openSplitWindow(); });
+    connect(menus_->window(Window::Join), &QAction::triggered, this, [this] { commands_->joinSelection(); });
     bind(menus_->window(Window::CDBurn), &Self::openCDBurnFace);
     bind(menus_->window(Window::Filter), &Self::openFilterWindow);
     bind(menus_->remove(), &Self::deleteAudioFile);

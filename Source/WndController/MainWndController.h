@@ -52,6 +52,8 @@ public:
 
     /// Connects the commands to the ringtone maker and the short-recording filter, and handles their results.
     void bindWindows();
+    /// Shows a sentence in the line below the library, and says it to screen readers.
+    void showStatus(const QString& text);
 
     // ---- called to show the window
     [[nodiscard]] bool isWindowVisible() const override;
@@ -135,7 +137,6 @@ private:
     void showSelection();
     /// The selected node's key and the selected paths, for comparison.
     [[nodiscard]] QStringList selection() const;
-    void showStatus(const QString& text);
     void showEmptyText();
     void chooseInstalledDevice();
 

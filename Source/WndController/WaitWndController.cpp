@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/WndController/WaitWndController.h"
 
+#include "Platform/Desktop/Alerts.h"
 #include "Source/View/NamedImages.h"
 #include "ui_WaitWnd.h"
 
@@ -26,14 +27,19 @@ WaitWndController::WaitWndController(QObject* parent)
     QFont font = ui_->lblMessage_->font();
     font.setFamilies(QStringList{u"Lucida Grande"_s} + font.families());
     ui_->lblMessage_->setFont(font);
+    connect(ui_->btnCancel_, &QPushButton::clicked, this, &WaitWndController::cancelWork);
 }
 
 WaitWndController::~WaitWndController() {
     delete window_;
 }
 
-void WaitWndController::beginSheet(QWidget* over, std::function<void()> didEnd) {
+void WaitWndController::beginSheet(QWidget* over, std::function<void()> didEnd, std::function<void()> cancel) {
     didEnd_ = std::move(didEnd);
+    cancel_ = std::move(cancel);
+    ui_->btnCancel_->setText(Platform::Alerts::cancelLabel());
+    ui_->btnCancel_->setEnabled(true);
+    ui_->btnCancel_->setVisible(static_cast<bool>(cancel_));
     window_->hide();
     window_->setParent(over, Qt::Sheet);
     window_->open();
@@ -55,16 +61,27 @@ void WaitWndController::setStopWork() {
     ui_->progress_->setRange(0, kSteps); // an indeterminate bar would keep a timer running
     window_->hide();
     window_->setParent(nullptr, Qt::Sheet);
+    cancel_ = {};
     std::exchange(didEnd_, {})();
+}
+
+void WaitWndController::cancelWork() {
+    if (!cancel_)
+        return;
+    ui_->btnCancel_->setEnabled(false);
+    std::exchange(cancel_, {})();
 }
 
 bool WaitWndController::eventFilter(QObject* watched, QEvent* event) {
     if (watched == window_ && event->type() == QEvent::Close) {
         event->ignore();
+        cancelWork();
         return true;
     }
     if (watched == window_ && event->type() == QEvent::KeyPress &&
-        static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel))
-        return true; // the work cannot be cancelled
+        static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel)) {
+        cancelWork();
+        return true;
+    }
     return QObject::eventFilter(watched, event);
 }

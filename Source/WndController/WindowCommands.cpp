@@ -21,7 +21,10 @@ bool WindowCommands::isEnabled(Window window) const {
     case Window::AudioTrim:
         return library_.tableViewPlayEnable();
     case Window::RingtoneMaker:
+    case Window::Split:
         return library_.tableViewCanEditSelectionAudioRecord();
+    case Window::Join:
+        return library_.canJoinSelection();
     case Window::CDBurn:
     case Window::Filter:
         return library_.canFilterAudio();
@@ -59,4 +62,13 @@ void WindowCommands::openFilterWindow() {
 void WindowCommands::openRingtoneMakerWindow() {
     library_.stopSoundPlaying();
     open(Window::RingtoneMaker, {library_.tableViewSelectionAudio()});
+}
+
+void WindowCommands::openSplitWindow() {
+    library_.stopSoundPlaying();
+    open(Window::Split, {library_.tableViewSelectionAudio()});
+}
+
+void WindowCommands::joinSelection() {
+    open(Window::Join, library_.tableViewSelectionAudioArray());
 }

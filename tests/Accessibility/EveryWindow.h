@@ -20,6 +20,7 @@
 #include "tests/RingtoneMaker/RingtoneWorld.h"
 #include "tests/Source/CDBurn/BurnWorld.h"
 #include "tests/Source/WndController/EditWorld.h"
+#include "tests/Source/WndController/SplitWorld.h"
 #include "tests/Source/WndController/WindowWorld.h"
 #include "tests/fakes/FakeAutostart.h"
 #include "tests/fakes/FakeHotKeys.h"
@@ -48,6 +49,7 @@ public:
         emptyMainWindow();
         preferences();
         trim();
+        split();
         tags();
         ringtone();
         filter();
@@ -163,6 +165,21 @@ public:
         look(*trim.waitWndController().window(), QStringLiteral("waiting"));
         trim.waitWndController().setStopWork();
         trim.window()->hide();
+    }
+
+    void split() {
+        SplitWorld world;
+        world.open(world.splitRecording(QStringLiteral("Choir rehearsal")));
+        world.length().setValue(4);
+        world.bar().setCurrentCut(1);
+        look(*world.controller.window(), QStringLiteral("split"));
+        world.controller.waitWndController().beginSheet(
+            world.controller.window(), [] {}, [] {});
+        world.controller.waitWndController().setIsWorking(QStringLiteral("Writing the parts…"));
+        world.controller.waitWndController().setProgress(0.4);
+        look(*world.controller.waitWndController().window(), QStringLiteral("waiting, with Cancel"));
+        world.controller.waitWndController().setStopWork();
+        world.controller.window()->hide();
     }
 
     void tags() {

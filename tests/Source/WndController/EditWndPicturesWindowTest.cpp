@@ -7,6 +7,7 @@
 #include "Source/WndController/ID3EditWndController.h"
 #include "Source/WndController/WaitWndController.h"
 #include "tests/Source/WndController/EditWorld.h"
+#include "tests/Source/WndController/SplitWorld.h"
 #include "tests/support/Screenshot.h"
 
 #include <QApplication>
@@ -87,6 +88,31 @@ TEST_F(EditPictures, TheTrimWindow) {
     trim.waitWndController().setProgress(0.4);
     take(*trim.waitWndController().window(), u"wait"_s);
     trim.waitWndController().setStopWork();
+}
+
+TEST_F(EditPictures, TheSplitWindow) {
+    SplitWorld split;
+    split.open(split.splitRecording(u"Choir rehearsal"_s));
+    take(*split.controller.window(), u"split-opened"_s);
+    split.length().setValue(4);
+    split.bar().setCurrentCut(1);
+    take(*split.controller.window(), u"split-cuts"_s);
+    const QPoint place = split.bar().handleRect(1).center().toPoint();
+    QTest::mousePress(&split.bar(), Qt::LeftButton, {}, place);
+    QTest::mouseMove(&split.bar(), place + QPoint(40, 0));
+    split.bar().setZoom(3, place.x());
+    take(*split.controller.window(), u"split-dragging"_s);
+    QTest::mouseRelease(&split.bar(), Qt::LeftButton, {}, place + QPoint(40, 0));
+    split.length().setValue(100);
+    split.controller.resetCuts();
+    split.controller.window()->resize(640, 480);
+    take(*split.controller.window(), u"split-none"_s);
+    split.controller.waitWndController().beginSheet(
+        split.controller.window(), [] {}, [] {});
+    split.controller.waitWndController().setIsWorking(u"Writing the parts…"_s);
+    split.controller.waitWndController().setProgress(0.4);
+    take(*split.controller.waitWndController().window(), u"wait-cancel"_s);
+    split.controller.waitWndController().setStopWork();
 }
 
 TEST_F(EditPictures, TheTagWindow) {

@@ -12,6 +12,7 @@
 #include "tests/RingtoneMaker/RingtoneWorld.h"
 #include "tests/Source/CDBurn/BurnWorld.h"
 #include "tests/Source/WndController/EditWorld.h"
+#include "tests/Source/WndController/SplitWorld.h"
 #include "tests/Source/WndController/WindowWorld.h"
 #include "tests/fakes/FakeAutostart.h"
 #include "tests/fakes/FakeHotKeys.h"
@@ -72,6 +73,16 @@ inline void edit(const Look& look) {
     look(*tags.window(), QStringLiteral("tags"));
 }
 
+inline void split(const Look& look) {
+    SplitWorld world;
+    world.open(world.splitRecording(QStringLiteral("Track1")));
+    world.length().setValue(4);
+    look(*world.controller.window(), QStringLiteral("split"));
+    world.controller.waitWndController().beginSheet(world.controller.window(), [] {}, [] {});
+    look(*world.controller.waitWndController().window(), QStringLiteral("wait-cancel"));
+    world.controller.waitWndController().setStopWork();
+}
+
 inline void preferences(const Look& look) {
     WindowWorld world;
     FakeHotKeys hotKeys;
@@ -114,7 +125,7 @@ inline void burn(const Look& look) {
 }
 
 inline void lookAtAll(const Look& look) {
-    for (const auto& open : {main, edit, preferences, ringtone, filter, burn})
+    for (const auto& open : {main, edit, split, preferences, ringtone, filter, burn})
         open([&look](QWidget& window, const QString& name) {
             QCoreApplication::processEvents();
             look(window, name);
