@@ -78,6 +78,7 @@ public:
 protected:
     void focusInEvent(QFocusEvent* event) override {
         QWidget::focusInEvent(event);
+        bar_.makeVisible(frame());
         bar_.update();
     }
     void focusOutEvent(QFocusEvent* event) override {

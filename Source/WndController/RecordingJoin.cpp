@@ -61,7 +61,7 @@ void RecordingJoin::start(const QStringList& sources, const QString& path) {
     outcome_.reset();
     waitWndController_->beginSheet(
         window_, [this] { sheetEnded(); }, [this] { cancelled_ = true; });
-    waitWndController_->setIsWorking(tr("Joining %n recording(s)…", nullptr, int(count_)));
+    waitWndController_->setIsWorking(tr("Joining %n recordings…", nullptr, int(count_)));
     worker_ = std::thread([this, sources, path] {
         auto shown = std::chrono::steady_clock::now();
         bool encoded = false;

@@ -56,6 +56,7 @@ SplitWndController::SplitWndController(QWidget* mainWindow, QObject* parent)
     ui_->partsView_->verticalHeader()->hide();
     ui_->partsView_->setWordWrap(false);
     ui_->partsView_->horizontalHeader()->setHighlightSections(false);
+    ui_->partsView_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     ui_->partsView_->horizontalHeader()->setSectionResizeMode(SplitPartsModel::Title, QHeaderView::Stretch);
     for (const int column : {SplitPartsModel::Begin, SplitPartsModel::Length})
         ui_->partsView_->horizontalHeader()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
@@ -197,8 +198,9 @@ void SplitWndController::showFound() {
         text = tr("No silence found at this level. Choose a higher level, or add cuts yourself.");
     else {
         const QString longest = QLocale().toString(std::floor(double(found.longest) / found.sampleRate * 10) / 10, 'f', 1);
-        text = cuts > 0 ? tr("%n cut(s). The longest silence found: %1 s.", nullptr, cuts).arg(longest)
-                        : tr("No silence is long enough. The longest silence found: %1 s.").arg(longest);
+        text = cuts == 0   ? tr("No silence is long enough. The longest silence found: %1 s.").arg(longest)
+               : cuts == 1 ? tr("One cut. The longest silence found: %1 s.").arg(longest)
+                           : tr("%n cuts. The longest silence found: %1 s.", nullptr, cuts).arg(longest);
     }
     ui_->lblFound_->setText(text);
     const bool hasCut = ui_->splitEditView_->currentCut() >= 0;
@@ -363,6 +365,7 @@ void SplitWndController::resetCuts() {
 void SplitWndController::split() {
     if (waitWndController_->isSheetUp() || plan_.cuts().empty())
         return;
+    ui_->btnSplit_->setFocus(); // takes over a title that is being typed
     stopPlaying();
     cancelled_ = false;
     result_.reset();
