@@ -57,7 +57,9 @@ private:
 
     void endBlock();
     void findBegin(Level& level, Magnitude limit) const;
-    [[nodiscard]] const Block& block(std::int64_t number) const { return history_[std::size_t(number) % history_.size()]; }
+    [[nodiscard]] const Block& block(std::int64_t number) const {
+        return history_[std::size_t(number) % history_.size()];
+    }
 
     std::vector<Magnitude> limits_;
     std::vector<Level> levels_;

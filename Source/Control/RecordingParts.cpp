@@ -245,7 +245,8 @@ Result<QList<Part>> split(const QString& source, const std::vector<std::int64_t>
         if (!copied)
             return temporary.named(copied.error(), paths.at(i));
         files.push_back(std::make_unique<ReplacementFile>(paths.at(i), ReplacementFile::Existing::Kept));
-        parts.append({paths.at(i), double(end - first) / (*audio)->sampleRate(), labels.titled(titles.value(i), int(i) + 1)});
+        parts.append(
+            {paths.at(i), double(end - first) / (*audio)->sampleRate(), labels.titled(titles.value(i), int(i) + 1)});
         if (const auto labelled = labels.apply(parts.constLast().tags, temporary.path(), *files.back()); !labelled)
             return labelled.error();
         first = end;

@@ -32,8 +32,8 @@ struct Part {
 
 /// Writes one file for each path: from the beginning to the first of @p cuts, from there to the next, and so on. The
 /// cuts are frames in ascending order, one fewer than paths. The tags and the cover are those of the source. A part's
-/// title is the one of @p titles; where that is empty or missing, the number of the part is added to the source's title.
-/// No existing file is overwritten, and either all parts are written or none.
+/// title is the one of @p titles; where that is empty or missing, the number of the part is added to the source's
+/// title. No existing file is overwritten, and either all parts are written or none.
 Platform::Result<QList<Part>> split(const QString& source, const std::vector<std::int64_t>& cuts,
                                     const QStringList& paths, const std::function<bool(double)>& progress = {},
                                     const QStringList& titles = {});

@@ -20,8 +20,8 @@ public:
     static constexpr int kHighestLevel = -20; ///< decibels of full scale
     static constexpr double kShortest = 0.1;  ///< seconds: shorter silences are not kept
 
-    /// Reads the whole file on two threads. Any thread; blocks. @p progress is called on the calling thread with a value
-    /// from 0 to 1 and returns false to stop, which is an error of kind Cancelled.
+    /// Reads the whole file on two threads. Any thread; blocks. @p progress is called on the calling thread with a
+    /// value from 0 to 1 and returns false to stop, which is an error of kind Cancelled.
     static Platform::Result<SilenceMap> read(const QString& path, const std::function<bool(double)>& progress = {});
 
     /// The silences of a rule. Its level is rounded to whole decibels and limited to the levels above; a length below

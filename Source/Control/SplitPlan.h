@@ -60,8 +60,8 @@ private:
     std::shared_ptr<const SilenceMap> map_;
     SilenceFinder::Rule rule_;
     SilenceFinder::Found found_;
-    std::vector<std::int64_t> added_;         ///< in order
-    std::vector<std::int64_t> removed_;       ///< a silence that contains one of these frames gives no cut
-    std::vector<std::int64_t> cuts_;          ///< in order
-    std::map<std::int64_t, QString> titles_;  ///< by the begin of the part
+    std::vector<std::int64_t> added_;        ///< in order
+    std::vector<std::int64_t> removed_;      ///< a silence that contains one of these frames gives no cut
+    std::vector<std::int64_t> cuts_;         ///< in order
+    std::map<std::int64_t, QString> titles_; ///< by the begin of the part
 };

@@ -29,15 +29,14 @@ constexpr double kLargeStep = 1;   ///< seconds
 constexpr double kFineStep = 0.01; ///< seconds
 constexpr double kPageStep = 10;   ///< seconds
 constexpr double kZoomStep = 1.5;
-constexpr double kGrab = 5;             ///< points beside a cut that still grab it
+constexpr double kGrab = 5;              ///< points beside a cut that still grab it
 constexpr double kOutlinePerSecond = 10; ///< values, see AudioOutline
 constexpr int kWaveHeight = 96;
 
 /// "00:01:02.34"
 QString hundredthsText(double seconds) {
     const auto hundredths = qint64(std::llround(seconds * 100));
-    return u"%1.%2"_s.arg(ToolControl::getTimeString(hundredths / 100))
-        .arg(hundredths % 100, 2, 10, QLatin1Char('0'));
+    return u"%1.%2"_s.arg(ToolControl::getTimeString(hundredths / 100)).arg(hundredths % 100, 2, 10, QLatin1Char('0'));
 }
 
 } // namespace
@@ -363,8 +362,8 @@ void SplitEditView::wheelEvent(QWheelEvent* event) {
     if (event->modifiers() & Qt::ControlModifier)
         setZoom(zoom_ * std::pow(kZoomStep, angle.y() / 120.0), event->position().x());
     else
-        scrollTo(firstVisible_ - std::llround(double(angle.x() != 0 ? angle.x() : angle.y()) / 120 * 0.1 *
-                                              double(visibleFrames())));
+        scrollTo(firstVisible_ -
+                 std::llround(double(angle.x() != 0 ? angle.x() : angle.y()) / 120 * 0.1 * double(visibleFrames())));
     event->accept();
 }
 

@@ -106,7 +106,7 @@ public:
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
-        if ((control == CC_ComboBox || control == CC_SpinBox) && option->state & State_HasFocus)
+        if ((control == CC_ComboBox || control == CC_SpinBox || control == CC_Slider) && option->state & State_HasFocus)
             drawFocus(*option, *painter, option->rect);
     }
 

@@ -99,7 +99,8 @@ void MainMenus::makeEditMenu() {
               {QKeySequence(Qt::CTRL | Qt::Key_T)});
     addWindow(menu, Window::Split, tr("Sp&lit at Silences…"), {}, tr("Cut the recording into several at its silences"),
               {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T)});
-    addWindow(menu, Window::Join, tr("&Join…"), {}, tr("Make one recording of the selected ones, in the order of the list"),
+    addWindow(menu, Window::Join, tr("&Join…"), {},
+              tr("Make one recording of the selected ones, in the order of the list"),
               {QKeySequence(Qt::CTRL | Qt::Key_J)});
     addWindow(menu, Window::RingtoneMaker, tr("Make a &Ringtone…"), QStringLiteral("ringtone"),
               tr("Cut a ringtone out of the recording"), {QKeySequence(Qt::CTRL | Qt::Key_M)});

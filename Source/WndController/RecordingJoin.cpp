@@ -43,9 +43,8 @@ void RecordingJoin::join(const QVariantList& entries) {
         if (!QFileInfo(sources.constLast()).isFile())
             return tell(tr("The file is no longer there: %1").arg(sources.constLast()));
     }
-    const auto chosen =
-        Platform::services().panels->saveFile(window_, tr("Join"), RecordingParts::joinedPath(sources.constFirst()),
-                                              Platform::Panels::Existing::Unasked);
+    const auto chosen = Platform::services().panels->saveFile(
+        window_, tr("Join"), RecordingParts::joinedPath(sources.constFirst()), Platform::Panels::Existing::Unasked);
     if (!chosen)
         return;
     const QString path = AudioTrimSave::exportPath(*chosen);
@@ -102,10 +101,11 @@ void RecordingJoin::sheetEnded() {
         delegate_->showFile(part.path);
     }
     const QString name = QFileInfo(part.path).fileName();
-    Q_EMIT joined(outcome->encoded
-                      ? tr("“%1” was made. The recordings are not parts of one recording, so the sound was encoded again.")
-                            .arg(name)
-                      : tr("“%1” was made. The sound was copied without encoding it again.").arg(name));
+    Q_EMIT joined(
+        outcome->encoded
+            ? tr("“%1” was made. The recordings are not parts of one recording, so the sound was encoded again.")
+                  .arg(name)
+            : tr("“%1” was made. The sound was copied without encoding it again.").arg(name));
 }
 
 void RecordingJoin::joinWorker() {

@@ -110,9 +110,8 @@ void SplitWndController::connectControls() {
     });
     connect(bar, &SplitEditView::currentCutChanged, this, &Self::showCurrentPart);
     connect(bar, &SplitEditView::visibleRangeChanged, this, &Self::showScrollBar);
-    connect(ui_->scrollBar_, &QScrollBar::valueChanged, this, [bar](int value) {
-        bar->scrollTo(std::llround(double(value) / kScrollSteps * double(bar->frames())));
-    });
+    connect(ui_->scrollBar_, &QScrollBar::valueChanged, this,
+            [bar](int value) { bar->scrollTo(std::llround(double(value) / kScrollSteps * double(bar->frames()))); });
     connect(ui_->partsView_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this, bar](const QModelIndex& current) {
                 if (current.row() > 0)
@@ -197,7 +196,8 @@ void SplitWndController::showFound() {
     else if (found.longest == 0)
         text = tr("No silence found at this level. Choose a higher level, or add cuts yourself.");
     else {
-        const QString longest = QLocale().toString(std::floor(double(found.longest) / found.sampleRate * 10) / 10, 'f', 1);
+        const QString longest =
+            QLocale().toString(std::floor(double(found.longest) / found.sampleRate * 10) / 10, 'f', 1);
         text = cuts == 0   ? tr("No silence is long enough. The longest silence found: %1 s.").arg(longest)
                : cuts == 1 ? tr("One cut. The longest silence found: %1 s.").arg(longest)
                            : tr("%n cuts. The longest silence found: %1 s.", nullptr, cuts).arg(longest);

@@ -61,14 +61,13 @@ protected:
     /// Where sox hears sound: between silences of the same length below the same level.
     [[nodiscard]] std::vector<Stretch> soundsBySox(const QString& path) const {
         const QString wave = at(u"whole.wav"_s);
-        EXPECT_EQ(MediaTest::tool(u"ffmpeg"_s, {u"-v"_s, u"error"_s, u"-y"_s, u"-i"_s, path, u"-c:a"_s, u"pcm_s16le"_s,
-                                                wave})
-                      .status,
-                  0);
-        EXPECT_EQ(MediaTest::tool(u"sox"_s, {wave, at(u"sound.wav"_s),
-                                             u"silence"_s, u"1"_s, u"0"_s, u"-60d"_s, u"1"_s,
-                                             QString::number(kShortestSilence), u"-60d"_s, u":"_s, u"newfile"_s,
-                                             u":"_s, u"restart"_s})
+        EXPECT_EQ(
+            MediaTest::tool(u"ffmpeg"_s, {u"-v"_s, u"error"_s, u"-y"_s, u"-i"_s, path, u"-c:a"_s, u"pcm_s16le"_s, wave})
+                .status,
+            0);
+        EXPECT_EQ(MediaTest::tool(u"sox"_s, {wave, at(u"sound.wav"_s), u"silence"_s, u"1"_s, u"0"_s, u"-60d"_s, u"1"_s,
+                                             QString::number(kShortestSilence), u"-60d"_s, u":"_s, u"newfile"_s, u":"_s,
+                                             u"restart"_s})
                       .status,
                   0);
         const auto whole = MediaTest::readFile(wave).rows[0];
@@ -118,11 +117,16 @@ protected:
     FakeClock clock_;
 };
 
+constexpr unsigned kSeedsAtOnce = 10;
+
+/// Recordings of some seeds, beginning with the parameter.
+class RandomParts : public Parts, public testing::WithParamInterface<unsigned> {};
+
 } // namespace
 
-TEST_F(Parts, OfFiftyRandomRecordingsAreTheRecordings) {
+TEST_P(RandomParts, AreTheRecordings) {
     std::size_t cutsOfAll = 0;
-    for (unsigned seed = 1; seed <= 50; ++seed) {
+    for (unsigned seed = GetParam(); seed < GetParam() + kSeedsAtOnce; ++seed) {
         SCOPED_TRACE(seed);
         const QString path = record(u"One.m4a"_s, seed);
         const auto found = SilenceFinder::find(path, {kShortestSilence, -60});
@@ -156,15 +160,18 @@ TEST_F(Parts, OfFiftyRandomRecordingsAreTheRecordings) {
         for (const QString& each : paths + QStringList{at(u"All.m4a"_s)})
             QFile::remove(each);
     }
-    EXPECT_GT(cutsOfAll, 80U);
+    EXPECT_GT(cutsOfAll, 10U);
 }
+
+// Fifty recordings.
+INSTANTIATE_TEST_SUITE_P(Of, RandomParts, testing::Values(1U, 11U, 21U, 31U, 41U));
 
 TEST_F(Parts, GetTheTitlesThatWereTyped) {
     const QString path = record(u"One.m4a"_s, 1);
     const auto all = std::int64_t(MediaTest::readFile(path).rows[0].size());
     const std::vector<std::int64_t> cuts{all / 3, all / 2};
-    const auto parts = RecordingParts::split(path, cuts, RecordingParts::partPaths(path, at({}), 3), {},
-                                             {{}, u"Rain 100%1/2"_s, {}});
+    const auto parts =
+        RecordingParts::split(path, cuts, RecordingParts::partPaths(path, at({}), 3), {}, {{}, u"Rain 100%1/2"_s, {}});
     ASSERT_TRUE(parts) << qPrintable(parts.error().text);
     EXPECT_EQ(Mpeg4Files::probe(at(u"One 1.m4a"_s))[u"title"_s].toString(), u"One 1"_s);
     EXPECT_EQ(Mpeg4Files::probe(at(u"One 2.m4a"_s))[u"title"_s].toString(), u"Rain 100%1/2"_s);

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The silences at many levels that are found in one pass are those that the search for one rule finds.
-#include "Source/Control/LevelScan.h"
 #include "Source/Control/SilenceMap.h"
+#include "Source/Control/LevelScan.h"
 #include "tests/Platform/Media/MediaTestSupport.h"
 #include "tests/Source/Control/EditFixture.h"
 

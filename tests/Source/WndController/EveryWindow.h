@@ -78,7 +78,8 @@ inline void split(const Look& look) {
     world.open(world.splitRecording(QStringLiteral("Track1")));
     world.length().setValue(4);
     look(*world.controller.window(), QStringLiteral("split"));
-    world.controller.waitWndController().beginSheet(world.controller.window(), [] {}, [] {});
+    world.controller.waitWndController().beginSheet(
+        world.controller.window(), [] {}, [] {});
     look(*world.controller.waitWndController().window(), QStringLiteral("wait-cancel"));
     world.controller.waitWndController().setStopWork();
 }

@@ -85,7 +85,8 @@ TEST_F(SplitWindow, TheMouseMovesAndAddsCuts) {
     EXPECT_THAT(world.cuts(), ElementsAre(about(2.5), DoubleNear(6.5, 0.05), about(8.6)));
     EXPECT_EQ(world.bar().currentCut(), 1);
     // By its handle, and not past the next cut.
-    world.drag(world.bar().handleRect(1).center(), {double(world.bar().width()), world.bar().handleRect(1).center().y()});
+    world.drag(world.bar().handleRect(1).center(),
+               {double(world.bar().width()), world.bar().handleRect(1).center().y()});
     EXPECT_NEAR(world.cuts()[1], world.cuts()[2] - 0.05, 0.001);
     QTest::mouseDClick(world.controller.window()->windowHandle(), Qt::LeftButton, {}, world.inWindow(world.onWave(4)));
     EXPECT_EQ(world.cuts().size(), 4U);

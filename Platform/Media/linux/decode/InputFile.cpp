@@ -10,6 +10,7 @@ namespace {
 
 constexpr int ioBufferBytes = 1 << 16;
 constexpr std::int64_t prerollFrames = 16384; // decoded before a seek's target, for decoders with state
+constexpr std::int64_t packetPreroll = 1024;  // the same where a packet needs only its predecessor
 constexpr int mostFailuresInARow = 10000;
 constexpr int mostRate = 3'000'000;
 
@@ -378,8 +379,9 @@ InputFile::Block InputFile::convert(std::int64_t skip, std::int64_t most) {
 bool InputFile::seek(std::int64_t frame) {
     frame = std::max<std::int64_t>(0, frame);
     failuresInARow_ = 0;
-    if (timestampsAreExact() && frame > prerollFrames) {
-        const std::int64_t time = inStreamTime(frame - prerollFrames) + origin_;
+    const std::int64_t preroll = packetsStandAlone() ? packetPreroll : prerollFrames;
+    if (timestampsAreExact() && frame > preroll) {
+        const std::int64_t time = inStreamTime(frame - preroll) + origin_;
         if (av_->seekFrame(format_.get(), stream_->index, time, AVSEEK_FLAG_BACKWARD) >= 0) {
             Av::codecs().flushBuffers(codec_.get());
             draining_ = frameIsWaiting_ = false;

@@ -55,6 +55,8 @@ private:
     [[nodiscard]] bool formatIs(const char* name) const;
     [[nodiscard]] bool timestampsAreExact() const;
     [[nodiscard]] bool timesAreFine() const;
+    /// Whether the file is complete, and of an encoder whose packets need only their predecessor.
+    [[nodiscard]] bool packetsStandAlone() const;
 
     enum class Got { Frame, Silence, End };
     Got decodeOne(std::optional<Error>& error);

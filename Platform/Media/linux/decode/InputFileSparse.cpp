@@ -8,12 +8,15 @@
 
 namespace Platform {
 
+bool InputFile::packetsStandAlone() const {
+    return facts_.ownEncoder && !facts_.fragmented && facts_.validFrames &&
+           stream_->codecpar->codec_id == AV_CODEC_ID_AAC;
+}
+
 bool InputFile::sparseSamples(std::span<const std::int64_t> frames, std::span<float> out) {
-    const AVCodecParameters& parameters = *stream_->codecpar;
     constexpr std::int64_t packetFrames = 1024;
     constexpr int mostPacketBytes = 1 << 14; // a packet of two channels has 1536 at most
-    if (!facts_.ownEncoder || facts_.fragmented || !facts_.validFrames || parameters.codec_id != AV_CODEC_ID_AAC ||
-        out.size() < frames.size())
+    if (!packetsStandAlone() || out.size() < frames.size())
         return false;
     const std::int64_t entries = av_->indexEntriesCount(stream_);
     const AVIndexEntry* first = entries > 0 ? av_->indexEntry(stream_, 0) : nullptr;
