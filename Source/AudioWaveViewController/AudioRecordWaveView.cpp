@@ -25,6 +25,11 @@ AudioRecordWaveView::AudioRecordWaveView(QWidget* parent) : QWidget(parent) {
     setAccessibleName(tr("Recording level"));
 }
 
+bool AudioRecordWaveView::isSeen(const QWidget& widget) {
+    const QWindow* screen = widget.isVisible() ? widget.window()->windowHandle() : nullptr;
+    return screen && screen->isExposed();
+}
+
 void AudioRecordWaveView::addCurrentLevel(float level, bool clipped) {
     const auto add = [this](auto& list, auto value) {
         isLeftToRight() ? list.prepend(value) : list.append(value);
@@ -34,8 +39,7 @@ void AudioRecordWaveView::addCurrentLevel(float level, bool clipped) {
     add(audioLevelArray_, level);
     add(clipped_, clipped);
     // In a hidden or iconified window nothing is drawn.
-    const QWindow* screen = isVisible() ? window()->windowHandle() : nullptr;
-    const bool isShown = screen && screen->isExposed();
+    const bool isShown = isSeen(*this);
     if (!isShown || !scrollPicture())
         pictureIsOld_ = true;
     if (isShown)
@@ -93,10 +97,11 @@ bool AudioRecordWaveView::scrollPicture() {
         return false;
     picture_.scroll(step, 0, picture_.rect());
     QPainter painter(&picture_);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setCompositionMode(QPainter::CompositionMode_Clear);
-    painter.fillRect(QRectF(0, 0, 1, height()), Qt::transparent);
+    // Whole pixels and this mode are a plain fill. With antialiasing Qt wakes its pool of threads for the one column.
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(QRect(0, 0, 1, height()), Qt::transparent);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter.setRenderHint(QPainter::Antialiasing);
     drawColumn(painter, 0);
     return true;
 }

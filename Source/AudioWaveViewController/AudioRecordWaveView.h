@@ -20,6 +20,8 @@ public:
     [[nodiscard]] bool isLeftToRight() const { return true; }
     /// Newest first; at most as many as the view is wide in points.
     [[nodiscard]] const QList<float>& audioLevelArray() const { return audioLevelArray_; }
+    /// Whether a widget is on the screen: false in a hidden or iconified window.
+    [[nodiscard]] static bool isSeen(const QWidget& widget);
     /// Levels range from 0 to 1; greater ones are clipped at the view's edge. @p clipped: the sound was clipped since
     /// the last level; its column is red and has a mark above and below.
     void addCurrentLevel(float level, bool clipped = false);

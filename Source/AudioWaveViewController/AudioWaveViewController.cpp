@@ -24,6 +24,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int tickMilliseconds = 100;
+constexpr int restMilliseconds = 500; ///< of a window that nobody sees
 constexpr qreal timePointSize = 28;
 constexpr int timesFrom = 160; ///< a narrower playback side shows no times beside its bar
 constexpr int wordsFrom = 420; ///< a narrower panel has no room for the words on the button beside a notice
@@ -189,6 +190,7 @@ void AudioWaveViewController::awakeFromNib() {
     ui_->dismissNoticeButton->setFixedSize(24, 24);
     for (QWidget* elided : {ui_->titleField, ui_->artistField, ui_->noticeField, ui_->hintField})
         elided->installEventFilter(this);
+    view_->installEventFilter(this);
 
     ui_->audioPlayProgressView->setDelegate(this);
     connect(ui_->changeTabViewButton, &QToolButton::clicked, this, &AudioWaveViewController::changeTabView);
@@ -460,6 +462,8 @@ void AudioWaveViewController::showNotices() {
 }
 
 bool AudioWaveViewController::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Show && watched == view_)
+        setTimerInterval(tickMilliseconds);
     if (event->type() == QEvent::Resize && view_) {
         showTitles();
         if (watched == ui_->noticeField)
@@ -474,9 +478,24 @@ void AudioWaveViewController::createDudioPlayUpdateTimer() {
     destroyDudioPlayUpdateTimer();
     audioPlayUpdateTimer_ = std::make_unique<QTimer>();
     audioPlayUpdateTimer_->setTimerType(Qt::PreciseTimer);
-    connect(audioPlayUpdateTimer_.get(), &QTimer::timeout, this,
-            &AudioWaveViewController::audioPlayUpdateTimerFireMethod);
+    connect(audioPlayUpdateTimer_.get(), &QTimer::timeout, this, &AudioWaveViewController::tick);
     audioPlayUpdateTimer_->start(tickMilliseconds);
+}
+
+/// In a window that nobody sees the timer fires twice a second only. The level history still moves by one column for
+/// each tenth of a second.
+void AudioWaveViewController::tick() {
+    const int interval = audioPlayUpdateTimer_->interval();
+    const bool isSeen = view_ && AudioRecordWaveView::isSeen(*view_);
+    setTimerInterval(isSeen ? tickMilliseconds : restMilliseconds);
+    for (int passed = tickMilliseconds; passed < interval; passed += tickMilliseconds)
+        updateAudioWaveView();
+    audioPlayUpdateTimerFireMethod();
+}
+
+void AudioWaveViewController::setTimerInterval(int milliseconds) {
+    if (audioPlayUpdateTimer_ && audioPlayUpdateTimer_->interval() != milliseconds)
+        audioPlayUpdateTimer_->setInterval(milliseconds);
 }
 
 void AudioWaveViewController::destroyDudioPlayUpdateTimer() {

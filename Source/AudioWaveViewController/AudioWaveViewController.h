@@ -149,6 +149,8 @@ Q_SIGNALS:
 
 private:
     void awakeFromNib();
+    void tick();
+    void setTimerInterval(int milliseconds);
     void showTitles();
     void showHint();
     void showNotices();

@@ -30,6 +30,9 @@ int main() {
     Platform::SignalSource source({.nodeName = "sonaphex.tone",
                                    .description = "Test Tone",
                                    .rate = std::uint32_t(rate),
+                                   // More than the server allows. Like a sound card, the tone takes the cycle length
+                                   // that its listeners ask for, and asks for none itself.
+                                   .cycle = 8192,
                                    .ownClock = true,
                                    .sessionPriority = 2000},
                                   [](float* out, std::uint32_t frames, std::uint32_t channels, std::uint64_t position) {

@@ -28,10 +28,11 @@ constexpr int openMs = 1000;
 /// session manager ends.
 constexpr auto dryAfter = 2s;
 /// When no cycle follows, the last level is shown for this long at most. Longer than two blocks and two looks.
-constexpr auto silentAfter = 200ms;
+constexpr auto silentAfter = 300ms;
 /// How often the I/O thread looks into the ring. The data thread cannot wake it: that would be a system call. Nothing
-/// waits for a cycle, so several may be taken at once; holdCycles() takes them earlier.
-constexpr auto look = 40ms;
+/// waits for a cycle, so several are taken at once; holdCycles() takes them earlier. The window shows a level ten times
+/// a second, and each wake-up costs more than the cycles that it takes. A killed recording lacks what waits here.
+constexpr auto look = 100ms;
 constexpr auto catchUpAtMost = 100ms;
 
 } // namespace

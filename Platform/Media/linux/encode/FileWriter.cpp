@@ -24,10 +24,11 @@ constexpr std::size_t framesAtOnce = 8192;
 /// Limit of the samples that wait in a parallel encoding, whatever the length of the file.
 constexpr std::int64_t stretchBytes = 64'000'000;
 constexpr int shortestStretchSeconds = 120;
-/// How much of a second the file's thread encodes at once while a recording grows. Waking it for every cycle costs as
-/// much as a tenth of the encoding, and cold caches more. Together with a fragment of the file it must stay below the
-/// second that a killed recording may lack.
-constexpr double recordedAtOnce = 0.25;
+/// How much of a second must wait before the file's thread is woken while a recording grows. Waking it for every cycle
+/// costs as much as a tenth of the encoding, and cold caches more. The I/O thread delivers a tenth of a second at once,
+/// so two deliveries are encoded together. With a fragment of the file they must stay below the second that a killed
+/// recording may lack.
+constexpr double recordedAtOnce = 0.15;
 
 using namespace std::chrono_literals;
 
