@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/linux/encode/StretchEncoder.h"
+#include "Platform/Media/linux/encode/EqualChannels.h"
 #include "Platform/Media/linux/encode/SerialEncoder.h"
 #include "tests/Platform/Media/MediaTestSupport.h"
 
@@ -37,7 +38,7 @@ std::vector<AacEncoder::Packet> encodedInOneRun(const Samples& rows, std::size_t
 }
 
 /// Decodes without a container; one frame of 1024 per packet.
-std::vector<float> decoded(const std::vector<AacEncoder::Packet>& packets) {
+std::vector<float> decoded(const std::vector<AacEncoder::Packet>& packets, int channel = 0) {
     const AacEncoder describing(44100, 2);
     const auto config = describing.streamInfo().config;
     Av::CodecPtr codec(avcodec_alloc_context3(avcodec_find_decoder(AV_CODEC_ID_AAC)));
@@ -54,7 +55,7 @@ std::vector<float> decoded(const std::vector<AacEncoder::Packet>& packets) {
         EXPECT_EQ(avcodec_send_packet(codec.get(), packet.get()), 0);
         av_packet_unref(packet.get());
         EXPECT_EQ(avcodec_receive_frame(codec.get(), frame.get()), 0);
-        const auto* row = reinterpret_cast<const float*>(frame->extended_data[0]);
+        const auto* row = reinterpret_cast<const float*>(frame->extended_data[channel]);
         samples.insert(samples.end(), row, row + frame->nb_samples);
     }
     samples.erase(samples.begin(), samples.begin() + 1024);
@@ -178,4 +179,32 @@ TEST(SerialEncoder, DeliversEachPacketAsSoonAsItsFramesHaveArrived) {
 TEST(SerialEncoder, RefusesAnUnsupportedRateOrChannelCount) {
     EXPECT_FALSE(SerialEncoder({.rate = 12345, .rowOf = {0, 1}}).valid());
     EXPECT_FALSE(StretchEncoder({.rate = 12345, .rowOf = {0, 1}, .workers = 2}).valid());
+}
+
+TEST(SerialEncoder, EqualChannelsDecodeToEqualSamplesAsCloseToTheSoundAsDifferentOnes) {
+    Samples sound = strokes(1024 * 300);
+    sound[1] = sound[0];
+    const auto packets = encodedBy<SerialEncoder>(sound, {.rowOf = {0, 0}}, 700);
+    const auto one = decoded(packets);
+    EXPECT_EQ(one, decoded(packets, 1));
+    const auto both = decoded(encodedInOneRun(sound));
+    ASSERT_EQ(one.size(), both.size());
+    const auto quality = [&](const std::vector<float>& what) {
+        return signalToError(sound[0], what, 2048, sound[0].size());
+    };
+    EXPECT_GT(quality(one), quality(both) - 0.5);
+}
+
+TEST(StretchEncoder, EncodesEqualChannelsAsOneRunDoes) {
+    const Samples sound = strokes(1024 * 500 + 77);
+    const AacSettings settings{.rowOf = {0, 0}, .workers = 2, .stretchPackets = 600};
+    EXPECT_EQ(encodedBy<StretchEncoder>(sound, settings, 700), encodedBy<SerialEncoder>(sound, settings, 700));
+}
+
+TEST(EqualChannels, RefusesPacketsThatAreNotOfOneChannel) {
+    const auto pair = encodedInOneRun(strokes(1024 * 4)).at(2);
+    EXPECT_TRUE(packetOfEqualChannels(pair).empty());
+    EXPECT_TRUE(packetOfEqualChannels({}).empty());
+    EXPECT_TRUE(packetOfEqualChannels({0x01}).empty());
+    EXPECT_TRUE(packetOfEqualChannels(std::vector<std::uint8_t>(20, 0xff)).empty());
 }

@@ -1,12 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Media/linux/encode/AacEncoder.h"
+#include "Platform/Media/linux/encode/EqualChannels.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace Platform {
 
-AacEncoder::AacEncoder(int rate, int channels) {
+namespace {
+
+/// What libavcodec chooses for two channels: the bit rate, and the upper limit in Hz at that rate.
+constexpr int bitRateOfTwoChannels = 128000;
+constexpr int cutoffOfTwoChannels = 16600;
+
+} // namespace
+
+AacEncoder::AacEncoder(int rate, int channels, bool equalChannels) : equalChannels_(equalChannels && channels == 2) {
     if (!Av::codecLibrary())
         return;
     frame_.reset(av_frame_alloc());
@@ -20,7 +30,14 @@ AacEncoder::AacEncoder(int rate, int channels) {
     context->time_base = {1, rate};
     context->thread_count = 1;
     context->flags |= AV_CODEC_FLAG_GLOBAL_HEADER;
-    av_channel_layout_default(&context->ch_layout, channels);
+    av_channel_layout_default(&context->ch_layout, equalChannels_ ? 1 : channels);
+    if (equalChannels_) {
+        // By default one channel gets about half the bit rate of two, and at the same rate a wider band.
+        context->bit_rate = bitRateOfTwoChannels;
+        context->cutoff = std::min(cutoffOfTwoChannels, rate / 2);
+        // Noise shaping is stored for each channel and applied after mid/side decoding: the second one would lack it.
+        av_opt_set_int(context->priv_data, "aac_tns", 0, 0);
+    }
     // Without noise substitution the upper bands keep 4 dB more of the signal, and decoding is deterministic.
     av_opt_set_int(context->priv_data, "aac_pns", 0, 0);
     if (Av::codecs().open(context.get(), codec, nullptr) < 0)
@@ -36,11 +53,13 @@ AacEncoder::AacEncoder(int rate, int channels) {
 AacStreamInfo AacEncoder::streamInfo() const {
     AacStreamInfo info;
     info.sampleRate = context_->sample_rate;
-    info.channels = context_->ch_layout.nb_channels;
+    info.channels = equalChannels_ ? 2 : context_->ch_layout.nb_channels;
     info.framesPerPacket = context_->frame_size;
     info.primingFrames = context_->initial_padding;
     info.bitRate = int(context_->bit_rate);
     info.config.assign(context_->extradata, context_->extradata + context_->extradata_size);
+    if (equalChannels_ && info.config.size() > 1) // AudioSpecificConfig: four bits behind type and rate
+        info.config[1] = std::uint8_t((info.config[1] & 0x87) | 2 << 3);
     return info;
 }
 
@@ -74,8 +93,11 @@ bool AacEncoder::receive(std::vector<Packet>& out) {
             return true;
         if (code < 0)
             return false;
-        out.emplace_back(packet_->data, packet_->data + packet_->size);
+        Packet packet(packet_->data, packet_->data + packet_->size);
         Av::codecs().unrefPacket(packet_.get());
+        if (equalChannels_ && (packet = packetOfEqualChannels(packet)).empty())
+            return false;
+        out.push_back(std::move(packet));
     }
 }
 

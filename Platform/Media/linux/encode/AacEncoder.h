@@ -15,8 +15,9 @@ public:
     using Packet = std::vector<std::uint8_t>;
     static constexpr int packetFrames = 1024;
 
-    /// At the encoder's default bit rate. Check valid() afterwards.
-    AacEncoder(int rate, int channels);
+    /// At the encoder's default bit rate. Check valid() afterwards. @p equalChannels: both of two channels always have
+    /// the same samples. Only the first is read and encoded, which takes half the time.
+    AacEncoder(int rate, int channels, bool equalChannels = false);
     [[nodiscard]] bool valid() const { return bool(context_); }
     [[nodiscard]] AacStreamInfo streamInfo() const;
 
@@ -32,6 +33,7 @@ private:
     Av::FramePtr frame_;
     Av::PacketPtr packet_;
     std::int64_t position_ = 0;
+    bool equalChannels_ = false;
 };
 
 } // namespace Platform

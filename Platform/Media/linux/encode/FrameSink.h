@@ -30,6 +30,8 @@ struct AacSettings {
     int channels = 2;
     /// Maps file channels to rows: file channel c is row rowOf[c]. Identical rows are stored once.
     std::vector<std::size_t> rowOf;
+    /// Two channels that are the same row.
+    [[nodiscard]] bool hasEqualChannels() const { return channels == 2 && rowOf.size() == 2 && rowOf[0] == rowOf[1]; }
     /// Threads that encode stretches of the file in parallel. 1 encodes on the calling thread, in one run: the packets
     /// of a live recording must not wait for each other.
     int workers = 1;

@@ -35,7 +35,7 @@ int windowOf(const AacEncoder::Packet& packet) {
 } // namespace
 
 StretchEncoder::StretchEncoder(const AacSettings& settings) : settings_(settings) {
-    if (const AacEncoder describing(settings.rate, settings.channels); describing.valid())
+    if (const AacEncoder describing(settings.rate, settings.channels, settings.hasEqualChannels()); describing.valid())
         info_ = describing.streamInfo();
     settings_.rowOf.resize(std::size_t(settings.channels), 0);
     for (const std::size_t row : settings_.rowOf)
@@ -151,7 +151,7 @@ void StretchEncoder::work() {
             return;
         stretch->taken = true;
         lock.unlock();
-        AacEncoder encoder(settings_.rate, settings_.channels);
+        AacEncoder encoder(settings_.rate, settings_.channels, settings_.hasEqualChannels());
         std::vector<Packet> packets;
         bool good = encoder.valid();
         lock.lock();
