@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The Sonaphex authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Records one input device on a private sound server, compared with other recorders: a tone, speech-like sound and pink
-# noise. Run by scripts/bench.
+# noise, and the speech from a microphone with one channel. Run by scripts/bench.
 # BENCH_SECONDS: how long each records (60).
 set -euo pipefail
 . "${LIB:?run this through scripts/bench}/bench.sh"
@@ -41,11 +41,11 @@ export seconds
 
 # Devices like sound cards, which repeat 20 s. The speech is pulses of a voice in syllables through three formants, with
 # hisses and pauses.
-device() { # name, ffmpeg's inputs and filter
-    local name=$1
-    shift
-    must ffmpeg -v error "$@" -t 20 -ac 2 -ar 48000 -f f32le "$SCRATCH/$name.raw"
-    "$bin/bench_source" "bench.$name" "Bench $name" <"$SCRATCH/$name.raw" >/dev/null 2>&1 &
+device() { # name, channels, ffmpeg's inputs and filter
+    local name=$1 channels=$2
+    shift 2
+    must ffmpeg -v error "$@" -t 20 -ac "$channels" -ar 48000 -f f32le "$SCRATCH/$name.raw"
+    "$bin/bench_source" "bench.$name" "Bench $name" "$channels" <"$SCRATCH/$name.raw" >/dev/null 2>&1 &
     children+=($!)
     for _ in $(seq 100); do
         "$bin/sonaphex" devices | grep -q "Bench $name" && return
@@ -53,13 +53,16 @@ device() { # name, ffmpeg's inputs and filter
     done
     fail "the device $name did not appear"
 }
-device tone -f lavfi -i "sine=frequency=440:sample_rate=48000" -af volume=2
-device speech -f lavfi -i "aevalsrc='(mod(t*(110+25*sin(2*PI*0.7*t)+8*sin(2*PI*5*t)),1)-0.5)*max(0,sin(2*PI*2.1*t))*gt(mod(t,4.3),0.9)':s=48000" \
-    -f lavfi -i "anoisesrc=color=white:a=0.12:r=48000:seed=7" -filter_complex "[0]asplit=3[a][b][c];[a]bandpass=f=550:w=150[x];[b]bandpass=f=1500:w=200[y];[c]bandpass=f=2500:w=300[z];[1]highpass=f=4000,volume='if(gt(mod(t*2.1+0.3,1),0.82),1,0.004)':eval=frame[n];[x][y][z][n]amix=inputs=4:normalize=0,volume=2.2,aecho=0.9:0.7:37:0.15"
-device pink -f lavfi -i "anoisesrc=color=pink:a=0.3:r=48000:seed=3" -f lavfi -i "anoisesrc=color=pink:a=0.3:r=48000:seed=4" \
+device tone 2 -f lavfi -i "sine=frequency=440:sample_rate=48000" -af volume=2
+speech=(-f lavfi -i "aevalsrc='(mod(t*(110+25*sin(2*PI*0.7*t)+8*sin(2*PI*5*t)),1)-0.5)*max(0,sin(2*PI*2.1*t))*gt(mod(t,4.3),0.9)':s=48000" \
+    -f lavfi -i "anoisesrc=color=white:a=0.12:r=48000:seed=7" -filter_complex "[0]asplit=3[a][b][c];[a]bandpass=f=550:w=150[x];[b]bandpass=f=1500:w=200[y];[c]bandpass=f=2500:w=300[z];[1]highpass=f=4000,volume='if(gt(mod(t*2.1+0.3,1),0.82),1,0.004)':eval=frame[n];[x][y][z][n]amix=inputs=4:normalize=0,volume=2.2,aecho=0.9:0.7:37:0.15")
+device speech 2 "${speech[@]}"
+# Most microphones have one channel. Both programs record it as two.
+device microphone 1 "${speech[@]}"
+device pink 2 -f lavfi -i "anoisesrc=color=pink:a=0.3:r=48000:seed=3" -f lavfi -i "anoisesrc=color=pink:a=0.3:r=48000:seed=4" \
     -filter_complex amerge=inputs=2
 
-for sound in tone speech pink; do
+for sound in tone speech microphone pink; do
     ours=$SCRATCH/$sound/Track0.m4a peer=$SCRATCH/peer.$sound.m4a same=$SCRATCH/same.$sound.m4a
     timed "$bin/sonaphex" record --input "Bench $sound" --for "$seconds" --filter off --folder "$SCRATCH/$sound"
     ours_cpu=$(a_minute "$ours") ours_memory=$memory

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// bench_source NODE-NAME DESCRIPTION < SAMPLES
-// An input device that repeats the samples of its standard input: 32-bit float, stereo, 48,000 Hz. It has a clock of
+// bench_source NODE-NAME DESCRIPTION CHANNELS < SAMPLES
+// An input device that repeats the samples of its standard input: 32-bit float, one or two channels, 48,000 Hz. It has a clock of
 // its own, like a sound card, and like one it takes the cycle length that its listeners ask for. Prints "ready" when
 // the server knows the device, and ends with the server or with SIGTERM.
 #include "Platform/Audio/linux/SignalSource.h"
@@ -13,7 +13,8 @@
 #include <vector>
 
 int main(int argc, char** argv) {
-    if (argc != 3)
+    const std::uint32_t channels = argc == 4 && std::strcmp(argv[3], "1") == 0 ? 1 : 2;
+    if (argc != 4)
         return 2;
     // Blocked before the server's threads start, so that only the wait below receives the signal.
     sigset_t ending;
@@ -26,17 +27,18 @@ int main(int argc, char** argv) {
     std::vector<float> block(1 << 16);
     while (const std::size_t count = std::fread(block.data(), sizeof(float), block.size(), stdin))
         samples.insert(samples.end(), block.begin(), block.begin() + std::ptrdiff_t(count));
-    const std::uint64_t frames = samples.size() / 2;
+    const std::uint64_t frames = samples.size() / channels;
     if (frames == 0) {
         std::fprintf(stderr, "bench_source: no samples\n");
         return 1;
     }
-    Platform::SignalSource source({.nodeName = argv[1], .description = argv[2], .cycle = 8192, .ownClock = true},
-                                  [&](float* out, std::uint32_t count, std::uint32_t, std::uint64_t position) {
-                                      for (std::uint32_t i = 0; i < count; ++i)
-                                          std::memcpy(out + 2 * i, &samples[2 * ((position + i) % frames)],
-                                                      2 * sizeof(float));
-                                  });
+    Platform::SignalSource source(
+        {.nodeName = argv[1], .description = argv[2], .channels = channels, .cycle = 8192, .ownClock = true},
+        [&](float* out, std::uint32_t count, std::uint32_t, std::uint64_t position) {
+            for (std::uint32_t i = 0; i < count; ++i)
+                std::memcpy(out + channels * i, &samples[channels * ((position + i) % frames)],
+                            channels * sizeof(float));
+        });
     std::string why;
     if (!source.start(why)) {
         std::fprintf(stderr, "bench_source: %s\n", why.c_str());
