@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // bench_source NODE-NAME DESCRIPTION CHANNELS < SAMPLES
-// An input device that repeats the samples of its standard input: 32-bit float, one or two channels, 48,000 Hz. It has a clock of
-// its own, like a sound card, and like one it takes the cycle length that its listeners ask for. Prints "ready" when
-// the server knows the device, and ends with the server or with SIGTERM.
+// An input device that repeats the samples of its standard input: 32-bit float, one or two channels, 48,000 Hz. It has
+// a clock of its own, like a sound card, and like one it takes the cycle length that its listeners ask for. Prints
+// "ready" when the server knows the device, and ends with the server or with SIGTERM.
 #include "Platform/Audio/linux/SignalSource.h"
 
 #include <csignal>

@@ -108,6 +108,21 @@ TEST_F(LiveDisplay, TheTimerFetchesALevelTenTimesASecond) {
     EXPECT_TRUE(waitFor([&] { return delegate.playButtonAsked >= 5 && delegate.recordStateAsked >= 5; }));
 }
 
+TEST_F(LiveDisplay, AWindowThatNobodySeesTicksLessOftenAndItsHistoryKeepsItsTime) {
+    auto* history = controller.audioRecordWaveView();
+    const auto levels = [&] { return history->audioLevelArray().size(); };
+    panel->hide();
+    controller.createDudioPlayUpdateTimer();
+    ASSERT_TRUE(waitFor([&] { return levels() >= 11; }));
+    EXPECT_EQ(levels(), 1 + 5 * (delegate.recordStateAsked - 1));
+    panel->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(panel, 30000));
+    ASSERT_TRUE(waitFor([&, asked = delegate.recordStateAsked, before = levels()] {
+        const int ticks = delegate.recordStateAsked - asked;
+        return ticks >= 10 && levels() - before < 2 * ticks;
+    }));
+}
+
 TEST_F(LiveDisplay, WithoutADelegateTheLevelIsZero) {
     controller.setDelegate(nullptr);
     EXPECT_EQ(controller.getAudioWaveLevelValue(), 0.0F);

@@ -8,7 +8,8 @@
 namespace Platform {
 
 SerialEncoder::SerialEncoder(const AacSettings& settings)
-    : encoder_(settings.rate, settings.channels, settings.hasEqualChannels()), waiting_(std::size_t(settings.channels)), rows_(waiting_.size()) {
+    : encoder_(settings.rate, settings.channels, settings.hasEqualChannels()), waiting_(std::size_t(settings.channels)),
+      rows_(waiting_.size()) {
 }
 
 void SerialEncoder::append(const float* const* channels, std::size_t frames, std::vector<Packet>& out) {
