@@ -55,6 +55,10 @@ void takeSettings(Arguments& arguments, OverriddenPreferences& preferences) {
     }
     if (arguments.isSet(u"pre-roll"_s))
         preferences.setValue(arguments.whole(u"pre-roll"_s, 0), Settings::preRollMS);
+    if (arguments.isSet(u"titles"_s))
+        preferences.setValue(1, Settings::titles);
+    if (arguments.isSet(u"cut-at-tracks"_s))
+        preferences.setValue(1, Settings::cutAtTracks);
     // Computer audio that is asked for is all of it, unless its programs are named.
     if (namesComputerAudio(arguments)) {
         const bool isOnly = arguments.isSet(u"app"_s);
@@ -174,6 +178,15 @@ const Command recordCommand{
       QT_TRANSLATE_NOOP("CommandLine",
                         "When waiting for the first sound, begin MS milliseconds before it, at most 5000."),
       QT_TRANSLATE_NOOP("CommandLine", "as in the preferences")},
+     {"titles", "",
+      QT_TRANSLATE_NOOP("CommandLine",
+                        "Of computer audio, give each file the title, artist, album and cover that the media player "
+                        "names."),
+      QT_TRANSLATE_NOOP("CommandLine", "as in the preferences")},
+     {"cut-at-tracks", "",
+      QT_TRANSLATE_NOOP("CommandLine",
+                        "Of computer audio, begin a new file when the media player goes on to another track."),
+      QT_TRANSLATE_NOOP("CommandLine", "as in the preferences")},
      {"filter", "S|off", QT_TRANSLATE_NOOP("CommandLine", "Drop a recording shorter than S seconds."),
       QT_TRANSLATE_NOOP("CommandLine", "as in the preferences")},
      {"folder", "DIR",
@@ -187,6 +200,8 @@ const Command recordCommand{
       QT_TRANSLATE_NOOP(
           "CommandLine",
           "Record what the computer plays, one file for each song, and give up when nothing plays for a minute.")},
+     {"record --input none --computer --titles --cut-at-tracks",
+      QT_TRANSLATE_NOOP("CommandLine", "Record an album without pauses, one file with its title for each track.")},
      {"record --input none --app Firefox",
       QT_TRANSLATE_NOOP("CommandLine", "Record one program, whatever else plays.")}},
     run};

@@ -30,8 +30,10 @@ namespace {
 
 constexpr int LookMilliseconds = 20;
 
-QJsonObject described(const QString& path, double seconds) {
-    return {{u"path"_s, path}, {u"title"_s, QFileInfo(path).completeBaseName()}, {u"seconds"_s, seconds}};
+QJsonObject described(const QString& path, double seconds, const QString& title = {}) {
+    return {{u"path"_s, path},
+            {u"title"_s, title.isEmpty() ? QFileInfo(path).completeBaseName() : title},
+            {u"seconds"_s, seconds}};
 }
 
 /// An engine that only opens the requested device: a source that is not recorded needs no stream and no ring, and its
@@ -63,7 +65,8 @@ RecordingRun::RecordingRun(RecordPreferences& preferences, const RecordingTask& 
                              return;
                          }
                          paths_.append(path);
-                         recordings_.append(described(path, entry.value(AudioRecordEntry::Length).toDouble()));
+                         recordings_.append(described(path, entry.value(AudioRecordEntry::Length).toDouble(),
+                                                      entry.value(AudioRecordEntry::Title).toString()));
                      });
     QObject::connect(&controller_, &RecordStateController::recordingSetAside, &controller_,
                      [this](const QString&, const QStringList& kept) {

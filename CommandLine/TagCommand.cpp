@@ -5,11 +5,10 @@
 #include "CommandLine/Arguments.h"
 #include "CommandLine/LibraryChange.h"
 #include "CommandLine/TerminalColumns.h"
-#include "Platform/Foundation/Bundle.h"
 #include "Platform/Foundation/PlainText.h"
-#include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/Translations.h"
 #include "Platform/Media/BasicID3Change.h"
+#include "Source/Control/ArtworkTool.h"
 #include "Source/Control/EditNote.h"
 #include "Source/Control/RecordingRename.h"
 #include "Source/Model/AudioRecordEntry.h"
@@ -19,7 +18,6 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 
 #include <optional>
 
@@ -71,22 +69,6 @@ void show(const QString& path, const BasicID3Change::Tags& tags, bool json) {
         print(TerminalColumns::padded(name, width + 1) + value);
 }
 
-/// A helper program reads the image, so that this one needs none of the desktop's libraries. @return the error; empty
-/// on success
-QString setArtwork(const QString& path, const QString& image) {
-    QProcess tool;
-    tool.start(Platform::services().bundle->pathForTool(u"SetArtWork"_s), {path, image, path});
-    if (!tool.waitForFinished(-1))
-        return u"%1: %2"_s.arg(tool.program(), tool.errorString());
-    if (tool.exitStatus() == QProcess::NormalExit && tool.exitCode() == 0)
-        return {};
-    const QString errors = QString::fromLocal8Bit(tool.readAllStandardError()).trimmed();
-    const QString problem = errors.section(u": "_s, 1);
-    return problem.isEmpty()
-               ? QCoreApplication::translate("CommandLine", "the artwork of %1 could not be written").arg(path)
-               : problem;
-}
-
 int run(const QStringList& given) {
     const Arguments arguments(given, tagCommand);
     if (!arguments.problem().isEmpty())
@@ -123,8 +105,8 @@ int run(const QStringList& given) {
 
     const bool hasArtwork = arguments.isSet(u"artwork"_s);
     if (hasArtwork)
-        if (const QString problem = setArtwork(path, arguments.value(u"artwork"_s)); !problem.isEmpty())
-            return fail(problem);
+        if (const auto written = ArtworkTool::write(path, arguments.value(u"artwork"_s)); !written)
+            return fail(written.error().text);
     const bool rename = arguments.isSet(u"rename"_s);
     QString kept; // why the file was not renamed
     if (!changed.isEmpty() || rename) {

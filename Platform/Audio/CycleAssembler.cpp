@@ -11,10 +11,10 @@ CycleAssembler::CycleAssembler(CaptureRing& ring, double sampleRate, std::uint32
       buffer_(std::size_t(cycleFrames) * ring.channels()), destinations_(ring.channels()) {
 }
 
-bool CycleAssembler::next(CaptureCycle& cycle, bool fillLost, bool flush) {
+bool CycleAssembler::next(CaptureCycle& cycle, bool fillLost, bool flush, std::uint64_t notAfter) {
     CaptureBlock block;
     std::uint32_t taken = 0;
-    while (ring_.front(block, taken)) {
+    while (ring_.front(block, taken) && block.hostTime <= notAfter) {
         if (taken == 0 && !holePassed_ && (block.lostBefore > 0 || block.startsAnew)) {
             if (fillLost) {
                 silenceLeft_ = block.lostBefore;

@@ -26,8 +26,9 @@ public:
     CycleAssembler(CaptureRing& ring, double sampleRate, std::uint32_t cycleFrames);
 
     /// Makes the next cycle. False when the ring does not hold enough frames for one; with @p flush a shorter cycle is
-    /// made from the rest.
-    [[nodiscard]] bool next(CaptureCycle& cycle, bool fillLost, bool flush = false);
+    /// made from the rest. Blocks that begin after @p notAfter, a host time, stay in the ring.
+    [[nodiscard]] bool next(CaptureCycle& cycle, bool fillLost, bool flush = false, std::uint64_t notAfter = AnyTime);
+    static constexpr std::uint64_t AnyTime = ~std::uint64_t(0);
     /// The samples of the cycle that the last next() made.
     [[nodiscard]] const float* channel(std::uint32_t index) const {
         return buffer_.data() + std::size_t(index) * cycleFrames_;

@@ -4,6 +4,7 @@
 
 #include "Platform/Audio/AudioTypes.h"
 
+#include <chrono>
 #include <functional>
 
 #include <QString>
@@ -65,6 +66,10 @@ public:
     /// left out. Any thread, at any time; applies to gaps found from then on. The time without a device or server
     /// counts as lost, too.
     virtual void setFillLostFrames(bool /*on*/) {}
+    /// How long captured frames stay in the ring before a cycle takes them, so that what happened in the desktop at
+    /// their time is known by then. 0, the initial value, takes them soon. holdCycles() on the main thread takes all.
+    /// Any thread, at any time; at most a second.
+    virtual void setDelay(std::chrono::milliseconds /*delay*/) {}
     /// Main thread; before start().
     virtual void setEventHandler(EventHandler handler) = 0;
     /// Why the last step failed, for the user and the log. Empty when nothing failed.

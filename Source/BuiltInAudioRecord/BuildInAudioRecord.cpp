@@ -152,6 +152,7 @@ bool BuildInAudioRecord::configureAudioUnit(AudioObjectID device) {
     InputUnit& unit = *audioUnit_;
     unit.setEventHandler(eventHandler_);
     unit.setFillLostFrames(fillLostFrames_);
+    unit.setDelay(delay_);
 
     // The input may be enabled although the unit refuses to enable it.
     if (unit.setEnableInput(true) == noErr && unit.setEnableOutput(false) != noErr)
@@ -523,6 +524,12 @@ void BuildInAudioRecord::setFillLostFrames(bool on) {
     fillLostFrames_ = on;
     if (audioUnit_)
         audioUnit_->setFillLostFrames(on);
+}
+
+void BuildInAudioRecord::setDelay(std::chrono::milliseconds delay) {
+    delay_ = delay;
+    if (audioUnit_)
+        audioUnit_->setDelay(delay);
 }
 
 void BuildInAudioRecord::setEventHandler(InputUnit::EventHandler handler) {

@@ -26,6 +26,10 @@ inline const QString PreferenceFilterKey = QStringLiteral("PreferenceFilterKey")
 inline const QString PreferenceFilterTimeKey = QStringLiteral("PreferenceFilterTimeKey");
 /// Milliseconds of the time before the first sound with which an armed recording begins; a number, 0 by default.
 inline const QString PreferencePreRollMSKey = QStringLiteral("PreferencePreRollMSKey");
+/// Whether parts get the titles that media players name; a number, 0 by default.
+inline const QString PreferenceTitlesKey = QStringLiteral("PreferenceTitlesKey");
+/// Whether a recording is cut where a media player changes the track; a number, 0 by default.
+inline const QString PreferenceCutAtTracksKey = QStringLiteral("PreferenceCutAtTracksKey");
 inline const QString PreferenceSavePathKey = QStringLiteral("PreferenceSavePathKey");
 inline const QString PreferenceRingtoneSavePathKey = QStringLiteral("PreferenceRingtoneSavePathKey");
 /// Whether desktop notifications report recordings while the window is not in front; a number, 1 by default.

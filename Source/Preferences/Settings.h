@@ -36,6 +36,8 @@ inline const Setting ringtoneSavePath{PreferenceStore::PreferenceRingtoneSavePat
 inline const Setting notifications{PreferenceStore::PreferenceNotificationsKey, Type::Number, 1};
 inline const Setting recordBuiltIn{PreferenceStore::ChooseRecordBuiltIn, Type::Number, true};
 inline const Setting recordComputerAudio{PreferenceStore::ChooseRecordComputerAudio, Type::Number, false};
+inline const Setting titles{PreferenceStore::PreferenceTitlesKey, Type::Number, 0};
+inline const Setting cutAtTracks{PreferenceStore::PreferenceCutAtTracksKey, Type::Number, 0};
 inline const Setting recordPrograms{PreferenceStore::ChooseRecordPrograms, Type::Dictionary};
 
 /// A key combination. KeybordShortcutTextView defines the stored object and decides which objects are usable.

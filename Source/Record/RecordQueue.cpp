@@ -12,6 +12,7 @@
 #include "Source/Control/ToolControl.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Record/CutOffRecordings.h"
+#include "Source/Record/PartCover.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -415,7 +416,15 @@ void RecordQueue::tagFile(const ExportJob& job) {
         tags.insert(AudioRecordEntry::Length, double(length));
         tags.insert(AudioRecordEntry::Title, QFileInfo(finalPath).completeBaseName());
         tags.insert(AudioRecordEntry::SavePath, finalPath);
+        const auto name = [&tags](const QString& key, const QString& text) {
+            if (!text.isEmpty())
+                tags.insert(key, text);
+        };
+        name(AudioRecordEntry::Title, job.title.title);
+        name(AudioRecordEntry::Artist, job.title.artist);
+        name(AudioRecordEntry::Album, job.title.album);
         tagged = ID3ChangeControl::changeID3BasicInfo(finalPath, tags);
+        PartCover::write(finalPath, job.title);
         tags.insert(AudioRecordEntry::IsNew, true);
     }
     onMain([this, finalPath, tags, tagged] {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Desktop/PlayerWatch.h"
 #include "Source/BuiltInAudioRecord/BuildInAudioRecord.h"
 #include "Source/Preferences/RecordPreferences.h"
 #include "Source/Record/RecordNotice.h"
@@ -71,6 +72,8 @@ public:
     void setDelegate(RecordStateControllerDelegate* delegate);
     /// Settings to use instead of the stored ones; not owned, before awakeFromNib().
     void setPreferences(RecordPreferences* preferences);
+    /// What to follow media players with, instead of those of the session bus; for tests. Before a recording.
+    void setPlayers(Platform::PlayerWatch::Factory players);
 
     // The commands.
     void startAndStopRecord();

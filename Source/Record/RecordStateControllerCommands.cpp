@@ -21,13 +21,17 @@ void RecordStateController::startAndStopRecord() {
     d->delegate->stopSoundPlaying();
     d->delegate->setTabViewShowWave(true);
     if (d->isActive()) {
-        if (recordState_() != 0)
+        if (recordState_() != 0) {
             d->stopRecord();
-        else
+            d->endTracks();
+        } else {
             d->leaveWaitRunning();
+        }
         d->isRecordingFlushTheFace(false);
     } else {
         d->startRecord();
+        if (d->isActive())
+            d->beginTracks();
         d->isRecordingFlushTheFace(d->isActive());
     }
     d->delegate->updateRecordStateAction();
@@ -41,7 +45,7 @@ void RecordStateController::pauseAndResumeRecord() {
 }
 
 void RecordStateController::splitTheRecord() {
-    d->cut(false);
+    d->cut(Private::Cut::ByHand);
 }
 
 double RecordStateController::recordedSeconds() const {
@@ -117,7 +121,8 @@ void RecordStateController::clientRecievedComputerAudioData(float level) {
     if (soundBegan)
         d->changed();
     if (wantsCut)
-        d->cut(true);
+        d->cut(Private::Cut::AtSilence);
+    d->followTracks(level, now);
     Private::followSilence(d->computer, level, now);
     d->followCycle(d->computer);
 }
@@ -261,9 +266,13 @@ void RecordStateController::Private::leaveWaitRunning() {
 
 /// A wait that Stop left running ends when its device leaves: closing the engine also closes its file.
 void RecordStateController::Private::discardHiddenWait() {
-    const std::scoped_lock lock(mutex);
-    if (!isActive() && !anyEngineRecords())
+    {
+        const std::scoped_lock lock(mutex);
+        if (isActive() || anyEngineRecords())
+            return;
         discardWait();
+    }
+    endTracks();
 }
 
 /// Gives the name of a wait back and deletes its raw file, which contains no frame. With the mutex locked, while no
@@ -281,14 +290,16 @@ void RecordStateController::Private::discardWait() {
 /// started to record. A wait without sound is discarded. The first sound may come at any moment; recording starts under
 /// the mutex, so after this no wait is left that could start to record.
 void RecordStateController::Private::endHiddenRecording() {
+    bool records = true;
     {
         const std::scoped_lock lock(mutex);
-        if (!anyEngineRecords()) {
+        records = anyEngineRecords();
+        if (!records)
             discardWait();
-            return;
-        }
     }
-    stopRecord();
+    if (records)
+        stopRecord();
+    endTracks();
 }
 
 void RecordStateController::Private::pauseRecord() {
@@ -302,6 +313,8 @@ void RecordStateController::Private::pauseRecord() {
 
 void RecordStateController::Private::resumeRecord() {
     const CycleHold hold(sources);
+    if (resumeWithNewTrack())
+        return;
     const std::uint64_t time = commonTime();
     for (RecordSource& source : sources)
         if (source.checked)

@@ -82,6 +82,7 @@ RecordStateController::Private::Ending RecordStateController::Private::describeE
     Ending ending;
     ending.job = std::make_shared<ExportJob>();
     ending.job->paths.insert(ExportJob::OutPutPath, audioRecordPath_);
+    ending.job->title = tracks.title();
     bool brokenOff = false;
     bool anyMeasured = false;
     for (std::size_t i = 0; i < sources.size(); ++i) {
@@ -165,10 +166,12 @@ void RecordStateController::Private::endFiles(const Ending& ending, std::unique_
 
 /// Ends the current files and continues in new ones. No cycle runs meanwhile, except the caller's own when a silence
 /// cuts.
-void RecordStateController::Private::cut(bool automatic) {
+void RecordStateController::Private::cut(Cut why, std::uint64_t time) {
     const CycleHold hold(sources);
     std::unique_lock lock(mutex);
-    if (automatic && !splitter.wantsCut(g_SplitTimeMS, builtIn.takesPart()))
+    if (why == Cut::AtSilence && !splitter.wantsCut(g_SplitTimeMS, builtIn.takesPart()))
+        return;
+    if (why == Cut::AtTrack && (!computer.writes() || computer.engine->recordStatus() != 1))
         return;
     if (!builtIn.writes() && !computer.writes()) {
         if (state != RecordState::Armed)
@@ -178,7 +181,7 @@ void RecordStateController::Private::cut(bool automatic) {
         setPaused(false);
         return;
     }
-    alignCut();
+    alignCut(time);
     const double seconds = secondsAtHand();
     Ending ending = describeEnding();
     const bool exchanged = exchangeFiles(ending);
@@ -186,7 +189,7 @@ void RecordStateController::Private::cut(bool automatic) {
         source.framesBefore = 0;
     if (!exchanged) {
         // Otherwise every cycle of this silence would try again.
-        if (automatic) {
+        if (why == Cut::AtSilence) {
             splitter.clear();
             splitter.arm();
         }
@@ -195,6 +198,7 @@ void RecordStateController::Private::cut(bool automatic) {
     ++recordNum;
     closedSeconds_ = closedSeconds_ + seconds;
     fRecordTime_ = 0;
+    tracks.history().beginPart();
     splitter.clear();
     // The new part is already being written; the next sound makes its silences count again.
     if (!builtIn.takesPart())
@@ -241,14 +245,14 @@ std::uint64_t RecordStateController::Private::commonTime() const {
 }
 
 /// The cycles of two devices do not end together: the first frames of the slower device after the cut still belong to
-/// its old file.
-void RecordStateController::Private::alignCut() {
-    const std::uint64_t cutTime = commonTime();
+/// its old file. With a @p time, so do the frames of both until then.
+void RecordStateController::Private::alignCut(std::uint64_t time) {
+    const std::uint64_t cutTime = std::max(commonTime(), time);
     for (RecordSource& source : sources) {
         source.framesBefore = 0;
-        if (cutTime != 0 && source.engine->recordStatus() == 1)
-            source.framesBefore =
-                std::llround(double(cutTime - source.engine->nextHostTime()) * 1e-9 * source.engine->sampleRate());
+        const std::uint64_t next = source.engine->nextHostTime();
+        if (next != 0 && cutTime > next && cutTime - next < FurthestBehind && source.engine->recordStatus() == 1)
+            source.framesBefore = std::llround(double(cutTime - next) * 1e-9 * source.engine->sampleRate());
     }
 }
 

@@ -11,6 +11,7 @@
 #include "Source/Record/RecordRoom.h"
 #include "Source/Record/RecordSources.h"
 #include "Source/Record/RecordStateController.h"
+#include "Source/Record/RecordTracks.h"
 #include "Source/Record/RecordingNames.h"
 #include "Source/Record/SilenceSplitter.h"
 
@@ -93,6 +94,8 @@ struct RecordStateController::Private {
     RecordLosses lostBefore_; ///< of the closed files of the current or last recording
     QString audioRecordPath_; ///< of the current recording; empty when a job has taken it over
 
+    RecordTracks tracks; ///< what media players play meanwhile
+
     // Main thread only.
     bool popUpEnabled_ = true;
     RecordDisplay display_;
@@ -147,7 +150,14 @@ struct RecordStateController::Private {
     void pauseRecord();
     void resumeRecord();
     void setPaused(bool paused);
-    void cut(bool automatic);
+    enum class Cut { ByHand, AtSilence, AtTrack };
+    /// @p time is a capture time, soon or just gone; 0 for now.
+    void cut(Cut why, std::uint64_t time = 0);
+    void beginTracks();
+    void endTracks();
+    void delayCycles();
+    void followTracks(float level, std::uint64_t now);
+    [[nodiscard]] bool resumeWithNewTrack();
     [[nodiscard]] bool anyEngineRecords() const;
     [[nodiscard]] double secondsAtHand() const;
     [[nodiscard]] RecordLosses engineLosses() const;
@@ -185,7 +195,7 @@ struct RecordStateController::Private {
     [[nodiscard]] Ending describeEnding();
     [[nodiscard]] std::function<void(QString, OSStatus)> whenClosed(const std::shared_ptr<ExportJob>& job, bool remove);
     [[nodiscard]] std::uint64_t commonTime() const;
-    void alignCut();
+    void alignCut(std::uint64_t time);
     bool exchangeFiles(Ending& ending);
     void armAnew();
     void endFiles(const Ending& ending, std::unique_lock<std::mutex>& lock);

@@ -51,6 +51,12 @@ void select(QComboBox* popUp, const QString& title) {
     popUp->setCurrentIndex(index);
 }
 
+/// Stores a switch once it is changed: then the preferences of a user who never touched it stay as they were.
+void storeSwitch(const QCheckBox& box, const Settings::Setting& setting) {
+    if (box.isChecked() != Platform::boolValue(Settings::value(setting)))
+        Settings::setValue(qlonglong(box.isChecked()), setting);
+}
+
 } // namespace
 
 PreferenceWndController::PreferenceWndController(ComputerAudioDevice device,
@@ -143,6 +149,8 @@ void PreferenceWndController::initPerferceInterface() {
     select(ui_->splitTimePopUp, Platform::stringForm(Settings::value(Settings::splitTimeMS)));
     select(ui_->filterTimePopUp, Platform::stringForm(Settings::value(Settings::filterTime)));
     ui_->preRollField->setValue(Platform::intValue(Settings::value(Settings::preRollMS)));
+    ui_->titlesCheckBox->setChecked(Platform::boolValue(Settings::value(Settings::titles)));
+    ui_->cutAtTracksCheckBox->setChecked(Platform::boolValue(Settings::value(Settings::cutAtTracks)));
     ui_->notificationsCheckBox->setChecked(Platform::boolValue(Settings::value(Settings::notifications)));
     ui_->autostartCheckBox->setVisible(autostart_ != nullptr);
     ui_->autostartCheckBox->setChecked(autostart_ && autostart_->isEnabled());
@@ -195,6 +203,8 @@ bool PreferenceWndController::windowShouldClose() {
     setPreferenceValue(ui_->filterTimePopUp->currentText(), PreferenceFilterTimeKey);
     if (ui_->preRollField->value() != Platform::intValue(Settings::value(Settings::preRollMS)))
         setPreferenceValue(qlonglong(ui_->preRollField->value()), PreferencePreRollMSKey);
+    storeSwitch(*ui_->titlesCheckBox, Settings::titles);
+    storeSwitch(*ui_->cutAtTracksCheckBox, Settings::cutAtTracks);
     setPreferenceValue(qlonglong(ui_->notificationsCheckBox->isChecked()), PreferenceNotificationsKey);
     applyAutostart();
     return true;

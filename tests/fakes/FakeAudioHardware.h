@@ -39,6 +39,7 @@ public:
         int holds = 0;
         std::uint64_t lost = 0;
         bool fillsLost = false;
+        std::chrono::milliseconds delay{0};
         bool startsAnew = false;       ///< the next cycle is the first of a new connection
         FakeInputUnit* unit = nullptr; ///< null once it is destroyed
     };
@@ -100,6 +101,7 @@ public:
     void releaseCycles() override { --state_->holds; }
     std::uint64_t lostFrames() const override { return state_->lost; }
     void setFillLostFrames(bool on) override { state_->fillsLost = on; }
+    void setDelay(std::chrono::milliseconds delay) override { state_->delay = delay; }
     void setEventHandler(EventHandler handler) override { handler_ = std::move(handler); }
     QString lastError() const override { return QStringLiteral("the step is set to fail"); }
 

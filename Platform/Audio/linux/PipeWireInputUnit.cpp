@@ -35,6 +35,12 @@ constexpr auto silentAfter = 300ms;
 constexpr auto look = 100ms;
 constexpr auto catchUpAtMost = 100ms;
 
+/// Host time a while ago.
+std::uint64_t timeBefore(std::chrono::milliseconds ago) {
+    const auto then = std::chrono::steady_clock::now() - ago;
+    return std::uint64_t(std::chrono::nanoseconds(then.time_since_epoch()).count());
+}
+
 } // namespace
 
 PipeWireInputUnit::PipeWireInputUnit(std::shared_ptr<DeviceRegistry> registry) : registry_(std::move(registry)) {
@@ -202,7 +208,9 @@ void PipeWireInputUnit::runCycles() {
         CaptureCycle cycle;
         // The device is gone: deliver the incomplete cycle, the rest will not arrive.
         const bool ended = !stream_->streaming();
-        while (assembler.next(cycle, fillLost_, ended)) {
+        // A command that waits, and the end of the device, take everything.
+        const auto delay = ended || catchUpsDone_ != asked ? 0ms : delay_.load();
+        while (assembler.next(cycle, fillLost_, ended, delay == 0ms ? CycleAssembler::AnyTime : timeBefore(delay))) {
             if (!runCycle(assembler, cycle))
                 return;
         }

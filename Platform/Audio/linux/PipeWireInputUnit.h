@@ -41,6 +41,7 @@ public:
     std::uint64_t lostFrames() const override;
     std::uint64_t overrunFrames() const override;
     void setFillLostFrames(bool on) override { fillLost_ = on; }
+    void setDelay(std::chrono::milliseconds delay) override { delay_ = delay; }
     void setEventHandler(EventHandler handler) override;
     QString lastError() const override { return lastError_; }
 
@@ -64,6 +65,7 @@ private:
     bool initialized_ = false;
     EventHandler handler_;
     std::atomic<bool> fillLost_{false};
+    std::atomic<std::chrono::milliseconds> delay_{std::chrono::milliseconds(0)};
 
     std::mutex cycleMutex_;
     std::condition_variable cycleChanged_;

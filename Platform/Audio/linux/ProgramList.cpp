@@ -41,7 +41,8 @@ void ProgramList::update() {
         PlayingProgram program{.id = QString::fromStdString(stream.program.id()),
                                .name = QString::fromStdString(stream.program.title()),
                                .iconName = QString::fromStdString(stream.iconName),
-                               .isPlaying = stream.running};
+                               .isPlaying = stream.running,
+                               .latency = stream.latency};
         if (program.id.isEmpty())
             continue;
         for (const auto* part :
@@ -54,6 +55,7 @@ void ProgramList::update() {
             continue;
         }
         same->isPlaying = same->isPlaying || program.isPlaying;
+        same->latency = std::max(same->latency, program.latency);
         same->parts.append(program.parts);
         same->parts.removeDuplicates();
         if (same->iconName.isEmpty())

@@ -35,6 +35,15 @@ std::string firstOf(const Properties& properties, std::initializer_list<const ch
     return {};
 }
 
+/// Seconds in "1024/48000"; 0 unless it is a fraction of at most ten seconds.
+double secondsIn(const std::string& fraction) {
+    char* rest = nullptr;
+    const double frames = std::strtod(fraction.c_str(), &rest);
+    const double rate = rest && *rest == '/' ? std::strtod(rest + 1, nullptr) : 0;
+    const double seconds = rate > 0 ? frames / rate : 0;
+    return seconds > 0 && seconds <= 10 ? seconds : 0;
+}
+
 std::uint32_t idIn(const Properties& properties, const char* key) {
     const std::string text = firstOf(properties, {key});
     return text.empty() ? SPA_ID_INVALID : std::uint32_t(std::strtoul(text.c_str(), nullptr, 10));
@@ -174,6 +183,7 @@ std::map<std::uint32_t, StreamWatch::Stream> StreamWatch::streams() const {
                           .name = either({PW_KEY_APP_NAME}),
                           .nodeName = firstOf(own, {PW_KEY_NODE_NAME})};
         stream.iconName = either({PW_KEY_APP_ICON_NAME, kPulseIconNameKey});
+        stream.latency = secondsIn(firstOf(own, {PW_KEY_NODE_LATENCY}));
         stream.running = node->running;
         stream.known = node->described && (found == clients_.end() || found->second->described);
         stream.isEffect = belongsToASink(firstOf(own, {PW_KEY_NODE_LINK_GROUP}));

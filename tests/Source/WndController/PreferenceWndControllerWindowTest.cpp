@@ -247,6 +247,26 @@ TEST_F(Preferences, TheTimeBeforeTheFirstSoundIsStoredOnceItIsChanged) {
     EXPECT_EQ(defaults.objectForKey(u"PreferencePreRollMSKey"_s), u"700"_s) << "unchanged";
 }
 
+TEST_F(Preferences, TitlesAndTracksOfThePlayerAreOffAndStoredOnceTheyAreChanged) {
+    open();
+    auto* titles = find<QCheckBox>("titlesCheckBox");
+    auto* cuts = find<QCheckBox>("cutAtTracksCheckBox");
+    EXPECT_FALSE(titles->isChecked());
+    EXPECT_FALSE(cuts->isChecked());
+    titles->setFocus();
+    QTest::keyClick(titles, Qt::Key_Space);
+    controller->window()->close();
+    EXPECT_EQ(defaults.objectForKey(u"PreferenceTitlesKey"_s), qlonglong(1));
+    EXPECT_FALSE(defaults.objectForKey(u"PreferenceCutAtTracksKey"_s).isValid());
+    open();
+    EXPECT_TRUE(find<QCheckBox>("titlesCheckBox")->isChecked());
+    QTest::keyClick(find<QCheckBox>("cutAtTracksCheckBox"), Qt::Key_Space);
+    QTest::keyClick(find<QCheckBox>("titlesCheckBox"), Qt::Key_Space);
+    controller->window()->close();
+    EXPECT_EQ(defaults.objectForKey(u"PreferenceTitlesKey"_s), qlonglong(0));
+    EXPECT_EQ(defaults.objectForKey(u"PreferenceCutAtTracksKey"_s), qlonglong(1));
+}
+
 TEST_F(Preferences, TurningSplittingOffStillStoresItsTime) {
     defaults.setObject(u"PreferenceSplitKey"_s, 1);
     defaults.setObject(u"PreferenceSplitTimeMSKey"_s, u"500"_s);
