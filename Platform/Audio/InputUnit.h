@@ -68,7 +68,8 @@ public:
     virtual void setFillLostFrames(bool /*on*/) {}
     /// How long captured frames stay in the ring before a cycle takes them, so that what happened in the desktop at
     /// their time is known by then. 0, the initial value, takes them soon. holdCycles() on the main thread takes all.
-    /// Any thread, at any time; at most a second.
+    /// With a delay the sound server is asked for short blocks: programs hand over their sound in such blocks, and
+    /// nothing is known about the time within one. Main thread, at any time; at most a second.
     virtual void setDelay(std::chrono::milliseconds /*delay*/) {}
     /// Main thread; before start().
     virtual void setEventHandler(EventHandler handler) = 0;

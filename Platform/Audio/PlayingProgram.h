@@ -14,8 +14,8 @@ struct PlayingProgram {
     QString iconName;       ///< of the icon theme; may be empty
     QStringList parts{};    ///< the other texts by which it can be chosen, see ProgramIdentity::is()
     bool isPlaying = false; ///< false while all its streams are paused
-    /// Seconds of sound that its streams hold between the program and the output, as they declare it; 0 when they do
-    /// not. Of several streams the longest.
+    /// Seconds of sound that its streams hold between the program and the output; 0 when that is not known. Of several
+    /// streams the longest.
     double latency = 0;
 
     friend bool operator==(const PlayingProgram&, const PlayingProgram&) = default;

@@ -332,7 +332,7 @@ QString RecordStateController::roomLeft() const {
 /// There is space again: continues in a new file, because nothing is appended to a file after a write error.
 void RecordStateController::Private::continueAfterFullDisk() {
     const double missing = secondsSince(fullSince_);
-    cut(false);
+    cut(Cut::ByHand);
     if (writeError()) {
         fullBytes_ = -1; // the space was not sufficient
         return;

@@ -12,9 +12,11 @@ using Platform::PlayerTrack;
 
 namespace {
 
-/// Seconds of the blocks in which the sound server asks a program for sound while it is recorded, unless the program
-/// asks for shorter ones: CaptureStream asks for 2048 frames.
-constexpr double LongestBlock = 2048.0 / 48000;
+/// A program that goes on to another track hands over a block of sound in which the change may lie anywhere. While
+/// cycles wait, the sound server works in blocks of 512 frames (InputUnit::setDelay()). Measured with PipeWire 0.3.65: a
+/// frame's capture time is one block later than the time at which the program handed over the block, because the
+/// driver's device is in between.
+constexpr double HalfBlock = 512.0 / 48000 / 2;
 /// A player that goes on to another track, but still shows the title of the one before, corrects it within this time.
 constexpr std::uint64_t LongestNaming = 5'000'000'000;
 /// A player that names a track before it begins does so at most this much before the end of the current one.
@@ -61,13 +63,21 @@ struct TrackHistory::Player {
             sum += seconds;
         return sum;
     }
-    /// The capture time of the sound that the program passes on at @p time. A block is captured as long before it is
-    /// full as it is long, and the change lies anywhere in it. What the stream holds beyond that comes later.
-    [[nodiscard]] std::uint64_t heardAt(std::uint64_t time) const {
-        const double block = latency > 0 ? std::min(latency, LongestBlock) : LongestBlock;
-        const double later = std::max(0.0, latency - block) - block / 2;
-        return later < 0 ? time - std::min(time, nanoseconds(-later)) : time + nanoseconds(later);
+    [[nodiscard]] double secondsOf(const QUrl& cover) const {
+        double sum = 0;
+        for (const auto& [track, seconds] : heard)
+            if (track->said.cover == cover)
+                sum += seconds;
+        return sum;
     }
+    /// Covers that were not named for @p most seconds by now need no memory. The current one stays.
+    void forgetCovers(double most) {
+        for (auto& [track, seconds] : heard)
+            if (track->said.cover != current->said.cover && secondsOf(track->said.cover) < most)
+                track->cover = {};
+    }
+    /// The capture time of the sound that the program hands over at @p time, in the middle of a block.
+    [[nodiscard]] std::uint64_t heardAt(std::uint64_t time) const { return time + nanoseconds(latency + HalfBlock); }
 };
 
 struct TrackHistory::Event {
@@ -325,10 +335,7 @@ std::optional<std::uint64_t> TrackHistory::follow(const Cycle& cycle) {
                 continue;
             auto& heard = player.heard;
             if (heard.empty() || heard.back().first != player.current) {
-                // Covers of tracks that will not be chosen any more need no memory.
-                for (auto& [track, share] : heard)
-                    if (share < heardSeconds_ / 2 && track->said.cover != player.current->said.cover)
-                        track->cover = {};
+                player.forgetCovers(heardSeconds_ / 2);
                 heard.emplace_back(player.current, 0);
             }
             heard.back().second += seconds;

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <utility>
 
 namespace Platform {
 
@@ -22,6 +23,7 @@ namespace {
 /// capture times are exact in blocks of any length, and every block wakes a thread. A power of two, to which the server
 /// rounds down, and its longest quantum by default. It uses less when another program asks for less.
 constexpr std::uint32_t longestBlock = 2048;
+constexpr std::uint32_t shortBlock = 512;
 
 /// The session manager refuses a device for a moment when it does not know it yet, or when an older link to it is still
 /// being removed. The time between two requests doubles from the first to the longest.
@@ -100,9 +102,7 @@ bool CaptureStream::connectStream(const AudioDeviceInfo& device) {
                                          "false", "state.restore-target", "false", nullptr);
     pw_properties_setf(properties, PW_KEY_TARGET_OBJECT, "%llu", static_cast<unsigned long long>(device.serial));
     pw_properties_setf(properties, PW_KEY_NODE_RATE, "1/%u", target_.sampleRate);
-    pw_properties_setf(properties, PW_KEY_NODE_LATENCY, "%u/%u",
-                       std::max(target_.cycleFrames, longestBlock * std::max(1u, target_.sampleRate / 44100)),
-                       target_.sampleRate);
+    pw_properties_set(properties, PW_KEY_NODE_LATENCY, latency().c_str());
     stream_.reset(pw_stream_new(core, "Sonaphex", properties));
     if (!stream_)
         return false;
@@ -133,6 +133,24 @@ bool CaptureStream::connectStream(const AudioDeviceInfo& device) {
         return false;
     }
     return true;
+}
+
+/// The block length to ask for: "2048/48000".
+std::string CaptureStream::latency() const {
+    const std::uint32_t factor = std::max(1u, target_.sampleRate / 44100);
+    const std::uint32_t frames =
+        shortBlocks_ ? shortBlock * factor : std::max(target_.cycleFrames, longestBlock * factor);
+    return std::to_string(frames) + '/' + std::to_string(target_.sampleRate);
+}
+
+void CaptureStream::setShortBlocks(bool on) {
+    LoopLock lock(registry_->connection()->threadLoop());
+    if (std::exchange(shortBlocks_, on) == on || !stream_)
+        return;
+    const std::string text = latency();
+    const spa_dict_item item = SPA_DICT_ITEM_INIT(PW_KEY_NODE_LATENCY, text.c_str());
+    const spa_dict changed = SPA_DICT_INIT(&item, 1);
+    pw_stream_update_properties(stream_.get(), &changed);
 }
 
 void CaptureStream::closeStream() {

@@ -41,6 +41,9 @@ public:
     /// listed device is asked again in that time. False with @p why when the device does not exist or was refused to
     /// the end.
     [[nodiscard]] bool open(int milliseconds, QString& why);
+    /// Asks the server for short blocks, so that capture times tell more about other programs' times; also for the next
+    /// connections. Takes the loop's lock.
+    void setShortBlocks(bool on);
     /// Blocks pushed so far; used to notice a stream that stopped delivering. Any thread.
     [[nodiscard]] std::uint64_t blocks() const { return blocks_.load(std::memory_order_relaxed); }
     /// Whether the stream is linked and should deliver. Any thread.
@@ -60,6 +63,7 @@ private:
     void onWork();
 
     bool connectStream(const AudioDeviceInfo& device);
+    [[nodiscard]] std::string latency() const;
     void closeStream();
     void setState(State state, const char* error = nullptr);
     void lose(Change reason);
@@ -77,6 +81,7 @@ private:
     // On the loop's thread.
     enum class Missing { Nothing, Device, Server };
     Missing missing_ = Missing::Nothing;
+    bool shortBlocks_ = false;
     bool gone_ = false; ///< the stream lost its device and must be closed outside its own callback
     bool setVolume_ = false;
     bool opening_ = false; ///< open() waits: a refusal is not a loss yet

@@ -156,6 +156,7 @@ OSStatus PipeWireInputUnit::start() {
             return tell(Event::ServerReturned);
         }
     });
+    stream_->setShortBlocks(delay_.load() > 0ms);
     QString why;
     if (!stream_->open(openMs, why)) {
         stream_.reset();
@@ -177,6 +178,12 @@ OSStatus PipeWireInputUnit::stop() {
     }
     stream_.reset();
     return noErr;
+}
+
+void PipeWireInputUnit::setDelay(std::chrono::milliseconds delay) {
+    delay_ = delay;
+    if (stream_)
+        stream_->setShortBlocks(delay > 0ms);
 }
 
 void PipeWireInputUnit::tell(Event event) {

@@ -41,7 +41,7 @@ public:
     std::uint64_t lostFrames() const override;
     std::uint64_t overrunFrames() const override;
     void setFillLostFrames(bool on) override { fillLost_ = on; }
-    void setDelay(std::chrono::milliseconds delay) override { delay_ = delay; }
+    void setDelay(std::chrono::milliseconds delay) override;
     void setEventHandler(EventHandler handler) override;
     QString lastError() const override { return lastError_; }
 

@@ -183,7 +183,10 @@ std::map<std::uint32_t, StreamWatch::Stream> StreamWatch::streams() const {
                           .name = either({PW_KEY_APP_NAME}),
                           .nodeName = firstOf(own, {PW_KEY_NODE_NAME})};
         stream.iconName = either({PW_KEY_APP_ICON_NAME, kPulseIconNameKey});
-        stream.latency = secondsIn(firstOf(own, {PW_KEY_NODE_LATENCY}));
+        // For a program of PulseAudio this is the length of its buffer, which it keeps full. Others only ask for blocks
+        // of this length at most.
+        if (either({PW_KEY_CLIENT_API}) == "pipewire-pulse")
+            stream.latency = secondsIn(firstOf(own, {PW_KEY_NODE_LATENCY}));
         stream.running = node->running;
         stream.known = node->described && (found == clients_.end() || found->second->described);
         stream.isEffect = belongsToASink(firstOf(own, {PW_KEY_NODE_LINK_GROUP}));

@@ -20,7 +20,7 @@ public:
     struct Stream {
         ProgramIdentity program;
         std::string iconName; ///< of the icon theme; may be empty
-        double latency = 0;   ///< seconds of sound that the stream asks to hold (node.latency); 0 when it does not
+        double latency = 0;   ///< seconds of sound that it holds; 0 when that is not known
         bool running = false; ///< it plays now; false while it is paused
         /// Whether the server has described the stream and its program. Until then the program is unknown.
         bool known = false;
