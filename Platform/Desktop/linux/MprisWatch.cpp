@@ -6,10 +6,8 @@
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QDBusVariant>
 #include <QFileInfo>
 #include <QObject>
@@ -113,7 +111,9 @@ public:
         bus_ = QDBusConnection::connectToBus(QDBusConnection::SessionBus, name_);
         if (!bus_.isConnected())
             return;
-        own_ = QDBusConnection::sessionBus().baseService(); // MediaPlayer is there
+        // MediaPlayer is there. The name of a connection that was lost may belong to another program by now.
+        if (const auto session = QDBusConnection::sessionBus(); session.isConnected())
+            own_ = session.baseService();
         bus_.connect(busName, u"/org/freedesktop/DBus"_s, busName, u"NameOwnerChanged"_s, this,
                      SLOT(ownerChanged(QString, QString, QString)));
         // The argument keeps the messages of other interfaces from waking this thread.

@@ -285,6 +285,21 @@ TEST(CycleAssembler, MakesCyclesOfOneSizeFromBlocksOfAnySize) {
     EXPECT_TRUE(isUnbrokenRamp(samples, 0));
 }
 
+TEST(CycleAssembler, LeavesBlocksInTheRingThatBeginTooLate) {
+    CaptureRing ring(1, 4096);
+    Producer producer(ring);
+    CycleAssembler assembler(ring, rate, 256);
+    ASSERT_TRUE(producer.push(300));
+    ASSERT_TRUE(producer.push(300));
+    CaptureCycle cycle;
+    EXPECT_FALSE(assembler.next(cycle, false, false, 999'999));
+    ASSERT_TRUE(assembler.next(cycle, false, false, 1'299'999));
+    EXPECT_FALSE(assembler.next(cycle, false, false, 1'299'999)) << "the second block is not ripe";
+    ASSERT_TRUE(assembler.next(cycle, false, false, 1'300'000));
+    EXPECT_EQ(cycle.frames, 256u);
+    EXPECT_EQ(cycle.hostTime, 1'256'000u) << "nothing was lost";
+}
+
 TEST(CycleAssembler, EndsACycleEarlyWhereFramesWereLost) {
     CaptureRing ring(1, 4096);
     Producer producer(ring);
