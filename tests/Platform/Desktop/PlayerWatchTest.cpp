@@ -13,6 +13,7 @@
 
 #include <chrono>
 #include <map>
+#include <memory>
 #include <mutex>
 
 using namespace Qt::StringLiterals;
@@ -76,22 +77,31 @@ private:
     std::uint64_t last_ = 0;
 };
 
+/// One bus for all: a process knows the address of one session bus.
 class PlayerWatchTest : public testing::Test {
 protected:
+    static void SetUpTestSuite() {
+        folder_ = std::make_unique<QTemporaryDir>();
+        bus_ = std::make_unique<PrivateBus>(folder_->path());
+    }
+    static void TearDownTestSuite() {
+        bus_.reset();
+        folder_.reset();
+    }
     [[nodiscard]] bool sees(const QString& title) {
         return waitFor([&] { return listener_.only().track.title == title; });
     }
 
-    QTemporaryDir folder_;
-    PrivateBus bus_{folder_.path()};
-    EnvironmentScope address_{"DBUS_SESSION_BUS_ADDRESS", bus_.address().toUtf8()};
+    static inline std::unique_ptr<QTemporaryDir> folder_;
+    static inline std::unique_ptr<PrivateBus> bus_;
+    EnvironmentScope address_{"DBUS_SESSION_BUS_ADDRESS", bus_->address().toUtf8()};
     Listener listener_;
 };
 
 } // namespace
 
 TEST_F(PlayerWatchTest, FindsAPlayerThatRunsAlreadyWithAllItSays) {
-    ScriptedPlayer player(bus_.address(), u"scripted.instance12"_s);
+    ScriptedPlayer player(bus_->address(), u"scripted.instance12"_s);
     ASSERT_TRUE(player.isRegistered());
     player.properties = {{u"PlaybackStatus"_s, u"Playing"_s},
                          {u"Metadata"_s, ScriptedPlayer::track(u"/one"_s, u"One"_s, u"Somebody"_s, u"Numbers"_s, 12.5,
@@ -114,7 +124,7 @@ TEST_F(PlayerWatchTest, FindsAPlayerThatRunsAlreadyWithAllItSays) {
 
 TEST_F(PlayerWatchTest, FollowsPlayersThatComeChangeAndGo) {
     const auto watch = PlayerWatch::create(listener_);
-    auto player = std::make_unique<ScriptedPlayer>(bus_.address(), u"scripted"_s);
+    auto player = std::make_unique<ScriptedPlayer>(bus_->address(), u"scripted"_s);
     ASSERT_TRUE(waitFor([&] { return listener_.count() == 1; }));
     player->position = [] { return 1.5; };
     player->setStatus(u"Playing"_s);
@@ -134,17 +144,17 @@ TEST_F(PlayerWatchTest, FollowsPlayersThatComeChangeAndGo) {
     ASSERT_TRUE(sees(u"Two"_s));
     player.reset();
     ASSERT_TRUE(waitFor([&] { return listener_.count() == 0; }));
-    ScriptedPlayer again(bus_.address(), u"scripted"_s);
+    ScriptedPlayer again(bus_->address(), u"scripted"_s);
     ASSERT_TRUE(waitFor([&] { return listener_.count() == 1; }));
     EXPECT_FALSE(listener_.only().isPlaying) << "it is another one";
 }
 
 TEST_F(PlayerWatchTest, APlayerWithTwoNamesIsOnePlayer) {
     const auto watch = PlayerWatch::create(listener_);
-    ScriptedPlayer player(bus_.address(), u"scripted"_s);
+    ScriptedPlayer player(bus_->address(), u"scripted"_s);
     ASSERT_TRUE(player.alsoAs(u"scripted.instance7"_s));
     player.properties[u"PlaybackStatus"_s] = u"Playing"_s;
-    ScriptedPlayer other(bus_.address(), u"other"_s);
+    ScriptedPlayer other(bus_->address(), u"other"_s);
     ASSERT_TRUE(waitFor([&] { return listener_.count() == 2; }));
     player.setStatus(u"Playing"_s);
     EXPECT_EQ(listener_.count(), 2U);
@@ -152,7 +162,7 @@ TEST_F(PlayerWatchTest, APlayerWithTwoNamesIsOnePlayer) {
 
 TEST_F(PlayerWatchTest, WhatAPlayerSaysIsBoundedAndOfAnyType) {
     const auto watch = PlayerWatch::create(listener_);
-    ScriptedPlayer player(bus_.address(), u"scripted"_s);
+    ScriptedPlayer player(bus_->address(), u"scripted"_s);
     player.setTrack({{u"mpris:trackid"_s, u"text instead of a path"_s},
                      {u"xesam:title"_s, QString(100000, u'x')},
                      {u"xesam:artist"_s, u"  one\nline\x1b "_s},
@@ -175,9 +185,20 @@ TEST_F(PlayerWatchTest, WhatAPlayerSaysIsBoundedAndOfAnyType) {
     ASSERT_TRUE(sees(u"One"_s));
 }
 
+TEST_F(PlayerWatchTest, LeavesOutThePlayerOfItsOwnProcess) {
+    ScriptedPlayer own(QDBusConnection::sessionBus(), u"own"_s);
+    ASSERT_TRUE(own.isRegistered());
+    const auto watch = PlayerWatch::create(listener_);
+    ScriptedPlayer other(bus_->address(), u"other"_s);
+    own.setTrack(ScriptedPlayer::track(u"/own"_s, u"Own"_s));
+    other.setTrack(ScriptedPlayer::track(u"/one"_s, u"One"_s));
+    ASSERT_TRUE(sees(u"One"_s));
+    EXPECT_EQ(listener_.count(), 1U);
+}
+
 TEST_F(PlayerWatchTest, EndsWithoutWaitingForAPlayer) {
     auto watch = PlayerWatch::create(listener_);
-    ScriptedPlayer player(bus_.address(), u"scripted"_s); // answers only while this test's loop runs
+    ScriptedPlayer player(bus_->address(), u"scripted"_s); // answers only while this test's loop runs
     const auto begin = steadyTime();
     watch.reset();
     EXPECT_LT(steadyTime() - begin, 5'000'000'000U);
