@@ -36,7 +36,7 @@ struct ExportJob {
     std::array<SourceTiming, 2> timings; ///< of the input device and of computer audio
     /// A full disk or a lost device ended it: the filter does not apply, because the user did not make it short.
     bool isKeptHoweverShort = false;
-    PartTitle title{}; ///< what a media player named for it
+    PartTitle title{};             ///< what a media player named for it
     std::atomic<int> openFiles{0}; ///< raw files that are still being closed; the job starts when there are none
 
     [[nodiscard]] QString path(const QString& key) const { return paths.value(key).toString(); }

@@ -36,9 +36,7 @@ void RecordTracks::begin(Wishes wishes, const Platform::ProgramChoice& recorded)
     if (!wishes.any())
         return;
     if (auto* hardware = Platform::services().audioHardware) {
-        const auto follow = [this, hardware, recorded] {
-            history_.setPrograms(recorded, hardware->playingPrograms());
-        };
+        const auto follow = [this, hardware, recorded] { history_.setPrograms(recorded, hardware->playingPrograms()); };
         QObject::connect(hardware, &Platform::AudioHardware::playingProgramsChanged, &context_, follow);
         follow();
     }

@@ -13,8 +13,8 @@ using Platform::PlayerTrack;
 namespace {
 
 /// A program that goes on to another track hands over a block of sound in which the change may lie anywhere. While
-/// cycles wait, the sound server works in blocks of 512 frames (InputUnit::setDelay()). Measured with PipeWire 0.3.65: a
-/// frame's capture time is one block later than the time at which the program handed over the block, because the
+/// cycles wait, the sound server works in blocks of 512 frames (InputUnit::setDelay()). Measured with PipeWire 0.3.65:
+/// a frame's capture time is one block later than the time at which the program handed over the block, because the
 /// driver's device is in between.
 constexpr double HalfBlock = 512.0 / 48000 / 2;
 /// A player that goes on to another track, but still shows the title of the one before, corrects it within this time.
@@ -120,8 +120,8 @@ void TrackHistory::setPrograms(const Platform::ProgramChoice& recorded,
 void TrackHistory::rank(Player& player) const {
     using Mode = Platform::ProgramChoice::Mode;
     const auto isNamed = [&player](const QString& part) {
-        return std::ranges::any_of(
-            player.names, [&](const QString& name) { return name.compare(part, Qt::CaseInsensitive) == 0; });
+        return std::ranges::any_of(player.names,
+                                   [&](const QString& name) { return name.compare(part, Qt::CaseInsensitive) == 0; });
     };
     const auto isChosen = [this](const QString& name) {
         const Platform::ProgramIdentity program{.name = name.toStdString()};
@@ -209,8 +209,8 @@ TrackHistory::TrackPtr TrackHistory::trackOf(Player& player, const PlayerTrack& 
     PlayerTrack said = now;
     // A later message may lack what an earlier one has said about the same track.
     if (track == known) {
-        for (QString PlayerTrack::* text : {&PlayerTrack::id, &PlayerTrack::title, &PlayerTrack::artist,
-                                            &PlayerTrack::album, &PlayerTrack::source})
+        for (QString PlayerTrack::*text :
+             {&PlayerTrack::id, &PlayerTrack::title, &PlayerTrack::artist, &PlayerTrack::album, &PlayerTrack::source})
             if ((said.*text).isEmpty())
                 said.*text = known->said.*text;
         if (said.cover.isEmpty())

@@ -18,9 +18,9 @@
 /// at which one track ended and another began.
 ///
 /// A message of a player arrives before the frames of its time are written, because frames wait in the capture ring. It
-/// is put into a list, ordered by the capture time at which it is heard, and takes effect when the recording has reached
-/// that time. Any thread: the players' messages come on the watch's thread, cycles on the I/O thread. Times are in
-/// nanoseconds of the steady clock.
+/// is put into a list, ordered by the capture time at which it is heard, and takes effect when the recording has
+/// reached that time. Any thread: the players' messages come on the watch's thread, cycles on the I/O thread. Times are
+/// in nanoseconds of the steady clock.
 class TrackHistory final : public Platform::PlayerWatch::Listener {
 public:
     /// A change of the track does not cut before the part has this much sound: a player that changes twice within a
@@ -54,8 +54,8 @@ public:
         bool isRecorded = false; ///< false while it is armed or paused
         bool isAudible = false;
     };
-    /// Adds a cycle to the part, and looks one cycle ahead. @return the time at which the next part shall begin, if that
-    /// is before the end of the next cycle; it may lie before the end of this one when a message came late
+    /// Adds a cycle to the part, and looks one cycle ahead. @return the time at which the next part shall begin, if
+    /// that is before the end of the next cycle; it may lie before the end of this one when a message came late
     [[nodiscard]] std::optional<std::uint64_t> follow(const Cycle& cycle);
     /// Whether another track plays than at the last recorded cycle, and the part is long enough. For a recording that
     /// was paused meanwhile.

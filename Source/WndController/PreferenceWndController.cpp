@@ -414,6 +414,7 @@ void PreferenceWndController::makeScrollable() {
     layout->addWidget(scrollArea_);
     window_->setMinimumSize(0, 0); // was set by the old layout
     layout->activate();
+    scrollArea_->show(); // the window may be visible already
 }
 
 bool PreferenceWndController::eventFilter(QObject* watched, QEvent* event) {

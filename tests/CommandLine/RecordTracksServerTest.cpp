@@ -129,8 +129,7 @@ protected:
             if (decoded.size() != 2)
                 return 1e9;
             const double early = i == 0 ? 0 : strange(decoded[0], Pitches[i], Pitches[i - 1], false);
-            const double late =
-                i + 1 == Pitches.size() ? 0 : strange(decoded[0], Pitches[i], Pitches[i + 1], true);
+            const double late = i + 1 == Pitches.size() ? 0 : strange(decoded[0], Pitches[i], Pitches[i + 1], true);
             worst = std::max({worst, early, late});
             all += " -" + std::to_string(int(early)) + " +" + std::to_string(int(late));
         }

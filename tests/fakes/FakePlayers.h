@@ -15,7 +15,7 @@ public:
         };
     }
 
-    int watches = 0;                                    ///< that were ever begun
+    int watches = 0;                                     ///< that were ever begun
     Platform::PlayerWatch::Listener* listener = nullptr; ///< null while nobody watches
 
 private:

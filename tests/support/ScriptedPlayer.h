@@ -34,9 +34,7 @@ public:
 
     [[nodiscard]] bool isRegistered() const { return registered_; }
     /// A second name of the same player.
-    bool alsoAs(const QString& name) {
-        return bus_.registerService(QStringLiteral("org.mpris.MediaPlayer2.") + name);
-    }
+    bool alsoAs(const QString& name) { return bus_.registerService(QStringLiteral("org.mpris.MediaPlayer2.") + name); }
     static QVariantMap track(const QString& id, const QString& title, const QString& artist = {},
                              const QString& album = {}, double seconds = 0, const QString& cover = {}) {
         QVariantMap data{{QStringLiteral("mpris:trackid"), QVariant::fromValue(QDBusObjectPath(id))}};
@@ -85,8 +83,7 @@ public:
         if (message.member() == u"GetAll")
             return connection.send(message.createReply(isRoot ? rootProperties : properties));
         if (message.member() == u"Get" && arguments.value(1).toString() == u"Position" && position)
-            return connection.send(
-                message.createReply(QVariant::fromValue(QDBusVariant(qlonglong(position() * 1e6)))));
+            return connection.send(message.createReply(QVariant::fromValue(QDBusVariant(qlonglong(position() * 1e6)))));
         return connection.send(message.createErrorReply(QDBusError::UnknownProperty, QStringLiteral("unknown")));
     }
 

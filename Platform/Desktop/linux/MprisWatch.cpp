@@ -122,9 +122,8 @@ public:
         ask(busName, busName, u"ListNames"_s, {}, [this](const QDBusMessage& answer) {
             for (const QString& name : answer.arguments().value(0).toStringList())
                 if (name.startsWith(watchedPrefix))
-                    ask(busName, busName, u"GetNameOwner"_s, {name}, [this, name](const QDBusMessage& owner) {
-                        add(name, owner.arguments().value(0).toString());
-                    });
+                    ask(busName, busName, u"GetNameOwner"_s, {name},
+                        [this, name](const QDBusMessage& owner) { add(name, owner.arguments().value(0).toString()); });
         });
     }
     void end() {
@@ -263,7 +262,7 @@ private:
     PlayerWatch::Listener& listener_;
     QString name_; ///< of the connection, within this process
     QDBusConnection bus_{QString()};
-    QString own_; ///< the program's own name on the bus
+    QString own_;                      ///< the program's own name on the bus
     std::map<QString, Known> players_; ///< by the unique name of their connection
 };
 

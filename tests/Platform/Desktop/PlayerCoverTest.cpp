@@ -37,8 +37,9 @@ TEST(PlayerCover, IsReadFromTheAddressItself) {
 }
 
 TEST(PlayerCover, IsNeverFetchedFromANetwork) {
-    for (const auto& address : {u"http://127.0.0.1/cover.png"_s, u"https://example.org/c.jpg"_s,
-                                u"file://server/share/cover.png"_s, u"ftp://localhost/c.png"_s, u"cover.png"_s, QString()})
+    for (const auto& address :
+         {u"http://127.0.0.1/cover.png"_s, u"https://example.org/c.jpg"_s, u"file://server/share/cover.png"_s,
+          u"ftp://localhost/c.png"_s, u"cover.png"_s, QString()})
         EXPECT_FALSE(readPlayerCover(QUrl(address))) << qPrintable(address);
 }
 

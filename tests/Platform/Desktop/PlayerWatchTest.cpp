@@ -24,8 +24,7 @@ using Platform::WatchedPlayer;
 namespace {
 
 std::uint64_t steadyTime() {
-    return std::uint64_t(
-        std::chrono::nanoseconds(std::chrono::steady_clock::now().time_since_epoch()).count());
+    return std::uint64_t(std::chrono::nanoseconds(std::chrono::steady_clock::now().time_since_epoch()).count());
 }
 
 /// Keeps what it is told.

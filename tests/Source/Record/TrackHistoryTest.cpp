@@ -150,9 +150,11 @@ TEST_F(History, APlayerWhoseProgramPlaysOnTheSoundServerGoesBeforeOthers) {
 
 TEST_F(History, TheRecordedProgramNamesThePart) {
     const std::vector<PlayingProgram> playing{program(u"a"_s), program(u"b"_s)};
-    for (const auto& [mode, chosen, title] :
-         {std::tuple{Mode::Only, "b", u"Two"_s}, {Mode::Only, "A", u"One"_s}, {Mode::AllBut, "a", u"Two"_s},
-          {Mode::AllBut, "b", u"One"_s}, {Mode::Only, "c", QString()}}) {
+    for (const auto& [mode, chosen, title] : {std::tuple{Mode::Only, "b", u"Two"_s},
+                                              {Mode::Only, "A", u"One"_s},
+                                              {Mode::AllBut, "a", u"Two"_s},
+                                              {Mode::AllBut, "b", u"One"_s},
+                                              {Mode::Only, "c", QString()}}) {
         history.clear();
         history.setPrograms({.mode = mode, .programs = {chosen}}, playing);
         says(u"a"_s, true, track(u"/1"_s, u"One"_s));
