@@ -102,6 +102,31 @@ report "waveform of an AAC file that ffmpeg made, processor time" "$ourCpu" "$pe
 must "$ours" waveform peer.m4a
 holds "ten values a second" test "$(wc -l <"$SCRATCH/output")" -ge $((minutes * 600 - 1))
 
+# The silences of a recording that has one of two seconds in every fourth minute.
+must ffmpeg -v error -y -stream_loop 3 -i minute.wav -af "volume='if(gt(t,238),0,1)':eval=frame" -t 240 four.wav
+must ffmpeg -v error -y -stream_loop $((minutes / 4)) -i four.wav -c copy gaps.wav
+must "$ours" convert gaps.wav gaps.m4a --type m4a --overwrite
+rm -f gaps.wav four.wav
+beside "$((rounds + 1))" "$ours" split gaps.m4a --silence 800 --dry-run -- \
+    ffmpeg -i gaps.m4a -af silencedetect=n=-60dB:d=0.8 -f null -
+report "silences of an AAC file, wall time" "$ourWall" "$peerWall" s 0.2
+report "silences of an AAC file, processor time" "$ourCpu" "$peerCpu" s 0.2
+theirs=$(grep -c silence_end "$SCRATCH/errors")
+must "$ours" split gaps.m4a --silence 800 --dry-run
+# The last silence ends with the file and gives no cut.
+equal "silences" "$(wc -l <"$SCRATCH/output")" "$theirs"
+not_equal "the peer decodes every packet; ours skips those that cannot belong to a silence of that length"
+beside "$rounds" "$ours" split gaps.m4a --silence 100000 --dry-run -- \
+    ffmpeg -v error -i gaps.m4a -af silencedetect=n=-60dB:d=100 -f null -
+report "no silence long enough in an AAC file, wall time" "$ourWall" "$peerWall" s 0.5
+rm -rf parts
+mkdir parts
+sync
+timed "$ours" split gaps.m4a --silence 800 --folder parts
+report "splitting an AAC file at its silences, wall time" "$wall" - s 3
+report "splitting an AAC file at its silences, processor time" "$cpu" - s 2
+rm -rf parts gaps.m4a
+
 # The ringtone maker's outline with the file in the page cache: the median of five runs.
 outline() { for _ in 1 2 3 4 5; do must "$BUILD/bin/bench_outline" our.m4a; cat "$SCRATCH/output"; done; }
 outlines=$(outline)

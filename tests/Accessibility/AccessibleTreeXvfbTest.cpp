@@ -142,6 +142,24 @@ TEST_F(AccessibleWindows, LevelTimeAndStateAreReadAndChangesAreAnnounced) {
         << qPrintable(AccessibleTree::text(tree));
 }
 
+TEST_F(AccessibleWindows, TheCurrentCutIsASliderThatAReaderMoves) {
+    Theme::install(*qApp, nullptr);
+    SplitWorld world;
+    world.open(world.splitRecording(u"One"_s));
+    world.length().setValue(4);
+    world.bar().setCurrentCut(1);
+    auto tree = AccessibleTree::read();
+    const auto cut = AccessibleTree::find(tree, u"Current cut"_s);
+    ASSERT_TRUE(cut && cut->value) << qPrintable(AccessibleTree::text(tree));
+    EXPECT_EQ(cut->role, u"slider"_s);
+    EXPECT_NEAR(cut->value->now, 5.25, 0.03);
+    EXPECT_TRUE(AccessibleTree::setValue(u"Current cut"_s, 6.5));
+    EXPECT_TRUE(AccessibleTree::setValue(u"Play position"_s, 4));
+    EXPECT_NEAR(world.cuts()[1], 6.5, 0.001);
+    EXPECT_EQ(world.bar().playFrame(), 4 * SplitWorld::kRate);
+    world.controller.window()->hide();
+}
+
 TEST_F(AccessibleWindows, TheHandlesOfTheTrimWindowAreSlidersThatAReaderMoves) {
     Theme::install(*qApp, nullptr);
     EditWorld world;

@@ -7,6 +7,7 @@
 #include "Source/WndController/AudioTrimWndController.h"
 #include "Source/WndController/ID3EditWndController.h"
 #include "tests/Source/WndController/EditWorld.h"
+#include "tests/Source/WndController/SplitWorld.h"
 #include "tests/fakes/FakeSourceFiles.h"
 #include "tests/support/PrivateAudioSession.h"
 #include "tests/support/RealPointer.h"
@@ -89,6 +90,23 @@ protected:
 };
 
 } // namespace
+
+TEST(SplitWindowOnADesktop, ACutIsDraggedAndRemoved) {
+    Theme::install(*qApp, nullptr);
+    SplitWorld world;
+    world.open(world.splitRecording(u"One"_s));
+    ASSERT_TRUE(shown(*world.controller.window()));
+    world.length().setValue(4);
+    ASSERT_EQ(world.cuts().size(), 3U);
+    const QRectF handle = world.bar().handleRect(1);
+    const double to = world.bar().xOf(std::llround(6.5 * SplitWorld::kRate));
+    ASSERT_TRUE(drag(onScreen(world.bar(), handle.center()), onScreen(world.bar(), {to, handle.center().y()})));
+    ASSERT_TRUE(waitFor([&] { return std::abs(world.cuts()[1] - 6.5) < 0.1; }));
+    EXPECT_EQ(world.bar().currentCut(), 1);
+    ASSERT_TRUE(XvfbSession::current()->xdotool({u"key"_s, u"Delete"_s}));
+    EXPECT_TRUE(waitFor([&] { return world.cuts().size() == 2; }));
+    world.controller.window()->hide();
+}
 
 TEST_F(TrimWindowOnADesktop, AHandleStopsAtTheOtherOne) {
     open(100);

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "Source/WndController/EditWindows.h"
 #include "tests/Source/WndController/WindowWorld.h"
+#include "tests/fakes/FakePanels.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -128,6 +130,57 @@ TEST_F(WindowOpeners, TheCommandsOpenTheirWindows) {
               filterTitle);
     EXPECT_EQ(modalWindowAfter([&] { world.click("btnFilter_"); }), filterTitle);
     EXPECT_FALSE(QApplication::activeModalWidget());
+}
+
+TEST_F(WindowOpeners, SplittingIsOfferedForOneRecordingAndJoiningForSeveral) {
+    const EditWindows edits(*world.controller);
+    const auto states = [this](Window window) {
+        world.controller->menus().update();
+        QMenu& context = *world.controller->menus().audioTableViewMenu();
+        world.controller->menuWillOpen(context);
+        const QAction& action = *world.controller->menus().window(window);
+        int inContext = 0;
+        for (const QAction* item : context.actions())
+            inContext += item->text() == action.text() && item->isEnabled() && item->isVisible() ? 1 : 0;
+        return u"%1 %2"_s.arg(action.isEnabled() ? 1 : 0).arg(inContext);
+    };
+    EXPECT_EQ(states(Window::Split), u"0 0"_s) << "nothing is selected";
+    EXPECT_EQ(states(Window::Join), u"0 0"_s);
+    select({0});
+    EXPECT_EQ(states(Window::Split), u"1 1"_s);
+    EXPECT_EQ(states(Window::Join), u"0 0"_s);
+    select({0, 1});
+    EXPECT_EQ(states(Window::Split), u"0 0"_s);
+    EXPECT_EQ(states(Window::Join), u"1 1"_s);
+    world.click("btnSatrtRecord_");
+    EXPECT_EQ(states(Window::Join), u"0 0"_s) << "while something records";
+    world.click("btnSatrtRecord_");
+    ASSERT_TRUE(waitFor([&] { return !world.controller->isStateAudioRecord(); }));
+    show(u"all-ringtone"_s);
+    select({0});
+    EXPECT_EQ(states(Window::Split), u"0 0"_s) << "a ringtone";
+}
+
+TEST_F(WindowOpeners, TheKeysSplitAndJoin) {
+    const EditWindows edits(*world.controller);
+    FakePanels panels; // Cancel
+    Platform::services().panels = &panels;
+    QWindow* const window = world.controller->window()->windowHandle();
+    select({1});
+    EXPECT_EQ(modalWindowAfter([&] { QTest::keyClick(window, Qt::Key_T, Qt::ControlModifier | Qt::ShiftModifier); }),
+              u"Split at Silences"_s);
+    select({1, 0});
+    const QString first = world.controller->library()
+                              .tableViewSelectionAudioArray()
+                              .value(0)
+                              .toMap()
+                              .value(AudioRecordEntry::SavePath)
+                              .toString();
+    QTest::keyClick(window, Qt::Key_J, Qt::ControlModifier);
+    EXPECT_EQ(panels.prompts, QStringList{u"Join"_s});
+    EXPECT_EQ(panels.startFolders, QStringList{QString(first).replace(u".m4a"_s, u" joined.m4a"_s)})
+        << "it is named after the first one of the list";
+    Platform::services().panels = nullptr;
 }
 
 } // namespace
