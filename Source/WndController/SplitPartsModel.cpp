@@ -80,8 +80,10 @@ Qt::ItemFlags SplitPartsModel::flags(const QModelIndex& index) const {
 }
 
 QVariant SplitPartsModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    if (role != Qt::DisplayRole)
         return {};
+    if (orientation == Qt::Vertical)
+        return section + 1; // hidden, but screen readers name the row after it
     switch (section) {
     case Title:
         return tr("Title");

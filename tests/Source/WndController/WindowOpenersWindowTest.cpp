@@ -176,7 +176,10 @@ TEST_F(WindowOpeners, TheKeysSplitAndJoin) {
                               .toMap()
                               .value(AudioRecordEntry::SavePath)
                               .toString();
+    world.controller->window()->activateWindow();
+    ASSERT_TRUE(waitFor([&] { return world.controller->window()->isActiveWindow(); }));
     QTest::keyClick(window, Qt::Key_J, Qt::ControlModifier);
+    EXPECT_TRUE(world.alerts.shown.isEmpty());
     EXPECT_EQ(panels.prompts, QStringList{u"Join"_s});
     EXPECT_EQ(panels.startFolders, QStringList{QString(first).replace(u".m4a"_s, u" joined.m4a"_s)})
         << "it is named after the first one of the list";
