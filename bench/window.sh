@@ -59,6 +59,8 @@ listed_by_qmmp() {
     local count=0 peer
     qmmp >/dev/null 2>&1 &
     peer=$!
+    # Asked earlier, the asking qmmp would become the running one, and this one would end.
+    timeout 60 xdotool search --sync --onlyvisible --pid $peer >/dev/null
     for _ in $(seq 40); do
         count=$(timeout 5 qmmp --pl-dump 2>/dev/null | grep -c 'NO Artist' || true)
         [ "$count" = 0 ] || break
