@@ -241,6 +241,10 @@
         <source>%1 %</source>
         <translation>%1 %</translation>
     </message>
+    <message>
+        <source>%1 %, clipped</source>
+        <translation>%1 %، مع قصّ الذرى</translation>
+    </message>
 </context>
 <context>
     <name>AudioRowDelegate</name>
@@ -1737,6 +1741,18 @@ commands:
         <source>Record one program, whatever else plays.</source>
         <translation>تسجيل برنامج واحد أيًّا كان ما يُشغَّل غيره.</translation>
     </message>
+    <message>
+        <source>Of computer audio, give each file the title, artist, album and cover that the media player names.</source>
+        <translation>عند تسجيل صوت الحاسوب، ضع في كل ملف العنوان والفنان والألبوم والغلاف كما يذكرها مشغّل الوسائط.</translation>
+    </message>
+    <message>
+        <source>Of computer audio, begin a new file when the media player goes on to another track.</source>
+        <translation>عند تسجيل صوت الحاسوب، ابدأ ملفًا جديدًا عندما ينتقل مشغّل الوسائط إلى مقطوعة أخرى.</translation>
+    </message>
+    <message>
+        <source>Record an album without pauses, one file with its title for each track.</source>
+        <translation>سجّل ألبومًا لا فواصل فيه، كل مقطوعة في ملف بعنوانها.</translation>
+    </message>
 </context>
 <context>
     <name>Control</name>
@@ -1767,6 +1783,10 @@ commands:
     <message>
         <source>a part of it is damaged and cannot be measured</source>
         <translation>جزء منه تالف ولا يمكن قياسه</translation>
+    </message>
+    <message>
+        <source>%1 joined</source>
+        <translation>%1 مجمّع</translation>
     </message>
 </context>
 <context>
@@ -2675,6 +2695,26 @@ commands:
         <source>&amp;Unsorted</source>
         <translation>&amp;بلا ترتيب</translation>
     </message>
+    <message>
+        <source>Sp&amp;lit at Silences…</source>
+        <translation>&amp;قسّم عند الصمت…</translation>
+    </message>
+    <message>
+        <source>Cut the recording into several at its silences</source>
+        <translation>قسّم التسجيل إلى عدة تسجيلات عند مواضع صمته</translation>
+    </message>
+    <message>
+        <source>&amp;Join…</source>
+        <translation>ا&amp;جمع…</translation>
+    </message>
+    <message>
+        <source>Make one recording of the selected ones, in the order of the list</source>
+        <translation>اصنع تسجيلًا واحدًا من التسجيلات المحددة بترتيب القائمة</translation>
+    </message>
+    <message>
+        <source>Select two recordings or more first.</source>
+        <translation>حدّد تسجيلين أو أكثر أولًا.</translation>
+    </message>
 </context>
 <context>
     <name>MainWnd</name>
@@ -3028,6 +3068,21 @@ commands:
     </message>
 </context>
 <context>
+    <name>Players</name>
+    <message>
+        <source>the address is incomplete</source>
+        <translation>عنوان URL غير مكتمل</translation>
+    </message>
+    <message>
+        <source>the picture is too large</source>
+        <translation>الصورة أكبر مما ينبغي</translation>
+    </message>
+    <message>
+        <source>the picture is not a file of this machine</source>
+        <translation>الصورة ليست ملفًا على هذا الحاسوب</translation>
+    </message>
+</context>
+<context>
     <name>PreferenceWnd</name>
     <message>
         <source>Preferences</source>
@@ -3233,6 +3288,30 @@ commands:
         <source>Sonaphex waits in the status bar after you log in.</source>
         <translation>ينتظر Sonaphex في شريط الحالة بعد ولوجك.</translation>
     </message>
+    <message>
+        <source>Ta&amp;ke titles and covers from the media player</source>
+        <translation>خ&amp;ذ العناوين والأغلفة من مشغّل الوسائط</translation>
+    </message>
+    <message>
+        <source>Take titles and covers from the media player</source>
+        <translation>خذ العناوين والأغلفة من مشغّل الوسائط</translation>
+    </message>
+    <message>
+        <source>A recording of computer audio gets the title, artist, album and cover that the media player names for most of its length. Its file name stays as it is.</source>
+        <translation>يأخذ تسجيل صوت الحاسوب العنوان والفنان والألبوم والغلاف التي يذكرها مشغّل الوسائط خلال معظم مدة التسجيل. ويبقى اسم ملفه على حاله.</translation>
+    </message>
+    <message>
+        <source>Split &amp;computer audio when the media player changes the track</source>
+        <translation>قسّم صوت الحاسوب عند ت&amp;غيّر مقطوعة مشغّل الوسائط</translation>
+    </message>
+    <message>
+        <source>Split computer audio when the media player changes the track</source>
+        <translation>قسّم صوت الحاسوب عند تغيّر مقطوعة مشغّل الوسائط</translation>
+    </message>
+    <message>
+        <source>For albums without silences between the tracks.</source>
+        <translation>للألبومات التي لا صمت بين مقطوعاتها.</translation>
+    </message>
 </context>
 <context>
     <name>PreferenceWndController</name>
@@ -3396,6 +3475,10 @@ commands:
     <message>
         <source>No program has played yet</source>
         <translation>لم يشغّل أي برنامج شيئًا بعد</translation>
+    </message>
+    <message>
+        <source>P&amp;rograms to Record</source>
+        <translation>البرا&amp;مج المراد تسجيلها</translation>
     </message>
 </context>
 <context>
@@ -3797,6 +3880,18 @@ commands:
         <source>the device cannot be started</source>
         <translation>لا يمكن بدء تشغيل الجهاز</translation>
     </message>
+    <message>
+        <source>Less than a minute left on this disk</source>
+        <translation>المتبقي على هذا القرص: أقل من دقيقة</translation>
+    </message>
+    <message>
+        <source>About %1 min left on this disk</source>
+        <translation>المتبقي على هذا القرص: نحو %1 د</translation>
+    </message>
+    <message>
+        <source>About %1 h %2 min left on this disk</source>
+        <translation>المتبقي على هذا القرص: نحو %1 س %2 د</translation>
+    </message>
 </context>
 <context>
     <name>RecordPanel</name>
@@ -3929,6 +4024,44 @@ commands:
     <message>
         <source>the computer-audio device cannot choose programs; remove it and install it again</source>
         <translation>لا يستطيع جهاز صوت الحاسوب اختيار البرامج؛ أزله ثم ثبّته من جديد</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingJoin</name>
+    <message>
+        <source>The recordings were not joined.</source>
+        <translation>لم تُجمع التسجيلات.</translation>
+    </message>
+    <message>
+        <source>The file is no longer there: %1</source>
+        <translation>لم يعد الملف موجودًا: %1</translation>
+    </message>
+    <message>
+        <source>Join</source>
+        <translation>جمع</translation>
+    </message>
+    <message>
+        <source>This path exists, please change the path or name.</source>
+        <translation>هذا المسار موجود، يُرجى تغيير المسار أو الاسم.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Joining %n recordings…</source>
+        <translation>
+            <numerusform>لا تسجيلات لجمعها…</numerusform>
+            <numerusform>يجري جمع تسجيل واحد…</numerusform>
+            <numerusform>يجري جمع تسجيلين…</numerusform>
+            <numerusform>يجري جمع %n تسجيلات…</numerusform>
+            <numerusform>يجري جمع %n تسجيلًا…</numerusform>
+            <numerusform>يجري جمع %n تسجيل…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” was made. The recordings are not parts of one recording, so the sound was encoded again.</source>
+        <translation>صُنع «%1». التسجيلات ليست أجزاءً من تسجيل واحد، لذلك أُعيد ترميز الصوت.</translation>
+    </message>
+    <message>
+        <source>“%1” was made. The sound was copied without encoding it again.</source>
+        <translation>صُنع «%1». نُسخ الصوت من دون إعادة ترميزه.</translation>
     </message>
 </context>
 <context>
@@ -4173,6 +4306,189 @@ commands:
     </message>
 </context>
 <context>
+    <name>SplitEditView</name>
+    <message>
+        <source>Cut %1 of %2, %3</source>
+        <translation>موضع القطع %1 من %2، %3</translation>
+    </message>
+    <message>
+        <source>Cuts of the recording</source>
+        <translation>مواضع القطع في التسجيل</translation>
+    </message>
+    <message>
+        <source>Play position</source>
+        <translation>موضع التشغيل</translation>
+    </message>
+    <message>
+        <source>Current cut</source>
+        <translation>موضع القطع الحالي</translation>
+    </message>
+</context>
+<context>
+    <name>SplitPartsModel</name>
+    <message>
+        <source>Title</source>
+        <translation>العنوان</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>البداية</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>المدة</translation>
+    </message>
+</context>
+<context>
+    <name>SplitWnd</name>
+    <message>
+        <source>Split at Silences</source>
+        <translation>التقسيم عند الصمت</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>التسجيل</translation>
+    </message>
+    <message>
+        <source>Play time</source>
+        <translation>زمن التشغيل</translation>
+    </message>
+    <message>
+        <source>Visible part of the recording</source>
+        <translation>الجزء الظاهر من التسجيل</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>شغّل</translation>
+    </message>
+    <message>
+        <source>&amp;Listen to Cut</source>
+        <translation>ا&amp;ستمع إلى القطع</translation>
+    </message>
+    <message>
+        <source>Play from two seconds before the cut to two seconds behind it</source>
+        <translation>شغّل من ثانيتين قبل موضع القطع إلى ثانيتين بعده</translation>
+    </message>
+    <message>
+        <source>&amp;Add Cut</source>
+        <translation>أ&amp;ضف قطعًا</translation>
+    </message>
+    <message>
+        <source>Cut at the play position</source>
+        <translation>اقطع عند موضع التشغيل</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Cut</source>
+        <translation>أ&amp;زل القطع</translation>
+    </message>
+    <message>
+        <source>Take the current cut away</source>
+        <translation>أزل موضع القطع الحالي</translation>
+    </message>
+    <message>
+        <source>Rese&amp;t Cuts</source>
+        <translation>أ&amp;عِد ضبط القطع</translation>
+    </message>
+    <message>
+        <source>Take back the cuts that you added, moved and removed</source>
+        <translation>تراجع عما أضفته ونقلته وأزلته من مواضع القطع</translation>
+    </message>
+    <message>
+        <source>L&amp;evel</source>
+        <translation>المس&amp;توى</translation>
+    </message>
+    <message>
+        <source>Level below which it is silent, in decibels</source>
+        <translation>المستوى الذي يُعدّ ما دونه صمتًا، بالديسيبل</translation>
+    </message>
+    <message>
+        <source>Value of Level</source>
+        <translation>قيمة المستوى</translation>
+    </message>
+    <message>
+        <source>Len&amp;gth</source>
+        <translation>ال&amp;مدة</translation>
+    </message>
+    <message>
+        <source>Length of the shortest silence, in tenths of a second</source>
+        <translation>مدة أقصر صمت، بأعشار الثانية</translation>
+    </message>
+    <message>
+        <source>Value of Length</source>
+        <translation>قيمة المدة</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>الأجزاء</translation>
+    </message>
+    <message>
+        <source>&amp;Delete the recording when its parts are written</source>
+        <translation>ا&amp;حذف التسجيل بعد كتابة أجزائه</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>ألغِ</translation>
+    </message>
+    <message>
+        <source>&amp;Split</source>
+        <translation>&amp;قسّم</translation>
+    </message>
+</context>
+<context>
+    <name>SplitWndController</name>
+    <message>
+        <source>%1 dB</source>
+        <translation>%1 ديسيبل</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 ث</translation>
+    </message>
+    <message>
+        <source>Searching for silences… %1 %</source>
+        <translation>يجري البحث عن مواضع الصمت… %1 %</translation>
+    </message>
+    <message>
+        <source>No silence found at this level. Choose a higher level, or add cuts yourself.</source>
+        <translation>لم يُعثر على صمت عند هذا المستوى. اختر مستوى أعلى، أو أضف مواضع القطع بنفسك.</translation>
+    </message>
+    <message>
+        <source>No silence is long enough. The longest silence found: %1 s.</source>
+        <translation>لا صمت طويل بما يكفي. أطول صمت وُجد: %1 ث.</translation>
+    </message>
+    <message>
+        <source>One cut. The longest silence found: %1 s.</source>
+        <translation>موضع قطع واحد. أطول صمت وُجد: %1 ث.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cuts. The longest silence found: %1 s.</source>
+        <translation>
+            <numerusform>لا مواضع قطع. أطول صمت وُجد: %1 ث.</numerusform>
+            <numerusform>موضع قطع واحد. أطول صمت وُجد: %1 ث.</numerusform>
+            <numerusform>موضعا قطع. أطول صمت وُجد: %1 ث.</numerusform>
+            <numerusform>%n مواضع قطع. أطول صمت وُجد: %1 ث.</numerusform>
+            <numerusform>%n موضع قطع. أطول صمت وُجد: %1 ث.</numerusform>
+            <numerusform>%n موضع قطع. أطول صمت وُجد: %1 ث.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>ألبِث</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>شغّل</translation>
+    </message>
+    <message>
+        <source>Writing the parts…</source>
+        <translation>تجري كتابة الأجزاء…</translation>
+    </message>
+    <message>
+        <source>The recording was not split.</source>
+        <translation>لم يُقسَّم التسجيل.</translation>
+    </message>
+</context>
+<context>
     <name>SpokenField</name>
     <message>
         <source>%1: %2</source>
@@ -4237,6 +4553,10 @@ commands:
     <message>
         <source>Progress</source>
         <translation>التقدّم</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>ألغِ</translation>
     </message>
 </context>
 </TS>

@@ -241,6 +241,10 @@
         <source>%1 %</source>
         <translation>%1 %</translation>
     </message>
+    <message>
+        <source>%1 %, clipped</source>
+        <translation>%1 %, übersteuert</translation>
+    </message>
 </context>
 <context>
     <name>AudioRowDelegate</name>
@@ -1721,6 +1725,18 @@ Befehle:
         <source>Record one program, whatever else plays.</source>
         <translation>Ein Programm aufnehmen, was auch sonst spielt.</translation>
     </message>
+    <message>
+        <source>Of computer audio, give each file the title, artist, album and cover that the media player names.</source>
+        <translation>Beim Computerton jeder Datei Titel, Interpret, Album und Cover geben, die der Medien-Player nennt.</translation>
+    </message>
+    <message>
+        <source>Of computer audio, begin a new file when the media player goes on to another track.</source>
+        <translation>Beim Computerton eine neue Datei beginnen, wenn der Medien-Player zu einem anderen Stück wechselt.</translation>
+    </message>
+    <message>
+        <source>Record an album without pauses, one file with its title for each track.</source>
+        <translation>Ein Album ohne Pausen aufnehmen, eine Datei je Stück mit dessen Titel.</translation>
+    </message>
 </context>
 <context>
     <name>Control</name>
@@ -1751,6 +1767,10 @@ Befehle:
     <message>
         <source>a part of it is damaged and cannot be measured</source>
         <translation>ein Teil davon ist beschädigt und kann nicht gemessen werden</translation>
+    </message>
+    <message>
+        <source>%1 joined</source>
+        <translation>%1 verbunden</translation>
     </message>
 </context>
 <context>
@@ -2655,6 +2675,26 @@ Befehle:
         <source>&amp;Unsorted</source>
         <translation>&amp;Unsortiert</translation>
     </message>
+    <message>
+        <source>Sp&amp;lit at Silences…</source>
+        <translation>Bei St&amp;ille teilen…</translation>
+    </message>
+    <message>
+        <source>Cut the recording into several at its silences</source>
+        <translation>Die Aufnahme an stillen Stellen in mehrere teilen</translation>
+    </message>
+    <message>
+        <source>&amp;Join…</source>
+        <translation>&amp;Verbinden…</translation>
+    </message>
+    <message>
+        <source>Make one recording of the selected ones, in the order of the list</source>
+        <translation>Die ausgewählten Aufnahmen in der Reihenfolge der Liste zu einer verbinden</translation>
+    </message>
+    <message>
+        <source>Select two recordings or more first.</source>
+        <translation>Wählen Sie zuerst mindestens zwei Aufnahmen aus.</translation>
+    </message>
 </context>
 <context>
     <name>MainWnd</name>
@@ -3008,6 +3048,21 @@ Befehle:
     </message>
 </context>
 <context>
+    <name>Players</name>
+    <message>
+        <source>the address is incomplete</source>
+        <translation>die Adresse ist unvollständig</translation>
+    </message>
+    <message>
+        <source>the picture is too large</source>
+        <translation>das Bild ist zu groß</translation>
+    </message>
+    <message>
+        <source>the picture is not a file of this machine</source>
+        <translation>das Bild ist keine Datei auf diesem Rechner</translation>
+    </message>
+</context>
+<context>
     <name>PreferenceWnd</name>
     <message>
         <source>Preferences</source>
@@ -3213,6 +3268,30 @@ Befehle:
         <source>Sonaphex waits in the status bar after you log in.</source>
         <translation>Sonaphex wartet nach Ihrer Anmeldung in der Systemleiste.</translation>
     </message>
+    <message>
+        <source>Ta&amp;ke titles and covers from the media player</source>
+        <translation>Tite&amp;l und Cover vom Medien-Player übernehmen</translation>
+    </message>
+    <message>
+        <source>Take titles and covers from the media player</source>
+        <translation>Titel und Cover vom Medien-Player übernehmen</translation>
+    </message>
+    <message>
+        <source>A recording of computer audio gets the title, artist, album and cover that the media player names for most of its length. Its file name stays as it is.</source>
+        <translation>Eine Aufnahme des Computertons erhält Titel, Interpret, Album und Cover, die der Medien-Player während des größten Teils ihrer Dauer nennt. Ihr Dateiname bleibt, wie er ist.</translation>
+    </message>
+    <message>
+        <source>Split &amp;computer audio when the media player changes the track</source>
+        <translation>Computerton beim Stück&amp;wechsel teilen</translation>
+    </message>
+    <message>
+        <source>Split computer audio when the media player changes the track</source>
+        <translation>Computerton beim Stückwechsel teilen</translation>
+    </message>
+    <message>
+        <source>For albums without silences between the tracks.</source>
+        <translation>Für Alben ohne Stille zwischen den Stücken.</translation>
+    </message>
 </context>
 <context>
     <name>PreferenceWndController</name>
@@ -3376,6 +3455,10 @@ Befehle:
     <message>
         <source>No program has played yet</source>
         <translation>Noch hat kein Programm etwas gespielt</translation>
+    </message>
+    <message>
+        <source>P&amp;rograms to Record</source>
+        <translation>Aufzunehmende &amp;Programme</translation>
     </message>
 </context>
 <context>
@@ -3769,6 +3852,18 @@ Befehle:
         <source>the device cannot be started</source>
         <translation>das Gerät kann nicht gestartet werden</translation>
     </message>
+    <message>
+        <source>Less than a minute left on this disk</source>
+        <translation>Platz auf diesem Datenträger: unter 1 Minute</translation>
+    </message>
+    <message>
+        <source>About %1 min left on this disk</source>
+        <translation>Platz auf diesem Datenträger: etwa %1 min</translation>
+    </message>
+    <message>
+        <source>About %1 h %2 min left on this disk</source>
+        <translation>Platz auf diesem Datenträger: etwa %1 h %2 min</translation>
+    </message>
 </context>
 <context>
     <name>RecordPanel</name>
@@ -3901,6 +3996,40 @@ Befehle:
     <message>
         <source>the computer-audio device cannot choose programs; remove it and install it again</source>
         <translation>das Computerton-Gerät kann keine Programme auswählen; entfernen und neu installieren</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingJoin</name>
+    <message>
+        <source>The recordings were not joined.</source>
+        <translation>Die Aufnahmen wurden nicht verbunden.</translation>
+    </message>
+    <message>
+        <source>The file is no longer there: %1</source>
+        <translation>Die Datei ist nicht mehr vorhanden: %1</translation>
+    </message>
+    <message>
+        <source>Join</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>This path exists, please change the path or name.</source>
+        <translation>Dieser Pfad existiert bereits, bitte ändern Sie den Pfad oder den Namen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Joining %n recordings…</source>
+        <translation>
+            <numerusform>%n Aufnahme wird verbunden…</numerusform>
+            <numerusform>%n Aufnahmen werden verbunden…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” was made. The recordings are not parts of one recording, so the sound was encoded again.</source>
+        <translation>„%1“ wurde erstellt. Die Aufnahmen sind nicht Teile ein und derselben Aufnahme, daher wurde der Ton neu kodiert.</translation>
+    </message>
+    <message>
+        <source>“%1” was made. The sound was copied without encoding it again.</source>
+        <translation>„%1“ wurde erstellt. Der Ton wurde ohne erneutes Kodieren kopiert.</translation>
     </message>
 </context>
 <context>
@@ -4141,6 +4270,185 @@ Befehle:
     </message>
 </context>
 <context>
+    <name>SplitEditView</name>
+    <message>
+        <source>Cut %1 of %2, %3</source>
+        <translation>Schnitt %1 von %2, %3</translation>
+    </message>
+    <message>
+        <source>Cuts of the recording</source>
+        <translation>Schnitte der Aufnahme</translation>
+    </message>
+    <message>
+        <source>Play position</source>
+        <translation>Wiedergabeposition</translation>
+    </message>
+    <message>
+        <source>Current cut</source>
+        <translation>Aktueller Schnitt</translation>
+    </message>
+</context>
+<context>
+    <name>SplitPartsModel</name>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+</context>
+<context>
+    <name>SplitWnd</name>
+    <message>
+        <source>Split at Silences</source>
+        <translation>Bei Stille teilen</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Aufnahme</translation>
+    </message>
+    <message>
+        <source>Play time</source>
+        <translation>Wiedergabezeit</translation>
+    </message>
+    <message>
+        <source>Visible part of the recording</source>
+        <translation>Sichtbarer Teil der Aufnahme</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message>
+        <source>&amp;Listen to Cut</source>
+        <translation>Schnitt an&amp;hören</translation>
+    </message>
+    <message>
+        <source>Play from two seconds before the cut to two seconds behind it</source>
+        <translation>Von zwei Sekunden vor dem Schnitt bis zwei Sekunden danach abspielen</translation>
+    </message>
+    <message>
+        <source>&amp;Add Cut</source>
+        <translation>Schnitt &amp;setzen</translation>
+    </message>
+    <message>
+        <source>Cut at the play position</source>
+        <translation>An der Wiedergabeposition schneiden</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Cut</source>
+        <translation>Schnitt &amp;entfernen</translation>
+    </message>
+    <message>
+        <source>Take the current cut away</source>
+        <translation>Den aktuellen Schnitt entfernen</translation>
+    </message>
+    <message>
+        <source>Rese&amp;t Cuts</source>
+        <translation>&amp;Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Take back the cuts that you added, moved and removed</source>
+        <translation>Von Ihnen gesetzte, verschobene und entfernte Schnitte rückgängig machen</translation>
+    </message>
+    <message>
+        <source>L&amp;evel</source>
+        <translation>&amp;Pegel</translation>
+    </message>
+    <message>
+        <source>Level below which it is silent, in decibels</source>
+        <translation>Pegel, unter dem der Ton als still gilt, in Dezibel</translation>
+    </message>
+    <message>
+        <source>Value of Level</source>
+        <translation>Wert des Pegels</translation>
+    </message>
+    <message>
+        <source>Len&amp;gth</source>
+        <translation>&amp;Länge</translation>
+    </message>
+    <message>
+        <source>Length of the shortest silence, in tenths of a second</source>
+        <translation>Länge der kürzesten Stille, in Zehntelsekunden</translation>
+    </message>
+    <message>
+        <source>Value of Length</source>
+        <translation>Wert der Länge</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>Teile</translation>
+    </message>
+    <message>
+        <source>&amp;Delete the recording when its parts are written</source>
+        <translation>Die &amp;Aufnahme löschen, wenn ihre Teile geschrieben sind</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Split</source>
+        <translation>&amp;Teilen</translation>
+    </message>
+</context>
+<context>
+    <name>SplitWndController</name>
+    <message>
+        <source>%1 dB</source>
+        <translation>%1 dB</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Searching for silences… %1 %</source>
+        <translation>Suche nach Stille… %1 %</translation>
+    </message>
+    <message>
+        <source>No silence found at this level. Choose a higher level, or add cuts yourself.</source>
+        <translation>Keine Stille bei diesem Pegel gefunden. Wählen Sie einen höheren Pegel oder setzen Sie selbst Schnitte.</translation>
+    </message>
+    <message>
+        <source>No silence is long enough. The longest silence found: %1 s.</source>
+        <translation>Keine Stille ist lang genug. Längste gefundene Stille: %1 s.</translation>
+    </message>
+    <message>
+        <source>One cut. The longest silence found: %1 s.</source>
+        <translation>Ein Schnitt. Längste gefundene Stille: %1 s.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cuts. The longest silence found: %1 s.</source>
+        <translation>
+            <numerusform>%n Schnitt. Längste gefundene Stille: %1 s.</numerusform>
+            <numerusform>%n Schnitte. Längste gefundene Stille: %1 s.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message>
+        <source>Writing the parts…</source>
+        <translation>Die Teile werden geschrieben…</translation>
+    </message>
+    <message>
+        <source>The recording was not split.</source>
+        <translation>Die Aufnahme wurde nicht geteilt.</translation>
+    </message>
+</context>
+<context>
     <name>SpokenField</name>
     <message>
         <source>%1: %2</source>
@@ -4205,6 +4513,10 @@ Befehle:
     <message>
         <source>Progress</source>
         <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 </TS>

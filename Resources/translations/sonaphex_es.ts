@@ -241,6 +241,10 @@
         <source>%1 %</source>
         <translation>%1 %</translation>
     </message>
+    <message>
+        <source>%1 %, clipped</source>
+        <translation>%1 %, saturado</translation>
+    </message>
 </context>
 <context>
     <name>AudioRowDelegate</name>
@@ -1721,6 +1725,18 @@ commands:
         <source>Record one program, whatever else plays.</source>
         <translation>Grabar un programa, suene lo que suene además.</translation>
     </message>
+    <message>
+        <source>Of computer audio, give each file the title, artist, album and cover that the media player names.</source>
+        <translation>Con el audio del equipo, da a cada archivo el título, el artista, el álbum y la carátula que indica el reproductor multimedia.</translation>
+    </message>
+    <message>
+        <source>Of computer audio, begin a new file when the media player goes on to another track.</source>
+        <translation>Con el audio del equipo, empieza un archivo nuevo cuando el reproductor multimedia pasa a otra pista.</translation>
+    </message>
+    <message>
+        <source>Record an album without pauses, one file with its title for each track.</source>
+        <translation>Grabar un álbum sin pausas, un archivo con su título por cada pista.</translation>
+    </message>
 </context>
 <context>
     <name>Control</name>
@@ -1751,6 +1767,10 @@ commands:
     <message>
         <source>a part of it is damaged and cannot be measured</source>
         <translation>una parte está dañada y no se puede medir</translation>
+    </message>
+    <message>
+        <source>%1 joined</source>
+        <translation>%1 unida</translation>
     </message>
 </context>
 <context>
@@ -2655,6 +2675,26 @@ commands:
         <source>&amp;Unsorted</source>
         <translation>&amp;Sin ordenar</translation>
     </message>
+    <message>
+        <source>Sp&amp;lit at Silences…</source>
+        <translation>&amp;Dividir en los silencios…</translation>
+    </message>
+    <message>
+        <source>Cut the recording into several at its silences</source>
+        <translation>Corta la grabación en varias por sus silencios</translation>
+    </message>
+    <message>
+        <source>&amp;Join…</source>
+        <translation>&amp;Unir…</translation>
+    </message>
+    <message>
+        <source>Make one recording of the selected ones, in the order of the list</source>
+        <translation>Crea una sola grabación con las seleccionadas, en el orden de la lista</translation>
+    </message>
+    <message>
+        <source>Select two recordings or more first.</source>
+        <translation>Seleccione antes dos grabaciones o más.</translation>
+    </message>
 </context>
 <context>
     <name>MainWnd</name>
@@ -3008,6 +3048,21 @@ commands:
     </message>
 </context>
 <context>
+    <name>Players</name>
+    <message>
+        <source>the address is incomplete</source>
+        <translation>la dirección está incompleta</translation>
+    </message>
+    <message>
+        <source>the picture is too large</source>
+        <translation>la imagen es demasiado grande</translation>
+    </message>
+    <message>
+        <source>the picture is not a file of this machine</source>
+        <translation>la imagen no es un archivo de este equipo</translation>
+    </message>
+</context>
+<context>
     <name>PreferenceWnd</name>
     <message>
         <source>Preferences</source>
@@ -3213,6 +3268,30 @@ commands:
         <source>Sonaphex waits in the status bar after you log in.</source>
         <translation>Sonaphex espera en la bandeja del sistema después de iniciar sesión.</translation>
     </message>
+    <message>
+        <source>Ta&amp;ke titles and covers from the media player</source>
+        <translation>Tom&amp;ar títulos y carátulas del reproductor multimedia</translation>
+    </message>
+    <message>
+        <source>Take titles and covers from the media player</source>
+        <translation>Tomar títulos y carátulas del reproductor multimedia</translation>
+    </message>
+    <message>
+        <source>A recording of computer audio gets the title, artist, album and cover that the media player names for most of its length. Its file name stays as it is.</source>
+        <translation>Una grabación del audio del equipo recibe el título, el artista, el álbum y la carátula que el reproductor multimedia indica durante la mayor parte de su duración. Su nombre de archivo se queda como está.</translation>
+    </message>
+    <message>
+        <source>Split &amp;computer audio when the media player changes the track</source>
+        <translation>Dividir el audio del e&amp;quipo al cambiar de pista el reproductor</translation>
+    </message>
+    <message>
+        <source>Split computer audio when the media player changes the track</source>
+        <translation>Dividir el audio del equipo al cambiar de pista el reproductor</translation>
+    </message>
+    <message>
+        <source>For albums without silences between the tracks.</source>
+        <translation>Para álbumes sin silencios entre las pistas.</translation>
+    </message>
 </context>
 <context>
     <name>PreferenceWndController</name>
@@ -3376,6 +3455,10 @@ commands:
     <message>
         <source>No program has played yet</source>
         <translation>Aún no ha sonado ningún programa</translation>
+    </message>
+    <message>
+        <source>P&amp;rograms to Record</source>
+        <translation>&amp;Programas que se graban</translation>
     </message>
 </context>
 <context>
@@ -3769,6 +3852,18 @@ commands:
         <source>the device cannot be started</source>
         <translation>no se puede iniciar el dispositivo</translation>
     </message>
+    <message>
+        <source>Less than a minute left on this disk</source>
+        <translation>Queda menos de un minuto en este disco</translation>
+    </message>
+    <message>
+        <source>About %1 min left on this disk</source>
+        <translation>Quedan alrededor de %1 min en este disco</translation>
+    </message>
+    <message>
+        <source>About %1 h %2 min left on this disk</source>
+        <translation>Quedan alrededor de %1 h %2 min en este disco</translation>
+    </message>
 </context>
 <context>
     <name>RecordPanel</name>
@@ -3901,6 +3996,40 @@ commands:
     <message>
         <source>the computer-audio device cannot choose programs; remove it and install it again</source>
         <translation>el dispositivo de audio del equipo no puede elegir programas; quítelo y vuelva a instalarlo</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingJoin</name>
+    <message>
+        <source>The recordings were not joined.</source>
+        <translation>No se unieron las grabaciones.</translation>
+    </message>
+    <message>
+        <source>The file is no longer there: %1</source>
+        <translation>El archivo ya no está ahí: %1</translation>
+    </message>
+    <message>
+        <source>Join</source>
+        <translation>Unir</translation>
+    </message>
+    <message>
+        <source>This path exists, please change the path or name.</source>
+        <translation>Esta ruta ya existe; cambie la ruta o el nombre.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Joining %n recordings…</source>
+        <translation>
+            <numerusform>Uniendo %n grabación…</numerusform>
+            <numerusform>Uniendo %n grabaciones…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” was made. The recordings are not parts of one recording, so the sound was encoded again.</source>
+        <translation>Se creó «%1». Las grabaciones no son partes de una misma grabación, así que el sonido se volvió a codificar.</translation>
+    </message>
+    <message>
+        <source>“%1” was made. The sound was copied without encoding it again.</source>
+        <translation>Se creó «%1». El sonido se copió sin volver a codificarlo.</translation>
     </message>
 </context>
 <context>
@@ -4141,6 +4270,185 @@ commands:
     </message>
 </context>
 <context>
+    <name>SplitEditView</name>
+    <message>
+        <source>Cut %1 of %2, %3</source>
+        <translation>Corte %1 de %2, %3</translation>
+    </message>
+    <message>
+        <source>Cuts of the recording</source>
+        <translation>Cortes de la grabación</translation>
+    </message>
+    <message>
+        <source>Play position</source>
+        <translation>Posición de reproducción</translation>
+    </message>
+    <message>
+        <source>Current cut</source>
+        <translation>Corte actual</translation>
+    </message>
+</context>
+<context>
+    <name>SplitPartsModel</name>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Duración</translation>
+    </message>
+</context>
+<context>
+    <name>SplitWnd</name>
+    <message>
+        <source>Split at Silences</source>
+        <translation>Dividir en los silencios</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Grabación</translation>
+    </message>
+    <message>
+        <source>Play time</source>
+        <translation>Tiempo de reproducción</translation>
+    </message>
+    <message>
+        <source>Visible part of the recording</source>
+        <translation>Parte visible de la grabación</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproducir</translation>
+    </message>
+    <message>
+        <source>&amp;Listen to Cut</source>
+        <translation>Es&amp;cuchar corte</translation>
+    </message>
+    <message>
+        <source>Play from two seconds before the cut to two seconds behind it</source>
+        <translation>Reproduce desde dos segundos antes del corte hasta dos segundos después</translation>
+    </message>
+    <message>
+        <source>&amp;Add Cut</source>
+        <translation>&amp;Añadir corte</translation>
+    </message>
+    <message>
+        <source>Cut at the play position</source>
+        <translation>Corta en la posición de reproducción</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Cut</source>
+        <translation>&amp;Quitar corte</translation>
+    </message>
+    <message>
+        <source>Take the current cut away</source>
+        <translation>Quita el corte actual</translation>
+    </message>
+    <message>
+        <source>Rese&amp;t Cuts</source>
+        <translation>Res&amp;tablecer</translation>
+    </message>
+    <message>
+        <source>Take back the cuts that you added, moved and removed</source>
+        <translation>Deshace los cortes que añadió, movió y quitó</translation>
+    </message>
+    <message>
+        <source>L&amp;evel</source>
+        <translation>&amp;Nivel</translation>
+    </message>
+    <message>
+        <source>Level below which it is silent, in decibels</source>
+        <translation>Nivel por debajo del cual hay silencio, en decibelios</translation>
+    </message>
+    <message>
+        <source>Value of Level</source>
+        <translation>Valor del nivel</translation>
+    </message>
+    <message>
+        <source>Len&amp;gth</source>
+        <translation>D&amp;uración</translation>
+    </message>
+    <message>
+        <source>Length of the shortest silence, in tenths of a second</source>
+        <translation>Duración del silencio más corto, en décimas de segundo</translation>
+    </message>
+    <message>
+        <source>Value of Length</source>
+        <translation>Valor de la duración</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>Partes</translation>
+    </message>
+    <message>
+        <source>&amp;Delete the recording when its parts are written</source>
+        <translation>&amp;Eliminar la grabación una vez escritas sus partes</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Split</source>
+        <translation>&amp;Dividir</translation>
+    </message>
+</context>
+<context>
+    <name>SplitWndController</name>
+    <message>
+        <source>%1 dB</source>
+        <translation>%1 dB</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Searching for silences… %1 %</source>
+        <translation>Buscando silencios… %1 %</translation>
+    </message>
+    <message>
+        <source>No silence found at this level. Choose a higher level, or add cuts yourself.</source>
+        <translation>No se encontró ningún silencio con este nivel. Elija un nivel más alto o añada cortes manualmente.</translation>
+    </message>
+    <message>
+        <source>No silence is long enough. The longest silence found: %1 s.</source>
+        <translation>Ningún silencio es lo bastante largo. Silencio más largo encontrado: %1 s.</translation>
+    </message>
+    <message>
+        <source>One cut. The longest silence found: %1 s.</source>
+        <translation>Un corte. Silencio más largo encontrado: %1 s.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cuts. The longest silence found: %1 s.</source>
+        <translation>
+            <numerusform>%n corte. Silencio más largo encontrado: %1 s.</numerusform>
+            <numerusform>%n cortes. Silencio más largo encontrado: %1 s.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausar</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproducir</translation>
+    </message>
+    <message>
+        <source>Writing the parts…</source>
+        <translation>Escribiendo las partes…</translation>
+    </message>
+    <message>
+        <source>The recording was not split.</source>
+        <translation>No se dividió la grabación.</translation>
+    </message>
+</context>
+<context>
     <name>SpokenField</name>
     <message>
         <source>%1: %2</source>
@@ -4205,6 +4513,10 @@ commands:
     <message>
         <source>Progress</source>
         <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 </TS>

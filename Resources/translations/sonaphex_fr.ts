@@ -241,6 +241,10 @@
         <source>%1 %</source>
         <translation>%1 %</translation>
     </message>
+    <message>
+        <source>%1 %, clipped</source>
+        <translation>%1 %, écrêté</translation>
+    </message>
 </context>
 <context>
     <name>AudioRowDelegate</name>
@@ -1721,6 +1725,18 @@ commandes&#xa0;:
         <source>Record one program, whatever else plays.</source>
         <translation>Enregistrer un programme, quoi que jouent les autres.</translation>
     </message>
+    <message>
+        <source>Of computer audio, give each file the title, artist, album and cover that the media player names.</source>
+        <translation>Pour le son de l’ordinateur, donner à chaque fichier le titre, l’artiste, l’album et la pochette qu’indique le lecteur multimédia.</translation>
+    </message>
+    <message>
+        <source>Of computer audio, begin a new file when the media player goes on to another track.</source>
+        <translation>Pour le son de l’ordinateur, commencer un nouveau fichier quand le lecteur multimédia passe à un autre morceau.</translation>
+    </message>
+    <message>
+        <source>Record an album without pauses, one file with its title for each track.</source>
+        <translation>Enregistrer un album sans pauses, un fichier avec son titre par morceau.</translation>
+    </message>
 </context>
 <context>
     <name>Control</name>
@@ -1751,6 +1767,10 @@ commandes&#xa0;:
     <message>
         <source>a part of it is damaged and cannot be measured</source>
         <translation>une partie est endommagée et ne peut pas être mesurée</translation>
+    </message>
+    <message>
+        <source>%1 joined</source>
+        <translation>%1 réuni</translation>
     </message>
 </context>
 <context>
@@ -2655,6 +2675,26 @@ commandes&#xa0;:
         <source>&amp;Unsorted</source>
         <translation>&amp;Non trié</translation>
     </message>
+    <message>
+        <source>Sp&amp;lit at Silences…</source>
+        <translation>Di&amp;viser aux silences…</translation>
+    </message>
+    <message>
+        <source>Cut the recording into several at its silences</source>
+        <translation>Diviser l’enregistrement en plusieurs à ses silences</translation>
+    </message>
+    <message>
+        <source>&amp;Join…</source>
+        <translation>Réu&amp;nir…</translation>
+    </message>
+    <message>
+        <source>Make one recording of the selected ones, in the order of the list</source>
+        <translation>Réunir les enregistrements sélectionnés en un seul, dans l’ordre de la liste</translation>
+    </message>
+    <message>
+        <source>Select two recordings or more first.</source>
+        <translation>Sélectionnez d’abord au moins deux enregistrements.</translation>
+    </message>
 </context>
 <context>
     <name>MainWnd</name>
@@ -3008,6 +3048,21 @@ commandes&#xa0;:
     </message>
 </context>
 <context>
+    <name>Players</name>
+    <message>
+        <source>the address is incomplete</source>
+        <translation>l’adresse est incomplète</translation>
+    </message>
+    <message>
+        <source>the picture is too large</source>
+        <translation>l’image est trop volumineuse</translation>
+    </message>
+    <message>
+        <source>the picture is not a file of this machine</source>
+        <translation>l’image n’est pas un fichier de cette machine</translation>
+    </message>
+</context>
+<context>
     <name>PreferenceWnd</name>
     <message>
         <source>Preferences</source>
@@ -3213,6 +3268,30 @@ commandes&#xa0;:
         <source>Sonaphex waits in the status bar after you log in.</source>
         <translation>Sonaphex attend dans la zone de notification après votre connexion.</translation>
     </message>
+    <message>
+        <source>Ta&amp;ke titles and covers from the media player</source>
+        <translation>Prendre &amp;les titres et pochettes du lecteur multimédia</translation>
+    </message>
+    <message>
+        <source>Take titles and covers from the media player</source>
+        <translation>Prendre les titres et pochettes du lecteur multimédia</translation>
+    </message>
+    <message>
+        <source>A recording of computer audio gets the title, artist, album and cover that the media player names for most of its length. Its file name stays as it is.</source>
+        <translation>Un enregistrement du son de l’ordinateur reçoit le titre, l’artiste, l’album et la pochette que le lecteur multimédia indique pendant la plus grande partie de sa durée. Son nom de fichier reste tel quel.</translation>
+    </message>
+    <message>
+        <source>Split &amp;computer audio when the media player changes the track</source>
+        <translation>Diviser le son de l’ordinateur au c&amp;hangement de morceau du lecteur</translation>
+    </message>
+    <message>
+        <source>Split computer audio when the media player changes the track</source>
+        <translation>Diviser le son de l’ordinateur au changement de morceau du lecteur</translation>
+    </message>
+    <message>
+        <source>For albums without silences between the tracks.</source>
+        <translation>Pour les albums sans silence entre les morceaux.</translation>
+    </message>
 </context>
 <context>
     <name>PreferenceWndController</name>
@@ -3376,6 +3455,10 @@ commandes&#xa0;:
     <message>
         <source>No program has played yet</source>
         <translation>Aucun programme n’a encore joué</translation>
+    </message>
+    <message>
+        <source>P&amp;rograms to Record</source>
+        <translation>&amp;Programmes à enregistrer</translation>
     </message>
 </context>
 <context>
@@ -3769,6 +3852,18 @@ commandes&#xa0;:
         <source>the device cannot be started</source>
         <translation>impossible de démarrer le périphérique</translation>
     </message>
+    <message>
+        <source>Less than a minute left on this disk</source>
+        <translation>Il reste moins d’une minute sur ce disque</translation>
+    </message>
+    <message>
+        <source>About %1 min left on this disk</source>
+        <translation>Il reste environ %1 min sur ce disque</translation>
+    </message>
+    <message>
+        <source>About %1 h %2 min left on this disk</source>
+        <translation>Il reste environ %1 h %2 min sur ce disque</translation>
+    </message>
 </context>
 <context>
     <name>RecordPanel</name>
@@ -3901,6 +3996,40 @@ commandes&#xa0;:
     <message>
         <source>the computer-audio device cannot choose programs; remove it and install it again</source>
         <translation>le périphérique d’audio de l’ordinateur ne peut pas choisir de programmes ; supprimez-le et réinstallez-le</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingJoin</name>
+    <message>
+        <source>The recordings were not joined.</source>
+        <translation>Les enregistrements n’ont pas été réunis.</translation>
+    </message>
+    <message>
+        <source>The file is no longer there: %1</source>
+        <translation>Le fichier n’existe plus : %1</translation>
+    </message>
+    <message>
+        <source>Join</source>
+        <translation>Réunir</translation>
+    </message>
+    <message>
+        <source>This path exists, please change the path or name.</source>
+        <translation>Ce chemin existe déjà, veuillez changer le chemin ou le nom.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Joining %n recordings…</source>
+        <translation>
+            <numerusform>Réunion de %n enregistrement…</numerusform>
+            <numerusform>Réunion de %n enregistrements…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” was made. The recordings are not parts of one recording, so the sound was encoded again.</source>
+        <translation>« %1 » a été créé. Les enregistrements ne sont pas des parties d’un même enregistrement, le son a donc été réencodé.</translation>
+    </message>
+    <message>
+        <source>“%1” was made. The sound was copied without encoding it again.</source>
+        <translation>« %1 » a été créé. Le son a été copié sans être réencodé.</translation>
     </message>
 </context>
 <context>
@@ -4141,6 +4270,185 @@ commandes&#xa0;:
     </message>
 </context>
 <context>
+    <name>SplitEditView</name>
+    <message>
+        <source>Cut %1 of %2, %3</source>
+        <translation>Coupe %1 sur %2, %3</translation>
+    </message>
+    <message>
+        <source>Cuts of the recording</source>
+        <translation>Coupes de l’enregistrement</translation>
+    </message>
+    <message>
+        <source>Play position</source>
+        <translation>Position de lecture</translation>
+    </message>
+    <message>
+        <source>Current cut</source>
+        <translation>Coupe actuelle</translation>
+    </message>
+</context>
+<context>
+    <name>SplitPartsModel</name>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Durée</translation>
+    </message>
+</context>
+<context>
+    <name>SplitWnd</name>
+    <message>
+        <source>Split at Silences</source>
+        <translation>Diviser aux silences</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message>
+        <source>Play time</source>
+        <translation>Temps de lecture</translation>
+    </message>
+    <message>
+        <source>Visible part of the recording</source>
+        <translation>Partie visible de l’enregistrement</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
+        <source>&amp;Listen to Cut</source>
+        <translation>É&amp;couter la coupe</translation>
+    </message>
+    <message>
+        <source>Play from two seconds before the cut to two seconds behind it</source>
+        <translation>Lire de deux secondes avant la coupe à deux secondes après</translation>
+    </message>
+    <message>
+        <source>&amp;Add Cut</source>
+        <translation>&amp;Ajouter une coupe</translation>
+    </message>
+    <message>
+        <source>Cut at the play position</source>
+        <translation>Couper à la position de lecture</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Cut</source>
+        <translation>&amp;Retirer la coupe</translation>
+    </message>
+    <message>
+        <source>Take the current cut away</source>
+        <translation>Retirer la coupe actuelle</translation>
+    </message>
+    <message>
+        <source>Rese&amp;t Cuts</source>
+        <translation>Ré&amp;initialiser</translation>
+    </message>
+    <message>
+        <source>Take back the cuts that you added, moved and removed</source>
+        <translation>Annuler vos ajouts, déplacements et retraits de coupes</translation>
+    </message>
+    <message>
+        <source>L&amp;evel</source>
+        <translation>&amp;Niveau</translation>
+    </message>
+    <message>
+        <source>Level below which it is silent, in decibels</source>
+        <translation>Niveau en dessous duquel il y a silence, en décibels</translation>
+    </message>
+    <message>
+        <source>Value of Level</source>
+        <translation>Valeur du niveau</translation>
+    </message>
+    <message>
+        <source>Len&amp;gth</source>
+        <translation>D&amp;urée</translation>
+    </message>
+    <message>
+        <source>Length of the shortest silence, in tenths of a second</source>
+        <translation>Durée du silence le plus court, en dixièmes de seconde</translation>
+    </message>
+    <message>
+        <source>Value of Length</source>
+        <translation>Valeur de la durée</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>Parties</translation>
+    </message>
+    <message>
+        <source>&amp;Delete the recording when its parts are written</source>
+        <translation>&amp;Supprimer l’enregistrement une fois ses parties écrites</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Split</source>
+        <translation>&amp;Diviser</translation>
+    </message>
+</context>
+<context>
+    <name>SplitWndController</name>
+    <message>
+        <source>%1 dB</source>
+        <translation>%1 dB</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Searching for silences… %1 %</source>
+        <translation>Recherche des silences… %1 %</translation>
+    </message>
+    <message>
+        <source>No silence found at this level. Choose a higher level, or add cuts yourself.</source>
+        <translation>Aucun silence trouvé à ce niveau. Choisissez un niveau plus élevé ou ajoutez vous-même des coupes.</translation>
+    </message>
+    <message>
+        <source>No silence is long enough. The longest silence found: %1 s.</source>
+        <translation>Aucun silence n’est assez long. Plus long silence trouvé : %1 s.</translation>
+    </message>
+    <message>
+        <source>One cut. The longest silence found: %1 s.</source>
+        <translation>Une coupe. Plus long silence trouvé : %1 s.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cuts. The longest silence found: %1 s.</source>
+        <translation>
+            <numerusform>%n coupe. Plus long silence trouvé : %1 s.</numerusform>
+            <numerusform>%n coupes. Plus long silence trouvé : %1 s.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
+        <source>Writing the parts…</source>
+        <translation>Écriture des parties…</translation>
+    </message>
+    <message>
+        <source>The recording was not split.</source>
+        <translation>L’enregistrement n’a pas été divisé.</translation>
+    </message>
+</context>
+<context>
     <name>SpokenField</name>
     <message>
         <source>%1: %2</source>
@@ -4205,6 +4513,10 @@ commandes&#xa0;:
     <message>
         <source>Progress</source>
         <translation>Progression</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
     </message>
 </context>
 </TS>

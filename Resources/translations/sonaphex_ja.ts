@@ -241,6 +241,10 @@
         <source>%1 %</source>
         <translation>%1 %</translation>
     </message>
+    <message>
+        <source>%1 %, clipped</source>
+        <translation>%1 %、クリップ</translation>
+    </message>
 </context>
 <context>
     <name>AudioRowDelegate</name>
@@ -1717,6 +1721,18 @@ commands:
         <source>Record one program, whatever else plays.</source>
         <translation>ほかに何が再生されていても、1つのプログラムだけを録音します。</translation>
     </message>
+    <message>
+        <source>Of computer audio, give each file the title, artist, album and cover that the media player names.</source>
+        <translation>コンピューター音声の録音で、メディアプレーヤーが示すタイトル、アーティスト、アルバム、カバーを各ファイルに付けます。</translation>
+    </message>
+    <message>
+        <source>Of computer audio, begin a new file when the media player goes on to another track.</source>
+        <translation>コンピューター音声の録音で、メディアプレーヤーが別の曲に移ったら新しいファイルを始めます。</translation>
+    </message>
+    <message>
+        <source>Record an album without pauses, one file with its title for each track.</source>
+        <translation>曲間に無音のないアルバムを、曲ごとにタイトル付きの 1 ファイルで録音します。</translation>
+    </message>
 </context>
 <context>
     <name>Control</name>
@@ -1747,6 +1763,10 @@ commands:
     <message>
         <source>a part of it is damaged and cannot be measured</source>
         <translation>一部が破損しているため測定できません</translation>
+    </message>
+    <message>
+        <source>%1 joined</source>
+        <translation>%1 連結</translation>
     </message>
 </context>
 <context>
@@ -2650,6 +2670,26 @@ commands:
         <source>&amp;Unsorted</source>
         <translation>並べ替えなし(&amp;U)</translation>
     </message>
+    <message>
+        <source>Sp&amp;lit at Silences…</source>
+        <translation>無音で分割(&amp;L)…</translation>
+    </message>
+    <message>
+        <source>Cut the recording into several at its silences</source>
+        <translation>録音を無音の位置で複数に分割します</translation>
+    </message>
+    <message>
+        <source>&amp;Join…</source>
+        <translation>連結(&amp;J)…</translation>
+    </message>
+    <message>
+        <source>Make one recording of the selected ones, in the order of the list</source>
+        <translation>選択した録音を一覧の順に連結し、1 つの録音にします</translation>
+    </message>
+    <message>
+        <source>Select two recordings or more first.</source>
+        <translation>先に 2 つ以上の録音を選択してください。</translation>
+    </message>
 </context>
 <context>
     <name>MainWnd</name>
@@ -3003,6 +3043,21 @@ commands:
     </message>
 </context>
 <context>
+    <name>Players</name>
+    <message>
+        <source>the address is incomplete</source>
+        <translation>アドレスが不完全です</translation>
+    </message>
+    <message>
+        <source>the picture is too large</source>
+        <translation>画像が大きすぎます</translation>
+    </message>
+    <message>
+        <source>the picture is not a file of this machine</source>
+        <translation>画像がこのマシンのファイルではありません</translation>
+    </message>
+</context>
+<context>
     <name>PreferenceWnd</name>
     <message>
         <source>Preferences</source>
@@ -3208,6 +3263,30 @@ commands:
         <source>Sonaphex waits in the status bar after you log in.</source>
         <translation>ログインすると、Sonaphex がシステムトレイで待機します。</translation>
     </message>
+    <message>
+        <source>Ta&amp;ke titles and covers from the media player</source>
+        <translation>メディアプレーヤーからタイトルとカバーを取得(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Take titles and covers from the media player</source>
+        <translation>メディアプレーヤーからタイトルとカバーを取得</translation>
+    </message>
+    <message>
+        <source>A recording of computer audio gets the title, artist, album and cover that the media player names for most of its length. Its file name stays as it is.</source>
+        <translation>コンピューター音声の録音に、録音時間の大半でメディアプレーヤーが示していたタイトル、アーティスト、アルバム、カバーを付けます。ファイル名は変わりません。</translation>
+    </message>
+    <message>
+        <source>Split &amp;computer audio when the media player changes the track</source>
+        <translation>メディアプレーヤーの曲が変わったらコンピューター音声を分割(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Split computer audio when the media player changes the track</source>
+        <translation>メディアプレーヤーの曲が変わったらコンピューター音声を分割</translation>
+    </message>
+    <message>
+        <source>For albums without silences between the tracks.</source>
+        <translation>曲間に無音がないアルバム向けです。</translation>
+    </message>
 </context>
 <context>
     <name>PreferenceWndController</name>
@@ -3371,6 +3450,10 @@ commands:
     <message>
         <source>No program has played yet</source>
         <translation>まだ再生したプログラムはありません</translation>
+    </message>
+    <message>
+        <source>P&amp;rograms to Record</source>
+        <translation>録音するプログラム(&amp;R)</translation>
     </message>
 </context>
 <context>
@@ -3762,6 +3845,18 @@ commands:
         <source>the device cannot be started</source>
         <translation>デバイスを開始できません</translation>
     </message>
+    <message>
+        <source>Less than a minute left on this disk</source>
+        <translation>このディスクの録音可能時間: 1 分未満</translation>
+    </message>
+    <message>
+        <source>About %1 min left on this disk</source>
+        <translation>このディスクの録音可能時間: 約 %1 分</translation>
+    </message>
+    <message>
+        <source>About %1 h %2 min left on this disk</source>
+        <translation>このディスクの録音可能時間: 約 %1 時間 %2 分</translation>
+    </message>
 </context>
 <context>
     <name>RecordPanel</name>
@@ -3894,6 +3989,39 @@ commands:
     <message>
         <source>the computer-audio device cannot choose programs; remove it and install it again</source>
         <translation>コンピューター音声のデバイスはプログラムを選べません。削除してからもう一度インストールしてください</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingJoin</name>
+    <message>
+        <source>The recordings were not joined.</source>
+        <translation>録音は連結されませんでした。</translation>
+    </message>
+    <message>
+        <source>The file is no longer there: %1</source>
+        <translation>ファイルはもうありません: %1</translation>
+    </message>
+    <message>
+        <source>Join</source>
+        <translation>連結</translation>
+    </message>
+    <message>
+        <source>This path exists, please change the path or name.</source>
+        <translation>このパスはすでに存在します。パスまたは名前を変更してください。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Joining %n recordings…</source>
+        <translation>
+            <numerusform>%n 件の録音を連結しています…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” was made. The recordings are not parts of one recording, so the sound was encoded again.</source>
+        <translation>「%1」を作成しました。1 つの録音を分けたものではないため、音声を再エンコードしました。</translation>
+    </message>
+    <message>
+        <source>“%1” was made. The sound was copied without encoding it again.</source>
+        <translation>「%1」を作成しました。音声は再エンコードせずにコピーしました。</translation>
     </message>
 </context>
 <context>
@@ -4133,6 +4261,184 @@ commands:
     </message>
 </context>
 <context>
+    <name>SplitEditView</name>
+    <message>
+        <source>Cut %1 of %2, %3</source>
+        <translation>分割位置 %1/%2、%3</translation>
+    </message>
+    <message>
+        <source>Cuts of the recording</source>
+        <translation>録音の分割位置</translation>
+    </message>
+    <message>
+        <source>Play position</source>
+        <translation>再生位置</translation>
+    </message>
+    <message>
+        <source>Current cut</source>
+        <translation>現在の分割位置</translation>
+    </message>
+</context>
+<context>
+    <name>SplitPartsModel</name>
+    <message>
+        <source>Title</source>
+        <translation>タイトル</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>長さ</translation>
+    </message>
+</context>
+<context>
+    <name>SplitWnd</name>
+    <message>
+        <source>Split at Silences</source>
+        <translation>無音で分割</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>録音</translation>
+    </message>
+    <message>
+        <source>Play time</source>
+        <translation>再生時間</translation>
+    </message>
+    <message>
+        <source>Visible part of the recording</source>
+        <translation>録音の表示範囲</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>&amp;Listen to Cut</source>
+        <translation>試聴(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Play from two seconds before the cut to two seconds behind it</source>
+        <translation>分割位置の 2 秒前から 2 秒後までを再生します</translation>
+    </message>
+    <message>
+        <source>&amp;Add Cut</source>
+        <translation>分割位置を追加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Cut at the play position</source>
+        <translation>再生位置で分割します</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Cut</source>
+        <translation>分割位置を削除(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Take the current cut away</source>
+        <translation>現在の分割位置を取り除きます</translation>
+    </message>
+    <message>
+        <source>Rese&amp;t Cuts</source>
+        <translation>リセット(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Take back the cuts that you added, moved and removed</source>
+        <translation>分割位置の追加、移動、削除を取り消します</translation>
+    </message>
+    <message>
+        <source>L&amp;evel</source>
+        <translation>レベル(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Level below which it is silent, in decibels</source>
+        <translation>無音とみなすレベルの上限 (デシベル)</translation>
+    </message>
+    <message>
+        <source>Value of Level</source>
+        <translation>レベルの値</translation>
+    </message>
+    <message>
+        <source>Len&amp;gth</source>
+        <translation>長さ(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Length of the shortest silence, in tenths of a second</source>
+        <translation>最短の無音の長さ (0.1 秒単位)</translation>
+    </message>
+    <message>
+        <source>Value of Length</source>
+        <translation>長さの値</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>分割後の録音</translation>
+    </message>
+    <message>
+        <source>&amp;Delete the recording when its parts are written</source>
+        <translation>分割後の録音を書き込んだら元の録音を削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>&amp;Split</source>
+        <translation>分割(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>SplitWndController</name>
+    <message>
+        <source>%1 dB</source>
+        <translation>%1 dB</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>Searching for silences… %1 %</source>
+        <translation>無音を検索しています… %1 %</translation>
+    </message>
+    <message>
+        <source>No silence found at this level. Choose a higher level, or add cuts yourself.</source>
+        <translation>このレベルでは無音が見つかりません。レベルを上げるか、分割位置を自分で追加してください。</translation>
+    </message>
+    <message>
+        <source>No silence is long enough. The longest silence found: %1 s.</source>
+        <translation>十分な長さの無音がありません。見つかった最長の無音: %1 秒。</translation>
+    </message>
+    <message>
+        <source>One cut. The longest silence found: %1 s.</source>
+        <translation>分割位置は 1 か所です。見つかった最長の無音: %1 秒。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cuts. The longest silence found: %1 s.</source>
+        <translation>
+            <numerusform>分割位置は %n か所です。見つかった最長の無音: %1 秒。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>Writing the parts…</source>
+        <translation>分割後の録音を書き込んでいます…</translation>
+    </message>
+    <message>
+        <source>The recording was not split.</source>
+        <translation>録音は分割されませんでした。</translation>
+    </message>
+</context>
+<context>
     <name>SpokenField</name>
     <message>
         <source>%1: %2</source>
@@ -4197,6 +4503,10 @@ commands:
     <message>
         <source>Progress</source>
         <translation>進捗</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
     </message>
 </context>
 </TS>
