@@ -5,7 +5,6 @@
 #include "Platform/Audio/ClientFormat.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/Media/ExtAudioFile.h"
-#include "Source/Control/SilenceFinder.h"
 
 #include <QCoreApplication>
 
@@ -13,6 +12,7 @@
 #include <atomic>
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <limits>
 #include <span>
 #include <thread>
@@ -126,7 +126,7 @@ void eachSilence(std::initializer_list<const Scan*> scans, std::size_t level, st
         if (scan->firstLoud(level) == scan->end())
             continue;
         add(since, scan->firstLoud(level));
-        for (const SilenceFinder::Silence& silence : scan->inside(level))
+        for (const auto& silence : scan->inside(level))
             add(silence.first, silence.end);
         since = scan->lastSilenceBegin(level);
     }
