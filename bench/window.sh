@@ -130,6 +130,8 @@ wait $hidden 2>/dev/null || true
 
 openbox >/dev/null 2>&1 &
 children+=($!)
+# A window that asks to be shown while the window manager takes over is shown by nobody.
+for _ in $(seq 200); do xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id' && break; sleep 0.05; done
 "$BUILD/bin/sonaphex" >/dev/null 2>&1 &
 small=$!
 children+=($small)
