@@ -53,6 +53,8 @@ void takeSettings(Arguments& arguments, OverriddenPreferences& preferences) {
         const QString folder = arguments.value(u"folder"_s);
         preferences.setValue(QDir::cleanPath(QFileInfo(folder).absoluteFilePath()), Settings::savePath);
     }
+    if (arguments.isSet(u"keep-tracks"_s))
+        preferences.setValue(1, Settings::keepTracks);
     if (arguments.isSet(u"pre-roll"_s))
         preferences.setValue(arguments.whole(u"pre-roll"_s, 0), Settings::preRollMS);
     if (arguments.isSet(u"titles"_s))
@@ -186,6 +188,11 @@ const Command recordCommand{
      {"cut-at-tracks", "",
       QT_TRANSLATE_NOOP("CommandLine",
                         "Of computer audio, begin a new file when the media player goes on to another track."),
+      QT_TRANSLATE_NOOP("CommandLine", "as in the preferences")},
+     {"keep-tracks", "",
+      QT_TRANSLATE_NOOP("CommandLine",
+                        "Of a recording of both sources, also keep the input and computer audio, each as a file of its "
+                        "own beside the mix."),
       QT_TRANSLATE_NOOP("CommandLine", "as in the preferences")},
      {"filter", "S|off", QT_TRANSLATE_NOOP("CommandLine", "Drop a recording shorter than S seconds."),
       QT_TRANSLATE_NOOP("CommandLine", "as in the preferences")},

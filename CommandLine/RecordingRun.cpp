@@ -10,6 +10,7 @@
 #include "Platform/Foundation/Translations.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
+#include "Source/Model/RecordingTracks.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -65,8 +66,11 @@ RecordingRun::RecordingRun(RecordPreferences& preferences, const RecordingTask& 
                              return;
                          }
                          paths_.append(path);
-                         recordings_.append(described(path, entry.value(AudioRecordEntry::Length).toDouble(),
-                                                      entry.value(AudioRecordEntry::Title).toString()));
+                         QJsonObject recording = described(path, entry.value(AudioRecordEntry::Length).toDouble(),
+                                                          entry.value(AudioRecordEntry::Title).toString());
+                         if (const auto tracks = RecordingTracks::stored(entry); tracks.isWhole())
+                             recording.insert(u"tracks"_s, QJsonArray{tracks.input, tracks.computer});
+                         recordings_.append(recording);
                      });
     QObject::connect(&controller_, &RecordStateController::recordingSetAside, &controller_,
                      [this](const QString&, const QStringList& kept) {

@@ -10,6 +10,7 @@
 #include <span>
 
 #include <QString>
+#include <QStringList>
 
 namespace Platform {
 
@@ -105,7 +106,12 @@ public:
     /// Blocks. @p progress receives a value from 0 to 1 and returns false to stop. On failure no file is left. A part
     /// of a track that cannot be read is no failure: it becomes silence, and readError() reports it.
     virtual Result<> writeWave(const QString& path, const std::function<bool(double)>& progress) = 0;
-    /// The first read error of the last writeWave().
+    /// Writes each track alone as it is in the sum of writeWave(): shifted, resampled, 44100 Hz, two channels, and all
+    /// of them as long as the sum. One MPEG-4 file per track, in @p format. Otherwise like writeWave(); on failure none
+    /// of the files is left.
+    virtual Result<> writeTracks(const QStringList& paths, const AudioStreamBasicDescription& format,
+                                 const std::function<bool(double)>& progress) = 0;
+    /// The first read error of the last writeWave() or writeTracks().
     [[nodiscard]] virtual Error readError() const = 0;
 };
 

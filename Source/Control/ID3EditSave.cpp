@@ -87,7 +87,7 @@ Result save(const Dictionary& before, const Dictionary& edited, const Artwork& a
         return result;
     }
     const auto renamed = RecordingRename::rename(path, title);
-    result.entry = edited;
+    result.entry = renamed.path == path ? edited : RecordingRename::renameTracks(edited, path, renamed.path);
     result.entry.insert(SavePath, renamed.path);
     result.notice = renamed.notice;
     result.note = *std::move(note);

@@ -4,6 +4,7 @@
 
 #include "Platform/Desktop/Workspace.h"
 #include "Platform/Foundation/FileManager.h"
+#include "Source/Model/RecordingTracks.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -66,6 +67,26 @@ Outcome rename(const QString& path, const QString& title) {
     }
     return {path, text(QT_TRANSLATE_NOOP("RecordingRename", "The file keeps its name “%1”: %2."))
                       .arg(shown(QFileInfo(path).fileName()), why)};
+}
+
+Dictionary renameTracks(const Dictionary& entry, const QString& before, const QString& after) {
+    const QString oldName = QFileInfo(before).completeBaseName();
+    const QString newName = QFileInfo(after).completeBaseName();
+    const auto renamed = [&](const QString& track) {
+        const QFileInfo info(track);
+        if (!info.fileName().startsWith(oldName + u" ("_s))
+            return track;
+        const QString target = info.path() + u'/' + newName + info.fileName().mid(oldName.size());
+        if (!Platform::FileManager::move(track, target))
+            return track;
+        Platform::noteFileSystemChanged(track);
+        Platform::noteFileSystemChanged(target);
+        return target;
+    };
+    Dictionary result = entry;
+    const RecordingTracks::Tracks tracks = RecordingTracks::found(entry);
+    RecordingTracks::insertInto(result, {renamed(tracks.input), renamed(tracks.computer)});
+    return result;
 }
 
 } // namespace RecordingRename

@@ -8,6 +8,7 @@
 #include "Platform/Foundation/UserDefaults.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibraryStore.h"
+#include "Source/Model/RecordingTracks.h"
 #include "Source/Preferences/PreferenceStore.h"
 
 #include <QCoreApplication>
@@ -295,7 +296,28 @@ void MediaLibrary::removeMediaLibraryArray(const QVariantList& entries) {
         if (path.startsWith(u'/'))
             (void)Platform::FileManager::removeFile(path);
     }
+    removeTracks(entries);
     updateLeavesAndStore();
+}
+
+/// Deletes the kept tracks of removed entries. A file that another entry also names stays.
+void MediaLibrary::removeTracks(const QVariantList& removed) const {
+    QStringList tracks;
+    for (const QVariant& entry : removed) {
+        const RecordingTracks::Tracks paths = RecordingTracks::stored(entry.toMap());
+        tracks << paths.input << paths.computer;
+    }
+    tracks.removeAll(QString());
+    if (tracks.isEmpty())
+        return;
+    QSet<QString> inUse;
+    for (const QVariantList* list : {&records_, &ringtones_})
+        for (const QVariant& entry : *list)
+            for (const QString& path : RecordingTracks::pathsOf(entry.toMap()))
+                inUse.insert(path);
+    for (const QString& track : tracks)
+        if (!inUse.contains(track))
+            (void)Platform::FileManager::removeFile(track);
 }
 
 void MediaLibrary::updateLeavesAndStore() {

@@ -50,7 +50,8 @@ public:
     void addAudio(const Dictionary& entry, QVariantList& toArray);
     /// Removes every entry whose key is among those of the given entries; an entry without a key matches equal entries.
     static void removeAudio(const QVariantList& entries, QVariantList& inArray);
-    /// Removes the entries from both collections and deletes their files, not to the trash. Errors are ignored.
+    /// Removes the entries from both collections and deletes their files and kept tracks, not to the trash. Errors are
+    /// ignored.
     void removeMediaLibraryArray(const QVariantList& entries);
     /// The last entry with that key; empty when there is none.
     [[nodiscard]] static Dictionary findAudioByKey(const QString& key, const QVariantList& inArray);
@@ -77,6 +78,7 @@ Q_SIGNALS:
 private:
     void add(const Dictionary& entry, Collection collection);
     void store() const;
+    void removeTracks(const QVariantList& removed) const;
     void takeStored(Platform::UserDefaults& defaults);
     void updateLeaves();
     void updateLeavesAndStore();

@@ -30,6 +30,9 @@ inline const QString PreferencePreRollMSKey = QStringLiteral("PreferencePreRollM
 inline const QString PreferenceTitlesKey = QStringLiteral("PreferenceTitlesKey");
 /// Whether a recording is cut where a media player changes the track; a number, 0 by default.
 inline const QString PreferenceCutAtTracksKey = QStringLiteral("PreferenceCutAtTracksKey");
+/// Whether a recording of both sources also keeps input and computer audio as files of their own; a number, 0 by
+/// default.
+inline const QString PreferenceKeepTracksKey = QStringLiteral("PreferenceKeepTracksKey");
 inline const QString PreferenceSavePathKey = QStringLiteral("PreferenceSavePathKey");
 inline const QString PreferenceRingtoneSavePathKey = QStringLiteral("PreferenceRingtoneSavePathKey");
 /// Whether desktop notifications report recordings while the window is not in front; a number, 1 by default.

@@ -31,6 +31,7 @@ inline const Setting splitTimeMS{PreferenceStore::PreferenceSplitTimeMSKey, Type
 inline const Setting filter{PreferenceStore::PreferenceFilterKey, Type::Number, 1};
 inline const Setting filterTime{PreferenceStore::PreferenceFilterTimeKey, Type::Number, QStringLiteral("5")};
 inline const Setting preRollMS{PreferenceStore::PreferencePreRollMSKey, Type::Number, 0};
+inline const Setting keepTracks{PreferenceStore::PreferenceKeepTracksKey, Type::Number, 0};
 inline const Setting savePath{PreferenceStore::PreferenceSavePathKey, Type::Folder};
 inline const Setting ringtoneSavePath{PreferenceStore::PreferenceRingtoneSavePathKey, Type::Folder};
 inline const Setting notifications{PreferenceStore::PreferenceNotificationsKey, Type::Number, 1};

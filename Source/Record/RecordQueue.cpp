@@ -31,21 +31,10 @@ namespace {
 constexpr double MixBytesPerSecond = 353000;
 /// Share of a two-source job's work that is the mixing; the rest is encoding.
 constexpr double MixShare = 0.3;
+/// Share of the work up to the encoded mix, when both tracks are kept and encoded after it.
+constexpr double ShareBeforeTracks = 0.4;
 /// Clocks of real devices differ by some hundred parts per million. A larger value is a failed measurement.
 constexpr double LargestDrift = 2e-3;
-
-/// The error text of a failed step, for the middle of a sentence.
-QString reason(const Error& error) {
-    return error.text.isEmpty() ? QCoreApplication::translate("Record", "the reason is unknown") : error.text;
-}
-
-/// Deletes a file whose audio is in another file by now.
-void removeTemporaryFile(const QString& path) {
-    CutOffRecordings::remove(path);
-    if (const auto removed = Platform::FileManager::removeFile(path); !removed)
-        qWarning("%s stays in the temporary folder: %s", qUtf8Printable(path),
-                 qUtf8Printable(removed.error().forLog()));
-}
 
 /// What was kept.
 enum class Kept { Recording, Source, MadeFrom };
@@ -89,6 +78,19 @@ RecordNotice keptNotice(const QString& text, Kept what, const QStringList& kept)
 }
 
 } // namespace
+
+/// The error text of a failed step, for the middle of a sentence.
+QString RecordQueue::reason(const Error& error) {
+    return error.text.isEmpty() ? QCoreApplication::translate("Record", "the reason is unknown") : error.text;
+}
+
+/// Deletes a file whose audio is in another file by now.
+void RecordQueue::removeTemporaryFile(const QString& path) {
+    CutOffRecordings::remove(path);
+    if (const auto removed = Platform::FileManager::removeFile(path); !removed)
+        qWarning("%s stays in the temporary folder: %s", qUtf8Printable(path),
+                 qUtf8Printable(removed.error().forLog()));
+}
 
 ExportJob::Timing ExportJob::timing() const {
     Timing timing;
@@ -215,7 +217,9 @@ bool RecordQueue::deliver(const std::shared_ptr<ExportJob>& job, const QString& 
     const auto landed =
         Platform::FileManager::moveToFreeName(file, wished, [this](const QString&) { return owner_.nextFreeName(); });
     if (!landed) {
-        setAside(job, {file},
+        // The raw files for the tracks are kept with a mix that cannot be delivered.
+        const bool isMix = job->keepsTracks && rawFiles(*job).size() == 2;
+        setAside(job, QStringList{file} + (isMix ? rawFiles(*job) : QStringList()),
                  QCoreApplication::translate("Record", "%1: %2 could not be saved in “%3”.")
                      .arg(landed.error().text, QFileInfo(wished).fileName(), QDir(QFileInfo(wished).path()).dirName()));
         return false;
@@ -267,13 +271,18 @@ void RecordQueue::openMovies(const std::shared_ptr<ExportJob>& job) {
         moveRawFile(job, good);
         return;
     }
-    const ExportJob::Timing timing = job->timing();
-    qtMovieForRecord_ = *std::move(first);
-    if (addAudioIntoMove(qtMovieForRecord_, *std::move(second))) {
-        qtMovieForRecord_->setTiming(0, {timing.builtInOffset, 1});
-        qtMovieForRecord_->setTiming(1, {timing.computerOffset, timing.computerSpeed});
-    }
+    qtMovieForRecord_ = composed(*job, *std::move(first), *std::move(second));
     converterMovie(job);
+}
+
+std::unique_ptr<Platform::Movie> RecordQueue::composed(const ExportJob& job, std::unique_ptr<Platform::Movie> first,
+                                                       std::unique_ptr<Platform::Movie> second) {
+    if (addAudioIntoMove(first, std::move(second))) {
+        const ExportJob::Timing timing = job.timing();
+        first->setTiming(0, {timing.builtInOffset, 1});
+        first->setTiming(1, {timing.computerOffset, timing.computerSpeed});
+    }
+    return first;
 }
 
 void RecordQueue::converterMovie(const std::shared_ptr<ExportJob>& job) {
@@ -296,8 +305,9 @@ void RecordQueue::converterMovie(const std::shared_ptr<ExportJob>& job) {
                           Platform::Translations::number(available / 1000000)));
         return;
     }
-    const auto mixed = qtMovieForRecord_->writeWave(wave, [this](double share) {
-        setProgress(share * MixShare);
+    const double mixShare = job->keepsTracks ? MixShare * ShareBeforeTracks : MixShare;
+    const auto mixed = qtMovieForRecord_->writeWave(wave, [this, mixShare](double share) {
+        setProgress(share * mixShare);
         return !cancelled_;
     });
     const Error damage = qtMovieForRecord_->readError();
@@ -320,16 +330,21 @@ void RecordQueue::startConverterAudio(const std::shared_ptr<ExportJob>& job) {
 }
 
 void RecordQueue::converterAudio(const std::shared_ptr<ExportJob>& job) {
-    // The WAVE is complete, so the raw files are not needed any more. keepDamaged() may have removed them from the job.
-    for (const auto& key : {ExportJob::BuiltInAudioTempPath, ExportJob::ComputerAudioTempPath})
-        if (const QString raw = job->path(key); !raw.isEmpty())
+    // The WAVE is complete. The raw files are still needed for the kept tracks only; keepDamaged() may have removed them
+    // from the job.
+    const QStringList raws = rawFiles(*job);
+    job->keepsTracks = job->keepsTracks && raws.size() == 2;
+    if (!job->keepsTracks)
+        for (const QString& raw : raws)
             removeTemporaryFile(raw);
+    const double mixShare = job->keepsTracks ? MixShare * ShareBeforeTracks : MixShare;
+    const double encodedShare = job->keepsTracks ? ShareBeforeTracks : 1;
     const QString wave = job->path(ExportJob::OutPutWAVTempPath);
     const QString name = QFileInfo(job->path(ExportJob::OutPutPath)).fileName();
     // Encode beside the WAVE and move the result: another file may have taken the final name meanwhile.
     const QString encoded = wave + u".m4a"_s;
-    converterAudioControl_.setProgress([this](double share) {
-        setProgress(MixShare + share * (1 - MixShare));
+    converterAudioControl_.setProgress([this, mixShare, encodedShare](double share) {
+        setProgress(mixShare + share * (encodedShare - mixShare));
         return !cancelled_;
     });
     bool whole =
@@ -342,7 +357,7 @@ void RecordQueue::converterAudio(const std::shared_ptr<ExportJob>& job) {
     whole = whole && !error;
     if (!whole) {
         (void)Platform::FileManager::removeFile(encoded);
-        setAside(job, {wave},
+        setAside(job, QStringList{wave} + (job->keepsTracks ? raws : QStringList()),
                  QCoreApplication::translate("Record", "%1 could not be encoded: %2.")
                      .arg(name, reason(error ? error : damage)));
         return;
@@ -352,7 +367,11 @@ void RecordQueue::converterAudio(const std::shared_ptr<ExportJob>& job) {
         keepDamaged(*job, {ExportJob::OutPutWAVTempPath}, damage);
     else
         removeTemporaryFile(wave);
-    if (deliver(job, encoded))
+    if (!deliver(job, encoded))
+        return;
+    if (job->keepsTracks)
+        keepTracks(job);
+    if (!cancelled_)
         tagFile(*job);
 }
 
@@ -367,8 +386,10 @@ QStringList RecordQueue::keepFiles(const ExportJob& job, const QStringList& file
         QString name = QFileInfo(wished).completeBaseName();
         if (file == job.path(ExportJob::OutPutWAVTempPath))
             name += u".wav"_s;
-        else if (files.size() > 1)
-            name += file == files.front() ? u" input.m4a"_s : u" computer.m4a"_s;
+        else if (files.size() > 1 && file == job.path(ExportJob::BuiltInAudioTempPath))
+            name += u" input.m4a"_s;
+        else if (files.size() > 1 && file == job.path(ExportJob::ComputerAudioTempPath))
+            name += u" computer.m4a"_s;
         else
             name += u".m4a"_s;
         kept.append(Platform::MovedFiles::setAside(file, name));
@@ -391,6 +412,12 @@ void RecordQueue::keepDamaged(ExportJob& job, const QStringList& keys, const Err
                        .arg(name, reason(damage)),
                    Kept::MadeFrom, kept);
     onMain([this, notice] { Q_EMIT noticed(notice); });
+}
+
+void RecordQueue::tellKept(const QString& text, const QStringList& kept, bool isWhole) {
+    onMain([this, notice = keptNotice(text, isWhole ? Kept::Source : Kept::MadeFrom, kept)] {
+        Q_EMIT noticed(notice);
+    });
 }
 
 void RecordQueue::setAside(const std::shared_ptr<ExportJob>& job, const QStringList& files, const QString& why) {
@@ -423,6 +450,7 @@ void RecordQueue::tagFile(const ExportJob& job) {
         name(AudioRecordEntry::Title, job.title.title);
         name(AudioRecordEntry::Artist, job.title.artist);
         name(AudioRecordEntry::Album, job.title.album);
+        RecordingTracks::insertInto(tags, job.tracks);
         tagged = ID3ChangeControl::changeID3BasicInfo(finalPath, tags);
         PartCover::write(finalPath, job.title);
         tags.insert(AudioRecordEntry::IsNew, true);

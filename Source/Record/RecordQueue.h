@@ -6,6 +6,7 @@
 #include "Platform/Media/ExtAudioFile.h"
 #include "Source/BuiltInAudioRecord/BuildInAudioRecord.h"
 #include "Source/Control/ConverterAudioControl.h"
+#include "Source/Model/RecordingTracks.h"
 #include "Source/Preferences/RecordPreferences.h"
 #include "Source/Record/PartTitle.h"
 #include "Source/Record/RecordNotice.h"
@@ -37,6 +38,8 @@ struct ExportJob {
     /// A full disk or a lost device ended it: the filter does not apply, because the user did not make it short.
     bool isKeptHoweverShort = false;
     PartTitle title{};             ///< what a media player named for it
+    bool keepsTracks = false;        ///< of two sources, each is also kept as a file of its own
+    RecordingTracks::Tracks tracks;  ///< the kept tracks, when they are written
     std::atomic<int> openFiles{0}; ///< raw files that are still being closed; the job starts when there are none
 
     [[nodiscard]] QString path(const QString& key) const { return paths.value(key).toString(); }
@@ -111,6 +114,14 @@ private:
     void onWorker(std::function<void()> work);
     void moveRawFile(const std::shared_ptr<ExportJob>& job, const QString& rawPath);
     void openMovies(const std::shared_ptr<ExportJob>& job);
+    /// Mixes the second movie into the first, by the job's timing.
+    [[nodiscard]] static std::unique_ptr<Platform::Movie> composed(const ExportJob& job,
+                                                                   std::unique_ptr<Platform::Movie> first,
+                                                                   std::unique_ptr<Platform::Movie> second);
+    [[nodiscard]] static QStringList rawFiles(const ExportJob& job);
+    void keepTracks(const std::shared_ptr<ExportJob>& job);
+    [[nodiscard]] Platform::Result<> writeTracks(const ExportJob& job, const QStringList& files);
+    [[nodiscard]] QString deliverTrack(const ExportJob& job, const QString& file, RecordingTracks::Source source);
     void converterMovie(const std::shared_ptr<ExportJob>& job);
     void startConverterAudio(const std::shared_ptr<ExportJob>& job);
     void converterAudio(const std::shared_ptr<ExportJob>& job);
@@ -124,6 +135,10 @@ private:
     void finishConverter(const QString& finalPath, const Dictionary& entry);
     void endJob(const QString& reservedPath);
     void setProgress(double share);
+    /// A notice about files that were kept. @p isWhole: they are what the text is about, not what it was made from.
+    void tellKept(const QString& text, const QStringList& kept, bool isWhole);
+    [[nodiscard]] static QString reason(const Platform::Error& error);
+    static void removeTemporaryFile(const QString& path);
 
     Owner owner_;
     Platform::MainQueue::WhileAlive alive_;

@@ -54,13 +54,16 @@ RecordRoom::Room RecordRoom::measure(const Recording& recording) {
     Room room{0, recording.temporaryFolder, temporary};
     // Space is also reserved for the mix of the recording so far; it grows with each further second.
     const double mixed = mixes ? MixedBytes : 0;
+    // Kept tracks are written while the raw files are still there.
+    const double tracks = mixes && recording.keepsTracks ? 2 * EncodedBytes : 0;
     room.seconds = temporary < 0
                        ? Unknown
-                       : (double(temporary) - recording.seconds * mixed) / (EncodedBytes * recording.sources + mixed);
+                       : (double(temporary) - recording.seconds * (mixed + tracks)) /
+                             (EncodedBytes * recording.sources + mixed + tracks);
     // Within one file system the finished recording is only renamed and needs no more space.
     if (QStorageInfo(recording.temporaryFolder).device() != QStorageInfo(recording.recordFolder).device()) {
         const auto target = availableBytes(recording.recordFolder);
-        const double seconds = double(target) / EncodedBytes - recording.seconds;
+        const double seconds = double(target) / (EncodedBytes + tracks) - recording.seconds;
         if (target >= 0 && seconds < room.seconds) {
             room.seconds = seconds;
             room.folder = recording.recordFolder;

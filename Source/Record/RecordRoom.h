@@ -19,6 +19,7 @@ public:
         QString recordFolder;    ///< of the finished recording
         int sources = 1;         ///< two are mixed at the end, and the mix needs space, too
         double seconds = 0;      ///< of the current file
+        bool keepsTracks = false; ///< of two sources, each is also kept as a file of its own
     };
     struct Room {
         double seconds = 0; ///< until a disk is full

@@ -83,6 +83,7 @@ RecordStateController::Private::Ending RecordStateController::Private::describeE
     ending.job = std::make_shared<ExportJob>();
     ending.job->paths.insert(ExportJob::OutPutPath, audioRecordPath_);
     ending.job->title = tracks.title();
+    ending.job->keepsTracks = Platform::boolValue(preferences->value(Settings::keepTracks));
     bool brokenOff = false;
     bool anyMeasured = false;
     for (std::size_t i = 0; i < sources.size(); ++i) {

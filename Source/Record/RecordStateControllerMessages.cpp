@@ -288,7 +288,8 @@ void RecordStateController::Private::lookForRoom() {
     room_.look({.temporaryFolder = g_strTmpPath,
                 .recordFolder = recordFolder(),
                 .sources = builtIn.takesPart() && computer.takesPart() ? 2 : 1,
-                .seconds = double(fRecordTime_)});
+                .seconds = double(fRecordTime_),
+                .keepsTracks = Platform::boolValue(preferences->value(Settings::keepTracks))});
 }
 
 void RecordStateController::Private::followRoom(const RecordRoom::Room& room) {

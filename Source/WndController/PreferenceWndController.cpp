@@ -151,6 +151,7 @@ void PreferenceWndController::initPerferceInterface() {
     ui_->preRollField->setValue(Platform::intValue(Settings::value(Settings::preRollMS)));
     ui_->titlesCheckBox->setChecked(Platform::boolValue(Settings::value(Settings::titles)));
     ui_->cutAtTracksCheckBox->setChecked(Platform::boolValue(Settings::value(Settings::cutAtTracks)));
+    ui_->keepTracksCheckBox->setChecked(Platform::boolValue(Settings::value(Settings::keepTracks)));
     ui_->notificationsCheckBox->setChecked(Platform::boolValue(Settings::value(Settings::notifications)));
     ui_->autostartCheckBox->setVisible(autostart_ != nullptr);
     ui_->autostartCheckBox->setChecked(autostart_ && autostart_->isEnabled());
@@ -205,6 +206,7 @@ bool PreferenceWndController::windowShouldClose() {
         setPreferenceValue(qlonglong(ui_->preRollField->value()), PreferencePreRollMSKey);
     storeSwitch(*ui_->titlesCheckBox, Settings::titles);
     storeSwitch(*ui_->cutAtTracksCheckBox, Settings::cutAtTracks);
+    storeSwitch(*ui_->keepTracksCheckBox, Settings::keepTracks);
     setPreferenceValue(qlonglong(ui_->notificationsCheckBox->isChecked()), PreferenceNotificationsKey);
     applyAutostart();
     return true;

@@ -35,12 +35,21 @@ public:
     Platform::Error readError;        ///< the error of a reader
     std::atomic<bool> holdMix{false}; ///< a mix waits while this is set
     std::atomic<int> mixesStarted{0};
+    Platform::Error tracksError;
+    std::atomic<bool> holdTracks{false}; ///< the writing of tracks waits while this is set
+    std::atomic<int> tracksStarted{0};
     std::atomic<bool> holdInfo{false}; ///< measuring a file waits while this is set; for 30 s at most
     std::atomic<int> infosStarted{0};
 
     [[nodiscard]] std::vector<Mix> mixes() const {
         const std::scoped_lock lock(mutex_);
         return mixes_;
+    }
+
+    /// The tracks that were written, each pair as a mix without a WAVE.
+    [[nodiscard]] std::vector<Mix> tracks() const {
+        const std::scoped_lock lock(mutex_);
+        return tracks_;
     }
 
     Platform::Result<Platform::AudioFileInfo> info(const QString& path) override {
@@ -92,6 +101,20 @@ private:
             files_.mixes_.push_back({path_, second_, timings_, path});
             return {};
         }
+        Platform::Result<> writeTracks(const QStringList& paths, const AudioStreamBasicDescription&,
+                                       const std::function<bool(double)>& progress) override {
+            ++files_.tracksStarted;
+            while (files_.holdTracks)
+                if (!progress(0.5))
+                    return Platform::Error{Platform::Error::Kind::Cancelled, QStringLiteral("stopped")};
+            if (files_.tracksError)
+                return files_.tracksError;
+            for (const QString& path : paths)
+                EXPECT_TRUE(QFile(path).open(QIODevice::WriteOnly));
+            const std::scoped_lock lock(files_.mutex_);
+            files_.tracks_.push_back({path_, second_, timings_, {}});
+            return {};
+        }
         Platform::Error readError() const override { return files_.mixReadError; }
 
     private:
@@ -136,4 +159,5 @@ private:
 
     mutable std::mutex mutex_;
     std::vector<Mix> mixes_;
+    std::vector<Mix> tracks_;
 };

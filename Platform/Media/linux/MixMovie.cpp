@@ -140,14 +140,44 @@ public:
     }
 
     Result<> writeWave(const QString& path, const std::function<bool(double)>& progress) override;
+    Result<> writeTracks(const QStringList& paths, const AudioStreamBasicDescription& format,
+                         const std::function<bool(double)>& progress) override;
     Error readError() const override { return readError_; }
 
 private:
+    using Writers = std::vector<std::unique_ptr<FileWriter>>;
+    Result<> render(const Writers& writers, const std::function<bool(double)>& progress);
+
     std::vector<Track> tracks_;
     Error readError_;
 };
 
+/// Opens the file of a writer that takes frames of the mix.
+Result<> openWriter(FileWriter& writer) {
+    if (const auto opened = writer.open(true); !opened)
+        return opened;
+    writer.setClientDataFormat(planarFloatFormat(mixRate, mixChannels));
+    return {};
+}
+
 Result<> MixMovie::writeWave(const QString& path, const std::function<bool(double)>& progress) {
+    Writers writers;
+    writers.push_back(std::make_unique<FileWriter>(path, kAudioFileWAVEType, waveFormat()));
+    return render(writers, progress);
+}
+
+Result<> MixMovie::writeTracks(const QStringList& paths, const AudioStreamBasicDescription& format,
+                               const std::function<bool(double)>& progress) {
+    Writers writers;
+    for (const QString& path : paths)
+        writers.push_back(std::make_unique<FileWriter>(path, kAudioFileM4AType, format));
+    if (writers.size() != tracks_.size())
+        return makeError(Error::Kind::Other, paths.value(0), QStringLiteral("one path per track is needed"));
+    return render(writers, progress);
+}
+
+/// Writes the sum of all tracks when there is one writer, else each track into its own file.
+Result<> MixMovie::render(const Writers& writers, const std::function<bool(double)>& progress) {
     std::vector<std::unique_ptr<TrackReader>> readers;
     readError_ = {};
     for (const Track& track : tracks_) {
@@ -156,17 +186,20 @@ Result<> MixMovie::writeWave(const QString& path, const std::function<bool(doubl
             return input.error();
         readers.push_back(std::make_unique<TrackReader>(*std::move(input), track.timing));
     }
-    FileWriter writer(path, kAudioFileWAVEType, waveFormat());
-    if (const auto opened = writer.open(true); !opened)
-        return opened;
-    writer.setClientDataFormat(planarFloatFormat(mixRate, mixChannels));
+    Error error;
+    for (std::size_t i = 0; i < writers.size() && !error; ++i) {
+        error = openWriter(*writers[i]).error();
+        for (std::size_t opened = 0; error && opened < i; ++opened)
+            QFile::remove(writers[opened]->path());
+    }
+    if (error)
+        return error;
 
     const double total = std::max(1.0, duration() * mixRate);
     std::vector<Planes> sums(readers.size(), Planes(mixChannels));
     std::vector<std::size_t> counts(readers.size());
     alignas(AudioBufferList) std::byte memory[sizeof(AudioBufferList) + sizeof(AudioBuffer)];
     auto* list = new (memory) AudioBufferList{};
-    Error error;
     for (double written = 0; !error;) {
         // Each track is decoded on its own thread.
         const auto readTrack = [&](std::size_t i) {
@@ -183,7 +216,7 @@ Result<> MixMovie::writeWave(const QString& path, const std::function<bool(doubl
         const std::size_t frames = *std::ranges::max_element(counts);
         if (frames == 0)
             break;
-        for (std::size_t i = 1; i < readers.size(); ++i) {
+        for (std::size_t i = writers.size(); i < readers.size(); ++i) {
             for (std::size_t c = 0; c < mixChannels; ++c) {
                 float* sum = sums[0].row(c);
                 const float* in = sums[i].row(c);
@@ -191,23 +224,29 @@ Result<> MixMovie::writeWave(const QString& path, const std::function<bool(doubl
                     sum[f] += in[f];
             }
         }
-        list->mNumberBuffers = mixChannels;
-        for (std::size_t c = 0; c < mixChannels; ++c)
-            list->mBuffers[c] = {1, std::uint32_t(frames * 4), sums[0].row(c)};
-        if (writer.write(std::uint32_t(frames), list) != noErr)
-            error = writer.firstError();
+        // A track that has ended is continued with silence, so that all files are equally long.
+        for (std::size_t i = 0; i < writers.size() && !error; ++i) {
+            list->mNumberBuffers = mixChannels;
+            for (std::size_t c = 0; c < mixChannels; ++c)
+                list->mBuffers[c] = {1, std::uint32_t(frames * 4), sums[i].row(c)};
+            if (writers[i]->write(std::uint32_t(frames), list) != noErr)
+                error = writers[i]->firstError();
+        }
         written += double(frames);
         if (!error && progress && !progress(std::min(1.0, written / total)))
-            error = makeError(Error::Kind::Cancelled, path, QStringLiteral("cancelled"));
+            error = makeError(Error::Kind::Cancelled, writers.front()->path(), QStringLiteral("cancelled"));
     }
     for (const auto& reader : readers)
         if (!readError_)
             readError_ = reader->error();
-    writer.dispose();
-    if (!error)
-        error = writer.firstError();
+    for (const auto& writer : writers) {
+        writer->dispose();
+        if (!error)
+            error = writer->firstError();
+    }
     if (error)
-        QFile::remove(path);
+        for (const auto& writer : writers)
+            QFile::remove(writer->path());
     return error;
 }
 

@@ -48,7 +48,7 @@ TEST_F(StoredSettings, HaveTheirDefaultsWhenWhatIsStoredIsOfAnotherKind) {
     for (const Settings::Setting* setting :
          {&Settings::split, &Settings::splitTimeMS, &Settings::filter, &Settings::filterTime, &Settings::savePath,
           &Settings::ringtoneSavePath, &Settings::notifications, &Settings::preRollMS, &Settings::titles,
-          &Settings::cutAtTracks, &Settings::recordBuiltIn, &Settings::recordComputerAudio})
+          &Settings::cutAtTracks, &Settings::keepTracks, &Settings::recordBuiltIn, &Settings::recordComputerAudio})
         for (const QVariant& stored : containers) {
             defaults.setObject(setting->key, stored);
             EXPECT_EQ(Settings::value(*setting), setting->defaultObject())
