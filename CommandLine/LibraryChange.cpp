@@ -12,6 +12,7 @@
 #include "Source/ProcessRequests/MediaLibraryRequests.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 #include <optional>
 
@@ -32,6 +33,16 @@ QString tellLibrary(const QString& path, const Dictionary& changed, const QStrin
     }
     return *stored ? QString()
                    : QCoreApplication::translate("CommandLine", "%1, but the library could not be saved").arg(done);
+}
+
+Dictionary entryOf(const QString& path) {
+    const MediaLibrary library;
+    for (const QVariant& entry : library.records()) {
+        const QString other = entry.toMap().value(AudioRecordEntry::SavePath).toString();
+        if (QFileInfo(other).fileName() == QFileInfo(path).fileName() && QFileInfo(other) == QFileInfo(path))
+            return entry.toMap();
+    }
+    return {};
 }
 
 QString addRecording(const QString& path, const Dictionary& tags) {

@@ -11,6 +11,9 @@ namespace CommandLine {
 /// @return the error; empty on success, also when the library has no entry for the file
 [[nodiscard]] QString tellLibrary(const QString& path, const Dictionary& changed, const QString& done);
 
+/// The stored entry of a recording's file; empty when the library has none.
+[[nodiscard]] Dictionary entryOf(const QString& path);
+
 /// Adds a finished file to the recordings of the library, through the running window or else in the stored library.
 /// @return the error; empty on success
 [[nodiscard]] QString addRecording(const QString& path, const Dictionary& tags);

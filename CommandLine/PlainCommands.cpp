@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "CommandLine/BalanceCommand.h"
 #include "CommandLine/BurnCommand.h"
 #include "CommandLine/CommandLine.h"
 #include "CommandLine/ControlCommand.h"
@@ -25,7 +26,7 @@ Commands byName(std::initializer_list<const Command*> commands) {
 }
 
 const Commands& plainCommands() {
-    static const Commands plain = byName({&burnCommand, &controlCommand, &convertCommand, &devicesCommand,
+    static const Commands plain = byName({&balanceCommand, &burnCommand, &controlCommand, &convertCommand, &devicesCommand,
                                           &driverCommand, &drivesCommand, &joinCommand, &libraryCommand, &recordCommand,
                                           &ringtoneCommand, &splitCommand, &tagCommand, &trimCommand});
     return plain;

@@ -12,6 +12,7 @@
 #include "Source/Control/EditNote.h"
 #include "Source/Control/RecordingRename.h"
 #include "Source/Model/AudioRecordEntry.h"
+#include "Source/Model/RecordingTracks.h"
 #include "Source/ProcessRequests/MediaLibraryRequests.h"
 
 #include <QCoreApplication>
@@ -126,8 +127,12 @@ int run(const QStringList& given) {
             const auto renamed = RecordingRename::rename(path, title);
             path = renamed.path;
             kept = renamed.notice;
-            if (path != before)
+            if (path != before) {
                 changed.insert(AudioRecordEntry::SavePath, path);
+                if (const Dictionary entry = entryOf(before); RecordingTracks::isKeptFor(entry))
+                    RecordingTracks::insertInto(
+                        changed, RecordingTracks::stored(RecordingRename::renameTracks(entry, before, path)));
+            }
         }
         if (!changed.isEmpty())
             if (const QString problem =

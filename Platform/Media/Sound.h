@@ -9,6 +9,8 @@
 
 namespace Platform {
 
+class ExtAudioFileReader;
+
 /// Plays one audio file through the sound server. Main thread. A paused sound still counts as playing.
 class Sound : public QObject {
     Q_OBJECT
@@ -41,6 +43,11 @@ public:
     virtual ~Sounds() = default;
     /// Never null; for an unreadable file the sound has length 0 and does not play.
     [[nodiscard]] virtual std::unique_ptr<Sound> open(const QString& path) = 0;
+    /// Plays what @p reader gives instead of a file. Its format is float with one or two channels. @p ahead: seconds
+    /// that are decoded in advance; when the reader's audio changes, the change is heard after about that time. @p name
+    /// is the sound's path(). Never null.
+    [[nodiscard]] virtual std::unique_ptr<Sound> openReader(std::unique_ptr<ExtAudioFileReader> reader,
+                                                            const QString& name, double ahead) = 0;
 };
 
 } // namespace Platform

@@ -85,17 +85,23 @@ Result run(ConverterAudioControl& converter, const Task& task, const std::functi
     result.problem = refusal(task.source, task.from, task.to);
     if (!result.problem.isEmpty())
         return result;
-    using Platform::ReplacementFile;
-    ReplacementFile file(task.exportPath,
-                         task.replace ? ReplacementFile::Existing::Replaced : ReplacementFile::Existing::Kept);
-
     const QString temporary = g_strTmpPath + u"/TempExportTrimAudio.m4a"_s;
     (void)FileManager::removeFile(temporary);
     const auto removeTemporary = qScopeGuard([&] { (void)FileManager::removeFile(temporary); });
     result.problem = convert(converter, task, temporary, progress);
     if (!result.problem.isEmpty())
         return result;
+    result = deliver(task, temporary);
+    if (result.done && progress)
+        (void)progress(1);
+    return result;
+}
 
+Result deliver(const Task& task, const QString& temporary) {
+    Result result;
+    using Platform::ReplacementFile;
+    ReplacementFile file(task.exportPath,
+                         task.replace ? ReplacementFile::Existing::Replaced : ReplacementFile::Existing::Kept);
     const QString& hidden = file.path();
     auto note = EditNote::begin(task.source, task.source, hidden);
     if (!note) {
@@ -126,8 +132,6 @@ Result run(ConverterAudioControl& converter, const Task& task, const std::functi
     Platform::noteFileSystemChanged(file.target());
     result.note = *std::move(note);
     result.done = true;
-    if (progress)
-        (void)progress(1);
     return result;
 }
 

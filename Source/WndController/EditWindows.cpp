@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/WndController/EditWindows.h"
 
+#include "Platform/Desktop/Alerts.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/Media/ExtAudioFile.h"
 #include "Source/Control/FileTags.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/MediaLibrary.h"
 #include "Source/WndController/AudioTrimWndController.h"
+#include "Source/WndController/BalanceWndController.h"
 #include "Source/WndController/ID3EditWndController.h"
 #include "Source/WndController/LibraryPresenter.h"
 #include "Source/WndController/MainMenus.h"
@@ -42,6 +44,14 @@ EditWindows::EditWindows(MainWndController& main, QObject* parent) : QObject(par
     join_->setDelegate(this);
     connect(join_.get(), &RecordingJoin::joined, this, [this](const QString& notice) { main_.showStatus(notice); });
     main_.commands().setOpener(Window::Join, [this](const QVariantList& entries) { join_->join(entries); });
+    main_.commands().setOpener(Window::Balance, [this](const QVariantList& entries) {
+        BalanceWndController& balance = balanceWndController();
+        if (const QString why = balance.setEntry(entries.value(0).toMap()); why.isEmpty())
+            balance.runModal();
+        else
+            (void)Platform::services().alerts->runModal(tr("The tracks cannot be mixed."), why,
+                                                        {Platform::Alerts::okLabel()});
+    });
     main_.menus().update();
 }
 
@@ -64,6 +74,14 @@ AudioTrimWndController& EditWindows::audioTrimWndController() {
         trim_->setDelegate(this);
     }
     return *trim_;
+}
+
+BalanceWndController& EditWindows::balanceWndController() {
+    if (!balance_) {
+        balance_ = std::make_unique<BalanceWndController>(main_.window());
+        balance_->setDelegate(this);
+    }
+    return *balance_;
 }
 
 ID3EditWndController& EditWindows::id3EditWndController() {

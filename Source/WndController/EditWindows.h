@@ -9,13 +9,14 @@
 #include <memory>
 
 class AudioTrimWndController;
+class BalanceWndController;
 class ID3EditWndController;
 class MainWndController;
 class RecordingJoin;
 class SplitWndController;
 
-/// Opens the trim, tag and split windows for the main window's commands, joins recordings, and updates the library with
-/// the results.
+/// Opens the trim, tag, split and balance windows for the main window's commands, joins recordings, and updates the
+/// library with the results.
 /// Main thread.
 class EditWindows : public QObject, public RecordingEditDelegate {
     Q_OBJECT
@@ -30,6 +31,7 @@ public:
 
     /// Created when they are first opened.
     [[nodiscard]] AudioTrimWndController& audioTrimWndController();
+    [[nodiscard]] BalanceWndController& balanceWndController();
     [[nodiscard]] ID3EditWndController& id3EditWndController();
 
     [[nodiscard]] SplitWndController& splitWndController();
@@ -43,6 +45,7 @@ public:
 private:
     MainWndController& main_;
     std::unique_ptr<AudioTrimWndController> trim_;
+    std::unique_ptr<BalanceWndController> balance_;
     std::unique_ptr<ID3EditWndController> tags_;
     std::unique_ptr<SplitWndController> split_;
     std::unique_ptr<RecordingJoin> join_;

@@ -104,6 +104,9 @@ void MainMenus::makeEditMenu() {
               {QKeySequence(Qt::CTRL | Qt::Key_J)});
     addWindow(menu, Window::RingtoneMaker, tr("Make a &Ringtone…"), QStringLiteral("ringtone"),
               tr("Cut a ringtone out of the recording"), {QKeySequence(Qt::CTRL | Qt::Key_M)});
+    addWindow(menu, Window::Balance, tr("&Balance…"), QStringLiteral("balance"),
+              tr("Mix the input and computer audio of the recording anew"), {QKeySequence(Qt::CTRL | Qt::Key_L)});
+    connect(window(Window::Balance), &QAction::triggered, this, [this] { commands_.openBalanceWindow(); });
     menu->addSeparator();
     remove_ = add(menu, tr("&Delete"), QStringLiteral("delete"), tr("Delete the selected recordings and their files"),
                   {QKeySequence(Qt::Key_Delete)});
@@ -214,7 +217,8 @@ void MainMenus::makeContextMenu() {
     };
     item(playSelected_);
     audioTableViewMenu_->addSeparator();
-    for (const Window each : {Window::ID3Edit, Window::AudioTrim, Window::Split, Window::Join, Window::RingtoneMaker})
+    for (const Window each :
+         {Window::ID3Edit, Window::AudioTrim, Window::Split, Window::Join, Window::RingtoneMaker, Window::Balance})
         item(window(each));
     audioTableViewMenu_->addSeparator();
     item(show_);
@@ -336,6 +340,7 @@ void MainMenus::update() {
         say(windows_[i], !commands_.hasOpener(which) ? tr("Arrives in a later version of Sonaphex.")
                          : wholeList                 ? tr("There is nothing in this list.")
                          : which == Window::Join     ? tr("Select two recordings or more first.")
+                         : which == Window::Balance  ? whyNoBalance()
                                                      : selectFirst);
     }
     for (const auto& [copy, original] : contextItems_) {
@@ -343,6 +348,12 @@ void MainMenus::update() {
         copy->setToolTip(original->toolTip());
         copy->setEnabled(original->isEnabled());
     }
+}
+
+QString MainMenus::whyNoBalance() const {
+    return library_.tableViewPlayEnable()
+               ? tr("This recording has no tracks. The preferences have a box that keeps those of the next ones.")
+               : tr("Select a recording first.");
 }
 
 void MainMenus::showAbout() {

@@ -69,6 +69,7 @@ private:
     void makeHelpMenu();
     void makeContextMenu();
     void makeStrip();
+    [[nodiscard]] QString whyNoBalance() const;
     void place(QToolButton* button, QAction* action, const QString& icon, const QString& words);
 
     Ui::MainWnd& ui_;

@@ -3,6 +3,7 @@
 #include "Source/WndController/WindowCommands.h"
 
 #include "Source/Model/MediaLibraryNode.h"
+#include "Source/Model/RecordingTracks.h"
 #include "Source/WndController/LibraryPresenter.h"
 
 void WindowCommands::setOpener(Window window, Opener opener) {
@@ -25,6 +26,8 @@ bool WindowCommands::isEnabled(Window window) const {
         return library_.tableViewCanEditSelectionAudioRecord();
     case Window::Join:
         return library_.canJoinSelection();
+    case Window::Balance:
+        return library_.tableViewPlayEnable() && RecordingTracks::isKeptFor(library_.tableViewSelectionAudio());
     case Window::CDBurn:
     case Window::Filter:
         return library_.canFilterAudio();
@@ -71,4 +74,9 @@ void WindowCommands::openSplitWindow() {
 
 void WindowCommands::joinSelection() {
     open(Window::Join, library_.tableViewSelectionAudioArray());
+}
+
+void WindowCommands::openBalanceWindow() {
+    library_.stopSoundPlaying();
+    open(Window::Balance, {library_.tableViewSelectionAudio()});
 }

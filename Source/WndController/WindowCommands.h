@@ -13,8 +13,8 @@ class LibraryPresenter;
 /// command without one is disabled everywhere. Main thread.
 class WindowCommands {
 public:
-    enum class Window { ID3Edit, AudioTrim, CDBurn, Filter, RingtoneMaker, Split, Join };
-    static constexpr std::size_t kWindows = 7;
+    enum class Window { ID3Edit, AudioTrim, CDBurn, Filter, RingtoneMaker, Split, Join, Balance };
+    static constexpr std::size_t kWindows = 8;
     /// Shows the window with the given entries, and returns when it may be opened again; for a modal window, when it is
     /// closed.
     using Opener = std::function<void(const QVariantList& entries)>;
@@ -36,6 +36,8 @@ public:
     void openFilterWindow();
     /// Stops playback and opens the ringtone maker with the selected entry.
     void openRingtoneMakerWindow();
+    /// Stops playback and opens the balance window with a copy of the selected entry.
+    void openBalanceWindow();
 
     /// Stops playback and opens the split window with the selected entry.
     void openSplitWindow();

@@ -19,6 +19,7 @@
 #include "Source/WndController/WaitWndController.h"
 #include "tests/RingtoneMaker/RingtoneWorld.h"
 #include "tests/Source/CDBurn/BurnWorld.h"
+#include "tests/Source/WndController/BalanceWorld.h"
 #include "tests/Source/WndController/EditWorld.h"
 #include "tests/Source/WndController/SplitWorld.h"
 #include "tests/Source/WndController/WindowWorld.h"
@@ -50,6 +51,7 @@ public:
         preferences();
         trim();
         split();
+        balance();
         tags();
         ringtone();
         filter();
@@ -180,6 +182,16 @@ public:
         look(*world.controller.waitWndController().window(), QStringLiteral("waiting, with Cancel"));
         world.controller.waitWndController().setStopWork();
         world.controller.window()->hide();
+    }
+
+    void balance() {
+        BalanceWorld world;
+        world.open();
+        world.balance.window()->resize(720, 420);
+        ToolControl::showWindowNib(world.balance);
+        (void)waitFor([&] { return world.balance.isMeasured(); });
+        look(*world.balance.window(), QStringLiteral("balance"));
+        world.balance.window()->hide();
     }
 
     void tags() {

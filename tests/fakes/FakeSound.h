@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Media/ExtAudioFile.h"
 #include "Platform/Media/Sound.h"
 
 #include <QMap>
@@ -19,6 +20,7 @@ public:
     bool playing = false;
     bool paused = false;
     bool playFails = false;
+    std::unique_ptr<Platform::ExtAudioFileReader> reader; ///< of a sound that has one
 
     double duration() const override { return seconds; }
     double currentTime() const override { return time; }
@@ -75,6 +77,15 @@ public:
         auto sound = std::make_unique<FakeSound>(path);
         sound->seconds = lengths.value(path, otherLength);
         sound->playFails = playFails;
+        last = sound.get();
+        return sound;
+    }
+    std::unique_ptr<Platform::Sound> openReader(std::unique_ptr<Platform::ExtAudioFileReader> reader,
+                                                const QString& name, double /*ahead*/) override {
+        auto sound = std::make_unique<FakeSound>(name);
+        sound->seconds = double(reader->fileLengthFrames()) / reader->fileDataFormat().mSampleRate;
+        sound->playFails = playFails;
+        sound->reader = std::move(reader);
         last = sound.get();
         return sound;
     }

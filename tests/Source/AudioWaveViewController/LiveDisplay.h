@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Media/ExtAudioFile.h"
 #include "Platform/Foundation/Services.h"
 #include "RingtoneMaker/CustomSound.h"
 #include "Source/AudioWaveViewController/AudioWaveViewController.h"
@@ -34,6 +35,10 @@ private:
 class StillSounds : public Platform::Sounds {
 public:
     std::unique_ptr<Platform::Sound> open(const QString&) override { return std::make_unique<StillSound>(); }
+    std::unique_ptr<Platform::Sound> openReader(std::unique_ptr<Platform::ExtAudioFileReader>, const QString&,
+                                                double) override {
+        return std::make_unique<StillSound>();
+    }
 };
 
 class ListeningDelegate : public AudioWaveViewControllerDelegate {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Source/Control/RecordingRename.h"
 
+#include "Source/Model/AudioRecordEntry.h"
 #include "tests/support/Mpeg4Files.h"
 
 #include <QDir>
@@ -83,4 +84,33 @@ TEST_F(Rename, DoesNothingWhenTheFileHasItsTitleAsName) {
     const auto renamed = RecordingRename::rename(at(u"Track0.m4a"_s), u"Track0"_s);
     EXPECT_EQ(renamed.path, at(u"Track0.m4a"_s));
     EXPECT_EQ(renamed.notice, QString());
+}
+
+TEST_F(Rename, TracksFollowTheirMix) {
+    using namespace AudioRecordEntry;
+    for (const QString& name : {u"Track0 (input).m4a"_s, u"Track0 (computer 2).m4a"_s})
+        ASSERT_TRUE(Mpeg4Files::write(at(name), "a track"));
+    const Dictionary entry{{SavePath, at(u"Track0.m4a"_s)},
+                           {InputTrack, at(u"Track0 (input).m4a"_s)},
+                           {ComputerTrack, at(u"Track0 (computer 2).m4a"_s)}};
+    const auto renamed = RecordingRename::rename(at(u"Track0.m4a"_s), u"100%1 $(x)"_s);
+    const Dictionary after = RecordingRename::renameTracks(entry, at(u"Track0.m4a"_s), renamed.path);
+    EXPECT_EQ(after.value(InputTrack), at(u"100%1 $(x) (input).m4a"_s));
+    EXPECT_EQ(after.value(ComputerTrack), at(u"100%1 $(x) (computer 2).m4a"_s));
+    EXPECT_EQ(files(), (QStringList{u"100%1 $(x) (computer 2).m4a"_s, u"100%1 $(x) (input).m4a"_s,
+                                    u"100%1 $(x).m4a"_s}));
+}
+
+TEST_F(Rename, ATrackWhoseNameIsTakenOrMissingKeepsItsPath) {
+    using namespace AudioRecordEntry;
+    ASSERT_TRUE(Mpeg4Files::write(at(u"Track0 (input).m4a"_s), "a track"));
+    ASSERT_TRUE(Mpeg4Files::write(at(u"Rain (input).m4a"_s), "another one"));
+    const Dictionary entry{{SavePath, at(u"Track0.m4a"_s)},
+                           {InputTrack, at(u"Track0 (input).m4a"_s)},
+                           {ComputerTrack, at(u"Track0 (computer).m4a"_s)}};
+    const Dictionary after = RecordingRename::renameTracks(entry, at(u"Track0.m4a"_s), at(u"Rain.m4a"_s));
+    EXPECT_EQ(after, entry);
+    EXPECT_EQ(Mpeg4Files::contentOf(at(u"Rain (input).m4a"_s)), "another one");
+    const Dictionary plain{{SavePath, at(u"Track0.m4a"_s)}};
+    EXPECT_EQ(RecordingRename::renameTracks(plain, at(u"Track0.m4a"_s), at(u"Rain.m4a"_s)), plain);
 }

@@ -6,11 +6,13 @@
 #include "Source/WndController/AudioTrimWndController.h"
 #include "Source/WndController/ID3EditWndController.h"
 #include "Source/WndController/WaitWndController.h"
+#include "tests/Source/WndController/BalanceWorld.h"
 #include "tests/Source/WndController/EditWorld.h"
 #include "tests/Source/WndController/SplitWorld.h"
 #include "tests/support/Screenshot.h"
 
 #include <QApplication>
+#include <QDoubleSpinBox>
 #include <QPainter>
 #include <cmath>
 #include <gtest/gtest.h>
@@ -113,6 +115,27 @@ TEST_F(EditPictures, TheSplitWindow) {
     split.controller.waitWndController().setProgress(0.4);
     take(*split.controller.waitWndController().window(), u"wait-cancel"_s);
     split.controller.waitWndController().setStopWork();
+}
+
+TEST_F(EditPictures, TheBalanceWindow) {
+    BalanceWorld balanced;
+    balanced.open();
+    BalanceWndController& balance = balanced.balance;
+    balance.window()->resize(720, 420);
+    ToolControl::showWindowNib(balance);
+    auto& view = *balance.window()->findChild<BalanceView*>();
+    ASSERT_TRUE(waitFor([&] { return balance.isMeasured() && !view.outline(BalanceView::Input).isEmpty(); }));
+    view.setOutline(BalanceView::Input, speech(30));
+    QList<float> other = speech(60).mid(30);
+    view.setOutline(BalanceView::Computer, other);
+    take(*balance.window(), u"balance-opened"_s);
+    balance.window()->findChild<QDoubleSpinBox*>(u"fldInputGain_"_s)->setValue(14);
+    balance.window()->findChild<QDoubleSpinBox*>(u"fldComputerGain_"_s)->setValue(-4.5);
+    balance.window()->findChild<QDoubleSpinBox*>(u"fldDelay_"_s)->setValue(120);
+    balance.togglePlay();
+    view.setFocus();
+    ASSERT_TRUE(waitFor([&] { return balance.isMeasured(); }));
+    take(*balance.window(), u"balance-too-loud"_s);
 }
 
 TEST_F(EditPictures, TheTagWindow) {

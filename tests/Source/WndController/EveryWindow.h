@@ -11,6 +11,7 @@
 #include "Source/WndController/WaitWndController.h"
 #include "tests/RingtoneMaker/RingtoneWorld.h"
 #include "tests/Source/CDBurn/BurnWorld.h"
+#include "tests/Source/WndController/BalanceWorld.h"
 #include "tests/Source/WndController/EditWorld.h"
 #include "tests/Source/WndController/SplitWorld.h"
 #include "tests/Source/WndController/WindowWorld.h"
@@ -84,6 +85,15 @@ inline void split(const Look& look) {
     world.controller.waitWndController().setStopWork();
 }
 
+inline void balance(const Look& look) {
+    BalanceWorld world;
+    world.open();
+    world.balance.window()->resize(720, 420);
+    ToolControl::showWindowNib(world.balance);
+    ASSERT_TRUE(waitFor([&] { return world.balance.isMeasured(); }));
+    look(*world.balance.window(), QStringLiteral("balance"));
+}
+
 inline void preferences(const Look& look) {
     WindowWorld world;
     FakeHotKeys hotKeys;
@@ -126,7 +136,7 @@ inline void burn(const Look& look) {
 }
 
 inline void lookAtAll(const Look& look) {
-    for (const auto& open : {main, edit, split, preferences, ringtone, filter, burn})
+    for (const auto& open : {main, edit, split, balance, preferences, ringtone, filter, burn})
         open([&look](QWidget& window, const QString& name) {
             QCoreApplication::processEvents();
             look(window, name);

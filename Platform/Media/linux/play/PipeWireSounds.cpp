@@ -29,10 +29,13 @@ public:
         reader_ = std::move(opened).valueOr(nullptr);
         if (reader_ && !open())
             reader_.reset();
-        if (!reader_)
-            lastError_ = error ? error.text : QCoreApplication::translate("Media", "%1 cannot be played").arg(path);
-        timer_.setInterval(kLookEveryMs);
-        connect(&timer_, &QTimer::timeout, this, &PipeWireSound::look);
+        setUp(error);
+    }
+    PipeWireSound(std::unique_ptr<ExtAudioFileReader> reader, const QString& name, double ahead)
+        : path_(name), ahead_(ahead), reader_(std::move(reader)) {
+        if (reader_ && !open())
+            reader_.reset();
+        setUp({});
     }
     ~PipeWireSound() override { closePlayer(); }
 
@@ -68,7 +71,7 @@ public:
         closePlayer();
         if (position_ >= length_)
             position_ = 0;
-        player_ = std::make_unique<SoundPlayer>(*reader_, format_);
+        player_ = std::make_unique<SoundPlayer>(*reader_, format_, ahead_);
         player_->setVolume(volume_);
         QString why;
         if (!player_->start(position_, why)) {
@@ -93,6 +96,12 @@ public:
     QString lastError() const override { return lastError_; }
 
 private:
+    void setUp(const Error& error) {
+        if (!reader_)
+            lastError_ = error ? error.text : QCoreApplication::translate("Media", "%1 cannot be played").arg(path_);
+        timer_.setInterval(kLookEveryMs);
+        connect(&timer_, &QTimer::timeout, this, &PipeWireSound::look);
+    }
     bool open() {
         const auto source = reader_->fileDataFormat();
         if (!(source.mSampleRate >= 1) || source.mChannelsPerFrame == 0)
@@ -130,6 +139,7 @@ private:
 
     QString path_;
     QString lastError_;
+    double ahead_ = SoundPlayer::kSecondsAhead;
     std::unique_ptr<ExtAudioFileReader> reader_;
     AudioStreamBasicDescription format_;
     std::int64_t length_ = 0;
@@ -144,6 +154,10 @@ class PipeWireSounds final : public Sounds {
 public:
     explicit PipeWireSounds(MediaFiles& files) : files_(files) {}
     std::unique_ptr<Sound> open(const QString& path) override { return std::make_unique<PipeWireSound>(files_, path); }
+    std::unique_ptr<Sound> openReader(std::unique_ptr<ExtAudioFileReader> reader, const QString& name,
+                                      double ahead) override {
+        return std::make_unique<PipeWireSound>(std::move(reader), name, ahead);
+    }
 
 private:
     MediaFiles& files_;

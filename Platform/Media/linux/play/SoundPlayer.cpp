@@ -21,7 +21,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr double kRingSeconds = 0.75;
 constexpr std::size_t kBlock = 2048;
 /// Silent cycles after the last frame: until they are consumed the last frames may still wait in the server.
 constexpr int kCyclesBehindTheEnd = 3;
@@ -197,8 +196,8 @@ bool SoundPlayer::Connection::start(QString& why) {
     return true;
 }
 
-SoundPlayer::SoundPlayer(ExtAudioFileReader& reader, const AudioStreamBasicDescription& format)
-    : format_(format), ring_(std::size_t(kRingSeconds * format.mSampleRate) + kBlock, format.mChannelsPerFrame),
+SoundPlayer::SoundPlayer(ExtAudioFileReader& reader, const AudioStreamBasicDescription& format, double ahead)
+    : format_(format), ring_(std::size_t(ahead * format.mSampleRate) + kBlock, format.mChannelsPerFrame),
       decoder_(std::make_unique<Decoder>(reader, ring_, format.mChannelsPerFrame)) {
 }
 

@@ -16,8 +16,11 @@ namespace Platform {
 /// destroyed to stop; main thread. Meanwhile only the decoding thread uses the reader.
 class SoundPlayer {
 public:
-    /// @p format is the reader's client format: float, not interleaved, one or two channels.
-    SoundPlayer(ExtAudioFileReader& reader, const AudioStreamBasicDescription& format);
+    static constexpr double kSecondsAhead = 0.75;
+
+    /// @p format is the reader's client format: float, not interleaved, one or two channels. @p ahead: seconds that are
+    /// decoded in advance.
+    SoundPlayer(ExtAudioFileReader& reader, const AudioStreamBasicDescription& format, double ahead = kSecondsAhead);
     /// Returns when neither thread uses the reader any more.
     ~SoundPlayer();
     SoundPlayer(const SoundPlayer&) = delete;
