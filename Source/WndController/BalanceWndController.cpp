@@ -407,7 +407,7 @@ void BalanceWndController::saved(BalanceSave::Result result) {
                     {lower, Alerts::cancelLabel()}) != 0)
                 return;
             setSettings(settings_.loweredBy(std::ceil(result.tooLoud * 10) / 10));
-            save(task_.file.exportPath, task_.file.replace, true);
+            save(QString(task_.file.exportPath), task_.file.replace, true); // a copy: save() makes the task anew
             return;
         }
         (void)Platform::services().alerts->runModal(tr("The recording was not saved."), result.file.problem,

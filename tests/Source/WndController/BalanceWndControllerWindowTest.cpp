@@ -146,7 +146,7 @@ TEST_F(BalanceWindow, TheOutlineSeeksByMouseAndKeys) {
 }
 
 TEST_F(BalanceWindow, TooLoudIsToldAndLowered) {
-    open(0.5F);
+    open(0.4F);
     ASSERT_TRUE(measured());
     EXPECT_TRUE(find<QLabel>("lblLoudness_").text().startsWith(u"Loudest point: "_s));
     EXPECT_FALSE(find<QPushButton>("btnLower_").isEnabled());
@@ -156,7 +156,7 @@ TEST_F(BalanceWindow, TooLoudIsToldAndLowered) {
         << qPrintable(find<QLabel>("lblLoudness_").text());
     EXPECT_TRUE(find<QPushButton>("btnLower_").isEnabled());
     click("btnLower_");
-    EXPECT_LT(world.balance.settings().inputGain, 5);
+    EXPECT_LT(world.balance.settings().inputGain, 6);
     ASSERT_TRUE(measured());
     EXPECT_TRUE(find<QLabel>("lblLoudness_").text().startsWith(u"Loudest point: "_s))
         << qPrintable(find<QLabel>("lblLoudness_").text());
@@ -217,8 +217,8 @@ TEST_F(BalanceWindow, EscapeStopsASaveAndThenCloses) {
     key(Qt::Key_Escape);
     ASSERT_TRUE(saved());
     EXPECT_TRUE(window().isVisible());
-    if (world.updatedPaths.isEmpty()) // the save may have been at its end
-        EXPECT_EQ(Mpeg4Files::contentOf(mix()), before);
+    const bool wasAtItsEnd = !world.updatedPaths.isEmpty();
+    EXPECT_TRUE(wasAtItsEnd || Mpeg4Files::contentOf(mix()) == before);
     key(Qt::Key_Escape);
     EXPECT_FALSE(window().isVisible());
 }

@@ -86,9 +86,9 @@ QList<Shown> textsOf(const QWidget& window) {
 bool showsTime(const QWidget& widget) {
     const QWidget* each = &widget;
     return qobject_cast<const AudioRecordWaveView*>(each) || qobject_cast<const AudioPlayProgressView*>(each) ||
-           qobject_cast<const AudioTrimEditView*>(each) || qobject_cast<const SplitEditView*>(each) ||
-           qobject_cast<const RangeTimesView*>(each) || each->objectName() == u"audioEditScrollView"_s ||
-           qobject_cast<const TabularLabel*>(each);
+           qobject_cast<const AudioTrimEditView*>(each) || qobject_cast<const BalanceView*>(each) ||
+           qobject_cast<const SplitEditView*>(each) || qobject_cast<const RangeTimesView*>(each) ||
+           each->objectName() == u"audioEditScrollView"_s || qobject_cast<const TabularLabel*>(each);
 }
 
 /// Words of tests and names that are the same in every language.
