@@ -26,9 +26,10 @@ Commands byName(std::initializer_list<const Command*> commands) {
 }
 
 const Commands& plainCommands() {
-    static const Commands plain = byName({&balanceCommand, &burnCommand, &controlCommand, &convertCommand, &devicesCommand,
-                                          &driverCommand, &drivesCommand, &joinCommand, &libraryCommand, &recordCommand,
-                                          &ringtoneCommand, &splitCommand, &tagCommand, &trimCommand});
+    static const Commands plain =
+        byName({&balanceCommand, &burnCommand, &controlCommand, &convertCommand, &devicesCommand, &driverCommand,
+                &drivesCommand, &joinCommand, &libraryCommand, &recordCommand, &ringtoneCommand, &splitCommand,
+                &tagCommand, &trimCommand});
     return plain;
 }
 

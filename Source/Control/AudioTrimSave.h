@@ -43,8 +43,8 @@ struct Result {
 [[nodiscard]] Result run(ConverterAudioControl& converter, const Task& task,
                          const std::function<bool(double)>& progress);
 
-/// The last step of run(), for other edits that make a new file: gives @p temporary the tags and the cover, and then the
-/// name of the target. Afterwards the temporary file may be gone. The task's range is not used.
+/// The last step of run(), for other edits that make a new file: gives @p temporary the tags and the cover, and then
+/// the name of the target. Afterwards the temporary file may be gone. The task's range is not used.
 [[nodiscard]] Result deliver(const Task& task, const QString& temporary);
 
 } // namespace AudioTrimSave

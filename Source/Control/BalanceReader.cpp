@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <cmath>
 
-
 bool BalanceSettings::isSane() const {
     const auto isGain = [](double gain) { return gain >= kSilent && gain <= kLoudest; };
     return isGain(inputGain) && isGain(computerGain) && std::fabs(delayMs) <= kLongestDelayMs;
@@ -35,7 +34,8 @@ Platform::Result<std::unique_ptr<BalanceReader>> BalanceReader::open(const Recor
     std::unique_ptr<BalanceReader> reader(new BalanceReader);
     auto* const files = Platform::services().mediaFiles;
     const auto format = reader->fileDataFormat();
-    for (const auto& [track, path] : {std::pair(&reader->input_, tracks.input), {&reader->computer_, tracks.computer}}) {
+    for (const auto& [track, path] :
+         {std::pair(&reader->input_, tracks.input), {&reader->computer_, tracks.computer}}) {
         auto file = files->openReader(path);
         if (!file)
             return file.error();

@@ -147,7 +147,8 @@ Result run(const Task& task, const std::function<bool(double)>& progress) {
         // Rounded up to a hundredth, so that the lowered sum fits.
         result.tooLoud = std::ceil(decibels(*most) * 100) / 100;
         if (!task.lowersToFit) {
-            problem = text(QT_TRANSLATE_NOOP("BalanceSave", "The sum of both tracks is too loud and would be clipped."));
+            problem =
+                text(QT_TRANSLATE_NOOP("BalanceSave", "The sum of both tracks is too loud and would be clipped."));
             return result;
         }
         result.settings = task.settings.loweredBy(result.tooLoud);

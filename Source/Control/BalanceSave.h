@@ -7,16 +7,16 @@
 
 #include <functional>
 
-/// Mixes the kept tracks of a recording anew, in place of the mix or into a new file. Like a trim, the result is written
-/// completely beside its target before it takes the name. On a worker, one at a time per process; @p progress receives a
-/// value from 0 to 1 on that thread and returns false to stop; then nothing is saved.
+/// Mixes the kept tracks of a recording anew, in place of the mix or into a new file. Like a trim, the result is
+/// written completely beside its target before it takes the name. On a worker, one at a time per process; @p progress
+/// receives a value from 0 to 1 on that thread and returns false to stop; then nothing is saved.
 namespace BalanceSave {
 
 struct Task {
     RecordingTracks::Tracks tracks;
     BalanceSettings settings;
-    AudioTrimSave::Task file;  ///< source: the present mix. The range is not used
-    bool lowersToFit = false;  ///< false: nothing is saved when the sum would be clipped
+    AudioTrimSave::Task file; ///< source: the present mix. The range is not used
+    bool lowersToFit = false; ///< false: nothing is saved when the sum would be clipped
 };
 
 struct Result {

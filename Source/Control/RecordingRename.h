@@ -21,8 +21,9 @@ struct Outcome {
 /// symbolic link itself is renamed.
 [[nodiscard]] Outcome rename(const QString& path, const QString& title);
 
-/// Renames the kept tracks of a mix (RecordingTracks) after the mix was renamed from @p before to @p after. A track that
-/// is missing, has another name, or whose new name is taken keeps its path. @return the entry with the present paths
+/// Renames the kept tracks of a mix (RecordingTracks) after the mix was renamed from @p before to @p after. A track
+/// that is missing, has another name, or whose new name is taken keeps its path. @return the entry with the present
+/// paths
 [[nodiscard]] Dictionary renameTracks(const Dictionary& entry, const QString& before, const QString& after);
 
 } // namespace RecordingRename

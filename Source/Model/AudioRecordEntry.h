@@ -13,12 +13,12 @@ inline const QString Artist = QStringLiteral("ID3ArtistKey");
 inline const QString Album = QStringLiteral("ID3AlbumKey");
 inline const QString Year = QStringLiteral("ID3YearKey");
 inline const QString Genre = QStringLiteral("ID3GenreKey");
-inline const QString Artwork = QStringLiteral("ID3ArtworkKey");   ///< image data; tag dictionaries only
-inline const QString AddDate = QStringLiteral("AddAudioDate");    ///< "%Y/%m/%d"
-inline const QString Length = QStringLiteral("AddAudioLength");   ///< float seconds
+inline const QString Artwork = QStringLiteral("ID3ArtworkKey");                ///< image data; tag dictionaries only
+inline const QString AddDate = QStringLiteral("AddAudioDate");                 ///< "%Y/%m/%d"
+inline const QString Length = QStringLiteral("AddAudioLength");                ///< float seconds
 inline const QString InputTrack = QStringLiteral("AudioInputTrackPath");       ///< see RecordingTracks
 inline const QString ComputerTrack = QStringLiteral("AudioComputerTrackPath"); ///< see RecordingTracks
-inline const QString IsNew = QStringLiteral("ISNewAudioFileKey"); ///< transient, never stored
+inline const QString IsNew = QStringLiteral("ISNewAudioFileKey");              ///< transient, never stored
 
 /// The identity of an entry; invalid when it has none. Reads the map without copying it, because it is called for each
 /// of ten thousand rows.

@@ -330,8 +330,8 @@ void RecordQueue::startConverterAudio(const std::shared_ptr<ExportJob>& job) {
 }
 
 void RecordQueue::converterAudio(const std::shared_ptr<ExportJob>& job) {
-    // The WAVE is complete. The raw files are still needed for the kept tracks only; keepDamaged() may have removed them
-    // from the job.
+    // The WAVE is complete. The raw files are still needed for the kept tracks only; keepDamaged() may have removed
+    // them from the job.
     const QStringList raws = rawFiles(*job);
     job->keepsTracks = job->keepsTracks && raws.size() == 2;
     if (!job->keepsTracks)
@@ -415,9 +415,8 @@ void RecordQueue::keepDamaged(ExportJob& job, const QStringList& keys, const Err
 }
 
 void RecordQueue::tellKept(const QString& text, const QStringList& kept, bool isWhole) {
-    onMain([this, notice = keptNotice(text, isWhole ? Kept::Source : Kept::MadeFrom, kept)] {
-        Q_EMIT noticed(notice);
-    });
+    onMain(
+        [this, notice = keptNotice(text, isWhole ? Kept::Source : Kept::MadeFrom, kept)] { Q_EMIT noticed(notice); });
 }
 
 void RecordQueue::setAside(const std::shared_ptr<ExportJob>& job, const QStringList& files, const QString& why) {

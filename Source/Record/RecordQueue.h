@@ -37,10 +37,10 @@ struct ExportJob {
     std::array<SourceTiming, 2> timings; ///< of the input device and of computer audio
     /// A full disk or a lost device ended it: the filter does not apply, because the user did not make it short.
     bool isKeptHoweverShort = false;
-    PartTitle title{};             ///< what a media player named for it
-    bool keepsTracks = false;        ///< of two sources, each is also kept as a file of its own
-    RecordingTracks::Tracks tracks;  ///< the kept tracks, when they are written
-    std::atomic<int> openFiles{0}; ///< raw files that are still being closed; the job starts when there are none
+    PartTitle title{};              ///< what a media player named for it
+    bool keepsTracks = false;       ///< of two sources, each is also kept as a file of its own
+    RecordingTracks::Tracks tracks; ///< the kept tracks, when they are written
+    std::atomic<int> openFiles{0};  ///< raw files that are still being closed; the job starts when there are none
 
     [[nodiscard]] QString path(const QString& key) const { return paths.value(key).toString(); }
     /// How the computer-audio recording is aligned with the other one: how much later each starts, and the speed of the
@@ -115,9 +115,8 @@ private:
     void moveRawFile(const std::shared_ptr<ExportJob>& job, const QString& rawPath);
     void openMovies(const std::shared_ptr<ExportJob>& job);
     /// Mixes the second movie into the first, by the job's timing.
-    [[nodiscard]] static std::unique_ptr<Platform::Movie> composed(const ExportJob& job,
-                                                                   std::unique_ptr<Platform::Movie> first,
-                                                                   std::unique_ptr<Platform::Movie> second);
+    [[nodiscard]] static std::unique_ptr<Platform::Movie>
+    composed(const ExportJob& job, std::unique_ptr<Platform::Movie> first, std::unique_ptr<Platform::Movie> second);
     [[nodiscard]] static QStringList rawFiles(const ExportJob& job);
     void keepTracks(const std::shared_ptr<ExportJob>& job);
     [[nodiscard]] Platform::Result<> writeTracks(const ExportJob& job, const QStringList& files);

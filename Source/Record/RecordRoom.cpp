@@ -56,10 +56,9 @@ RecordRoom::Room RecordRoom::measure(const Recording& recording) {
     const double mixed = mixes ? MixedBytes : 0;
     // Kept tracks are written while the raw files are still there.
     const double tracks = mixes && recording.keepsTracks ? 2 * EncodedBytes : 0;
-    room.seconds = temporary < 0
-                       ? Unknown
-                       : (double(temporary) - recording.seconds * (mixed + tracks)) /
-                             (EncodedBytes * recording.sources + mixed + tracks);
+    room.seconds = temporary < 0 ? Unknown
+                                 : (double(temporary) - recording.seconds * (mixed + tracks)) /
+                                       (EncodedBytes * recording.sources + mixed + tracks);
     // Within one file system the finished recording is only renamed and needs no more space.
     if (QStorageInfo(recording.temporaryFolder).device() != QStorageInfo(recording.recordFolder).device()) {
         const auto target = availableBytes(recording.recordFolder);

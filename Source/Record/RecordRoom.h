@@ -15,10 +15,10 @@ class RecordRoom : public QObject {
 public:
     /// The running recording.
     struct Recording {
-        QString temporaryFolder; ///< of the raw files and the mix
-        QString recordFolder;    ///< of the finished recording
-        int sources = 1;         ///< two are mixed at the end, and the mix needs space, too
-        double seconds = 0;      ///< of the current file
+        QString temporaryFolder;  ///< of the raw files and the mix
+        QString recordFolder;     ///< of the finished recording
+        int sources = 1;          ///< two are mixed at the end, and the mix needs space, too
+        double seconds = 0;       ///< of the current file
         bool keepsTracks = false; ///< of two sources, each is also kept as a file of its own
     };
     struct Room {

@@ -71,8 +71,7 @@ QRectF BalanceView::laneRect(Lane lane) const {
 
 void BalanceView::drawLane(QPainter& painter, Lane lane) const {
     const QRectF rect = laneRect(lane);
-    const auto factor =
-        float(BalanceSettings::factor(lane == Input ? balance_.inputGain : balance_.computerGain));
+    const auto factor = float(BalanceSettings::factor(lane == Input ? balance_.inputGain : balance_.computerGain));
     QList<float> values = outlines_[lane];
     for (float& value : values)
         value *= factor;
@@ -165,4 +164,3 @@ void BalanceView::focusOutEvent(QFocusEvent* event) {
     QWidget::focusOutEvent(event);
     update();
 }
-

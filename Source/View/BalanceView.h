@@ -10,8 +10,8 @@
 
 #include <array>
 
-/// The outlines of two tracks on one time axis, the input above computer audio, as loud and as late as the balance makes
-/// them, and the play position as a line. A click, a drag and the arrow keys move the position. Main thread.
+/// The outlines of two tracks on one time axis, the input above computer audio, as loud and as late as the balance
+/// makes them, and the play position as a line. A click, a drag and the arrow keys move the position. Main thread.
 class BalanceView : public QWidget, public SpokenView {
     Q_OBJECT
 public:

@@ -45,8 +45,8 @@ QString decibelText(double decibels) {
 
 BalanceWndController::BalanceWndController(QWidget* mainWindow, QObject* parent)
     : QObject(parent), window_(new EditDialog(u"BalanceWndLayout"_s, kBalanceWindowSize, mainWindow)),
-      ui_(std::make_unique<Ui::BalanceWnd>()),
-      outlines_{std::make_unique<AudioOutline>(), std::make_unique<AudioOutline>()} {
+      ui_(std::make_unique<Ui::BalanceWnd>()), outlines_{std::make_unique<AudioOutline>(),
+                                                         std::make_unique<AudioOutline>()} {
     ui_->setupUi(window_);
     awakeFromNib();
 }
@@ -289,8 +289,7 @@ void BalanceWndController::follow() {
     const double length = sound_->duration();
     const double now = sound_->currentTime();
     ui_->balanceView_->setPosition(now);
-    const QString times =
-        ToolControl::getTimeString(qint64(now)) + u'/' + ToolControl::getTimeString(qint64(length));
+    const QString times = ToolControl::getTimeString(qint64(now)) + u'/' + ToolControl::getTimeString(qint64(length));
     if (ui_->lblPlayTime_->text() != times)
         ui_->lblPlayTime_->setText(times);
     if (const bool playing = sound_->isPlaying(); playing != (ui_->btnPlay_->property("image") == u"Pause.png"_s))
@@ -320,8 +319,10 @@ void BalanceWndController::saveAudio() {
         return;
     stop();
     // Inserted without arg(), because the path may contain "%1".
-    const QString question = tr("Do you want to replace \"%1\" with the new mix? Its tracks stay.").replace(u"%1"_s, mixPath());
-    if (Platform::services().alerts->runModal(tr("Warning:"), question, {Alerts::okLabel(), Alerts::cancelLabel()}) == 0)
+    const QString question =
+        tr("Do you want to replace \"%1\" with the new mix? Its tracks stay.").replace(u"%1"_s, mixPath());
+    if (Platform::services().alerts->runModal(tr("Warning:"), question, {Alerts::okLabel(), Alerts::cancelLabel()}) ==
+        0)
         save(AudioTrimSave::exportPath(mixPath()), true, false);
 }
 
@@ -359,9 +360,8 @@ void BalanceWndController::save(const QString& path, bool replace, bool lowersTo
             const auto now = std::chrono::steady_clock::now();
             if (now - shown >= kProgressEvery) {
                 shown = now;
-                Platform::MainQueue::post(this, [this, share] {
-                    ui_->progress_->setValue(int(share * kProgressSteps));
-                });
+                Platform::MainQueue::post(this,
+                                          [this, share] { ui_->progress_->setValue(int(share * kProgressSteps)); });
             }
             return !cancelled_;
         }));
@@ -376,10 +376,10 @@ void BalanceWndController::showSaving(bool saving) {
     ui_->progress_->setValue(0);
     ui_->lblLoudness_->setVisible(!saving);
     ui_->btnLower_->setVisible(!saving);
-    const std::initializer_list<QWidget*> controls{
-        ui_->balanceView_,  ui_->sldInputGain_, ui_->fldInputGain_, ui_->sldComputerGain_, ui_->fldComputerGain_,
-        ui_->sldDelay_,     ui_->fldDelay_,     ui_->btnPlay_,      ui_->btnReset_,        ui_->btnSaveAs_,
-        ui_->btnSave_};
+    const std::initializer_list<QWidget*> controls{ui_->balanceView_,     ui_->sldInputGain_,    ui_->fldInputGain_,
+                                                   ui_->sldComputerGain_, ui_->fldComputerGain_, ui_->sldDelay_,
+                                                   ui_->fldDelay_,        ui_->btnPlay_,         ui_->btnReset_,
+                                                   ui_->btnSaveAs_,       ui_->btnSave_};
     for (QWidget* control : controls)
         control->setEnabled(!saving);
     if (saving)

@@ -25,9 +25,9 @@ namespace Ui {
 class BalanceWnd;
 }
 
-/// The balance window: mixes the kept tracks of a recording anew with two gains and a delay, plays the result while they
-/// are changed, and saves it in place of the mix or into a new file. Created once and reused. Main thread; measuring and
-/// saving run on workers.
+/// The balance window: mixes the kept tracks of a recording anew with two gains and a delay, plays the result while
+/// they are changed, and saves it in place of the mix or into a new file. Created once and reused. Main thread;
+/// measuring and saving run on workers.
 class BalanceWndController : public QObject, public ToolControl::WindowShower {
     Q_OBJECT
 public:

@@ -81,9 +81,11 @@ TEST_F(BalanceCommand, LowersASumThatWouldBeClippedAndSaysSo) {
 }
 
 TEST_F(BalanceCommand, RefusesWrongNumbers) {
-    for (const QStringList& wrong :
-         {QStringList{u"--input-gain"_s, u"loud"_s}, {u"--input-gain"_s, u"21"_s}, {u"--delay"_s, u"2001"_s},
-          {u"--delay"_s, u"nan"_s}, {u"--to"_s, QString()}})
+    for (const QStringList& wrong : {QStringList{u"--input-gain"_s, u"loud"_s},
+                                     {u"--input-gain"_s, u"21"_s},
+                                     {u"--delay"_s, u"2001"_s},
+                                     {u"--delay"_s, u"nan"_s},
+                                     {u"--to"_s, QString()}})
         EXPECT_EQ(balance(QStringList{mix} + wrong).status, 2) << qPrintable(wrong.join(u' '));
     EXPECT_EQ(balance({}).status, 2);
     EXPECT_EQ(balance({mix, input}).status, 2);

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Platform/Media/ExtAudioFile.h"
 #include "Platform/Foundation/Services.h"
+#include "Platform/Media/ExtAudioFile.h"
 #include "RingtoneMaker/CustomSound.h"
 #include "Source/AudioWaveViewController/AudioWaveViewController.h"
 #include "Source/View/Theme.h"

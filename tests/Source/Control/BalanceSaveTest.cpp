@@ -17,12 +17,10 @@ protected:
 
     /// Writes a file of two different channels.
     void write(const QString& path, double pitch, float level, std::int64_t frames = kFrames) const {
-        auto writer = media_->createWriter(path, kAudioFileM4AType,
-                                           {.mSampleRate = 44100,
-                                            .mFormatID = kAudioFormatMPEG4AAC,
-                                            .mFramesPerPacket = 1024,
-                                            .mChannelsPerFrame = 2},
-                                           kAudioFileFlags_EraseFile);
+        auto writer = media_->createWriter(
+            path, kAudioFileM4AType,
+            {.mSampleRate = 44100, .mFormatID = kAudioFormatMPEG4AAC, .mFramesPerPacket = 1024, .mChannelsPerFrame = 2},
+            kAudioFileFlags_EraseFile);
         ASSERT_TRUE(writer) << qPrintable(writer.error().text);
         ASSERT_EQ((*writer)->setClientDataFormat(planarFloatFormat(44100, 2)), noErr);
         AudioCheck::Channels samples(2, std::vector<float>(std::size_t(frames)));
@@ -48,7 +46,8 @@ protected:
         return made;
     }
     /// All samples of a reader, read in blocks of these sizes in turn.
-    static AudioCheck::Channels all(Platform::ExtAudioFileReader& reader, const std::vector<std::uint32_t>& blocks = {4096}) {
+    static AudioCheck::Channels all(Platform::ExtAudioFileReader& reader,
+                                    const std::vector<std::uint32_t>& blocks = {4096}) {
         EXPECT_EQ(reader.setClientDataFormat(planarFloatFormat(44100, 2)), noErr);
         AudioCheck::Channels result(2);
         std::array<std::vector<float>, 2> rows{std::vector<float>(16384), std::vector<float>(16384)};
@@ -196,8 +195,7 @@ TEST_F(Balance, AStoppedSaveLeavesEverythingAsItWas) {
     const auto files = tracks();
     const QByteArray before = Mpeg4Files::contentOf(mix.value(AudioRecordEntry::SavePath).toString());
     for (const double stopAt : {0.0, 0.1, 0.3, 0.9}) {
-        const auto result =
-            BalanceSave::run(task(mix, files, {}), [stopAt](double share) { return share < stopAt; });
+        const auto result = BalanceSave::run(task(mix, files, {}), [stopAt](double share) { return share < stopAt; });
         EXPECT_FALSE(result.file.done);
         EXPECT_FALSE(result.file.problem.isEmpty());
         EXPECT_EQ(Mpeg4Files::contentOf(mix.value(AudioRecordEntry::SavePath).toString()), before);

@@ -97,8 +97,8 @@ TEST_F(Rename, TracksFollowTheirMix) {
     const Dictionary after = RecordingRename::renameTracks(entry, at(u"Track0.m4a"_s), renamed.path);
     EXPECT_EQ(after.value(InputTrack), at(u"100%1 $(x) (input).m4a"_s));
     EXPECT_EQ(after.value(ComputerTrack), at(u"100%1 $(x) (computer 2).m4a"_s));
-    EXPECT_EQ(files(), (QStringList{u"100%1 $(x) (computer 2).m4a"_s, u"100%1 $(x) (input).m4a"_s,
-                                    u"100%1 $(x).m4a"_s}));
+    EXPECT_EQ(files(),
+              (QStringList{u"100%1 $(x) (computer 2).m4a"_s, u"100%1 $(x) (input).m4a"_s, u"100%1 $(x).m4a"_s}));
 }
 
 TEST_F(Rename, ATrackWhoseNameIsTakenOrMissingKeepsItsPath) {

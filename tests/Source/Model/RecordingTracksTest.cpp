@@ -82,9 +82,8 @@ TEST_F(Tracks, ThatAnotherEntryNamesStay) {
     const Dictionary row{{AudioRecordEntry::NodeDataKey, u"row"_s},
                          {AudioRecordEntry::SavePath, at(u"Track2 (input).m4a"_s)}};
     const Dictionary other = entry(u"Track2.m4a"_s, u"Track2 (input).m4a"_s, u"Track2 (computer).m4a"_s);
-    for (const QString& name :
-         {u"Track0.m4a"_s, u"Track0 (input).m4a"_s, u"Track0 (computer).m4a"_s, u"Copy.m4a"_s, u"Track2.m4a"_s,
-          u"Track2 (input).m4a"_s, u"Track2 (computer).m4a"_s})
+    for (const QString& name : {u"Track0.m4a"_s, u"Track0 (input).m4a"_s, u"Track0 (computer).m4a"_s, u"Copy.m4a"_s,
+                                u"Track2.m4a"_s, u"Track2 (input).m4a"_s, u"Track2 (computer).m4a"_s})
         write(name);
     for (const Dictionary& each : {one, copy, row, other})
         library.addRecordFile(each);

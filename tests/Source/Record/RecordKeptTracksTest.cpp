@@ -110,9 +110,8 @@ TEST_F(KeptTracks, EveryPartOfASplitHasItsOwn) {
     playBoth(0.5F, 6);
     controller->startAndStopRecord();
     ASSERT_TRUE(queueDone());
-    EXPECT_EQ(recordings(),
-              (QStringList{u"Track0 (computer).m4a"_s, u"Track0 (input).m4a"_s, u"Track0.m4a"_s,
-                           u"Track1 (computer).m4a"_s, u"Track1 (input).m4a"_s, u"Track1.m4a"_s}));
+    EXPECT_EQ(recordings(), (QStringList{u"Track0 (computer).m4a"_s, u"Track0 (input).m4a"_s, u"Track0.m4a"_s,
+                                         u"Track1 (computer).m4a"_s, u"Track1 (input).m4a"_s, u"Track1.m4a"_s}));
 }
 
 TEST_F(KeptTracks, ThatCannotBeWrittenDoNotCostTheMix) {

@@ -43,8 +43,7 @@ protected:
     }
     void click(const char* button) const {
         const QWidget& widget = find<QPushButton>(button);
-        QTest::mouseClick(window().windowHandle(), Qt::LeftButton, {},
-                          widget.mapTo(&window(), widget.rect().center()));
+        QTest::mouseClick(window().windowHandle(), Qt::LeftButton, {}, widget.mapTo(&window(), widget.rect().center()));
     }
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const {
         QTest::keyClick(window().windowHandle(), key, modifiers);

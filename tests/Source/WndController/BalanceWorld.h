@@ -17,12 +17,10 @@ struct BalanceWorld : EditWorld {
     /// Writes a tone into a stereo file.
     void write(const QString& path, double pitch, float level) const {
         constexpr std::uint32_t frames = 3 * 44100;
-        auto writer = media->createWriter(path, kAudioFileM4AType,
-                                          {.mSampleRate = 44100,
-                                           .mFormatID = kAudioFormatMPEG4AAC,
-                                           .mFramesPerPacket = 1024,
-                                           .mChannelsPerFrame = 2},
-                                          kAudioFileFlags_EraseFile);
+        auto writer = media->createWriter(
+            path, kAudioFileM4AType,
+            {.mSampleRate = 44100, .mFormatID = kAudioFormatMPEG4AAC, .mFramesPerPacket = 1024, .mChannelsPerFrame = 2},
+            kAudioFileFlags_EraseFile);
         if (!writer)
             return;
         (void)(*writer)->setClientDataFormat(planarFloatFormat(44100, 2));
