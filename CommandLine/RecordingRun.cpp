@@ -67,7 +67,7 @@ RecordingRun::RecordingRun(RecordPreferences& preferences, const RecordingTask& 
                          }
                          paths_.append(path);
                          QJsonObject recording = described(path, entry.value(AudioRecordEntry::Length).toDouble(),
-                                                          entry.value(AudioRecordEntry::Title).toString());
+                                                           entry.value(AudioRecordEntry::Title).toString());
                          if (const auto tracks = RecordingTracks::stored(entry); tracks.isWhole())
                              recording.insert(u"tracks"_s, QJsonArray{tracks.input, tracks.computer});
                          recordings_.append(recording);

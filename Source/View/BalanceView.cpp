@@ -15,10 +15,10 @@
 namespace {
 
 constexpr int kLaneHeight = 56;
-constexpr int kMargin = 6;
-constexpr double kStep = 5; ///< seconds that an arrow key moves the position, as on the bar of the playback
-constexpr double kSmallStep = 1;
-constexpr double kPage = 30;
+constexpr int kNameMargin = 6;
+constexpr double kSeekStep = 5; ///< seconds that an arrow key moves the position, as on the bar of the playback
+constexpr double kSmallSeekStep = 1;
+constexpr double kSeekPage = 30;
 
 } // namespace
 
@@ -87,7 +87,7 @@ void BalanceView::drawLane(QPainter& painter, Lane lane) const {
     OutlineDrawing::draw(painter, place, values, palette().color(QPalette::Highlight));
     const QString name = lane == Input ? tr("Input") : tr("Computer audio");
     const QFontMetrics metrics = fontMetrics();
-    const QRectF label(rect.x() + kMargin, rect.y() + 2, metrics.horizontalAdvance(name) + 2.0 * kMargin,
+    const QRectF label(rect.x() + kNameMargin, rect.y() + 2, metrics.horizontalAdvance(name) + 2.0 * kNameMargin,
                        metrics.height() + 2.0);
     painter.fillRect(label, palette().color(QPalette::Base));
     painter.setPen(palette().color(QPalette::Text));
@@ -136,16 +136,16 @@ void BalanceView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void BalanceView::keyPressEvent(QKeyEvent* event) {
-    const double step = event->modifiers() & Qt::ShiftModifier ? kSmallStep : kStep;
+    const double step = event->modifiers() & Qt::ShiftModifier ? kSmallSeekStep : kSeekStep;
     switch (event->key()) {
     case Qt::Key_Left:
         return seek(position_ - step);
     case Qt::Key_Right:
         return seek(position_ + step);
     case Qt::Key_PageDown:
-        return seek(position_ - kPage);
+        return seek(position_ - kSeekPage);
     case Qt::Key_PageUp:
-        return seek(position_ + kPage);
+        return seek(position_ + kSeekPage);
     case Qt::Key_Home:
         return seek(0);
     case Qt::Key_End:

@@ -29,9 +29,9 @@ using Platform::Alerts;
 
 namespace {
 
-constexpr int kTickMs = 50;
+constexpr int kFollowEveryMs = 50;
 constexpr int kMeasureAfterMs = 250;
-constexpr auto kProgressEvery = std::chrono::milliseconds(100);
+constexpr auto kSaveProgressEvery = std::chrono::milliseconds(100);
 constexpr int kProgressSteps = 1000;
 constexpr QSize kBalanceWindowSize(720, 420);
 /// Seconds that are decoded in advance: a change of the gains or of the delay is heard after about this time.
@@ -91,7 +91,7 @@ void BalanceWndController::awakeFromNib() {
         connect(outline, &AudioOutline::grew, this, show);
         connect(outline, &AudioOutline::loaded, this, show);
     }
-    clock_.setInterval(kTickMs);
+    clock_.setInterval(kFollowEveryMs);
     connect(&clock_, &QTimer::timeout, this, &Self::follow);
     measureSoon_.setSingleShot(true);
     measureSoon_.setInterval(kMeasureAfterMs);
@@ -358,7 +358,7 @@ void BalanceWndController::save(const QString& path, bool replace, bool lowersTo
         auto shown = std::chrono::steady_clock::now();
         const auto result = std::make_shared<BalanceSave::Result>(BalanceSave::run(task, [&](double share) {
             const auto now = std::chrono::steady_clock::now();
-            if (now - shown >= kProgressEvery) {
+            if (now - shown >= kSaveProgressEvery) {
                 shown = now;
                 Platform::MainQueue::post(this,
                                           [this, share] { ui_->progress_->setValue(int(share * kProgressSteps)); });
