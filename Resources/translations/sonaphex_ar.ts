@@ -582,6 +582,219 @@
     </message>
 </context>
 <context>
+    <name>BalanceSave</name>
+    <message>
+        <source>It was stopped before the end.</source>
+        <translation>أُوقف قبل النهاية.</translation>
+    </message>
+    <message>
+        <source>The file “%1” is no longer there.</source>
+        <translation>لم يعد الملف «%1» موجودًا.</translation>
+    </message>
+    <message>
+        <source>The file “%1” is still being recorded to.</source>
+        <translation>ما زال التسجيل جاريًا في الملف «%1».</translation>
+    </message>
+    <message>
+        <source>The sum of both tracks is too loud and would be clipped.</source>
+        <translation>مجموع المسارين أعلى صوتًا مما ينبغي وستُقصّ ذراه.</translation>
+    </message>
+    <message>
+        <source>the new file</source>
+        <translation>الملف الجديد</translation>
+    </message>
+</context>
+<context>
+    <name>BalanceView</name>
+    <message>
+        <source>Play position</source>
+        <translation>موضع التشغيل</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>الإدخال</translation>
+    </message>
+    <message>
+        <source>Computer audio</source>
+        <translation>صوت الحاسوب</translation>
+    </message>
+</context>
+<context>
+    <name>BalanceWnd</name>
+    <message>
+        <source>Balance</source>
+        <translation>موازنة</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>التسجيل</translation>
+    </message>
+    <message>
+        <source>Play time</source>
+        <translation>زمن التشغيل</translation>
+    </message>
+    <message>
+        <source>&amp;Input</source>
+        <translation>الإد&amp;خال</translation>
+    </message>
+    <message>
+        <source>Gain of the input</source>
+        <translation>كسب الإدخال</translation>
+    </message>
+    <message>
+        <source> dB</source>
+        <translation> ديسيبل</translation>
+    </message>
+    <message>
+        <source>&amp;Computer audio</source>
+        <translation>&amp;صوت الحاسوب</translation>
+    </message>
+    <message>
+        <source>Gain of computer audio</source>
+        <translation>كسب صوت الحاسوب</translation>
+    </message>
+    <message>
+        <source>&amp;Delay of computer audio</source>
+        <translation>&amp;تأخير صوت الحاسوب</translation>
+    </message>
+    <message>
+        <source>Delay of computer audio</source>
+        <translation>تأخير صوت الحاسوب</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> م.ث</translation>
+    </message>
+    <message>
+        <source>Loudness</source>
+        <translation>علوّ الصوت</translation>
+    </message>
+    <message>
+        <source>&amp;Lower to Fit</source>
+        <translation>اخ&amp;فض بما يكفي</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>التقدّم</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>شغّل</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>أعِد ال&amp;ضبط</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>ألغِ</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>احفظ &amp;باسم…</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>ا&amp;حفظ</translation>
+    </message>
+</context>
+<context>
+    <name>BalanceWndController</name>
+    <message>
+        <source>Silent</source>
+        <comment>a track that is not in the mix</comment>
+        <translation>صامت</translation>
+    </message>
+    <message>
+        <source>The tracks cannot be played.</source>
+        <translation>لا يمكن تشغيل المسارين.</translation>
+    </message>
+    <message>
+        <source>Both gains and the delay are 0.</source>
+        <translation>قيم الكسبين والتأخير كلها 0.</translation>
+    </message>
+    <message>
+        <source>Measuring the loudest point …</source>
+        <translation>يجري قياس أعلى نقطة …</translation>
+    </message>
+    <message>
+        <source>Too loud by %1 dB: the loudest parts would be clipped.</source>
+        <translation>الصوت أعلى من الحد بـ %1 ديسيبل: ستُقصّ ذرى أعلى الأجزاء.</translation>
+    </message>
+    <message>
+        <source>The mix is silent.</source>
+        <translation>المزيج صامت.</translation>
+    </message>
+    <message>
+        <source>Loudest point: %1 dB below the limit</source>
+        <translation>أعلى نقطة: دون الحد بـ %1 ديسيبل</translation>
+    </message>
+    <message>
+        <source>Lowers both gains until nothing is clipped</source>
+        <translation>يخفض الكسبين حتى لا تُقصّ أي ذروة</translation>
+    </message>
+    <message>
+        <source>Nothing would be clipped.</source>
+        <translation>لن تُقصّ أي ذروة.</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>ألبِث</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>شغّل</translation>
+    </message>
+    <message>
+        <source>The file is being played.</source>
+        <translation>الملف قيد التشغيل.</translation>
+    </message>
+    <message>
+        <source>The recording cannot be saved.</source>
+        <translation>لا يمكن حفظ التسجيل.</translation>
+    </message>
+    <message>
+        <source>Do you want to replace &quot;%1&quot; with the new mix? Its tracks stay.</source>
+        <translation>أتريد أن يحل المزيج الجديد محل «%1»؟ يبقى مساراه على حالهما.</translation>
+    </message>
+    <message>
+        <source>Warning:</source>
+        <translation>تحذير:</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>احفظ باسم</translation>
+    </message>
+    <message>
+        <source>This path exists, please change the path or name.</source>
+        <translation>هذا المسار موجود، يُرجى تغيير المسار أو الاسم.</translation>
+    </message>
+    <message>
+        <source>Lower Both by %1 dB</source>
+        <translation>اخفض كليهما بـ %1 ديسيبل</translation>
+    </message>
+    <message>
+        <source>The mix is too loud.</source>
+        <translation>صوت المزيج أعلى مما ينبغي.</translation>
+    </message>
+    <message>
+        <source>Its loudest parts would be clipped. Lower both gains, and nothing is clipped.</source>
+        <translation>ستُقصّ ذرى أعلى أجزائه. اخفض الكسبين فلا تُقصّ أي ذروة.</translation>
+    </message>
+    <message>
+        <source>The recording was not saved.</source>
+        <translation>لم يُحفظ التسجيل.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>أغلق</translation>
+    </message>
+    <message>
+        <source>The new mix is saved.</source>
+        <translation>حُفظ المزيج الجديد.</translation>
+    </message>
+</context>
+<context>
     <name>BurnControl</name>
     <message>
         <source>there is no drive</source>
@@ -1753,6 +1966,62 @@ commands:
         <source>Record an album without pauses, one file with its title for each track.</source>
         <translation>سجّل ألبومًا لا فواصل فيه، كل مقطوعة في ملف بعنوانها.</translation>
     </message>
+    <message>
+        <source>%1: no tracks were kept of this recording</source>
+        <translation>%1: لم تُحفظ مسارات صوتية لهذا التسجيل</translation>
+    </message>
+    <message>
+        <source>both gains were lowered by %1 dB, so that nothing is clipped</source>
+        <translation>خُفض الكسبان بـ %1 ديسيبل كي لا تُقصّ أي ذروة</translation>
+    </message>
+    <message>
+        <source>the new mix is saved</source>
+        <translation>حُفظ المزيج الجديد</translation>
+    </message>
+    <message>
+        <source>--%1: %2 is not a number</source>
+        <translation>--%1: %2 ليس عددًا</translation>
+    </message>
+    <message>
+        <source>balance takes one file</source>
+        <translation>يتطلب balance ملفًا واحدًا</translation>
+    </message>
+    <message>
+        <source>gains are -60 to 20 decibels, and the delay -2000 to 2000 milliseconds</source>
+        <translation>الكسب من -60 إلى 20 ديسيبل، والتأخير من -2000 إلى 2000 ملّي ثانية</translation>
+    </message>
+    <message>
+        <source>--to names no file</source>
+        <translation>لا يحدد --to اسم ملف</translation>
+    </message>
+    <message>
+        <source>mix the kept tracks of a recording anew, in its place or into a new file</source>
+        <translation>مزج المسارين المحفوظين لتسجيل من جديد، في مكانه أو إلى ملف جديد</translation>
+    </message>
+    <message>
+        <source>Make the input louder by DB decibels, or softer when it is negative; -60 is silence.</source>
+        <translation>ارفع صوت الإدخال بمقدار DB ديسيبل، أو اخفضه إن كانت القيمة سالبة؛ القيمة -60 صمت.</translation>
+    </message>
+    <message>
+        <source>Make computer audio louder by DB decibels, or softer when it is negative; -60 is silence.</source>
+        <translation>ارفع صوت الحاسوب بمقدار DB ديسيبل، أو اخفضه إن كانت القيمة سالبة؛ القيمة -60 صمت.</translation>
+    </message>
+    <message>
+        <source>Move computer audio MS milliseconds later, or earlier when it is negative; at most 2000.</source>
+        <translation>أخّر صوت الحاسوب MS ملّي ثانية، أو قدّمه إن كانت القيمة سالبة؛ بحد أقصى 2000.</translation>
+    </message>
+    <message>
+        <source>Make the microphone louder against what the computer played.</source>
+        <translation>ارفع صوت الميكروفون مقابل ما شغّله الحاسوب.</translation>
+    </message>
+    <message>
+        <source>Move computer audio 120 milliseconds later, in a new file.</source>
+        <translation>أخّر صوت الحاسوب 120 ملّي ثانية، في ملف جديد.</translation>
+    </message>
+    <message>
+        <source>Of a recording of both sources, also keep the input and computer audio, each as a file of its own beside the mix.</source>
+        <translation>عند تسجيل المصدرين معًا، احتفظ أيضًا بالإدخال وصوت الحاسوب، كل منهما في ملف مستقل بجانب المزيج.</translation>
+    </message>
 </context>
 <context>
     <name>Control</name>
@@ -2041,6 +2310,10 @@ commands:
     <message>
         <source>%1 cannot be opened: close the open dialog first.</source>
         <translation>لا يمكن فتح %1: أغلق الحوار المفتوح أولًا.</translation>
+    </message>
+    <message>
+        <source>The tracks cannot be mixed.</source>
+        <translation>لا يمكن مزج المسارين.</translation>
     </message>
 </context>
 <context>
@@ -2715,6 +2988,18 @@ commands:
         <source>Select two recordings or more first.</source>
         <translation>حدّد تسجيلين أو أكثر أولًا.</translation>
     </message>
+    <message>
+        <source>&amp;Balance…</source>
+        <translation>وا&amp;زِن…</translation>
+    </message>
+    <message>
+        <source>Mix the input and computer audio of the recording anew</source>
+        <translation>امزج الإدخال وصوت الحاسوب في التسجيل من جديد</translation>
+    </message>
+    <message>
+        <source>This recording has no tracks. The preferences have a box that keeps those of the next ones.</source>
+        <translation>ليس لهذا التسجيل مسارات صوتية محفوظة. في التفضيلات خانة تحفظ مسارات التسجيلات التالية.</translation>
+    </message>
 </context>
 <context>
     <name>MainWnd</name>
@@ -3312,6 +3597,18 @@ commands:
         <source>For albums without silences between the tracks.</source>
         <translation>للألبومات التي لا صمت بين مقطوعاتها.</translation>
     </message>
+    <message>
+        <source>K&amp;eep both tracks beside the mix</source>
+        <translation>احت&amp;فظ بالمسارين بجانب المزيج</translation>
+    </message>
+    <message>
+        <source>Keep both tracks beside the mix</source>
+        <translation>احتفظ بالمسارين بجانب المزيج</translation>
+    </message>
+    <message>
+        <source>A recording of both sources then also keeps the input and computer audio, each as a file of its own. Balance… mixes them anew. This takes three times the disk space, and more time after the recording.</source>
+        <translation>عندئذ يحتفظ تسجيل المصدرين أيضًا بالإدخال وصوت الحاسوب، كل منهما في ملف مستقل. ويمزجهما «وازِن…» من جديد. يتطلب ذلك ثلاثة أضعاف مساحة القرص، ووقتًا أطول بعد التسجيل.</translation>
+    </message>
 </context>
 <context>
     <name>PreferenceWndController</name>
@@ -3891,6 +4188,18 @@ commands:
     <message>
         <source>About %1 h %2 min left on this disk</source>
         <translation>المتبقي على هذا القرص: نحو %1 س %2 د</translation>
+    </message>
+    <message>
+        <source>%1 is complete, but its tracks could not be kept: %2.</source>
+        <translation>اكتمل %1، لكن تعذّر الاحتفاظ بمساريه: %2.</translation>
+    </message>
+    <message>
+        <source>the disk is nearly full</source>
+        <translation>القرص شبه ممتلئ</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved beside its recording: %2.</source>
+        <translation>تعذّر حفظ %1 بجانب تسجيله: %2.</translation>
     </message>
 </context>
 <context>

@@ -582,6 +582,219 @@
     </message>
 </context>
 <context>
+    <name>BalanceSave</name>
+    <message>
+        <source>It was stopped before the end.</source>
+        <translation>Der Vorgang wurde vor dem Ende abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The file “%1” is no longer there.</source>
+        <translation>Die Datei „%1“ ist nicht mehr vorhanden.</translation>
+    </message>
+    <message>
+        <source>The file “%1” is still being recorded to.</source>
+        <translation>In die Datei „%1“ wird noch aufgenommen.</translation>
+    </message>
+    <message>
+        <source>The sum of both tracks is too loud and would be clipped.</source>
+        <translation>Die Summe beider Spuren ist zu laut und würde übersteuern.</translation>
+    </message>
+    <message>
+        <source>the new file</source>
+        <translation>die neue Datei</translation>
+    </message>
+</context>
+<context>
+    <name>BalanceView</name>
+    <message>
+        <source>Play position</source>
+        <translation>Wiedergabeposition</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Eingang</translation>
+    </message>
+    <message>
+        <source>Computer audio</source>
+        <translation>Computerton</translation>
+    </message>
+</context>
+<context>
+    <name>BalanceWnd</name>
+    <message>
+        <source>Balance</source>
+        <translation>Balance</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Aufnahme</translation>
+    </message>
+    <message>
+        <source>Play time</source>
+        <translation>Wiedergabezeit</translation>
+    </message>
+    <message>
+        <source>&amp;Input</source>
+        <translation>&amp;Eingang</translation>
+    </message>
+    <message>
+        <source>Gain of the input</source>
+        <translation>Verstärkung des Eingangs</translation>
+    </message>
+    <message>
+        <source> dB</source>
+        <translation> dB</translation>
+    </message>
+    <message>
+        <source>&amp;Computer audio</source>
+        <translation>&amp;Computerton</translation>
+    </message>
+    <message>
+        <source>Gain of computer audio</source>
+        <translation>Verstärkung des Computertons</translation>
+    </message>
+    <message>
+        <source>&amp;Delay of computer audio</source>
+        <translation>Computerton-&amp;Verzögerung</translation>
+    </message>
+    <message>
+        <source>Delay of computer audio</source>
+        <translation>Verzögerung des Computertons</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Loudness</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message>
+        <source>&amp;Lower to Fit</source>
+        <translation>Passend &amp;absenken</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>&amp;Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Speichern &amp;unter…</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+</context>
+<context>
+    <name>BalanceWndController</name>
+    <message>
+        <source>Silent</source>
+        <comment>a track that is not in the mix</comment>
+        <translation>Stumm</translation>
+    </message>
+    <message>
+        <source>The tracks cannot be played.</source>
+        <translation>Die Spuren können nicht wiedergegeben werden.</translation>
+    </message>
+    <message>
+        <source>Both gains and the delay are 0.</source>
+        <translation>Beide Verstärkungen und die Verzögerung sind 0.</translation>
+    </message>
+    <message>
+        <source>Measuring the loudest point …</source>
+        <translation>Lauteste Stelle wird gemessen …</translation>
+    </message>
+    <message>
+        <source>Too loud by %1 dB: the loudest parts would be clipped.</source>
+        <translation>Um %1 dB zu laut: die lautesten Stellen würden übersteuern.</translation>
+    </message>
+    <message>
+        <source>The mix is silent.</source>
+        <translation>Der Mix ist still.</translation>
+    </message>
+    <message>
+        <source>Loudest point: %1 dB below the limit</source>
+        <translation>Lauteste Stelle: %1 dB unter der Grenze</translation>
+    </message>
+    <message>
+        <source>Lowers both gains until nothing is clipped</source>
+        <translation>Senkt beide Verstärkungen ab, bis nichts mehr übersteuert</translation>
+    </message>
+    <message>
+        <source>Nothing would be clipped.</source>
+        <translation>Es würde nichts übersteuern.</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message>
+        <source>The file is being played.</source>
+        <translation>Die Datei wird gerade wiedergegeben.</translation>
+    </message>
+    <message>
+        <source>The recording cannot be saved.</source>
+        <translation>Die Aufnahme kann nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Do you want to replace &quot;%1&quot; with the new mix? Its tracks stay.</source>
+        <translation>Möchten Sie „%1“ durch den neuen Mix ersetzen? Die Spuren bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>Warning:</source>
+        <translation>Warnung:</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Speichern unter</translation>
+    </message>
+    <message>
+        <source>This path exists, please change the path or name.</source>
+        <translation>Dieser Pfad existiert bereits, bitte ändern Sie den Pfad oder den Namen.</translation>
+    </message>
+    <message>
+        <source>Lower Both by %1 dB</source>
+        <translation>Beide um %1 dB absenken</translation>
+    </message>
+    <message>
+        <source>The mix is too loud.</source>
+        <translation>Der Mix ist zu laut.</translation>
+    </message>
+    <message>
+        <source>Its loudest parts would be clipped. Lower both gains, and nothing is clipped.</source>
+        <translation>Die lautesten Stellen würden übersteuern. Senken Sie beide Verstärkungen ab, dann übersteuert nichts.</translation>
+    </message>
+    <message>
+        <source>The recording was not saved.</source>
+        <translation>Die Aufnahme wurde nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>The new mix is saved.</source>
+        <translation>Der neue Mix ist gespeichert.</translation>
+    </message>
+</context>
+<context>
     <name>BurnControl</name>
     <message>
         <source>there is no drive</source>
@@ -1737,6 +1950,62 @@ Befehle:
         <source>Record an album without pauses, one file with its title for each track.</source>
         <translation>Ein Album ohne Pausen aufnehmen, eine Datei je Stück mit dessen Titel.</translation>
     </message>
+    <message>
+        <source>%1: no tracks were kept of this recording</source>
+        <translation>%1: zu dieser Aufnahme wurden keine Spuren behalten</translation>
+    </message>
+    <message>
+        <source>both gains were lowered by %1 dB, so that nothing is clipped</source>
+        <translation>beide Verstärkungen wurden um %1 dB abgesenkt, damit nichts übersteuert</translation>
+    </message>
+    <message>
+        <source>the new mix is saved</source>
+        <translation>der neue Mix ist gespeichert</translation>
+    </message>
+    <message>
+        <source>--%1: %2 is not a number</source>
+        <translation>--%1: %2 ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>balance takes one file</source>
+        <translation>balance erwartet eine Datei</translation>
+    </message>
+    <message>
+        <source>gains are -60 to 20 decibels, and the delay -2000 to 2000 milliseconds</source>
+        <translation>Verstärkungen gehen von -60 bis 20 Dezibel, die Verzögerung von -2000 bis 2000 Millisekunden</translation>
+    </message>
+    <message>
+        <source>--to names no file</source>
+        <translation>--to nennt keine Datei</translation>
+    </message>
+    <message>
+        <source>mix the kept tracks of a recording anew, in its place or into a new file</source>
+        <translation>die behaltenen Spuren einer Aufnahme neu mischen, an ihrer Stelle oder in eine neue Datei</translation>
+    </message>
+    <message>
+        <source>Make the input louder by DB decibels, or softer when it is negative; -60 is silence.</source>
+        <translation>Den Eingang um DB Dezibel lauter machen, bei negativem Wert leiser; -60 ist Stille.</translation>
+    </message>
+    <message>
+        <source>Make computer audio louder by DB decibels, or softer when it is negative; -60 is silence.</source>
+        <translation>Den Computerton um DB Dezibel lauter machen, bei negativem Wert leiser; -60 ist Stille.</translation>
+    </message>
+    <message>
+        <source>Move computer audio MS milliseconds later, or earlier when it is negative; at most 2000.</source>
+        <translation>Den Computerton um MS Millisekunden nach hinten verschieben, bei negativem Wert nach vorn; höchstens 2000.</translation>
+    </message>
+    <message>
+        <source>Make the microphone louder against what the computer played.</source>
+        <translation>Das Mikrofon lauter machen gegenüber dem, was der Computer wiedergegeben hat.</translation>
+    </message>
+    <message>
+        <source>Move computer audio 120 milliseconds later, in a new file.</source>
+        <translation>Den Computerton in einer neuen Datei um 120 Millisekunden nach hinten verschieben.</translation>
+    </message>
+    <message>
+        <source>Of a recording of both sources, also keep the input and computer audio, each as a file of its own beside the mix.</source>
+        <translation>Bei einer Aufnahme beider Quellen auch Eingang und Computerton behalten, jeweils als eigene Datei neben dem Mix.</translation>
+    </message>
 </context>
 <context>
     <name>Control</name>
@@ -2025,6 +2294,10 @@ Befehle:
     <message>
         <source>%1 cannot be opened: close the open dialog first.</source>
         <translation>%1 kann nicht geöffnet werden: schließen Sie zuerst den offenen Dialog.</translation>
+    </message>
+    <message>
+        <source>The tracks cannot be mixed.</source>
+        <translation>Die Spuren können nicht gemischt werden.</translation>
     </message>
 </context>
 <context>
@@ -2695,6 +2968,18 @@ Befehle:
         <source>Select two recordings or more first.</source>
         <translation>Wählen Sie zuerst mindestens zwei Aufnahmen aus.</translation>
     </message>
+    <message>
+        <source>&amp;Balance…</source>
+        <translation>&amp;Balance…</translation>
+    </message>
+    <message>
+        <source>Mix the input and computer audio of the recording anew</source>
+        <translation>Eingang und Computerton der Aufnahme neu mischen</translation>
+    </message>
+    <message>
+        <source>This recording has no tracks. The preferences have a box that keeps those of the next ones.</source>
+        <translation>Diese Aufnahme hat keine Spuren. Mit einem Kästchen in den Einstellungen bleiben die der nächsten erhalten.</translation>
+    </message>
 </context>
 <context>
     <name>MainWnd</name>
@@ -3292,6 +3577,18 @@ Befehle:
         <source>For albums without silences between the tracks.</source>
         <translation>Für Alben ohne Stille zwischen den Stücken.</translation>
     </message>
+    <message>
+        <source>K&amp;eep both tracks beside the mix</source>
+        <translation>Beide Sp&amp;uren neben dem Mix behalten</translation>
+    </message>
+    <message>
+        <source>Keep both tracks beside the mix</source>
+        <translation>Beide Spuren neben dem Mix behalten</translation>
+    </message>
+    <message>
+        <source>A recording of both sources then also keeps the input and computer audio, each as a file of its own. Balance… mixes them anew. This takes three times the disk space, and more time after the recording.</source>
+        <translation>Eine Aufnahme beider Quellen behält dann auch Eingang und Computerton, jeweils als eigene Datei. „Balance…“ mischt sie neu. Das braucht dreimal so viel Speicherplatz und mehr Zeit nach der Aufnahme.</translation>
+    </message>
 </context>
 <context>
     <name>PreferenceWndController</name>
@@ -3863,6 +4160,18 @@ Befehle:
     <message>
         <source>About %1 h %2 min left on this disk</source>
         <translation>Platz auf diesem Datenträger: etwa %1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1 is complete, but its tracks could not be kept: %2.</source>
+        <translation>%1 ist vollständig, aber die Spuren konnten nicht behalten werden: %2.</translation>
+    </message>
+    <message>
+        <source>the disk is nearly full</source>
+        <translation>der Datenträger ist fast voll</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved beside its recording: %2.</source>
+        <translation>%1 konnte nicht neben der Aufnahme gespeichert werden: %2.</translation>
     </message>
 </context>
 <context>

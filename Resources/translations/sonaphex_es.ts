@@ -582,6 +582,219 @@
     </message>
 </context>
 <context>
+    <name>BalanceSave</name>
+    <message>
+        <source>It was stopped before the end.</source>
+        <translation>Se detuvo antes del final.</translation>
+    </message>
+    <message>
+        <source>The file “%1” is no longer there.</source>
+        <translation>El archivo «%1» ya no está ahí.</translation>
+    </message>
+    <message>
+        <source>The file “%1” is still being recorded to.</source>
+        <translation>Todavía se está grabando en el archivo «%1».</translation>
+    </message>
+    <message>
+        <source>The sum of both tracks is too loud and would be clipped.</source>
+        <translation>La suma de ambas pistas es demasiado fuerte y se saturaría.</translation>
+    </message>
+    <message>
+        <source>the new file</source>
+        <translation>el archivo nuevo</translation>
+    </message>
+</context>
+<context>
+    <name>BalanceView</name>
+    <message>
+        <source>Play position</source>
+        <translation>Posición de reproducción</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Entrada</translation>
+    </message>
+    <message>
+        <source>Computer audio</source>
+        <translation>Audio del equipo</translation>
+    </message>
+</context>
+<context>
+    <name>BalanceWnd</name>
+    <message>
+        <source>Balance</source>
+        <translation>Balance</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Grabación</translation>
+    </message>
+    <message>
+        <source>Play time</source>
+        <translation>Tiempo de reproducción</translation>
+    </message>
+    <message>
+        <source>&amp;Input</source>
+        <translation>&amp;Entrada</translation>
+    </message>
+    <message>
+        <source>Gain of the input</source>
+        <translation>Ganancia de la entrada</translation>
+    </message>
+    <message>
+        <source> dB</source>
+        <translation> dB</translation>
+    </message>
+    <message>
+        <source>&amp;Computer audio</source>
+        <translation>&amp;Audio del equipo</translation>
+    </message>
+    <message>
+        <source>Gain of computer audio</source>
+        <translation>Ganancia del audio del equipo</translation>
+    </message>
+    <message>
+        <source>&amp;Delay of computer audio</source>
+        <translation>Re&amp;tardo del audio del equipo</translation>
+    </message>
+    <message>
+        <source>Delay of computer audio</source>
+        <translation>Retardo del audio del equipo</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Loudness</source>
+        <translation>Nivel sonoro</translation>
+    </message>
+    <message>
+        <source>&amp;Lower to Fit</source>
+        <translation>E&amp;vitar la saturación</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproducir</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>&amp;Restablecer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Guardar &amp;como…</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+</context>
+<context>
+    <name>BalanceWndController</name>
+    <message>
+        <source>Silent</source>
+        <comment>a track that is not in the mix</comment>
+        <translation>Silenciada</translation>
+    </message>
+    <message>
+        <source>The tracks cannot be played.</source>
+        <translation>No se pueden reproducir las pistas.</translation>
+    </message>
+    <message>
+        <source>Both gains and the delay are 0.</source>
+        <translation>Ambas ganancias y el retardo están a 0.</translation>
+    </message>
+    <message>
+        <source>Measuring the loudest point …</source>
+        <translation>Midiendo el punto más fuerte …</translation>
+    </message>
+    <message>
+        <source>Too loud by %1 dB: the loudest parts would be clipped.</source>
+        <translation>Supera el límite en %1 dB: las partes más fuertes se saturarían.</translation>
+    </message>
+    <message>
+        <source>The mix is silent.</source>
+        <translation>La mezcla está en silencio.</translation>
+    </message>
+    <message>
+        <source>Loudest point: %1 dB below the limit</source>
+        <translation>Punto más fuerte: %1 dB por debajo del límite</translation>
+    </message>
+    <message>
+        <source>Lowers both gains until nothing is clipped</source>
+        <translation>Baja ambas ganancias hasta que nada se sature</translation>
+    </message>
+    <message>
+        <source>Nothing would be clipped.</source>
+        <translation>Nada se saturaría.</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausar</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproducir</translation>
+    </message>
+    <message>
+        <source>The file is being played.</source>
+        <translation>El archivo se está reproduciendo.</translation>
+    </message>
+    <message>
+        <source>The recording cannot be saved.</source>
+        <translation>No se puede guardar la grabación.</translation>
+    </message>
+    <message>
+        <source>Do you want to replace &quot;%1&quot; with the new mix? Its tracks stay.</source>
+        <translation>¿Desea reemplazar «%1» por la mezcla nueva? Sus pistas se conservan.</translation>
+    </message>
+    <message>
+        <source>Warning:</source>
+        <translation>Advertencia:</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Guardar como</translation>
+    </message>
+    <message>
+        <source>This path exists, please change the path or name.</source>
+        <translation>Esta ruta ya existe; cambie la ruta o el nombre.</translation>
+    </message>
+    <message>
+        <source>Lower Both by %1 dB</source>
+        <translation>Bajar ambas %1 dB</translation>
+    </message>
+    <message>
+        <source>The mix is too loud.</source>
+        <translation>La mezcla es demasiado fuerte.</translation>
+    </message>
+    <message>
+        <source>Its loudest parts would be clipped. Lower both gains, and nothing is clipped.</source>
+        <translation>Sus partes más fuertes se saturarían. Baje ambas ganancias para que nada se sature.</translation>
+    </message>
+    <message>
+        <source>The recording was not saved.</source>
+        <translation>No se guardó la grabación.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>The new mix is saved.</source>
+        <translation>La mezcla nueva se ha guardado.</translation>
+    </message>
+</context>
+<context>
     <name>BurnControl</name>
     <message>
         <source>there is no drive</source>
@@ -1737,6 +1950,62 @@ commands:
         <source>Record an album without pauses, one file with its title for each track.</source>
         <translation>Grabar un álbum sin pausas, un archivo con su título por cada pista.</translation>
     </message>
+    <message>
+        <source>%1: no tracks were kept of this recording</source>
+        <translation>%1: no se conservaron las pistas de esta grabación</translation>
+    </message>
+    <message>
+        <source>both gains were lowered by %1 dB, so that nothing is clipped</source>
+        <translation>ambas ganancias se bajaron %1 dB para que nada se sature</translation>
+    </message>
+    <message>
+        <source>the new mix is saved</source>
+        <translation>la mezcla nueva se ha guardado</translation>
+    </message>
+    <message>
+        <source>--%1: %2 is not a number</source>
+        <translation>--%1: %2 no es un número</translation>
+    </message>
+    <message>
+        <source>balance takes one file</source>
+        <translation>balance requiere un solo archivo</translation>
+    </message>
+    <message>
+        <source>gains are -60 to 20 decibels, and the delay -2000 to 2000 milliseconds</source>
+        <translation>las ganancias van de -60 a 20 decibelios, y el retardo, de -2000 a 2000 milisegundos</translation>
+    </message>
+    <message>
+        <source>--to names no file</source>
+        <translation>--to no indica ningún archivo</translation>
+    </message>
+    <message>
+        <source>mix the kept tracks of a recording anew, in its place or into a new file</source>
+        <translation>vuelve a mezclar las pistas conservadas de una grabación, en su lugar o en un archivo nuevo</translation>
+    </message>
+    <message>
+        <source>Make the input louder by DB decibels, or softer when it is negative; -60 is silence.</source>
+        <translation>Sube la entrada DB decibelios, o la baja si el valor es negativo; -60 es silencio.</translation>
+    </message>
+    <message>
+        <source>Make computer audio louder by DB decibels, or softer when it is negative; -60 is silence.</source>
+        <translation>Sube el audio del equipo DB decibelios, o lo baja si el valor es negativo; -60 es silencio.</translation>
+    </message>
+    <message>
+        <source>Move computer audio MS milliseconds later, or earlier when it is negative; at most 2000.</source>
+        <translation>Retrasa el audio del equipo MS milisegundos, o lo adelanta si el valor es negativo; como máximo 2000.</translation>
+    </message>
+    <message>
+        <source>Make the microphone louder against what the computer played.</source>
+        <translation>Subir el micrófono respecto a lo que reprodujo el equipo.</translation>
+    </message>
+    <message>
+        <source>Move computer audio 120 milliseconds later, in a new file.</source>
+        <translation>Retrasar el audio del equipo 120 milisegundos, en un archivo nuevo.</translation>
+    </message>
+    <message>
+        <source>Of a recording of both sources, also keep the input and computer audio, each as a file of its own beside the mix.</source>
+        <translation>En una grabación de ambas fuentes, conserva también la entrada y el audio del equipo, cada uno en su propio archivo junto a la mezcla.</translation>
+    </message>
 </context>
 <context>
     <name>Control</name>
@@ -2025,6 +2294,10 @@ commands:
     <message>
         <source>%1 cannot be opened: close the open dialog first.</source>
         <translation>No se puede abrir %1: cierre antes el diálogo abierto.</translation>
+    </message>
+    <message>
+        <source>The tracks cannot be mixed.</source>
+        <translation>No se pueden mezclar las pistas.</translation>
     </message>
 </context>
 <context>
@@ -2695,6 +2968,18 @@ commands:
         <source>Select two recordings or more first.</source>
         <translation>Seleccione antes dos grabaciones o más.</translation>
     </message>
+    <message>
+        <source>&amp;Balance…</source>
+        <translation>Bala&amp;nce…</translation>
+    </message>
+    <message>
+        <source>Mix the input and computer audio of the recording anew</source>
+        <translation>Vuelve a mezclar la entrada y el audio del equipo de la grabación</translation>
+    </message>
+    <message>
+        <source>This recording has no tracks. The preferences have a box that keeps those of the next ones.</source>
+        <translation>Esta grabación no tiene pistas. En las preferencias hay una casilla para conservar las de las siguientes.</translation>
+    </message>
 </context>
 <context>
     <name>MainWnd</name>
@@ -3292,6 +3577,18 @@ commands:
         <source>For albums without silences between the tracks.</source>
         <translation>Para álbumes sin silencios entre las pistas.</translation>
     </message>
+    <message>
+        <source>K&amp;eep both tracks beside the mix</source>
+        <translation>Conservar am&amp;bas pistas junto a la mezcla</translation>
+    </message>
+    <message>
+        <source>Keep both tracks beside the mix</source>
+        <translation>Conservar ambas pistas junto a la mezcla</translation>
+    </message>
+    <message>
+        <source>A recording of both sources then also keeps the input and computer audio, each as a file of its own. Balance… mixes them anew. This takes three times the disk space, and more time after the recording.</source>
+        <translation>Una grabación de ambas fuentes conserva entonces también la entrada y el audio del equipo, cada uno en su propio archivo. «Balance…» los vuelve a mezclar. Esto ocupa el triple de espacio en el disco y requiere más tiempo después de la grabación.</translation>
+    </message>
 </context>
 <context>
     <name>PreferenceWndController</name>
@@ -3863,6 +4160,18 @@ commands:
     <message>
         <source>About %1 h %2 min left on this disk</source>
         <translation>Quedan alrededor de %1 h %2 min en este disco</translation>
+    </message>
+    <message>
+        <source>%1 is complete, but its tracks could not be kept: %2.</source>
+        <translation>%1 está completa, pero no se pudieron conservar sus pistas: %2.</translation>
+    </message>
+    <message>
+        <source>the disk is nearly full</source>
+        <translation>el disco está casi lleno</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved beside its recording: %2.</source>
+        <translation>No se pudo guardar %1 junto a su grabación: %2.</translation>
     </message>
 </context>
 <context>

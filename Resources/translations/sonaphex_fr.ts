@@ -582,6 +582,219 @@
     </message>
 </context>
 <context>
+    <name>BalanceSave</name>
+    <message>
+        <source>It was stopped before the end.</source>
+        <translation>L’opération a été arrêtée avant la fin.</translation>
+    </message>
+    <message>
+        <source>The file “%1” is no longer there.</source>
+        <translation>Le fichier « %1 » n’existe plus.</translation>
+    </message>
+    <message>
+        <source>The file “%1” is still being recorded to.</source>
+        <translation>Le fichier « %1 » est encore en cours d’enregistrement.</translation>
+    </message>
+    <message>
+        <source>The sum of both tracks is too loud and would be clipped.</source>
+        <translation>La somme des deux pistes est trop forte et serait écrêtée.</translation>
+    </message>
+    <message>
+        <source>the new file</source>
+        <translation>le nouveau fichier</translation>
+    </message>
+</context>
+<context>
+    <name>BalanceView</name>
+    <message>
+        <source>Play position</source>
+        <translation>Position de lecture</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>Entrée</translation>
+    </message>
+    <message>
+        <source>Computer audio</source>
+        <translation>Son de l’ordinateur</translation>
+    </message>
+</context>
+<context>
+    <name>BalanceWnd</name>
+    <message>
+        <source>Balance</source>
+        <translation>Balance</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message>
+        <source>Play time</source>
+        <translation>Temps de lecture</translation>
+    </message>
+    <message>
+        <source>&amp;Input</source>
+        <translation>&amp;Entrée</translation>
+    </message>
+    <message>
+        <source>Gain of the input</source>
+        <translation>Gain de l’entrée</translation>
+    </message>
+    <message>
+        <source> dB</source>
+        <translation> dB</translation>
+    </message>
+    <message>
+        <source>&amp;Computer audio</source>
+        <translation>So&amp;n de l’ordinateur</translation>
+    </message>
+    <message>
+        <source>Gain of computer audio</source>
+        <translation>Gain du son de l’ordinateur</translation>
+    </message>
+    <message>
+        <source>&amp;Delay of computer audio</source>
+        <translation>&amp;Décalage du son de l’ordinateur</translation>
+    </message>
+    <message>
+        <source>Delay of computer audio</source>
+        <translation>Décalage du son de l’ordinateur</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Loudness</source>
+        <translation>Niveau sonore</translation>
+    </message>
+    <message>
+        <source>&amp;Lower to Fit</source>
+        <translation>É&amp;viter l’écrêtage</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>&amp;Réinitialiser</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Sauvegarder s&amp;ous…</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Sauvegarder</translation>
+    </message>
+</context>
+<context>
+    <name>BalanceWndController</name>
+    <message>
+        <source>Silent</source>
+        <comment>a track that is not in the mix</comment>
+        <translation>Muette</translation>
+    </message>
+    <message>
+        <source>The tracks cannot be played.</source>
+        <translation>Impossible d’écouter les pistes.</translation>
+    </message>
+    <message>
+        <source>Both gains and the delay are 0.</source>
+        <translation>Les deux gains et le décalage sont à 0.</translation>
+    </message>
+    <message>
+        <source>Measuring the loudest point …</source>
+        <translation>Mesure du point le plus fort …</translation>
+    </message>
+    <message>
+        <source>Too loud by %1 dB: the loudest parts would be clipped.</source>
+        <translation>Trop fort de %1 dB : les passages les plus forts seraient écrêtés.</translation>
+    </message>
+    <message>
+        <source>The mix is silent.</source>
+        <translation>Le mixage est muet.</translation>
+    </message>
+    <message>
+        <source>Loudest point: %1 dB below the limit</source>
+        <translation>Point le plus fort : %1 dB sous la limite</translation>
+    </message>
+    <message>
+        <source>Lowers both gains until nothing is clipped</source>
+        <translation>Baisser les deux gains jusqu’à ce que rien ne soit écrêté</translation>
+    </message>
+    <message>
+        <source>Nothing would be clipped.</source>
+        <translation>Rien ne serait écrêté.</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
+        <source>The file is being played.</source>
+        <translation>Le fichier est en cours de lecture.</translation>
+    </message>
+    <message>
+        <source>The recording cannot be saved.</source>
+        <translation>Impossible de sauvegarder l’enregistrement.</translation>
+    </message>
+    <message>
+        <source>Do you want to replace &quot;%1&quot; with the new mix? Its tracks stay.</source>
+        <translation>Voulez-vous remplacer « %1 » par le nouveau mixage ? Ses pistes sont conservées.</translation>
+    </message>
+    <message>
+        <source>Warning:</source>
+        <translation>Attention :</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Sauvegarder sous</translation>
+    </message>
+    <message>
+        <source>This path exists, please change the path or name.</source>
+        <translation>Ce chemin existe déjà, veuillez changer le chemin ou le nom.</translation>
+    </message>
+    <message>
+        <source>Lower Both by %1 dB</source>
+        <translation>Baisser les deux de %1 dB</translation>
+    </message>
+    <message>
+        <source>The mix is too loud.</source>
+        <translation>Le mixage est trop fort.</translation>
+    </message>
+    <message>
+        <source>Its loudest parts would be clipped. Lower both gains, and nothing is clipped.</source>
+        <translation>Ses passages les plus forts seraient écrêtés. Baissez les deux gains pour que rien ne soit écrêté.</translation>
+    </message>
+    <message>
+        <source>The recording was not saved.</source>
+        <translation>L’enregistrement n’a pas été sauvegardé.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>The new mix is saved.</source>
+        <translation>Le nouveau mixage est sauvegardé.</translation>
+    </message>
+</context>
+<context>
     <name>BurnControl</name>
     <message>
         <source>there is no drive</source>
@@ -1737,6 +1950,62 @@ commandes&#xa0;:
         <source>Record an album without pauses, one file with its title for each track.</source>
         <translation>Enregistrer un album sans pauses, un fichier avec son titre par morceau.</translation>
     </message>
+    <message>
+        <source>%1: no tracks were kept of this recording</source>
+        <translation>%1 : aucune piste n’a été conservée pour cet enregistrement</translation>
+    </message>
+    <message>
+        <source>both gains were lowered by %1 dB, so that nothing is clipped</source>
+        <translation>les deux gains ont été baissés de %1 dB pour que rien ne soit écrêté</translation>
+    </message>
+    <message>
+        <source>the new mix is saved</source>
+        <translation>le nouveau mixage est sauvegardé</translation>
+    </message>
+    <message>
+        <source>--%1: %2 is not a number</source>
+        <translation>--%1 : %2 n’est pas un nombre</translation>
+    </message>
+    <message>
+        <source>balance takes one file</source>
+        <translation>balance attend un seul fichier</translation>
+    </message>
+    <message>
+        <source>gains are -60 to 20 decibels, and the delay -2000 to 2000 milliseconds</source>
+        <translation>les gains vont de -60 à 20 décibels, et le décalage de -2000 à 2000 millisecondes</translation>
+    </message>
+    <message>
+        <source>--to names no file</source>
+        <translation>--to n’indique aucun fichier</translation>
+    </message>
+    <message>
+        <source>mix the kept tracks of a recording anew, in its place or into a new file</source>
+        <translation>mixer à nouveau les pistes conservées d’un enregistrement, sur place ou dans un nouveau fichier</translation>
+    </message>
+    <message>
+        <source>Make the input louder by DB decibels, or softer when it is negative; -60 is silence.</source>
+        <translation>Augmenter l’entrée de DB décibels, ou la baisser si la valeur est négative ; -60 correspond au silence.</translation>
+    </message>
+    <message>
+        <source>Make computer audio louder by DB decibels, or softer when it is negative; -60 is silence.</source>
+        <translation>Augmenter le son de l’ordinateur de DB décibels, ou le baisser si la valeur est négative ; -60 correspond au silence.</translation>
+    </message>
+    <message>
+        <source>Move computer audio MS milliseconds later, or earlier when it is negative; at most 2000.</source>
+        <translation>Retarder le son de l’ordinateur de MS millisecondes, ou l’avancer si la valeur est négative ; au plus 2000.</translation>
+    </message>
+    <message>
+        <source>Make the microphone louder against what the computer played.</source>
+        <translation>Augmenter le micro par rapport au son joué par l’ordinateur.</translation>
+    </message>
+    <message>
+        <source>Move computer audio 120 milliseconds later, in a new file.</source>
+        <translation>Retarder le son de l’ordinateur de 120 millisecondes, dans un nouveau fichier.</translation>
+    </message>
+    <message>
+        <source>Of a recording of both sources, also keep the input and computer audio, each as a file of its own beside the mix.</source>
+        <translation>Pour un enregistrement des deux sources, conserver aussi l’entrée et le son de l’ordinateur, chacun dans son propre fichier à côté du mixage.</translation>
+    </message>
 </context>
 <context>
     <name>Control</name>
@@ -2025,6 +2294,10 @@ commandes&#xa0;:
     <message>
         <source>%1 cannot be opened: close the open dialog first.</source>
         <translation>Impossible d’ouvrir %1&#xa0;: fermez d’abord la boîte de dialogue ouverte.</translation>
+    </message>
+    <message>
+        <source>The tracks cannot be mixed.</source>
+        <translation>Impossible de mixer les pistes.</translation>
     </message>
 </context>
 <context>
@@ -2695,6 +2968,18 @@ commandes&#xa0;:
         <source>Select two recordings or more first.</source>
         <translation>Sélectionnez d’abord au moins deux enregistrements.</translation>
     </message>
+    <message>
+        <source>&amp;Balance…</source>
+        <translation>&amp;Balance…</translation>
+    </message>
+    <message>
+        <source>Mix the input and computer audio of the recording anew</source>
+        <translation>Mixer à nouveau l’entrée et le son de l’ordinateur de l’enregistrement</translation>
+    </message>
+    <message>
+        <source>This recording has no tracks. The preferences have a box that keeps those of the next ones.</source>
+        <translation>Cet enregistrement n’a pas de pistes. Une case des préférences permet de conserver celles des prochains.</translation>
+    </message>
 </context>
 <context>
     <name>MainWnd</name>
@@ -3292,6 +3577,18 @@ commandes&#xa0;:
         <source>For albums without silences between the tracks.</source>
         <translation>Pour les albums sans silence entre les morceaux.</translation>
     </message>
+    <message>
+        <source>K&amp;eep both tracks beside the mix</source>
+        <translation>Conserver les deux pistes à côté du &amp;mixage</translation>
+    </message>
+    <message>
+        <source>Keep both tracks beside the mix</source>
+        <translation>Conserver les deux pistes à côté du mixage</translation>
+    </message>
+    <message>
+        <source>A recording of both sources then also keeps the input and computer audio, each as a file of its own. Balance… mixes them anew. This takes three times the disk space, and more time after the recording.</source>
+        <translation>Un enregistrement des deux sources conserve alors aussi l’entrée et le son de l’ordinateur, chacun dans son propre fichier. « Balance… » les mixe à nouveau. Cela occupe trois fois l’espace disque et demande plus de temps après l’enregistrement.</translation>
+    </message>
 </context>
 <context>
     <name>PreferenceWndController</name>
@@ -3863,6 +4160,18 @@ commandes&#xa0;:
     <message>
         <source>About %1 h %2 min left on this disk</source>
         <translation>Il reste environ %1 h %2 min sur ce disque</translation>
+    </message>
+    <message>
+        <source>%1 is complete, but its tracks could not be kept: %2.</source>
+        <translation>%1 est complet, mais ses pistes n’ont pas pu être conservées : %2.</translation>
+    </message>
+    <message>
+        <source>the disk is nearly full</source>
+        <translation>le disque est presque plein</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved beside its recording: %2.</source>
+        <translation>%1 n’a pas pu être sauvegardé à côté de son enregistrement : %2.</translation>
     </message>
 </context>
 <context>

@@ -582,6 +582,219 @@
     </message>
 </context>
 <context>
+    <name>BalanceSave</name>
+    <message>
+        <source>It was stopped before the end.</source>
+        <translation>途中で中止しました。</translation>
+    </message>
+    <message>
+        <source>The file “%1” is no longer there.</source>
+        <translation>ファイル「%1」はもうありません。</translation>
+    </message>
+    <message>
+        <source>The file “%1” is still being recorded to.</source>
+        <translation>ファイル「%1」はまだ録音中です。</translation>
+    </message>
+    <message>
+        <source>The sum of both tracks is too loud and would be clipped.</source>
+        <translation>両方のトラックを合わせた音が大きすぎて、クリップします。</translation>
+    </message>
+    <message>
+        <source>the new file</source>
+        <translation>新しいファイル</translation>
+    </message>
+</context>
+<context>
+    <name>BalanceView</name>
+    <message>
+        <source>Play position</source>
+        <translation>再生位置</translation>
+    </message>
+    <message>
+        <source>Input</source>
+        <translation>入力</translation>
+    </message>
+    <message>
+        <source>Computer audio</source>
+        <translation>コンピューター音声</translation>
+    </message>
+</context>
+<context>
+    <name>BalanceWnd</name>
+    <message>
+        <source>Balance</source>
+        <translation>音量バランス</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>録音</translation>
+    </message>
+    <message>
+        <source>Play time</source>
+        <translation>再生時間</translation>
+    </message>
+    <message>
+        <source>&amp;Input</source>
+        <translation>入力(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Gain of the input</source>
+        <translation>入力のゲイン</translation>
+    </message>
+    <message>
+        <source> dB</source>
+        <translation> dB</translation>
+    </message>
+    <message>
+        <source>&amp;Computer audio</source>
+        <translation>コンピューター音声(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Gain of computer audio</source>
+        <translation>コンピューター音声のゲイン</translation>
+    </message>
+    <message>
+        <source>&amp;Delay of computer audio</source>
+        <translation>コンピューター音声の遅延(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Delay of computer audio</source>
+        <translation>コンピューター音声の遅延</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Loudness</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>&amp;Lower to Fit</source>
+        <translation>収まるまで下げる(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進捗</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>リセット(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>名前を付けて保存(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>BalanceWndController</name>
+    <message>
+        <source>Silent</source>
+        <comment>a track that is not in the mix</comment>
+        <translation>無音</translation>
+    </message>
+    <message>
+        <source>The tracks cannot be played.</source>
+        <translation>トラックを再生できません。</translation>
+    </message>
+    <message>
+        <source>Both gains and the delay are 0.</source>
+        <translation>両方のゲインと遅延は 0 です。</translation>
+    </message>
+    <message>
+        <source>Measuring the loudest point …</source>
+        <translation>ピークを測定しています…</translation>
+    </message>
+    <message>
+        <source>Too loud by %1 dB: the loudest parts would be clipped.</source>
+        <translation>%1 dB 大きすぎます: 最も大きい部分がクリップします。</translation>
+    </message>
+    <message>
+        <source>The mix is silent.</source>
+        <translation>ミックスは無音です。</translation>
+    </message>
+    <message>
+        <source>Loudest point: %1 dB below the limit</source>
+        <translation>ピーク: 上限より %1 dB 下</translation>
+    </message>
+    <message>
+        <source>Lowers both gains until nothing is clipped</source>
+        <translation>クリップしなくなるまで両方のゲインを下げます</translation>
+    </message>
+    <message>
+        <source>Nothing would be clipped.</source>
+        <translation>クリップする部分はありません。</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>The file is being played.</source>
+        <translation>ファイルは再生中です。</translation>
+    </message>
+    <message>
+        <source>The recording cannot be saved.</source>
+        <translation>録音を保存できません。</translation>
+    </message>
+    <message>
+        <source>Do you want to replace &quot;%1&quot; with the new mix? Its tracks stay.</source>
+        <translation>「%1」を新しいミックスで置き換えますか? トラックはそのまま残ります。</translation>
+    </message>
+    <message>
+        <source>Warning:</source>
+        <translation>警告:</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>名前を付けて保存</translation>
+    </message>
+    <message>
+        <source>This path exists, please change the path or name.</source>
+        <translation>このパスはすでに存在します。パスまたは名前を変更してください。</translation>
+    </message>
+    <message>
+        <source>Lower Both by %1 dB</source>
+        <translation>両方を %1 dB 下げる</translation>
+    </message>
+    <message>
+        <source>The mix is too loud.</source>
+        <translation>ミックスの音が大きすぎます。</translation>
+    </message>
+    <message>
+        <source>Its loudest parts would be clipped. Lower both gains, and nothing is clipped.</source>
+        <translation>最も大きい部分がクリップします。両方のゲインを下げると、クリップしなくなります。</translation>
+    </message>
+    <message>
+        <source>The recording was not saved.</source>
+        <translation>録音は保存されませんでした。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>The new mix is saved.</source>
+        <translation>新しいミックスを保存しました。</translation>
+    </message>
+</context>
+<context>
     <name>BurnControl</name>
     <message>
         <source>there is no drive</source>
@@ -1733,6 +1946,62 @@ commands:
         <source>Record an album without pauses, one file with its title for each track.</source>
         <translation>曲間に無音のないアルバムを、曲ごとにタイトル付きの 1 ファイルで録音します。</translation>
     </message>
+    <message>
+        <source>%1: no tracks were kept of this recording</source>
+        <translation>%1: この録音のトラックは残されていません</translation>
+    </message>
+    <message>
+        <source>both gains were lowered by %1 dB, so that nothing is clipped</source>
+        <translation>クリップしないように、両方のゲインを %1 dB 下げました</translation>
+    </message>
+    <message>
+        <source>the new mix is saved</source>
+        <translation>新しいミックスを保存しました</translation>
+    </message>
+    <message>
+        <source>--%1: %2 is not a number</source>
+        <translation>--%1: %2 は数値ではありません</translation>
+    </message>
+    <message>
+        <source>balance takes one file</source>
+        <translation>balance にはファイルを 1 つ指定してください</translation>
+    </message>
+    <message>
+        <source>gains are -60 to 20 decibels, and the delay -2000 to 2000 milliseconds</source>
+        <translation>ゲインは -60 から 20 デシベル、遅延は -2000 から 2000 ミリ秒の範囲で指定してください</translation>
+    </message>
+    <message>
+        <source>--to names no file</source>
+        <translation>--to にファイルの指定がありません</translation>
+    </message>
+    <message>
+        <source>mix the kept tracks of a recording anew, in its place or into a new file</source>
+        <translation>録音と一緒に残したトラックをミックスし直し、元のファイルまたは新しいファイルに保存します</translation>
+    </message>
+    <message>
+        <source>Make the input louder by DB decibels, or softer when it is negative; -60 is silence.</source>
+        <translation>入力を DB デシベル大きくします。負の値では小さくなり、-60 で無音になります。</translation>
+    </message>
+    <message>
+        <source>Make computer audio louder by DB decibels, or softer when it is negative; -60 is silence.</source>
+        <translation>コンピューター音声を DB デシベル大きくします。負の値では小さくなり、-60 で無音になります。</translation>
+    </message>
+    <message>
+        <source>Move computer audio MS milliseconds later, or earlier when it is negative; at most 2000.</source>
+        <translation>コンピューター音声を MS ミリ秒遅らせます。負の値では早めます (最大 2000)。</translation>
+    </message>
+    <message>
+        <source>Make the microphone louder against what the computer played.</source>
+        <translation>コンピューターの再生音に対して、マイクの音を大きくします。</translation>
+    </message>
+    <message>
+        <source>Move computer audio 120 milliseconds later, in a new file.</source>
+        <translation>コンピューター音声を 120 ミリ秒遅らせ、新しいファイルに保存します。</translation>
+    </message>
+    <message>
+        <source>Of a recording of both sources, also keep the input and computer audio, each as a file of its own beside the mix.</source>
+        <translation>両方のソースの録音で、入力とコンピューター音声も、それぞれ別のファイルとしてミックスと同じ場所に残します。</translation>
+    </message>
 </context>
 <context>
     <name>Control</name>
@@ -2021,6 +2290,10 @@ commands:
     <message>
         <source>%1 cannot be opened: close the open dialog first.</source>
         <translation>%1 を開けません: 先に開いているダイアログを閉じてください。</translation>
+    </message>
+    <message>
+        <source>The tracks cannot be mixed.</source>
+        <translation>トラックをミックスできません。</translation>
     </message>
 </context>
 <context>
@@ -2690,6 +2963,18 @@ commands:
         <source>Select two recordings or more first.</source>
         <translation>先に 2 つ以上の録音を選択してください。</translation>
     </message>
+    <message>
+        <source>&amp;Balance…</source>
+        <translation>音量バランス(&amp;B)…</translation>
+    </message>
+    <message>
+        <source>Mix the input and computer audio of the recording anew</source>
+        <translation>録音の入力とコンピューター音声をミックスし直します</translation>
+    </message>
+    <message>
+        <source>This recording has no tracks. The preferences have a box that keeps those of the next ones.</source>
+        <translation>この録音にはトラックがありません。今後の録音のトラックは、設定のチェックボックスで残せます。</translation>
+    </message>
 </context>
 <context>
     <name>MainWnd</name>
@@ -3287,6 +3572,18 @@ commands:
         <source>For albums without silences between the tracks.</source>
         <translation>曲間に無音がないアルバム向けです。</translation>
     </message>
+    <message>
+        <source>K&amp;eep both tracks beside the mix</source>
+        <translation>ミックスと一緒に両方のトラックを残す(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Keep both tracks beside the mix</source>
+        <translation>ミックスと一緒に両方のトラックを残す</translation>
+    </message>
+    <message>
+        <source>A recording of both sources then also keeps the input and computer audio, each as a file of its own. Balance… mixes them anew. This takes three times the disk space, and more time after the recording.</source>
+        <translation>両方のソースの録音で、入力とコンピューター音声も、それぞれ別のファイルとして残します。「音量バランス…」でミックスし直せます。ディスク容量が 3 倍必要になり、録音後の処理にも時間がかかります。</translation>
+    </message>
 </context>
 <context>
     <name>PreferenceWndController</name>
@@ -3856,6 +4153,18 @@ commands:
     <message>
         <source>About %1 h %2 min left on this disk</source>
         <translation>このディスクの録音可能時間: 約 %1 時間 %2 分</translation>
+    </message>
+    <message>
+        <source>%1 is complete, but its tracks could not be kept: %2.</source>
+        <translation>%1 は完成しましたが、トラックを残せませんでした: %2。</translation>
+    </message>
+    <message>
+        <source>the disk is nearly full</source>
+        <translation>ディスクがほぼいっぱいです</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved beside its recording: %2.</source>
+        <translation>%1 を録音と同じ場所に保存できませんでした: %2。</translation>
     </message>
 </context>
 <context>
