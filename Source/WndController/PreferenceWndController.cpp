@@ -17,6 +17,7 @@
 #include "Source/View/NamedImages.h"
 #include "ui_PreferenceWnd.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -417,6 +418,11 @@ void PreferenceWndController::makeScrollable() {
     window_->setMinimumSize(0, 0); // was set by the old layout
     layout->activate();
     scrollArea_->show(); // the window may be visible already
+    // The area itself follows only the Tab key.
+    connect(qApp, &QApplication::focusChanged, scrollArea_, [this](QWidget*, QWidget* focused) {
+        if (focused && scrollArea_->widget()->isAncestorOf(focused))
+            scrollArea_->ensureWidgetVisible(focused);
+    });
 }
 
 bool PreferenceWndController::eventFilter(QObject* watched, QEvent* event) {

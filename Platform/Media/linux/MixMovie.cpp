@@ -168,11 +168,10 @@ Result<> MixMovie::writeWave(const QString& path, const std::function<bool(doubl
 
 Result<> MixMovie::writeTracks(const QStringList& paths, const AudioStreamBasicDescription& format,
                                const std::function<bool(double)>& progress) {
+    Q_ASSERT(std::size_t(paths.size()) == tracks_.size());
     Writers writers;
     for (const QString& path : paths)
         writers.push_back(std::make_unique<FileWriter>(path, kAudioFileM4AType, format));
-    if (writers.size() != tracks_.size())
-        return makeError(Error::Kind::Other, paths.value(0), QStringLiteral("one path per track is needed"));
     return render(writers, progress);
 }
 

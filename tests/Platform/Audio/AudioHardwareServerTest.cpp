@@ -255,6 +255,8 @@ TEST_F(AudioHardwareTest, SetsVolumeAndMuteOnTheRouteOfACard) {
         const auto route = card.route();
         return route.volumes == std::vector{1.0f, 0.5f} && !route.muted;
     })) << testing::PrintToString(card.route().volumes);
+    ASSERT_TRUE(waitFor([&] { return asked(u"pw-dump"_s, {}).simplified().contains("[ 1.000000, 0.500000 ]"); }))
+        << "the card has told the server";
     // A program that has just started knows the route when it first asks.
     hardware_.reset();
     hardware_ = createAudioHardware();
