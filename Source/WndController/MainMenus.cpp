@@ -9,6 +9,7 @@
 #include "Source/View/Theme.h"
 #include "Source/WndController/AudioTableModel.h"
 #include "Source/WndController/LibraryPresenter.h"
+#include "Source/WndController/ProgramsMenu.h"
 #include "ui_MainWnd.h"
 
 #include <QCoreApplication>
@@ -303,6 +304,8 @@ void MainMenus::update() {
         installed ? tr("It is installed already.") : tr("The device stays as it is until the recording ends."));
     recordComputer_->setEnabled(record_.sourcesEnabled());
     programs_->setEnabled(record_.sourcesEnabled() && record_.hasComputerAudioDevice());
+    say(programs_, record_.hasComputerAudioDevice() ? tr("The sources stay as they are until the recording ends.")
+                                                    : ProgramsMenu::tr("The computer-audio device is not installed."));
     for (QAction* action : {recordInput_, recordComputer_})
         say(action, tr("The sources stay as they are until the recording ends."));
 

@@ -66,12 +66,12 @@ TEST_F(StateOfTheMainWindow, TheConvertingNoticeDoesNotFlashAtAStopOfOneSource) 
     MainWndController& controller = world.open();
     ConvertingTipView& tip = controller.recordPanel().fileConvertingTipView();
     ShowCounter shows(tip);
+    const QSignalSpy finished(world.record.get(), &RecordStateController::recordingFinished);
     for (int i = 0; i < 3; ++i) {
         world.click("btnSatrtRecord_");
         feed(0.5F);
         world.click("btnSatrtRecord_");
-        ASSERT_EQ(world.record->jobsInQueue(), 1);
-        ASSERT_TRUE(waitFor([&] { return world.record->jobsInQueue() == 0; }));
+        ASSERT_TRUE(waitFor([&] { return finished.count() == i + 1 && world.record->jobsInQueue() == 0; }));
     }
     EXPECT_EQ(shows.count(), 0);
 }
