@@ -151,7 +151,7 @@ struct RecordStateController::Private {
     void resumeRecord();
     void setPaused(bool paused);
     enum class Cut { ByHand, AtSilence, AtTrack };
-    /// @p time is a capture time, soon or just gone; 0 for now.
+    /// @p time is a capture time, soon or just gone; 0 cuts at once.
     void cut(Cut why, std::uint64_t time = 0);
     void beginTracks();
     void endTracks();
