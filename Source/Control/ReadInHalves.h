@@ -23,7 +23,7 @@
 namespace ReadInHalves {
 
 constexpr int kBlocksPerReport = 256;
-constexpr std::int64_t kLeastPerThread = 60 * 44100; ///< frames: less is not worth a second thread
+constexpr std::int64_t kLeastPerThread = std::int64_t(60) * 44100; ///< frames: less is not worth a second thread
 
 /// "<path>: <what>"
 [[nodiscard]] inline Platform::Error failure(Platform::Error::Kind kind, const QString& path, const QString& what,
