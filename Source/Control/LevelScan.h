@@ -23,7 +23,7 @@ public:
     LevelScan(std::vector<Magnitude> limits, std::int64_t first, std::int64_t shortest);
 
     static constexpr int kBlock = 256; ///< frames
-    static constexpr std::int64_t kLeastFrames = 3 * kBlock;
+    static constexpr std::int64_t kLeastFrames = std::int64_t(3) * kBlock;
 
     /// The next frames of both channels.
     void add(std::span<const float> left, std::span<const float> right);
