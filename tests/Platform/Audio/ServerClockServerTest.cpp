@@ -36,7 +36,7 @@ protected:
         const auto first = std::ranges::find_if(left_, [](float value) { return value != 0; });
         ASSERT_NE(first, left_.end());
         const auto played = Signal::rampFrame(left_.back(), 0) - Signal::rampFrame(*first, 0) + 1;
-        EXPECT_GE(std::uint64_t(left_.end() - first) + lost_, played) << "lost without being counted";
+        EXPECT_EQ(std::uint64_t(left_.end() - first) + lost_, played) << "lost without being counted";
     }
 
     /// Captures until one attempt has no loss in the server. The program's own part must be right in every attempt.
