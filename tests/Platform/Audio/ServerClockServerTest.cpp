@@ -31,8 +31,7 @@ protected:
         lost_ = unit.unit().lostFrames();
         overrun_ = unit.unit().overrunFrames();
         left_ = unit.samples(0);
-        // Each frame that was played since the first one either arrived or was counted as lost. More are counted when
-        // the server left out cycles: the source was not asked for them, but their time has passed.
+        // Each frame that was played since the first one either arrived or was counted as lost.
         const auto first = std::ranges::find_if(left_, [](float value) { return value != 0; });
         ASSERT_NE(first, left_.end());
         const auto played = Signal::rampFrame(left_.back(), 0) - Signal::rampFrame(*first, 0) + 1;
