@@ -137,8 +137,7 @@ protected:
         return worst;
     }
 
-    QTemporaryDir busFolder_;
-    PrivateBus bus_{busFolder_.path()};
+    PrivateBus bus_{dir_.path()};
     EnvironmentScope bus_address_{"DBUS_SESSION_BUS_ADDRESS", bus_.address().toUtf8()};
     QProcess driver_;
 };

@@ -4,18 +4,24 @@
 
 #include "tests/support/WaitFor.h"
 
+#include <gtest/gtest.h>
+
 #include <QProcess>
 
 /// A message bus that only the test uses.
 class PrivateBus {
 public:
-    /// @param folder for the bus's socket
+    /// The test fails when the bus does not start.
+    /// @param folder for the bus's socket, 90 bytes at most: the path of a socket may have 107 (unix(7))
     explicit PrivateBus(const QString& folder) {
         daemon_.start(QStringLiteral("dbus-daemon"),
                       {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address"),
                        QStringLiteral("--address=unix:dir=") + folder});
-        if (waitFor([this] { return daemon_.canReadLine(); }))
+        (void)waitFor([this] { return daemon_.canReadLine() || daemon_.state() == QProcess::NotRunning; });
+        if (daemon_.canReadLine())
             address_ = QString::fromUtf8(daemon_.readLine().trimmed());
+        else
+            ADD_FAILURE() << "no private bus: " << daemon_.readAllStandardError().toStdString();
     }
     ~PrivateBus() {
         daemon_.kill();
