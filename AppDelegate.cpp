@@ -13,6 +13,7 @@
 #include "Source/Preferences/PreferenceStore.h"
 #include "Source/Preferences/Settings.h"
 #include "Source/ProcessRequests/MediaLibraryRequests.h"
+#include "Source/Record/ExportNote.h"
 #include "Source/View/HelpPages.h"
 
 #include <QCoreApplication>
@@ -65,7 +66,8 @@ bool AppDelegate::applicationDidFinishLaunching(bool hidden) {
 }
 
 bool AppDelegate::recreateTemporaryFolder() {
-    // Raw recordings of an earlier run are deleted on purpose, but never those of a running program.
+    // Raw recordings of an earlier run are deleted on purpose, but never those of a running program, nor those of a
+    // recording that had ended.
     if (!running_.acquire()) {
         lastError_ = running_.lastError().isEmpty() ? tr("it is already running") : running_.lastError();
         return false;
@@ -75,6 +77,7 @@ bool AppDelegate::recreateTemporaryFolder() {
     if (!temporary)
         return false;
     g_strTmpPath = *temporary + u'/' + Platform::services().bundle->bundleIdentifier();
+    ExportNote::saveFilesOfEndedProcesses();
     Platform::TemporaryFolder::removeWhole(g_strTmpPath);
     // If something in the way could not be removed, the first write to the folder reports it.
     (void)::mkdir(QFile::encodeName(g_strTmpPath).constData(), 0700);

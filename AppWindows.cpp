@@ -97,6 +97,7 @@ public:
             window->menus().update();
         }
         window->bindWindows();
+        record_->finishInterruptedRecordings();
         QObject::connect(window.get(), &MainWndController::perference, &application,
                          [&application] { application.perference(); });
         QObject::connect(window.get(), &MainWndController::support, &application,

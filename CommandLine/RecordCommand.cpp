@@ -9,6 +9,7 @@
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/TemporaryFolder.h"
 #include "Source/Preferences/Settings.h"
+#include "Source/Record/ExportNote.h"
 #include "Source/Record/RecordPrograms.h"
 
 #include <QCoreApplication>
@@ -143,6 +144,8 @@ int run(const QStringList& given) {
     const QString folder = preferences.value(Settings::savePath).toString();
     if (why = whyNotWritable(folder); !why.isEmpty())
         return fail(why);
+    // The folders of killed processes are removed next.
+    ExportNote::saveFilesOfEndedProcesses();
     // Not the window's folder: its next launch empties that one.
     const auto temporary =
         Platform::TemporaryFolder::create(Platform::services().bundle->bundleIdentifier() + u".record"_s);

@@ -92,6 +92,7 @@ int RecordingRun::run() {
     controller_.awakeFromNib();
     if (const QString why = begin(); !why.isEmpty())
         return fail(why);
+    controller_.finishInterruptedRecordings();
     recordUntilTheEnd();
     return report();
 }
@@ -187,6 +188,10 @@ void RecordingRun::addRecordFile(const QString& path, const Dictionary& tags) {
         else
             meter_.say(problem);
     }
+}
+
+bool RecordingRun::hasRecordFile(const QString& path) {
+    return !entryOf(path).isEmpty();
 }
 
 int RecordingRun::report() {

@@ -31,6 +31,7 @@ public:
 
 private:
     void addRecordFile(const QString& path, const Dictionary& tags) override;
+    [[nodiscard]] bool hasRecordFile(const QString& path) override;
     [[nodiscard]] QString begin();
     void recordUntilTheEnd();
     void finish();

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Platform/Foundation/Dictionary.h"
-#include "Platform/Foundation/FileLock.h"
+#include "Source/Control/NoteFile.h"
 
 #include <functional>
 
@@ -32,6 +32,6 @@ public:
     static void recover(const Retag& retag);
 
 private:
-    explicit EditNote(Platform::FileLock lock) : lock_(std::move(lock)) {}
-    Platform::FileLock lock_; // held during the change
+    explicit EditNote(NoteFile note) : note_(std::move(note)) {}
+    NoteFile note_;
 };

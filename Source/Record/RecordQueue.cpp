@@ -33,8 +33,6 @@ constexpr double MixBytesPerSecond = 353000;
 constexpr double MixShare = 0.3;
 /// Share of the work up to the encoded mix, when both tracks are kept and encoded after it.
 constexpr double ShareBeforeTracks = 0.4;
-/// Clocks of real devices differ by some hundred parts per million. A larger value is a failed measurement.
-constexpr double LargestDrift = 2e-3;
 
 /// What was kept.
 enum class Kept { Recording, Source, MadeFrom };
@@ -92,31 +90,20 @@ void RecordQueue::removeTemporaryFile(const QString& path) {
                  qUtf8Printable(removed.error().forLog()));
 }
 
-ExportJob::Timing ExportJob::timing() const {
-    Timing timing;
-    const auto& [builtIn, computer] = timings;
-    if (builtIn.span.firstHostTime == 0 || computer.span.firstHostTime == 0)
-        return timing;
-    const double later = (double(computer.span.firstHostTime) - double(builtIn.span.firstHostTime)) / 1e9;
-    (later > 0 ? timing.computerOffset : timing.builtInOffset) = std::abs(later);
-    if (builtIn.span.measuredRate > 0 && computer.span.measuredRate > 0 && builtIn.sampleRate > 0 &&
-        computer.sampleRate > 0) {
-        const double speed =
-            (computer.span.measuredRate / computer.sampleRate) / (builtIn.span.measuredRate / builtIn.sampleRate);
-        if (std::abs(speed - 1) < LargestDrift)
-            timing.computerSpeed = speed;
-    }
-    return timing;
-}
-
 RecordQueue::RecordQueue(Owner owner, QObject* parent) : QObject(parent), owner_(std::move(owner)) {
     worker_.setMaxThreadCount(1);
+    notes_.setMaxThreadCount(1);
 }
 
 RecordQueue::~RecordQueue() {
     cancelled_ = true;
     worker_.waitForDone();
+    notes_.waitForDone();
     for (const auto& job : aryForExportDataInfo_) {
+        if (job->note) {
+            job->note->saveFiles(); // the temporary folder may be removed next
+            continue;
+        }
         const QString name = QFileInfo(job->path(ExportJob::OutPutPath)).completeBaseName();
         for (const auto& key :
              {ExportJob::BuiltInAudioTempPath, ExportJob::ComputerAudioTempPath, ExportJob::OutPutWAVTempPath}) {
@@ -140,10 +127,16 @@ void RecordQueue::onWorker(std::function<void()> work) {
 }
 
 void RecordQueue::append(std::shared_ptr<ExportJob> job) {
+    // The job waits for its note, which needs the disk: this may be an I/O thread.
+    ++job->openFiles;
     {
         const std::scoped_lock lock(mutex_);
-        aryForExportDataInfo_.push_back(std::move(job));
+        aryForExportDataInfo_.push_back(job);
     }
+    notes_.start([guard = guard(), job = std::move(job)] {
+        writeNote(*job);
+        rawFileClosed(guard, job, noErr);
+    });
     const auto begin = [this] {
         Q_EMIT queueChanged();
         if (!isConverterTherecordAudio_)
@@ -198,6 +191,10 @@ void RecordQueue::converterTherecordAudio() {
         return;
     working_ = true;
     setProgress(0);
+    if (job->stage != ExportJob::Stage::Raw) {
+        onWorker([this, job] { continueJob(job); });
+        return;
+    }
     const QString builtIn = job->path(ExportJob::BuiltInAudioTempPath);
     const QString computer = job->path(ExportJob::ComputerAudioTempPath);
     if (!builtIn.isEmpty() && !computer.isEmpty())
@@ -207,28 +204,34 @@ void RecordQueue::converterTherecordAudio() {
 }
 
 void RecordQueue::moveRawFile(const std::shared_ptr<ExportJob>& job, const QString& rawPath) {
-    if (deliver(job, rawPath))
-        tagFile(*job);
+    job->keepsTracks = false;
+    job->encoded = rawPath;
+    completeRecording(job);
 }
 
 /// Moves the finished file to its final name, or to the next free one when another file has that name by now.
 bool RecordQueue::deliver(const std::shared_ptr<ExportJob>& job, const QString& file) {
     const QString wished = job->path(ExportJob::OutPutPath);
-    const auto landed =
-        Platform::FileManager::moveToFreeName(file, wished, [this](const QString&) { return owner_.nextFreeName(); });
+    reach(*job, ExportJob::Stage::Encoded);
+    const auto landed = Platform::FileManager::moveToFreeName(file, wished, [&](const QString&) {
+        // The note says where the file goes before it is there.
+        job->paths.insert(ExportJob::OutPutPath, owner_.nextFreeName());
+        reach(*job, ExportJob::Stage::Encoded);
+        return job->path(ExportJob::OutPutPath);
+    });
     if (!landed) {
+        job->paths.insert(ExportJob::OutPutPath, wished);
         // The raw files for the tracks are kept with a mix that cannot be delivered.
-        const bool isMix = job->keepsTracks && rawFiles(*job).size() == 2;
-        setAside(job, QStringList{file} + (isMix ? rawFiles(*job) : QStringList()),
+        const bool isMix = job->keepsTracks && job->rawFiles().size() == 2;
+        setAside(job, QStringList{file} + (isMix ? job->rawFiles() : QStringList()),
                  QCoreApplication::translate("Record", "%1: %2 could not be saved in “%3”.")
                      .arg(landed.error().text, QFileInfo(wished).fileName(), QDir(QFileInfo(wished).path()).dirName()));
         return false;
     }
     CutOffRecordings::remove(file);
-    if (*landed != wished) {
+    if (*landed != wished)
         owner_.releaseName(wished);
-        job->paths.insert(ExportJob::OutPutPath, *landed);
-    }
+    job->stage = ExportJob::Stage::Delivered;
     return true;
 }
 
@@ -319,7 +322,8 @@ void RecordQueue::converterMovie(const std::shared_ptr<ExportJob>& job) {
                  QCoreApplication::translate("Record", "%1 could not be mixed: %2.").arg(name, reason(mixed.error())));
         return;
     }
-    CutOffRecordings::add(wave);
+    keepAtExit(*job, wave);
+    reach(*job, ExportJob::Stage::Mixed);
     if (damage)
         keepDamaged(*job, {ExportJob::BuiltInAudioTempPath, ExportJob::ComputerAudioTempPath}, damage);
     onMain([this, job] { startConverterAudio(job); });
@@ -332,7 +336,7 @@ void RecordQueue::startConverterAudio(const std::shared_ptr<ExportJob>& job) {
 void RecordQueue::converterAudio(const std::shared_ptr<ExportJob>& job) {
     // The WAVE is complete. The raw files are still needed for the kept tracks only; keepDamaged() may have removed
     // them from the job.
-    const QStringList raws = rawFiles(*job);
+    const QStringList raws = job->rawFiles();
     job->keepsTracks = job->keepsTracks && raws.size() == 2;
     if (!job->keepsTracks)
         for (const QString& raw : raws)
@@ -362,17 +366,24 @@ void RecordQueue::converterAudio(const std::shared_ptr<ExportJob>& job) {
                      .arg(name, reason(error ? error : damage)));
         return;
     }
-    CutOffRecordings::add(encoded);
+    keepAtExit(*job, encoded);
+    job->encoded = encoded;
+    reach(*job, ExportJob::Stage::Encoded);
     if (damage)
         keepDamaged(*job, {ExportJob::OutPutWAVTempPath}, damage);
     else
         removeTemporaryFile(wave);
-    if (!deliver(job, encoded))
+    completeRecording(job);
+}
+
+/// From the encoded file to the finished recording.
+void RecordQueue::completeRecording(const std::shared_ptr<ExportJob>& job) {
+    if (job->stage < ExportJob::Stage::Delivered && !deliver(job, job->encoded))
         return;
     if (job->keepsTracks)
-        keepTracks(job);
+        keepTracks(*job);
     if (!cancelled_)
-        tagFile(*job);
+        tagFile(job);
 }
 
 /// Moves the files of a job to a safe place. @return where each one is now
@@ -423,22 +434,25 @@ void RecordQueue::setAside(const std::shared_ptr<ExportJob>& job, const QStringL
     const QString wished = job->path(ExportJob::OutPutPath);
     const QStringList kept = keepFiles(*job, files);
     const RecordNotice notice = keptNotice(why, Kept::Recording, kept);
-    onMain([this, wished, kept, notice] {
+    onMain([this, wished, kept, notice, isContinued = job->isContinued] {
         Q_EMIT noticed(notice);
-        Q_EMIT recordingSetAside(wished, kept);
+        if (!isContinued)
+            Q_EMIT recordingSetAside(wished, kept);
         endJob(wished);
     });
 }
 
 /// Measures the file at its final name and tags it, unless it is too short for the library; then passes the result to
 /// the main thread.
-void RecordQueue::tagFile(const ExportJob& job) {
-    const QString finalPath = job.path(ExportJob::OutPutPath);
+void RecordQueue::tagFile(const std::shared_ptr<ExportJob>& job) {
+    const QString finalPath = job->path(ExportJob::OutPutPath);
     const float length = ToolControl::getAudioLength(finalPath);
     Dictionary tags;
     bool tagged = true;
-    if (job.isKeptHoweverShort || !owner_.filter().drops(length)) {
+    if (job->isKeptHoweverShort || !owner_.filter().drops(length)) {
         tags = initID3BasicInfoDic();
+        if (!job->date.isEmpty())
+            tags.insert(AudioRecordEntry::AddDate, job->date);
         tags.insert(AudioRecordEntry::Length, double(length));
         tags.insert(AudioRecordEntry::Title, QFileInfo(finalPath).completeBaseName());
         tags.insert(AudioRecordEntry::SavePath, finalPath);
@@ -446,15 +460,17 @@ void RecordQueue::tagFile(const ExportJob& job) {
             if (!text.isEmpty())
                 tags.insert(key, text);
         };
-        name(AudioRecordEntry::Title, job.title.title);
-        name(AudioRecordEntry::Artist, job.title.artist);
-        name(AudioRecordEntry::Album, job.title.album);
-        RecordingTracks::insertInto(tags, job.tracks);
+        name(AudioRecordEntry::Title, job->title.title);
+        name(AudioRecordEntry::Artist, job->title.artist);
+        name(AudioRecordEntry::Album, job->title.album);
+        RecordingTracks::insertInto(tags, job->tracks);
         tagged = ID3ChangeControl::changeID3BasicInfo(finalPath, tags);
-        PartCover::write(finalPath, job.title);
+        PartCover::write(finalPath, job->title);
         tags.insert(AudioRecordEntry::IsNew, true);
     }
-    onMain([this, finalPath, tags, tagged] {
+    job->entry = tags;
+    reach(*job, ExportJob::Stage::Tagged);
+    onMain([this, job, finalPath, tagged] {
         if (!tagged)
             Q_EMIT noticed(
                 {.text = QCoreApplication::translate("Record", "%1 could not be tagged. Its audio is complete.")
@@ -462,14 +478,19 @@ void RecordQueue::tagFile(const ExportJob& job) {
                  .path = {},
                  .help = RecordNotice::Help::Show,
                  .target = finalPath});
-        finishConverter(finalPath, tags);
+        finishConverter(job);
     });
 }
 
-void RecordQueue::finishConverter(const QString& finalPath, const Dictionary& entry) {
-    if (!entry.isEmpty())
-        owner_.addRecordFile(finalPath, entry);
-    Q_EMIT recordingFinished(finalPath, entry);
+void RecordQueue::finishConverter(const std::shared_ptr<ExportJob>& job) {
+    const QString finalPath = job->path(ExportJob::OutPutPath);
+    const bool isListed = job->isContinued && owner_.hasRecordFile && owner_.hasRecordFile(finalPath);
+    if (!job->entry.isEmpty() && !isListed)
+        owner_.addRecordFile(finalPath, job->entry);
+    if (!job->isContinued)
+        Q_EMIT recordingFinished(finalPath, job->entry);
+    else if (!isListed)
+        tellContinued(finalPath);
     endJob(finalPath);
 }
 
@@ -478,6 +499,10 @@ void RecordQueue::endJob(const QString& reservedPath) {
     bool more = false;
     {
         const std::scoped_lock lock(mutex_);
+        notes_.start([job = aryForExportDataInfo_.front()] {
+            if (job->note)
+                job->note->end();
+        });
         aryForExportDataInfo_.pop_front();
         more = !aryForExportDataInfo_.empty();
     }

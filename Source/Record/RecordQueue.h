@@ -4,54 +4,19 @@
 
 #include "Platform/Foundation/MainQueue.h"
 #include "Platform/Media/ExtAudioFile.h"
-#include "Source/BuiltInAudioRecord/BuildInAudioRecord.h"
 #include "Source/Control/ConverterAudioControl.h"
-#include "Source/Model/RecordingTracks.h"
 #include "Source/Preferences/RecordPreferences.h"
-#include "Source/Record/PartTitle.h"
+#include "Source/Record/ExportJob.h"
 #include "Source/Record/RecordNotice.h"
 
 #include <QObject>
 #include <QThreadPool>
 
-#include <array>
 #include <atomic>
 #include <deque>
 #include <functional>
 #include <memory>
 #include <mutex>
-
-/// One finished recording that waits to become a tagged file: its raw files and their timing.
-struct ExportJob {
-    static inline const QString OutPutPath = QStringLiteral("OutPutPath");
-    static inline const QString BuiltInAudioTempPath = QStringLiteral("BuiltInAudioTempPath");
-    static inline const QString ComputerAudioTempPath = QStringLiteral("ComputerAudioTempPath");
-    static inline const QString OutPutWAVTempPath = QStringLiteral("OutPutWAVTempPath");
-
-    Dictionary paths; ///< under the keys above; a source that was off has no file
-    /// The capture timing of a source's raw file.
-    struct SourceTiming {
-        BuildInAudioRecord::CaptureSpan span;
-        double sampleRate = 0; ///< Hz
-    };
-    std::array<SourceTiming, 2> timings; ///< of the input device and of computer audio
-    /// A full disk or a lost device ended it: the filter does not apply, because the user did not make it short.
-    bool isKeptHoweverShort = false;
-    PartTitle title{};              ///< what a media player named for it
-    bool keepsTracks = false;       ///< of two sources, each is also kept as a file of its own
-    RecordingTracks::Tracks tracks; ///< the kept tracks, when they are written
-    std::atomic<int> openFiles{0};  ///< raw files that are still being closed; the job starts when there are none
-
-    [[nodiscard]] QString path(const QString& key) const { return paths.value(key).toString(); }
-    /// How the computer-audio recording is aligned with the other one: how much later each starts, and the speed of the
-    /// former that compensates the different clocks of the two devices.
-    struct Timing {
-        double builtInOffset = 0;
-        double computerOffset = 0;
-        double computerSpeed = 1;
-    };
-    [[nodiscard]] Timing timing() const;
-};
 
 /// Turns finished recordings into tagged files, one at a time in order: one source is moved, two are mixed and encoded.
 /// All file operations run on a worker: mixing, encoding, moving, measuring, tagging and deleting. The files of a
@@ -61,13 +26,14 @@ struct ExportJob {
 class RecordQueue : public QObject {
     Q_OBJECT
 public:
-    /// What the queue needs from its owner. addRecordFile is called on the main thread, releaseName on both, the others
-    /// on a worker.
+    /// What the queue needs from its owner. addRecordFile and hasRecordFile are called on the main thread, releaseName
+    /// on both, the others on a worker.
     struct Owner {
         /// Reserves the next free name for a recording whose own name was taken by another file.
         std::function<QString()> nextFreeName;
         std::function<void(const QString& path)> releaseName;
         std::function<void(const QString& path, const Dictionary& tags)> addRecordFile;
+        std::function<bool(const QString& path)> hasRecordFile; ///< whether the library has an entry of the file
         std::function<RecordFilter()> filter;
     };
 
@@ -75,10 +41,10 @@ public:
     static inline const QString UnwrittenEvent = QStringLiteral("write");
 
     explicit RecordQueue(Owner owner, QObject* parent = nullptr);
-    /// Stops the current job and sets the files of all jobs aside.
+    /// Stops the current job. The next start continues all jobs; the files of a job without a note are set aside.
     ~RecordQueue() override;
 
-    /// Any thread.
+    /// Any thread. A worker writes the job's note first.
     void append(std::shared_ptr<ExportJob> job);
     /// Reports that one raw file of the job is closed, and its first write error. Any thread. A writer may call this
     /// after the queue is destroyed: the guard, obtained while the queue lives, then makes it do nothing.
@@ -112,15 +78,19 @@ Q_SIGNALS:
 private:
     void onMain(std::function<void()> work);
     void onWorker(std::function<void()> work);
+    static void writeNote(ExportJob& job);
+    static void reach(ExportJob& job, ExportJob::Stage stage);
+    void continueJob(const std::shared_ptr<ExportJob>& job);
+    void completeRecording(const std::shared_ptr<ExportJob>& job);
+    void tellContinued(const QString& path);
     void moveRawFile(const std::shared_ptr<ExportJob>& job, const QString& rawPath);
     void openMovies(const std::shared_ptr<ExportJob>& job);
     /// Mixes the second movie into the first, by the job's timing.
     [[nodiscard]] static std::unique_ptr<Platform::Movie>
     composed(const ExportJob& job, std::unique_ptr<Platform::Movie> first, std::unique_ptr<Platform::Movie> second);
-    [[nodiscard]] static QStringList rawFiles(const ExportJob& job);
-    void keepTracks(const std::shared_ptr<ExportJob>& job);
-    [[nodiscard]] Platform::Result<> writeTracks(const ExportJob& job, const QStringList& files);
-    [[nodiscard]] QString deliverTrack(const ExportJob& job, const QString& file, RecordingTracks::Source source);
+    void keepTracks(ExportJob& job);
+    [[nodiscard]] Platform::Result<> writeTracks(const ExportJob& job);
+    void deliverTrack(ExportJob& job, const QString& file, RecordingTracks::Source source);
     void converterMovie(const std::shared_ptr<ExportJob>& job);
     void startConverterAudio(const std::shared_ptr<ExportJob>& job);
     void converterAudio(const std::shared_ptr<ExportJob>& job);
@@ -128,16 +98,17 @@ private:
     void setAside(const std::shared_ptr<ExportJob>& job, const QStringList& files, const QString& why);
     QStringList keepFiles(const ExportJob& job, const QStringList& files);
     void keepDamaged(ExportJob& job, const QStringList& keys, const Platform::Error& damage);
-    void tagFile(const ExportJob& job);
-    /// Adds the result of a job to the library and continues with the next job. @p entry is empty when the filter keeps
-    /// the file out of the library.
-    void finishConverter(const QString& finalPath, const Dictionary& entry);
+    void tagFile(const std::shared_ptr<ExportJob>& job);
+    /// Adds the result of a job to the library and continues with the next job.
+    void finishConverter(const std::shared_ptr<ExportJob>& job);
     void endJob(const QString& reservedPath);
     void setProgress(double share);
     /// A notice about files that were kept. @p isWhole: they are what the text is about, not what it was made from.
     void tellKept(const QString& text, const QStringList& kept, bool isWhole);
     [[nodiscard]] static QString reason(const Platform::Error& error);
     static void removeTemporaryFile(const QString& path);
+    /// exit() keeps the file of a job without a note.
+    static void keepAtExit(const ExportJob& job, const QString& path);
 
     Owner owner_;
     Platform::MainQueue::WhileAlive alive_;
@@ -149,5 +120,6 @@ private:
     std::atomic<bool> cancelled_{false};
     std::unique_ptr<Platform::Movie> qtMovieForRecord_;
     ConverterAudioControl converterAudioControl_;
+    QThreadPool notes_;  ///< writes and removes notes, so that a waiting job has one while another is mixed
     QThreadPool worker_; ///< destroyed first: waits for the running step
 };

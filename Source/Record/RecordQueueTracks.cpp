@@ -27,41 +27,44 @@ constexpr double TrackBytesPerSecond = 18000;
 
 } // namespace
 
-/// The raw files that the job still has: of the input device, then of computer audio.
-QStringList RecordQueue::rawFiles(const ExportJob& job) {
-    QStringList raws{job.path(ExportJob::BuiltInAudioTempPath), job.path(ExportJob::ComputerAudioTempPath)};
-    raws.removeAll(QString());
-    return raws;
-}
-
-void RecordQueue::keepTracks(const std::shared_ptr<ExportJob>& job) {
-    const QStringList raws = rawFiles(*job);
-    const QStringList files{raws.at(0) + u".track.m4a"_s, raws.at(1) + u".track.m4a"_s};
-    const auto written = writeTracks(*job, files);
-    if (cancelled_)
-        return; // the destructor sets the raw files aside
-    if (!written) {
-        const QString name = QFileInfo(job->path(ExportJob::OutPutPath)).fileName();
-        const QStringList kept = keepFiles(*job, raws);
-        tellKept(QCoreApplication::translate("Record", "%1 is complete, but its tracks could not be kept: %2.")
-                     .arg(name, reason(written.error())),
-                 kept, false);
-        for (const auto& key : {ExportJob::BuiltInAudioTempPath, ExportJob::ComputerAudioTempPath})
-            job->paths.remove(key);
-        return;
+void RecordQueue::keepTracks(ExportJob& job) {
+    const QStringList raws = job.rawFiles();
+    if (job.stage < ExportJob::Stage::TracksWritten) {
+        Platform::Result<> written;
+        if (raws.size() == 2) {
+            job.trackFiles = {raws.at(0) + u".track.m4a"_s, raws.at(1) + u".track.m4a"_s};
+            written = writeTracks(job);
+            if (cancelled_)
+                return; // the next start continues, or the destructor sets the raw files aside
+        } else {
+            written = Error{Error::Kind::NotFound,
+                            QCoreApplication::translate("Record", "the recorded sound of a source is missing")};
+        }
+        if (!written) {
+            const QString name = QFileInfo(job.path(ExportJob::OutPutPath)).fileName();
+            const QStringList kept = keepFiles(job, raws);
+            tellKept(QCoreApplication::translate("Record", "%1 is complete, but its tracks could not be kept: %2.")
+                         .arg(name, reason(written.error())),
+                     kept, false);
+            for (const auto& key : {ExportJob::BuiltInAudioTempPath, ExportJob::ComputerAudioTempPath})
+                job.paths.remove(key);
+            return;
+        }
+        for (const QString& file : job.trackFiles)
+            keepAtExit(job, file);
+        reach(job, ExportJob::Stage::TracksWritten);
     }
-    for (const QString& file : files)
-        CutOffRecordings::add(file);
     for (const QString& raw : raws)
         removeTemporaryFile(raw);
-    job->tracks.input = deliverTrack(*job, files.at(0), RecordingTracks::Source::Input);
-    job->tracks.computer = deliverTrack(*job, files.at(1), RecordingTracks::Source::Computer);
+    deliverTrack(job, job.trackFiles.at(0), RecordingTracks::Source::Input);
+    deliverTrack(job, job.trackFiles.at(1), RecordingTracks::Source::Computer);
 }
 
 /// Writes both tracks into the temporary folder. A part that cannot be read was reported by the mix.
-Platform::Result<> RecordQueue::writeTracks(const ExportJob& job, const QStringList& files) {
+Platform::Result<> RecordQueue::writeTracks(const ExportJob& job) {
     auto* media = Platform::services().mediaFiles;
-    const QStringList raws = rawFiles(job);
+    const QStringList raws = job.rawFiles();
+    const QStringList& files = job.trackFiles;
     auto first = media->openMovie(raws.at(0));
     if (!first)
         return first.error();
@@ -78,20 +81,31 @@ Platform::Result<> RecordQueue::writeTracks(const ExportJob& job, const QStringL
     });
 }
 
-/// Tags a track and moves it beside the mix, under the next free name when its own is taken. @return its path; where it
-/// was kept when it cannot be moved; empty when it waits for room
-QString RecordQueue::deliverTrack(const ExportJob& job, const QString& file, RecordingTracks::Source source) {
+/// Tags a track and moves it beside the mix, under the next free name when its own is taken. Its path in the job is
+/// then where it was kept when it cannot be moved; empty when it waits for room.
+void RecordQueue::deliverTrack(ExportJob& job, const QString& file, RecordingTracks::Source source) {
     const QString mix = job.path(ExportJob::OutPutPath);
-    const QString wished = RecordingTracks::pathBeside(mix, source);
+    QString& place = source == RecordingTracks::Source::Input ? job.tracks.input : job.tracks.computer;
+    if (job.isContinued && ExportNote::isMoved(file, place))
+        return;
+    // The note says where the track goes before it is there.
+    const auto aim = [&](int number) {
+        place = RecordingTracks::pathBeside(mix, source, number);
+        reach(job, ExportJob::Stage::TracksWritten);
+        return place;
+    };
+    const QString wished = aim(1);
     Dictionary tags = initID3BasicInfoDic();
+    if (!job.date.isEmpty())
+        tags.insert(AudioRecordEntry::AddDate, job.date);
     tags.insert(AudioRecordEntry::Title, QFileInfo(wished).completeBaseName());
     (void)ID3ChangeControl::changeID3BasicInfo(file, tags);
     int number = 1;
-    const auto landed = Platform::FileManager::moveToFreeName(
-        file, wished, [&](const QString&) { return RecordingTracks::pathBeside(mix, source, ++number); });
+    const auto landed =
+        Platform::FileManager::moveToFreeName(file, wished, [&](const QString&) { return aim(++number); });
     if (landed) {
         CutOffRecordings::remove(file);
-        return *landed;
+        return;
     }
     const QString kept = Platform::MovedFiles::setAside(file, QFileInfo(wished).fileName());
     CutOffRecordings::remove(file);
@@ -99,5 +113,5 @@ QString RecordQueue::deliverTrack(const ExportJob& job, const QString& file, Rec
                  .arg(QFileInfo(wished).fileName(), landed.error().text),
              {kept}, true);
     // In the temporary folder it waits for room, and gets another path.
-    return QFileInfo(kept).path() == Platform::FileManager::unfinishedFolder() ? kept : QString();
+    place = QFileInfo(kept).path() == Platform::FileManager::unfinishedFolder() ? kept : QString();
 }

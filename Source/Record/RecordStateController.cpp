@@ -16,6 +16,8 @@
 #include <QLoggingCategory>
 #include <QThread>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using namespace PreferenceStore;
 
@@ -27,6 +29,14 @@ Q_LOGGING_CATEGORY(recordLog, "sonaphex.record")
 
 void RecordStateControllerDelegate::addRecordFile(const QString& path, const Dictionary& tags) {
     MediaLibrary::shareLibrary().addRecordFile(MediaLibrary::entryForFile(path, tags));
+}
+
+bool RecordStateControllerDelegate::hasRecordFile(const QString& path) {
+    MediaLibrary& library = MediaLibrary::shareLibrary();
+    library.takeUpMediaLibraryList(); // the killed process may have stored it
+    return std::ranges::any_of(library.records(), [&](const QVariant& entry) {
+        return Platform::stringForm(entry.toMap().value(AudioRecordEntry::SavePath)) == path;
+    });
 }
 
 RecordStateController::RecordStateController(EngineFactory factory, QObject* parent)
@@ -50,6 +60,7 @@ RecordStateController::RecordStateController(EngineFactory factory, QObject* par
     owner.addRecordFile = [this](const QString& path, const Dictionary& tags) {
         d->delegate->addRecordFile(path, tags);
     };
+    owner.hasRecordFile = [this](const QString& path) { return d->delegate->hasRecordFile(path); };
     owner.filter = [this] { return RecordFilter::read(*d->preferences); };
     d->queue = std::make_unique<RecordQueue>(std::move(owner));
     connect(d->queue.get(), &RecordQueue::queueChanged, this, &RecordStateController::queueChanged);

@@ -25,6 +25,8 @@ public:
     virtual void updateRecordStateAction() {}
     /// The default creates the entry (identity, path) and adds it to the shared library.
     virtual void addRecordFile(const QString& path, const Dictionary& tags);
+    /// Whether the library has an entry of the file. The default asks the shared library.
+    [[nodiscard]] virtual bool hasRecordFile(const QString& path);
     /// The user accepted the add-on prompt.
     virtual void insertTheSystemAudioRecordDevice() {}
     /// The user closed the window while nothing is recorded.
@@ -186,6 +188,9 @@ public:
     /// Shows a notice about unfinished recordings of earlier runs that the user has not dismissed. Called when the
     /// window starts.
     void tellUnfinishedRecordings();
+    /// Finishes the recordings of processes that were killed after the recording and before their files were in the
+    /// library; in the queue, with a notice for each. Called when the window or a command has started.
+    void finishInterruptedRecordings();
     /// Ends a running recording and waits until all queued jobs are done or set aside (at quit or a signal).
     void finishAll();
 

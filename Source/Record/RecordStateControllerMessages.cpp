@@ -68,6 +68,11 @@ void RecordStateController::tellUnfinishedRecordings() {
         d->notices_.show(*notice);
 }
 
+void RecordStateController::finishInterruptedRecordings() {
+    for (auto& job : ExportNote::interrupted())
+        d->queue->append(std::move(job));
+}
+
 bool RecordStateController::isGrowing() const {
     return d->grows();
 }

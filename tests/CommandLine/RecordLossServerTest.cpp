@@ -60,6 +60,7 @@ protected:
     QTemporaryDir home_;
     EnvironmentScope homeFolder_{"HOME", home_.path().toUtf8()};
     EnvironmentScope config_{"XDG_CONFIG_HOME", home_.filePath(u"config"_s).toUtf8()};
+    EnvironmentScope data_{"XDG_DATA_HOME", home_.filePath(u"data"_s).toUtf8()};
     EnvironmentScope cache_{"XDG_CACHE_HOME", home_.filePath(u"cache"_s).toUtf8()};
     EnvironmentScope runtime_{"XDG_RUNTIME_DIR", home_.path().toUtf8()};
     EnvironmentScope temporary_{"TMPDIR"};

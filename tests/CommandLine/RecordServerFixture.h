@@ -76,6 +76,7 @@ protected:
     QString folder_ = dir_.filePath(u"recordings"_s);
     EnvironmentScope home_{"HOME", dir_.path().toUtf8()};
     EnvironmentScope config_{"XDG_CONFIG_HOME", dir_.filePath(u"config"_s).toUtf8()};
+    EnvironmentScope data_{"XDG_DATA_HOME", dir_.filePath(u"data"_s).toUtf8()};
     EnvironmentScope runtime_{"XDG_RUNTIME_DIR", dir_.path().toUtf8()};
     EnvironmentScope temporary_{"TMPDIR", tmp_.toUtf8()};
     EnvironmentScope display_{"DISPLAY"};

@@ -4,6 +4,7 @@
 
 #include "Platform/Foundation/MainQueue.h"
 #include "Platform/Foundation/Services.h"
+#include "Source/Control/NoteFile.h"
 #include "Source/Preferences/PreferenceStore.h"
 #include "Source/Preferences/Settings.h"
 #include "tests/fakes/FakeAlerts.h"
@@ -198,6 +199,23 @@ TEST_F(AppDelegateTest, EmptiesTheTemporaryFolderOfACrashedRun) {
     struct stat is {};
     ASSERT_EQ(stat(qPrintable(tmp()), &is), 0);
     EXPECT_EQ(is.st_mode & 0777, 0700U);
+}
+
+TEST_F(AppDelegateTest, MovesTheFilesOfAnInterruptedRecordingOutOfTheTemporaryFolder) {
+    const EnvironmentScope data("XDG_DATA_HOME", path(u"data"_s).toUtf8());
+    QDir().mkpath(tmp());
+    make(tmp() + u"/BuiltInA0.m4a"_s);
+    make(tmp() + u"/BuiltInA1.m4a"_s);
+    QString files;
+    {
+        auto note = NoteFile::create(u"Exports"_s, u".export"_s);
+        ASSERT_TRUE(note);
+        ASSERT_TRUE(note->append({{u"stage"_s, u"raw"_s}, {u"input"_s, tmp() + u"/BuiltInA0.m4a"_s}}));
+        files = note->path().chopped(7);
+    } // its process ends
+    ASSERT_TRUE(delegate.applicationDidFinishLaunching());
+    EXPECT_EQ(in(tmp()), QStringList()) << "a recording that still ran is deleted";
+    EXPECT_EQ(in(files), QStringList{u"BuiltInA0.m4a"_s});
 }
 
 TEST_F(AppDelegateTest, ReplacesAFileInThePlaceOfTheTemporaryFolder) {

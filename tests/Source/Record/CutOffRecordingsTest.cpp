@@ -90,7 +90,7 @@ TEST_F(CutOffRecordingsTest, LeavesADeliveredRecording) {
     EXPECT_TRUE(QFileInfo::exists(track(0)));
 }
 
-TEST_F(CutOffRecordingsTest, KeepsTheRawFilesOfAnInterruptedMix) {
+TEST_F(CutOffRecordingsTest, LeavesTheRawFilesOfAnInterruptedMixToTheNextStart) {
     beginWithBoth();
     setFilter(false);
     media.holdMix = true;
@@ -100,7 +100,8 @@ TEST_F(CutOffRecordingsTest, KeepsTheRawFilesOfAnInterruptedMix) {
     controller->startAndStopRecord();
     ASSERT_TRUE(waitFor([this] { return media.mixesStarted == 1; }));
     CutOffRecordings::keep();
-    EXPECT_EQ(kept(), raws) << "and no WAVE that is not whole";
+    EXPECT_TRUE(kept().isEmpty());
+    EXPECT_EQ(rawFiles(), raws) << "the next start finishes the recording";
     media.holdMix = false;
     ASSERT_TRUE(queueDone());
 }

@@ -413,7 +413,9 @@ TEST_F(RecordQueueTest, AnErrorWhileClosingTheFileIsReported) {
     EXPECT_EQ(delegate.paths, QStringList{track(0)}) << "what was written is kept";
 }
 
-TEST_F(RecordQueueTest, AControllerDestroyedDuringAMixKeepsTheRawFiles) {
+TEST_F(RecordQueueTest, AControllerDestroyedDuringAMixWithoutANoteKeepsTheRawFiles) {
+    // A file stands in the place of the notes' folder.
+    makeFile(home.filePath(u"data/com.korvane.Sonaphex/Exports"_s), "in the way");
     beginWithBoth();
     media.holdMix = true;
     recordBoth();
@@ -429,7 +431,10 @@ TEST_F(RecordQueueTest, AControllerDestroyedDuringARecordingKeepsIt) {
     controller->startAndStopRecord();
     play(Microphone, 0.5F, 6);
     controller.reset();
-    EXPECT_EQ(unfinished(), QStringList{u"Track0.m4a"_s});
+    begin();
+    controller->finishInterruptedRecordings();
+    ASSERT_TRUE(queueDone());
+    EXPECT_EQ(unfinished(), QStringList{u"Track0.m4a"_s}) << "it still cannot be delivered";
 }
 
 TEST(RecordQueueMovies, AMissingMovieIsReplacedByTheOther) {

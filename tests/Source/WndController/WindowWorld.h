@@ -13,6 +13,7 @@
 #include "tests/Source/WndController/LibraryWorld.h"
 #include "tests/fakes/FakeAudioHardware.h"
 #include "tests/fakes/FakeMediaFiles.h"
+#include "tests/support/Environment.h"
 #include "tests/support/WaitFor.h"
 
 #include <QTest>
@@ -62,6 +63,7 @@ struct WindowWorld : LibraryWorld {
                                                   QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     }
 
+    EnvironmentScope dataFolder{"XDG_DATA_HOME", folder.filePath(QStringLiteral("data")).toUtf8()};
     FakeAudioHardware hardware;
     FakeMediaFiles media;
     std::unique_ptr<MediaLibrary> library;
