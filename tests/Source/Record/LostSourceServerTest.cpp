@@ -4,6 +4,7 @@
 // Devices and servers that are lost during a recording on a real sound server.
 #include "CaptureComputerAudio/CaptureDriver.h"
 #include "CaptureComputerAudio/KextInstallControl.h"
+#include "Source/Model/RecordingTracks.h"
 #include "tests/support/RecordOnServer.h"
 
 using namespace Qt::StringLiterals;
@@ -59,6 +60,64 @@ TEST_F(LostSourceServer, ASourceLostBeforeTheFilterTimeDropsNothing) {
     EXPECT_NEAR(strength(begun, 440), 0.25, 0.05) << "what the lost device gave is in it";
     EXPECT_LT(strength(ended, 440), 0.02);
     EXPECT_NEAR(strength(ended, 2000), 0.25, 0.05);
+}
+
+TEST_F(LostSourceServer, KeptTracksAreAsLongAsWhatWasHeardAndTheLostSourceIsSilentMeanwhile) {
+    auto input = std::make_unique<TestSource>(microphone());
+    TestSource computer(highTone());
+    ASSERT_TRUE(input->start());
+    ASSERT_TRUE(computer.start());
+    ASSERT_TRUE(deviceIsThere(u"Microphone"_s));
+    ASSERT_TRUE(deviceIsThere(RecordSources::ComputerAudioName));
+    defaults.setObject(PreferenceStore::PreferenceKeepTracksKey, 1);
+    begin(true, true);
+    const auto begun = computer.position();
+    controller->startAndStopRecord();
+    ASSERT_TRUE(recorded(2));
+    const double lostAfter = double(computer.position() - begun) / 48000;
+    input->remove();
+    ASSERT_TRUE(noticed(u"The input device went away"_s));
+    ASSERT_TRUE(played(computer, 2));
+    ASSERT_TRUE(input->start());
+    ASSERT_TRUE(noticed(u"was away. The recording goes on."_s));
+    const double backAfter = double(computer.position() - begun) / 48000;
+    ASSERT_TRUE(played(computer, 3));
+    controller->startAndStopRecord();
+    const double heard = double(computer.position() - begun) / 48000;
+    controller->finishAll();
+    ASSERT_EQ(delegate.paths.size(), 1) << qPrintable(controller->notices().join(u'\n'));
+    const auto tracks = RecordingTracks::stored(delegate.entries.front());
+    ASSERT_TRUE(tracks.isWhole()) << qPrintable(controller->notices().join(u'\n'));
+    const auto frames = AudioCheck::framesByFfprobe(delegate.paths.front());
+    std::printf("heard %.3f s, recorded %.3f s, lost at %.3f s, back at %.3f s\n", heard, double(frames) / 44100,
+                lostAfter, backAfter);
+    // The positions are those of the source, up to one quantum and the start of the streams ahead.
+    EXPECT_NEAR(double(frames) / 44100, heard, 0.5);
+    EXPECT_EQ(AudioCheck::framesByFfprobe(tracks.input), frames);
+    EXPECT_EQ(AudioCheck::framesByFfprobe(tracks.computer), frames);
+    const auto mix = decoded(delegate.paths.front());
+    const auto inputTrack = decoded(tracks.input);
+    const auto computerTrack = decoded(tracks.computer);
+    ASSERT_EQ(mix.size(), 2U);
+    ASSERT_EQ(inputTrack.size(), 2U);
+    ASSERT_EQ(computerTrack.size(), 2U);
+    // Half a second of a track from @p seconds on.
+    const auto part = [](const std::vector<float>& samples, double seconds) {
+        const auto from = samples.begin() + std::ptrdiff_t(seconds * 44100);
+        return std::vector<float>(from, from + 22050);
+    };
+    const double end = double(frames) / 44100;
+    for (const double at : {0.5, lostAfter + 0.7, end - 1}) {
+        EXPECT_NEAR(strength(part(computerTrack[0], at), 2000), 0.25, 0.02) << "at " << at;
+        EXPECT_NEAR(strength(part(mix[0], at), 2000), 0.25, 0.02) << "at " << at;
+        EXPECT_LT(strength(part(computerTrack[0], at), 440), 0.01) << "at " << at;
+    }
+    for (const double at : {0.5, end - 1}) {
+        EXPECT_NEAR(strength(part(inputTrack[0], at), 440), 0.25, 0.02) << "at " << at;
+        EXPECT_NEAR(strength(part(mix[0], at), 440), 0.25, 0.02) << "at " << at;
+    }
+    EXPECT_LT(strength(part(inputTrack[0], lostAfter + 0.7), 440), 0.01) << "it was away";
+    EXPECT_LT(strength(part(mix[0], lostAfter + 0.7), 440), 0.01);
 }
 
 TEST_F(LostSourceServer, AnArmedWaitReportsALostDriverAndContinuesWhenItReturns) {
