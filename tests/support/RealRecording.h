@@ -25,8 +25,10 @@
 /// preserves them.
 class KnownSound {
 public:
-    explicit KnownSound(std::size_t tones = 60) : tones_(tones), gain_(0.2 / std::sqrt(double(tones))) {
-        std::mt19937 random(7);
+    /// Sounds of different seeds are not alike.
+    explicit KnownSound(std::size_t tones = 60, unsigned seed = 7)
+        : tones_(tones), gain_(0.2 / std::sqrt(double(tones))) {
+        std::mt19937 random(seed);
         std::uniform_int_distribution<int> halfHertz(
             300, 18000); // multiples of half a hertz, so that the sum repeats every two seconds
         std::uniform_real_distribution<double> phase(0, 2 * std::numbers::pi);

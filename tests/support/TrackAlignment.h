@@ -68,9 +68,9 @@ protected:
     /// Records for a while; there is sound in the first and in the last 12 seconds.
     void expectAligned(double seconds) {
         begin(true, true);
-        // Both on the left channel: each has a file of its own.
-        Ear input{Microphone, 0, Rate, 0.0};
-        Ear computer{ComputerAudio, 0, Rate * (1 + 100e-6), 0.0073};
+        // Both the same sound: each has a file of its own.
+        Ear input{Microphone, &sound, Rate, 0.0};
+        Ear computer{ComputerAudio, &sound, Rate * (1 + 100e-6), 0.0073};
         silent = true;
         hearBoth(input, computer, Warmup);
         silent = false;

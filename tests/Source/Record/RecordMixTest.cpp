@@ -11,8 +11,8 @@ TEST_F(RecordMix, SourcesStayAlignedAlthoughTheirClocksDiffer) {
 
 TEST_F(RecordMix, PartsOfTwoSourcesFitEndToEnd) {
     begin(true, true);
-    Ear input{Microphone, 0, Rate, 0.0};
-    Ear computer{ComputerAudio, 1, Rate, 0.011};
+    Ear input{Microphone, &sound, Rate, 0.0};
+    Ear computer{ComputerAudio, &otherSound, Rate, 0.011};
     controller->startAndStopRecord();
     for (int part = 1; part <= 4; ++part) {
         hearBoth(input, computer, part * 1.7);
@@ -31,22 +31,24 @@ TEST_F(RecordMix, PartsOfTwoSourcesFitEndToEnd) {
             all[channel].insert(all[channel].end(), part[channel].begin(), part[channel].end());
         cuts.push_back(all[0].size());
     }
-    std::vector<float> expected(all[0].size());
-    for (std::size_t i = 0; i < expected.size(); ++i)
-        expected[i] = sound.at(double(i) / 44100);
-    for (std::size_t i = 0; i + 1 < cuts.size(); ++i)
-        for (const auto& channel : all) {
-            // A cut is rounded to a frame, and so is each part's length.
-            EXPECT_LE(std::fabs(bestLag(expected, channel, cuts[i] - 6000, 4000, 60)), 3) << "before cut " << i;
-            EXPECT_LE(std::fabs(bestLag(expected, channel, cuts[i] + 2000, 4000, 60)), 3) << "after cut " << i;
-        }
+    for (const KnownSound* one : {&sound, &otherSound}) {
+        std::vector<float> expected(all[0].size());
+        for (std::size_t i = 0; i < expected.size(); ++i)
+            expected[i] = one->at(double(i) / 44100);
+        for (std::size_t i = 0; i + 1 < cuts.size(); ++i)
+            for (const auto& channel : all) {
+                // A cut is rounded to a frame, and so is each part's length.
+                EXPECT_LE(std::fabs(bestLag(expected, channel, cuts[i] - 6000, 4000, 60)), 3) << "before cut " << i;
+                EXPECT_LE(std::fabs(bestLag(expected, channel, cuts[i] + 2000, 4000, 60)), 3) << "after cut " << i;
+            }
+    }
 }
 
 TEST_F(RecordMix, TheMainThreadTouchesNoFileOfAFinishedRecording) {
     for (const bool both : {false, true}) {
         begin(true, both);
-        Ear input{Microphone, 0, Rate, 0.0};
-        Ear computer{ComputerAudio, 1, Rate, 0.0};
+        Ear input{Microphone, &sound, Rate, 0.0};
+        Ear computer{ComputerAudio, &sound, Rate, 0.0};
         controller->startAndStopRecord();
         hearBoth(input, computer, 2);
         const DiskCalls disk;

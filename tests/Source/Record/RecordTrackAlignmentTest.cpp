@@ -8,8 +8,8 @@ TEST_F(TrackAlignment, TracksStayTogetherAlthoughTheirClocksDiffer) {
 
 TEST_F(TrackAlignment, PartsAndPausesAreAtTheSameFrames) {
     begin(true, true);
-    Ear input{Microphone, 0, Rate, 0.0};
-    Ear computer{ComputerAudio, 0, Rate, 0.011};
+    Ear input{Microphone, &sound, Rate, 0.0};
+    Ear computer{ComputerAudio, &sound, Rate, 0.011};
     controller->startAndStopRecord();
     hearBoth(input, computer, 3);
     controller->pauseAndResumeRecord();
