@@ -4,9 +4,11 @@
 // private bus.
 #include "Platform/Media/BasicID3Change.h"
 #include "tests/CommandLine/RecordServerFixture.h"
+#include "tests/support/BusMonitor.h"
 #include "tests/support/PrivateBus.h"
 #include "tests/support/ScriptedPlayer.h"
 
+#include <QElapsedTimer>
 #include <QImage>
 
 #include <algorithm>
@@ -85,11 +87,32 @@ protected:
     struct Result {
         QStringList files;
         QByteArray errors;
+        double late = 1e9; ///< milliseconds by which a message of the test may have been late
+        /// Whether the attempt counts. Only the test's own messages decide that, never what the program made of them.
+        [[nodiscard]] bool isPunctual() const { return late <= LatestMessage; }
     };
+    /// The largest delay of the test's own messages, in milliseconds, in an attempt that counts. A border may be 30 ms
+    /// off, of which the blocks of the player and of the program take up to 21.
+    static constexpr double LatestMessage = 8;
+    /// Attempts until the test itself is in time. The first one that counts decides.
+    static constexpr int MostAttempts = 8;
+
+    /// Repeats attempts in which the test was late, and returns the first one that counts.
+    static Result firstPunctual(const std::function<Result()>& attempt) {
+        Result result;
+        for (int i = 0; i < MostAttempts && !result.isPunctual(); ++i)
+            result = attempt();
+        EXPECT_TRUE(result.isPunctual()) << "the test was late in every attempt: this machine is too busy for it";
+        return result;
+    }
+    /// Milliseconds since the test last looked where the player is.
+    [[nodiscard]] double sinceLook() const { return double(lastLook_.nsecsElapsed()) / 1e6; }
+
     /// Records the album. @p announce is called with each track's number when the player passes on its first frame.
     Result recordAlbum(const QStringList& options, ScriptedPlayer& player, std::uint32_t block,
                        const std::function<void(std::size_t)>& announce,
                        const std::function<void(std::uint64_t)>& later = {}) {
+        BusMonitor monitor(bus_.address());
         QProcess process;
         process.start(QStringLiteral(SONAPHEX_PROGRAM),
                       QStringList{u"record"_s, u"--input"_s, u"none"_s, u"--computer"_s, u"--folder"_s, folder_,
@@ -104,20 +127,35 @@ protected:
         TestPlayer sound(album(block));
         EXPECT_TRUE(sound.start());
         std::size_t number = 0;
+        staleAnswer_ = 0;
+        double longestLook = 0;
+        lastLook_.start();
         EXPECT_TRUE(waitFor([&] {
+            QElapsedTimer look;
+            look.start();
             const std::uint64_t position = sound.position();
+            const std::size_t sentBefore = player.sentAt.size();
             if (number + 1 < Pitches.size() && position >= Borders[number + 1])
                 announce(++number);
             if (later)
                 later(position);
-            return position >= Borders.back();
+            // What is sent now was due at any time since the last look.
+            if (player.sentAt.size() != sentBefore)
+                longestLook = std::max(longestLook, sinceLook());
+            lastLook_ = look;
+            return position >= Borders.back() || std::max(longestLook, staleAnswer_) > LatestMessage;
         }));
+        const double staleAnswer = staleAnswer_; // answers after the album do not count
         player.setStatus(u"Stopped"_s);
         ::kill(pid_t(process.processId()), SIGINT);
         EXPECT_TRUE(process.waitForFinished());
         EXPECT_EQ(process.exitCode(), 0);
         Result result{QString::fromUtf8(process.readAllStandardOutput().trimmed()).split(u'\n'),
                       process.readAllStandardError()};
+        const double way = monitor.longestWay(player.sentAt);
+        result.late = std::max({longestLook, staleAnswer, way});
+        std::printf("late by at most: %.1f ms until announced, %.1f ms on the bus, %.1f ms in answers\n", longestLook,
+                    way, staleAnswer);
         return result;
     }
     /// The farthest border from the change of the tone, in milliseconds; every border is printed.
@@ -140,6 +178,8 @@ protected:
     PrivateBus bus_{dir_.path()};
     EnvironmentScope bus_address_{"DBUS_SESSION_BUS_ADDRESS", bus_.address().toUtf8()};
     QProcess driver_;
+    QElapsedTimer lastLook_;
+    double staleAnswer_ = 0; ///< milliseconds by which an answer about the position was late
 };
 
 TEST_F(RecordTracks, AnAlbumWithoutGapsBecomesOneTaggedFileForEachTrack) {
@@ -156,20 +196,16 @@ TEST_F(RecordTracks, AnAlbumWithoutGapsBecomesOneTaggedFileForEachTrack) {
     covers << QUrl::fromLocalFile(broken.fileName()).toString();
 
     for (const std::uint32_t block : {1024U, 12000U}) {
-        double worst = 1e9;
-        Result result;
-        // On a busy machine the player's own messages may be late.
-        for (int attempt = 0; attempt < 4 && worst > 30; ++attempt) {
+        const Result result = firstPunctual([&] {
             ScriptedPlayer player(bus_.address(), u"album"_s);
-            ASSERT_TRUE(player.isRegistered());
+            EXPECT_TRUE(player.isRegistered());
             player.rootProperties[u"Identity"_s] = u"test.album"_s;
-            result = recordAlbum({u"--titles"_s, u"--cut-at-tracks"_s}, player, block, [&](std::size_t number) {
+            return recordAlbum({u"--titles"_s, u"--cut-at-tracks"_s}, player, block, [&](std::size_t number) {
                 player.setTrack(track(number, covers.value(qsizetype(number))));
             });
-            worst = worstBorder(result.files);
-        }
+        });
         ASSERT_EQ(result.files.size(), 5) << result.errors.toStdString();
-        EXPECT_LE(worst, 30) << "blocks of " << block;
+        EXPECT_LE(worstBorder(result.files), 30) << "blocks of " << block;
         for (std::size_t i = 0; i < 5; ++i) {
             const auto tags = BasicID3Change::read(result.files[qsizetype(i)]);
             ASSERT_TRUE(tags);
@@ -190,9 +226,7 @@ TEST_F(RecordTracks, AnAlbumWithoutGapsBecomesOneTaggedFileForEachTrack) {
 }
 
 TEST_F(RecordTracks, TracksThatAreNamedLateHaveTheirTitlesAndBorders) {
-    double worst = 1e9;
-    Result result;
-    for (int attempt = 0; attempt < 4 && worst > 30; ++attempt) {
+    const Result result = firstPunctual([&] {
         ScriptedPlayer player(bus_.address(), u"album"_s);
         std::size_t current = 0;
         std::uint64_t nameAt = 0;
@@ -210,23 +244,23 @@ TEST_F(RecordTracks, TracksThatAreNamedLateHaveTheirTitlesAndBorders) {
             nameAt = 0;
             player.setTrack(track(current));
         };
-        result = recordAlbum({u"--titles"_s, u"--cut-at-tracks"_s}, player, 1024, change, name);
-        worst = worstBorder(result.files);
-    }
+        return recordAlbum({u"--titles"_s, u"--cut-at-tracks"_s}, player, 1024, change, name);
+    });
     ASSERT_EQ(result.files.size(), 5) << result.errors.toStdString();
-    EXPECT_LE(worst, 30);
+    EXPECT_LE(worstBorder(result.files), 30);
     for (std::size_t i = 0; i < 5; ++i)
         EXPECT_EQ(BasicID3Change::read(result.files[qsizetype(i)]).valueOr({}).title, u"Title %1"_s.arg(i));
 }
 
 TEST_F(RecordTracks, MessagesThatComeLateAreCorrectedByThePosition) {
-    double worst = 1e9;
-    Result result;
-    for (int attempt = 0; attempt < 4 && worst > 30; ++attempt) {
+    const Result result = firstPunctual([&] {
         ScriptedPlayer player(bus_.address(), u"album"_s);
         std::size_t current = 0;
         std::uint64_t now = 0;
-        player.position = [&] { return double(now - std::min(now, Borders[current])) / 48000; };
+        player.position = [&] {
+            staleAnswer_ = std::max(staleAnswer_, sinceLook()); // `now` is as old as the last look
+            return double(now - std::min(now, Borders[current])) / 48000;
+        };
         std::optional<std::size_t> waits;
         const auto change = [&](std::size_t number) {
             if (number == 0)
@@ -242,11 +276,10 @@ TEST_F(RecordTracks, MessagesThatComeLateAreCorrectedByThePosition) {
             waits.reset();
             player.setTrack(track(current));
         };
-        result = recordAlbum({u"--titles"_s, u"--cut-at-tracks"_s}, player, 1024, change, tell);
-        worst = worstBorder(result.files);
-    }
+        return recordAlbum({u"--titles"_s, u"--cut-at-tracks"_s}, player, 1024, change, tell);
+    });
     ASSERT_EQ(result.files.size(), 5) << result.errors.toStdString();
-    EXPECT_LE(worst, 30);
+    EXPECT_LE(worstBorder(result.files), 30);
 }
 
 TEST_F(RecordTracks, WithoutThePreferencesNothingChangesAndNoPlayerIsAsked) {

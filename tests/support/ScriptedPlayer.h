@@ -11,7 +11,9 @@
 #include <QVariantMap>
 
 #include <atomic>
+#include <chrono>
 #include <functional>
+#include <vector>
 
 /// A media player (MPRIS) on a bus, which the test drives. It answers while the test's event loop runs.
 class ScriptedPlayer : public QDBusVirtualObject {
@@ -56,6 +58,7 @@ public:
             properties.insert(each.key(), each.value());
         auto signal = QDBusMessage::createSignal(path(), propertiesInterface(), QStringLiteral("PropertiesChanged"));
         signal << QStringLiteral("org.mpris.MediaPlayer2.Player") << changed << QStringList();
+        sentAt.push_back(std::chrono::system_clock::now());
         bus_.send(signal);
     }
     void setTrack(const QVariantMap& metadata) { set({{QStringLiteral("Metadata"), metadata}}); }
@@ -72,6 +75,8 @@ public:
                                {QStringLiteral("DesktopEntry"), QStringLiteral("scripted")}};
     std::function<double()> position; ///< seconds; without one it knows no position
     int questions = 0;                ///< that it was asked
+    /// When each signal of set() was sent.
+    std::vector<std::chrono::system_clock::time_point> sentAt;
 
     QString introspect(const QString&) const override { return {}; }
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override {
