@@ -20,8 +20,9 @@ Q_LOGGING_CATEGORY(waveLog, "sonaphex.wave")
 
 constexpr int kValuesPerSecond = 10;
 constexpr int kBlocksPerReport = 256;
-/// Number of values to fetch per call when a file need not be read completely: a hundred seconds of audio.
-constexpr std::size_t kValuesAtOnce = 1000;
+/// Number of values to fetch per call when a file need not be read completely: two hundred seconds of audio,
+/// about 20 ms.
+constexpr std::size_t kValuesAtOnce = 2000;
 
 /// The frames of the blocks in which a tenth of a second is completed.
 std::vector<std::int64_t> framesOfPoints(std::int64_t length, double rate) {
