@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandLine/CommandHelp.h"
 #include "CommandLine/CommandLine.h"
+#include "CommandLine/CommandServices.h"
 #include "CommandLine/ManualCommand.h"
 #include "CommandLine/WaveformCommand.h"
 #include "Platform/Foundation/Translations.h"
@@ -47,7 +48,7 @@ std::optional<int> runCommand(int argc, char** argv) {
         std::printf("sonaphex %s\n", SONAPHEX_VERSION);
         return ended(Done);
     }
-    if (const auto status = runOneOf(allCommands(), argc, argv))
+    if (const auto status = runOneOf(allCommands(), argc, argv, installServices))
         return status;
     if (name.startsWith(u'-') || QFileInfo(QFile::decodeName(argv[1])).isFile())
         return {};

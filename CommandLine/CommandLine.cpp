@@ -2,13 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CommandLine/CommandLine.h"
 
-#include "CaptureComputerAudio/KextInstallControl.h"
 #include "CommandLine/CommandHelp.h"
 #include "Platform/Foundation/Bundle.h"
 #include "Platform/Foundation/RunningProgram.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/Translations.h"
-#include "Platform/LinuxServices.h"
 
 #include <QCoreApplication>
 
@@ -21,11 +19,10 @@ using namespace Qt::StringLiterals;
 namespace CommandLine {
 
 namespace {
-Platform::LinuxServices* installed = nullptr; // set while runOneOf() runs a command; tests install their own services
-int outputError = 0;                          // errno of the first output that failed
+int outputError = 0; // errno of the first output that failed
 } // namespace
 
-std::optional<int> runOneOf(const Commands& known, int argc, char** argv) {
+std::optional<int> runOneOf(const Commands& known, int argc, char** argv, InstallServices install) {
     if (argc < 2)
         return {};
     const auto found = known.find(QString::fromLocal8Bit(argv[1]));
@@ -38,30 +35,13 @@ std::optional<int> runOneOf(const Commands& known, int argc, char** argv) {
         print(CommandHelp::whole(command).trimmed());
         return ended(Done);
     }
-    Platform::LinuxServices services;
-    services.install(Platform::LinuxServices::Mode::CommandLine);
-    installed = &services;
-    const int status = command.run(QCoreApplication::arguments().mid(2));
-    installed = nullptr;
-    return ended(status);
-}
-
-Platform::Result<> startAudio() {
-    if (!installed && Platform::services().audioHardware)
-        return {};
-    if (!installed)
-        return Platform::Error{Platform::Error::Kind::NotFound,
-                               QCoreApplication::translate("CommandLine", "there is no sound server")};
-    auto started = installed->startAudio();
-    if (started)
-        KextInstallControl::loadIfInstalled(); // before the devices are listed
-    return started;
+    const auto services = install();
+    return ended(command.run(QCoreApplication::arguments().mid(2)));
 }
 
 std::optional<QByteArray> askWindow(const QByteArray& request) {
-    const auto running = Platform::RunningProgram::create(Platform::services().bundle->bundleIdentifier());
     QByteArray answer;
-    if (!running->ask(request, answer))
+    if (!Platform::RunningProgram::askOther(Platform::services().bundle->bundleIdentifier(), request, answer))
         return std::nullopt;
     return answer;
 }

@@ -3,11 +3,10 @@
 #pragma once
 
 #include "CommandLine/Subcommand.h"
-#include "Platform/Foundation/Result.h"
-
 #include <QByteArray>
 #include <QString>
 
+#include <memory>
 #include <optional>
 
 /// The subcommands of the program. Each has a source file of its own and is registered in one of the two lists.
@@ -16,20 +15,22 @@ namespace CommandLine {
 /// Exit statuses of every subcommand.
 enum Status { Done = 0, Failed = 1, WrongUsage = 2 };
 
-/// The commands that neither draw nor read images: they are in the program itself, which is linked without Qt Gui.
+/// The commands that only work on files and on the library. They are in the program itself, which is linked without the
+/// libraries for sound, discs and the desktop: see Platform::FileServices.
+[[nodiscard]] const Commands& fileCommands();
+/// The commands that neither draw nor read images, those of fileCommands() among them. They are in a module that is linked
+/// without Qt Gui.
 [[nodiscard]] const Commands& plainCommands();
 /// All subcommands by name.
 [[nodiscard]] const Commands& allCommands();
 
+/// Installs services until the result is destroyed.
+using InstallServices = std::shared_ptr<void> (*)();
 /// Runs the subcommand named by the program's first argument if it is one of @p known, under a QCoreApplication and
-/// with the command line's services. @return its exit status; nothing when it is not known.
-[[nodiscard]] std::optional<int> runOneOf(const Commands& known, int argc, char** argv);
+/// with the services that @p install installs. @return its exit status; nothing when it is not known.
+[[nodiscard]] std::optional<int> runOneOf(const Commands& known, int argc, char** argv, InstallServices install);
 /// Like runOneOf() for all subcommands, and for --help and --version. @return nothing when the window is wanted.
 [[nodiscard]] std::optional<int> runCommand(int argc, char** argv);
-
-/// Connects this process to the sound server, or starts a private one when none answers. For subcommands that record or
-/// play. An error when there is no sound server.
-Platform::Result<> startAudio();
 
 /// The running window's answer to a request of one line; nothing when no window runs or it does not answer.
 [[nodiscard]] std::optional<QByteArray> askWindow(const QByteArray& request);

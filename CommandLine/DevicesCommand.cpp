@@ -3,6 +3,7 @@
 #include "CommandLine/DevicesCommand.h"
 
 #include "CommandLine/Arguments.h"
+#include "CommandLine/CommandServices.h"
 #include "CommandLine/InputDevice.h"
 #include "Platform/Audio/AudioHardware.h"
 #include "Platform/Foundation/Services.h"

@@ -3,6 +3,7 @@
 #include "CommandLine/RecordCommand.h"
 
 #include "CommandLine/Arguments.h"
+#include "CommandLine/CommandServices.h"
 #include "CommandLine/InputDevice.h"
 #include "CommandLine/RecordingRun.h"
 #include "Platform/Foundation/Bundle.h"

@@ -6,7 +6,7 @@ set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
-# The window module is a shared object that links the same static libraries as the program.
+# The modules are shared objects that link the same static libraries as the program.
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
@@ -96,6 +96,8 @@ function(sonaphex_floor name)
             Platform/Media/linux/tags/BasicID3ChangeArtwork.cpp RingtoneMaker/WaveImage.cpp
             Source/Control/ID3ChangeControlPictures.cpp Source/Control/ToolControlPictures.cpp
             PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+        file(STRINGS ${CMAKE_SOURCE_DIR}/cmake/ProgramSources.txt program_sources REGEX "^[^#]")
+        set_source_files_properties(${program_sources} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
     endif()
     if(SONAPHEX_PCH)
         target_precompile_headers(${name} PRIVATE

@@ -1,13 +1,13 @@
 # SPDX-FileCopyrightText: 2026 The Sonaphex authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Installation paths: the program in bin, data in share/sonaphex, and processor-dependent files (the window module, the
+# Installation paths: the program in bin, data in share/sonaphex, and processor-dependent files (the modules, the
 # helpers, the driver bundle) in lib/sonaphex. The program finds all of them relative to its own path.
 set(resources_out ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Resources)
 set(tools_dir ${CMAKE_INSTALL_LIBDIR}/sonaphex)
 set(desktop_id com.korvane.Sonaphex)
 
 install(TARGETS sonaphex RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(TARGETS sonaphex_desktop LIBRARY DESTINATION ${tools_dir})
+install(TARGETS sonaphex_commands sonaphex_desktop LIBRARY DESTINATION ${tools_dir})
 install(TARGETS AudioSessionKeeper SetArtWork ToneSource RUNTIME DESTINATION ${tools_dir})
 install(TARGETS CaptureDriver RUNTIME DESTINATION ${tools_dir}/ComputerAudioCapture.kext)
 install(FILES ${CMAKE_SOURCE_DIR}/Resources/ComputerAudioCapture.kext/driver.conf
@@ -31,7 +31,7 @@ function(sonaphex_printed file)
     add_custom_command(OUTPUT ${manual}/${file}
         COMMAND ${CMAKE_COMMAND} -E make_directory ${manual}
         COMMAND ${CMAKE_COMMAND} -E env --unset=LANGUAGE LC_ALL=C.UTF-8 $<TARGET_FILE:sonaphex> ${ARGN} > ${manual}/${file}
-        DEPENDS sonaphex sonaphex_desktop VERBATIM)
+        DEPENDS sonaphex sonaphex_commands sonaphex_desktop VERBATIM)
     set(manual_files ${manual_files} ${manual}/${file} PARENT_SCOPE)
 endfunction()
 sonaphex_printed(sonaphex.1 manual)

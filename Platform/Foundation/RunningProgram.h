@@ -34,6 +34,9 @@ public:
     [[nodiscard]] virtual bool listen(Handler handler) = 0;
     /// Sends one line to the running program and waits at most @p timeoutMs for its answer. False when nothing answers.
     [[nodiscard]] virtual bool ask(const QByteArray& request, QByteArray& answer, int timeoutMs = 5000) = 0;
+    /// The same for a process that never answers requests itself. Needs no Qt Network.
+    [[nodiscard]] static bool askOther(const QString& bundleIdentifier, const QByteArray& request, QByteArray& answer,
+                                       int timeoutMs = 5000);
 
     /// The Linux implementation. The names derive from the bundle identifier.
     [[nodiscard]] static std::unique_ptr<RunningProgram> create(const QString& bundleIdentifier);

@@ -9,6 +9,7 @@
 #include "Platform/Media/ExtAudioFile.h"
 #include "Source/Model/AudioRecordEntry.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QJsonObject>
 #include <QLoggingCategory>
@@ -34,9 +35,8 @@ Dictionary factsOf(const QString& path) {
         facts.insert(AudioRecordEntry::Year, tags->year);
         facts.insert(AudioRecordEntry::Genre, tags->genre);
     }
-    if (auto* const files = Platform::services().mediaFiles)
-        if (const auto info = files->info(path))
-            facts.insert(AudioRecordEntry::Length, float(info->seconds));
+    if (const auto info = Platform::services().mediaFiles->info(path))
+        facts.insert(AudioRecordEntry::Length, float(info->seconds));
     return facts;
 }
 
@@ -77,7 +77,13 @@ void EditNote::end() {
         note_.remove();
 }
 
+bool EditNote::anyIsLeft() {
+    return !QDir(NoteFile::folderPath(kFolder)).entryList({u'*' + kEnding}, QDir::Files).isEmpty();
+}
+
 void EditNote::recover(const Retag& retag) {
+    if (!Platform::services().mediaFiles)
+        return;
     for (NoteFile& note : NoteFile::ofEndedProcesses(kFolder, kEnding))
         if (const auto values = note.values(); values && settle(*values, retag))
             note.remove();

@@ -25,10 +25,13 @@ public:
     /// when that fails the note is kept.
     void end();
 
+    /// Whether there is any note, also of a process that is still running. Any thread.
+    [[nodiscard]] static bool anyIsLeft();
+
     /// MediaLibraryRequests::retag(), or a double of it.
     using Retag = std::function<bool(const QString& path, const Dictionary& facts)>;
     /// Handles the notes of killed processes: updates the library's entries from the files and removes hidden files.
-    /// Main thread.
+    /// Without the service that reads audio files, the notes are kept. Main thread.
     static void recover(const Retag& retag);
 
 private:

@@ -119,6 +119,21 @@ TEST_F(TagRename, NamesTheFileAfterItsTitleAndTheEntryFollows) {
     EXPECT_TRUE(home_.notes().isEmpty());
 }
 
+TEST_F(TagRename, CompletesAnInterruptedEditWithTheLengthOfTheFile) {
+    ProgramHome::store({Dictionary{{AudioRecordEntry::NodeDataKey, u"the key"_s},
+                                   {AudioRecordEntry::SavePath, path()},
+                                   {AudioRecordEntry::Length, 99.0}}});
+    const QString edits = home_.filePath(ProgramHome::identifier + u"/Edits"_s);
+    ASSERT_TRUE(QDir().mkpath(edits));
+    const QJsonObject note{{u"path"_s, path()}, {u"newPath"_s, path()}, {u"hidden"_s, QString()}};
+    ASSERT_TRUE(Mpeg4Files::write(edits + u"/a.edit"_s, QJsonDocument(note).toJson(QJsonDocument::Compact)));
+    const ToolResult result = tag({path(), u"--artist"_s, u"A"_s});
+    EXPECT_EQ(result.status, 0) << result.errors.constData();
+    EXPECT_TRUE(home_.notes().isEmpty());
+    EXPECT_LT(listed()[u"seconds"_s].toDouble(), 20);
+    EXPECT_EQ(listed()[u"artist"_s].toString(), u"A"_s);
+}
+
 TEST_F(TagRename, UsesTheFilesTitleAndKeepsAFileOfThatName) {
     ASSERT_EQ(tag({path(), u"--title"_s, u"Rain"_s}).status, 0);
     EXPECT_EQ(files(), QStringList{u"a.m4a"_s});

@@ -4,9 +4,9 @@
 #include "Platform/Foundation/Folders.h"
 #include "Platform/Foundation/MainQueue.h"
 #include "Platform/Foundation/RunningProgram.h"
+#include "Platform/Foundation/linux/RequestSocket.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QLocalServer>
 #include <QLocalSocket>
@@ -71,30 +71,13 @@ public:
     }
 
     bool ask(const QByteArray& request, QByteArray& answer, int timeoutMs) override {
-        QElapsedTimer timer;
-        timer.start();
-        const auto left = [&] { return std::max(0, timeoutMs - int(timer.elapsed())); };
-        QLocalSocket socket;
-        socket.connectToServer(socketPath());
-        if (!socket.waitForConnected(left()))
-            return false;
-        QByteArray line = request;
-        line.replace('\n', ' ');
-        socket.write(line + '\n');
-        while (socket.bytesToWrite() > 0)
-            if (!socket.waitForBytesWritten(left()))
-                return false;
-        while (!socket.canReadLine())
-            if (left() == 0 || !socket.waitForReadyRead(left()))
-                return false;
-        answer = socket.readLine().trimmed();
-        return true;
+        return askOther(identifier_, request, answer, timeoutMs);
     }
 
     QString lastError() const override { return lastError_; }
 
 private:
-    QString socketPath() const { return Folders::runtime() + u'/' + identifier_ + QStringLiteral(".socket"); }
+    QString socketPath() const { return requestSocket(identifier_); }
 
     /// Removes the socket of a killed program. Anything else at @p path is kept.
     bool removeDeadSocket(const QString& path) {
