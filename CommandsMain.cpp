@@ -9,8 +9,7 @@
 
 /// Runs the command named by the first argument. @return false when it is in another part of the program.
 extern "C" Q_DECL_EXPORT bool sonaphexRunCommand(int argc, char** argv, int& status) {
-    const auto result =
-        CommandLine::runOneOf(CommandLine::plainCommands(), argc, argv, CommandLine::installServices);
+    const auto result = CommandLine::runOneOf(CommandLine::plainCommands(), argc, argv, CommandLine::installServices);
     status = result.value_or(CommandLine::Failed);
     return result.has_value();
 }

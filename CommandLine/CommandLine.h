@@ -18,8 +18,8 @@ enum Status { Done = 0, Failed = 1, WrongUsage = 2 };
 /// The commands that only work on files and on the library. They are in the program itself, which is linked without the
 /// libraries for sound, discs and the desktop: see Platform::FileServices.
 [[nodiscard]] const Commands& fileCommands();
-/// The commands that neither draw nor read images, those of fileCommands() among them. They are in a module that is linked
-/// without Qt Gui.
+/// The commands that neither draw nor read images, those of fileCommands() among them. They are in a module that is
+/// linked without Qt Gui.
 [[nodiscard]] const Commands& plainCommands();
 /// All subcommands by name.
 [[nodiscard]] const Commands& allCommands();

@@ -19,9 +19,9 @@ namespace CommandLine {
 const Commands& plainCommands() {
     static const Commands plain = [] {
         Commands commands = fileCommands();
-        commands.merge(byName({&balanceCommand, &burnCommand, &controlCommand, &convertCommand, &devicesCommand,
-                               &driverCommand, &drivesCommand, &joinCommand, &recordCommand, &ringtoneCommand,
-                               &splitCommand, &trimCommand}));
+        commands.merge(
+            byName({&balanceCommand, &burnCommand, &controlCommand, &convertCommand, &devicesCommand, &driverCommand,
+                    &drivesCommand, &joinCommand, &recordCommand, &ringtoneCommand, &splitCommand, &trimCommand}));
         return commands;
     }();
     return plain;

@@ -34,6 +34,14 @@ holds "the encoded sound is untouched" test "$(sound_of "$SCRATCH/worker.m4a")" 
 ours=$(milliseconds "$BUILD/bin/sonaphex" tag "$hour" --title Title --artist Artist --album Album --year 2012 --genre Genre)
 peer=$(milliseconds AtomicParsley "$SCRATCH/peer.m4a" --title Title --artist Artist --album Album --year 2012 --genre Genre --overWrite)
 report "tags of one hour, whole command (AtomicParsley)" "$ours" "$peer" ms "2.50 or less"
+not_equal "four of the five runs find the tags in the file: ours then leaves the file alone, the peer writes it again"
+# Every run with another title, so that both write every time.
+titled() { "$@" --title "Title $EPOCHREALTIME"; }
+ours=$(milliseconds titled "$BUILD/bin/sonaphex" tag "$hour")
+peer=$(milliseconds titled AtomicParsley "$SCRATCH/peer.m4a" --overWrite)
+report "a new title for one hour, whole command (AtomicParsley)" "$ours" "$peer" ms none
+must "$BUILD/bin/sonaphex" tag "$hour" --title Title
+must AtomicParsley "$SCRATCH/peer.m4a" --title Title --overWrite
 for tag in title artist album date genre; do
     equal "$tag" "$(tag_of "$hour" "$tag")" "$(tag_of "$SCRATCH/peer.m4a" "$tag")"
 done

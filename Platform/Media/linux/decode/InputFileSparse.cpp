@@ -100,8 +100,7 @@ bool InputFile::sparseSamples(std::span<const std::int64_t> frames, std::span<fl
                     return false;
                 packet->size = place.size;
                 std::memset(packet->data + place.size, 0, AV_INPUT_BUFFER_PADDING_SIZE);
-                if (!bytes.copy(place, packet->data) ||
-                    Av::codecs().sendPacket(codec.get(), packet.get()) < 0 ||
+                if (!bytes.copy(place, packet->data) || Av::codecs().sendPacket(codec.get(), packet.get()) < 0 ||
                     Av::codecs().receiveFrame(codec.get(), frame.get()) < 0 || frame->format != AV_SAMPLE_FMT_FLTP ||
                     frame->nb_samples != packetFrames)
                     return false;
