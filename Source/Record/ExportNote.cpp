@@ -163,10 +163,10 @@ bool areEqual(const QString& one, const QString& other) {
     QFile second(other);
     if (!first.open(QIODevice::ReadOnly) || !second.open(QIODevice::ReadOnly) || first.size() != second.size())
         return false;
-    constexpr qint64 Block = 1 << 20;
+    constexpr qint64 blockSize = 1 << 20;
     while (!first.atEnd()) {
-        const QByteArray block = first.read(Block);
-        if (block.isEmpty() || block != second.read(Block))
+        const QByteArray block = first.read(blockSize);
+        if (block.isEmpty() || block != second.read(blockSize))
             return false;
     }
     return true;
@@ -235,6 +235,7 @@ std::vector<std::shared_ptr<ExportJob>> ExportNote::interrupted() {
     }
     std::ranges::sort(found, {}, &Found::began);
     std::vector<std::shared_ptr<ExportJob>> jobs;
+    jobs.reserve(found.size());
     for (Found& each : found)
         jobs.push_back(std::move(each.job));
     return jobs;

@@ -212,7 +212,8 @@ void RecordQueue::moveRawFile(const std::shared_ptr<ExportJob>& job, const QStri
 /// Moves the finished file to its final name, or to the next free one when another file has that name by now.
 bool RecordQueue::deliver(const std::shared_ptr<ExportJob>& job, const QString& file) {
     const QString wished = job->path(ExportJob::OutPutPath);
-    reach(*job, ExportJob::Stage::Encoded);
+    if (job->stage < ExportJob::Stage::Encoded)
+        reach(*job, ExportJob::Stage::Encoded);
     const auto landed = Platform::FileManager::moveToFreeName(file, wished, [&](const QString&) {
         // The note says where the file goes before it is there.
         job->paths.insert(ExportJob::OutPutPath, owner_.nextFreeName());

@@ -55,8 +55,7 @@ void RecordQueue::continueJob(const std::shared_ptr<ExportJob>& job) {
 
 void RecordQueue::tellContinued(const QString& path) {
     RecordNotice notice{
-        .text = QCoreApplication::translate(
-            "Record", "A recording that was interrupted before it was finished is complete now:", "a path follows")};
+        .text = QCoreApplication::translate("Record", "An interrupted recording is complete now:", "a path follows")};
     notice.path = path;
     notice.help = RecordNotice::Help::Show;
     notice.event = u"continued "_s + path;

@@ -15,6 +15,8 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 using Platform::Error;
 
@@ -50,7 +52,7 @@ void RecordQueue::keepTracks(ExportJob& job) {
                 job.paths.remove(key);
             return;
         }
-        for (const QString& file : job.trackFiles)
+        for (const QString& file : std::as_const(job.trackFiles))
             keepAtExit(job, file);
         reach(job, ExportJob::Stage::TracksWritten);
     }

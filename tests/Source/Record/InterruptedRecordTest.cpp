@@ -78,7 +78,7 @@ TEST_F(Interrupted, AMixIsMadeByTheNextStart) {
     EXPECT_EQ(recordings(), QStringList{u"Track0.m4a"_s});
     ASSERT_EQ(media.mixes().size(), 1U);
     EXPECT_NEAR(media.mixes().at(0).timings.at(1).offset, 0.007, 1e-9) << "the capture times are in the note";
-    EXPECT_TRUE(noticed(u"A recording that was interrupted before it was finished is complete now: "_s + track(0)));
+    EXPECT_TRUE(noticed(u"An interrupted recording is complete now: "_s + track(0)));
     EXPECT_TRUE(notesAreGone()) << qPrintable(notes().join(u' '));
     EXPECT_TRUE(unfinished().isEmpty());
 }
