@@ -4,12 +4,13 @@
 
 #include "Source/BuiltInAudioRecord/BuildInAudioRecord.h"
 #include "Source/Model/RecordingTracks.h"
-#include "Source/Record/ExportNote.h"
 #include "Source/Record/PartTitle.h"
 
 #include <array>
 #include <atomic>
-#include <optional>
+#include <memory>
+
+class ExportNote;
 
 /// One finished recording that waits to become a tagged file: its raw files and their timing.
 struct ExportJob {
@@ -43,12 +44,12 @@ struct ExportJob {
         Tagged         ///< `entry` is complete
     };
     Stage stage = Stage::Raw;
-    QString encoded;                ///< what becomes the recording: the encoded mix, or the raw file of the only source
-    QStringList trackFiles;         ///< both tracks, before they are moved beside the mix
-    Dictionary entry;               ///< for the library; empty when the filter keeps the recording out of it
-    bool isContinued = false;       ///< an earlier process was ended before it was finished
-    QString date;                   ///< of a continued job: the day of the recording, "yyyy/MM/dd"
-    std::optional<ExportNote> note; ///< none when it could not be written
+    QString encoded;          ///< what becomes the recording: the encoded mix, or the raw file of the only source
+    QStringList trackFiles;   ///< both tracks, before they are moved beside the mix
+    Dictionary entry;         ///< for the library; empty when the filter keeps the recording out of it
+    bool isContinued = false; ///< an earlier process was ended before it was finished
+    QString date;             ///< of a continued job: the day of the recording, "yyyy/MM/dd"
+    std::shared_ptr<ExportNote> note; ///< none when it could not be written
 
     [[nodiscard]] QString path(const QString& key) const { return paths.value(key).toString(); }
     /// The raw files that the job still has: of the input device, then of computer audio.

@@ -230,7 +230,7 @@ std::vector<std::shared_ptr<ExportJob>> ExportNote::interrupted() {
             continue;
         }
         qCInfo(exportLog, "%s was interrupted and is continued", qUtf8Printable(job->path(ExportJob::OutPutPath)));
-        job->note.emplace(std::move(note));
+        job->note = std::make_shared<ExportNote>(std::move(note));
         found.push_back({(*values)[u"began"_s].toDouble(), std::move(job)});
     }
     std::ranges::sort(found, {}, &Found::began);

@@ -12,6 +12,7 @@
 #include "Source/Control/ToolControl.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Record/CutOffRecordings.h"
+#include "Source/Record/ExportNote.h"
 #include "Source/Record/PartCover.h"
 
 #include <QCoreApplication>

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The notes of the jobs, and jobs that an earlier process did not finish.
 #include "Source/Record/CutOffRecordings.h"
+#include "Source/Record/ExportNote.h"
 #include "Source/Record/RecordQueue.h"
 
 #include <QCoreApplication>
@@ -17,7 +18,7 @@ void RecordQueue::writeNote(ExportJob& job) {
         qWarning("a recording is finished without a note: %s", qUtf8Printable(note.error().forLog()));
         return;
     }
-    job.note.emplace(*std::move(note));
+    job.note = std::make_shared<ExportNote>(*std::move(note));
     for (const QString& raw : job.rawFiles())
         CutOffRecordings::remove(raw);
 }

@@ -10,6 +10,7 @@
 #include "Source/Control/ID3ChangeControl.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Record/CutOffRecordings.h"
+#include "Source/Record/ExportNote.h"
 #include "Source/Record/RecordQueue.h"
 
 #include <QCoreApplication>

@@ -6,6 +6,7 @@
 #include "Platform/Foundation/Clock.h"
 #include "Platform/Foundation/Services.h"
 #include "Platform/Foundation/Translations.h"
+#include "Source/Record/ExportNote.h"
 #include "Source/Record/RecordStateControllerPrivate.h"
 #include "Source/Record/UnfinishedRecordings.h"
 

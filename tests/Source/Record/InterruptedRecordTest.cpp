@@ -4,7 +4,7 @@
 #include "Platform/Foundation/TemporaryFolder.h"
 #include "Source/Model/AudioRecordEntry.h"
 #include "Source/Model/RecordingTracks.h"
-#include "Source/Record/ExportJob.h"
+#include "Source/Record/ExportNote.h"
 #include "tests/Source/Record/RecordFixture.h"
 #include "tests/support/Mpeg4Files.h"
 

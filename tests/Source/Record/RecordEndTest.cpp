@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Sonaphex authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Destroying a controller while its I/O threads are running.
-#include "Source/Record/ExportJob.h"
+#include "Source/Record/ExportNote.h"
 #include "tests/Source/Record/RecordFixture.h"
 
 #include <thread>
