@@ -28,6 +28,13 @@ public:
     enum class Event { DeviceLost, DeviceReturned, ServerLost, ServerReturned, FramesLost, NothingComes };
     using EventHandler = std::function<void(Event)>;
 
+    /// What the cycles are needed for.
+    enum class Use {
+        Nothing, ///< nothing is captured, and the device may sleep
+        Later,   ///< they come twice a second; holdCycles() on the main thread still takes all
+        Now      ///< each comes within about a tenth of a second
+    };
+
     /// Stops and closes. When the destructor returns, no callback runs and none will.
     virtual ~InputUnit() = default;
 
@@ -71,6 +78,10 @@ public:
     /// With a delay the sound server is asked for short blocks: programs hand over their sound in such blocks, and
     /// nothing is known about the time within one. Main thread, at any time; at most a second.
     virtual void setDelay(std::chrono::milliseconds /*delay*/) {}
+    /// The initial value is Use::Now. After Use::Nothing it returns when the device delivers again, at most a second
+    /// later: all frames that are captured from then on are delivered. The first cycle starts anew, and the time before
+    /// does not count as lost. Main thread, at any time.
+    virtual void setUse(Use /*use*/) {}
     /// Main thread; before start().
     virtual void setEventHandler(EventHandler handler) = 0;
     /// Why the last step failed, for the user and the log. Empty when nothing failed.

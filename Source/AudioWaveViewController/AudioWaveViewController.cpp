@@ -18,6 +18,7 @@
 #include <QEvent>
 
 #include <cmath>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -488,6 +489,8 @@ void AudioWaveViewController::tick() {
     const int interval = audioPlayUpdateTimer_->interval();
     const bool isSeen = view_ && AudioRecordWaveView::isSeen(*view_);
     setTimerInterval(isSeen ? tickMilliseconds : restMilliseconds);
+    if (std::exchange(isSeen_, isSeen) != isSeen)
+        Q_EMIT seenChanged(isSeen);
     for (int passed = tickMilliseconds; passed < interval; passed += tickMilliseconds)
         updateAudioWaveView();
     audioPlayUpdateTimerFireMethod();

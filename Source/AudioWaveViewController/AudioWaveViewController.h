@@ -138,6 +138,8 @@ Q_SIGNALS:
     void stateColorChanged();
     void changeTabViewButtonStateChanged();
     void playSoundProgressChanged();
+    /// Whether the panel is on the screen now: false in a hidden or iconified window. At first it counts as seen.
+    void seenChanged(bool seen);
     /// The user moved the position of the sound; in seconds.
     void audioPositionSet(double seconds);
     /// The user went on to another notice.
@@ -161,6 +163,7 @@ private:
     AudioWaveformBackView* view_ = nullptr;
     bool tabViewShowWave_ = false;
     bool isRecording_ = false;
+    bool isSeen_ = true;
     std::shared_ptr<CustomSound> playSound_;
     QString title_;
     QString artist_;

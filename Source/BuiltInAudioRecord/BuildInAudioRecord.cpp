@@ -153,6 +153,7 @@ bool BuildInAudioRecord::configureAudioUnit(AudioObjectID device) {
     unit.setEventHandler(eventHandler_);
     unit.setFillLostFrames(fillLostFrames_);
     unit.setDelay(delay_);
+    unit.setUse(use_);
 
     // The input may be enabled although the unit refuses to enable it.
     if (unit.setEnableInput(true) == noErr && unit.setEnableOutput(false) != noErr)
@@ -530,6 +531,12 @@ void BuildInAudioRecord::setDelay(std::chrono::milliseconds delay) {
     delay_ = delay;
     if (audioUnit_)
         audioUnit_->setDelay(delay);
+}
+
+void BuildInAudioRecord::setUse(InputUnit::Use use) {
+    use_ = use;
+    if (audioUnit_)
+        audioUnit_->setUse(use);
 }
 
 void BuildInAudioRecord::setEventHandler(InputUnit::EventHandler handler) {

@@ -150,6 +150,8 @@ public:
     virtual void setFillLostFrames(bool on);
     /// See InputUnit::setDelay(); also applied to the next device. Main thread.
     virtual void setDelay(std::chrono::milliseconds delay);
+    /// See InputUnit::setUse(); also applied to the next device. Main thread.
+    virtual void setUse(Platform::InputUnit::Use use);
     /// How much of the time before a first sound a recording contains; 0, the initial value, begins with the cycle of
     /// the sound. The engine then keeps that much of what the device delivers while nothing is recorded: never frames
     /// of an earlier recording, nor frames before a gap. Main thread.
@@ -224,6 +226,7 @@ private:
     Platform::InputUnit::EventHandler eventHandler_;
     bool fillLostFrames_ = false;
     std::chrono::milliseconds delay_{0};
+    Platform::InputUnit::Use use_ = Platform::InputUnit::Use::Now;
     std::atomic<std::int64_t> framesAccepted_{0}; // negative while a cut waits
     std::atomic<std::uint64_t> clippedCycles_{0};
     std::int64_t lostBefore_ = 0; // subtracted from the unit's count to get that of the recording

@@ -143,6 +143,14 @@ void RecordStateController::setDisplayClockRunning(bool running) {
         d->recordTimerForTime_.stop();
 }
 
+void RecordStateController::setLevelSeen(bool seen) {
+    d->levelSeen_ = seen;
+    // From now on the display's timer has the same interval: both fire together, and the program wakes once for them.
+    if (!seen && !d->isActive() && d->recordTimerForTime_.isActive())
+        d->recordTimerForTime_.start();
+    d->setUses();
+}
+
 void RecordStateController::refreshTheFace() {
     d->builtIn.checked = Platform::boolValue(d->preferences->value(Settings::recordBuiltIn));
     d->popUpEnabled_ = d->builtIn.checked;
@@ -411,8 +419,24 @@ void RecordStateController::Private::onMain(std::function<void()> work) {
 void RecordStateController::Private::changed() {
     onMain([this] {
         keepAwake();
+        setUses();
         Q_EMIT q->stateChanged();
     });
+}
+
+/// A source whose box is not checked is not captured, unless it records, waits for a sound or keeps what came before
+/// one. So its device can sleep, and nothing wakes this program.
+void RecordStateController::Private::setUses() {
+    using Use = Platform::InputUnit::Use;
+    const bool keepsPreRoll = Platform::intValue(preferences->value(Settings::preRollMS)) > 0;
+    for (RecordSource& source : sources) {
+        const bool waits = &source == &computer && (keepsPreRoll || q->isWaittingForSound());
+        const bool records = source.engine->recordStatus() != 0;
+        if (!source.checked && !waits && !records)
+            source.engine->setUse(Use::Nothing);
+        else
+            source.engine->setUse(levelSeen_ || isActive() || records ? Use::Now : Use::Later);
+    }
 }
 
 /// The machine must not sleep while an engine records, whatever the buttons show, nor during an armed wait.

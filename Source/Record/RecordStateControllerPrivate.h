@@ -105,6 +105,7 @@ struct RecordStateController::Private {
     bool programsChosen_ = false; ///< the driver has got a choice from here
     bool programsWatched_ = false;
     QElapsedTimer programsSent_; ///< since the driver got another choice
+    bool levelSeen_ = true;
     RecordNotices notices_;
     std::uint64_t lostShown_ = 0;
     RecordRoom room_;
@@ -136,6 +137,7 @@ struct RecordStateController::Private {
     [[nodiscard]] Platform::Error writeError() const;
     [[nodiscard]] bool grows() const;
     void keepAwake();
+    void setUses();
 
     /// Whether the buttons show a recording: it is armed, recording or paused.
     [[nodiscard]] bool isActive() const;

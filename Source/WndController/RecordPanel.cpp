@@ -47,6 +47,7 @@ RecordPanel::RecordPanel(Ui::MainWnd& ui, RecordStateController& record, AudioWa
     connect(ui_.popBuiltInDevice_, &QComboBox::activated, &record_, &RecordStateController::chooseBuiltInDevice);
     connect(&display_, &AudioWaveViewController::noticeDismissed, &record_,
             [this](const RecordNotice& notice) { record_.dismissNotice(notice.event); });
+    connect(&display_, &AudioWaveViewController::seenChanged, &record_, &RecordStateController::setLevelSeen);
     connect(&display_, &AudioWaveViewController::helpRequested, this, &RecordPanel::help);
     connect(&record_, &RecordStateController::stateChanged, this, &RecordPanel::showState);
     connect(&record_, &RecordStateController::displayChanged, this, &RecordPanel::showDisplay);

@@ -40,6 +40,7 @@ public:
         std::uint64_t lost = 0;
         bool fillsLost = false;
         std::chrono::milliseconds delay{0};
+        Use use = Use::Now;
         bool startsAnew = false;       ///< the next cycle is the first of a new connection
         FakeInputUnit* unit = nullptr; ///< null once it is destroyed
     };
@@ -102,6 +103,7 @@ public:
     std::uint64_t lostFrames() const override { return state_->lost; }
     void setFillLostFrames(bool on) override { state_->fillsLost = on; }
     void setDelay(std::chrono::milliseconds delay) override { state_->delay = delay; }
+    void setUse(Use use) override { state_->use = use; }
     void setEventHandler(EventHandler handler) override { handler_ = std::move(handler); }
     QString lastError() const override { return QStringLiteral("the step is set to fail"); }
 

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <thread>
 #include <utility>
 
 namespace Platform {
@@ -153,6 +154,27 @@ void CaptureStream::setShortBlocks(bool on) {
     pw_stream_update_properties(stream_.get(), &changed);
 }
 
+void CaptureStream::pause() {
+    LoopLock lock(registry_->connection()->threadLoop());
+    if (!std::exchange(paused_, true) && stream_)
+        pw_stream_set_active(stream_.get(), false);
+}
+
+void CaptureStream::resume(int milliseconds) {
+    const std::uint64_t before = blocks();
+    {
+        LoopLock lock(registry_->connection()->threadLoop());
+        if (!std::exchange(paused_, false) || !stream_)
+            return;
+        begins_ = true;
+        resumes_ = true;
+        pw_stream_set_active(stream_.get(), true);
+    }
+    const auto until = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
+    while (blocks() == before && streaming() && std::chrono::steady_clock::now() < until)
+        std::this_thread::sleep_for(1ms);
+}
+
 void CaptureStream::closeStream() {
     setAskAgainTimer(0ms);
     if (stream_)
@@ -236,6 +258,8 @@ void CaptureStream::onWork() {
         pw_stream_set_control(stream_.get(), SPA_PROP_channelVolumes, std::uint32_t(unity.size()), unity.data(),
                               SPA_PROP_mute, 1, &unmuted, 0);
     }
+    if (paused_ && state == PW_STREAM_STATE_STREAMING)
+        pw_stream_set_active(stream_.get(), false);
 }
 
 void CaptureStream::revive() {
@@ -320,6 +344,14 @@ void CaptureStream::processRt() noexcept {
                        : nullptr;
         }
         const spa_io_position* position = position_.load(std::memory_order_relaxed);
+        if (frames > 0 && resumes_.load(std::memory_order_relaxed)) {
+            // A buffer that was filled before the pause could be among the first ones.
+            resumes_.store(false, std::memory_order_relaxed);
+            endOfLast_ = 0;
+            blocks_.fetch_add(1, std::memory_order_relaxed);
+            pw_stream_queue_buffer(stream_.get(), buffer);
+            continue;
+        }
         const bool begins = begins_.load(std::memory_order_relaxed);
         if (begins) {
             for (const float* each : pointers_)

@@ -44,6 +44,12 @@ public:
     /// Asks the server for short blocks, so that capture times tell more about other programs' times; also for the next
     /// connections. Takes the loop's lock.
     void setShortBlocks(bool on);
+    /// Pauses the capture: the device may sleep, and the time until resume() does not count as lost. A device that
+    /// returns meanwhile is reported, and not captured. Takes the loop's lock.
+    void pause();
+    /// Continues after pause() and waits until the device delivers, at most @p milliseconds. The next block starts
+    /// anew.
+    void resume(int milliseconds);
     /// Blocks pushed so far; used to notice a stream that stopped delivering. Any thread.
     [[nodiscard]] std::uint64_t blocks() const { return blocks_.load(std::memory_order_relaxed); }
     /// Whether the stream is linked and should deliver. Any thread.
@@ -82,6 +88,7 @@ private:
     enum class Missing { Nothing, Device, Server };
     Missing missing_ = Missing::Nothing;
     bool shortBlocks_ = false;
+    bool paused_ = false;
     bool gone_ = false; ///< the stream lost its device and must be closed outside its own callback
     bool setVolume_ = false;
     bool opening_ = false; ///< open() waits: a refusal is not a loss yet
@@ -96,7 +103,8 @@ private:
     // Data thread; changed elsewhere only while no stream runs.
     std::atomic<const spa_io_position*> position_{nullptr};
     std::vector<const float*> pointers_;
-    std::atomic<bool> begins_{true}; ///< the next block is the first of its stream
+    std::atomic<bool> begins_{true};   ///< the next block is the first of its stream
+    std::atomic<bool> resumes_{false}; ///< the next block is the first one after a pause
     bool mayBeSilentStart_ = true;
     std::uint32_t clockId_ = 0;
     bool clockKnown_ = false;

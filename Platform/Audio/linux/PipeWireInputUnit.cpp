@@ -33,6 +33,7 @@ constexpr auto silentAfter = 300ms;
 /// waits for a cycle, so several are taken at once; holdCycles() takes them earlier. The window shows a level ten times
 /// a second, and each wake-up costs more than the cycles that it takes. A killed recording lacks what waits here.
 constexpr auto look = 100ms;
+constexpr auto lookLater = 500ms; ///< for Use::Later
 constexpr auto catchUpAtMost = 100ms;
 
 /// Host time a while ago.
@@ -162,6 +163,8 @@ OSStatus PipeWireInputUnit::start() {
         stream_.reset();
         return fail(kAudioHardwareNotRunningError, why);
     }
+    if (use_ == Use::Nothing)
+        stream_->pause();
     stopping_ = false;
     ioThread_ = std::thread([this] { runCycles(); });
     return noErr;
@@ -184,6 +187,21 @@ void PipeWireInputUnit::setDelay(std::chrono::milliseconds delay) {
     delay_ = delay;
     if (stream_)
         stream_->setShortBlocks(delay > 0ms);
+}
+
+void PipeWireInputUnit::setUse(Use use) {
+    Use before{};
+    {
+        std::lock_guard guard(cycleMutex_);
+        before = use_.exchange(use);
+    }
+    if (use == before)
+        return;
+    cycleChanged_.notify_all();
+    if (stream_ && use == Use::Nothing)
+        stream_->pause();
+    else if (stream_ && before == Use::Nothing)
+        stream_->resume(openMs);
 }
 
 void PipeWireInputUnit::tell(Event event) {
@@ -213,6 +231,7 @@ void PipeWireInputUnit::runCycles() {
     std::uint64_t asked = 0;
     for (;;) {
         CaptureCycle cycle;
+        const Use use = use_;
         // The device is gone: deliver the incomplete cycle, the rest will not arrive.
         const bool ended = !stream_->streaming();
         // A command that waits, and the end of the device, take everything.
@@ -221,14 +240,22 @@ void PipeWireInputUnit::runCycles() {
             if (!runCycle(assembler, cycle))
                 return;
         }
+        const std::uint64_t seenBefore = seenBlocks;
         watch(seenBlocks, toldLost);
         std::unique_lock lock(cycleMutex_);
         if (std::exchange(catchUpsDone_, asked) != asked)
             cycleChanged_.notify_all();
-        cycleChanged_.wait_for(lock, look, [&] { return stopping_ || catchUpsAsked_ != asked; });
+        const auto isWoken = [&] { return stopping_ || catchUpsAsked_ != asked || use_ != use; };
+        // What was on its way when the capture was paused is still taken.
+        if (use == Use::Nothing && seenBlocks == seenBefore)
+            cycleChanged_.wait(lock, isWoken);
+        else
+            cycleChanged_.wait_for(lock, use == Use::Later ? lookLater : look, isWoken);
         if (stopping_)
             return;
         asked = catchUpsAsked_;
+        if (use == Use::Nothing)
+            lastBlockAt_ = std::chrono::steady_clock::now();
     }
 }
 

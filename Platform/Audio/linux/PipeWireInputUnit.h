@@ -42,6 +42,7 @@ public:
     std::uint64_t overrunFrames() const override;
     void setFillLostFrames(bool on) override { fillLost_ = on; }
     void setDelay(std::chrono::milliseconds delay) override;
+    void setUse(Use use) override;
     void setEventHandler(EventHandler handler) override;
     QString lastError() const override { return lastError_; }
 
@@ -65,6 +66,7 @@ private:
     bool initialized_ = false;
     EventHandler handler_;
     std::atomic<bool> fillLost_{false};
+    std::atomic<Use> use_{Use::Now};
     std::atomic<std::chrono::milliseconds> delay_{std::chrono::milliseconds(0)};
 
     std::mutex cycleMutex_;
