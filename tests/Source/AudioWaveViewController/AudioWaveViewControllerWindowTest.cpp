@@ -111,16 +111,19 @@ TEST_F(LiveDisplay, TheTimerFetchesALevelTenTimesASecond) {
 TEST_F(LiveDisplay, AWindowThatNobodySeesTicksLessOftenAndItsHistoryKeepsItsTime) {
     auto* history = controller.audioRecordWaveView();
     const auto levels = [&] { return history->audioLevelArray().size(); };
+    QSignalSpy seen(&controller, &AudioWaveViewController::seenChanged);
     panel->hide();
     controller.createDudioPlayUpdateTimer();
     ASSERT_TRUE(waitFor([&] { return levels() >= 11; }));
     EXPECT_EQ(levels(), 1 + 5 * (delegate.recordStateAsked - 1));
+    EXPECT_EQ(seen, QList<QVariantList>({{false}}));
     panel->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(panel, 30000));
     ASSERT_TRUE(waitFor([&, asked = delegate.recordStateAsked, before = levels()] {
         const int ticks = delegate.recordStateAsked - asked;
         return ticks >= 10 && levels() - before < 2 * ticks;
     }));
+    EXPECT_EQ(seen, QList<QVariantList>({{false}, {true}}));
 }
 
 TEST_F(LiveDisplay, WithoutADelegateTheLevelIsZero) {

@@ -206,6 +206,17 @@ TEST_F(StateOfTheMainWindow, TitleAndButtonShowTheState) {
     EXPECT_EQ(title(), u"Sonaphex"_s);
 }
 
+TEST_F(StateOfTheMainWindow, AHiddenWindowNeedsTheLevelLater) {
+    using Use = Platform::InputUnit::Use;
+    world.open();
+    const auto use = [&] { return world.hardware.stateOf(WindowWorld::kMicrophone)->use; };
+    EXPECT_EQ(use(), Use::Now);
+    world.controller->window()->hide();
+    EXPECT_TRUE(waitFor([&] { return use() == Use::Later; }));
+    world.controller->window()->show();
+    EXPECT_TRUE(waitFor([&] { return use() == Use::Now; }));
+}
+
 TEST_F(StateOfTheMainWindow, ThePlaybackSideShowsStateAndTimeDuringARecording) {
     world.open();
     world.click("changeTabViewButton");
