@@ -80,7 +80,7 @@ public:
     virtual void setDelay(std::chrono::milliseconds /*delay*/) {}
     /// The initial value is Use::Now. After Use::Nothing it returns when the device delivers again, at most a second
     /// later: all frames that are captured from then on are delivered. The first cycle starts anew, and the time before
-    /// does not count as lost. Main thread, at any time.
+    /// does not count as lost. With Use::Nothing, start() does not wait for the device. Main thread, at any time.
     virtual void setUse(Use /*use*/) {}
     /// Main thread; before start().
     virtual void setEventHandler(EventHandler handler) = 0;

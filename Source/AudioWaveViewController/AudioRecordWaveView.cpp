@@ -17,6 +17,9 @@ namespace {
 constexpr qsizetype MarkWidth = 3;
 constexpr double MarkHeight = 3;
 
+/// More columns than this are drawn into the picture.
+constexpr int MostColumnsBeside = 16;
+
 } // namespace
 
 AudioRecordWaveView::AudioRecordWaveView(QWidget* parent) : QWidget(parent) {
@@ -86,6 +89,7 @@ void AudioRecordWaveView::redrawAll() {
     painter.setRenderHint(QPainter::Antialiasing);
     for (int i = 0; i < audioLevelArray_.size(); ++i)
         drawColumn(painter, i);
+    columnsBeside_ = 0;
     pictureIsOld_ = false;
 }
 
@@ -95,21 +99,32 @@ bool AudioRecordWaveView::scrollPicture() {
     // At 1.25 pixels per point, columns are not aligned to pixels and cannot be moved.
     if (pictureIsOld_ || step != ratio || picture_.devicePixelRatio() != ratio || audioLevelArray_.isEmpty())
         return false;
-    picture_.scroll(step, 0, picture_.rect());
+    if (++columnsBeside_ <= MostColumnsBeside)
+        return true;
+    picture_.scroll(columnsBeside_ * step, 0, picture_.rect());
     QPainter painter(&picture_);
-    // Whole pixels and this mode are a plain fill. With antialiasing Qt wakes its pool of threads for the one column.
+    // Whole pixels and this mode are a plain fill. With antialiasing Qt wakes its pool of threads for these columns.
     painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.fillRect(QRect(0, 0, 1, height()), Qt::transparent);
+    painter.fillRect(QRect(0, 0, columnsBeside_, height()), Qt::transparent);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     painter.setRenderHint(QPainter::Antialiasing);
-    drawColumn(painter, 0);
+    drawColumnsBeside(painter);
+    columnsBeside_ = 0;
     return true;
+}
+
+void AudioRecordWaveView::drawColumnsBeside(QPainter& painter) const {
+    for (int i = 0; i < std::min(columnsBeside_, int(audioLevelArray_.size())); ++i)
+        drawColumn(painter, i);
 }
 
 void AudioRecordWaveView::paintEvent(QPaintEvent*) {
     if (pictureIsOld_ || picture_.devicePixelRatio() != devicePixelRatioF())
         redrawAll();
-    QPainter(this).drawPixmap(0, 0, picture_);
+    QPainter painter(this);
+    painter.drawPixmap(columnsBeside_, 0, picture_);
+    painter.setRenderHint(QPainter::Antialiasing);
+    drawColumnsBeside(painter);
 }
 
 void AudioRecordWaveView::resizeEvent(QResizeEvent*) {

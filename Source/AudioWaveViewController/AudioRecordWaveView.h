@@ -11,7 +11,7 @@
 /// The level history: one column of one point for each level, the newest at the left, moving right. Main thread.
 ///
 /// Between two levels only one column changes; the rest is a picture that moves by one point. A full redraw ten times
-/// a second costs three times as much.
+/// a second costs three times as much. The newest columns are drawn beside the picture: to change a picture costs more.
 class AudioRecordWaveView : public QWidget, public SpokenView {
     Q_OBJECT
 public:
@@ -43,12 +43,14 @@ protected:
 
 private:
     void drawColumn(QPainter& painter, int index) const;
+    void drawColumnsBeside(QPainter& painter) const;
     void redrawAll();
-    /// Moves the picture and draws the newest column; false when the picture must be redrawn.
+    /// Makes room for one more column beside the picture; false when the picture must be redrawn.
     bool scrollPicture();
 
     QList<float> audioLevelArray_;
     QList<bool> clipped_; ///< for each level
     QPixmap picture_;
+    int columnsBeside_ = 0; ///< the newest, which the picture does not contain
     bool pictureIsOld_ = true;
 };

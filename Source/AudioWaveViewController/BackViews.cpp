@@ -20,6 +20,7 @@ AudioWaveformBackView::AudioWaveformBackView(QWidget* parent) : QWidget(parent) 
     glass.setColor(QPalette::Button, Theme::Glass::button());
     glass.setColor(QPalette::Highlight, Theme::Glass::focus());
     setPalette(glass);
+    setAttribute(Qt::WA_OpaquePaintEvent); // the window below it is not drawn
 }
 
 void AudioWaveformBackView::setRecording(bool recording) {
@@ -42,7 +43,7 @@ void AudioWaveformBackView::paintEvent(QPaintEvent*) {
     if (picture_.size() != size || picture_.devicePixelRatio() != ratio) {
         picture_ = QPixmap(size);
         picture_.setDevicePixelRatio(ratio);
-        picture_.fill(Qt::transparent);
+        picture_.fill(palette().color(QPalette::Window)); // without transparency it need not be blended
         QPainter painter(&picture_);
         draw(painter);
     }

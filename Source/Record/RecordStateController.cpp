@@ -114,6 +114,10 @@ void RecordStateController::awakeFromNib() {
             [this, &source](Platform::InputUnit::Event event) { d->deviceEvent(event, source); });
     }
     d->applyPreRoll();
+    // So that a source that is not recorded is not waited for.
+    d->builtIn.checked = Platform::boolValue(d->preferences->value(Settings::recordBuiltIn));
+    d->computer.checked = Platform::boolValue(d->preferences->value(Settings::recordComputerAudio));
+    d->setUses();
     d->devices = std::make_unique<RecordSources>(*d->builtIn.engine, *d->computer.engine);
     connect(d->devices.get(), &RecordSources::devicesChanged, this, &RecordStateController::devicesChanged);
     connect(d->devices.get(), &RecordSources::computerAudioDeviceChanged, this, [this] {

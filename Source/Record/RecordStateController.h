@@ -98,7 +98,8 @@ public:
     /// One tick of the display's clock: 0.5 s. The clock runs from awakeFromNib() on; tests stop it and call this.
     void recordFlushTime();
     void setDisplayClockRunning(bool running);
-    /// Whether somebody sees the level; initially true. Else, while nothing is recorded, it changes twice a second only.
+    /// Whether somebody sees the level; initially true. Else, while nothing is recorded, it changes twice a second
+    /// only.
     void setLevelSeen(bool seen);
 
     // The state.

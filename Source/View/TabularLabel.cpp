@@ -19,7 +19,7 @@ TabularLabel::TabularLabel(QWidget* parent) : QWidget(parent) {
 void TabularLabel::setText(const QString& text) {
     if (text == text_)
         return;
-    const bool sameRoom = text.size() == text_.size();
+    const bool sameRoom = std::max(text.size(), reserve_.size()) == std::max(text_.size(), reserve_.size());
     text_ = text;
     // A blinking time is without its seconds every other half second.
     if (!text.endsWith(u':'))

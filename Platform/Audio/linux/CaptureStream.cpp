@@ -171,7 +171,8 @@ void CaptureStream::resume(int milliseconds) {
         pw_stream_set_active(stream_.get(), true);
     }
     const auto until = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
-    while (blocks() == before && streaming() && std::chrono::steady_clock::now() < until)
+    const auto mayDeliver = [this] { return state_ == State::Streaming || state_ == State::Connecting; };
+    while (blocks() == before && mayDeliver() && std::chrono::steady_clock::now() < until)
         std::this_thread::sleep_for(1ms);
 }
 

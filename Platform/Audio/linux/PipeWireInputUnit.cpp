@@ -159,12 +159,13 @@ OSStatus PipeWireInputUnit::start() {
     });
     stream_->setShortBlocks(delay_.load() > 0ms);
     QString why;
-    if (!stream_->open(openMs, why)) {
+    if (use_ == Use::Nothing)
+        stream_->pause();
+    // A device that is not needed now may be linked later.
+    if (!stream_->open(use_ == Use::Nothing ? 0 : openMs, why)) {
         stream_.reset();
         return fail(kAudioHardwareNotRunningError, why);
     }
-    if (use_ == Use::Nothing)
-        stream_->pause();
     stopping_ = false;
     ioThread_ = std::thread([this] { runCycles(); });
     return noErr;
