@@ -108,7 +108,7 @@ wait "$mixer"
 read -r _ mixer_cpu _ <"$SCRATCH/mixer.idle"
 report "window at rest, level moving (pavucontrol)" "$ours_cpu" "$mixer_cpu" "% of a core" "0.50 or less, and under 0.9 %"
 holds "the mixer listened to the microphone" test "$peak" -ge 1
-not_equal "ours keeps a history of the level and both its engines, the mixer draws a bar for each device"
+not_equal "ours keeps a history of the level and captures every frame, the mixer draws a bar for each device"
 
 # Percent of a core of a process.
 percent() { # process
