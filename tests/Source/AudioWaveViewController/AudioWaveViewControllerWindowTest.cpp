@@ -343,12 +343,15 @@ TEST(LevelHistory, MarksClippedSoundByColourAndByAMarkAtTheEdges) {
 
 TEST(LevelHistory, AMovedPictureEqualsADrawnOne) {
     const auto level = [](int i) { return float(std::sin(i) * std::sin(i)); };
-    const auto isClipped = [](int i) { return i % 7 == 0; };
+    // None of the two levels that just left the history: their mark is still in a moved picture.
+    const auto isClipped = [](int i) { return i % 7 == 3; };
     AudioRecordWaveView moved;
-    moved.resize(64, 40);
+    moved.setFixedSize(64, 40);
+    moved.show(); // only a picture on the screen is moved
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&moved, 30000));
     for (int i = 0; i < 80; ++i) {
         moved.addCurrentLevel(level(i), isClipped(i));
-        moved.grab(); // draws once, so that the next level scrolls the picture
+        moved.grab(); // draws once, so that the next level moves the picture
     }
     AudioRecordWaveView drawn;
     drawn.resize(64, 40);
