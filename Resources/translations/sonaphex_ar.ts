@@ -4201,6 +4201,15 @@ commands:
         <source>%1 could not be saved beside its recording: %2.</source>
         <translation>تعذّر حفظ %1 بجانب تسجيله: %2.</translation>
     </message>
+    <message>
+        <source>An interrupted recording is complete now:</source>
+        <comment>a path follows</comment>
+        <translation>اكتمل الآن تسجيل كان قد انقطع:</translation>
+    </message>
+    <message>
+        <source>the recorded sound of a source is missing</source>
+        <translation>الصوت المسجَّل لأحد المصادر مفقود</translation>
+    </message>
 </context>
 <context>
     <name>RecordPanel</name>

@@ -4173,6 +4173,15 @@ Befehle:
         <source>%1 could not be saved beside its recording: %2.</source>
         <translation>%1 konnte nicht neben der Aufnahme gespeichert werden: %2.</translation>
     </message>
+    <message>
+        <source>An interrupted recording is complete now:</source>
+        <comment>a path follows</comment>
+        <translation>Eine unterbrochene Aufnahme ist jetzt vollständig:</translation>
+    </message>
+    <message>
+        <source>the recorded sound of a source is missing</source>
+        <translation>der aufgenommene Ton einer Quelle fehlt</translation>
+    </message>
 </context>
 <context>
     <name>RecordPanel</name>

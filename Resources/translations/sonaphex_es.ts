@@ -4173,6 +4173,15 @@ commands:
         <source>%1 could not be saved beside its recording: %2.</source>
         <translation>No se pudo guardar %1 junto a su grabación: %2.</translation>
     </message>
+    <message>
+        <source>An interrupted recording is complete now:</source>
+        <comment>a path follows</comment>
+        <translation>Una grabación interrumpida ya está completa:</translation>
+    </message>
+    <message>
+        <source>the recorded sound of a source is missing</source>
+        <translation>falta el sonido grabado de una fuente</translation>
+    </message>
 </context>
 <context>
     <name>RecordPanel</name>

@@ -243,7 +243,7 @@
     </message>
     <message>
         <source>%1 %, clipped</source>
-        <translation>%1 %, écrêté</translation>
+        <translation>%1&#xa0;%, écrêté</translation>
     </message>
 </context>
 <context>
@@ -589,11 +589,11 @@
     </message>
     <message>
         <source>The file “%1” is no longer there.</source>
-        <translation>Le fichier « %1 » n’existe plus.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» n’existe plus.</translation>
     </message>
     <message>
         <source>The file “%1” is still being recorded to.</source>
-        <translation>Le fichier « %1 » est encore en cours d’enregistrement.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» est encore en cours d’enregistrement.</translation>
     </message>
     <message>
         <source>The sum of both tracks is too loud and would be clipped.</source>
@@ -719,7 +719,7 @@
     </message>
     <message>
         <source>Too loud by %1 dB: the loudest parts would be clipped.</source>
-        <translation>Trop fort de %1 dB : les passages les plus forts seraient écrêtés.</translation>
+        <translation>Trop fort de %1&#xa0;dB&#xa0;: les passages les plus forts seraient écrêtés.</translation>
     </message>
     <message>
         <source>The mix is silent.</source>
@@ -727,7 +727,7 @@
     </message>
     <message>
         <source>Loudest point: %1 dB below the limit</source>
-        <translation>Point le plus fort : %1 dB sous la limite</translation>
+        <translation>Point le plus fort&#xa0;: %1&#xa0;dB sous la limite</translation>
     </message>
     <message>
         <source>Lowers both gains until nothing is clipped</source>
@@ -755,11 +755,11 @@
     </message>
     <message>
         <source>Do you want to replace &quot;%1&quot; with the new mix? Its tracks stay.</source>
-        <translation>Voulez-vous remplacer « %1 » par le nouveau mixage ? Ses pistes sont conservées.</translation>
+        <translation>Voulez-vous remplacer «&#xa0;%1&#xa0;» par le nouveau mixage&#xa0;? Ses pistes sont conservées.</translation>
     </message>
     <message>
         <source>Warning:</source>
-        <translation>Attention :</translation>
+        <translation>Attention&#xa0;:</translation>
     </message>
     <message>
         <source>Save As</source>
@@ -771,7 +771,7 @@
     </message>
     <message>
         <source>Lower Both by %1 dB</source>
-        <translation>Baisser les deux de %1 dB</translation>
+        <translation>Baisser les deux de %1&#xa0;dB</translation>
     </message>
     <message>
         <source>The mix is too loud.</source>
@@ -1952,11 +1952,11 @@ commandes&#xa0;:
     </message>
     <message>
         <source>%1: no tracks were kept of this recording</source>
-        <translation>%1 : aucune piste n’a été conservée pour cet enregistrement</translation>
+        <translation>%1&#xa0;: aucune piste n’a été conservée pour cet enregistrement</translation>
     </message>
     <message>
         <source>both gains were lowered by %1 dB, so that nothing is clipped</source>
-        <translation>les deux gains ont été baissés de %1 dB pour que rien ne soit écrêté</translation>
+        <translation>les deux gains ont été baissés de %1&#xa0;dB pour que rien ne soit écrêté</translation>
     </message>
     <message>
         <source>the new mix is saved</source>
@@ -1964,7 +1964,7 @@ commandes&#xa0;:
     </message>
     <message>
         <source>--%1: %2 is not a number</source>
-        <translation>--%1 : %2 n’est pas un nombre</translation>
+        <translation>--%1&#xa0;: %2 n’est pas un nombre</translation>
     </message>
     <message>
         <source>balance takes one file</source>
@@ -1984,15 +1984,15 @@ commandes&#xa0;:
     </message>
     <message>
         <source>Make the input louder by DB decibels, or softer when it is negative; -60 is silence.</source>
-        <translation>Augmenter l’entrée de DB décibels, ou la baisser si la valeur est négative ; -60 correspond au silence.</translation>
+        <translation>Augmenter l’entrée de DB décibels, ou la baisser si la valeur est négative&#xa0;; -60 correspond au silence.</translation>
     </message>
     <message>
         <source>Make computer audio louder by DB decibels, or softer when it is negative; -60 is silence.</source>
-        <translation>Augmenter le son de l’ordinateur de DB décibels, ou le baisser si la valeur est négative ; -60 correspond au silence.</translation>
+        <translation>Augmenter le son de l’ordinateur de DB décibels, ou le baisser si la valeur est négative&#xa0;; -60 correspond au silence.</translation>
     </message>
     <message>
         <source>Move computer audio MS milliseconds later, or earlier when it is negative; at most 2000.</source>
-        <translation>Retarder le son de l’ordinateur de MS millisecondes, ou l’avancer si la valeur est négative ; au plus 2000.</translation>
+        <translation>Retarder le son de l’ordinateur de MS millisecondes, ou l’avancer si la valeur est négative&#xa0;; au plus 2000.</translation>
     </message>
     <message>
         <source>Make the microphone louder against what the computer played.</source>
@@ -3587,7 +3587,7 @@ commandes&#xa0;:
     </message>
     <message>
         <source>A recording of both sources then also keeps the input and computer audio, each as a file of its own. Balance… mixes them anew. This takes three times the disk space, and more time after the recording.</source>
-        <translation>Un enregistrement des deux sources conserve alors aussi l’entrée et le son de l’ordinateur, chacun dans son propre fichier. « Balance… » les mixe à nouveau. Cela occupe trois fois l’espace disque et demande plus de temps après l’enregistrement.</translation>
+        <translation>Un enregistrement des deux sources conserve alors aussi l’entrée et le son de l’ordinateur, chacun dans son propre fichier. «&#xa0;Balance…&#xa0;» les mixe à nouveau. Cela occupe trois fois l’espace disque et demande plus de temps après l’enregistrement.</translation>
     </message>
 </context>
 <context>
@@ -4155,15 +4155,15 @@ commandes&#xa0;:
     </message>
     <message>
         <source>About %1 min left on this disk</source>
-        <translation>Il reste environ %1 min sur ce disque</translation>
+        <translation>Il reste environ %1&#xa0;min sur ce disque</translation>
     </message>
     <message>
         <source>About %1 h %2 min left on this disk</source>
-        <translation>Il reste environ %1 h %2 min sur ce disque</translation>
+        <translation>Il reste environ %1&#xa0;h %2&#xa0;min sur ce disque</translation>
     </message>
     <message>
         <source>%1 is complete, but its tracks could not be kept: %2.</source>
-        <translation>%1 est complet, mais ses pistes n’ont pas pu être conservées : %2.</translation>
+        <translation>%1 est complet, mais ses pistes n’ont pas pu être conservées&#xa0;: %2.</translation>
     </message>
     <message>
         <source>the disk is nearly full</source>
@@ -4171,7 +4171,16 @@ commandes&#xa0;:
     </message>
     <message>
         <source>%1 could not be saved beside its recording: %2.</source>
-        <translation>%1 n’a pas pu être sauvegardé à côté de son enregistrement : %2.</translation>
+        <translation>%1 n’a pas pu être sauvegardé à côté de son enregistrement&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>An interrupted recording is complete now:</source>
+        <comment>a path follows</comment>
+        <translation>Un enregistrement interrompu est maintenant complet :</translation>
+    </message>
+    <message>
+        <source>the recorded sound of a source is missing</source>
+        <translation>le son enregistré d’une source manque</translation>
     </message>
 </context>
 <context>
@@ -4315,7 +4324,7 @@ commandes&#xa0;:
     </message>
     <message>
         <source>The file is no longer there: %1</source>
-        <translation>Le fichier n’existe plus : %1</translation>
+        <translation>Le fichier n’existe plus&#xa0;: %1</translation>
     </message>
     <message>
         <source>Join</source>
@@ -4334,11 +4343,11 @@ commandes&#xa0;:
     </message>
     <message>
         <source>“%1” was made. The recordings are not parts of one recording, so the sound was encoded again.</source>
-        <translation>« %1 » a été créé. Les enregistrements ne sont pas des parties d’un même enregistrement, le son a donc été réencodé.</translation>
+        <translation>«&#xa0;%1&#xa0;» a été créé. Les enregistrements ne sont pas des parties d’un même enregistrement, le son a donc été réencodé.</translation>
     </message>
     <message>
         <source>“%1” was made. The sound was copied without encoding it again.</source>
-        <translation>« %1 » a été créé. Le son a été copié sans être réencodé.</translation>
+        <translation>«&#xa0;%1&#xa0;» a été créé. Le son a été copié sans être réencodé.</translation>
     </message>
 </context>
 <context>
@@ -4711,15 +4720,15 @@ commandes&#xa0;:
     <name>SplitWndController</name>
     <message>
         <source>%1 dB</source>
-        <translation>%1 dB</translation>
+        <translation>%1&#xa0;dB</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 s</translation>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message>
         <source>Searching for silences… %1 %</source>
-        <translation>Recherche des silences… %1 %</translation>
+        <translation>Recherche des silences… %1&#xa0;%</translation>
     </message>
     <message>
         <source>No silence found at this level. Choose a higher level, or add cuts yourself.</source>
@@ -4727,17 +4736,17 @@ commandes&#xa0;:
     </message>
     <message>
         <source>No silence is long enough. The longest silence found: %1 s.</source>
-        <translation>Aucun silence n’est assez long. Plus long silence trouvé : %1 s.</translation>
+        <translation>Aucun silence n’est assez long. Plus long silence trouvé&#xa0;: %1&#xa0;s.</translation>
     </message>
     <message>
         <source>One cut. The longest silence found: %1 s.</source>
-        <translation>Une coupe. Plus long silence trouvé : %1 s.</translation>
+        <translation>Une coupe. Plus long silence trouvé&#xa0;: %1&#xa0;s.</translation>
     </message>
     <message numerus="yes">
         <source>%n cuts. The longest silence found: %1 s.</source>
         <translation>
-            <numerusform>%n coupe. Plus long silence trouvé : %1 s.</numerusform>
-            <numerusform>%n coupes. Plus long silence trouvé : %1 s.</numerusform>
+            <numerusform>%n coupe. Plus long silence trouvé&#xa0;: %1&#xa0;s.</numerusform>
+            <numerusform>%n coupes. Plus long silence trouvé&#xa0;: %1&#xa0;s.</numerusform>
         </translation>
     </message>
     <message>

@@ -4166,6 +4166,15 @@ commands:
         <source>%1 could not be saved beside its recording: %2.</source>
         <translation>%1 を録音と同じ場所に保存できませんでした: %2。</translation>
     </message>
+    <message>
+        <source>An interrupted recording is complete now:</source>
+        <comment>a path follows</comment>
+        <translation>中断された録音が完成しました:</translation>
+    </message>
+    <message>
+        <source>the recorded sound of a source is missing</source>
+        <translation>ソースの録音データがありません</translation>
+    </message>
 </context>
 <context>
     <name>RecordPanel</name>
