@@ -102,9 +102,9 @@ ContainerFacts readMpeg4Facts(const SourceFile& file, int rate) {
             facts = {}; // libavformat decides which of them is read
             return false;
         }
-        facts.ownEncoder = handler.size() >= 24 + std::strlen(mpeg4HandlerName) &&
-                           std::memcmp(handler.data() + 24, mpeg4HandlerName, std::strlen(mpeg4HandlerName)) == 0;
         const auto scale = timeScale(boxBytes(file, track, {fourCharCode("mdia"), fourCharCode("mdhd")}));
+        facts.ownEncoder = movieScale == scale && handler.size() >= 24 + std::strlen(mpeg4HandlerName) &&
+                           std::memcmp(handler.data() + 24, mpeg4HandlerName, std::strlen(mpeg4HandlerName)) == 0;
         const auto edit = onlyEdit(boxBytes(file, track, {fourCharCode("edts"), fourCharCode("elst")}));
         const std::int64_t media = sumOfDurations(boxBytes(
             file, track, {fourCharCode("mdia"), fourCharCode("minf"), fourCharCode("stbl"), fourCharCode("stts")}));

@@ -40,7 +40,8 @@ public:
 [[nodiscard]] std::unique_ptr<PacketFile> createMpeg4File(OutputFile& file);
 
 /// The handler name that marks our MPEG-4 files: our encoder uses no noise substitution, so a packet always decodes to
-/// the same samples, whatever was decoded before.
+/// the same samples, whatever was decoded before. ffmpeg keeps the name when it encodes the sound again, but not our
+/// movie time scale, which is the sample rate: both together mark a file as ours.
 inline constexpr const char* mpeg4HandlerName = "Sonaphex Sound";
 
 /// CAF, with priming and padding in its packet table.
