@@ -34,6 +34,9 @@ constexpr auto silentAfter = 300ms;
 /// a second, and each wake-up costs more than the cycles that it takes. A killed recording lacks what waits here.
 constexpr auto look = 100ms;
 constexpr auto lookLater = 500ms; ///< for Use::Later
+/// One look in vain counts as this long at most. After a standstill of the process or the machine, the first look comes
+/// late and before the blocks that were on their way.
+constexpr auto longestLook = lookLater;
 constexpr auto catchUpAtMost = 100ms;
 
 /// Host time a while ago.
@@ -228,7 +231,7 @@ void PipeWireInputUnit::runCycles() {
     CycleAssembler assembler(*ring_, target_.sampleRate, target_.cycleFrames);
     std::uint64_t seenBlocks = 0;
     std::uint64_t toldLost = 0;
-    lastBlockAt_ = std::chrono::steady_clock::now();
+    lastLookAt_ = std::chrono::steady_clock::now();
     std::uint64_t asked = 0;
     for (;;) {
         CaptureCycle cycle;
@@ -256,7 +259,7 @@ void PipeWireInputUnit::runCycles() {
             return;
         asked = catchUpsAsked_;
         if (use == Use::Nothing)
-            lastBlockAt_ = std::chrono::steady_clock::now();
+            withoutBlocks_ = 0s;
     }
 }
 
@@ -299,19 +302,20 @@ void PipeWireInputUnit::watch(std::uint64_t& seenBlocks, std::uint64_t& toldLost
         tell(Event::FramesLost);
     }
     const auto now = std::chrono::steady_clock::now();
+    withoutBlocks_ += std::min<std::chrono::duration<double>>(now - std::exchange(lastLookAt_, now), longestLook);
     if (const auto blocks = stream_->blocks(); blocks != seenBlocks) {
         seenBlocks = blocks;
-        lastBlockAt_ = now;
+        withoutBlocks_ = 0s;
         toldNothingComes_ = false;
         return;
     }
     const auto cycle = std::chrono::duration<double>(double(target_.cycleFrames) / target_.sampleRate);
-    if (!toldNothingComes_ && now - lastBlockAt_ > std::max<std::chrono::duration<double>>(silentAfter, 2 * cycle)) {
+    if (!toldNothingComes_ && withoutBlocks_ > std::max<std::chrono::duration<double>>(silentAfter, 2 * cycle)) {
         toldNothingComes_ = true;
         tell(Event::NothingComes);
     }
-    if (now - lastBlockAt_ > dryAfter) {
-        lastBlockAt_ = now;
+    if (withoutBlocks_ > dryAfter) {
+        withoutBlocks_ = 0s;
         stream_->revive();
     }
 }

@@ -81,7 +81,8 @@ private:
     // The current cycle; I/O thread.
     const CycleAssembler* current_ = nullptr;
     std::uint32_t currentFrames_ = 0;
-    std::chrono::steady_clock::time_point lastBlockAt_;
+    std::chrono::steady_clock::time_point lastLookAt_;
+    std::chrono::duration<double> withoutBlocks_{}; ///< for how long the looks have found no new block
     bool toldNothingComes_ = false;
 
     // Shut down in this order: the thread, the stream, the ring.

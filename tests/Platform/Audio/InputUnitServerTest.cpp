@@ -5,6 +5,7 @@
 #include "tests/support/BusyLoops.h"
 #include "tests/support/PrivateAudioSession.h"
 #include "tests/support/ServerWatch.h"
+#include "tests/support/StandStill.h"
 #include "tests/support/TestCapture.h"
 #include "tests/support/TestSource.h"
 #include "tests/support/UnitCapture.h"
@@ -310,6 +311,23 @@ TEST_F(InputUnitTest, ReportsThatNothingComesWhileTheServerIsStopped) {
     EXPECT_TRUE(reported);
     const auto frames = capture.frames();
     EXPECT_TRUE(waitFor([&] { return capture.frames() > frames + 4800; }));
+}
+
+TEST_F(InputUnitTest, AStandstillOfTheMachineIsNoLossOfTheDevice) {
+    TestSource source({.description = "Stopped with us", .ownClock = false});
+    UnitCapture capture(*hardware_, add(source));
+    ASSERT_TRUE(capture.start());
+    ASSERT_TRUE(captured(capture, 0.3));
+    ASSERT_EQ(kill(session_.serverProcess(), SIGSTOP), 0);
+    const bool stood = StandStill::forSeconds(3);
+    // The unit looks for audio before the server runs again.
+    const bool looked = waitFor([&] { return capture.heard(Event::NothingComes); });
+    ASSERT_EQ(kill(session_.serverProcess(), SIGCONT), 0);
+    EXPECT_TRUE(stood);
+    EXPECT_TRUE(looked);
+    const auto frames = capture.frames();
+    EXPECT_TRUE(waitFor([&] { return capture.frames() > frames + 4800; }));
+    EXPECT_FALSE(capture.heard(Event::DeviceLost));
 }
 
 TEST_F(InputUnitTest, KeepsItsRateWhenADeviceReturnsWithAnother) {
