@@ -21,6 +21,9 @@ CaptureRing::CaptureRing(std::uint32_t channels, std::size_t frames)
 }
 
 bool CaptureRing::pushRt(std::span<const float* const> samples, const CaptureBlock& block) noexcept {
+    // Counted first: who reads lostFrames() and then awayFrames() never takes this time for another loss.
+    if (block.startsAnew)
+        away_.fetch_add(block.lostBefore, std::memory_order_relaxed);
     if (block.lostBefore > 0)
         loseRt(block.lostBefore);
     pendingStart_ = pendingStart_ || block.startsAnew;
@@ -62,7 +65,7 @@ bool CaptureRing::pushRt(std::span<const float* const> samples, const CaptureBlo
 
 void CaptureRing::loseRt(std::uint64_t frames) noexcept {
     pendingLost_ += frames;
-    lost_.fetch_add(frames, std::memory_order_relaxed);
+    lost_.fetch_add(frames, std::memory_order_release);
 }
 
 bool CaptureRing::front(CaptureBlock& block, std::uint32_t& taken) const noexcept {

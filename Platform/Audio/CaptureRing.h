@@ -47,7 +47,9 @@ public:
 
     [[nodiscard]] std::uint32_t channels() const noexcept { return channels_; }
     /// All frames counted as lost: by the ring being full, and by lostBefore and loseRt(). Any thread.
-    [[nodiscard]] std::uint64_t lostFrames() const noexcept { return lost_.load(std::memory_order_relaxed); }
+    [[nodiscard]] std::uint64_t lostFrames() const noexcept { return lost_.load(std::memory_order_acquire); }
+    /// The part of lostFrames() before blocks that start anew: the time between two connections. Any thread.
+    [[nodiscard]] std::uint64_t awayFrames() const noexcept { return away_.load(std::memory_order_relaxed); }
     /// The part of lostFrames() that was lost because the ring was full: the reader was too slow. Any thread.
     [[nodiscard]] std::uint64_t overrunFrames() const noexcept { return overrun_.load(std::memory_order_relaxed); }
 
@@ -66,6 +68,7 @@ private:
     std::atomic<std::uint64_t> firstFrame_{0};
     alignas(64) std::atomic<std::uint64_t> blocksWritten_{0};
     alignas(64) std::atomic<std::uint64_t> lost_{0};
+    std::atomic<std::uint64_t> away_{0};
     std::atomic<std::uint64_t> overrun_{0};
     // Changed by the I/O thread only.
     alignas(64) std::atomic<std::uint64_t> blocksRead_{0};

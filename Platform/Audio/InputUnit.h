@@ -65,6 +65,9 @@ public:
     /// Frames lost before the ring since start(), the only place where audio may be lost. Includes the time during
     /// which the device or the server was away, once it is back. Any thread.
     [[nodiscard]] virtual std::uint64_t lostFrames() const = 0;
+    /// The part of lostFrames() during which the device or the server was away. Read it after lostFrames(): it may
+    /// already include a later loss. Any thread.
+    [[nodiscard]] virtual std::uint64_t awayFrames() const = 0;
     /// The part of lostFrames() that our own ring had no room for, because the I/O thread did not run or was held for
     /// longer than the ring is deep. All other losses happened before the ring: the server missed a cycle, or the
     /// device was away.

@@ -124,8 +124,10 @@ void BuildInAudioRecord::closeUnit() {
     std::unique_ptr<InputUnit> closing;
     {
         const std::lock_guard lock(mutex_);
-        if (audioUnit_)
+        if (audioUnit_) {
             lostBefore_ += std::int64_t(audioUnit_->lostFrames());
+            awayBefore_ += std::int64_t(audioUnit_->awayFrames());
+        }
         closing = std::move(audioUnit_);
         isRunning_ = false;
     }
@@ -367,6 +369,7 @@ bool BuildInAudioRecord::startRecordAudio() {
         if (!audioUnit_)
             return false;
         lostBefore_ = -std::int64_t(audioUnit_->lostFrames());
+        awayBefore_ = -std::int64_t(audioUnit_->awayFrames());
     }
     pause_.begin(0);
     recordStatus_ = 1;
@@ -480,6 +483,11 @@ bool BuildInAudioRecord::isRunning() const {
 std::uint64_t BuildInAudioRecord::lostFrames() const {
     const std::lock_guard lock(mutex_);
     return std::uint64_t(lostBefore_ + (audioUnit_ ? std::int64_t(audioUnit_->lostFrames()) : 0));
+}
+
+std::uint64_t BuildInAudioRecord::awayFrames() const {
+    const std::lock_guard lock(mutex_);
+    return std::uint64_t(awayBefore_ + (audioUnit_ ? std::int64_t(audioUnit_->awayFrames()) : 0));
 }
 
 std::uint64_t BuildInAudioRecord::clippedCycles() const {

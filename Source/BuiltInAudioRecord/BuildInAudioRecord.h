@@ -104,6 +104,9 @@ public:
     [[nodiscard]] virtual bool isRunning() const;
     /// Frames lost since the last startRecordAudio(). Any thread.
     [[nodiscard]] virtual std::uint64_t lostFrames() const;
+    /// The part of lostFrames() during which the device or the server was away. Read it after lostFrames(): it may
+    /// already include a later loss. Any thread.
+    [[nodiscard]] virtual std::uint64_t awayFrames() const;
     /// Cycles with clipped sound, recorded or not, since the engine was created: at least three consecutive samples of
     /// a channel at full scale or above. Any thread.
     [[nodiscard]] virtual std::uint64_t clippedCycles() const;
@@ -229,7 +232,9 @@ private:
     Platform::InputUnit::Use use_ = Platform::InputUnit::Use::Now;
     std::atomic<std::int64_t> framesAccepted_{0}; // negative while a cut waits
     std::atomic<std::uint64_t> clippedCycles_{0};
-    std::int64_t lostBefore_ = 0; // subtracted from the unit's count to get that of the recording
+    // Added to the unit's counts to get those of the recording.
+    std::int64_t lostBefore_ = 0;
+    std::int64_t awayBefore_ = 0;
 
     // Measures the device's clock against the steady clock; written in the callback.
     std::atomic<std::uint64_t> firstHostTime_{0};

@@ -359,8 +359,9 @@ RecordLosses RecordStateController::Private::engineLosses() const {
         if (source.engine->recordStatus() == 0 || rate <= 0)
             continue;
         const std::uint64_t lost = source.engine->lostFrames();
-        losses.frames += lost;
-        losses.seconds += double(lost) / rate;
+        const std::uint64_t busy = lost - std::min(lost, source.engine->awayFrames());
+        losses +=
+            {.frames = lost, .seconds = double(lost) / rate, .busyFrames = busy, .busySeconds = double(busy) / rate};
     }
     return losses;
 }

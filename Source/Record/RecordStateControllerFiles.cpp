@@ -134,9 +134,7 @@ void RecordStateController::Private::stopRecord() {
         names.giveBack(audioRecordPath_);
     audioRecordPath_.clear();
     closedSeconds_ = closedSeconds_ + secondsAtHand();
-    const RecordLosses losses = engineLosses();
-    lostBefore_.frames += losses.frames;
-    lostBefore_.seconds += losses.seconds;
+    lostBefore_ += engineLosses();
     for (std::size_t i = 0; i < sources.size(); ++i) {
         RecordSource& source = sources[i];
         if (!source.writes())

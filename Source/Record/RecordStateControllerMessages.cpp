@@ -177,15 +177,15 @@ void RecordStateController::Private::showLosses() {
     {
         const std::scoped_lock lock(mutex);
         lost = engineLosses();
-        lost.frames += lostBefore_.frames;
-        lost.seconds += lostBefore_.seconds;
+        lost += lostBefore_;
     }
-    if (lost.frames != lostShown_ && lost.frames > 0)
-        notice({.text = QCoreApplication::translate(
-                            "Record", "%1 s are missing (%2 frames): the computer was too busy to take them.")
-                            .arg(secondsText(lost.seconds), Platform::Translations::number(qint64(lost.frames))),
+    if (lost.busyFrames != lostShown_ && lost.busyFrames > 0)
+        notice({.text =
+                    QCoreApplication::translate("Record",
+                                                "%1 s are missing (%2 frames): the computer was too busy to take them.")
+                        .arg(secondsText(lost.busySeconds), Platform::Translations::number(qint64(lost.busyFrames))),
                 .event = u"lost"_s});
-    lostShown_ = lost.frames;
+    lostShown_ = lost.busyFrames;
     showWriteProblem();
 }
 

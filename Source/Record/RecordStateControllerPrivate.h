@@ -55,6 +55,17 @@ struct RecordSource {
 struct RecordLosses {
     std::uint64_t frames = 0;
     double seconds = 0;
+    /// The parts while the computer was too busy. The rest is the time in which a device or the server was away.
+    std::uint64_t busyFrames = 0;
+    double busySeconds = 0;
+
+    RecordLosses& operator+=(const RecordLosses& other) {
+        frames += other.frames;
+        seconds += other.seconds;
+        busyFrames += other.busyFrames;
+        busySeconds += other.busySeconds;
+        return *this;
+    }
 };
 
 struct RecordStateController::Private {

@@ -38,6 +38,7 @@ public:
         int stops = 0;
         int holds = 0;
         std::uint64_t lost = 0;
+        std::uint64_t away = 0; ///< the part of lost in which the device was away
         bool fillsLost = false;
         std::chrono::milliseconds delay{0};
         Use use = Use::Now;
@@ -101,6 +102,7 @@ public:
     void holdCycles() override { ++state_->holds; }
     void releaseCycles() override { --state_->holds; }
     std::uint64_t lostFrames() const override { return state_->lost; }
+    std::uint64_t awayFrames() const override { return state_->away; }
     void setFillLostFrames(bool on) override { state_->fillsLost = on; }
     void setDelay(std::chrono::milliseconds delay) override { state_->delay = delay; }
     void setUse(Use use) override { state_->use = use; }

@@ -223,6 +223,10 @@ std::uint64_t PipeWireInputUnit::lostFrames() const {
     return ring_ ? ring_->lostFrames() : 0;
 }
 
+std::uint64_t PipeWireInputUnit::awayFrames() const {
+    return ring_ ? ring_->awayFrames() : 0;
+}
+
 std::uint64_t PipeWireInputUnit::overrunFrames() const {
     return ring_ ? ring_->overrunFrames() : 0;
 }

@@ -39,6 +39,7 @@ public:
     void holdCycles() override;
     void releaseCycles() override;
     std::uint64_t lostFrames() const override;
+    std::uint64_t awayFrames() const override;
     std::uint64_t overrunFrames() const override;
     void setFillLostFrames(bool on) override { fillLost_ = on; }
     void setDelay(std::chrono::milliseconds delay) override;

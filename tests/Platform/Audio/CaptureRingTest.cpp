@@ -160,6 +160,17 @@ TEST(CaptureRing, ReportsLostFramesWithTheNextBlock) {
     EXPECT_EQ(ring.lostFrames(), 107u);
 }
 
+TEST(CaptureRing, TheTimeBeforeANewConnectionIsCountedApart) {
+    CaptureRing ring(1, 256);
+    const std::array<float, 10> samples{};
+    const std::array<const float*, 1> in = {samples.data()};
+    ASSERT_TRUE(ring.pushRt(in, {.lostBefore = 7, .frames = 10}));
+    EXPECT_EQ(ring.awayFrames(), 0u);
+    ASSERT_TRUE(ring.pushRt(in, {.lostBefore = 1000, .frames = 10, .startsAnew = true}));
+    EXPECT_EQ(ring.awayFrames(), 1000u);
+    EXPECT_EQ(ring.lostFrames(), 1007u);
+}
+
 TEST(CaptureRing, CountsLostFramesWhenFullOfSmallBlocks) {
     CaptureRing ring(1, 1024);
     Producer producer(ring);

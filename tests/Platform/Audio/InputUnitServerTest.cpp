@@ -249,6 +249,8 @@ TEST_F(InputUnitTest, FillsTheTimeBetweenLosingADeviceAndItsReturn) {
     // Both the count of lost frames and the capture times must match the time that the device was away.
     const double lost = double(capture.unit().lostFrames()) / capture.sampleRate();
     EXPECT_GT(lost, 0.3);
+    EXPECT_GT(double(capture.unit().awayFrames()) / capture.sampleRate(), 0.3);
+    EXPECT_LE(capture.unit().awayFrames(), capture.unit().lostFrames());
     const auto cycles = capture.cycles();
     const double elapsed = double(cycles.back().hostTime - cycles.front().hostTime) * 1e-9;
     EXPECT_NEAR(elapsed, double(cycles.back().firstFrame) / capture.sampleRate() + lost, 0.005);

@@ -65,6 +65,32 @@ TEST_F(RecordNoticesTest, AnOutageIsOneNoticeInSecondsHoweverOftenTheDeviceGoes)
     controller->startAndStopRecord();
 }
 
+TEST_F(RecordNoticesTest, TheTimeWithoutTheDeviceIsNotAlsoBlamedOnTheComputer) {
+    addMicrophone();
+    begin();
+    controller->startAndStopRecord();
+    play(Microphone, 0.5F, 1);
+    tell(Microphone, Event::DeviceLost);
+    clock.advance(2);
+    tell(Microphone, Event::DeviceReturned);
+    const auto unit = hardware.stateOf(Microphone);
+    unit->lost = unit->away = 96000;
+    tick();
+    EXPECT_TRUE(tells(u"2.0 s are missing: the input device was away."_s));
+    EXPECT_EQ(controller->lostFrames(), 96000U);
+    // A file that ends keeps both counts.
+    controller->splitTheRecord();
+    tick();
+    EXPECT_TRUE(tells(u"2.0 s are missing: the input device was away."_s));
+    unit->lost += 480;
+    tick();
+    EXPECT_TRUE(waitFor([&] {
+        return controller->notices().join(u' ').contains(u"0.010 s are missing (480 frames)"_s);
+    })) << qPrintable(controller->notices().join(u'\n'));
+    EXPECT_EQ(controller->lostFrames(), 96480U);
+    controller->startAndStopRecord();
+}
+
 TEST_F(RecordNoticesTest, TenSecondsOfDigitalSilenceAreNamedUntilThereIsASound) {
     addMicrophone();
     begin();
