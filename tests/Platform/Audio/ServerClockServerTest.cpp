@@ -31,11 +31,12 @@ protected:
         lost_ = unit.unit().lostFrames();
         overrun_ = unit.unit().overrunFrames();
         left_ = unit.samples(0);
-        // Each frame that was played since the first one either arrived or was counted as lost.
+        // Each frame that was played since the first one either arrived or was counted as lost. More is counted when
+        // the source, too, missed cycles of the server's clock: it played nothing in them.
         const auto first = std::ranges::find_if(left_, [](float value) { return value != 0; });
         ASSERT_NE(first, left_.end());
         const auto played = Signal::rampFrame(left_.back(), 0) - Signal::rampFrame(*first, 0) + 1;
-        EXPECT_EQ(std::uint64_t(left_.end() - first) + lost_, played) << "lost without being counted";
+        EXPECT_GE(std::uint64_t(left_.end() - first) + lost_, played) << "lost without being counted";
     }
 
     /// Captures until one attempt has no loss in the server. The program's own part must be right in every attempt.

@@ -90,20 +90,21 @@ TEST_F(RecordServer, SilencesBetweenSongsCutTheRecording) {
     defaults.setObject(PreferenceStore::PreferenceFilterTimeKey, u"1"_s);
     begin(false, true);
     // A machine that does not run the sound server in time loses frames before they reach the program, which reports
-    // it. Such a run says nothing about lengths and is repeated.
-    for (int attempt = 0; attempt < 8; ++attempt) {
+    // it. Such a run says nothing about lengths and is repeated, and so is one that the test ended so late that the
+    // silence after the last song became a part.
+    bool isInTime = false;
+    for (int attempt = 0; attempt < 8 && !isInTime; ++attempt) {
         delegate.paths.clear();
         begins = -1;
         controller->startAndStopRecord();
         begins = std::int64_t(computer.position()) + 9600;
         ASSERT_TRUE(recorded(7.4));
         controller->startAndStopRecord();
-        const auto lost = controller->lostFrames();
+        const auto latest = begins + std::int64_t(all + 24000);
+        isInTime = controller->lostFrames() == 0 && std::int64_t(computer.position()) < latest;
         controller->finishAll();
-        if (lost == 0)
-            break;
     }
-    ASSERT_EQ(controller->lostFrames(), 0U);
+    ASSERT_TRUE(isInTime);
     ASSERT_EQ(delegate.paths.size(), 3) << qPrintable(delegate.paths.join(u' '));
     double seconds = 0;
     for (int i = 0; i < 3; ++i) {
