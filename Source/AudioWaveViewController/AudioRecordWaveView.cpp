@@ -34,13 +34,14 @@ bool AudioRecordWaveView::isSeen(const QWidget& widget) {
 }
 
 void AudioRecordWaveView::addCurrentLevel(float level, bool clipped) {
-    const auto add = [this](auto& list, auto value) {
+    const auto add = [this](auto& list, auto value, qsizetype most) {
         isLeftToRight() ? list.prepend(value) : list.append(value);
-        while (list.size() > width())
+        while (list.size() > most)
             isLeftToRight() ? list.removeLast() : list.removeFirst();
     };
-    add(audioLevelArray_, level);
-    add(clipped_, clipped);
+    add(audioLevelArray_, level, width());
+    // A mark that begins at the edge is visible longer than its level.
+    add(clipped_, clipped, width() + MarkWidth - 1);
     // In a hidden or iconified window nothing is drawn.
     const bool isShown = isSeen(*this);
     if (!isShown || !scrollPicture())

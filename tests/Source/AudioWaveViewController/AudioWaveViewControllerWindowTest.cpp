@@ -343,8 +343,8 @@ TEST(LevelHistory, MarksClippedSoundByColourAndByAMarkAtTheEdges) {
 
 TEST(LevelHistory, AMovedPictureEqualsADrawnOne) {
     const auto level = [](int i) { return float(std::sin(i) * std::sin(i)); };
-    // None of the two levels that just left the history: their mark is still in a moved picture.
-    const auto isClipped = [](int i) { return i % 7 == 3; };
+    // One of them is the level that left the history last: two columns of its mark are still in the picture.
+    const auto isClipped = [](int i) { return i % 7 == 1; };
     AudioRecordWaveView moved;
     moved.setFixedSize(64, 40);
     moved.show(); // only a picture on the screen is moved
