@@ -67,9 +67,13 @@ public:
     /// end, and each buffer's size. A damaged part is read as silence of its length: the call that reaches it returns
     /// the error, once, together with its frames; the next call continues behind it.
     virtual OSStatus read(std::uint32_t& frames, AudioBufferList* data) = 0;
+    /// Whether reading from any frame on gives exactly what reading from the beginning gives, at the cost of a packet.
+    [[nodiscard]] virtual bool seeksExactly() const { return false; }
     /// The first channel's value at each of these client frames (ascending), without reading the frames between them.
-    /// Returns true only when the values equal those of a read from the beginning, the frames lie within the file, and
-    /// nothing failed; otherwise the caller must read. Does not change where the next read() starts.
+    /// For pictures of the audio: the values equal those of a read from the beginning, except that noise which an
+    /// encoder left to the decoder differs. They depend only on the file and on the frames of the call. Returns true
+    /// only when the frames lie within the file and nothing failed; otherwise the caller must read. Does not change
+    /// where the next read() starts.
     [[nodiscard]] virtual bool sparseSamples(std::span<const std::int64_t> /*frames*/, std::span<float> /*out*/) {
         return false;
     }

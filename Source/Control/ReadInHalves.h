@@ -106,11 +106,6 @@ Platform::Error read(const QString& path, std::int64_t all, Scan& front, Scan& b
     return before ? before : behind;
 }
 
-/// Whether reading from any frame on gives what reading from the beginning gives, at the cost of a packet.
-[[nodiscard]] inline bool seeksExactly(Platform::ExtAudioFileReader& reader) {
-    return reader.sparseSamples({}, {}); // no values wanted: it only says whether it could give them
-}
-
 /// Where the second scan begins: in the middle, or behind the end of a file that is short or must be read from its
 /// beginning.
 [[nodiscard]] inline std::int64_t middleOf(std::int64_t all, bool seeksExactly) {

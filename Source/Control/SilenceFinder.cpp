@@ -234,7 +234,7 @@ Result<Found> find(const QString& path, const Rule& rule, const Progress& progre
     found.frames = reader.fileLengthFrames();
     bool isStopped = false;
     double done = 0;
-    const bool seeksExactly = ReadInHalves::seeksExactly(reader);
+    const bool seeksExactly = reader.seeksExactly();
     if (shortest >= kLeastToSkip && seeksExactly) {
         done = kShareOfSkipping;
         SkippingSearch search(reader, format, limit, shortest, found.frames);

@@ -24,7 +24,7 @@ Result<SilenceMap> SilenceMap::read(const QString& path, const std::function<boo
     const std::int64_t shortest = std::llround(kShortest * map.sampleRate_);
     const std::int64_t all = reader.fileLengthFrames();
     LevelScan front(limits, 0, shortest);
-    LevelScan back(limits, ReadInHalves::middleOf(all, ReadInHalves::seeksExactly(reader)), shortest);
+    LevelScan back(limits, ReadInHalves::middleOf(all, reader.seeksExactly()), shortest);
     if (const Error error = ReadInHalves::read(path, all, front, back, progress))
         return error;
     map.frames_ = back.first() < all ? back.end() : front.end();

@@ -146,6 +146,10 @@ FileReader::Rows FileReader::readRows(std::size_t most) {
     return result;
 }
 
+bool FileReader::seeksExactly() const {
+    return client_.mSampleRate == input_->rate() && input_->seeksExactly();
+}
+
 bool FileReader::sparseSamples(std::span<const std::int64_t> frames, std::span<float> out) {
     return client_.mSampleRate == input_->rate() && input_->channels() <= 2 &&
            int(client_.mChannelsPerFrame) >= input_->channels() && input_->sparseSamples(frames, out);

@@ -16,6 +16,7 @@ public:
     OSStatus setClientDataFormat(const AudioStreamBasicDescription& format) override;
     OSStatus seek(std::int64_t clientFrame) override;
     OSStatus read(std::uint32_t& frames, AudioBufferList* data) override;
+    [[nodiscard]] bool seeksExactly() const override;
     [[nodiscard]] bool sparseSamples(std::span<const std::int64_t> frames, std::span<float> out) override;
     [[nodiscard]] Error firstError() const override { return firstError_; }
     [[nodiscard]] QString metadata(const QString& key) const override { return input_->metadata(key); }

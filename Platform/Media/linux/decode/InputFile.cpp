@@ -379,7 +379,7 @@ InputFile::Block InputFile::convert(std::int64_t skip, std::int64_t most) {
 bool InputFile::seek(std::int64_t frame) {
     frame = std::max<std::int64_t>(0, frame);
     failuresInARow_ = 0;
-    const std::int64_t preroll = packetsStandAlone() ? packetPreroll : prerollFrames;
+    const std::int64_t preroll = seeksExactly() ? packetPreroll : prerollFrames;
     if (timestampsAreExact() && frame > preroll) {
         const std::int64_t time = inStreamTime(frame - preroll) + origin_;
         if (av_->seekFrame(format_.get(), stream_->index, time, AVSEEK_FLAG_BACKWARD) >= 0) {

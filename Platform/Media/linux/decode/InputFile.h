@@ -41,8 +41,12 @@ public:
     /// The next block begins with this frame (or at the end).
     bool seek(std::int64_t frame);
 
-    /// See ExtAudioFileReader::sparseSamples(); the first channel of the file at these frames.
-    [[nodiscard]] bool sparseSamples(std::span<const std::int64_t> frames, std::span<float> out);
+    /// Whether a packet, decoded after its predecessor alone, gives exactly the samples that decoding from the
+    /// beginning gives: the file is complete and of our own encoder, which leaves no noise to the decoder.
+    [[nodiscard]] bool seeksExactly() const;
+    /// See ExtAudioFileReader::sparseSamples(); the first channel of the file at these frames. @p threads: at most so
+    /// many, 0 for as many as the machine has cores; the values do not depend on it.
+    [[nodiscard]] bool sparseSamples(std::span<const std::int64_t> frames, std::span<float> out, unsigned threads = 0);
 
 private:
     explicit InputFile(QString path) : path_(std::move(path)) {}
@@ -55,8 +59,9 @@ private:
     [[nodiscard]] bool formatIs(const char* name) const;
     [[nodiscard]] bool timestampsAreExact() const;
     [[nodiscard]] bool timesAreFine() const;
-    /// Whether the file is complete, and of an encoder whose packets need only their predecessor.
-    [[nodiscard]] bool packetsStandAlone() const;
+    /// Whether a packet can be decoded after its predecessor alone: an AAC-LC file of any encoder. Noise that the
+    /// encoder left to the decoder then differs from that of decoding from the beginning.
+    [[nodiscard]] bool packetsDecodeApart() const;
 
     enum class Got { Frame, Silence, End };
     Got decodeOne(std::optional<Error>& error);

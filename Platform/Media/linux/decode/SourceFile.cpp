@@ -106,8 +106,12 @@ ContainerFacts readMpeg4Facts(const SourceFile& file, int rate) {
         facts.ownEncoder = movieScale == scale && handler.size() >= 24 + std::strlen(mpeg4HandlerName) &&
                            std::memcmp(handler.data() + 24, mpeg4HandlerName, std::strlen(mpeg4HandlerName)) == 0;
         const auto edit = onlyEdit(boxBytes(file, track, {fourCharCode("edts"), fourCharCode("elst")}));
-        const std::int64_t media = sumOfDurations(boxBytes(
-            file, track, {fourCharCode("mdia"), fourCharCode("minf"), fourCharCode("stbl"), fourCharCode("stts")}));
+        const auto table = findBox(file, track, {fourCharCode("mdia"), fourCharCode("minf"), fourCharCode("stbl")});
+        if (!table)
+            return true;
+        const std::int64_t media = sumOfDurations(boxBytes(file, *table, {fourCharCode("stts")}));
+        const auto formats = boxBytes(file, *table, {fourCharCode("stsd")});
+        facts.descriptions = formats.size() < 8 ? 0 : std::int64_t(bigEndian(formats.data() + 4, 4));
         if (facts.fragmented || scale != rate || movieScale <= 0 || media <= 0 || !edit || edit->start > media)
             return true;
         // A time scale of milliseconds cannot express the exact frame: within the rounding the media duration is used.

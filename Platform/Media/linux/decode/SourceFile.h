@@ -33,6 +33,7 @@ struct ContainerFacts {
     std::optional<std::int64_t> validFrames; ///< length without priming and padding
     std::int64_t primingFrames = 0;          ///< frames to skip where libavformat does not (CAF)
     std::int64_t editStart = 0;              ///< MPEG-4: where the only entry of the edit list begins, in frames
+    std::int64_t descriptions = 0;           ///< MPEG-4: formats of the track's packets, normally 1
     bool ownEncoder = false;                 ///< written by this program
     bool fragmented = false;
 };
