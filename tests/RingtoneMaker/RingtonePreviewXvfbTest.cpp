@@ -5,6 +5,7 @@
 #include "tests/RingtoneMaker/RingtoneWorld.h"
 #include "tests/support/PrivateAudioSession.h"
 #include "tests/support/RealPointer.h"
+#include "tests/support/Standstills.h"
 #include "tests/support/TestCapture.h"
 
 #include <algorithm>
@@ -84,29 +85,38 @@ TEST_F(RingtonePreview, LoopsOverTheSelectionWithItsFades) {
     selection.setAudioLength((to - from) * 10);
     world.show();
     ASSERT_TRUE(RealPointer::shown(*world.maker.window()));
-    TestCapture capture({.target = "sonaphex.output", .monitor = true, .rate = kRate});
-    ASSERT_TRUE(capture.start());
     ASSERT_TRUE(click(world.outlet("fadeInBox")));
     ASSERT_TRUE(click(world.outlet("fadeOutBox")));
     ASSERT_TRUE(waitFor([&] { return world.maker.fadeInEnable() && world.maker.fadeOutEnable(); }));
-    ASSERT_TRUE(click(world.outlet("btnPreview")));
-    ASSERT_TRUE(waitFor([&] { return world.maker.previewSound(); }));
-    int jumps = 0;
-    double before = 0;
-    ASSERT_TRUE(waitFor(
-        [&] {
-            const double now = world.maker.sound()->currentTime();
-            jumps += now < before - 1;
-            before = now;
-            return jumps == 2 && now > from + 1;
-        },
-        90000));
+    std::vector<std::vector<Heard>> runs;
+    Standstills standstills;
+    standstills.attemptInOnePiece([&] {
+        TestCapture capture({.target = "sonaphex.output", .monitor = true, .rate = kRate});
+        ASSERT_TRUE(capture.start());
+        world.maker.sound()->setCurrentTime(from); // an attempt before this one ended elsewhere
+        ASSERT_TRUE(click(world.outlet("btnPreview")));
+        ASSERT_TRUE(waitFor([&] { return world.maker.previewSound(); }));
+        int jumps = 0;
+        double before = 0;
+        ASSERT_TRUE(waitFor(
+            [&] {
+                const double now = world.maker.sound()->currentTime();
+                jumps += now < before - 1;
+                before = now;
+                return jumps == 2 && now > from + 1;
+            },
+            90000));
+        ASSERT_TRUE(click(world.outlet("btnPreview")));
+        ASSERT_TRUE(waitFor([&] { return !world.maker.previewSound(); }));
+        runs = passes(heard(capture.interleaved()));
+        for (const auto& run : runs)
+            std::printf("heard from %.3f s to %.3f s\n", run.front().place, run.back().place);
+    });
+    if (HasFatalFailure())
+        return;
     world.maker.closeWindow();
-
-    const auto runs = passes(heard(capture.interleaved()));
     ASSERT_EQ(runs.size(), 3U);
     for (std::size_t i = 0; i < runs.size(); ++i) {
-        std::printf("pass %zu: heard from %.3f s to %.3f s\n", i, runs[i].front().place, runs[i].back().place);
         EXPECT_NEAR(runs[i].front().place, from, 0.1);
         if (i + 1 < runs.size()) {
             EXPECT_NEAR(runs[i].back().place, to, 0.1);
