@@ -20,9 +20,9 @@ Q_LOGGING_CATEGORY(waveLog, "sonaphex.wave")
 
 constexpr int kValuesPerSecond = 10;
 constexpr int kBlocksPerReport = 256;
-/// Number of values to fetch per call when a file need not be read completely: two hundred seconds of audio,
-/// about 20 ms.
-constexpr std::size_t kValuesAtOnce = 2000;
+/// Number of values to fetch per call when a file need not be read completely: ten minutes of audio, about 50 ms. Each
+/// call opens four decoders, which takes some milliseconds.
+constexpr std::size_t kValuesAtOnce = 6000;
 
 /// The frames of the blocks in which a tenth of a second is completed.
 std::vector<std::int64_t> framesOfPoints(std::int64_t length, double rate) {
