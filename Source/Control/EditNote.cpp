@@ -9,7 +9,6 @@
 #include "Platform/Media/ExtAudioFile.h"
 #include "Source/Model/AudioRecordEntry.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QJsonObject>
 #include <QLoggingCategory>
@@ -78,7 +77,7 @@ void EditNote::end() {
 }
 
 bool EditNote::anyIsLeft() {
-    return !QDir(NoteFile::folderPath(kFolder)).entryList({u'*' + kEnding}, QDir::Files).isEmpty();
+    return !NoteFile::pathsOf(kFolder, kEnding).isEmpty();
 }
 
 void EditNote::recover(const Retag& retag) {

@@ -42,12 +42,21 @@ Result<NoteFile> NoteFile::create(const QString& folder, const QString& ending) 
     return NoteFile(std::move(lock));
 }
 
+QStringList NoteFile::pathsOf(const QString& folder, const QString& ending) {
+    QStringList paths;
+    const QDir all(folderPath(folder));
+    // No name filter for QDir: it would compile a regular expression, which takes longer than reading the folder.
+    for (const QString& name : all.entryList(QDir::Files))
+        if (name.endsWith(ending))
+            paths << all.filePath(name);
+    return paths;
+}
+
 std::vector<NoteFile> NoteFile::ofEndedProcesses(const QString& folder, const QString& ending) {
     std::vector<NoteFile> notes;
-    const QDir all(folderPath(folder));
-    for (const QString& name : all.entryList({u'*' + ending}, QDir::Files)) {
+    for (const QString& path : pathsOf(folder, ending)) {
         Platform::FileLock lock;
-        if (lock.take(all.filePath(name)))
+        if (lock.take(path))
             notes.push_back(NoteFile(std::move(lock)));
     }
     return notes;

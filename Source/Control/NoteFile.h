@@ -5,6 +5,7 @@
 #include "Platform/Foundation/FileLock.h"
 
 #include <QJsonObject>
+#include <QStringList>
 
 #include <vector>
 
@@ -18,6 +19,8 @@ public:
     static Platform::Result<NoteFile> create(const QString& folder, const QString& ending);
     /// Locks and returns the notes of processes that have ended.
     [[nodiscard]] static std::vector<NoteFile> ofEndedProcesses(const QString& folder, const QString& ending);
+    /// The paths of all notes, also of running processes.
+    [[nodiscard]] static QStringList pathsOf(const QString& folder, const QString& ending);
     /// The folder of the notes; it may not exist.
     [[nodiscard]] static QString folderPath(const QString& folder);
 

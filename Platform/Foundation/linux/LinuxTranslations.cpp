@@ -18,6 +18,7 @@ namespace Platform::Translations {
 namespace {
 
 const QString kPrefix = u"sonaphex_"_s;
+const QString kEnding = u".qm"_s;
 const QString english = u"en"_s;
 QString installed = english;
 
@@ -94,8 +95,10 @@ QString install() {
         return installed;
     const QDir folder(createBundle()->pathForResource(u"translations"_s));
     QStringList available;
-    for (const QString& file : folder.entryList({kPrefix + u"*.qm"_s}, QDir::Files))
-        available << file.sliced(kPrefix.size()).chopped(3);
+    // No name filter for QDir: it would compile a regular expression, which takes longer than reading the folder.
+    for (const QString& file : folder.entryList(QDir::Files))
+        if (file.startsWith(kPrefix) && file.endsWith(kEnding))
+            available << file.sliced(kPrefix.size()).chopped(kEnding.size());
     const QString chosen = choose(QLocale().uiLanguages(), available);
     if (chosen.isEmpty())
         return installed;
