@@ -36,7 +36,7 @@ Result<NoteFile> NoteFile::create(const QString& folder, const QString& ending) 
         return Error{Error::Kind::Other,
                      QCoreApplication::translate("Control", "%1: the folder cannot be created").arg(path)};
     Platform::FileLock lock;
-    const QString name = path + u'/' + QString::number(QRandomGenerator::global()->generate64(), 36) + ending;
+    const QString name = path + u'/' + QString::number(QRandomGenerator::system()->generate64(), 36) + ending;
     if (const auto taken = lock.take(name); !taken)
         return taken.error();
     return NoteFile(std::move(lock));

@@ -63,7 +63,7 @@ Result<TemporaryFolder> TemporaryFolder::create(const QString& kind) {
     const QString prefix = kind + u'-';
     removeOfDeadOwners(*parent, prefix);
     for (;;) {
-        const QString path = *parent + u'/' + prefix + QString::number(QRandomGenerator::global()->generate(), 36);
+        const QString path = *parent + u'/' + prefix + QString::number(QRandomGenerator::system()->generate(), 36);
         FileLock lock;
         if (const auto taken = lock.take(path + lockEnding); !taken) {
             if (taken.error().kind == Error::Kind::Busy)

@@ -212,11 +212,11 @@ TEST_F(TagLayouts, AreCopiedAfterASaveOfAnotherProcess) {
     ASSERT_EQ(::pipe(begun), 0);
     ASSERT_EQ(::pipe(goOn), 0);
     ChildProcess saver([&] {
-        const auto edit = [&](const QByteArray& index, QString& why) -> std::optional<QByteArray> {
+        const auto edit = [&](const auto&, QString&) -> std::optional<QByteArray> {
             char byte = 0;
             if (::write(begun[1], "", 1) != 1 || ::read(goOn[0], &byte, 1) != 1)
                 return std::nullopt;
-            return Platform::Media::withTagItems(index, textItem("\251nam", QByteArray(3000, 'n')), why);
+            return textItem("\251nam", QByteArray(3000, 'n'));
         };
         QString why;
         return Platform::Media::saveInPlace(path(), edit, why) ? 0 : 1;

@@ -56,7 +56,7 @@ public:
         });
         if (room == layout_.boxes.end())
             return append(index) && retire();
-        if (!fill(*room, index.mid(header), room->offset + header, index.first(4)))
+        if (!fill(*room, index))
             return false;
         return room->offset < old_.offset ? cutOff(*room, index.size()) : retire();
     }
@@ -86,14 +86,14 @@ private:
     }
 
     bool append(const QByteArray& index) {
-        QByteArray bytes = boxHeader(index.size(), "free") + index.mid(header);
+        QByteArray headers = boxHeader(index.size(), "free");
         Mpeg4Box room{.offset = layout_.end, .length = index.size()};
         if (!isInOneSector(room.offset, header)) {
             room.offset += 2 * header;
-            bytes.prepend(boxHeader(2 * header, "free") + QByteArray(header, '\0'));
+            headers.prepend(boxHeader(2 * header, "free") + QByteArray(header, '\0'));
         }
         // Extends the file first, in one step: some readers reject a file that ends within a box header.
-        if (::ftruncate(fd_, room.end()) == 0 && fill(room, bytes, layout_.end, index.first(4)))
+        if (::ftruncate(fd_, room.end()) == 0 && put(headers, layout_.end) && fill(room, index))
             return true;
         const int error = errno;
         [[maybe_unused]] const int cutBack = ::ftruncate(fd_, layout_.end); // else the next save does it
@@ -101,16 +101,17 @@ private:
         return false;
     }
 
-    /// Writes @p content to an empty box and makes this an index of @p size. The rest of the room is first a free box
-    /// inside the index, and a box of its own once the index gets its true size.
-    bool fill(const Mpeg4Box& room, QByteArray content, std::int64_t at, const QByteArray& size) {
-        const std::int64_t rest = room.end() - (at + content.size());
-        if (rest > 0)
-            content += boxHeader(rest, "free");
-        if (!put(content, at) || !sync() || !put("moov", room.offset + 4))
+    /// Makes an empty box the index. The rest of the room is first a free box inside the index, and a box of its own
+    /// once the index gets its true size.
+    bool fill(const Mpeg4Box& room, QByteArrayView index) {
+        const std::int64_t rest = room.length - index.size();
+        if (!put(index.sliced(header), room.offset + header) ||
+            (rest > 0 && !put(boxHeader(rest, "free"), room.offset + index.size())))
+            return false;
+        if (!sync() || !put("moov", room.offset + 4))
             return false;
         isSplit_ = rest > 0 && isInOneSector(room.offset, 4);
-        return (!isSplit_ || put(size, room.offset)) && sync();
+        return (!isSplit_ || put(index.first(4), room.offset)) && sync();
     }
 
     /// Removes the old index when the new one stands in front of it and is already in use.

@@ -84,17 +84,13 @@ QString text(const TagLib::String& string) {
 
 } // namespace
 
-Media::IndexEdit Media::editOfTags(const std::vector<const char*>& changed,
-                                   const std::function<void(TagLib::MP4::Tag&)>& edit) {
-    return [changed, edit](const QByteArray& index, QString& why) -> std::optional<QByteArray> {
-        const MemoryBytes bytes(index);
-        auto moov = readBoxHeader(bytes, 0, index.size());
-        if (!moov || !readBoxTree(bytes, *moov, why))
-            return std::nullopt;
-        QByteArray items;
-        for (const TagItem& item : tagItems(bytes, *moov))
+Media::TagsEdit Media::editOfTags(const std::vector<const char*>& changed,
+                                  const std::function<void(TagLib::MP4::Tag&)>& edit) {
+    return [changed, edit](const std::vector<TagItem>& items, QString& why) -> std::optional<QByteArray> {
+        QByteArray kept;
+        for (const TagItem& item : items)
             if (std::ranges::none_of(changed, [&](const char* one) { return item.type == typeOf(one); }))
-                items += item.bytes;
+                kept += item.bytes;
         TagsInMemory fresh({});
         if (fresh.tag())
             edit(*fresh.tag());
@@ -103,7 +99,7 @@ Media::IndexEdit Media::editOfTags(const std::vector<const char*>& changed,
             why = QCoreApplication::translate("Media", "its tags cannot be written");
             return std::nullopt;
         }
-        return withTagItems(index, items + *added, why);
+        return kept + *added;
     };
 }
 

@@ -73,14 +73,14 @@ bool makeAnew(const QString& path, int source, const Mpeg4Layout& layout, QByteA
     return error == 0;
 }
 
-/// The layout of an open file and its edited index; without a change the two are the same.
+/// The layout of an open file and the items of its new tag list.
 struct Edited {
     Mpeg4Layout layout;
-    QByteArray index;
+    QByteArray items;
     bool isChanged = true;
 };
 
-std::optional<Edited> editIndex(int fd, const IndexEdit& edit, QString& why) {
+std::optional<Edited> editTags(int fd, const TagsEdit& edit, QString& why) {
     const FileBytes file(fd);
     auto layout = readLayout(file, why);
     if (!layout)
@@ -91,54 +91,69 @@ std::optional<Edited> editIndex(int fd, const IndexEdit& edit, QString& why) {
         why = QCoreApplication::translate("Media", "its index is too large");
     if (!why.isEmpty())
         return std::nullopt;
-    QByteArray index(qsizetype(layout->moov().length), Qt::Uninitialized);
-    if (!file.readAll(layout->moov().offset,
-                      {reinterpret_cast<std::uint8_t*>(index.data()), std::size_t(index.size())})) {
+    const auto old = tagItems(file, layout->moov());
+    auto items = edit(old, why);
+    if (!items)
+        return std::nullopt;
+    QByteArray before;
+    for (const TagItem& item : old)
+        before += item.bytes;
+    const bool isChanged = *items != before;
+    return Edited{std::move(*layout), std::move(*items), isChanged};
+}
+
+/// The index of an open file with the new tag list.
+std::optional<QByteArray> newIndex(int fd, const Edited& edited, QString& why) {
+    const Mpeg4Box& old = edited.layout.moov();
+    QByteArray index(qsizetype(old.length), Qt::Uninitialized);
+    if (!FileBytes(fd).readAll(old.offset, {reinterpret_cast<std::uint8_t*>(index.data()), std::size_t(index.size())})) {
         why = QCoreApplication::translate("Media", "it cannot be read");
         return std::nullopt;
     }
-    auto edited = edit(index, why);
-    if (!edited)
-        return std::nullopt;
-    const bool isChanged = *edited != index;
-    return Edited{std::move(*layout), std::move(*edited), isChanged};
+    return withTagItems(std::move(index), edited.items, why);
 }
 
 } // namespace
 
-bool saveInPlace(const QString& givenPath, const IndexEdit& edit, QString& why) {
+bool saveInPlace(const QString& givenPath, const TagsEdit& edit, QString& why) {
     // Changes the target of a symbolic link, not the link.
     const QString real = QFileInfo(givenPath).canonicalFilePath();
     const QString path = real.isEmpty() ? givenPath : real;
     Descriptor file;
     if (!openLockedFile(path, true, LockKind::Exclusive, savePatience, file, why))
         return false;
-    const auto edited = editIndex(file.get(), edit, why);
+    const auto edited = editTags(file.get(), edit, why);
     if (!edited)
         return false;
     if (!edited->isChanged)
         return true;
+    const auto index = newIndex(file.get(), *edited, why);
+    if (!index)
+        return false;
     if (!canReplaceIndex(edited->layout))
-        return makeAnew(path, file.get(), edited->layout, edited->index, why);
-    if (replaceIndex(file.get(), edited->layout, edited->index))
+        return makeAnew(path, file.get(), edited->layout, *index, why);
+    if (replaceIndex(file.get(), edited->layout, *index))
         return true;
     why = qt_error_string(errno);
     return false;
 }
 
-bool saveCopy(const QString& source, const QString& destination, const IndexEdit& edit, QString& why) {
+bool saveCopy(const QString& source, const QString& destination, const TagsEdit& edit, QString& why) {
     // A read needs the lock too: a save of another process would change the file meanwhile.
     Descriptor file;
     if (!openLockedFile(source, false, LockKind::Exclusive, savePatience, file, why))
         return false;
-    const auto edited = editIndex(file.get(), edit, why);
+    const auto edited = editTags(file.get(), edit, why);
     if (!edited)
+        return false;
+    const auto index = newIndex(file.get(), *edited, why);
+    if (!index)
         return false;
     if (QFileInfo::exists(destination) && !QFileInfo(destination).isFile()) {
         why = QCoreApplication::translate("Media", "that path is not a regular file"); // a device, a pipe, a folder
         return false;
     }
-    return makeAnew(destination, file.get(), edited->layout, edited->index, why);
+    return makeAnew(destination, file.get(), edited->layout, *index, why);
 }
 
 bool openForReading(const QString& path, Descriptor& file, QString& why) {

@@ -17,16 +17,20 @@ namespace {
 constexpr std::int64_t mostTags = std::int64_t(80) << 20;
 constexpr char path[4][5] = {"moov", "udta", "meta", "ilst"};
 
-/// A box with all @p parts. Its memory is taken once: an index with an hour of sound has 650 kB.
-QByteArray box(const char (&type)[5], std::initializer_list<QByteArrayView> parts) {
-    qsizetype length = 8;
-    for (const QByteArrayView part : parts)
-        length += part.size();
+/// The header of a box with @p content bytes.
+QByteArray boxHeader(const char (&type)[5], qsizetype content) {
     ByteWriter header;
-    header.u32(std::uint64_t(length)).code(type);
-    QByteArray bytes;
-    bytes.reserve(length);
-    bytes.append(reinterpret_cast<const char*>(header.data().data()), qsizetype(header.size()));
+    header.u32(std::uint64_t(8 + content)).code(type);
+    return {reinterpret_cast<const char*>(header.data().data()), qsizetype(header.size())};
+}
+
+/// A box with all @p parts. Its memory is taken once: a cover can have megabytes.
+QByteArray box(const char (&type)[5], std::initializer_list<QByteArrayView> parts) {
+    qsizetype content = 0;
+    for (const QByteArrayView part : parts)
+        content += part.size();
+    QByteArray bytes = boxHeader(type, content);
+    bytes.reserve(bytes.size() + content);
     for (const QByteArrayView part : parts)
         bytes.append(part);
     return bytes;
@@ -82,7 +86,7 @@ std::vector<TagItem> tagItems(const ByteSource& source, const Mpeg4Box& index) {
     return items;
 }
 
-std::optional<QByteArray> withTagItems(const QByteArray& index, const QByteArray& items, QString& why) {
+std::optional<QByteArray> withTagItems(QByteArray index, const QByteArray& items, QString& why) {
     const MemoryBytes bytes(index);
     auto moov = readBoxHeader(bytes, 0, index.size());
     if (!moov || !readBoxTree(bytes, *moov, why))
@@ -93,7 +97,7 @@ std::optional<QByteArray> withTagItems(const QByteArray& index, const QByteArray
     // From the innermost box outwards: each box around the list is rewritten around its changed child.
     QByteArray changed = surrounded(box("ilst", {items}), depth);
     const Mpeg4Box* replaced = depth == std::size(path) ? boxes.back() : nullptr;
-    for (std::size_t i = std::min(depth, std::size(path) - 1); i-- > 0;) {
+    for (std::size_t i = std::min(depth, std::size(path) - 1) - 1;; --i) {
         const Mpeg4Box& around = *boxes[i];
         const auto& children = around.children;
         std::int64_t from = children.empty() ? around.inner : children.back().end();
@@ -109,12 +113,17 @@ std::optional<QByteArray> withTagItems(const QByteArray& index, const QByteArray
             why = QCoreApplication::translate("Media", "its last box has no size");
             return std::nullopt;
         }
+        if (i == 0) {
+            // In place: copying the index of an hour, 650 kB, into fresh memory takes as long as writing it.
+            index.replace(from, to - from, changed);
+            index.replace(0, around.content(), boxHeader(path[0], index.size() - around.content()));
+            return index;
+        }
         const QByteArrayView all(index);
         changed = box(path[i], {all.sliced(around.content(), from - around.content()), changed,
                                 all.sliced(to, around.end() - to)});
         replaced = &around;
     }
-    return changed;
 }
 
 QByteArray fileOfTags(const QByteArray& items) {

@@ -20,7 +20,7 @@ struct TagItem {
 
 /// @p index, a complete "moov", with @p items, the concatenated item boxes, as its tag list. A missing list is created
 /// behind the tables of the audio. Nothing, with @p why, when the index is damaged.
-[[nodiscard]] std::optional<QByteArray> withTagItems(const QByteArray& index, const QByteArray& items, QString& why);
+[[nodiscard]] std::optional<QByteArray> withTagItems(QByteArray index, const QByteArray& items, QString& why);
 
 /// A file that contains only tags.
 [[nodiscard]] QByteArray fileOfTags(const QByteArray& items);

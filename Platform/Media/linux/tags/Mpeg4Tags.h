@@ -13,7 +13,7 @@ namespace Platform::Media {
 inline constexpr const char (&artworkItem)[5] = "covr";
 
 /// The edit that replaces the items named in @p changed with those that @p edit sets; all other items keep their bytes.
-[[nodiscard]] IndexEdit editOfTags(const std::vector<const char*>& changed,
-                                   const std::function<void(TagLib::MP4::Tag&)>& edit);
+[[nodiscard]] TagsEdit editOfTags(const std::vector<const char*>& changed,
+                                  const std::function<void(TagLib::MP4::Tag&)>& edit);
 
 } // namespace Platform::Media
