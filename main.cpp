@@ -6,10 +6,16 @@
 #include "Platform/Foundation/StandardStreams.h"
 #include "Source/Control/EditNote.h"
 
+#include <cstring>
+
 // The libraries for sound, discs and the desktop take most of the time of a short command. The program itself is linked
 // without them and contains only the commands that need none of them; the others, and the windows, are in modules.
 int main(int argc, char** argv) {
     Platform::secureStandardStreams();
+    if (argc > 1 && std::strcmp(argv[1], "--version") == 0) {
+        CommandLine::print(QStringLiteral("sonaphex " SONAPHEX_VERSION));
+        return CommandLine::ended(CommandLine::Done);
+    }
     if (argc > 1 && argv[1][0] != '-') {
         const auto& own = CommandLine::fileCommands();
         // The command first completes an edit that was interrupted, which needs the libraries that read audio files.

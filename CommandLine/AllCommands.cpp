@@ -10,8 +10,6 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
-#include <cstdio>
-
 using namespace Qt::StringLiterals;
 
 namespace CommandLine {
@@ -42,10 +40,6 @@ std::optional<int> runCommand(int argc, char** argv) {
     if (name == u"help"_s || name == u"--help"_s || name == u"-h"_s) {
         const Texts texts(argc, argv);
         print(CommandHelp::overview(allCommands()).trimmed());
-        return ended(Done);
-    }
-    if (name == u"--version"_s) {
-        std::printf("sonaphex %s\n", SONAPHEX_VERSION);
         return ended(Done);
     }
     if (const auto status = runOneOf(allCommands(), argc, argv, installServices))

@@ -29,7 +29,7 @@ using InstallServices = std::shared_ptr<void> (*)();
 /// Runs the subcommand named by the program's first argument if it is one of @p known, under a QCoreApplication and
 /// with the services that @p install installs. @return its exit status; nothing when it is not known.
 [[nodiscard]] std::optional<int> runOneOf(const Commands& known, int argc, char** argv, InstallServices install);
-/// Like runOneOf() for all subcommands, and for --help and --version. @return nothing when the window is wanted.
+/// Like runOneOf() for all subcommands, and for --help. @return nothing when the window is wanted.
 [[nodiscard]] std::optional<int> runCommand(int argc, char** argv);
 
 /// The running window's answer to a request of one line; nothing when no window runs or it does not answer.

@@ -103,6 +103,18 @@ TEST(Program, LoadsNoLibraryForSoundDiscsOrTheDesktopToTag) {
                          "libswresample", "libpipewire", "libburn", "libudev", "libxcb"});
 }
 
+// Exported functions would be looked up by name, which slows down every start.
+TEST(Program, FindsOneFunctionInEachModule) {
+    for (const auto& [module, entry] : std::map<QString, QByteArray>{
+             {u"SonaphexCommands.so"_s, "sonaphexRunCommand"}, {u"SonaphexDesktop.so"_s, "sonaphexDesktopMain"}}) {
+        const auto symbols = runTool(
+            u"readelf"_s, {u"--dyn-syms"_s, u"--wide"_s, QStringLiteral(SONAPHEX_BIN_DIR "/Resources/") + module});
+        ASSERT_EQ(symbols.status, 0) << symbols.errors.data();
+        EXPECT_TRUE(symbols.output.contains(entry)) << qPrintable(module);
+        EXPECT_FALSE(symbols.output.contains("_ZN8Platform")) << qPrintable(module);
+    }
+}
+
 TEST(Program, ReportsAMissingWindowModule) {
     QTemporaryDir folder;
     const QString copy = folder.filePath(u"sonaphex"_s);
@@ -110,6 +122,7 @@ TEST(Program, ReportsAMissingWindowModule) {
     const auto result = runTool(copy, {u"--help"_s});
     EXPECT_EQ(result.status, 1);
     EXPECT_TRUE(result.errors.startsWith("sonaphex: a part of the program is missing: ")) << result.errors.data();
+    EXPECT_EQ(runTool(copy, {u"--version"_s}).output, "sonaphex " SONAPHEX_VERSION "\n");
 }
 
 TEST(Program, RefusesWrongUsageWithStatusTwoAndOneReason) {

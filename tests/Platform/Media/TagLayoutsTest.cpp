@@ -180,6 +180,19 @@ TEST_F(TagLayouts, ChangeOnlyTheGivenTexts) {
     EXPECT_EQ(BasicID3Change::read(path())->title, u"T"_s);
 }
 
+TEST_F(TagLayouts, ThatStayTheSameLeaveTheFileAlone) {
+    // A save would remove the padding behind the list.
+    const QByteArray list = box("ilst", textItem("\251cmt", "kept") + textItem("\251nam", "T"));
+    const QByteArray padding = box("free", QByteArray(300, '\0'));
+    makeWith(box("udta", box("meta", zeros + handler() + list + padding)));
+    const QByteArray before = Mpeg4Files::contentOf(path());
+    ASSERT_TRUE(BasicID3Change::writeTexts(path(), {.title = u"T"_s, .album = u""_s}));
+    EXPECT_EQ(Mpeg4Files::contentOf(path()), before);
+    ASSERT_TRUE(BasicID3Change::writeTexts(path(), {.title = u"U"_s}));
+    EXPECT_FALSE(index().contains(padding));
+    EXPECT_EQ(BasicID3Change::read(path())->title, u"U"_s);
+}
+
 TEST_F(TagLayouts, RefuseToMoveAudioBeyondTheRangeOfATable) {
     ASSERT_TRUE(Mpeg4Files::make(path(), Mpeg4Files::Shape::IndexInFront, 1));
     QByteArray content = Mpeg4Files::contentOf(path());
