@@ -64,17 +64,17 @@ TEST(Theme, ALongNameInABoxIsElidedInTheMiddle) {
     EXPECT_NE(drawn(u'B' + name), drawn(u'C' + name));
 }
 
-TEST(Theme, DialogsUseTheProgramsOwnIcons) {
+TEST(Theme, DialogsAndFieldsUseTheProgramsOwnIcons) {
     Theme::install(*qApp, nullptr);
     EXPECT_EQ(QApplication::style()->styleHint(QStyle::SH_DialogButtonBox_ButtonsHaveIcons), 0);
-    const auto sign = [] {
-        return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap({32, 32}, 1).toImage();
-    };
-    const QImage light = sign();
-    EXPECT_GT(Screenshot::coverage(light), 0.05);
-    Theme::apply(Theme::Shade::Dark);
-    EXPECT_NE(sign(), light) << "it is drawn for its ground";
-    Theme::apply(Theme::Shade::Light);
+    for (const auto which : {QStyle::SP_MessageBoxWarning, QStyle::SP_LineEditClearButton}) {
+        const auto sign = [which] { return QApplication::style()->standardIcon(which).pixmap({32, 32}, 1).toImage(); };
+        const QImage light = sign();
+        EXPECT_GT(Screenshot::coverage(light), 0.05) << which;
+        Theme::apply(Theme::Shade::Dark);
+        EXPECT_NE(sign(), light) << "it is drawn for its ground: " << which;
+        Theme::apply(Theme::Shade::Light);
+    }
 }
 
 TEST(Theme, FollowsALateAnswerOfTheDesktop) {

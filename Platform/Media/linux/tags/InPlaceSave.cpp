@@ -106,7 +106,8 @@ std::optional<Edited> editTags(int fd, const TagsEdit& edit, QString& why) {
 std::optional<QByteArray> newIndex(int fd, const Edited& edited, QString& why) {
     const Mpeg4Box& old = edited.layout.moov();
     QByteArray index(qsizetype(old.length), Qt::Uninitialized);
-    if (!FileBytes(fd).readAll(old.offset, {reinterpret_cast<std::uint8_t*>(index.data()), std::size_t(index.size())})) {
+    if (!FileBytes(fd).readAll(old.offset,
+                               {reinterpret_cast<std::uint8_t*>(index.data()), std::size_t(index.size())})) {
         why = QCoreApplication::translate("Media", "it cannot be read");
         return std::nullopt;
     }
