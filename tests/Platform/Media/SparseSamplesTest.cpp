@@ -226,6 +226,7 @@ TEST_F(SparseSamplesTest, AreRefusedForHeAacThatOnlyThePacketsSignal) {
     const QString plain = encode(u"plain.aac"_s, 22050, 2, {u"-aac_pns"_s, u"0"_s});
     const QByteArray in = contentOf(plain);
     QByteArray out;
+    constexpr qsizetype headBits = 56; // of each packet
     for (qsizetype begin = 0; begin + 7 <= in.size();) {
         const auto byte = [&](qsizetype i) { return unsigned(std::uint8_t(in[begin + i])); };
         const qsizetype size = (byte(3) & 3) << 11 | byte(4) << 3 | byte(5) >> 5;
@@ -234,7 +235,7 @@ TEST_F(SparseSamplesTest, AreRefusedForHeAacThatOnlyThePacketsSignal) {
         // The packet ends with the three bits 111 and zeros up to a whole byte. Before them, insert a fill element
         // (110) of one byte (0001) with the extension type 1101, for spectral band replication, and no header.
         std::vector<bool> bits;
-        for (qsizetype i = 7 * 8; i < size * 8; ++i)
+        for (qsizetype i = headBits; i < size * 8; ++i)
             bits.push_back((byte(i / 8) >> (7 - i % 8) & 1) != 0);
         while (!bits.back())
             bits.pop_back();
