@@ -3,7 +3,6 @@
 #include "Platform/Media/BasicID3Change.h"
 #include "Platform/Media/linux/MediaFilesLinux.h"
 #include "Platform/Media/linux/tags/InPlaceSave.h"
-#include "Platform/Media/linux/tags/Mpeg4TagList.h"
 #include "tests/support/ChildProcess.h"
 #include "tests/support/Mpeg4Files.h"
 #include "tests/support/WaitFor.h"
