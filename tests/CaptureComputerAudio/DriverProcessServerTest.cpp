@@ -218,13 +218,20 @@ TEST_F(DriverProcess, SwitchesBetweenStereoAndSixChannelOutputsWithoutAGap) {
     };
     TestPlayer first(playInto("sonaphex.output"));
     TestPlayer second(playInto("test.second"));
+    ServerWatch server;
+    ASSERT_TRUE(server.start());
     ASSERT_TRUE(first.start());
     ASSERT_TRUE(second.start());
+    // A session manager that does not know the new output yet sends its player to the default one, and leaves it there.
+    ASSERT_TRUE(waitFor([&] {
+        if (server.feedersOf("sonaphex.output").contains("test.player.test.second")) {
+            EXPECT_TRUE(second.start());
+        }
+        return server.feedersOf("test.second").contains("test.player.test.second");
+    }));
     const double left = 0.1 + minus3dB_ * (0.3 + 0.15);
     const double right = 0.2 + minus3dB_ * (0.3 + 0.25);
     ASSERT_TRUE(ends(capture, left, right));
-    ServerWatch server;
-    ASSERT_TRUE(server.start());
     const auto fedBy = [&](const std::string& node) {
         return waitFor([&] { return server.feedersOf("korvane.system-audio") == std::set<std::string>{node}; });
     };

@@ -96,21 +96,33 @@ TEST(StretchEncoder, GivesAsManyPacketsAsOneRunWhereverTheFileEnds) {
 TEST(StretchEncoder, ASeamHasNoLargerErrorThanItsSurroundings) {
     constexpr std::int64_t stretch = 512;
     const Samples sound = strokes(1024 * stretch * 4);
-    const auto serial = decoded(encodedInOneRun(sound));
-    const auto parallel = decoded(encoded(sound, 2, stretch));
+    const auto serialPackets = encodedInOneRun(sound);
+    const auto parallelPackets = encoded(sound, 2, stretch);
+    const auto serial = decoded(serialPackets);
+    const auto parallel = decoded(parallelPackets);
     ASSERT_EQ(parallel.size(), serial.size());
+    const auto bytesOf = [](const std::vector<AacEncoder::Packet>& packets) {
+        double bytes = 0;
+        for (const auto& each : packets)
+            bytes += double(each.size());
+        return bytes;
+    };
+    EXPECT_NEAR(bytesOf(parallelPackets) / bytesOf(serialPackets), 1, 0.02) << "the quality of the same rate";
     const auto quality = [&](const std::vector<float>& what, std::size_t from, std::size_t to) {
         return signalToError(sound[0], what, from, to);
     };
-    // The rate, and with it the quality, varies over a run by itself; every stretch must be as good as those of one
-    // run.
-    const auto worstStretch = [&](const std::vector<float>& what) {
-        double lowest = 1000;
-        for (std::size_t at = 0; at + 3 * 1024 < sound[0].size(); at += stretch * 1024)
-            lowest = std::min(lowest, quality(what, at + 2048, std::min(at + (stretch + 2) * 1024, sound[0].size())));
-        return lowest;
+    // The rate control is chaotic: the stretches of one run differ by almost a decibel. Those of several encoders must
+    // stay within that range.
+    const auto rangeOfStretches = [&](const std::vector<float>& what) {
+        std::pair range{1000.0, 0.0};
+        for (std::size_t at = 0; at + 3 * 1024 < sound[0].size(); at += stretch * 1024) {
+            const double here = quality(what, at + 2048, std::min(at + (stretch + 2) * 1024, sound[0].size()));
+            range = {std::min(range.first, here), std::max(range.second, here)};
+        }
+        return range;
     };
-    EXPECT_GT(worstStretch(parallel), worstStretch(serial) - 0.2);
+    const auto [worstSerial, bestSerial] = rangeOfStretches(serial);
+    EXPECT_GT(rangeOfStretches(parallel).first, worstSerial - (bestSerial - worstSerial));
     // The encoder's quality varies by some dB; at a seam it must stay within that range. A window holds one stroke.
     constexpr std::size_t window = 9 * 1024;
     double lowest = 1000;
