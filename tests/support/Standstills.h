@@ -5,9 +5,14 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <csignal>
 #include <thread>
 
+#include <QProcess>
+#include <QString>
+#include <QStringList>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 /// Notices when the machine does not run this process for a while: a thread that sleeps for a few milliseconds measures
 /// its longest sleep. The sound server loses cycles then, and a short sound can be missed. Such an attempt says nothing
@@ -28,6 +33,19 @@ public:
                   last = now;
               }
           }) {}
+
+    /// Stops this whole process for a while, as a suspended machine does. Returns when another process has continued
+    /// it; false when that process could not be started.
+    [[nodiscard]] static bool make(int seconds) {
+        QProcess other;
+        const QString script = QStringLiteral("sleep \"$1\" && kill -CONT \"$2\"");
+        other.start(QStringLiteral("sh"), {QStringLiteral("-c"), script, QStringLiteral("sh"), QString::number(seconds),
+                                           QString::number(getpid())});
+        if (!other.waitForStarted())
+            return false;
+        raise(SIGSTOP);
+        return other.waitForFinished();
+    }
 
     /// Runs @p attempt until the machine ran all the time during one of them; reports when there is none.
     template <typename Attempt>
