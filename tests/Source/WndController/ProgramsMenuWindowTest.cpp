@@ -55,9 +55,10 @@ protected:
     /// Moves the pointer onto an entry.
     static QPoint point(QMenu& menu, QAction& action) {
         const QPoint place = menu.actionGeometry(&action).center();
-        // A menu ignores a click of a pointer that has not moved since it was opened.
-        QTest::mouseMove(menu.windowHandle(), place - QPoint(20, 1));
-        QTest::mouseMove(menu.windowHandle(), place);
+        // A menu ignores a pointer that has hardly moved since it was opened. When it knows no earlier place of the
+        // pointer, it counts its steps.
+        for (int step = 8; step >= 0; --step)
+            QTest::mouseMove(menu.windowHandle(), place - QPoint(2 * step, 0));
         return place;
     }
     static void click(QMenu& menu, QAction& action) {
