@@ -236,6 +236,7 @@ void PipeWireInputUnit::runCycles() {
     std::uint64_t seenBlocks = 0;
     std::uint64_t toldLost = 0;
     lastLookAt_ = std::chrono::steady_clock::now();
+    withoutBlocks_ = 0s;
     std::uint64_t asked = 0;
     for (;;) {
         CaptureCycle cycle;
